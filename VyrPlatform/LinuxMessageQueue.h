@@ -1,0 +1,41 @@
+/// @file
+/// For hosts on Linux: how events come into the queue that MessageQueue::DrainOne handles.
+///
+/// A Windows host uses its system's own message functions and needs none of this.
+#pragma once
+
+#include <VyrPlatform/Export.h>
+
+#include <functional>
+#include <memory>
+
+namespace VyrPlatform::MessageQueue {
+
+/// The queue of one thread, for others to post into. Outlives the thread as long as someone holds it; what is posted
+/// after its thread ended is dropped with it.
+class VYR_PLATFORM_API Poster
+{
+public:
+    /// The calling thread's queue.
+    [[nodiscard]] static Poster ForCallingThread();
+
+    /// Adds `work`, to be run by a drain on the queue's own thread. Any thread may call this.
+    void Post(std::function<void()> work) const;
+    /// Asks the queue's thread to stop, after the work posted before.
+    void PostStop() const;
+
+private:
+    struct Queue;
+    explicit Poster(std::shared_ptr<Queue> queue);
+    friend struct QueueAccess;
+    std::shared_ptr<Queue> m_queue;
+};
+
+/// One pass of a host's own main loop that does not wait: handles at most one of its pending events, and returns true
+/// when that event asks for a stop.
+using MainLoopPass = std::function<bool()>;
+
+/// Makes the drains of the calling thread run `pass` whenever nothing posted is waiting; an empty one ends that.
+VYR_PLATFORM_API void PlugMainLoop(MainLoopPass pass);
+
+} // namespace VyrPlatform::MessageQueue

@@ -1,0 +1,16 @@
+/// @file
+/// The calling thread's queue of interface events.
+#pragma once
+
+#include <VyrPlatform/Export.h>
+
+namespace VyrPlatform::MessageQueue {
+
+/// Handles one pending event of the calling thread; returns at once when there is none.
+///
+/// On Windows this is the thread's message queue: one message is removed, translated and dispatched. On Linux it is the
+/// queue that LinuxMessageQueue.h fills. Costs a few nanoseconds there when nothing is pending.
+/// @return true when a stop was asked for (the quit message): told once, after all work that was posted before it.
+[[nodiscard]] VYR_PLATFORM_API bool DrainOne();
+
+} // namespace VyrPlatform::MessageQueue

@@ -1,0 +1,16 @@
+# A shared library of the product: every source in its folder, the system's own folder for VyrPlatform.
+function(vyr_add_component name)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp")
+  if(WIN32)
+    list(FILTER sources EXCLUDE REGEX "/linux/[^/]*$")
+  else()
+    list(FILTER sources EXCLUDE REGEX "/windows/[^/]*$")
+  endif()
+  add_library(${name} SHARED ${sources})
+  target_link_libraries(${name} PRIVATE VyrCompileRules)
+  target_include_directories(${name} PUBLIC
+    "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>" "$<INSTALL_INTERFACE:include>")
+  target_compile_features(${name} PUBLIC cxx_std_20)
+  set_target_properties(${name} PROPERTIES
+    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} PREFIX "$<$<NOT:$<BOOL:${WIN32}>>:lib>")
+endfunction()
