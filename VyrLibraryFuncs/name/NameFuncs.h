@@ -1,0 +1,189 @@
+/// @file
+/// The rename engine: the path that a file or folder would get under a rename rule.
+#pragma once
+
+#include <VyrLibraryFuncs/Export.h>
+#include <VyrPlatform/COleDateTime.h>
+#include <VyrPlatform/CString.h>
+
+#include <list>
+
+namespace VyrLibraryFuncs {
+
+/// Computes new paths from rename rules, numbers names that clash, and copies or moves folder trees.
+///
+/// The computations rename nothing: they return the path that an entry would get, and the caller does with it what it
+/// likes. All counts of characters are counts of UTF-16 code units. Loops handle one pending event of the calling
+/// thread in each pass (VyrPlatform::MessageQueue), so that a host's window stays alive.
+class VYR_FUNCS_API NameFuncs
+{
+public:
+    /// One rename request: an entry, its place in the list, and the rule.
+    ///
+    /// The caller fills `dirPath`, `fileName` and `extension` by FileUtils::GetSplitDirPath, GetFName and GetExtension
+    /// of `filePath` (or carries over the result of an earlier rule); the engine trusts them and never splits
+    /// `filePath` again. A computation reads `filePath`, `dirPath`, `fileName`, `extension`, `index` and the fields of
+    /// its own kind.
+    struct ITEM
+    {
+        /// Full path of the file or folder as it is now.
+        CString filePath;
+        /// Texts of the caller; the engine does not read them.
+        CString auxText1;
+        CString auxText2;
+        CString auxText3;
+        CString auxText4;
+        /// Folder part of `filePath`, its separator at the end.
+        CString dirPath;
+        /// Name part: without the extension for a file, the whole name for a folder.
+        CString fileName;
+        /// Extension with its dot; empty for a folder.
+        CString extension;
+        /// Place in the list of entries, from 0.
+        int index = 0;
+        /// Rename kind: 0 sequence number, 1 date-time, 2 add/delete, 3 convert case, 4 replace text, 5 extension.
+        int renameType = 0;
+        /// Sequence number: 0 `numberText1` + number, 1 number + `numberText1`, 2 `numberText1` + number +
+        /// `numberText2`, 3 number + `fileName`, 4 `fileName` + number, other an empty name.
+        int numberPosition = 0;
+        /// Sequence number: first literal text.
+        CString numberText1;
+        /// Sequence number: second literal text.
+        CString numberText2;
+        /// Sequence number: the number of the entry with `index` 0.
+        int startNumber = 0;
+        /// Sequence number: the least width, reached by zeros in front; below 2: none.
+        int digits = 0;
+        /// Sequence number: increment from one entry to the next.
+        int step = 0;
+        /// Date-time: 0 the text alone, 1 text + `fileName`, 2 `fileName` + text, other an empty name.
+        int dateTimePosition = 0;
+        /// Date-time: 0 modified, 1 created, 2 accessed, 3 picture taken, other the zero date-time.
+        int dateTimeTarget = 0;
+        /// Date-time: the user's format, as DateTimeUtils::GetDateTimeFormat reads it.
+        CString dateTimeFormat;
+        /// Add/delete: 0 insert at `position` from the start, 1 insert at `position` from the end, 2 keep the first
+        /// `position` characters, 3 keep the last, 4 delete `deleteCount` from `position` on, 5 delete `deleteCount`
+        /// that end `position` before the end; other: unchanged.
+        int addDeleteType = 0;
+        /// Add/delete: a place in `fileName`, or how many characters stay.
+        int position = 0;
+        /// Add/delete: how many characters go.
+        int deleteCount = 0;
+        /// Add/delete: the text to insert.
+        CString addText;
+        /// Convert: 0 first character upper-cased, 1 all upper-cased, 2 all lower-cased, other an empty name.
+        int convertType = 0;
+        /// Replace: the text to look for; empty: nothing is replaced.
+        CString findText;
+        /// Replace: the text to put in its place.
+        CString replaceText;
+        /// Extension: 0 upper-cased, 1 lower-cased, 2 a dot and `newExtension`, other none.
+        int extensionType = 0;
+        /// Extension: the new one, without its dot.
+        CString newExtension;
+    };
+
+    /// How names that clash are numbered.
+    struct CONFLICTITEM
+    {
+        /// The inserted text; every "?" in it stands for the number.
+        CString numberFormat;
+        /// 0: before the name; 1: after the name, before the extension.
+        int position = 0;
+        /// Number of the first attempt.
+        int startNumber = 0;
+        /// Increment from one attempt to the next.
+        int step = 0;
+    };
+
+    /// A folder that CopyFolder or MoveFolder created, with the times of the folder that it was created for.
+    struct RENAMEITEM
+    {
+        /// Full path of the source folder.
+        CString sourcePath;
+        /// Full path of the folder created for it.
+        CString destinationPath;
+        /// Creation time of the source folder, local.
+        COleDateTime dateCreated;
+        /// Last-modified time of the source folder, local.
+        COleDateTime dateModified;
+    };
+
+    NameFuncs();
+    ~NameFuncs();
+    NameFuncs& operator=(const NameFuncs& other);
+
+    /// The new full path of `item` under its rename kind.
+    /// @return empty for a kind other than 0 to 5.
+    static CString GetRenameFilePath(ITEM item);
+    /// The name part of `path`: without the extension for a file, the whole name for an existing folder.
+    static CString GetFName(CString path);
+    /// The extension of `path` with its dot; empty for an existing folder and for a name without a dot.
+    static CString GetExtension(CString path);
+    /// Whether a path that clashes under the rule of `item` is to be numbered (GetResolveConflictFilePath): 1 for the
+    /// kinds sequence number, date-time and add/delete, and for a new extension (kind 5 with `extensionType` 2), else
+    /// 0.
+    static int IsResolveConflict(ITEM item);
+
+    /// `dirPath` + the name that `numberPosition` makes of `step` x `index` + `startNumber` + `extension`. The number
+    /// is a signed 32-bit one and wraps.
+    static CString GetSequenceNumberFilePath(ITEM item);
+    /// `dirPath` + the name that `dateTimePosition` makes of the file's date-time + `extension`. Where the file has no
+    /// such date-time its text is empty.
+    static CString GetDateTimeFilePath(ITEM item);
+    /// `dirPath` + `fileName` with characters inserted or deleted + `extension`; `filePath` unchanged where `position`
+    /// or `deleteCount` reach beyond the name. A negative `position` or `deleteCount` counts as the formulas of the six
+    /// operations give it, each part of the name clamped to what there is.
+    static CString GetAddDeleteFilePath(ITEM item);
+    /// `dirPath` + `fileName` with its case converted, one code unit to one by the user's locale + `extension`.
+    static CString GetConvertFilePath(ITEM item);
+    /// `dirPath` + `fileName` with every `findText` replaced by `replaceText`, from the start, without overlap,
+    /// case-sensitively + `extension`.
+    static CString GetReplaceFilePath(ITEM item);
+    /// `dirPath` + `fileName` + the changed extension; `filePath` unchanged when it is an existing folder.
+    static CString GetExtensionFilePath(ITEM item);
+
+    /// A path that does not exist: `path` itself, or `path` with the first number whose name is free.
+    ///
+    /// The search has no upper bound: a `numberFormat` without "?", a `step` of 0 or a `position` other than 0 and 1 go
+    /// on until a stop is asked for. A stop gives the last path tried, which may exist.
+    static CString GetResolveConflictFilePath(CString path, CONFLICTITEM item);
+
+    /// What `format` gives for the current local time, every "<Folder>" as a backslash. Empty for an empty `format`.
+    static CString GetRenameToSampleFormated(CString format);
+    /// The date-time `target` (as ITEM::dateTimeTarget) of the file at `path`, written with `format`. Empty for an
+    /// empty `format`.
+    static CString GetDateTimeFormat(CString path, CString format, int target);
+    /// `format` with every "<Folder>" replaced by a backslash.
+    static CString GetFolderFormat(CString format);
+    /// `format` with every "<Make>" and "<Model>" replaced by the camera's maker and model as the picture at `path`
+    /// tells them, by nothing where it tells none. The picture is read only for a token that is there.
+    static CString GetExifFormat(CString path, CString format);
+
+    /// Copies what stands in the folder `source` into the folder `destination`, folders with their contents; existing
+    /// files are overwritten.
+    /// @param records  gets a record for each folder that was created, a parent before its children. Never cleared.
+    /// @return whether the last copy succeeded (1 or 0); 0 when there was nothing to copy. A stop does not end the
+    /// walk.
+    static int CopyFolder(CString source, CString destination, std::list<RENAMEITEM>* records);
+    /// Moves what stands in the folder `source` into the folder `destination`, likewise, and removes `source`.
+    /// @return whether `source` is gone (1 or 0): 0 when something in it could not be moved.
+    static int MoveFolder(CString source, CString destination, std::list<RENAMEITEM>* records);
+
+private:
+    static CString ComputeRenameFilePath(const ITEM& item);
+    static CString ComputeSequenceNumberFilePath(const ITEM& item);
+    static CString ComputeDateTimeFilePath(const ITEM& item);
+    static CString ComputeAddDeleteFilePath(const ITEM& item);
+    static CString ComputeConvertFilePath(const ITEM& item);
+    static CString ComputeReplaceFilePath(const ITEM& item);
+    static CString ComputeExtensionFilePath(const ITEM& item);
+
+    static CString GetSequenceNumber(int digits, int number);
+    static CString GetScaleString(int digits, int number);
+    static COleDateTime GetSelectedDateTime(const CString& path, int target);
+    static CString GetResolveConflictNumber(const CString& format, int number);
+};
+
+} // namespace VyrLibraryFuncs
