@@ -1,3 +1,12 @@
+# While a folder holds no source yet, its target is built of an empty one.
+function(vyr_fill_empty sources_variable)
+  if(NOT ${sources_variable})
+    set(empty "${CMAKE_BINARY_DIR}/empty.cpp")
+    file(CONFIGURE OUTPUT "${empty}" CONTENT "")
+    set(${sources_variable} "${empty}" PARENT_SCOPE)
+  endif()
+endfunction()
+
 # A shared library of the product: every source in its folder, the system's own folder for VyrPlatform.
 function(vyr_add_component name)
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp")
@@ -6,6 +15,7 @@ function(vyr_add_component name)
   else()
     list(FILTER sources EXCLUDE REGEX "/windows/[^/]*$")
   endif()
+  vyr_fill_empty(sources)
   add_library(${name} SHARED ${sources})
   target_link_libraries(${name} PRIVATE VyrCompileRules)
   target_include_directories(${name} PUBLIC
