@@ -8,10 +8,10 @@ struct _SYSTEMTIME; // NOLINT(bugprone-reserved-identifier): the system's own ta
 
 /// A date-time as a count of days since 30 December 1899 00:00, with a status.
 ///
-/// The fraction is the time of day. It counts forward for negative days too: -1.25 is 29 December 1899 06:00, so that the
-/// values from -1 to 0 exclusive name times of 30 December 1899, as those from 0 to 1 do. Calendar fields are read to the
-/// nearest second. The range is 1 January 100 00:00:00 to 31 December 9999 23:59:59, proleptic Gregorian.
-/// (The rules of OLE automation's DATE type.)
+/// The fraction is the time of day. It counts forward for negative days too: -1.25 is 29 December 1899 06:00, so that
+/// the values from -1 to 0 exclusive name times of 30 December 1899, as those from 0 to 1 do. Calendar fields are read
+/// to the nearest second. The range is 1 January 100 00:00:00 to 31 December 9999 23:59:59, proleptic Gregorian. (The
+/// rules of OLE automation's DATE type.)
 class VYR_PLATFORM_API COleDateTime
 {
 public:
@@ -26,8 +26,8 @@ public:
     COleDateTime() noexcept = default;
     /// A count of days; one outside the range gives an invalid date-time.
     explicit COleDateTime(double days) noexcept;
-    /// Local calendar fields: year 100 to 9999, month 1 to 12, day 1 to the month's last, hour 0 to 23, minute and second
-    /// 0 to 59. Any other value gives an invalid date-time.
+    /// Local calendar fields: year 100 to 9999, month 1 to 12, day 1 to the month's last, hour 0 to 23, minute and
+    /// second 0 to 59. Any other value gives an invalid date-time.
     COleDateTime(int year, int month, int day, int hour, int minute, int second) noexcept;
     /// The fields of `fields` without their milliseconds, under the same bounds. Its day of the week is not read.
     explicit COleDateTime(const _SYSTEMTIME& fields) noexcept;

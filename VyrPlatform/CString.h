@@ -22,8 +22,7 @@ public:
     FormatArgument(Integer value) noexcept
         : m_bits(static_cast<std::uint64_t>(value)), m_size(sizeof(Integer)),
           m_kind(std::signed_integral<Integer> ? Kind::Signed : Kind::Unsigned)
-    {
-    }
+    {}
 
 private:
     friend class CString;
@@ -94,7 +93,8 @@ public:
         other.m_buffer = mine;
     }
 
-    /// Appends `text`, which may be a part of this very string. A run of appends costs time in proportion to its result.
+    /// Appends `text`, which may be a part of this very string. A run of appends costs time in proportion to its
+    /// result.
     CString& operator+=(std::u16string_view text);
     CString& operator+=(char16_t unit) { return *this += std::u16string_view(&unit, 1); }
 
@@ -127,9 +127,9 @@ public:
     ///
     /// A conversion is `%`, optionally `0` and a minimum width, optionally `h`, `l`, `ll` or `I64` (which change
     /// nothing: the width is the argument's own), and one of `s` (a text), `d` or `i` (an integer in decimal), `u` (the
-    /// argument's bits as unsigned), `x`, `X` (in hexadecimal). `%%` is a percent sign. A conversion without an argument,
-    /// or whose argument is of the other kind, or that is not listed here, stands in the result as it is written.
-    /// The arguments may refer to this very string.
+    /// argument's bits as unsigned), `x`, `X` (in hexadecimal). `%%` is a percent sign. A conversion without an
+    /// argument, or whose argument is of the other kind, or that is not listed here, stands in the result as it is
+    /// written. The arguments may refer to this very string.
     template <class... Arguments>
     void Format(std::u16string_view format, const Arguments&... arguments)
     {

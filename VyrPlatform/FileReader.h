@@ -11,8 +11,8 @@
 
 namespace VyrPlatform {
 
-/// A file opened for reading; others may meanwhile read, write, rename and delete it. Never blocks on a pipe or a device:
-/// what is not a regular file does not open.
+/// A file opened for reading; others may meanwhile read, write, rename and delete it. Never blocks on a pipe or a
+/// device: what is not a regular file does not open.
 class VYR_PLATFORM_API FileReader
 {
 public:

@@ -26,10 +26,11 @@ struct ProgramVersion
 /// Zeros and empty texts for a program that carries none. Read once.
 [[nodiscard]] VYR_PLATFORM_API const ProgramVersion& GetProgramVersion();
 
-/// The folder of the system's own programs and libraries, without a separator at its end (Windows: the system directory;
-/// Linux: /usr/bin).
+/// The folder of the system's own programs and libraries, without a separator at its end (Windows: the system
+/// directory; Linux: /usr/bin).
 [[nodiscard]] VYR_PLATFORM_API CString GetSystemFolder();
-/// The folder of the system's built-in apps (Windows: SystemApps in the Windows folder; Linux: /usr/share/applications).
+/// The folder of the system's built-in apps (Windows: SystemApps in the Windows folder; Linux:
+/// /usr/share/applications).
 [[nodiscard]] VYR_PLATFORM_API CString GetSystemAppsFolder();
 
 /// The user's folders for a program's data. On Linux the XDG base directories.

@@ -78,8 +78,7 @@ COleDateTime::COleDateTime(int year, int month, int day, int hour, int minute, i
 
 COleDateTime::COleDateTime(const SYSTEMTIME& fields) noexcept
     : COleDateTime(fields.wYear, fields.wMonth, fields.wDay, fields.wHour, fields.wMinute, fields.wSecond)
-{
-}
+{}
 
 bool COleDateTime::GetAsSystemTime(SYSTEMTIME& fields) const noexcept
 {

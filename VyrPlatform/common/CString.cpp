@@ -28,7 +28,10 @@ struct Conversion
     std::size_t end = 0;
 };
 
-bool IsDigit(char16_t unit) noexcept { return unit >= u'0' && unit <= u'9'; }
+bool IsDigit(char16_t unit) noexcept
+{
+    return unit >= u'0' && unit <= u'9';
+}
 
 std::size_t SkipLengthModifier(std::u16string_view format, std::size_t at) noexcept
 {
@@ -256,8 +259,8 @@ void CString::FormatArguments(std::u16string_view format, std::initializer_list<
         const Conversion conversion = ReadConversion(format, percent);
         done = conversion.end;
         const bool wantsText = conversion.letter == u's';
-        const bool wantsNumber =
-            conversion.letter != 0 && std::u16string_view(u"diuxX").find(conversion.letter) != std::u16string_view::npos;
+        const bool wantsNumber = conversion.letter != 0 &&
+                                 std::u16string_view(u"diuxX").find(conversion.letter) != std::u16string_view::npos;
         const bool isText = argument != arguments.end() && argument->m_kind == FormatArgument::Kind::Text;
         const bool isNumber = argument != arguments.end() && !isText;
         if (wantsText && isText) {
