@@ -12,6 +12,7 @@
 #include <functional>
 #include <initializer_list>
 #include <string_view>
+#include <utility>
 
 /// One argument of CString::Format, with its type kept: a text or an integer of any width.
 class FormatArgument
@@ -65,7 +66,7 @@ public:
     }
     CString& operator=(CString&& other) noexcept
     {
-        CString(static_cast<CString&&>(other)).Swap(*this);
+        CString(std::move(other)).Swap(*this);
         return *this;
     }
 

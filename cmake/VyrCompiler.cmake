@@ -19,7 +19,7 @@ target_include_directories(VyrCompileRules INTERFACE "$<BUILD_INTERFACE:${PROJEC
 target_compile_options(VyrCompileRules INTERFACE
   -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion -Wsign-conversion -Wcast-qual -Wformat=2
   -Wundef -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference
-  "$<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond;-Wlogical-op;-Wuseless-cast>")
+  "$<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond;-Wlogical-op>")
 target_compile_definitions(VyrCompileRules INTERFACE "$<$<BOOL:${WIN32}>:UNICODE;_UNICODE;NOMINMAX;WIN32_LEAN_AND_MEAN;_WIN32_WINNT=0x0A00>")
 
 if(VYR_SANITIZE)

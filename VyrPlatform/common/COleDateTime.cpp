@@ -44,7 +44,7 @@ bool ToMoment(double days, Moment& moment) noexcept
 
 double ToDays(const Moment& moment) noexcept
 {
-    const double wholeDays = (moment.day - epoch).count();
+    const double wholeDays = static_cast<double>((moment.day - epoch).count());
     const double fraction = static_cast<double>(moment.second) / secondsPerDay;
     return wholeDays < 0 ? wholeDays - fraction : wholeDays + fraction;
 }

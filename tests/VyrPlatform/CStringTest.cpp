@@ -188,7 +188,7 @@ TEST(CString, ReplaceAgreesWithAWalkOverTheText)
             expected += hit ? replacement : whole.substr(at, 1);
             at += hit ? find.size() : 1;
         }
-        CString text = whole;
+        CString text(whole);
         text.Replace(find, replacement);
         ASSERT_EQ(Text(text), expected);
     }
