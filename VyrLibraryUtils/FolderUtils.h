@@ -1,0 +1,25 @@
+/// @file
+/// The making of folders.
+#pragma once
+
+#include <VyrLibraryUtils/Export.h>
+#include <VyrPlatform/CString.h>
+
+namespace VyrLibraryUtils {
+
+/// Folders.
+class VYR_UTILS_API FolderUtils
+{
+public:
+    FolderUtils();
+    ~FolderUtils();
+    FolderUtils& operator=(const FolderUtils&);
+
+    /// Makes the folder `path` and every parent that is missing.
+    /// @return 1 when the folder (or a link to one) stands there afterwards, also when it did before; else 0, as where
+    /// a
+    ///     file is in the way, and for an empty text. Folders that were made before a failure stay.
+    static int CreateFolderPathExists(CString path);
+};
+
+} // namespace VyrLibraryUtils

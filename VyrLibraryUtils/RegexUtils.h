@@ -1,0 +1,26 @@
+/// @file
+/// Tests of what characters a text consists of.
+#pragma once
+
+#include <VyrLibraryUtils/Export.h>
+#include <VyrPlatform/CString.h>
+
+namespace VyrLibraryUtils {
+
+/// Character classes. They are of ASCII, whatever the locale; an empty text belongs to none of them.
+class VYR_UTILS_API RegexUtils
+{
+public:
+    RegexUtils();
+    ~RegexUtils();
+    RegexUtils& operator=(const RegexUtils&);
+
+    /// 1 when `text` consists of the digits 0 to 9 and the letters A to F and a to f alone, else 0.
+    static int IsHex(CString text);
+    /// 1 when `text` consists of the digits 0 to 9 and the letters A to Z and a to z alone, else 0.
+    static int IsAlphabetNumber(CString text);
+    /// 1 when `text` consists of ASCII punctuation alone (U+0021 to U+007E without letters and digits), else 0.
+    static int IsSymbol(CString text);
+};
+
+} // namespace VyrLibraryUtils

@@ -1,0 +1,35 @@
+/// @file
+/// The version of the running program.
+#pragma once
+
+#include <VyrLibraryUtils/Export.h>
+#include <VyrPlatform/CString.h>
+
+#include <cstdint>
+
+namespace VyrLibraryUtils {
+
+/// What the running program says of itself: on Windows its version resource, on Linux the note that the build puts in.
+/// A program that carries none reads 0 and empty texts.
+class VYR_UTILS_API VersionUtils
+{
+public:
+    VersionUtils();
+    ~VersionUtils();
+    VersionUtils& operator=(const VersionUtils&);
+
+    /// The first number of the file version.
+    static std::int32_t GetFileMajorVersion();
+    /// The second number.
+    static std::int32_t GetFileMinorVersion();
+    /// The third number.
+    static std::int32_t GetFileRevisionVersion();
+    /// The fourth number.
+    static std::int32_t GetFileBuildVersion();
+    /// The product's name.
+    static CString GetProductName();
+    /// The product's version as the program words it.
+    static CString GetStringProductVersion();
+};
+
+} // namespace VyrLibraryUtils
