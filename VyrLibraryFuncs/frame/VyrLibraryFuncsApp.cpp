@@ -1,0 +1,12 @@
+// The library's application object: it adds nothing to the platform's.
+#include <VyrLibraryFuncs/frame/VyrLibraryFuncsApp.h>
+
+CVyrLibraryFuncsApp::CVyrLibraryFuncsApp() = default;
+
+CVyrLibraryFuncsApp::~CVyrLibraryFuncsApp() = default;
+
+int CVyrLibraryFuncsApp::InitInstance()
+{
+    CWinApp::InitInstance();
+    return 1;
+}

@@ -1,0 +1,18 @@
+/// @file
+/// The library's application object.
+#pragma once
+
+#include <VyrLibraryFuncs/Export.h>
+#include <VyrPlatform/CWinApp.h>
+
+/// The one instance is made when the library is loaded, after all static settings, and destroyed before them.
+class VYR_FUNCS_API CVyrLibraryFuncsApp : public CWinApp
+{
+public:
+    CVyrLibraryFuncsApp();
+    ~CVyrLibraryFuncsApp() override;
+
+    /// Called once when the library is loaded.
+    /// @return 1: the library may be used.
+    int InitInstance() override;
+};
