@@ -22,5 +22,9 @@ function(vyr_add_component name)
     "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>" "$<INSTALL_INTERFACE:include>")
   target_compile_features(${name} PUBLIC cxx_std_20)
   set_target_properties(${name} PROPERTIES
-    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} PREFIX "$<$<NOT:$<BOOL:${WIN32}>>:lib>")
+    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+  if(WIN32)
+    # The DLL carries the component's own name; its import library keeps the usual prefix.
+    set_target_properties(${name} PROPERTIES PREFIX "")
+  endif()
 endfunction()
