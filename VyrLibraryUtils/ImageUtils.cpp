@@ -1,0 +1,69 @@
+// The published face of the picture readers: paths in, texts out.
+#include <VyrLibraryUtils/ImageUtils.h>
+
+#include <VyrLibraryUtils/pictures/Picture.h>
+#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/FileReader.h>
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+namespace VyrLibraryUtils {
+namespace {
+
+using Pictures::PictureTag;
+
+bool IsAscii(std::string_view bytes)
+{
+    return std::all_of(bytes.begin(), bytes.end(), [](char byte) { return static_cast<signed char>(byte) >= 0; });
+}
+
+CString FromLatin1(std::string_view bytes)
+{
+    std::u16string text(bytes.size(), u'\0');
+    std::transform(bytes.begin(), bytes.end(), text.begin(),
+                   [](char byte) { return static_cast<unsigned char>(byte); });
+    return CString(text);
+}
+
+CString ToText(std::string_view bytes)
+{
+    if (IsAscii(bytes))
+        return FromLatin1(bytes);
+    // What is not UTF-8 does not come back as it was.
+    const CString text = VyrPlatform::Encoding::FromUtf8(bytes);
+    return VyrPlatform::Encoding::ToUtf8(text) == bytes ? text : FromLatin1(bytes);
+}
+
+CString ReadTag(const CString& path, PictureTag tag)
+{
+    const VyrPlatform::FileReader file(path);
+    if (!file.IsOpen())
+        return {};
+    Pictures::FileSource source(file);
+    return ToText(Pictures::ReadPicture(source, tag));
+}
+
+} // namespace
+
+ImageUtils::ImageUtils() = default;
+ImageUtils::~ImageUtils() = default;
+ImageUtils& ImageUtils::operator=(const ImageUtils&) = default;
+
+CString ImageUtils::GetPropertyTagExifDTOrig(CString path)
+{
+    return ReadTag(path, PictureTag::DateTimeOriginal);
+}
+
+CString ImageUtils::GetEquipMake(CString path)
+{
+    return ReadTag(path, PictureTag::Make);
+}
+
+CString ImageUtils::GetEquipModel(CString path)
+{
+    return ReadTag(path, PictureTag::Model);
+}
+
+} // namespace VyrLibraryUtils

@@ -1,0 +1,74 @@
+/// @file
+/// Where the picture readers get their bytes: a file or memory, a few at a time.
+#pragma once
+
+#include <VyrPlatform/FileReader.h>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace VyrLibraryUtils::Pictures {
+
+/// Bytes of a known size, fetched in small pieces.
+class ByteSource
+{
+public:
+    /// The most bytes that one Fetch may ask for.
+    static constexpr std::size_t MaximumFetch = 1024;
+
+    ByteSource(const ByteSource&) = delete;
+    ByteSource& operator=(const ByteSource&) = delete;
+    virtual ~ByteSource() = default;
+
+    [[nodiscard]] std::uint64_t Size() const noexcept { return m_size; }
+    /// The `count` bytes at `offset`, 1 to MaximumFetch of them, valid until the next Fetch; an empty view unless all
+    /// of them are there.
+    [[nodiscard]] virtual std::string_view Fetch(std::uint64_t offset, std::size_t count) = 0;
+
+protected:
+    explicit ByteSource(std::uint64_t size) : m_size(size) {}
+    [[nodiscard]] bool Holds(std::uint64_t offset, std::size_t count) const noexcept
+    {
+        return count <= m_size && offset <= m_size - count;
+    }
+
+private:
+    std::uint64_t m_size;
+};
+
+/// A file's bytes. What a picture says about itself mostly stands at its start, so that is read once and kept; beyond
+/// it, one small window moves to where it is wanted.
+class FileSource final : public ByteSource
+{
+public:
+    /// `file` must outlive this source.
+    explicit FileSource(const VyrPlatform::FileReader& file) : ByteSource(file.Size()), m_file(file) {}
+    [[nodiscard]] std::string_view Fetch(std::uint64_t offset, std::size_t count) override;
+
+private:
+    static constexpr std::size_t HeadSize = 4096;
+
+    const VyrPlatform::FileReader& m_file;
+    std::size_t m_headLength = 0;
+    std::size_t m_windowLength = 0;
+    std::uint64_t m_windowOffset = 0;
+    std::array<char, HeadSize> m_head;
+    std::array<char, MaximumFetch> m_window;
+};
+
+/// Bytes in memory.
+class MemorySource final : public ByteSource
+{
+public:
+    /// `bytes` must outlive this source.
+    explicit MemorySource(std::string_view bytes) : ByteSource(bytes.size()), m_bytes(bytes) {}
+    [[nodiscard]] std::string_view Fetch(std::uint64_t offset, std::size_t count) override;
+
+private:
+    std::string_view m_bytes;
+};
+
+} // namespace VyrLibraryUtils::Pictures

@@ -1,0 +1,16 @@
+/// @file
+/// JPEG: the Exif segments before the picture's data.
+#pragma once
+
+#include <VyrLibraryUtils/pictures/ByteView.h>
+#include <VyrLibraryUtils/pictures/PictureTag.h>
+
+#include <string>
+
+namespace VyrLibraryUtils::Pictures {
+
+/// The text of `tag` in the first Exif segment of `jpeg` that has one. Segments are stepped over by their lengths, up
+/// to where the picture's data begins. Source: ITU-T T.81, annex B; Exif 2.32, section 4.7.
+[[nodiscard]] std::string ReadJpeg(const ByteView& jpeg, PictureTag tag);
+
+} // namespace VyrLibraryUtils::Pictures

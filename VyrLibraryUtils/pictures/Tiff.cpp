@@ -1,0 +1,147 @@
+// Finds one tag in a TIFF structure, trusting none of its counts and offsets.
+#include <VyrLibraryUtils/pictures/Tiff.h>
+
+#include <algorithm>
+#include <optional>
+
+namespace VyrLibraryUtils::Pictures {
+namespace {
+
+constexpr std::uint16_t ExifDirectoryLink = 0x8769;
+constexpr std::size_t EntrySize = 12;
+/// Far more than any text names, and little enough to copy from a hostile file.
+constexpr std::size_t LongestText = 65535;
+
+enum class ValueType : std::uint16_t
+{
+    Ascii = 2,
+    Short = 3,
+    Long = 4,
+    Undefined = 7,
+    Directory = 13,
+    Utf8 = 129
+};
+
+struct Entry
+{
+    ValueType type;
+    std::uint32_t count;
+    /// The value itself when it takes at most four bytes, else its offset.
+    std::uint32_t valueOrOffset;
+    /// Where those four bytes stand.
+    std::uint64_t valueField;
+};
+
+class TiffReader
+{
+public:
+    TiffReader(const ByteView& tiff, ByteOrder order) : m_tiff(tiff), m_order(order) {}
+
+    [[nodiscard]] std::uint32_t FirstDirectoryOffset() const
+    {
+        return static_cast<std::uint32_t>(ToUnsigned(m_tiff.Fetch(4, 4), m_order));
+    }
+    /// The first entry of `tag` in the directory at `offset`.
+    [[nodiscard]] std::optional<Entry> Find(std::uint32_t offset, std::uint16_t tag) const;
+    /// The directory that `entry` links to; 0, where no directory can be, when it links to none.
+    [[nodiscard]] std::uint32_t LinkedDirectory(const Entry& entry) const;
+    [[nodiscard]] std::string Text(const Entry& entry) const;
+
+private:
+    [[nodiscard]] std::string Bytes(const Entry& entry) const;
+
+    ByteView m_tiff;
+    ByteOrder m_order;
+};
+
+std::optional<Entry> TiffReader::Find(std::uint32_t offset, std::uint16_t tag) const
+{
+    ByteCursor directory(m_tiff.From(offset), m_order);
+    const std::uint64_t total = m_tiff.Size();
+    for (std::uint16_t left = directory.U16(); left > 0; --left) {
+        const std::string_view bytes = directory.Bytes(EntrySize);
+        if (bytes.empty())
+            break;
+        if (ToUnsigned(bytes.substr(0, 2), m_order) == tag)
+            return Entry{static_cast<ValueType>(ToUnsigned(bytes.substr(2, 2), m_order)),
+                         static_cast<std::uint32_t>(ToUnsigned(bytes.substr(4, 4), m_order)),
+                         static_cast<std::uint32_t>(ToUnsigned(bytes.substr(8, 4), m_order)),
+                         total - directory.Remaining() - 4};
+    }
+    return std::nullopt;
+}
+
+std::uint32_t TiffReader::LinkedDirectory(const Entry& entry) const
+{
+    const bool isLink = (entry.type == ValueType::Long || entry.type == ValueType::Directory) && entry.count == 1;
+    return isLink ? entry.valueOrOffset : 0;
+}
+
+std::string TiffReader::Bytes(const Entry& entry) const
+{
+    const std::uint64_t offset = entry.count <= 4 ? entry.valueField : entry.valueOrOffset;
+    const ByteView value = m_tiff.Part(offset, entry.count);
+    return value.Size() == entry.count ? value.Copy(LongestText) : std::string();
+}
+
+std::string TiffReader::Text(const Entry& entry) const
+{
+    switch (entry.type) {
+    case ValueType::Ascii:
+    case ValueType::Undefined:
+    case ValueType::Utf8:
+        return Bytes(entry);
+    // A writer that took the wrong type: the number is all that the tag says.
+    case ValueType::Short:
+        return entry.count == 1 ? std::to_string(ToUnsigned(m_tiff.Fetch(entry.valueField, 2), m_order)) : "";
+    case ValueType::Long:
+        return entry.count == 1 ? std::to_string(entry.valueOrOffset) : "";
+    default:
+        return {};
+    }
+}
+
+std::string TrimmedText(std::string text)
+{
+    text.resize(std::min(text.find('\0'), text.size()));
+    text.resize(text.find_last_not_of(" \t\r\n") + 1);
+    return text;
+}
+
+/// Cameras whose clock was never set write a date of zeros, or of blanks between the colons.
+bool IsBlankDate(const std::string& date)
+{
+    return date.find_first_of("123456789") == std::string::npos;
+}
+
+} // namespace
+
+bool IsTiff(const ByteView& bytes)
+{
+    using namespace std::string_view_literals;
+    constexpr std::string_view signatures[] = {"II*\0"sv, "MM\0*"sv, "IIRO"sv, "IIRS"sv, "MMOR"sv, "IIU\0"sv};
+    const std::string_view signature = bytes.Fetch(0, 4);
+    return std::find(std::begin(signatures), std::end(signatures), signature) != std::end(signatures);
+}
+
+std::string ReadTiff(const ByteView& tiff, PictureTag tag, FirstDirectory first)
+{
+    if (!IsTiff(tiff))
+        return {};
+    const TiffReader reader(tiff, tiff.StartsWith("II") ? ByteOrder::Little : ByteOrder::Big);
+    const bool isDate = tag == PictureTag::DateTimeOriginal;
+
+    std::uint32_t directory = reader.FirstDirectoryOffset();
+    if (isDate && first == FirstDirectory::Image) {
+        const std::optional<Entry> link = reader.Find(directory, ExifDirectoryLink);
+        const std::uint32_t linked = link ? reader.LinkedDirectory(*link) : 0;
+        if (linked == 0 || linked == directory)
+            return {};
+        directory = linked;
+    }
+    const std::optional<Entry> entry = reader.Find(directory, static_cast<std::uint16_t>(tag));
+    const std::string text = entry ? TrimmedText(reader.Text(*entry)) : std::string();
+    return isDate && IsBlankDate(text) ? std::string() : text;
+}
+
+} // namespace VyrLibraryUtils::Pictures
