@@ -183,6 +183,7 @@ private:
     static CString GetSequenceNumber(int digits, int number);
     static CString GetScaleString(int digits, int number);
     static COleDateTime GetSelectedDateTime(const CString& path, int target);
+    static CString WriteSelectedDateTime(const CString& path, const CString& format, int target);
     static CString GetResolveConflictNumber(const CString& format, int number);
 };
 

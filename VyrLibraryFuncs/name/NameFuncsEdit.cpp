@@ -1,0 +1,131 @@
+// The renames that edit the name that is there: add or delete characters, convert case, replace text, the extension.
+#include <VyrLibraryFuncs/name/NameFuncs.h>
+
+#include <VyrLibraryUtils/FileUtils.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace {
+
+/// How many of the units of `text` a count asks for. Counts are 64-bit, since the differences of two ints need 33.
+std::size_t Clamp(std::u16string_view text, std::int64_t count) noexcept
+{
+    return static_cast<std::size_t>(std::clamp<std::int64_t>(count, 0, static_cast<std::int64_t>(text.size())));
+}
+
+std::u16string_view First(std::u16string_view text, std::int64_t count) noexcept
+{
+    return text.substr(0, Clamp(text, count));
+}
+
+std::u16string_view Last(std::u16string_view text, std::int64_t count) noexcept
+{
+    return text.substr(text.size() - Clamp(text, count));
+}
+
+std::u16string_view From(std::u16string_view text, std::int64_t start) noexcept
+{
+    return text.substr(Clamp(text, start));
+}
+
+} // namespace
+
+namespace VyrLibraryFuncs {
+
+CString NameFuncs::GetAddDeleteFilePath(ITEM item)
+{
+    return ComputeAddDeleteFilePath(item);
+}
+
+CString NameFuncs::ComputeAddDeleteFilePath(const ITEM& item)
+{
+    const std::u16string_view name = item.fileName;
+    const auto length = static_cast<std::int64_t>(name.size());
+    const std::int64_t position = item.position;
+    const std::int64_t count = item.deleteCount;
+    const std::int64_t behind = length - position;
+    if (behind < 0)
+        return item.filePath;
+    switch (item.addDeleteType) {
+    case 0:
+        return CString::Join({item.dirPath, First(name, position), item.addText, From(name, position), item.extension});
+    case 1:
+        return CString::Join({item.dirPath, First(name, behind), item.addText, Last(name, position), item.extension});
+    case 2:
+        return CString::Join({item.dirPath, First(name, position), item.extension});
+    case 3:
+        return CString::Join({item.dirPath, Last(name, position), item.extension});
+    case 4:
+        if (behind < count)
+            return item.filePath;
+        return CString::Join({item.dirPath, First(name, position), From(From(name, position), count), item.extension});
+    case 5:
+        if (behind < count)
+            return item.filePath;
+        return CString::Join({item.dirPath, First(name, behind - count), Last(name, position), item.extension});
+    default:
+        return item.filePath;
+    }
+}
+
+CString NameFuncs::GetConvertFilePath(ITEM item)
+{
+    return ComputeConvertFilePath(item);
+}
+
+CString NameFuncs::ComputeConvertFilePath(const ITEM& item)
+{
+    CString name;
+    switch (item.convertType) {
+    case 0:
+        name = item.fileName.Left(1).MakeUpper() + item.fileName.Mid(1);
+        break;
+    case 1:
+        name = CString(item.fileName).MakeUpper();
+        break;
+    case 2:
+        name = CString(item.fileName).MakeLower();
+        break;
+    default:
+        break;
+    }
+    return CString::Join({item.dirPath, name, item.extension});
+}
+
+CString NameFuncs::GetReplaceFilePath(ITEM item)
+{
+    return ComputeReplaceFilePath(item);
+}
+
+CString NameFuncs::ComputeReplaceFilePath(const ITEM& item)
+{
+    CString name = item.fileName;
+    name.Replace(item.findText, item.replaceText);
+    return CString::Join({item.dirPath, name, item.extension});
+}
+
+CString NameFuncs::GetExtensionFilePath(ITEM item)
+{
+    return ComputeExtensionFilePath(item);
+}
+
+CString NameFuncs::ComputeExtensionFilePath(const ITEM& item)
+{
+    if (VyrLibraryUtils::FileUtils::IsDirectory(item.filePath))
+        return item.filePath;
+    switch (item.extensionType) {
+    case 0:
+        return CString::Join({item.dirPath, item.fileName, CString(item.extension).MakeUpper()});
+    case 1:
+        return CString::Join({item.dirPath, item.fileName, CString(item.extension).MakeLower()});
+    case 2:
+        return CString::Join({item.dirPath, item.fileName, u".", item.newExtension});
+    default:
+        return CString::Join({item.dirPath, item.fileName});
+    }
+}
+
+} // namespace VyrLibraryFuncs
