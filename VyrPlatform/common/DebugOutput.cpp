@@ -1,0 +1,32 @@
+// The debugger output's sink, which stands before the system's own output.
+#include <VyrPlatform/DebugOutput.h>
+#include <VyrPlatform/common/SystemDebugOutput.h>
+
+#include <utility>
+
+namespace VyrPlatform::DebugOutput {
+
+namespace {
+
+Sink& CurrentSink()
+{
+    static Sink sink;
+    return sink;
+}
+
+} // namespace
+
+void Write(const CString& text)
+{
+    if (const Sink& sink = CurrentSink())
+        sink(text);
+    else
+        WriteToSystem(text);
+}
+
+void SetSink(Sink sink)
+{
+    CurrentSink() = std::move(sink);
+}
+
+} // namespace VyrPlatform::DebugOutput
