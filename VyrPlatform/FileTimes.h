@@ -30,4 +30,7 @@ namespace VyrPlatform::FileTimes {
 /// @return invalid when it is out of the calendar's range.
 [[nodiscard]] VYR_PLATFORM_API COleDateTime ToLocal(FileTicks ticks);
 
+/// Makes ToLocal read the time zone anew. For a host that lives on while its user's time zone changes, and for tests.
+VYR_PLATFORM_API void FollowTimeZone();
+
 } // namespace VyrPlatform::FileTimes

@@ -1,0 +1,86 @@
+// File times as local date-times. The system takes long to tell a moment's offset, so that of whole days is kept.
+#include <VyrPlatform/FileTimes.h>
+
+#include <VyrPlatform/common/LocalOffset.h>
+
+#include <array>
+#include <atomic>
+#include <chrono>
+
+namespace VyrPlatform::FileTimes {
+
+namespace {
+
+constexpr FileTicks ticksPerSecond = 10'000'000;
+/// From 1 January 1601 to 1 January 1970.
+constexpr std::int64_t secondsToUnixEpoch = 11'644'473'600;
+constexpr std::int64_t secondsPerDay = 86'400;
+
+constexpr std::int64_t FloorDivide(std::int64_t value, std::int64_t divisor) noexcept
+{
+    return value / divisor - (value % divisor < 0 ? 1 : 0);
+}
+
+/// Counts the time zones that the process has had.
+std::atomic<unsigned> timeZoneNumber = 1;
+
+/// The one offset that holds all through a day (UTC).
+struct DayOffset
+{
+    std::int64_t day = 0;
+    unsigned timeZone = 0;
+    int offset = 0;
+};
+
+/// Keeps `known` for `day` if its offset is one: no zone changes its offset twice within a day, so that it is when it
+/// is the same at both ends.
+std::optional<int> LookUpOffset(DayOffset& known, std::int64_t day, unsigned timeZone, std::int64_t unixSeconds)
+{
+    const std::optional<int> atStart = GetLocalOffset(day * secondsPerDay);
+    if (!atStart || atStart != GetLocalOffset((day + 1) * secondsPerDay - 1))
+        return GetLocalOffset(unixSeconds);
+    known = {day, timeZone, *atStart};
+    return atStart;
+}
+
+std::optional<int> FindOffset(std::int64_t unixSeconds)
+{
+    constexpr std::size_t keptDays = 64;
+    thread_local std::array<DayOffset, keptDays> kept;
+
+    const std::int64_t day = FloorDivide(unixSeconds, secondsPerDay);
+    const unsigned timeZone = timeZoneNumber.load(std::memory_order_acquire);
+    DayOffset& known = kept[static_cast<std::uint64_t>(day) % keptDays];
+    if (known.day == day && known.timeZone == timeZone)
+        return known.offset;
+    return LookUpOffset(known, day, timeZone, unixSeconds);
+}
+
+} // namespace
+
+COleDateTime ToLocal(FileTicks ticks)
+{
+    using namespace std::chrono;
+
+    COleDateTime invalid;
+    invalid.SetStatus(COleDateTime::invalid);
+    const std::int64_t unixSeconds = FloorDivide(ticks, ticksPerSecond) - secondsToUnixEpoch;
+    const std::optional<int> offset = FindOffset(unixSeconds);
+    if (!offset)
+        return invalid;
+    const sys_seconds local{seconds(unixSeconds + *offset)};
+    const auto day = floor<days>(local);
+    const year_month_day date(day);
+    const auto second = static_cast<int>((local - day).count());
+    return COleDateTime(static_cast<int>(date.year()), static_cast<int>(static_cast<unsigned>(date.month())),
+                        static_cast<int>(static_cast<unsigned>(date.day())), second / 3600, second / 60 % 60,
+                        second % 60);
+}
+
+void FollowTimeZone()
+{
+    ReadTimeZone();
+    timeZoneNumber.fetch_add(1, std::memory_order_release);
+}
+
+} // namespace VyrPlatform::FileTimes

@@ -1,0 +1,19 @@
+// The extended attributes in which Windows file systems and Samba keep what Linux itself has not.
+#pragma once
+
+#include "NativePath.h"
+
+#include <VyrPlatform/FileTimes.h>
+
+#include <cstdint>
+#include <optional>
+
+namespace VyrPlatform::ExtendedAttributes {
+
+/// The attributes (FILE_ATTRIBUTE_... bits) of the file at `path`; nothing where none are kept.
+[[nodiscard]] std::optional<std::uint32_t> GetAttributes(const NativePath& path);
+
+/// The creation time of the file at `path`; nothing where none is kept.
+[[nodiscard]] std::optional<FileTicks> GetCreated(const NativePath& path);
+
+} // namespace VyrPlatform::ExtendedAttributes

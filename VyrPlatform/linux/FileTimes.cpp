@@ -1,0 +1,36 @@
+// A file's three times on Linux.
+#include <VyrPlatform/FileTimes.h>
+
+#include "ExtendedAttributes.h"
+#include "FileStatus.h"
+
+namespace VyrPlatform::FileTimes {
+
+std::optional<FileTicks> GetModified(const CString& path)
+{
+    struct statx status;
+    if (!AskStatus(NativePath(path), 0, STATX_MTIME, status))
+        return std::nullopt;
+    return ToTicks(status.stx_mtime);
+}
+
+std::optional<FileTicks> GetCreated(const CString& path)
+{
+    const NativePath nativePath(path);
+    struct statx status;
+    if (!AskStatus(nativePath, 0, STATX_BTIME | STATX_MTIME, status))
+        return std::nullopt;
+    if (const auto kept = ExtendedAttributes::GetCreated(nativePath))
+        return kept;
+    return ToTicks(status.stx_mask & STATX_BTIME ? status.stx_btime : status.stx_mtime);
+}
+
+std::optional<FileTicks> GetAccessed(const CString& path)
+{
+    struct statx status;
+    if (!AskStatus(NativePath(path), 0, STATX_ATIME, status))
+        return std::nullopt;
+    return ToTicks(status.stx_atime);
+}
+
+} // namespace VyrPlatform::FileTimes

@@ -1,0 +1,109 @@
+// What stands at a path, asked of Windows.
+#include <VyrPlatform/FileSystem.h>
+
+#include "FileStatus.h"
+#include "LongPath.h"
+
+namespace VyrPlatform::FileSystem {
+
+namespace {
+
+/// Fills `entry` from any of the system's structures that describe a file.
+template <class Information>
+void Describe(const Information& information, Entry& entry) noexcept
+{
+    const bool isFolder = information.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
+    entry.kind = isFolder ? Kind::Folder : Kind::File;
+    if (!isFolder)
+        entry.size = Combine(information.nFileSizeHigh, information.nFileSizeLow);
+    entry.modified = ToTicks(information.ftLastWriteTime);
+    entry.accessed = ToTicks(information.ftLastAccessTime);
+    entry.created = ToTicks(information.ftCreationTime);
+}
+
+/// What the parent folder tells of `path`, which is known to exist.
+bool Find(const LongPath& path, WIN32_FIND_DATAW& found) noexcept
+{
+    const HANDLE search = FindFirstFileW(path.Get(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return false;
+    FindClose(search);
+    return true;
+}
+
+/// Describes what the link at `path` leads to; leaves `entry` as it is when that is nothing.
+void DescribeTarget(const LongPath& path, Entry& entry) noexcept
+{
+    const HANDLE target =
+        CreateFileW(path.Get(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (target == INVALID_HANDLE_VALUE)
+        return;
+    BY_HANDLE_FILE_INFORMATION information;
+    if (GetFileInformationByHandle(target, &information))
+        Describe(information, entry);
+    CloseHandle(target);
+}
+
+/// For a path that does not tell its attributes by itself: a file that is locked (its folder still does) or a device.
+Entry QueryUncommon(const LongPath& path, DWORD error) noexcept
+{
+    Entry entry;
+    WIN32_FIND_DATAW found;
+    if (error == ERROR_SHARING_VIOLATION && Find(path, found))
+        Describe(found, entry);
+    else if (GetFileAttributesW(path.Get()) != INVALID_FILE_ATTRIBUTES)
+        entry.kind = Kind::Other;
+    return entry;
+}
+
+} // namespace
+
+Entry Query(const CString& path)
+{
+    const LongPath longPath(path);
+    WIN32_FILE_ATTRIBUTE_DATA data;
+    if (!GetFileAttributesExW(longPath.Get(), GetFileExInfoStandard, &data))
+        return QueryUncommon(longPath, GetLastError());
+    Entry entry;
+    WIN32_FIND_DATAW found;
+    if ((data.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) && Find(longPath, found) && IsLink(found)) {
+        entry.isLink = true;
+        entry.kind = Kind::Other;
+        DescribeTarget(longPath, entry);
+    } else {
+        Describe(data, entry);
+    }
+    return entry;
+}
+
+bool Exists(const CString& path)
+{
+    return GetFileAttributesW(LongPath(path).Get()) != INVALID_FILE_ATTRIBUTES ||
+           GetLastError() == ERROR_SHARING_VIOLATION;
+}
+
+bool IsFolder(const CString& path)
+{
+    const DWORD attributes = GetFileAttributesW(LongPath(path).Get());
+    if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_DIRECTORY))
+        return false;
+    return !(attributes & FILE_ATTRIBUTE_REPARSE_POINT) || Query(path).kind == Kind::Folder;
+}
+
+std::uint32_t CreateFolder(const CString& path)
+{
+    return CreateDirectoryW(LongPath(path).Get(), nullptr) ? 0 : GetLastError();
+}
+
+bool IsSeparator(char16_t unit) noexcept
+{
+    return unit == u'\\' || unit == u'/';
+}
+
+char16_t Separator() noexcept
+{
+    return u'\\';
+}
+
+} // namespace VyrPlatform::FileSystem
