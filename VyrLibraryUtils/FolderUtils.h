@@ -16,9 +16,8 @@ public:
     FolderUtils& operator=(const FolderUtils&);
 
     /// Makes the folder `path` and every parent that is missing.
-    /// @return 1 when the folder (or a link to one) stands there afterwards, also when it did before; else 0, as where
-    /// a
-    ///     file is in the way, and for an empty text. Folders that were made before a failure stay.
+    /// @return 1 when the folder (or a link to one) stands there afterwards, also when it did before; else 0, as with a
+    ///     file in the way, and for an empty text. Folders that were made before a failure stay.
     static int CreateFolderPathExists(CString path);
 };
 

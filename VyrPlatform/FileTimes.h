@@ -30,6 +30,11 @@ namespace VyrPlatform::FileTimes {
 /// @return invalid when it is out of the calendar's range.
 [[nodiscard]] VYR_PLATFORM_API COleDateTime ToLocal(FileTicks ticks);
 
+/// `ticks` as local time by the inverse of the system's own conversion from local calendar fields to a file time: what
+/// is going to be written back is read with it, so that it becomes the same instant again. On Windows that pair uses
+/// today's offset; on Linux this is ToLocal.
+[[nodiscard]] VYR_PLATFORM_API COleDateTime ToLocalForWriting(FileTicks ticks);
+
 /// Makes ToLocal read the time zone anew. For a host that lives on while its user's time zone changes, and for tests.
 VYR_PLATFORM_API void FollowTimeZone();
 

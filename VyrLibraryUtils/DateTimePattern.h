@@ -1,0 +1,87 @@
+/// @file
+/// The patterns in which date-times are written and read. Private to this library.
+///
+/// A pattern is text with conversions: %Y year (four digits), %y year (two digits), %m month, %d day, %H hour (0 to
+/// 23), %I hour (1 to 12), %M minute, %S second, each number of two digits; %-m %-d %-H %-I %-M %-S the same without a
+/// leading zero; %B and %b the month's name and its abbreviation, %A and %a those of the day of the week, %p morning or
+/// afternoon, in the user's language;
+/// %% a percent sign. Anything else stands for itself.
+#pragma once
+
+#include <VyrPlatform/COleDateTime.h>
+#include <VyrPlatform/CString.h>
+
+#include <cstdint>
+#include <string_view>
+
+namespace VyrLibraryUtils::DateTimePattern {
+
+/// What the library itself reads back, whatever the locale: yyyy/MM/dd HH:mm:ss.
+constexpr std::u16string_view stored = u"%Y/%m/%d %H:%M:%S";
+
+/// The pattern of a format in the letters of Unicode's date patterns, as docs/date-time-formats.md describes it.
+[[nodiscard]] CString FromFormat(std::u16string_view format);
+
+/// `dateTime` written with `pattern`; empty when it is not valid.
+[[nodiscard]] CString Write(const COleDateTime& dateTime, std::u16string_view pattern);
+
+/// How many digits a number may have.
+enum class Digits : std::uint8_t
+{
+    /// As many as the pattern writes.
+    Exact,
+    /// One or two; a year has two, or four where four stand there. A two-digit year below 30 is of the 21st century,
+    /// any other of the 20th.
+    Free
+};
+
+/// Reads a date-time from the front of a text, one pattern after the other.
+class Reader
+{
+public:
+    explicit Reader(std::u16string_view text) noexcept : m_rest(text) {}
+
+    /// Takes what `pattern` describes off the front. A blank in the pattern stands for any run of blanks; names are
+    /// read in either case.
+    /// @return false when something else stands there; the reader is then of no more use.
+    [[nodiscard]] bool Take(std::u16string_view pattern, Digits digits);
+    /// Takes blanks off the front.
+    /// @return whether there was one.
+    bool TakeBlanks() noexcept;
+    [[nodiscard]] bool IsAtEnd() const noexcept { return m_rest.empty(); }
+    /// What was read; invalid when that is no date. Parts that no pattern named count as midnight.
+    [[nodiscard]] COleDateTime Value() const noexcept;
+
+private:
+    struct Fields
+    {
+        int year = 0;
+        int month = 0;
+        int day = 0;
+        int hour = 0;
+        int minute = 0;
+        int second = 0;
+        bool isAfternoon = false;
+        bool isTwelveHour = false;
+    };
+
+    bool TakeConversion(char16_t letter, bool isPadded, Digits digits);
+    bool TakeUnit(char16_t unit) noexcept;
+    bool TakeNumber(int& number, std::size_t least, std::size_t most) noexcept;
+    bool TakeYear(bool isLong, Digits digits) noexcept;
+    bool TakeMonthName();
+    bool TakeDayName();
+    bool TakeHalfDay();
+    template <class Names>
+    void FindLongest(const Names& names, int& index, std::size_t& length) const;
+
+    std::u16string_view m_rest;
+    Fields m_fields;
+};
+
+/// What a text that is no date-time gives.
+[[nodiscard]] COleDateTime Invalid() noexcept;
+/// The date-time that all of `text` gives with `pattern`, digit for digit; invalid when it does not.
+[[nodiscard]] COleDateTime Read(std::u16string_view text, std::u16string_view pattern);
+
+} // namespace VyrLibraryUtils::DateTimePattern

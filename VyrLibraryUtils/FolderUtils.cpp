@@ -1,0 +1,54 @@
+// The making of folders.
+#include <VyrLibraryUtils/FolderUtils.h>
+#include <VyrPlatform/FileSystem.h>
+
+#include <vector>
+
+namespace VyrLibraryUtils {
+
+namespace FileSystem = VyrPlatform::FileSystem;
+
+namespace {
+
+/// No system takes a longer path, in code units.
+constexpr int longestPath = 32767;
+
+/// The length of the path to the parent of `path`, 0 when it has none. The system's own separators count here, not the
+/// style of the path: what is made is what the system will find.
+int LengthOfParent(std::u16string_view path)
+{
+    std::size_t length = path.size();
+    while (length > 0 && FileSystem::IsSeparator(path[length - 1]))
+        --length;
+    while (length > 0 && !FileSystem::IsSeparator(path[length - 1]))
+        --length;
+    return static_cast<int>(length);
+}
+
+bool CreateWithParents(const CString& path)
+{
+    if (path.GetLength() > longestPath)
+        return false;
+    std::vector<CString> missing;
+    for (CString current = path; !current.IsEmpty() && !FileSystem::IsFolder(current);
+         current = current.Left(LengthOfParent(current)))
+        missing.push_back(current);
+    for (auto folder = missing.rbegin(); folder != missing.rend(); ++folder)
+        // It may be there by now: made by another program, or the path goes back over "..".
+        if (FileSystem::CreateFolder(*folder) != 0 && !FileSystem::IsFolder(*folder))
+            return false;
+    return !path.IsEmpty();
+}
+
+} // namespace
+
+FolderUtils::FolderUtils() = default;
+FolderUtils::~FolderUtils() = default;
+FolderUtils& FolderUtils::operator=(const FolderUtils&) = default;
+
+int FolderUtils::CreateFolderPathExists(CString path)
+{
+    return CreateWithParents(path);
+}
+
+} // namespace VyrLibraryUtils
