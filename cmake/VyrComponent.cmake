@@ -7,8 +7,10 @@ function(vyr_fill_empty sources_variable)
   endif()
 endfunction()
 
-# A shared library of the product: every source in its folder, the system's own folder for VyrPlatform.
+# A shared library of the product, which others find as Vyr::EXPORT_NAME: every source in its folder, the system's own
+# folder for VyrPlatform. PUBLIC_HEADERS are patterns; what they match is installed, in the same folders.
 function(vyr_add_component name)
+  cmake_parse_arguments(component "" "EXPORT_NAME" "PUBLIC_HEADERS" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp")
   if(WIN32)
     list(FILTER sources EXCLUDE REGEX "/linux/[^/]*$")
@@ -16,13 +18,21 @@ function(vyr_add_component name)
     list(FILTER sources EXCLUDE REGEX "/windows/[^/]*$")
   endif()
   vyr_fill_empty(sources)
+  file(GLOB headers CONFIGURE_DEPENDS ${component_PUBLIC_HEADERS})
+  # A public header that serves one system alone tells so by its name.
+  if(WIN32)
+    list(FILTER headers EXCLUDE REGEX "/Linux[^/]*$")
+  else()
+    list(FILTER headers EXCLUDE REGEX "/Windows[^/]*$")
+  endif()
+
   add_library(${name} SHARED ${sources})
+  add_library(Vyr::${component_EXPORT_NAME} ALIAS ${name})
+  target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}" FILES ${headers})
   target_link_libraries(${name} PRIVATE VyrCompileRules)
-  target_include_directories(${name} PUBLIC
-    "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>" "$<INSTALL_INTERFACE:include>")
   target_compile_features(${name} PUBLIC cxx_std_20)
   set_target_properties(${name} PROPERTIES
-    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+    EXPORT_NAME ${component_EXPORT_NAME} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
   if(WIN32)
     # The DLL carries the component's own name; its import library keeps the usual prefix.
     set_target_properties(${name} PROPERTIES PREFIX "")

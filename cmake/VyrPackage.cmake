@@ -1,0 +1,69 @@
+# What is installed, for whom, and the packages that are made of it.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/VyrLibrary")
+if(WIN32)
+  set(document_folder ".")
+else()
+  # The installed files may be moved together: each finds its libraries from where it stands itself.
+  #VYR   set_target_properties(vyr PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+  set_target_properties(VyrPlatform VyrLibraryUtils VyrLibraryFuncs PROPERTIES INSTALL_RPATH "$ORIGIN")
+  set(document_folder "${CMAKE_INSTALL_DATADIR}/doc/vyrlibrary")
+endif()
+
+if(TARGET vyr)
+  install(TARGETS vyr RUNTIME)
+endif()
+install(TARGETS VyrPlatform VyrLibraryUtils VyrLibraryFuncs EXPORT VyrLibraryTargets FILE_SET HEADERS)
+install(EXPORT VyrLibraryTargets NAMESPACE Vyr:: DESTINATION "${package_folder}")
+configure_package_config_file(cmake/VyrLibraryConfig.cmake.in "${CMAKE_BINARY_DIR}/VyrLibraryConfig.cmake"
+  INSTALL_DESTINATION "${package_folder}" NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file("${CMAKE_BINARY_DIR}/VyrLibraryConfigVersion.cmake" COMPATIBILITY SameMinorVersion)
+install(FILES
+  "${CMAKE_BINARY_DIR}/VyrLibraryConfig.cmake" "${CMAKE_BINARY_DIR}/VyrLibraryConfigVersion.cmake"
+  #VYR  cmake/VyrVersionInfo.cmake
+  DESTINATION "${package_folder}")
+
+# pkg-config's files, which name no folder that installing elsewhere would make wrong.
+file(RELATIVE_PATH pkg_config_to_prefix "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+string(REGEX REPLACE "/$" "" pkg_config_to_prefix "${pkg_config_to_prefix}")
+function(vyr_install_pkg_config name description library requires)
+  configure_file(cmake/pkg-config.pc.in "${CMAKE_BINARY_DIR}/${name}.pc" @ONLY)
+  install(FILES "${CMAKE_BINARY_DIR}/${name}.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+endfunction()
+vyr_install_pkg_config(vyr-platform "The platform class library and the system's services" VyrPlatform "")
+vyr_install_pkg_config(vyr-utils "Paths, files, texts, dates and pictures" VyrLibraryUtils vyr-platform)
+vyr_install_pkg_config(vyr-funcs "Bulk renaming and editing of file metadata" VyrLibraryFuncs vyr-utils)
+
+install(FILES LICENSE DESTINATION "${document_folder}")
+if(WIN32)
+  # The compiler's run-time DLLs, and the terms of all that is not this project's own and is in the package.
+  install(FILES ${VYR_RUNTIME_DLLS} DESTINATION "${CMAKE_INSTALL_BINDIR}")
+  install(FILES licences/README.txt /usr/share/common-licenses/GPL-3 DESTINATION licences)
+  foreach(package gcc-mingw-w64-x86-64-posix-runtime mingw-w64-common libcli11-dev)
+    install(FILES "/usr/share/doc/${package}/copyright" DESTINATION licences RENAME "${package}.txt")
+  endforeach()
+endif()
+
+set(CPACK_PACKAGE_NAME vyrlibrary)
+set(CPACK_PACKAGE_VENDOR "The VyrLibrary authors")
+set(CPACK_PACKAGE_CONTACT "The VyrLibrary authors <vyrlibrary@example.org>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
+set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_VERBATIM_VARIABLES ON)
+if(WIN32)
+  set(CPACK_GENERATOR ZIP)
+  set(CPACK_PACKAGE_FILE_NAME "VyrLibrary-${PROJECT_VERSION}-windows-x86_64")
+else()
+  set(CPACK_GENERATOR DEB)
+  set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+  set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+  set(CPACK_DEBIAN_PACKAGE_SECTION utils)
+  set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+  set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
+  set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+  set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+endif()
+include(CPack)

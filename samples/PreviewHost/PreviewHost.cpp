@@ -1,0 +1,81 @@
+// A host outside the library's tree: it shows the numbered names that the files of a folder would get, and its own
+// version. It renames nothing.
+#include <VyrLibraryFuncs/name/NameFuncs.h>
+#include <VyrLibraryUtils/FileUtils.h>
+#include <VyrLibraryUtils/VersionUtils.h>
+#include <VyrPlatform/Console.h>
+#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/FolderListing.h>
+
+#include <algorithm>
+#include <vector>
+
+using VyrLibraryFuncs::NameFuncs;
+using VyrLibraryUtils::FileUtils;
+using VyrLibraryUtils::VersionUtils;
+using VyrPlatform::Console::Stream;
+
+namespace {
+
+void PrintLine(Stream stream, const CString& line)
+{
+    VyrPlatform::Console::Write(stream, VyrPlatform::Encoding::ToUtf8(line + u"\n"));
+}
+
+/// What this host calls itself: its product name, product version and the four numbers of its file version.
+CString GetVersionLine()
+{
+    CString line;
+    line.Format(u"%s %s (%d.%d.%d.%d)", VersionUtils::GetProductName(), VersionUtils::GetStringProductVersion(),
+                VersionUtils::GetFileMajorVersion(), VersionUtils::GetFileMinorVersion(),
+                VersionUtils::GetFileRevisionVersion(), VersionUtils::GetFileBuildVersion());
+    return line;
+}
+
+/// The names of the files in `folder`, in the order of their code units.
+std::vector<CString> GetFileNames(const CString& folder)
+{
+    std::vector<CString> names;
+    for (VyrPlatform::FolderListing listing(folder); listing.Next();) {
+        if (listing.Kind() == VyrPlatform::FileSystem::Kind::File)
+            names.push_back(listing.Name());
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+/// A sequence-number rule: "picture 001", "picture 002" and so on, the extension kept.
+NameFuncs::ITEM MakeRule()
+{
+    NameFuncs::ITEM rule;
+    rule.renameType = 0;
+    rule.numberPosition = 0;
+    rule.numberText1 = u"picture ";
+    rule.startNumber = 1;
+    rule.digits = 3;
+    rule.step = 1;
+    return rule;
+}
+
+} // namespace
+
+int main(int count, char** arguments)
+{
+    const std::vector<CString> paths = VyrPlatform::Console::GetArguments(count, arguments);
+    if (paths.size() != 1) {
+        PrintLine(Stream::Error, u"usage: PreviewHost FOLDER");
+        return 2;
+    }
+    PrintLine(Stream::Output, GetVersionLine());
+    NameFuncs::ITEM item = MakeRule();
+    for (const CString& name : GetFileNames(paths.front())) {
+        item.filePath = FileUtils::GetCombinePath(paths.front(), name);
+        item.dirPath = FileUtils::GetSplitDirPath(item.filePath);
+        item.fileName = NameFuncs::GetFName(item.filePath);
+        item.extension = NameFuncs::GetExtension(item.filePath);
+        const CString renamed = NameFuncs::GetRenameFilePath(item);
+        PrintLine(Stream::Output, name + u" -> " + FileUtils::GetSplitFileName(renamed));
+        ++item.index;
+    }
+    return 0;
+}
