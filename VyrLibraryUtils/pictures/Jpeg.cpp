@@ -16,6 +16,8 @@ constexpr std::uint8_t ExifSegment = 0xE1;
 constexpr std::string_view ExifIdentifier("Exif\0", 5);
 /// The identifier and one more byte, which writers leave at will.
 constexpr std::uint64_t ExifHeaderSize = 6;
+/// More than any writer leaves; a lost file that was filled with this byte ends here.
+constexpr int MostFillBytes = 4096;
 
 bool StandsAlone(std::uint8_t marker)
 {
@@ -27,18 +29,23 @@ bool EndsHeader(std::uint8_t marker)
     return marker == StartOfScan || marker == EndOfImage;
 }
 
-/// The next marker, any number of fill bytes before it; EndOfImage where there is none.
+/// The next marker, fill bytes before it passed over; EndOfImage where there is none.
 std::uint8_t NextMarker(ByteCursor& jpeg)
 {
     if (jpeg.U8() != MarkerPrefix)
         return EndOfImage;
     std::uint8_t marker = MarkerPrefix;
-    while (marker == MarkerPrefix && !jpeg.Failed())
+    for (int left = MostFillBytes; marker == MarkerPrefix && left > 0; --left)
         marker = jpeg.U8();
-    return jpeg.Failed() ? EndOfImage : marker;
+    return jpeg.Failed() || marker == MarkerPrefix ? EndOfImage : marker;
 }
 
 } // namespace
+
+bool IsJpeg(const ByteView& bytes)
+{
+    return bytes.StartsWith("\xFF\xD8\xFF");
+}
 
 std::string ReadJpeg(const ByteView& jpeg, PictureTag tag)
 {

@@ -1,18 +1,46 @@
 // Tells a picture's format by its first bytes and hands it to that format's reader.
 #include <VyrLibraryUtils/pictures/Picture.h>
 
+#include <VyrLibraryUtils/pictures/IsoMedia.h>
 #include <VyrLibraryUtils/pictures/Jpeg.h>
+#include <VyrLibraryUtils/pictures/JpegXl.h>
+#include <VyrLibraryUtils/pictures/Png.h>
+#include <VyrLibraryUtils/pictures/Raf.h>
+#include <VyrLibraryUtils/pictures/Riff.h>
 #include <VyrLibraryUtils/pictures/Tiff.h>
 
 namespace VyrLibraryUtils::Pictures {
+namespace {
+
+/// JPEG's segments, kept without a picture.
+constexpr std::string_view BareSegments = "\xFF\x01"
+                                          "Exiv2";
+constexpr std::string_view PngSignature = "\x89PNG\r\n\x1A\n";
+constexpr std::string_view JpegXlSignature("\0\0\0\x0CJXL \r\n\x87\n", 12);
+constexpr std::string_view RafSignature = "FUJIFILMCCD-RAW ";
+constexpr std::uint64_t FirstBoxType = 4;
+
+} // namespace
 
 std::string ReadPicture(ByteSource& source, PictureTag tag)
 {
     const ByteView picture(source);
-    if (picture.StartsWith("\xFF\xD8\xFF"))
+    if (IsJpeg(picture))
         return ReadJpeg(picture, tag);
     if (IsTiff(picture))
         return ReadTiff(picture, tag);
+    if (picture.From(FirstBoxType).StartsWith("ftyp"))
+        return ReadIsoMedia(picture, tag);
+    if (picture.StartsWith(PngSignature))
+        return ReadPng(picture, tag);
+    if (IsWebP(picture))
+        return ReadWebP(picture, tag);
+    if (picture.StartsWith(RafSignature))
+        return ReadRaf(picture, tag);
+    if (picture.StartsWith(JpegXlSignature))
+        return ReadJpegXl(picture, tag);
+    if (picture.StartsWith(BareSegments))
+        return ReadJpeg(picture.From(BareSegments.size()), tag);
     return {};
 }
 

@@ -58,7 +58,11 @@ std::optional<Entry> TiffReader::Find(std::uint32_t offset, std::uint16_t tag) c
 {
     ByteCursor directory(m_tiff.From(offset), m_order);
     const std::uint64_t total = m_tiff.Size();
-    for (std::uint16_t left = directory.U16(); left > 0; --left) {
+    std::uint16_t left = directory.U16();
+    // A directory that is not all there is damaged: an offset into other data mostly looks like that.
+    if (left * EntrySize > directory.Remaining())
+        return std::nullopt;
+    for (; left > 0; --left) {
         const std::string_view bytes = directory.Bytes(EntrySize);
         if (bytes.empty())
             break;

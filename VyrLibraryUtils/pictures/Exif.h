@@ -1,0 +1,24 @@
+/// @file
+/// The Exif block, as the formats wrap it around its TIFF structure.
+#pragma once
+
+#include <VyrLibraryUtils/pictures/ByteView.h>
+#include <VyrLibraryUtils/pictures/PictureTag.h>
+
+#include <cstddef>
+#include <string>
+
+namespace VyrLibraryUtils::Pictures {
+
+/// The most of an Exif block that is copied or unpacked where it cannot be read in place. Cameras write less than 64
+/// KiB; the rest is for what was converted from other formats.
+constexpr std::size_t LongestExif = 1 << 20;
+
+/// The text of `tag` in `block`: a TIFF structure, with or without JPEG's identifier "Exif" and two NULs before it.
+[[nodiscard]] std::string ReadExif(const ByteView& block, PictureTag tag);
+
+/// The text of `tag` in `item`: a 32-bit big-endian distance, then, that far behind it, the block. A writer that leaves
+/// the distance out is understood too. Source: ISO/IEC 23008-12, annex A.2.1; ISO/IEC 18181-2, section 9.4.
+[[nodiscard]] std::string ReadExifItem(const ByteView& item, PictureTag tag);
+
+} // namespace VyrLibraryUtils::Pictures

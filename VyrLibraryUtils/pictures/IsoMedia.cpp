@@ -1,0 +1,200 @@
+// Finds the Exif item of a HEIC or AVIF picture by its tables, and the tag boxes of a CR3.
+#include <VyrLibraryUtils/pictures/IsoMedia.h>
+
+#include <VyrLibraryUtils/pictures/Exif.h>
+#include <VyrLibraryUtils/pictures/FourCc.h>
+#include <VyrLibraryUtils/pictures/IsoBox.h>
+#include <VyrLibraryUtils/pictures/Tiff.h>
+
+#include <optional>
+
+namespace VyrLibraryUtils::Pictures {
+namespace {
+
+/// A version and flags come first in many boxes.
+std::uint8_t TakeVersion(ByteCursor& box)
+{
+    const std::uint8_t version = box.U8();
+    box.Skip(3);
+    return version;
+}
+
+/// The id of the item that an item-info entry describes, when it is an Exif item.
+std::optional<std::uint32_t> ExifItemOf(const ByteView& entry)
+{
+    ByteCursor cursor(entry, ByteOrder::Big);
+    const std::uint8_t version = TakeVersion(cursor);
+    // Earlier versions know no item types.
+    if (version != 2 && version != 3)
+        return std::nullopt;
+    const std::uint32_t id = version == 2 ? cursor.U16() : cursor.U32();
+    const std::uint16_t protection = cursor.U16();
+    const std::uint32_t type = cursor.U32();
+    if (cursor.Failed() || protection != 0 || type != FourCc("Exif"))
+        return std::nullopt;
+    return id;
+}
+
+std::optional<std::uint32_t> FindExifItem(const ByteView& itemInfo)
+{
+    ByteCursor cursor(itemInfo, ByteOrder::Big);
+    const std::size_t countSize = TakeVersion(cursor) == 0 ? 2 : 4;
+    cursor.Skip(countSize);
+    while (const std::optional<IsoBox> entry = NextBox(cursor))
+        if (entry->type == FourCc("infe"))
+            if (const std::optional<std::uint32_t> id = ExifItemOf(entry->content))
+                return id;
+    return std::nullopt;
+}
+
+/// Where an item's pieces stand, as the item-location box tells it.
+class ItemLocations
+{
+public:
+    /// `box`: the content of the item-location box; `file` and `itemData`: what its offsets count from.
+    ItemLocations(const ByteView& box, const ByteView& file, const ByteView& itemData)
+        : m_cursor(box, ByteOrder::Big), m_file(file), m_itemData(itemData), m_version(TakeVersion(m_cursor)),
+          m_widths(m_cursor.U16())
+    {}
+
+    /// The text of `tag` in the Exif item `id`.
+    std::string ReadExifItemOf(std::uint32_t id, PictureTag tag);
+
+private:
+    struct Item
+    {
+        std::uint32_t id;
+        std::uint8_t constructionMethod;
+        std::uint16_t dataReference;
+        std::uint64_t baseOffset;
+        std::uint16_t extentCount;
+    };
+
+    [[nodiscard]] std::size_t OffsetWidth() const { return m_widths >> 12; }
+    [[nodiscard]] std::size_t LengthWidth() const { return m_widths >> 8 & 0xF; }
+    [[nodiscard]] std::size_t BaseOffsetWidth() const { return m_widths >> 4 & 0xF; }
+    [[nodiscard]] std::size_t IndexWidth() const { return m_version == 0 ? 0 : m_widths & 0xF; }
+    [[nodiscard]] bool WidthsAreSound() const
+    {
+        return OffsetWidth() <= 8 && LengthWidth() <= 8 && BaseOffsetWidth() <= 8 && IndexWidth() <= 8;
+    }
+
+    Item NextItem();
+    ByteView NextExtent(const ByteView& origin);
+    std::string Join(const Item& item, const ByteView& origin);
+
+    ByteCursor m_cursor;
+    ByteView m_file;
+    ByteView m_itemData;
+    std::uint8_t m_version;
+    std::uint16_t m_widths;
+};
+
+ItemLocations::Item ItemLocations::NextItem()
+{
+    Item item{};
+    item.id = m_version < 2 ? m_cursor.U16() : m_cursor.U32();
+    item.constructionMethod = m_version == 0 ? std::uint8_t{0} : static_cast<std::uint8_t>(m_cursor.U16() & 0xF);
+    item.dataReference = m_cursor.U16();
+    item.baseOffset = m_cursor.Unsigned(BaseOffsetWidth());
+    item.extentCount = m_cursor.U16();
+    return item;
+}
+
+/// The piece of `origin` that the extent at the cursor names; a length of 0 is all the rest.
+ByteView ItemLocations::NextExtent(const ByteView& origin)
+{
+    m_cursor.Skip(IndexWidth());
+    const std::uint64_t offset = m_cursor.Unsigned(OffsetWidth());
+    const std::uint64_t length = m_cursor.Unsigned(LengthWidth());
+    return m_cursor.Failed() ? origin.Part(0, 0) : origin.Part(offset, length == 0 ? origin.Size() : length);
+}
+
+std::string ItemLocations::Join(const Item& item, const ByteView& origin)
+{
+    std::string joined;
+    for (std::uint16_t left = item.extentCount; left > 0 && joined.size() < LongestExif; --left)
+        joined += NextExtent(origin).Copy(LongestExif - joined.size());
+    return joined;
+}
+
+std::string ItemLocations::ReadExifItemOf(std::uint32_t id, PictureTag tag)
+{
+    if (m_version > 2 || !WidthsAreSound())
+        return {};
+    const std::uint64_t extentSize = IndexWidth() + OffsetWidth() + LengthWidth();
+    for (std::uint32_t left = m_version < 2 ? m_cursor.U16() : m_cursor.U32(); left > 0 && !m_cursor.Failed(); --left) {
+        const Item item = NextItem();
+        if (item.id != id) {
+            m_cursor.Skip(item.extentCount * extentSize);
+            continue;
+        }
+        // Other methods build an item from items; other references are other files.
+        if (item.constructionMethod > 1 || item.dataReference != 0)
+            return {};
+        const ByteView origin = (item.constructionMethod == 1 ? m_itemData : m_file).From(item.baseOffset);
+        if (item.extentCount == 1)
+            return ReadExifItem(NextExtent(origin), tag);
+        const std::string joined = Join(item, origin);
+        MemorySource source(joined);
+        return ReadExifItem(ByteView(source), tag);
+    }
+    return {};
+}
+
+std::string ReadMeta(const ByteView& meta, const ByteView& file, PictureTag tag)
+{
+    ByteCursor cursor(meta, ByteOrder::Big);
+    TakeVersion(cursor);
+    const ByteView nothing = meta.Part(0, 0);
+    ByteView itemInfo = nothing;
+    ByteView itemLocation = nothing;
+    ByteView itemData = nothing;
+    while (const std::optional<IsoBox> box = NextBox(cursor)) {
+        if (box->type == FourCc("iinf"))
+            itemInfo = box->content;
+        else if (box->type == FourCc("iloc"))
+            itemLocation = box->content;
+        else if (box->type == FourCc("idat"))
+            itemData = box->content;
+    }
+    const std::optional<std::uint32_t> item = FindExifItem(itemInfo);
+    return item ? ItemLocations(itemLocation, file, itemData).ReadExifItemOf(*item, tag) : std::string();
+}
+
+/// CR3 keeps the first directory and the Exif directory as TIFF structures of their own.
+std::string ReadCanonTags(const ByteView& boxes, PictureTag tag)
+{
+    const bool isDate = tag == PictureTag::DateTimeOriginal;
+    ByteCursor cursor(boxes, ByteOrder::Big);
+    while (const std::optional<IsoBox> box = NextBox(cursor))
+        if (box->type == (isDate ? FourCc("CMT2") : FourCc("CMT1")))
+            return ReadTiff(box->content, tag, isDate ? FirstDirectory::Exif : FirstDirectory::Image);
+    return {};
+}
+
+std::string ReadMovie(const ByteView& movie, PictureTag tag)
+{
+    constexpr std::string_view canon("\x85\xC0\xB6\x87\x82\x0F\x11\xE0\x81\x11\xF4\xCE\x46\x2B\x6A\x48", 16);
+    ByteCursor cursor(movie, ByteOrder::Big);
+    while (const std::optional<IsoBox> box = NextBox(cursor))
+        if (box->type == FourCc("uuid") && box->content.StartsWith(canon))
+            return ReadCanonTags(box->content.From(canon.size()), tag);
+    return {};
+}
+
+} // namespace
+
+std::string ReadIsoMedia(const ByteView& media, PictureTag tag)
+{
+    ByteCursor cursor(media, ByteOrder::Big);
+    while (const std::optional<IsoBox> box = NextBox(cursor)) {
+        if (box->type == FourCc("meta"))
+            return ReadMeta(box->content, media, tag);
+        if (box->type == FourCc("moov"))
+            return ReadMovie(box->content, tag);
+    }
+    return {};
+}
+
+} // namespace VyrLibraryUtils::Pictures

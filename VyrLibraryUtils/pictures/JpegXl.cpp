@@ -1,0 +1,49 @@
+// Steps over the boxes of a JPEG XL container until one holds the Exif tags.
+#include <VyrLibraryUtils/pictures/JpegXl.h>
+
+#include <VyrLibraryUtils/pictures/Exif.h>
+#include <VyrLibraryUtils/pictures/FourCc.h>
+#include <VyrLibraryUtils/pictures/IsoBox.h>
+#include <VyrPlatform/Brotli.h>
+
+#include <optional>
+
+namespace VyrLibraryUtils::Pictures {
+namespace {
+
+/// A few bytes can unpack to a megabyte, so a hostile file gets only so many tries.
+constexpr int MostPackedBoxes = 4;
+
+/// A packed box begins with the type of what it holds.
+bool IsPackedExif(const IsoBox& box)
+{
+    return box.type == FourCc("brob") && box.content.StartsWith("Exif");
+}
+
+std::string ReadPackedBox(const ByteView& box, PictureTag tag)
+{
+    constexpr std::uint64_t typeSize = 4;
+    const std::string unpacked = VyrPlatform::Brotli::Unpack(box.From(typeSize).Copy(LongestExif), LongestExif);
+    MemorySource source(unpacked);
+    return ReadExifItem(ByteView(source), tag);
+}
+
+} // namespace
+
+std::string ReadJpegXl(const ByteView& jpegXl, PictureTag tag)
+{
+    ByteCursor cursor(jpegXl, ByteOrder::Big);
+    int packedLeft = MostPackedBoxes;
+    while (const std::optional<IsoBox> box = NextBox(cursor)) {
+        std::string text;
+        if (box->type == FourCc("Exif"))
+            text = ReadExifItem(box->content, tag);
+        else if (IsPackedExif(*box) && packedLeft-- > 0)
+            text = ReadPackedBox(box->content, tag);
+        if (!text.empty())
+            return text;
+    }
+    return {};
+}
+
+} // namespace VyrLibraryUtils::Pictures

@@ -1,0 +1,17 @@
+/// @file
+/// JPEG XL: the Exif box of its container.
+#pragma once
+
+#include <VyrLibraryUtils/pictures/ByteView.h>
+#include <VyrLibraryUtils/pictures/PictureTag.h>
+
+#include <string>
+
+namespace VyrLibraryUtils::Pictures {
+
+/// The text of `tag` in the first Exif box of `jpegXl` that has one. A box that is packed with Brotli is read where the
+/// system has an unpacker (Linux) and passed over elsewhere (Windows). A bare codestream has no boxes and so no tags.
+/// Source: ISO/IEC 18181-2, section 9.
+[[nodiscard]] std::string ReadJpegXl(const ByteView& jpegXl, PictureTag tag);
+
+} // namespace VyrLibraryUtils::Pictures

@@ -1,0 +1,112 @@
+// Steps over the chunks of a PNG until one holds the Exif tags.
+#include <VyrLibraryUtils/pictures/Png.h>
+
+#include <VyrLibraryUtils/pictures/Exif.h>
+#include <VyrLibraryUtils/pictures/FourCc.h>
+#include <VyrLibraryUtils/pictures/Inflate.h>
+
+namespace VyrLibraryUtils::Pictures {
+namespace {
+
+constexpr std::uint64_t SignatureSize = 8;
+constexpr std::uint64_t ChecksumSize = 4;
+/// The keywords, with the NUL that ends them.
+constexpr std::string_view ExifKeyword("Raw profile type exif", 22);
+constexpr std::string_view AppKeyword("Raw profile type APP1", 22);
+static_assert(ExifKeyword.size() == AppKeyword.size());
+/// Two digits make one byte.
+constexpr std::size_t LongestProfile = 2 * LongestExif;
+/// A few kilobytes can unpack to megabytes, so a hostile file gets only so many tries.
+constexpr int MostPackedProfiles = 4;
+
+int HexDigit(char digit)
+{
+    if (digit >= '0' && digit <= '9')
+        return digit - '0';
+    if (digit >= 'a' && digit <= 'f')
+        return digit - 'a' + 10;
+    return digit >= 'A' && digit <= 'F' ? digit - 'A' + 10 : -1;
+}
+
+void SkipLine(std::string_view& text)
+{
+    const std::size_t end = text.find('\n');
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+}
+
+/// The bytes of a raw profile: a blank line, a name, a count, then hexadecimal digits in lines.
+std::string RawProfile(std::string_view text)
+{
+    for (int line = 0; line < 3; ++line)
+        SkipLine(text);
+    std::string bytes;
+    int high = -1;
+    for (const char character : text) {
+        const int digit = HexDigit(character);
+        if (digit < 0)
+            continue;
+        if (high >= 0)
+            bytes += static_cast<char>(high << 4 | digit);
+        high = high < 0 ? digit : -1;
+    }
+    return bytes;
+}
+
+/// Whether a text chunk is a profile that may be Exif, told by its keyword.
+bool IsProfile(const ByteView& chunk)
+{
+    return chunk.StartsWith(ExifKeyword) || chunk.StartsWith(AppKeyword);
+}
+
+std::string ReadProfile(std::string_view text, PictureTag tag)
+{
+    const std::string profile = RawProfile(text);
+    MemorySource source(profile);
+    return ReadExif(ByteView(source), tag);
+}
+
+/// The chunks of one picture, read for one tag.
+class PngReader
+{
+public:
+    PngReader(const ByteView& png, PictureTag tag) : m_cursor(png.From(SignatureSize), ByteOrder::Big), m_tag(tag) {}
+
+    std::string Read()
+    {
+        std::string text;
+        while (text.empty() && !m_cursor.Failed()) {
+            const std::uint32_t length = m_cursor.U32();
+            const std::uint32_t type = m_cursor.U32();
+            if (!IsFourCc(type) || type == FourCc("IEND"))
+                break;
+            text = ReadChunk(type, m_cursor.Take(length));
+            m_cursor.Skip(ChecksumSize);
+        }
+        return text;
+    }
+
+private:
+    std::string ReadChunk(std::uint32_t type, const ByteView& chunk)
+    {
+        if (type == FourCc("eXIf"))
+            return ReadExif(chunk, m_tag);
+        if (type == FourCc("tEXt") && IsProfile(chunk))
+            return ReadProfile(chunk.From(ExifKeyword.size()).Copy(LongestProfile), m_tag);
+        if (type == FourCc("zTXt") && IsProfile(chunk) && m_packedLeft-- > 0)
+            return ReadProfile(Inflate(chunk.From(ExifKeyword.size() + 1).Copy(LongestProfile), LongestProfile), m_tag);
+        return {};
+    }
+
+    ByteCursor m_cursor;
+    PictureTag m_tag;
+    int m_packedLeft = MostPackedProfiles;
+};
+
+} // namespace
+
+std::string ReadPng(const ByteView& png, PictureTag tag)
+{
+    return PngReader(png, tag).Read();
+}
+
+} // namespace VyrLibraryUtils::Pictures
