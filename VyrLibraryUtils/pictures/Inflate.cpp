@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <span>
+#include <utility>
 
 namespace VyrLibraryUtils::Pictures {
 namespace {
@@ -44,7 +45,8 @@ public:
             m_ended = true;
             return 0;
         }
-        return static_cast<unsigned char>(m_bytes[byte]) >> m_position++ % 8 & 1u;
+        const unsigned value = static_cast<unsigned char>(m_bytes[byte]);
+        return value >> m_position++ % 8 & 1;
     }
     unsigned Bits(unsigned count)
     {

@@ -2,7 +2,6 @@
 #include <tests/support/PictureBuilder.h>
 
 #include <algorithm>
-#include <fstream>
 
 namespace VyrTests {
 namespace {
@@ -134,15 +133,6 @@ Bytes BuildJpeg(std::string_view segments, std::size_t dataSize)
 Bytes BuildJpeg(const PictureFacts& facts, std::size_t dataSize)
 {
     return BuildJpeg(ExifSegment(BuildTiff(facts)), dataSize);
-}
-
-void WriteBytes(const std::filesystem::path& path, std::string_view bytes)
-{
-    std::ofstream file;
-    file.exceptions(std::ios::failbit | std::ios::badbit);
-    file.open(path, std::ios::binary | std::ios::trunc);
-    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    file.close();
 }
 
 } // namespace VyrTests

@@ -4,10 +4,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace VyrTests {
@@ -73,8 +71,5 @@ struct TiffParts
 [[nodiscard]] Bytes BuildJpeg(std::string_view segments, std::size_t dataSize = 0);
 /// A JPEG as a camera writes it, with one Exif segment that says `facts`.
 [[nodiscard]] Bytes BuildJpeg(const PictureFacts& facts, std::size_t dataSize = 0);
-
-/// Writes `bytes` as the file at `path`, over what is there; throws std::system_error when that fails.
-void WriteBytes(const std::filesystem::path& path, std::string_view bytes);
 
 } // namespace VyrTests
