@@ -1,0 +1,130 @@
+// Answers what a program of its own sees of the platform services; the first argument says which. The tests run it.
+#include <VyrPlatform/Console.h>
+#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/Interrupt.h>
+#include <VyrPlatform/Locale.h>
+#include <VyrPlatform/Process.h>
+
+#include <chrono>
+#include <map>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using namespace VyrPlatform;
+using Arguments = std::vector<CString>;
+
+constexpr int refused = 3;
+
+int Print(const CString& text)
+{
+    return Console::Write(Console::Stream::Output, Encoding::ToNameBytes(text + u"\n")) ? 0 : refused;
+}
+
+int PrintArguments(const Arguments& arguments)
+{
+    for (const CString& argument : arguments)
+        Print(argument);
+    return 0;
+}
+
+/// Both streams get the input, so that the tests see that neither changes a byte.
+int CopyInput(const Arguments& /*arguments*/)
+{
+    for (std::string piece = Console::ReadInput(); !piece.empty(); piece = Console::ReadInput()) {
+        if (!Console::Write(Console::Stream::Output, piece) || !Console::Write(Console::Stream::Error, piece))
+            return refused;
+    }
+    return 0;
+}
+
+int PrintEnvironment(const Arguments& arguments)
+{
+    const std::optional<CString> value = Process::GetEnvironment(arguments.at(0));
+    return value ? Print(*value) : refused;
+}
+
+int PrintVersion(const Arguments& /*arguments*/)
+{
+    const Process::ProgramVersion& version = Process::GetProgramVersion();
+    CString text;
+    text.Format(u"%d.%d.%d.%d|%s|%s", version.file[0], version.file[1], version.file[2], version.file[3],
+                version.productName, version.productVersion);
+    return Print(text);
+}
+
+int PrintPath(const Arguments& /*arguments*/)
+{
+    return Print(Process::GetProgramPath());
+}
+
+int PrintCurrentFolder(const Arguments& /*arguments*/)
+{
+    return Print(Process::GetCurrentFolder());
+}
+
+int PrintFolders(const Arguments& /*arguments*/)
+{
+    Print(Process::GetDataFolder(Process::DataLocation::Local));
+    Print(Process::GetDataFolder(Process::DataLocation::Roaming));
+    return Print(Process::GetDataFolder(Process::DataLocation::State));
+}
+
+int PrintLocale(const Arguments& /*arguments*/)
+{
+    return Print(CString::Join(
+        {CString(u"i").MakeUpper(), u"|", Locale::GetNumberTexts().thousands, u"|", Locale::GetDateTexts().months[0]}));
+}
+
+int PrintTerminals(const Arguments& /*arguments*/)
+{
+    CString text;
+    text.Format(u"%d %d %d %d", Console::IsInputTerminal(), Console::IsTerminal(Console::Stream::Output),
+                Console::IsTerminal(Console::Stream::Error), Console::GetWidth(Console::Stream::Output));
+    return Print(text);
+}
+
+int CatchInterrupt(const Arguments& /*arguments*/)
+{
+    Interrupt::Catch();
+    Print(u"ready");
+    while (!Interrupt::WasAsked())
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    Print(u"asked");
+    std::this_thread::sleep_for(std::chrono::minutes(1));
+    Print(u"still there");
+    return 0;
+}
+
+int InterruptedInput(const Arguments& /*arguments*/)
+{
+    Interrupt::Catch();
+    Print(u"ready");
+    const bool isAtEnd = Console::ReadInput().empty();
+    return isAtEnd && Interrupt::WasAsked() ? 0 : refused;
+}
+
+} // namespace
+
+int main(int count, char** argumentBytes)
+{
+    const std::map<CString, int (*)(const Arguments&)> answers = {
+        {u"arguments", PrintArguments},
+        {u"copy", CopyInput},
+        {u"environment", PrintEnvironment},
+        {u"version", PrintVersion},
+        {u"path", PrintPath},
+        {u"current-folder", PrintCurrentFolder},
+        {u"folders", PrintFolders},
+        {u"locale", PrintLocale},
+        {u"terminals", PrintTerminals},
+        {u"interrupt", CatchInterrupt},
+        {u"interrupted-input", InterruptedInput},
+    };
+    Arguments arguments = Console::GetArguments(count, argumentBytes);
+    const auto answer = answers.find(arguments.at(0));
+    arguments.erase(arguments.begin());
+    return answer->second(arguments);
+}

@@ -1,0 +1,223 @@
+// A program started with CreateProcess, its streams pipes.
+#include <tests/support/SystemChild.h>
+
+#include <VyrPlatform/WindowsCString.h>
+
+#include <memory>
+#include <stdexcept>
+#include <windows.h>
+
+namespace VyrTests {
+
+namespace {
+
+using VyrPlatform::FromWide;
+using VyrPlatform::ToWide;
+
+[[noreturn]] void Fail(const char* call)
+{
+    throw std::runtime_error(std::string(call) + " failed with " + std::to_string(::GetLastError()));
+}
+
+/// A handle that closes itself.
+class Handle
+{
+public:
+    explicit Handle(HANDLE value = nullptr) noexcept : m_value(value) {}
+    Handle(Handle&& other) noexcept : m_value(std::exchange(other.m_value, nullptr)) {}
+    Handle& operator=(Handle&& other) noexcept
+    {
+        std::swap(m_value, other.m_value);
+        return *this;
+    }
+    ~Handle() { Close(); }
+
+    void Close() noexcept
+    {
+        if (m_value)
+            ::CloseHandle(std::exchange(m_value, nullptr));
+    }
+    [[nodiscard]] HANDLE Get() const noexcept { return m_value; }
+
+private:
+    HANDLE m_value;
+};
+
+/// A pipe of which the started program gets one end.
+struct Pipe
+{
+    enum class Passed : std::uint8_t
+    {
+        Reader,
+        Writer
+    };
+    explicit Pipe(Passed passed)
+    {
+        HANDLE ends[2];
+        if (!::CreatePipe(&ends[0], &ends[1], nullptr, 0))
+            Fail("CreatePipe");
+        reader = Handle(ends[0]);
+        writer = Handle(ends[1]);
+        const Handle& inherited = passed == Passed::Reader ? reader : writer;
+        if (!::SetHandleInformation(inherited.Get(), HANDLE_FLAG_INHERIT, HANDLE_FLAG_INHERIT))
+            Fail("SetHandleInformation");
+    }
+
+    Handle reader;
+    Handle writer;
+};
+
+/// `argument` so that CommandLineToArgvW reads it back: backslashes are doubled where a quote follows them.
+void AppendArgument(CString& line, const CString& argument)
+{
+    line += u" \"";
+    int backslashes = 0;
+    for (const char16_t unit : argument.View()) {
+        if (unit == u'"')
+            line += CString(u'\\', backslashes + 1);
+        backslashes = unit == u'\\' ? backslashes + 1 : 0;
+        line += unit;
+    }
+    line += CString(u'\\', backslashes);
+    line += u'"';
+}
+
+CString CommandLine(const ProgramCall& call)
+{
+    CString line = u"\"" + call.program + u"\"";
+    for (const CString& argument : call.arguments)
+        AppendArgument(line, argument);
+    return line;
+}
+
+/// Orders names of variables as Windows does: without regard to case.
+struct NameOrder
+{
+    bool operator()(const CString& left, const CString& right) const
+    {
+        return ::CompareStringOrdinal(ToWide(left), left.GetLength(), ToWide(right), right.GetLength(), TRUE) ==
+               CSTR_LESS_THAN;
+    }
+};
+
+std::map<CString, CString, NameOrder> OwnEnvironment()
+{
+    const std::unique_ptr<wchar_t[], decltype(&::FreeEnvironmentStringsW)> block(::GetEnvironmentStringsW(),
+                                                                                 ::FreeEnvironmentStringsW);
+    std::map<CString, CString, NameOrder> variables;
+    for (const wchar_t* text = block.get(); *text; text += std::wstring_view(text).size() + 1) {
+        const std::wstring_view variable(text);
+        // The current folders of the drives have names that begin with the equals sign.
+        const std::size_t equals = variable.find(L'=', 1);
+        variables[FromWide(variable.substr(0, equals))] = FromWide(variable.substr(equals + 1));
+    }
+    return variables;
+}
+
+CString EnvironmentBlock(const ProgramCall& call)
+{
+    std::map<CString, CString, NameOrder> variables = OwnEnvironment();
+    for (const auto& [name, value] : call.environment) {
+        if (value)
+            variables[name] = *value;
+        else
+            variables.erase(name);
+    }
+    CString block;
+    for (const auto& [name, value] : variables) {
+        block += CString::Join({name, u"=", value});
+        block += u'\0';
+    }
+    block += u'\0';
+    return block;
+}
+
+} // namespace
+
+struct SystemChild::Handles
+{
+    Pipe input{Pipe::Passed::Reader};
+    Pipe output{Pipe::Passed::Writer};
+    Pipe errors{Pipe::Passed::Writer};
+    Handle process;
+    DWORD group = 0;
+};
+
+SystemChild::SystemChild(const ProgramCall& call) : m_handles(std::make_unique<Handles>())
+{
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdInput = m_handles->input.reader.Get();
+    start.hStdOutput = m_handles->output.writer.Get();
+    start.hStdError = m_handles->errors.writer.Get();
+    if (call.isOutputClosed)
+        m_handles->output.reader.Close();
+    const CString line = CommandLine(call);
+    std::wstring writableLine(ToWide(line));
+    CString environment = EnvironmentBlock(call);
+    std::wstring block(ToWide(environment), static_cast<std::size_t>(environment.GetLength()));
+    PROCESS_INFORMATION process{};
+    if (!::CreateProcessW(ToWide(call.program), writableLine.data(), nullptr, nullptr, TRUE,
+                          CREATE_UNICODE_ENVIRONMENT | CREATE_NEW_PROCESS_GROUP, block.data(),
+                          call.folder.IsEmpty() ? nullptr : ToWide(call.folder), &start, &process))
+        Fail("CreateProcessW");
+    ::CloseHandle(process.hThread);
+    m_handles->process = Handle(process.hProcess);
+    m_handles->group = process.dwProcessId;
+    m_handles->input.reader.Close();
+    m_handles->output.writer.Close();
+    m_handles->errors.writer.Close();
+}
+
+SystemChild::~SystemChild() = default;
+
+void SystemChild::WriteInput(std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        DWORD written = 0;
+        if (!::WriteFile(m_handles->input.writer.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written,
+                         nullptr))
+            break;
+        bytes.remove_prefix(written);
+    }
+    m_handles->input.writer.Close();
+}
+
+std::string SystemChild::Read(Stream stream)
+{
+    const Handle& source = (stream == Stream::Output ? m_handles->output : m_handles->errors).reader;
+    std::string bytes(65536, '\0');
+    DWORD count = 0;
+    if (!source.Get() || !::ReadFile(source.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr))
+        count = 0;
+    bytes.resize(count);
+    return bytes;
+}
+
+std::optional<int> SystemChild::WaitFor(std::chrono::milliseconds patience)
+{
+    DWORD exitCode = 0;
+    if (::WaitForSingleObject(m_handles->process.Get(), static_cast<DWORD>(patience.count())) != WAIT_OBJECT_0 ||
+        !::GetExitCodeProcess(m_handles->process.Get(), &exitCode))
+        return std::nullopt;
+    return static_cast<int>(exitCode);
+}
+
+void SystemChild::Interrupt()
+{
+    if (!::GenerateConsoleCtrlEvent(CTRL_BREAK_EVENT, m_handles->group))
+        Fail("GenerateConsoleCtrlEvent");
+}
+
+void SystemChild::Kill()
+{
+    ::TerminateProcess(m_handles->process.Get(), 1);
+}
+
+CString ProgramEnding()
+{
+    return u".exe";
+}
+
+} // namespace VyrTests
