@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <windows.h>
 
 namespace VyrPlatform::Locale {
@@ -87,9 +88,9 @@ private:
     std::wstring m_units;
 };
 
-int GroupSize(const CString& grouping, int index) noexcept
+int GroupSize(std::u16string_view grouping, std::size_t index) noexcept
 {
-    return grouping.GetLength() > index ? grouping[index] - u'0' : 0;
+    return grouping.size() > index ? grouping[index] - u'0' : 0;
 }
 
 } // namespace
