@@ -11,15 +11,23 @@
 
 namespace VyrPlatform {
 
-/// Walks the entries of one folder in the order in which the system gives them, "." and ".." left out.
+/// Walks the entries of one folder in the order in which the system gives them.
 ///
 ///     for (FolderListing listing(path); listing.Next();)
 ///         use(listing.Name(), listing.Kind());
 class VYR_PLATFORM_API FolderListing
 {
 public:
+    /// What becomes of the entries "." and "..".
+    enum class Dots : std::uint8_t
+    {
+        LeftOut,
+        /// Given where the system gives them (the root folder of a Windows drive has none).
+        Given
+    };
+
     /// Opens the folder at `path`. Where that fails, Next answers false at once and Error says why.
-    explicit FolderListing(const CString& path);
+    explicit FolderListing(const CString& path, Dots dots = Dots::LeftOut);
     FolderListing(const FolderListing&) = delete;
     FolderListing& operator=(const FolderListing&) = delete;
     ~FolderListing();

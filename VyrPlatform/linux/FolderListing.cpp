@@ -18,6 +18,7 @@ using FileSystem::Kind;
 struct FolderListing::State
 {
     DIR* folder = nullptr;
+    Dots dots = Dots::LeftOut;
     CString name;
     FileSystem::Kind kind = FileSystem::Kind::Missing;
     bool isLink = false;
@@ -40,8 +41,9 @@ mode_t AskType(DIR* folder, const char* name, int flags) noexcept
 
 } // namespace
 
-FolderListing::FolderListing(const CString& path) : m_state(std::make_unique<State>())
+FolderListing::FolderListing(const CString& path, Dots dots) : m_state(std::make_unique<State>())
 {
+    m_state->dots = dots;
     m_state->folder = opendir(NativePath(path).Get());
     if (!m_state->folder)
         m_state->error = static_cast<std::uint32_t>(errno);
@@ -61,7 +63,7 @@ bool FolderListing::Next()
     do {
         errno = 0;
         entry = readdir(m_state->folder);
-    } while (entry && IsDots(entry->d_name));
+    } while (entry && m_state->dots == Dots::LeftOut && IsDots(entry->d_name));
     if (!entry) {
         m_state->error = static_cast<std::uint32_t>(errno);
         return false;

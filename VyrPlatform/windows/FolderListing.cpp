@@ -19,6 +19,7 @@ struct FolderListing::State
     WIN32_FIND_DATAW found{};
     /// The system gave `found` with the opening, and Next has not handed it out.
     bool isPending = false;
+    Dots dots = Dots::LeftOut;
     CString name;
     FileSystem::Kind kind = FileSystem::Kind::Missing;
     bool isLink = false;
@@ -37,23 +38,27 @@ bool EndsWithSeparator(const CString& path) noexcept
     return !path.IsEmpty() && FileSystem::IsSeparator(path[path.GetLength() - 1]);
 }
 
-CString Combine(const CString& folder, const CString& name)
+CString JoinPath(const CString& folder, const CString& name)
 {
     return CString::Join({folder, EndsWithSeparator(folder) ? u"" : uR"(\)", name});
 }
 
 } // namespace
 
-FolderListing::FolderListing(const CString& path) : m_state(std::make_unique<State>())
+FolderListing::FolderListing(const CString& path, Dots dots) : m_state(std::make_unique<State>())
 {
+    m_state->dots = dots;
     m_state->folder = path;
     const LongPath pattern(path, EndsWithSeparator(path) ? u"*" : uR"(\*)");
     m_state->search = FindFirstFileExW(pattern.Get(), FindExInfoBasic, &m_state->found, FindExSearchNameMatch, nullptr,
                                        FIND_FIRST_EX_LARGE_FETCH);
     m_state->isPending = m_state->search != INVALID_HANDLE_VALUE;
+    if (m_state->isPending)
+        return;
+    m_state->error = GetLastError();
     // The root folder of an empty drive has no entries at all, not even dots.
-    if (!m_state->isPending && (GetLastError() != ERROR_FILE_NOT_FOUND || !FileSystem::IsFolder(path)))
-        m_state->error = GetLastError();
+    if (m_state->error == ERROR_FILE_NOT_FOUND && FileSystem::IsFolder(path))
+        m_state->error = ERROR_SUCCESS;
 }
 
 FolderListing::~FolderListing()
@@ -73,11 +78,11 @@ bool FolderListing::Next()
             return false;
         }
         m_state->isPending = false;
-    } while (IsDots(m_state->found.cFileName));
+    } while (m_state->dots == Dots::LeftOut && IsDots(m_state->found.cFileName));
     m_state->name = FromWide(m_state->found.cFileName);
     m_state->isLink = VyrPlatform::IsLink(m_state->found);
     if (m_state->isLink)
-        m_state->kind = FileSystem::Query(Combine(m_state->folder, m_state->name)).kind;
+        m_state->kind = FileSystem::Query(JoinPath(m_state->folder, m_state->name)).kind;
     else
         m_state->kind = m_state->found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY ? Kind::Folder : Kind::File;
     return true;

@@ -1,0 +1,14 @@
+// Where a file is made before it takes the place of another.
+#pragma once
+
+#include <VyrPlatform/CString.h>
+
+namespace VyrPlatform {
+
+/// The folder in which `path` stands, with the separator at its end; empty for a bare name.
+[[nodiscard]] CString GetFolderOf(const CString& path);
+
+/// A path in the folder of `path` that nothing has yet, as far as chance can tell.
+[[nodiscard]] CString MakeTemporaryPath(const CString& path);
+
+} // namespace VyrPlatform

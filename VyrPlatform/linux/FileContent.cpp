@@ -1,0 +1,104 @@
+// Copies file contents: shared blocks, the kernel's own copy, or a buffer.
+#include "FileContent.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <limits>
+#include <linux/fs.h>
+#include <memory>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+namespace VyrPlatform {
+
+namespace {
+
+constexpr off_t endOfFile = std::numeric_limits<off_t>::max();
+
+int WriteAt(int target, off_t offset, const std::byte* bytes, std::size_t count)
+{
+    while (count > 0) {
+        const ssize_t written = pwrite(target, bytes, count, offset);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 0)
+            return errno;
+        offset += written;
+        bytes += written;
+        count -= static_cast<std::size_t>(written);
+    }
+    return 0;
+}
+
+/// Copies from `offset` to `end`, or to the end of the file if that comes first.
+int CopyThroughBuffer(int source, int target, off_t offset, off_t end)
+{
+    constexpr off_t bufferSize = 256 * 1024;
+    std::unique_ptr<std::byte[]> buffer;
+    std::byte firstBytes[4096];
+    while (offset < end) {
+        // A file that has been copied already ends here, and so is asked for with little.
+        const off_t room = buffer ? bufferSize : static_cast<off_t>(sizeof firstBytes);
+        std::byte* const bytes = buffer ? buffer.get() : firstBytes;
+        const ssize_t count = pread(source, bytes, static_cast<std::size_t>(std::min(room, end - offset)), offset);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return count == 0 ? 0 : errno;
+        if (const int error = WriteAt(target, offset, bytes, static_cast<std::size_t>(count)))
+            return error;
+        offset += count;
+        if (!buffer)
+            buffer = std::make_unique_for_overwrite<std::byte[]>(bufferSize);
+    }
+    return 0;
+}
+
+/// Like CopyThroughBuffer, within the kernel as far as it can. What it cannot, and files that tell no size but have
+/// content (those of /proc), go through the buffer, which also tells a true error.
+int CopyRange(int source, int target, off_t offset, off_t end)
+{
+    constexpr off_t longestCall = 1 << 30;
+    while (offset < end) {
+        off_t from = offset;
+        off_t to = offset;
+        const auto wanted = static_cast<std::size_t>(std::min(longestCall, end - offset));
+        const ssize_t count = copy_file_range(source, &from, target, &to, wanted, 0);
+        if (count <= 0)
+            break;
+        offset += count;
+    }
+    return CopyThroughBuffer(source, target, offset, end);
+}
+
+/// Copies what lies between the holes of a file of `size` bytes.
+int CopyData(int source, int target, off_t size)
+{
+    off_t position = 0;
+    while (position < size) {
+        const off_t data = lseek(source, position, SEEK_DATA);
+        if (data < 0 && errno == ENXIO)
+            break;
+        if (data < 0)
+            return CopyRange(source, target, position, endOfFile);
+        const off_t hole = lseek(source, data, SEEK_HOLE);
+        position = hole > data ? hole : size;
+        if (const int error = CopyRange(source, target, data, position))
+            return error;
+    }
+    return ftruncate(target, size) == 0 ? 0 : errno;
+}
+
+} // namespace
+
+int CopyContent(int source, int target, const struct stat& status)
+{
+    constexpr off_t blockSize = 512;
+    if (status.st_size > 0 && ioctl(target, FICLONE, source) == 0)
+        return 0;
+    const bool hasHoles = status.st_blocks < status.st_size / blockSize;
+    return hasHoles ? CopyData(source, target, status.st_size) : CopyRange(source, target, 0, endOfFile);
+}
+
+} // namespace VyrPlatform
