@@ -22,7 +22,7 @@ configure_package_config_file(cmake/VyrLibraryConfig.cmake.in "${CMAKE_BINARY_DI
 write_basic_package_version_file("${CMAKE_BINARY_DIR}/VyrLibraryConfigVersion.cmake" COMPATIBILITY SameMinorVersion)
 install(FILES
   "${CMAKE_BINARY_DIR}/VyrLibraryConfig.cmake" "${CMAKE_BINARY_DIR}/VyrLibraryConfigVersion.cmake"
-  #VYR  cmake/VyrVersionInfo.cmake
+  cmake/VyrVersionInfo.cmake
   DESTINATION "${package_folder}")
 
 # pkg-config's files, which name no folder that installing elsewhere would make wrong.
