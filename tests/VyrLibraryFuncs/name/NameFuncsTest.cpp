@@ -1,0 +1,146 @@
+// The rename engine's entrance: the dispatcher, the split operations and whether a clash is numbered.
+#include <VyrLibraryFuncs/name/NameFuncs.h>
+
+#include <tests/support/ScratchFolder.h>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <type_traits>
+
+using VyrLibraryFuncs::NameFuncs;
+
+namespace {
+
+constexpr int smallest = std::numeric_limits<int>::min();
+constexpr int largest = std::numeric_limits<int>::max();
+
+/// An item that each rename kind gives another path.
+NameFuncs::ITEM OfKind(int renameType)
+{
+    NameFuncs::ITEM item;
+    item.filePath = u"/d/Name.Txt";
+    item.dirPath = u"/d/";
+    item.fileName = u"Name";
+    item.extension = u".Txt";
+    item.renameType = renameType;
+    item.numberText1 = u"n";
+    item.dateTimeTarget = 4;
+    item.dateTimeFormat = u"yyyy";
+    item.addText = u"+";
+    item.convertType = 1;
+    item.findText = u"me";
+    item.replaceText = u"tion";
+    return item;
+}
+
+} // namespace
+
+TEST(NameFuncs, EachKindCallsItsComputation)
+{
+    EXPECT_EQ(NameFuncs::GetRenameFilePath(OfKind(0)), u"/d/n0.Txt");
+    EXPECT_EQ(NameFuncs::GetRenameFilePath(OfKind(1)), u"/d/1899.Txt");
+    EXPECT_EQ(NameFuncs::GetRenameFilePath(OfKind(2)), u"/d/+Name.Txt");
+    EXPECT_EQ(NameFuncs::GetRenameFilePath(OfKind(3)), u"/d/NAME.Txt");
+    EXPECT_EQ(NameFuncs::GetRenameFilePath(OfKind(4)), u"/d/Nation.Txt");
+    EXPECT_EQ(NameFuncs::GetRenameFilePath(OfKind(5)), u"/d/Name.TXT");
+}
+
+TEST(NameFuncs, UnknownKindGivesAnEmptyPath)
+{
+    for (const int kind : {6, 7, -1, smallest, largest})
+        EXPECT_TRUE(NameFuncs::GetRenameFilePath(OfKind(kind)).IsEmpty()) << kind;
+}
+
+TEST(NameFuncs, TextsOfTheCallerDecideNothing)
+{
+    for (int kind = -1; kind <= 6; ++kind) {
+        NameFuncs::ITEM item = OfKind(kind);
+        const CString path = NameFuncs::GetRenameFilePath(item);
+        item.auxText1 = u"/d/Name.Txt";
+        item.auxText2 = u"<Folder>%s";
+        item.auxText3 = CString(u'x', 10000);
+        item.auxText4 = u"\xDC80";
+        EXPECT_EQ(NameFuncs::GetRenameFilePath(item), path);
+    }
+}
+
+TEST(NameFuncs, ComputationsReadOnlyWhatTheCallerSplit)
+{
+    NameFuncs::ITEM item = OfKind(4);
+    item.filePath = u"/elsewhere/other.png";
+    EXPECT_EQ(NameFuncs::GetRenameFilePath(item), u"/d/Nation.Txt");
+}
+
+TEST(NameFuncs, CallersRecordIsLeftAsItIs)
+{
+    const NameFuncs::ITEM item = OfKind(3);
+    EXPECT_EQ(NameFuncs::GetRenameFilePath(item), u"/d/NAME.Txt");
+    EXPECT_EQ(item.fileName, u"Name");
+}
+
+TEST(NameFuncs, ClashesAreNumberedForNumbersDatesEditsAndNewExtensions)
+{
+    for (const int extensionType : {-1, 0, 1, 2, 3}) {
+        for (const int kind : {-1, 0, 1, 2, 3, 4, 6, smallest, largest}) {
+            NameFuncs::ITEM item = OfKind(kind);
+            item.extensionType = extensionType;
+            EXPECT_EQ(NameFuncs::IsResolveConflict(item), kind >= 0 && kind <= 2 ? 1 : 0) << kind;
+        }
+        NameFuncs::ITEM item = OfKind(5);
+        item.extensionType = extensionType;
+        EXPECT_EQ(NameFuncs::IsResolveConflict(item), extensionType == 2 ? 1 : 0) << extensionType;
+    }
+}
+
+TEST(NameFuncs, DottedNameIsCutForAFileAndWholeForAFolder)
+{
+    const VyrTests::ScratchFolder scratch;
+    const CString file = scratch.WriteFile(u"b.c", "");
+    const CString folder = scratch.MakeFolder(u"f.c");
+    EXPECT_EQ(NameFuncs::GetFName(file), u"b");
+    EXPECT_EQ(NameFuncs::GetExtension(file), u".c");
+    EXPECT_EQ(NameFuncs::GetFName(folder), u"f.c");
+    EXPECT_EQ(NameFuncs::GetExtension(folder), u"");
+}
+
+TEST(NameFuncs, PathWithoutAnEntryIsSplitAsAFile)
+{
+    EXPECT_EQ(NameFuncs::GetFName(u"C:\\a\\b.c"), u"b");
+    EXPECT_EQ(NameFuncs::GetExtension(u"C:\\a\\b.c"), u".c");
+    EXPECT_EQ(NameFuncs::GetFName(u""), u"");
+    EXPECT_EQ(NameFuncs::GetExtension(u""), u"");
+}
+
+TEST(NameFuncs, NameWithoutADotHasNoExtension)
+{
+    const VyrTests::ScratchFolder scratch;
+    const CString file = scratch.WriteFile(u"README", "");
+    EXPECT_EQ(NameFuncs::GetFName(file), u"README");
+    EXPECT_EQ(NameFuncs::GetExtension(file), u"");
+}
+
+TEST(NameFuncs, ExtensionRenameLeavesAFolderUnchanged)
+{
+    const VyrTests::ScratchFolder scratch;
+    NameFuncs::ITEM item = OfKind(5);
+    item.filePath = scratch.MakeFolder(u"f.c");
+    item.extension = u".c";
+    for (const int type : {0, 1, 2, 3}) {
+        item.extensionType = type;
+        EXPECT_EQ(NameFuncs::GetRenameFilePath(item), item.filePath) << type;
+    }
+}
+
+TEST(NameFuncs, RecordsAreEmptyAndZeroUntilFilled)
+{
+    const NameFuncs::ITEM item;
+    EXPECT_EQ(item.filePath, u"");
+    EXPECT_EQ(item.newExtension, u"");
+    EXPECT_EQ(item.renameType, 0);
+    EXPECT_EQ(item.extensionType, 0);
+    const NameFuncs::CONFLICTITEM conflict;
+    EXPECT_EQ(conflict.numberFormat, u"");
+    EXPECT_EQ(conflict.step, 0);
+    EXPECT_TRUE(std::is_aggregate_v<NameFuncs::ITEM>);
+}

@@ -1,0 +1,170 @@
+// The libraries as a host meets them that loads them while it runs: every published name is there, calls work, and
+// nothing is left after unloading.
+#include <VyrLibraryFuncs/frame/VyrLibraryFuncsApp.h>
+#include <VyrLibraryFuncs/name/NameFuncs.h>
+
+#include <tests/support/DynamicLibrary.h>
+
+#include "PublishedClasses.h"
+
+#include <gtest/gtest.h>
+
+#include <cxxabi.h>
+
+#include <cstdlib>
+#include <map>
+#include <memory>
+#include <set>
+
+using VyrLibraryFuncs::NameFuncs;
+using VyrTests::DynamicLibrary;
+
+namespace {
+
+const std::string libraryNames[] = {"VyrLibraryUtils", "VyrLibraryFuncs"};
+
+std::string Demangled(const std::string& symbol)
+{
+    int status = 0;
+    const std::unique_ptr<char, decltype(&std::free)> name(
+        abi::__cxa_demangle(symbol.c_str(), nullptr, nullptr, &status), &std::free);
+    return status == 0 ? name.get() : symbol;
+}
+
+/// The library's exports: the readable form of each, and its symbol.
+std::map<std::string, std::string> ReadableExports(const DynamicLibrary& library)
+{
+    std::map<std::string, std::string> exports;
+    for (const std::string& symbol : library.Exports())
+        exports.emplace(Demangled(symbol), symbol);
+    return exports;
+}
+
+/// How many exports are called `name`, whatever their arguments.
+int CountOverloads(const std::map<std::string, std::string>& exports, const std::string& name)
+{
+    const std::string start = name + '(';
+    int count = 0;
+    for (auto found = exports.lower_bound(start); found != exports.end() && found->first.starts_with(start); ++found)
+        ++count;
+    return count;
+}
+
+/// The function whose readable name is `name`, as a pointer of the type that the caller knows it has.
+template <class Function>
+Function* Get(const DynamicLibrary& library, const std::string& name)
+{
+    const std::map<std::string, std::string> exports = ReadableExports(library);
+    const auto found = exports.find(name);
+    return found == exports.end() ? nullptr : reinterpret_cast<Function*>(library.Find(found->second));
+}
+
+std::vector<PublishedClass> ClassesOf(const std::string& library)
+{
+    return ReadPublishedClasses(std::filesystem::path(VYR_SOURCE_FOLDER) / library);
+}
+
+} // namespace
+
+TEST(LibraryLoad, HeadersPublishTheClassesThatTheTestsKnow)
+{
+    std::set<std::string> names;
+    for (const std::string& library : libraryNames)
+        for (const PublishedClass& published : ClassesOf(library))
+            names.insert(published.name);
+    for (const char* const name :
+         {"VyrLibraryFuncs::NameFuncs", "VyrLibraryUtils::FileUtils", "VyrLibraryUtils::FolderUtils",
+          "VyrLibraryUtils::StringUtils", "VyrLibraryUtils::DateTimeUtils"})
+        EXPECT_TRUE(names.contains(name)) << name;
+}
+
+TEST(LibraryLoad, EveryOperationOfEveryPublishedClassIsExported)
+{
+    for (const std::string& name : libraryNames) {
+        const DynamicLibrary library(name);
+        ASSERT_TRUE(library.IsLoaded()) << name;
+        const std::map<std::string, std::string> exports = ReadableExports(library);
+        for (const PublishedClass& published : ClassesOf(name))
+            for (const auto& [operation, overloads] : published.operations)
+                EXPECT_EQ(CountOverloads(exports, published.name + "::" + operation), overloads)
+                    << published.name << "::" << operation;
+    }
+}
+
+TEST(LibraryLoad, EveryPublishedClassIsConstructedAssignedAndDestroyedByName)
+{
+    for (const std::string& libraryName : libraryNames) {
+        const DynamicLibrary library(libraryName);
+        ASSERT_TRUE(library.IsLoaded()) << libraryName;
+        for (const PublishedClass& published : ClassesOf(libraryName)) {
+            const std::string bareName = published.name.substr(published.name.rfind(':') + 1);
+            const std::string member = published.name + "::";
+            auto* const construct = Get<void(void*)>(library, member + bareName + "()");
+            auto* const destroy = Get<void(void*)>(library, member + "~" + bareName + "()");
+            auto* const assign =
+                Get<void*(void*, const void*)>(library, member + "operator=(" + published.name + " const&)");
+            ASSERT_TRUE(construct && destroy && assign) << published.name;
+            // The classes carry no state: one byte is all that an object has.
+            char first = 0;
+            char second = 0;
+            construct(&first);
+            construct(&second);
+            EXPECT_EQ(assign(&first, &second), &first) << published.name;
+            destroy(&second);
+            destroy(&first);
+        }
+    }
+}
+
+TEST(LibraryLoad, OperationsAreCalledByName)
+{
+    const DynamicLibrary library("VyrLibraryFuncs");
+    ASSERT_TRUE(library.IsLoaded());
+
+    auto* const folderFormat = Get<CString(CString)>(library, "VyrLibraryFuncs::NameFuncs::GetFolderFormat(CString)");
+    ASSERT_TRUE(folderFormat);
+    EXPECT_EQ(folderFormat(u"<Folder>x<Folder>"), u"\\x\\");
+
+    auto* const renamed = Get<CString(NameFuncs::ITEM)>(
+        library, "VyrLibraryFuncs::NameFuncs::GetRenameFilePath(VyrLibraryFuncs::NameFuncs::ITEM)");
+    ASSERT_TRUE(renamed);
+    NameFuncs::ITEM item;
+    item.dirPath = u"/d/";
+    item.numberText1 = u"a";
+    item.digits = 3;
+    item.extension = u".txt";
+    EXPECT_EQ(renamed(item), u"/d/a000.txt");
+
+    auto* const isNumbered = Get<int(NameFuncs::ITEM)>(
+        library, "VyrLibraryFuncs::NameFuncs::IsResolveConflict(VyrLibraryFuncs::NameFuncs::ITEM)");
+    ASSERT_TRUE(isNumbered);
+    EXPECT_EQ(isNumbered(item), 1);
+}
+
+TEST(LibraryLoad, ApplicationObjectSaysThatTheLibraryMayBeUsed)
+{
+    const DynamicLibrary library("VyrLibraryFuncs");
+    ASSERT_TRUE(library.IsLoaded());
+    auto* const construct = Get<void(void*)>(library, "CVyrLibraryFuncsApp::CVyrLibraryFuncsApp()");
+    auto* const initialise = Get<int(void*)>(library, "CVyrLibraryFuncsApp::InitInstance()");
+    auto* const destroy = Get<void(void*)>(library, "CVyrLibraryFuncsApp::~CVyrLibraryFuncsApp()");
+    ASSERT_TRUE(construct && initialise && destroy);
+    alignas(CVyrLibraryFuncsApp) char application[sizeof(CVyrLibraryFuncsApp)];
+    construct(application);
+    EXPECT_EQ(initialise(application), 1);
+    destroy(application);
+}
+
+TEST(LibraryLoad, NothingIsLeftInTheProcessAfterUnloading)
+{
+    for (int round = 0; round < 3; ++round) {
+        {
+            const DynamicLibrary library("VyrLibraryFuncs");
+            ASSERT_TRUE(library.IsLoaded());
+            EXPECT_TRUE(DynamicLibrary::IsInProcess("VyrLibraryFuncs"));
+            EXPECT_TRUE(DynamicLibrary::IsInProcess("VyrLibraryUtils")) << "loaded with the library that needs it";
+        }
+        EXPECT_FALSE(DynamicLibrary::IsInProcess("VyrLibraryFuncs"));
+        EXPECT_FALSE(DynamicLibrary::IsInProcess("VyrLibraryUtils"));
+    }
+}
