@@ -7,6 +7,7 @@
 #include <VyrPlatform/CString.h>
 
 #include <list>
+#include <string>
 
 namespace VyrLibraryFuncs {
 
@@ -180,8 +181,9 @@ private:
     static CString ComputeReplaceFilePath(const ITEM& item);
     static CString ComputeExtensionFilePath(const ITEM& item);
 
-    static CString GetSequenceNumber(int digits, int number);
-    static CString GetScaleString(int digits, int number);
+    // A number's text is mostly so short that std::u16string needs no allocation for it.
+    static std::u16string GetSequenceNumber(int digits, int number);
+    static std::u16string GetScaleString(int digits, int number);
     static COleDateTime GetSelectedDateTime(const CString& path, int target);
     static CString WriteSelectedDateTime(const CString& path, const CString& format, int target);
     static CString GetResolveConflictNumber(const CString& format, int number);

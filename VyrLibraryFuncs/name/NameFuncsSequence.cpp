@@ -3,7 +3,6 @@
 
 #include <VyrPlatform/MessageQueue.h>
 
-#include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <iterator>
@@ -36,7 +35,7 @@ CString NameFuncs::GetSequenceNumberFilePath(ITEM item)
 
 CString NameFuncs::ComputeSequenceNumberFilePath(const ITEM& item)
 {
-    const CString number = GetSequenceNumber(item.digits, NumberOf(item));
+    const std::u16string number = GetSequenceNumber(item.digits, NumberOf(item));
     switch (item.numberPosition) {
     case 0:
         return CString::Join({item.dirPath, item.numberText1, number, item.extension});
@@ -54,27 +53,26 @@ CString NameFuncs::ComputeSequenceNumberFilePath(const ITEM& item)
 }
 
 /// The decimal text of `number`, with zeros in front of it (and of its minus sign) up to `digits`.
-CString NameFuncs::GetSequenceNumber(int digits, int number)
+std::u16string NameFuncs::GetSequenceNumber(int digits, int number)
 {
-    char text[std::numeric_limits<int>::digits10 + 2];
-    const char* const end = std::to_chars(text, std::end(text), number).ptr;
-    char16_t wide[std::size(text)];
-    CString result = GetScaleString(digits, number);
-    result += std::u16string_view(wide, std::copy(static_cast<const char*>(text), end, wide));
-    return result;
+    char digitsOfNumber[std::numeric_limits<int>::digits10 + 2];
+    const char* const end = std::to_chars(digitsOfNumber, std::end(digitsOfNumber), number).ptr;
+    std::u16string text = GetScaleString(digits, number);
+    text.append(static_cast<const char*>(digitsOfNumber), end);
+    return text;
 }
 
 /// One zero for each of the powers 10 to 10^(digits - 1) that is above `number`; fewer when a stop is asked for.
-CString NameFuncs::GetScaleString(int digits, int number)
+std::u16string NameFuncs::GetScaleString(int digits, int number)
 {
-    int zeros = 0;
+    std::size_t zeros = 0;
     std::int64_t scale = 1;
     for (int power = 1; power < digits && !VyrPlatform::MessageQueue::DrainOne(); ++power) {
         scale = NextScale(scale);
         if (number < scale)
             ++zeros;
     }
-    return CString(u'0', zeros);
+    return std::u16string(zeros, u'0');
 }
 
 } // namespace VyrLibraryFuncs
