@@ -31,6 +31,8 @@ function(vyr_add_component name)
   target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}" FILES ${headers})
   target_link_libraries(${name} PRIVATE VyrCompileRules)
   target_compile_features(${name} PUBLIC cxx_std_20)
+  # A library that holds symbols of GNU's unique kind stays in the process for ever; a host may unload ours.
+  target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
   set_target_properties(${name} PROPERTIES
     EXPORT_NAME ${component_EXPORT_NAME} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
   if(WIN32)

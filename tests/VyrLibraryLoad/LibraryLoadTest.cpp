@@ -23,12 +23,17 @@ namespace {
 
 const std::string libraryNames[] = {"VyrLibraryUtils", "VyrLibraryFuncs"};
 
+/// The symbol as the source spells it, without the compiler's note about its library's strings.
 std::string Demangled(const std::string& symbol)
 {
     int status = 0;
-    const std::unique_ptr<char, decltype(&std::free)> name(
+    const std::unique_ptr<char, decltype(&std::free)> demangled(
         abi::__cxa_demangle(symbol.c_str(), nullptr, nullptr, &status), &std::free);
-    return status == 0 ? name.get() : symbol;
+    std::string name = status == 0 ? demangled.get() : symbol;
+    const std::string note = "[abi:cxx11]";
+    for (std::size_t found; (found = name.find(note)) != std::string::npos;)
+        name.erase(found, note.size());
+    return name;
 }
 
 /// The library's exports: the readable form of each, and its symbol.

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <limits>
@@ -45,8 +46,9 @@ std::string ExpectedNumberText(int digits, int number)
 {
     if (number < 0)
         return std::string(static_cast<std::size_t>(digits > 1 ? digits - 1 : 0), '0') + std::to_string(number);
-    char text[64];
-    std::snprintf(text, sizeof text, "%0*d", digits > 0 ? digits : 0, number);
+    std::string text(static_cast<std::size_t>(std::max(digits, 16)), ' ');
+    text.resize(
+        static_cast<std::size_t>(std::snprintf(text.data(), text.size() + 1, "%0*d", std::max(digits, 0), number)));
     return text;
 }
 
@@ -179,17 +181,33 @@ TEST(NameFuncsSequence, NumberWrapsInThirtyTwoBits)
 
 TEST(NameFuncsSequence, AStopEndsThePaddingAtOnce)
 {
-    VyrTests::PostStop();
+    const VyrTests::MessagePosting queue;
+    queue.PostStop();
     EXPECT_EQ(NumberText(5, 1), "1");
     EXPECT_EQ(NumberText(5, 1), "00001") << "the stop was told already";
 }
 
 TEST(NameFuncsSequence, EachStepOfThePaddingHandlesOneEvent)
 {
+    const VyrTests::MessagePosting queue;
     int handled = 0;
     for (int i = 0; i < 3; ++i)
-        VyrTests::PostWork([&handled] { ++handled; });
-    VyrTests::PostStop();
+        queue.PostWork([&handled] { ++handled; });
+    queue.PostStop();
     EXPECT_EQ(NumberText(8, 1), "0001");
     EXPECT_EQ(handled, 3);
+}
+
+TEST(NameFuncsSequence, NoPaddingHandlesNoEvent)
+{
+    const VyrTests::MessagePosting queue;
+    queue.PostStop();
+    EXPECT_EQ(NumberText(1, 5), "5");
+    EXPECT_EQ(NumberText(2, 5), "5") << "only now the stop is told";
+    EXPECT_EQ(NumberText(2, 5), "05");
+}
+
+TEST(NameFuncsSequence, LongPaddingIsComplete)
+{
+    EXPECT_EQ(NumberText(900, 42), ExpectedNumberText(900, 42));
 }
