@@ -165,6 +165,8 @@ public:
     /// Copies what stands in the folder `source` into the folder `destination`, folders with their contents; existing
     /// files are overwritten.
     /// @param records  gets a record for each folder that was created, a parent before its children. Never cleared.
+    /// Null:
+    ///        nothing is recorded.
     /// @return whether the last copy succeeded (1 or 0); 0 when there was nothing to copy. A stop does not end the
     /// walk.
     static int CopyFolder(CString source, CString destination, std::list<RENAMEITEM>* records);

@@ -36,11 +36,11 @@ CString WritePicture(const ScratchFolder& scratch)
     return scratch.WriteFile(u"picture.jpg", VyrTests::BuildJpeg(facts));
 }
 
-CString LocalTimeText(const char* format)
+CString LocalTimeText()
 {
     const std::time_t now = std::time(nullptr);
     char text[100];
-    const std::size_t length = std::strftime(text, sizeof text, format, std::localtime(&now));
+    const std::size_t length = std::strftime(text, sizeof text, "%Y%m%d_%H%M%S", std::localtime(&now));
     return CString(std::u16string(text, text + length));
 }
 
@@ -57,9 +57,9 @@ TEST(NameFuncsFormat, SampleFollowsTheSystemsClock)
     CString before;
     CString sample;
     do {
-        before = LocalTimeText("%Y%m%d%H%M%S");
-        sample = NameFuncs::GetRenameToSampleFormated(u"yyyyMMddHHmmss");
-    } while (before != LocalTimeText("%Y%m%d%H%M%S"));
+        before = LocalTimeText();
+        sample = NameFuncs::GetRenameToSampleFormated(u"yyyyMMdd_HHmmss");
+    } while (before != LocalTimeText());
     EXPECT_EQ(sample, before);
 }
 
