@@ -8,47 +8,31 @@
 #include <cstdint>
 #include <string_view>
 
-namespace VyrPlatform {
+namespace VyrPlatform::DurableFile {
 
-/// A file that is written at its end alone, for its owner's eyes.
-class VYR_PLATFORM_API DurableFile
-{
-public:
-    enum class Opening : std::uint8_t
-    {
-        /// Makes the file; one that exists is an error.
-        New,
-        /// Opens a file that exists.
-        Existing
-    };
+/// Makes the file `path`, for its owner's eyes alone, with `content`, and waits until that is on the disk. The name is
+/// there for good only after FlushFolder.
+/// @return 0, else the system's error code (a file that exists already is an error), and then no file of this call is
+/// left.
+[[nodiscard]] VYR_PLATFORM_API std::uint32_t WriteNew(const CString& path, std::string_view content);
 
-    /// Opens the file at `path`; IsOpen tells whether that succeeded, Error why not.
-    DurableFile(const CString& path, Opening opening);
-    DurableFile(const DurableFile&) = delete;
-    DurableFile& operator=(const DurableFile&) = delete;
-    ~DurableFile();
+/// Writes `content` behind what the file `path` holds, and waits until that is on the disk.
+/// @return 0, else the system's error code; a part of `content` may then have been written.
+[[nodiscard]] VYR_PLATFORM_API std::uint32_t Append(const CString& path, std::string_view content);
 
-    [[nodiscard]] bool IsOpen() const noexcept { return m_error == 0; }
-    /// The system's error code when the file did not open, else 0.
-    [[nodiscard]] std::uint32_t Error() const noexcept { return m_error; }
+/// Takes the file `path` away.
+/// @return 0, else the system's error code.
+[[nodiscard]] VYR_PLATFORM_API std::uint32_t Remove(const CString& path);
 
-    /// Writes `bytes` behind what the file holds.
-    /// @return 0 when all were taken, else the system's error code.
-    [[nodiscard]] std::uint32_t Append(std::string_view bytes);
-    /// Waits until everything written is on the disk.
-    /// @return 0, else the system's error code.
-    [[nodiscard]] std::uint32_t Flush();
-
-private:
-    std::intptr_t m_handle = -1;
-    std::uint32_t m_error = 0;
-};
-
-/// Waits until the names in the folder at `path` are on the disk (which Windows sees to by itself).
+/// Waits until the names in the folder `path` are on the disk (on Windows the file system sees to that by itself).
 /// @return 0, else the system's error code.
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t FlushFolder(const CString& path);
 
-/// A lock between programs: held until the object, or the program in whatever way, ends.
+} // namespace VyrPlatform::DurableFile
+
+namespace VyrPlatform {
+
+/// A lock between programs: held until the object ends, or the program in whatever way.
 class VYR_PLATFORM_API FileLock
 {
 public:
