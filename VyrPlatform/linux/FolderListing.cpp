@@ -69,7 +69,7 @@ bool FolderListing::Next()
         return false;
     }
     m_state->name = Encoding::FromNameBytes(entry->d_name);
-    mode_t type = DTTOIF(entry->d_type);
+    auto type = static_cast<mode_t>(DTTOIF(entry->d_type));
     if (entry->d_type == DT_UNKNOWN)
         type = AskType(m_state->folder, entry->d_name, AT_SYMLINK_NOFOLLOW);
     m_state->isLink = S_ISLNK(type);

@@ -1,5 +1,5 @@
-// A version note that claims to be longer than the program, in the place where a program's own stands. Linked into a copy
-// of the probe, which shows no version then.
+// A version note that claims to be longer than the program, in the place where a program's own stands. Linked into a
+// copy of the probe, which shows no version then.
 asm(R"(
     .pushsection .note.Vyr, "a", %note
     .balign 4

@@ -1,5 +1,5 @@
-// Notes that a reader of versions must pass by, and a version note whose texts have no end, in the place where a program's
-// own stands. Linked into a copy of the probe, which shows no version then.
+// Notes that a reader of versions must pass by, and a version note whose texts have no end, in the place where a
+// program's own stands. Linked into a copy of the probe, which shows no version then.
 asm(R"(
     .pushsection .note.Vyr, "a", %note
     .balign 4
