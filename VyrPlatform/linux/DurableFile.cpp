@@ -1,0 +1,86 @@
+// Files whose content is on the disk, and the lock between programs, on Linux.
+#include <VyrPlatform/DurableFile.h>
+
+#include "Descriptor.h"
+#include "NativePath.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+
+namespace VyrPlatform {
+
+namespace {
+
+std::uint32_t LastError() noexcept
+{
+    return static_cast<std::uint32_t>(errno);
+}
+
+std::uint32_t Write(const Descriptor& file, std::string_view content) noexcept
+{
+    while (!content.empty()) {
+        const ssize_t written = write(file.Get(), content.data(), content.size());
+        if (written < 0 && errno != EINTR)
+            return LastError();
+        if (written > 0)
+            content.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return fdatasync(file.Get()) == 0 ? 0 : LastError();
+}
+
+std::uint32_t WriteAndClose(Descriptor& file, std::string_view content) noexcept
+{
+    const std::uint32_t error = Write(file, content);
+    const int closingError = file.Close();
+    return error ? error : static_cast<std::uint32_t>(closingError);
+}
+
+} // namespace
+
+std::uint32_t DurableFile::WriteNew(const CString& path, std::string_view content)
+{
+    const NativePath nativePath(path);
+    Descriptor file(open(nativePath.Get(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    if (!file.IsOpen())
+        return LastError();
+    const std::uint32_t error = WriteAndClose(file, content);
+    if (error)
+        unlink(nativePath.Get());
+    return error;
+}
+
+std::uint32_t DurableFile::Append(const CString& path, std::string_view content)
+{
+    Descriptor file(open(NativePath(path).Get(), O_WRONLY | O_APPEND | O_CLOEXEC));
+    return file.IsOpen() ? WriteAndClose(file, content) : LastError();
+}
+
+std::uint32_t DurableFile::Remove(const CString& path)
+{
+    return unlink(NativePath(path).Get()) == 0 ? 0 : LastError();
+}
+
+std::uint32_t DurableFile::FlushFolder(const CString& path)
+{
+    const Descriptor folder(open(NativePath(path).Get(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder.IsOpen())
+        return LastError();
+    // EINVAL: the file system writes its folders without being asked.
+    return fsync(folder.Get()) == 0 || errno == EINVAL ? 0 : LastError();
+}
+
+FileLock::FileLock(const CString& path) : m_handle(open(NativePath(path).Get(), O_RDWR | O_CREAT | O_CLOEXEC, 0600))
+{
+    if (m_handle >= 0 && flock(static_cast<int>(m_handle), LOCK_EX | LOCK_NB) == 0)
+        return;
+    m_error = LastError();
+    m_isTaken = m_handle >= 0 && m_error == EWOULDBLOCK;
+}
+
+FileLock::~FileLock()
+{
+    if (m_handle >= 0)
+        close(static_cast<int>(m_handle));
+}
+
+} // namespace VyrPlatform

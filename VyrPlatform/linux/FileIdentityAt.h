@@ -1,0 +1,11 @@
+// Looks at an entry by its name in an open folder.
+#pragma once
+
+#include <VyrPlatform/FileIdentity.h>
+
+namespace VyrPlatform {
+
+/// LookAtFile for `name` in the folder of the descriptor `folder` (AT_FDCWD: `name` is a path).
+[[nodiscard]] FileState LookAtFile(int folder, const char* name) noexcept;
+
+} // namespace VyrPlatform

@@ -1,0 +1,88 @@
+// Files whose content is on the disk, and the lock between programs, on Windows.
+#include <VyrPlatform/DurableFile.h>
+
+#include "LongPath.h"
+
+#include <algorithm>
+#include <windows.h>
+
+namespace VyrPlatform {
+
+namespace {
+
+DWORD WriteAll(HANDLE file, std::string_view content) noexcept
+{
+    constexpr std::size_t longestWrite = 0x4000'0000;
+    while (!content.empty()) {
+        DWORD written = 0;
+        const auto count = static_cast<DWORD>(std::min(content.size(), longestWrite));
+        if (!WriteFile(file, content.data(), count, &written, nullptr))
+            return GetLastError();
+        content.remove_prefix(written);
+    }
+    return FlushFileBuffers(file) ? ERROR_SUCCESS : GetLastError();
+}
+
+DWORD WriteAndClose(HANDLE file, std::string_view content) noexcept
+{
+    const DWORD error = WriteAll(file, content);
+    return CloseHandle(file) || error ? error : GetLastError();
+}
+
+} // namespace
+
+std::uint32_t DurableFile::WriteNew(const CString& path, std::string_view content)
+{
+    const LongPath longPath(path);
+    const HANDLE file = CreateFileW(longPath.Get(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return GetLastError();
+    const DWORD error = WriteAndClose(file, content);
+    if (error)
+        DeleteFileW(longPath.Get());
+    return error;
+}
+
+std::uint32_t DurableFile::Append(const CString& path, std::string_view content)
+{
+    const HANDLE file = CreateFileW(LongPath(path).Get(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return GetLastError();
+    if (!SetFilePointerEx(file, {}, nullptr, FILE_END)) {
+        const DWORD error = GetLastError();
+        CloseHandle(file);
+        return error;
+    }
+    return WriteAndClose(file, content);
+}
+
+std::uint32_t DurableFile::Remove(const CString& path)
+{
+    return DeleteFileW(LongPath(path).Get()) ? ERROR_SUCCESS : GetLastError();
+}
+
+std::uint32_t DurableFile::FlushFolder(const CString&)
+{
+    return ERROR_SUCCESS;
+}
+
+FileLock::FileLock(const CString& path)
+{
+    const HANDLE file =
+        CreateFileW(LongPath(path).Get(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    m_handle = reinterpret_cast<std::intptr_t>(file);
+    if (file != INVALID_HANDLE_VALUE)
+        return;
+    m_error = GetLastError();
+    m_isTaken = m_error == ERROR_SHARING_VIOLATION;
+}
+
+FileLock::~FileLock()
+{
+    if (IsHeld())
+        CloseHandle(reinterpret_cast<HANDLE>(m_handle));
+}
+
+} // namespace VyrPlatform
