@@ -51,6 +51,23 @@ bool IsCaseSensitive(HANDLE folder) noexcept
            (information.flags & caseSensitiveFolder);
 }
 
+/// Without linguistic rules this is the table of capitals that the file systems use, one unit to one.
+CString ToCapitals(const CString& name)
+{
+    std::wstring capitals(static_cast<std::size_t>(name.GetLength()), L'\0');
+    const int length = LCMapStringEx(LOCALE_NAME_INVARIANT, LCMAP_UPPERCASE, ToWide(name), name.GetLength(),
+                                     capitals.data(), name.GetLength(), nullptr, nullptr, 0);
+    return length == name.GetLength() ? FromWide(capitals) : name;
+}
+
+/// The normal form of composed letters, which is never longer.
+CString Compose(const CString& name)
+{
+    std::wstring composed(static_cast<std::size_t>(name.GetLength()), L'\0');
+    const int length = FoldStringW(MAP_PRECOMPOSED, ToWide(name), name.GetLength(), composed.data(), name.GetLength());
+    return length > 0 ? FromWide(std::wstring_view(composed).substr(0, static_cast<std::size_t>(length))) : name;
+}
+
 } // namespace
 
 NameFolding GetNameFolding(const CString& path)
@@ -65,15 +82,10 @@ NameFolding GetNameFolding(const CString& path)
 
 CString FoldName(const CString& name, NameFolding folding)
 {
-    // No file system of this system overlooks the normal form.
-    const bool foldsCase = folding == NameFolding::Case || folding == NameFolding::CaseAndForm;
-    if (!foldsCase || name.IsEmpty())
+    if (folding == NameFolding::None || name.IsEmpty())
         return name;
-    // Without linguistic rules this is the table of capitals that the file systems use, one unit to one.
-    std::wstring folded(static_cast<std::size_t>(name.GetLength()), L'\0');
-    const int length = LCMapStringEx(LOCALE_NAME_INVARIANT, LCMAP_UPPERCASE, ToWide(name), name.GetLength(),
-                                     folded.data(), name.GetLength(), nullptr, nullptr, 0);
-    return length == name.GetLength() ? FromWide(folded) : name;
+    const CString folded = folding == NameFolding::Case ? name : Compose(name);
+    return folding == NameFolding::Form ? folded : ToCapitals(folded);
 }
 
 } // namespace VyrPlatform

@@ -1,0 +1,120 @@
+/// @file
+/// Applying batches of renames, taking them back, and ending those that were cut off.
+#pragma once
+
+#include <VyrHost/RenameList.h>
+
+#include <VyrPlatform/CString.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace VyrHost {
+
+class FileOperations;
+
+enum class BatchState : std::uint8_t
+{
+    /// Its work has ended; what was done can be taken back.
+    Applied,
+    TakenBack,
+    /// It was cut off while it was applied.
+    CutOff,
+    /// It was cut off while it was taken back.
+    CutOffTakingBack,
+    /// Its journal cannot be read: the information's problem says why.
+    Damaged
+};
+
+/// What the journal tells of a batch.
+struct BatchInformation
+{
+    /// From 1 on, in the order of time.
+    std::uint32_t number = 0;
+    BatchState state = BatchState::Applied;
+    /// Local time as yyyy/MM/dd HH:mm:ss.
+    CString started;
+    /// How many renames it was to do.
+    std::size_t entries = 0;
+    /// The first of them.
+    CString firstFrom;
+    CString firstTo;
+    /// For people; empty unless the batch is damaged.
+    CString problem;
+};
+
+/// What became of one entry of a batch that is taken back or recovered.
+struct BatchEntry
+{
+    /// Its paths before the batch and after it.
+    CString before;
+    CString after;
+    RenameResult result;
+    /// The file was written to, or replaced by another, since the batch.
+    bool hasChanged = false;
+};
+
+/// What was done. Every entry counts in one of the four.
+struct BatchSummary
+{
+    /// The batch's number; 0 when none was begun.
+    std::uint32_t number = 0;
+    std::size_t done = 0;
+    std::size_t failed = 0;
+    std::size_t refused = 0;
+    std::size_t notReached = 0;
+    /// Entries that count as done, but that the folders do not list under their new names afterwards.
+    std::vector<CString> missing;
+    /// The work ended because it was asked to.
+    bool wasStopped = false;
+    /// Why nothing was begun, or why the batch could not be closed; empty when all is well.
+    CString error;
+};
+
+using BatchEntryReport = std::function<void(const BatchEntry& entry)>;
+
+/// Asked before each rename: whether to end the work after the one in hand.
+using StopRequest = std::function<bool()>;
+
+enum class Recovery : std::uint8_t
+{
+    /// Does what is left of what was cut off.
+    Finish,
+    /// Restores what was before it.
+    TakeBack
+};
+
+/// The batches of the user. One is worked on at a time, by one program: the others are told so in the summary's error.
+class Batches
+{
+public:
+    /// Keeps the journals in the folder that the environment variable VYR_JOURNAL_DIR names, else in the folder
+    /// "journal" of the product's folder for what a program keeps of its doings.
+    Batches();
+    /// For tests: acts through `files` and keeps the journals in `journalFolder`.
+    Batches(FileOperations& files, const CString& journalFolder);
+
+    /// Does `list`: journal on disk first, nothing ever overwritten, afterwards a look at the folders. `report` is
+    /// called once for each rename.
+    BatchSummary Apply(const RenameList& list, const RenameReport& report, const StopRequest& isStopAsked);
+
+    /// The batches in the journal, the latest first.
+    [[nodiscard]] std::vector<BatchInformation> List() const;
+    /// Takes back the batch `number`, or the latest one that is not taken back, in reverse order.
+    BatchSummary TakeBack(std::optional<std::uint32_t> number, const BatchEntryReport& report,
+                          const StopRequest& isStopAsked);
+
+    /// The batch that was cut off, if there is one that no running program works on.
+    [[nodiscard]] std::optional<BatchInformation> FindCutOff() const;
+    /// Ends the batch that was cut off.
+    BatchSummary Recover(Recovery recovery, const BatchEntryReport& report, const StopRequest& isStopAsked);
+
+private:
+    FileOperations* m_files;
+    CString m_journalFolder;
+};
+
+} // namespace VyrHost
