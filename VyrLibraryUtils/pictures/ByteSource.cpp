@@ -7,10 +7,11 @@
 namespace VyrLibraryUtils::Pictures {
 namespace {
 
-template <std::size_t Size>
-std::size_t Fill(const VyrPlatform::FileReader& file, std::uint64_t offset, std::array<char, Size>& buffer)
+/// Fills `buffer` from `offset` on, as far as the file reaches: asking for more would cost one more call.
+std::size_t Fill(const VyrPlatform::FileReader& file, std::uint64_t offset, std::span<char> buffer)
 {
-    return file.ReadAt(offset, std::as_writable_bytes(std::span(buffer)));
+    const std::uint64_t size = std::min<std::uint64_t>(buffer.size(), file.Size() - offset);
+    return file.ReadAt(offset, std::as_writable_bytes(buffer.first(static_cast<std::size_t>(size))));
 }
 
 } // namespace

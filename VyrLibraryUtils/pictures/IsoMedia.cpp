@@ -80,7 +80,7 @@ private:
     }
 
     Item NextItem();
-    ByteView NextExtent(const ByteView& origin);
+    std::optional<ByteView> NextExtent(const ByteView& origin);
     std::string Join(const Item& item, const ByteView& origin);
 
     ByteCursor m_cursor;
@@ -101,20 +101,28 @@ ItemLocations::Item ItemLocations::NextItem()
     return item;
 }
 
-/// The piece of `origin` that the extent at the cursor names; a length of 0 is all the rest.
-ByteView ItemLocations::NextExtent(const ByteView& origin)
+/// The piece of `origin` that the extent at the cursor names; a length of 0 is all the rest. Nothing unless all of it
+/// is there: what follows would otherwise be joined to the wrong bytes.
+std::optional<ByteView> ItemLocations::NextExtent(const ByteView& origin)
 {
     m_cursor.Skip(IndexWidth());
     const std::uint64_t offset = m_cursor.Unsigned(OffsetWidth());
     const std::uint64_t length = m_cursor.Unsigned(LengthWidth());
-    return m_cursor.Failed() ? origin.Part(0, 0) : origin.Part(offset, length == 0 ? origin.Size() : length);
+    const ByteView extent = origin.Part(offset, length == 0 ? origin.Size() : length);
+    if (m_cursor.Failed() || extent.Size() < length)
+        return std::nullopt;
+    return extent;
 }
 
 std::string ItemLocations::Join(const Item& item, const ByteView& origin)
 {
     std::string joined;
-    for (std::uint16_t left = item.extentCount; left > 0 && joined.size() < LongestExif; --left)
-        joined += NextExtent(origin).Copy(LongestExif - joined.size());
+    for (std::uint16_t left = item.extentCount; left > 0 && joined.size() < LongestExif; --left) {
+        const std::optional<ByteView> extent = NextExtent(origin);
+        if (!extent)
+            return {};
+        joined += extent->Copy(LongestExif - joined.size());
+    }
     return joined;
 }
 
@@ -133,8 +141,10 @@ std::string ItemLocations::ReadExifItemOf(std::uint32_t id, PictureTag tag)
         if (item.constructionMethod > 1 || item.dataReference != 0)
             return {};
         const ByteView origin = (item.constructionMethod == 1 ? m_itemData : m_file).From(item.baseOffset);
-        if (item.extentCount == 1)
-            return ReadExifItem(NextExtent(origin), tag);
+        if (item.extentCount == 1) {
+            const std::optional<ByteView> extent = NextExtent(origin);
+            return extent ? ReadExifItem(*extent, tag) : std::string();
+        }
         const std::string joined = Join(item, origin);
         MemorySource source(joined);
         return ReadExifItem(ByteView(source), tag);

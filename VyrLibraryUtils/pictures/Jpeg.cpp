@@ -16,8 +16,8 @@ constexpr std::uint8_t ExifSegment = 0xE1;
 constexpr std::string_view ExifIdentifier("Exif\0", 5);
 /// The identifier and one more byte, which writers leave at will.
 constexpr std::uint64_t ExifHeaderSize = 6;
-/// More than any writer leaves; a lost file that was filled with this byte ends here.
-constexpr int MostFillBytes = 4096;
+/// More than any writer leaves; a rescued file that is nothing but fill bytes ends here.
+constexpr int MostBytesBetweenSegments = 4096;
 
 bool StandsAlone(std::uint8_t marker)
 {
@@ -29,15 +29,18 @@ bool EndsHeader(std::uint8_t marker)
     return marker == StartOfScan || marker == EndOfImage;
 }
 
-/// The next marker, fill bytes before it passed over; EndOfImage where there is none.
+/// The next marker; EndOfImage where there is none. Fill bytes before it are passed over, and so is what a careless
+/// writer left between two segments.
 std::uint8_t NextMarker(ByteCursor& jpeg)
 {
-    if (jpeg.U8() != MarkerPrefix)
-        return EndOfImage;
-    std::uint8_t marker = MarkerPrefix;
-    for (int left = MostFillBytes; marker == MarkerPrefix && left > 0; --left)
-        marker = jpeg.U8();
-    return jpeg.Failed() || marker == MarkerPrefix ? EndOfImage : marker;
+    bool isPrefixed = false;
+    for (int left = MostBytesBetweenSegments; left > 0 && !jpeg.Failed(); --left) {
+        const std::uint8_t byte = jpeg.U8();
+        if (isPrefixed && byte != MarkerPrefix && byte != 0)
+            return byte;
+        isPrefixed = byte == MarkerPrefix;
+    }
+    return EndOfImage;
 }
 
 } // namespace

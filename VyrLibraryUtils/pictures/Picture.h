@@ -13,7 +13,7 @@ namespace VyrLibraryUtils::Pictures {
 
 /// The text of `tag` in the picture that `source` holds, in the bytes in which it stands there; empty when it has no
 /// such tag or is of no known format. The format is told by the first bytes, never by a file's name.
-[[nodiscard]] std::string ReadPicture(ByteSource& source, PictureTag tag);
+[[nodiscard]] VYR_UTILS_API std::string ReadPicture(ByteSource& source, PictureTag tag);
 
 /// ReadPicture of a picture in memory.
 [[nodiscard]] VYR_UTILS_API std::string ReadPictureBytes(std::string_view bytes, PictureTag tag);
