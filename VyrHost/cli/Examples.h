@@ -1,0 +1,12 @@
+/// @file
+/// The examples of the help text. A test runs each of them.
+#pragma once
+
+#include <string>
+
+namespace VyrHost {
+
+/// For the help of "vyr rename": a line for each example and one that says what it does.
+[[nodiscard]] std::string RenameExamples();
+
+} // namespace VyrHost

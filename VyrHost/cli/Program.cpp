@@ -1,0 +1,73 @@
+// Finds the command in the arguments, runs it, and says what is wrong with the call.
+#include <VyrHost/cli/Program.h>
+
+#include <VyrHost/UsageError.h>
+#include <VyrHost/cli/ArgumentText.h>
+#include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/RenameCommand.h>
+#include <VyrLibraryUtils/VersionUtils.h>
+#include <VyrPlatform/Console.h>
+#include <VyrPlatform/Encoding.h>
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <string>
+
+namespace VyrHost {
+
+namespace {
+
+using VyrLibraryUtils::VersionUtils;
+using VyrPlatform::Console::Stream;
+
+std::string VersionText()
+{
+    return VyrPlatform::Encoding::ToUtf8(
+        CString::Join({u"vyr (", VersionUtils::GetProductName(), u") ", VersionUtils::GetStringProductVersion()}));
+}
+
+int WriteOut(const std::string& text)
+{
+    return VyrPlatform::Console::Write(Stream::Output, text) ? ExitCode::Success : ExitCode::Output;
+}
+
+int Complain(const std::string& what)
+{
+    VyrPlatform::Console::Write(Stream::Error, "vyr: " + what + "\nvyr --help and vyr COMMAND --help say more.\n");
+    return ExitCode::Usage;
+}
+
+/// The parser takes the last argument first.
+std::vector<std::string> ForParser(const std::vector<CString>& arguments)
+{
+    std::vector<std::string> texts(arguments.size());
+    std::transform(arguments.rbegin(), arguments.rend(), texts.begin(), ToParser);
+    return texts;
+}
+
+} // namespace
+
+int RunProgram(const std::vector<CString>& arguments)
+{
+    CLI::App program("Renames files and folders by rules, and shows the result first.", "vyr");
+    program.set_version_flag("--version", VersionText);
+    program.allow_windows_style_options(false);
+    program.require_subcommand(1);
+    program.get_formatter()->column_width(34);
+    const RenameCommand rename(program);
+    try {
+        program.parse(ForParser(arguments));
+        return rename.Run();
+    } catch (const CLI::CallForVersion&) {
+        return WriteOut(VersionText() + "\n");
+    } catch (const CLI::CallForHelp&) {
+        return WriteOut(program.help());
+    } catch (const CLI::ParseError& error) {
+        return Complain(error.what());
+    } catch (const UsageError& error) {
+        return Complain(error.what());
+    }
+}
+
+} // namespace VyrHost

@@ -1,0 +1,15 @@
+/// @file
+/// The program vyr, from its arguments to its exit code.
+#pragma once
+
+#include <VyrPlatform/CString.h>
+
+#include <vector>
+
+namespace VyrHost {
+
+/// Runs the command that `arguments` (without the program's name) ask for.
+/// @return the exit code.
+[[nodiscard]] int RunProgram(const std::vector<CString>& arguments);
+
+} // namespace VyrHost

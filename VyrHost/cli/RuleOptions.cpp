@@ -1,0 +1,258 @@
+// Reads rules off the command line, in the order given.
+#include <VyrHost/cli/RuleOptions.h>
+
+#include <VyrHost/UsageError.h>
+#include <VyrHost/cli/ArgumentText.h>
+#include <VyrHost/rules/RuleTexts.h>
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <iterator>
+#include <limits>
+#include <map>
+#include <string>
+#include <utility>
+
+namespace VyrHost {
+
+namespace {
+
+constexpr int AnyNumber = std::numeric_limits<int>::min();
+
+/// An option as it was given, with its settings.
+struct Given;
+
+struct RuleOption
+{
+    const char* name;
+    /// What its values are called; how many they are.
+    const char* values;
+    std::size_t count;
+    const char* help;
+    Rules (*make)(const Given& given);
+};
+
+struct Given
+{
+    const RuleOption* option;
+    std::vector<CString> values;
+    NumberSettings number;
+    std::optional<std::vector<DateSource>> dates;
+};
+
+/// Makes rules of the one value.
+template <Rules (*Make)(const CString&)>
+Rules FromValue(const Given& given)
+{
+    return Make(given.values.front());
+}
+
+constexpr RuleOption Options[] = {
+    {"--number", "TEMPLATE", 1,
+     "A sequence number: \"Trip ###\", \"<Name>-#\". Each # is a digit at least; <Name> keeps the old name",
+     [](const Given& given) {
+         return NumberRules(given.values.front(), given.number);
+     }},
+    {"--date", "FORMAT", 1,
+     "A date of the file: \"yyyy-MM-dd HHmmss\". <Name> keeps the old name, <Make> and <Model> are the camera, "
+     "<Folder> ends the name of a folder to move into",
+     [](const Given& given) {
+         return DateRules(given.values.front(), given.dates.value_or(std::vector{DateSource::Modified}));
+     }},
+    {"--replace", "FIND WITH", 2, "Put WITH in place of every FIND (upper and lower case differ)",
+     [](const Given& given) {
+         return ReplaceRules(given.values[0], given.values[1]);
+     }},
+    {"--prefix", "TEXT", 1, "Put TEXT before the name", FromValue<PrefixRules>},
+    {"--suffix", "TEXT", 1, "Put TEXT after the name, before the extension", FromValue<SuffixRules>},
+    {"--insert", "PLACE:TEXT", 1, "Put TEXT in after the first PLACE characters; -PLACE counts from the end",
+     FromValue<InsertRules>},
+    {"--delete", "PLACE:COUNT", 1,
+     "Delete COUNT characters after the first PLACE; with -PLACE those before the last PLACE", FromValue<DeleteRules>},
+    {"--delete-first", "COUNT", 1, "Delete the first COUNT characters", FromValue<DeleteFirstRules>},
+    {"--delete-last", "COUNT", 1, "Delete the last COUNT characters", FromValue<DeleteLastRules>},
+    {"--keep-first", "COUNT", 1, "Keep only the first COUNT characters", FromValue<KeepFirstRules>},
+    {"--keep-last", "COUNT", 1, "Keep only the last COUNT characters", FromValue<KeepLastRules>},
+    {"--case", "first|upper|lower", 1, "Make the first letter a capital, or all letters capital or small",
+     FromValue<CaseRules>},
+    {"--extension", "NEW", 1, "Change the extension to NEW (files only)", FromValue<ExtensionRules>},
+    {"--extension-case", "upper|lower", 1, "Make the extension's letters capital or small",
+     FromValue<ExtensionCaseRules>},
+    {"--drop-extension", "", 0, "Take the extension away",
+     [](const Given&) {
+         return DropExtensionRules();
+     }},
+};
+
+/// A setting: an option that says more about a rule of one kind.
+struct SettingOption
+{
+    const char* name;
+    const char* value;
+    const char* help;
+    /// The rule that it belongs to.
+    const char* rule;
+    /// False when the rule has it already.
+    bool (*set)(Given& given, const CString& value);
+};
+
+bool SetNumber(std::optional<int>& setting, const CString& value, int least, const char* name)
+{
+    if (setting)
+        return false;
+    setting = ParseNumber(value, least, name);
+    return true;
+}
+
+constexpr SettingOption Settings[] = {
+    {"--start", "N", "First number of --number (1)", "--number",
+     [](Given& given, const CString& value) {
+         return SetNumber(given.number.start, value, AnyNumber, "--start");
+     }},
+    {"--step", "N", "From one number to the next (1)", "--number",
+     [](Given& given, const CString& value) {
+         return SetNumber(given.number.step, value, AnyNumber, "--step");
+     }},
+    {"--digits", "N", "Least width of the number, 0 to 255, for a TEMPLATE with a single # or <Number>", "--number",
+     [](Given& given, const CString& value) {
+         return SetNumber(given.number.digits, value, 0, "--digits");
+     }},
+    {"--date-from", "LIST",
+     "Dates for --date, the first that a file has: picture, modified, created, accessed (modified)", "--date",
+     [](Given& given, const CString& value) {
+         if (given.dates)
+             return false;
+         given.dates = ParseDateSources(value);
+         return true;
+     }},
+};
+
+CLI::Option* AddFlag(CLI::App& command, const RuleOption& option)
+{
+    const std::string help = option.help;
+    return command.add_flag(option.name, help);
+}
+
+CLI::Option* AddTexts(CLI::App& command, const char* name, const char* values, std::size_t count,
+                      const std::string& help)
+{
+    return command.add_option(name, help)
+        ->type_size(static_cast<int>(count))
+        ->expected(1)
+        ->allow_extra_args(false)
+        ->type_name(values)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+}
+
+template <class Options>
+auto* FindByName(const Options& options, const CLI::Option& option)
+{
+    const auto found = std::find_if(std::begin(options), std::end(options),
+                                    [&option](const auto& known) { return option.check_name(known.name); });
+    return found == std::end(options) ? nullptr : &*found;
+}
+
+/// Walks the options in the order given; each with the values of that one time.
+class Collector
+{
+public:
+    explicit Collector(const CLI::App& command) : m_command(command) {}
+
+    std::vector<Given> Run()
+    {
+        const std::vector<CLI::Option*>& order = m_command.parse_order();
+        for (std::size_t index = 0; index < order.size();) {
+            const CLI::Option& option = *order[index];
+            // The parser notes an option once for each of its values.
+            std::size_t noted = 1;
+            if (const RuleOption* const rule = FindByName(Options, option)) {
+                noted = std::max<std::size_t>(rule->count, 1);
+                AddRule(*rule, TakeValues(option, noted));
+            } else if (const SettingOption* const setting = FindByName(Settings, option)) {
+                AddSetting(*setting, TakeValues(option, 1).front());
+            }
+            index += noted;
+        }
+        for (const auto& [setting, value] : m_early)
+            Set(*setting, value, First(*setting));
+        return std::move(m_given);
+    }
+
+private:
+    std::vector<CString> TakeValues(const CLI::Option& option, std::size_t count)
+    {
+        std::size_t& taken = m_taken[&option];
+        std::vector<CString> values;
+        for (std::size_t end = taken + count; taken < end; ++taken)
+            values.push_back(FromParser(option.results().at(taken)));
+        return values;
+    }
+
+    void AddRule(const RuleOption& rule, std::vector<CString> values)
+    {
+        m_given.push_back({&rule, std::move(values), {}, {}});
+    }
+
+    void AddSetting(const SettingOption& setting, const CString& value)
+    {
+        const auto rule = std::find_if(m_given.rbegin(), m_given.rend(), [&setting](const Given& given) {
+            return std::string_view(given.option->name) == setting.rule;
+        });
+        if (rule == m_given.rend())
+            m_early.emplace_back(&setting, value);
+        else
+            Set(setting, value, *rule);
+    }
+
+    Given& First(const SettingOption& setting)
+    {
+        const auto rule = std::find_if(m_given.begin(), m_given.end(), [&setting](const Given& given) {
+            return std::string_view(given.option->name) == setting.rule;
+        });
+        if (rule == m_given.end())
+            throw UsageError(std::string(setting.name) + " belongs to " + setting.rule + ", which is not given");
+        return *rule;
+    }
+
+    static void Set(const SettingOption& setting, const CString& value, Given& given)
+    {
+        if (!setting.set(given, value))
+            throw UsageError(std::string(setting.name) + " is given twice for one " + setting.rule);
+    }
+
+    const CLI::App& m_command;
+    std::map<const CLI::Option*, std::size_t> m_taken;
+    std::vector<Given> m_given;
+    /// Settings that stand before every rule of their kind.
+    std::vector<std::pair<const SettingOption*, CString>> m_early;
+};
+
+} // namespace
+
+RuleOptions::RuleOptions(CLI::App& command) : m_command(command)
+{
+    for (const RuleOption& option : Options) {
+        if (option.count == 0)
+            AddFlag(command, option)
+                ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+                ->group("Rules, applied in the order given");
+        else
+            AddTexts(command, option.name, option.values, option.count, option.help)
+                ->group("Rules, applied in the order given");
+    }
+    for (const SettingOption& setting : Settings)
+        AddTexts(command, setting.name, setting.value, 1, setting.help)->group("Settings of the rule before them");
+}
+
+Rules RuleOptions::Make() const
+{
+    Rules all;
+    for (const Given& given : Collector(m_command).Run()) {
+        Rules made = given.option->make(given);
+        std::move(made.begin(), made.end(), std::back_inserter(all));
+    }
+    return all;
+}
+
+} // namespace VyrHost

@@ -1,0 +1,35 @@
+/// @file
+/// The entries that a call is about, in the order of the list.
+#pragma once
+
+#include <VyrHost/entries/FolderSet.h>
+#include <VyrPlatform/CString.h>
+#include <VyrPlatform/FileSystem.h>
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace VyrHost {
+
+/// A file or folder of the list. A million of them are kept, so each is a few words.
+struct Entry
+{
+    std::u16string_view name;
+    std::uint32_t folder = 0;
+    /// As the folder's listing tells it; Missing when the folder has no such name.
+    VyrPlatform::FileSystem::Kind kind = VyrPlatform::FileSystem::Kind::Missing;
+};
+
+struct EntryList
+{
+    FolderSet folders;
+    std::vector<Entry> entries;
+
+    [[nodiscard]] CString PathOf(const Entry& entry) const
+    {
+        return CString::Join({folders[entry.folder].path, entry.name});
+    }
+};
+
+} // namespace VyrHost

@@ -1,0 +1,52 @@
+/// @file
+/// The folders that a list of entries touches, each listed once.
+#pragma once
+
+#include <VyrHost/entries/NameStore.h>
+#include <VyrHost/entries/NameTable.h>
+#include <VyrPlatform/CString.h>
+
+#include <cstdint>
+#include <deque>
+#include <unordered_map>
+
+namespace VyrHost {
+
+/// A folder and the names in it.
+struct Folder
+{
+    /// Absolute, its separator at the end.
+    CString path;
+    /// What stands before an entry's name when it is shown: the folder as the user named it.
+    CString shown;
+    NameTable names;
+    /// The disk has it: its listing is in `names`.
+    bool exists = false;
+    /// Why it could not be listed (the system's code); 0 when it was.
+    std::uint32_t error = 0;
+};
+
+/// Gives each folder a number and keeps its listing. References to folders stay good for the life of the set.
+class FolderSet
+{
+public:
+    /// The number of the folder `path` (absolute, its separator at the end), listed when it is new here. `shown` is
+    /// taken for a new one.
+    std::uint32_t Open(const CString& path, const CString& shown);
+
+    [[nodiscard]] Folder& operator[](std::uint32_t folder) { return m_folders[folder]; }
+    [[nodiscard]] const Folder& operator[](std::uint32_t folder) const { return m_folders[folder]; }
+    [[nodiscard]] std::uint32_t Count() const { return static_cast<std::uint32_t>(m_folders.size()); }
+
+    /// Keeps the text of a name as long as the set lives.
+    [[nodiscard]] std::u16string_view Keep(std::u16string_view name) { return m_texts.Keep(name); }
+
+private:
+    void List(Folder& folder);
+
+    NameStore m_texts;
+    std::deque<Folder> m_folders;
+    std::unordered_map<CString, std::uint32_t> m_numbers;
+};
+
+} // namespace VyrHost

@@ -1,0 +1,239 @@
+// Gathers entries from arguments, from the standard input and from folders.
+#include <VyrHost/entries/Gather.h>
+
+#include <VyrHost/UsageError.h>
+#include <VyrHost/entries/NameReader.h>
+#include <VyrHost/entries/NaturalOrder.h>
+#include <VyrHost/entries/Wildcard.h>
+#include <VyrHost/output/SafeText.h>
+#include <VyrLibraryUtils/FileUtils.h>
+#include <VyrPlatform/Console.h>
+#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/FullPath.h>
+#include <VyrPlatform/Process.h>
+
+#include <algorithm>
+#include <string>
+#include <unordered_set>
+
+namespace VyrHost {
+
+namespace {
+
+using VyrLibraryUtils::FileUtils;
+using VyrPlatform::FileSystem::IsSeparator;
+using VyrPlatform::FileSystem::Kind;
+
+/// A path cut into the folder, as the user wrote it, and the name in it.
+struct CutPath
+{
+    CString folder;
+    CString name;
+};
+
+/// Whether the last part of `path` is the name of an entry as it stands, so that a cut at the last separator is enough.
+bool IsPlain(std::u16string_view path, std::u16string_view name)
+{
+    return !name.empty() && name != u"." && name != u".." && path.find(u':') == std::u16string_view::npos;
+}
+
+CutPath Cut(const CString& path)
+{
+    const std::u16string_view text = path;
+    const auto behind = std::find_if(text.rbegin(), text.rend(), IsSeparator);
+    const auto folderLength = static_cast<std::size_t>(text.rend() - behind);
+    if (IsPlain(text, text.substr(folderLength)))
+        return {text.substr(0, folderLength), text.substr(folderLength)};
+    const CString full = VyrPlatform::GetFullPath(path);
+    const CString folder = FileUtils::GetSplitDirPath(full);
+    return {folder, full.Mid(folder.GetLength())};
+}
+
+CString WithSeparator(const CString& folder)
+{
+    if (!folder.IsEmpty() && IsSeparator(folder[folder.GetLength() - 1]))
+        return folder;
+    const char16_t separator = VyrPlatform::FileSystem::Separator();
+    return CString::Join({folder, std::u16string_view(&separator, 1)});
+}
+
+/// The folder as it is shown before the names in it.
+CString Shown(const CString& folder)
+{
+    const bool isHere = folder == u"." || (folder.GetLength() == 2 && folder[0] == u'.' && IsSeparator(folder[1]));
+    return folder.IsEmpty() || isHere ? CString() : WithSeparator(folder);
+}
+
+class Gatherer
+{
+public:
+    explicit Gatherer(const SourceSettings& settings) : m_settings(settings) {}
+
+    Gathered Run()
+    {
+        for (const CString& path : m_settings.paths)
+            Add(path);
+        if (m_settings.input != InputNames::None)
+            AddInput();
+        RefuseNested();
+        return std::move(m_result);
+    }
+
+private:
+    void AddInput()
+    {
+        NameReader reader(m_settings.input == InputNames::Lines ? '\n' : '\0');
+        const auto add = [this](const CString& path) {
+            Add(path);
+        };
+        for (std::string piece = VyrPlatform::Console::ReadInput(); !piece.empty();
+             piece = VyrPlatform::Console::ReadInput())
+            reader.Read(piece, add);
+        reader.Finish(add);
+    }
+
+    void Add(const CString& path)
+    {
+        if (m_settings.recursive && VyrPlatform::FileSystem::IsFolder(path)) {
+            const CString full = WithSeparator(VyrPlatform::GetFullPath(path));
+            m_sourceFolders.insert(full);
+            Walk(full, Shown(path));
+            return;
+        }
+        const CutPath cut = Cut(path);
+        if (cut.name.IsEmpty() || cut.name == u"..")
+            throw UsageError("'" + SafeText(path) +
+                             "' is no name that could be changed; --recursive renames what is in a folder");
+        AddNamed(OpenParent(cut.folder), cut.name);
+    }
+
+    std::uint32_t OpenParent(const CString& folder)
+    {
+        if (m_parent == NoEntry || m_parentText != folder) {
+            const CString path =
+                folder.IsEmpty() ? VyrPlatform::Process::GetCurrentFolder() : VyrPlatform::GetFullPath(folder);
+            m_parent = List().folders.Open(WithSeparator(path), Shown(folder));
+            m_parentText = folder;
+        }
+        return m_parent;
+    }
+
+    void AddNamed(std::uint32_t folder, const CString& name)
+    {
+        m_namedIn.insert(folder);
+        NameRecord* const record = List().folders[folder].names.Find(name);
+        if (!record) {
+            if (IsPattern(name) && AddMatches(folder, name))
+                return;
+            List().entries.push_back({List().folders.Keep(name), folder, Kind::Missing});
+            return;
+        }
+        AddSource(folder, *record);
+    }
+
+    void AddSource(std::uint32_t folder, NameRecord& record)
+    {
+        if (record.kind == Kind::Folder)
+            m_sourceFolders.insert(WithSeparator(CString::Join({List().folders[folder].path, record.name})));
+        AddListed(folder, record);
+    }
+
+    /// False when nothing matches.
+    bool AddMatches(std::uint32_t folder, const CString& pattern)
+    {
+        NameTable& names = List().folders[folder].names;
+        bool matched = false;
+        for (const std::uint32_t index : ByName(names)) {
+            NameRecord& record = names.Records()[index];
+            if (MatchesPattern(pattern, record.name)) {
+                AddSource(folder, record);
+                matched = true;
+            }
+        }
+        return matched;
+    }
+
+    void AddListed(std::uint32_t folder, NameRecord& record)
+    {
+        if (record.owner != NoEntry)
+            throw UsageError("'" + SafeText(CString::Join({List().folders[folder].shown, record.name})) +
+                             "' is named twice");
+        record.owner = static_cast<std::uint32_t>(List().entries.size());
+        List().entries.push_back({record.name, folder, record.kind});
+    }
+
+    void Walk(const CString& path, const CString& shown)
+    {
+        const std::uint32_t number = List().folders.Open(path, shown);
+        Folder& folder = List().folders[number];
+        if (!folder.exists) {
+            m_result.problems.push_back(CString::Join({u"cannot read the folder ", folder.shown, u": ",
+                                                       VyrPlatform::Process::GetErrorMessage(folder.error)}));
+            return;
+        }
+        const std::vector<std::uint32_t> order = ByName(folder.names);
+        std::vector<std::u16string_view> below;
+        for (const std::uint32_t index : order) {
+            NameRecord& record = folder.names.Records()[index];
+            if (IsPicked(record))
+                AddListed(number, record);
+            if (record.kind == Kind::Folder && !record.isLink)
+                below.push_back(record.name);
+        }
+        for (const std::u16string_view name : below)
+            Walk(WithSeparator(CString::Join({path, name})), WithSeparator(CString::Join({shown, name})));
+    }
+
+    [[nodiscard]] std::vector<std::uint32_t> ByName(const NameTable& names) const
+    {
+        const std::vector<NameRecord>& records = names.Records();
+        std::vector<std::uint32_t> order;
+        order.reserve(records.size());
+        for (std::uint32_t index = 0; index < records.size(); ++index)
+            if (m_settings.hidden || !records[index].name.starts_with(u'.'))
+                order.push_back(index);
+        std::sort(order.begin(), order.end(), [&records](std::uint32_t left, std::uint32_t right) {
+            return IsNaturallyLess(records[left].name, records[right].name);
+        });
+        return order;
+    }
+
+    [[nodiscard]] bool IsPicked(const NameRecord& record) const
+    {
+        const Pick wanted = record.kind == Kind::Folder ? Pick::Folders : Pick::Files;
+        return m_settings.pick == Pick::All || m_settings.pick == wanted;
+    }
+
+    /// Renaming a folder and what is in it in one call is left to recursion, which knows of both.
+    void RefuseNested() const
+    {
+        for (const std::uint32_t folder : m_namedIn) {
+            const CString& path = List().folders[folder].path;
+            for (int end = 1; end <= path.GetLength(); ++end)
+                if (IsSeparator(path[end - 1]) && m_sourceFolders.contains(path.Left(end)))
+                    throw UsageError("'" + SafeText(path.Left(end)) + "' is named together with something inside it");
+        }
+    }
+
+    [[nodiscard]] EntryList& List() { return m_result.list; }
+    [[nodiscard]] const EntryList& List() const { return m_result.list; }
+
+    const SourceSettings& m_settings;
+    Gathered m_result;
+    /// The folder that the last name was in, as the user wrote it: names of one folder mostly follow each other.
+    CString m_parentText;
+    std::uint32_t m_parent = NoEntry;
+    /// The folders that entries were named in.
+    std::unordered_set<std::uint32_t> m_namedIn;
+    /// The folders that were named themselves, separator at the end.
+    std::unordered_set<CString> m_sourceFolders;
+};
+
+} // namespace
+
+Gathered Gather(const SourceSettings& settings)
+{
+    return Gatherer(settings).Run();
+}
+
+} // namespace VyrHost

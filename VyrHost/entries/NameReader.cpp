@@ -1,0 +1,18 @@
+// Makes names of bytes from the standard input.
+#include <VyrHost/entries/NameReader.h>
+
+#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/FileSystem.h>
+
+namespace VyrHost {
+
+CString NameReader::Name() const
+{
+    std::string_view bytes = m_pending;
+    // Where a backslash separates, no name holds a control character.
+    if (m_end == '\n' && bytes.ends_with('\r') && VyrPlatform::FileSystem::IsSeparator(u'\\'))
+        bytes.remove_suffix(1);
+    return VyrPlatform::Encoding::FromNameBytes(bytes);
+}
+
+} // namespace VyrHost

@@ -1,0 +1,72 @@
+// A hash table with open addressing over the names of one folder.
+#include <VyrHost/entries/NameTable.h>
+
+#include <functional>
+
+namespace VyrHost {
+
+namespace {
+
+constexpr std::size_t FirstSlots = 16;
+
+std::uint32_t HashOf(std::u16string_view name)
+{
+    const std::size_t hash = std::hash<std::u16string_view>()(name);
+    return static_cast<std::uint32_t>(hash ^ (hash >> 32));
+}
+
+} // namespace
+
+std::size_t NameTable::SlotOf(std::u16string_view name, std::uint32_t hash) const
+{
+    const std::size_t mask = m_slots.size() - 1;
+    std::size_t slot = hash & mask;
+    while (m_slots[slot] != 0) {
+        const NameRecord& record = m_records[m_slots[slot] - 1];
+        if (record.hash == hash && record.name == name)
+            break;
+        slot = (slot + 1) & mask;
+    }
+    return slot;
+}
+
+const NameRecord* NameTable::Find(std::u16string_view name) const
+{
+    if (m_slots.empty())
+        return nullptr;
+    const std::uint32_t found = m_slots[SlotOf(name, HashOf(name))];
+    return found ? &m_records[found - 1] : nullptr;
+}
+
+NameRecord* NameTable::Find(std::u16string_view name)
+{
+    return const_cast<NameRecord*>(static_cast<const NameTable&>(*this).Find(name));
+}
+
+NameRecord& NameTable::Add(std::u16string_view name)
+{
+    // A third of the slots stays free, so that runs stay short.
+    if ((m_records.size() + 1) * 3 > m_slots.size() * 2)
+        Grow();
+    const std::uint32_t hash = HashOf(name);
+    std::uint32_t& slot = m_slots[SlotOf(name, hash)];
+    if (slot == 0) {
+        m_records.push_back({.name = name, .hash = hash});
+        slot = static_cast<std::uint32_t>(m_records.size());
+    }
+    return m_records[slot - 1];
+}
+
+void NameTable::Grow()
+{
+    m_slots.assign(m_slots.empty() ? FirstSlots : m_slots.size() * 2, 0);
+    const std::size_t mask = m_slots.size() - 1;
+    for (std::size_t index = 0; index < m_records.size(); ++index) {
+        std::size_t slot = m_records[index].hash & mask;
+        while (m_slots[slot] != 0)
+            slot = (slot + 1) & mask;
+        m_slots[slot] = static_cast<std::uint32_t>(index + 1);
+    }
+}
+
+} // namespace VyrHost

@@ -1,0 +1,23 @@
+/// @file
+/// A preview for programs: one JSON object a line.
+#pragma once
+
+#include <VyrHost/entries/EntryList.h>
+#include <VyrHost/output/OutputBuffer.h>
+#include <VyrHost/preview/Decision.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace VyrHost {
+
+/// Appends `text` as a JSON text with its quotes: UTF-8, control characters escaped, a lone surrogate (a byte of a name
+/// that is not UTF-8) as its `\ud...` escape.
+void AppendJsonText(std::string& line, std::u16string_view text);
+
+/// Writes one object for each entry: `from` and `to` (full paths; `to` is null where the rules give no name), `status`,
+/// and `reason` or `warning` where there is one.
+void WriteJsonLines(OutputBuffer& output, const EntryList& list, const std::vector<Decision>& decisions);
+
+} // namespace VyrHost

@@ -1,0 +1,165 @@
+// Escapes and measures names character by character.
+#include <VyrHost/output/SafeText.h>
+
+#include <VyrHost/output/CharacterWidth.h>
+#include <VyrPlatform/Encoding.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace VyrHost {
+
+namespace {
+
+constexpr char16_t Ellipsis[] = u"…";
+
+bool IsHigh(char16_t unit)
+{
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+
+bool IsLow(char16_t unit)
+{
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+bool IsPlain(char16_t unit)
+{
+    return unit >= u' ' && unit < 0x7F;
+}
+
+bool IsAllPlain(std::u16string_view text)
+{
+    return std::all_of(text.begin(), text.end(), IsPlain);
+}
+
+/// Whether a terminal would do something else than draw `character`.
+bool ActsOnTerminal(char32_t character)
+{
+    const bool isControl = character < 0x20 || (character >= 0x7F && character < 0xA0);
+    const bool turnsDirection = character == 0x061C || character == 0x200E || character == 0x200F ||
+                                (character >= 0x2028 && character <= 0x202E) ||
+                                (character >= 0x2066 && character <= 0x2069);
+    const bool isSurrogate = character >= 0xD800 && character <= 0xDFFF;
+    return isControl || turnsDirection || isSurrogate || character == 0xFEFF;
+}
+
+/// Takes a character off the front of `text`; a lone surrogate is one of its own.
+char32_t TakeCharacter(std::u16string_view& text)
+{
+    const char16_t first = text.front();
+    text.remove_prefix(1);
+    if (!IsHigh(first) || text.empty() || !IsLow(text.front()))
+        return first;
+    const char16_t second = text.front();
+    text.remove_prefix(1);
+    return 0x10000 + ((char32_t{first} - 0xD800) << 10) + (char32_t{second} - 0xDC00);
+}
+
+std::string Escape(char32_t character)
+{
+    switch (character) {
+    case U'\n':
+        return "\\n";
+    case U'\r':
+        return "\\r";
+    case U'\t':
+        return "\\t";
+    default:
+        break;
+    }
+    constexpr char Digits[] = "0123456789abcdef";
+    const int width = character < 0x100 ? 2 : 4;
+    std::string escape = width == 2 ? "\\x" : "\\u";
+    for (int shift = 4 * (width - 1); shift >= 0; shift -= 4)
+        escape += Digits[(character >> shift) & 0xF];
+    return escape;
+}
+
+/// A character as it is shown.
+struct Glyph
+{
+    std::u16string_view units;
+    char32_t character;
+    int width;
+};
+
+Glyph TakeGlyph(std::u16string_view& text)
+{
+    const std::u16string_view before = text;
+    const char32_t character = TakeCharacter(text);
+    const int width =
+        ActsOnTerminal(character) ? static_cast<int>(Escape(character).size()) : CharacterWidth(character);
+    return {before.substr(0, before.size() - text.size()), character, width};
+}
+
+void Append(std::string& shown, const Glyph& glyph)
+{
+    if (ActsOnTerminal(glyph.character))
+        shown += Escape(glyph.character);
+    else
+        VyrPlatform::Encoding::AppendUtf8(shown, glyph.units);
+}
+
+/// How many of `glyphs`, taken in order, fit into `width`.
+template <class Iterator>
+std::ptrdiff_t CountFitting(Iterator begin, Iterator end, int width)
+{
+    std::ptrdiff_t count = 0;
+    for (Iterator glyph = begin; glyph != end && glyph->width <= width; ++glyph, ++count)
+        width -= glyph->width;
+    return count;
+}
+
+} // namespace
+
+std::string SafeText(std::u16string_view text)
+{
+    std::string shown;
+    shown.reserve(text.size());
+    if (IsAllPlain(text)) {
+        for (const char16_t unit : text)
+            shown += static_cast<char>(unit);
+        return shown;
+    }
+    while (!text.empty())
+        Append(shown, TakeGlyph(text));
+    return shown;
+}
+
+int SafeWidth(std::u16string_view text)
+{
+    if (IsAllPlain(text))
+        return static_cast<int>(text.size());
+    int width = 0;
+    while (!text.empty())
+        width += TakeGlyph(text).width;
+    return width;
+}
+
+std::string FittedText(std::u16string_view text, int width)
+{
+    if (const int left = width - SafeWidth(text); left >= 0)
+        return SafeText(text).append(static_cast<std::size_t>(left), ' ');
+    std::vector<Glyph> glyphs;
+    while (!text.empty())
+        glyphs.push_back(TakeGlyph(text));
+    int left = std::max(width - 1, 0);
+    const auto front = glyphs.begin() + CountFitting(glyphs.begin(), glyphs.end(), (left + 1) / 2);
+    auto back = glyphs.end() - CountFitting(glyphs.rbegin(), glyphs.rend(), left / 2);
+    // What is drawn over a character that is cut off goes with it.
+    while (back != glyphs.end() && back->width == 0)
+        ++back;
+    std::string shown;
+    const auto append = [&shown, &left](const Glyph& glyph) {
+        Append(shown, glyph);
+        left -= glyph.width;
+    };
+    std::for_each(glyphs.begin(), front, append);
+    if (width > 0)
+        shown += VyrPlatform::Encoding::ToUtf8(Ellipsis);
+    std::for_each(back, glyphs.end(), append);
+    return shown.append(static_cast<std::size_t>(left), ' ');
+}
+
+} // namespace VyrHost

@@ -1,0 +1,166 @@
+// Lays the preview out in three columns that fit the terminal.
+#include <VyrHost/output/Table.h>
+
+#include <VyrHost/output/SafeText.h>
+#include <VyrHost/output/Words.h>
+#include <VyrPlatform/Console.h>
+#include <VyrPlatform/Process.h>
+
+#include <algorithm>
+#include <string>
+
+namespace VyrHost {
+
+namespace {
+
+constexpr std::string_view Arrow = "  ->  ";
+constexpr int ArrowWidth = static_cast<int>(Arrow.size());
+constexpr int NoteGap = 2;
+/// Where rows may be as long as they like, names are lined up to this width.
+constexpr int MostPadding = 60;
+
+struct Row
+{
+    CString from;
+    CString to;
+    std::string note;
+};
+
+struct Widths
+{
+    int from = 0;
+    int to = 0;
+    int note = 0;
+};
+
+CString NewName(const EntryList& list, const Entry& entry, const Decision& decision)
+{
+    if (decision.status == Status::Unchanged || decision.name.empty())
+        return {};
+    if (decision.folder == entry.folder)
+        return decision.name;
+    return CString::Join({list.folders[decision.folder].shown, decision.name});
+}
+
+std::string NoteFor(const Decision& decision)
+{
+    std::string note;
+    if (decision.status != Status::Renamed)
+        note = WordFor(decision.status);
+    if (decision.reason != Reason::None)
+        note.append(": ").append(WordsFor(decision.reason));
+    if (decision.warning != VyrPlatform::NameFault::None && decision.IsRename())
+        note.append(note.empty() ? "" : "; ").append("warning: ").append(WarningFor(decision.warning));
+    return note;
+}
+
+Row RowFor(const EntryList& list, const Entry& entry, const Decision& decision)
+{
+    return {CString::Join({list.folders[entry.folder].shown, entry.name}), NewName(list, entry, decision),
+            NoteFor(decision)};
+}
+
+std::string_view ColourOf(const Decision& decision)
+{
+    if (decision.status == Status::Refused)
+        return "\x1b[31m";
+    if (decision.status == Status::Unchanged)
+        return "\x1b[2m";
+    const bool isNotable = decision.status != Status::Renamed || decision.warning != VyrPlatform::NameFault::None;
+    return isNotable ? "\x1b[33m" : "";
+}
+
+Widths NaturalWidths(const EntryList& list, const std::vector<Decision>& decisions)
+{
+    Widths widths;
+    for (std::size_t index = 0; index < decisions.size(); ++index) {
+        const Row row = RowFor(list, list.entries[index], decisions[index]);
+        widths.from = std::max(widths.from, SafeWidth(row.from));
+        widths.to = std::max(widths.to, SafeWidth(row.to));
+        widths.note = std::max(widths.note, static_cast<int>(row.note.size()));
+    }
+    return widths;
+}
+
+/// Shrinks what does not fit: the note to half the row at most, the names share the rest as they need it.
+Widths FittedWidths(Widths widths, int rowWidth)
+{
+    if (rowWidth == 0)
+        return {std::min(widths.from, MostPadding), std::min(widths.to, MostPadding), widths.note};
+    const int gap = widths.note > 0 ? NoteGap : 0;
+    const int all = rowWidth - ArrowWidth - gap;
+    if (widths.from + widths.to + widths.note <= all)
+        return widths;
+    widths.note = std::min(widths.note, std::max(all / 2, all - widths.from - widths.to));
+    const int names = std::max(all - widths.note, 2);
+    const int half = names / 2;
+    if (widths.from <= half)
+        widths.to = std::min(widths.to, names - widths.from);
+    else if (widths.to <= half)
+        widths.from = std::min(widths.from, names - widths.to);
+    else
+        widths = {half, names - half, widths.note};
+    return widths;
+}
+
+class TableWriter
+{
+public:
+    TableWriter(OutputBuffer& output, Widths widths, TableStyle style)
+        : m_output(output), m_widths(widths), m_style(style)
+    {}
+
+    void Write(const Row& row, const Decision& decision)
+    {
+        const std::string_view colour = m_style.inColour ? ColourOf(decision) : "";
+        m_line = colour;
+        AppendName(row.from, m_widths.from);
+        m_line += row.to.IsEmpty() ? std::string(Arrow.size(), ' ') : std::string(Arrow);
+        AppendName(row.to, m_widths.to);
+        if (!row.note.empty())
+            m_line.append(NoteGap, ' ').append(Note(row.note));
+        m_line.erase(m_line.find_last_not_of(' ') + 1);
+        if (!colour.empty())
+            m_line += "\x1b[0m";
+        m_line += '\n';
+        m_output << m_line;
+    }
+
+private:
+    void AppendName(const CString& name, int width)
+    {
+        m_line += m_style.width > 0 || SafeWidth(name) <= width ? FittedText(name, width) : SafeText(name);
+    }
+
+    [[nodiscard]] std::string Note(const std::string& note) const
+    {
+        if (m_style.width == 0 || static_cast<int>(note.size()) <= m_widths.note)
+            return note;
+        return note.substr(0, static_cast<std::size_t>(std::max(m_widths.note - 1, 0))) + "\xE2\x80\xA6";
+    }
+
+    OutputBuffer& m_output;
+    const Widths m_widths;
+    const TableStyle m_style;
+    std::string m_line;
+};
+
+} // namespace
+
+TableStyle StyleOfOutput()
+{
+    using VyrPlatform::Console::Stream;
+    const auto noColour = VyrPlatform::Process::GetEnvironment(u"NO_COLOR");
+    const bool wantsColour = !noColour || noColour->IsEmpty();
+    return {VyrPlatform::Console::GetWidth(Stream::Output),
+            wantsColour && VyrPlatform::Console::IsTerminal(Stream::Output)};
+}
+
+void WriteTable(OutputBuffer& output, const EntryList& list, const std::vector<Decision>& decisions, TableStyle style)
+{
+    TableWriter writer(output, FittedWidths(NaturalWidths(list, decisions), style.width), style);
+    for (std::size_t index = 0; index < decisions.size() && !output.HasFailed(); ++index)
+        writer.Write(RowFor(list, list.entries[index], decisions[index]), decisions[index]);
+}
+
+} // namespace VyrHost

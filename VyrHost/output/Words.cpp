@@ -1,0 +1,79 @@
+// Words for statuses, reasons and warnings.
+#include <VyrHost/output/Words.h>
+
+namespace VyrHost {
+
+using VyrPlatform::NameFault;
+
+std::string_view WordFor(Status status)
+{
+    switch (status) {
+    case Status::Renamed:
+        return "renamed";
+    case Status::Numbered:
+        return "numbered";
+    case Status::Unchanged:
+        return "unchanged";
+    case Status::Skipped:
+        return "skipped";
+    case Status::Refused:
+        break;
+    }
+    return "refused";
+}
+
+std::string_view WordsFor(Reason reason)
+{
+    switch (reason) {
+    case Reason::None:
+        break;
+    case Reason::NoSuchEntry:
+        return "nothing of that name is there";
+    case Reason::FolderNotRead:
+        return "its folder cannot be read";
+    case Reason::NoDate:
+        return "it has no date of the kind asked for";
+    case Reason::BadFolder:
+        return "a folder of that name cannot be made";
+    case Reason::EmptyName:
+        return "the new name would be empty";
+    case Reason::TargetExists:
+        return "the new name is there already";
+    case Reason::TwoToOne:
+        return "another entry gets the same name";
+    case Reason::NoFreeNumber:
+        return "every number is taken";
+    case Reason::NewLoneSurrogate:
+        return "the new name would hold half a character";
+    case Reason::DotName:
+        return "the new name would be . or ..";
+    case Reason::ForbiddenCharacter:
+        return "the new name would hold a forbidden character";
+    case Reason::TooLong:
+        return "the new name would be too long";
+    case Reason::ReservedWord:
+        return "the new name would be a reserved word";
+    case Reason::TrailingDotOrBlank:
+        return "the new name would end in a dot or a blank";
+    }
+    return {};
+}
+
+std::string_view WarningFor(NameFault fault)
+{
+    switch (fault) {
+    case NameFault::ForbiddenCharacter:
+        return "Windows forbids a character of the new name";
+    case NameFault::ReservedWord:
+        return "the new name is reserved on Windows";
+    case NameFault::TrailingDotOrBlank:
+        return "on Windows no name ends in a dot or a blank";
+    case NameFault::None:
+    case NameFault::NoName:
+    case NameFault::TooLong:
+        break;
+    }
+    return {};
+}
+
+} // namespace VyrHost

@@ -1,0 +1,65 @@
+/// @file
+/// What a preview says of one entry.
+#pragma once
+
+#include <VyrPlatform/NameRules.h>
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace VyrHost {
+
+enum class Status : std::uint8_t
+{
+    /// Gets the name that the rules made.
+    Renamed,
+    /// Gets that name with a number, since the name itself is taken.
+    Numbered,
+    /// The rules make the name that it has.
+    Unchanged,
+    /// Its new name is taken, and the user asked to leave such entries alone.
+    Skipped,
+    /// Cannot get its new name; the reason says why.
+    Refused
+};
+
+enum class Reason : std::uint8_t
+{
+    None,
+    /// Nothing stands at the path.
+    NoSuchEntry,
+    /// The entry's folder, or the one that it would move into, cannot be read.
+    FolderNotRead,
+    NoDate,
+    BadFolder,
+    EmptyName,
+    /// Something that the batch leaves in place has the name.
+    TargetExists,
+    /// Another entry of the list gets the name.
+    TwoToOne,
+    NoFreeNumber,
+    /// The name has a lone surrogate that the old name did not have.
+    NewLoneSurrogate,
+    DotName,
+    ForbiddenCharacter,
+    TooLong,
+    ReservedWord,
+    TrailingDotOrBlank
+};
+
+struct Decision
+{
+    /// The new name; for an entry that is not renamed, the one that it would have had. Empty when there is none.
+    std::u16string_view name;
+    /// The folder that the name is in.
+    std::uint32_t folder = 0;
+    Status status = Status::Renamed;
+    Reason reason = Reason::None;
+    /// What the new name would be in trouble for on Windows, on a system that takes it.
+    VyrPlatform::NameFault warning = VyrPlatform::NameFault::None;
+
+    [[nodiscard]] bool IsRename() const { return status == Status::Renamed || status == Status::Numbered; }
+};
+
+} // namespace VyrHost

@@ -1,0 +1,83 @@
+// Judges new names: what the system forbids, and halves of characters.
+#include <VyrHost/preview/NameJudge.h>
+
+#include <cstddef>
+
+namespace VyrHost {
+
+namespace {
+
+using VyrPlatform::NameFault;
+
+bool IsHigh(char16_t unit)
+{
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+
+bool IsLow(char16_t unit)
+{
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+/// The index of the first lone surrogate from `start` on.
+std::size_t FindLoneSurrogate(std::u16string_view text, std::size_t start)
+{
+    for (std::size_t index = start; index < text.size(); ++index) {
+        if (IsHigh(text[index]) && index + 1 < text.size() && IsLow(text[index + 1]))
+            ++index;
+        else if (IsHigh(text[index]) || IsLow(text[index]))
+            return index;
+    }
+    return std::u16string_view::npos;
+}
+
+bool HasLoneSurrogate(std::u16string_view text, char16_t surrogate)
+{
+    std::size_t found = FindLoneSurrogate(text, 0);
+    while (found != std::u16string_view::npos && text[found] != surrogate)
+        found = FindLoneSurrogate(text, found + 1);
+    return found != std::u16string_view::npos;
+}
+
+bool HasNewLoneSurrogate(std::u16string_view newName, std::u16string_view oldName)
+{
+    for (std::size_t found = FindLoneSurrogate(newName, 0); found != std::u16string_view::npos;
+         found = FindLoneSurrogate(newName, found + 1))
+        if (!HasLoneSurrogate(oldName, newName[found]))
+            return true;
+    return false;
+}
+
+Reason ReasonOf(NameFault fault)
+{
+    switch (fault) {
+    case NameFault::NoName:
+        return Reason::DotName;
+    case NameFault::ForbiddenCharacter:
+        return Reason::ForbiddenCharacter;
+    case NameFault::TooLong:
+        return Reason::TooLong;
+    case NameFault::ReservedWord:
+        return Reason::ReservedWord;
+    case NameFault::TrailingDotOrBlank:
+        return Reason::TrailingDotOrBlank;
+    case NameFault::None:
+        break;
+    }
+    return Reason::None;
+}
+
+} // namespace
+
+NameJudgement JudgeName(std::u16string_view newName, std::u16string_view oldName)
+{
+    const VyrPlatform::NameVerdict verdict = VyrPlatform::CheckName(newName);
+    if (verdict.isError)
+        return {ReasonOf(verdict.fault), NameFault::None};
+    if (HasNewLoneSurrogate(newName, oldName))
+        return {Reason::NewLoneSurrogate, NameFault::None};
+    const bool isNew = verdict.fault != NameFault::None && VyrPlatform::CheckName(oldName).fault != verdict.fault;
+    return {Reason::None, isNew ? verdict.fault : NameFault::None};
+}
+
+} // namespace VyrHost

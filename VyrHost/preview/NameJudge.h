@@ -1,0 +1,20 @@
+/// @file
+/// Whether a new name can be given at all, whatever else is in the folder.
+#pragma once
+
+#include <VyrHost/preview/Decision.h>
+
+#include <string_view>
+
+namespace VyrHost {
+
+struct NameJudgement
+{
+    Reason reason = Reason::None;
+    /// A fault that the old name did not have and this system does not mind.
+    VyrPlatform::NameFault warning = VyrPlatform::NameFault::None;
+};
+
+[[nodiscard]] NameJudgement JudgeName(std::u16string_view newName, std::u16string_view oldName);
+
+} // namespace VyrHost

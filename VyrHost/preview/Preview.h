@@ -1,0 +1,41 @@
+/// @file
+/// Decides what becomes of each entry of a list under the rules.
+#pragma once
+
+#include <VyrHost/entries/EntryList.h>
+#include <VyrHost/preview/Decision.h>
+#include <VyrHost/rules/Rule.h>
+#include <VyrLibraryFuncs/name/NameFuncs.h>
+
+#include <cstdint>
+#include <vector>
+
+namespace VyrHost {
+
+/// What to do with an entry whose new name is taken.
+enum class OnConflict : std::uint8_t
+{
+    /// Number it where the rules allow that, else refuse it.
+    Number,
+    /// Leave it alone.
+    Skip,
+    /// Refuse it.
+    Refuse
+};
+
+struct ConflictSettings
+{
+    OnConflict mode = OnConflict::Number;
+    /// Its pattern has a "?", its position is 0 or 1 and its step is not 0: else no free name might be found.
+    VyrLibraryFuncs::NameFuncs::CONFLICTITEM numbering;
+};
+
+/// One decision for each entry of `list`, in its order. Only the listings that `list` brings are asked what stands on
+/// the disk, and those of the folders that entries move into.
+///
+/// Names are judged as they are after the batch: an entry's own name and the names that the batch vacates are free, the
+/// names given to earlier entries are taken. An entry that is refused keeps its name, and whoever was to get that name
+/// is decided anew.
+[[nodiscard]] std::vector<Decision> Decide(EntryList& list, const Rules& rules, const ConflictSettings& settings);
+
+} // namespace VyrHost

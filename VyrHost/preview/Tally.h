@@ -1,0 +1,28 @@
+/// @file
+/// How many entries of a preview have which fate.
+#pragma once
+
+#include <VyrHost/preview/Decision.h>
+
+#include <array>
+#include <cstddef>
+#include <vector>
+
+namespace VyrHost {
+
+class Tally
+{
+public:
+    explicit Tally(const std::vector<Decision>& decisions)
+    {
+        for (const Decision& decision : decisions)
+            ++m_counts[static_cast<std::size_t>(decision.status)];
+    }
+
+    [[nodiscard]] std::size_t operator[](Status status) const { return m_counts[static_cast<std::size_t>(status)]; }
+
+private:
+    std::array<std::size_t, static_cast<std::size_t>(Status::Refused) + 1> m_counts{};
+};
+
+} // namespace VyrHost

@@ -1,0 +1,71 @@
+// Makes rules of a date format.
+#include <VyrHost/rules/RuleTexts.h>
+
+#include <VyrHost/UsageError.h>
+#include <VyrHost/output/SafeText.h>
+#include <VyrHost/rules/LiteralText.h>
+#include <VyrHost/rules/Tokens.h>
+
+#include <string>
+#include <utility>
+
+namespace VyrHost {
+
+namespace {
+
+using VyrLibraryFuncs::NameFuncs;
+
+[[noreturn]] void Refuse(std::u16string_view text, const std::string& reason)
+{
+    throw UsageError("--date '" + SafeText(text) + "': " + reason);
+}
+
+/// Where the date goes, by the numbers of ITEM::dateTimePosition.
+enum class DatePosition : int
+{
+    Alone,
+    BeforeName,
+    AfterName
+};
+
+void Append(Rules& rules, DatePosition position, std::u16string_view format, const std::vector<DateSource>& sources)
+{
+    if (NameFuncs::GetRenameToSampleFormated(format).IsEmpty())
+        Refuse(format, "the format gives no text");
+    NameFuncs::ITEM item = NewItem(RenameKind::DateTime);
+    item.dateTimePosition = static_cast<int>(position);
+    item.dateTimeFormat = format;
+    rules.push_back(std::make_unique<DateRule>(std::move(item), sources));
+}
+
+} // namespace
+
+Rules DateRules(const CString& text, const std::vector<DateSource>& sources)
+{
+    constexpr auto None = std::u16string_view::npos;
+    const std::u16string_view all = text;
+    RequireNameText(all, "--date");
+    if (all.ends_with(Token::Folder))
+        Refuse(all, "no name follows <Folder>; add <Name> to keep the old one");
+    const std::size_t name = all.find(Token::Name);
+    Rules rules;
+    if (name == None) {
+        Append(rules, DatePosition::Alone, all, sources);
+        return rules;
+    }
+    const std::u16string_view before = all.substr(0, name);
+    const std::u16string_view after = all.substr(name + Token::Name.size());
+    if (after.find(Token::Name) != None)
+        Refuse(all, "<Name> stands in it twice");
+    if (after.find(Token::Folder) != None)
+        Refuse(all, "<Name> must come after the last <Folder>");
+    if (before.empty() && after.empty())
+        Refuse(all, "it has no date");
+    if (!before.empty())
+        Append(rules, DatePosition::BeforeName, before, sources);
+    if (!after.empty())
+        Append(rules, DatePosition::AfterName, after, sources);
+    return rules;
+}
+
+} // namespace VyrHost

@@ -1,0 +1,15 @@
+/// @file
+/// A path that does not depend on the current folder.
+#pragma once
+
+#include <VyrPlatform/CString.h>
+#include <VyrPlatform/Export.h>
+
+namespace VyrPlatform {
+
+/// `path` as a full path: what it names from the current folder, without "." steps, doubled separators and separators
+/// at its end (that of a root stays). Nothing is looked up: on Linux ".." steps stay, since what they lead to depends
+/// on links; on Windows they are resolved in the text, as the system itself does. An empty path stays empty.
+[[nodiscard]] VYR_PLATFORM_API CString GetFullPath(const CString& path);
+
+} // namespace VyrPlatform
