@@ -163,7 +163,9 @@ public:
     static CString GetExifFormat(CString path, CString format);
 
     /// Copies what stands in the folder `source` into the folder `destination`, folders with their contents; existing
-    /// files are overwritten.
+    /// files are overwritten. Neither path may stand inside the other.
+    /// @param source  a path that is empty, or at which no folder stands, gives 0.
+    /// @param destination  is there already: it is not made for files that stand directly in `source`.
     /// @param records  gets a record for each folder that was created, a parent before its children. Never cleared.
     /// Null:
     ///        nothing is recorded.

@@ -22,7 +22,8 @@ template <class OnFolder, class OnFile>
 bool WalkFolder(const CString& source, const CString& destination, OnFolder onFolder, OnFile onFile)
 {
     CFileFind finder;
-    if (!finder.FindFile(FileUtils::GetCombinePath(source, u"*.*")))
+    // An empty path joined with the pattern would name the current folder.
+    if (source.IsEmpty() || !finder.FindFile(FileUtils::GetCombinePath(source, u"*.*")))
         return false;
     for (bool more = true; more;) {
         more = finder.FindNextFile();

@@ -1,0 +1,416 @@
+// Folder copy and move on real trees, compared entry by entry.
+#include <VyrLibraryFuncs/name/NameFuncs.h>
+
+#include <VyrLibraryUtils/DateTimeUtils.h>
+#include <VyrPlatform/MessageQueue.h>
+
+#include <tests/support/MessagePosting.h>
+#include <tests/support/ScratchFolder.h>
+#include <tests/support/StdPath.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <random>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+using VyrLibraryFuncs::NameFuncs;
+using VyrLibraryUtils::DateTimeUtils;
+using VyrTests::MessagePosting;
+using VyrTests::ScratchFolder;
+
+namespace {
+
+using Records = std::list<NameFuncs::RENAMEITEM>;
+using Operation = int (*)(CString, CString, Records*);
+
+constexpr Operation operations[] = {&NameFuncs::CopyFolder, &NameFuncs::MoveFolder};
+
+constexpr const char* folderMark = "(a folder)";
+
+std::string ContentOf(const std::filesystem::path& file)
+{
+    std::ostringstream content;
+    content << std::ifstream(file, std::ios::binary).rdbuf();
+    return content.str();
+}
+
+/// What stands below `folder`: the relative path of each entry, and its content.
+std::map<std::string, std::string> Tree(const CString& folder)
+{
+    const std::filesystem::path root = VyrTests::ToStdPath(folder);
+    std::map<std::string, std::string> entries;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(root))
+        entries[std::filesystem::relative(entry.path(), root).generic_string()] =
+            entry.is_directory() ? folderMark : ContentOf(entry.path());
+    return entries;
+}
+
+/// The folders of a tree, as the records name those that were made for it.
+std::set<std::string> FoldersOf(const std::map<std::string, std::string>& tree)
+{
+    std::set<std::string> folders;
+    for (const auto& [path, content] : tree)
+        if (content == folderMark)
+            folders.insert(path);
+    return folders;
+}
+
+std::string Relative(const CString& path, const CString& root)
+{
+    return std::filesystem::relative(VyrTests::ToStdPath(path), VyrTests::ToStdPath(root)).generic_string();
+}
+
+/// The name of the entry that the system lists last.
+std::u16string LastEntry(const CString& folder)
+{
+    std::u16string last;
+    for (const auto& entry : std::filesystem::directory_iterator(VyrTests::ToStdPath(folder)))
+        last = entry.path().filename().u16string();
+    return last;
+}
+
+/// Makes a tree of about `size` entries below the folder `root` of `scratch`.
+void MakeRandomTree(const ScratchFolder& scratch, std::u16string_view root, std::mt19937& random, int size)
+{
+    std::vector<CString> folders{CString(root)};
+    scratch.MakeFolder(root);
+    for (int i = 0; i < size; ++i) {
+        const CString parent = folders[random() % folders.size()];
+        const CString name = parent + u"/" + CString(static_cast<char16_t>(u'a' + i % 26), 1 + i / 26);
+        if (random() % 3 == 0) {
+            scratch.MakeFolder(name);
+            folders.push_back(name);
+        } else {
+            scratch.WriteFile(name + u".txt", std::string(random() % 5000, static_cast<char>('0' + i % 10)));
+        }
+    }
+}
+
+/// Makes a folder the current one. A fault in what an empty path stands for then harms nothing but it.
+class CurrentFolder
+{
+public:
+    explicit CurrentFolder(const CString& folder) { std::filesystem::current_path(VyrTests::ToStdPath(folder)); }
+    CurrentFolder(const CurrentFolder&) = delete;
+    CurrentFolder& operator=(const CurrentFolder&) = delete;
+    ~CurrentFolder() { std::filesystem::current_path(m_before); }
+
+private:
+    std::filesystem::path m_before = std::filesystem::current_path();
+};
+
+} // namespace
+
+TEST(NameFuncsFolder, EmptySourceCopiesNothingAndGivesZero)
+{
+    const ScratchFolder scratch;
+    Records records;
+    EXPECT_EQ(NameFuncs::CopyFolder(scratch.MakeFolder(u"from"), scratch.Path(u"to"), &records), 0);
+    EXPECT_TRUE(records.empty());
+    EXPECT_TRUE(scratch.Has(u"from"));
+    EXPECT_FALSE(scratch.Has(u"to"));
+}
+
+TEST(NameFuncsFolder, EmptySourceIsRemovedByAMove)
+{
+    const ScratchFolder scratch;
+    Records records;
+    EXPECT_EQ(NameFuncs::MoveFolder(scratch.MakeFolder(u"from"), scratch.Path(u"to"), &records), 1);
+    EXPECT_TRUE(records.empty());
+    EXPECT_FALSE(scratch.Has(u"from"));
+    EXPECT_FALSE(scratch.Has(u"to"));
+}
+
+TEST(NameFuncsFolder, SourceThatIsNoFolderGivesZeroAndStaysAsItIs)
+{
+    const ScratchFolder scratch;
+    const CString file = scratch.WriteFile(u"file", "content");
+    for (const Operation operation : operations)
+        for (const CString& source : {scratch.Path(u"missing"), file}) {
+            Records records;
+            EXPECT_EQ(operation(source, scratch.Path(u"to"), &records), 0);
+            EXPECT_TRUE(records.empty());
+            EXPECT_FALSE(scratch.Has(u"to"));
+        }
+    EXPECT_EQ(scratch.ReadFile(u"file"), "content");
+}
+
+TEST(NameFuncsFolder, EmptySourcePathIsNotTheCurrentFolder)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"current/sub/a.txt", "a");
+    const CurrentFolder current(scratch.Path(u"current"));
+    const auto before = Tree(scratch.Path());
+    for (const Operation operation : operations) {
+        Records records;
+        EXPECT_EQ(operation(u"", scratch.Path(u"to"), &records), 0);
+        EXPECT_TRUE(records.empty());
+        EXPECT_EQ(Tree(scratch.Path()), before);
+    }
+}
+
+TEST(NameFuncsFolder, CopyHasEverythingAndLeavesTheSource)
+{
+    for (unsigned seed = 0; seed < 5; ++seed) {
+        std::mt19937 random(seed);
+        const ScratchFolder scratch;
+        MakeRandomTree(scratch, u"from", random, 40);
+        scratch.WriteFile(u"from/.hidden", "hidden");
+        scratch.MakeFolder(u"from/.hidden folder");
+        const auto before = Tree(scratch.Path(u"from"));
+        Records records;
+        NameFuncs::CopyFolder(scratch.Path(u"from"), scratch.MakeFolder(u"to"), &records);
+        EXPECT_EQ(Tree(scratch.Path(u"from")), before);
+        EXPECT_EQ(Tree(scratch.Path(u"to")), before);
+        EXPECT_EQ(records.size(), FoldersOf(before).size());
+    }
+}
+
+TEST(NameFuncsFolder, MoveTakesEverythingAndRemovesTheSource)
+{
+    for (unsigned seed = 0; seed < 5; ++seed) {
+        std::mt19937 random(seed);
+        const ScratchFolder scratch;
+        MakeRandomTree(scratch, u"from", random, 40);
+        scratch.WriteFile(u"from/.hidden", "hidden");
+        const auto before = Tree(scratch.Path(u"from"));
+        Records records;
+        EXPECT_EQ(NameFuncs::MoveFolder(scratch.Path(u"from"), scratch.MakeFolder(u"to"), &records), 1);
+        EXPECT_FALSE(scratch.Has(u"from"));
+        EXPECT_EQ(Tree(scratch.Path(u"to")), before);
+        EXPECT_EQ(records.size(), FoldersOf(before).size());
+    }
+}
+
+TEST(NameFuncsFolder, EachFolderMadeHasARecordAfterItsParents)
+{
+    for (const Operation operation : operations) {
+        std::mt19937 random(7);
+        const ScratchFolder scratch;
+        MakeRandomTree(scratch, u"from", random, 40);
+        const std::set<std::string> folders = FoldersOf(Tree(scratch.Path(u"from")));
+        Records records;
+        operation(scratch.Path(u"from"), scratch.MakeFolder(u"to"), &records);
+        std::set<std::string> recorded;
+        for (const NameFuncs::RENAMEITEM& record : records) {
+            const std::string path = Relative(record.destinationPath, scratch.Path(u"to"));
+            EXPECT_EQ(path, Relative(record.sourcePath, scratch.Path(u"from")));
+            const std::string parent = path.substr(0, path.find_last_of('/'));
+            EXPECT_TRUE(parent == path || recorded.contains(parent)) << path;
+            EXPECT_TRUE(recorded.insert(path).second) << path;
+        }
+        EXPECT_EQ(recorded, folders);
+    }
+}
+
+TEST(NameFuncsFolder, NestedFoldersAreRecordedParentFirst)
+{
+    for (const Operation operation : operations) {
+        const ScratchFolder scratch;
+        scratch.MakeFolder(u"from/1/2/3");
+        Records records;
+        operation(scratch.Path(u"from"), scratch.Path(u"to"), &records);
+        ASSERT_EQ(records.size(), 3U);
+        const char16_t* const expected[] = {u"to/1", u"to/1/2", u"to/1/2/3"};
+        EXPECT_TRUE(std::equal(records.begin(), records.end(), std::begin(expected),
+                               [&scratch](const NameFuncs::RENAMEITEM& record, const char16_t* path) {
+                                   return record.destinationPath == scratch.Path(path);
+                               }));
+    }
+}
+
+TEST(NameFuncsFolder, RecordsHaveTheTimesOfTheSource)
+{
+    for (const Operation operation : operations) {
+        const ScratchFolder scratch;
+        scratch.WriteFile(u"from/sub/a.txt", "a");
+        const CString source = scratch.Path(u"from/sub");
+        const COleDateTime created = DateTimeUtils::GetDateCreated(source);
+        const COleDateTime modified = DateTimeUtils::GetDateModified(source);
+        Records records;
+        operation(scratch.Path(u"from"), scratch.Path(u"to"), &records);
+        ASSERT_EQ(records.size(), 1U);
+        EXPECT_EQ(records.front().dateCreated.GetStatus(), COleDateTime::valid);
+        EXPECT_EQ(static_cast<double>(records.front().dateCreated), static_cast<double>(created));
+        EXPECT_EQ(static_cast<double>(records.front().dateModified), static_cast<double>(modified));
+    }
+}
+
+TEST(NameFuncsFolder, RecordsAreAddedToTheCallersList)
+{
+    const ScratchFolder scratch;
+    scratch.MakeFolder(u"from/sub");
+    Records records(1);
+    records.front().sourcePath = u"earlier";
+    NameFuncs::CopyFolder(scratch.Path(u"from"), scratch.Path(u"to"), &records);
+    EXPECT_EQ(records.size(), 2U);
+    EXPECT_EQ(records.front().sourcePath, u"earlier");
+}
+
+TEST(NameFuncsFolder, WithoutAListNothingIsRecorded)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"from/sub/a.txt", "a");
+    EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"from"), scratch.Path(u"to"), nullptr), 1);
+    EXPECT_EQ(NameFuncs::MoveFolder(scratch.Path(u"from"), scratch.Path(u"moved"), nullptr), 1);
+    EXPECT_EQ(scratch.ReadFile(u"to/sub/a.txt"), "a");
+    EXPECT_EQ(scratch.ReadFile(u"moved/sub/a.txt"), "a");
+}
+
+TEST(NameFuncsFolder, ExistingDestinationFolderIsFilledWithoutARecord)
+{
+    for (const Operation operation : operations) {
+        const ScratchFolder scratch;
+        scratch.WriteFile(u"from/sub/new.txt", "new");
+        scratch.WriteFile(u"to/sub/old.txt", "old");
+        Records records;
+        EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"to"), &records), 1);
+        EXPECT_TRUE(records.empty());
+        EXPECT_EQ(scratch.ReadFile(u"to/sub/new.txt"), "new");
+        EXPECT_EQ(scratch.ReadFile(u"to/sub/old.txt"), "old");
+    }
+}
+
+TEST(NameFuncsFolder, ExistingFilesAreReplaced)
+{
+    for (const Operation operation : operations) {
+        const ScratchFolder scratch;
+        scratch.WriteFile(u"from/a.txt", "new");
+        scratch.WriteFile(u"to/a.txt", "old and longer");
+        Records records;
+        EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"to"), &records), 1);
+        EXPECT_EQ(scratch.ReadFile(u"to/a.txt"), "new");
+    }
+}
+
+TEST(NameFuncsFolder, FilesAreNotMovedIntoAMissingDestination)
+{
+    for (const Operation operation : operations) {
+        const ScratchFolder scratch;
+        scratch.WriteFile(u"from/a.txt", "a");
+        Records records;
+        EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"to"), &records), 0);
+        EXPECT_FALSE(scratch.Has(u"to"));
+        EXPECT_EQ(scratch.ReadFile(u"from/a.txt"), "a");
+    }
+}
+
+TEST(NameFuncsFolder, SeparatorsAtTheEndOfThePathsAreJoinedOnce)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"from/sub/a.txt", "a");
+    Records records;
+    EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"from") + u"/", scratch.Path(u"to") + u"/", &records), 1);
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(Relative(records.front().destinationPath, scratch.Path()), "to/sub");
+    EXPECT_EQ(scratch.ReadFile(u"to/sub/a.txt"), "a");
+}
+
+TEST(NameFuncsFolder, CopyTellsOnlyWhetherItsLastEntryWasCopied)
+{
+    for (const char16_t* const blocked : {u"a.txt", u"b.txt", u"c.txt", u"d.txt"}) {
+        const ScratchFolder scratch;
+        for (const char16_t* const name : {u"from/a.txt", u"from/b.txt", u"from/c.txt", u"from/d.txt"})
+            scratch.WriteFile(name, "new");
+        scratch.MakeFolder(CString(u"to/") + blocked);
+        Records records;
+        const int expected = LastEntry(scratch.Path(u"from")) == blocked ? 0 : 1;
+        EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"from"), scratch.Path(u"to"), &records), expected);
+        EXPECT_EQ(Tree(scratch.Path(u"to")).size(), 4U) << "one failure does not keep the others from being copied";
+    }
+}
+
+TEST(NameFuncsFolder, CopyOfAnEmptySubfolderCountsAsNoSuccess)
+{
+    const ScratchFolder scratch;
+    scratch.MakeFolder(u"from/empty");
+    Records records;
+    EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"from"), scratch.Path(u"to"), &records), 0);
+    EXPECT_EQ(records.size(), 1U);
+    EXPECT_TRUE(scratch.Has(u"to/empty"));
+}
+
+TEST(NameFuncsFolder, FileThatCannotBeMovedKeepsItsFolders)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"from/sub/stays.txt", "stays");
+    scratch.WriteFile(u"from/sub/goes.txt", "goes");
+    scratch.MakeFolder(u"to/sub/stays.txt");
+    Records records;
+    EXPECT_EQ(NameFuncs::MoveFolder(scratch.Path(u"from"), scratch.Path(u"to"), &records), 0);
+    EXPECT_EQ(scratch.ReadFile(u"from/sub/stays.txt"), "stays");
+    EXPECT_EQ(scratch.ReadFile(u"to/sub/goes.txt"), "goes");
+    EXPECT_FALSE(scratch.Has(u"from/sub/goes.txt"));
+}
+
+TEST(NameFuncsFolder, FileInThePlaceOfADestinationFolderLosesNothing)
+{
+    for (const Operation operation : operations) {
+        const ScratchFolder scratch;
+        scratch.WriteFile(u"from/sub/deep/a.txt", "a");
+        scratch.WriteFile(u"to/sub", "in the way");
+        Records records;
+        EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"to"), &records), 0);
+        EXPECT_TRUE(records.empty());
+        EXPECT_EQ(scratch.ReadFile(u"from/sub/deep/a.txt"), "a");
+        EXPECT_EQ(scratch.ReadFile(u"to/sub"), "in the way");
+    }
+}
+
+TEST(NameFuncsFolder, CopyAndMoveOntoItselfLoseNothing)
+{
+    for (const Operation operation : operations) {
+        const ScratchFolder scratch;
+        scratch.WriteFile(u"from/sub/a.txt", "a");
+        const auto before = Tree(scratch.Path());
+        Records records;
+        EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"from"), &records), 0);
+        EXPECT_TRUE(records.empty());
+        EXPECT_EQ(Tree(scratch.Path()), before);
+    }
+}
+
+TEST(NameFuncsFolder, StopDoesNotEndAWalk)
+{
+    for (const Operation operation : operations) {
+        const ScratchFolder scratch;
+        for (const char16_t* const name : {u"from/a", u"from/b", u"from/c", u"from/sub/d"})
+            scratch.WriteFile(name, "content");
+        scratch.MakeFolder(u"to");
+        const auto before = Tree(scratch.Path(u"from"));
+        const MessagePosting queue;
+        int handled = 0;
+        queue.PostStop();
+        for (int i = 0; i < 4; ++i)
+            queue.PostWork([&handled] { ++handled; });
+        Records records;
+        EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"to"), &records), 1);
+        EXPECT_EQ(Tree(scratch.Path(u"to")), before);
+        EXPECT_EQ(handled, 4);
+        EXPECT_FALSE(VyrPlatform::MessageQueue::DrainOne()) << "the walk has taken the stop";
+    }
+}
+
+TEST(NameFuncsFolder, DeepTreesAreCopiedAndMoved)
+{
+    const ScratchFolder scratch;
+    CString deepest = u"from";
+    for (int depth = 0; depth < 60; ++depth)
+        deepest += u"/d";
+    scratch.WriteFile(deepest + u"/a.txt", "deep");
+    const auto before = Tree(scratch.Path(u"from"));
+    Records records;
+    EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"from"), scratch.Path(u"to"), &records), 1);
+    EXPECT_EQ(records.size(), 60U);
+    EXPECT_EQ(Tree(scratch.Path(u"to")), before);
+    EXPECT_EQ(NameFuncs::MoveFolder(scratch.Path(u"from"), scratch.Path(u"moved"), &records), 1);
+    EXPECT_EQ(Tree(scratch.Path(u"moved")), before);
+}
