@@ -119,8 +119,8 @@ private:
                                          [this](const Letter& listed) { return listed.letter == m_rest.front(); });
         if (letter == letters.end())
             return false;
-        std::size_t length = std::min(m_rest.find_first_not_of(letter->letter), m_rest.size());
-        length = std::min(length, letter->conversions.size());
+        const std::u16string_view longest = m_rest.substr(0, letter->conversions.size());
+        std::size_t length = std::min(longest.find_first_not_of(letter->letter), longest.size());
         while (length > 0 && letter->conversions[length - 1].empty())
             --length;
         if (length == 0)

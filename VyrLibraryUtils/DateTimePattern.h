@@ -25,14 +25,14 @@ constexpr std::u16string_view stored = u"%Y/%m/%d %H:%M:%S";
 /// `dateTime` written with `pattern`; empty when it is not valid.
 [[nodiscard]] CString Write(const COleDateTime& dateTime, std::u16string_view pattern);
 
-/// How many digits a number may have.
-enum class Digits : std::uint8_t
+/// How closely a text must follow a pattern. Names count in either case, and a two-digit year below 30 is of the 21st
+/// century, any other of the 20th.
+enum class Reading : std::uint8_t
 {
-    /// As many as the pattern writes.
+    /// Unit for unit.
     Exact,
-    /// One or two; a year has two, or four where four stand there. A two-digit year below 30 is of the 21st century,
-    /// any other of the 20th.
-    Free
+    /// Numbers may have one digit or two, a year two or four; a blank stands for any run of blanks.
+    Lenient
 };
 
 /// Reads a date-time from the front of a text, one pattern after the other.
@@ -41,10 +41,9 @@ class Reader
 public:
     explicit Reader(std::u16string_view text) noexcept : m_rest(text) {}
 
-    /// Takes what `pattern` describes off the front. A blank in the pattern stands for any run of blanks; names are
-    /// read in either case.
+    /// Takes what `pattern` describes off the front.
     /// @return false when something else stands there; the reader is then of no more use.
-    [[nodiscard]] bool Take(std::u16string_view pattern, Digits digits);
+    [[nodiscard]] bool Take(std::u16string_view pattern, Reading reading);
     /// Takes blanks off the front.
     /// @return whether there was one.
     bool TakeBlanks() noexcept;
@@ -65,10 +64,10 @@ private:
         bool isTwelveHour = false;
     };
 
-    bool TakeConversion(char16_t letter, bool isPadded, Digits digits);
+    bool TakeConversion(char16_t letter, bool isPadded, Reading reading);
     bool TakeUnit(char16_t unit) noexcept;
     bool TakeNumber(int& number, std::size_t least, std::size_t most) noexcept;
-    bool TakeYear(bool isLong, Digits digits) noexcept;
+    bool TakeYear(bool isLong, Reading reading) noexcept;
     bool TakeMonthName();
     bool TakeDayName();
     bool TakeHalfDay();

@@ -28,17 +28,19 @@ constexpr std::array<std::u16string_view, 12> englishMonths{u"Jan", u"Feb", u"Ma
 
 } // namespace
 
-bool Reader::Take(std::u16string_view pattern, Digits digits)
+bool Reader::Take(std::u16string_view pattern, Reading reading)
 {
     while (!pattern.empty()) {
         const bool isPadded = !pattern.starts_with(u"%-");
         const std::size_t conversion = isPadded ? 2 : 3;
         if (pattern.front() == u'%' && pattern.size() >= conversion) {
-            if (!TakeConversion(pattern[conversion - 1], isPadded, digits))
+            if (!TakeConversion(pattern[conversion - 1], isPadded, reading))
                 return false;
             pattern.remove_prefix(conversion);
         } else {
-            if (!TakeUnit(pattern.front()))
+            const bool isTaken =
+                reading == Reading::Lenient && IsBlank(pattern.front()) ? TakeBlanks() : TakeUnit(pattern.front());
+            if (!isTaken)
                 return false;
             pattern.remove_prefix(1);
         }
@@ -46,13 +48,13 @@ bool Reader::Take(std::u16string_view pattern, Digits digits)
     return true;
 }
 
-bool Reader::TakeConversion(char16_t letter, bool isPadded, Digits digits)
+bool Reader::TakeConversion(char16_t letter, bool isPadded, Reading reading)
 {
-    const std::size_t least = isPadded && digits == Digits::Exact ? 2 : 1;
+    const std::size_t least = isPadded && reading == Reading::Exact ? 2 : 1;
     switch (letter) {
     case u'Y':
     case u'y':
-        return TakeYear(letter == u'Y', digits);
+        return TakeYear(letter == u'Y', reading);
     case u'm':
         return TakeNumber(m_fields.month, least, 2);
     case u'd':
@@ -81,8 +83,6 @@ bool Reader::TakeConversion(char16_t letter, bool isPadded, Digits digits)
 
 bool Reader::TakeUnit(char16_t unit) noexcept
 {
-    if (IsBlank(unit))
-        return TakeBlanks();
     if (!m_rest.starts_with(unit))
         return false;
     m_rest.remove_prefix(1);
@@ -107,13 +107,11 @@ bool Reader::TakeNumber(int& number, std::size_t least, std::size_t most) noexce
     return length >= least;
 }
 
-bool Reader::TakeYear(bool isLong, Digits digits) noexcept
+bool Reader::TakeYear(bool isLong, Reading reading) noexcept
 {
     const std::u16string_view front = m_rest.substr(0, 4);
     const bool hasFour = front.size() == 4 && std::all_of(front.begin(), front.end(), IsDigit);
-    if (isLong && digits == Digits::Exact)
-        return TakeNumber(m_fields.year, 4, 4);
-    if (hasFour && digits == Digits::Free)
+    if (reading == Reading::Exact ? isLong : hasFour)
         return TakeNumber(m_fields.year, 4, 4);
     if (!TakeNumber(m_fields.year, 2, 2))
         return false;
@@ -185,7 +183,7 @@ COleDateTime Invalid() noexcept
 COleDateTime Read(std::u16string_view text, std::u16string_view pattern)
 {
     Reader reader(text);
-    if (reader.Take(pattern, Digits::Exact) && reader.IsAtEnd())
+    if (reader.Take(pattern, Reading::Exact) && reader.IsAtEnd())
         return reader.Value();
     return Invalid();
 }

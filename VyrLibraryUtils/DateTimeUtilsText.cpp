@@ -10,8 +10,8 @@
 
 namespace VyrLibraryUtils {
 
-using DateTimePattern::Digits;
 using DateTimePattern::Reader;
+using DateTimePattern::Reading;
 
 namespace {
 
@@ -28,12 +28,12 @@ CString TimePattern()
 struct Form
 {
     CString pattern;
-    Digits digits;
+    Reading reading;
 };
 
 bool Take(Reader& reader, const Form& form)
 {
-    return reader.Take(form.pattern, form.digits);
+    return reader.Take(form.pattern, form.reading);
 }
 
 std::u16string_view WithoutBlanksAround(std::u16string_view text)
@@ -44,12 +44,12 @@ std::u16string_view WithoutBlanksAround(std::u16string_view text)
 
 COleDateTime Parse(std::u16string_view text)
 {
-    const std::array<Form, 4> dates{{{u"%Y/%m/%d", Digits::Exact},
-                                     {u"%Y-%m-%d", Digits::Exact},
-                                     {u"%Y-%b-%d", Digits::Exact},
-                                     {ShortDatePattern(), Digits::Free}}};
+    const std::array<Form, 4> dates{{{u"%Y/%m/%d", Reading::Exact},
+                                     {u"%Y-%m-%d", Reading::Exact},
+                                     {u"%Y-%b-%d", Reading::Exact},
+                                     {ShortDatePattern(), Reading::Lenient}}};
     const std::array<Form, 3> times{
-        {{u"%H:%M:%S", Digits::Exact}, {u"%H:%M", Digits::Exact}, {TimePattern(), Digits::Free}}};
+        {{u"%H:%M:%S", Reading::Exact}, {u"%H:%M", Reading::Exact}, {TimePattern(), Reading::Lenient}}};
     for (const Form& date : dates) {
         Reader reader(WithoutBlanksAround(text));
         if (!Take(reader, date))

@@ -53,8 +53,17 @@ CString TidyText(std::u16string_view text)
 
 CString TidyPattern(std::u16string_view pattern)
 {
-    return ReplaceLetterRuns(TidyText(pattern),
-                             [](std::u16string_view run) { return CString(run.front() == u'y' ? u"yyyy" : run); });
+    return ReplaceLetterRuns(TidyText(pattern), [](std::u16string_view run) -> CString {
+        switch (run.front()) {
+        case u'y':
+            return u"yyyy";
+        case u'b':
+        case u'B':
+            return u"a";
+        default:
+            return run;
+        }
+    });
 }
 
 } // namespace VyrPlatform::Locale

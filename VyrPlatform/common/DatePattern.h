@@ -16,7 +16,8 @@ namespace VyrPlatform::Locale {
 
 /// `text` with plain blanks for every kind of blank, and without the marks of writing direction.
 [[nodiscard]] CString TidyText(std::u16string_view text);
-/// `pattern` likewise, and with its year in four digits, so that what it writes can be read back.
+/// `pattern` likewise, with its year in four digits, so that what it writes can be read back, and with the halves of
+/// the day for any finer parts of it (morning, evening, night).
 [[nodiscard]] CString TidyPattern(std::u16string_view pattern);
 
 } // namespace VyrPlatform::Locale

@@ -79,7 +79,7 @@ CString SystemLocaleName(const CString& name)
     uloc_canonicalize(Encoding::ToUtf8(name).c_str(), canonical, sizeof canonical, &error);
     const std::string_view result = U_FAILURE(error) || error == U_STRING_NOT_TERMINATED_WARNING ? "" : canonical;
     // ICU has neither thousands separators nor an order of words for the POSIX locale.
-    if (result.empty() || result == "c" || result == "en_US_POSIX")
+    if (result.empty() || result == "c" || result == "posix" || result == "en_US_POSIX")
         return u"en_US";
     return Encoding::FromUtf8(result);
 }

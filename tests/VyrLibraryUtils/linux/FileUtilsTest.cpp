@@ -1,0 +1,55 @@
+// Questions about files that Linux alone can be asked: links, devices, names that are not UTF-8.
+#include <VyrLibraryUtils/FileUtils.h>
+#include <VyrPlatform/FileSystem.h>
+
+#include <tests/support/Describe.h>
+#include <tests/support/ScratchFolder.h>
+#include <tests/support/StdPath.h>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+using VyrLibraryUtils::FileUtils;
+using VyrTests::ScratchFolder;
+using VyrTests::ToStdPath;
+
+namespace {
+
+TEST(FileUtilsOnLinux, CountsALinkThatLeadsNowhereAsExisting)
+{
+    const ScratchFolder scratch;
+    std::filesystem::create_symlink("nowhere", ToStdPath(scratch.Path(u"link")));
+    EXPECT_EQ(FileUtils::IsFileExist(scratch.Path(u"link")), 1);
+    EXPECT_EQ(FileUtils::IsDirectory(scratch.Path(u"link")), 0);
+}
+
+TEST(FileUtilsOnLinux, FollowsNoLinkBelowAFolder)
+{
+    const ScratchFolder scratch;
+    const ScratchFolder elsewhere;
+    elsewhere.WriteFile(u"big", std::string(1000, 'x'));
+    scratch.WriteFile(u"a", "12345");
+    std::filesystem::create_directory_symlink(ToStdPath(elsewhere.Path()), ToStdPath(scratch.Path(u"folder")));
+    std::filesystem::create_symlink(ToStdPath(elsewhere.Path(u"big")), ToStdPath(scratch.Path(u"file")));
+    std::filesystem::create_directory_symlink(ToStdPath(scratch.Path()), ToStdPath(scratch.Path(u"loop")));
+    EXPECT_EQ(FileUtils::GetFileSize(scratch.Path()), 5);
+    EXPECT_EQ(FileUtils::GetFileSize(scratch.Path(u"file")), 1000);
+}
+
+TEST(FileUtilsOnLinux, FindsNamesThatAreNotUtf8)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"\xDCFF\xDC80/x\xDCE4.txt", "123");
+    EXPECT_EQ(FileUtils::IsFileExist(path), 1);
+    EXPECT_EQ(FileUtils::GetFileSize(path), 3);
+    EXPECT_EQ(FileUtils::GetFileSize(scratch.Path()), 3);
+}
+
+TEST(FileUtilsOnLinux, CountsNothingForADevice)
+{
+    EXPECT_EQ(FileUtils::IsFileExist(u"/dev/null"), 1);
+    EXPECT_EQ(FileUtils::GetFileSize(u"/dev/null"), 0);
+}
+
+} // namespace

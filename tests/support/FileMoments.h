@@ -1,0 +1,23 @@
+// For tests: file times set, and local calendar fields turned into file times by the system's own conversion.
+#pragma once
+
+#include <VyrPlatform/COleDateTime.h>
+#include <VyrPlatform/CString.h>
+#include <VyrPlatform/FileTimes.h>
+
+namespace VyrTests {
+
+/// A Unix time, with the given count of 100-nanosecond intervals on top.
+[[nodiscard]] constexpr VyrPlatform::FileTicks TicksOfUnixTime(std::int64_t seconds, std::int64_t fraction = 0)
+{
+    constexpr std::int64_t secondsFrom1601To1970 = 11'644'473'600;
+    return (seconds + secondsFrom1601To1970) * 10'000'000 + fraction;
+}
+
+/// Sets the last-write and the last-access time of the file or folder at `path`; a failure fails the test.
+void StampFile(const CString& path, VyrPlatform::FileTicks modified, VyrPlatform::FileTicks accessed);
+
+/// The file time that writing the calendar fields of `local` to a file makes of them.
+[[nodiscard]] VyrPlatform::FileTicks ToFileTicks(const COleDateTime& local);
+
+} // namespace VyrTests
