@@ -1,0 +1,225 @@
+// Turns paths into places, finds out who waits for whom, refuses what cannot be done, and has the rest ordered.
+#include <VyrHost/plan/Planner.h>
+
+#include <VyrHost/plan/FolderTree.h>
+#include <VyrHost/plan/StepOrder.h>
+
+#include <utility>
+
+namespace VyrHost {
+
+namespace {
+
+class Planner
+{
+public:
+    Planner(const RenameList& list, const FoldingOfFolder& foldingOf)
+        : m_list(list), m_tree(m_draft.folders, foldingOf), m_reasons(list.renames.size())
+    {}
+
+    PlannerResult Plan()
+    {
+        PlaceEntries();
+        PlaceNewFolders();
+        FindWhoStandsWhere();
+        FindFoldersInTheirPlaces();
+        RefuseTangledFolders();
+        RefuseDependents();
+        return Finish();
+    }
+
+private:
+    /// A draft entry's places are empty once it is refused for them.
+    void PlaceEntries()
+    {
+        m_draft.entries.reserve(m_list.renames.size());
+        m_fromSlots.reserve(m_list.renames.size());
+        m_toSlots.reserve(m_list.renames.size());
+        for (const PlannedRename& rename : m_list.renames) {
+            const std::optional<Place> from = m_tree.PlaceOf(rename.from);
+            const std::optional<Place> to = m_tree.PlaceOf(rename.to);
+            const auto entry = static_cast<PlanIndex>(m_draft.entries.size());
+            m_draft.entries.push_back(
+                {.kind = rename.kind, .from = from.value_or(Place()), .to = to.value_or(Place())});
+            if (!from)
+                Refuse(entry, u"the path is not a full path of a file or folder");
+            else if (!to)
+                Refuse(entry, u"the new path is not a full path that a file or folder can have");
+            else if (*from == *to)
+                Refuse(entry, u"the new path is the old one");
+        }
+    }
+
+    void PlaceNewFolders()
+    {
+        for (const CString& path : m_list.newFolders) {
+            const std::optional<Place> place = m_tree.PlaceOf(path);
+            if (place)
+                m_draft.folders[m_tree.Collect(*place, path)].isNew = true;
+        }
+    }
+
+    void FindWhoStandsWhere()
+    {
+        for (PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
+            const Place& from = m_draft.entries[entry].from;
+            if (from.folder != none && !m_fromSlots.try_emplace(m_tree.SlotOf(from), entry).second)
+                Refuse(entry, u"the path stands in the list twice");
+        }
+        for (PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
+            if (IsRefused(entry))
+                continue;
+            PlanEntry& rename = m_draft.entries[entry];
+            const Slot slot = m_tree.SlotOf(rename.to);
+            if (!m_toSlots.try_emplace(slot, entry).second)
+                Refuse(entry, u"another entry of the list gets the same new path");
+            rename.waitsFor = StandingAt(slot);
+        }
+    }
+
+    [[nodiscard]] PlanIndex StandingAt(const Slot& slot) const
+    {
+        const auto found = m_fromSlots.find(slot);
+        return found == m_fromSlots.end() ? none : found->second;
+    }
+
+    /// Tells the folders that the batch renames and makes from those that stay.
+    void FindFoldersInTheirPlaces()
+    {
+        m_standingAt.assign(m_draft.folders.size(), none);
+        for (PlanIndex folder = 0; folder < m_draft.folders.size(); ++folder) {
+            PlanFolder& planned = m_draft.folders[folder];
+            if (planned.place.folder == none)
+                continue;
+            const Slot slot = m_tree.SlotOf(planned.place);
+            const PlanIndex standing = StandingAt(slot);
+            // Entries move into a folder by its name before the batch, also where the batch gives it another one.
+            if (standing != none && m_draft.entries[standing].kind == VyrPlatform::FileSystem::Kind::Folder)
+                planned.isNew = false;
+            if (planned.isNew) {
+                m_standingAt[folder] = standing;
+                const auto given = m_toSlots.find(slot);
+                if (given != m_toSlots.end())
+                    Refuse(given->second, u"a folder is made at the new path");
+            } else if (standing != none && !IsRefused(standing)) {
+                planned.entry = standing;
+                m_draft.entries[standing].folder = folder;
+            }
+        }
+    }
+
+    void RefuseTangledFolders()
+    {
+        const std::vector<PlanIndex> order = OrderFolders(m_draft);
+        if (order.size() == m_draft.folders.size())
+            return;
+        std::vector<bool> isTangled(m_draft.folders.size(), true);
+        for (const PlanIndex folder : order)
+            isTangled[folder] = false;
+        for (PlanIndex folder = 0; folder < m_draft.folders.size(); ++folder) {
+            const PlanIndex entry = m_draft.folders[folder].entry;
+            if (isTangled[folder] && entry != none && isTangled[m_draft.entries[entry].to.folder])
+                Refuse(entry, u"the folder would end up inside itself");
+        }
+    }
+
+    /// What needs the place of a refused entry is refused too: it is not vacated.
+    void RefuseDependents()
+    {
+        const std::vector<std::vector<PlanIndex>> insideNewFolders =
+            m_refused.empty() ? std::vector<std::vector<PlanIndex>>() : ListInsideNewFolders();
+        for (std::size_t next = 0; next < m_refused.size(); ++next) {
+            const Place& from = m_draft.entries[m_refused[next]].from;
+            if (from.folder == none)
+                continue;
+            const Slot slot = m_tree.SlotOf(from);
+            if (StandingAt(slot) != m_refused[next])
+                continue;
+            const auto given = m_toSlots.find(slot);
+            if (given != m_toSlots.end())
+                Refuse(given->second, u"the new path is taken by an entry that keeps it");
+            const PlanIndex folder = m_tree.FolderAt(slot);
+            if (folder != none && m_draft.folders[folder].isNew)
+                for (const PlanIndex entry : insideNewFolders[folder])
+                    Refuse(entry, u"its folder cannot be made: an entry keeps the path");
+        }
+    }
+
+    /// For each topmost new folder the entries that move into it and into the new folders below it.
+    [[nodiscard]] std::vector<std::vector<PlanIndex>> ListInsideNewFolders() const
+    {
+        std::vector<PlanIndex> topmost(m_draft.folders.size(), none);
+        for (PlanIndex folder = 0; folder < m_draft.folders.size(); ++folder) {
+            const PlanIndex parent = m_draft.folders[folder].place.folder;
+            if (m_draft.folders[folder].isNew)
+                topmost[folder] = topmost[parent] == none ? folder : topmost[parent];
+        }
+        std::vector<std::vector<PlanIndex>> inside(m_draft.folders.size());
+        for (PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
+            const PlanIndex folder = m_draft.entries[entry].to.folder;
+            if (folder != none && topmost[folder] != none)
+                inside[topmost[folder]].push_back(entry);
+        }
+        return inside;
+    }
+
+    [[nodiscard]] bool IsRefused(PlanIndex entry) const { return !m_reasons[entry].IsEmpty(); }
+
+    void Refuse(PlanIndex entry, const char16_t* reason)
+    {
+        if (IsRefused(entry))
+            return;
+        m_reasons[entry] = reason;
+        m_refused.push_back(entry);
+    }
+
+    /// Leaves the refused entries out, and has the rest ordered.
+    PlannerResult Finish()
+    {
+        PlannerResult result;
+        std::vector<PlanIndex> newIndexes(m_draft.entries.size(), none);
+        for (PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
+            if (IsRefused(entry)) {
+                result.refused.push_back({entry, m_reasons[entry]});
+                continue;
+            }
+            newIndexes[entry] = static_cast<PlanIndex>(result.indexes.size());
+            result.indexes.push_back(entry);
+            result.plan.entries.push_back(std::move(m_draft.entries[entry]));
+        }
+        const auto renumber = [&newIndexes](PlanIndex& entry) {
+            entry = entry == none ? none : newIndexes[entry];
+        };
+        result.plan.folders = std::move(m_draft.folders);
+        for (PlanEntry& entry : result.plan.entries)
+            renumber(entry.waitsFor);
+        for (PlanFolder& folder : result.plan.folders)
+            renumber(folder.entry);
+        for (PlanIndex& entry : m_standingAt)
+            renumber(entry);
+        result.plan.steps = OrderSteps(result.plan, m_standingAt);
+        return result;
+    }
+
+    using EntryAtSlot = std::unordered_map<Slot, PlanIndex, SlotHash>;
+
+    const RenameList& m_list;
+    RenamePlan m_draft;
+    FolderTree m_tree;
+    EntryAtSlot m_fromSlots;
+    EntryAtSlot m_toSlots;
+    /// For each new folder the entry at its place.
+    std::vector<PlanIndex> m_standingAt;
+    /// For each entry why it is refused; empty while it is not.
+    std::vector<CString> m_reasons;
+    std::vector<PlanIndex> m_refused;
+};
+
+} // namespace
+
+PlannerResult PlanRenames(const RenameList& list, const FoldingOfFolder& foldingOf)
+{
+    return Planner(list, foldingOf).Plan();
+}
+
+} // namespace VyrHost
