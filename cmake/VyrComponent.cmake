@@ -1,12 +1,3 @@
-# While a folder holds no source yet, its target is built of an empty one.
-function(vyr_fill_empty sources_variable)
-  if(NOT ${sources_variable})
-    set(empty "${CMAKE_BINARY_DIR}/empty.cpp")
-    file(CONFIGURE OUTPUT "${empty}" CONTENT "")
-    set(${sources_variable} "${empty}" PARENT_SCOPE)
-  endif()
-endfunction()
-
 # A shared library of the product, which others find as Vyr::EXPORT_NAME: every source in its folder, the system's own
 # folder for VyrPlatform. PUBLIC_HEADERS are patterns; what they match is installed, in the same folders.
 function(vyr_add_component name)
@@ -17,7 +8,6 @@ function(vyr_add_component name)
   else()
     list(FILTER sources EXCLUDE REGEX "/windows/[^/]*$")
   endif()
-  vyr_fill_empty(sources)
   file(GLOB headers CONFIGURE_DEPENDS ${component_PUBLIC_HEADERS})
   # A public header that serves one system alone tells so by its name.
   if(WIN32)

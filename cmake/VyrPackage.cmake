@@ -7,14 +7,12 @@ if(WIN32)
   set(document_folder ".")
 else()
   # The installed files may be moved together: each finds its libraries from where it stands itself.
-  #VYR   set_target_properties(vyr PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+  set_target_properties(vyr PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
   set_target_properties(VyrPlatform VyrLibraryUtils VyrLibraryFuncs PROPERTIES INSTALL_RPATH "$ORIGIN")
   set(document_folder "${CMAKE_INSTALL_DATADIR}/doc/vyrlibrary")
 endif()
 
-if(TARGET vyr)
-  install(TARGETS vyr RUNTIME)
-endif()
+install(TARGETS vyr RUNTIME)
 install(TARGETS VyrPlatform VyrLibraryUtils VyrLibraryFuncs EXPORT VyrLibraryTargets FILE_SET HEADERS)
 install(EXPORT VyrLibraryTargets NAMESPACE Vyr:: DESTINATION "${package_folder}")
 configure_package_config_file(cmake/VyrLibraryConfig.cmake.in "${CMAKE_BINARY_DIR}/VyrLibraryConfig.cmake"

@@ -1,7 +1,9 @@
 // Makes the few pictures that ./run previews a rename of: small JPEG files with Exif data, as cameras name them.
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -220,6 +222,31 @@ constexpr std::array pictures{
     Picture{"scan.jpg", "", "", ""},
 };
 
+/// Noon of 24 June 2024, local time: what a picture without a date was last modified at.
+std::filesystem::file_time_type GetModifiedTime()
+{
+    std::tm noon{};
+    noon.tm_year = 2024 - 1900;
+    noon.tm_mon = 5;
+    noon.tm_mday = 24;
+    noon.tm_hour = 12;
+    noon.tm_isdst = -1;
+    return std::chrono::file_clock::from_sys(std::chrono::system_clock::from_time_t(std::mktime(&noon)));
+}
+
+/// Writes the picture's file into `folder`; false when the system refuses it.
+bool WritePicture(const std::filesystem::path& folder, const Picture& picture)
+{
+    const Bytes jpeg = MakeJpeg(picture);
+    const std::filesystem::path path = folder / picture.fileName;
+    std::ofstream file(path, std::ios::binary);
+    file.write(reinterpret_cast<const char*>(jpeg.data()), static_cast<std::streamsize>(jpeg.size()));
+    file.close();
+    std::error_code error;
+    std::filesystem::last_write_time(path, GetModifiedTime(), error);
+    return file && !error;
+}
+
 } // namespace
 
 int main(int count, char** arguments)
@@ -232,10 +259,7 @@ int main(int count, char** arguments)
     std::error_code error;
     std::filesystem::create_directories(folder, error);
     for (const Picture& picture : pictures) {
-        const Bytes jpeg = MakeJpeg(picture);
-        std::ofstream file(folder / picture.fileName, std::ios::binary);
-        file.write(reinterpret_cast<const char*>(jpeg.data()), static_cast<std::streamsize>(jpeg.size()));
-        if (!file.flush()) {
+        if (!WritePicture(folder, picture)) {
             std::cerr << "MakeSamplePictures: " << (folder / picture.fileName) << " cannot be written\n";
             return 1;
         }

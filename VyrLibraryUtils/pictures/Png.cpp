@@ -11,8 +11,8 @@ namespace {
 constexpr std::uint64_t SignatureSize = 8;
 constexpr std::uint64_t ChecksumSize = 4;
 /// The keywords, with the NUL that ends them.
-constexpr std::string_view ExifKeyword("Raw profile type exif", 22);
-constexpr std::string_view AppKeyword("Raw profile type APP1", 22);
+constexpr std::string_view ExifKeyword("Raw profile type exif\0", 22);
+constexpr std::string_view AppKeyword("Raw profile type APP1\0", 22);
 static_assert(ExifKeyword.size() == AppKeyword.size());
 /// Two digits make one byte.
 constexpr std::size_t LongestProfile = 2 * LongestExif;

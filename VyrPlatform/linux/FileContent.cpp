@@ -34,7 +34,7 @@ int WriteAt(int target, off_t offset, const std::byte* bytes, std::size_t count)
 /// Copies from `offset` to `end`, or to the end of the file if that comes first.
 int CopyThroughBuffer(int source, int target, off_t offset, off_t end)
 {
-    constexpr off_t bufferSize = 256 * 1024;
+    constexpr off_t bufferSize = off_t{256} * 1024;
     std::unique_ptr<std::byte[]> buffer;
     std::byte firstBytes[4096];
     while (offset < end) {

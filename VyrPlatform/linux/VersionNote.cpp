@@ -96,9 +96,10 @@ std::optional<ProgramVersion> ReadNotes(const dl_phdr_info& module)
         if (segment.p_type != PT_NOTE)
             continue;
         // The loader has mapped the segment at this address, all p_memsz bytes of it.
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): the loader tells addresses as numbers
         const auto* const bytes = reinterpret_cast<const char*>(module.dlpi_addr + segment.p_vaddr);
         const std::size_t alignment = segment.p_align == 8 ? 8 : 4;
-        if (const auto version = ReadNotes(std::string_view(bytes, segment.p_memsz), alignment))
+        if (auto version = ReadNotes(std::string_view(bytes, segment.p_memsz), alignment))
             return version;
     }
     return std::nullopt;
