@@ -5,6 +5,7 @@
 #include <VyrPlatform/FileSystem.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace VyrHost {
 
@@ -24,7 +25,9 @@ bool CanName(std::u16string_view name)
 /// Up to and including the last separator.
 std::u16string_view FolderPart(std::u16string_view path)
 {
-    const auto separator = std::find_if(path.rbegin(), path.rend(), IsSeparator);
+    // What every system takes for one, and its own: a question for each unit would cost more than all the rest.
+    const char16_t separators[] = {u'/', VyrPlatform::FileSystem::Separator()};
+    const auto separator = std::find_first_of(path.rbegin(), path.rend(), std::begin(separators), std::end(separators));
     return path.substr(0, static_cast<std::size_t>(path.rend() - separator));
 }
 
@@ -60,12 +63,6 @@ Slot FolderTree::SlotOf(const Place& place) const
     return {place.folder, VyrPlatform::FoldName(place.name, m_foldings[place.folder])};
 }
 
-PlanIndex FolderTree::FolderAt(const Slot& slot) const
-{
-    const auto found = m_bySlot.find(slot);
-    return found == m_bySlot.end() ? none : found->second;
-}
-
 PlanIndex FolderTree::Collect(const Place& place, std::u16string_view path)
 {
     const Slot slot = SlotOf(place);
@@ -73,7 +70,7 @@ PlanIndex FolderTree::Collect(const Place& place, std::u16string_view path)
     if (known != none)
         return known;
     const PlanIndex folder = Add(place, path);
-    m_bySlot.emplace(slot, folder);
+    m_bySlot.Put(slot, folder);
     return folder;
 }
 
@@ -116,7 +113,7 @@ PlanIndex FolderTree::RootOf(std::u16string_view root)
     if (known != none)
         return known;
     const PlanIndex folder = Add({none, usual}, usual);
-    m_bySlot.emplace(slot, folder);
+    m_bySlot.Put(slot, folder);
     return folder;
 }
 

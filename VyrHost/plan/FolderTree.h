@@ -3,31 +3,14 @@
 #pragma once
 
 #include <VyrHost/plan/Planner.h>
+#include <VyrHost/plan/SlotTable.h>
 
-#include <functional>
 #include <optional>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
 namespace VyrHost {
-
-/// A place as its file system sees it: the name is folded.
-struct Slot
-{
-    PlanIndex folder = none;
-    CString key;
-
-    friend bool operator==(const Slot&, const Slot&) noexcept = default;
-};
-
-struct SlotHash
-{
-    std::size_t operator()(const Slot& slot) const noexcept
-    {
-        return std::hash<CString>()(slot.key) ^ (slot.folder * std::size_t{0x9E3779B97F4A7C15});
-    }
-};
 
 /// Collects the folders that paths name, one for each place, in whatever way its path is written.
 class FolderTree
@@ -41,7 +24,7 @@ public:
     [[nodiscard]] std::optional<Place> PlaceOf(const CString& path);
     [[nodiscard]] Slot SlotOf(const Place& place) const;
     /// The folder at `slot`; `none` when no path has named it.
-    [[nodiscard]] PlanIndex FolderAt(const Slot& slot) const;
+    [[nodiscard]] PlanIndex FolderAt(const Slot& slot) const { return m_bySlot.Find(slot); }
     /// The folder at `place`, whose path is `path`.
     PlanIndex Collect(const Place& place, std::u16string_view path);
 
@@ -54,7 +37,7 @@ private:
     std::vector<PlanFolder>& m_folders;
     const FoldingOfFolder& m_foldingOf;
     std::vector<VyrPlatform::NameFolding> m_foldings;
-    std::unordered_map<Slot, PlanIndex, SlotHash> m_bySlot;
+    SlotTable m_bySlot;
     std::unordered_map<CString, PlanIndex> m_byPath;
     /// Lists name the entries of one folder after another.
     CString m_lastPath;

@@ -33,8 +33,8 @@ private:
     void PlaceEntries()
     {
         m_draft.entries.reserve(m_list.renames.size());
-        m_fromSlots.reserve(m_list.renames.size());
-        m_toSlots.reserve(m_list.renames.size());
+        m_fromSlots.Reserve(m_list.renames.size());
+        m_toSlots.Reserve(m_list.renames.size());
         for (const PlannedRename& rename : m_list.renames) {
             const std::optional<Place> from = m_tree.PlaceOf(rename.from);
             const std::optional<Place> to = m_tree.PlaceOf(rename.to);
@@ -63,7 +63,7 @@ private:
     {
         for (PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
             const Place& from = m_draft.entries[entry].from;
-            if (from.folder != none && !m_fromSlots.try_emplace(m_tree.SlotOf(from), entry).second)
+            if (from.folder != none && !m_fromSlots.Put(m_tree.SlotOf(from), entry))
                 Refuse(entry, u"the path stands in the list twice");
         }
         for (PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
@@ -71,16 +71,10 @@ private:
                 continue;
             PlanEntry& rename = m_draft.entries[entry];
             const Slot slot = m_tree.SlotOf(rename.to);
-            if (!m_toSlots.try_emplace(slot, entry).second)
+            if (!m_toSlots.Put(slot, entry))
                 Refuse(entry, u"another entry of the list gets the same new path");
-            rename.waitsFor = StandingAt(slot);
+            rename.waitsFor = m_fromSlots.Find(slot);
         }
-    }
-
-    [[nodiscard]] PlanIndex StandingAt(const Slot& slot) const
-    {
-        const auto found = m_fromSlots.find(slot);
-        return found == m_fromSlots.end() ? none : found->second;
     }
 
     /// Tells the folders that the batch renames and makes from those that stay.
@@ -92,15 +86,13 @@ private:
             if (planned.place.folder == none)
                 continue;
             const Slot slot = m_tree.SlotOf(planned.place);
-            const PlanIndex standing = StandingAt(slot);
+            const PlanIndex standing = m_fromSlots.Find(slot);
             // Entries move into a folder by its name before the batch, also where the batch gives it another one.
             if (standing != none && m_draft.entries[standing].kind == VyrPlatform::FileSystem::Kind::Folder)
                 planned.isNew = false;
             if (planned.isNew) {
                 m_standingAt[folder] = standing;
-                const auto given = m_toSlots.find(slot);
-                if (given != m_toSlots.end())
-                    Refuse(given->second, u"a folder is made at the new path");
+                RefuseIfAny(m_toSlots.Find(slot), u"a folder is made at the new path");
             } else if (standing != none && !IsRefused(standing)) {
                 planned.entry = standing;
                 m_draft.entries[standing].folder = folder;
@@ -133,11 +125,9 @@ private:
             if (from.folder == none)
                 continue;
             const Slot slot = m_tree.SlotOf(from);
-            if (StandingAt(slot) != m_refused[next])
+            if (m_fromSlots.Find(slot) != m_refused[next])
                 continue;
-            const auto given = m_toSlots.find(slot);
-            if (given != m_toSlots.end())
-                Refuse(given->second, u"the new path is taken by an entry that keeps it");
+            RefuseIfAny(m_toSlots.Find(slot), u"the new path is taken by an entry that keeps it");
             const PlanIndex folder = m_tree.FolderAt(slot);
             if (folder != none && m_draft.folders[folder].isNew)
                 for (const PlanIndex entry : insideNewFolders[folder])
@@ -173,11 +163,18 @@ private:
         m_refused.push_back(entry);
     }
 
+    void RefuseIfAny(PlanIndex entry, const char16_t* reason)
+    {
+        if (entry != none)
+            Refuse(entry, reason);
+    }
+
     /// Leaves the refused entries out, and has the rest ordered.
     PlannerResult Finish()
     {
         PlannerResult result;
         std::vector<PlanIndex> newIndexes(m_draft.entries.size(), none);
+        result.plan.entries.reserve(m_draft.entries.size());
         for (PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
             if (IsRefused(entry)) {
                 result.refused.push_back({entry, m_reasons[entry]});
@@ -201,13 +198,11 @@ private:
         return result;
     }
 
-    using EntryAtSlot = std::unordered_map<Slot, PlanIndex, SlotHash>;
-
     const RenameList& m_list;
     RenamePlan m_draft;
     FolderTree m_tree;
-    EntryAtSlot m_fromSlots;
-    EntryAtSlot m_toSlots;
+    SlotTable m_fromSlots;
+    SlotTable m_toSlots;
     /// For each new folder the entry at its place.
     std::vector<PlanIndex> m_standingAt;
     /// For each entry why it is refused; empty while it is not.
