@@ -1,6 +1,5 @@
 // Questions about files, answered for real ones.
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/FileSystem.h>
 
 #include <tests/support/Describe.h>
 #include <tests/support/ScratchFolder.h>
@@ -79,16 +78,6 @@ TEST(FileUtilsSize, OfAFolderIsTheSumBelowIt)
     EXPECT_EQ(FileUtils::GetFileSize(scratch.Path()), 321);
     EXPECT_EQ(FileUtils::GetFileSize(scratch.Path(u"b")), 320);
     EXPECT_EQ(FileUtils::GetFileSize(scratch.Path(u"b/")), 320);
-}
-
-TEST(FileUtilsSize, HasNoLimitOfDepth)
-{
-    const ScratchFolder scratch;
-    CString name = u"d";
-    for (int depth = 0; depth < 200; ++depth)
-        name += u"/d";
-    scratch.WriteFile(name + u"/file", "12345");
-    EXPECT_EQ(FileUtils::GetFileSize(scratch.Path()), 5);
 }
 
 TEST(FileUtilsSize, OfWhatIsMissingIsMinusOne)

@@ -1,6 +1,5 @@
 // Questions about files that Linux alone can be asked: links, devices, names that are not UTF-8.
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/FileSystem.h>
 
 #include <tests/support/Describe.h>
 #include <tests/support/ScratchFolder.h>
@@ -9,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <string>
 
 using VyrLibraryUtils::FileUtils;
 using VyrTests::ScratchFolder;
@@ -35,6 +35,16 @@ TEST(FileUtilsOnLinux, FollowsNoLinkBelowAFolder)
     std::filesystem::create_directory_symlink(ToStdPath(scratch.Path()), ToStdPath(scratch.Path(u"loop")));
     EXPECT_EQ(FileUtils::GetFileSize(scratch.Path()), 5);
     EXPECT_EQ(FileUtils::GetFileSize(scratch.Path(u"file")), 1000);
+}
+
+TEST(FileUtilsOnLinux, SumsFoldersFiveHundredDeep)
+{
+    const ScratchFolder scratch;
+    CString name = u"d";
+    for (int depth = 0; depth < 500; ++depth)
+        name += u"/d";
+    scratch.WriteFile(name + u"/file", "12345");
+    EXPECT_EQ(FileUtils::GetFileSize(scratch.Path()), 5);
 }
 
 TEST(FileUtilsOnLinux, FindsNamesThatAreNotUtf8)
