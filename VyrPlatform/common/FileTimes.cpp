@@ -16,6 +16,12 @@ constexpr FileTicks ticksPerSecond = 10'000'000;
 constexpr std::int64_t secondsToUnixEpoch = 11'644'473'600;
 constexpr std::int64_t secondsPerDay = 86'400;
 
+/// The calendar's ends, since 1970.
+constexpr std::int64_t firstSecond =
+    std::chrono::sys_seconds(std::chrono::sys_days(std::chrono::January / 1 / 100)).time_since_epoch().count();
+constexpr std::int64_t lastSecond =
+    std::chrono::sys_seconds(std::chrono::sys_days(std::chrono::January / 1 / 10000)).time_since_epoch().count() - 1;
+
 constexpr std::int64_t FloorDivide(std::int64_t value, std::int64_t divisor) noexcept
 {
     return value / divisor - (value % divisor < 0 ? 1 : 0);
@@ -65,6 +71,9 @@ COleDateTime ToLocal(FileTicks ticks)
     COleDateTime invalid;
     invalid.SetStatus(COleDateTime::invalid);
     const std::int64_t unixSeconds = FloorDivide(ticks, ticksPerSecond) - secondsToUnixEpoch;
+    // No offset is a day long.
+    if (unixSeconds < firstSecond - secondsPerDay || unixSeconds > lastSecond + secondsPerDay)
+        return invalid;
     const std::optional<int> offset = FindOffset(unixSeconds);
     if (!offset)
         return invalid;

@@ -62,6 +62,8 @@ int FillCopy(int source, int target, Flush flush)
     struct stat status;
     if (fstat(source, &status) != 0)
         return errno;
+    if (!S_ISREG(status.st_mode))
+        return ENOTSUP;
     if (const int error = CopyContent(source, target, status))
         return error;
     if (const int error = CopyMetadata(source, target, status))

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstddef>
 #include <linux/limits.h>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <sys/xattr.h>
@@ -35,10 +36,10 @@ bool CopyOwner(int target, const struct stat& status) noexcept
     return fchown(target, status.st_uid, status.st_gid) == 0;
 }
 
-/// The answer of one of the system's calls that fill a buffer, which is asked with a bigger one until it fits; empty
-/// when there is none.
+/// The answer of one of the system's calls that fill a buffer, which is asked with a bigger one until it fits; nothing
+/// when it fails.
 template <class Call>
-std::string AskForBytes(Call call)
+std::optional<std::string> AskForBytes(Call call)
 {
     std::string bytes(1024, '\0');
     ssize_t size = call(bytes.data(), bytes.size());
@@ -46,21 +47,28 @@ std::string AskForBytes(Call call)
         bytes.resize(bytes.size() * 8);
         size = call(bytes.data(), bytes.size());
     }
-    bytes.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
+    if (size < 0)
+        return std::nullopt;
+    bytes.resize(static_cast<std::size_t>(size));
     return bytes;
+}
+
+int CopyExtendedAttribute(int source, int target, const char* name)
+{
+    const auto value =
+        AskForBytes([source, name](char* buffer, std::size_t size) { return fgetxattr(source, name, buffer, size); });
+    return value ? ErrorOf(fsetxattr(target, name, value->data(), value->size(), 0)) : 0;
 }
 
 int CopyExtendedAttributes(int source, int target)
 {
-    const std::string names =
+    const auto names =
         AskForBytes([source](char* buffer, std::size_t size) { return flistxattr(source, buffer, size); });
-    for (std::size_t start = 0; start < names.size();) {
-        const char* const name = names.c_str() + start;
-        start += std::string_view(name).size() + 1;
-        const std::string value = AskForBytes(
-            [source, name](char* buffer, std::size_t size) { return fgetxattr(source, name, buffer, size); });
-        if (const int error = ErrorOf(fsetxattr(target, name, value.data(), value.size(), 0)))
+    for (std::size_t start = 0; names && start < names->size();) {
+        const char* const name = names->c_str() + start;
+        if (const int error = CopyExtendedAttribute(source, target, name))
             return error;
+        start += std::string_view(name).size() + 1;
     }
     return 0;
 }

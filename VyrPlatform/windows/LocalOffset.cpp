@@ -3,6 +3,8 @@
 
 #include "FileStatus.h"
 
+#include <algorithm>
+
 namespace VyrPlatform {
 
 namespace {
@@ -20,7 +22,8 @@ FILETIME ToFileTime(FileTicks ticks) noexcept
 
 std::optional<int> GetLocalOffset(std::int64_t unixSeconds)
 {
-    const FileTicks ticks = (unixSeconds + secondsToUnixEpoch) * ticksPerSecond;
+    // The system knows no time before 1601.
+    const FileTicks ticks = std::max<FileTicks>(0, unixSeconds + secondsToUnixEpoch) * ticksPerSecond;
     const FILETIME time = ToFileTime(ticks);
     SYSTEMTIME universal;
     TIME_ZONE_INFORMATION zone;

@@ -1,4 +1,5 @@
 // Makes and removes the folders in which tests work.
+#include <tests/support/RemoveTree.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
 
@@ -27,35 +28,14 @@ fs::path MakeUniqueFolder()
     throw std::runtime_error("no name is free for a folder in " + fs::temp_directory_path().string());
 }
 
-/// Lets the owner read and write `folder` and all in it, so that it can be removed.
-void Unlock(const fs::path& folder)
-{
-    std::error_code ignored;
-    fs::permissions(folder, fs::perms::owner_all, fs::perm_options::add, ignored);
-    for (fs::directory_iterator entry(folder, ignored), end; entry != end; entry.increment(ignored)) {
-        const fs::file_status status = entry->symlink_status(ignored);
-        if (fs::is_directory(status))
-            Unlock(entry->path());
-        else if (fs::is_regular_file(status))
-            fs::permissions(entry->path(), fs::perms::owner_write, fs::perm_options::add, ignored);
-    }
-}
-
 } // namespace
 
 ScratchFolder::ScratchFolder() : m_path(FromStdPath(fs::canonical(MakeUniqueFolder()))) {}
 
 ScratchFolder::~ScratchFolder()
 {
-    const fs::path folder = ToStdPath(m_path);
-    std::error_code error;
-    fs::remove_all(folder, error);
-    if (error) {
-        Unlock(folder);
-        fs::remove_all(folder, error);
-    }
-    if (error)
-        ADD_FAILURE() << "the scratch folder " << folder << " cannot be removed: " << error.message();
+    const std::string whyNot = RemoveTree(m_path);
+    EXPECT_EQ(whyNot, "") << "cannot remove the scratch folder " << ToStdPath(m_path);
 }
 
 CString ScratchFolder::Path(std::u16string_view name) const

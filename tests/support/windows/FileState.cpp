@@ -1,0 +1,63 @@
+// File times, the read-only attribute and the download mark on Windows.
+#include <tests/support/FileState.h>
+#include <tests/support/StdPath.h>
+
+#include <VyrPlatform/WindowsCString.h>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <windows.h>
+
+namespace VyrTests {
+
+namespace {
+
+using VyrPlatform::ToWide;
+
+FILETIME ToFileTime(VyrPlatform::FileTicks ticks)
+{
+    const ULARGE_INTEGER bits{.QuadPart = static_cast<ULONGLONG>(ticks)};
+    return {bits.LowPart, bits.HighPart};
+}
+
+CString ZoneMarkOf(const CString& path)
+{
+    return path + u":Zone.Identifier";
+}
+
+} // namespace
+
+void SetFileTimes(const CString& path, VyrPlatform::FileTicks modified, VyrPlatform::FileTicks accessed)
+{
+    const HANDLE file =
+        CreateFileW(ToWide(path), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    ASSERT_NE(file, INVALID_HANDLE_VALUE);
+    const FILETIME modifiedTime = ToFileTime(modified);
+    const FILETIME accessedTime = ToFileTime(accessed);
+    EXPECT_TRUE(SetFileTime(file, nullptr, &accessedTime, &modifiedTime));
+    CloseHandle(file);
+}
+
+void SetReadOnly(const CString& path, bool isReadOnly)
+{
+    const DWORD attributes = GetFileAttributesW(ToWide(path));
+    ASSERT_NE(attributes, INVALID_FILE_ATTRIBUTES);
+    constexpr DWORD readOnly = FILE_ATTRIBUTE_READONLY;
+    EXPECT_TRUE(SetFileAttributesW(ToWide(path), isReadOnly ? attributes | readOnly : attributes & ~readOnly));
+}
+
+void MarkAsDownloaded(const CString& path)
+{
+    std::ofstream mark(ToStdPath(ZoneMarkOf(path)), std::ios::binary);
+    mark << "[ZoneTransfer]\r\nZoneId=3\r\n";
+    ASSERT_TRUE(mark.flush());
+}
+
+bool IsMarkedAsDownloaded(const CString& path)
+{
+    return GetFileAttributesW(ToWide(ZoneMarkOf(path))) != INVALID_FILE_ATTRIBUTES;
+}
+
+} // namespace VyrTests
