@@ -6,14 +6,16 @@
 #include <link.h>
 
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
 namespace {
 
-std::string FileName(const std::string& name)
+/// The full path, since under the sanitizers the linker does not look beside the program.
+std::string FilePath(const std::string& name)
 {
-    return "lib" + name + ".so";
+    return std::filesystem::read_symlink("/proc/self/exe").parent_path() / ("lib" + name + ".so");
 }
 
 /// `count` records of an ELF file, from `offset` on.
@@ -35,7 +37,7 @@ bool IsExportedFunction(const Elf64_Sym& symbol)
 namespace VyrTests {
 
 DynamicLibrary::DynamicLibrary(const std::string& name)
-    : m_handle(dlopen(FileName(name).c_str(), RTLD_NOW | RTLD_LOCAL))
+    : m_handle(dlopen(FilePath(name).c_str(), RTLD_NOW | RTLD_LOCAL))
 {}
 
 DynamicLibrary::~DynamicLibrary()
@@ -73,7 +75,7 @@ std::vector<std::string> DynamicLibrary::Exports() const
 
 bool DynamicLibrary::IsInProcess(const std::string& name)
 {
-    void* const handle = dlopen(FileName(name).c_str(), RTLD_NOW | RTLD_NOLOAD);
+    void* const handle = dlopen(FilePath(name).c_str(), RTLD_NOW | RTLD_NOLOAD);
     if (handle)
         dlclose(handle);
     return handle != nullptr;
