@@ -1,5 +1,5 @@
 /// @file
-/// Files whose content is known to be on the disk, and the lock that only one program holds at a time.
+/// Writing that is known to be on the disk, and the lock that only one program holds at a time.
 #pragma once
 
 #include <VyrPlatform/CString.h>
@@ -16,7 +16,7 @@ namespace VyrPlatform::DurableFile {
 /// left.
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t WriteNew(const CString& path, std::string_view content);
 
-/// Writes `content` behind what the file `path` holds, and waits until that is on the disk.
+/// Writes `content` behind what the file `path` holds. It comes to the disk in the system's own time.
 /// @return 0, else the system's error code; a part of `content` may then have been written.
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t Append(const CString& path, std::string_view content);
 

@@ -25,12 +25,11 @@ std::uint32_t Write(const Descriptor& file, std::string_view content) noexcept
         if (written > 0)
             content.remove_prefix(static_cast<std::size_t>(written));
     }
-    return fdatasync(file.Get()) == 0 ? 0 : LastError();
+    return 0;
 }
 
-std::uint32_t WriteAndClose(Descriptor& file, std::string_view content) noexcept
+std::uint32_t Close(Descriptor& file, std::uint32_t error) noexcept
 {
-    const std::uint32_t error = Write(file, content);
     const int closingError = file.Close();
     return error ? error : static_cast<std::uint32_t>(closingError);
 }
@@ -43,7 +42,10 @@ std::uint32_t DurableFile::WriteNew(const CString& path, std::string_view conten
     Descriptor file(open(nativePath.Get(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (!file.IsOpen())
         return LastError();
-    const std::uint32_t error = WriteAndClose(file, content);
+    std::uint32_t error = Write(file, content);
+    if (!error && fdatasync(file.Get()) != 0)
+        error = LastError();
+    error = Close(file, error);
     if (error)
         unlink(nativePath.Get());
     return error;
@@ -52,7 +54,7 @@ std::uint32_t DurableFile::WriteNew(const CString& path, std::string_view conten
 std::uint32_t DurableFile::Append(const CString& path, std::string_view content)
 {
     Descriptor file(open(NativePath(path).Get(), O_WRONLY | O_APPEND | O_CLOEXEC));
-    return file.IsOpen() ? WriteAndClose(file, content) : LastError();
+    return file.IsOpen() ? Close(file, Write(file, content)) : LastError();
 }
 
 std::uint32_t DurableFile::Remove(const CString& path)

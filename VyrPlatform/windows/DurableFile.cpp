@@ -20,12 +20,11 @@ DWORD WriteAll(HANDLE file, std::string_view content) noexcept
             return GetLastError();
         content.remove_prefix(written);
     }
-    return FlushFileBuffers(file) ? ERROR_SUCCESS : GetLastError();
+    return ERROR_SUCCESS;
 }
 
-DWORD WriteAndClose(HANDLE file, std::string_view content) noexcept
+DWORD Close(HANDLE file, DWORD error) noexcept
 {
-    const DWORD error = WriteAll(file, content);
     return CloseHandle(file) || error ? error : GetLastError();
 }
 
@@ -38,7 +37,10 @@ std::uint32_t DurableFile::WriteNew(const CString& path, std::string_view conten
                                     FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return GetLastError();
-    const DWORD error = WriteAndClose(file, content);
+    DWORD error = WriteAll(file, content);
+    if (!error && !FlushFileBuffers(file))
+        error = GetLastError();
+    error = Close(file, error);
     if (error)
         DeleteFileW(longPath.Get());
     return error;
@@ -50,12 +52,9 @@ std::uint32_t DurableFile::Append(const CString& path, std::string_view content)
                                     FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return GetLastError();
-    if (!SetFilePointerEx(file, {}, nullptr, FILE_END)) {
-        const DWORD error = GetLastError();
-        CloseHandle(file);
-        return error;
-    }
-    return WriteAndClose(file, content);
+    if (!SetFilePointerEx(file, {}, nullptr, FILE_END))
+        return Close(file, GetLastError());
+    return Close(file, WriteAll(file, content));
 }
 
 std::uint32_t DurableFile::Remove(const CString& path)

@@ -1,0 +1,61 @@
+/// @file
+/// What the executor and the journal do to the disk: an interface, so that tests can let any of it fail.
+#pragma once
+
+#include <VyrPlatform/CString.h>
+#include <VyrPlatform/FileIdentity.h>
+#include <VyrPlatform/NameFolding.h>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string_view>
+
+namespace VyrHost {
+
+/// One folder, as VyrPlatform::OpenFolder describes it.
+class FolderOperations
+{
+public:
+    FolderOperations() = default;
+    FolderOperations(const FolderOperations&) = delete;
+    FolderOperations& operator=(const FolderOperations&) = delete;
+    virtual ~FolderOperations() = default;
+
+    [[nodiscard]] virtual VyrPlatform::FileState Look(const CString& name) = 0;
+    /// `target` comes from the same FileOperations.
+    [[nodiscard]] virtual std::uint32_t Rename(const CString& name, FolderOperations& target,
+                                               const CString& newName) = 0;
+    [[nodiscard]] virtual std::uint32_t DropSecondName(const CString& name, FolderOperations& kept,
+                                                       const CString& keptName) = 0;
+    [[nodiscard]] virtual std::uint32_t MakeFolder(const CString& name) = 0;
+    [[nodiscard]] virtual std::uint32_t RemoveEmptyFolder(const CString& name) = 0;
+};
+
+/// All results are the system's error codes, 0 for success.
+class FileOperations
+{
+public:
+    FileOperations() = default;
+    FileOperations(const FileOperations&) = delete;
+    FileOperations& operator=(const FileOperations&) = delete;
+    virtual ~FileOperations() = default;
+
+    /// The folder at `path`; null, with `error` set, when it does not open.
+    [[nodiscard]] virtual std::unique_ptr<FolderOperations> OpenFolder(const CString& path, std::uint32_t& error) = 0;
+    /// Calls `use` with the name of each entry of the folder at `path`, as the file system keeps it.
+    [[nodiscard]] virtual std::uint32_t List(const CString& path, const std::function<void(const CString&)>& use) = 0;
+    [[nodiscard]] virtual VyrPlatform::NameFolding GetNameFolding(const CString& path) = 0;
+
+    // For journal files: VyrPlatform/DurableFile.h and RenameNoReplace.
+    [[nodiscard]] virtual std::uint32_t WriteNew(const CString& path, std::string_view content) = 0;
+    [[nodiscard]] virtual std::uint32_t Append(const CString& path, std::string_view content) = 0;
+    [[nodiscard]] virtual std::uint32_t RenameFile(const CString& from, const CString& to) = 0;
+    [[nodiscard]] virtual std::uint32_t Remove(const CString& path) = 0;
+    [[nodiscard]] virtual std::uint32_t FlushFolder(const CString& path) = 0;
+};
+
+/// The system's own.
+[[nodiscard]] FileOperations& SystemFiles();
+
+} // namespace VyrHost

@@ -1,0 +1,105 @@
+// Writes and reads names.
+#include <VyrHost/journal/JournalName.h>
+
+#include <VyrPlatform/Encoding.h>
+
+#include <array>
+#include <charconv>
+
+namespace VyrHost {
+
+namespace {
+
+constexpr std::size_t escapeLength = 6;
+
+bool IsHigh(char16_t unit) noexcept
+{
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+
+bool IsLow(char16_t unit) noexcept
+{
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+/// Whether `text` starts with a unit that cannot stand for itself.
+bool StartsWithSpecial(std::u16string_view text) noexcept
+{
+    const char16_t unit = text.front();
+    if (IsHigh(unit))
+        return text.size() == 1 || !IsLow(text[1]);
+    return unit < 0x20 || unit == 0x7F || unit == u'\\' || IsLow(unit);
+}
+
+void AppendEscape(std::string& text, char16_t unit)
+{
+    constexpr const char* digits = "0123456789abcdef";
+    text += "\\u";
+    for (int shift = 12; shift >= 0; shift -= 4)
+        text += digits[(unit >> shift) & 0xF];
+}
+
+bool IsPlainAscii(std::u16string_view name) noexcept
+{
+    for (const char16_t unit : name)
+        if (unit < 0x20 || unit >= 0x7F || unit == u'\\')
+            return false;
+    return true;
+}
+
+std::optional<char16_t> ReadEscape(std::string_view escape) noexcept
+{
+    if (escape.size() < escapeLength || escape[1] != 'u')
+        return {};
+    unsigned unit = 0;
+    const char* const end = escape.data() + escapeLength;
+    const auto [read, error] = std::from_chars(escape.data() + 2, end, unit, 16);
+    if (error != std::errc() || read != end)
+        return {};
+    return static_cast<char16_t>(unit);
+}
+
+} // namespace
+
+void AppendJournalName(std::string& text, const CString& name)
+{
+    std::u16string_view rest = name;
+    if (IsPlainAscii(rest)) {
+        for (const char16_t unit : rest)
+            text += static_cast<char>(unit);
+        return;
+    }
+    while (!rest.empty()) {
+        if (StartsWithSpecial(rest)) {
+            AppendEscape(text, rest.front());
+            rest.remove_prefix(1);
+            continue;
+        }
+        std::size_t length = 0;
+        while (length < rest.size() && !StartsWithSpecial(rest.substr(length)))
+            length += IsHigh(rest[length]) ? std::size_t{2} : std::size_t{1};
+        VyrPlatform::Encoding::AppendUtf8(text, rest.substr(0, length));
+        rest.remove_prefix(length);
+    }
+}
+
+std::optional<CString> ReadJournalName(std::string_view text)
+{
+    CString name;
+    while (!text.empty()) {
+        const std::size_t length = std::min(text.find('\\'), text.size());
+        if (length > 0) {
+            name += VyrPlatform::Encoding::FromUtf8(text.substr(0, length));
+            text.remove_prefix(length);
+            continue;
+        }
+        const std::optional<char16_t> unit = ReadEscape(text);
+        if (!unit)
+            return {};
+        name += *unit;
+        text.remove_prefix(escapeLength);
+    }
+    return name;
+}
+
+} // namespace VyrHost

@@ -1,0 +1,481 @@
+// Writes and reads journals.
+#include <VyrHost/journal/JournalText.h>
+
+#include <VyrHost/journal/Checksum.h>
+#include <VyrHost/journal/JournalName.h>
+#include <VyrHost/plan/PlanCheck.h>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <concepts>
+#include <utility>
+
+namespace VyrHost {
+
+namespace {
+
+using VyrPlatform::FileState;
+using VyrPlatform::FileSystem::Kind;
+
+constexpr std::string_view format = "vyr-journal";
+constexpr std::uint32_t version = 1;
+constexpr char noneText = '-';
+constexpr std::size_t checkLength = 8;
+constexpr std::size_t stepsInLine = 1000;
+constexpr std::array<std::pair<Kind, char>, 4> kinds{
+    {{Kind::File, 'f'}, {Kind::Folder, 'd'}, {Kind::Other, 'o'}, {Kind::Missing, noneText}}};
+constexpr std::array<std::pair<PlanStep::Action, char>, 3> actions{
+    {{PlanStep::Action::MakeFolder, 'm'}, {PlanStep::Action::SetAside, 'a'}, {PlanStep::Action::Rename, 'r'}}};
+
+template <class Value, std::size_t Count>
+char LetterOf(const std::array<std::pair<Value, char>, Count>& letters, Value value) noexcept
+{
+    return std::find_if(letters.begin(), letters.end(), [value](const auto& pair) { return pair.first == value; })
+        ->second;
+}
+
+void AppendHexadecimal(std::string& text, std::uint32_t value)
+{
+    constexpr const char* digits = "0123456789abcdef";
+    for (int shift = 28; shift >= 0; shift -= 4)
+        text += digits[value >> shift & 0xF];
+}
+
+/// Writes lines field by field.
+class LineWriter
+{
+public:
+    LineWriter(std::string& text, std::uint32_t check) : m_text(text), m_check(check), m_start(text.size()) {}
+
+    LineWriter& Word(std::string_view word)
+    {
+        Separate();
+        m_text += word;
+        return *this;
+    }
+    LineWriter& Letter(char letter) { return Word({&letter, 1}); }
+    template <std::integral Integer>
+    LineWriter& Number(Integer number)
+    {
+        Separate();
+        AppendNumber(number);
+        return *this;
+    }
+    LineWriter& Index(PlanIndex index) { return index == none ? Letter(noneText) : Number(index); }
+    LineWriter& Name(const CString& name)
+    {
+        Separate();
+        AppendJournalName(m_text, name);
+        return *this;
+    }
+    LineWriter& Step(const PlanStep& step)
+    {
+        Letter(LetterOf(actions, step.action));
+        AppendNumber(step.subject);
+        return *this;
+    }
+    /// As in 3,17,19-25.
+    LineWriter& Ranges(const std::vector<PlanIndex>& indexes)
+    {
+        Separate();
+        for (std::size_t first = 0; first < indexes.size();) {
+            std::size_t last = first;
+            while (last + 1 < indexes.size() && indexes[last + 1] == indexes[last] + 1)
+                ++last;
+            if (first > 0)
+                m_text += ',';
+            AppendNumber(indexes[first]);
+            if (last > first) {
+                m_text += '-';
+                AppendNumber(indexes[last]);
+            }
+            first = last + 1;
+        }
+        return *this;
+    }
+    void End()
+    {
+        m_check = Checksum(m_check, std::string_view(m_text).substr(m_start));
+        m_text += '\t';
+        AppendHexadecimal(m_text, m_check);
+        m_text += '\n';
+        m_start = m_text.size();
+    }
+    [[nodiscard]] std::uint32_t Check() const { return m_check; }
+
+private:
+    void Separate()
+    {
+        if (m_text.size() > m_start)
+            m_text += '\t';
+    }
+    template <std::integral Integer>
+    void AppendNumber(Integer number)
+    {
+        char digits[24];
+        const auto [end, error] = std::to_chars(std::begin(digits), std::end(digits), number);
+        m_text.append(digits, end);
+    }
+
+    std::string& m_text;
+    std::uint32_t m_check;
+    std::size_t m_start;
+};
+
+void WriteHeading(LineWriter& writer, const Journal& journal)
+{
+    const JournalHeading& heading = journal.heading;
+    writer.Word("batch").Number(heading.number).Number(heading.token).Name(heading.started);
+    writer.Number(journal.plan.folders.size()).Number(journal.plan.entries.size());
+    writer.Number(journal.plan.steps.size()).Name(heading.firstFrom).Name(heading.firstTo).End();
+}
+
+void WriteFolder(LineWriter& writer, const PlanFolder& folder)
+{
+    writer.Word("folder").Index(folder.place.folder).Letter(folder.isNew ? 'n' : 'o').Name(folder.place.name).End();
+}
+
+void WriteEntry(LineWriter& writer, const PlanEntry& entry, const FileState& state)
+{
+    writer.Word("entry").Letter(LetterOf(kinds, state.kind));
+    writer.Number(state.identity.device).Number(state.identity.number).Number(state.size).Number(state.modified);
+    writer.Number(state.links).Index(entry.from.folder).Name(entry.from.name);
+    writer.Index(entry.to.folder).Name(entry.to.name).Index(entry.folder).Index(entry.waitsFor).End();
+}
+
+void WriteSteps(LineWriter& writer, const std::vector<PlanStep>& steps)
+{
+    for (std::size_t first = 0; first < steps.size(); first += stepsInLine) {
+        writer.Word("steps");
+        for (std::size_t step = first; step < std::min(first + stepsInLine, steps.size()); ++step)
+            writer.Step(steps[step]);
+        writer.End();
+    }
+}
+
+/// Thrown inside this file when a journal is not as it must be.
+struct Damage
+{
+    std::size_t line;
+    const char16_t* what;
+};
+
+/// Hands out lines whose checks are right, field by field.
+class LineReader
+{
+public:
+    explicit LineReader(std::string_view text) : m_text(text) {}
+
+    /// Goes to the next line, whose first field must be `word`.
+    void Next(std::string_view word)
+    {
+        const std::string_view content = TakeLine();
+        m_check = Checksum(m_check, content);
+        if (m_check != m_lineCheck)
+            Fail(u"the line's check is wrong");
+        m_fields = content;
+        m_isAtEnd = false;
+        if (Word() != word)
+            Fail(u"it is not the line that belongs there");
+    }
+    /// Goes to the next line if it is a whole mark; else past it.
+    [[nodiscard]] bool NextMark(std::uint32_t check)
+    {
+        try {
+            m_check = check;
+            Next("mark");
+            return true;
+        } catch (const Damage&) {
+            return false;
+        }
+    }
+    [[nodiscard]] bool HasMore() const { return !m_text.empty(); }
+    [[nodiscard]] bool HasMoreFields() const { return !m_isAtEnd; }
+
+    std::string_view Word()
+    {
+        if (m_isAtEnd)
+            Fail(u"a field is missing");
+        const std::size_t end = std::min(m_fields.find('\t'), m_fields.size());
+        const std::string_view word = m_fields.substr(0, end);
+        m_isAtEnd = end == m_fields.size();
+        m_fields.remove_prefix(m_isAtEnd ? end : end + 1);
+        return word;
+    }
+    template <std::integral Integer>
+    Integer Number()
+    {
+        return ParseNumber<Integer>(Word());
+    }
+    PlanIndex Index()
+    {
+        const std::string_view word = Word();
+        return word == std::string_view(&noneText, 1) ? none : ParseNumber<PlanIndex>(word);
+    }
+    CString Name()
+    {
+        std::optional<CString> name = ReadJournalName(Word());
+        if (!name)
+            Fail(u"a name is not written as names are");
+        return std::move(*name);
+    }
+    template <class Value, std::size_t Count>
+    Value Letter(const std::array<std::pair<Value, char>, Count>& letters)
+    {
+        return ParseLetter(Word(), letters);
+    }
+    PlanStep Step()
+    {
+        const std::string_view word = Word();
+        return {ParseLetter(word.substr(0, 1), actions),
+                ParseNumber<PlanIndex>(word.substr(std::min<std::size_t>(1, word.size())))};
+    }
+    /// Each below `bound`, in rising order.
+    std::vector<PlanIndex> Ranges(std::size_t bound)
+    {
+        std::vector<PlanIndex> indexes;
+        for (std::string_view rest = Word(); !rest.empty();) {
+            const std::size_t end = std::min(rest.find(','), rest.size());
+            AppendRange(rest.substr(0, end), bound, indexes);
+            rest.remove_prefix(std::min(end + 1, rest.size()));
+        }
+        return indexes;
+    }
+    void End() const
+    {
+        if (!m_isAtEnd)
+            Fail(u"it has too many fields");
+    }
+    [[nodiscard]] std::uint32_t Check() const { return m_check; }
+    [[noreturn]] void Fail(const char16_t* what) const { throw Damage{m_line, what}; }
+
+private:
+    /// What stands before the line's check, which is taken too.
+    std::string_view TakeLine()
+    {
+        ++m_line;
+        const std::size_t end = m_text.find('\n');
+        if (end == m_text.npos) {
+            m_text = {};
+            Fail(u"the journal ends too early");
+        }
+        const std::string_view line = m_text.substr(0, end);
+        m_text.remove_prefix(end + 1);
+        if (line.size() <= checkLength || line[line.size() - checkLength - 1] != '\t')
+            Fail(u"the line has no check");
+        m_lineCheck = ParseNumber<std::uint32_t>(line.substr(line.size() - checkLength), 16);
+        return line.substr(0, line.size() - checkLength - 1);
+    }
+    template <std::integral Integer>
+    Integer ParseNumber(std::string_view digits, int base = 10) const
+    {
+        Integer number = 0;
+        const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number, base);
+        if (error != std::errc() || end != digits.data() + digits.size())
+            Fail(u"a number is not one");
+        return number;
+    }
+    template <class Value, std::size_t Count>
+    Value ParseLetter(std::string_view word, const std::array<std::pair<Value, char>, Count>& letters) const
+    {
+        for (const auto& [value, letter] : letters)
+            if (word == std::string_view(&letter, 1))
+                return value;
+        Fail(u"a letter has no meaning");
+    }
+    void AppendRange(std::string_view range, std::size_t bound, std::vector<PlanIndex>& indexes) const
+    {
+        const std::size_t dash = range.find('-');
+        const auto first = ParseNumber<PlanIndex>(range.substr(0, dash));
+        const auto last = dash == range.npos ? first : ParseNumber<PlanIndex>(range.substr(dash + 1));
+        if (last < first || last >= bound || (!indexes.empty() && first <= indexes.back()))
+            Fail(u"a range is out of order");
+        for (PlanIndex index = first; index <= last; ++index)
+            indexes.push_back(index);
+    }
+
+    std::string_view m_text;
+    std::string_view m_fields;
+    bool m_isAtEnd = true;
+    std::size_t m_line = 0;
+    std::uint32_t m_check = 0;
+    std::uint32_t m_lineCheck = 0;
+};
+
+/// The heading's counts of what follows.
+struct Counts
+{
+    std::size_t folders = 0;
+    std::size_t entries = 0;
+    std::size_t steps = 0;
+};
+
+JournalHeading ReadHeadingLines(LineReader& reader, Counts& counts)
+{
+    reader.Next(format);
+    if (reader.Number<std::uint32_t>() != version)
+        reader.Fail(u"it is of a version that this program does not know");
+    reader.End();
+    reader.Next("batch");
+    JournalHeading heading;
+    heading.number = reader.Number<std::uint32_t>();
+    heading.token = reader.Number<std::uint64_t>();
+    heading.started = reader.Name();
+    counts.folders = reader.Number<PlanIndex>();
+    counts.entries = reader.Number<PlanIndex>();
+    counts.steps = reader.Number<PlanIndex>();
+    heading.entries = counts.entries;
+    heading.firstFrom = reader.Name();
+    heading.firstTo = reader.Name();
+    reader.End();
+    return heading;
+}
+
+PlanFolder ReadFolder(LineReader& reader)
+{
+    constexpr std::array<std::pair<bool, char>, 2> ages{{{true, 'n'}, {false, 'o'}}};
+    reader.Next("folder");
+    PlanFolder folder;
+    folder.place.folder = reader.Index();
+    folder.isNew = reader.Letter(ages);
+    folder.place.name = reader.Name();
+    reader.End();
+    return folder;
+}
+
+PlanEntry ReadEntry(LineReader& reader, FileState& state)
+{
+    reader.Next("entry");
+    PlanEntry entry;
+    state.kind = reader.Letter(kinds);
+    entry.kind = state.kind;
+    state.identity.device = reader.Number<std::uint64_t>();
+    state.identity.number = reader.Number<std::uint64_t>();
+    state.size = reader.Number<std::int64_t>();
+    state.modified = reader.Number<VyrPlatform::FileTicks>();
+    state.links = reader.Number<std::uint32_t>();
+    entry.from.folder = reader.Index();
+    entry.from.name = reader.Name();
+    entry.to.folder = reader.Index();
+    entry.to.name = reader.Name();
+    entry.folder = reader.Index();
+    entry.waitsFor = reader.Index();
+    reader.End();
+    return entry;
+}
+
+void LinkFolders(LineReader& reader, RenamePlan& plan)
+{
+    for (PlanIndex entry = 0; entry < plan.entries.size(); ++entry) {
+        const PlanIndex folder = plan.entries[entry].folder;
+        if (folder == none)
+            continue;
+        if (folder >= plan.folders.size() || plan.folders[folder].entry != none)
+            reader.Fail(u"an entry is a folder that there is not");
+        plan.folders[folder].entry = entry;
+    }
+}
+
+void ReadPlan(LineReader& reader, const Counts& counts, Journal& journal)
+{
+    // The counts may be anything: room is made as lines come.
+    while (journal.plan.folders.size() < counts.folders)
+        journal.plan.folders.push_back(ReadFolder(reader));
+    while (journal.plan.entries.size() < counts.entries)
+        journal.plan.entries.push_back(ReadEntry(reader, journal.states.emplace_back()));
+    while (journal.plan.steps.size() < counts.steps) {
+        reader.Next("steps");
+        while (reader.HasMoreFields())
+            journal.plan.steps.push_back(reader.Step());
+    }
+    reader.Next("end");
+    reader.End();
+    if (journal.plan.steps.size() != counts.steps)
+        reader.Fail(u"there are too many steps");
+    LinkFolders(reader, journal.plan);
+}
+
+void ReadMarks(LineReader& reader, Journal& journal)
+{
+    while (reader.HasMore()) {
+        if (!reader.NextMark(journal.check))
+            continue;
+        JournalMark mark;
+        mark.entriesBefore = reader.Ranges(journal.plan.entries.size());
+        mark.entriesAside = reader.Ranges(journal.plan.entries.size());
+        mark.foldersMade = reader.Ranges(journal.plan.folders.size());
+        reader.End();
+        journal.mark = std::move(mark);
+    }
+}
+
+CString Describe(const Damage& damage)
+{
+    CString text;
+    text.Format(u"line %u: %s", damage.line, damage.what);
+    return text;
+}
+
+} // namespace
+
+std::string WriteJournal(const Journal& journal, std::uint32_t& check)
+{
+    constexpr std::size_t usualLine = 100;
+    std::string text;
+    text.reserve((journal.plan.entries.size() + journal.plan.folders.size() + 2) * usualLine);
+    LineWriter writer(text, 0);
+    writer.Word(format).Number(version).End();
+    WriteHeading(writer, journal);
+    for (const PlanFolder& folder : journal.plan.folders)
+        WriteFolder(writer, folder);
+    for (std::size_t entry = 0; entry < journal.plan.entries.size(); ++entry)
+        WriteEntry(writer, journal.plan.entries[entry], journal.states[entry]);
+    WriteSteps(writer, journal.plan.steps);
+    writer.Word("end").End();
+    check = writer.Check();
+    return text;
+}
+
+std::string WriteMark(const JournalMark& mark, std::uint32_t check)
+{
+    // The line before may have been cut off.
+    std::string text = "\n";
+    LineWriter writer(text, check);
+    writer.Word("mark").Ranges(mark.entriesBefore).Ranges(mark.entriesAside).Ranges(mark.foldersMade).End();
+    return text;
+}
+
+std::optional<Journal> ReadJournal(std::string_view text, CString& problem)
+{
+    try {
+        LineReader reader(text);
+        Journal journal;
+        Counts counts;
+        journal.heading = ReadHeadingLines(reader, counts);
+        ReadPlan(reader, counts, journal);
+        journal.check = reader.Check();
+        problem = FindPlanFault(journal.plan);
+        if (!problem.IsEmpty())
+            return {};
+        ReadMarks(reader, journal);
+        return journal;
+    } catch (const Damage& damage) {
+        problem = Describe(damage);
+        return {};
+    }
+}
+
+std::optional<JournalHeading> ReadHeading(std::string_view text, CString& problem)
+{
+    try {
+        LineReader reader(text);
+        Counts counts;
+        return ReadHeadingLines(reader, counts);
+    } catch (const Damage& damage) {
+        problem = Describe(damage);
+        return {};
+    }
+}
+
+} // namespace VyrHost

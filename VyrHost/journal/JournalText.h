@@ -1,0 +1,76 @@
+/// @file
+/// The journal of a batch as text: what was to be done, and afterwards how far it came.
+///
+/// The text is UTF-8, a line for each record, its fields separated by tabs, the last field a check:
+///
+///     vyr-journal  1
+///     batch        number  token  started  folders  entries  steps  first path  its new path
+///     folder       parent  n(ew) or o(ld)  name
+///     entry        kind  device  number  size  modified  links  folder  name  new folder  new name  itself  waits for
+///     steps        m(ake), a(side) or r(ename) with the number of the folder or entry, in order
+///     end
+///     mark         entries that stand at their old paths  entries set aside  folders that the batch has made
+///
+/// Numbers are decimal; folders and entries are numbered from 0 in the order of their lines, "-" stands for none. The
+/// check is the CRC-32, in eight hexadecimal digits, of all fields up to there from the start of the text; of a mark,
+/// of those up to "end" and its own. A mark is appended whenever work on the batch ends; the last whole one counts.
+#pragma once
+
+#include <VyrHost/plan/RenamePlan.h>
+
+#include <VyrPlatform/FileIdentity.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace VyrHost {
+
+/// What is known of a batch before it is begun.
+struct JournalHeading
+{
+    std::uint32_t number = 0;
+    /// By chance, for the temporary names of the batch.
+    std::uint64_t token = 0;
+    /// Local time as yyyy/MM/dd HH:mm:ss.
+    CString started;
+    std::size_t entries = 0;
+    CString firstFrom;
+    CString firstTo;
+};
+
+/// How far a batch came.
+struct JournalMark
+{
+    /// In rising order.
+    std::vector<PlanIndex> entriesBefore;
+    std::vector<PlanIndex> entriesAside;
+    std::vector<PlanIndex> foldersMade;
+};
+
+struct Journal
+{
+    JournalHeading heading;
+    RenamePlan plan;
+    /// For each entry what stood at its old path before the batch; Missing where nothing did.
+    std::vector<VyrPlatform::FileState> states;
+    std::optional<JournalMark> mark;
+    /// The check of all lines up to "end"; marks start from it.
+    std::uint32_t check = 0;
+};
+
+/// The text of a batch that is about to begin: `journal` without its mark and check.
+/// @return the text, with its check in `check`.
+[[nodiscard]] std::string WriteJournal(const Journal& journal, std::uint32_t& check);
+/// What is appended to the text with the check `check`.
+[[nodiscard]] std::string WriteMark(const JournalMark& mark, std::uint32_t check);
+
+/// Reads a journal that may be anything: what it gives is a plan that can be worked with, every index in it in range,
+/// every name a single part of a path.
+/// @return nothing, with `problem` saying why and where, when it is damaged.
+[[nodiscard]] std::optional<Journal> ReadJournal(std::string_view text, CString& problem);
+/// The heading alone, from the first part of a journal.
+[[nodiscard]] std::optional<JournalHeading> ReadHeading(std::string_view text, CString& problem);
+
+} // namespace VyrHost
