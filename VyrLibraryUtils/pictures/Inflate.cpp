@@ -38,37 +38,50 @@ class BitReader
 public:
     explicit BitReader(std::string_view bytes) : m_bytes(bytes) {}
 
-    unsigned Bit()
+    /// The next bits, at least LongestCode of them, without passing over any.
+    [[nodiscard]] std::uint32_t Peek()
     {
-        const std::size_t byte = m_position / 8;
-        if (byte >= m_bytes.size()) {
-            m_ended = true;
-            return 0;
+        for (; m_ready <= 24 && !m_bytes.empty(); m_ready += 8) {
+            m_bits |= std::uint32_t{static_cast<unsigned char>(m_bytes.front())} << m_ready;
+            m_bytes.remove_prefix(1);
         }
-        const unsigned value = static_cast<unsigned char>(m_bytes[byte]);
-        return value >> m_position++ % 8 & 1;
+        return m_bits;
     }
+    /// Passes over `count` bits, 0 to 16 of what Peek gave.
+    void Drop(unsigned count)
+    {
+        m_ended = m_ended || count > m_ready;
+        m_ready -= std::min(count, m_ready);
+        m_bits >>= count;
+    }
+    /// The next `count` bits, 0 to 16, as a number.
     unsigned Bits(unsigned count)
     {
-        unsigned value = 0;
-        for (unsigned i = 0; i < count; ++i)
-            value |= Bit() << i;
+        const unsigned value = Peek() & ((1u << count) - 1);
+        Drop(count);
         return value;
     }
-    void AlignToByte() { m_position = (m_position + 7) / 8 * 8; }
-    /// The next `count` whole bytes, or as many as there are.
-    std::string_view Take(std::size_t count)
+    void AlignToByte() { Drop(m_ready % 8); }
+    /// The next `count` whole bytes, or as many as there are. Only where a byte begins.
+    std::string Take(std::size_t count)
     {
-        const std::string_view taken = m_bytes.substr(std::min(m_position / 8, m_bytes.size()), count);
-        m_position += taken.size() * 8;
+        std::string taken;
+        for (; m_ready > 0 && taken.size() < count; Drop(8))
+            taken += static_cast<char>(m_bits & 0xFF);
+        const std::size_t left = std::min(count - taken.size(), m_bytes.size());
+        taken += m_bytes.substr(0, left);
+        m_bytes.remove_prefix(left);
         m_ended = m_ended || taken.size() < count;
         return taken;
     }
     [[nodiscard]] bool Ended() const noexcept { return m_ended; }
 
 private:
+    /// What is not in `m_bits` yet.
     std::string_view m_bytes;
-    std::size_t m_position = 0;
+    /// `m_ready` bits, zeros above.
+    std::uint32_t m_bits = 0;
+    unsigned m_ready = 0;
     bool m_ended = false;
 };
 
@@ -92,14 +105,17 @@ public:
 
     int Symbol(BitReader& bits) const
     {
+        std::uint32_t ahead = bits.Peek();
         int code = 0;
         int firstCode = 0;
         int firstSymbol = 0;
-        for (std::size_t length = 1; length <= LongestCode && !bits.Ended(); ++length) {
-            code = code << 1 | static_cast<int>(bits.Bit());
+        for (unsigned length = 1; length <= LongestCode; ++length, ahead >>= 1) {
+            code = code << 1 | static_cast<int>(ahead & 1);
             const int count = m_counts[length];
-            if (code - firstCode < count)
-                return m_symbols[static_cast<std::size_t>(firstSymbol + code - firstCode)];
+            if (code - firstCode < count) {
+                bits.Drop(length);
+                return bits.Ended() ? NoSymbol : m_symbols[static_cast<std::size_t>(firstSymbol + code - firstCode)];
+            }
             firstSymbol += count;
             firstCode = (firstCode + count) << 1;
         }
@@ -120,7 +136,7 @@ public:
     {
         bool isLast = false;
         while (!isLast && !Stopped()) {
-            isLast = m_bits.Bit() != 0;
+            isLast = m_bits.Bits(1) != 0;
             Block();
         }
         return std::move(m_output);
