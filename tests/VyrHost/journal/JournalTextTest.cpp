@@ -260,8 +260,9 @@ TEST(JournalText, IsNotReadWhenALineIsMissingOrTwice)
         CString problem;
         EXPECT_FALSE(ReadJournal(text.substr(0, start) + text.substr(end), problem)) << line;
         // Behind the last line there are marks, which may be cut off.
-        if (end < text.size())
+        if (end < text.size()) {
             EXPECT_FALSE(ReadJournal(text.substr(0, end) + line + text.substr(end), problem)) << line;
+        }
         start = end;
     }
 }
