@@ -3,6 +3,8 @@
 
 #include <VyrPlatform/FileTimes.h>
 
+#include <cstdlib>
+#include <ctime>
 #include <windows.h>
 
 namespace VyrTests {
@@ -41,6 +43,9 @@ TimeZone::TimeZone(const std::string& name)
         if (name == rules.name && IsInForce(rules))
             m_whyNot.clear();
     }
+    // TZ is Wine's; the C library would misread it, and without it asks the system.
+    _putenv("TZ=");
+    _tzset();
     VyrPlatform::FileTimes::FollowTimeZone();
 }
 
