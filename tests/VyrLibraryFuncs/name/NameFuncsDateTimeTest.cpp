@@ -1,6 +1,8 @@
 // The date-time rename: which date-time, where its text goes, and the text against the C library's.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
+#include <VyrLibraryUtils/DateTimeUtils.h>
+
 #include <tests/support/PictureBuilder.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
@@ -13,8 +15,10 @@
 #include <filesystem>
 #include <limits>
 #include <string>
+#include <vector>
 
 using VyrLibraryFuncs::NameFuncs;
+using VyrLibraryUtils::DateTimeUtils;
 using VyrTests::ScratchFolder;
 
 namespace {
@@ -37,16 +41,6 @@ CString DatedPath(const CString& path, int target)
     return NameFuncs::GetDateTimeFilePath(Dated(path, target));
 }
 
-/// The last-write time that `path` has, written by the C library.
-CString ModifiedText(const CString& path)
-{
-    const auto written = std::filesystem::last_write_time(VyrTests::ToStdPath(path));
-    const std::time_t seconds = std::chrono::system_clock::to_time_t(std::chrono::file_clock::to_sys(written));
-    char text[100];
-    const std::size_t length = std::strftime(text, sizeof text, "%Y%m%d_%H%M%S", std::localtime(&seconds));
-    return CString(std::u16string(text, text + length));
-}
-
 void SetModified(const CString& path, std::chrono::sys_seconds time)
 {
     std::filesystem::last_write_time(VyrTests::ToStdPath(path), std::chrono::file_clock::from_sys(time));
@@ -59,16 +53,36 @@ CString WritePicture(const ScratchFolder& scratch, const std::string& taken)
     return scratch.WriteFile(u"picture.jpg", VyrTests::BuildJpeg(facts));
 }
 
-/// Writes times of summer and winter into a file, and compares the texts.
-void ExpectModifiedTimesOfTheCLibrary()
+/// A moment, and how far a zone's clocks are ahead of UTC then.
+struct Moment
+{
+    std::chrono::sys_seconds time;
+    std::chrono::hours offset;
+};
+
+constexpr Moment Late(int year, unsigned month, unsigned day, int offset)
 {
     using namespace std::chrono;
+    const sys_days date = std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day);
+    return {date + hours(22) + minutes(58) + seconds(7), hours(offset)};
+}
+
+/// What the C library writes for a moment of UTC.
+CString TextOf(std::chrono::sys_seconds time)
+{
+    const std::time_t seconds = std::chrono::system_clock::to_time_t(time);
+    char text[100];
+    const std::size_t length = std::strftime(text, sizeof text, "%Y%m%d_%H%M%S", std::gmtime(&seconds));
+    return CString(std::u16string(text, text + length));
+}
+
+void ExpectModifiedTimes(const std::vector<Moment>& moments)
+{
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a.jpg");
-    for (const sys_days day : {sys_days(2024y / 1 / 5), sys_days(2023y / 7 / 31), sys_days(2000y / 2 / 29),
-                               sys_days(1999y / 12 / 31), sys_days(1980y / 6 / 1)}) {
-        SetModified(path, day + 22h + 58min + 7s);
-        EXPECT_EQ(DatedPath(path, 0), u"/d/" + ModifiedText(path) + u".jpg");
+    for (const Moment& moment : moments) {
+        SetModified(path, moment.time);
+        EXPECT_EQ(DatedPath(path, 0), u"/d/" + TextOf(moment.time + moment.offset) + u".jpg");
     }
 }
 
@@ -103,7 +117,11 @@ TEST(NameFuncsDateTime, UnknownTargetIsTheZeroDateTime)
 
 TEST(NameFuncsDateTime, ModifiedTimeAgreesWithTheCLibrary)
 {
-    ExpectModifiedTimesOfTheCLibrary();
+    const VyrTests::TimeZone zone("UTC");
+    if (!zone.IsSet())
+        GTEST_SKIP() << zone.WhyNot();
+    ExpectModifiedTimes(
+        {Late(2024, 2, 28, 0), Late(2023, 7, 31, 0), Late(2000, 2, 29, 0), Late(1999, 12, 31, 0), Late(1980, 6, 1, 0)});
 }
 
 TEST(NameFuncsDateTime, ModifiedTimeHasTheOffsetOfItsOwnDate)
@@ -111,18 +129,25 @@ TEST(NameFuncsDateTime, ModifiedTimeHasTheOffsetOfItsOwnDate)
     const VyrTests::TimeZone zone("Europe/Berlin");
     if (!zone.IsSet())
         GTEST_SKIP() << zone.WhyNot();
-    ExpectModifiedTimesOfTheCLibrary();
+    ExpectModifiedTimes(
+        {Late(2024, 2, 28, 1), Late(2023, 7, 31, 2), Late(2000, 2, 29, 1), Late(1999, 12, 31, 1), Late(2010, 6, 1, 2)});
 }
 
-TEST(NameFuncsDateTime, CreatedAndAccessedTimesAreReadToo)
+TEST(NameFuncsDateTime, EachTargetTakesItsOwnTimeOfTheFile)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a.jpg");
-    const CString today = u"/d/" + ModifiedText(path).Left(4) + u".jpg";
     SetModified(path, std::chrono::sys_days(std::chrono::year(1980) / 6 / 15));
-    EXPECT_EQ(NameFuncs::GetDateTimeFilePath(Dated(path, 0, u"yyyy")), u"/d/1980.jpg");
-    EXPECT_EQ(NameFuncs::GetDateTimeFilePath(Dated(path, 1, u"yyyy")), today);
-    EXPECT_EQ(NameFuncs::GetDateTimeFilePath(Dated(path, 2, u"yyyy")), today);
+    const COleDateTime times[] = {DateTimeUtils::GetDateModified(path), DateTimeUtils::GetDateCreated(path),
+                                  DateTimeUtils::GetDateAccessed(path)};
+    EXPECT_EQ(times[0].GetYear(), 1980);
+    EXPECT_NE(times[2].GetYear(), 1980);
+    for (int target = 0; target <= 2; ++target) {
+        CString expected;
+        expected.Format(u"/d/%04d-%02d-%02d.jpg", times[target].GetYear(), times[target].GetMonth(),
+                        times[target].GetDay());
+        EXPECT_EQ(NameFuncs::GetDateTimeFilePath(Dated(path, target, u"yyyy-MM-dd")), expected) << target;
+    }
 }
 
 TEST(NameFuncsDateTime, TimeOfTakingComesFromThePicture)

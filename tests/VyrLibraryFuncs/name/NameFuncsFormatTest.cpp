@@ -5,6 +5,7 @@
 
 #include <tests/support/PictureBuilder.h>
 #include <tests/support/ScratchFolder.h>
+#include <tests/support/TimeZone.h>
 
 #include <gtest/gtest.h>
 
@@ -36,11 +37,12 @@ CString WritePicture(const ScratchFolder& scratch)
     return scratch.WriteFile(u"picture.jpg", VyrTests::BuildJpeg(facts));
 }
 
-CString LocalTimeText()
+/// The current time of UTC, by the C library.
+CString CurrentText()
 {
     const std::time_t now = std::time(nullptr);
     char text[100];
-    const std::size_t length = std::strftime(text, sizeof text, "%Y%m%d_%H%M%S", std::localtime(&now));
+    const std::size_t length = std::strftime(text, sizeof text, "%Y%m%d_%H%M%S", std::gmtime(&now));
     return CString(std::u16string(text, text + length));
 }
 
@@ -54,12 +56,15 @@ TEST(NameFuncsFormat, SampleIsWrittenForTheCurrentTime)
 
 TEST(NameFuncsFormat, SampleFollowsTheSystemsClock)
 {
+    const VyrTests::TimeZone zone("UTC");
+    if (!zone.IsSet())
+        GTEST_SKIP() << zone.WhyNot();
     CString before;
     CString sample;
     do {
-        before = LocalTimeText();
+        before = CurrentText();
         sample = NameFuncs::GetRenameToSampleFormated(u"yyyyMMdd_HHmmss");
-    } while (before != LocalTimeText());
+    } while (before != CurrentText());
     EXPECT_EQ(sample, before);
 }
 

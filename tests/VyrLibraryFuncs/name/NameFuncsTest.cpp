@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <type_traits>
 
 using VyrLibraryFuncs::NameFuncs;
 
@@ -142,5 +141,43 @@ TEST(NameFuncs, RecordsAreEmptyAndZeroUntilFilled)
     const NameFuncs::CONFLICTITEM conflict;
     EXPECT_EQ(conflict.numberFormat, u"");
     EXPECT_EQ(conflict.step, 0);
-    EXPECT_TRUE(std::is_aggregate_v<NameFuncs::ITEM>);
+}
+
+TEST(NameFuncs, FieldsStandInTheirPublishedOrder)
+{
+    // Designators out of the order of declaration do not compile.
+    const NameFuncs::ITEM item{.filePath = u"1",
+                               .auxText1 = u"2",
+                               .auxText2 = u"3",
+                               .auxText3 = u"4",
+                               .auxText4 = u"5",
+                               .dirPath = u"6",
+                               .fileName = u"7",
+                               .extension = u"8",
+                               .index = 9,
+                               .renameType = 10,
+                               .numberPosition = 11,
+                               .numberText1 = u"12",
+                               .numberText2 = u"13",
+                               .startNumber = 14,
+                               .digits = 15,
+                               .step = 16,
+                               .dateTimePosition = 17,
+                               .dateTimeTarget = 18,
+                               .dateTimeFormat = u"19",
+                               .addDeleteType = 20,
+                               .position = 21,
+                               .deleteCount = 22,
+                               .addText = u"23",
+                               .convertType = 24,
+                               .findText = u"25",
+                               .replaceText = u"26",
+                               .extensionType = 27,
+                               .newExtension = u"28"};
+    EXPECT_EQ(item.newExtension, u"28");
+    const NameFuncs::CONFLICTITEM conflict{.numberFormat = u"1", .position = 2, .startNumber = 3, .step = 4};
+    EXPECT_EQ(conflict.step, 4);
+    const NameFuncs::RENAMEITEM record{
+        .sourcePath = u"1", .destinationPath = u"2", .dateCreated = {}, .dateModified = COleDateTime(4.0)};
+    EXPECT_EQ(record.dateModified.m_dt, 4.0);
 }
