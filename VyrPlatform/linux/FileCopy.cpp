@@ -6,6 +6,7 @@
 #include "FileMetadata.h"
 #include "FileStatus.h"
 
+#include <VyrPlatform/DurableFile.h>
 #include <VyrPlatform/FileAttributes.h>
 #include <VyrPlatform/common/TemporaryPath.h>
 
@@ -34,7 +35,7 @@ int ErrorOf(int result) noexcept
 /// What stands at `path` itself.
 int AskSource(const NativePath& path, struct statx& status) noexcept
 {
-    constexpr unsigned mask = STATX_TYPE | STATX_INO | STATX_ATIME | STATX_MTIME | STATX_UID | STATX_GID;
+    constexpr unsigned mask = STATX_TYPE | STATX_INO | STATX_SIZE | STATX_ATIME | STATX_MTIME | STATX_UID | STATX_GID;
     return AskStatus(path, AT_SYMLINK_NOFOLLOW, mask, status) ? 0 : errno;
 }
 
@@ -142,22 +143,23 @@ int Copy(const CString& source, const CString& destination, Flush flush)
     return error == EEXIST ? CopyOver(from, status, destination, flush) : error;
 }
 
-/// Waits until the names in the folder of `path` are on the disk.
-int FlushFolderOf(const CString& path)
+/// Whether `source` is still the file of `status`: one that somebody writes meanwhile is more than its copy.
+bool IsUnchanged(const NativePath& source, const struct statx& status) noexcept
 {
-    const CString name = GetFolderOf(path);
-    const Descriptor folder(
-        open(NativePath(name.IsEmpty() ? CString(u".") : name).Get(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    return folder.IsOpen() ? ErrorOf(fsync(folder.Get())) : errno;
+    struct statx now;
+    return AskSource(source, now) == 0 && IsSameFile(now, status) && now.stx_size == status.stx_size &&
+           ToTicks(now.stx_mtime) == ToTicks(status.stx_mtime);
 }
 
-int MoveToOtherVolume(const CString& source, const CString& destination)
+int MoveToOtherVolume(const CString& source, const struct statx& status, const CString& destination)
 {
     if (const int error = Copy(source, destination, Flush::Yes))
         return error;
-    if (const int error = FlushFolderOf(destination))
-        return error;
-    return ErrorOf(unlink(NativePath(source).Get()));
+    const CString folder = GetFolderOf(destination);
+    if (const std::uint32_t error = DurableFile::FlushFolder(folder.IsEmpty() ? CString(u".") : folder))
+        return static_cast<int>(error);
+    const NativePath from(source);
+    return IsUnchanged(from, status) ? ErrorOf(unlink(from.Get())) : EBUSY;
 }
 
 int MoveFrom(const CString& source, const CString& destination)
@@ -171,7 +173,7 @@ int MoveFrom(const CString& source, const CString& destination)
     if (const int error = MayReplace(status, destination))
         return error;
     const int error = ErrorOf(std::rename(from.Get(), NativePath(destination).Get()));
-    return error == EXDEV ? MoveToOtherVolume(source, destination) : error;
+    return error == EXDEV ? MoveToOtherVolume(source, status, destination) : error;
 }
 
 } // namespace

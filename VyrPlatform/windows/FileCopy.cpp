@@ -4,6 +4,7 @@
 #include "LongPath.h"
 
 #include <VyrPlatform/FileAttributes.h>
+#include <VyrPlatform/FileIdentity.h>
 #include <VyrPlatform/common/TemporaryPath.h>
 
 #include <windows.h>
@@ -18,25 +19,10 @@ DWORD ErrorOf(BOOL result) noexcept
     return result ? ERROR_SUCCESS : GetLastError();
 }
 
-bool AskInformation(const CString& path, BY_HANDLE_FILE_INFORMATION& information)
-{
-    const HANDLE file =
-        CreateFileW(LongPath(path).Get(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
-        return false;
-    const bool isKnown = GetFileInformationByHandle(file, &information);
-    CloseHandle(file);
-    return isKnown;
-}
-
 bool IsSameFile(const CString& left, const CString& right)
 {
-    BY_HANDLE_FILE_INFORMATION leftFile;
-    BY_HANDLE_FILE_INFORMATION rightFile;
-    return AskInformation(left, leftFile) && AskInformation(right, rightFile) &&
-           leftFile.dwVolumeSerialNumber == rightFile.dwVolumeSerialNumber &&
-           leftFile.nFileIndexHigh == rightFile.nFileIndexHigh && leftFile.nFileIndexLow == rightFile.nFileIndexLow;
+    const FileState leftState = LookAtFile(left);
+    return leftState.error == 0 && leftState.identity == LookAtFile(right).identity;
 }
 
 void Remove(const LongPath& path) noexcept

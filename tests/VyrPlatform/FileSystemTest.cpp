@@ -1,6 +1,6 @@
 // FileSystem: what stands at a path, and the making of folders.
 #include <VyrPlatform/FileSystem.h>
-#include <tests/support/FileState.h>
+#include <tests/support/FileMoments.h>
 #include <tests/support/Links.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
@@ -57,7 +57,7 @@ TEST(FileSystemQuery, TellsTheFileTimes)
     const CString path = scratch.WriteFile(u"a");
     constexpr VyrPlatform::FileTicks modified = 133'500'000'001'234'500;
     constexpr VyrPlatform::FileTicks accessed = 131'000'000'007'654'300;
-    VyrTests::SetFileTimes(path, modified, accessed);
+    VyrTests::StampFile(path, modified, accessed);
     const FileSystem::Entry entry = FileSystem::Query(path);
     EXPECT_EQ(entry.modified, modified);
     EXPECT_EQ(entry.accessed, accessed);

@@ -1,7 +1,7 @@
 // FileTimes: a file's three times, and file times as local time.
 #include <VyrPlatform/FileSystem.h>
 #include <VyrPlatform/FileTimes.h>
-#include <tests/support/FileState.h>
+#include <tests/support/FileMoments.h>
 #include <tests/support/Links.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/TimeZone.h>
@@ -62,7 +62,7 @@ TEST(FileTimes, AreThoseThatWereSet)
     constexpr FileTicks modified = Utc(2024y / July / 19, 18, 45, 3, 1'234'500);
     constexpr FileTicks accessed = Utc(2025y / January / 2, 3, 4, 5, 9'999'900);
     for (const CString& path : {scratch.WriteFile(u"a"), scratch.MakeFolder(u"folder")}) {
-        VyrTests::SetFileTimes(path, modified, accessed);
+        VyrTests::StampFile(path, modified, accessed);
         EXPECT_EQ(FileTimes::GetModified(path), modified);
         EXPECT_EQ(FileTimes::GetAccessed(path), accessed);
     }
@@ -74,7 +74,7 @@ TEST(FileTimes, MayLieBefore1970)
     const CString path = scratch.WriteFile(u"a");
     constexpr FileTicks modified = Utc(1969y / December / 31, 23, 59, 59, 5'000'000);
     constexpr FileTicks accessed = Utc(1950y / March / 4, 5, 6, 7);
-    VyrTests::SetFileTimes(path, modified, accessed);
+    VyrTests::StampFile(path, modified, accessed);
     EXPECT_EQ(FileTimes::GetModified(path), modified);
     EXPECT_EQ(FileTimes::GetAccessed(path), accessed);
 }
@@ -114,7 +114,7 @@ TEST(FileTimes, OfALinkAreThoseOfItsTarget)
     if (const std::string reason = VyrTests::MakeLink(file, scratch.Path(u"link")); !reason.empty())
         GTEST_SKIP() << reason;
     constexpr FileTicks modified = Utc(2020y / February / 29, 1, 2, 3);
-    VyrTests::SetFileTimes(file, modified, modified);
+    VyrTests::StampFile(file, modified, modified);
     EXPECT_EQ(FileTimes::GetModified(scratch.Path(u"link")), modified);
     ASSERT_EQ(VyrTests::MakeLink(scratch.Path(u"missing"), scratch.Path(u"dangling")), "");
     EXPECT_EQ(FileTimes::GetModified(scratch.Path(u"dangling")), std::nullopt);

@@ -1,13 +1,9 @@
-// For tests: what a file has besides its content, set by the system's own means.
+// For tests: the read-only state and the download mark of a file, set by the system's own means.
 #pragma once
 
 #include <VyrPlatform/CString.h>
-#include <VyrPlatform/FileTimes.h>
 
 namespace VyrTests {
-
-/// Sets the times of the file or folder at `path`; a test failure when the system refuses.
-void SetFileTimes(const CString& path, VyrPlatform::FileTicks modified, VyrPlatform::FileTicks accessed);
 
 /// Makes the file or folder at `path` read-only or writable.
 void SetReadOnly(const CString& path, bool isReadOnly);

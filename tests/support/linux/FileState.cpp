@@ -1,12 +1,10 @@
-// File times, the read-only state and the download mark on Linux.
+// The read-only state and the download mark on Linux.
 #include <tests/support/FileState.h>
 #include <tests/support/StdPath.h>
 
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
 #include <string_view>
-#include <sys/stat.h>
 #include <sys/xattr.h>
 
 namespace VyrTests {
@@ -15,20 +13,7 @@ namespace {
 
 constexpr const char* zoneMark = "user.DosStream.Zone.Identifier:$DATA";
 
-timespec ToTime(VyrPlatform::FileTicks ticks)
-{
-    constexpr VyrPlatform::FileTicks ticksPerSecond = 10'000'000;
-    const VyrPlatform::FileTicks fraction = (ticks % ticksPerSecond + ticksPerSecond) % ticksPerSecond;
-    return {(ticks - fraction) / ticksPerSecond - 11'644'473'600, fraction * 100};
-}
-
 } // namespace
-
-void SetFileTimes(const CString& path, VyrPlatform::FileTicks modified, VyrPlatform::FileTicks accessed)
-{
-    const timespec times[] = {ToTime(accessed), ToTime(modified)};
-    EXPECT_EQ(utimensat(AT_FDCWD, ToStdPath(path).c_str(), times, 0), 0);
-}
 
 void SetReadOnly(const CString& path, bool isReadOnly)
 {

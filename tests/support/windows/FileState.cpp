@@ -1,4 +1,4 @@
-// File times, the read-only attribute and the download mark on Windows.
+// The read-only attribute and the download mark on Windows.
 #include <tests/support/FileState.h>
 #include <tests/support/StdPath.h>
 
@@ -15,30 +15,12 @@ namespace {
 
 using VyrPlatform::ToWide;
 
-FILETIME ToFileTime(VyrPlatform::FileTicks ticks)
-{
-    const ULARGE_INTEGER bits{.QuadPart = static_cast<ULONGLONG>(ticks)};
-    return {bits.LowPart, bits.HighPart};
-}
-
 CString ZoneMarkOf(const CString& path)
 {
     return path + u":Zone.Identifier";
 }
 
 } // namespace
-
-void SetFileTimes(const CString& path, VyrPlatform::FileTicks modified, VyrPlatform::FileTicks accessed)
-{
-    const HANDLE file =
-        CreateFileW(ToWide(path), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-    ASSERT_NE(file, INVALID_HANDLE_VALUE);
-    const FILETIME modifiedTime = ToFileTime(modified);
-    const FILETIME accessedTime = ToFileTime(accessed);
-    EXPECT_TRUE(SetFileTime(file, nullptr, &accessedTime, &modifiedTime));
-    CloseHandle(file);
-}
 
 void SetReadOnly(const CString& path, bool isReadOnly)
 {
