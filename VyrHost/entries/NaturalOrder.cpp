@@ -17,30 +17,52 @@ char16_t Folded(char16_t unit)
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
 }
 
-/// Takes the digits off the front of `text`; leading zeros are dropped.
-std::u16string_view TakeNumber(std::u16string_view& text)
+bool BeginsWithDigit(std::u16string_view text)
 {
-    const auto end = std::find_if_not(text.begin(), text.end(), IsDigit);
-    const auto length = static_cast<std::size_t>(end - text.begin());
-    std::u16string_view digits = text.substr(0, length);
-    digits.remove_prefix(std::min(digits.find_first_not_of(u'0'), digits.size()));
-    text.remove_prefix(length);
-    return digits;
+    return !text.empty() && IsDigit(text.front());
 }
 
-/// Negative, zero or positive.
-int CompareNumbers(std::u16string_view left, std::u16string_view right)
+void SkipZeros(std::u16string_view& text)
 {
-    if (left.size() != right.size())
-        return left.size() < right.size() ? -1 : 1;
-    return left.compare(right);
+    while (!text.empty() && text.front() == u'0')
+        text.remove_prefix(1);
+}
+
+/// Takes the numbers off the front of both and compares them: negative, zero or positive.
+int CompareNumbers(std::u16string_view& left, std::u16string_view& right)
+{
+    SkipZeros(left);
+    SkipZeros(right);
+    int order = 0;
+    while (BeginsWithDigit(left) && BeginsWithDigit(right)) {
+        if (order == 0)
+            order = left.front() - right.front();
+        left.remove_prefix(1);
+        right.remove_prefix(1);
+    }
+    // Of two numbers the one with more digits is the greater.
+    if (BeginsWithDigit(left))
+        return 1;
+    return BeginsWithDigit(right) ? -1 : order;
+}
+
+/// How much both begin with in common, less the digits at its end: those may be part of different numbers.
+std::size_t CommonLength(std::u16string_view left, std::u16string_view right)
+{
+    const std::size_t shorter = std::min(left.size(), right.size());
+    std::size_t length = 0;
+    while (length < shorter && left[length] == right[length])
+        ++length;
+    while (length > 0 && IsDigit(left[length - 1]))
+        --length;
+    return length;
 }
 
 int CompareRuns(std::u16string_view left, std::u16string_view right)
 {
     while (!left.empty() && !right.empty()) {
         if (IsDigit(left.front()) && IsDigit(right.front())) {
-            if (const int order = CompareNumbers(TakeNumber(left), TakeNumber(right)))
+            if (const int order = CompareNumbers(left, right))
                 return order;
             continue;
         }
@@ -58,6 +80,9 @@ int CompareRuns(std::u16string_view left, std::u16string_view right)
 
 bool IsNaturallyLess(std::u16string_view left, std::u16string_view right)
 {
+    const std::size_t common = CommonLength(left, right);
+    left.remove_prefix(common);
+    right.remove_prefix(common);
     const int order = CompareRuns(left, right);
     return order != 0 ? order < 0 : left < right;
 }

@@ -23,14 +23,13 @@ bool IsLow(char16_t unit)
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
-bool IsPlain(char16_t unit)
-{
-    return unit >= u' ' && unit < 0x7F;
-}
-
+/// Whether `text` is printable ASCII throughout.
 bool IsAllPlain(std::u16string_view text)
 {
-    return std::all_of(text.begin(), text.end(), IsPlain);
+    unsigned others = 0;
+    for (const char16_t unit : text)
+        others |= static_cast<unsigned>(unit < u' ' || unit >= 0x7F);
+    return others == 0;
 }
 
 /// Whether a terminal would do something else than draw `character`.
