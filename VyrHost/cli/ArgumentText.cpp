@@ -3,23 +3,73 @@
 
 #include <VyrPlatform/Encoding.h>
 
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
 #include <string_view>
 
 namespace VyrHost {
 
 namespace {
 
-/// Stands in front of an argument that begins with what the parser would take for a list. No option begins with it.
+/// Stands in front of an argument that begins with what the parser would take for a list or an option. No option begins
+/// with it.
 constexpr char Guard = '\xFF';
+
+std::string Guarded(std::string bytes, std::string_view guardedStarts)
+{
+    if (!bytes.empty() && guardedStarts.find(bytes.front()) != std::string_view::npos)
+        bytes.insert(bytes.begin(), Guard);
+    return bytes;
+}
+
+/// How many of the arguments behind `argument` are its values; 0 unless it is an option of `command`.
+std::size_t ValuesBehind(const CLI::App& command, const std::string& argument)
+{
+    const std::size_t equals = argument.find('=');
+    const CLI::Option* const option =
+        argument.starts_with('-') ? command.get_option_no_throw(argument.substr(0, equals)) : nullptr;
+    if (!option)
+        return 0;
+    const auto values = static_cast<std::size_t>(option->get_items_expected_min());
+    return values > 0 && equals != std::string::npos ? values - 1 : values;
+}
+
+/// The command that `arguments` begin with; the program itself where they begin with none.
+const CLI::App& CommandOf(const CLI::App& program, const std::vector<CString>& arguments)
+{
+    if (arguments.empty())
+        return program;
+    const std::string name = VyrPlatform::Encoding::ToNameBytes(arguments.front());
+    const auto named =
+        program.get_subcommands([&name](const CLI::App* command) { return command->get_name() == name; });
+    return named.empty() ? program : *named.front();
+}
 
 } // namespace
 
-std::string ToParser(const CString& argument)
+std::vector<std::string> ToParser(const CLI::App& program, const std::vector<CString>& arguments)
 {
-    std::string bytes = VyrPlatform::Encoding::ToNameBytes(argument);
-    if (bytes.starts_with('[') || bytes.starts_with(Guard))
-        bytes.insert(bytes.begin(), Guard);
-    return bytes;
+    constexpr std::string_view ListStarts = "[\xFF";
+    constexpr std::string_view ListAndOptionStarts = "-[\xFF";
+    const CLI::App& command = CommandOf(program, arguments);
+    std::vector<std::string> texts;
+    std::size_t values = 0;
+    bool arePlain = false;
+    for (const CString& argument : arguments) {
+        std::string bytes = VyrPlatform::Encoding::ToNameBytes(argument);
+        const bool isValue = values > 0;
+        if (isValue)
+            --values;
+        else if (!arePlain)
+            values = ValuesBehind(command, bytes);
+        if (!arePlain && !isValue && bytes == "--")
+            arePlain = true;
+        else
+            texts.push_back(Guarded(std::move(bytes), arePlain ? ListAndOptionStarts : ListStarts));
+    }
+    std::reverse(texts.begin(), texts.end());
+    return texts;
 }
 
 CString FromParser(const std::string& bytes)

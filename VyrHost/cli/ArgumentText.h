@@ -5,12 +5,18 @@
 #include <VyrPlatform/CString.h>
 
 #include <string>
+#include <vector>
+
+namespace CLI {
+class App;
+}
 
 namespace VyrHost {
 
-/// The bytes of `argument`, such that the parser takes every one for a plain text (it would read "[a,b]" as two).
-[[nodiscard]] std::string ToParser(const CString& argument);
-/// The argument again.
+/// The bytes of `arguments`, the last argument first, as the parser of `program` takes them. Each stays one text (the
+/// parser would read "[a,b]" as two), and "--" makes every one behind it a plain argument.
+[[nodiscard]] std::vector<std::string> ToParser(const CLI::App& program, const std::vector<CString>& arguments);
+/// The argument that the parser read as `bytes`.
 [[nodiscard]] CString FromParser(const std::string& bytes);
 
 } // namespace VyrHost

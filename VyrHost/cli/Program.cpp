@@ -4,6 +4,7 @@
 #include <VyrHost/UsageError.h>
 #include <VyrHost/cli/ArgumentText.h>
 #include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/HelpText.h>
 #include <VyrHost/cli/RenameCommand.h>
 #include <VyrLibraryUtils/VersionUtils.h>
 #include <VyrPlatform/Console.h>
@@ -11,7 +12,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <algorithm>
 #include <string>
 
 namespace VyrHost {
@@ -38,14 +38,6 @@ int Complain(const std::string& what)
     return ExitCode::Usage;
 }
 
-/// The parser takes the last argument first.
-std::vector<std::string> ForParser(const std::vector<CString>& arguments)
-{
-    std::vector<std::string> texts(arguments.size());
-    std::transform(arguments.rbegin(), arguments.rend(), texts.begin(), ToParser);
-    return texts;
-}
-
 } // namespace
 
 int RunProgram(const std::vector<CString>& arguments)
@@ -54,15 +46,15 @@ int RunProgram(const std::vector<CString>& arguments)
     program.set_version_flag("--version", VersionText);
     program.allow_windows_style_options(false);
     program.require_subcommand(1);
-    program.get_formatter()->column_width(34);
+    program.get_formatter()->column_width(HelpColumn);
     const RenameCommand rename(program);
     try {
-        program.parse(ForParser(arguments));
+        program.parse(ToParser(program, arguments));
         return rename.Run();
     } catch (const CLI::CallForVersion&) {
         return WriteOut(VersionText() + "\n");
     } catch (const CLI::CallForHelp&) {
-        return WriteOut(program.help());
+        return WriteOut(WrapHelp(program.help()));
     } catch (const CLI::ParseError& error) {
         return Complain(error.what());
     } catch (const UsageError& error) {

@@ -21,6 +21,18 @@ struct Entry
     VyrPlatform::FileSystem::Kind kind = VyrPlatform::FileSystem::Kind::Missing;
 };
 
+/// A name cut as the rules see it.
+struct SplitName
+{
+    CString name;
+    /// With its dot; empty for a folder and a file without one.
+    CString extension;
+};
+
+/// Cuts the name of `entry`, whose full path is `path`, as NameFuncs::GetFName and GetExtension do, without asking the
+/// system what it is: the entry knows.
+[[nodiscard]] SplitName Split(const CString& path, const Entry& entry);
+
 struct EntryList
 {
     FolderSet folders;

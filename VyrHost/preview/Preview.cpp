@@ -3,7 +3,6 @@
 
 #include <VyrHost/preview/Allotment.h>
 #include <VyrHost/preview/NameJudge.h>
-#include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/FileSystem.h>
 
 #include <algorithm>
@@ -12,7 +11,6 @@ namespace VyrHost {
 
 namespace {
 
-using VyrLibraryUtils::FileUtils;
 using VyrPlatform::FileSystem::Kind;
 
 Decision Refused(Decision decision, Reason reason)
@@ -57,13 +55,9 @@ private:
         m_subject.path = CString::Join({m_subject.folder, entry.name});
         m_subject.isFolder = entry.kind == Kind::Folder;
         m_subject.index = m_index++;
-        if (m_subject.isFolder) {
-            m_subject.name = entry.name;
-            m_subject.extension.Empty();
-        } else {
-            m_subject.name = FileUtils::GetSplitFName(m_subject.path);
-            m_subject.extension = FileUtils::GetSplitExtension(m_subject.path, 1);
-        }
+        SplitName split = Split(m_subject.path, entry);
+        m_subject.name.Swap(split.name);
+        m_subject.extension.Swap(split.extension);
     }
 
     Decision Judge(const Entry& entry, Decision decision)

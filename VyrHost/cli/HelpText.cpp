@@ -1,0 +1,36 @@
+// Breaks the lines of help texts.
+#include <VyrHost/cli/HelpText.h>
+
+#include <sstream>
+
+namespace VyrHost {
+
+namespace {
+
+constexpr std::size_t LongestLine = 100;
+
+void AppendWrapped(std::string& text, std::string line)
+{
+    while (line.size() > LongestLine) {
+        const std::size_t blank = line.rfind(' ', LongestLine);
+        if (blank == std::string::npos || blank <= HelpColumn)
+            break;
+        text.append(line, 0, blank) += '\n';
+        line.replace(0, blank + 1, HelpColumn, ' ');
+    }
+    text.append(line) += '\n';
+}
+
+} // namespace
+
+std::string WrapHelp(const std::string& help)
+{
+    std::string text;
+    std::istringstream lines(help);
+    for (std::string line; std::getline(lines, line);)
+        if (!line.empty() || !text.ends_with("\n\n"))
+            AppendWrapped(text, std::move(line));
+    return text;
+}
+
+} // namespace VyrHost

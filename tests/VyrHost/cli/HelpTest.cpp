@@ -1,0 +1,101 @@
+// Tests of the program: what it says of itself, and that its examples hold.
+#include "VyrProgram.h"
+
+#include <gmock/gmock.h>
+
+#include <sstream>
+
+using namespace VyrTests;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+namespace {
+
+using Help = VyrProgram;
+
+/// The arguments of a command line whose only quotes are double ones.
+std::vector<CString> Arguments(const std::string& command)
+{
+    std::vector<CString> arguments;
+    std::u16string argument;
+    bool isQuoted = false;
+    bool isOpen = false;
+    for (const char unit : command + ' ') {
+        if (unit == '"') {
+            isQuoted = !isQuoted;
+            isOpen = true;
+        } else if (unit != ' ' || isQuoted) {
+            argument += static_cast<char16_t>(unit);
+            isOpen = true;
+        } else if (isOpen) {
+            arguments.emplace_back(std::u16string_view(argument));
+            argument.clear();
+            isOpen = false;
+        }
+    }
+    return arguments;
+}
+
+/// The command lines of the examples in a help text.
+std::vector<std::string> Examples(const std::string& help)
+{
+    std::vector<std::string> examples;
+    std::istringstream lines(help.substr(std::min(help.find("\nExamples:\n"), help.size())));
+    for (std::string line; std::getline(lines, line);)
+        if (line.find("vyr ") != std::string::npos && line.starts_with("  ") && line[2] != ' ')
+            examples.push_back(line.substr(2));
+    return examples;
+}
+
+} // namespace
+
+TEST_F(Help, TellsTheVersionThatTheProgramCarries)
+{
+    const ProgramResult result = Run({u"--version"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_THAT(result.output, testing::MatchesRegex("vyr \\(VyrLibrary\\) [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+}
+
+TEST_F(Help, NamesTheCommandsAndTheExitCodes)
+{
+    const ProgramResult result = Run({u"--help"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_THAT(result.output, HasSubstr("rename"));
+    EXPECT_THAT(result.errors, IsEmpty());
+    EXPECT_THAT(Run({u"rename", u"--help"}).output, HasSubstr("Exit codes:"));
+}
+
+TEST_F(Help, KeepsItsLinesWithin100Columns)
+{
+    std::istringstream lines(Run({u"rename", u"--help"}).output);
+    for (std::string line; std::getline(lines, line);)
+        EXPECT_LE(line.size(), 100u) << line;
+}
+
+TEST_F(Help, IsAskedForWhenNoCommandIsGiven)
+{
+    const ProgramResult result = Run({});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_THAT(result.errors, StartsWith("vyr: "));
+}
+
+TEST_F(Help, EveryExampleRuns)
+{
+    for (const char16_t* const name :
+         {u"IMG_1.jpg", u"IMG_2.jpg", u"one.pdf", u"two.pdf", u"old.txt", u"new.txt", u"SCAN.JPG", u"trip/a.jpg"})
+        m_folder.WriteFile(name);
+    const std::vector<std::string> examples = Examples(Run({u"rename", u"--help"}).output);
+    EXPECT_GE(examples.size(), 5u);
+    for (const std::string& example : examples) {
+        // What stands before a pipe is another program, which names files each ended by a NUL.
+        const std::size_t pipe = example.find("| ");
+        const bool hasInput = pipe != std::string::npos;
+        std::vector<CString> arguments = Arguments(hasInput ? example.substr(pipe + 2) : example);
+        ASSERT_EQ(arguments.at(0), u"vyr") << example;
+        arguments.erase(arguments.begin());
+        const ProgramResult result = Run(arguments, hasInput ? std::string("old.txt\0new.txt\0", 16) : std::string());
+        EXPECT_EQ(result.exitCode, 0) << example << '\n' << result.output << result.errors;
+        EXPECT_THAT(result.output + result.errors, HasSubstr(" renamed")) << example;
+    }
+}

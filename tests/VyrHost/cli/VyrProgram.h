@@ -1,0 +1,42 @@
+// For tests: the program vyr in a folder of its own.
+#pragma once
+
+#include <VyrPlatform/CString.h>
+
+#include <tests/support/ChildProcess.h>
+#include <tests/support/ScratchFolder.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace VyrTests {
+
+/// Runs vyr in a scratch folder.
+class VyrProgram : public testing::Test
+{
+protected:
+    ProgramResult Run(std::vector<CString> arguments, const std::string& input = {}) const
+    {
+        ProgramCall call;
+        call.program = BesideThisProgram(u"vyr");
+        call.arguments = std::move(arguments);
+        call.input = input;
+        call.folder = m_folder.Path();
+        return RunProgram(call);
+    }
+
+    /// "vyr rename" and `arguments`.
+    ProgramResult Rename(const std::vector<CString>& arguments, const std::string& input = {}) const
+    {
+        std::vector<CString> all = {u"rename"};
+        for (const CString& argument : arguments)
+            all.push_back(argument);
+        return Run(std::move(all), input);
+    }
+
+    ScratchFolder m_folder;
+};
+
+} // namespace VyrTests
