@@ -18,7 +18,7 @@ CString InProductFolder(DataLocation location, std::u16string_view name)
 {
     const CString folder = VyrPlatform::Process::GetDataFolder(location);
     if (folder.IsEmpty())
-        return folder;
+        return {};
     return FileUtils::GetCombinePath(FileUtils::GetCombinePath(folder, productFolder), name);
 }
 
