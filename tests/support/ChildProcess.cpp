@@ -57,10 +57,17 @@ private:
 struct ChildProcess::State
 {
     explicit State(const ProgramCall& call)
-        : child(call), inputWriter([this, input = call.input] { child.WriteInput(input); }),
+        : child(call), inputWriter([this, call] { Feed(call); }),
           outputReader([this] { output.ReadAll(child, SystemChild::Stream::Output); }),
           errorReader([this] { errors.ReadAll(child, SystemChild::Stream::Errors); })
     {}
+
+    void Feed(const ProgramCall& call)
+    {
+        child.WriteInput(call.input);
+        if (!call.staysInputOpen)
+            child.EndInput();
+    }
 
     void Join()
     {

@@ -24,6 +24,8 @@ struct ProgramCall
     std::map<CString, std::optional<CString>> environment = {};
     /// The folder in which it runs; empty: the test's own.
     CString folder = {};
+    /// More input may come, which never does: its standard input has no end.
+    bool staysInputOpen = false;
     /// Its standard output is a pipe that nobody reads any more.
     bool isOutputClosed = false;
 };

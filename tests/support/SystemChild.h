@@ -18,8 +18,9 @@ public:
     SystemChild& operator=(const SystemChild&) = delete;
     ~SystemChild();
 
-    /// Writes `bytes` to its standard input as far as it takes them, then ends that.
+    /// Writes `bytes` to its standard input as far as it takes them.
     void WriteInput(std::string_view bytes);
+    void EndInput();
 
     enum class Stream : std::uint8_t
     {

@@ -196,6 +196,10 @@ void SystemChild::WriteInput(std::string_view bytes)
             break;
         bytes.remove_prefix(written > 0 ? static_cast<std::size_t>(written) : 0);
     }
+}
+
+void SystemChild::EndInput()
+{
     m_handles->input.writer.Close();
 }
 

@@ -181,6 +181,10 @@ void SystemChild::WriteInput(std::string_view bytes)
             break;
         bytes.remove_prefix(written);
     }
+}
+
+void SystemChild::EndInput()
+{
     m_handles->input.writer.Close();
 }
 

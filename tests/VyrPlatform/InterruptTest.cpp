@@ -1,0 +1,37 @@
+// An interrupt is noted, a second one ends the program.
+#include <tests/support/ChildProcess.h>
+
+#include <VyrPlatform/Interrupt.h>
+
+#include <gtest/gtest.h>
+
+using VyrTests::BesideThisProgram;
+using VyrTests::ChildProcess;
+
+TEST(InterruptTest, NothingIsAskedBeforeAnInterrupt)
+{
+    EXPECT_FALSE(VyrPlatform::Interrupt::WasAsked());
+}
+
+TEST(InterruptTest, FirstIsNotedSecondEndsTheProgram)
+{
+    ChildProcess child({BesideThisProgram(u"PlatformProbe"), {u"interrupt"}});
+    ASSERT_TRUE(child.WaitForOutput("ready"));
+    child.Interrupt();
+    ASSERT_TRUE(child.WaitForOutput("asked"));
+    child.Interrupt();
+    const VyrTests::ProgramResult result = child.Wait();
+    EXPECT_NE(result.exitCode, 0);
+    EXPECT_EQ(result.output, "ready\nasked\n");
+}
+
+TEST(InterruptTest, ProgramThatDoesNotCatchItEnds)
+{
+    ChildProcess child({.program = BesideThisProgram(u"PlatformProbe"),
+                        .arguments = {u"copy"},
+                        .input = "waiting",
+                        .staysInputOpen = true});
+    ASSERT_TRUE(child.WaitForOutput("waiting"));
+    child.Interrupt();
+    EXPECT_NE(child.Wait().exitCode, 0);
+}
