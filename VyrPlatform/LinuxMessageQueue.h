@@ -11,15 +11,17 @@
 
 namespace VyrPlatform::MessageQueue {
 
-/// The queue of one thread, for others to post into. Outlives the thread as long as someone holds it; what is posted
-/// after its thread ended is dropped with it.
+/// The queue of one thread, for others to post into. Outlives the thread as long as someone holds it; what waits when
+/// the thread ends, and what is posted afterwards, is dropped.
 class VYR_PLATFORM_API Poster
 {
 public:
     /// The calling thread's queue.
     [[nodiscard]] static Poster ForCallingThread();
 
-    /// Adds `work`, to be run by a drain on the queue's own thread. Any thread may call this.
+    /// Adds `work`, to be run by a drain on the queue's own thread; an empty one does nothing there. Any thread may
+    /// call this. The work may post and drain. An exception of it leaves the drain that runs it; the work behind it
+    /// stays.
     void Post(std::function<void()> work) const;
     /// Asks the queue's thread to stop, after the work posted before.
     void PostStop() const;
@@ -32,7 +34,7 @@ private:
 };
 
 /// One pass of a host's own main loop that does not wait: handles at most one of its pending events, and returns true
-/// when that event asks for a stop.
+/// when that event asks for a stop. The work of its events may drain, the pass itself may not.
 using MainLoopPass = std::function<bool()>;
 
 /// Makes the drains of the calling thread run `pass` whenever nothing posted is waiting; an empty one ends that.

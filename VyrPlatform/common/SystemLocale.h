@@ -10,7 +10,7 @@ namespace VyrPlatform::Locale {
 
 /// The locale that the user has chosen; US English where he has chosen none (the POSIX locale).
 [[nodiscard]] CString UserLocaleName();
-/// The system's form of a name such as "de_DE.UTF-8", "de-DE" or "C".
+/// The system's form of a name such as "de_DE.UTF-8" or "de-DE"; US English for "C", "POSIX" and what it does not know.
 [[nodiscard]] CString SystemLocaleName(const CString& name);
 
 /// The capital or the small letter of `unit`, or `unit` itself, whatever the locale.

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <csignal>
 #include <ctime>
+#include <initializer_list>
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -21,45 +22,58 @@ int Descriptor(Stream stream) noexcept
     return stream == Stream::Output ? STDOUT_FILENO : STDERR_FILENO;
 }
 
-/// Keeps a write to a closed pipe from ending the program: it fails with EPIPE instead. Signal settings that child
-/// processes inherit stay as they are.
-class PipeSignalBlocked
+sigset_t SetOf(std::initializer_list<int> signals) noexcept
+{
+    sigset_t set;
+    ::sigemptyset(&set);
+    for (const int signal : signals)
+        ::sigaddset(&set, signal);
+    return set;
+}
+
+/// Makes signals to the calling thread wait for the end of its life.
+class SignalsBlocked
 {
 public:
-    PipeSignalBlocked() noexcept
+    explicit SignalsBlocked(std::initializer_list<int> signals) noexcept
     {
-        ::sigemptyset(&m_pipeSignal);
-        ::sigaddset(&m_pipeSignal, SIGPIPE);
-        ::pthread_sigmask(SIG_BLOCK, &m_pipeSignal, &m_previousMask);
+        const sigset_t blocked = SetOf(signals);
+        ::pthread_sigmask(SIG_BLOCK, &blocked, &m_before);
     }
-    PipeSignalBlocked(const PipeSignalBlocked&) = delete;
-    PipeSignalBlocked& operator=(const PipeSignalBlocked&) = delete;
-    ~PipeSignalBlocked() { ::pthread_sigmask(SIG_SETMASK, &m_previousMask, nullptr); }
+    SignalsBlocked(const SignalsBlocked&) = delete;
+    SignalsBlocked& operator=(const SignalsBlocked&) = delete;
+    ~SignalsBlocked() { ::pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
 
-    /// Takes back the signal that a failing write has left waiting.
-    void Discard() const noexcept
-    {
-        // Whoever blocked the signal before means to look at it.
-        if (::sigismember(&m_previousMask, SIGPIPE))
-            return;
-        constexpr std::timespec atOnce{};
-        while (::sigtimedwait(&m_pipeSignal, nullptr, &atOnce) < 0 && errno == EINTR)
-            ;
-    }
+    /// The signals that were blocked before.
+    [[nodiscard]] const sigset_t& Before() const noexcept { return m_before; }
 
 private:
-    sigset_t m_pipeSignal;
-    sigset_t m_previousMask;
+    sigset_t m_before;
 };
 
-/// Waits until there is input; false when an interrupt was noted meanwhile.
+/// Takes back the SIGPIPE that a failed write has left waiting, unless someone means to look at it, having blocked it
+/// before.
+void DiscardPipeSignal(const SignalsBlocked& blocked) noexcept
+{
+    if (::sigismember(&blocked.Before(), SIGPIPE))
+        return;
+    const sigset_t pipeSignal = SetOf({SIGPIPE});
+    constexpr std::timespec atOnce{};
+    while (::sigtimedwait(&pipeSignal, nullptr, &atOnce) < 0 && errno == EINTR)
+        ;
+}
+
+/// Waits until there is input; false when an interrupt was noted before or comes meanwhile.
 bool WaitForInput()
 {
+    // Delivered only while waiting, so that none slips in between the look and the wait.
+    const SignalsBlocked blocked({SIGINT, SIGTERM});
     pollfd input{STDIN_FILENO, POLLIN, 0};
-    while (::poll(&input, 1, -1) < 0 && errno == EINTR)
-        if (Interrupt::WasAsked())
-            return false;
-    return true;
+    while (!Interrupt::WasAsked()) {
+        if (::ppoll(&input, 1, nullptr, &blocked.Before()) >= 0 || errno != EINTR)
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -94,13 +108,15 @@ int GetWidth(Stream stream)
 
 bool Write(Stream stream, std::string_view bytes)
 {
-    const PipeSignalBlocked blocked;
+    // A closed pipe fails the write with EPIPE; its signal would end the program without a word. Blocking it for the
+    // moment, other than ignoring it, changes nothing that child processes inherit.
+    const SignalsBlocked blocked({SIGPIPE});
     while (!bytes.empty()) {
         const ssize_t written = ::write(Descriptor(stream), bytes.data(), bytes.size());
         if (written >= 0) {
             bytes.remove_prefix(static_cast<std::size_t>(written));
         } else if (errno == EPIPE) {
-            blocked.Discard();
+            DiscardPipeSignal(blocked);
             return false;
         } else if (errno == EAGAIN) {
             // The terminal or pipe was made non-blocking by a program that shares it.

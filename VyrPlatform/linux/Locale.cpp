@@ -1,9 +1,11 @@
 // The locale through ICU.
 #include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/common/DatePattern.h>
 #include <VyrPlatform/common/SystemLocale.h>
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <unicode/uchar.h>
 #include <unicode/ucol.h>
 #include <unicode/udat.h>
@@ -42,11 +44,31 @@ DateFormat OpenDateFormat(UDateFormatStyle timeStyle, UDateFormatStyle dateStyle
     return {udat_open(timeStyle, dateStyle, name.c_str(), nullptr, 0, nullptr, 0, &error), udat_close};
 }
 
+/// A run of a letter that few languages use, as the nearest of those that Locale promises.
+CString UsualLetters(std::u16string_view run)
+{
+    switch (run.front()) {
+    case u'b':
+    case u'B':
+        // Parts of the day, such as "at night".
+        return u"a";
+    case u'k':
+        return CString(u'H', static_cast<int>(run.size()));
+    case u'K':
+        return CString(u'h', static_cast<int>(run.size()));
+    case u'L':
+        return CString(u'M', static_cast<int>(run.size()));
+    default:
+        return run;
+    }
+}
+
 CString Pattern(const DateFormat& format)
 {
-    return AskForText([&](UChar* buffer, int32_t size, UErrorCode* error) {
-        return udat_toPattern(format.get(), false, buffer, size, error);
-    });
+    return ReplaceLetterRuns(AskForText([&](UChar* buffer, int32_t size, UErrorCode* error) {
+                                 return udat_toPattern(format.get(), false, buffer, size, error);
+                             }),
+                             UsualLetters);
 }
 
 CString Symbol(const DateFormat& format, UDateFormatSymbolType type, std::size_t index)
@@ -74,14 +96,16 @@ CString UserLocaleName()
 
 CString SystemLocaleName(const CString& name)
 {
-    char canonical[ULOC_FULLNAME_CAPACITY];
+    // Without its keywords: ICU's date formats crash on some broken ones.
+    char canonical[ULOC_FULLNAME_CAPACITY] = "";
+    char baseName[ULOC_FULLNAME_CAPACITY] = "";
     UErrorCode error = U_ZERO_ERROR;
     uloc_canonicalize(Encoding::ToUtf8(name).c_str(), canonical, sizeof canonical, &error);
-    const std::string_view result = U_FAILURE(error) || error == U_STRING_NOT_TERMINATED_WARNING ? "" : canonical;
+    if (error == U_ZERO_ERROR)
+        uloc_getBaseName(canonical, baseName, sizeof baseName, &error);
+    const bool isKnown = error == U_ZERO_ERROR && *uloc_getISO3Language(baseName) != '\0';
     // ICU has neither thousands separators nor an order of words for the POSIX locale.
-    if (result.empty() || result == "c" || result == "posix" || result == "en_US_POSIX")
-        return u"en_US";
-    return Encoding::FromUtf8(result);
+    return isKnown && std::string_view(baseName) != "en_US_POSIX" ? Encoding::FromUtf8(baseName) : CString(u"en_US");
 }
 
 char16_t SystemUpper(char16_t unit) noexcept

@@ -1,6 +1,7 @@
 // The console and the standard streams through their handles.
 #include <VyrPlatform/Console.h>
 #include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/Interrupt.h>
 #include <VyrPlatform/WindowsCString.h>
 
 #include <algorithm>
@@ -113,6 +114,8 @@ bool Write(Stream stream, std::string_view bytes)
 
 std::string ReadInput()
 {
+    if (Interrupt::WasAsked())
+        return {};
     const HANDLE input = ::GetStdHandle(STD_INPUT_HANDLE);
     if (IsConsole(input))
         return ReadText(input);

@@ -104,12 +104,12 @@ CString UserLocaleName()
 
 CString SystemLocaleName(const CString& name)
 {
-    const std::u16string_view withoutEncoding = name.View().substr(0, name.View().find_first_of(u".@"));
-    if (withoutEncoding == u"C" || withoutEncoding == u"POSIX")
-        return u"en-US";
-    CString result(withoutEncoding);
-    result.Replace(u"_", u"-");
-    return result;
+    CString plain = name.View().substr(0, name.View().find_first_of(u".@"));
+    plain.Replace(u"_", u"-");
+    // Finds the full name of what is named in part (az-AZ is az-Latn-AZ); empty for C, POSIX and the unknown.
+    wchar_t resolved[LOCALE_NAME_MAX_LENGTH];
+    const int length = ::ResolveLocaleName(ToWide(plain), resolved, LOCALE_NAME_MAX_LENGTH);
+    return length > 1 ? FromWide({resolved, static_cast<std::size_t>(length) - 1}) : CString(u"en-US");
 }
 
 char16_t SystemUpper(char16_t unit) noexcept

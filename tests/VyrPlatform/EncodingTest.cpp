@@ -1,11 +1,12 @@
 // What UTF-8 becomes in UTF-16 and back, well-formed or not.
 #include <VyrPlatform/Encoding.h>
 
+#include <algorithm>
 #include <array>
 #include <gtest/gtest.h>
 #include <locale>
 #include <random>
-#include <unordered_set>
+#include <utility>
 #include <vector>
 
 using namespace VyrPlatform;
@@ -46,27 +47,30 @@ std::u16string StandardUtf16(char32_t character)
     return std::u16string(units.data(), writtenTo);
 }
 
-const std::unordered_set<std::string>& EveryCharacterInUtf8()
+/// Whether `bytes` are one character in UTF-8, as the standard library judges it.
+bool IsCharacter(std::string_view bytes)
 {
-    static const auto characters = [] {
-        std::unordered_set<std::string> all;
-        for (char32_t character = 0; character <= lastCharacter; ++character) {
-            if (!IsSurrogate(character))
-                all.insert(StandardUtf8(character));
-        }
-        return all;
-    }();
-    return characters;
+    const auto& codec = std::use_facet<std::codecvt<char32_t, char8_t, std::mbstate_t>>(std::locale::classic());
+    const std::u8string input(bytes.begin(), bytes.end());
+    std::mbstate_t state{};
+    char32_t character = 0;
+    const char8_t* readTo = nullptr;
+    char32_t* writtenTo = nullptr;
+    const auto result =
+        codec.in(state, input.data(), input.data() + input.size(), readTo, &character, &character + 1, writtenTo);
+    // GCC 12's library lets surrogates pass.
+    return result == std::codecvt_base::ok && readTo == input.data() + input.size() && writtenTo == &character + 1 &&
+           !IsSurrogate(character);
 }
 
-/// How many characters and how many bytes that belong to none `bytes` has, found by looking for each in the set of all.
+/// How many characters and how many bytes that belong to none `bytes` has.
 std::pair<int, int> CountCharactersAndStrays(std::string_view bytes)
 {
     int characters = 0;
     int strays = 0;
     for (std::size_t at = 0; at < bytes.size();) {
         std::size_t length = 1;
-        while (length <= 4 && !EveryCharacterInUtf8().contains(std::string(bytes.substr(at, length))))
+        while (length <= 4 && !IsCharacter(bytes.substr(at, length)))
             ++length;
         const bool isCharacter = length <= 4;
         ++(isCharacter ? characters : strays);
@@ -96,15 +100,20 @@ std::string RandomBytes(std::mt19937& random, std::size_t length)
 
 TEST(EncodingTest, EveryCharacterIsReadAndWrittenAsTheStandardLibraryDoes)
 {
-    for (char32_t character = 0; character <= lastCharacter; ++character) {
-        if (IsSurrogate(character))
-            continue;
-        const std::string bytes = StandardUtf8(character);
-        const std::u16string units = StandardUtf16(character);
-        ASSERT_EQ(Encoding::FromUtf8(bytes), std::u16string_view(units)) << static_cast<unsigned>(character);
-        ASSERT_EQ(Encoding::FromNameBytes(bytes), std::u16string_view(units)) << static_cast<unsigned>(character);
-        ASSERT_EQ(Encoding::ToUtf8(units), bytes) << static_cast<unsigned>(character);
-        ASSERT_EQ(Encoding::ToNameBytes(units), bytes) << static_cast<unsigned>(character);
+    constexpr char32_t pageSize = 0x100;
+    for (char32_t page = 0; page <= lastCharacter; page += pageSize) {
+        std::string bytes;
+        std::u16string units;
+        for (char32_t character = page; character < page + pageSize; ++character) {
+            if (IsSurrogate(character))
+                continue;
+            bytes += StandardUtf8(character);
+            units += StandardUtf16(character);
+        }
+        ASSERT_EQ(Encoding::FromUtf8(bytes), std::u16string_view(units)) << static_cast<unsigned>(page);
+        ASSERT_EQ(Encoding::FromNameBytes(bytes), std::u16string_view(units)) << static_cast<unsigned>(page);
+        ASSERT_EQ(Encoding::ToUtf8(units), bytes) << static_cast<unsigned>(page);
+        ASSERT_EQ(Encoding::ToNameBytes(units), bytes) << static_cast<unsigned>(page);
     }
 }
 
@@ -194,7 +203,7 @@ TEST(EncodingTest, NamesOfAnyBytesComeBackExactly)
 TEST(EncodingTest, AnyBytesDecodeToTheCharactersThatAreInThem)
 {
     std::mt19937 random(4711);
-    for (int round = 0; round < 50000; ++round) {
+    for (int round = 0; round < 20000; ++round) {
         const std::string bytes = RandomBytes(random, random() % 16);
         const auto [characters, strays] = CountCharactersAndStrays(bytes);
         const CString name = Encoding::FromNameBytes(bytes);

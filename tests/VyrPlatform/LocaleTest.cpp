@@ -158,8 +158,8 @@ TEST(LocaleTest, EachLanguageHasAnOrderOfItsOwn)
         {u"de_DE", {u"a", u"ä", u"az", u"b", u"o", u"ö", u"oz", u"p", u"z"}},
         {u"C", {u"a", u"ä", u"az", u"b", u"o", u"ö", u"oz", u"p", u"z"}},
         {u"sv_SE", {u"a", u"b", u"z", u"å", u"ä", u"ö"}},
-        {u"tr_TR", {u"c", u"cz", u"ç", u"d", u"g", u"ğ", u"h", u"ı", u"i", u"j", u"o", u"ö", u"p", u"s", u"ş", u"t"}},
-        {u"az", {u"c", u"cz", u"ç", u"d", u"e", u"ə", u"f", u"h", u"x", u"ı", u"i"}},
+        {u"tr_TR", {u"c", u"cz", u"ç", u"d", u"g", u"ğ", u"h", u"ı", u"j", u"o", u"ö", u"p", u"s", u"ş", u"t"}},
+        {u"az", {u"c", u"cz", u"ç", u"d", u"e", u"ə", u"f", u"h", u"x", u"ı"}},
         {u"ja_JP", {u"a", u"b", u"あ", u"い", u"か", u"さ", u"ん"}},
     };
     for (const auto& [name, sorted] : cases) {

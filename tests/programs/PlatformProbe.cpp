@@ -90,12 +90,11 @@ int CatchInterrupt(const Arguments& /*arguments*/)
 {
     Interrupt::Catch();
     Print(u"ready");
-    while (!Interrupt::WasAsked())
+    for (int i = 0; i < 30000 && !Interrupt::WasAsked(); ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(2));
-    Print(u"asked");
+    Print(Interrupt::WasAsked() ? u"asked" : u"never asked");
     std::this_thread::sleep_for(std::chrono::minutes(1));
-    Print(u"still there");
-    return 0;
+    return Print(u"still there");
 }
 
 int InterruptedInput(const Arguments& /*arguments*/)

@@ -51,8 +51,7 @@ public:
 
     /// Waits until its standard output holds `text`; false when it ends without it.
     [[nodiscard]] bool WaitForOutput(std::string_view text);
-    /// Interrupts it, as Ctrl-C does (on Windows, where a program that was started in a group of its own is not sent
-    /// Ctrl-C, as Ctrl-Break does).
+    /// Interrupts it, as Ctrl-C does; on Windows every program that the test runs at the time gets it.
     void Interrupt();
     /// Ends it at once, as a crash does.
     void Kill();

@@ -1,5 +1,6 @@
-// The locale that a Linux program takes from its environment.
+// The locale that a Linux program takes from its environment, and what ICU knows beyond Wine.
 #include <tests/support/ChildProcess.h>
+#include <tests/support/UserLocale.h>
 
 #include <gtest/gtest.h>
 
@@ -30,4 +31,13 @@ TEST(LocaleEnvironmentTest, PosixLocaleReadsAsUsEnglish)
         EXPECT_EQ(LocaleUnder({{u"LC_ALL", name}}), "I|,|January\n");
     EXPECT_EQ(LocaleUnder({}), "I|,|January\n");
     EXPECT_EQ(LocaleUnder({{u"LC_ALL", u""}, {u"LANG", u"nonsense"}}), "I|,|January\n");
+}
+
+TEST(LocaleEnvironmentTest, TurkishAndAzerbaijaniSortTheDotlessIFirst)
+{
+    for (const char16_t* name : {u"tr_TR", u"az"}) {
+        const VyrTests::UserLocale locale(name);
+        EXPECT_LT(VyrPlatform::Locale::Compare(u"ı", u"i"), 0);
+        EXPECT_LT(VyrPlatform::Locale::Compare(u"ız", u"ia"), 0);
+    }
 }

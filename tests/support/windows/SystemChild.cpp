@@ -132,6 +132,23 @@ CString EnvironmentBlock(const ProgramCall& call)
     return block;
 }
 
+BOOL WINAPI IgnoreCtrlC(DWORD event)
+{
+    return event == CTRL_C_EVENT;
+}
+
+/// Interrupts reach a program through the console that it shares with the test. Where the test's own output goes
+/// elsewhere, it makes itself a console that it shares with nobody else, and can send Ctrl-C to all of that (Wine knows
+/// no Ctrl-Break). Else the program starts in a group of its own, and gets Ctrl-Break. To be asked before the pipes are
+/// made: the program that shows a new console takes over what is inheritable then.
+bool HasConsoleOfItsOwn()
+{
+    DWORD mode = 0;
+    static const bool isMade = !::GetConsoleMode(::GetStdHandle(STD_OUTPUT_HANDLE), &mode) && ::FreeConsole() &&
+                               ::AllocConsole() && ::SetConsoleCtrlHandler(IgnoreCtrlC, TRUE);
+    return isMade;
+}
+
 } // namespace
 
 struct SystemChild::Handles
@@ -140,10 +157,11 @@ struct SystemChild::Handles
     Pipe output{Pipe::Passed::Writer};
     Pipe errors{Pipe::Passed::Writer};
     Handle process;
+    /// 0: everything in the console.
     DWORD group = 0;
 };
 
-SystemChild::SystemChild(const ProgramCall& call) : m_handles(std::make_unique<Handles>())
+SystemChild::SystemChild(const ProgramCall& call) : m_handles((HasConsoleOfItsOwn(), std::make_unique<Handles>()))
 {
     STARTUPINFOW start{};
     start.cb = sizeof start;
@@ -159,12 +177,12 @@ SystemChild::SystemChild(const ProgramCall& call) : m_handles(std::make_unique<H
     std::wstring block(ToWide(environment), static_cast<std::size_t>(environment.GetLength()));
     PROCESS_INFORMATION process{};
     if (!::CreateProcessW(ToWide(call.program), writableLine.data(), nullptr, nullptr, TRUE,
-                          CREATE_UNICODE_ENVIRONMENT | CREATE_NEW_PROCESS_GROUP, block.data(),
-                          call.folder.IsEmpty() ? nullptr : ToWide(call.folder), &start, &process))
+                          CREATE_UNICODE_ENVIRONMENT | (HasConsoleOfItsOwn() ? 0 : CREATE_NEW_PROCESS_GROUP),
+                          block.data(), call.folder.IsEmpty() ? nullptr : ToWide(call.folder), &start, &process))
         Fail("CreateProcessW");
     ::CloseHandle(process.hThread);
     m_handles->process = Handle(process.hProcess);
-    m_handles->group = process.dwProcessId;
+    m_handles->group = HasConsoleOfItsOwn() ? 0 : process.dwProcessId;
     m_handles->input.reader.Close();
     m_handles->output.writer.Close();
     m_handles->errors.writer.Close();
@@ -210,7 +228,8 @@ std::optional<int> SystemChild::WaitFor(std::chrono::milliseconds patience)
 
 void SystemChild::Interrupt()
 {
-    if (!::GenerateConsoleCtrlEvent(CTRL_BREAK_EVENT, m_handles->group))
+    const DWORD event = m_handles->group == 0 ? CTRL_C_EVENT : CTRL_BREAK_EVENT;
+    if (!::GenerateConsoleCtrlEvent(event, m_handles->group))
         Fail("GenerateConsoleCtrlEvent");
 }
 
