@@ -3,13 +3,19 @@ include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/VyrLibrary")
-if(WIN32)
-  set(document_folder ".")
-else()
+if(NOT WIN32)
   # The installed files may be moved together: each finds its libraries from where it stands itself.
   set_target_properties(vyr PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
   set_target_properties(VyrPlatform VyrLibraryUtils VyrLibraryFuncs PROPERTIES INSTALL_RPATH "$ORIGIN")
-  set(document_folder "${CMAKE_INSTALL_DATADIR}/doc/vyrlibrary")
+
+  set(manual "${CMAKE_BINARY_DIR}/vyr.1.gz")
+  add_custom_command(OUTPUT "${manual}"
+    COMMAND gzip -9nc "${PROJECT_SOURCE_DIR}/docs/vyr.1" > "${manual}" DEPENDS docs/vyr.1)
+  add_custom_target(VyrManual ALL DEPENDS "${manual}")
+  install(FILES "${manual}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+  install(FILES docs/vyr.bash DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME vyr)
+  # The name under which Debian looks for a package's terms.
+  install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/vyrlibrary" RENAME copyright)
 endif()
 
 install(TARGETS vyr RUNTIME)
@@ -34,8 +40,8 @@ vyr_install_pkg_config(vyr-platform "The platform class library and the system's
 vyr_install_pkg_config(vyr-utils "Paths, files, texts, dates and pictures" VyrLibraryUtils vyr-platform)
 vyr_install_pkg_config(vyr-funcs "Bulk renaming and editing of file metadata" VyrLibraryFuncs vyr-utils)
 
-install(FILES LICENSE DESTINATION "${document_folder}")
 if(WIN32)
+  install(FILES LICENSE DESTINATION .)
   # The compiler's run-time DLLs, and the terms of all that is not this project's own and is in the package.
   install(FILES ${VYR_RUNTIME_DLLS} DESTINATION "${CMAKE_INSTALL_BINDIR}")
   install(FILES licences/README.txt /usr/share/common-licenses/GPL-3 DESTINATION licences)
@@ -45,8 +51,8 @@ if(WIN32)
 endif()
 
 set(CPACK_PACKAGE_NAME vyrlibrary)
-set(CPACK_PACKAGE_VENDOR "The VyrLibrary authors")
-set(CPACK_PACKAGE_CONTACT "The VyrLibrary authors <vyrlibrary@example.org>")
+set(CPACK_PACKAGE_VENDOR "The VyrLibrary developers")
+set(CPACK_PACKAGE_CONTACT "The VyrLibrary developers <vyrlibrary@localhost>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
 set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
 set(CPACK_STRIP_FILES ON)
