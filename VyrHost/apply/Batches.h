@@ -60,14 +60,16 @@ struct BatchEntry
 /// What was done. Every entry counts in one of the four.
 struct BatchSummary
 {
-    /// The batch's number; 0 when none was begun.
+    /// The batch's number in the journal; 0 when nothing was done that could be taken back.
     std::uint32_t number = 0;
     std::size_t done = 0;
     std::size_t failed = 0;
     std::size_t refused = 0;
     std::size_t notReached = 0;
-    /// Entries that count as done, but that the folders do not list under their new names afterwards.
+    /// The paths of entries that count as done, but that their folders do not list under these names afterwards.
     std::vector<CString> missing;
+    /// The folders that the batch has made and that are not taken back, since they hold something else by now.
+    std::vector<CString> keptFolders;
     /// The work ended because it was asked to.
     bool wasStopped = false;
     /// Why nothing was begun, or why the batch could not be closed; empty when all is well.
@@ -98,12 +100,13 @@ public:
     Batches(FileOperations& files, const CString& journalFolder);
 
     /// Does `list`: journal on disk first, nothing ever overwritten, afterwards a look at the folders. `report` is
-    /// called once for each rename.
+    /// called once for each rename, unless the summary's error says that nothing was begun.
     BatchSummary Apply(const RenameList& list, const RenameReport& report, const StopRequest& isStopAsked);
 
     /// The batches in the journal, the latest first.
     [[nodiscard]] std::vector<BatchInformation> List() const;
-    /// Takes back the batch `number`, or the latest one that is not taken back, in reverse order.
+    /// Takes back the batch `number`, or the latest one that is not taken back, in reverse order. What the batch had
+    /// not done is not reported.
     BatchSummary TakeBack(std::optional<std::uint32_t> number, const BatchEntryReport& report,
                           const StopRequest& isStopAsked);
 

@@ -1,5 +1,5 @@
 // The file operations, done by the platform.
-#include <VyrHost/apply/FileOperations.h>
+#include <VyrHost/files/FileOperations.h>
 
 #include <VyrPlatform/DurableFile.h>
 #include <VyrPlatform/FolderListing.h>

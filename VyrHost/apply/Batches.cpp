@@ -1,0 +1,240 @@
+// Brings planner, journal and executor together.
+#include <VyrHost/apply/Batches.h>
+
+#include <VyrHost/apply/BatchWork.h>
+#include <VyrHost/files/ErrorText.h>
+#include <VyrHost/plan/Planner.h>
+
+#include <VyrLibraryUtils/FileUtils.h>
+#include <VyrLibraryUtils/PathUtils.h>
+#include <VyrPlatform/Clock.h>
+#include <VyrPlatform/Process.h>
+
+#include <algorithm>
+#include <random>
+#include <utility>
+
+namespace VyrHost {
+
+namespace {
+
+using VyrLibraryUtils::FileUtils;
+
+CString FindJournalFolder()
+{
+    const std::optional<CString> named = VyrPlatform::Process::GetEnvironment(u"VYR_JOURNAL_DIR");
+    if (named && !named->IsEmpty())
+        return *named;
+    const CString logs = VyrLibraryUtils::PathUtils::GetApplicationLogFolderPath();
+    return logs.IsEmpty() ? logs : FileUtils::GetCombinePath(FileUtils::GetSplitDirPath(logs), u"journal");
+}
+
+CString NowAsText()
+{
+    const COleDateTime now = VyrPlatform::Clock::Now();
+    CString text;
+    text.Format(u"%04d/%02d/%02d %02d:%02d:%02d", now.GetYear(), now.GetMonth(), now.GetDay(), now.GetHour(),
+                now.GetMinute(), now.GetSecond());
+    return text;
+}
+
+std::uint64_t MakeToken()
+{
+    std::random_device device;
+    return static_cast<std::uint64_t>(device()) << 32 | device();
+}
+
+CString DescribeDamage(const JournalFile& file, const CString& problem)
+{
+    return CString::Join({u"the journal ", file.path, u" is damaged (", problem, u"); nothing was changed"});
+}
+
+BatchState StateOf(BatchPhase phase)
+{
+    switch (phase) {
+    case BatchPhase::Applying:
+        return BatchState::CutOff;
+    case BatchPhase::TakingBack:
+        return BatchState::CutOffTakingBack;
+    case BatchPhase::TakenBack:
+        return BatchState::TakenBack;
+    case BatchPhase::Applied:
+        break;
+    }
+    return BatchState::Applied;
+}
+
+BatchInformation Describe(const JournalFolder& folder, const JournalFile& file)
+{
+    // More than the two longest paths take.
+    constexpr std::uint64_t longestHeading = 1'000'000;
+    BatchInformation information;
+    information.number = file.number;
+    information.state = StateOf(file.phase);
+    std::uint32_t error = 0;
+    const std::optional<std::string> text = folder.Read(file, error, longestHeading);
+    const std::optional<JournalHeading> heading =
+        text ? ReadHeading(*text, information.problem) : std::optional<JournalHeading>();
+    if (!heading) {
+        information.state = BatchState::Damaged;
+        if (!text)
+            information.problem = ErrorText(error);
+        return information;
+    }
+    information.started = heading->started;
+    information.entries = heading->entries;
+    information.firstFrom = heading->firstFrom;
+    information.firstTo = heading->firstTo;
+    return information;
+}
+
+std::optional<Journal> ReadWhole(const JournalFolder& folder, const JournalFile& file, BatchSummary& summary)
+{
+    std::uint32_t error = 0;
+    const std::optional<std::string> text = folder.Read(file, error);
+    if (!text) {
+        summary.error = CString::Join({u"the journal ", file.path, u" cannot be read: ", ErrorText(error)});
+        return {};
+    }
+    CString problem;
+    std::optional<Journal> journal = ReadJournal(*text, problem);
+    if (!journal)
+        summary.error = DescribeDamage(file, problem);
+    return journal;
+}
+
+/// The batch to take back; nothing, with the summary's error set, when there is none.
+std::optional<JournalFile> Choose(const JournalFolder& folder, std::optional<std::uint32_t> number,
+                                  BatchSummary& summary)
+{
+    std::vector<JournalFile> journals = folder.List();
+    const auto chosen = std::find_if(journals.rbegin(), journals.rend(), [number](const JournalFile& journal) {
+        return number ? journal.number == *number : journal.phase == BatchPhase::Applied;
+    });
+    if (chosen != journals.rend())
+        return *chosen;
+    summary.error = number ? u"the journal has no batch of this number" : u"there is no batch to take back";
+    return {};
+}
+
+} // namespace
+
+Batches::Batches() : Batches(SystemFiles(), FindJournalFolder()) {}
+
+Batches::Batches(FileOperations& files, const CString& journalFolder) : m_files(&files), m_journalFolder(journalFolder)
+{}
+
+BatchSummary Batches::Apply(const RenameList& list, const RenameReport& report, const StopRequest& isStopAsked)
+{
+    BatchSummary summary;
+    JournalFolder folder(*m_files, m_journalFolder);
+    summary.error = folder.Lock();
+    if (summary.error.IsEmpty() && folder.FindOpen())
+        summary.error = u"an earlier batch was cut off: \"vyr recover\" finishes it or takes it back";
+    if (!summary.error.IsEmpty()) {
+        summary.notReached = list.renames.size();
+        return summary;
+    }
+    PlannerResult planned = PlanRenames(list, [this](const CString& path) { return m_files->GetNameFolding(path); });
+    Journal journal;
+    journal.plan = std::move(planned.plan);
+    journal.heading.token = MakeToken();
+    journal.heading.started = NowAsText();
+    journal.heading.entries = journal.plan.entries.size();
+    if (!planned.indexes.empty()) {
+        journal.heading.firstFrom = list.renames[planned.indexes.front()].from;
+        journal.heading.firstTo = list.renames[planned.indexes.front()].to;
+    }
+    BatchWork work(*m_files, folder, std::move(journal), summary);
+    if (!planned.indexes.empty() && !work.Begin()) {
+        summary.notReached = list.renames.size();
+        return summary;
+    }
+    for (const PlanRefusal& refusal : planned.refused) {
+        ++summary.refused;
+        report(refusal.index, {.outcome = RenameOutcome::Refused, .error = 0, .reason = refusal.reason});
+    }
+    if (!planned.indexes.empty())
+        work.Run(
+            Direction::Forward,
+            [&](PlanIndex entry, const RenameResult& result) { report(planned.indexes[entry], result); }, isStopAsked);
+    return summary;
+}
+
+std::vector<BatchInformation> Batches::List() const
+{
+    const JournalFolder folder(*m_files, m_journalFolder);
+    std::vector<BatchInformation> batches;
+    for (const JournalFile& file : folder.List())
+        batches.push_back(Describe(folder, file));
+    std::reverse(batches.begin(), batches.end());
+    return batches;
+}
+
+BatchSummary Batches::TakeBack(std::optional<std::uint32_t> number, const BatchEntryReport& report,
+                               const StopRequest& isStopAsked)
+{
+    BatchSummary summary;
+    JournalFolder folder(*m_files, m_journalFolder);
+    summary.error = folder.Lock();
+    if (summary.error.IsEmpty() && folder.FindOpen())
+        summary.error = u"a batch was cut off: \"vyr recover\" finishes it or takes it back";
+    if (!summary.error.IsEmpty())
+        return summary;
+    const std::optional<JournalFile> file = Choose(folder, number, summary);
+    std::optional<Journal> journal = file ? ReadWhole(folder, *file, summary) : std::optional<Journal>();
+    if (!journal)
+        return summary;
+    BatchWork work(*m_files, folder, std::move(*journal), summary);
+    if (!work.Locate(*file))
+        summary.error = file->phase == BatchPhase::TakenBack
+                            ? u"the batch is taken back already"
+                            : u"none of the batch's files is where the batch left it; nothing was changed";
+    else if (work.BeginTakingBack())
+        work.Run(
+            Direction::Backward,
+            [&](PlanIndex entry, const RenameResult& result) { report(work.Describe(entry, result)); }, isStopAsked);
+    return summary;
+}
+
+std::optional<BatchInformation> Batches::FindCutOff() const
+{
+    const JournalFolder folder(*m_files, m_journalFolder);
+    const std::optional<JournalFile> file = folder.FindOpen();
+    if (!file || folder.IsLockedByAnother())
+        return {};
+    return Describe(folder, *file);
+}
+
+BatchSummary Batches::Recover(Recovery recovery, const BatchEntryReport& report, const StopRequest& isStopAsked)
+{
+    BatchSummary summary;
+    JournalFolder folder(*m_files, m_journalFolder);
+    summary.error = folder.Lock();
+    if (!summary.error.IsEmpty())
+        return summary;
+    const std::optional<JournalFile> file = folder.FindOpen();
+    if (!file) {
+        summary.error = u"no batch was cut off";
+        return summary;
+    }
+    std::optional<Journal> journal = ReadWhole(folder, *file, summary);
+    if (!journal) {
+        summary.error = CString::Join({summary.error, u"; move it away to go on without it"});
+        return summary;
+    }
+    const bool isForward = (file->phase == BatchPhase::Applying) == (recovery == Recovery::Finish);
+    BatchWork work(*m_files, folder, std::move(*journal), summary);
+    if (!work.Locate(*file))
+        summary.error =
+            CString::Join({u"none of the batch's files is at one of its paths; nothing was changed. To go on without "
+                           u"the batch, move its journal away: ",
+                           file->path});
+    else
+        work.Run(
+            isForward ? Direction::Forward : Direction::Backward,
+            [&](PlanIndex entry, const RenameResult& result) { report(work.Describe(entry, result)); }, isStopAsked);
+    return summary;
+}
+
+} // namespace VyrHost

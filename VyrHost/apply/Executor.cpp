@@ -1,0 +1,283 @@
+// Goes through the steps of a plan, group by group.
+#include <VyrHost/apply/Executor.h>
+
+#include <VyrHost/files/ErrorText.h>
+
+#include <VyrPlatform/RenameFile.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace VyrHost {
+
+namespace {
+
+using Action = PlanStep::Action;
+
+Direction Opposite(Direction direction)
+{
+    return direction == Direction::Forward ? Direction::Backward : Direction::Forward;
+}
+
+} // namespace
+
+Executor::Executor(const RenamePlan& plan, PlanProgress& progress, FileOperations& files)
+    : m_plan(plan), m_progress(progress), m_folders(progress, files), m_goesAside(plan.entries.size()),
+      m_successors(plan.entries.size(), none), m_results(plan.entries.size()), m_folderErrors(plan.folders.size())
+{
+    for (PlanIndex entry = 0; entry < plan.entries.size(); ++entry)
+        if (plan.entries[entry].waitsFor != none)
+            m_successors[plan.entries[entry].waitsFor] = entry;
+    FindGroups();
+}
+
+void Executor::FindGroups()
+{
+    std::size_t open = 0;
+    for (std::size_t step = 0; step < m_plan.steps.size(); ++step) {
+        const auto [action, subject] = m_plan.steps[step];
+        if (open == 0)
+            m_groups.push_back({step, step});
+        if (action == Action::SetAside) {
+            m_goesAside[subject] = true;
+            ++open;
+        } else if (action == Action::Rename && m_goesAside[subject]) {
+            --open;
+        }
+        m_groups.back().end = step + 1;
+    }
+}
+
+bool Executor::Run(Direction direction, const Report& report, const StopRequest& isStopAsked)
+{
+    std::vector<Group> groups = m_groups;
+    if (direction == Direction::Backward)
+        std::reverse(groups.begin(), groups.end());
+    bool isStopped = false;
+    for (const Group& group : groups) {
+        if (!isStopped && HasWork(group, direction)) {
+            isStopped = isStopAsked();
+            if (!isStopped)
+                RunGroup(group, direction);
+        }
+        ReportGroup(group, direction, report);
+    }
+    if (direction == Direction::Forward)
+        RemoveFoldersWithoutUse();
+    return !isStopped;
+}
+
+bool Executor::HasWork(const Group& group, Direction direction) const
+{
+    return std::any_of(m_plan.steps.begin() + static_cast<std::ptrdiff_t>(group.first),
+                       m_plan.steps.begin() + static_cast<std::ptrdiff_t>(group.end), [&](const PlanStep& step) {
+                           if (step.action == Action::MakeFolder)
+                               return m_progress.IsThere(step.subject) == (direction == Direction::Backward);
+                           return m_progress.Of(step.subject) == EndsOf(step, direction).first;
+                       });
+}
+
+template <class Use>
+void Executor::ForEachStep(const Group& group, Direction direction, Use use)
+{
+    for (std::size_t index = group.first; index < group.end; ++index)
+        use(m_plan.steps[direction == Direction::Forward ? index : group.end - 1 - (index - group.first)]);
+}
+
+void Executor::RunGroup(const Group& group, Direction direction)
+{
+    std::vector<PlanStep> done;
+    bool hasFailed = false;
+    ForEachStep(group, direction, [&](const PlanStep& step) {
+        const StepResult result = hasFailed ? StepResult::Skipped : Perform(step, direction);
+        if (result == StepResult::Done)
+            done.push_back(step);
+        hasFailed |= result == StepResult::Failed;
+    });
+    if (!hasFailed)
+        return;
+    TakeBack(done, direction);
+    ForEachStep(group, direction, [this](const PlanStep& step) {
+        if (step.action != Action::MakeFolder)
+            Refuse(step.subject, u"a rename that it depends on failed");
+    });
+}
+
+void Executor::TakeBack(const std::vector<PlanStep>& done, Direction direction)
+{
+    for (auto step = done.rbegin(); step != done.rend(); ++step)
+        Perform(*step, Opposite(direction));
+}
+
+void Executor::ReportGroup(const Group& group, Direction direction, const Report& report)
+{
+    ForEachStep(group, direction, [&](const PlanStep& step) {
+        if (IsLastStep(step, direction))
+            report(step.subject, ResultOf(step.subject, direction));
+    });
+}
+
+/// Where a step finds its entry, and where it puts it.
+std::pair<Standing, Standing> Executor::EndsOf(const PlanStep& step, Direction direction) const
+{
+    const Standing middle = m_goesAside[step.subject] ? Standing::Aside : Standing::Before;
+    std::pair<Standing, Standing> ends{middle, Standing::After};
+    if (step.action == Action::SetAside)
+        ends = {Standing::Before, Standing::Aside};
+    if (direction == Direction::Backward)
+        std::swap(ends.first, ends.second);
+    return ends;
+}
+
+bool Executor::IsLastStep(const PlanStep& step, Direction direction) const
+{
+    if (step.action == Action::MakeFolder)
+        return false;
+    const Action last =
+        direction == Direction::Backward && m_goesAside[step.subject] ? Action::SetAside : Action::Rename;
+    return step.action == last;
+}
+
+Executor::StepResult Executor::Perform(const PlanStep& step, Direction direction)
+{
+    if (step.action == Action::MakeFolder)
+        return PerformOnFolder(step.subject, direction);
+    const auto [source, target] = EndsOf(step, direction);
+    if (m_progress.Of(step.subject) != source)
+        return StepResult::Skipped;
+    const PlanIndex inTheWay = FindInTheWay(step.subject, target);
+    if (inTheWay != none)
+        return Refuse(step.subject,
+                      CString::Join({u"the path is still taken: ",
+                                     m_progress.PathOf(m_progress.PlaceOf(inTheWay, m_progress.Of(inTheWay))),
+                                     u" could not be renamed"}));
+    const PlanIndex folder = m_plan.entries[step.subject].to.folder;
+    if (target == Standing::After && !m_progress.IsThere(folder))
+        return Refuse(step.subject,
+                      CString::Join({u"its folder could not be made: ", ErrorText(m_folderErrors[folder])}));
+    return Move(step.subject, source, target);
+}
+
+/// The entry of the plan that should have left the place that `entry` is to get, but has not.
+PlanIndex Executor::FindInTheWay(PlanIndex entry, Standing target) const
+{
+    const PlanIndex before = m_plan.entries[entry].waitsFor;
+    const PlanIndex after = m_successors[entry];
+    if (target == Standing::After && before != none && before != entry && m_progress.Of(before) == Standing::Before)
+        return before;
+    if (target == Standing::Before && after != none && after != entry && m_progress.Of(after) == Standing::After)
+        return after;
+    return none;
+}
+
+Executor::StepResult Executor::Move(PlanIndex entry, Standing source, Standing target)
+{
+    const Place from = m_progress.PlaceOf(entry, source);
+    const Place to = m_progress.PlaceOf(entry, target);
+    const OpenedFolder fromFolder = m_folders.Open(from.folder);
+    const OpenedFolder toFolder = fromFolder.folder ? m_folders.Open(to.folder) : fromFolder;
+    if (!toFolder.folder)
+        return Fail(entry, toFolder.error, target);
+    const std::uint32_t error = fromFolder.folder->Rename(from.name, *toFolder.folder, to.name);
+    if (error)
+        return Fail(entry, error, target);
+    // What is open below it is forgotten while its old place is still known.
+    if (m_plan.entries[entry].folder != none)
+        m_folders.Forget(m_plan.entries[entry].folder);
+    m_progress.Set(entry, target);
+    return StepResult::Done;
+}
+
+Executor::StepResult Executor::PerformOnFolder(PlanIndex folder, Direction direction)
+{
+    const bool isMaking = direction == Direction::Forward;
+    if (isMaking ? m_progress.IsThere(folder) : m_progress.OfFolder(folder) != NewFolder::Made)
+        return StepResult::Skipped;
+    const Place& place = m_plan.folders[folder].place;
+    const bool isParentThere = m_progress.IsThere(place.folder);
+    const OpenedFolder parent =
+        isParentThere ? m_folders.Open(place.folder) : OpenedFolder{nullptr, m_folderErrors[place.folder]};
+    if (!parent.folder) {
+        m_folderErrors[folder] = parent.error;
+        return StepResult::Failed;
+    }
+    return isMaking ? MakeFolder(folder, parent, place.name) : RemoveFolder(folder, parent, place.name);
+}
+
+Executor::StepResult Executor::MakeFolder(PlanIndex folder, const OpenedFolder& parent, const CString& name)
+{
+    const std::uint32_t error = parent.folder->MakeFolder(name);
+    NewFolder state = NewFolder::Made;
+    if (error) {
+        if (parent.folder->Look(name).kind != VyrPlatform::FileSystem::Kind::Folder) {
+            m_folderErrors[folder] = error;
+            return StepResult::Failed;
+        }
+        state = NewFolder::Found;
+    }
+    m_progress.SetFolder(folder, state);
+    return StepResult::Done;
+}
+
+Executor::StepResult Executor::RemoveFolder(PlanIndex folder, const OpenedFolder& parent, const CString& name)
+{
+    m_folders.Forget(folder);
+    // One that holds something that the batch did not put there stays.
+    if (parent.folder->RemoveEmptyFolder(name) != 0)
+        return StepResult::Skipped;
+    m_progress.SetFolder(folder, NewFolder::Absent);
+    return StepResult::Done;
+}
+
+/// Where none of the renames into a new folder could be done, it goes again.
+void Executor::RemoveFoldersWithoutUse()
+{
+    std::vector<bool> isUsed(m_plan.folders.size());
+    for (PlanIndex entry = 0; entry < m_plan.entries.size(); ++entry)
+        if (m_progress.Of(entry) == Standing::After)
+            isUsed[m_plan.entries[entry].to.folder] = true;
+    for (auto folder = static_cast<PlanIndex>(m_plan.folders.size()); folder-- > 0;) {
+        const PlanIndex parent = m_plan.folders[folder].place.folder;
+        if (m_progress.OfFolder(folder) == NewFolder::Made && !isUsed[folder])
+            PerformOnFolder(folder, Direction::Backward);
+        if (m_progress.OfFolder(folder) == NewFolder::Made && parent != none)
+            isUsed[parent] = true;
+    }
+}
+
+Executor::StepResult Executor::Refuse(PlanIndex entry, const CString& reason)
+{
+    if (m_results[entry].outcome == RenameOutcome::NotReached)
+        m_results[entry] = {.outcome = RenameOutcome::Refused, .error = 0, .reason = reason};
+    return StepResult::Failed;
+}
+
+Executor::StepResult Executor::Fail(PlanIndex entry, std::uint32_t error, Standing target)
+{
+    if (VyrPlatform::IsOtherFileSystem(error))
+        return Refuse(entry, u"the new path is on another file system");
+    const bool isTaken = VyrPlatform::IsTargetTaken(error);
+    m_results[entry] = {.outcome = RenameOutcome::Failed,
+                        .error = error,
+                        .reason = !isTaken                     ? ErrorText(error)
+                                  : target == Standing::Before ? CString(u"something stands at the old path")
+                                                               : CString(u"something stands at the new path")};
+    return StepResult::Failed;
+}
+
+RenameResult Executor::ResultOf(PlanIndex entry, Direction direction) const
+{
+    const Standing goal = direction == Direction::Forward ? Standing::After : Standing::Before;
+    const Standing standing = m_progress.Of(entry);
+    if (standing == goal)
+        return {.outcome = RenameOutcome::Done, .error = 0, .reason = {}};
+    if (standing != Standing::Aside)
+        return m_results[entry];
+    return {.outcome = RenameOutcome::Failed,
+            .error = m_results[entry].error,
+            .reason = CString::Join({u"it stands under a temporary name now, ",
+                                     m_progress.PathOf(m_progress.PlaceOf(entry, Standing::Aside)),
+                                     m_results[entry].reason.IsEmpty() ? u"" : u": ", m_results[entry].reason})};
+}
+
+} // namespace VyrHost

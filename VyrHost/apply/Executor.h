@@ -1,0 +1,93 @@
+/// @file
+/// Does the steps of a plan, or takes them back, without ever losing a file.
+#pragma once
+
+#include <VyrHost/RenameList.h>
+#include <VyrHost/apply/FolderCache.h>
+#include <VyrHost/apply/PlanProgress.h>
+
+#include <cstddef>
+#include <functional>
+#include <vector>
+
+namespace VyrHost {
+
+enum class Direction : std::uint8_t
+{
+    /// From the old paths to the new ones.
+    Forward,
+    Backward
+};
+
+class Executor
+{
+public:
+    using Report = std::function<void(PlanIndex entry, const RenameResult& result)>;
+    using StopRequest = std::function<bool()>;
+
+    /// Starts from `progress`, which must tell what is on the disk, and keeps it true.
+    Executor(const RenamePlan& plan, PlanProgress& progress, FileOperations& files);
+
+    /// Says beforehand what the result is for an entry that was not found.
+    void SetResult(PlanIndex entry, const RenameResult& result) { m_results[entry] = result; }
+
+    /// Does every step that is not done yet in `direction`; backward in reverse order. Nothing is overwritten. A
+    /// failure ends only what depends on it: entries that need its place are refused, a circle that cannot be closed is
+    /// taken back.
+    /// @param report called once for each entry.
+    /// @param isStopAsked asked before each rename, and circle of renames, that is left to do.
+    /// @return false when it was stopped before the end.
+    bool Run(Direction direction, const Report& report, const StopRequest& isStopAsked);
+
+private:
+    /// Steps that are done or taken back together: their first, and the one behind their last.
+    struct Group
+    {
+        std::size_t first;
+        std::size_t end;
+    };
+    enum class StepResult : std::uint8_t
+    {
+        /// There was nothing to do.
+        Skipped,
+        Done,
+        Failed
+    };
+
+    void FindGroups();
+    [[nodiscard]] bool HasWork(const Group& group, Direction direction) const;
+    void RunGroup(const Group& group, Direction direction);
+    void TakeBack(const std::vector<PlanStep>& done, Direction direction);
+    void ReportGroup(const Group& group, Direction direction, const Report& report);
+    template <class Use>
+    void ForEachStep(const Group& group, Direction direction, Use use);
+
+    StepResult Perform(const PlanStep& step, Direction direction);
+    StepResult PerformOnFolder(PlanIndex folder, Direction direction);
+    StepResult MakeFolder(PlanIndex folder, const OpenedFolder& parent, const CString& name);
+    StepResult RemoveFolder(PlanIndex folder, const OpenedFolder& parent, const CString& name);
+    StepResult Move(PlanIndex entry, Standing source, Standing target);
+    void RemoveFoldersWithoutUse();
+
+    [[nodiscard]] std::pair<Standing, Standing> EndsOf(const PlanStep& step, Direction direction) const;
+    [[nodiscard]] bool IsLastStep(const PlanStep& step, Direction direction) const;
+    [[nodiscard]] PlanIndex FindInTheWay(PlanIndex entry, Standing target) const;
+    StepResult Refuse(PlanIndex entry, const CString& reason);
+    StepResult Fail(PlanIndex entry, std::uint32_t error, Standing target);
+    [[nodiscard]] RenameResult ResultOf(PlanIndex entry, Direction direction) const;
+
+    const RenamePlan& m_plan;
+    PlanProgress& m_progress;
+    FolderCache m_folders;
+    std::vector<Group> m_groups;
+    /// For each entry whether it has a temporary name on the way.
+    std::vector<bool> m_goesAside;
+    /// For each entry the one that gets its old place.
+    std::vector<PlanIndex> m_successors;
+    /// For each entry why it is not where it is to be.
+    std::vector<RenameResult> m_results;
+    /// For each new folder why it was not made.
+    std::vector<std::uint32_t> m_folderErrors;
+};
+
+} // namespace VyrHost

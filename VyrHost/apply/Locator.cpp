@@ -1,0 +1,181 @@
+// Compares what stands at the places of a batch with what its journal says.
+#include <VyrHost/apply/Locator.h>
+
+namespace VyrHost {
+
+namespace {
+
+using VyrPlatform::FileState;
+using VyrPlatform::FileSystem::Kind;
+using Action = PlanStep::Action;
+
+bool IsSameContent(const FileState& left, const FileState& right)
+{
+    return left.size == right.size && left.modified == right.modified;
+}
+
+} // namespace
+
+Locator::Locator(const Journal& journal, PlanProgress& progress, FileOperations& files)
+    : m_journal(journal), m_progress(progress), m_files(files), m_folders(progress, files),
+      m_goesAside(journal.plan.entries.size()), m_isMade(journal.plan.folders.size(), !journal.mark),
+      m_isKept(journal.plan.entries.size()), m_hasChanged(journal.plan.entries.size()),
+      m_errors(journal.plan.entries.size())
+{
+    for (const PlanStep& step : journal.plan.steps)
+        if (step.action == Action::SetAside)
+            m_goesAside[step.subject] = true;
+    if (journal.mark)
+        for (const PlanIndex folder : journal.mark->foldersMade)
+            m_isMade[folder] = true;
+}
+
+void Locator::KeepMarked()
+{
+    if (!m_journal.mark)
+        return;
+    for (const PlanIndex entry : m_journal.mark->entriesBefore) {
+        m_isKept[entry] = true;
+        const Place& place = m_journal.plan.entries[entry].from;
+        m_taken.Put({place.folder, place.name}, entry);
+    }
+}
+
+void Locator::Locate(bool wasCutOff)
+{
+    // Folders first, from the outside in, since the rest is looked for in them.
+    for (const PlanIndex folder : OrderFolders(m_journal.plan)) {
+        const PlanFolder& planned = m_journal.plan.folders[folder];
+        if (planned.isNew)
+            LocateNewFolder(folder);
+        else if (planned.entry != none)
+            LocateEntry(planned.entry, wasCutOff);
+    }
+    // In the order of the steps a place has been left before another entry is looked for there.
+    for (const PlanStep& step : m_journal.plan.steps)
+        if (step.action == Action::Rename && m_journal.plan.entries[step.subject].folder == none)
+            LocateEntry(step.subject, wasCutOff);
+}
+
+void Locator::LocateNewFolder(PlanIndex folder)
+{
+    if (m_folders.Look(m_journal.plan.folders[folder].place).kind == Kind::Folder)
+        m_progress.SetFolder(folder, m_isMade[folder] ? NewFolder::Made : NewFolder::Found);
+}
+
+void Locator::LocateEntry(PlanIndex entry, bool wasCutOff)
+{
+    if (m_isKept[entry])
+        return;
+    if (m_journal.states[entry].kind == Kind::Missing) {
+        m_progress.Set(entry, Standing::Unknown);
+        return;
+    }
+    const bool isOneSlot = m_journal.plan.entries[entry].waitsFor == entry;
+    const Sight aside = m_goesAside[entry] ? LookAt(entry, Standing::Aside) : Sight();
+    if (isOneSlot && aside.likeness == Likeness::None) {
+        LocateByName(entry);
+        return;
+    }
+    const Sight before = LookAt(entry, Standing::Before);
+    const Sight after = isOneSlot ? Sight() : LookAt(entry, Standing::After);
+    const Sight chosen = aside.likeness != Likeness::None ? aside : Choose(before, after, wasCutOff);
+    for (const Sight& other : {before, aside, after})
+        if (wasCutOff && IsHalfRenamed(entry, chosen, other) && !EndHalfRename(entry, chosen, other))
+            return;
+    Settle(entry, chosen);
+}
+
+/// Whether a rename in two calls had given the file its one name and not yet taken the other away.
+bool Locator::IsHalfRenamed(PlanIndex entry, const Sight& kept, const Sight& left) const
+{
+    return left.standing != kept.standing && left.likeness == Likeness::Identity &&
+           kept.likeness == Likeness::Identity && left.state.kind != Kind::Folder &&
+           m_journal.states[entry].links == 1 && left.state.links > 1;
+}
+
+/// The old and the new name are one to the file system: what it lists tells which of them it is.
+void Locator::LocateByName(PlanIndex entry)
+{
+    const PlanEntry& planned = m_journal.plan.entries[entry];
+    const std::unordered_set<CString>& names = NamesIn(planned.from.folder);
+    Sight sight = LookAt(entry, Standing::After);
+    if (!names.contains(planned.to.name))
+        sight.standing = names.contains(planned.from.name) ? Standing::Before : Standing::Unknown;
+    Settle(entry, sight);
+}
+
+Locator::Sight Locator::LookAt(PlanIndex entry, Standing standing)
+{
+    const Place place = m_progress.PlaceOf(entry, standing);
+    Sight sight;
+    sight.standing = standing;
+    sight.state = m_folders.Look(place);
+    if (m_taken.Find({place.folder, place.name}) == none)
+        sight.likeness = Compare(entry, sight.state);
+    return sight;
+}
+
+Locator::Likeness Locator::Compare(PlanIndex entry, const FileState& state) const
+{
+    const FileState& known = m_journal.states[entry];
+    if (state.kind == Kind::Missing || state.kind != known.kind)
+        return Likeness::None;
+    const bool isSameContent = IsSameContent(state, known);
+    // The device may have another number since it was mounted again.
+    if (state.identity.number == known.identity.number &&
+        (state.identity.device == known.identity.device || isSameContent || known.kind == Kind::Folder))
+        return Likeness::Identity;
+    return isSameContent && known.kind == Kind::File ? Likeness::Content : Likeness::Kind;
+}
+
+/// The likelier of the two; where both are equally likely, the new path, if that may be.
+Locator::Sight Locator::Choose(const Sight& before, const Sight& after, bool wasCutOff)
+{
+    if (before.likeness > after.likeness)
+        return before;
+    const bool isClear = after.likeness > before.likeness || after.likeness == Likeness::Identity || !wasCutOff;
+    if (isClear && after.likeness != Likeness::None)
+        return after;
+    Sight unknown;
+    unknown.state.error = after.state.error ? after.state.error : before.state.error;
+    return unknown;
+}
+
+bool Locator::EndHalfRename(PlanIndex entry, const Sight& kept, const Sight& left)
+{
+    const Place leftPlace = m_progress.PlaceOf(entry, left.standing);
+    const Place keptPlace = m_progress.PlaceOf(entry, kept.standing);
+    const OpenedFolder leftFolder = m_folders.Open(leftPlace.folder);
+    const OpenedFolder keptFolder = m_folders.Open(keptPlace.folder);
+    const std::uint32_t error = leftFolder.folder->DropSecondName(leftPlace.name, *keptFolder.folder, keptPlace.name);
+    if (error == 0)
+        return true;
+    m_errors[entry] = error;
+    m_progress.Set(entry, Standing::Unknown);
+    return false;
+}
+
+void Locator::Settle(PlanIndex entry, const Sight& sight)
+{
+    m_progress.Set(entry, sight.standing);
+    if (sight.standing == Standing::Unknown) {
+        m_errors[entry] = sight.state.error;
+        return;
+    }
+    const Place place = m_progress.PlaceOf(entry, sight.standing);
+    m_taken.Put({place.folder, place.name}, entry);
+    m_hasChanged[entry] = sight.state.kind == Kind::File && (sight.likeness != Likeness::Identity ||
+                                                             !IsSameContent(sight.state, m_journal.states[entry]));
+}
+
+const std::unordered_set<CString>& Locator::NamesIn(PlanIndex folder)
+{
+    const auto [known, isNew] = m_names.try_emplace(folder);
+    const std::optional<CString> path = isNew ? m_progress.PathOfFolder(folder) : std::nullopt;
+    if (path && m_files.List(*path, [&names = known->second](const CString& name) { names.insert(name); }) != 0)
+        known->second.clear();
+    return known->second;
+}
+
+} // namespace VyrHost

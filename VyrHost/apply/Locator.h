@@ -1,0 +1,81 @@
+/// @file
+/// Finds out from the disk how far the work on a batch came.
+#pragma once
+
+#include <VyrHost/apply/FolderCache.h>
+#include <VyrHost/apply/PlanProgress.h>
+#include <VyrHost/journal/JournalText.h>
+#include <VyrHost/plan/SlotTable.h>
+
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace VyrHost {
+
+/// Looks for every entry at its old, its temporary and its new path, and tells it by its identity; where that has
+/// changed (another mount, a program that replaces files when it saves), by its size and time, and last by what stands
+/// at one of the paths alone.
+class Locator
+{
+public:
+    /// @param progress is set to what is found.
+    Locator(const Journal& journal, PlanProgress& progress, FileOperations& files);
+
+    /// Takes the entries that the journal's mark says so for to stand at their old paths: nothing was done to them.
+    void KeepMarked();
+    /// Finds the entries that are not kept, and the new folders.
+    /// @param wasCutOff the batch may have been cut off at any point. Otherwise an entry of which the disk tells too
+    ///     little stands at its new path.
+    void Locate(bool wasCutOff);
+
+    [[nodiscard]] bool IsKept(PlanIndex entry) const { return m_isKept[entry]; }
+    /// Whether the file was written to, or replaced by another, since the batch.
+    [[nodiscard]] bool HasChanged(PlanIndex entry) const { return m_hasChanged[entry]; }
+    /// Why an entry was not found; 0 when nothing looks like it.
+    [[nodiscard]] std::uint32_t Error(PlanIndex entry) const { return m_errors[entry]; }
+
+private:
+    /// How sure it is that what stands somewhere is the entry, rising.
+    enum class Likeness : std::uint8_t
+    {
+        None,
+        Kind,
+        Content,
+        Identity
+    };
+    /// What stands at one of an entry's places.
+    struct Sight
+    {
+        Standing standing = Standing::Unknown;
+        VyrPlatform::FileState state;
+        Likeness likeness = Likeness::None;
+    };
+
+    void LocateNewFolder(PlanIndex folder);
+    void LocateEntry(PlanIndex entry, bool wasCutOff);
+    void LocateByName(PlanIndex entry);
+    [[nodiscard]] Sight LookAt(PlanIndex entry, Standing standing);
+    [[nodiscard]] Likeness Compare(PlanIndex entry, const VyrPlatform::FileState& state) const;
+    [[nodiscard]] static Sight Choose(const Sight& before, const Sight& after, bool wasCutOff);
+    [[nodiscard]] bool IsHalfRenamed(PlanIndex entry, const Sight& kept, const Sight& left) const;
+    [[nodiscard]] bool EndHalfRename(PlanIndex entry, const Sight& kept, const Sight& left);
+    void Settle(PlanIndex entry, const Sight& sight);
+    [[nodiscard]] const std::unordered_set<CString>& NamesIn(PlanIndex folder);
+
+    const Journal& m_journal;
+    PlanProgress& m_progress;
+    FileOperations& m_files;
+    FolderCache m_folders;
+    std::vector<bool> m_goesAside;
+    /// For each new folder whether the batch has made it, if it is there.
+    std::vector<bool> m_isMade;
+    std::vector<bool> m_isKept;
+    std::vector<bool> m_hasChanged;
+    std::vector<std::uint32_t> m_errors;
+    /// The places of the entries that are found: hard links make two entries look alike.
+    SlotTable m_taken;
+    std::unordered_map<PlanIndex, std::unordered_set<CString>> m_names;
+};
+
+} // namespace VyrHost

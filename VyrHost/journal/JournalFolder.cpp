@@ -1,0 +1,193 @@
+// Journal files: their names, their order, their ends.
+#include <VyrHost/journal/JournalFolder.h>
+
+#include <VyrHost/files/ErrorText.h>
+
+#include <VyrLibraryUtils/FileUtils.h>
+#include <VyrLibraryUtils/FolderUtils.h>
+#include <VyrPlatform/FileReader.h>
+#include <VyrPlatform/FolderListing.h>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <span>
+#include <utility>
+
+namespace VyrHost {
+
+namespace {
+
+using VyrLibraryUtils::FileUtils;
+
+constexpr std::array<std::pair<BatchPhase, const char16_t*>, 4> endings{{{BatchPhase::Applying, u".applying"},
+                                                                         {BatchPhase::Applied, u".applied"},
+                                                                         {BatchPhase::TakingBack, u".taking-back"},
+                                                                         {BatchPhase::TakenBack, u".taken-back"}}};
+/// Of a journal that is not whole yet: its batch has not begun.
+constexpr const char16_t* newEnding = u".new";
+constexpr int digits = 6;
+
+CString NameOf(std::uint32_t number, const char16_t* ending)
+{
+    CString name;
+    name.Format(u"%06u%s", number, ending);
+    return name;
+}
+
+const char16_t* EndingOf(BatchPhase phase)
+{
+    return std::find_if(endings.begin(), endings.end(), [phase](const auto& pair) { return pair.first == phase; })
+        ->second;
+}
+
+bool IsEnded(BatchPhase phase)
+{
+    return phase == BatchPhase::Applied || phase == BatchPhase::TakenBack;
+}
+
+/// The number in front of `name`'s dot; 0 when there is none.
+std::uint32_t NumberOf(std::u16string_view name)
+{
+    const std::u16string_view text = name.substr(0, name.find(u'.'));
+    std::uint64_t number = 0;
+    if (text.size() < digits || text.size() > digits + 3)
+        return 0;
+    for (const char16_t unit : text) {
+        if (unit < u'0' || unit > u'9')
+            return 0;
+        number = number * 10 + (unit - u'0');
+    }
+    return static_cast<std::uint32_t>(number);
+}
+
+std::optional<JournalFile> FileOf(const CString& name, const CString& path)
+{
+    const std::uint32_t number = NumberOf(name);
+    if (number == 0)
+        return {};
+    for (const auto& [phase, ending] : endings)
+        if (name == NameOf(number, ending))
+            return JournalFile{number, phase, path};
+    return {};
+}
+
+} // namespace
+
+JournalFolder::JournalFolder(FileOperations& files, const CString& path) : m_files(files), m_path(path) {}
+
+CString JournalFolder::Lock()
+{
+    if (VyrLibraryUtils::FolderUtils::CreateFolderPathExists(m_path) == 0)
+        return CString::Join({u"the folder for the journal cannot be made: ", m_path});
+    m_lock = std::make_unique<VyrPlatform::FileLock>(PathOf(u"lock"));
+    if (m_lock->IsHeld())
+        return {};
+    if (m_lock->IsTaken())
+        return u"another batch of renames is being worked on";
+    return CString::Join({u"the journal cannot be locked: ", ErrorText(m_lock->Error())});
+}
+
+bool JournalFolder::IsLockedByAnother() const
+{
+    return VyrPlatform::FileLock(PathOf(u"lock")).IsTaken();
+}
+
+std::vector<JournalFile> JournalFolder::List() const
+{
+    std::vector<JournalFile> journals;
+    for (VyrPlatform::FolderListing listing(m_path); listing.Next();) {
+        const std::optional<JournalFile> journal = FileOf(listing.Name(), PathOf(listing.Name()));
+        if (journal)
+            journals.push_back(*journal);
+    }
+    std::sort(journals.begin(), journals.end(),
+              [](const JournalFile& left, const JournalFile& right) { return left.number < right.number; });
+    return journals;
+}
+
+std::optional<JournalFile> JournalFolder::FindOpen() const
+{
+    for (const JournalFile& journal : List())
+        if (!IsEnded(journal.phase))
+            return journal;
+    return {};
+}
+
+std::optional<std::string> JournalFolder::Read(const JournalFile& file, std::uint32_t& error, std::uint64_t count) const
+{
+    const VyrPlatform::FileReader reader(file.path);
+    error = reader.Error();
+    if (!reader.IsOpen())
+        return {};
+    std::string text(static_cast<std::size_t>(std::min(reader.Size(), count)), '\0');
+    text.resize(reader.ReadAt(0, std::as_writable_bytes(std::span(text))));
+    return text;
+}
+
+std::uint32_t JournalFolder::Begin(Journal& journal, JournalFile& file)
+{
+    const std::vector<JournalFile> journals = List();
+    file.number = journals.empty() ? 1 : journals.back().number + 1;
+    file.phase = BatchPhase::Applying;
+    file.path = PathOf(NameOf(file.number, EndingOf(file.phase)));
+    journal.heading.number = file.number;
+    const CString newPath = PathOf(NameOf(file.number, newEnding));
+    // What a program left that ended while it wrote its journal.
+    static_cast<void>(m_files.Remove(newPath));
+    std::uint32_t error = m_files.WriteNew(newPath, WriteJournal(journal, journal.check));
+    if (error)
+        return error;
+    error = m_files.RenameFile(newPath, file.path);
+    if (error) {
+        static_cast<void>(m_files.Remove(newPath));
+        return error;
+    }
+    error = Flush();
+    if (error)
+        static_cast<void>(m_files.Remove(file.path));
+    else
+        RemoveOld();
+    return error;
+}
+
+std::uint32_t JournalFolder::Append(const JournalFile& file, std::string_view text)
+{
+    return m_files.Append(file.path, text);
+}
+
+std::uint32_t JournalFolder::SetPhase(JournalFile& file, BatchPhase phase)
+{
+    const CString path = PathOf(NameOf(file.number, EndingOf(phase)));
+    const std::uint32_t error = phase == file.phase ? 0 : m_files.RenameFile(file.path, path);
+    if (!error) {
+        file.phase = phase;
+        file.path = path;
+    }
+    return error;
+}
+
+std::uint32_t JournalFolder::Flush()
+{
+    return m_files.FlushFolder(m_path);
+}
+
+std::uint32_t JournalFolder::Remove(const JournalFile& file)
+{
+    return m_files.Remove(file.path);
+}
+
+CString JournalFolder::PathOf(const CString& name) const
+{
+    return FileUtils::GetCombinePath(m_path, name);
+}
+
+void JournalFolder::RemoveOld()
+{
+    std::vector<JournalFile> ended = List();
+    std::erase_if(ended, [](const JournalFile& journal) { return !IsEnded(journal.phase); });
+    for (std::size_t index = 0; index + mostKept < ended.size(); ++index)
+        static_cast<void>(Remove(ended[index]));
+}
+
+} // namespace VyrHost

@@ -1,0 +1,84 @@
+/// @file
+/// The folder in which the journals of all batches stand, one file each.
+#pragma once
+
+#include <VyrHost/files/FileOperations.h>
+#include <VyrHost/journal/JournalText.h>
+
+#include <VyrPlatform/DurableFile.h>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace VyrHost {
+
+/// What the work on a batch has come to. It is the ending of the journal's file name, so that it changes at a stroke.
+enum class BatchPhase : std::uint8_t
+{
+    /// It is being applied, or that was cut off.
+    Applying,
+    Applied,
+    /// It is being taken back, or that was cut off.
+    TakingBack,
+    TakenBack
+};
+
+struct JournalFile
+{
+    std::uint32_t number = 0;
+    BatchPhase phase = BatchPhase::Applied;
+    CString path;
+};
+
+class JournalFolder
+{
+public:
+    /// How many journals are kept of batches whose work has ended.
+    static constexpr std::size_t mostKept = 100;
+
+    /// The folder at `path`; Lock makes it when it is not there.
+    JournalFolder(FileOperations& files, const CString& path);
+
+    /// Takes the lock that one program has while it works on a batch, for as long as this object lives.
+    /// @return why that is not possible, for people; empty when it is held.
+    [[nodiscard]] CString Lock();
+    /// Whether another program holds the lock.
+    [[nodiscard]] bool IsLockedByAnother() const;
+
+    /// The journals by rising numbers.
+    [[nodiscard]] std::vector<JournalFile> List() const;
+    /// The journal of a batch that is being worked on, or was when that was cut off.
+    [[nodiscard]] std::optional<JournalFile> FindOpen() const;
+    /// The text of a journal, or at least the first `count` bytes of it; nothing, with `error` set, when it cannot be
+    /// read.
+    [[nodiscard]] std::optional<std::string> Read(const JournalFile& file, std::uint32_t& error,
+                                                  std::uint64_t count = ~std::uint64_t{0}) const;
+
+    // Under the lock.
+
+    /// Gives `journal` the next number, and has it on the disk, for good, before it returns: then the work may begin.
+    /// Journals beyond mostKept are removed, the oldest first.
+    /// @return the system's error code, 0 when it is there.
+    [[nodiscard]] std::uint32_t Begin(Journal& journal, JournalFile& file);
+    /// Appends to a journal.
+    [[nodiscard]] std::uint32_t Append(const JournalFile& file, std::string_view text);
+    /// Goes over to another phase.
+    [[nodiscard]] std::uint32_t SetPhase(JournalFile& file, BatchPhase phase);
+    /// Waits until the phases are on the disk.
+    [[nodiscard]] std::uint32_t Flush();
+    /// Removes a journal of which nothing was done.
+    [[nodiscard]] std::uint32_t Remove(const JournalFile& file);
+
+private:
+    [[nodiscard]] CString PathOf(const CString& name) const;
+    void RemoveOld();
+
+    FileOperations& m_files;
+    CString m_path;
+    std::unique_ptr<VyrPlatform::FileLock> m_lock;
+};
+
+} // namespace VyrHost
