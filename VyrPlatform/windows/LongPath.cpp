@@ -1,8 +1,6 @@
 // Lifts the limit of 260 code units from paths.
 #include "LongPath.h"
 
-#include <VyrPlatform/WindowsCString.h>
-
 #include <string>
 #include <windows.h>
 
@@ -31,21 +29,15 @@ bool IsFull(std::u16string_view path) noexcept
     return path.size() >= 2 && IsSeparator(path[0]) && IsSeparator(path[1]);
 }
 
-/// The full path with backslashes and without "." and ".."; empty when the system cannot tell it.
-CString MakeFull(const CString& path)
-{
-    std::wstring full(MAX_PATH, L'\0');
-    for (;;) {
-        const DWORD length = GetFullPathNameW(ToWide(path), static_cast<DWORD>(full.size()), full.data(), nullptr);
-        if (length <= full.size()) {
-            full.resize(length);
-            return FromWide(full);
-        }
-        full.resize(length);
-    }
-}
-
 } // namespace
+
+CString MakeFullPath(const CString& path)
+{
+    const DWORD capacity = GetFullPathNameW(ToWide(path), 0, nullptr, nullptr);
+    std::wstring full(capacity, L'\0');
+    full.resize(GetFullPathNameW(ToWide(path), capacity, full.data(), nullptr));
+    return FromWide(full);
+}
 
 CString AddLongPathPrefix(const CString& fullPath)
 {
@@ -56,29 +48,19 @@ CString AddLongPathPrefix(const CString& fullPath)
     return CString::Join({uR"(\\?\)", fullPath.View()});
 }
 
-CString ToSystemPath(const CString& path)
+CString ToSystemPath(const CString& path, std::u16string_view suffix)
 {
     if (path.IsEmpty() || path.Find(std::u16string_view(u"\0", 1)) >= 0)
         return {};
-    const bool isShort = path.GetLength() <= longestPlainPath;
-    if (HasSystemPrefix(path) || (isShort && IsFull(path)))
-        return path;
-    const CString full = MakeFull(path);
-    return full.GetLength() <= longestPlainPath ? full : AddLongPathPrefix(full);
-}
-
-LongPath::LongPath(const CString& path, std::u16string_view suffix) : m_path(ToSystemPath(path))
-{
-    if (m_path.IsEmpty() || suffix.empty())
-        return;
-    m_path = m_path + suffix;
-    if (m_path.GetLength() > longestPlainPath)
-        m_path = ToSystemPath(m_path);
-}
-
-const wchar_t* LongPath::Get() const noexcept
-{
-    return ToWide(m_path);
+    // A suffix that begins with a colon must not meet a relative path: "a:stream" would name a drive.
+    const CString full = IsFull(path) ? path : MakeFullPath(path);
+    const bool isPrefixed = HasSystemPrefix(full);
+    // The name of a device becomes one with a prefix, by which not every function of the system knows it.
+    const CString whole = (isPrefixed ? path : full) + suffix;
+    if (isPrefixed || whole.GetLength() <= longestPlainPath)
+        return whole;
+    // The prefix ends all reading of the path, so that it must be plain before.
+    return AddLongPathPrefix(MakeFullPath(whole));
 }
 
 } // namespace VyrPlatform
