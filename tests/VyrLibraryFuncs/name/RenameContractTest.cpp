@@ -544,7 +544,9 @@ TEST(RenameContract, CharactersAreDeletedFromTheStart)
                  {4, u"abcdef", 0, INT_MIN, u"abcdef"},
                  {4, u"abcdef", INT_MIN, 0, u"abcdef"},
                  {4, u"abcdef", INT_MAX, INT_MAX, nullptr},
-                 {4, u"abcdef", INT_MAX, INT_MIN, nullptr}});
+                 {4, u"abcdef", INT_MAX, INT_MIN, nullptr},
+                 {4, u"abcdef", 2, -1, u"abcdef"},
+                 {4, u"abcdef", 6, -2, u"abcdef"}});
 }
 
 TEST(RenameContract, CharactersAreDeletedBeforeTheEnd)
@@ -562,6 +564,16 @@ TEST(RenameContract, CharactersAreDeletedBeforeTheEnd)
                  {5, u"abcdef", INT_MIN, 0, u"abcdef"},
                  {5, u"abcdef", INT_MAX, INT_MAX, nullptr},
                  {5, u"abcdef", INT_MAX, INT_MIN, nullptr}});
+}
+
+TEST(RenameContract, NegativeCountsBeforeTheEndTakeWhatThereIsOfEachPart)
+{
+    ExpectEdits({{5, u"abcdef", -1, 2, u"abcde"},
+                 {5, u"abcdef", -3, 2, u"abcdef"},
+                 {5, u"abcdef", 1, -2, u"abcdeff"},
+                 {5, u"abcdef", 6, INT_MIN, u"abcdefabcdef"},
+                 {5, u"abcdef", INT_MIN, INT_MAX, u"abcdef"},
+                 {5, u"abcdef", INT_MIN, INT_MIN, u"abcdef"}});
 }
 
 TEST(RenameContract, UnknownAddDeleteTypeLeavesThePath)
