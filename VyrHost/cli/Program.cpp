@@ -5,6 +5,7 @@
 #include <VyrHost/cli/ArgumentText.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/HelpText.h>
+#include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/RenameCommand.h>
 #include <VyrLibraryUtils/VersionUtils.h>
 #include <VyrPlatform/Console.h>
@@ -32,9 +33,9 @@ int WriteOut(const std::string& text)
     return VyrPlatform::Console::Write(Stream::Output, text) ? ExitCode::Success : ExitCode::Output;
 }
 
-int Complain(const std::string& what)
+int RefuseCall(const std::string& what)
 {
-    VyrPlatform::Console::Write(Stream::Error, "vyr: " + what + "\nvyr --help and vyr COMMAND --help say more.\n");
+    Complain(what);
     return ExitCode::Usage;
 }
 
@@ -56,9 +57,9 @@ int RunProgram(const std::vector<CString>& arguments)
     } catch (const CLI::CallForHelp&) {
         return WriteOut(WrapHelp(program.help()));
     } catch (const CLI::ParseError& error) {
-        return Complain(error.what());
+        return RefuseCall(std::string(error.what()) + "\nvyr --help and vyr COMMAND --help say more.");
     } catch (const UsageError& error) {
-        return Complain(error.what());
+        return RefuseCall(error.what());
     }
 }
 

@@ -2,9 +2,8 @@
 /// The command "vyr rename".
 #pragma once
 
+#include <VyrHost/cli/RenameOptions.h>
 #include <VyrHost/cli/RuleOptions.h>
-
-#include <memory>
 
 namespace CLI {
 class App;
@@ -12,14 +11,11 @@ class App;
 
 namespace VyrHost {
 
-/// Shows what a rename would give.
+/// Previews a rename, or does it.
 class RenameCommand
 {
 public:
     explicit RenameCommand(CLI::App& program);
-    RenameCommand(const RenameCommand&) = delete;
-    RenameCommand& operator=(const RenameCommand&) = delete;
-    ~RenameCommand();
 
     /// Whether the parsed command line asks for it.
     [[nodiscard]] bool IsChosen() const;
@@ -28,11 +24,9 @@ public:
     [[nodiscard]] int Run() const;
 
 private:
-    struct Options;
-
     CLI::App& m_command;
     RuleOptions m_rules;
-    std::unique_ptr<Options> m_options;
+    RenameOptions m_options;
 };
 
 } // namespace VyrHost

@@ -13,4 +13,20 @@ SplitName Split(const CString& path, const Entry& entry)
     return {FileUtils::GetSplitFName(path), FileUtils::GetSplitExtension(path, 1)};
 }
 
+void EntryList::NumberOwners()
+{
+    for (std::uint32_t index = 0; index < entries.size(); ++index) {
+        NameRecord* const record = folders[entries[index].folder].names.Find(entries[index].name);
+        if (record)
+            record->owner = index;
+    }
+}
+
+void EntryList::ForgetHolders()
+{
+    for (std::uint32_t folder = 0; folder < folders.Count(); ++folder)
+        for (NameRecord& record : folders[folder].names.Records())
+            record.holder = NoEntry;
+}
+
 } // namespace VyrHost

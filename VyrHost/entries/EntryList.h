@@ -38,6 +38,12 @@ struct EntryList
     FolderSet folders;
     std::vector<Entry> entries;
 
+    /// Writes each entry's place down with its name.
+    void NumberOwners();
+
+    /// Takes back what earlier decisions wrote down about who gets which name.
+    void ForgetHolders();
+
     [[nodiscard]] CString PathOf(const Entry& entry) const
     {
         return CString::Join({folders[entry.folder].path, entry.name});

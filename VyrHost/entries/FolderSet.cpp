@@ -7,18 +7,31 @@ namespace VyrHost {
 
 std::uint32_t FolderSet::Open(const CString& path, const CString& shown)
 {
-    const auto [place, isNew] = m_numbers.try_emplace(path, Count());
-    if (isNew) {
+    if (const auto known = m_byPath.find(path); known != m_byPath.end())
+        return known->second;
+    const std::uint32_t number = Find(path);
+    m_byPath.emplace(path, number);
+    if (number == Count()) {
         Folder& folder = m_folders.emplace_back();
         folder.path = path;
         folder.shown = shown;
         List(folder);
     }
-    return place->second;
+    return number;
+}
+
+/// The number that the folder has under another path, else the next number.
+std::uint32_t FolderSet::Find(const CString& path)
+{
+    const VyrPlatform::FileState state = VyrPlatform::LookAtFile(path);
+    if (state.kind != VyrPlatform::FileSystem::Kind::Folder)
+        return Count();
+    return m_byIdentity.try_emplace(state.identity, Count()).first->second;
 }
 
 void FolderSet::List(Folder& folder)
 {
+    folder.names.SetFolding(VyrPlatform::GetNameFolding(folder.path));
     VyrPlatform::FolderListing listing(folder.path);
     while (listing.Next()) {
         NameRecord& record = folder.names.Add(m_texts.Keep(listing.Name()));

@@ -5,6 +5,7 @@
 #include <VyrHost/entries/NameStore.h>
 #include <VyrHost/entries/NameTable.h>
 #include <VyrPlatform/CString.h>
+#include <VyrPlatform/FileIdentity.h>
 
 #include <cstdint>
 #include <deque>
@@ -30,8 +31,8 @@ struct Folder
 class FolderSet
 {
 public:
-    /// The number of the folder `path` (absolute, its separator at the end), listed when it is new here. `shown` is
-    /// taken for a new one.
+    /// The number of the folder `path` (absolute, its separator at the end), listed when it is new here. Two paths to
+    /// one folder give one number; the first path stays. `shown` is taken for a new one.
     std::uint32_t Open(const CString& path, const CString& shown);
 
     [[nodiscard]] Folder& operator[](std::uint32_t folder) { return m_folders[folder]; }
@@ -42,11 +43,21 @@ public:
     [[nodiscard]] std::u16string_view Keep(std::u16string_view name) { return m_texts.Keep(name); }
 
 private:
+    struct IdentityHash
+    {
+        std::size_t operator()(const VyrPlatform::FileIdentity& identity) const noexcept
+        {
+            return static_cast<std::size_t>(identity.number * 31 + identity.device);
+        }
+    };
+
+    std::uint32_t Find(const CString& path);
     void List(Folder& folder);
 
     NameStore m_texts;
     std::deque<Folder> m_folders;
-    std::unordered_map<CString, std::uint32_t> m_numbers;
+    std::unordered_map<CString, std::uint32_t> m_byPath;
+    std::unordered_map<VyrPlatform::FileIdentity, std::uint32_t, IdentityHash> m_byIdentity;
 };
 
 } // namespace VyrHost

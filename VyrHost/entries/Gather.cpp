@@ -123,7 +123,7 @@ private:
         m_namedIn.insert(folder);
         NameRecord* const record = List().folders[folder].names.Find(name);
         if (!record) {
-            if (IsPattern(name) && AddMatches(folder, name))
+            if (!m_settings.areNames && IsPattern(name) && AddMatches(folder, name))
                 return;
             List().entries.push_back({List().folders.Keep(name), folder, Kind::Missing});
             return;

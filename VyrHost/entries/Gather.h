@@ -35,6 +35,8 @@ struct SourceSettings
     /// A folder stands for what is below it instead of for itself. Links to folders are not followed.
     bool recursive = false;
     Pick pick = Pick::Files;
+    /// The paths are names as they stand: no wildcards in them.
+    bool areNames = false;
     /// Recursion takes and goes into what begins with a dot, too.
     bool hidden = false;
 };

@@ -5,6 +5,8 @@
 
 namespace VyrHost {
 
+using VyrPlatform::NameFolding;
+
 namespace {
 
 constexpr std::size_t FirstSlots = 16;
@@ -17,16 +19,28 @@ std::uint32_t HashOf(std::u16string_view name)
 
 } // namespace
 
-std::size_t NameTable::SlotOf(std::u16string_view name, std::uint32_t hash) const
+NameTable::Key NameTable::KeyOf(std::u16string_view name) const
+{
+    if (m_folding == NameFolding::None)
+        return {name, {}, HashOf(name)};
+    const CString folded = VyrPlatform::FoldName(name, m_folding);
+    return {name, folded, HashOf(folded)};
+}
+
+bool NameTable::IsSame(const NameRecord& record, const Key& key) const
+{
+    if (record.hash != key.hash)
+        return false;
+    return record.name == key.name ||
+           (m_folding != NameFolding::None && VyrPlatform::FoldName(record.name, m_folding) == key.folded);
+}
+
+std::size_t NameTable::SlotOf(const Key& key) const
 {
     const std::size_t mask = m_slots.size() - 1;
-    std::size_t slot = hash & mask;
-    while (m_slots[slot] != 0) {
-        const NameRecord& record = m_records[m_slots[slot] - 1];
-        if (record.hash == hash && record.name == name)
-            break;
+    std::size_t slot = key.hash & mask;
+    while (m_slots[slot] != 0 && !IsSame(m_records[m_slots[slot] - 1], key))
         slot = (slot + 1) & mask;
-    }
     return slot;
 }
 
@@ -34,9 +48,10 @@ const NameRecord* NameTable::Find(std::u16string_view name) const
 {
     if (m_slots.empty())
         return nullptr;
-    const std::uint32_t found = m_slots[SlotOf(name, HashOf(name))];
+    const std::uint32_t found = m_slots[SlotOf(KeyOf(name))];
     return found ? &m_records[found - 1] : nullptr;
 }
+
 
 NameRecord* NameTable::Find(std::u16string_view name)
 {
@@ -48,10 +63,10 @@ NameRecord& NameTable::Add(std::u16string_view name)
     // A third of the slots stays free, so that runs stay short.
     if ((m_records.size() + 1) * 3 > m_slots.size() * 2)
         Grow();
-    const std::uint32_t hash = HashOf(name);
-    std::uint32_t& slot = m_slots[SlotOf(name, hash)];
+    const Key key = KeyOf(name);
+    std::uint32_t& slot = m_slots[SlotOf(key)];
     if (slot == 0) {
-        m_records.push_back({.name = name, .hash = hash});
+        m_records.push_back({.name = name, .hash = key.hash});
         slot = static_cast<std::uint32_t>(m_records.size());
     }
     return m_records[slot - 1];

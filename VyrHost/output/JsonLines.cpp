@@ -42,9 +42,8 @@ void AppendField(std::string& line, std::string_view name, std::string_view word
         return;
     line += ",\"";
     line += name;
-    line += "\":\"";
-    line += words;
-    line += '"';
+    line += "\":";
+    AppendJsonText(line, VyrPlatform::Encoding::FromUtf8(words));
 }
 
 } // namespace
@@ -68,11 +67,11 @@ void AppendJsonText(std::string& line, std::u16string_view text)
     line += '"';
 }
 
-void WriteJsonLines(OutputBuffer& output, const EntryList& list, const std::vector<Decision>& decisions)
+void WriteJsonLines(OutputBuffer& output, const EntryList& list, const Outcome& outcome)
 {
     std::string line;
-    for (std::size_t index = 0; index < decisions.size() && !output.HasFailed(); ++index) {
-        const Decision& decision = decisions[index];
+    for (std::size_t index = 0; index < outcome.decisions.size() && !output.HasFailed(); ++index) {
+        const Decision& decision = outcome.decisions[index];
         line = "{\"from\":";
         AppendJsonText(line, list.PathOf(list.entries[index]));
         line += ",\"to\":";
@@ -81,8 +80,8 @@ void WriteJsonLines(OutputBuffer& output, const EntryList& list, const std::vect
         else
             AppendJsonText(line, CString::Join({list.folders[decision.folder].path, decision.name}));
         AppendField(line, "status", WordFor(decision.status));
-        AppendField(line, "reason", WordsFor(decision.reason));
-        AppendField(line, "warning", WarningFor(decision.warning));
+        AppendField(line, "reason", ReasonFor(outcome, index));
+        AppendField(line, "warning", decision.IsRename() ? WarningFor(decision.warning) : "");
         line += "}\n";
         output << line;
     }

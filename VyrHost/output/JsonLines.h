@@ -8,7 +8,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace VyrHost {
 
@@ -18,6 +17,6 @@ void AppendJsonText(std::string& line, std::u16string_view text);
 
 /// Writes one object for each entry: `from` and `to` (full paths; `to` is null where the rules give no name), `status`,
 /// and `reason` or `warning` where there is one.
-void WriteJsonLines(OutputBuffer& output, const EntryList& list, const std::vector<Decision>& decisions);
+void WriteJsonLines(OutputBuffer& output, const EntryList& list, const Outcome& outcome);
 
 } // namespace VyrHost

@@ -9,8 +9,8 @@ std::string SummaryOf(const Tally& tally)
 {
     std::size_t all = 0;
     std::string parts;
-    for (const Status status :
-         {Status::Renamed, Status::Numbered, Status::Unchanged, Status::Skipped, Status::Refused}) {
+    for (const Status status : {Status::Renamed, Status::Numbered, Status::Unchanged, Status::Skipped, Status::Refused,
+                                Status::Failed, Status::NotReached}) {
         const std::size_t count = tally[status];
         all += count;
         if (count > 0)

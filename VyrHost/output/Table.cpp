@@ -4,6 +4,7 @@
 #include <VyrHost/output/SafeText.h>
 #include <VyrHost/output/Words.h>
 #include <VyrPlatform/Console.h>
+#include <VyrPlatform/Encoding.h>
 #include <VyrPlatform/Process.h>
 
 #include <algorithm>
@@ -23,7 +24,7 @@ struct Row
 {
     CString from;
     CString to;
-    std::string note;
+    CString note;
 };
 
 struct Widths
@@ -42,27 +43,29 @@ CString NewName(const EntryList& list, const Entry& entry, const Decision& decis
     return CString::Join({list.folders[decision.folder].shown, decision.name});
 }
 
-std::string NoteFor(const Decision& decision)
+CString NoteFor(const Outcome& outcome, std::size_t index)
 {
+    const Decision& decision = outcome.decisions[index];
     std::string note;
     if (decision.status != Status::Renamed)
         note = WordFor(decision.status);
-    if (decision.reason != Reason::None)
-        note.append(": ").append(WordsFor(decision.reason));
+    if (const std::string reason = ReasonFor(outcome, index); !reason.empty())
+        note.append(": ").append(reason);
     if (decision.warning != VyrPlatform::NameFault::None && decision.IsRename())
         note.append(note.empty() ? "" : "; ").append("warning: ").append(WarningFor(decision.warning));
-    return note;
+    return VyrPlatform::Encoding::FromUtf8(note);
 }
 
-Row RowFor(const EntryList& list, const Entry& entry, const Decision& decision)
+Row RowFor(const EntryList& list, const Outcome& outcome, std::size_t index)
 {
-    return {CString::Join({list.folders[entry.folder].shown, entry.name}), NewName(list, entry, decision),
-            NoteFor(decision)};
+    const Entry& entry = list.entries[index];
+    return {CString::Join({list.folders[entry.folder].shown, entry.name}),
+            NewName(list, entry, outcome.decisions[index]), NoteFor(outcome, index)};
 }
 
 std::string_view ColourOf(const Decision& decision)
 {
-    if (decision.status == Status::Refused)
+    if (decision.status == Status::Refused || decision.status == Status::Failed)
         return "\x1b[31m";
     if (decision.status == Status::Unchanged)
         return "\x1b[2m";
@@ -70,14 +73,14 @@ std::string_view ColourOf(const Decision& decision)
     return isNotable ? "\x1b[33m" : "";
 }
 
-Widths NaturalWidths(const EntryList& list, const std::vector<Decision>& decisions)
+Widths NaturalWidths(const EntryList& list, const Outcome& outcome)
 {
     Widths widths;
-    for (std::size_t index = 0; index < decisions.size(); ++index) {
-        const Row row = RowFor(list, list.entries[index], decisions[index]);
+    for (std::size_t index = 0; index < outcome.decisions.size(); ++index) {
+        const Row row = RowFor(list, outcome, index);
         widths.from = std::max(widths.from, SafeWidth(row.from));
         widths.to = std::max(widths.to, SafeWidth(row.to));
-        widths.note = std::max(widths.note, static_cast<int>(row.note.size()));
+        widths.note = std::max(widths.note, SafeWidth(row.note));
     }
     return widths;
 }
@@ -114,11 +117,13 @@ public:
     {
         const std::string_view colour = m_style.inColour ? ColourOf(decision) : "";
         m_line = colour;
-        AppendName(row.from, m_widths.from);
+        AppendText(row.from, m_widths.from);
         m_line += row.to.IsEmpty() ? std::string(Arrow.size(), ' ') : std::string(Arrow);
-        AppendName(row.to, m_widths.to);
-        if (!row.note.empty())
-            m_line.append(NoteGap, ' ').append(Note(row.note));
+        AppendText(row.to, m_widths.to);
+        if (!row.note.IsEmpty()) {
+            m_line.append(NoteGap, ' ');
+            AppendText(row.note, m_style.width > 0 ? m_widths.note : 0);
+        }
         m_line.erase(m_line.find_last_not_of(' ') + 1);
         if (!colour.empty())
             m_line += "\x1b[0m";
@@ -127,16 +132,9 @@ public:
     }
 
 private:
-    void AppendName(const CString& name, int width)
+    void AppendText(const CString& text, int width)
     {
-        m_line += m_style.width > 0 || SafeWidth(name) <= width ? FittedText(name, width) : SafeText(name);
-    }
-
-    [[nodiscard]] std::string Note(const std::string& note) const
-    {
-        if (m_style.width == 0 || static_cast<int>(note.size()) <= m_widths.note)
-            return note;
-        return note.substr(0, static_cast<std::size_t>(std::max(m_widths.note - 1, 0))) + "\xE2\x80\xA6";
+        m_line += m_style.width > 0 || SafeWidth(text) <= width ? FittedText(text, width) : SafeText(text);
     }
 
     OutputBuffer& m_output;
@@ -156,11 +154,11 @@ TableStyle StyleOfOutput()
             wantsColour && VyrPlatform::Console::IsTerminal(Stream::Output)};
 }
 
-void WriteTable(OutputBuffer& output, const EntryList& list, const std::vector<Decision>& decisions, TableStyle style)
+void WriteTable(OutputBuffer& output, const EntryList& list, const Outcome& outcome, TableStyle style)
 {
-    TableWriter writer(output, FittedWidths(NaturalWidths(list, decisions), style.width), style);
-    for (std::size_t index = 0; index < decisions.size() && !output.HasFailed(); ++index)
-        writer.Write(RowFor(list, list.entries[index], decisions[index]), decisions[index]);
+    TableWriter writer(output, FittedWidths(NaturalWidths(list, outcome), style.width), style);
+    for (std::size_t index = 0; index < outcome.decisions.size() && !output.HasFailed(); ++index)
+        writer.Write(RowFor(list, outcome, index), outcome.decisions[index]);
 }
 
 } // namespace VyrHost

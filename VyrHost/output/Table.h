@@ -6,8 +6,6 @@
 #include <VyrHost/output/OutputBuffer.h>
 #include <VyrHost/preview/Decision.h>
 
-#include <vector>
-
 namespace VyrHost {
 
 /// How a table is laid out.
@@ -22,6 +20,6 @@ struct TableStyle
 [[nodiscard]] TableStyle StyleOfOutput();
 
 /// One row for each entry: its name, the new one, and what there is to say. Names are shown as SafeText makes them.
-void WriteTable(OutputBuffer& output, const EntryList& list, const std::vector<Decision>& decisions, TableStyle style);
+void WriteTable(OutputBuffer& output, const EntryList& list, const Outcome& outcome, TableStyle style);
 
 } // namespace VyrHost

@@ -1,6 +1,8 @@
 // Words for statuses, reasons and warnings.
 #include <VyrHost/output/Words.h>
 
+#include <VyrPlatform/Encoding.h>
+
 namespace VyrHost {
 
 using VyrPlatform::NameFault;
@@ -16,6 +18,10 @@ std::string_view WordFor(Status status)
         return "unchanged";
     case Status::Skipped:
         return "skipped";
+    case Status::Failed:
+        return "failed";
+    case Status::NotReached:
+        return "not reached";
     case Status::Refused:
         break;
     }
@@ -26,6 +32,7 @@ std::string_view WordsFor(Reason reason)
 {
     switch (reason) {
     case Reason::None:
+    case Reason::Applying:
         break;
     case Reason::NoSuchEntry:
         return "nothing of that name is there";
@@ -43,6 +50,8 @@ std::string_view WordsFor(Reason reason)
         return "another entry gets the same name";
     case Reason::NoFreeNumber:
         return "every number is taken";
+    case Reason::CompanionRefused:
+        return "a file that it belongs to cannot get its name";
     case Reason::NewLoneSurrogate:
         return "the new name would hold half a character";
     case Reason::DotName:
@@ -53,10 +62,21 @@ std::string_view WordsFor(Reason reason)
         return "the new name would be too long";
     case Reason::ReservedWord:
         return "the new name would be a reserved word";
+    case Reason::Stopped:
+        return "another entry's name is taken";
     case Reason::TrailingDotOrBlank:
         return "the new name would end in a dot or a blank";
     }
     return {};
+}
+
+std::string ReasonFor(const Outcome& outcome, std::size_t index)
+{
+    std::string text(WordsFor(outcome.decisions[index].reason));
+    const auto cause = outcome.causes.find(static_cast<std::uint32_t>(index));
+    if (cause != outcome.causes.end())
+        text.append(text.empty() ? "" : ": ").append(VyrPlatform::Encoding::ToUtf8(cause->second));
+    return text;
 }
 
 std::string_view WarningFor(NameFault fault)

@@ -2,8 +2,10 @@
 #include <VyrHost/preview/Allotment.h>
 
 #include <VyrHost/preview/NameJudge.h>
-#include <VyrHost/preview/NumberedNames.h>
+#include <VyrHost/preview/NumberedName.h>
 
+#include <algorithm>
+#include <optional>
 #include <unordered_map>
 
 namespace VyrHost {
@@ -15,25 +17,40 @@ using VyrPlatform::FileSystem::Kind;
 class Allotment
 {
 public:
-    Allotment(EntryList& list, std::vector<Decision>& decisions, const ConflictSettings& settings, bool mayNumber)
-        : m_list(list), m_decisions(decisions), m_settings(settings), m_mayNumber(mayNumber)
+    Allotment(EntryList& list, const Groups& groups, std::vector<Decision>& decisions, const ConflictSettings& settings,
+              bool mayNumber)
+        : m_list(list), m_groups(groups), m_decisions(decisions), m_settings(settings), m_mayNumber(mayNumber)
     {}
 
     void Run()
     {
-        const auto count = static_cast<std::uint32_t>(m_list.entries.size());
-        for (std::uint32_t entry = 0; entry < count; ++entry)
-            if (!m_decisions[entry].IsRename())
-                HoldOwnName(entry);
-        for (std::uint32_t entry = 0; entry < count; ++entry)
+        for (std::uint32_t entry = 0; entry < m_decisions.size(); ++entry) {
             if (m_decisions[entry].IsRename())
-                Place(entry);
+                continue;
+            HoldOwnName(entry);
+        }
+        for (std::size_t group = 0; group < m_groups.Count(); ++group)
+            if (IsToSettle(group))
+                Place(static_cast<std::uint32_t>(group));
     }
 
 private:
-    void Place(std::uint32_t entry)
+    /// Whether the entry takes part in what its group decides: it has a name that it wants.
+    [[nodiscard]] bool TakesPart(std::uint32_t entry) const
     {
-        m_pending.push_back(entry);
+        return m_decisions[entry].IsRename() || m_decisions[entry].status == Status::Unchanged;
+    }
+
+    [[nodiscard]] bool IsToSettle(std::size_t group) const
+    {
+        const auto members = m_groups.Members(group);
+        return std::any_of(members.begin(), members.end(),
+                           [this](std::uint32_t entry) { return m_decisions[entry].IsRename(); });
+    }
+
+    void Place(std::uint32_t group)
+    {
+        m_pending.push_back(group);
         while (!m_pending.empty()) {
             const std::uint32_t next = m_pending.back();
             m_pending.pop_back();
@@ -41,71 +58,109 @@ private:
         }
     }
 
-    void Settle(std::uint32_t entry)
+    /// Gives the members of a group their names, or decides that they stay.
+    void Settle(std::uint32_t group)
     {
-        Decision& decision = m_decisions[entry];
-        const std::u16string_view wanted = WantedName(entry);
-        NameRecord& record = Names(decision).Add(wanted);
-        if (IsFree(record)) {
-            record.holder = entry;
+        m_members.clear();
+        for (const std::uint32_t entry : m_groups.Members(group))
+            if (TakesPart(entry))
+                m_members.push_back(entry);
+        for (const std::uint32_t entry : m_members)
+            Release(entry);
+        const std::optional<Clash> clash = GiveWanted(group);
+        if (!clash)
             return;
-        }
-        if (m_settings.mode == OnConflict::Number && m_mayNumber)
-            Number(entry, wanted);
+        if (m_settings.mode == OnConflict::Number && m_mayNumber && !clash->isWithin)
+            Number();
         else
-            Stay(entry, m_settings.mode == OnConflict::Skip ? Status::Skipped : Status::Refused, ClashOf(record));
+            Stay(m_settings.mode == OnConflict::Skip ? Status::Skipped : Status::Refused, clash->reason);
     }
 
-    void Number(std::uint32_t entry, std::u16string_view wanted)
+    struct Clash
     {
-        Decision& decision = m_decisions[entry];
-        NumberedNames& names = NamesFor(entry, wanted);
-        for (CString name = names.Next(); !name.IsEmpty(); name = names.Next()) {
-            if (const Reason reason = JudgeName(name, m_list.entries[entry].name).reason; reason != Reason::None) {
-                Stay(entry, Status::Refused, reason);
+        Reason reason;
+        /// The name is taken by another member of the group, which no number changes.
+        bool isWithin;
+    };
+
+    /// Gives each member the name that it wants; where one of those is taken, none of them.
+    std::optional<Clash> GiveWanted(std::uint32_t group)
+    {
+        for (std::size_t place = 0; place < m_members.size(); ++place) {
+            const std::uint32_t entry = m_members[place];
+            const NameRecord& record = Names(entry).Add(WantedName(entry));
+            if (IsFree(record)) {
+                Give(entry, WantedName(entry), Status::Renamed);
+                continue;
+            }
+            const bool isWithin = record.holder < NewFolder && m_groups.Of(record.holder) == group;
+            const Clash clash{ClashOf(record), isWithin};
+            for (std::size_t given = 0; given < place; ++given)
+                Release(m_members[given]);
+            return clash;
+        }
+        return std::nullopt;
+    }
+
+    /// Numbers all members with the first number that is free for each of them.
+    void Number()
+    {
+        std::vector<NumberedName> names;
+        for (const std::uint32_t entry : m_members)
+            names.push_back(NumberedNameOf(entry));
+        std::uint64_t& attempt = AttemptOf(m_members.front());
+        const std::uint64_t end = CountNumbers(m_settings.numbering.step);
+        std::vector<CString> candidates(m_members.size());
+        for (; attempt < end; ++attempt) {
+            bool areFree = true;
+            for (std::size_t place = 0; place < m_members.size(); ++place) {
+                const std::uint32_t entry = m_members[place];
+                candidates[place] = names[place].With(m_settings.numbering, attempt);
+                if (const Reason reason = JudgeName(candidates[place], m_list.entries[entry].name).reason;
+                    reason != Reason::None) {
+                    Stay(Status::Refused, reason);
+                    return;
+                }
+                const NameRecord* const record = Names(entry).Find(candidates[place]);
+                areFree = areFree && (!record || IsFree(*record));
+            }
+            if (areFree) {
+                ++attempt;
+                GiveNumbered(candidates);
                 return;
             }
-            NameRecord* record = Names(decision).Find(name);
-            if (record && !IsFree(*record))
-                continue;
-            m_wanted.try_emplace(entry, wanted);
-            decision.name = m_list.folders.Keep(name);
-            if (!record)
-                record = &Names(decision).Add(decision.name);
-            record->holder = entry;
-            const Entry& own = m_list.entries[entry];
-            const bool isOwn = decision.folder == own.folder && decision.name == own.name;
-            decision.status = isOwn ? Status::Unchanged : Status::Numbered;
-            return;
         }
-        Stay(entry, Status::Refused, Reason::NoFreeNumber);
+        Stay(Status::Refused, Reason::NoFreeNumber);
     }
 
-    /// The numbered names of `wanted`, from where the last entry that wanted it left off.
-    NumberedNames& NamesFor(std::uint32_t entry, std::u16string_view wanted)
+    void GiveNumbered(const std::vector<CString>& candidates)
     {
-        const Decision& decision = m_decisions[entry];
-        NameTable& names = Names(decision);
-        const NameRecord& record = names.Add(wanted);
-        const auto index = static_cast<std::uint64_t>(&record - names.Records().data());
-        const std::uint64_t key = (std::uint64_t{decision.folder} << 32) | index;
-        const auto found = m_numbered.find(key);
-        if (found != m_numbered.end())
-            return found->second;
-        // As the engine splits: by what stands there, where something does.
-        const Kind kind = record.kind == Kind::Missing ? m_list.entries[entry].kind : record.kind;
-        const CString path = CString::Join({m_list.folders[decision.folder].path, wanted});
-        return m_numbered.try_emplace(key, path, kind == Kind::Folder, m_settings.numbering).first->second;
+        for (std::size_t place = 0; place < m_members.size(); ++place) {
+            const std::uint32_t entry = m_members[place];
+            m_wanted.try_emplace(entry, m_decisions[entry].name);
+            Give(entry, m_list.folders.Keep(candidates[place]), Status::Numbered);
+        }
     }
 
-    /// The entry keeps the name that it has, whoever was to get it.
-    void Stay(std::uint32_t entry, Status status, Reason reason)
+    void Give(std::uint32_t entry, std::u16string_view name, Status status)
     {
         Decision& decision = m_decisions[entry];
-        decision.name = WantedName(entry);
-        decision.status = status;
-        decision.reason = reason;
-        HoldOwnName(entry);
+        const Entry& own = m_list.entries[entry];
+        Names(entry).Add(name).holder = entry;
+        decision.name = name;
+        decision.status = decision.folder == own.folder && name == own.name ? Status::Unchanged : status;
+    }
+
+    /// The members keep the names that they have, whoever was to get those.
+    void Stay(Status status, Reason reason)
+    {
+        for (const std::uint32_t entry : m_members) {
+            Decision& decision = m_decisions[entry];
+            decision.name = WantedName(entry);
+            decision.status = status;
+            decision.reason = reason;
+            HoldOwnName(entry);
+        }
     }
 
     void HoldOwnName(std::uint32_t entry)
@@ -114,20 +169,48 @@ private:
         if (own.kind == Kind::Missing)
             return;
         NameRecord& record = m_list.folders[own.folder].names.Add(own.name);
-        if (record.holder != NoEntry)
-            m_pending.push_back(record.holder);
+        if (record.holder < NewFolder && record.holder != entry)
+            m_pending.push_back(m_groups.Of(record.holder));
         record.holder = entry;
     }
 
-    /// What the rules made, before any number.
+    /// Lets go of what the entry holds.
+    void Release(std::uint32_t entry)
+    {
+        NameRecord* const record = Names(entry).Find(m_decisions[entry].name);
+        if (record && record->holder == entry)
+            record->holder = NoEntry;
+    }
+
+    /// What was wanted before any number.
     [[nodiscard]] std::u16string_view WantedName(std::uint32_t entry) const
     {
         const auto found = m_wanted.find(entry);
         return found != m_wanted.end() ? found->second : m_decisions[entry].name;
     }
 
-    /// Whether nobody else has the name after the batch. An entry that stays holds its own name, so an owner without
-    /// a holder leaves.
+    [[nodiscard]] NumberedName NumberedNameOf(std::uint32_t entry)
+    {
+        const std::u16string_view wanted = WantedName(entry);
+        const NameRecord* const record = Names(entry).Find(wanted);
+        // As the engine splits: by what stands there, where something does.
+        const bool isThere = record && record->kind != Kind::Missing;
+        const Kind kind = isThere ? record->kind : m_list.entries[entry].kind;
+        const CString& folder = m_list.folders[m_decisions[entry].folder].path;
+        return {CString::Join({folder, wanted}), kind == Kind::Folder};
+    }
+
+    /// Where the last entry that wanted the same name left off.
+    std::uint64_t& AttemptOf(std::uint32_t entry)
+    {
+        NameTable& names = Names(entry);
+        const NameRecord& record = names.Add(WantedName(entry));
+        const auto index = static_cast<std::uint64_t>(&record - names.Records().data());
+        return m_attempts[(std::uint64_t{m_decisions[entry].folder} << 32) | index];
+    }
+
+    /// Whether nobody has the name after the batch. An entry that stays holds its own name, so an owner without a
+    /// holder leaves.
     static bool IsFree(const NameRecord& record)
     {
         return record.holder == NoEntry && (record.kind == Kind::Missing || record.owner != NoEntry);
@@ -135,28 +218,33 @@ private:
 
     [[nodiscard]] Reason ClashOf(const NameRecord& record) const
     {
-        const bool goesToOther = record.holder != NoEntry && m_decisions[record.holder].IsRename();
+        const bool goesToOther = record.holder < NewFolder && m_decisions[record.holder].IsRename();
         return goesToOther ? Reason::TwoToOne : Reason::TargetExists;
     }
 
-    [[nodiscard]] NameTable& Names(const Decision& decision) { return m_list.folders[decision.folder].names; }
+    [[nodiscard]] NameTable& Names(std::uint32_t entry) { return m_list.folders[m_decisions[entry].folder].names; }
 
     EntryList& m_list;
+    const Groups& m_groups;
     std::vector<Decision>& m_decisions;
     const ConflictSettings& m_settings;
     const bool m_mayNumber;
+    /// Groups to settle.
     std::vector<std::uint32_t> m_pending;
+    /// The members that take part of the group in hand.
+    std::vector<std::uint32_t> m_members;
     /// What the entries wanted that got a numbered name.
     std::unordered_map<std::uint32_t, std::u16string_view> m_wanted;
-    /// By folder and index of the name's record.
-    std::unordered_map<std::uint64_t, NumberedNames> m_numbered;
+    /// The next attempt at a number, by folder and index of the wanted name's record.
+    std::unordered_map<std::uint64_t, std::uint64_t> m_attempts;
 };
 
 } // namespace
 
-void Allot(EntryList& list, std::vector<Decision>& decisions, const ConflictSettings& settings, bool mayNumber)
+void Allot(EntryList& list, const Groups& groups, std::vector<Decision>& decisions, const ConflictSettings& settings,
+           bool mayNumber)
 {
-    Allotment(list, decisions, settings, mayNumber).Run();
+    Allotment(list, groups, decisions, settings, mayNumber).Run();
 }
 
 } // namespace VyrHost

@@ -8,9 +8,10 @@
 
 namespace VyrHost {
 
-/// Goes through `decisions` in order and gives each entry that is to be renamed its name, a numbered one, or none.
+/// Goes through `decisions` group by group and gives those that are to be renamed their names, numbered ones, or none.
 /// Numbers are tried as the engine tries them; time grows with the number of entries, however many want one name.
-/// @param mayNumber  whether the rules allow numbering at all.
-void Allot(EntryList& list, std::vector<Decision>& decisions, const ConflictSettings& settings, bool mayNumber);
+/// @param mayNumber  whether numbering is allowed at all.
+void Allot(EntryList& list, const Groups& groups, std::vector<Decision>& decisions, const ConflictSettings& settings,
+           bool mayNumber);
 
 } // namespace VyrHost

@@ -2,10 +2,13 @@
 /// What a preview says of one entry.
 #pragma once
 
+#include <VyrPlatform/CString.h>
 #include <VyrPlatform/NameRules.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace VyrHost {
@@ -21,8 +24,15 @@ enum class Status : std::uint8_t
     /// Its new name is taken, and the user asked to leave such entries alone.
     Skipped,
     /// Cannot get its new name; the reason says why.
-    Refused
+    Refused,
+    /// Was to get its new name, but the system did not do it.
+    Failed,
+    /// Was to get its new name, but the work was ended before.
+    NotReached
 };
+
+/// The number of statuses.
+inline constexpr std::size_t StatusCount = static_cast<std::size_t>(Status::NotReached) + 1;
 
 enum class Reason : std::uint8_t
 {
@@ -39,13 +49,19 @@ enum class Reason : std::uint8_t
     /// Another entry of the list gets the name.
     TwoToOne,
     NoFreeNumber,
+    /// An entry that keeps together with this one cannot get its name.
+    CompanionRefused,
     /// The name has a lone surrogate that the old name did not have.
     NewLoneSurrogate,
     DotName,
     ForbiddenCharacter,
     TooLong,
     ReservedWord,
-    TrailingDotOrBlank
+    TrailingDotOrBlank,
+    /// Another entry's name is taken, which stops all.
+    Stopped,
+    /// What applying found; the cause says it.
+    Applying
 };
 
 struct Decision
@@ -59,7 +75,21 @@ struct Decision
     /// What the new name would be in trouble for on Windows, on a system that takes it.
     VyrPlatform::NameFault warning = VyrPlatform::NameFault::None;
 
+    void Refuse(Reason why)
+    {
+        status = Status::Refused;
+        reason = why;
+    }
     [[nodiscard]] bool IsRename() const { return status == Status::Renamed || status == Status::Numbered; }
+};
+
+/// A preview, or what became of it.
+struct Outcome
+{
+    /// One for each entry of the list.
+    std::vector<Decision> decisions;
+    /// What there is to say beyond the reason, by entry.
+    std::unordered_map<std::uint32_t, CString> causes;
 };
 
 } // namespace VyrHost

@@ -1,11 +1,12 @@
-// Runs the rules over the list and settles who gets which name.
+// Asks for new names, judges them, and has them allotted.
 #include <VyrHost/preview/Preview.h>
 
 #include <VyrHost/preview/Allotment.h>
 #include <VyrHost/preview/NameJudge.h>
-#include <VyrPlatform/FileSystem.h>
+#include <VyrHost/preview/TargetFolders.h>
 
 #include <algorithm>
+#include <span>
 
 namespace VyrHost {
 
@@ -13,95 +14,109 @@ namespace {
 
 using VyrPlatform::FileSystem::Kind;
 
-Decision Refused(Decision decision, Reason reason)
-{
-    decision.status = Status::Refused;
-    decision.reason = reason;
-    return decision;
-}
-
-Reason ReasonOf(RuleFault fault)
-{
-    return fault == RuleFault::BadFolder ? Reason::BadFolder : Reason::NoDate;
-}
-
-/// Runs the rules over entry after entry.
-class Namer
+class Naming
 {
 public:
-    Namer(EntryList& list, const Rules& rules) : m_list(list), m_rules(rules) {}
+    Naming(EntryList& list, NameSource& source)
+        : m_list(list), m_source(source), m_targets(list.folders), m_decisions(list.entries.size())
+    {}
 
-    Decision Name(const Entry& entry)
+    void NameGroup(std::span<const std::uint32_t> members)
     {
-        Decision decision;
-        decision.folder = entry.folder;
-        if (m_list.folders[entry.folder].error != 0)
-            return Refused(decision, Reason::FolderNotRead);
-        if (entry.kind == Kind::Missing)
-            return Refused(decision, Reason::NoSuchEntry);
-        Fill(entry);
-        for (const auto& rule : m_rules)
-            if (const RuleFault fault = rule->Apply(m_subject); fault != RuleFault::None)
-                return Refused(decision, ReasonOf(fault));
-        if (m_subject.name.IsEmpty())
-            return Refused(decision, Reason::EmptyName);
-        return Judge(entry, decision);
+        m_present.clear();
+        for (const std::uint32_t entry : members)
+            if (LookFor(entry))
+                m_present.push_back(entry);
+        if (m_present.empty())
+            return;
+        m_source.Name(m_list, m_present, m_names);
+        for (std::size_t place = 0; place < m_present.size(); ++place)
+            Judge(m_present[place], m_names[place]);
+        KeepTogether();
     }
+
+    std::vector<Decision> TakeDecisions() { return std::move(m_decisions); }
 
 private:
-    void Fill(const Entry& entry)
+    /// Refuses an entry that is not there.
+    bool LookFor(std::uint32_t index)
     {
-        m_subject.folder = m_list.folders[entry.folder].path;
-        m_subject.path = CString::Join({m_subject.folder, entry.name});
-        m_subject.isFolder = entry.kind == Kind::Folder;
-        m_subject.index = m_index++;
-        SplitName split = Split(m_subject.path, entry);
-        m_subject.name.Swap(split.name);
-        m_subject.extension.Swap(split.extension);
+        const Entry& entry = m_list.entries[index];
+        Decision& decision = m_decisions[index];
+        decision.folder = entry.folder;
+        if (!m_list.folders[entry.folder].exists)
+            decision.Refuse(Reason::FolderNotRead);
+        else if (entry.kind == Kind::Missing)
+            decision.Refuse(Reason::NoSuchEntry);
+        return decision.status != Status::Refused;
     }
 
-    Decision Judge(const Entry& entry, Decision decision)
+    void Judge(std::uint32_t index, const WantedName& wanted)
     {
-        if (m_subject.folder != m_list.folders[entry.folder].path)
-            decision.folder = OpenTarget(entry);
-        const CString name = m_subject.name + m_subject.extension;
-        if (decision.folder == entry.folder && name == entry.name) {
+        const Entry& entry = m_list.entries[index];
+        Decision& decision = m_decisions[index];
+        if (wanted.reason != Reason::None) {
+            decision.Refuse(wanted.reason);
+            return;
+        }
+        const bool moves = wanted.folder != m_list.folders[entry.folder].path;
+        if (!moves && wanted.name == entry.name) {
             decision.name = entry.name;
             decision.status = Status::Unchanged;
-            return decision;
+            return;
         }
-        decision.name = m_list.folders.Keep(name);
+        decision.name = m_list.folders.Keep(wanted.name);
         const NameJudgement judgement = JudgeName(decision.name, entry.name);
-        if (judgement.reason != Reason::None)
-            return Refused(decision, judgement.reason);
         decision.warning = judgement.warning;
-        return decision;
+        if (judgement.reason != Reason::None)
+            decision.Refuse(judgement.reason);
+        else if (moves)
+            Move(decision, wanted);
     }
 
-    std::uint32_t OpenTarget(const Entry& entry)
+    void Move(Decision& decision, const WantedName& wanted)
     {
-        const Folder& now = m_list.folders[entry.folder];
-        const CString shown = now.shown + m_subject.folder.Mid(now.path.GetLength());
-        return m_list.folders.Open(m_subject.folder, shown);
+        const TargetFolders::Target target = m_targets.Open(wanted.folder, wanted.shownFolder);
+        decision.folder = target.folder;
+        if (target.reason != Reason::None)
+            decision.Refuse(target.reason);
+    }
+
+    /// Where one of those that keep together is refused, all are.
+    void KeepTogether()
+    {
+        const auto isRefused = [this](std::uint32_t entry) {
+            return m_decisions[entry].status == Status::Refused;
+        };
+        if (m_present.size() == 1 || std::none_of(m_present.begin(), m_present.end(), isRefused))
+            return;
+        for (const std::uint32_t entry : m_present)
+            if (!isRefused(entry))
+                m_decisions[entry].Refuse(Reason::CompanionRefused);
     }
 
     EntryList& m_list;
-    const Rules& m_rules;
-    Subject m_subject;
-    int m_index = 0;
+    NameSource& m_source;
+    TargetFolders m_targets;
+    std::vector<Decision> m_decisions;
+    std::vector<std::uint32_t> m_present;
+    std::vector<WantedName> m_names;
 };
 
 } // namespace
 
-std::vector<Decision> Decide(EntryList& list, const Rules& rules, const ConflictSettings& settings)
+std::vector<Decision> Decide(EntryList& list, const Groups& groups, NameSource& names, const ConflictSettings& settings,
+                             const NamingProgress& progress)
 {
-    std::vector<Decision> decisions;
-    decisions.reserve(list.entries.size());
-    Namer namer(list, rules);
-    for (const Entry& entry : list.entries)
-        decisions.push_back(namer.Name(entry));
-    const bool mayNumber = std::any_of(rules.begin(), rules.end(), [](const auto& rule) { return rule->MayNumber(); });
-    Allot(list, decisions, settings, mayNumber);
+    constexpr std::size_t Often = 32;
+    Naming naming(list, names);
+    for (std::size_t group = 0; group < groups.Count(); ++group) {
+        naming.NameGroup(groups.Members(group));
+        if (progress && group % Often == 0)
+            progress(group);
+    }
+    std::vector<Decision> decisions = naming.TakeDecisions();
+    Allot(list, groups, decisions, settings, names.MayNumber());
     return decisions;
 }
 

@@ -1,13 +1,15 @@
 /// @file
-/// Decides what becomes of each entry of a list under the rules.
+/// Decides what becomes of each entry of a list.
 #pragma once
 
 #include <VyrHost/entries/EntryList.h>
+#include <VyrHost/entries/Groups.h>
 #include <VyrHost/preview/Decision.h>
-#include <VyrHost/rules/Rule.h>
+#include <VyrHost/preview/NameSource.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace VyrHost {
@@ -30,12 +32,17 @@ struct ConflictSettings
     VyrLibraryFuncs::NameFuncs::CONFLICTITEM numbering;
 };
 
+/// Told now and then how many entries have their names.
+using NamingProgress = std::function<void(std::size_t named)>;
+
 /// One decision for each entry of `list`, in its order. Only the listings that `list` brings are asked what stands on
 /// the disk, and those of the folders that entries move into.
 ///
 /// Names are judged as they are after the batch: an entry's own name and the names that the batch vacates are free, the
 /// names given to earlier entries are taken. An entry that is refused keeps its name, and whoever was to get that name
-/// is decided anew.
-[[nodiscard]] std::vector<Decision> Decide(EntryList& list, const Rules& rules, const ConflictSettings& settings);
+/// is decided anew. Of entries that keep together either all get their names, with one number where one is needed, or
+/// none does.
+[[nodiscard]] std::vector<Decision> Decide(EntryList& list, const Groups& groups, NameSource& names,
+                                           const ConflictSettings& settings, const NamingProgress& progress = {});
 
 } // namespace VyrHost

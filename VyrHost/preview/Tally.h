@@ -22,7 +22,7 @@ public:
     [[nodiscard]] std::size_t operator[](Status status) const { return m_counts[static_cast<std::size_t>(status)]; }
 
 private:
-    std::array<std::size_t, static_cast<std::size_t>(Status::Refused) + 1> m_counts{};
+    std::array<std::size_t, StatusCount> m_counts{};
 };
 
 } // namespace VyrHost

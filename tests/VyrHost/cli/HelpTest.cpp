@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include <regex>
 #include <sstream>
 
 using namespace VyrTests;
@@ -42,7 +43,8 @@ std::vector<std::string> Examples(const std::string& help)
 {
     std::vector<std::string> examples;
     std::istringstream lines(help.substr(std::min(help.find("\nExamples:\n"), help.size())));
-    for (std::string line; std::getline(lines, line);)
+    lines.ignore(1);
+    for (std::string line; std::getline(lines, line) && !line.empty();)
         if (line.find("vyr ") != std::string::npos && line.starts_with("  ") && line[2] != ' ')
             examples.push_back(line.substr(2));
     return examples;
@@ -54,7 +56,8 @@ TEST_F(Help, TellsTheVersionThatTheProgramCarries)
 {
     const ProgramResult result = Run({u"--version"});
     EXPECT_EQ(result.exitCode, 0);
-    EXPECT_THAT(result.output, testing::MatchesRegex("vyr \\(VyrLibrary\\) [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+    const std::regex version("vyr \\(VyrLibrary\\) [0-9]+\\.[0-9]+\\.[0-9]+\r?\n");
+    EXPECT_TRUE(std::regex_match(result.output, version)) << result.output;
 }
 
 TEST_F(Help, NamesTheCommandsAndTheExitCodes)

@@ -44,7 +44,7 @@ TEST_F(RenamePreview, ShowsOldAndNewNamesAndCounts)
 
 TEST_F(RenamePreview, WritesAJsonObjectALine)
 {
-    m_folder.WriteFile(u"a \"1\".txt");
+    m_folder.WriteFile(u"a é.txt");
     m_folder.WriteFile(u"b.txt");
     const ProgramResult result = Rename({u"--json", u"--replace", u"a", u"b", u"b.txt", u"none", u"a*"});
     EXPECT_EQ(result.exitCode, 1);
@@ -54,7 +54,7 @@ TEST_F(RenamePreview, WritesAJsonObjectALine)
     EXPECT_EQ(result.output, "{\"from\":" + path(u"b.txt") + ",\"to\":" + path(u"b.txt") +
                                  ",\"status\":\"unchanged\"}\n" + "{\"from\":" + path(u"none") +
                                  ",\"to\":null,\"status\":\"refused\",\"reason\":\"nothing of that name is there\"}\n" +
-                                 "{\"from\":" + path(u"a \"1\".txt") + ",\"to\":" + path(u"b \"1\".txt") +
+                                 "{\"from\":" + path(u"a é.txt") + ",\"to\":" + path(u"b é.txt") +
                                  ",\"status\":\"renamed\"}\n");
     EXPECT_EQ(result.errors, "3 entries: 1 renamed, 1 unchanged, 1 refused.\n");
 }

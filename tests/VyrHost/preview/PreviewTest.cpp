@@ -2,6 +2,7 @@
 #include <VyrHost/preview/Preview.h>
 
 #include <VyrHost/entries/Gather.h>
+#include <VyrHost/preview/RuleNames.h>
 #include <VyrHost/rules/RuleTexts.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrPlatform/Encoding.h>
@@ -31,6 +32,12 @@ ConflictSettings Mode(OnConflict mode)
     return settings;
 }
 
+std::vector<Decision> DecideByRules(EntryList& list, const Rules& rules, OnConflict mode)
+{
+    RuleNames names(rules, Counting::WholeList);
+    return Decide(list, Groups::OfOne(list), names, Mode(mode));
+}
+
 /// A decision as "NAME" (renamed), "NAME #" (numbered), "=" (unchanged), "skip" or "no NUMBER-OF-REASON".
 std::string Told(const Decision& decision)
 {
@@ -43,7 +50,7 @@ std::string Told(const Decision& decision)
         return "=";
     case Status::Skipped:
         return "skip";
-    case Status::Refused:
+    default:
         break;
     }
     return "no " + std::to_string(static_cast<int>(decision.reason));
@@ -79,7 +86,7 @@ protected:
     {
         Gathered gathered = GatherNamed(names);
         Strings told;
-        for (const Decision& decision : Decide(gathered.list, rules, Mode(mode)))
+        for (const Decision& decision : DecideByRules(gathered.list, rules, mode))
             told.push_back(Told(decision));
         return told;
     }
@@ -151,7 +158,7 @@ TEST_F(Preview, AgreesWithTheEngineWhereOnlyTheDiskMatters)
         for (auto& rule : PrefixRules(wanted))
             rules.push_back(std::move(rule));
         Gathered gathered = GatherNamed({entry});
-        const std::vector<Decision> decisions = Decide(gathered.list, rules, Mode(OnConflict::Number));
+        const std::vector<Decision> decisions = DecideByRules(gathered.list, rules, OnConflict::Number);
         const CString engine = NameFuncs::GetResolveConflictFilePath(m_folder.Path(CString(wanted) + ending),
                                                                      Mode(OnConflict::Number).numbering);
         EXPECT_EQ(m_folder.Path(decisions[0].name), engine);
@@ -207,8 +214,8 @@ TEST_F(Preview, WhoeverWasToGetTheNameOfARefusedEntryIsDecidedAnew)
     EXPECT_EQ(DecideNamed({u"x1", u"x2", u"x3"}, rules),
               (Strings{No(Reason::TargetExists), No(Reason::TargetExists), No(Reason::TargetExists)}));
     // With numbers the one in front gets another name.
-    rules.push_back(std::move(InsertRules(u"-0:.").front()));
-    EXPECT_EQ(DecideNamed({u"x1", u"x2", u"x3"}, rules), (Strings{"x2.", "x3.", "x4."}));
+    rules.push_back(std::move(InsertRules(u"-0:!").front()));
+    EXPECT_EQ(DecideNamed({u"x1", u"x2", u"x3"}, rules), (Strings{"x2!", "x3!", "x4!"}));
 }
 
 TEST_F(Preview, RefusesNamesThatAreTooLong)
@@ -246,7 +253,7 @@ TEST_F(Preview, NumbersTenThousandEntriesThatWantOneNameQuickly)
     settings.recursive = true;
     Gathered gathered = Gather(settings);
     const auto begin = std::chrono::steady_clock::now();
-    const std::vector<Decision> decisions = Decide(gathered.list, KeepFirstRules(u"1"), Mode(OnConflict::Number));
+    const std::vector<Decision> decisions = DecideByRules(gathered.list, KeepFirstRules(u"1"), OnConflict::Number);
     const auto taken = std::chrono::steady_clock::now() - begin;
     std::set<std::u16string_view> names;
     for (const Decision& decision : decisions) {

@@ -1,0 +1,211 @@
+// Declares and reads the options of "vyr rename" beside the rules.
+#include <VyrHost/cli/RenameOptions.h>
+
+#include <VyrHost/UsageError.h>
+#include <VyrHost/cli/ArgumentText.h>
+#include <VyrHost/output/SafeText.h>
+#include <VyrHost/rules/LiteralText.h>
+#include <VyrHost/rules/RuleTexts.h>
+
+#include <CLI/CLI.hpp>
+
+#include <limits>
+#include <utility>
+
+namespace VyrHost {
+
+namespace {
+
+/// A word of an option and what it stands for.
+template <class Value>
+using Words = std::vector<std::pair<std::string, Value>>;
+
+/// What the word `text` stands for; the first of `words` when it is empty.
+template <class Value>
+Value ReadWord(const std::string& text, const char* option, const Words<Value>& words)
+{
+    if (text.empty())
+        return words.front().second;
+    std::string expected;
+    for (const auto& [word, value] : words) {
+        if (text == word)
+            return value;
+        expected.append(expected.empty() ? "" : ", ").append(word);
+    }
+    throw UsageError(std::string(option) + " '" + SafeText(FromParser(text)) + "': one of " + expected +
+                     " is expected");
+}
+
+int ReadNumber(const std::string& text, int usual, const char* option)
+{
+    return text.empty() ? usual : ParseNumber(FromParser(text), std::numeric_limits<int>::min(), option);
+}
+
+CLI::Option* AddText(CLI::App& command, const char* name, std::string& text, const char* value, const char* help,
+                     const char* group)
+{
+    return command.add_option(name, text, help)->type_name(value)->group(group);
+}
+
+void AddFlag(CLI::App& command, const char* name, bool& flag, const char* help, const char* group)
+{
+    command.add_flag(name, flag, help)->group(group);
+}
+
+} // namespace
+
+RenameOptions::RenameOptions(CLI::App& command)
+{
+    AddSources(command);
+    AddOrder(command);
+    AddConflicts(command);
+    AddOutput(command);
+}
+
+void RenameOptions::AddSources(CLI::App& command)
+{
+    constexpr const char* Group = "What to rename";
+    command.add_option("PATH", m_paths, "Files and folders to rename; * and ? match names where the shell leaves them")
+        ->type_name("");
+    AddFlag(command, "-r,--recursive", m_recursive, "Rename what is below a folder instead of the folder itself",
+            Group);
+    AddText(command, "--only", m_pick, "KIND", "With --recursive: rename files (usual), folders or all", Group);
+    AddFlag(command, "--hidden", m_hidden, "With --recursive and wildcards: names that begin with a dot, too", Group);
+    AddFlag(command, "--stdin", m_lines, "Read names from the standard input, one a line", Group);
+    AddFlag(command, "--stdin0", m_terminated, "Read names from the standard input, each ended by a NUL", Group);
+    AddText(command, "--pairs", m_pairs, "FILE",
+            "Read pairs of old and new names from a CSV or tab-separated file; - is the standard input", Group);
+    AddFlag(command, "--edit", m_edit, "Look through the new names in your editor ($VISUAL, $EDITOR)", Group);
+}
+
+void RenameOptions::AddOrder(CLI::App& command)
+{
+    constexpr const char* Group = "Order and numbers";
+    AddText(command, "--sort", m_sort, "KEY", "Sort by name, date (modified), picture-date or size; usual: given",
+            Group);
+    AddFlag(command, "--descending", m_isDescending, "Turn the order round", Group);
+    AddFlag(command, "--number-per-folder", m_countsPerFolder, "Start the numbers anew in each folder", Group);
+    AddFlag(command, "--together", m_together,
+            "Give files that differ in their extensions alone (raw, JPEG, sidecar) one new name, by the date of the "
+            "first that has one",
+            Group);
+}
+
+void RenameOptions::AddConflicts(CLI::App& command)
+{
+    constexpr const char* Group = "When a name is taken";
+    AddText(command, "--on-conflict", m_onConflict, "WHAT",
+            "number it (usual, where the rules allow that), skip the entry, or fail: rename nothing at all", Group);
+    AddText(command, "--conflict-pattern", m_conflictPattern, "TEXT", "What is put in; ? is the number (\" (?)\")",
+            Group);
+    AddText(command, "--conflict-position", m_conflictPosition, "WHERE", "after the name (usual) or before it", Group);
+    AddText(command, "--conflict-start", m_conflictStart, "N", "The first number (1)", Group);
+    AddText(command, "--conflict-step", m_conflictStep, "N", "From one number to the next (1)", Group);
+}
+
+void RenameOptions::AddOutput(CLI::App& command)
+{
+    constexpr const char* Group = "What is done and shown";
+    AddFlag(command, "--apply", m_apply, "Rename; without it the result is only shown", Group);
+    AddFlag(command, "--json", m_json, "Write one JSON object for each entry: from, to, status, reason", Group);
+    AddFlag(command, "-q,--quiet", m_quiet, "Show only what does not get its new name", Group);
+}
+
+RenameRequest RenameOptions::Read() const
+{
+    RefuseContradictions();
+    RenameRequest request;
+    request.sources = ReadSources();
+    if (!m_pairs.empty())
+        request.pairs = FromParser(m_pairs);
+    request.order = ReadOrder();
+    request.counting = m_countsPerFolder ? Counting::EachFolder : Counting::WholeList;
+    request.together = m_together;
+    ReadConflicts(request);
+    request.edit = m_edit;
+    request.apply = m_apply;
+    request.json = m_json;
+    request.quiet = m_quiet;
+    return request;
+}
+
+void RenameOptions::RefuseContradictions() const
+{
+    const auto refuse = [](const char* what) {
+        throw UsageError(what);
+    };
+    const bool hasInput = m_lines || m_terminated;
+    if (m_lines && m_terminated)
+        refuse("--stdin and --stdin0 exclude each other");
+    if (!m_pick.empty() && !m_recursive)
+        refuse("--only says what --recursive takes, which is not given");
+    if (m_json && m_quiet)
+        refuse("--json and --quiet exclude each other");
+    if (m_pairs.empty() && m_paths.empty() && !hasInput)
+        refuse("nothing to rename is named");
+    if (m_pairs.empty())
+        return;
+    if (!m_paths.empty() || hasInput || m_recursive)
+        refuse("--pairs names the entries itself; no other entries can be named");
+    if (m_edit || m_together || m_countsPerFolder)
+        refuse("--pairs gives each new name itself; --edit, --together and --number-per-folder do not go with it");
+}
+
+SourceSettings RenameOptions::ReadSources() const
+{
+    SourceSettings settings;
+    for (const std::string& path : m_paths)
+        settings.paths.push_back(FromParser(path));
+    settings.recursive = m_recursive;
+    settings.pick =
+        ReadWord<Pick>(m_pick, "--only", {{"files", Pick::Files}, {"folders", Pick::Folders}, {"all", Pick::All}});
+    settings.hidden = m_hidden;
+    if (m_lines || m_terminated)
+        settings.input = m_lines ? InputNames::Lines : InputNames::Terminated;
+    return settings;
+}
+
+SortSettings RenameOptions::ReadOrder() const
+{
+    SortSettings order;
+    order.key = ReadWord<SortKey>(m_sort, "--sort",
+                                  {{"given", SortKey::Given},
+                                   {"name", SortKey::Name},
+                                   {"date", SortKey::Modified},
+                                   {"picture-date", SortKey::Taken},
+                                   {"size", SortKey::Size}});
+    order.isDescending = m_isDescending;
+    return order;
+}
+
+void RenameOptions::ReadConflicts(RenameRequest& request) const
+{
+    enum class Word
+    {
+        Number,
+        Skip,
+        Fail
+    };
+    const auto word = ReadWord<Word>(m_onConflict, "--on-conflict",
+                                     {{"number", Word::Number}, {"skip", Word::Skip}, {"fail", Word::Fail}});
+    const bool hasNumbering = !m_conflictPattern.empty() || !m_conflictPosition.empty() || !m_conflictStart.empty() ||
+                              !m_conflictStep.empty();
+    if (hasNumbering && word != Word::Number)
+        throw UsageError("--on-conflict=" + m_onConflict + " numbers nothing; no other --conflict option goes with it");
+    request.failOnConflict = word == Word::Fail;
+    request.conflicts.mode = word == Word::Number ? OnConflict::Number
+                             : word == Word::Skip ? OnConflict::Skip
+                                                  : OnConflict::Refuse;
+    auto& numbering = request.conflicts.numbering;
+    numbering.numberFormat = m_conflictPattern.empty() ? CString(u" (?)") : FromParser(m_conflictPattern);
+    RequireNameText(numbering.numberFormat, "--conflict-pattern");
+    if (numbering.numberFormat.Find(u"?") < 0)
+        throw UsageError("--conflict-pattern: it has no ? for the number, so it could never give a free name");
+    numbering.position = ReadWord<int>(m_conflictPosition, "--conflict-position", {{"after", 1}, {"before", 0}});
+    numbering.startNumber = ReadNumber(m_conflictStart, 1, "--conflict-start");
+    numbering.step = ReadNumber(m_conflictStep, 1, "--conflict-step");
+    if (numbering.step == 0)
+        throw UsageError("--conflict-step: a step of 0 could never give a free name");
+}
+
+} // namespace VyrHost

@@ -1,0 +1,60 @@
+/// @file
+/// The options of "vyr rename" beside the rules.
+#pragma once
+
+#include <VyrHost/cli/RenameRequest.h>
+
+#include <string>
+#include <vector>
+
+namespace CLI {
+class App;
+}
+
+namespace VyrHost {
+
+/// Adds the options to a command, and reads what was given. Not to be moved once it has added them.
+class RenameOptions
+{
+public:
+    explicit RenameOptions(CLI::App& command);
+    RenameOptions(const RenameOptions&) = delete;
+    RenameOptions& operator=(const RenameOptions&) = delete;
+
+    /// The request without its rules.
+    /// @throws UsageError for options that contradict each other and values that make no sense.
+    [[nodiscard]] RenameRequest Read() const;
+
+private:
+    void AddSources(CLI::App& command);
+    void AddOrder(CLI::App& command);
+    void AddConflicts(CLI::App& command);
+    void AddOutput(CLI::App& command);
+    [[nodiscard]] SourceSettings ReadSources() const;
+    [[nodiscard]] SortSettings ReadOrder() const;
+    void ReadConflicts(RenameRequest& request) const;
+    void RefuseContradictions() const;
+
+    std::vector<std::string> m_paths;
+    std::string m_pick;
+    std::string m_pairs;
+    std::string m_sort;
+    std::string m_onConflict;
+    std::string m_conflictPattern;
+    std::string m_conflictPosition;
+    std::string m_conflictStart;
+    std::string m_conflictStep;
+    bool m_recursive = false;
+    bool m_hidden = false;
+    bool m_lines = false;
+    bool m_terminated = false;
+    bool m_isDescending = false;
+    bool m_countsPerFolder = false;
+    bool m_together = false;
+    bool m_edit = false;
+    bool m_apply = false;
+    bool m_json = false;
+    bool m_quiet = false;
+};
+
+} // namespace VyrHost

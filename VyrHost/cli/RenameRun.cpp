@@ -1,0 +1,268 @@
+// Carries out a call of "vyr rename": gathers, names, shows, and applies.
+#include <VyrHost/cli/RenameRequest.h>
+
+#include <VyrHost/UsageError.h>
+#include <VyrHost/apply/Batches.h>
+#include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/Messages.h>
+#include <VyrHost/entries/EditedList.h>
+#include <VyrHost/entries/Pairs.h>
+#include <VyrHost/output/JsonLines.h>
+#include <VyrHost/output/Progress.h>
+#include <VyrHost/output/SafeText.h>
+#include <VyrHost/output/Summary.h>
+#include <VyrHost/output/Table.h>
+#include <VyrHost/output/Words.h>
+#include <VyrHost/preview/GivenNames.h>
+#include <VyrHost/preview/PlannedRenames.h>
+#include <VyrPlatform/Console.h>
+#include <VyrPlatform/Editor.h>
+#include <VyrPlatform/FileReader.h>
+#include <VyrPlatform/Interrupt.h>
+#include <VyrPlatform/Process.h>
+
+#include <algorithm>
+#include <memory>
+#include <span>
+#include <string>
+#include <utility>
+
+namespace VyrHost {
+
+namespace {
+
+std::string ReadPairsFile(const CString& path)
+{
+    std::string bytes;
+    if (path == u"-") {
+        for (std::string piece = VyrPlatform::Console::ReadInput(); !piece.empty();
+             piece = VyrPlatform::Console::ReadInput())
+            bytes += piece;
+        return bytes;
+    }
+    const VyrPlatform::FileReader file(path);
+    if (!file.IsOpen())
+        throw UsageError("cannot read '" + SafeText(path) +
+                         "': " + SafeText(VyrPlatform::Process::GetErrorMessage(file.Error())));
+    bytes.resize(file.Size());
+    bytes.resize(file.ReadAt(0, std::as_writable_bytes(std::span(bytes))));
+    return bytes;
+}
+
+class RenameRun
+{
+public:
+    explicit RenameRun(RenameRequest& request) : m_request(request) {}
+
+    int Run()
+    {
+        TakeEntries();
+        const Groups groups = m_request.together ? Groups::ByStem(List()) : Groups::OfOne(List());
+        Decide(groups);
+        if (m_request.edit)
+            Edit();
+        const bool isStopped = m_request.failOnConflict && HasConflict();
+        if (isStopped)
+            StopAll();
+        const int applied = m_request.apply && !isStopped ? Apply() : ExitCode::Success;
+        if (applied == ExitCode::Blocked)
+            return applied;
+        return std::max({applied, Show(isStopped)});
+    }
+
+private:
+    void TakeEntries()
+    {
+        if (m_request.pairs) {
+            TakePairs(ParsePairs(ReadPairsFile(*m_request.pairs)));
+        } else {
+            m_gathered = Gather(m_request.sources);
+            m_names = std::make_unique<RuleNames>(m_request.rules, m_request.counting);
+        }
+        for (const CString& problem : m_gathered.problems)
+            Complain(SafeText(problem));
+        // Places are by the order given, which pairs need.
+        if (!m_request.pairs)
+            Sort(List(), m_request.order);
+    }
+
+    void TakePairs(std::vector<NamePair> pairs)
+    {
+        std::unordered_map<std::uint32_t, CString> names;
+        SourceSettings sources;
+        sources.areNames = true;
+        for (NamePair& pair : pairs) {
+            names.emplace(static_cast<std::uint32_t>(names.size()), std::move(pair.to));
+            sources.paths.push_back(std::move(pair.from));
+        }
+        m_gathered = Gather(sources);
+        m_names = std::make_unique<GivenNames>(std::move(names));
+    }
+
+    void Decide(const Groups& groups)
+    {
+        Progress progress("naming", groups.Count(), IsSilent());
+        m_outcome.decisions = VyrHost::Decide(List(), groups, *m_names, m_request.conflicts,
+                                              [&progress](std::size_t named) { progress.Show(named); });
+        for (std::uint32_t entry = 0; entry < m_outcome.decisions.size(); ++entry)
+            if (m_outcome.decisions[entry].reason == Reason::FolderNotRead)
+                m_outcome.causes.emplace(entry, WhyNotRead(entry));
+    }
+
+    [[nodiscard]] CString WhyNotRead(std::uint32_t entry) const
+    {
+        const Folder& folder = m_gathered.list.folders[m_outcome.decisions[entry].folder];
+        return VyrPlatform::Process::GetErrorMessage(folder.error);
+    }
+
+    /// Has the user look through the names, and decides again for what comes back.
+    void Edit()
+    {
+        std::vector<CString> names;
+        for (std::size_t entry = 0; entry < m_outcome.decisions.size(); ++entry) {
+            const Decision& decision = m_outcome.decisions[entry];
+            names.emplace_back(decision.IsRename() ? decision.name : List().entries[entry].name);
+        }
+        const VyrPlatform::EditedText edited = VyrPlatform::EditText(TextForEditing(names));
+        if (!edited.text)
+            throw UsageError(SafeText(edited.error));
+        m_names = std::make_unique<GivenNames>(ParseEdited(*edited.text, names.size()));
+        m_outcome = {};
+        List().ForgetHolders();
+        Decide(Groups::OfOne(List()));
+    }
+
+    [[nodiscard]] bool HasConflict() const
+    {
+        return std::any_of(m_outcome.decisions.begin(), m_outcome.decisions.end(), [](const Decision& decision) {
+            return decision.reason == Reason::TargetExists || decision.reason == Reason::TwoToOne;
+        });
+    }
+
+    void StopAll()
+    {
+        Complain("a name is taken, and --on-conflict=fail was asked for: nothing is renamed");
+        for (Decision& decision : m_outcome.decisions)
+            if (decision.IsRename()) {
+                decision.status = Status::NotReached;
+                decision.reason = Reason::Stopped;
+            }
+    }
+
+    /// Renames, and writes what became of each entry into the outcome.
+    int Apply()
+    {
+        const PlannedRenames planned = PlanOf(List(), m_outcome.decisions);
+        if (planned.list.renames.empty())
+            return ExitCode::Success;
+        Batches batches;
+        if (const auto cutOff = batches.FindCutOff()) {
+            Complain(CutOffNotice(*cutOff) + "; nothing was done");
+            return ExitCode::Blocked;
+        }
+        VyrPlatform::Interrupt::Catch();
+        Progress progress("renaming", planned.list.renames.size(), IsSilent());
+        std::size_t done = 0;
+        const RenameReport report = [&](std::size_t index, const RenameResult& result) {
+            Note(planned.entries[index], result);
+            progress.Show(++done);
+        };
+        m_summary = batches.Apply(planned.list, report, VyrPlatform::Interrupt::WasAsked);
+        return CodeOf(m_summary);
+    }
+
+    void Note(std::uint32_t entry, const RenameResult& result)
+    {
+        Decision& decision = m_outcome.decisions[entry];
+        switch (result.outcome) {
+        case RenameOutcome::Done:
+            return;
+        case RenameOutcome::Failed:
+            decision.status = Status::Failed;
+            break;
+        case RenameOutcome::Refused:
+            decision.status = Status::Refused;
+            break;
+        case RenameOutcome::NotReached:
+            decision.status = Status::NotReached;
+            break;
+        }
+        decision.reason = Reason::Applying;
+        if (!result.reason.IsEmpty())
+            m_outcome.causes.insert_or_assign(entry, result.reason);
+    }
+
+    static int CodeOf(const BatchSummary& summary)
+    {
+        for (const CString& path : summary.missing)
+            Complain("'" + SafeText(path) + "' is not listed by its folder after its rename");
+        if (!summary.error.IsEmpty())
+            Complain(SafeText(summary.error));
+        if (summary.number == 0)
+            return ExitCode::Blocked;
+        if (summary.wasStopped)
+            return ExitCode::Interrupted;
+        return summary.error.IsEmpty() && summary.missing.empty() ? ExitCode::Success : ExitCode::Partly;
+    }
+
+    /// Writes the outcome; what is not renamed decides the exit code.
+    int Show(bool isStopped)
+    {
+        OutputBuffer output;
+        const Tally tally(m_outcome.decisions);
+        if (m_request.json) {
+            WriteJsonLines(output, List(), m_outcome);
+            VyrPlatform::Console::Write(VyrPlatform::Console::Stream::Error, SummaryOf(tally));
+        } else if (m_request.quiet) {
+            ShowProblems();
+        } else {
+            WriteTable(output, List(), m_outcome, StyleOfOutput());
+            output << SummaryOf(tally) << Ending(isStopped);
+        }
+        output.Flush();
+        if (output.HasFailed())
+            return ExitCode::Output;
+        const bool isWhole = tally[Status::Refused] + tally[Status::Failed] + tally[Status::NotReached] == 0;
+        return isWhole && m_gathered.problems.empty() ? ExitCode::Success : ExitCode::Partly;
+    }
+
+    void ShowProblems() const
+    {
+        for (std::size_t index = 0; index < m_outcome.decisions.size(); ++index) {
+            const Decision& decision = m_outcome.decisions[index];
+            if (decision.IsRename() || decision.status == Status::Unchanged)
+                continue;
+            const Entry& entry = m_gathered.list.entries[index];
+            const std::string reason = ReasonFor(m_outcome, index);
+            Complain("'" + SafeText(CString::Join({m_gathered.list.folders[entry.folder].shown, entry.name})) + "' " +
+                     std::string(WordFor(decision.status)) + (reason.empty() ? "" : ": " + reason));
+        }
+    }
+
+    [[nodiscard]] std::string Ending(bool isStopped) const
+    {
+        if (m_summary.number != 0)
+            return "This was batch " + std::to_string(m_summary.number) + "; \"vyr undo\" takes it back.\n";
+        if (m_request.apply || isStopped)
+            return "Nothing was renamed.\n";
+        return "This is a preview: nothing was changed.\n";
+    }
+
+    [[nodiscard]] bool IsSilent() const { return m_request.quiet || m_request.json; }
+    [[nodiscard]] EntryList& List() { return m_gathered.list; }
+
+    RenameRequest& m_request;
+    Gathered m_gathered;
+    std::unique_ptr<NameSource> m_names;
+    Outcome m_outcome;
+    BatchSummary m_summary;
+};
+
+} // namespace
+
+int RunRename(RenameRequest& request)
+{
+    return RenameRun(request).Run();
+}
+
+} // namespace VyrHost

@@ -1,0 +1,148 @@
+// Writes and reads the text of a list that is edited.
+#include <VyrHost/entries/EditedList.h>
+
+#include <VyrHost/UsageError.h>
+#include <VyrPlatform/Encoding.h>
+
+#include <algorithm>
+#include <charconv>
+
+namespace VyrHost {
+
+namespace {
+
+constexpr std::string_view Explanation =
+    "# Change the names behind the tabs and save; leave the numbers as they are.\n"
+    "# The entry of a line that is taken out keeps its name. Save nothing to change nothing.\n"
+    "# In a name \\\\ is a backslash, \\n a line end, \\t a tab.\n";
+
+constexpr std::string_view HexDigits = "0123456789abcdef";
+
+bool IsLoneSurrogate(std::u16string_view text, std::size_t index)
+{
+    const auto isHigh = [](char16_t unit) {
+        return unit >= 0xD800 && unit <= 0xDBFF;
+    };
+    const auto isLow = [](char16_t unit) {
+        return unit >= 0xDC00 && unit <= 0xDFFF;
+    };
+    if (isHigh(text[index]))
+        return index + 1 == text.size() || !isLow(text[index + 1]);
+    return isLow(text[index]) && (index == 0 || !isHigh(text[index - 1]));
+}
+
+void AppendEscape(std::string& text, char16_t unit)
+{
+    text += "\\u";
+    for (int shift = 12; shift >= 0; shift -= 4)
+        text += HexDigits[(unit >> shift) & 0xF];
+}
+
+/// Takes the escape that `text` begins with; 0 when it is none of those that EscapeName writes.
+char16_t TakeEscape(std::string_view& text)
+{
+    constexpr std::size_t LongLength = 6;
+    if (text.starts_with("\\\\") || text.starts_with("\\n") || text.starts_with("\\t")) {
+        const char16_t unit = text[1] == 'n' ? u'\n' : text[1] == 't' ? u'\t' : u'\\';
+        text.remove_prefix(2);
+        return unit;
+    }
+    unsigned unit = 0;
+    if (text.size() < LongLength || !text.starts_with("\\u"))
+        return 0;
+    const char* const end = text.data() + LongLength;
+    const auto [stop, error] = std::from_chars(text.data() + 2, end, unit, 16);
+    if (error != std::errc() || stop != end || unit == 0)
+        return 0;
+    text.remove_prefix(LongLength);
+    return static_cast<char16_t>(unit);
+}
+
+[[noreturn]] void Refuse(std::size_t line, const std::string& what)
+{
+    throw UsageError("line " + std::to_string(line) + " of the edited list: " + what);
+}
+
+std::string_view TakeLine(std::string_view& text)
+{
+    const std::size_t end = text.find('\n');
+    std::string_view line = text.substr(0, end);
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    if (line.ends_with('\r'))
+        line.remove_suffix(1);
+    return line;
+}
+
+} // namespace
+
+std::string EscapeName(std::u16string_view name)
+{
+    std::string text;
+    for (std::size_t index = 0; index < name.size(); ++index) {
+        const char16_t unit = name[index];
+        if (unit == u'\\')
+            text += "\\\\";
+        else if (unit == u'\n')
+            text += "\\n";
+        else if (unit == u'\t')
+            text += "\\t";
+        else if (unit < u' ' || unit == 0x7F || IsLoneSurrogate(name, index))
+            AppendEscape(text, unit);
+        else if (unit >= 0xD800 && unit <= 0xDBFF)
+            VyrPlatform::Encoding::AppendUtf8(text, name.substr(index++, 2));
+        else
+            VyrPlatform::Encoding::AppendUtf8(text, name.substr(index, 1));
+    }
+    return text;
+}
+
+CString UnescapeName(std::string_view text)
+{
+    CString name;
+    while (!text.empty()) {
+        if (text.front() == '\\') {
+            if (const char16_t unit = TakeEscape(text)) {
+                name += unit;
+                continue;
+            }
+        }
+        // What stands as it is, up to the next backslash.
+        const std::size_t end = std::min(text.find('\\', 1), text.size());
+        name += VyrPlatform::Encoding::FromNameBytes(text.substr(0, end));
+        text.remove_prefix(end);
+    }
+    return name;
+}
+
+std::string TextForEditing(const std::vector<CString>& names)
+{
+    std::string text(Explanation);
+    for (std::size_t index = 0; index < names.size(); ++index)
+        text.append(std::to_string(index + 1)).append("\t").append(EscapeName(names[index])).append("\n");
+    return text;
+}
+
+std::unordered_map<std::uint32_t, CString> ParseEdited(std::string_view text, std::size_t count)
+{
+    std::unordered_map<std::uint32_t, CString> names;
+    for (std::size_t number = 1; !text.empty(); ++number) {
+        const std::string_view line = TakeLine(text);
+        if (line.empty() || line.starts_with('#'))
+            continue;
+        std::uint32_t place = 0;
+        const char* const end = line.data() + line.size();
+        const auto [stop, error] = std::from_chars(line.data(), end, place);
+        if (error != std::errc() || stop == end || *stop != '\t')
+            Refuse(number, "a number and a tab are expected in front of the name");
+        if (place == 0 || place > count)
+            Refuse(number, "there is no entry of the number " + std::to_string(place));
+        const CString name = UnescapeName(line.substr(static_cast<std::size_t>(stop - line.data()) + 1));
+        if (name.IsEmpty())
+            Refuse(number, "the name is empty; take the line out to keep the old one");
+        if (!names.emplace(place - 1, name).second)
+            Refuse(number, "the number " + std::to_string(place) + " stands there twice");
+    }
+    return names;
+}
+
+} // namespace VyrHost

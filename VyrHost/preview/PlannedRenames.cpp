@@ -1,0 +1,24 @@
+// Picks out of a preview what is to be renamed.
+#include <VyrHost/preview/PlannedRenames.h>
+
+#include <VyrHost/preview/TargetFolders.h>
+
+namespace VyrHost {
+
+PlannedRenames PlanOf(EntryList& list, const std::vector<Decision>& decisions)
+{
+    PlannedRenames planned;
+    for (std::uint32_t index = 0; index < decisions.size(); ++index) {
+        const Decision& decision = decisions[index];
+        if (!decision.IsRename())
+            continue;
+        const Entry& entry = list.entries[index];
+        planned.list.renames.push_back(
+            {list.PathOf(entry), CString::Join({list.folders[decision.folder].path, decision.name}), entry.kind});
+        planned.entries.push_back(index);
+    }
+    planned.list.newFolders = FoldersToMake(list, decisions);
+    return planned;
+}
+
+} // namespace VyrHost

@@ -1,0 +1,102 @@
+// Runs the rules over one group of entries after the other.
+#include <VyrHost/preview/RuleNames.h>
+
+#include <algorithm>
+
+namespace VyrHost {
+
+namespace {
+
+using VyrPlatform::FileSystem::Kind;
+
+Reason ReasonOf(RuleFault fault)
+{
+    switch (fault) {
+    case RuleFault::NoDate:
+        return Reason::NoDate;
+    case RuleFault::BadFolder:
+        return Reason::BadFolder;
+    case RuleFault::None:
+        break;
+    }
+    return Reason::None;
+}
+
+} // namespace
+
+bool RuleNames::MayNumber() const
+{
+    return std::any_of(m_rules.begin(), m_rules.end(), [](const auto& rule) { return rule->MayNumber(); });
+}
+
+void RuleNames::Name(const EntryList& list, std::span<const std::uint32_t> members, std::vector<WantedName>& names)
+{
+    const int index = TakeIndex(list.entries[members.front()].folder);
+    names.resize(members.size());
+    const Entry* leader = nullptr;
+    for (std::size_t place = 0; place < members.size() && !leader; ++place) {
+        const Entry& entry = list.entries[members[place]];
+        names[place].reason = ReasonOf(Run(list, entry, index, entry));
+        if (names[place].reason == Reason::None)
+            leader = &entry;
+    }
+    if (!leader)
+        return;
+    const Subject made = m_subject;
+    for (std::size_t place = 0; place < members.size(); ++place) {
+        const Entry& entry = list.entries[members[place]];
+        if (&entry != leader) {
+            // Its own extension under the rules, all else from the first.
+            (void)Run(list, entry, index, *leader);
+            m_subject.folder = made.folder;
+            m_subject.name = made.name;
+        } else {
+            m_subject = made;
+        }
+        names[place] = Wanted(list, entry);
+    }
+}
+
+int RuleNames::TakeIndex(std::uint32_t folder)
+{
+    const std::size_t counter = m_counting == Counting::EachFolder ? folder : 0;
+    if (counter >= m_next.size())
+        m_next.resize(counter + 1);
+    return m_next[counter]++;
+}
+
+/// @param dated  whose dates and picture data count.
+RuleFault RuleNames::Run(const EntryList& list, const Entry& entry, int index, const Entry& dated)
+{
+    m_subject.folder = list.folders[entry.folder].path;
+    m_subject.path = list.PathOf(entry);
+    SplitName split = Split(m_subject.path, entry);
+    m_subject.name.Swap(split.name);
+    m_subject.extension.Swap(split.extension);
+    if (&dated != &entry)
+        m_subject.path = list.PathOf(dated);
+    m_subject.isFolder = entry.kind == Kind::Folder;
+    m_subject.index = index;
+    for (const auto& rule : m_rules)
+        if (const RuleFault fault = rule->Apply(m_subject); fault != RuleFault::None)
+            return fault;
+    return RuleFault::None;
+}
+
+WantedName RuleNames::Wanted(const EntryList& list, const Entry& entry) const
+{
+    WantedName wanted;
+    if (m_subject.name.IsEmpty()) {
+        wanted.reason = Reason::EmptyName;
+        return wanted;
+    }
+    const Folder& now = list.folders[entry.folder];
+    wanted.folder = m_subject.folder;
+    wanted.shownFolder = now.shown;
+    if (wanted.folder != now.path)
+        wanted.shownFolder = now.shown + m_subject.folder.Mid(now.path.GetLength());
+    wanted.name = m_subject.name + m_subject.extension;
+    return wanted;
+}
+
+} // namespace VyrHost

@@ -1,0 +1,42 @@
+/// @file
+/// New names that rules make.
+#pragma once
+
+#include <VyrHost/preview/NameSource.h>
+#include <VyrHost/rules/Rule.h>
+
+#include <vector>
+
+namespace VyrHost {
+
+/// Which entries sequence numbers count.
+enum class Counting : std::uint8_t
+{
+    WholeList,
+    /// Starts anew in each folder.
+    EachFolder
+};
+
+/// Runs rules over entries. Entries that keep together get one number and one new name before the extension: that of
+/// the first of them for which the rules have one, whose dates and picture data count for all.
+class RuleNames : public NameSource
+{
+public:
+    RuleNames(const Rules& rules, Counting counting) : m_rules(rules), m_counting(counting) {}
+
+    void Name(const EntryList& list, std::span<const std::uint32_t> members, std::vector<WantedName>& names) override;
+    [[nodiscard]] bool MayNumber() const override;
+
+private:
+    [[nodiscard]] int TakeIndex(std::uint32_t folder);
+    RuleFault Run(const EntryList& list, const Entry& entry, int index, const Entry& dated);
+    WantedName Wanted(const EntryList& list, const Entry& entry) const;
+
+    const Rules& m_rules;
+    const Counting m_counting;
+    /// By folder; the whole list counts as the folder 0.
+    std::vector<int> m_next;
+    Subject m_subject;
+};
+
+} // namespace VyrHost

@@ -1,0 +1,41 @@
+/// @file
+/// The folders that entries move into.
+#pragma once
+
+#include <VyrHost/entries/EntryList.h>
+#include <VyrHost/preview/Decision.h>
+
+#include <unordered_map>
+#include <vector>
+
+namespace VyrHost {
+
+/// Opens folders to move into; those that are not there yet count as folders that the batch makes, and hold their
+/// names.
+class TargetFolders
+{
+public:
+    explicit TargetFolders(FolderSet& folders) : m_folders(folders) {}
+
+    struct Target
+    {
+        std::uint32_t folder = 0;
+        /// Why nothing can be moved there.
+        Reason reason = Reason::None;
+    };
+
+    /// The folder `path` (absolute, its separator at the end).
+    Target Open(const CString& path, const CString& shown);
+
+private:
+    [[nodiscard]] Reason Claim(const Folder& folder);
+
+    FolderSet& m_folders;
+    /// What was found for each folder.
+    std::unordered_map<std::uint32_t, Reason> m_reasons;
+};
+
+/// The folders to make, each parent before what stands in it, for what `decisions` move.
+[[nodiscard]] std::vector<CString> FoldersToMake(EntryList& list, const std::vector<Decision>& decisions);
+
+} // namespace VyrHost

@@ -1,0 +1,16 @@
+// Looks the user's editor up.
+#include <VyrPlatform/common/EditorCommand.h>
+
+#include <VyrPlatform/Process.h>
+
+namespace VyrPlatform {
+
+CString GetEditorCommand(const CString& usual)
+{
+    for (const char16_t* const name : {u"VISUAL", u"EDITOR"})
+        if (const auto command = Process::GetEnvironment(name); command && !command->IsEmpty())
+            return *command;
+    return usual;
+}
+
+} // namespace VyrPlatform
