@@ -3,6 +3,7 @@
 #include <VyrPlatform/MessageQueue.h>
 
 #include <tests/support/Describe.h>
+#include <tests/support/EmptiedQueue.h>
 #include <tests/support/FixedClock.h>
 #include <tests/support/Links.h>
 #include <tests/support/MessagePosting.h>
@@ -46,6 +47,7 @@ TEST(RenameContract, FreePathIsReturnedAsItIsWithoutADrain)
     const ScratchFolder scratch;
     const MessagePosting queue;
     int handled = 0;
+    const VyrTests::EmptiedQueue emptied;
     queue.PostWork([&handled] { ++handled; });
     for (const int position : {INT_MIN, 0, 1, 2, INT_MAX})
         EXPECT_EQ(NameFuncs::GetResolveConflictFilePath(scratch.Path(u"a.txt"), Numbering(u"?", position, 1, 1)),
@@ -173,6 +175,7 @@ TEST(RenameContract, SearchWithoutAFreePathRunsUntilAStop)
     const MessagePosting queue;
     for (const auto& [numbering, result] : searches) {
         int handled = 0;
+        const VyrTests::EmptiedQueue emptied;
         for (int i = 0; i < 40; ++i)
             queue.PostWork([&handled] { ++handled; });
         queue.PostStop();
@@ -188,6 +191,7 @@ TEST(RenameContract, StopGivesTheLastCandidateTried)
     for (const char16_t* const taken : {u"a1", u"a2", u"a3"})
         scratch.WriteFile(taken);
     const MessagePosting queue;
+    const VyrTests::EmptiedQueue emptied;
     queue.PostStop();
     EXPECT_EQ(NameFuncs::GetResolveConflictFilePath(path, Numbering(u"?", 1, 1, 1)), path);
     queue.PostWork([] {});
@@ -202,6 +206,7 @@ TEST(RenameContract, WorkDoneDuringTheSearchIsSeenByIt)
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");
     const MessagePosting queue;
+    const VyrTests::EmptiedQueue emptied;
     queue.PostWork([&scratch] { scratch.WriteFile(u"a1"); });
     EXPECT_EQ(NameFuncs::GetResolveConflictFilePath(path, Numbering(u"?", 1, 1, 1)), scratch.Path(u"a2"))
         << "an event is handled before each attempt";

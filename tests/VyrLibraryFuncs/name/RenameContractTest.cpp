@@ -5,6 +5,7 @@
 #include <VyrPlatform/MessageQueue.h>
 
 #include <tests/support/Describe.h>
+#include <tests/support/EmptiedQueue.h>
 #include <tests/support/FileMoments.h>
 #include <tests/support/MessagePosting.h>
 #include <tests/support/PictureBuilder.h>
@@ -391,6 +392,7 @@ TEST(RenameContract, PaddingHandlesOneMessageForEachDigitAfterTheFirst)
 {
     const VyrTests::MessagePosting queue;
     int handled = 0;
+    const VyrTests::EmptiedQueue emptied;
     for (int i = 0; i < 9; ++i)
         queue.PostWork([&handled] { ++handled; });
     EXPECT_EQ(NumberText(1234567, 0, 5, 0), u"1234567");
@@ -404,6 +406,7 @@ TEST(RenameContract, PaddingHandlesOneMessageForEachDigitAfterTheFirst)
 TEST(RenameContract, StopEndsThePaddingWithTheZerosSoFar)
 {
     const VyrTests::MessagePosting queue;
+    const VyrTests::EmptiedQueue emptied;
     queue.PostStop();
     EXPECT_EQ(NumberText(1, 0, 9, 0), u"1");
     EXPECT_EQ(NumberText(1, 0, 9, 0), u"000000001");

@@ -6,6 +6,7 @@
 #include <VyrPlatform/MessageQueue.h>
 
 #include <tests/support/Describe.h>
+#include <tests/support/EmptiedQueue.h>
 #include <tests/support/FileMoments.h>
 #include <tests/support/MessagePosting.h>
 #include <tests/support/ScratchFolder.h>
@@ -340,6 +341,7 @@ TEST(RenameContract, StopEndsNoWalkAndIsTaken)
             scratch.WriteFile(name, "x");
         scratch.MakeFolder(u"d");
         const VyrTests::MessagePosting queue;
+        const VyrTests::EmptiedQueue emptied;
         queue.PostStop();
         operation(scratch.Path(u"s"), scratch.Path(u"d"), nullptr);
         EXPECT_EQ(NamesIn(scratch.Path(u"d")).size(), 4U);
@@ -357,6 +359,7 @@ TEST(RenameContract, WalkHandlesOneMessageForEachEntryTheDotsIncluded)
     scratch.MakeFolder(u"d");
     const VyrTests::MessagePosting queue;
     int handled = 0;
+    const VyrTests::EmptiedQueue emptied;
     for (int i = 0; i < 20; ++i)
         queue.PostWork([&handled] { ++handled; });
     // "." and ".." twice, a, b and c.
@@ -364,8 +367,6 @@ TEST(RenameContract, WalkHandlesOneMessageForEachEntryTheDotsIncluded)
     EXPECT_EQ(handled, 7);
     NameFuncs::MoveFolder(scratch.Path(u"s"), scratch.Path(u"e"), nullptr);
     EXPECT_EQ(handled, 14);
-    while (handled < 20)
-        ASSERT_FALSE(VyrPlatform::MessageQueue::DrainOne());
 }
 
 TEST(RenameContract, FileThatGoesAwayDuringTheWalkIsLeftOut)
@@ -375,6 +376,7 @@ TEST(RenameContract, FileThatGoesAwayDuringTheWalkIsLeftOut)
         const CString file = scratch.WriteFile(u"s/a", "x");
         scratch.MakeFolder(u"d");
         const VyrTests::MessagePosting queue;
+        const VyrTests::EmptiedQueue emptied;
         // Handled at the first entry, before any entry is looked at.
         queue.PostWork([&file] { std::filesystem::remove(VyrTests::ToStdPath(file)); });
         EXPECT_EQ(operation(scratch.Path(u"s"), scratch.Path(u"d"), nullptr), operation == operations.front() ? 0 : 1);
