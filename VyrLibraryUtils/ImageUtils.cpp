@@ -6,6 +6,8 @@
 #include <VyrPlatform/FileReader.h>
 
 #include <algorithm>
+#include <array>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -38,10 +40,9 @@ CString ToText(std::string_view bytes)
 
 CString ReadTag(const CString& path, PictureTag tag)
 {
-    const VyrPlatform::FileReader file(path);
-    if (!file.IsOpen())
-        return {};
-    Pictures::FileSource source(file);
+    std::array<char, Pictures::FileSource::BeginningSize> beginning;
+    const VyrPlatform::FileReader file(path, std::as_writable_bytes(std::span(beginning)));
+    Pictures::FileSource source(file, std::string_view(beginning.data(), file.BeginningSize()));
     return ToText(Pictures::ReadPicture(source, tag));
 }
 

@@ -5,33 +5,20 @@
 #include <span>
 
 namespace VyrLibraryUtils::Pictures {
-namespace {
-
-/// Fills `buffer` from `offset` on, as far as the file reaches: asking for more would cost one more call.
-std::size_t Fill(const VyrPlatform::FileReader& file, std::uint64_t offset, std::span<char> buffer)
-{
-    const std::uint64_t size = std::min<std::uint64_t>(buffer.size(), file.Size() - offset);
-    return file.ReadAt(offset, std::as_writable_bytes(buffer.first(static_cast<std::size_t>(size))));
-}
-
-} // namespace
 
 std::string_view FileSource::Fetch(std::uint64_t offset, std::size_t count)
 {
     if (!Holds(offset, count))
         return {};
-    if (offset + count <= HeadSize) {
-        if (m_headLength == 0)
-            m_headLength = Fill(m_file, 0, m_head);
-        if (offset + count > m_headLength)
-            return {};
-        return std::string_view(m_head.data() + offset, count);
-    }
-    if (offset < m_windowOffset || offset + count > m_windowOffset + m_windowLength) {
+    if (offset + count <= m_beginning.size())
+        return m_beginning.substr(static_cast<std::size_t>(offset), count);
+    if (offset < m_windowOffset || offset + count > m_windowOffset + m_windowSize) {
+        // To ask for more than there is would cost one more call.
+        const auto size = static_cast<std::size_t>(std::min<std::uint64_t>(m_window.size(), Size() - offset));
         m_windowOffset = offset;
-        m_windowLength = Fill(m_file, offset, m_window);
+        m_windowSize = m_file.ReadAt(offset, std::as_writable_bytes(std::span(m_window).first(size)));
     }
-    if (count > m_windowLength)
+    if (count > m_windowSize)
         return {};
     return std::string_view(m_window.data() + (offset - m_windowOffset), count);
 }

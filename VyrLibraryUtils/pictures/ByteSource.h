@@ -39,23 +39,25 @@ private:
     std::uint64_t m_size;
 };
 
-/// A file's bytes. What a picture says about itself mostly stands at its start, so that is read once and kept; beyond
+/// A file's bytes. What a picture says about itself mostly stands at its beginning, which has been read already; beyond
 /// it, one small window moves to where it is wanted.
 class FileSource final : public ByteSource
 {
 public:
-    /// `file` must outlive this source.
-    explicit FileSource(const VyrPlatform::FileReader& file) : ByteSource(file.Size()), m_file(file) {}
+    /// How much of a file's beginning is worth reading at once: enough for the tags of almost every JPEG.
+    static constexpr std::size_t BeginningSize = 4096;
+
+    /// `beginning` is what was read of `file` when it was opened. Both must outlive this source.
+    FileSource(const VyrPlatform::FileReader& file, std::string_view beginning)
+        : ByteSource(file.Size()), m_file(file), m_beginning(beginning)
+    {}
     [[nodiscard]] std::string_view Fetch(std::uint64_t offset, std::size_t count) override;
 
 private:
-    static constexpr std::size_t HeadSize = 4096;
-
     const VyrPlatform::FileReader& m_file;
-    std::size_t m_headLength = 0;
-    std::size_t m_windowLength = 0;
+    std::string_view m_beginning;
+    std::size_t m_windowSize = 0;
     std::uint64_t m_windowOffset = 0;
-    std::array<char, HeadSize> m_head;
     std::array<char, MaximumFetch> m_window;
 };
 

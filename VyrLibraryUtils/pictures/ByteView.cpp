@@ -30,6 +30,7 @@ std::string ByteView::Copy(std::size_t limit) const
 {
     const std::size_t size = static_cast<std::size_t>(std::min<std::uint64_t>(limit, m_size));
     std::string copy;
+    copy.reserve(size);
     while (copy.size() < size) {
         const std::string_view piece = Fetch(copy.size(), std::min(size - copy.size(), ByteSource::MaximumFetch));
         if (piece.empty())
@@ -37,14 +38,6 @@ std::string ByteView::Copy(std::size_t limit) const
         copy += piece;
     }
     return copy;
-}
-
-std::uint64_t ToUnsigned(std::string_view bytes, ByteOrder order)
-{
-    std::uint64_t value = 0;
-    for (std::size_t i = 0; i < bytes.size(); ++i)
-        value = value << 8 | static_cast<unsigned char>(bytes[order == ByteOrder::Big ? i : bytes.size() - 1 - i]);
-    return value;
 }
 
 std::uint64_t ByteCursor::Unsigned(std::size_t width)

@@ -43,7 +43,13 @@ private:
 };
 
 /// The number that `bytes` (1 to 8 of them) are in `order`.
-[[nodiscard]] std::uint64_t ToUnsigned(std::string_view bytes, ByteOrder order);
+[[nodiscard]] inline std::uint64_t ToUnsigned(std::string_view bytes, ByteOrder order)
+{
+    std::uint64_t value = 0;
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        value = value << 8 | static_cast<unsigned char>(bytes[order == ByteOrder::Big ? i : bytes.size() - 1 - i]);
+    return value;
+}
 
 /// Reads a view from its start on. A read that does not find all its bytes gives zero and makes every later one do so
 /// too, so that a run of reads needs one test at its end.

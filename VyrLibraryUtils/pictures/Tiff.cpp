@@ -48,6 +48,10 @@ public:
     [[nodiscard]] std::string Text(const Entry& entry) const;
 
 private:
+    [[nodiscard]] std::uint32_t Number(std::string_view bytes, std::size_t place, std::size_t width) const
+    {
+        return static_cast<std::uint32_t>(ToUnsigned(bytes.substr(place, width), m_order));
+    }
     [[nodiscard]] std::string Bytes(const Entry& entry) const;
 
     ByteView m_tiff;
@@ -56,21 +60,19 @@ private:
 
 std::optional<Entry> TiffReader::Find(std::uint32_t offset, std::uint16_t tag) const
 {
-    ByteCursor directory(m_tiff.From(offset), m_order);
-    const std::uint64_t total = m_tiff.Size();
-    std::uint16_t left = directory.U16();
+    const std::uint64_t first = std::uint64_t{offset} + 2;
+    const std::uint64_t count = ToUnsigned(m_tiff.Fetch(offset, 2), m_order);
     // A directory that is not all there is damaged: an offset into other data mostly looks like that.
-    if (left * EntrySize > directory.Remaining())
+    if (m_tiff.From(first).Size() < count * EntrySize)
         return std::nullopt;
-    for (; left > 0; --left) {
-        const std::string_view bytes = directory.Bytes(EntrySize);
-        if (bytes.empty())
-            break;
-        if (ToUnsigned(bytes.substr(0, 2), m_order) == tag)
-            return Entry{static_cast<ValueType>(ToUnsigned(bytes.substr(2, 2), m_order)),
-                         static_cast<std::uint32_t>(ToUnsigned(bytes.substr(4, 4), m_order)),
-                         static_cast<std::uint32_t>(ToUnsigned(bytes.substr(8, 4), m_order)),
-                         total - directory.Remaining() - 4};
+    constexpr std::size_t most = ByteSource::MaximumFetch / EntrySize;
+    for (std::uint64_t done = 0; done < count; done += most) {
+        const auto size = static_cast<std::size_t>(std::min<std::uint64_t>(count - done, most) * EntrySize);
+        const std::string_view entries = m_tiff.Fetch(first + done * EntrySize, size);
+        for (std::size_t place = 0; place < entries.size(); place += EntrySize)
+            if (Number(entries, place, 2) == tag)
+                return Entry{static_cast<ValueType>(Number(entries, place + 2, 2)), Number(entries, place + 4, 4),
+                             Number(entries, place + 8, 4), first + done * EntrySize + place + 8};
     }
     return std::nullopt;
 }

@@ -44,6 +44,12 @@ FileReader::FileReader(const CString& path) : m_handle(notOpen)
         CloseHandle(file);
 }
 
+FileReader::FileReader(const CString& path, std::span<std::byte> beginning) : FileReader(path)
+{
+    m_beginningSize =
+        ReadAt(0, beginning.first(static_cast<std::size_t>(std::min<std::uint64_t>(beginning.size(), m_size))));
+}
+
 FileReader::~FileReader()
 {
     if (IsOpen())

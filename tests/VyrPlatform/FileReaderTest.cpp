@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstddef>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <limits>
@@ -95,6 +98,44 @@ TEST(FileReader, DoesNotOpenWhatIsNoFile)
         EXPECT_NE(reader.Error(), 0U);
         EXPECT_EQ(reader.Size(), 0U);
         EXPECT_EQ(ReadAt(reader, 0, 1), "");
+    }
+}
+
+TEST(FileReader, ReadsTheBeginningWhileItOpens)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a", "content");
+    std::array<std::byte, 4> four{};
+    const FileReader part(path, four);
+    EXPECT_TRUE(part.IsOpen());
+    EXPECT_EQ(part.Size(), 7U);
+    EXPECT_EQ(part.BeginningSize(), 4U);
+    EXPECT_EQ(std::memcmp(four.data(), "cont", 4), 0);
+    EXPECT_EQ(ReadAt(part, 4, 3), "ent");
+
+    std::array<std::byte, 100> hundred{};
+    const FileReader all(path, hundred);
+    EXPECT_EQ(all.BeginningSize(), 7U);
+    EXPECT_EQ(std::memcmp(hundred.data(), "content", 8), 0);
+
+    const FileReader empty(scratch.WriteFile(u"empty"), hundred);
+    EXPECT_TRUE(empty.IsOpen());
+    EXPECT_EQ(empty.Size(), 0U);
+    EXPECT_EQ(empty.BeginningSize(), 0U);
+}
+
+TEST(FileReader, DoesNotReadTheBeginningOfWhatIsNoFile)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"full/file", "content");
+    std::array<std::byte, 100> beginning{};
+    for (const CString& path :
+         {scratch.Path(u"missing"), scratch.MakeFolder(u"folder"), scratch.Path(u"full"), CString()}) {
+        const FileReader reader(path, beginning);
+        EXPECT_FALSE(reader.IsOpen());
+        EXPECT_NE(reader.Error(), 0U);
+        EXPECT_EQ(reader.Size(), 0U);
+        EXPECT_EQ(reader.BeginningSize(), 0U);
     }
 }
 
