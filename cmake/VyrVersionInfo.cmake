@@ -1,20 +1,18 @@
 # Gives a program what VyrLibrary's version operations read of it: a version resource on Windows, an ELF note elsewhere.
 #
 #   vyr_add_version_info(<target>
-#     PRODUCT_NAME <text> VERSION <a[.b[.c[.d]]]> PRODUCT_VERSION <text>)
+#     VERSION <a[.b[.c[.d]]]> [PRODUCT_NAME <text>] [PRODUCT_VERSION <text>])
 #
-# <target> is an executable. VERSION holds one to four numbers from 0 to 65535; those left out are 0. The texts are UTF-8.
+# <target> is an executable. VERSION holds one to four numbers from 0 to 65535; those left out are 0. The texts are
+# UTF-8, of one line; one left out is empty.
 # It needs no other file, so a project of its own may include it.
 include_guard(GLOBAL)
 
 function(vyr_add_version_info target)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "PRODUCT_NAME;VERSION;PRODUCT_VERSION" "")
-  foreach(name PRODUCT_NAME VERSION PRODUCT_VERSION)
-    if(NOT DEFINED arg_${name})
-      message(FATAL_ERROR "vyr_add_version_info: ${name} is missing")
-    endif()
-    if(arg_${name} MATCHES "[\r\n]")
-      message(FATAL_ERROR "vyr_add_version_info: ${name} has more than one line")
+  foreach(text "${arg_PRODUCT_NAME}" "${arg_PRODUCT_VERSION}")
+    if(text MATCHES "[\r\n]")
+      message(FATAL_ERROR "vyr_add_version_info: \"${text}\" has more than one line")
     endif()
   endforeach()
   if(DEFINED arg_UNPARSED_ARGUMENTS)
