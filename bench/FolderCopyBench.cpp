@@ -7,6 +7,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <unistd.h>
+
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -27,12 +29,33 @@ constexpr int folderCount = 200;
 constexpr int filesInFolder = 100;
 constexpr std::size_t largeSize = 2'000'000'000;
 
-/// Where the source and its copy stand.
-struct Workplace
+/// Where the source and its copies stand.
+class Workplace
 {
-    TemporaryFolder folder;
-    std::string source = folder.Path() / "from";
-    std::string copy = folder.Path() / "to";
+public:
+    explicit Workplace(bool isLarge) : m_isLarge(isLarge) {}
+
+    [[nodiscard]] bool IsLarge() const noexcept { return m_isLarge; }
+    [[nodiscard]] std::string Source() const { return m_folder.Path() / "from"; }
+    [[nodiscard]] std::string Copy() const { return m_folder.Path() / ("to" + std::to_string(m_copies)); }
+
+    /// Makes an empty folder for the next copy, and lets the system write out what earlier ones left to it.
+    ///
+    /// Copies of many files stay until the end: a file system that has just lost many files is slow to make new ones
+    /// (ext4 looks through all that went within the last seconds).
+    void MakeRoom()
+    {
+        if (m_isLarge)
+            fs::remove_all(Copy());
+        ++m_copies;
+        fs::create_directory(Copy());
+        sync();
+    }
+
+private:
+    TemporaryFolder m_folder;
+    bool m_isLarge;
+    int m_copies = 0;
 };
 
 /// Bytes that no file system stores as a hole.
@@ -74,34 +97,26 @@ bool Run(const std::string& command)
 bool CopyByEngine(const Workplace& place)
 {
     std::list<NameFuncs::RENAMEITEM> records;
-    return NameFuncs::CopyFolder(Widen(place.source), Widen(place.copy), &records) == 1;
+    return NameFuncs::CopyFolder(Widen(place.Source()), Widen(place.Copy()), &records) == 1;
 }
 
 bool CopyByCommand(const Workplace& place)
 {
-    return Run("cp -a " + place.source + "/. " + place.copy);
+    return Run("cp -a " + place.Source() + "/. " + place.Copy());
 }
 
 using Copying = std::function<bool(const Workplace&)>;
 
-/// Empties the place of the copy, and lets the system write out what earlier copies left to it.
-void MakeRoom(const Workplace& place)
+bool IsCopyEqual(Workplace& place, const Copying& copy)
 {
-    fs::remove_all(place.copy);
-    fs::create_directory(place.copy);
-    Run("sync -f " + place.source);
+    place.MakeRoom();
+    return copy(place) && Run("diff -r " + place.Source() + " " + place.Copy());
 }
 
-bool IsCopyEqual(const Workplace& place, const Copying& copy)
-{
-    MakeRoom(place);
-    return copy(place) && Run("diff -r " + place.source + " " + place.copy);
-}
-
-void Measure(benchmark::State& state, const Workplace& place, const Copying& copy)
+void Measure(benchmark::State& state, Workplace& place, const Copying& copy)
 {
     for (auto _ : state) {
-        MakeRoom(place);
+        place.MakeRoom();
         const auto start = std::chrono::steady_clock::now();
         if (!copy(place))
             state.SkipWithError("the copy failed");
@@ -113,11 +128,11 @@ void Measure(benchmark::State& state, const Workplace& place, const Copying& cop
 
 int main(int argumentCount, char** arguments)
 {
-    const Workplace place;
-    if (argumentCount > 1 && std::strcmp(arguments[1], "--large") == 0)
-        MakeLargeFile(place.source);
+    Workplace place(argumentCount > 1 && std::strcmp(arguments[1], "--large") == 0);
+    if (place.IsLarge())
+        MakeLargeFile(place.Source());
     else
-        MakeSmallFiles(place.source);
+        MakeSmallFiles(place.Source());
     if (!IsCopyEqual(place, CopyByEngine) || !IsCopyEqual(place, CopyByCommand)) {
         std::fputs("a copy differs from its source\n", stderr);
         return EXIT_FAILURE;
