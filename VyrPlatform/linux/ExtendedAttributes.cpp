@@ -61,10 +61,13 @@ std::optional<std::uint32_t> GetAttributes(const NativePath& path)
     return std::nullopt;
 }
 
-std::optional<FileTicks> GetCreated(const NativePath& path)
+std::optional<FileTicks> GetSambaCreated(const NativePath& path)
 {
-    if (const DosAttribute samba = ParseDosAttribute(Value(path, "user.DOSATTRIB").Bytes()); samba.created)
-        return samba.created;
+    return ParseDosAttribute(Value(path, "user.DOSATTRIB").Bytes()).created;
+}
+
+std::optional<FileTicks> GetNtfsCreated(const NativePath& path)
+{
     const Value creationTime(path, "system.ntfs_crtime_be");
     if (creationTime.IsUnsupported())
         return std::nullopt;

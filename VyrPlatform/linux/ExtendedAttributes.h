@@ -13,7 +13,9 @@ namespace VyrPlatform::ExtendedAttributes {
 /// The attributes (FILE_ATTRIBUTE_... bits) of the file at `path`; nothing where none are kept.
 [[nodiscard]] std::optional<std::uint32_t> GetAttributes(const NativePath& path);
 
-/// The creation time of the file at `path`; nothing where none is kept.
-[[nodiscard]] std::optional<FileTicks> GetCreated(const NativePath& path);
+/// The creation time that Samba keeps of the file at `path`; nothing where it keeps none.
+[[nodiscard]] std::optional<FileTicks> GetSambaCreated(const NativePath& path);
+/// The creation time that an NTFS driver tells of the file at `path`; nothing on other file systems.
+[[nodiscard]] std::optional<FileTicks> GetNtfsCreated(const NativePath& path);
 
 } // namespace VyrPlatform::ExtendedAttributes

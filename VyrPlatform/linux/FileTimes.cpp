@@ -20,9 +20,14 @@ std::optional<FileTicks> GetCreated(const CString& path)
     struct statx status;
     if (!AskStatus(nativePath, 0, STATX_BTIME | STATX_MTIME, status))
         return std::nullopt;
-    if (const auto kept = ExtendedAttributes::GetCreated(nativePath))
+    if (const auto kept = ExtendedAttributes::GetSambaCreated(nativePath))
         return kept;
-    return ToTicks(status.stx_mask & STATX_BTIME ? status.stx_btime : status.stx_mtime);
+    // A file system of Windows that tells a birth time tells the same as in its attributes.
+    if (status.stx_mask & STATX_BTIME)
+        return ToTicks(status.stx_btime);
+    if (const auto kept = ExtendedAttributes::GetNtfsCreated(nativePath))
+        return kept;
+    return ToTicks(status.stx_mtime);
 }
 
 std::optional<FileTicks> GetAccessed(const CString& path)
