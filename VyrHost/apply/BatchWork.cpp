@@ -99,7 +99,8 @@ bool BatchWork::MayGoOn(std::uint32_t journalError)
 bool BatchWork::Locate(const JournalFile& file)
 {
     m_file = file;
-    const bool wasCutOff = file.phase == BatchPhase::Applying || file.phase == BatchPhase::TakingBack;
+    const bool wasCutOff =
+        file.phase == BatchPhase::Applying || file.phase == BatchPhase::TakingBack || !m_journal.mark;
     Locator locator(m_journal, m_progress, m_files);
     locator.KeepMarked();
     locator.Locate(wasCutOff);
@@ -107,10 +108,12 @@ bool BatchWork::Locate(const JournalFile& file)
     for (PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry) {
         m_isKept[entry] = locator.IsKept(entry);
         m_hasChanged[entry] = locator.HasChanged(entry);
-        if (m_progress.Of(entry) == Standing::Unknown)
+        if (m_isKept[entry])
+            m_executor.LeaveAlone(entry);
+        else if (m_progress.Of(entry) == Standing::Unknown)
             m_executor.SetResult(entry, NotFound(locator.Error(entry)));
         else
-            isAnyFound |= !m_isKept[entry];
+            isAnyFound = true;
     }
     return isAnyFound;
 }
@@ -188,14 +191,20 @@ bool BatchWork::IsAny(Standing standing) const
     return false;
 }
 
+/// The phase first: a mark that is not written any more only means that the next one who works on the batch looks at
+/// the disk, while marks in an open batch could be of its beginning or of its end.
 void BatchWork::End(const JournalMark& mark, BatchPhase phase)
 {
-    std::uint32_t error = m_folder.Append(m_file, WriteMark(mark, m_journal.check));
-    if (!error)
-        error = m_folder.SetPhase(m_file, phase);
-    if (error)
+    std::uint32_t error = m_folder.SetPhase(m_file, phase);
+    if (error) {
         m_summary.error = CString::Join({u"the journal could not be closed: ", ErrorText(error),
                                          u"; \"vyr recover\" does that once it is possible"});
+        return;
+    }
+    error = m_folder.Append(m_file, WriteMark(mark, m_journal.check));
+    if (error)
+        m_summary.error = CString::Join({u"how far the batch came could not be written to its journal: ",
+                                         ErrorText(error), u"; \"vyr undo\" goes by what it finds on the disk"});
 }
 
 void BatchWork::Forget()

@@ -23,7 +23,8 @@ Direction Opposite(Direction direction)
 
 Executor::Executor(const RenamePlan& plan, PlanProgress& progress, FileOperations& files)
     : m_plan(plan), m_progress(progress), m_folders(progress, files), m_goesAside(plan.entries.size()),
-      m_successors(plan.entries.size(), none), m_results(plan.entries.size()), m_folderErrors(plan.folders.size())
+      m_isLeftAlone(plan.entries.size()), m_successors(plan.entries.size(), none), m_results(plan.entries.size()),
+      m_folderErrors(plan.folders.size())
 {
     for (PlanIndex entry = 0; entry < plan.entries.size(); ++entry)
         if (plan.entries[entry].waitsFor != none)
@@ -70,11 +71,16 @@ bool Executor::Run(Direction direction, const Report& report, const StopRequest&
 bool Executor::HasWork(const Group& group, Direction direction) const
 {
     return std::any_of(m_plan.steps.begin() + static_cast<std::ptrdiff_t>(group.first),
-                       m_plan.steps.begin() + static_cast<std::ptrdiff_t>(group.end), [&](const PlanStep& step) {
-                           if (step.action == Action::MakeFolder)
-                               return m_progress.IsThere(step.subject) == (direction == Direction::Backward);
-                           return m_progress.Of(step.subject) == EndsOf(step, direction).first;
-                       });
+                       m_plan.steps.begin() + static_cast<std::ptrdiff_t>(group.end),
+                       [this, direction](const PlanStep& step) { return IsToDo(step, direction); });
+}
+
+bool Executor::IsToDo(const PlanStep& step, Direction direction) const
+{
+    if (step.action != Action::MakeFolder)
+        return !m_isLeftAlone[step.subject] && m_progress.Of(step.subject) == EndsOf(step, direction).first;
+    return direction == Direction::Forward ? !m_progress.IsThere(step.subject)
+                                           : m_progress.OfFolder(step.subject) == NewFolder::Made;
 }
 
 template <class Use>
@@ -140,11 +146,11 @@ bool Executor::IsLastStep(const PlanStep& step, Direction direction) const
 
 Executor::StepResult Executor::Perform(const PlanStep& step, Direction direction)
 {
+    if (!IsToDo(step, direction))
+        return StepResult::Skipped;
     if (step.action == Action::MakeFolder)
         return PerformOnFolder(step.subject, direction);
     const auto [source, target] = EndsOf(step, direction);
-    if (m_progress.Of(step.subject) != source)
-        return StepResult::Skipped;
     const PlanIndex inTheWay = FindInTheWay(step.subject, target);
     if (inTheWay != none)
         return Refuse(step.subject,
@@ -190,9 +196,6 @@ Executor::StepResult Executor::Move(PlanIndex entry, Standing source, Standing t
 
 Executor::StepResult Executor::PerformOnFolder(PlanIndex folder, Direction direction)
 {
-    const bool isMaking = direction == Direction::Forward;
-    if (isMaking ? m_progress.IsThere(folder) : m_progress.OfFolder(folder) != NewFolder::Made)
-        return StepResult::Skipped;
     const Place& place = m_plan.folders[folder].place;
     const bool isParentThere = m_progress.IsThere(place.folder);
     const OpenedFolder parent =
@@ -201,7 +204,8 @@ Executor::StepResult Executor::PerformOnFolder(PlanIndex folder, Direction direc
         m_folderErrors[folder] = parent.error;
         return StepResult::Failed;
     }
-    return isMaking ? MakeFolder(folder, parent, place.name) : RemoveFolder(folder, parent, place.name);
+    return direction == Direction::Forward ? MakeFolder(folder, parent, place.name)
+                                           : RemoveFolder(folder, parent, place.name);
 }
 
 Executor::StepResult Executor::MakeFolder(PlanIndex folder, const OpenedFolder& parent, const CString& name)

@@ -28,6 +28,8 @@ public:
     /// Starts from `progress`, which must tell what is on the disk, and keeps it true.
     Executor(const RenamePlan& plan, PlanProgress& progress, FileOperations& files);
 
+    /// Leaves `entry` where it is, whatever the direction.
+    void LeaveAlone(PlanIndex entry) { m_isLeftAlone[entry] = true; }
     /// Says beforehand what the result is for an entry that was not found.
     void SetResult(PlanIndex entry, const RenameResult& result) { m_results[entry] = result; }
 
@@ -55,6 +57,7 @@ private:
     };
 
     void FindGroups();
+    [[nodiscard]] bool IsToDo(const PlanStep& step, Direction direction) const;
     [[nodiscard]] bool HasWork(const Group& group, Direction direction) const;
     void RunGroup(const Group& group, Direction direction);
     void TakeBack(const std::vector<PlanStep>& done, Direction direction);
@@ -82,6 +85,7 @@ private:
     std::vector<Group> m_groups;
     /// For each entry whether it has a temporary name on the way.
     std::vector<bool> m_goesAside;
+    std::vector<bool> m_isLeftAlone;
     /// For each entry the one that gets its old place.
     std::vector<PlanIndex> m_successors;
     /// For each entry why it is not where it is to be.

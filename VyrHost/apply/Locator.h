@@ -25,8 +25,8 @@ public:
     /// Takes the entries that the journal's mark says so for to stand at their old paths: nothing was done to them.
     void KeepMarked();
     /// Finds the entries that are not kept, and the new folders.
-    /// @param wasCutOff the batch may have been cut off at any point. Otherwise an entry of which the disk tells too
-    ///     little stands at its new path.
+    /// @param wasCutOff the batch may have been cut off at any point. Otherwise an entry that could be either stands at
+    ///     its new path.
     void Locate(bool wasCutOff);
 
     [[nodiscard]] bool IsKept(PlanIndex entry) const { return m_isKept[entry]; }

@@ -133,9 +133,11 @@ std::uint32_t JournalFolder::Begin(Journal& journal, JournalFile& file)
     file.path = PathOf(NameOf(file.number, EndingOf(file.phase)));
     journal.heading.number = file.number;
     const CString newPath = PathOf(NameOf(file.number, newEnding));
-    // What a program left that ended while it wrote its journal.
-    static_cast<void>(m_files.Remove(newPath));
-    std::uint32_t error = m_files.WriteNew(newPath, WriteJournal(journal, journal.check));
+    const std::string text = WriteJournal(journal, journal.check);
+    std::uint32_t error = m_files.WriteNew(newPath, text);
+    // A program that ended while it wrote its journal leaves a part of it.
+    if (error && m_files.Remove(newPath) == 0)
+        error = m_files.WriteNew(newPath, text);
     if (error)
         return error;
     error = m_files.RenameFile(newPath, file.path);

@@ -13,7 +13,8 @@
 ///
 /// Numbers are decimal; folders and entries are numbered from 0 in the order of their lines, "-" stands for none. The
 /// check is the CRC-32, in eight hexadecimal digits, of all fields up to there from the start of the text; of a mark,
-/// of those up to "end" and its own. A mark is appended whenever work on the batch ends; the last whole one counts.
+/// of those up to "end" and its own. A mark is appended whenever work on the batch has ended; the last whole one
+/// counts.
 #pragma once
 
 #include <VyrHost/plan/RenamePlan.h>

@@ -559,14 +559,15 @@ TEST(Batches, DoNothingWhenTheJournalCannotBeWritten)
     }
 }
 
-TEST(Batches, CanBeClosedLaterWhenTheDiskIsFullAtTheirEnd)
+TEST(Batches, CanBeClosedLaterWhenTheJournalCannotBe)
 {
     FaultyFiles files;
     BatchScene scene(files);
     scene.Write(u"a");
     scene.Rename(u"a", u"b");
     files.before = [](const FileChange& change, std::size_t) {
-        return std::uint32_t{change.kind == FileChange::Kind::Append ? 28u : 0u};
+        const bool isClosing = change.kind == FileChange::Kind::RenameFile && change.newName.Find(u".applied") > 0;
+        return std::uint32_t{isClosing ? 28u : 0u};
     };
     EXPECT_GE(scene.Apply().error.Find(u"could not be closed"), 0);
     EXPECT_EQ(scene.results[0].outcome, RenameOutcome::Done);
@@ -576,6 +577,23 @@ TEST(Batches, CanBeClosedLaterWhenTheDiskIsFullAtTheirEnd)
     EXPECT_EQ(scene.Recover(Recovery::Finish).error, u"");
     EXPECT_EQ(scene.TakeBack().done, 1u);
     EXPECT_EQ(scene.Now(), (Tree{{"a", "a"}}));
+}
+
+TEST(Batches, AreTakenBackByWhatStandsOnTheDiskWhenTheJournalLacksItsEnd)
+{
+    FaultyFiles files;
+    BatchScene scene(files);
+    scene.Write(u"a");
+    scene.Write(u"b");
+    scene.Rename(u"a", u"x").Rename(u"b", u"y");
+    scene.Write(u"y", "in the way");
+    files.before = [](const FileChange& change, std::size_t) {
+        return std::uint32_t{change.kind == FileChange::Kind::Append ? 28u : 0u};
+    };
+    EXPECT_GE(scene.Apply().error.Find(u"how far"), 0);
+    files.before = {};
+    EXPECT_EQ(scene.TakeBack().error, u"");
+    EXPECT_EQ(scene.Now(), (Tree{{"a", "a"}, {"b", "b"}, {"y", "in the way"}}));
 }
 
 TEST(Batches, AreRefusedWhileAnotherProgramWorksOnOne)

@@ -1,0 +1,350 @@
+// Batches that are cut off at any moment, and what recover makes of them.
+#include <tests/VyrHost/apply/BatchScene.h>
+#include <tests/VyrHost/apply/FaultyFiles.h>
+#include <tests/support/Describe.h>
+#include <tests/support/StdPath.h>
+
+#include <VyrPlatform/FileIdentity.h>
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+
+namespace {
+
+using namespace VyrHost;
+using namespace VyrTests;
+namespace fs = std::filesystem;
+
+/// Thrown in place of the program's end.
+struct CutOff
+{};
+
+/// Whether the program ends before the change or after it.
+enum class Moment
+{
+    Before,
+    After
+};
+
+void CutOffAt(FaultyFiles& files, std::size_t change, Moment moment)
+{
+    const std::size_t number = files.Changes() + change;
+    files.before = [number, moment](const FileChange&, std::size_t at) -> std::uint32_t {
+        if (at == number && moment == Moment::Before)
+            throw CutOff();
+        return 0;
+    };
+    files.after = [number, moment](const FileChange&, std::size_t at) {
+        if (at == number && moment == Moment::After)
+            throw CutOff();
+    };
+}
+
+void LetWork(FaultyFiles& files)
+{
+    files.before = {};
+    files.after = {};
+}
+
+/// @return whether `work` was cut off.
+bool IsCutOff(const std::function<void()>& work)
+{
+    try {
+        work();
+        return false;
+    } catch (const CutOff&) {
+        return true;
+    }
+}
+
+using Arrange = void (*)(BatchScene& scene);
+
+/// Something of everything.
+void ArrangeMuch(BatchScene& scene)
+{
+    for (const char16_t* name : {u"1", u"2", u"a", u"b", u"x", u"y", u"z", u"case", u"d/f", u"d/s/g", u"into", u"n"})
+        scene.Write(name);
+    scene.Rename(u"1", u"2").Rename(u"2", u"3");
+    scene.Rename(u"a", u"b").Rename(u"b", u"a");
+    scene.Rename(u"x", u"y").Rename(u"y", u"z").Rename(u"z", u"x");
+    scene.Rename(u"case", u"CASE");
+    scene.RenameFolder(u"d", u"e").Rename(u"d/f", u"d/f2").RenameFolder(u"d/s", u"t").Rename(u"d/s/g", u"d/g");
+    scene.NewFolder(u"n").NewFolder(u"n/m").Rename(u"into", u"n/m/into").Rename(u"n", u"n/n");
+    scene.Write(u"same 1", "links");
+    fs::create_hard_link(ToStdPath(scene.Path(u"same 1")), ToStdPath(scene.Path(u"same 2")));
+    scene.Rename(u"same 1", u"same 2").Rename(u"same 2", u"same 3");
+}
+
+void ArrangeLittle(BatchScene& scene)
+{
+    for (const char16_t* name : {u"a", u"b", u"d/f"})
+        scene.Write(name);
+    scene.NewFolder(u"n").Rename(u"a", u"b").Rename(u"b", u"a").RenameFolder(u"d", u"n/e").Rename(u"d/f", u"d/g");
+}
+
+void ArrangeLinks(BatchScene& scene)
+{
+    scene.Write(u"1", "links");
+    for (const char16_t* name : {u"2", u"3", u"a", u"b"})
+        fs::create_hard_link(ToStdPath(scene.Path(u"1")), ToStdPath(scene.Path(name)));
+    scene.Rename(u"1", u"2").Rename(u"2", u"3").Rename(u"3", u"4").Rename(u"a", u"b").Rename(u"b", u"a");
+}
+
+VyrPlatform::NameFolding FoldAll(const CString&)
+{
+    return VyrPlatform::NameFolding::CaseAndForm;
+}
+
+class CutOffAnywhere : public testing::TestWithParam<Arrange>
+{
+protected:
+    /// What the batch makes of the tree, and how many changes that takes.
+    struct Course
+    {
+        Tree before;
+        Tree after;
+        std::size_t changes = 0;
+        std::size_t changesBack = 0;
+    };
+
+    static Course RunThrough()
+    {
+        FaultyFiles files;
+        files.folding = FoldAll;
+        BatchScene scene(files);
+        GetParam()(scene);
+        Course course;
+        course.before = scene.Now();
+        EXPECT_EQ(scene.Apply().done, scene.list.renames.size());
+        course.after = scene.Now();
+        course.changes = files.Changes();
+        EXPECT_EQ(scene.TakeBack().done, scene.list.renames.size());
+        EXPECT_EQ(scene.Now(), course.before);
+        course.changesBack = files.Changes() - course.changes;
+        return course;
+    }
+};
+
+TEST_P(CutOffAnywhere, ABatchIsTakenBackOrFinished)
+{
+    const Course course = RunThrough();
+    ASSERT_GT(course.changes, 5u);
+    for (std::size_t change = 0; change < course.changes; ++change) {
+        for (const Moment moment : {Moment::Before, Moment::After}) {
+            for (const Recovery recovery : {Recovery::TakeBack, Recovery::Finish}) {
+                SCOPED_TRACE(testing::Message() << "change " << change << (moment == Moment::After ? " done" : "")
+                                                << (recovery == Recovery::Finish ? ", finish" : ", take back"));
+                FaultyFiles files;
+                files.folding = FoldAll;
+                BatchScene scene(files);
+                GetParam()(scene);
+                CutOffAt(files, change, moment);
+                ASSERT_TRUE(IsCutOff([&scene] { scene.Apply(); }));
+                LetWork(files);
+                EXPECT_EQ(ContentsOf(scene.Now()), ContentsOf(course.before));
+                const std::optional<BatchInformation> found = scene.batches.FindCutOff();
+                if (!found) {
+                    // Not begun, or ended already.
+                    EXPECT_TRUE(scene.Now() == course.before || scene.Now() == course.after);
+                    continue;
+                }
+                EXPECT_EQ(found->state, BatchState::CutOff);
+                EXPECT_EQ(found->number, 1u);
+                EXPECT_GE(scene.Apply().error.Find(u"vyr recover"), 0);
+                EXPECT_GE(scene.TakeBack().error.Find(u"vyr recover"), 0);
+                const BatchSummary summary = scene.Recover(recovery);
+                EXPECT_EQ(summary.error, u"");
+                EXPECT_EQ(summary.done, scene.list.renames.size());
+                EXPECT_EQ(scene.Now(), recovery == Recovery::Finish ? course.after : course.before);
+                EXPECT_EQ(scene.batches.FindCutOff(), std::nullopt);
+                if (recovery == Recovery::Finish) {
+                    EXPECT_EQ(scene.TakeBack().done, scene.list.renames.size());
+                    EXPECT_EQ(scene.Now(), course.before);
+                }
+            }
+        }
+    }
+}
+
+TEST_P(CutOffAnywhere, ATakingBackIsFinishedOrTakenBack)
+{
+    const Course course = RunThrough();
+    ASSERT_GT(course.changesBack, 5u);
+    for (std::size_t change = 0; change < course.changesBack; ++change) {
+        for (const Recovery recovery : {Recovery::TakeBack, Recovery::Finish}) {
+            SCOPED_TRACE(testing::Message()
+                         << "change " << change << (recovery == Recovery::Finish ? ", finish" : ", take back"));
+            FaultyFiles files;
+            files.folding = FoldAll;
+            BatchScene scene(files);
+            GetParam()(scene);
+            scene.Apply();
+            CutOffAt(files, change, Moment::After);
+            ASSERT_TRUE(IsCutOff([&scene] { scene.TakeBack(); }));
+            LetWork(files);
+            EXPECT_EQ(ContentsOf(scene.Now()), ContentsOf(course.before));
+            const std::optional<BatchInformation> found = scene.batches.FindCutOff();
+            if (!found) {
+                EXPECT_EQ(scene.Now(), course.before);
+                continue;
+            }
+            EXPECT_EQ(found->state, BatchState::CutOffTakingBack);
+            EXPECT_EQ(scene.Recover(recovery).error, u"");
+            EXPECT_EQ(scene.Now(), recovery == Recovery::Finish ? course.before : course.after);
+            EXPECT_EQ(scene.batches.FindCutOff(), std::nullopt);
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Batches, CutOffAnywhere, testing::Values(ArrangeMuch, ArrangeLinks),
+                         [](const auto& arranged) { return arranged.index ? "Links" : "Much"; });
+
+TEST(Recover, IsItselfRecoveredWhereverItIsCutOff)
+{
+    constexpr std::size_t batchChanges = 12;
+    std::size_t cutOffTwice = 0;
+    for (std::size_t change = 0; change < batchChanges; ++change) {
+        for (std::size_t recoverChange = 0; recoverChange < batchChanges; ++recoverChange) {
+            for (const Recovery first : {Recovery::TakeBack, Recovery::Finish}) {
+                FaultyFiles files;
+                BatchScene scene(files);
+                ArrangeLittle(scene);
+                const Tree before = scene.Now();
+                CutOffAt(files, change, Moment::After);
+                IsCutOff([&scene] { scene.Apply(); });
+                CutOffAt(files, recoverChange, Moment::After);
+                cutOffTwice += IsCutOff([&scene, first] { scene.Recover(first); });
+                LetWork(files);
+                if (scene.batches.FindCutOff()) {
+                    EXPECT_EQ(scene.Recover(Recovery::TakeBack).error, u"");
+                    EXPECT_EQ(scene.Now(), before);
+                }
+                EXPECT_EQ(ContentsOf(scene.Now()), ContentsOf(before));
+            }
+        }
+    }
+    EXPECT_GT(cutOffTwice, 50u);
+}
+
+TEST(Recover, SaysThatThereIsNothingToDo)
+{
+    BatchScene scene;
+    EXPECT_EQ(scene.batches.FindCutOff(), std::nullopt);
+    EXPECT_EQ(scene.Recover(Recovery::Finish).error, u"no batch was cut off");
+}
+
+/// A scene whose batch is cut off behind its first `renames` renames.
+class CutOffScene
+{
+public:
+    explicit CutOffScene(Arrange arrange, std::size_t renames) : scene(files)
+    {
+        arrange(scene);
+        std::size_t done = 0;
+        files.after = [&done, renames](const FileChange& change, std::size_t) {
+            if (change.kind == FileChange::Kind::Rename && ++done == renames)
+                throw CutOff();
+        };
+        EXPECT_TRUE(IsCutOff([this] { scene.Apply(); }));
+        LetWork(files);
+    }
+
+    FaultyFiles files;
+    BatchScene scene;
+};
+
+void ArrangeThree(BatchScene& scene)
+{
+    for (const char16_t* name : {u"a", u"b", u"c"})
+        scene.Write(name);
+    scene.Rename(u"a", u"x").Rename(u"b", u"y").Rename(u"c", u"z");
+}
+
+TEST(Recover, EndsARenameThatWasCutOffBetweenItsTwoCalls)
+{
+    for (const Recovery recovery : {Recovery::TakeBack, Recovery::Finish}) {
+        CutOffScene cut(ArrangeThree, 1);
+        // As the fallback of a file system without the one call leaves it.
+        fs::create_hard_link(ToStdPath(cut.scene.Path(u"b")), ToStdPath(cut.scene.Path(u"y")));
+        EXPECT_EQ(cut.scene.Recover(recovery).error, u"");
+        const bool isFinished = recovery == Recovery::Finish;
+        EXPECT_EQ(cut.scene.Now(),
+                  isFinished ? (Tree{{"x", "a"}, {"y", "b"}, {"z", "c"}}) : (Tree{{"a", "a"}, {"b", "b"}, {"c", "c"}}));
+    }
+}
+
+TEST(Recover, LeavesAnExtraNameThatItsFileHadBefore)
+{
+    BatchScene* scene = nullptr;
+    CutOffScene cut(
+        [](BatchScene& arranged) {
+            ArrangeThree(arranged);
+            fs::create_hard_link(ToStdPath(arranged.Path(u"b")), ToStdPath(arranged.Path(u"another name of b")));
+        },
+        1);
+    scene = &cut.scene;
+    EXPECT_EQ(scene->Recover(Recovery::Finish).error, u"");
+    EXPECT_EQ(scene->Now(), (Tree{{"another name of b", "b"}, {"x", "a"}, {"y", "b"}, {"z", "c"}}));
+}
+
+TEST(Recover, FindsFilesThatWereReplacedMeanwhile)
+{
+    CutOffScene cut(ArrangeThree, 1);
+    // A program that saves by a new file.
+    cut.scene.Write(u"new", "saved");
+    fs::rename(ToStdPath(cut.scene.Path(u"new")), ToStdPath(cut.scene.Path(u"x")));
+    EXPECT_EQ(cut.scene.Recover(Recovery::TakeBack).done, 3u);
+    EXPECT_EQ(cut.scene.Now(), (Tree{{"a", "saved"}, {"b", "b"}, {"c", "c"}}));
+    for (const BatchEntry& entry : cut.scene.entries)
+        EXPECT_EQ(entry.hasChanged, entry.before == cut.scene.Path(u"a"));
+}
+
+TEST(Recover, LeavesAloneWhatItCannotTell)
+{
+    CutOffScene cut(ArrangeThree, 1);
+    fs::remove(ToStdPath(cut.scene.Path(u"b")));
+    cut.scene.Write(u"b", "of someone else");
+    cut.scene.Write(u"y", "of someone else, too");
+    const BatchSummary summary = cut.scene.Recover(Recovery::Finish);
+    EXPECT_EQ(summary.error, u"");
+    EXPECT_EQ(summary.done, 2u);
+    EXPECT_EQ(summary.failed, 1u);
+    EXPECT_EQ(cut.scene.Now(), (Tree{{"b", "of someone else"}, {"x", "a"}, {"y", "of someone else, too"}, {"z", "c"}}));
+}
+
+TEST(Recover, ChangesNothingWhenTheFilesAreNotThere)
+{
+    CutOffScene cut(
+        [](BatchScene& scene) {
+            scene.Write(u"disk/a");
+            scene.Rename(u"disk/a", u"disk/b");
+        },
+        1);
+    fs::rename(ToStdPath(cut.scene.Path(u"disk")), ToStdPath(cut.scene.Path(u"elsewhere")));
+    EXPECT_NE(cut.scene.Recover(Recovery::TakeBack).error, u"");
+    EXPECT_TRUE(cut.scene.batches.FindCutOff());
+    fs::rename(ToStdPath(cut.scene.Path(u"elsewhere")), ToStdPath(cut.scene.Path(u"disk")));
+    EXPECT_EQ(cut.scene.Recover(Recovery::TakeBack).done, 1u);
+}
+
+TEST(Recover, ChangesNothingWhenTheJournalIsDamaged)
+{
+    CutOffScene cut(ArrangeThree, 1);
+    const fs::path journal = ToStdPath(cut.scene.JournalFolder()) / "000001.applying";
+    std::fstream stream(journal, std::ios::in | std::ios::out | std::ios::binary);
+    stream.seekp(100);
+    stream.put('\x01');
+    stream.close();
+    const Tree now = cut.scene.Now();
+    const CString error = cut.scene.Recover(Recovery::TakeBack).error;
+    EXPECT_GE(error.Find(u"damaged"), 0);
+    EXPECT_GE(error.Find(FromStdPath(journal)), 0);
+    EXPECT_EQ(cut.scene.Now(), now);
+    fs::remove(journal);
+    EXPECT_EQ(cut.scene.batches.FindCutOff(), std::nullopt);
+}
+
+} // namespace
