@@ -1,5 +1,6 @@
 // A program started with CreateProcess, its streams pipes.
 #include <tests/support/SystemChild.h>
+#include <tests/support/windows/OwnConsole.h>
 
 #include <VyrPlatform/WindowsCString.h>
 
@@ -132,27 +133,12 @@ CString EnvironmentBlock(const ProgramCall& call)
     return block;
 }
 
-BOOL WINAPI IgnoreCtrlC(DWORD event)
-{
-    return event == CTRL_C_EVENT;
-}
-
-/// Interrupts reach a program through the console that it shares with the test. Where the test's own output goes
-/// elsewhere, it makes itself a console that it shares with nobody else, and can send Ctrl-C to all of that (Wine knows
-/// no Ctrl-Break). Else the program starts in a group of its own, and gets Ctrl-Break. To be asked before the pipes are
-/// made: the program that shows a new console takes over what is inheritable then.
-bool HasConsoleOfItsOwn()
-{
-    DWORD mode = 0;
-    static const bool isMade = !::GetConsoleMode(::GetStdHandle(STD_OUTPUT_HANDLE), &mode) && ::FreeConsole() &&
-                               ::AllocConsole() && ::SetConsoleCtrlHandler(IgnoreCtrlC, TRUE);
-    return isMade;
-}
-
 } // namespace
 
 struct SystemChild::Handles
 {
+    /// Asked before the pipes are made.
+    bool isConsoleOwn = HasConsoleOfItsOwn();
     Pipe input{Pipe::Passed::Reader};
     Pipe output{Pipe::Passed::Writer};
     Pipe errors{Pipe::Passed::Writer};
@@ -161,7 +147,7 @@ struct SystemChild::Handles
     DWORD group = 0;
 };
 
-SystemChild::SystemChild(const ProgramCall& call) : m_handles((HasConsoleOfItsOwn(), std::make_unique<Handles>()))
+SystemChild::SystemChild(const ProgramCall& call) : m_handles(std::make_unique<Handles>())
 {
     STARTUPINFOW start{};
     start.cb = sizeof start;
@@ -177,12 +163,12 @@ SystemChild::SystemChild(const ProgramCall& call) : m_handles((HasConsoleOfItsOw
     std::wstring block(ToWide(environment), static_cast<std::size_t>(environment.GetLength()));
     PROCESS_INFORMATION process{};
     if (!::CreateProcessW(ToWide(call.program), writableLine.data(), nullptr, nullptr, TRUE,
-                          CREATE_UNICODE_ENVIRONMENT | (HasConsoleOfItsOwn() ? 0 : CREATE_NEW_PROCESS_GROUP),
+                          CREATE_UNICODE_ENVIRONMENT | (m_handles->isConsoleOwn ? 0 : CREATE_NEW_PROCESS_GROUP),
                           block.data(), call.folder.IsEmpty() ? nullptr : ToWide(call.folder), &start, &process))
         Fail("CreateProcessW");
     ::CloseHandle(process.hThread);
     m_handles->process = Handle(process.hProcess);
-    m_handles->group = HasConsoleOfItsOwn() ? 0 : process.dwProcessId;
+    m_handles->group = m_handles->isConsoleOwn ? 0 : process.dwProcessId;
     m_handles->input.reader.Close();
     m_handles->output.writer.Close();
     m_handles->errors.writer.Close();
@@ -228,7 +214,9 @@ std::optional<int> SystemChild::WaitFor(std::chrono::milliseconds patience)
 
 void SystemChild::Interrupt()
 {
-    const DWORD event = m_handles->group == 0 ? CTRL_C_EVENT : CTRL_BREAK_EVENT;
+    // In its own console the test can send Ctrl-C to all that share it (Wine knows no Ctrl-Break); elsewhere it reaches
+    // the program alone, with Ctrl-Break.
+    const DWORD event = m_handles->isConsoleOwn ? CTRL_C_EVENT : CTRL_BREAK_EVENT;
     if (!::GenerateConsoleCtrlEvent(event, m_handles->group))
         Fail("GenerateConsoleCtrlEvent");
 }
