@@ -198,13 +198,16 @@ std::string ReadMovie(const ByteView& movie, PictureTag tag)
 std::string ReadIsoMedia(const ByteView& media, PictureTag tag)
 {
     ByteCursor cursor(media, ByteOrder::Big);
+    std::string text;
     while (const std::optional<IsoBox> box = NextBox(cursor)) {
         if (box->type == FourCc("meta"))
-            return ReadMeta(box->content, media, tag);
-        if (box->type == FourCc("moov"))
-            return ReadMovie(box->content, tag);
+            text = ReadMeta(box->content, media, tag);
+        else if (box->type == FourCc("moov"))
+            text = ReadMovie(box->content, tag);
+        if (!text.empty())
+            break;
     }
-    return {};
+    return text;
 }
 
 } // namespace VyrLibraryUtils::Pictures

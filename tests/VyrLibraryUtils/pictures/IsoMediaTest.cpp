@@ -194,6 +194,15 @@ TEST(IsoMedia, Cr3GivesItsThreeTags)
     EXPECT_EQ(FactsOf(BuildCr3({"", "", ""})), NoFacts);
 }
 
+TEST(IsoMedia, APictureThatIsAFilmTooIsReadInEitherOrder)
+{
+    const auto size = static_cast<std::uint32_t>(Item.size());
+    const Bytes meta = Meta(ItemInfo(1, "Exif") + ItemLocation(0, size) + Box("idat", Item));
+    const Bytes movie = Box("moov", Box("mvhd", "header"));
+    EXPECT_EQ(FactsOf(FileType + movie + meta), BuiltFacts);
+    EXPECT_EQ(FactsOf(FileType + meta + movie), BuiltFacts);
+}
+
 TEST(IsoMedia, FilmsAreEmpty)
 {
     const Bytes fileType = Box("ftyp", Bytes("qt  \0\0\0\0qt  ", 12));
