@@ -10,7 +10,8 @@ namespace {
 
 Sink& CurrentSink()
 {
-    static Sink sink;
+    // Never destroyed: late destructors may still write.
+    static auto& sink = *new Sink;
     return sink;
 }
 

@@ -26,11 +26,15 @@ TEST(COleDateTimeSystem, EverySecondAroundTheEndOfFebruaryAgreesWithTheSystem)
 
 TEST(COleDateTimeSystem, NegativeAndFractionalDaysReadAsTheSystemReadsThem)
 {
-    for (const double days : {-1.25, -0.25, 0.25, -0.75, -2.5, 1.000001, 36526.999999, -657434.0, 2958465.5}) {
+    constexpr double roundsToSunday = 36526.999999;
+    for (const double days : {-1.25, -0.25, 0.25, -0.75, -2.5, 1.000001, roundsToSunday, -657434.0, 2958465.5}) {
         SYSTEMTIME system{};
         SYSTEMTIME ours{};
         ASSERT_TRUE(VariantTimeToSystemTime(days, &system)) << days;
         ASSERT_TRUE(COleDateTime(days).GetAsSystemTime(ours)) << days;
+        // Wine rounds the time up to midnight and the date with it, but keeps the day of the week.
+        if (days == roundsToSunday)
+            system.wDayOfWeek = 0;
         EXPECT_EQ(std::memcmp(&ours, &system, sizeof ours), 0) << days;
     }
 }
