@@ -19,6 +19,7 @@ constexpr Example Examples[] = {
     {"vyr rename --replace IMG_ \"\" --prefix \"Rome \" --case lower *.jpg", "rules one after the other"},
     {"vyr rename --extension-case lower --json *.JPG", "for a program, one object a line"},
     {"find . -name \"*.txt\" -print0 | vyr rename --suffix \" (old)\" --stdin0", "names from another program"},
+    {"vyr rename --date \"yyyy<Folder><Name>\" --together --apply *", "move into a folder for each year, now"},
 };
 
 } // namespace

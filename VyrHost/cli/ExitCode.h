@@ -1,5 +1,5 @@
 /// @file
-/// What the program tells the one who called it. docs/exit-codes.md says the same.
+/// What the program tells the one who called it. docs/vyr.1 says the same.
 #pragma once
 
 namespace VyrHost::ExitCode {

@@ -6,7 +6,9 @@
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/HelpText.h>
 #include <VyrHost/cli/Messages.h>
+#include <VyrHost/cli/RecoverCommand.h>
 #include <VyrHost/cli/RenameCommand.h>
+#include <VyrHost/cli/UndoCommand.h>
 #include <VyrLibraryUtils/VersionUtils.h>
 #include <VyrPlatform/Console.h>
 #include <VyrPlatform/Encoding.h>
@@ -49,8 +51,14 @@ int RunProgram(const std::vector<CString>& arguments)
     program.require_subcommand(1);
     program.get_formatter()->column_width(HelpColumn);
     const RenameCommand rename(program);
+    const UndoCommand undo(program);
+    const RecoverCommand recover(program);
     try {
         program.parse(ToParser(program, arguments));
+        if (undo.IsChosen())
+            return undo.Run();
+        if (recover.IsChosen())
+            return recover.Run();
         return rename.Run();
     } catch (const CLI::CallForVersion&) {
         return WriteOut(VersionText() + "\n");

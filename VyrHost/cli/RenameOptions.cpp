@@ -69,7 +69,7 @@ void RenameOptions::AddSources(CLI::App& command)
         ->type_name("");
     AddFlag(command, "-r,--recursive", m_recursive, "Rename what is below a folder instead of the folder itself",
             Group);
-    AddText(command, "--only", m_pick, "KIND", "With --recursive: rename files (usual), folders or all", Group);
+    AddText(command, "--only", m_pick, "files|folders|all", "With --recursive: what is renamed (files)", Group);
     AddFlag(command, "--hidden", m_hidden, "With --recursive and wildcards: names that begin with a dot, too", Group);
     AddFlag(command, "--stdin", m_lines, "Read names from the standard input, one a line", Group);
     AddFlag(command, "--stdin0", m_terminated, "Read names from the standard input, each ended by a NUL", Group);
@@ -81,8 +81,8 @@ void RenameOptions::AddSources(CLI::App& command)
 void RenameOptions::AddOrder(CLI::App& command)
 {
     constexpr const char* Group = "Order and numbers";
-    AddText(command, "--sort", m_sort, "KEY", "Sort by name, date (modified), picture-date or size; usual: given",
-            Group);
+    AddText(command, "--sort", m_sort, "given|name|date|picture-date|size",
+            "The order of the list; date is that of the last change (given)", Group);
     AddFlag(command, "--descending", m_isDescending, "Turn the order round", Group);
     AddFlag(command, "--number-per-folder", m_countsPerFolder, "Start the numbers anew in each folder", Group);
     AddFlag(command, "--together", m_together,
@@ -94,11 +94,12 @@ void RenameOptions::AddOrder(CLI::App& command)
 void RenameOptions::AddConflicts(CLI::App& command)
 {
     constexpr const char* Group = "When a name is taken";
-    AddText(command, "--on-conflict", m_onConflict, "WHAT",
-            "number it (usual, where the rules allow that), skip the entry, or fail: rename nothing at all", Group);
+    AddText(command, "--on-conflict", m_onConflict, "number|skip|fail",
+            "Number the name where the rules allow that (usual), skip the entry, or rename nothing at all", Group);
     AddText(command, "--conflict-pattern", m_conflictPattern, "TEXT", "What is put in; ? is the number (\" (?)\")",
             Group);
-    AddText(command, "--conflict-position", m_conflictPosition, "WHERE", "after the name (usual) or before it", Group);
+    AddText(command, "--conflict-position", m_conflictPosition, "after|before", "Where it goes (after the name)",
+            Group);
     AddText(command, "--conflict-start", m_conflictStart, "N", "The first number (1)", Group);
     AddText(command, "--conflict-step", m_conflictStep, "N", "From one number to the next (1)", Group);
 }

@@ -3,11 +3,13 @@
 
 #include <VyrHost/UsageError.h>
 #include <VyrHost/apply/Batches.h>
+#include <VyrHost/cli/BatchReport.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/entries/EditedList.h>
 #include <VyrHost/entries/Pairs.h>
 #include <VyrHost/output/JsonLines.h>
+#include <VyrHost/output/OutcomeRows.h>
 #include <VyrHost/output/Progress.h>
 #include <VyrHost/output/SafeText.h>
 #include <VyrHost/output/Summary.h>
@@ -168,7 +170,8 @@ private:
             progress.Show(++done);
         };
         m_summary = batches.Apply(planned.list, report, VyrPlatform::Interrupt::WasAsked);
-        return CodeOf(m_summary);
+        progress.Close();
+        return JudgeSummary(m_summary);
     }
 
     void Note(std::uint32_t entry, const RenameResult& result)
@@ -192,19 +195,6 @@ private:
             m_outcome.causes.insert_or_assign(entry, result.reason);
     }
 
-    static int CodeOf(const BatchSummary& summary)
-    {
-        for (const CString& path : summary.missing)
-            Complain("'" + SafeText(path) + "' is not listed by its folder after its rename");
-        if (!summary.error.IsEmpty())
-            Complain(SafeText(summary.error));
-        if (summary.number == 0)
-            return ExitCode::Blocked;
-        if (summary.wasStopped)
-            return ExitCode::Interrupted;
-        return summary.error.IsEmpty() && summary.missing.empty() ? ExitCode::Success : ExitCode::Partly;
-    }
-
     /// Writes the outcome; what is not renamed decides the exit code.
     int Show(bool isStopped)
     {
@@ -216,7 +206,10 @@ private:
         } else if (m_request.quiet) {
             ShowProblems();
         } else {
-            WriteTable(output, List(), m_outcome, StyleOfOutput());
+            const auto rowOf = [this](std::size_t index) {
+                return RowOf(List(), m_outcome, index);
+            };
+            WriteTable(output, m_outcome.decisions.size(), rowOf, StyleOfOutput());
             output << SummaryOf(tally) << Ending(isStopped);
         }
         output.Flush();

@@ -34,7 +34,9 @@ struct CutPath
 /// Whether the last part of `path` is the name of an entry as it stands, so that a cut at the last separator is enough.
 bool IsPlain(std::u16string_view path, std::u16string_view name)
 {
-    return !name.empty() && name != u"." && name != u".." && path.find(u':') == std::u16string_view::npos;
+    // Where a backslash separates, what stands before a colon is a drive.
+    const bool mayHaveDrive = IsSeparator(u'\\') && path.find(u':') != std::u16string_view::npos;
+    return !name.empty() && name != u"." && name != u".." && !mayHaveDrive;
 }
 
 CutPath Cut(const CString& path)

@@ -32,8 +32,14 @@ Progress::Progress(std::string what, std::size_t total, bool isSilent)
 
 Progress::~Progress()
 {
+    Close();
+}
+
+void Progress::Close()
+{
     if (m_hasLine)
         VyrPlatform::Console::Write(Stream::Error, EraseLine);
+    m_hasLine = false;
 }
 
 void Progress::Show(std::size_t done)

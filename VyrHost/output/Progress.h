@@ -20,6 +20,8 @@ public:
     ~Progress();
 
     void Show(std::size_t done);
+    /// Takes the line away; others may write now.
+    void Close();
 
 private:
     using Clock = std::chrono::steady_clock;

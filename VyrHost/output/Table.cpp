@@ -1,14 +1,13 @@
-// Lays the preview out in three columns that fit the terminal.
+// Lays rows out in three columns that fit the terminal.
 #include <VyrHost/output/Table.h>
 
 #include <VyrHost/output/SafeText.h>
-#include <VyrHost/output/Words.h>
 #include <VyrPlatform/Console.h>
-#include <VyrPlatform/Encoding.h>
 #include <VyrPlatform/Process.h>
 
 #include <algorithm>
 #include <string>
+#include <string_view>
 
 namespace VyrHost {
 
@@ -20,13 +19,6 @@ constexpr int NoteGap = 2;
 /// Where rows may be as long as they like, names are lined up to this width.
 constexpr int MostPadding = 60;
 
-struct Row
-{
-    CString from;
-    CString to;
-    CString note;
-};
-
 struct Widths
 {
     int from = 0;
@@ -34,50 +26,26 @@ struct Widths
     int note = 0;
 };
 
-CString NewName(const EntryList& list, const Entry& entry, const Decision& decision)
+std::string_view ColourOf(Tone tone)
 {
-    if (decision.status == Status::Unchanged || decision.name.empty())
-        return {};
-    if (decision.folder == entry.folder)
-        return decision.name;
-    return CString::Join({list.folders[decision.folder].shown, decision.name});
-}
-
-CString NoteFor(const Outcome& outcome, std::size_t index)
-{
-    const Decision& decision = outcome.decisions[index];
-    std::string note;
-    if (decision.status != Status::Renamed)
-        note = WordFor(decision.status);
-    if (const std::string reason = ReasonFor(outcome, index); !reason.empty())
-        note.append(": ").append(reason);
-    if (decision.warning != VyrPlatform::NameFault::None && decision.IsRename())
-        note.append(note.empty() ? "" : "; ").append("warning: ").append(WarningFor(decision.warning));
-    return VyrPlatform::Encoding::FromUtf8(note);
-}
-
-Row RowFor(const EntryList& list, const Outcome& outcome, std::size_t index)
-{
-    const Entry& entry = list.entries[index];
-    return {CString::Join({list.folders[entry.folder].shown, entry.name}),
-            NewName(list, entry, outcome.decisions[index]), NoteFor(outcome, index)};
-}
-
-std::string_view ColourOf(const Decision& decision)
-{
-    if (decision.status == Status::Refused || decision.status == Status::Failed)
-        return "\x1b[31m";
-    if (decision.status == Status::Unchanged)
+    switch (tone) {
+    case Tone::Faint:
         return "\x1b[2m";
-    const bool isNotable = decision.status != Status::Renamed || decision.warning != VyrPlatform::NameFault::None;
-    return isNotable ? "\x1b[33m" : "";
+    case Tone::Notable:
+        return "\x1b[33m";
+    case Tone::Bad:
+        return "\x1b[31m";
+    case Tone::Plain:
+        break;
+    }
+    return {};
 }
 
-Widths NaturalWidths(const EntryList& list, const Outcome& outcome)
+Widths NaturalWidths(std::size_t count, const RowOfTable& rowOf)
 {
     Widths widths;
-    for (std::size_t index = 0; index < outcome.decisions.size(); ++index) {
-        const Row row = RowFor(list, outcome, index);
+    for (std::size_t index = 0; index < count; ++index) {
+        const TableRow row = rowOf(index);
         widths.from = std::max(widths.from, SafeWidth(row.from));
         widths.to = std::max(widths.to, SafeWidth(row.to));
         widths.note = std::max(widths.note, SafeWidth(row.note));
@@ -89,7 +57,7 @@ Widths NaturalWidths(const EntryList& list, const Outcome& outcome)
 Widths FittedWidths(Widths widths, int rowWidth)
 {
     if (rowWidth == 0)
-        return {std::min(widths.from, MostPadding), std::min(widths.to, MostPadding), widths.note};
+        return {std::min(widths.from, MostPadding), std::min(widths.to, MostPadding), 0};
     const int gap = widths.note > 0 ? NoteGap : 0;
     const int all = rowWidth - ArrowWidth - gap;
     if (widths.from + widths.to + widths.note <= all)
@@ -113,16 +81,16 @@ public:
         : m_output(output), m_widths(widths), m_style(style)
     {}
 
-    void Write(const Row& row, const Decision& decision)
+    void Write(const TableRow& row)
     {
-        const std::string_view colour = m_style.inColour ? ColourOf(decision) : "";
+        const std::string_view colour = m_style.inColour ? ColourOf(row.tone) : std::string_view();
         m_line = colour;
         AppendText(row.from, m_widths.from);
         m_line += row.to.IsEmpty() ? std::string(Arrow.size(), ' ') : std::string(Arrow);
         AppendText(row.to, m_widths.to);
         if (!row.note.IsEmpty()) {
             m_line.append(NoteGap, ' ');
-            AppendText(row.note, m_style.width > 0 ? m_widths.note : 0);
+            AppendText(row.note, m_widths.note);
         }
         m_line.erase(m_line.find_last_not_of(' ') + 1);
         if (!colour.empty())
@@ -154,11 +122,11 @@ TableStyle StyleOfOutput()
             wantsColour && VyrPlatform::Console::IsTerminal(Stream::Output)};
 }
 
-void WriteTable(OutputBuffer& output, const EntryList& list, const Outcome& outcome, TableStyle style)
+void WriteTable(OutputBuffer& output, std::size_t count, const RowOfTable& rowOf, TableStyle style)
 {
-    TableWriter writer(output, FittedWidths(NaturalWidths(list, outcome), style.width), style);
-    for (std::size_t index = 0; index < outcome.decisions.size() && !output.HasFailed(); ++index)
-        writer.Write(RowFor(list, outcome, index), outcome.decisions[index]);
+    TableWriter writer(output, FittedWidths(NaturalWidths(count, rowOf), style.width), style);
+    for (std::size_t index = 0; index < count && !output.HasFailed(); ++index)
+        writer.Write(rowOf(index));
 }
 
 } // namespace VyrHost

@@ -1,12 +1,36 @@
 /// @file
-/// A preview for people: a table of old and new names.
+/// A table of old and new names for people.
 #pragma once
 
-#include <VyrHost/entries/EntryList.h>
 #include <VyrHost/output/OutputBuffer.h>
-#include <VyrHost/preview/Decision.h>
+#include <VyrPlatform/CString.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
 
 namespace VyrHost {
+
+/// How much a row asks for notice.
+enum class Tone : std::uint8_t
+{
+    Plain,
+    Faint,
+    Notable,
+    Bad
+};
+
+struct TableRow
+{
+    CString from;
+    /// Empty where there is none; the arrow is then left out.
+    CString to;
+    CString note;
+    Tone tone = Tone::Plain;
+};
+
+/// Answers the row of a place in the table, from 0; asked twice for each.
+using RowOfTable = std::function<TableRow(std::size_t index)>;
 
 /// How a table is laid out.
 struct TableStyle
@@ -19,7 +43,7 @@ struct TableStyle
 /// The style for the standard output: that of the terminal, in colour unless NO_COLOR is set; plain text elsewhere.
 [[nodiscard]] TableStyle StyleOfOutput();
 
-/// One row for each entry: its name, the new one, and what there is to say. Names are shown as SafeText makes them.
-void WriteTable(OutputBuffer& output, const EntryList& list, const Outcome& outcome, TableStyle style);
+/// Writes `count` rows in three columns. Texts are shown as SafeText makes them.
+void WriteTable(OutputBuffer& output, std::size_t count, const RowOfTable& rowOf, TableStyle style);
 
 } // namespace VyrHost

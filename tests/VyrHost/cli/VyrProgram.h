@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,6 +26,8 @@ protected:
         call.arguments = std::move(arguments);
         call.input = input;
         call.folder = m_folder.Path();
+        call.environment = m_environment;
+        call.environment.try_emplace(u"VYR_JOURNAL_DIR", m_journal.Path(u"journal"));
         return RunProgram(call);
     }
 
@@ -37,6 +41,11 @@ protected:
     }
 
     ScratchFolder m_folder;
+    /// What the program's environment has other than the test's own.
+    std::map<CString, std::optional<CString>> m_environment;
+
+private:
+    ScratchFolder m_journal;
 };
 
 } // namespace VyrTests

@@ -2,12 +2,16 @@
 #include <VyrHost/preview/Preview.h>
 
 #include <VyrHost/entries/Gather.h>
+#include <VyrHost/preview/GivenNames.h>
+#include <VyrHost/preview/PlannedRenames.h>
 #include <VyrHost/preview/RuleNames.h>
 #include <VyrHost/rules/RuleTexts.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/NameFolding.h>
 
 #include <gtest/gtest.h>
+#include <tests/support/PictureBuilder.h>
 #include <tests/support/ScratchFolder.h>
 
 #include <chrono>
@@ -32,9 +36,10 @@ ConflictSettings Mode(OnConflict mode)
     return settings;
 }
 
-std::vector<Decision> DecideByRules(EntryList& list, const Rules& rules, OnConflict mode)
+std::vector<Decision> DecideByRules(EntryList& list, const Rules& rules, OnConflict mode,
+                                    Counting counting = Counting::WholeList)
 {
-    RuleNames names(rules, Counting::WholeList);
+    RuleNames names(rules, counting);
     return Decide(list, Groups::OfOne(list), names, Mode(mode));
 }
 
@@ -81,12 +86,23 @@ protected:
             m_folder.WriteFile(name);
     }
 
-    [[nodiscard]] Strings DecideNamed(const Names& names, const Rules& rules,
-                                      OnConflict mode = OnConflict::Number) const
+    [[nodiscard]] Strings DecideNamed(const Names& names, const Rules& rules, OnConflict mode = OnConflict::Number,
+                                      Counting counting = Counting::WholeList) const
     {
         Gathered gathered = GatherNamed(names);
         Strings told;
-        for (const Decision& decision : DecideByRules(gathered.list, rules, mode))
+        for (const Decision& decision : DecideByRules(gathered.list, rules, mode, counting))
+            told.push_back(Told(decision));
+        return told;
+    }
+
+    [[nodiscard]] Strings DecideTogether(const Names& names, const Rules& rules) const
+    {
+        Gathered gathered = GatherNamed(names);
+        RuleNames source(rules, Counting::WholeList);
+        Strings told;
+        for (const Decision& decision :
+             Decide(gathered.list, Groups::ByStem(gathered.list), source, Mode(OnConflict::Number)))
             told.push_back(Told(decision));
         return told;
     }
@@ -238,6 +254,129 @@ TEST_F(Preview, RefusesHalfACharacterThatTheOldNameDidNotHave)
     m_folder.WriteFile(u"a\U0001F600");
     EXPECT_EQ(DecideNamed({u"a\U0001F600"}, DeleteLastRules(u"1")), Strings{No(Reason::NewLoneSurrogate)});
     EXPECT_EQ(DecideNamed({u"a\U0001F600"}, DeleteLastRules(u"2")), Strings{"a"});
+}
+
+TEST_F(Preview, KeepsFilesOfOneStemTogether)
+{
+    Write({u"b.jpg", u"a.raf", u"a.jpg", u"a.xmp"});
+    EXPECT_EQ(DecideTogether({u"b.jpg", u"a.raf", u"a.jpg", u"a.xmp"}, NumberRules(u"n#", {})),
+              (Strings{"n1.jpg", "n2.raf", "n2.jpg", "n2.xmp"}));
+}
+
+TEST_F(Preview, TakesTheDateOfTheFirstThatHasOneForAllThatKeepTogether)
+{
+    Write({u"a.xmp", u"b.xmp"});
+    m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
+    EXPECT_EQ(DecideTogether({u"a.xmp", u"a.jpg", u"b.xmp"}, DateRules(u"yyyy", {DateSource::Picture})),
+              (Strings{"2024.xmp", "2024.jpg", No(Reason::NoDate)}));
+}
+
+TEST_F(Preview, GivesAllThatKeepTogetherOneNumber)
+{
+    Write({u"a1.raf", u"a1.jpg", u"a2.jpg", u"a2.raf", u"a (1).raf", u"a.jpg"});
+    // a.jpg and a (1).raf are there: the first pair needs 2, the second 3.
+    EXPECT_EQ(DecideTogether({u"a1.raf", u"a1.jpg", u"a2.jpg", u"a2.raf"}, KeepFirstRules(u"1")),
+              (Strings{"a (2).raf #", "a (2).jpg #", "a (3).jpg #", "a (3).raf #"}));
+}
+
+TEST_F(Preview, RefusesAllThatKeepTogetherWhenOneCannotBeNamed)
+{
+    m_folder.WriteFile(u"a.x");
+    m_folder.WriteFile(u"a.longer");
+    const CString longest(u'b', 252);
+    EXPECT_EQ(DecideTogether({u"a.x", u"a.longer"}, PrefixRules(longest)),
+              (Strings{No(Reason::CompanionRefused), No(Reason::TooLong)}));
+}
+
+TEST_F(Preview, RefusesThoseThatKeepTogetherWhenTheyWantOneName)
+{
+    Write({u"a.jpeg", u"a.jpg"});
+    EXPECT_EQ(DecideTogether({u"a.jpeg", u"a.jpg"}, ExtensionRules(u"png")),
+              (Strings{No(Reason::TwoToOne), No(Reason::TwoToOne)}));
+}
+
+TEST_F(Preview, CountsAnewInEachFolder)
+{
+    Write({u"c/a", u"c/b", u"d/a", u"d/b"});
+    EXPECT_EQ(
+        DecideNamed({u"c/a", u"d/a", u"d/b", u"c/b"}, NumberRules(u"#", {}), OnConflict::Number, Counting::EachFolder),
+        (Strings{"1", "1", "2", "2"}));
+}
+
+TEST_F(Preview, MovesIntoFoldersThatAreThereOrAreToBeMade)
+{
+    m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
+    m_folder.WriteFile(u"b.jpg", BuildJpeg(PictureFacts{}));
+    m_folder.WriteFile(u"2024/a.jpg");
+    Gathered gathered = GatherNamed({u"a.jpg", u"b.jpg"});
+    const Rules rules = DateRules(u"yyyy<Folder><Name>", {DateSource::Picture});
+    std::vector<Decision> decisions = DecideByRules(gathered.list, rules, OnConflict::Number);
+    // What is in the folder counts.
+    EXPECT_EQ(Told(decisions[0]), "a (1).jpg #");
+    EXPECT_EQ(Told(decisions[1]), "b.jpg");
+    EXPECT_TRUE(PlanOf(gathered.list, decisions).list.newFolders.empty());
+
+    gathered = GatherNamed({u"a.jpg", u"b.jpg"});
+    const Rules deep = DateRules(u"MM<Folder>dd<Folder><Name>", {DateSource::Picture});
+    decisions = DecideByRules(gathered.list, deep, OnConflict::Number);
+    const PlannedRenames planned = PlanOf(gathered.list, decisions);
+    EXPECT_EQ(planned.list.newFolders, (std::vector{m_folder.Path(u"07"), m_folder.Path(u"07/19")}));
+    ASSERT_EQ(planned.list.renames.size(), 2u);
+    EXPECT_EQ(planned.list.renames[0].from, m_folder.Path(u"a.jpg"));
+    EXPECT_EQ(planned.list.renames[0].to, m_folder.Path(u"07/19/a.jpg"));
+}
+
+TEST_F(Preview, RefusesToMoveIntoWhatIsNoFolder)
+{
+    m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
+    m_folder.WriteFile(u"2024");
+    EXPECT_EQ(DecideNamed({u"a.jpg"}, DateRules(u"yyyy<Folder><Name>", {DateSource::Picture})),
+              Strings{No(Reason::BadFolder)});
+}
+
+TEST_F(Preview, AFolderToBeMadeHoldsItsName)
+{
+    m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
+    Write({u"x2024"});
+    Gathered gathered = GatherNamed({u"x2024", u"a.jpg"});
+    GivenNames names({{0, u"2024"}, {1, m_folder.Path(u"2024/a.jpg")}});
+    const auto decisions = Decide(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    EXPECT_EQ(Told(decisions[0]), No(Reason::TargetExists));
+    EXPECT_EQ(Told(decisions[1]), "a.jpg");
+}
+
+TEST_F(Preview, NamesThatAreGivenOneByOneMaySwap)
+{
+    Write({u"a", u"b", u"c"});
+    Gathered gathered = GatherNamed({u"a", u"b", u"c"});
+    GivenNames names({{0, u"b"}, {1, u"a"}});
+    Strings told;
+    for (const Decision& decision :
+         Decide(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number)))
+        told.push_back(Told(decision));
+    EXPECT_EQ(told, (Strings{"b", "a", "="}));
+}
+
+TEST_F(Preview, NamesThatAreGivenOneByOneAreNotNumbered)
+{
+    Write({u"a", u"b", u"c"});
+    Gathered gathered = GatherNamed({u"a", u"b"});
+    GivenNames names({{0, u"c"}, {1, u".."}});
+    const auto decisions = Decide(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    EXPECT_EQ(Told(decisions[0]), No(Reason::TargetExists));
+    EXPECT_EQ(Told(decisions[1]), No(Reason::DotName));
+}
+
+TEST_F(Preview, JudgesNamesAsTheFolderFoldsThem)
+{
+    Write({u"a", u"B"});
+    const auto folding = VyrPlatform::GetNameFolding(m_folder.Path());
+    const bool foldsCase =
+        folding == VyrPlatform::NameFolding::Case || folding == VyrPlatform::NameFolding::CaseAndForm;
+    EXPECT_EQ(DecideNamed({u"a"}, ReplaceRules(u"a", u"b")),
+              Strings{foldsCase ? No(Reason::TargetExists) : std::string("b")});
+    // A change of case alone is a rename everywhere.
+    EXPECT_EQ(DecideNamed({u"a", u"B"}, CaseRules(u"upper")), (Strings{"A", "="}));
 }
 
 TEST_F(Preview, NumbersTenThousandEntriesThatWantOneNameQuickly)

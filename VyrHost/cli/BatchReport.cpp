@@ -1,0 +1,57 @@
+// Reports on a batch that is taken back or recovered.
+#include <VyrHost/cli/BatchReport.h>
+
+#include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/Messages.h>
+#include <VyrHost/output/OutputBuffer.h>
+#include <VyrHost/output/SafeText.h>
+#include <VyrPlatform/Console.h>
+
+namespace VyrHost {
+
+BatchReport::BatchReport(const char* what, std::size_t total, BatchReportStyle style)
+    : m_style(style), m_progress(what, total, style.json || style.quiet)
+{}
+
+BatchEntryReport BatchReport::Collector()
+{
+    return [this](const BatchEntry& entry) {
+        m_entries.push_back(entry);
+        m_progress.Show(m_entries.size());
+    };
+}
+
+int BatchReport::Write(const BatchSummary& summary)
+{
+    m_progress.Close();
+    if (m_style.quiet)
+        std::erase_if(m_entries, [](const BatchEntry& entry) { return entry.result.outcome == RenameOutcome::Done; });
+    OutputBuffer output;
+    if (m_style.json) {
+        WriteEntryJson(output, m_entries, m_style.direction);
+        VyrPlatform::Console::Write(VyrPlatform::Console::Stream::Error, SummaryOf(summary));
+    } else {
+        WriteEntryTable(output, m_entries, m_style.direction);
+        if (!m_style.quiet && summary.number != 0)
+            output << "Batch " << std::to_string(summary.number) << ": " << SummaryOf(summary);
+    }
+    output.Flush();
+    const int code = JudgeSummary(summary);
+    return output.HasFailed() ? ExitCode::Output : code;
+}
+
+int JudgeSummary(const BatchSummary& summary)
+{
+    for (const CString& path : summary.missing)
+        Complain("'" + SafeText(path) + "' is not listed by its folder after its rename");
+    if (!summary.error.IsEmpty())
+        Complain(SafeText(summary.error));
+    if (summary.number == 0)
+        return ExitCode::Blocked;
+    if (summary.wasStopped)
+        return ExitCode::Interrupted;
+    const bool isWhole = summary.failed + summary.refused + summary.notReached == 0;
+    return isWhole && summary.error.IsEmpty() && summary.missing.empty() ? ExitCode::Success : ExitCode::Partly;
+}
+
+} // namespace VyrHost

@@ -1,0 +1,48 @@
+// Declares and runs "vyr recover".
+#include <VyrHost/cli/RecoverCommand.h>
+
+#include <VyrHost/apply/Batches.h>
+#include <VyrHost/cli/BatchReport.h>
+#include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/output/OutputBuffer.h>
+#include <VyrPlatform/Interrupt.h>
+
+#include <CLI/CLI.hpp>
+
+namespace VyrHost {
+
+RecoverCommand::RecoverCommand(CLI::App& program)
+    : m_command(
+          *program.add_subcommand("recover", "Finish a batch that was cut off (power loss, kill), or take it back"))
+{
+    m_command.add_flag("--take-back", m_takeBack, "Restore what was before the batch instead of finishing it");
+    m_command.add_flag("--json", m_json, "Write one JSON object for each entry");
+    m_command.add_flag("-q,--quiet", m_quiet, "Show only what is not done");
+    m_command.footer(ExitCode::Table);
+}
+
+bool RecoverCommand::IsChosen() const
+{
+    return m_command.parsed();
+}
+
+int RecoverCommand::Run() const
+{
+    Batches batches;
+    const auto cutOff = batches.FindCutOff();
+    if (!cutOff) {
+        OutputBuffer output;
+        if (!m_json && !m_quiet)
+            output << "No batch was cut off.\n";
+        output.Flush();
+        return output.HasFailed() ? ExitCode::Output : ExitCode::Success;
+    }
+    VyrPlatform::Interrupt::Catch();
+    const Recovery recovery = m_takeBack ? Recovery::TakeBack : Recovery::Finish;
+    const BatchDirection direction = m_takeBack ? BatchDirection::Back : BatchDirection::Forward;
+    BatchReport report("recovering", cutOff->entries, {direction, m_json, m_quiet});
+    const BatchSummary summary = batches.Recover(recovery, report.Collector(), VyrPlatform::Interrupt::WasAsked);
+    return report.Write(summary);
+}
+
+} // namespace VyrHost

@@ -1,0 +1,160 @@
+// Words batches and their entries as rows and as JSON.
+#include <VyrHost/output/BatchOutput.h>
+
+#include <VyrHost/output/JsonLines.h>
+#include <VyrHost/output/SafeText.h>
+#include <VyrHost/output/Table.h>
+#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/FileSystem.h>
+
+#include <algorithm>
+#include <string_view>
+#include <tuple>
+#include <utility>
+
+namespace VyrHost {
+
+namespace {
+
+std::u16string_view WordFor(BatchState state)
+{
+    switch (state) {
+    case BatchState::Applied:
+        return u"applied";
+    case BatchState::TakenBack:
+        return u"taken back";
+    case BatchState::CutOff:
+        return u"cut off";
+    case BatchState::CutOffTakingBack:
+        return u"cut off while it was taken back";
+    case BatchState::Damaged:
+        break;
+    }
+    return u"damaged";
+}
+
+std::u16string_view WordFor(RenameOutcome outcome)
+{
+    switch (outcome) {
+    case RenameOutcome::Done:
+        return u"renamed";
+    case RenameOutcome::Failed:
+        return u"failed";
+    case RenameOutcome::Refused:
+        return u"refused";
+    case RenameOutcome::NotReached:
+        break;
+    }
+    return u"not reached";
+}
+
+std::u16string_view FolderOf(std::u16string_view path)
+{
+    const auto behind = std::find_if(path.rbegin(), path.rend(), VyrPlatform::FileSystem::IsSeparator);
+    return path.substr(0, static_cast<std::size_t>(path.rend() - behind));
+}
+
+/// Where the entry was and where it is to be.
+std::pair<CString, CString> PathsOf(const BatchEntry& entry, BatchDirection direction)
+{
+    return direction == BatchDirection::Forward ? std::pair(entry.before, entry.after)
+                                                : std::pair(entry.after, entry.before);
+}
+
+TableRow RowOf(const BatchEntry& entry, BatchDirection direction)
+{
+    TableRow row;
+    std::tie(row.from, row.to) = PathsOf(entry, direction);
+    const std::u16string_view folder = FolderOf(row.from);
+    if (folder == FolderOf(row.to))
+        row.to = row.to.Mid(static_cast<int>(folder.size()));
+    if (entry.result.outcome != RenameOutcome::Done) {
+        row.tone = entry.result.outcome == RenameOutcome::NotReached ? Tone::Notable : Tone::Bad;
+        row.note = WordFor(entry.result.outcome);
+    }
+    if (!entry.result.reason.IsEmpty())
+        row.note = CString::Join({row.note, row.note.IsEmpty() ? u"" : u": ", entry.result.reason});
+    if (entry.hasChanged) {
+        row.note = CString::Join({row.note, row.note.IsEmpty() ? u"" : u"; ", u"it has changed since"});
+        row.tone = std::max(row.tone, Tone::Notable);
+    }
+    return row;
+}
+
+CString LineOf(const BatchInformation& batch)
+{
+    CString line;
+    line.Format(u"%u  %s  %s, %u %s  ", batch.number, batch.started, WordFor(batch.state), batch.entries,
+                std::u16string_view(batch.entries == 1 ? u"entry" : u"entries"));
+    return batch.problem.IsEmpty() ? CString::Join({line, batch.firstFrom, u" -> ", batch.firstTo})
+                                   : line + batch.problem;
+}
+
+void AppendText(std::string& line, std::string_view name, std::u16string_view text)
+{
+    line += line.empty() ? "{\"" : ",\"";
+    line.append(name).append("\":");
+    AppendJsonText(line, text);
+}
+
+} // namespace
+
+void WriteBatchLines(OutputBuffer& output, const std::vector<BatchInformation>& batches)
+{
+    for (const BatchInformation& batch : batches)
+        output << SafeText(LineOf(batch)) << "\n";
+}
+
+void WriteBatchJson(OutputBuffer& output, const std::vector<BatchInformation>& batches)
+{
+    for (const BatchInformation& batch : batches) {
+        std::string line = "{\"number\":" + std::to_string(batch.number);
+        AppendText(line, "started", batch.started);
+        AppendText(line, "state", WordFor(batch.state));
+        line += ",\"entries\":" + std::to_string(batch.entries);
+        AppendText(line, "from", batch.firstFrom);
+        AppendText(line, "to", batch.firstTo);
+        if (!batch.problem.IsEmpty())
+            AppendText(line, "problem", batch.problem);
+        output << line << "}\n";
+    }
+}
+
+void WriteEntryTable(OutputBuffer& output, const std::vector<BatchEntry>& entries, BatchDirection direction)
+{
+    WriteTable(
+        output, entries.size(), [&](std::size_t index) { return RowOf(entries[index], direction); }, StyleOfOutput());
+}
+
+void WriteEntryJson(OutputBuffer& output, const std::vector<BatchEntry>& entries, BatchDirection direction)
+{
+    for (const BatchEntry& entry : entries) {
+        const auto [from, to] = PathsOf(entry, direction);
+        std::string line;
+        AppendText(line, "from", from);
+        AppendText(line, "to", to);
+        AppendText(line, "status", WordFor(entry.result.outcome));
+        if (!entry.result.reason.IsEmpty())
+            AppendText(line, "reason", entry.result.reason);
+        line += entry.hasChanged ? ",\"changed\":true}\n" : ",\"changed\":false}\n";
+        output << line;
+    }
+}
+
+std::string SummaryOf(const BatchSummary& summary)
+{
+    const std::pair<std::size_t, const char*> counts[] = {{summary.done, "renamed"},
+                                                          {summary.refused, "refused"},
+                                                          {summary.failed, "failed"},
+                                                          {summary.notReached, "not reached"}};
+    std::size_t all = 0;
+    std::string parts;
+    for (const auto& [count, word] : counts) {
+        all += count;
+        if (count > 0)
+            parts.append(parts.empty() ? ": " : ", ").append(std::to_string(count)).append(" ").append(word);
+    }
+    return std::to_string(all) + (all == 1 ? " entry" : " entries") + parts + ".\n";
+}
+
+} // namespace VyrHost

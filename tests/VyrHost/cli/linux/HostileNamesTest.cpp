@@ -1,0 +1,88 @@
+// Tests of the program: names that only Linux can have.
+#include "../VyrProgram.h"
+
+#include <VyrPlatform/Encoding.h>
+
+#include <gmock/gmock.h>
+#include <tests/support/StdPath.h>
+
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace VyrTests;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace {
+
+using HostileNames = VyrProgram;
+
+} // namespace
+
+TEST_F(HostileNames, LineEndsTabsAndEscapesAreShownAsEscapes)
+{
+    m_folder.WriteFile(u"a\nb\tc\x1b[31m");
+    EXPECT_THAT(Rename({u"--prefix", u"x", u"*"}).output, StartsWith("a\\nb\\tc\\x1b[31m  ->  xa\\nb\\tc\\x1b[31m\n"));
+    EXPECT_THAT(Rename({u"--prefix", u"x", u"--json", u"*"}).output, HasSubstr("/a\\u000ab\\u0009c\\u001b[31m\""));
+    EXPECT_EQ(Rename({u"--prefix", u"x", u"--apply", u"--quiet", u"*"}).exitCode, 0);
+    EXPECT_TRUE(m_folder.Has(u"xa\nb\tc\x1b[31m"));
+}
+
+TEST_F(HostileNames, BytesThatAreNotUtf8AreKept)
+{
+    m_folder.WriteFile(u"a\xDCFF\xDC80");
+    const ProgramResult result = Rename({u"--json", u"--suffix", u"é", u"--stdin0"}, std::string("a\xff\x80\0", 4));
+    EXPECT_THAT(result.output, HasSubstr("/a\\udcff\\udc80\",\"to\""));
+    EXPECT_THAT(result.output, HasSubstr("/a\\udcff\\udc80\xC3\xA9\",\"status\":\"renamed\"}"));
+    EXPECT_EQ(Rename({u"--suffix", u"é", u"--apply", u"a\xDCFF\xDC80"}).exitCode, 0);
+    EXPECT_TRUE(m_folder.Has(u"a\xDCFF\xDC80é"));
+}
+
+TEST_F(HostileNames, NamesOf255BytesAreRenamedAndLongerOnesRefused)
+{
+    m_folder.WriteFile(CString(u'a', 255));
+    EXPECT_EQ(Rename({u"--prefix", u"x", u"*"}).exitCode, 1);
+    EXPECT_EQ(Rename({u"--replace", u"a", u"b", u"--apply", u"--quiet", u"*"}).exitCode, 0);
+    EXPECT_TRUE(m_folder.Has(CString(u'b', 255)));
+}
+
+TEST_F(HostileNames, NamesThatLookLikeWindowsPathsAreNames)
+{
+    m_folder.WriteFile(u"C:\\x\\y.z");
+    EXPECT_EQ(Rename({u"--prefix", u"p", u"--apply", u"--quiet", u"C:\\x\\y.z"}).exitCode, 0);
+    EXPECT_TRUE(m_folder.Has(u"pC:\\x\\y.z"));
+}
+
+TEST_F(HostileNames, WindowsFaultsAreWarnings)
+{
+    m_folder.WriteFile(u"a");
+    m_folder.WriteFile(u"b:");
+    EXPECT_THAT(Rename({u"--suffix", u"?", u"a"}).output,
+                StartsWith("a  ->  a?  warning: Windows forbids a character of the new name\n"));
+    EXPECT_THAT(Rename({u"--replace", u"a", u"nul", u"a"}).output, HasSubstr("reserved on Windows"));
+    EXPECT_THAT(Rename({u"--suffix", u".", u"a"}).output, HasSubstr("warning: on Windows no name ends in a dot"));
+    EXPECT_THAT(Rename({u"--prefix", u"x", u"b:"}).output, StartsWith("b:  ->  xb:\n"));
+}
+
+TEST_F(HostileNames, AFolderThatCannotBeReadIsSaid)
+{
+    if (geteuid() == 0)
+        GTEST_SKIP() << "root can read every folder";
+    m_folder.WriteFile(u"d/a");
+    chmod(VyrPlatform::Encoding::ToNameBytes(m_folder.Path(u"d")).c_str(), 0);
+    const ProgramResult result = Rename({u"--prefix", u"x", u"-r", u"."});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.errors, StartsWith("vyr: cannot read the folder "));
+    EXPECT_THAT(Rename({u"--prefix", u"x", u"d/a"}).output, HasSubstr("its folder cannot be read"));
+    chmod(VyrPlatform::Encoding::ToNameBytes(m_folder.Path(u"d")).c_str(), 0700);
+}
+
+TEST_F(HostileNames, OneFolderUnderTwoNamesIsOneFolder)
+{
+    m_folder.WriteFile(u"real/a");
+    std::filesystem::create_directory_symlink(ToStdPath(m_folder.Path(u"real")), ToStdPath(m_folder.Path(u"link")));
+    const ProgramResult result = Rename({u"--prefix", u"x", u"real/a", u"link/a"});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_THAT(result.errors, HasSubstr("twice"));
+}
