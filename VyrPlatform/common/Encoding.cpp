@@ -1,7 +1,9 @@
 // Bytes and UTF-16: one strict UTF-8 decoder and one encoder, each with two ways to treat what is not well-formed.
 #include <VyrPlatform/Encoding.h>
 
+#include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -39,18 +41,23 @@ bool IsStrayByte(char16_t unit) noexcept
     return unit >= strayByteBase + 0x80 && unit <= strayByteBase + 0xFF;
 }
 
-/// Widens the ASCII bytes at the start of [`bytes`, `end`), a word at a time.
+// Paths and most texts are ASCII, which is converted in blocks of this many.
+constexpr std::ptrdiff_t blockSize = 8;
+using ByteBlock [[gnu::vector_size(blockSize)]] = std::uint8_t;
+using UnitBlock [[gnu::vector_size(2 * blockSize)]] = std::uint16_t;
+
+/// Widens the ASCII bytes at the start of [`bytes`, `end`).
 /// @return the first byte that is not ASCII.
 const char* WidenAscii(const char* bytes, const char* end, char16_t*& target) noexcept
 {
-    constexpr std::uint64_t highBits = 0x8080808080808080U;
-    for (; end - bytes >= 8; bytes += 8, target += 8) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, bytes, sizeof word);
-        if (word & highBits)
+    for (; end - bytes >= blockSize; bytes += blockSize, target += blockSize) {
+        constexpr std::uint64_t highBits = 0x8080808080808080U;
+        ByteBlock block;
+        std::memcpy(&block, bytes, sizeof block);
+        if (std::bit_cast<std::uint64_t>(block) & highBits)
             break;
-        for (int i = 0; i < 8; ++i)
-            target[i] = static_cast<unsigned char>(bytes[i]);
+        const auto units = __builtin_convertvector(block, UnitBlock);
+        std::memcpy(target, &units, sizeof units);
     }
     for (; bytes != end && static_cast<unsigned char>(*bytes) < 0x80; ++bytes)
         *target++ = static_cast<unsigned char>(*bytes);
@@ -171,8 +178,21 @@ char* EncodeOne(std::u16string_view text, std::size_t& at, char* target, Malform
 /// Copies ASCII units while there are any and `target` has room.
 char* NarrowAscii(std::u16string_view text, std::size_t& at, char* target, const char* end) noexcept
 {
-    for (; at < text.size() && target != end && text[at] < 0x80; ++at)
-        *target++ = static_cast<char>(text[at]);
+    const char16_t* units = text.data() + at;
+    const char16_t* const unitsEnd = units + std::min(static_cast<std::ptrdiff_t>(text.size() - at), end - target);
+    for (; unitsEnd - units >= blockSize; units += blockSize, target += blockSize) {
+        constexpr std::uint64_t highBits = 0xFF80FF80FF80FF80U;
+        UnitBlock block;
+        std::memcpy(&block, units, sizeof block);
+        const auto halves = std::bit_cast<std::array<std::uint64_t, 2>>(block);
+        if ((halves[0] | halves[1]) & highBits)
+            break;
+        const auto bytes = __builtin_convertvector(block, ByteBlock);
+        std::memcpy(target, &bytes, sizeof bytes);
+    }
+    for (; units != unitsEnd && *units < 0x80; ++units)
+        *target++ = static_cast<char>(*units);
+    at = static_cast<std::size_t>(units - text.data());
     return target;
 }
 
