@@ -28,7 +28,7 @@ std::string HomeFolder()
     return found && found->pw_dir ? found->pw_dir : std::string();
 }
 
-/// A base directory of the XDG specification: the variable `name`, or `fallback` in the home folder where it is unset,
+/// An XDG base directory: the variable `name`, or `fallback` in the home folder where it is unset,
 /// empty or (such values are to be ignored) relative.
 std::string BaseFolder(const char* name, const char* fallback)
 {
