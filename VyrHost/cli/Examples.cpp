@@ -1,6 +1,8 @@
 // The examples of the help text.
 #include <VyrHost/cli/Examples.h>
 
+#include <span>
+
 namespace VyrHost {
 
 namespace {
@@ -11,7 +13,7 @@ struct Example
     const char* meaning;
 };
 
-constexpr Example Examples[] = {
+constexpr Example OfRename[] = {
     {"vyr rename --number \"Holiday ###\" *.jpg", "Holiday 001.jpg, Holiday 002.jpg, ..."},
     {"vyr rename --number \"<Name> (#)\" --start 10 --step 10 *.pdf", "letter (10).pdf, list (20).pdf, ..."},
     {"vyr rename --date \"yyyy-MM-dd HH.mm.ss\" --date-from picture,modified -r .",
@@ -22,14 +24,40 @@ constexpr Example Examples[] = {
     {"vyr rename --date \"yyyy<Folder><Name>\" --together --apply *", "move into a folder for each year, now"},
 };
 
+constexpr Example OfUndo[] = {
+    {"vyr undo --list", "the batches with their numbers"},
+    {"vyr undo", "take the latest batch back"},
+    {"vyr undo 1 --quiet", "take batch 1 back, and show only what stays renamed"},
+};
+
+constexpr Example OfRecover[] = {
+    {"vyr recover", "do what is left of the batch that was cut off"},
+    {"vyr recover --take-back", "restore what was before it"},
+};
+
+std::string TextOf(std::span<const Example> examples)
+{
+    std::string text = "Examples:\n";
+    for (const Example& example : examples)
+        text.append("  ").append(example.command).append("\n        ").append(example.meaning).append("\n");
+    return text;
+}
+
 } // namespace
 
 std::string RenameExamples()
 {
-    std::string text = "Examples:\n";
-    for (const Example& example : Examples)
-        text.append("  ").append(example.command).append("\n        ").append(example.meaning).append("\n");
-    return text;
+    return TextOf(OfRename);
+}
+
+std::string UndoExamples()
+{
+    return TextOf(OfUndo);
+}
+
+std::string RecoverExamples()
+{
+    return TextOf(OfRecover);
 }
 
 } // namespace VyrHost

@@ -8,5 +8,8 @@ namespace VyrHost {
 
 /// For the help of "vyr rename": a line for each example and one that says what it does.
 [[nodiscard]] std::string RenameExamples();
+/// Likewise for "vyr undo" and "vyr recover".
+[[nodiscard]] std::string UndoExamples();
+[[nodiscard]] std::string RecoverExamples();
 
 } // namespace VyrHost

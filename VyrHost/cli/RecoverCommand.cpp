@@ -3,6 +3,7 @@
 
 #include <VyrHost/apply/Batches.h>
 #include <VyrHost/cli/BatchReport.h>
+#include <VyrHost/cli/Examples.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/output/OutputBuffer.h>
 #include <VyrPlatform/Interrupt.h>
@@ -18,7 +19,7 @@ RecoverCommand::RecoverCommand(CLI::App& program)
     m_command.add_flag("--take-back", m_takeBack, "Restore what was before the batch instead of finishing it");
     m_command.add_flag("--json", m_json, "Write one JSON object for each entry");
     m_command.add_flag("-q,--quiet", m_quiet, "Show only what is not done");
-    m_command.footer(ExitCode::Table);
+    m_command.footer(RecoverExamples() + "\n" + ExitCode::Table);
 }
 
 bool RecoverCommand::IsChosen() const

@@ -3,6 +3,7 @@
 
 #include <VyrHost/apply/Batches.h>
 #include <VyrHost/cli/BatchReport.h>
+#include <VyrHost/cli/Examples.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/output/BatchOutput.h>
@@ -37,7 +38,7 @@ UndoCommand::UndoCommand(CLI::App& program)
     m_command.add_flag("--list", m_list, "List the batches instead, the latest first");
     m_command.add_flag("--json", m_json, "Write one JSON object a line");
     m_command.add_flag("-q,--quiet", m_quiet, "Show only what is not taken back");
-    m_command.footer(ExitCode::Table);
+    m_command.footer(UndoExamples() + "\n" + ExitCode::Table);
 }
 
 bool UndoCommand::IsChosen() const

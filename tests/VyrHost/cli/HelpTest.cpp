@@ -83,7 +83,7 @@ TEST_F(Help, IsAskedForWhenNoCommandIsGiven)
     EXPECT_THAT(result.errors, StartsWith("vyr: "));
 }
 
-TEST_F(Help, EveryExampleRuns)
+TEST_F(Help, EveryExampleOfRenameRuns)
 {
     for (const char16_t* const name :
          {u"IMG_1.jpg", u"IMG_2.jpg", u"one.pdf", u"two.pdf", u"old.txt", u"new.txt", u"SCAN.JPG", u"trip/a.jpg"})
@@ -100,5 +100,38 @@ TEST_F(Help, EveryExampleRuns)
         const ProgramResult result = Run(arguments, hasInput ? std::string("old.txt\0new.txt\0", 16) : std::string());
         EXPECT_EQ(result.exitCode, 0) << example << '\n' << result.output << result.errors;
         EXPECT_THAT(result.output + result.errors, HasSubstr(" renamed")) << example;
+    }
+}
+
+TEST_F(Help, EveryExampleOfUndoRunsAfterABatch)
+{
+    const std::vector<std::string> examples = Examples(Run({u"undo", u"--help"}).output);
+    EXPECT_GE(examples.size(), 2u);
+    for (const std::string& example : examples) {
+        // A journal of its own, so that the batch of each example is the first.
+        const ScratchFolder journal;
+        m_environment[u"VYR_JOURNAL_DIR"] = journal.Path();
+        m_folder.WriteFile(u"old.txt");
+        ASSERT_EQ(Run({u"rename", u"--prefix", u"new ", u"--apply", u"old.txt"}).exitCode, 0);
+        std::vector<CString> arguments = Arguments(example);
+        arguments.erase(arguments.begin());
+        const ProgramResult result = Run(arguments);
+        EXPECT_EQ(result.exitCode, 0) << example << '\n' << result.output << result.errors;
+        const bool isList = example.find("--list") != std::string::npos;
+        EXPECT_EQ(m_folder.Has(u"old.txt"), !isList) << example;
+        EXPECT_EQ(result.output.find("applied") != std::string::npos, isList) << example << result.output;
+    }
+}
+
+TEST_F(Help, EveryExampleOfRecoverRunsWithNothingCutOff)
+{
+    const std::vector<std::string> examples = Examples(Run({u"recover", u"--help"}).output);
+    EXPECT_GE(examples.size(), 2u);
+    for (const std::string& example : examples) {
+        std::vector<CString> arguments = Arguments(example);
+        arguments.erase(arguments.begin());
+        const ProgramResult result = Run(arguments);
+        EXPECT_EQ(result.exitCode, 0) << example << '\n' << result.errors;
+        EXPECT_THAT(result.output, HasSubstr("No batch was cut off.")) << example;
     }
 }
