@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstddef>
+#include <fcntl.h>
 #include <limits>
 #include <linux/fs.h>
 #include <memory>
@@ -97,6 +98,7 @@ int CopyContent(int source, int target, const struct stat& status)
     constexpr off_t blockSize = 512;
     if (status.st_size > 0 && ioctl(target, FICLONE, source) == 0)
         return 0;
+    posix_fadvise(source, 0, 0, POSIX_FADV_SEQUENTIAL);
     const bool hasHoles = status.st_blocks < status.st_size / blockSize;
     return hasHoles ? CopyData(source, target, status.st_size) : CopyRange(source, target, 0, endOfFile);
 }
