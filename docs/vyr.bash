@@ -13,23 +13,25 @@ _vyr()
             break
         fi
     done
+    local help value=
+    help=$("$1" $command --help 2>/dev/null)
     if [[ -z $command && $cur != -* ]]; then
-        local commands
-        commands=$("$1" --help 2>/dev/null | sed -n '/^Subcommands:/,$s/^  \([a-z]*\) .*/\1/p')
-        COMPREPLY=($(compgen -W "$commands" -- "$cur"))
+        COMPREPLY=($(compgen -W "$(sed -n '/^Subcommands:/,$s/^  \([a-z]*\) .*/\1/p' <<<"$help")" -- "$cur"))
         return
     fi
-
-    local help value
-    help=$("$1" $command --help 2>/dev/null)
-    # The word behind an option in the help is its value: a choice such as a|b, or the value's name in capitals.
-    [[ $prev != --* ]] || value=$(sed -n "s/^ *$prev \([A-Za-z:|]*\)  .*/\1/p" <<<"$help")
+    # What stands behind an option in the help is its value: a choice such as a|b, or what it holds, in capitals.
+    [[ $prev != --* ]] || value=$(sed -nE "s/^ +(-[a-z],)?$prev ([^ ]*).*/\2/p" <<<"$help")
     case $value in
-    *'|'*) COMPREPLY=($(compgen -W "${value//|/ }" -- "$cur")) ;;
-    FILE | FOLDER | '') if [[ $cur == -* ]]; then
-        COMPREPLY=($(compgen -W "$(sed -nE 's/^ +(-[a-z],)?(--[a-z0-9-]+).*/\2/p' <<<"$help")" -- "$cur"))
-    else
-        _filedir
-    fi ;;
+    *'|'*)
+        COMPREPLY=($(compgen -W "${value//|/ }" -- "$cur"))
+        return
+        ;;
+    FILE | '') ;;
+    *) return ;;
     esac
+    if [[ $cur == -* ]]; then
+        COMPREPLY=($(compgen -W "$(sed -nE 's/^ +(-[a-z],)?(--[a-z0-9-]+).*/\2/p' <<<"$help")" -- "$cur"))
+    elif [[ $value == FILE ]] || grep -qE '^  (PATH|FROM|SOURCE|FOLDER)' <<<"$help"; then
+        _filedir
+    fi
 } && complete -F _vyr vyr

@@ -10,8 +10,7 @@ namespace {
 CString JoinPath(const CString& folder, const CString& name)
 {
     const char16_t separator = VyrPlatform::FileSystem::Separator();
-    const bool hasSeparator =
-        folder.IsEmpty() || VyrPlatform::FileSystem::IsSeparator(folder[folder.GetLength() - 1]);
+    const bool hasSeparator = folder.IsEmpty() || VyrPlatform::FileSystem::IsSeparator(folder[folder.GetLength() - 1]);
     return CString::Join({folder, hasSeparator ? std::u16string_view() : std::u16string_view(&separator, 1), name});
 }
 
