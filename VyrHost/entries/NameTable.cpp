@@ -52,7 +52,6 @@ const NameRecord* NameTable::Find(std::u16string_view name) const
     return found ? &m_records[found - 1] : nullptr;
 }
 
-
 NameRecord* NameTable::Find(std::u16string_view name)
 {
     return const_cast<NameRecord*>(static_cast<const NameTable&>(*this).Find(name));
