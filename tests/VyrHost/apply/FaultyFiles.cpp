@@ -1,5 +1,9 @@
 // Counts changes to the disk, and lets them fail.
 #include <tests/VyrHost/apply/FaultyFiles.h>
+#include <tests/support/StdPath.h>
+
+#include <filesystem>
+#include <fstream>
 
 namespace VyrTests {
 
@@ -45,8 +49,11 @@ private:
 // No test can see whether the disk has what is written, and waiting for it would take most of their time.
 std::uint32_t WriteWithoutWaiting(const CString& path, std::string_view content)
 {
-    const std::uint32_t error = SystemFiles().WriteNew(path, {});
-    return error ? error : SystemFiles().Append(path, content);
+    const std::filesystem::path file = ToStdPath(path);
+    if (std::filesystem::exists(file))
+        return SystemFiles().WriteNew(path, content);
+    std::ofstream(file, std::ios::binary) << content;
+    return 0;
 }
 
 } // namespace
