@@ -194,9 +194,7 @@ private:
         for (std::uint32_t index = 0; index < records.size(); ++index)
             if (m_settings.hidden || !records[index].name.starts_with(u'.'))
                 order.push_back(index);
-        std::sort(order.begin(), order.end(), [&records](std::uint32_t left, std::uint32_t right) {
-            return IsNaturallyLess(records[left].name, records[right].name);
-        });
+        SortNaturally(order, [&records](std::uint32_t index) { return records[index].name; });
         return order;
     }
 

@@ -76,6 +76,75 @@ int CompareRuns(std::u16string_view left, std::u16string_view right)
     return static_cast<int>(!left.empty()) - static_cast<int>(!right.empty());
 }
 
+/// The first units of a name as a number: names whose keys differ are in the order of their keys.
+class KeyBuilder
+{
+public:
+    [[nodiscard]] static std::uint64_t KeyOf(std::u16string_view text)
+    {
+        KeyBuilder key;
+        while (!text.empty() && key.m_free > 0)
+            key.Take(text);
+        return key.m_bits << (8 * key.m_free);
+    }
+
+private:
+    void Take(std::u16string_view& text)
+    {
+        const char16_t unit = text.front();
+        if (IsDigit(unit)) {
+            TakeNumber(text);
+        } else if (unit < 0x80) {
+            Push(Folded(unit));
+            text.remove_prefix(1);
+        } else {
+            // Beyond ASCII there is no order in a byte.
+            Push(0xFF);
+            text = {};
+        }
+    }
+
+    /// A digit among other units, then how many digits there are, then the digits: so 9 comes before 10.
+    void TakeNumber(std::u16string_view& text)
+    {
+        SkipZeros(text);
+        std::size_t length = 0;
+        while (length < text.size() && IsDigit(text[length]))
+            ++length;
+        Push(u'0');
+        constexpr std::size_t MostDigits = 0xFF;
+        Push(static_cast<unsigned>(std::min(length, MostDigits)));
+        if (length >= MostDigits) {
+            text = {};
+            return;
+        }
+        for (std::size_t index = 0; index < length && m_free > 0; ++index)
+            Push(text[index]);
+        text.remove_prefix(length);
+    }
+
+    void Push(unsigned byte)
+    {
+        if (m_free == 0)
+            return;
+        m_bits = (m_bits << 8) | byte;
+        --m_free;
+    }
+
+    std::uint64_t m_bits = 0;
+    int m_free = 8;
+};
+
+/// How much all names begin with in common, as CommonLength counts it.
+std::size_t CommonLength(const std::vector<std::uint32_t>& indexes, const NameOfIndex& nameOf)
+{
+    const std::u16string_view first = nameOf(indexes.front());
+    std::size_t length = first.size();
+    for (std::size_t place = 1; place < indexes.size() && length > 0; ++place)
+        length = CommonLength(first.substr(0, length), nameOf(indexes[place]));
+    return length;
+}
+
 } // namespace
 
 bool IsNaturallyLess(std::u16string_view left, std::u16string_view right)
@@ -85,6 +154,29 @@ bool IsNaturallyLess(std::u16string_view left, std::u16string_view right)
     right.remove_prefix(common);
     const int order = CompareRuns(left, right);
     return order != 0 ? order < 0 : left < right;
+}
+
+void SortNaturally(std::vector<std::uint32_t>& indexes, const NameOfIndex& nameOf)
+{
+    struct Keyed
+    {
+        std::uint64_t key;
+        std::u16string_view name;
+        std::uint32_t index;
+    };
+    if (indexes.empty())
+        return;
+    const std::size_t common = CommonLength(indexes, nameOf);
+    std::vector<Keyed> keyed;
+    keyed.reserve(indexes.size());
+    for (const std::uint32_t index : indexes) {
+        const std::u16string_view name = nameOf(index);
+        keyed.push_back({KeyBuilder::KeyOf(name.substr(common)), name, index});
+    }
+    std::sort(keyed.begin(), keyed.end(), [](const Keyed& left, const Keyed& right) {
+        return left.key != right.key ? left.key < right.key : IsNaturallyLess(left.name, right.name);
+    });
+    std::transform(keyed.begin(), keyed.end(), indexes.begin(), [](const Keyed& one) { return one.index; });
 }
 
 } // namespace VyrHost

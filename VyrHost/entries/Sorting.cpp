@@ -81,6 +81,8 @@ void Sort(EntryList& list, SortSettings settings)
         SortByKey(list, settings);
     else if (settings.isDescending)
         std::reverse(list.entries.begin(), list.entries.end());
+    else
+        return;
     list.NumberOwners();
 }
 

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <string_view>
-#include <tuple>
 #include <utility>
 
 namespace VyrHost {
@@ -54,31 +53,46 @@ std::u16string_view FolderOf(std::u16string_view path)
     return path.substr(0, static_cast<std::size_t>(path.rend() - behind));
 }
 
-/// Where the entry was and where it is to be.
-std::pair<CString, CString> PathsOf(const BatchEntry& entry, BatchDirection direction)
+/// A rename as it went.
+struct Way
 {
-    return direction == BatchDirection::Forward ? std::pair(entry.before, entry.after)
-                                                : std::pair(entry.after, entry.before);
+    const CString& from;
+    const CString& to;
+};
+
+Way WayOf(const BatchEntry& entry, BatchDirection direction)
+{
+    return direction == BatchDirection::Forward ? Way{entry.before, entry.after} : Way{entry.after, entry.before};
+}
+
+CString NoteFor(const BatchEntry& entry)
+{
+    CString note;
+    if (entry.result.outcome != RenameOutcome::Done)
+        note = WordFor(entry.result.outcome);
+    if (!entry.result.reason.IsEmpty())
+        note = CString::Join({note, note.IsEmpty() ? u"" : u": ", entry.result.reason});
+    if (entry.hasChanged)
+        note = CString::Join({note, note.IsEmpty() ? u"" : u"; ", u"it has changed since"});
+    return note;
+}
+
+Tone ToneOf(const BatchEntry& entry)
+{
+    if (entry.result.outcome == RenameOutcome::Failed || entry.result.outcome == RenameOutcome::Refused)
+        return Tone::Bad;
+    return entry.hasChanged || entry.result.outcome == RenameOutcome::NotReached ? Tone::Notable : Tone::Plain;
 }
 
 TableRow RowOf(const BatchEntry& entry, BatchDirection direction)
 {
-    TableRow row;
-    std::tie(row.from, row.to) = PathsOf(entry, direction);
-    const std::u16string_view folder = FolderOf(row.from);
-    if (folder == FolderOf(row.to))
-        row.to = row.to.Mid(static_cast<int>(folder.size()));
-    if (entry.result.outcome != RenameOutcome::Done) {
-        row.tone = entry.result.outcome == RenameOutcome::NotReached ? Tone::Notable : Tone::Bad;
-        row.note = WordFor(entry.result.outcome);
-    }
-    if (!entry.result.reason.IsEmpty())
-        row.note = CString::Join({row.note, row.note.IsEmpty() ? u"" : u": ", entry.result.reason});
-    if (entry.hasChanged) {
-        row.note = CString::Join({row.note, row.note.IsEmpty() ? u"" : u"; ", u"it has changed since"});
-        row.tone = std::max(row.tone, Tone::Notable);
-    }
-    return row;
+    const Way way = WayOf(entry, direction);
+    const std::u16string_view from = FolderOf(way.from);
+    const std::u16string_view to = FolderOf(way.to);
+    return {{from, way.from.View().substr(from.size())},
+            {from == to ? std::u16string_view() : to, way.to.View().substr(to.size())},
+            NoteFor(entry),
+            ToneOf(entry)};
 }
 
 CString LineOf(const BatchInformation& batch)
@@ -129,7 +143,7 @@ void WriteEntryTable(OutputBuffer& output, const std::vector<BatchEntry>& entrie
 void WriteEntryJson(OutputBuffer& output, const std::vector<BatchEntry>& entries, BatchDirection direction)
 {
     for (const BatchEntry& entry : entries) {
-        const auto [from, to] = PathsOf(entry, direction);
+        const auto [from, to] = WayOf(entry, direction);
         std::string line;
         AppendText(line, "from", from);
         AppendText(line, "to", to);

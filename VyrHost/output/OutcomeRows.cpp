@@ -10,18 +10,20 @@ namespace VyrHost {
 
 namespace {
 
-CString NewName(const EntryList& list, const Entry& entry, const Decision& decision)
+ShownName NewName(const EntryList& list, const Entry& entry, const Decision& decision)
 {
     if (decision.status == Status::Unchanged || decision.name.empty())
         return {};
     if (decision.folder == entry.folder)
-        return decision.name;
-    return CString::Join({list.folders[decision.folder].shown, decision.name});
+        return {{}, decision.name};
+    return {list.folders[decision.folder].shown, decision.name};
 }
 
 CString NoteFor(const Outcome& outcome, std::size_t index)
 {
     const Decision& decision = outcome.decisions[index];
+    if (decision.status == Status::Renamed && decision.warning == VyrPlatform::NameFault::None)
+        return {};
     std::string note;
     if (decision.status != Status::Renamed)
         note = WordFor(decision.status);
@@ -56,8 +58,10 @@ TableRow RowOf(const EntryList& list, const Outcome& outcome, std::size_t index)
 {
     const Entry& entry = list.entries[index];
     const Decision& decision = outcome.decisions[index];
-    return {CString::Join({list.folders[entry.folder].shown, entry.name}), NewName(list, entry, decision),
-            NoteFor(outcome, index), ToneOf(decision)};
+    return {{list.folders[entry.folder].shown, entry.name},
+            NewName(list, entry, decision),
+            NoteFor(outcome, index),
+            ToneOf(decision)};
 }
 
 } // namespace VyrHost

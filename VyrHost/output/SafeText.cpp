@@ -112,17 +112,23 @@ std::ptrdiff_t CountFitting(Iterator begin, Iterator end, int width)
 
 } // namespace
 
+void AppendSafeText(std::string& line, std::u16string_view text)
+{
+    if (IsAllPlain(text)) {
+        const std::size_t before = line.size();
+        line.resize(before + text.size());
+        std::transform(text.begin(), text.end(), line.begin() + static_cast<std::ptrdiff_t>(before),
+                       [](char16_t unit) { return static_cast<char>(unit); });
+        return;
+    }
+    while (!text.empty())
+        Append(line, TakeGlyph(text));
+}
+
 std::string SafeText(std::u16string_view text)
 {
     std::string shown;
-    shown.reserve(text.size());
-    if (IsAllPlain(text)) {
-        for (const char16_t unit : text)
-            shown += static_cast<char>(unit);
-        return shown;
-    }
-    while (!text.empty())
-        Append(shown, TakeGlyph(text));
+    AppendSafeText(shown, text);
     return shown;
 }
 

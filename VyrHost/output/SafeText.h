@@ -11,6 +11,9 @@ namespace VyrHost {
 /// stand as escapes (`\n`, `\x1b`, `\u202e`), lone surrogates too (`\udcff`).
 [[nodiscard]] std::string SafeText(std::u16string_view text);
 
+/// Appends SafeText(text) to `line`.
+void AppendSafeText(std::string& line, std::u16string_view text);
+
 /// How many columns SafeText(text) takes.
 [[nodiscard]] int SafeWidth(std::u16string_view text);
 

@@ -14,6 +14,8 @@ namespace VyrHost {
 namespace {
 
 constexpr std::string_view Arrow = "  ->  ";
+constexpr std::string_view NoArrow = "      ";
+static_assert(Arrow.size() == NoArrow.size());
 constexpr int ArrowWidth = static_cast<int>(Arrow.size());
 constexpr int NoteGap = 2;
 /// Where rows may be as long as they like, names are lined up to this width.
@@ -41,13 +43,18 @@ std::string_view ColourOf(Tone tone)
     return {};
 }
 
+int WidthOf(const ShownName& shown)
+{
+    return SafeWidth(shown.folder) + SafeWidth(shown.name);
+}
+
 Widths NaturalWidths(std::size_t count, const RowOfTable& rowOf)
 {
     Widths widths;
     for (std::size_t index = 0; index < count; ++index) {
         const TableRow row = rowOf(index);
-        widths.from = std::max(widths.from, SafeWidth(row.from));
-        widths.to = std::max(widths.to, SafeWidth(row.to));
+        widths.from = std::max(widths.from, WidthOf(row.from));
+        widths.to = std::max(widths.to, WidthOf(row.to));
         widths.note = std::max(widths.note, SafeWidth(row.note));
     }
     return widths;
@@ -85,12 +92,15 @@ public:
     {
         const std::string_view colour = m_style.inColour ? ColourOf(row.tone) : std::string_view();
         m_line = colour;
-        AppendText(row.from, m_widths.from);
-        m_line += row.to.IsEmpty() ? std::string(Arrow.size(), ' ') : std::string(Arrow);
-        AppendText(row.to, m_widths.to);
+        AppendName(row.from, m_widths.from);
+        m_line.append(row.to.name.empty() ? NoArrow : Arrow);
+        AppendName(row.to, m_widths.to);
         if (!row.note.IsEmpty()) {
             m_line.append(NoteGap, ' ');
-            AppendText(row.note, m_widths.note);
+            if (m_style.width > 0)
+                m_line += FittedText(row.note, m_widths.note);
+            else
+                AppendSafeText(m_line, row.note);
         }
         m_line.erase(m_line.find_last_not_of(' ') + 1);
         if (!colour.empty())
@@ -100,9 +110,16 @@ public:
     }
 
 private:
-    void AppendText(const CString& text, int width)
+    void AppendName(const ShownName& shown, int width)
     {
-        m_line += m_style.width > 0 || SafeWidth(text) <= width ? FittedText(text, width) : SafeText(text);
+        const int left = width - WidthOf(shown);
+        if (left < 0 && m_style.width > 0) {
+            m_line += FittedText(CString::Join({shown.folder, shown.name}), width);
+            return;
+        }
+        AppendSafeText(m_line, shown.folder);
+        AppendSafeText(m_line, shown.name);
+        m_line.append(static_cast<std::size_t>(std::max(left, 0)), ' ');
     }
 
     OutputBuffer& m_output;

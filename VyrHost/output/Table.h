@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <string_view>
 
 namespace VyrHost {
 
@@ -20,16 +21,24 @@ enum class Tone : std::uint8_t
     Bad
 };
 
+/// A name and what stands before it. The texts live elsewhere.
+struct ShownName
+{
+    std::u16string_view folder;
+    std::u16string_view name;
+};
+
 struct TableRow
 {
-    CString from;
+    ShownName from;
     /// Empty where there is none; the arrow is then left out.
-    CString to;
+    ShownName to;
     CString note;
     Tone tone = Tone::Plain;
 };
 
-/// Answers the row of a place in the table, from 0; asked twice for each.
+/// Answers the row of a place in the table, from 0; asked twice for each. The texts of a row must live until the next
+/// one is asked for.
 using RowOfTable = std::function<TableRow(std::size_t index)>;
 
 /// How a table is laid out.

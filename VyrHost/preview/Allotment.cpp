@@ -50,23 +50,26 @@ private:
 
     void Place(std::uint32_t group)
     {
-        m_pending.push_back(group);
+        Settle(group, false);
         while (!m_pending.empty()) {
             const std::uint32_t next = m_pending.back();
             m_pending.pop_back();
-            Settle(next);
+            Settle(next, true);
         }
     }
 
     /// Gives the members of a group their names, or decides that they stay.
-    void Settle(std::uint32_t group)
+    /// @param isAgain  they may hold names already.
+    void Settle(std::uint32_t group, bool isAgain)
     {
         m_members.clear();
         for (const std::uint32_t entry : m_groups.Members(group))
             if (TakesPart(entry))
                 m_members.push_back(entry);
-        for (const std::uint32_t entry : m_members)
-            Release(entry);
+        // A member whose name does not change holds it from the beginning.
+        if (isAgain || m_members.size() > 1)
+            for (const std::uint32_t entry : m_members)
+                Release(entry);
         const std::optional<Clash> clash = GiveWanted(group);
         if (!clash)
             return;

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iterator>
+#include <numeric>
 #include <random>
 #include <string>
 #include <vector>
@@ -40,4 +42,32 @@ TEST(NaturalOrder, IsAStrictOrder)
     for (std::size_t left = 0; left < names.size(); ++left)
         for (std::size_t right = left + 1; right < names.size(); ++right)
             EXPECT_FALSE(IsNaturallyLess(names[right], names[left]));
+}
+
+TEST(NaturalOrder, SortsAsTheOrderSaysWhateverNamesBeginWith)
+{
+    constexpr char16_t Units[] = {u'0', u'0', u'1', u'2', u'9', u'a', u'A', u'b', u'-', u':', u'.', u'é', u'日', u'z'};
+    std::mt19937 random(11);
+    for (int round = 0; round < 300; ++round) {
+        std::vector<std::u16string> names;
+        const std::u16string start = round % 3 == 0 ? u"IMG_00" : round % 3 == 1 ? u"x9" : u"";
+        for (int count = 0; count < 60; ++count) {
+            std::u16string name = start;
+            for (std::size_t length = random() % 12; length > 0; --length)
+                name += Units[random() % std::size(Units)];
+            names.push_back(name);
+        }
+        names.push_back(start + std::u16string(300, u'7'));
+        names.push_back(start + std::u16string(299, u'8'));
+        std::vector<std::uint32_t> indexes(names.size());
+        std::iota(indexes.begin(), indexes.end(), 0U);
+        VyrHost::SortNaturally(indexes, [&names](std::uint32_t index) { return std::u16string_view(names[index]); });
+        std::vector<std::u16string> expected = names;
+        std::sort(expected.begin(), expected.end(), IsNaturallyLess);
+        for (std::size_t place = 0; place < names.size(); ++place)
+            ASSERT_EQ(names[indexes[place]], expected[place]);
+    }
+    std::vector<std::uint32_t> none;
+    VyrHost::SortNaturally(none, [](std::uint32_t) { return std::u16string_view(); });
+    EXPECT_TRUE(none.empty());
 }
