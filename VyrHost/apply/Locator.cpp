@@ -89,9 +89,8 @@ void Locator::LocateEntry(PlanIndex entry, bool wasCutOff)
 /// Whether a rename in two calls had given the file its one name and not yet taken the other away.
 bool Locator::IsHalfRenamed(PlanIndex entry, const Sight& kept, const Sight& left) const
 {
-    return left.standing != kept.standing && left.likeness == Likeness::Identity &&
-           kept.likeness == Likeness::Identity && left.state.kind != Kind::Folder &&
-           m_journal.states[entry].links == 1 && left.state.links > 1;
+    return left.standing != kept.standing && left.likeness == Likeness::All && kept.likeness == Likeness::All &&
+           left.state.kind != Kind::Folder && m_journal.states[entry].links == 1 && left.state.links > 1;
 }
 
 /// The old and the new name are one to the file system: what it lists tells which of them it is.
@@ -121,12 +120,12 @@ Locator::Likeness Locator::Compare(PlanIndex entry, const FileState& state) cons
     const FileState& known = m_journal.states[entry];
     if (state.kind == Kind::Missing || state.kind != known.kind)
         return Likeness::None;
-    const bool isSameContent = IsSameContent(state, known);
-    // The device may have another number since it was mounted again.
-    if (state.identity.number == known.identity.number &&
-        (state.identity.device == known.identity.device || isSameContent || known.kind == Kind::Folder))
-        return Likeness::Identity;
-    return isSameContent && known.kind == Kind::File ? Likeness::Content : Likeness::Kind;
+    const bool hasSameNumber = state.identity.number == known.identity.number;
+    if (known.kind == Kind::Folder)
+        return hasSameNumber ? Likeness::All : Likeness::Kind;
+    if (IsSameContent(state, known))
+        return hasSameNumber ? Likeness::All : Likeness::Content;
+    return hasSameNumber ? Likeness::Number : Likeness::Kind;
 }
 
 /// The likelier of the two; where both are equally likely, the new path, if that may be.
@@ -134,7 +133,7 @@ Locator::Sight Locator::Choose(const Sight& before, const Sight& after, bool was
 {
     if (before.likeness > after.likeness)
         return before;
-    const bool isClear = after.likeness > before.likeness || after.likeness == Likeness::Identity || !wasCutOff;
+    const bool isClear = after.likeness > before.likeness || after.likeness == Likeness::All || !wasCutOff;
     if (isClear && after.likeness != Likeness::None)
         return after;
     Sight unknown;
@@ -165,8 +164,7 @@ void Locator::Settle(PlanIndex entry, const Sight& sight)
     }
     const Place place = m_progress.PlaceOf(entry, sight.standing);
     m_taken.Put({place.folder, place.name}, entry);
-    m_hasChanged[entry] = sight.state.kind == Kind::File && (sight.likeness != Likeness::Identity ||
-                                                             !IsSameContent(sight.state, m_journal.states[entry]));
+    m_hasChanged[entry] = sight.state.kind == Kind::File && sight.likeness != Likeness::All;
 }
 
 const std::unordered_set<CString>& Locator::NamesIn(PlanIndex folder)

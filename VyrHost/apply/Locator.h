@@ -13,9 +13,9 @@
 
 namespace VyrHost {
 
-/// Looks for every entry at its old, its temporary and its new path, and tells it by its identity; where that has
-/// changed (another mount, a program that replaces files when it saves), by its size and time, and last by what stands
-/// at one of the paths alone.
+/// Looks for every entry at its old, its temporary and its new path, and tells it by its number in the file system, its
+/// size and its time; where those have changed (another mount, a program that replaces files when it saves), by what
+/// stands at one of the paths alone.
 class Locator
 {
 public:
@@ -36,13 +36,15 @@ public:
     [[nodiscard]] std::uint32_t Error(PlanIndex entry) const { return m_errors[entry]; }
 
 private:
-    /// How sure it is that what stands somewhere is the entry, rising.
+    /// How sure it is that what stands somewhere is the entry, rising. The number alone says less than size and time:
+    /// some file systems give their numbers anew at each mount.
     enum class Likeness : std::uint8_t
     {
         None,
         Kind,
+        Number,
         Content,
-        Identity
+        All
     };
     /// What stands at one of an entry's places.
     struct Sight

@@ -109,29 +109,39 @@ std::string TurnForm(const std::string& name)
     return Encoding::ToNameBytes(text == std::u16string_view(composed) ? Decompose(text) : composed);
 }
 
+using Entries = std::unique_ptr<DIR, int (*)(DIR*)>;
+
+Entries OpenEntries(int folder) noexcept
+{
+    const int again = openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    return {again >= 0 ? fdopendir(again) : nullptr, closedir};
+}
+
+bool Lists(int folder, const std::string& name) noexcept
+{
+    const Entries entries = OpenEntries(folder);
+    while (const dirent* entry = entries ? readdir(entries.get()) : nullptr)
+        if (name == entry->d_name)
+            return true;
+    return false;
+}
+
 /// Whether `folder` finds its entry `name` under `otherName` too; nothing when this entry cannot show it.
 std::optional<bool> IsFoundAs(int folder, const std::string& name, const std::string& otherName) noexcept
 {
     if (otherName == name)
         return {};
-    const FileState entry = LookAtFile(folder, name.c_str());
     const FileState found = LookAtFile(folder, otherName.c_str());
-    if (entry.kind == FileSystem::Kind::Missing || (found.kind == FileSystem::Kind::Missing && found.error != ENOENT))
-        return {};
-    if (found.kind == FileSystem::Kind::Missing || found.identity != entry.identity)
-        return false;
-    // A file of several names may have the other one as a name of its own.
-    if (entry.kind != FileSystem::Kind::Folder && entry.links != 1)
-        return {};
-    return true;
+    if (found.kind != FileSystem::Kind::Missing)
+        return !Lists(folder, otherName);
+    return found.error == ENOENT ? std::optional(false) : std::nullopt;
 }
 
 /// Tries the folder on its own entries.
 NameFolding TryFolding(int folder)
 {
     constexpr int mostEntries = 10'000;
-    const int duplicate = fcntl(folder, F_DUPFD_CLOEXEC, 0);
-    const std::unique_ptr<DIR, int (*)(DIR*)> entries(duplicate >= 0 ? fdopendir(duplicate) : nullptr, closedir);
+    const Entries entries = OpenEntries(folder);
     std::optional<bool> foldsCase;
     std::optional<bool> foldsForm;
     for (int count = 0; entries && count < mostEntries && !(foldsCase && foldsForm); ++count) {

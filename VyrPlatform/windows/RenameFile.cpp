@@ -39,6 +39,9 @@ CString PathOf(const CString& folder, const CString& name)
 
 std::uint32_t Rename(const CString& from, const CString& to) noexcept
 {
+    // Where both are links to one file, or one path in another case, some file systems succeed and do nothing.
+    if (GetFileAttributesW(ToWide(to)) != INVALID_FILE_ATTRIBUTES)
+        return GetFileAttributesW(ToWide(from)) != INVALID_FILE_ATTRIBUTES ? ERROR_ALREADY_EXISTS : GetLastError();
     return MoveFileExW(ToWide(from), ToWide(to), 0) ? ERROR_SUCCESS : GetLastError();
 }
 

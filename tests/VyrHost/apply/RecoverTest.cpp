@@ -1,6 +1,5 @@
 // Batches that are cut off at any moment, and what recover makes of them.
-#include <tests/VyrHost/apply/BatchScene.h>
-#include <tests/VyrHost/apply/FaultyFiles.h>
+#include <tests/VyrHost/apply/CutOffScene.h>
 #include <tests/support/Describe.h>
 #include <tests/support/StdPath.h>
 
@@ -10,57 +9,12 @@
 
 #include <filesystem>
 #include <fstream>
-#include <functional>
 
 namespace {
 
 using namespace VyrHost;
 using namespace VyrTests;
 namespace fs = std::filesystem;
-
-/// Thrown in place of the program's end.
-struct CutOff
-{};
-
-/// Whether the program ends before the change or after it.
-enum class Moment
-{
-    Before,
-    After
-};
-
-void CutOffAt(FaultyFiles& files, std::size_t change, Moment moment)
-{
-    const std::size_t number = files.Changes() + change;
-    files.before = [number, moment](const FileChange&, std::size_t at) -> std::uint32_t {
-        if (at == number && moment == Moment::Before)
-            throw CutOff();
-        return 0;
-    };
-    files.after = [number, moment](const FileChange&, std::size_t at) {
-        if (at == number && moment == Moment::After)
-            throw CutOff();
-    };
-}
-
-void LetWork(FaultyFiles& files)
-{
-    files.before = {};
-    files.after = {};
-}
-
-/// @return whether `work` was cut off.
-bool IsCutOff(const std::function<void()>& work)
-{
-    try {
-        work();
-        return false;
-    } catch (const CutOff&) {
-        return true;
-    }
-}
-
-using Arrange = void (*)(BatchScene& scene);
 
 /// Something of everything.
 void ArrangeMuch(BatchScene& scene)
@@ -236,58 +190,16 @@ TEST(Recover, SaysThatThereIsNothingToDo)
     EXPECT_EQ(scene.Recover(Recovery::Finish).error, u"no batch was cut off");
 }
 
-/// A scene whose batch is cut off behind its first `renames` renames.
-class CutOffScene
-{
-public:
-    explicit CutOffScene(Arrange arrange, std::size_t renames) : scene(files)
-    {
-        arrange(scene);
-        std::size_t done = 0;
-        files.after = [&done, renames](const FileChange& change, std::size_t) {
-            if (change.kind == FileChange::Kind::Rename && ++done == renames)
-                throw CutOff();
-        };
-        EXPECT_TRUE(IsCutOff([this] { scene.Apply(); }));
-        LetWork(files);
-    }
-
-    FaultyFiles files;
-    BatchScene scene;
-};
-
-void ArrangeThree(BatchScene& scene)
-{
-    for (const char16_t* name : {u"a", u"b", u"c"})
-        scene.Write(name);
-    scene.Rename(u"a", u"x").Rename(u"b", u"y").Rename(u"c", u"z");
-}
-
-TEST(Recover, EndsARenameThatWasCutOffBetweenItsTwoCalls)
-{
-    for (const Recovery recovery : {Recovery::TakeBack, Recovery::Finish}) {
-        CutOffScene cut(ArrangeThree, 1);
-        // As the fallback of a file system without the one call leaves it.
-        fs::create_hard_link(ToStdPath(cut.scene.Path(u"b")), ToStdPath(cut.scene.Path(u"y")));
-        EXPECT_EQ(cut.scene.Recover(recovery).error, u"");
-        const bool isFinished = recovery == Recovery::Finish;
-        EXPECT_EQ(cut.scene.Now(),
-                  isFinished ? (Tree{{"x", "a"}, {"y", "b"}, {"z", "c"}}) : (Tree{{"a", "a"}, {"b", "b"}, {"c", "c"}}));
-    }
-}
-
 TEST(Recover, LeavesAnExtraNameThatItsFileHadBefore)
 {
-    BatchScene* scene = nullptr;
     CutOffScene cut(
         [](BatchScene& arranged) {
             ArrangeThree(arranged);
             fs::create_hard_link(ToStdPath(arranged.Path(u"b")), ToStdPath(arranged.Path(u"another name of b")));
         },
         1);
-    scene = &cut.scene;
-    EXPECT_EQ(scene->Recover(Recovery::Finish).error, u"");
-    EXPECT_EQ(scene->Now(), (Tree{{"another name of b", "b"}, {"x", "a"}, {"y", "b"}, {"z", "c"}}));
+    EXPECT_EQ(cut.scene.Recover(Recovery::Finish).error, u"");
+    EXPECT_EQ(cut.scene.Now(), (Tree{{"another name of b", "b"}, {"x", "a"}, {"y", "b"}, {"z", "c"}}));
 }
 
 TEST(Recover, FindsFilesThatWereReplacedMeanwhile)
