@@ -82,6 +82,9 @@ class KeyBuilder
 public:
     [[nodiscard]] static std::uint64_t KeyOf(std::u16string_view text)
     {
+        // A shift by all the bits of a number has no meaning.
+        if (text.empty())
+            return 0;
         KeyBuilder key;
         while (!text.empty() && key.m_free > 0)
             key.Take(text);
