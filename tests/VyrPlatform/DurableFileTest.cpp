@@ -1,0 +1,82 @@
+// DurableFile: writing that is on the disk, and the lock between programs.
+#include <tests/support/ScratchFolder.h>
+
+#include <VyrPlatform/DurableFile.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+using namespace VyrPlatform;
+using VyrTests::ScratchFolder;
+
+TEST(DurableFile, WritesAndAppends)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.Path(u"file");
+    const std::string large(3'000'000, 'x');
+    EXPECT_EQ(DurableFile::WriteNew(path, large), 0u);
+    EXPECT_EQ(DurableFile::Append(path, "more"), 0u);
+    EXPECT_EQ(DurableFile::Append(path, ""), 0u);
+    EXPECT_EQ(DurableFile::FlushFolder(scratch.Path()), 0u);
+    EXPECT_EQ(scratch.ReadFile(u"file"), large + "more");
+}
+
+TEST(DurableFile, KeepsAFileThatIsThere)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"file", "first");
+    EXPECT_NE(DurableFile::WriteNew(path, "second"), 0u);
+    EXPECT_EQ(scratch.ReadFile(u"file"), "first");
+}
+
+TEST(DurableFile, AppendsOnlyToAFileThatIsThere)
+{
+    const ScratchFolder scratch;
+    EXPECT_NE(DurableFile::Append(scratch.Path(u"file"), "x"), 0u);
+    EXPECT_FALSE(scratch.Has(u"file"));
+}
+
+TEST(DurableFile, Removes)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"file");
+    EXPECT_EQ(DurableFile::Remove(path), 0u);
+    EXPECT_FALSE(scratch.Has(u"file"));
+    EXPECT_NE(DurableFile::Remove(path), 0u);
+}
+
+TEST(DurableFile, FailsInAFolderThatIsNotThere)
+{
+    const ScratchFolder scratch;
+    EXPECT_NE(DurableFile::WriteNew(scratch.Path(u"no/file"), "x"), 0u);
+}
+
+TEST(FileLock, IsHeldByOneAtATime)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.Path(u"lock");
+    {
+        const FileLock first(path);
+        EXPECT_TRUE(first.IsHeld());
+        EXPECT_EQ(first.Error(), 0u);
+        const FileLock second(path);
+        EXPECT_FALSE(second.IsHeld());
+        EXPECT_TRUE(second.IsTaken());
+        EXPECT_NE(second.Error(), 0u);
+    }
+    EXPECT_TRUE(FileLock(path).IsHeld());
+}
+
+TEST(FileLock, SaysWhyItCannotBeTaken)
+{
+    const ScratchFolder scratch;
+    const FileLock lock(scratch.Path(u"no/lock"));
+    EXPECT_FALSE(lock.IsHeld());
+    EXPECT_FALSE(lock.IsTaken());
+    EXPECT_NE(lock.Error(), 0u);
+}
+
+} // namespace
