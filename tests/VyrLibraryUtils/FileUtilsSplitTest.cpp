@@ -1,6 +1,7 @@
 // Paths cut and joined: what both systems share. What differs stands in the folders of the systems.
 #include <VyrLibraryUtils/FileUtils.h>
 
+#include <tests/VyrLibraryUtils/SplitCase.h>
 #include <tests/support/Describe.h>
 #include <tests/support/StdPath.h>
 
@@ -11,17 +12,9 @@
 #include <random>
 
 using VyrLibraryUtils::FileUtils;
+using VyrTests::SplitCase;
 
 namespace {
-
-struct SplitCase
-{
-    CString path;
-    CString folder;
-    CString stem;
-    CString extension;
-    CString root;
-};
 
 const SplitCase splitCases[] = {
     {u"", u"", u"", u"", u""},
@@ -58,13 +51,8 @@ const SplitCase splitCases[] = {
 
 TEST(FileUtilsSplit, CutsEachPathOfTheTable)
 {
-    for (const SplitCase& expected : splitCases) {
-        SCOPED_TRACE(testing::PrintToString(expected.path));
-        EXPECT_EQ(FileUtils::GetSplitDirPath(expected.path), expected.folder);
-        EXPECT_EQ(FileUtils::GetSplitFName(expected.path), expected.stem);
-        EXPECT_EQ(FileUtils::GetSplitExtension(expected.path, 1), expected.extension);
-        EXPECT_EQ(FileUtils::GetSplitFileName(expected.path), expected.stem + expected.extension);
-    }
+    for (const SplitCase& expected : splitCases)
+        VyrTests::ExpectSplit(expected);
 }
 
 TEST(FileUtilsSplit, SelectsThePartByItsNumber)

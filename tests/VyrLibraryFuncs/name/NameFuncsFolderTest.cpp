@@ -1,10 +1,6 @@
-// Folder copy and move on real trees, compared entry by entry.
+// Folder copy and move on whole trees, compared entry by entry.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
-#include <VyrLibraryUtils/DateTimeUtils.h>
-#include <VyrPlatform/MessageQueue.h>
-
-#include <tests/support/MessagePosting.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
 
@@ -22,8 +18,6 @@
 #include <vector>
 
 using VyrLibraryFuncs::NameFuncs;
-using VyrLibraryUtils::DateTimeUtils;
-using VyrTests::MessagePosting;
 using VyrTests::ScratchFolder;
 
 namespace {
@@ -68,15 +62,6 @@ std::string Relative(const CString& path, const CString& root)
     return std::filesystem::relative(VyrTests::ToStdPath(path), VyrTests::ToStdPath(root)).generic_string();
 }
 
-/// The name of the entry that the system lists last.
-std::u16string LastEntry(const CString& folder)
-{
-    std::u16string last;
-    for (const auto& entry : std::filesystem::directory_iterator(VyrTests::ToStdPath(folder)))
-        last = entry.path().filename().u16string();
-    return last;
-}
-
 /// Makes a tree of about `size` entries below the folder `root` of `scratch`.
 void MakeRandomTree(const ScratchFolder& scratch, std::u16string_view root, std::mt19937& random, int size)
 {
@@ -108,40 +93,6 @@ private:
 };
 
 } // namespace
-
-TEST(NameFuncsFolder, EmptySourceCopiesNothingAndGivesZero)
-{
-    const ScratchFolder scratch;
-    Records records;
-    EXPECT_EQ(NameFuncs::CopyFolder(scratch.MakeFolder(u"from"), scratch.Path(u"to"), &records), 0);
-    EXPECT_TRUE(records.empty());
-    EXPECT_TRUE(scratch.Has(u"from"));
-    EXPECT_FALSE(scratch.Has(u"to"));
-}
-
-TEST(NameFuncsFolder, EmptySourceIsRemovedByAMove)
-{
-    const ScratchFolder scratch;
-    Records records;
-    EXPECT_EQ(NameFuncs::MoveFolder(scratch.MakeFolder(u"from"), scratch.Path(u"to"), &records), 1);
-    EXPECT_TRUE(records.empty());
-    EXPECT_FALSE(scratch.Has(u"from"));
-    EXPECT_FALSE(scratch.Has(u"to"));
-}
-
-TEST(NameFuncsFolder, SourceThatIsNoFolderGivesZeroAndStaysAsItIs)
-{
-    const ScratchFolder scratch;
-    const CString file = scratch.WriteFile(u"file", "content");
-    for (const Operation operation : operations)
-        for (const CString& source : {scratch.Path(u"missing"), file}) {
-            Records records;
-            EXPECT_EQ(operation(source, scratch.Path(u"to"), &records), 0);
-            EXPECT_TRUE(records.empty());
-            EXPECT_FALSE(scratch.Has(u"to"));
-        }
-    EXPECT_EQ(scratch.ReadFile(u"file"), "content");
-}
 
 TEST(NameFuncsFolder, EmptySourcePathIsNotTheCurrentFolder)
 {
@@ -227,144 +178,6 @@ TEST(NameFuncsFolder, NestedFoldersAreRecordedParentFirst)
     }
 }
 
-TEST(NameFuncsFolder, RecordsHaveTheTimesOfTheSource)
-{
-    for (const Operation operation : operations) {
-        const ScratchFolder scratch;
-        scratch.WriteFile(u"from/sub/a.txt", "a");
-        const CString source = scratch.Path(u"from/sub");
-        const COleDateTime created = DateTimeUtils::GetDateCreated(source);
-        const COleDateTime modified = DateTimeUtils::GetDateModified(source);
-        Records records;
-        operation(scratch.Path(u"from"), scratch.Path(u"to"), &records);
-        ASSERT_EQ(records.size(), 1U);
-        EXPECT_EQ(records.front().dateCreated.GetStatus(), COleDateTime::valid);
-        EXPECT_EQ(static_cast<double>(records.front().dateCreated), static_cast<double>(created));
-        EXPECT_EQ(static_cast<double>(records.front().dateModified), static_cast<double>(modified));
-    }
-}
-
-TEST(NameFuncsFolder, RecordsAreAddedToTheCallersList)
-{
-    const ScratchFolder scratch;
-    scratch.MakeFolder(u"from/sub");
-    Records records(1);
-    records.front().sourcePath = u"earlier";
-    NameFuncs::CopyFolder(scratch.Path(u"from"), scratch.Path(u"to"), &records);
-    EXPECT_EQ(records.size(), 2U);
-    EXPECT_EQ(records.front().sourcePath, u"earlier");
-}
-
-TEST(NameFuncsFolder, WithoutAListNothingIsRecorded)
-{
-    const ScratchFolder scratch;
-    scratch.WriteFile(u"from/sub/a.txt", "a");
-    EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"from"), scratch.Path(u"to"), nullptr), 1);
-    EXPECT_EQ(NameFuncs::MoveFolder(scratch.Path(u"from"), scratch.Path(u"moved"), nullptr), 1);
-    EXPECT_EQ(scratch.ReadFile(u"to/sub/a.txt"), "a");
-    EXPECT_EQ(scratch.ReadFile(u"moved/sub/a.txt"), "a");
-}
-
-TEST(NameFuncsFolder, ExistingDestinationFolderIsFilledWithoutARecord)
-{
-    for (const Operation operation : operations) {
-        const ScratchFolder scratch;
-        scratch.WriteFile(u"from/sub/new.txt", "new");
-        scratch.WriteFile(u"to/sub/old.txt", "old");
-        Records records;
-        EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"to"), &records), 1);
-        EXPECT_TRUE(records.empty());
-        EXPECT_EQ(scratch.ReadFile(u"to/sub/new.txt"), "new");
-        EXPECT_EQ(scratch.ReadFile(u"to/sub/old.txt"), "old");
-    }
-}
-
-TEST(NameFuncsFolder, ExistingFilesAreReplaced)
-{
-    for (const Operation operation : operations) {
-        const ScratchFolder scratch;
-        scratch.WriteFile(u"from/a.txt", "new");
-        scratch.WriteFile(u"to/a.txt", "old and longer");
-        Records records;
-        EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"to"), &records), 1);
-        EXPECT_EQ(scratch.ReadFile(u"to/a.txt"), "new");
-    }
-}
-
-TEST(NameFuncsFolder, FilesAreNotMovedIntoAMissingDestination)
-{
-    for (const Operation operation : operations) {
-        const ScratchFolder scratch;
-        scratch.WriteFile(u"from/a.txt", "a");
-        Records records;
-        EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"to"), &records), 0);
-        EXPECT_FALSE(scratch.Has(u"to"));
-        EXPECT_EQ(scratch.ReadFile(u"from/a.txt"), "a");
-    }
-}
-
-TEST(NameFuncsFolder, SeparatorsAtTheEndOfThePathsAreJoinedOnce)
-{
-    const ScratchFolder scratch;
-    scratch.WriteFile(u"from/sub/a.txt", "a");
-    Records records;
-    EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"from") + u"/", scratch.Path(u"to") + u"/", &records), 1);
-    ASSERT_EQ(records.size(), 1U);
-    EXPECT_EQ(Relative(records.front().destinationPath, scratch.Path()), "to/sub");
-    EXPECT_EQ(scratch.ReadFile(u"to/sub/a.txt"), "a");
-}
-
-TEST(NameFuncsFolder, CopyTellsOnlyWhetherItsLastEntryWasCopied)
-{
-    for (const char16_t* const blocked : {u"a.txt", u"b.txt", u"c.txt", u"d.txt"}) {
-        const ScratchFolder scratch;
-        for (const char16_t* const name : {u"from/a.txt", u"from/b.txt", u"from/c.txt", u"from/d.txt"})
-            scratch.WriteFile(name, "new");
-        scratch.MakeFolder(CString(u"to/") + blocked);
-        Records records;
-        const int expected = LastEntry(scratch.Path(u"from")) == blocked ? 0 : 1;
-        EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"from"), scratch.Path(u"to"), &records), expected);
-        EXPECT_EQ(Tree(scratch.Path(u"to")).size(), 4U) << "one failure does not keep the others from being copied";
-    }
-}
-
-TEST(NameFuncsFolder, CopyOfAnEmptySubfolderCountsAsNoSuccess)
-{
-    const ScratchFolder scratch;
-    scratch.MakeFolder(u"from/empty");
-    Records records;
-    EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"from"), scratch.Path(u"to"), &records), 0);
-    EXPECT_EQ(records.size(), 1U);
-    EXPECT_TRUE(scratch.Has(u"to/empty"));
-}
-
-TEST(NameFuncsFolder, FileThatCannotBeMovedKeepsItsFolders)
-{
-    const ScratchFolder scratch;
-    scratch.WriteFile(u"from/sub/stays.txt", "stays");
-    scratch.WriteFile(u"from/sub/goes.txt", "goes");
-    scratch.MakeFolder(u"to/sub/stays.txt");
-    Records records;
-    EXPECT_EQ(NameFuncs::MoveFolder(scratch.Path(u"from"), scratch.Path(u"to"), &records), 0);
-    EXPECT_EQ(scratch.ReadFile(u"from/sub/stays.txt"), "stays");
-    EXPECT_EQ(scratch.ReadFile(u"to/sub/goes.txt"), "goes");
-    EXPECT_FALSE(scratch.Has(u"from/sub/goes.txt"));
-}
-
-TEST(NameFuncsFolder, FileInThePlaceOfADestinationFolderLosesNothing)
-{
-    for (const Operation operation : operations) {
-        const ScratchFolder scratch;
-        scratch.WriteFile(u"from/sub/deep/a.txt", "a");
-        scratch.WriteFile(u"to/sub", "in the way");
-        Records records;
-        EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"to"), &records), 0);
-        EXPECT_TRUE(records.empty());
-        EXPECT_EQ(scratch.ReadFile(u"from/sub/deep/a.txt"), "a");
-        EXPECT_EQ(scratch.ReadFile(u"to/sub"), "in the way");
-    }
-}
-
 TEST(NameFuncsFolder, CopyAndMoveOntoItselfLoseNothing)
 {
     for (const Operation operation : operations) {
@@ -375,27 +188,6 @@ TEST(NameFuncsFolder, CopyAndMoveOntoItselfLoseNothing)
         EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"from"), &records), 0);
         EXPECT_TRUE(records.empty());
         EXPECT_EQ(Tree(scratch.Path()), before);
-    }
-}
-
-TEST(NameFuncsFolder, StopDoesNotEndAWalk)
-{
-    for (const Operation operation : operations) {
-        const ScratchFolder scratch;
-        for (const char16_t* const name : {u"from/a", u"from/b", u"from/c", u"from/sub/d"})
-            scratch.WriteFile(name, "content");
-        scratch.MakeFolder(u"to");
-        const auto before = Tree(scratch.Path(u"from"));
-        const MessagePosting queue;
-        int handled = 0;
-        queue.PostStop();
-        for (int i = 0; i < 4; ++i)
-            queue.PostWork([&handled] { ++handled; });
-        Records records;
-        EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"to"), &records), 1);
-        EXPECT_EQ(Tree(scratch.Path(u"to")), before);
-        EXPECT_EQ(handled, 4);
-        EXPECT_FALSE(VyrPlatform::MessageQueue::DrainOne()) << "the walk has taken the stop";
     }
 }
 

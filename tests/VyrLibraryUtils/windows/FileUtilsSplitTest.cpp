@@ -1,22 +1,14 @@
 // Paths as Windows alone cuts them.
 #include <VyrLibraryUtils/FileUtils.h>
 
-#include <tests/support/Describe.h>
+#include <tests/VyrLibraryUtils/SplitCase.h>
 
 #include <gtest/gtest.h>
 
 using VyrLibraryUtils::FileUtils;
+using VyrTests::SplitCase;
 
 namespace {
-
-struct SplitCase
-{
-    CString path;
-    CString folder;
-    CString stem;
-    CString extension;
-    CString root;
-};
 
 const SplitCase splitCases[] = {
     {u"C:a.b", u"C:", u"a", u".b", u"C:"},
@@ -31,14 +23,8 @@ const SplitCase splitCases[] = {
 
 TEST(FileUtilsSplitOnWindows, CutsEachPathOfTheTable)
 {
-    for (const SplitCase& expected : splitCases) {
-        SCOPED_TRACE(testing::PrintToString(expected.path));
-        EXPECT_EQ(FileUtils::GetSplitDirPath(expected.path), expected.folder);
-        EXPECT_EQ(FileUtils::GetSplitFName(expected.path), expected.stem);
-        EXPECT_EQ(FileUtils::GetSplitExtension(expected.path, 1), expected.extension);
-        EXPECT_EQ(FileUtils::GetSplitFileName(expected.path), expected.stem + expected.extension);
-        EXPECT_EQ(FileUtils::GetSplitPath(expected.path, 1), expected.root);
-    }
+    for (const SplitCase& expected : splitCases)
+        VyrTests::ExpectSplit(expected);
 }
 
 TEST(FileUtilsCombineOnWindows, TakesTheFoldersOwnSeparatorElseABackslash)
