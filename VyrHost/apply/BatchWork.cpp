@@ -104,7 +104,8 @@ bool BatchWork::Locate(const JournalFile& file)
     Locator locator(m_journal, m_progress, m_files);
     locator.KeepMarked();
     locator.Locate(wasCutOff);
-    bool isAnyFound = false;
+    // Folders that could not be removed when it was taken back.
+    bool isAnyFound = file.phase == BatchPhase::TakenBack && HasMadeFolder();
     for (PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry) {
         m_isKept[entry] = locator.IsKept(entry);
         m_hasChanged[entry] = locator.HasChanged(entry);
@@ -181,6 +182,14 @@ JournalMark BatchWork::MakeMark(Direction direction) const
         if (m_progress.OfFolder(folder) == NewFolder::Made)
             mark.foldersMade.push_back(folder);
     return mark;
+}
+
+bool BatchWork::HasMadeFolder() const
+{
+    for (PlanIndex folder = 0; folder < m_journal.plan.folders.size(); ++folder)
+        if (m_progress.OfFolder(folder) == NewFolder::Made)
+            return true;
+    return false;
 }
 
 bool BatchWork::IsAny(Standing standing) const

@@ -46,6 +46,7 @@ private:
     void Close(Direction direction);
     [[nodiscard]] JournalMark MakeMark(Direction direction) const;
     [[nodiscard]] bool IsAny(Standing standing) const;
+    [[nodiscard]] bool HasMadeFolder() const;
     void End(const JournalMark& mark, BatchPhase phase);
     void Forget();
     void NameKeptFolders(const JournalMark& mark);

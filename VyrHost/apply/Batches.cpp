@@ -20,6 +20,9 @@ namespace {
 
 using VyrLibraryUtils::FileUtils;
 
+/// What is said of a batch that cannot be recovered.
+constexpr const char16_t* wayOut = u"; \"vyr recover --set-aside\" goes on without the batch";
+
 CString FindJournalFolder()
 {
     const std::optional<CString> named = VyrPlatform::Process::GetEnvironment(u"VYR_JOURNAL_DIR");
@@ -220,21 +223,40 @@ BatchSummary Batches::Recover(Recovery recovery, const BatchEntryReport& report,
     }
     std::optional<Journal> journal = ReadWhole(folder, *file, summary);
     if (!journal) {
-        summary.error = CString::Join({summary.error, u"; move it away to go on without it"});
+        summary.error = CString::Join({summary.error, wayOut});
         return summary;
     }
     const bool isForward = (file->phase == BatchPhase::Applying) == (recovery == Recovery::Finish);
     BatchWork work(*m_files, folder, std::move(*journal), summary);
     if (!work.Locate(*file))
         summary.error =
-            CString::Join({u"none of the batch's files is at one of its paths; nothing was changed. To go on without "
-                           u"the batch, move its journal away: ",
-                           file->path});
+            CString::Join({u"none of the batch's files is at one of its paths; nothing was changed", wayOut});
     else
         work.Run(
             isForward ? Direction::Forward : Direction::Backward,
             [&](PlanIndex entry, const RenameResult& result) { report(work.Describe(entry, result)); }, isStopAsked);
     return summary;
+}
+
+SetAsideJournal Batches::SetAsideCutOff()
+{
+    SetAsideJournal result;
+    JournalFolder folder(*m_files, m_journalFolder);
+    result.error = folder.Lock();
+    if (!result.error.IsEmpty())
+        return result;
+    std::optional<JournalFile> file = folder.FindOpen();
+    if (!file) {
+        result.error = u"no batch was cut off";
+        return result;
+    }
+    result.number = file->number;
+    result.from = file->path;
+    const std::uint32_t error = folder.SetAside(*file);
+    result.to = file->path;
+    if (error)
+        result.error = CString::Join({u"the journal ", result.from, u" cannot be set aside: ", ErrorText(error)});
+    return result;
 }
 
 } // namespace VyrHost

@@ -89,6 +89,18 @@ enum class Recovery : std::uint8_t
     TakeBack
 };
 
+/// What became of the journal of a batch that was to be given up.
+struct SetAsideJournal
+{
+    /// The batch's number; 0 when none was cut off.
+    std::uint32_t number = 0;
+    /// The journal's path before, and the one under which it is kept.
+    CString from;
+    CString to;
+    /// Why it stays where it is; empty when it was set aside.
+    CString error;
+};
+
 /// The batches of the user. One is worked on at a time, by one program: the others are told so in the summary's error.
 class Batches
 {
@@ -99,7 +111,8 @@ public:
     /// For tests: acts through `files` and keeps the journals in `journalFolder`.
     Batches(FileOperations& files, const CString& journalFolder);
 
-    /// Does `list`: journal on disk first, nothing ever overwritten, afterwards a look at the folders. `report` is
+    /// Does `list`: journal on disk first, nothing ever overwritten, afterwards a look at the folders
+    /// that do not tell every two names apart. `report` is
     /// called once for each rename, unless the summary's error says that nothing was begun.
     BatchSummary Apply(const RenameList& list, const RenameReport& report, const StopRequest& isStopAsked);
 
@@ -114,6 +127,9 @@ public:
     [[nodiscard]] std::optional<BatchInformation> FindCutOff() const;
     /// Ends the batch that was cut off.
     BatchSummary Recover(Recovery recovery, const BatchEntryReport& report, const StopRequest& isStopAsked);
+    /// Gives up the batch that was cut off, so that others can begin: its files stay as they are, and its journal is
+    /// kept under another name. The way out where the journal is damaged, or the files are gone.
+    SetAsideJournal SetAsideCutOff();
 
 private:
     FileOperations* m_files;

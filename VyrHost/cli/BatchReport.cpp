@@ -44,6 +44,10 @@ int JudgeSummary(const BatchSummary& summary)
 {
     for (const CString& path : summary.missing)
         Complain("'" + SafeText(path) + "' is not listed by its folder after its rename");
+    for (const CString& path : summary.keptFolders)
+        Complain("the folder '" + SafeText(path) +
+                 "', which the batch made, stays: it is not empty, or cannot be removed; " + "\"vyr undo " +
+                 std::to_string(summary.number) + "\" tries again");
     if (!summary.error.IsEmpty())
         Complain(SafeText(summary.error));
     if (summary.number == 0)

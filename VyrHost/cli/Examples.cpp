@@ -33,6 +33,7 @@ constexpr Example OfUndo[] = {
 constexpr Example OfRecover[] = {
     {"vyr recover", "do what is left of the batch that was cut off"},
     {"vyr recover --take-back", "restore what was before it"},
+    {"vyr recover --set-aside", "go on without a batch that can be neither finished nor taken back"},
 };
 
 std::string TextOf(std::span<const Example> examples)

@@ -5,10 +5,14 @@
 #include <VyrHost/cli/BatchReport.h>
 #include <VyrHost/cli/Examples.h>
 #include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/Messages.h>
 #include <VyrHost/output/OutputBuffer.h>
+#include <VyrHost/output/SafeText.h>
 #include <VyrPlatform/Interrupt.h>
 
 #include <CLI/CLI.hpp>
+
+#include <string>
 
 namespace VyrHost {
 
@@ -16,8 +20,12 @@ RecoverCommand::RecoverCommand(CLI::App& program)
     : m_command(
           *program.add_subcommand("recover", "Finish a batch that was cut off (power loss, kill), or take it back"))
 {
-    m_command.add_flag("--take-back", m_takeBack, "Restore what was before the batch instead of finishing it");
-    m_command.add_flag("--json", m_json, "Write one JSON object for each entry");
+    auto* const takeBack =
+        m_command.add_flag("--take-back", m_takeBack, "Restore what was before the batch instead of finishing it");
+    auto* const setAside = m_command.add_flag("--set-aside", m_setAside,
+                                              "Give the batch up, where neither is possible: files stay as they are");
+    auto* const json = m_command.add_flag("--json", m_json, "Write one JSON object for each entry");
+    setAside->excludes(takeBack)->excludes(json);
     m_command.add_flag("-q,--quiet", m_quiet, "Show only what is not done");
     m_command.footer(RecoverExamples() + "\n" + ExitCode::Table);
 }
@@ -38,12 +46,30 @@ int RecoverCommand::Run() const
         output.Flush();
         return output.HasFailed() ? ExitCode::Output : ExitCode::Success;
     }
+    if (m_setAside)
+        return SetAside();
     VyrPlatform::Interrupt::Catch();
     const Recovery recovery = m_takeBack ? Recovery::TakeBack : Recovery::Finish;
     const BatchDirection direction = m_takeBack ? BatchDirection::Back : BatchDirection::Forward;
     BatchReport report("recovering", cutOff->entries, {direction, m_json, m_quiet});
     const BatchSummary summary = batches.Recover(recovery, report.Collector(), VyrPlatform::Interrupt::WasAsked);
     return report.Write(summary);
+}
+
+int RecoverCommand::SetAside() const
+{
+    const SetAsideJournal journal = Batches().SetAsideCutOff();
+    if (!journal.error.IsEmpty()) {
+        Complain(SafeText(journal.error));
+        return ExitCode::Blocked;
+    }
+    OutputBuffer output;
+    if (!m_quiet)
+        output << "Batch " << std::to_string(journal.number) << " is set aside; its files stay as they are.\n"
+               << "Its journal is kept as " << SafeText(journal.to) << "\n"
+               << "and can be recovered under its old name, " << SafeText(journal.from) << "\n";
+    output.Flush();
+    return output.HasFailed() ? ExitCode::Output : ExitCode::Success;
 }
 
 } // namespace VyrHost

@@ -22,8 +22,11 @@ public:
     [[nodiscard]] int Run() const;
 
 private:
+    [[nodiscard]] int SetAside() const;
+
     CLI::App& m_command;
     bool m_takeBack = false;
+    bool m_setAside = false;
     bool m_json = false;
     bool m_quiet = false;
 };

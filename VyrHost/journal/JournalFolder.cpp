@@ -26,6 +26,7 @@ constexpr std::array<std::pair<BatchPhase, const char16_t*>, 4> endings{{{BatchP
                                                                          {BatchPhase::TakenBack, u".taken-back"}}};
 /// Of a journal that is not whole yet: its batch has not begun.
 constexpr const char16_t* newEnding = u".new";
+constexpr const char16_t* setAsideEnding = u".set-aside";
 constexpr int digits = 6;
 
 CString NameOf(std::uint32_t number, const char16_t* ending)
@@ -127,8 +128,7 @@ std::optional<std::string> JournalFolder::Read(const JournalFile& file, std::uin
 
 std::uint32_t JournalFolder::Begin(Journal& journal, JournalFile& file)
 {
-    const std::vector<JournalFile> journals = List();
-    file.number = journals.empty() ? 1 : journals.back().number + 1;
+    file.number = NextNumber();
     file.phase = BatchPhase::Applying;
     file.path = PathOf(NameOf(file.number, EndingOf(file.phase)));
     journal.heading.number = file.number;
@@ -174,6 +174,16 @@ std::uint32_t JournalFolder::Flush()
     return m_files.FlushFolder(m_path);
 }
 
+std::uint32_t JournalFolder::SetAside(JournalFile& file)
+{
+    const CString path = PathOf(NameOf(file.number, setAsideEnding));
+    const std::uint32_t error = m_files.RenameFile(file.path, path);
+    if (error)
+        return error;
+    file.path = path;
+    return Flush();
+}
+
 std::uint32_t JournalFolder::Remove(const JournalFile& file)
 {
     return m_files.Remove(file.path);
@@ -182,6 +192,18 @@ std::uint32_t JournalFolder::Remove(const JournalFile& file)
 CString JournalFolder::PathOf(const CString& name) const
 {
     return FileUtils::GetCombinePath(m_path, name);
+}
+
+/// Above every number in use, those of journals set aside too.
+std::uint32_t JournalFolder::NextNumber() const
+{
+    std::uint32_t highest = 0;
+    for (VyrPlatform::FolderListing listing(m_path); listing.Next();) {
+        const std::uint32_t number = NumberOf(listing.Name());
+        if (listing.Name() != NameOf(number, newEnding))
+            highest = std::max(highest, number);
+    }
+    return highest + 1;
 }
 
 void JournalFolder::RemoveOld()

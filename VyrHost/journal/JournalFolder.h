@@ -69,11 +69,16 @@ public:
     [[nodiscard]] std::uint32_t SetPhase(JournalFile& file, BatchPhase phase);
     /// Waits until the phases are on the disk.
     [[nodiscard]] std::uint32_t Flush();
+    /// Takes a journal out of the way and keeps it: it is no batch any more until it has its old name again. Its number
+    /// stays its own.
+    /// @return the system's error code, 0 when `file.path` is its new path.
+    [[nodiscard]] std::uint32_t SetAside(JournalFile& file);
     /// Removes a journal of which nothing was done.
     [[nodiscard]] std::uint32_t Remove(const JournalFile& file);
 
 private:
     [[nodiscard]] CString PathOf(const CString& name) const;
+    [[nodiscard]] std::uint32_t NextNumber() const;
     void RemoveOld();
 
     FileOperations& m_files;

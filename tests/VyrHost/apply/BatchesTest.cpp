@@ -363,6 +363,48 @@ TEST(Batches, LeaveAFolderThatTheyMadeAndSomeoneElseUses)
     EXPECT_EQ(scene.Now(), (Tree{{"a", "a"}, {"n", "<folder>"}, {"n/mine", "n/mine"}}));
 }
 
+TEST(Batches, RemoveAFolderThatCouldNotBeRemovedWhenTheyAreTakenBackOnceMore)
+{
+    FaultyFiles files;
+    BatchScene scene(files);
+    scene.Write(u"a");
+    scene.NewFolder(u"n").NewFolder(u"n/m").Rename(u"a", u"n/m/a");
+    scene.Apply();
+    files.before = [](const FileChange& change, std::size_t) {
+        return std::uint32_t{change.kind == FileChange::Kind::RemoveFolder ? 5u : 0u};
+    };
+    const BatchSummary first = scene.TakeBack();
+    EXPECT_EQ(first.done, 1u);
+    EXPECT_THAT(first.keptFolders, ElementsAre(scene.Path(u"n"), scene.Path(u"n/m")));
+    EXPECT_EQ(scene.Now(), (Tree{{"a", "a"}, {"n", "<folder>"}, {"n/m", "<folder>"}}));
+    files.before = {};
+    const BatchSummary second = scene.TakeBack(1);
+    EXPECT_EQ(second.error, u"");
+    EXPECT_TRUE(second.keptFolders.empty());
+    EXPECT_EQ(scene.Now(), (Tree{{"a", "a"}}));
+    EXPECT_EQ(scene.TakeBack(1).error, u"the batch is taken back already");
+}
+
+TEST(Batches, NameWhatItsFolderDoesNotListAfterwards)
+{
+    FaultyFiles files;
+    files.folding = [](const CString&) {
+        return VyrPlatform::NameFolding::Case;
+    };
+    BatchScene scene(files);
+    scene.Write(u"a");
+    scene.Write(u"b");
+    scene.Rename(u"a", u"x").Rename(u"b", u"y");
+    // A file system that keeps another name than the one it was given.
+    files.after = [&scene](const FileChange& change, std::size_t) {
+        if (change.newName == u"x")
+            std::filesystem::rename(ToStdPath(scene.Path(u"x")), ToStdPath(scene.Path(u"kept otherwise")));
+    };
+    const BatchSummary summary = scene.batches.Apply(scene.list, [](std::size_t, const RenameResult&) {}, {});
+    EXPECT_EQ(summary.done, 2u);
+    EXPECT_THAT(summary.missing, ElementsAre(scene.Path(u"x")));
+}
+
 TEST(Batches, EndBetweenRenamesWhenAskedTo)
 {
     BatchScene scene;

@@ -255,8 +255,41 @@ TEST(Recover, ChangesNothingWhenTheJournalIsDamaged)
     EXPECT_GE(error.Find(u"damaged"), 0);
     EXPECT_GE(error.Find(FromStdPath(journal)), 0);
     EXPECT_EQ(cut.scene.Now(), now);
-    fs::remove(journal);
-    EXPECT_EQ(cut.scene.batches.FindCutOff(), std::nullopt);
+    EXPECT_GE(error.Find(u"vyr recover --set-aside"), 0);
+}
+
+TEST(Recover, SetsABatchAsideAndKeepsItsJournalWhole)
+{
+    CutOffScene cut(ArrangeThree, 1);
+    BatchScene& scene = cut.scene;
+    const Tree now = scene.Now();
+    const SetAsideJournal aside = scene.batches.SetAsideCutOff();
+    EXPECT_EQ(aside.error, u"");
+    EXPECT_EQ(aside.number, 1u);
+    EXPECT_EQ(scene.Now(), now);
+    EXPECT_EQ(scene.batches.FindCutOff(), std::nullopt);
+    EXPECT_EQ(scene.batches.SetAsideCutOff().error, u"no batch was cut off");
+    EXPECT_THAT(scene.JournalFiles(), testing::ElementsAre("000001.set-aside"));
+    // Others go on, under numbers of their own.
+    scene.list = {};
+    scene.Write(u"other");
+    scene.Rename(u"other", u"another");
+    EXPECT_EQ(scene.Apply().number, 2u);
+    EXPECT_EQ(scene.TakeBack().done, 1u);
+    // Under its old name it can be recovered still.
+    fs::rename(ToStdPath(aside.to), ToStdPath(aside.from));
+    EXPECT_EQ(scene.Recover(Recovery::TakeBack).done, 3u);
+    EXPECT_EQ(scene.Now(), (Tree{{"a", "a"}, {"b", "b"}, {"c", "c"}, {"other", "other"}}));
+}
+
+TEST(Recover, SaysWhyAJournalCannotBeSetAside)
+{
+    CutOffScene cut(ArrangeThree, 1);
+    cut.files.before = [](const FileChange& change, std::size_t) {
+        return std::uint32_t{change.kind == FileChange::Kind::RenameFile ? 5u : 0u};
+    };
+    EXPECT_GE(cut.scene.batches.SetAsideCutOff().error.Find(u"cannot be set aside"), 0);
+    EXPECT_TRUE(cut.scene.batches.FindCutOff());
 }
 
 } // namespace

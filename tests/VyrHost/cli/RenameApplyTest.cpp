@@ -5,6 +5,9 @@
 
 #include <gmock/gmock.h>
 #include <tests/support/PictureBuilder.h>
+#include <tests/support/StdPath.h>
+
+#include <filesystem>
 
 using namespace VyrTests;
 using testing::HasSubstr;
@@ -187,6 +190,45 @@ TEST_F(RenameApply, RecoverSaysWhenThereIsNothingToRecover)
     const ProgramResult result = Run({u"recover"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.output, "No batch was cut off.\n");
+}
+
+TEST_F(RenameApply, RecoverGivesUpABatchWhoseJournalIsDamagedAndKeepsTheJournal)
+{
+    const ScratchFolder journal;
+    m_environment[u"VYR_JOURNAL_DIR"] = journal.Path();
+    journal.WriteFile(u"000001.applying", "damaged");
+    m_folder.WriteFile(u"a");
+    EXPECT_EQ(Rename({u"--suffix", u"1", u"--apply", u"a"}).exitCode, 4);
+    const ProgramResult refused = Run({u"recover"});
+    EXPECT_EQ(refused.exitCode, 4);
+    EXPECT_THAT(refused.errors, HasSubstr("vyr recover --set-aside"));
+    const ProgramResult given = Run({u"recover", u"--set-aside"});
+    EXPECT_EQ(given.exitCode, 0) << given.errors;
+    EXPECT_THAT(given.output, AllOf(HasSubstr("Batch 1 is set aside"), HasSubstr("000001.set-aside")));
+    EXPECT_TRUE(journal.Has(u"000001.set-aside"));
+    EXPECT_THAT(Rename({u"--suffix", u"1", u"--apply", u"a"}).output, HasSubstr("batch 2"));
+    EXPECT_TRUE(m_folder.Has(u"a1"));
+    EXPECT_EQ(Run({u"recover", u"--set-aside", u"--take-back"}).exitCode, 2);
+    EXPECT_EQ(Run({u"recover", u"--set-aside", u"--json"}).exitCode, 2);
+}
+
+TEST_F(RenameApply, UndoNamesAFolderThatStaysAndRemovesItAtTheNextAttempt)
+{
+    m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
+    ASSERT_EQ(Rename({u"--date", u"yyyy<Folder><Name>", u"--date-from", u"picture", u"--apply", u"a.jpg"}).exitCode, 0);
+    ASSERT_TRUE(m_folder.Has(u"2024/a.jpg"));
+    m_folder.WriteFile(u"2024/mine");
+    const ProgramResult undone = Run({u"undo"});
+    EXPECT_EQ(undone.exitCode, 0);
+    EXPECT_THAT(undone.errors, AllOf(HasSubstr("stays"), HasSubstr("\"vyr undo 1\" tries again")));
+    EXPECT_TRUE(m_folder.Has(u"2024/mine"));
+    EXPECT_TRUE(m_folder.Has(u"a.jpg"));
+    std::filesystem::remove(ToStdPath(m_folder.Path(u"2024/mine")));
+    const ProgramResult again = Run({u"undo", u"1"});
+    EXPECT_EQ(again.exitCode, 0) << again.errors;
+    EXPECT_EQ(again.errors, "");
+    EXPECT_FALSE(m_folder.Has(u"2024"));
+    EXPECT_EQ(Run({u"undo", u"1"}).exitCode, 4);
 }
 
 TEST_F(RenameApply, ContradictionsAreRefusedBeforeAnythingIsTouched)

@@ -21,6 +21,12 @@ class VyrProgram : public testing::Test
 protected:
     ProgramResult Run(std::vector<CString> arguments, const std::string& input = {}) const
     {
+        return RunProgram(CallOf(std::move(arguments), input));
+    }
+
+    /// For a program that is not just run to its end.
+    ProgramCall CallOf(std::vector<CString> arguments, const std::string& input = {}) const
+    {
         ProgramCall call;
         call.program = BesideThisProgram(u"vyr");
         call.arguments = std::move(arguments);
@@ -28,7 +34,7 @@ protected:
         call.folder = m_folder.Path();
         call.environment = m_environment;
         call.environment.try_emplace(u"VYR_JOURNAL_DIR", m_journal.Path(u"journal"));
-        return RunProgram(call);
+        return call;
     }
 
     /// "vyr rename" and `arguments`.

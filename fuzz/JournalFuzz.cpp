@@ -1,0 +1,127 @@
+// Any bytes as a journal: what is read can be worked with, stays in its folders, and is written again as it was.
+#include <VyrHost/journal/Checksum.h>
+#include <VyrHost/journal/JournalName.h>
+#include <VyrHost/journal/JournalText.h>
+#include <VyrHost/plan/PlanCheck.h>
+
+#include <VyrPlatform/FileSystem.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+using namespace VyrHost;
+
+namespace {
+
+void Require(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
+
+/// `text` with the check that each line should have, so that what it says is read.
+std::string WithChecks(std::string_view text)
+{
+    std::string whole;
+    std::uint32_t check = 0;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        const std::string_view line = text.substr(0, end);
+        check = Checksum(check, line);
+        char digits[16];
+        std::snprintf(digits, sizeof(digits), "\t%08x\n", static_cast<unsigned>(check));
+        whole.append(line).append(digits);
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return whole;
+}
+
+bool IsPart(const CString& name)
+{
+    const std::u16string_view view = name;
+    return !view.empty() && view != u"." && view != u".." && std::none_of(view.begin(), view.end(), [](char16_t unit) {
+        return unit == 0 || VyrPlatform::FileSystem::IsSeparator(unit);
+    });
+}
+
+void CheckPlan(const Journal& journal)
+{
+    const RenamePlan& plan = journal.plan;
+    Require(FindPlanFault(plan).IsEmpty());
+    Require(journal.states.size() == plan.entries.size());
+    for (const PlanEntry& entry : plan.entries) {
+        Require(IsPart(entry.from.name) && IsPart(entry.to.name));
+        Require(entry.from.folder < plan.folders.size() && entry.to.folder < plan.folders.size());
+    }
+    for (PlanIndex folder = 0; folder < plan.folders.size(); ++folder) {
+        Require(!PathBefore(plan, folder).IsEmpty());
+        Require(!plan.folders[folder].isNew || IsPart(plan.folders[folder].place.name));
+    }
+    for (const PlanStep& step : plan.steps)
+        Require(step.subject <
+                (step.action == PlanStep::Action::MakeFolder ? plan.folders.size() : plan.entries.size()));
+    if (!journal.mark)
+        return;
+    for (const PlanIndex entry : journal.mark->entriesBefore)
+        Require(entry < plan.entries.size());
+    for (const PlanIndex entry : journal.mark->entriesAside)
+        Require(entry < plan.entries.size());
+    for (const PlanIndex folder : journal.mark->foldersMade)
+        Require(folder < plan.folders.size());
+}
+
+/// Its own text is one that says the same.
+void CheckRoundTrip(const Journal& journal)
+{
+    std::uint32_t check = 0;
+    std::string text = WriteJournal(journal, check);
+    if (journal.mark)
+        text += WriteMark(*journal.mark, check);
+    CString problem;
+    const std::optional<Journal> again = ReadJournal(text, problem);
+    Require(again.has_value());
+    std::uint32_t checkAgain = 0;
+    std::string textAgain = WriteJournal(*again, checkAgain);
+    if (again->mark)
+        textAgain += WriteMark(*again->mark, checkAgain);
+    Require(textAgain == text && again->check == check);
+}
+
+void CheckText(std::string_view text)
+{
+    CString problem;
+    const std::optional<Journal> journal = ReadJournal(text, problem);
+    Require(journal.has_value() == problem.IsEmpty());
+    if (journal) {
+        CheckPlan(*journal);
+        CheckRoundTrip(*journal);
+    }
+    CString headingProblem;
+    Require(ReadHeading(text, headingProblem).has_value() || !journal);
+}
+
+void CheckName(std::string_view bytes)
+{
+    const std::optional<CString> name = ReadJournalName(bytes);
+    if (!name)
+        return;
+    std::string text;
+    AppendJournalName(text, *name);
+    Require(text.find_first_of("\n\t") == std::string::npos);
+    Require(ReadJournalName(text) == name);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const std::string bytes(data, data + size);
+    CheckText(bytes);
+    CheckText(WithChecks(bytes));
+    CheckName(bytes);
+    return 0;
+}
