@@ -7,6 +7,7 @@
 #include <VyrPlatform/FileTimes.h>
 
 #include <cstdint>
+#include <optional>
 
 namespace VyrPlatform::FileSystem {
 
@@ -41,6 +42,10 @@ struct Entry
 [[nodiscard]] VYR_PLATFORM_API bool Exists(const CString& path);
 /// Whether a folder, or a link to one, stands at `path`.
 [[nodiscard]] VYR_PLATFORM_API bool IsFolder(const CString& path);
+
+/// Where the symbolic link (on Windows also the junction) at `path` leads to, as it holds it; nothing when there is no
+/// such link.
+[[nodiscard]] VYR_PLATFORM_API std::optional<CString> GetLinkTarget(const CString& path);
 
 /// Makes the folder `path`, whose parent exists.
 /// @return 0 when it was made, else the system's error code (one that exists already is an error).

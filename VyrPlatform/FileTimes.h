@@ -26,9 +26,25 @@ namespace VyrPlatform::FileTimes {
 /// The last-access time.
 [[nodiscard]] VYR_PLATFORM_API std::optional<FileTicks> GetAccessed(const CString& path);
 
+/// Sets the last-write time of the file or folder at `path` (a link is followed).
+/// @return 0 when it was set, else the system's error code.
+[[nodiscard]] VYR_PLATFORM_API std::uint32_t SetModified(const CString& path, FileTicks modified);
+/// Sets the creation time. On Linux it is written to where GetCreated reads it: into the attribute that Samba keeps,
+/// whose other fields stay as they are, or to the disk of an NTFS driver; where there is neither, that attribute is
+/// made.
+/// @param created  more than 0.
+/// @return 0 when it was set, else the system's error code: that of an operation that is not supported where the file
+///         system keeps none. Some systems answer 0 all the same.
+[[nodiscard]] VYR_PLATFORM_API std::uint32_t SetCreated(const CString& path, FileTicks created);
+
 /// `ticks` as local time, with the offset that holds at its own date; fractions of a second are dropped.
 /// @return invalid when it is out of the calendar's range.
 [[nodiscard]] VYR_PLATFORM_API COleDateTime ToLocal(FileTicks ticks);
+
+/// The moment at which clocks show `local`: the inverse of ToLocal, to the second. Of two such moments (where clocks
+/// are turned back) it is the first; of a time that clocks leave out, what the offset before makes of it.
+/// @return nothing when `local` is not valid.
+[[nodiscard]] VYR_PLATFORM_API std::optional<FileTicks> FromLocal(const COleDateTime& local);
 
 /// `ticks` as local time by the inverse of the system's own conversion from local calendar fields to a file time: what
 /// is going to be written back is read with it, so that it becomes the same instant again. On Windows that pair uses

@@ -12,4 +12,8 @@ namespace VyrPlatform {
 /// on links; on Windows they are resolved in the text, as the system itself does. An empty path stays empty.
 [[nodiscard]] VYR_PLATFORM_API CString GetFullPath(const CString& path);
 
+/// The full path, without any link and ".." step, of what stands at `path`; empty when nothing does, or the system
+/// cannot tell.
+[[nodiscard]] VYR_PLATFORM_API CString GetRealPath(const CString& path);
+
 } // namespace VyrPlatform

@@ -86,6 +86,27 @@ COleDateTime ToLocal(FileTicks ticks)
                         second % 60);
 }
 
+std::optional<FileTicks> FromLocal(const COleDateTime& local)
+{
+    using namespace std::chrono;
+
+    if (local.GetStatus() != COleDateTime::valid)
+        return std::nullopt;
+    const year_month_day date(year(local.GetYear()), month(static_cast<unsigned>(local.GetMonth())),
+                              day(static_cast<unsigned>(local.GetDay())));
+    const std::int64_t shown =
+        (sys_seconds(sys_days(date)) + hours(local.GetHour()) + minutes(local.GetMinute()) + seconds(local.GetSecond()))
+            .time_since_epoch()
+            .count();
+    // Clocks are not turned twice within two days.
+    const std::optional<int> before = FindOffset(shown - secondsPerDay);
+    const std::optional<int> after = FindOffset(shown + secondsPerDay);
+    if (!before || !after)
+        return std::nullopt;
+    const bool isAfter = FindOffset(shown - *before) != before && FindOffset(shown - *after) == after;
+    return (shown - (isAfter ? *after : *before) + secondsToUnixEpoch) * ticksPerSecond;
+}
+
 void FollowTimeZone()
 {
     ReadTimeZone();

@@ -1,4 +1,4 @@
-// Reads Samba's extended attribute for DOS attributes, which may hold any bytes at all.
+// Reads and writes Samba's extended attribute for DOS attributes, which may hold any bytes at all.
 #include "DosAttribute.h"
 
 #include <algorithm>
@@ -10,37 +10,67 @@ namespace VyrPlatform {
 
 namespace {
 
-/// Takes little-endian numbers from a value, each at a multiple of its alignment.
-class Decoder
+constexpr std::uint32_t hasAttributes = 0x1;
+constexpr std::uint32_t hasCreated = 0x10;
+
+/// The little-endian number at `offset`; 0 when too few bytes are there.
+template <class Number>
+Number NumberAt(std::span<const std::byte> value, std::size_t offset) noexcept
 {
-public:
-    Decoder(std::span<const std::byte> value, std::size_t offset) noexcept : m_value(value), m_offset(offset) {}
+    if (offset > value.size() || value.size() - offset < sizeof(Number))
+        return 0;
+    Number number = 0;
+    for (std::size_t index = sizeof(Number); index-- > 0;)
+        number = static_cast<Number>(number << 8 | std::to_integer<Number>(value[offset + index]));
+    return number;
+}
 
-    /// The next number; 0 when too few bytes are left.
-    template <class Number>
-    [[nodiscard]] Number Take(std::size_t alignment = sizeof(Number)) noexcept
-    {
-        Skip(0, alignment);
-        const std::span<const std::byte> bytes = m_value.subspan(std::min(m_offset, m_value.size()));
-        Skip(sizeof(Number), 1);
-        if (bytes.size() < sizeof(Number))
-            return 0;
-        Number number = 0;
-        for (std::size_t index = sizeof(Number); index-- > 0;)
-            number = static_cast<Number>(number << 8 | std::to_integer<Number>(bytes[index]));
-        return number;
-    }
-    void Skip(std::size_t count, std::size_t alignment) noexcept
-    {
-        m_offset = (m_offset + alignment - 1) / alignment * alignment + count;
-    }
-    /// Whether all that was taken was there.
-    [[nodiscard]] bool IsGood() const noexcept { return m_offset <= m_value.size(); }
+template <class Number>
+void PutNumber(std::span<std::byte> value, std::size_t offset, Number number) noexcept
+{
+    for (std::size_t index = 0; index < sizeof(Number); ++index)
+        value[offset + index] = static_cast<std::byte>(number >> 8 * index);
+}
 
-private:
-    std::span<const std::byte> m_value;
-    std::size_t m_offset;
+constexpr std::size_t Aligned(std::size_t offset, std::size_t alignment) noexcept
+{
+    return (offset + alignment - 1) / alignment * alignment;
+}
+
+/// Where the numbers of a record stand.
+struct Layout
+{
+    /// Which of the others are valid; nothing where the version says that all are.
+    std::optional<std::size_t> fields;
+    std::size_t attributes = 0;
+    std::size_t created = 0;
 };
+
+/// The layout of the record that begins at `offset`; nothing when there is no whole one.
+std::optional<Layout> FindLayout(std::span<const std::byte> value, std::size_t offset) noexcept
+{
+    // The 64-bit numbers stand at multiples of 4.
+    constexpr std::size_t alignment = 4;
+    constexpr std::size_t sizes = 3 * sizeof(std::uint32_t) + 2 * sizeof(std::uint32_t);
+
+    std::size_t at = Aligned(offset, sizeof(std::uint16_t));
+    const auto version = NumberAt<std::uint16_t>(value, at);
+    if (version < 1 || version > 5 || NumberAt<std::uint16_t>(value, at + sizeof version) != version)
+        return std::nullopt;
+    at = Aligned(at + 2 * sizeof version, alignment);
+    Layout layout;
+    if (version >= 3)
+        layout.fields = at;
+    layout.attributes = version >= 2 ? at + sizeof(std::uint32_t) : at;
+    layout.created = layout.attributes + sizeof(std::uint32_t);
+    if (version <= 3)
+        layout.created += sizes;
+    else if (version == 4)
+        layout.created += sizeof(FileTicks);
+    if (layout.created + sizeof(FileTicks) > value.size())
+        return std::nullopt;
+    return layout;
+}
 
 /// "0x20" and the like.
 DosAttribute ParseText(std::string_view text)
@@ -57,49 +87,69 @@ DosAttribute ParseText(std::string_view text)
     return result;
 }
 
-DosAttribute ParseRecord(Decoder decoder)
+DosAttribute ParseRecord(std::span<const std::byte> value, const Layout& layout)
 {
-    constexpr std::uint32_t hasAttributes = 0x1;
-    constexpr std::uint32_t hasCreated = 0x10;
-    // The 64-bit numbers stand at multiples of 4.
-    constexpr std::size_t alignment = 4;
-    constexpr std::size_t sizes = 3 * sizeof(std::uint32_t) + 2 * sizeof(std::uint32_t);
-
-    const auto version = decoder.Take<std::uint16_t>();
-    const auto repeated = decoder.Take<std::uint16_t>();
-    if (version < 1 || version > 5 || repeated != version)
-        return {};
-    std::uint32_t fields = hasAttributes | hasCreated;
-    if (version >= 3)
-        fields = decoder.Take<std::uint32_t>();
-    else if (version == 2)
-        decoder.Skip(sizeof(std::uint32_t), alignment);
-    decoder.Skip(0, alignment);
-    const auto attributes = decoder.Take<std::uint32_t>();
-    if (version <= 3)
-        decoder.Skip(sizes, alignment);
-    else if (version == 4)
-        decoder.Skip(sizeof(FileTicks), alignment);
-    const auto created = static_cast<FileTicks>(decoder.Take<std::uint64_t>(alignment));
-    if (!decoder.IsGood())
-        return {};
+    const std::uint32_t fields =
+        layout.fields ? NumberAt<std::uint32_t>(value, *layout.fields) : hasAttributes | hasCreated;
+    const auto created = static_cast<FileTicks>(NumberAt<std::uint64_t>(value, layout.created));
     DosAttribute result;
     if (fields & hasAttributes)
-        result.attributes = attributes;
+        result.attributes = NumberAt<std::uint32_t>(value, layout.attributes);
     if ((fields & hasCreated) && created != 0)
         result.created = created;
     return result;
+}
+
+/// A record of version 5.
+std::vector<std::byte> MakeRecord(std::optional<std::uint32_t> attributes, FileTicks created)
+{
+    constexpr std::uint16_t version = 5;
+    constexpr std::size_t size = 24;
+    std::vector<std::byte> value(size);
+    PutNumber(value, 2, version);
+    PutNumber(value, 4, version);
+    PutNumber(value, 8, attributes ? hasAttributes | hasCreated : hasCreated);
+    PutNumber(value, 12, attributes.value_or(0));
+    PutNumber(value, 16, static_cast<std::uint64_t>(created));
+    return value;
+}
+
+/// The length of the text that a value begins with.
+std::size_t TextLength(std::span<const std::byte> value)
+{
+    return static_cast<std::size_t>(std::find(value.begin(), value.end(), std::byte(0)) - value.begin());
+}
+
+bool IsTextAlone(std::span<const std::byte> value)
+{
+    return TextLength(value) + 1 >= value.size();
 }
 
 } // namespace
 
 DosAttribute ParseDosAttribute(std::span<const std::byte> value)
 {
-    const auto textEnd = std::find(value.begin(), value.end(), std::byte(0));
-    const auto textLength = static_cast<std::size_t>(textEnd - value.begin());
-    if (textLength + 1 >= value.size())
+    const std::size_t textLength = TextLength(value);
+    if (IsTextAlone(value))
         return ParseText({reinterpret_cast<const char*>(value.data()), textLength});
-    return ParseRecord(Decoder(value, textLength + 1));
+    const auto layout = FindLayout(value, textLength + 1);
+    return layout ? ParseRecord(value, *layout) : DosAttribute();
+}
+
+std::vector<std::byte> WithCreated(std::span<const std::byte> value, FileTicks created)
+{
+    if (IsTextAlone(value)) {
+        const DosAttribute text = ParseDosAttribute(value);
+        return value.empty() || text.attributes ? MakeRecord(text.attributes, created) : std::vector<std::byte>();
+    }
+    const auto layout = FindLayout(value, TextLength(value) + 1);
+    if (!layout)
+        return {};
+    std::vector<std::byte> changed(value.begin(), value.end());
+    PutNumber(changed, layout->created, static_cast<std::uint64_t>(created));
+    if (layout->fields)
+        PutNumber(changed, *layout->fields, NumberAt<std::uint32_t>(value, *layout->fields) | hasCreated);
+    return changed;
 }
 
 } // namespace VyrPlatform

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <vector>
 
 namespace VyrPlatform {
 
@@ -22,5 +23,10 @@ struct DosAttribute
 /// Reads the value of the extended attribute: versions 1 to 5, or a hexadecimal number as ASCII text. Any other bytes
 /// give nothing. (Samba, librpc/idl/xattr.idl; exported for its tests alone.)
 [[nodiscard]] VYR_PLATFORM_API DosAttribute ParseDosAttribute(std::span<const std::byte> value);
+
+/// `value` with the creation time `created`, whatever else it holds unchanged. No value at all, and a text, become
+/// version 5.
+/// @return empty when `value` is none that ParseDosAttribute reads.
+[[nodiscard]] VYR_PLATFORM_API std::vector<std::byte> WithCreated(std::span<const std::byte> value, FileTicks created);
 
 } // namespace VyrPlatform

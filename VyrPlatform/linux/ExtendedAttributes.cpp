@@ -1,4 +1,4 @@
-// Reads attributes and creation times from extended attributes, in the order in which one takes precedence.
+// Reads and writes attributes and creation times in extended attributes, in the order in which one takes precedence.
 #include "ExtendedAttributes.h"
 
 #include "DosAttribute.h"
@@ -8,10 +8,14 @@
 #include <cstddef>
 #include <span>
 #include <sys/xattr.h>
+#include <vector>
 
 namespace VyrPlatform::ExtendedAttributes {
 
 namespace {
+
+constexpr const char* SambaName = "user.DOSATTRIB";
+constexpr const char* NtfsCreatedName = "system.ntfs_crtime_be";
 
 /// The value of one extended attribute; longer than any that is read here, so that a longer one is none of them.
 class Value
@@ -53,7 +57,7 @@ std::optional<FileTicks> ToSetTime(std::optional<std::uint64_t> number) noexcept
 
 std::optional<std::uint32_t> GetAttributes(const NativePath& path)
 {
-    if (const DosAttribute samba = ParseDosAttribute(Value(path, "user.DOSATTRIB").Bytes()); samba.attributes)
+    if (const DosAttribute samba = ParseDosAttribute(Value(path, SambaName).Bytes()); samba.attributes)
         return samba.attributes;
     const Value ntfs(path, "system.ntfs_attrib_be");
     if (const auto attributes = ntfs.BigEndian(sizeof(std::uint32_t)))
@@ -63,18 +67,34 @@ std::optional<std::uint32_t> GetAttributes(const NativePath& path)
 
 std::optional<FileTicks> GetSambaCreated(const NativePath& path)
 {
-    return ParseDosAttribute(Value(path, "user.DOSATTRIB").Bytes()).created;
+    return ParseDosAttribute(Value(path, SambaName).Bytes()).created;
 }
 
 std::optional<FileTicks> GetNtfsCreated(const NativePath& path)
 {
-    const Value creationTime(path, "system.ntfs_crtime_be");
+    const Value creationTime(path, NtfsCreatedName);
     if (creationTime.IsUnsupported())
         return std::nullopt;
     if (const auto created = ToSetTime(creationTime.BigEndian(sizeof(FileTicks))))
         return created;
     // The creation time is the first of its times.
     return ToSetTime(Value(path, "system.ntfs_times_be").BigEndian(sizeof(FileTicks)));
+}
+
+int SetSambaCreated(const NativePath& path, FileTicks created)
+{
+    const std::vector<std::byte> value = WithCreated(Value(path, SambaName).Bytes(), created);
+    if (value.empty())
+        return EINVAL;
+    return setxattr(path.Get(), SambaName, value.data(), value.size(), 0) == 0 ? 0 : errno;
+}
+
+int SetNtfsCreated(const NativePath& path, FileTicks created)
+{
+    std::array<std::byte, sizeof(FileTicks)> value;
+    for (std::size_t index = 0; index < value.size(); ++index)
+        value[index] = static_cast<std::byte>(created >> 8 * (value.size() - 1 - index));
+    return setxattr(path.Get(), NtfsCreatedName, value.data(), value.size(), 0) == 0 ? 0 : errno;
 }
 
 } // namespace VyrPlatform::ExtendedAttributes

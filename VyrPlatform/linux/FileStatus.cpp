@@ -22,4 +22,11 @@ FileTicks ToTicks(const struct statx_timestamp& time) noexcept
     return (unixSeconds + secondsToUnixEpoch) * ticksPerSecond + time.tv_nsec / nanosecondsPerTick;
 }
 
+struct timespec ToTimespec(FileTicks ticks) noexcept
+{
+    // The fraction counts forward before 1601, too.
+    const FileTicks fraction = (ticks % ticksPerSecond + ticksPerSecond) % ticksPerSecond;
+    return {(ticks - fraction) / ticksPerSecond - secondsToUnixEpoch, fraction * nanosecondsPerTick};
+}
+
 } // namespace VyrPlatform

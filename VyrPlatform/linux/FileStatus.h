@@ -20,5 +20,7 @@ namespace VyrPlatform {
 
 /// A time of the system as ticks, fractions rounded down; one beyond them gives the nearest.
 [[nodiscard]] FileTicks ToTicks(const struct statx_timestamp& time) noexcept;
+/// The inverse.
+[[nodiscard]] struct timespec ToTimespec(FileTicks ticks) noexcept;
 
 } // namespace VyrPlatform

@@ -3,7 +3,11 @@
 
 #include "FileStatus.h"
 
+#include <VyrPlatform/Encoding.h>
+
 #include <cerrno>
+#include <climits>
+#include <unistd.h>
 
 namespace VyrPlatform::FileSystem {
 
@@ -52,6 +56,15 @@ bool IsFolder(const CString& path)
 {
     struct statx status;
     return AskStatus(NativePath(path), 0, STATX_TYPE, status) && S_ISDIR(status.stx_mode);
+}
+
+std::optional<CString> GetLinkTarget(const CString& path)
+{
+    char target[PATH_MAX];
+    const ssize_t length = readlink(NativePath(path).Get(), target, sizeof target);
+    if (length < 0)
+        return std::nullopt;
+    return Encoding::FromNameBytes({target, static_cast<std::size_t>(length)});
 }
 
 std::uint32_t CreateFolder(const CString& path)

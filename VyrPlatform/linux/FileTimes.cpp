@@ -4,6 +4,8 @@
 #include "ExtendedAttributes.h"
 #include "FileStatus.h"
 
+#include <cerrno>
+
 namespace VyrPlatform::FileTimes {
 
 std::optional<FileTicks> GetModified(const CString& path)
@@ -36,6 +38,21 @@ std::optional<FileTicks> GetAccessed(const CString& path)
     if (!AskStatus(NativePath(path), 0, STATX_ATIME, status))
         return std::nullopt;
     return ToTicks(status.stx_atime);
+}
+
+std::uint32_t SetModified(const CString& path, FileTicks modified)
+{
+    const struct timespec times[] = {{0, UTIME_OMIT}, ToTimespec(modified)};
+    return utimensat(AT_FDCWD, NativePath(path).Get(), times, 0) == 0 ? 0 : static_cast<std::uint32_t>(errno);
+}
+
+std::uint32_t SetCreated(const CString& path, FileTicks created)
+{
+    const NativePath nativePath(path);
+    // What is read first is written, too.
+    if (ExtendedAttributes::GetSambaCreated(nativePath) || ExtendedAttributes::SetNtfsCreated(nativePath, created) != 0)
+        return static_cast<std::uint32_t>(ExtendedAttributes::SetSambaCreated(nativePath, created));
+    return 0;
 }
 
 } // namespace VyrPlatform::FileTimes

@@ -1,8 +1,13 @@
 // Full paths of Linux: the current folder in front, and no empty steps.
 #include <VyrPlatform/FullPath.h>
 
+#include "NativePath.h"
+
+#include <VyrPlatform/Encoding.h>
 #include <VyrPlatform/Process.h>
 
+#include <cstdlib>
+#include <memory>
 #include <string>
 
 namespace VyrPlatform {
@@ -33,6 +38,12 @@ CString GetFullPath(const CString& path)
         AppendSteps(full, Process::GetCurrentFolder());
     AppendSteps(full, path);
     return full.empty() ? CString(u"/") : CString(full);
+}
+
+CString GetRealPath(const CString& path)
+{
+    const std::unique_ptr<char, decltype(&std::free)> real(realpath(NativePath(path).Get(), nullptr), std::free);
+    return real ? Encoding::FromNameBytes(real.get()) : CString();
 }
 
 } // namespace VyrPlatform

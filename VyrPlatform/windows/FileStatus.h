@@ -18,6 +18,12 @@ namespace VyrPlatform {
     return Combine(time.dwHighDateTime, time.dwLowDateTime);
 }
 
+/// The inverse.
+[[nodiscard]] inline FILETIME ToFileTime(FileTicks ticks) noexcept
+{
+    return {static_cast<DWORD>(ticks & 0xFFFF'FFFF), static_cast<DWORD>(ticks >> 32)};
+}
+
 /// Whether a found entry stands for another path (a symbolic link, a junction), as against other reparse points (files
 /// that are compressed or kept online).
 [[nodiscard]] inline bool IsLink(const WIN32_FIND_DATAW& found) noexcept

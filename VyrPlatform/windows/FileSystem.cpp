@@ -4,6 +4,15 @@
 #include "FileStatus.h"
 #include "LongPath.h"
 
+#include <VyrPlatform/WindowsCString.h>
+
+#include <cstddef>
+#include <cstring>
+#include <span>
+#include <string>
+#include <vector>
+#include <winioctl.h>
+
 namespace VyrPlatform::FileSystem {
 
 namespace {
@@ -57,6 +66,35 @@ Entry QueryUncommon(const LongPath& path, DWORD error) noexcept
     return entry;
 }
 
+/// A number of a reparse point's data, 0 where that is too short.
+template <class Number>
+Number NumberAt(std::span<const std::byte> data, std::size_t offset) noexcept
+{
+    Number number = 0;
+    if (offset + sizeof(number) <= data.size())
+        std::memcpy(&number, data.data() + offset, sizeof(number));
+    return number;
+}
+
+/// Where a reparse point leads to. (REPARSE_DATA_BUFFER in the documentation of the Windows drivers.)
+std::optional<CString> ParseReparsePoint(std::span<const std::byte> data)
+{
+    constexpr std::size_t namePlace = 8;
+    constexpr std::size_t junctionNames = 16;
+    constexpr std::size_t linkNames = 20;
+    const auto tag = NumberAt<std::uint32_t>(data, 0);
+    if (tag != IO_REPARSE_TAG_SYMLINK && tag != IO_REPARSE_TAG_MOUNT_POINT)
+        return std::nullopt;
+    const std::size_t start =
+        (tag == IO_REPARSE_TAG_SYMLINK ? linkNames : junctionNames) + NumberAt<std::uint16_t>(data, namePlace);
+    const std::size_t size = NumberAt<std::uint16_t>(data, namePlace + sizeof(std::uint16_t));
+    if (start + size > data.size())
+        return std::nullopt;
+    std::wstring target(size / sizeof(wchar_t), L'\0');
+    std::memcpy(target.data(), data.data() + start, target.size() * sizeof(wchar_t));
+    return FromWide(target);
+}
+
 } // namespace
 
 Entry Query(const CString& path)
@@ -89,6 +127,21 @@ bool IsFolder(const CString& path)
     if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_DIRECTORY))
         return false;
     return !(attributes & FILE_ATTRIBUTE_REPARSE_POINT) || Query(path).kind == Kind::Folder;
+}
+
+std::optional<CString> GetLinkTarget(const CString& path)
+{
+    const HANDLE link =
+        CreateFileW(LongPath(path).Get(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    if (link == INVALID_HANDLE_VALUE)
+        return std::nullopt;
+    std::vector<std::byte> data(MAXIMUM_REPARSE_DATA_BUFFER_SIZE);
+    DWORD size = 0;
+    const BOOL isRead = DeviceIoControl(link, FSCTL_GET_REPARSE_POINT, nullptr, 0, data.data(),
+                                        static_cast<DWORD>(data.size()), &size, nullptr);
+    CloseHandle(link);
+    return isRead ? ParseReparsePoint(std::span(data).first(size)) : std::nullopt;
 }
 
 std::uint32_t CreateFolder(const CString& path)

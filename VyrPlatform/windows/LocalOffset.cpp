@@ -13,11 +13,6 @@ constexpr FileTicks ticksPerSecond = 10'000'000;
 /// From 1 January 1601 to 1 January 1970.
 constexpr std::int64_t secondsToUnixEpoch = 11'644'473'600;
 
-FILETIME ToFileTime(FileTicks ticks) noexcept
-{
-    return {static_cast<DWORD>(ticks & 0xFFFF'FFFF), static_cast<DWORD>(ticks >> 32)};
-}
-
 } // namespace
 
 std::optional<int> GetLocalOffset(std::int64_t unixSeconds)

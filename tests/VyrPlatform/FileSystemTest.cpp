@@ -218,6 +218,24 @@ TEST(FileSystemCreateFolder, RefusesAMissingParent)
     EXPECT_NE(FileSystem::CreateFolder(u""), 0U);
 }
 
+TEST(FileSystemLinkTarget, IsTheTextOfTheLink)
+{
+    const ScratchFolder scratch;
+    const CString file = scratch.WriteFile(u"file");
+    if (const std::string reason = VyrTests::MakeLink(file, scratch.Path(u"link")); !reason.empty())
+        GTEST_SKIP() << reason;
+    EXPECT_GE(FileSystem::GetLinkTarget(scratch.Path(u"link")).value_or(CString()).Find(file), 0);
+    ASSERT_EQ(VyrTests::MakeLink(u"no way/é", scratch.Path(u"dangling")), "");
+    EXPECT_GE(FileSystem::GetLinkTarget(scratch.Path(u"dangling")).value_or(CString()).Find(u"é"), 0);
+}
+
+TEST(FileSystemLinkTarget, IsNothingWhereNoLinkIs)
+{
+    const ScratchFolder scratch;
+    for (const CString& path : {scratch.WriteFile(u"file"), scratch.MakeFolder(u"folder"), scratch.Path(u"missing")})
+        EXPECT_EQ(FileSystem::GetLinkTarget(path), std::nullopt);
+}
+
 TEST(FileSystemSeparator, IsOneOfThoseThatSeparate)
 {
     EXPECT_TRUE(FileSystem::IsSeparator(FileSystem::Separator()));

@@ -5,8 +5,12 @@
 #include <VyrPlatform/Process.h>
 
 #include <gtest/gtest.h>
+#include <tests/support/Links.h>
+#include <tests/support/ScratchFolder.h>
 
 using VyrPlatform::GetFullPath;
+using VyrPlatform::GetRealPath;
+using VyrTests::ScratchFolder;
 
 namespace {
 
@@ -50,4 +54,40 @@ TEST(FullPath, AnEmptyPathStaysEmpty)
 TEST(FullPath, UnitsThatAreNotUtf8Stay)
 {
     EXPECT_EQ(GetFullPath(u"a\xDCFF"), Here(u"a\xDCFF"));
+}
+
+TEST(RealPath, ResolvesStepsAndOtherSpellings)
+{
+    const ScratchFolder scratch;
+    const CString folder = GetRealPath(scratch.MakeFolder(u"folder"));
+    EXPECT_FALSE(folder.IsEmpty());
+    EXPECT_EQ(GetRealPath(scratch.Path(u"folder/../folder/.")), folder);
+    EXPECT_EQ(GetRealPath(folder), folder);
+    EXPECT_EQ(GetFullPath(folder), folder);
+    EXPECT_EQ(GetRealPath(scratch.WriteFile(u"folder/é")).Right(2), scratch.Path(u"folder/é").Right(2));
+}
+
+TEST(RealPath, OfNothingIsEmpty)
+{
+    const ScratchFolder scratch;
+    EXPECT_TRUE(GetRealPath(scratch.Path(u"missing")).IsEmpty());
+    EXPECT_TRUE(GetRealPath(CString()).IsEmpty());
+}
+
+TEST(RealPath, LeadsThroughLinks)
+{
+    const ScratchFolder scratch;
+    const CString folder = scratch.MakeFolder(u"folder/inner");
+    if (const std::string reason = VyrTests::MakeLink(folder, scratch.Path(u"link")); !reason.empty())
+        GTEST_SKIP() << reason;
+    EXPECT_EQ(GetRealPath(scratch.Path(u"link")), GetRealPath(folder));
+}
+
+TEST(RealPath, MayBeLong)
+{
+    const ScratchFolder scratch;
+    CString name;
+    for (int count = 0; count < 60; ++count)
+        name += count == 0 ? CString(u"long name") : CString(u"/long name");
+    EXPECT_GT(GetRealPath(scratch.MakeFolder(name)).GetLength(), 599);
 }

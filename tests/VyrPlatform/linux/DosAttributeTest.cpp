@@ -45,6 +45,23 @@ std::string Version5()
     return Join({"\0\0\5\0\5\0\0\0\x11\0\0\0\x21\0\0\0"sv, createdBytes});
 }
 
+std::string Changed(std::string_view value, FileTicks time)
+{
+    std::string changed;
+    for (const std::byte byte : VyrPlatform::WithCreated(std::as_bytes(std::span(value)), time))
+        changed += static_cast<char>(byte);
+    return changed;
+}
+
+/// The value of the attribute as it stands; empty when there is none.
+std::string ValueOf(const CString& path)
+{
+    std::string value(256, '\0');
+    const ssize_t size = getxattr(VyrTests::ToStdPath(path).c_str(), "user.DOSATTRIB", value.data(), value.size());
+    value.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
+    return value;
+}
+
 void SetValue(const CString& path, const char* name, std::string_view value)
 {
     ASSERT_EQ(setxattr(VyrTests::ToStdPath(path).c_str(), name, value.data(), value.size(), 0), 0);
@@ -142,6 +159,67 @@ TEST(DosAttribute, ValueCutOffAnywhereGivesNothing)
         EXPECT_EQ(Parse(std::string_view(whole).substr(0, size)).attributes, std::nullopt) << size;
         EXPECT_EQ(Parse(std::string_view(whole).substr(0, size)).created, std::nullopt) << size;
     }
+}
+
+TEST(DosAttribute, CreationTimeIsPutIntoEveryVersionAndNothingElseChanges)
+{
+    const std::string starts[] = {
+        Join({"\0\0\1\0\1\0\0\0"sv, "\x21\0\0\0"sv, fourBytes, eightBytes, eightBytes}),
+        Join({"\0\0\2\0\2\0\0\0"sv, fourBytes, "\x21\0\0\0"sv, fourBytes, eightBytes, eightBytes}),
+        Join({"\0\0\3\0\3\0\0\0"sv, "\x11\0\0\0"sv, "\x21\0\0\0"sv, fourBytes, eightBytes, eightBytes}),
+        Join({"\0\0\4\0\4\0\0\0"sv, "\x51\0\0\0"sv, "\x21\0\0\0"sv, eightBytes}),
+        Join({"0x21\0\0\5\0\5\0\0\0"sv, "\x11\0\0\0\x21\0\0\0"sv}),
+    };
+    for (const std::string& start : starts)
+        EXPECT_EQ(Changed(Join({start, eightBytes, "rest\0"sv}), created), Join({start, createdBytes, "rest\0"sv}));
+}
+
+TEST(DosAttribute, CreationTimeThatIsPutInIsValid)
+{
+    std::string value = Version5();
+    value[8] = '\x41';
+    std::string expected = value;
+    expected[8] = '\x51';
+    EXPECT_EQ(Changed(value, created), expected);
+}
+
+TEST(DosAttribute, CreationTimeMakesVersion5OfNothingAndOfText)
+{
+    EXPECT_EQ(Changed("", created), Join({"\0\0\5\0\5\0\0\0\x10\0\0\0\0\0\0\0"sv, createdBytes}));
+    EXPECT_EQ(Changed("0x21", created), Version5());
+    EXPECT_EQ(Changed("0x21\0"sv, created), Version5());
+}
+
+TEST(DosAttribute, CreationTimeIsNotPutIntoOtherBytes)
+{
+    for (const std::string_view value : {"\0"sv, "32"sv, "0x20z"sv, "\0\0\6\0\6\0\0\0"sv, "\0\0\5\0"sv})
+        EXPECT_EQ(Changed(value, created), "") << testing::PrintToString(value);
+    const std::string whole = Version5();
+    for (std::size_t size = 1; size < whole.size(); ++size)
+        EXPECT_EQ(Changed(std::string_view(whole).substr(0, size), created), "") << size;
+}
+
+TEST(DosAttributeOfFile, CreationTimeThatIsSetLeavesTheAttributes)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    SetValue(path, "user.DOSATTRIB", "0x21");
+    ASSERT_EQ(FileTimes::SetCreated(path, created), 0U);
+    EXPECT_EQ(ValueOf(path), Version5());
+    EXPECT_EQ(FileTimes::GetCreated(path), created);
+    ASSERT_EQ(FileTimes::SetCreated(path, created + 1), 0U);
+    EXPECT_EQ(FileTimes::GetCreated(path), created + 1);
+    EXPECT_TRUE(FileAttributes::IsReadOnly(path));
+}
+
+TEST(DosAttributeOfFile, DamagedValueIsNotWrittenOver)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    const std::string damaged = Version5().substr(0, 20);
+    SetValue(path, "user.DOSATTRIB", damaged);
+    EXPECT_NE(FileTimes::SetCreated(path, created), 0U);
+    EXPECT_EQ(ValueOf(path), damaged);
 }
 
 TEST(DosAttributeOfFile, CreationTimeComesBeforeTheBirthTime)

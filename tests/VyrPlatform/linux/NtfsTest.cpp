@@ -53,6 +53,14 @@ TEST_F(Ntfs, CreationTimeIsTheOneOfTheDisk)
     EXPECT_EQ(FileTimes::GetModified(Path(u"a")), modified);
 }
 
+TEST_F(Ntfs, CreationTimeIsSetOnTheDisk)
+{
+    constexpr VyrPlatform::FileTicks created = 0x01'BF'53'EB'25'6D'40'07;
+    ASSERT_EQ(FileTimes::SetCreated(Path(u"a"), created), 0U);
+    EXPECT_EQ(FileTimes::GetCreated(Path(u"a")), created);
+    EXPECT_LT(getxattr(VyrTests::ToStdPath(Path(u"a")).c_str(), "user.DOSATTRIB", nullptr, 0), 0);
+}
+
 TEST_F(Ntfs, ReadOnlyAttributeMakesAFileReadOnly)
 {
     EXPECT_FALSE(VyrPlatform::FileAttributes::IsReadOnly(Path(u"a")));
