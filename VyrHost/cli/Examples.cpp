@@ -24,6 +24,17 @@ constexpr Example OfRename[] = {
     {"vyr rename --date \"yyyy<Folder><Name>\" --together --apply *", "move into a folder for each year, now"},
 };
 
+constexpr Example OfCopy[] = {
+    {"vyr copy Pictures Backup", "into Backup where that is a folder, else as Backup"},
+    {"vyr copy Pictures Scans Backup --apply", "both into the folder Backup, now"},
+    {"vyr copy --json Pictures Backup", "for a program, one object a line"},
+};
+
+constexpr Example OfMove[] = {
+    {"vyr move Pictures \"Old pictures\"", "under a new name, or into that folder"},
+    {"vyr move Pictures Scans Backup --quiet --apply", "both into the folder Backup, now; show only what fails"},
+};
+
 constexpr Example OfUndo[] = {
     {"vyr undo --list", "the batches with their numbers"},
     {"vyr undo", "take the latest batch back"},
@@ -49,6 +60,16 @@ std::string TextOf(std::span<const Example> examples)
 std::string RenameExamples()
 {
     return TextOf(OfRename);
+}
+
+std::string CopyExamples()
+{
+    return TextOf(OfCopy);
+}
+
+std::string MoveExamples()
+{
+    return TextOf(OfMove);
 }
 
 std::string UndoExamples()

@@ -8,6 +8,9 @@ namespace VyrHost {
 
 /// For the help of "vyr rename": a line for each example and one that says what it does.
 [[nodiscard]] std::string RenameExamples();
+/// Likewise for "vyr copy" and "vyr move".
+[[nodiscard]] std::string CopyExamples();
+[[nodiscard]] std::string MoveExamples();
 /// Likewise for "vyr undo" and "vyr recover".
 [[nodiscard]] std::string UndoExamples();
 [[nodiscard]] std::string RecoverExamples();

@@ -8,6 +8,7 @@
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/RecoverCommand.h>
 #include <VyrHost/cli/RenameCommand.h>
+#include <VyrHost/cli/TreeCommand.h>
 #include <VyrHost/cli/UndoCommand.h>
 #include <VyrLibraryUtils/VersionUtils.h>
 #include <VyrPlatform/Console.h>
@@ -45,16 +46,23 @@ int RefuseCall(const std::string& what)
 
 int RunProgram(const std::vector<CString>& arguments)
 {
-    CLI::App program("Renames files and folders by rules, and shows the result first.", "vyr");
+    CLI::App program("Renames files and folders by rules, copies and moves folders, and shows the result first.",
+                     "vyr");
     program.set_version_flag("--version", VersionText);
     program.allow_windows_style_options(false);
     program.require_subcommand(1);
     program.get_formatter()->column_width(HelpColumn);
     const RenameCommand rename(program);
+    const TreeCommand copy(program, TreeAction::Copy);
+    const TreeCommand move(program, TreeAction::Move);
     const UndoCommand undo(program);
     const RecoverCommand recover(program);
     try {
         program.parse(ToParser(program, arguments));
+        if (copy.IsChosen())
+            return copy.Run();
+        if (move.IsChosen())
+            return move.Run();
         if (undo.IsChosen())
             return undo.Run();
         if (recover.IsChosen())

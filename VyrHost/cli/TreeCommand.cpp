@@ -1,0 +1,71 @@
+// Declares "vyr copy" and "vyr move" and makes a request of what was given.
+#include <VyrHost/cli/TreeCommand.h>
+
+#include <VyrHost/UsageError.h>
+#include <VyrHost/cli/ArgumentText.h>
+#include <VyrHost/cli/Examples.h>
+#include <VyrHost/cli/ExitCode.h>
+
+#include <CLI/CLI.hpp>
+
+namespace VyrHost {
+
+namespace {
+
+CLI::App& AddCommand(CLI::App& program, TreeAction action)
+{
+    if (action == TreeAction::Copy)
+        return *program.add_subcommand("copy", "Copy folders with all that is in them; shows first what would happen");
+    return *program.add_subcommand("move", "Move folders with all that is in them; shows first what would happen");
+}
+
+constexpr const char* Rules =
+    "Nothing is overwritten: while anything is in the way, nothing is done at all. A folder of\n"
+    "the same name at the destination takes up the entries. Links are not followed. A folder\n"
+    "that is begun is brought to its end, Ctrl-C or not; \"vyr undo\" does not take it back.\n\n";
+
+} // namespace
+
+TreeCommand::TreeCommand(CLI::App& program, TreeAction action)
+    : m_action(action), m_command(AddCommand(program, action))
+{
+    const bool isCopy = action == TreeAction::Copy;
+    m_command
+        .add_option("FOLDER", m_paths,
+                    isCopy ? "The folders to copy, and behind them the destination: a folder that is there, to go "
+                             "into; or the new path of the one folder"
+                           : "The folders to move, and behind them the destination: a folder that is there, to go "
+                             "into; or the new path of the one folder")
+        ->type_name("");
+    m_command.add_flag("--apply", m_apply,
+                       isCopy ? "Copy; without it the result is only shown"
+                              : "Move; without it the result is only shown");
+    m_command.add_flag("--json", m_json, "Write one JSON object for each folder, and for each entry in trouble");
+    m_command.add_flag("-q,--quiet", m_quiet, "Show only what is in the way or fails");
+    m_command.footer(Rules + (isCopy ? CopyExamples() : MoveExamples()) + "\n" + ExitCode::Table);
+}
+
+bool TreeCommand::IsChosen() const
+{
+    return m_command.parsed();
+}
+
+int TreeCommand::Run() const
+{
+    if (m_json && m_quiet)
+        throw UsageError("--json and --quiet exclude each other");
+    if (m_paths.size() < 2)
+        throw UsageError("a folder and the destination are to be named");
+    TreeRequest request;
+    request.action = m_action;
+    for (const std::string& path : m_paths)
+        request.sources.push_back(FromParser(path));
+    request.destination = request.sources.back();
+    request.sources.pop_back();
+    request.apply = m_apply;
+    request.json = m_json;
+    request.quiet = m_quiet;
+    return RunTrees(request);
+}
+
+} // namespace VyrHost

@@ -1,0 +1,75 @@
+/// @file
+/// What stands in a folder and below it, taken down before it is copied or moved.
+#pragma once
+
+#include <VyrPlatform/CString.h>
+#include <VyrPlatform/FileTimes.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace VyrHost {
+
+enum class TreeKind : std::uint8_t
+{
+    Folder,
+    File,
+    /// A symbolic link, wherever it leads: no link is followed.
+    Link,
+    /// A pipe, a device: nothing that has a content.
+    Other
+};
+
+struct TreeEntry
+{
+    CString name;
+    TreeKind kind = TreeKind::File;
+    /// Of a folder: its place in Tree::folders.
+    std::size_t folder = 0;
+    /// In bytes; of a link that of the file it leads to, -1 where it leads to none.
+    std::int64_t size = 0;
+    /// Of a link: where it leads, as it holds it.
+    CString linkTarget;
+};
+
+struct TreeFolder
+{
+    /// From the root on; empty for the root itself.
+    CString path;
+    VyrPlatform::FileTicks created = 0;
+    VyrPlatform::FileTicks modified = 0;
+    /// Why its entries could not be read to their end: the system's error code, else 0.
+    std::uint32_t error = 0;
+    /// Its entries stand together in Tree::entries.
+    std::size_t firstEntry = 0;
+    std::size_t entryCount = 0;
+};
+
+struct Tree
+{
+    /// Full path of the root folder.
+    CString root;
+    /// The root first, each folder before those in it.
+    std::vector<TreeFolder> folders;
+    /// Folders but the root, too.
+    std::vector<TreeEntry> entries;
+};
+
+/// How much there is in a tree.
+struct TreeSize
+{
+    /// The root included.
+    std::size_t folders = 0;
+    /// Whatever is no folder.
+    std::size_t files = 0;
+    /// Of all files together.
+    std::int64_t bytes = 0;
+};
+
+/// Takes down the folder at the full path `root`, hidden entries included.
+[[nodiscard]] Tree ScanTree(const CString& root);
+
+[[nodiscard]] TreeSize SizeOf(const Tree& tree);
+
+} // namespace VyrHost

@@ -1,0 +1,142 @@
+// Looks through the folders that a tree shares with its target.
+#include <VyrHost/trees/TreeClashes.h>
+
+#include <VyrLibraryUtils/FileUtils.h>
+#include <VyrPlatform/FileIdentity.h>
+#include <VyrPlatform/FolderListing.h>
+#include <VyrPlatform/NameFolding.h>
+
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
+
+namespace VyrHost {
+
+namespace {
+
+using VyrLibraryUtils::FileUtils;
+using VyrPlatform::FolderListing;
+using VyrPlatform::FoldName;
+using VyrPlatform::NameFolding;
+using VyrPlatform::FileSystem::Kind;
+
+/// What becomes of a folder of the tree.
+enum class Place : std::uint8_t
+{
+    /// Not known: something is in the way of it, or of one above it.
+    InTheWay,
+    /// It will be made.
+    New,
+    /// A folder stands there and takes up its entries.
+    There
+};
+
+struct FolderPlan
+{
+    Place place = Place::InTheWay;
+    NameFolding folding = NameFolding::None;
+};
+
+class TargetChecker
+{
+public:
+    TargetChecker(const Tree& tree, const CString& target)
+        : m_tree(tree), m_target(target), m_plans(tree.folders.size())
+    {}
+
+    TargetCheck Run()
+    {
+        PlanRoot();
+        for (std::size_t number = 0; number < m_plans.size(); ++number)
+            if (m_plans[number].place != Place::InTheWay)
+                CheckFolder(m_tree.folders[number], m_plans[number]);
+        return std::move(m_check);
+    }
+
+private:
+    void PlanRoot()
+    {
+        const Kind kind = VyrPlatform::LookAtFile(m_target).kind;
+        if (kind == Kind::File || kind == Kind::Other)
+            Report(CString(), TreeFault::TargetExists);
+        else
+            SetPlan(0, kind == Kind::Folder ? Place::There : Place::New, VyrPlatform::GetNameFolding(m_target));
+    }
+
+    void SetPlan(std::size_t folder, Place place, NameFolding folding)
+    {
+        m_plans[folder] = {place, folding};
+        if (place == Place::New)
+            ++m_check.newFolders;
+    }
+
+    /// The names in the folder at `path` by their keys, with whether each is a folder and no link.
+    [[nodiscard]] bool ReadNames(const CString& path, NameFolding folding, const CString& shown)
+    {
+        m_isFolder.clear();
+        FolderListing listing(path);
+        while (listing.Next())
+            m_isFolder.emplace(FoldName(listing.Name(), folding), listing.Kind() == Kind::Folder && !listing.IsLink());
+        if (listing.Error() != 0)
+            Report(shown, TreeFault::TargetNotRead, listing.Error());
+        return listing.Error() == 0;
+    }
+
+    void CheckFolder(const TreeFolder& folder, FolderPlan plan)
+    {
+        const CString path = FileUtils::GetCombinePath(m_target, folder.path);
+        if (plan.place == Place::There && !ReadNames(path, plan.folding, folder.path))
+            return;
+        std::unordered_set<CString> keys;
+        for (std::size_t index = 0; index < folder.entryCount; ++index) {
+            const TreeEntry& entry = m_tree.entries[folder.firstEntry + index];
+            const CString key = FoldName(entry.name, plan.folding);
+            if (plan.folding != NameFolding::None && !keys.insert(key).second)
+                Report(FileUtils::GetCombinePath(folder.path, entry.name), TreeFault::TwoNamesInOne);
+            else if (plan.place == Place::New)
+                PlanNew(entry, plan.folding);
+            else
+                CheckEntry(entry, key, folder.path, plan.folding);
+        }
+    }
+
+    /// A new folder compares names as the one that it is made in.
+    void PlanNew(const TreeEntry& entry, NameFolding folding)
+    {
+        if (entry.kind == TreeKind::Folder)
+            SetPlan(entry.folder, Place::New, folding);
+    }
+
+    void CheckEntry(const TreeEntry& entry, const CString& key, const CString& folder, NameFolding folding)
+    {
+        const auto found = m_isFolder.find(key);
+        const CString path = FileUtils::GetCombinePath(folder, entry.name);
+        if (found == m_isFolder.end())
+            PlanNew(entry, folding);
+        else if (entry.kind == TreeKind::Folder && found->second)
+            SetPlan(entry.folder, Place::There, VyrPlatform::GetNameFolding(FileUtils::GetCombinePath(m_target, path)));
+        else
+            Report(path, TreeFault::TargetExists);
+    }
+
+    void Report(const CString& path, TreeFault fault, std::uint32_t error = 0)
+    {
+        m_check.clashes.push_back({path, fault, error});
+    }
+
+    const Tree& m_tree;
+    const CString m_target;
+    std::vector<FolderPlan> m_plans;
+    /// Of the folder that is looked through.
+    std::unordered_map<CString, bool> m_isFolder;
+    TargetCheck m_check;
+};
+
+} // namespace
+
+TargetCheck CheckTarget(const Tree& tree, const CString& target)
+{
+    return TargetChecker(tree, target).Run();
+}
+
+} // namespace VyrHost

@@ -1,0 +1,24 @@
+/// @file
+/// What is in the way of a tree at its target.
+#pragma once
+
+#include <VyrHost/trees/Tree.h>
+#include <VyrHost/trees/TreeProblem.h>
+
+namespace VyrHost {
+
+/// What the target of a tree holds already.
+struct TargetCheck
+{
+    /// What would be overwritten, or would overwrite each other; to be refused as a whole.
+    TreeProblems clashes;
+    /// How many folders will be made, the root included.
+    std::size_t newFolders = 0;
+};
+
+/// Holds `tree` against what stands at the full path `target`. A folder there takes up the entries of the same folder
+/// of the tree; anything else that stands where an entry would go is in its way, a link to a folder, too: nothing goes
+/// through links. Names are compared as the target's file system compares them.
+[[nodiscard]] TargetCheck CheckTarget(const Tree& tree, const CString& target);
+
+} // namespace VyrHost

@@ -1,0 +1,19 @@
+/// @file
+/// The comparison of a tree with what has come to its target.
+#pragma once
+
+#include <VyrHost/trees/TreeTransfer.h>
+
+namespace VyrHost {
+
+/// What cannot go well, as the tree alone tells: folders that cannot be read, and what has no content to copy.
+[[nodiscard]] TreeProblems ForeseeProblems(const Tree& tree, TreeAction action);
+
+/// Looks at every entry of `tree` at the full path `target`: it must be there, of the same kind and size, a link with
+/// the same text; after a move nothing may be left at the source. What is missing is tried a second time, which tells
+/// why it fails.
+/// @param records  gets the folders that are made only now.
+/// @return every entry that is not where it should be.
+[[nodiscard]] TreeProblems FinishTree(const Tree& tree, const CString& target, TreeAction action, TreeRecords& records);
+
+} // namespace VyrHost

@@ -1,0 +1,195 @@
+// Finds sources and targets, and refuses what could never end well.
+#include <VyrHost/trees/TreeTasks.h>
+
+#include <VyrHost/UsageError.h>
+#include <VyrHost/files/ErrorText.h>
+#include <VyrHost/output/SafeText.h>
+#include <VyrLibraryUtils/FileUtils.h>
+#include <VyrPlatform/FileIdentity.h>
+#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/FullPath.h>
+#include <VyrPlatform/NameFolding.h>
+
+#include <map>
+#include <string>
+#include <unordered_set>
+#include <utility>
+
+namespace VyrHost {
+
+namespace {
+
+using VyrLibraryUtils::FileUtils;
+using VyrPlatform::FileState;
+using VyrPlatform::LookAtFile;
+namespace FileSystem = VyrPlatform::FileSystem;
+
+/// A file's identity in the order that a map wants.
+using Identity = std::pair<std::uint64_t, std::uint64_t>;
+
+Identity IdentityOf(const FileState& state)
+{
+    return {state.identity.device, state.identity.number};
+}
+
+std::string Quoted(const CString& path)
+{
+    return "'" + SafeText(path) + "'";
+}
+
+CString FolderOf(const CString& fullPath)
+{
+    return VyrPlatform::GetFullPath(FileUtils::GetSplitDirPath(fullPath));
+}
+
+/// The identities of the folder at `path` and of each one above it.
+std::vector<Identity> UpFrom(const CString& path)
+{
+    std::vector<Identity> identities;
+    CString above = VyrPlatform::GetRealPath(path);
+    for (CString folder; above != folder; above = FolderOf(folder)) {
+        folder = above;
+        const FileState state = LookAtFile(folder);
+        if (state.kind != FileSystem::Kind::Missing)
+            identities.push_back(IdentityOf(state));
+    }
+    return identities;
+}
+
+class TaskMaker
+{
+public:
+    TaskMaker(const std::vector<CString>& sources, const CString& destination)
+        : m_destination(destination), m_folder(VyrPlatform::GetFullPath(destination))
+    {
+        for (const CString& source : sources)
+            AddSource(source);
+    }
+
+    std::vector<TreeTask> Make()
+    {
+        RefuseNestedSources();
+        FindDestination();
+        RefuseDestinationInSource();
+        for (TreeTask& task : m_tasks)
+            SetTarget(task);
+        return std::move(m_tasks);
+    }
+
+private:
+    void AddSource(const CString& given)
+    {
+        TreeTask task;
+        task.shownSource = given;
+        task.source = VyrPlatform::GetFullPath(given);
+        const FileState state = LookAtFile(task.source);
+        if (state.kind == FileSystem::Kind::Missing)
+            throw UsageError(Quoted(given) + " cannot be found: " + SafeText(ErrorText(state.error)));
+        if (state.kind == FileSystem::Kind::Other && FileSystem::IsFolder(task.source))
+            throw UsageError(Quoted(given) + " is a link; name the folder that it leads to");
+        if (state.kind != FileSystem::Kind::Folder)
+            throw UsageError(Quoted(given) + " is no folder");
+        if (!m_sources.emplace(IdentityOf(state), m_tasks.size()).second)
+            throw UsageError(Quoted(given) + " is named twice");
+        // Only a name can be given on.
+        if (FileUtils::GetSplitFileName(task.source) == u"..")
+            task.source = VyrPlatform::GetRealPath(task.source);
+        m_tasks.push_back(std::move(task));
+    }
+
+    /// The source that has this identity; null when none has.
+    [[nodiscard]] const TreeTask* SourceAt(const Identity& identity) const
+    {
+        const auto found = m_sources.find(identity);
+        return found == m_sources.end() ? nullptr : &m_tasks[found->second];
+    }
+
+    void RefuseNestedSources() const
+    {
+        for (const TreeTask& task : m_tasks)
+            for (const Identity& identity : UpFrom(FolderOf(task.source)))
+                if (const TreeTask* const outer = SourceAt(identity); outer && outer != &task)
+                    throw UsageError(Quoted(task.shownSource) + " stands inside " + Quoted(outer->shownSource) +
+                                     ", which is named, too");
+    }
+
+    /// Finds out whether the folders go into the destination, or the one gets its name.
+    void FindDestination()
+    {
+        m_goesInto = FileSystem::IsFolder(m_folder);
+        if (m_goesInto)
+            return;
+        if (m_folder.IsEmpty())
+            throw UsageError("the destination is empty");
+        if (FileSystem::Exists(m_folder))
+            throw UsageError(Quoted(m_destination) + " is there already, and is no folder");
+        if (m_tasks.size() > 1)
+            throw UsageError("there is no folder " + Quoted(m_destination) +
+                             "; several folders go into one that is there");
+        m_newPath = m_folder;
+        m_folder = FolderOf(m_newPath);
+        if (!FileSystem::IsFolder(m_folder))
+            throw UsageError("the folder in which " + Quoted(m_destination) + " would stand is not there");
+    }
+
+    void RefuseDestinationInSource() const
+    {
+        for (const Identity& identity : UpFrom(m_folder))
+            if (const TreeTask* const source = SourceAt(identity))
+                throw UsageError(Quoted(m_destination) + " stands inside " + Quoted(source->shownSource));
+    }
+
+    void SetTarget(TreeTask& task)
+    {
+        const CString name = FileUtils::GetSplitFileName(task.source);
+        if (m_goesInto && name.IsEmpty())
+            throw UsageError(Quoted(task.shownSource) + " has no name that it could have in " + Quoted(m_destination));
+        task.target = m_goesInto ? FileUtils::GetCombinePath(m_folder, name) : m_newPath;
+        task.shownTarget = m_goesInto ? FileUtils::GetCombinePath(m_destination, name) : m_destination;
+        if (m_goesInto && !m_names.insert(VyrPlatform::FoldName(name, Folding())).second)
+            throw UsageError("two of the folders would become " + Quoted(task.shownTarget));
+        RefuseMeeting(task);
+    }
+
+    /// The source and what stands at its target may not be one folder, nor the one in the other.
+    void RefuseMeeting(const TreeTask& task) const
+    {
+        const FileState there = LookAtFile(task.target);
+        if (there.kind == FileSystem::Kind::Missing)
+            return;
+        if (const TreeTask* const source = SourceAt(IdentityOf(there)))
+            throw UsageError(Quoted(task.shownTarget) + " is the folder " + Quoted(source->shownSource) + " itself");
+        for (const Identity& identity : UpFrom(task.source))
+            if (identity == IdentityOf(there))
+                throw UsageError(Quoted(task.shownSource) + " stands inside " + Quoted(task.shownTarget) +
+                                 ", with which it would become one");
+    }
+
+    [[nodiscard]] VyrPlatform::NameFolding Folding()
+    {
+        if (m_tasks.size() > 1 && !m_folding)
+            m_folding = VyrPlatform::GetNameFolding(m_folder);
+        return m_folding.value_or(VyrPlatform::NameFolding::None);
+    }
+
+    const CString m_destination;
+    std::vector<TreeTask> m_tasks;
+    std::map<Identity, std::size_t> m_sources;
+    /// The folder that is there, in which the targets will stand.
+    CString m_folder;
+    /// What the one source will be called, where it does not keep its name.
+    CString m_newPath;
+    bool m_goesInto = false;
+    std::optional<VyrPlatform::NameFolding> m_folding;
+    /// The keys of the names given.
+    std::unordered_set<CString> m_names;
+};
+
+} // namespace
+
+std::vector<TreeTask> MakeTreeTasks(const std::vector<CString>& sources, const CString& destination)
+{
+    return TaskMaker(sources, destination).Make();
+}
+
+} // namespace VyrHost
