@@ -29,4 +29,9 @@ enum class NameFolding : std::uint8_t
 /// copy is made) under NameFolding::None.
 [[nodiscard]] VYR_PLATFORM_API CString FoldName(const CString& name, NameFolding folding);
 
+/// Whether the folder at `path`, which is there, takes the names `left` and `right` for one. This is tried with empty
+/// folders in a new one, which is removed again: for names of which much depends, since an empty folder may be one of
+/// those whose file system tells nothing. False, too, where nothing can be made there.
+[[nodiscard]] VYR_PLATFORM_API bool TryIsOneName(const CString& path, const CString& left, const CString& right);
+
 } // namespace VyrPlatform

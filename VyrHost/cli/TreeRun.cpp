@@ -43,7 +43,7 @@ private:
     void Check(TreeTask task)
     {
         Tree tree = ScanTree(task.source);
-        TargetCheck check = CheckTarget(tree, task.target);
+        TargetCheck check = CheckTarget(tree, task.target, m_request.apply ? Trial::Allowed : Trial::No);
         TreeReport report;
         report.size = SizeOf(tree);
         report.problems = std::move(check.clashes);

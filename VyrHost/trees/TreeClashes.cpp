@@ -4,10 +4,10 @@
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/FileIdentity.h>
 #include <VyrPlatform/FolderListing.h>
+#include <VyrPlatform/FullPath.h>
 #include <VyrPlatform/NameFolding.h>
 
 #include <unordered_map>
-#include <unordered_set>
 #include <utility>
 
 namespace VyrHost {
@@ -40,8 +40,8 @@ struct FolderPlan
 class TargetChecker
 {
 public:
-    TargetChecker(const Tree& tree, const CString& target)
-        : m_tree(tree), m_target(target), m_plans(tree.folders.size())
+    TargetChecker(const Tree& tree, const CString& target, Trial trial)
+        : m_tree(tree), m_target(target), m_trial(trial), m_plans(tree.folders.size())
     {}
 
     TargetCheck Run()
@@ -87,17 +87,36 @@ private:
         const CString path = FileUtils::GetCombinePath(m_target, folder.path);
         if (plan.place == Place::There && !ReadNames(path, plan.folding, folder.path))
             return;
-        std::unordered_set<CString> keys;
+        m_names.clear();
         for (std::size_t index = 0; index < folder.entryCount; ++index) {
             const TreeEntry& entry = m_tree.entries[folder.firstEntry + index];
             const CString key = FoldName(entry.name, plan.folding);
-            if (plan.folding != NameFolding::None && !keys.insert(key).second)
+            if (IsTwoInOne(entry.name, key, plan.folding, path))
                 Report(FileUtils::GetCombinePath(folder.path, entry.name), TreeFault::TwoNamesInOne);
             else if (plan.place == Place::New)
                 PlanNew(entry, plan.folding);
             else
                 CheckEntry(entry, key, folder.path, plan.folding);
         }
+    }
+
+    /// Whether an entry before it in its folder, which goes to `path`, gets the same name.
+    [[nodiscard]] bool IsTwoInOne(const CString& name, const CString& key, NameFolding folding, const CString& path)
+    {
+        if (folding != NameFolding::None)
+            return !m_names.emplace(key, name).second;
+        if (m_trial == Trial::No)
+            return false;
+        const auto [other, isFirst] = m_names.emplace(FoldName(name, NameFolding::CaseAndForm), name);
+        return !isFirst && VyrPlatform::TryIsOneName(NearestFolder(path), other->second, name);
+    }
+
+    /// The folder at `path`, or the nearest one above it that is there.
+    [[nodiscard]] static CString NearestFolder(CString path)
+    {
+        while (!VyrPlatform::FileSystem::IsFolder(path))
+            path = VyrPlatform::GetFullPath(FileUtils::GetSplitDirPath(path));
+        return path;
     }
 
     /// A new folder compares names as the one that it is made in.
@@ -126,17 +145,20 @@ private:
 
     const Tree& m_tree;
     const CString m_target;
+    const Trial m_trial;
     std::vector<FolderPlan> m_plans;
-    /// Of the folder that is looked through.
+    /// Of the folder of the target that is looked through: its names by their keys, with whether each is a folder.
     std::unordered_map<CString, bool> m_isFolder;
+    /// Of the same folder of the tree: the names so far, by the keys of names that are alike.
+    std::unordered_map<CString, CString> m_names;
     TargetCheck m_check;
 };
 
 } // namespace
 
-TargetCheck CheckTarget(const Tree& tree, const CString& target)
+TargetCheck CheckTarget(const Tree& tree, const CString& target, Trial trial)
 {
-    return TargetChecker(tree, target).Run();
+    return TargetChecker(tree, target, trial).Run();
 }
 
 } // namespace VyrHost

@@ -16,9 +16,18 @@ struct TargetCheck
     std::size_t newFolders = 0;
 };
 
+/// Whether a check may make folders at the target, and remove them again.
+enum class Trial : bool
+{
+    No,
+    Allowed
+};
+
 /// Holds `tree` against what stands at the full path `target`. A folder there takes up the entries of the same folder
 /// of the tree; anything else that stands where an entry would go is in its way, a link to a folder, too: nothing goes
 /// through links. Names are compared as the target's file system compares them.
-[[nodiscard]] TargetCheck CheckTarget(const Tree& tree, const CString& target);
+/// @param trial  some file systems do not tell how they compare. Where it is allowed, names that might be one there are
+///        tried, without which the one might overwrite the other.
+[[nodiscard]] TargetCheck CheckTarget(const Tree& tree, const CString& target, Trial trial);
 
 } // namespace VyrHost

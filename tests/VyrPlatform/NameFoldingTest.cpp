@@ -3,6 +3,7 @@
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
 
+#include <VyrPlatform/FolderListing.h>
 #include <VyrPlatform/NameFolding.h>
 
 #include <gtest/gtest.h>
@@ -79,6 +80,24 @@ TEST(FoldName, KeepsLoneSurrogatesApart)
         EXPECT_FALSE(IsOne(lone, u"a", folding));
         EXPECT_FALSE(IsOne(u"\U0001F600", u"\U0001F601", folding));
     }
+}
+
+TEST(TryIsOneName, AgreesWithTheFolding)
+{
+    const VyrTests::ScratchFolder scratch;
+    const CString folder = scratch.MakeFolder(u"empty");
+    const bool foldsCase = VyrPlatform::GetNameFolding(folder) != NameFolding::None;
+    EXPECT_EQ(VyrPlatform::TryIsOneName(folder, u"a.txt", u"A.TXT"), foldsCase);
+    EXPECT_FALSE(VyrPlatform::TryIsOneName(folder, u"a", u"b"));
+    EXPECT_EQ(VyrPlatform::FolderListing(folder).Next(), false) << "the trial has left something";
+}
+
+TEST(TryIsOneName, IsFalseWhereNothingCanBeMade)
+{
+    const VyrTests::ScratchFolder scratch;
+    EXPECT_FALSE(VyrPlatform::TryIsOneName(scratch.Path(u"missing"), u"a", u"A"));
+    EXPECT_FALSE(VyrPlatform::TryIsOneName(scratch.WriteFile(u"file"), u"a", u"A"));
+    EXPECT_FALSE(scratch.Has(u"missing"));
 }
 
 } // namespace

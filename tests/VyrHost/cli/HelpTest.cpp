@@ -2,6 +2,7 @@
 #include "VyrProgram.h"
 
 #include <gmock/gmock.h>
+#include <tests/support/RemoveTree.h>
 
 #include <sstream>
 
@@ -82,9 +83,11 @@ TEST_F(Help, NamesTheCommandsAndTheExitCodes)
 
 TEST_F(Help, KeepsItsLinesWithin100Columns)
 {
-    std::istringstream lines(Run({u"rename", u"--help"}).output);
-    for (std::string line; std::getline(lines, line);)
-        EXPECT_LE(line.size(), 100u) << line;
+    for (const CString command : {u"rename", u"copy", u"move", u"undo", u"recover"}) {
+        std::istringstream lines(Run({command, u"--help"}).output);
+        for (std::string line; std::getline(lines, line);)
+            EXPECT_LE(line.size(), 100u) << line;
+    }
 }
 
 TEST_F(Help, IsAskedForWhenNoCommandIsGiven)
@@ -131,6 +134,28 @@ TEST_F(Help, EveryExampleOfUndoRunsAfterABatch)
         const bool isList = example.find("--list") != std::string::npos;
         EXPECT_EQ(m_folder.Has(u"old.txt"), !isList) << example;
         EXPECT_EQ(result.output.find("applied") != std::string::npos, isList) << example << result.output;
+    }
+}
+
+TEST_F(Help, EveryExampleOfCopyAndMoveRuns)
+{
+    for (const CString command : {u"copy", u"move"}) {
+        const ProgramResult help = Run({command, u"--help"});
+        const std::vector<std::string> examples = Examples(help.output);
+        EXPECT_GE(examples.size(), 2u);
+        for (const std::string& example : examples) {
+            m_folder.WriteFile(u"Pictures/a.jpg", "a");
+            m_folder.WriteFile(u"Scans/b.tif", "b");
+            m_folder.MakeFolder(u"Backup");
+            std::vector<CString> arguments = Arguments(example);
+            arguments.erase(arguments.begin());
+            const ProgramResult result = Run(arguments);
+            EXPECT_EQ(result.exitCode, 0) << example << '\n' << result.output << result.errors;
+            const bool isDone = example.find("--apply") != std::string::npos;
+            EXPECT_EQ(m_folder.Has(u"Backup/Pictures/a.jpg"), isDone) << example;
+            EXPECT_EQ(m_folder.Has(u"Pictures"), !isDone || command == u"copy") << example;
+            EXPECT_EQ(RemoveTree(m_folder.Path(u"Backup")), "");
+        }
     }
 }
 

@@ -44,4 +44,14 @@ TEST(NameFoldingOnLinux, IsNoneWhereBothCasesAreEntriesOfTheirOwn)
     EXPECT_EQ(GetNameFolding(disk.Path()), NameFolding::None);
 }
 
+TEST(NameFoldingOnLinux, OfTwoNamesIsTriedWhereAnEmptyFolderDoesNotTell)
+{
+    const MountedFolder disk(MountedFolder::Kind::Exfat);
+    if (!disk.WhyNot().empty())
+        GTEST_SKIP() << disk.WhyNot();
+    EXPECT_TRUE(VyrPlatform::TryIsOneName(disk.Path(), u"readme", u"README"));
+    EXPECT_FALSE(VyrPlatform::TryIsOneName(disk.Path(), u"readme", u"readme2"));
+    EXPECT_TRUE(std::filesystem::is_empty(ToStdPath(disk.Path())));
+}
+
 } // namespace

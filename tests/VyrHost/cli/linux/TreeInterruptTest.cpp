@@ -1,0 +1,61 @@
+// An interrupt before a folder is begun, and folders whose names come from Linux.
+#include "../VyrProgram.h"
+
+#include <VyrHost/cli/TreeRequest.h>
+#include <VyrPlatform/Interrupt.h>
+
+#include <gmock/gmock.h>
+#include <tests/support/StdPath.h>
+
+#include <csignal>
+#include <filesystem>
+
+using namespace VyrTests;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace {
+
+using TreeCommandLinux = VyrProgram;
+
+} // namespace
+
+TEST_F(TreeCommandLinux, InterruptBeginsNoFurtherFolder)
+{
+    m_folder.WriteFile(u"from/a", "1");
+    VyrHost::TreeRequest request;
+    request.action = VyrHost::TreeAction::Move;
+    request.sources = {m_folder.Path(u"from")};
+    request.destination = m_folder.Path(u"to");
+    request.apply = true;
+    request.quiet = true;
+    const auto runInterrupted = [&request] {
+        VyrPlatform::Interrupt::Catch();
+        std::raise(SIGINT);
+        std::exit(VyrHost::RunTrees(request));
+    };
+    EXPECT_EXIT(runInterrupted(), testing::ExitedWithCode(130), "from' not reached");
+    EXPECT_EQ(m_folder.ReadFile(u"from/a"), "1");
+    EXPECT_FALSE(m_folder.Has(u"to"));
+}
+
+TEST_F(TreeCommandLinux, AFolderDoesNotGoIntoItselfThroughALink)
+{
+    m_folder.WriteFile(u"a/b/file", "1");
+    std::filesystem::create_directory_symlink("a/b", ToStdPath(m_folder.Path(u"link")));
+    for (const CString destination : {u"link", u"link/new"}) {
+        const ProgramResult result = Run({u"move", u"a", destination, u"--apply"});
+        EXPECT_EQ(result.exitCode, 2);
+        EXPECT_THAT(result.errors, HasSubstr("stands inside 'a'"));
+    }
+    EXPECT_EQ(m_folder.ReadFile(u"a/b/file"), "1");
+}
+
+TEST_F(TreeCommandLinux, OddNamesAreShownAsEscapesAndArrive)
+{
+    m_folder.WriteFile(u"-a\n\xDCFF[1]/b\x1b", "1");
+    const ProgramResult result = Run({u"copy", u"--apply", u"--", u"-a\n\xDCFF[1]", u"to"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    EXPECT_THAT(result.output, StartsWith("-a\\n\\udcff[1]  ->  to  1 folder, 1 file, 1 byte\n"));
+    EXPECT_EQ(m_folder.ReadFile(u"to/b\x1b"), "1");
+}

@@ -1,0 +1,306 @@
+// Trees with what only Linux has, and file systems that lack something.
+#include "../Snapshot.h"
+
+#include <VyrHost/UsageError.h>
+#include <VyrHost/trees/FolderTimes.h>
+#include <VyrHost/trees/TreeClashes.h>
+#include <VyrHost/trees/TreeFinish.h>
+#include <VyrHost/trees/TreeTasks.h>
+#include <VyrPlatform/FileTimes.h>
+#include <tests/VyrPlatform/linux/Unprivileged.h>
+#include <tests/support/FileMoments.h>
+#include <tests/support/linux/MountedFolder.h>
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+namespace FileTimes = VyrPlatform::FileTimes;
+using namespace VyrHost;
+using VyrTests::MountedFolder;
+using VyrTests::ScratchFolder;
+using VyrTests::SnapshotOf;
+using VyrTests::ToStdPath;
+using VyrTests::TreeSnapshot;
+
+namespace {
+
+/// What became of a tree.
+struct Went
+{
+    TreeProblems problems;
+    std::uint32_t creationError = 0;
+};
+
+/// Copies or moves as the program does it.
+Went Carry(const CString& from, const CString& to, TreeAction action)
+{
+    const Tree tree = ScanTree(from);
+    EXPECT_TRUE(CheckTarget(tree, to, Trial::Allowed).clashes.empty());
+    TreeRecords records;
+    EXPECT_EQ(TransferTree(tree, to, action, records, [](std::size_t) {}), 0u);
+    Went went{FinishTree(tree, to, action, records)};
+    const FolderTimesResult times = SetFolderTimes(tree, records);
+    EXPECT_TRUE(times.problems.empty());
+    went.creationError = times.creationError;
+    return went;
+}
+
+CString PathIn(const fs::path& folder)
+{
+    return VyrTests::FromStdPath(folder);
+}
+
+/// The problem's path and reason, for comparison.
+std::vector<std::string> TextsOf(const TreeProblems& problems)
+{
+    std::vector<std::string> texts;
+    for (const TreeProblem& problem : problems)
+        texts.push_back(ToStdPath(problem.path).string() + " " + std::to_string(static_cast<int>(problem.fault)) + " " +
+                        std::to_string(problem.error));
+    std::sort(texts.begin(), texts.end());
+    return texts;
+}
+
+std::string Text(const std::string& path, TreeFault fault, int error)
+{
+    return path + " " + std::to_string(static_cast<int>(fault)) + " " + std::to_string(error);
+}
+
+const TreeSnapshot Missing = {{"missing", ""}};
+
+} // namespace
+
+TEST(TreeLinux, NamesThatAreNotUtf8Arrive)
+{
+    const ScratchFolder scratch;
+    const fs::path from = ToStdPath(scratch.MakeFolder(u"from"));
+    fs::create_directory(from / "\xFF\xFE");
+    std::ofstream(from / "\xFF\xFE" / "\xC3(\n\x80") << "1";
+    fs::create_symlink("caf\xE9", from / "link");
+    const TreeSnapshot before = SnapshotOf(PathIn(from));
+    EXPECT_TRUE(Carry(PathIn(from), scratch.Path(u"copy"), TreeAction::Copy).problems.empty());
+    EXPECT_EQ(SnapshotOf(scratch.Path(u"copy")), before);
+    EXPECT_TRUE(Carry(PathIn(from), scratch.Path(u"moved"), TreeAction::Move).problems.empty());
+    EXPECT_EQ(SnapshotOf(scratch.Path(u"moved")), before);
+    EXPECT_EQ(SnapshotOf(PathIn(from)), Missing);
+}
+
+TEST(TreeLinux, LinksArriveAsLinksAndNobodyFollowsThem)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"outside/file", "outside");
+    scratch.WriteFile(u"from/sub/file", "inside");
+    const fs::path from = ToStdPath(scratch.Path(u"from"));
+    fs::create_symlink("nowhere", from / "dangling");
+    fs::create_symlink("..", from / "up");
+    fs::create_symlink("../..", from / "sub" / "top");
+    fs::create_symlink("self", from / "self");
+    fs::create_symlink("../outside", from / "folder");
+    fs::create_symlink("/dev/zero", from / "device");
+    const TreeSnapshot before = SnapshotOf(PathIn(from));
+    ASSERT_EQ(before.size(), 8u);
+    EXPECT_TRUE(Carry(PathIn(from), scratch.Path(u"copy"), TreeAction::Copy).problems.empty());
+    EXPECT_EQ(SnapshotOf(scratch.Path(u"copy")), before);
+    EXPECT_TRUE(Carry(PathIn(from), scratch.Path(u"moved"), TreeAction::Move).problems.empty());
+    EXPECT_EQ(SnapshotOf(scratch.Path(u"moved")), before);
+    EXPECT_EQ(scratch.ReadFile(u"outside/file"), "outside");
+}
+
+TEST(TreeLinux, LinkThatLeadsElsewhereDiffers)
+{
+    const ScratchFolder scratch;
+    const fs::path from = ToStdPath(scratch.MakeFolder(u"from"));
+    fs::create_symlink("a", from / "link");
+    const Tree tree = ScanTree(PathIn(from));
+    TreeRecords records;
+    ASSERT_EQ(TransferTree(tree, scratch.Path(u"to"), TreeAction::Copy, records, [](std::size_t) {}), 0u);
+    fs::remove(ToStdPath(scratch.Path(u"to/link")));
+    fs::create_symlink("b", ToStdPath(scratch.Path(u"to/link")));
+    EXPECT_EQ(TextsOf(FinishTree(tree, scratch.Path(u"to"), TreeAction::Copy, records)),
+              std::vector<std::string>{Text("link", TreeFault::Differs, 0)});
+}
+
+TEST(TreeLinux, PipesAreForeseenAndFailAlone)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"from/sub/file", "1");
+    ASSERT_EQ(mkfifo(ToStdPath(scratch.Path(u"from/sub/pipe")).c_str(), 0600), 0);
+    const std::vector<std::string> expected = {Text("sub/pipe", TreeFault::NoContent, 0)};
+    EXPECT_EQ(TextsOf(ForeseeProblems(ScanTree(scratch.Path(u"from")), TreeAction::Copy)), expected);
+    EXPECT_TRUE(ForeseeProblems(ScanTree(scratch.Path(u"from")), TreeAction::Move).empty());
+    EXPECT_EQ(TextsOf(Carry(scratch.Path(u"from"), scratch.Path(u"to"), TreeAction::Copy).problems), expected);
+    EXPECT_EQ(SnapshotOf(scratch.Path(u"to")), (TreeSnapshot{{"sub", "<folder>"}, {"sub/file", "1"}}));
+    EXPECT_TRUE(Carry(scratch.Path(u"from"), scratch.Path(u"moved"), TreeAction::Move).problems.empty());
+    EXPECT_EQ(SnapshotOf(scratch.Path(u"moved")).at("sub/pipe"), "<other>");
+}
+
+TEST(TreeLinux, SparseFilesStaySparse)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"from/sparse", "start");
+    const auto size = std::uintmax_t{64} << 20;
+    fs::resize_file(ToStdPath(scratch.Path(u"from/sparse")), size);
+    EXPECT_TRUE(Carry(scratch.Path(u"from"), scratch.Path(u"to"), TreeAction::Copy).problems.empty());
+    struct stat status
+    {};
+    ASSERT_EQ(stat(ToStdPath(scratch.Path(u"to/sparse")).c_str(), &status), 0);
+    EXPECT_EQ(static_cast<std::uintmax_t>(status.st_size), size);
+    EXPECT_LT(status.st_blocks * 512, 1 << 20);
+}
+
+TEST(TreeLinux, UnreadableEntriesFailAlone)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"from/closed/file", "1");
+    scratch.WriteFile(u"from/secret", "2");
+    scratch.WriteFile(u"from/open", "3");
+    scratch.MakeFolder(u"parent");
+    for (const CString& path : {scratch.Path(), scratch.Path(u"parent")})
+        ASSERT_EQ(chmod(ToStdPath(path).c_str(), 0777), 0);
+    ASSERT_EQ(chmod(ToStdPath(scratch.Path(u"from/closed")).c_str(), 0), 0);
+    ASSERT_EQ(chmod(ToStdPath(scratch.Path(u"from/secret")).c_str(), 0), 0);
+    {
+        const VyrTests::Unprivileged user;
+        ASSERT_TRUE(user.IsDone());
+        EXPECT_EQ(TextsOf(ForeseeProblems(ScanTree(scratch.Path(u"from")), TreeAction::Copy)),
+                  std::vector<std::string>{Text("closed", TreeFault::NotRead, EACCES)});
+        EXPECT_EQ(TextsOf(Carry(scratch.Path(u"from"), scratch.Path(u"parent/to"), TreeAction::Copy).problems),
+                  (std::vector<std::string>{Text("closed", TreeFault::NotRead, EACCES),
+                                            Text("secret", TreeFault::System, EACCES)}));
+    }
+    EXPECT_EQ(SnapshotOf(scratch.Path(u"parent/to")), (TreeSnapshot{{"closed", "<folder>"}, {"open", "3"}}));
+}
+
+TEST(TreeLinux, FolderThatMayNotBeWrittenLosesNothingOfAMove)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"from/locked/a", "1");
+    scratch.WriteFile(u"from/open/b", "2");
+    scratch.MakeFolder(u"parent");
+    TreeProblems problems;
+    {
+        const VyrTests::WriteProtection protection(scratch.Path(u"from/locked"));
+        if (!protection.WhyNot().empty())
+            GTEST_SKIP() << protection.WhyNot();
+        problems = Carry(scratch.Path(u"from"), scratch.Path(u"parent/to"), TreeAction::Move).problems;
+    }
+    ASSERT_EQ(problems.size(), 1u);
+    EXPECT_EQ(problems[0].path, u"locked/a");
+    EXPECT_EQ(problems[0].fault, TreeFault::System);
+    EXPECT_TRUE(problems[0].error == EACCES || problems[0].error == EPERM);
+    EXPECT_EQ(SnapshotOf(scratch.Path(u"from")), (TreeSnapshot{{"locked", "<folder>"}, {"locked/a", "1"}}));
+    EXPECT_EQ(SnapshotOf(scratch.Path(u"parent/to")),
+              (TreeSnapshot{{"locked", "<folder>"}, {"open", "<folder>"}, {"open/b", "2"}}));
+}
+
+TEST(TreeLinux, FullDiskFailsWhatDoesNotFitAndLosesNothingOfAMove)
+{
+    const MountedFolder disk(MountedFolder::Kind::Memory, "size=1m");
+    if (!disk.WhyNot().empty())
+        GTEST_SKIP() << disk.WhyNot();
+    const ScratchFolder scratch;
+    const std::string big(3 << 20, 'x');
+    scratch.WriteFile(u"from/sub/big", big);
+    scratch.WriteFile(u"from/sub/small", "1");
+    scratch.WriteFile(u"from/small", "2");
+    const std::vector<std::string> expected = {Text("sub/big", TreeFault::System, ENOSPC)};
+    const TreeSnapshot arrived = {{"small", "2"}, {"sub", "<folder>"}, {"sub/small", "1"}};
+    EXPECT_EQ(TextsOf(Carry(scratch.Path(u"from"), disk.Path(u"copy"), TreeAction::Copy).problems), expected);
+    EXPECT_EQ(SnapshotOf(disk.Path(u"copy")), arrived);
+    EXPECT_EQ(TextsOf(Carry(scratch.Path(u"from"), disk.Path(u"moved"), TreeAction::Move).problems), expected);
+    EXPECT_EQ(SnapshotOf(disk.Path(u"moved")), arrived);
+    EXPECT_EQ(SnapshotOf(scratch.Path(u"from")), (TreeSnapshot{{"sub", "<folder>"}, {"sub/big", big}}));
+}
+
+TEST(TreeLinux, MovesAcrossFileSystemsWithTheTimesOfFolders)
+{
+    const MountedFolder other(MountedFolder::Kind::Memory, "size=8m");
+    if (!other.WhyNot().empty())
+        GTEST_SKIP() << other.WhyNot();
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"from/a/b/file", "1");
+    fs::create_symlink("up", ToStdPath(scratch.Path(u"from/a/link")));
+    constexpr auto modified = VyrTests::TicksOfUnixTime(1'234'567'890, 1'234'567);
+    for (const char16_t* const name : {u"from/a/b", u"from/a", u"from"})
+        VyrTests::StampFile(scratch.Path(name), modified, modified);
+    const TreeSnapshot before = SnapshotOf(scratch.Path(u"from"));
+    EXPECT_TRUE(Carry(scratch.Path(u"from"), other.Path(u"to"), TreeAction::Move).problems.empty());
+    EXPECT_EQ(SnapshotOf(other.Path(u"to")), before);
+    EXPECT_EQ(SnapshotOf(scratch.Path(u"from")), Missing);
+    for (const char16_t* const name : {u"to/a/b", u"to/a", u"to"})
+        EXPECT_EQ(FileTimes::GetModified(other.Path(name)), modified);
+}
+
+TEST(TreeLinux, NamesThatTheTargetTakesForOneAreRefused)
+{
+    const MountedFolder disk(MountedFolder::Kind::Exfat);
+    if (!disk.WhyNot().empty())
+        GTEST_SKIP() << disk.WhyNot();
+    const ScratchFolder scratch;
+    for (const char16_t* const name : {u"from/sub/a.txt", u"from/sub/A.TXT", u"from/b/1", u"from/B/2", u"from/c"})
+        scratch.WriteFile(name);
+    const Tree tree = ScanTree(scratch.Path(u"from"));
+    // The disk is empty and tells nothing, so that only a trial can.
+    TargetCheck check = CheckTarget(tree, disk.Path(u"to"), Trial::Allowed);
+    EXPECT_EQ(check.clashes.size(), 2u);
+    for (const TreeProblem& clash : check.clashes)
+        EXPECT_EQ(clash.fault, TreeFault::TwoNamesInOne);
+    EXPECT_EQ(SnapshotOf(disk.Path()), TreeSnapshot());
+    std::ofstream(ToStdPath(disk.Path(u"name"))) << "1";
+    check = CheckTarget(tree, disk.Path(u"to"), Trial::No);
+    EXPECT_EQ(check.clashes.size(), 2u);
+    EXPECT_TRUE(CheckTarget(tree, scratch.Path(u"to"), Trial::Allowed).clashes.empty());
+    EXPECT_TRUE(Carry(scratch.Path(u"from"), scratch.Path(u"to"), TreeAction::Move).problems.empty());
+}
+
+TEST(TreeLinux, FileSystemWithoutCreationTimesIsToldOf)
+{
+    const MountedFolder disk(MountedFolder::Kind::Exfat);
+    if (!disk.WhyNot().empty())
+        GTEST_SKIP() << disk.WhyNot();
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"from/a/file", "1");
+    const Went went = Carry(scratch.Path(u"from"), disk.Path(u"to"), TreeAction::Copy);
+    EXPECT_TRUE(went.problems.empty());
+    EXPECT_EQ(went.creationError, static_cast<std::uint32_t>(ENOTSUP));
+    EXPECT_EQ(SnapshotOf(disk.Path(u"to")), (TreeSnapshot{{"a", "<folder>"}, {"a/file", "1"}}));
+    EXPECT_EQ(Carry(scratch.Path(u"from"), scratch.Path(u"to"), TreeAction::Copy).creationError, 0u);
+}
+
+TEST(TreeLinux, AThousandLevelsArrive)
+{
+    const ScratchFolder scratch;
+    scratch.MakeFolder(u"from");
+    constexpr int levels = 1000;
+    CString deepest = u"from";
+    for (int level = 0; level < levels; ++level)
+        deepest += u"/d";
+    scratch.WriteFile(deepest + u"/file", "deep");
+    EXPECT_TRUE(Carry(scratch.Path(u"from"), scratch.Path(u"copy"), TreeAction::Copy).problems.empty());
+    EXPECT_EQ(scratch.ReadFile(u"copy" + deepest.Mid(4) + u"/file"), "deep");
+    EXPECT_TRUE(Carry(scratch.Path(u"from"), scratch.Path(u"moved"), TreeAction::Move).problems.empty());
+    EXPECT_EQ(scratch.ReadFile(u"moved" + deepest.Mid(4) + u"/file"), "deep");
+    EXPECT_FALSE(scratch.Has(u"from"));
+}
+
+TEST(TreeLinux, SourceSeenThroughAMountIsTheSource)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root may mount";
+    const ScratchFolder scratch;
+    scratch.MakeFolder(u"from/inner");
+    const CString seen = scratch.MakeFolder(u"seen");
+    if (mount(ToStdPath(scratch.Path(u"from")).c_str(), ToStdPath(seen).c_str(), nullptr, MS_BIND, nullptr) != 0)
+        GTEST_SKIP() << "a folder cannot be mounted a second time, error " << errno;
+    EXPECT_THROW(static_cast<void>(MakeTreeTasks({scratch.Path(u"from")}, scratch.Path(u"seen/new"))), UsageError);
+    EXPECT_THROW(static_cast<void>(MakeTreeTasks({scratch.Path(u"from"), seen}, scratch.Path())), UsageError);
+    EXPECT_EQ(umount2(ToStdPath(seen).c_str(), 0), 0);
+}
