@@ -20,31 +20,34 @@ namespace {
 template <class Value>
 using Words = std::vector<std::pair<std::string, Value>>;
 
-/// What the word `text` stands for; the first of `words` when it is empty.
+/// What the word `text` stands for; the first of `words` when the option is not given.
 template <class Value>
-Value ReadWord(const std::string& text, const char* option, const Words<Value>& words)
+Value ReadWord(const std::optional<std::string>& text, const char* option, const Words<Value>& words)
 {
-    if (text.empty())
+    if (!text)
         return words.front().second;
     std::string expected;
     for (const auto& [word, value] : words) {
-        if (text == word)
+        if (*text == word)
             return value;
         expected.append(expected.empty() ? "" : ", ").append(word);
     }
-    throw UsageError(std::string(option) + " '" + SafeText(FromParser(text)) + "': one of " + expected +
+    throw UsageError(std::string(option) + " '" + SafeText(FromParser(*text)) + "': one of " + expected +
                      " is expected");
 }
 
-int ReadNumber(const std::string& text, int usual, const char* option)
+int ReadNumber(const std::optional<std::string>& text, int usual, const char* option)
 {
-    return text.empty() ? usual : ParseNumber(FromParser(text), std::numeric_limits<int>::min(), option);
+    return text ? ParseNumber(FromParser(*text), std::numeric_limits<int>::min(), option) : usual;
 }
 
-CLI::Option* AddText(CLI::App& command, const char* name, std::string& text, const char* value, const char* help,
-                     const char* group)
+void AddText(CLI::App& command, const char* name, std::optional<std::string>& text, const char* value, const char* help,
+             const char* group)
 {
-    return command.add_option(name, text, help)->type_name(value)->group(group);
+    const auto take = [&text](const std::string& given) {
+        text = given;
+    };
+    command.add_option_function<std::string>(name, take, help)->type_name(value)->group(group);
 }
 
 void AddFlag(CLI::App& command, const char* name, bool& flag, const char* help, const char* group)
@@ -86,8 +89,8 @@ void RenameOptions::AddOrder(CLI::App& command)
     AddFlag(command, "--descending", m_isDescending, "Turn the order round", Group);
     AddFlag(command, "--number-per-folder", m_countsPerFolder, "Start the numbers anew in each folder", Group);
     AddFlag(command, "--together", m_together,
-            "Give files that differ in their extensions alone (raw, JPEG, sidecar) one new name, by the date of the "
-            "first that has one",
+            "Give files that differ in their extensions alone (raw, JPEG, sidecar) one new name, by the first date of "
+            "--date-from that one of them has",
             Group);
 }
 
@@ -117,8 +120,8 @@ RenameRequest RenameOptions::Read() const
     RefuseContradictions();
     RenameRequest request;
     request.sources = ReadSources();
-    if (!m_pairs.empty())
-        request.pairs = FromParser(m_pairs);
+    if (m_pairs)
+        request.pairs = FromParser(*m_pairs);
     request.order = ReadOrder();
     request.counting = m_countsPerFolder ? Counting::EachFolder : Counting::WholeList;
     request.together = m_together;
@@ -138,13 +141,13 @@ void RenameOptions::RefuseContradictions() const
     const bool hasInput = m_lines || m_terminated;
     if (m_lines && m_terminated)
         refuse("--stdin and --stdin0 exclude each other");
-    if (!m_pick.empty() && !m_recursive)
+    if (m_pick && !m_recursive)
         refuse("--only says what --recursive takes, which is not given");
     if (m_json && m_quiet)
         refuse("--json and --quiet exclude each other");
-    if (m_pairs.empty() && m_paths.empty() && !hasInput)
+    if (!m_pairs && m_paths.empty() && !hasInput)
         refuse("nothing to rename is named");
-    if (m_pairs.empty())
+    if (!m_pairs)
         return;
     if (!m_paths.empty() || hasInput || m_recursive)
         refuse("--pairs names the entries itself; no other entries can be named");
@@ -189,16 +192,16 @@ void RenameOptions::ReadConflicts(RenameRequest& request) const
     };
     const auto word = ReadWord<Word>(m_onConflict, "--on-conflict",
                                      {{"number", Word::Number}, {"skip", Word::Skip}, {"fail", Word::Fail}});
-    const bool hasNumbering = !m_conflictPattern.empty() || !m_conflictPosition.empty() || !m_conflictStart.empty() ||
-                              !m_conflictStep.empty();
+    const bool hasNumbering = m_conflictPattern || m_conflictPosition || m_conflictStart || m_conflictStep;
     if (hasNumbering && word != Word::Number)
-        throw UsageError("--on-conflict=" + m_onConflict + " numbers nothing; no other --conflict option goes with it");
+        throw UsageError("--on-conflict=" + *m_onConflict +
+                         " numbers nothing; no other --conflict option goes with it");
     request.failOnConflict = word == Word::Fail;
     request.conflicts.mode = word == Word::Number ? OnConflict::Number
                              : word == Word::Skip ? OnConflict::Skip
                                                   : OnConflict::Refuse;
     auto& numbering = request.conflicts.numbering;
-    numbering.numberFormat = m_conflictPattern.empty() ? CString(u" (?)") : FromParser(m_conflictPattern);
+    numbering.numberFormat = m_conflictPattern ? FromParser(*m_conflictPattern) : CString(u" (?)");
     RequireNameText(numbering.numberFormat, "--conflict-pattern");
     if (numbering.numberFormat.Find(u"?") < 0)
         throw UsageError("--conflict-pattern: it has no ? for the number, so it could never give a free name");

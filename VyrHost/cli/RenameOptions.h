@@ -4,6 +4,7 @@
 
 #include <VyrHost/cli/RenameRequest.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,14 +37,14 @@ private:
     void RefuseContradictions() const;
 
     std::vector<std::string> m_paths;
-    std::string m_pick;
-    std::string m_pairs;
-    std::string m_sort;
-    std::string m_onConflict;
-    std::string m_conflictPattern;
-    std::string m_conflictPosition;
-    std::string m_conflictStart;
-    std::string m_conflictStep;
+    std::optional<std::string> m_pick;
+    std::optional<std::string> m_pairs;
+    std::optional<std::string> m_sort;
+    std::optional<std::string> m_onConflict;
+    std::optional<std::string> m_conflictPattern;
+    std::optional<std::string> m_conflictPosition;
+    std::optional<std::string> m_conflictStart;
+    std::optional<std::string> m_conflictStep;
     bool m_recursive = false;
     bool m_hidden = false;
     bool m_lines = false;

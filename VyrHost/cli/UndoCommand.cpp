@@ -1,13 +1,16 @@
 // Declares and runs "vyr undo".
 #include <VyrHost/cli/UndoCommand.h>
 
+#include <VyrHost/UsageError.h>
 #include <VyrHost/apply/Batches.h>
+#include <VyrHost/cli/ArgumentText.h>
 #include <VyrHost/cli/BatchReport.h>
 #include <VyrHost/cli/Examples.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/output/BatchOutput.h>
 #include <VyrHost/output/OutputBuffer.h>
+#include <VyrHost/rules/RuleTexts.h>
 #include <VyrPlatform/Interrupt.h>
 
 #include <CLI/CLI.hpp>
@@ -33,7 +36,10 @@ std::size_t CountEntries(const std::vector<BatchInformation>& batches, std::opti
 UndoCommand::UndoCommand(CLI::App& program)
     : m_command(*program.add_subcommand("undo", "Take the last batch of renames back"))
 {
-    m_command.add_option("BATCH", m_number, "The number of a batch; the latest that is not taken back when not given")
+    m_command
+        .add_option_function<std::string>(
+            "BATCH", [this](const std::string& text) { m_batch = text; },
+            "The number of a batch; the latest that is not taken back when not given")
         ->type_name("");
     m_command.add_flag("--list", m_list, "List the batches instead, the latest first");
     m_command.add_flag("--json", m_json, "Write one JSON object a line");
@@ -48,6 +54,11 @@ bool UndoCommand::IsChosen() const
 
 int UndoCommand::Run() const
 {
+    if (m_list && m_batch)
+        throw UsageError("--list lists every batch; no number goes with it");
+    std::optional<std::uint32_t> number;
+    if (m_batch)
+        number = static_cast<std::uint32_t>(ParseNumber(FromParser(*m_batch), 1, "BATCH"));
     Batches batches;
     const std::vector<BatchInformation> known = batches.List();
     if (m_list) {
@@ -61,8 +72,8 @@ int UndoCommand::Run() const
         return ExitCode::Blocked;
     }
     VyrPlatform::Interrupt::Catch();
-    BatchReport report("taking back", CountEntries(known, m_number), {BatchDirection::Back, m_json, m_quiet});
-    const BatchSummary summary = batches.TakeBack(m_number, report.Collector(), VyrPlatform::Interrupt::WasAsked);
+    BatchReport report("taking back", CountEntries(known, number), {BatchDirection::Back, m_json, m_quiet});
+    const BatchSummary summary = batches.TakeBack(number, report.Collector(), VyrPlatform::Interrupt::WasAsked);
     return report.Write(summary);
 }
 

@@ -2,8 +2,8 @@
 /// The command "vyr undo".
 #pragma once
 
-#include <cstdint>
 #include <optional>
+#include <string>
 
 namespace CLI {
 class App;
@@ -22,11 +22,12 @@ public:
     /// Whether the parsed command line asks for it.
     [[nodiscard]] bool IsChosen() const;
     /// @return the program's exit code.
+    /// @throws UsageError
     [[nodiscard]] int Run() const;
 
 private:
     CLI::App& m_command;
-    std::optional<std::uint32_t> m_number;
+    std::optional<std::string> m_batch;
     bool m_list = false;
     bool m_json = false;
     bool m_quiet = false;

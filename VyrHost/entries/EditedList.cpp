@@ -2,6 +2,7 @@
 #include <VyrHost/entries/EditedList.h>
 
 #include <VyrHost/UsageError.h>
+#include <VyrHost/entries/Utf8Mark.h>
 #include <VyrPlatform/Encoding.h>
 
 #include <algorithm>
@@ -125,6 +126,7 @@ std::string TextForEditing(const std::vector<CString>& names)
 std::unordered_map<std::uint32_t, CString> ParseEdited(std::string_view text, std::size_t count)
 {
     std::unordered_map<std::uint32_t, CString> names;
+    text = BehindUtf8Mark(text);
     for (std::size_t number = 1; !text.empty(); ++number) {
         const std::string_view line = TakeLine(text);
         if (line.empty() || line.starts_with('#'))

@@ -27,6 +27,14 @@ struct Folder
     std::uint32_t error = 0;
 };
 
+struct IdentityHash
+{
+    std::size_t operator()(const VyrPlatform::FileIdentity& identity) const noexcept
+    {
+        return static_cast<std::size_t>(identity.number * 31 + identity.device);
+    }
+};
+
 /// Gives each folder a number and keeps its listing. References to folders stay good for the life of the set.
 class FolderSet
 {
@@ -43,14 +51,6 @@ public:
     [[nodiscard]] std::u16string_view Keep(std::u16string_view name) { return m_texts.Keep(name); }
 
 private:
-    struct IdentityHash
-    {
-        std::size_t operator()(const VyrPlatform::FileIdentity& identity) const noexcept
-        {
-            return static_cast<std::size_t>(identity.number * 31 + identity.device);
-        }
-    };
-
     std::uint32_t Find(const CString& path);
     void List(Folder& folder);
 

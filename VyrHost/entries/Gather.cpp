@@ -8,12 +8,15 @@
 #include <VyrHost/output/SafeText.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/Console.h>
+#include <VyrPlatform/FileIdentity.h>
 #include <VyrPlatform/FileSystem.h>
 #include <VyrPlatform/FullPath.h>
+#include <VyrPlatform/NameFolding.h>
 #include <VyrPlatform/Process.h>
 
 #include <algorithm>
 #include <string>
+#include <unordered_map>
 #include <unordered_set>
 
 namespace VyrHost {
@@ -74,7 +77,7 @@ public:
     Gathered Run()
     {
         for (const CString& path : m_settings.paths)
-            Add(path);
+            Add(path, !m_settings.areNames);
         if (m_settings.input != InputNames::None)
             AddInput();
         RefuseNested();
@@ -86,7 +89,7 @@ private:
     {
         NameReader reader(m_settings.input == InputNames::Lines ? '\n' : '\0');
         const auto add = [this](const CString& path) {
-            Add(path);
+            Add(path, false);
         };
         for (std::string piece = VyrPlatform::Console::ReadInput(); !piece.empty();
              piece = VyrPlatform::Console::ReadInput())
@@ -94,11 +97,11 @@ private:
         reader.Finish(add);
     }
 
-    void Add(const CString& path)
+    void Add(const CString& path, bool mayBePattern)
     {
         if (m_settings.recursive && VyrPlatform::FileSystem::IsFolder(path)) {
             const CString full = WithSeparator(VyrPlatform::GetFullPath(path));
-            m_sourceFolders.insert(full);
+            NoteSourceFolder(full, path);
             Walk(full, Shown(path));
             return;
         }
@@ -106,7 +109,7 @@ private:
         if (cut.name.IsEmpty() || cut.name == u"..")
             throw UsageError("'" + SafeText(path) +
                              "' is no name that could be changed; --recursive renames what is in a folder");
-        AddNamed(OpenParent(cut.folder), cut.name);
+        AddNamed(OpenParent(cut.folder), cut.name, mayBePattern);
     }
 
     std::uint32_t OpenParent(const CString& folder)
@@ -120,12 +123,12 @@ private:
         return m_parent;
     }
 
-    void AddNamed(std::uint32_t folder, const CString& name)
+    void AddNamed(std::uint32_t folder, const CString& name, bool mayBePattern)
     {
         m_namedIn.insert(folder);
         NameRecord* const record = List().folders[folder].names.Find(name);
         if (!record) {
-            if (!m_settings.areNames && IsPattern(name) && AddMatches(folder, name))
+            if (mayBePattern && IsPattern(name) && AddMatches(folder, name))
                 return;
             List().entries.push_back({List().folders.Keep(name), folder, Kind::Missing});
             return;
@@ -133,21 +136,35 @@ private:
         AddSource(folder, *record);
     }
 
+    /// Adds what stands at a name; with recursion what is below it, where that is a folder.
     void AddSource(std::uint32_t folder, NameRecord& record)
     {
-        if (record.kind == Kind::Folder)
-            m_sourceFolders.insert(WithSeparator(CString::Join({List().folders[folder].path, record.name})));
-        AddListed(folder, record);
+        const bool isFolder = record.kind == Kind::Folder && !record.isLink;
+        const CString path =
+            isFolder ? WithSeparator(CString::Join({List().folders[folder].path, record.name})) : CString();
+        const CString shown = CString::Join({List().folders[folder].shown, record.name});
+        if (isFolder)
+            NoteSourceFolder(path, shown);
+        if (isFolder && m_settings.recursive)
+            Walk(path, WithSeparator(shown));
+        else if (!m_settings.recursive || IsPicked(record))
+            AddListed(folder, record);
+    }
+
+    void NoteSourceFolder(const CString& path, const CString& shown)
+    {
+        m_sourceFolders.emplace(VyrPlatform::LookAtFile(path).identity, shown);
     }
 
     /// False when nothing matches.
     bool AddMatches(std::uint32_t folder, const CString& pattern)
     {
         NameTable& names = List().folders[folder].names;
+        const CString folded = VyrPlatform::FoldName(pattern, names.Folding());
         bool matched = false;
         for (const std::uint32_t index : ByName(names)) {
             NameRecord& record = names.Records()[index];
-            if (MatchesPattern(pattern, record.name)) {
+            if (MatchesPattern(folded, VyrPlatform::FoldName(record.name, names.Folding()))) {
                 AddSource(folder, record);
                 matched = true;
             }
@@ -207,11 +224,16 @@ private:
     /// Renaming a folder and what is in it in one call is left to recursion, which knows of both.
     void RefuseNested() const
     {
+        std::unordered_set<VyrPlatform::FileIdentity, IdentityHash> known;
         for (const std::uint32_t folder : m_namedIn) {
-            const CString& path = List().folders[folder].path;
-            for (int end = 1; end <= path.GetLength(); ++end)
-                if (IsSeparator(path[end - 1]) && m_sourceFolders.contains(path.Left(end)))
-                    throw UsageError("'" + SafeText(path.Left(end)) + "' is named together with something inside it");
+            CString path = List().folders[folder].path;
+            for (auto state = VyrPlatform::LookAtFile(path);
+                 state.kind == Kind::Folder && known.insert(state.identity).second;
+                 state = VyrPlatform::LookAtFile(path)) {
+                if (const auto source = m_sourceFolders.find(state.identity); source != m_sourceFolders.end())
+                    throw UsageError("'" + SafeText(source->second) + "' is named together with something inside it");
+                path = WithSeparator(path + u"..");
+            }
         }
     }
 
@@ -225,8 +247,8 @@ private:
     std::uint32_t m_parent = NoEntry;
     /// The folders that entries were named in.
     std::unordered_set<std::uint32_t> m_namedIn;
-    /// The folders that were named themselves, separator at the end.
-    std::unordered_set<CString> m_sourceFolders;
+    /// The folders that were named themselves, as the user named them.
+    std::unordered_map<VyrPlatform::FileIdentity, CString, IdentityHash> m_sourceFolders;
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 // Makes names of bytes from the standard input.
 #include <VyrHost/entries/NameReader.h>
 
+#include <VyrHost/entries/Utf8Mark.h>
 #include <VyrPlatform/Encoding.h>
 #include <VyrPlatform/FileSystem.h>
 
@@ -8,7 +9,7 @@ namespace VyrHost {
 
 CString NameReader::Name() const
 {
-    std::string_view bytes = m_pending;
+    std::string_view bytes = m_isFirst && m_end == '\n' ? BehindUtf8Mark(m_pending) : m_pending;
     // Where a backslash separates, no name holds a control character.
     if (m_end == '\n' && bytes.ends_with('\r') && VyrPlatform::FileSystem::IsSeparator(u'\\'))
         bytes.remove_suffix(1);

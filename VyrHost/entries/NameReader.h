@@ -13,8 +13,8 @@ namespace VyrHost {
 class NameReader
 {
 public:
-    /// `end` is the byte that ends a name. After a line end (`\n`), a `\r` before it is part of the line end where
-    /// names cannot hold one.
+    /// `end` is the byte that ends a name. Where that is a line end (`\n`), a mark of UTF-8 in front of all is skipped,
+    /// and a `\r` before the line end is part of it where names cannot hold one.
     explicit NameReader(char end) : m_end(end) {}
 
     /// Calls `take` with each name that `piece` completes. Empty names are skipped.
@@ -36,6 +36,7 @@ public:
         if (const CString name = Name(); !name.IsEmpty())
             take(name);
         m_pending.clear();
+        m_isFirst = false;
     }
 
 private:
@@ -43,6 +44,7 @@ private:
 
     char m_end;
     std::string m_pending;
+    bool m_isFirst = true;
 };
 
 } // namespace VyrHost

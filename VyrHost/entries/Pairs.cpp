@@ -2,6 +2,7 @@
 #include <VyrHost/entries/Pairs.h>
 
 #include <VyrHost/UsageError.h>
+#include <VyrHost/entries/Utf8Mark.h>
 #include <VyrPlatform/Encoding.h>
 
 #include <algorithm>
@@ -14,12 +15,10 @@ namespace {
 class TableReader
 {
 public:
-    explicit TableReader(std::string_view bytes) : m_rest(bytes)
+    explicit TableReader(std::string_view bytes) : m_rest(BehindUtf8Mark(bytes))
     {
-        constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
-        if (m_rest.starts_with(Utf8Mark))
-            m_rest.remove_prefix(Utf8Mark.size());
-        m_isTabbed = m_rest.substr(0, m_rest.find('\n')).find('\t') != std::string_view::npos;
+        SkipEmptyLines();
+        m_isTabbed = HasTab(m_rest);
     }
 
     /// The fields of the next line that has any; none at the end.
@@ -43,6 +42,20 @@ public:
     }
 
 private:
+    /// Whether the first line of `rest` has a tab outside the quoted fields of CSV.
+    static bool HasTab(std::string_view rest)
+    {
+        while (rest.starts_with('"')) {
+            std::size_t end = rest.find('"', 1);
+            while (end != std::string_view::npos && rest.substr(end + 1).starts_with('"'))
+                end = rest.find('"', end + 2);
+            if (end == std::string_view::npos || !rest.substr(end + 1).starts_with(','))
+                break;
+            rest.remove_prefix(end + 2);
+        }
+        return rest.substr(0, rest.find('\n')).find('\t') != std::string_view::npos;
+    }
+
     void SkipEmptyLines()
     {
         while (m_rest.starts_with('\n') || m_rest.starts_with("\r\n"))

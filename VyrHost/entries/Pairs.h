@@ -15,9 +15,9 @@ struct NamePair
     CString to;
 };
 
-/// Reads two columns from the bytes of a table: tab-separated where its first line has a tab, else CSV (RFC 4180: a
-/// field in double quotes may hold commas and line ends, two double quotes in it are one). Empty lines are skipped, a
-/// mark of UTF-8 in front too. Bytes that are not UTF-8 stay what they are, as in names.
+/// Reads two columns from the bytes of a table: tab-separated where its first line has a tab outside quoted fields,
+/// else CSV (RFC 4180: a field in double quotes may hold commas, tabs and line ends, two double quotes in it are one).
+/// Empty lines are skipped, a mark of UTF-8 in front too. Bytes that are not UTF-8 stay what they are, as in names.
 /// @throws UsageError, with the number of the line, for a line that has not exactly two fields, an empty field, one
 /// with a NUL, and a quoted field without its end.
 [[nodiscard]] std::vector<NamePair> ParsePairs(std::string_view bytes);

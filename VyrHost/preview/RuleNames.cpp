@@ -34,15 +34,17 @@ void RuleNames::Name(const EntryList& list, std::span<const std::uint32_t> membe
     const int index = TakeIndex(list.entries[members.front()].folder);
     names.resize(members.size());
     const Entry* leader = nullptr;
-    for (std::size_t place = 0; place < members.size() && !leader; ++place) {
+    Subject made;
+    for (std::size_t place = 0; place < members.size() && (!leader || made.dateRank > 0); ++place) {
         const Entry& entry = list.entries[members[place]];
         names[place].reason = ReasonOf(Run(list, entry, index, entry));
-        if (names[place].reason == Reason::None)
+        if (names[place].reason == Reason::None && (!leader || m_subject.dateRank < made.dateRank)) {
             leader = &entry;
+            made = m_subject;
+        }
     }
     if (!leader)
         return;
-    const Subject made = m_subject;
     for (std::size_t place = 0; place < members.size(); ++place) {
         const Entry& entry = list.entries[members[place]];
         if (&entry != leader) {
@@ -77,6 +79,7 @@ RuleFault RuleNames::Run(const EntryList& list, const Entry& entry, int index, c
         m_subject.path = list.PathOf(dated);
     m_subject.isFolder = entry.kind == Kind::Folder;
     m_subject.index = index;
+    m_subject.dateRank = 0;
     for (const auto& rule : m_rules)
         if (const RuleFault fault = rule->Apply(m_subject); fault != RuleFault::None)
             return fault;

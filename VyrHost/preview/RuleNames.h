@@ -18,7 +18,8 @@ enum class Counting : std::uint8_t
 };
 
 /// Runs rules over entries. Entries that keep together get one number and one new name before the extension: that of
-/// the first of them for which the rules have one, whose dates and picture data count for all.
+/// the first of them for which the rules have one, whose dates and picture data count for all. Where several dates may
+/// serve, one that has an earlier of them goes before it, so that a picture decides for its sidecar.
 class RuleNames : public NameSource
 {
 public:

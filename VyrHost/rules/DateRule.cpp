@@ -75,12 +75,14 @@ bool DateRule::ComputeDated(Subject& subject)
 {
     const CString oldName = subject.name;
     const int oldLength = m_item.dateTimePosition == 0 ? 0 : oldName.GetLength();
-    for (const DateSource source : m_sources) {
-        m_item.dateTimeTarget = static_cast<int>(source);
+    for (std::size_t rank = 0; rank < m_sources.size(); ++rank) {
+        m_item.dateTimeTarget = static_cast<int>(m_sources[rank]);
         Compute(subject);
         // The engine writes nothing for a date that is not there.
-        if (subject.name.GetLength() > oldLength)
+        if (subject.name.GetLength() > oldLength) {
+            subject.dateRank = std::max(subject.dateRank, rank);
             return true;
+        }
         subject.name = oldName;
     }
     return false;

@@ -38,6 +38,18 @@ void Append(Rules& rules, DatePosition position, std::u16string_view format, con
     rules.push_back(std::make_unique<DateRule>(std::move(item), sources));
 }
 
+/// Refuses folders that have no name of their own whatever the date is.
+void RequireFolderNames(std::u16string_view format)
+{
+    std::u16string_view rest = format;
+    for (std::size_t end = rest.find(Token::Folder); end != std::u16string_view::npos; end = rest.find(Token::Folder)) {
+        const CString folder = NameFuncs::GetRenameToSampleFormated(rest.substr(0, end));
+        if (folder.IsEmpty() || folder == u"." || folder == u"..")
+            Refuse(format, "<Folder> ends the name of a folder, which cannot be '" + SafeText(folder) + "'");
+        rest.remove_prefix(end + Token::Folder.size());
+    }
+}
+
 } // namespace
 
 Rules DateRules(const CString& text, const std::vector<DateSource>& sources)
@@ -47,6 +59,7 @@ Rules DateRules(const CString& text, const std::vector<DateSource>& sources)
     RequireNameText(all, "--date");
     if (all.ends_with(Token::Folder))
         Refuse(all, "no name follows <Folder>; add <Name> to keep the old one");
+    RequireFolderNames(all);
     const std::size_t name = all.find(Token::Name);
     Rules rules;
     if (name == None) {

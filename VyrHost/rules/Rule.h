@@ -4,6 +4,7 @@
 
 #include <VyrPlatform/CString.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -23,6 +24,9 @@ struct Subject
     CString folder;
     CString name;
     CString extension;
+
+    /// How late among the dates asked for the one stands that a rule took: 0 for the first, the highest of all rules.
+    std::size_t dateRank = 0;
 };
 
 /// Why a rule has no name for an entry.

@@ -32,12 +32,9 @@ int ParseNumber(const CString& text, int least, const char* what)
     int number = 0;
     const char* const end = digits.data() + digits.size();
     const auto [stop, error] = std::from_chars(digits.data(), end, number);
-    if (error != std::errc() || stop != end || number < least) {
-        std::string range = "a whole number";
-        if (least > std::numeric_limits<int>::min())
-            range += ", " + std::to_string(least) + " or more";
-        throw UsageError(std::string(what) + " '" + SafeText(text) + "': " + range + ", is expected");
-    }
+    if (error != std::errc() || stop != end || number < least)
+        throw UsageError(std::string(what) + " '" + SafeText(text) + "': a whole number from " + std::to_string(least) +
+                         " to " + std::to_string(std::numeric_limits<int>::max()) + " is expected");
     return number;
 }
 
