@@ -2,12 +2,15 @@
 #pragma once
 
 #include <VyrPlatform/CString.h>
+#include <VyrPlatform/Encoding.h>
 
 #include <tests/support/ChildProcess.h>
 #include <tests/support/ScratchFolder.h>
+#include <tests/support/StdPath.h>
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <map>
 #include <optional>
 #include <string>
@@ -44,6 +47,28 @@ protected:
         for (const CString& argument : arguments)
             all.push_back(argument);
         return Run(std::move(all), input);
+    }
+
+    /// Makes files of these names, each holding its name.
+    void WriteNamed(const std::vector<std::u16string_view>& names) const
+    {
+        for (const std::u16string_view name : names)
+            m_folder.WriteFile(name, VyrPlatform::Encoding::ToUtf8(name));
+    }
+
+    /// Every file in the folder and below it, separated by slashes, and what it holds.
+    [[nodiscard]] std::map<std::string, std::string> Files() const
+    {
+        std::map<std::string, std::string> files;
+        const std::filesystem::path root = ToStdPath(m_folder.Path());
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
+            if (!entry.is_regular_file())
+                continue;
+            const std::u8string name = entry.path().lexically_relative(root).generic_u8string();
+            const std::string text(name.begin(), name.end());
+            files.emplace(text, m_folder.ReadFile(VyrPlatform::Encoding::FromUtf8(text).View()));
+        }
+        return files;
     }
 
     ScratchFolder m_folder;

@@ -86,3 +86,16 @@ TEST_F(HostileNames, OneFolderUnderTwoNamesIsOneFolder)
     EXPECT_EQ(result.exitCode, 2);
     EXPECT_THAT(result.errors, HasSubstr("twice"));
 }
+
+TEST_F(HostileNames, AFolderAndWhatIsInItAreKnownThroughLinks)
+{
+    m_folder.WriteFile(u"d/e/f");
+    std::filesystem::create_directory_symlink(ToStdPath(m_folder.Path(u"d/e")), ToStdPath(m_folder.Path(u"link")));
+    const ProgramResult inside = Rename({u"--suffix", u"!", u"--apply", u"d", u"link/f"});
+    EXPECT_EQ(inside.exitCode, 2);
+    EXPECT_THAT(inside.errors, HasSubstr("'d' is named together with something inside it"));
+    // The link itself holds nothing.
+    EXPECT_EQ(Rename({u"--suffix", u"!", u"--apply", u"link", u"d/e/f"}).exitCode, 0);
+    EXPECT_TRUE(m_folder.Has(u"link!"));
+    EXPECT_TRUE(m_folder.Has(u"d/e/f!"));
+}

@@ -1,0 +1,157 @@
+// Tests of the program: calls that make no sense are refused before anything is touched, with the reason.
+#include "VyrProgram.h"
+
+#include <gmock/gmock.h>
+
+using namespace VyrTests;
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+namespace {
+
+class BadInput : public VyrProgram
+{
+protected:
+    /// Expects that "vyr rename --apply" with `call` is refused with `reason`, and that every file stays.
+    void ExpectRefused(const std::vector<CString>& call, const std::string& reason, const std::string& input = {}) const
+    {
+        const std::map<std::string, std::string> before = Files();
+        std::vector<CString> all = {u"--apply"};
+        all.insert(all.end(), call.begin(), call.end());
+        const ProgramResult result = Rename(all, input);
+        std::string shown;
+        for (const CString& argument : call)
+            shown += " '" + VyrPlatform::Encoding::ToUtf8(argument) + "'";
+        EXPECT_EQ(result.exitCode, 2) << shown << "\n" << result.output;
+        EXPECT_THAT(result.output, IsEmpty()) << shown;
+        EXPECT_THAT(result.errors, AllOf(StartsWith("vyr: "), HasSubstr(reason))) << shown;
+        EXPECT_EQ(Files(), before) << shown;
+    }
+};
+
+} // namespace
+
+TEST_F(BadInput, RulesThatDoNothing)
+{
+    WriteNamed({u"a"});
+    ExpectRefused({u"a"}, "no rule is given");
+    for (const char16_t* const option :
+         {u"--number", u"--date", u"--prefix", u"--suffix", u"--extension", u"--insert", u"--delete", u"--delete-first",
+          u"--keep-last", u"--case", u"--extension-case"})
+        ExpectRefused({option, u"", u"a"}, VyrPlatform::Encoding::ToUtf8(option));
+    ExpectRefused({u"--replace", u"", u"x", u"a"}, "--replace");
+    ExpectRefused({u"--insert", u"0:", u"a"}, "--insert");
+    ExpectRefused({u"--delete", u"0:0", u"a"}, "--delete");
+    ExpectRefused({u"--delete-first", u"0", u"a"}, "--delete-first");
+    ExpectRefused({u"--date", u"<Name>", u"a"}, "no date");
+    ExpectRefused({u"--number", u"no place", u"a"}, "###");
+}
+
+TEST_F(BadInput, NumbersThatAreNone)
+{
+    WriteNamed({u"a"});
+    for (const char16_t* const number : {u"", u"1x", u"1.5", u"+1", u"99999999999"}) {
+        ExpectRefused({u"--number", u"#", u"--start", number, u"a"}, "--start");
+        ExpectRefused({u"--number", u"#", u"--digits", number, u"a"}, "--digits");
+        ExpectRefused({u"--keep-first", number, u"a"}, "--keep-first");
+        ExpectRefused({u"--suffix", u"!", u"--conflict-start", number, u"a"}, "--conflict-start");
+    }
+    ExpectRefused({u"--keep-first", u"99999999999", u"a"}, "from 0 to 2147483647");
+    ExpectRefused({u"--delete-last", u"-1", u"a"}, "from 1 to 2147483647");
+    for (const char16_t* const batch : {u"", u"0", u"-1", u"x", u"99999999999"}) {
+        const ProgramResult result = Run({u"undo", u"--", batch});
+        EXPECT_EQ(result.exitCode, 2);
+        EXPECT_THAT(result.errors, StartsWith("vyr: BATCH '"));
+    }
+    EXPECT_EQ(Run({u"undo", u"--list", u"1"}).exitCode, 2);
+}
+
+TEST_F(BadInput, OptionsGivenEmpty)
+{
+    WriteNamed({u"a"});
+    for (const char16_t* const option : {u"--pairs", u"--sort", u"--on-conflict", u"--conflict-pattern",
+                                         u"--conflict-position", u"--conflict-start", u"--conflict-step"})
+        ExpectRefused({u"--suffix", u"!", option, u"", u"a"}, VyrPlatform::Encoding::ToUtf8(option));
+    ExpectRefused({u"--suffix", u"!", u"-r", u"--only", u"", u"."}, "--only");
+    ExpectRefused({u"--date", u"yyyy", u"--date-from", u"", u"a"}, "--date-from");
+    ExpectRefused({u"--suffix", u"!", u""}, "no name that could be changed");
+}
+
+TEST_F(BadInput, PatternsThatCanNeverGiveAFreeName)
+{
+    WriteNamed({u"a1", u"a2"});
+    for (const char16_t* const pattern : {u"", u"x", u" ()"})
+        ExpectRefused({u"--keep-first", u"1", u"--conflict-pattern", pattern, u"a1", u"a2"}, "free name");
+    ExpectRefused({u"--keep-first", u"1", u"--conflict-step", u"0", u"a1", u"a2"}, "free name");
+}
+
+TEST_F(BadInput, SeparatorsAndNulsInNames)
+{
+    WriteNamed({u"a"});
+    for (const char16_t* const option : {u"--prefix", u"--suffix", u"--date", u"--extension"})
+        ExpectRefused({option, u"x/y", u"a"}, "separator");
+    ExpectRefused({u"--number", u"#/#", u"a"}, "--number");
+    ExpectRefused({u"--insert", u"0:/", u"a"}, "separator");
+    ExpectRefused({u"--replace", u"a", u"/", u"a"}, "separator");
+    ExpectRefused({u"--suffix", u"!", u"--conflict-pattern", u"/?", u"a"}, "separator");
+    ExpectRefused({u"--pairs", u"-"}, "NUL", std::string("a,x\0y\n", 6));
+}
+
+TEST_F(BadInput, FoldersWithoutANameOfTheirOwn)
+{
+    WriteNamed({u"a"});
+    for (const char16_t* const format : {u"<Folder><Name>", u"yyyy<Folder><Folder><Name>", u"..<Folder><Name>",
+                                         u".<Folder>yyyy", u"'..'<Folder>yyyy", u"yyyy<Folder>..<Folder><Name>"})
+        ExpectRefused({u"--date", format, u"a"}, "<Folder>");
+    ExpectRefused({u"--date", u"yyyy<Folder>", u"a"}, "<Folder>");
+    ExpectRefused({u"--date", u"<Name><Folder>yyyy", u"a"}, "<Folder>");
+}
+
+TEST_F(BadInput, ContradictoryOptions)
+{
+    WriteNamed({u"a", u"d/e"});
+    m_folder.WriteFile(u"pairs.csv", "a,b\n");
+    ExpectRefused({u"--suffix", u"!", u"--pairs", u"pairs.csv"}, "--pairs");
+    ExpectRefused({u"--pairs", u"pairs.csv", u"-r"}, "--pairs");
+    ExpectRefused({u"--pairs", u"pairs.csv", u"--stdin"}, "--pairs");
+    ExpectRefused({u"--pairs", u"pairs.csv", u"--together"}, "--pairs");
+    ExpectRefused({u"--pairs", u"pairs.csv", u"--number-per-folder"}, "--pairs");
+    ExpectRefused({u"--pairs", u"pairs.csv", u"--edit"}, "--edit");
+    ExpectRefused({u"--suffix", u"!", u"--only", u"folders", u"d"}, "--recursive");
+    ExpectRefused({u"--suffix", u"!", u"--json", u"-q", u"a"}, "--quiet");
+    ExpectRefused({u"--suffix", u"!", u"--sort=name", u"--sort=size", u"a"}, "--sort");
+    ExpectRefused({u"--number", u"##", u"--digits", u"3", u"a"}, "--digits");
+    ExpectRefused({u"--prefix", u"x", u"--step", u"3", u"a"}, "--number");
+    ExpectRefused({u"--prefix", u"x", u"--date-from", u"picture", u"a"}, "--date");
+    ExpectRefused({u"--date", u"yyyy", u"--date-from", u"modified,modified", u"a"}, "twice");
+    for (const char16_t* const mode : {u"skip", u"fail"})
+        ExpectRefused({u"--suffix", u"!", u"--on-conflict", mode, u"--conflict-position=before", u"a"},
+                      "numbers nothing");
+}
+
+TEST_F(BadInput, SomethingNamedTwice)
+{
+    WriteNamed({u"a", u"d/e"});
+    for (const CString& again :
+         {CString(u"a"), CString(u"./a"), CString(u".//a"), CString(u"d/../a"), m_folder.Path(u"a"), CString(u"?")})
+        ExpectRefused({u"--suffix", u"!", u"a", again}, "'a' is named twice");
+    ExpectRefused({u"--suffix", u"!", u"--stdin", u"a"}, "'a' is named twice", "a\n");
+    ExpectRefused({u"--suffix", u"!", u"--stdin0"}, "twice", std::string("d/e\0d/e\0", 8));
+    ExpectRefused({u"--suffix", u"!", u"-r", u".", u"d"}, "twice");
+    ExpectRefused({u"--pairs", u"-"}, "twice", "a,b\na,c\n");
+}
+
+TEST_F(BadInput, ASourceInsideAnother)
+{
+    WriteNamed({u"d/e/f", u"de/f"});
+    for (const CString& inside : {CString(u"d/e"), CString(u"d/e/f"), CString(u"d/./e/f"), CString(u"de/../d/e/f"),
+                                  m_folder.Path(u"d/e/f"), CString(u"d/*")}) {
+        ExpectRefused({u"--suffix", u"!", u"d", inside}, "'d' is named together with something inside it");
+        ExpectRefused({u"--suffix", u"!", inside, u"d/"}, "is named together with something inside it");
+    }
+    ExpectRefused({u"--pairs", u"-"}, "inside", "d,x\nd/e/f,y\n");
+    const ProgramResult beside = Rename({u"--suffix", u"!", u"d", u"de/f"});
+    EXPECT_EQ(beside.exitCode, 0) << beside.errors;
+}

@@ -1,0 +1,111 @@
+// Tests of the program: names from wildcards, folders, the standard input, tables and the editor.
+#include "VyrProgram.h"
+
+#include <gmock/gmock.h>
+
+using namespace VyrTests;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace {
+
+using NameInput = VyrProgram;
+
+using FileMap = std::map<std::string, std::string>;
+
+} // namespace
+
+TEST_F(NameInput, RecursionGoesIntoTheFoldersThatAWildcardMatches)
+{
+    WriteNamed({u"a", u"d/b", u"d/e/c", u".h/x", u"f/.g"});
+    ASSERT_EQ(Rename({u"--suffix", u"!", u"--apply", u"-r", u"*"}).exitCode, 0);
+    EXPECT_EQ(Files(),
+              (FileMap{{"a!", "a"}, {"d/b!", "d/b"}, {"d/e/c!", "d/e/c"}, {".h/x", ".h/x"}, {"f/.g", "f/.g"}}));
+    ASSERT_EQ(Run({u"undo"}).exitCode, 0);
+    ASSERT_EQ(Rename({u"--suffix", u"!", u"--apply", u"-r", u"--hidden", u"*"}).exitCode, 0);
+    EXPECT_EQ(Files(),
+              (FileMap{{"a!", "a"}, {"d/b!", "d/b"}, {"d/e/c!", "d/e/c"}, {".h/x!", ".h/x"}, {"f/.g!", "f/.g"}}));
+}
+
+TEST_F(NameInput, OnlyHoldsForWhatIsNamedToo)
+{
+    WriteNamed({u"a", u"d/b", u"d/e/c"});
+    ASSERT_EQ(Rename({u"--suffix", u"!", u"--apply", u"-r", u"--only", u"folders", u"a", u"d"}).exitCode, 0);
+    EXPECT_EQ(Files(), (FileMap{{"a", "a"}, {"d/b", "d/b"}, {"d/e!/c", "d/e/c"}}));
+    ASSERT_EQ(Run({u"undo"}).exitCode, 0);
+    ASSERT_EQ(Rename({u"--suffix", u"!", u"--apply", u"-r", u"--only", u"all", u"a", u"d"}).exitCode, 0);
+    EXPECT_EQ(Files(), (FileMap{{"a!", "a"}, {"d/b!", "d/b"}, {"d/e!/c!", "d/e/c"}}));
+}
+
+TEST_F(NameInput, FromTheStandardInputHaveNoWildcards)
+{
+    WriteNamed({u"a", u"b"});
+    const ProgramResult result = Rename({u"--suffix", u"!", u"--stdin"}, "*\na\n");
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.output, StartsWith("*          refused: nothing of that name is there\na  ->  a!\n2 entries: "));
+}
+
+TEST_F(NameInput, FromTheStandardInputMayComeBehindAMarkAndWithoutALastLineEnd)
+{
+    WriteNamed({u"a", u"b c"});
+    EXPECT_THAT(Rename({u"--suffix", u"!", u"--stdin"}, "\xEF\xBB\xBF"
+                                                        "a\n\nb c")
+                    .output,
+                StartsWith("a    ->  a!\nb c  ->  b c!\n2 entries: 2 renamed.\n"));
+    EXPECT_THAT(Rename({u"--suffix", u"!", u"--stdin0", u"a"}, "b c").output, HasSubstr("2 entries: 2 renamed.\n"));
+    EXPECT_EQ(Rename({u"--suffix", u"!", u"--stdin"}, "").output,
+              "0 entries.\nThis is a preview: nothing was changed.\n");
+}
+
+TEST_F(NameInput, TablesMayQuoteAndBeginWithAMarkAndEmptyLines)
+{
+    WriteNamed({u"a,b", u"c d", u"e", u"f"});
+    const ProgramResult result =
+        Rename({u"--pairs", u"-", u"--apply"}, "\xEF\xBB\xBF\r\n\"a,b\",\"x,1\"\r\n\r\nc d,y 2\r\ne,\"z\"\n");
+    EXPECT_EQ(result.exitCode, 0) << result.errors << result.output;
+    EXPECT_EQ(Files(), (FileMap{{"x,1", "a,b"}, {"y 2", "c d"}, {"z", "e"}, {"f", "f"}}));
+}
+
+TEST_F(NameInput, TablesWithTabsTakeEverythingElseAsItStands)
+{
+    WriteNamed({u"a,b", u"c d", u"e", u"f"});
+    const ProgramResult result = Rename({u"--pairs", u"-", u"--apply"}, "\n\na,b\tx,1\r\nc d\ty; 2\ne\td/z\n");
+    EXPECT_EQ(result.exitCode, 0) << result.errors << result.output;
+    EXPECT_EQ(Files(), (FileMap{{"x,1", "a,b"}, {"y; 2", "c d"}, {"d/z", "e"}, {"f", "f"}}));
+}
+
+TEST_F(NameInput, TablesMayTurnNamesInACircle)
+{
+    WriteNamed({u"a", u"b", u"c", u"taken"});
+    EXPECT_EQ(Rename({u"--pairs", u"-", u"--apply"}, "a,b\nb,c\nc,a\n").exitCode, 0);
+    EXPECT_EQ(Files(), (FileMap{{"a", "c"}, {"b", "a"}, {"c", "b"}, {"taken", "taken"}}));
+    // None of them where one cannot.
+    const ProgramResult result = Rename({u"--pairs", u"-", u"--apply"}, "a,b\nb,taken\n");
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.output, HasSubstr("2 entries: 2 refused.\n"));
+    EXPECT_EQ(Files(), (FileMap{{"a", "c"}, {"b", "a"}, {"c", "b"}, {"taken", "taken"}}));
+}
+
+TEST_F(NameInput, GivenOneByOneMayNotBeOneNameForTwo)
+{
+    WriteNamed({u"a", u"b"});
+    for (const char16_t* const mode : {u"number", u"skip"}) {
+        const ProgramResult result = Rename({u"--pairs", u"-", u"--on-conflict", mode}, "a,x\nb,x\n");
+        EXPECT_THAT(result.output, HasSubstr(": another entry gets the same name\n2 entries: 1 renamed, 1 "));
+    }
+    EXPECT_THAT(Rename({u"--pairs", u"-", u"--on-conflict=fail", u"--apply"}, "a,x\nb,x\n").output,
+                HasSubstr("Nothing was renamed.\n"));
+    EXPECT_EQ(Files(), (FileMap{{"a", "a"}, {"b", "b"}}));
+}
+
+TEST_F(NameInput, QuietSaysNothingWhereAllGoesWell)
+{
+    WriteNamed({u"a", u"b"});
+    const ProgramResult preview = Rename({u"--suffix", u"!", u"-q", u"a"});
+    EXPECT_EQ(preview.output + preview.errors, "");
+    const ProgramResult applied = Rename({u"--suffix", u"!", u"-q", u"--apply", u"a"});
+    EXPECT_EQ(applied.output + applied.errors, "");
+    const ProgramResult undone = Run({u"undo", u"-q"});
+    EXPECT_EQ(undone.output + undone.errors, "");
+    EXPECT_EQ(Files(), (FileMap{{"a", "a"}, {"b", "b"}}));
+}

@@ -1,0 +1,103 @@
+// Tests of the program: rules of every kind, alone and one after the other.
+#include "VyrProgram.h"
+
+#include <gmock/gmock.h>
+
+using namespace VyrTests;
+using testing::HasSubstr;
+
+namespace {
+
+class RuleOrder : public VyrProgram
+{
+protected:
+    /// What the rules make of the one entry `name`; "=" where it stays as it is.
+    [[nodiscard]] std::string Made(const std::vector<CString>& rules, const CString& name) const
+    {
+        std::vector<CString> call = rules;
+        call.insert(call.end(), {u"--", name});
+        const std::string output = Rename(call).output;
+        const std::size_t arrow = output.find("  ->  ");
+        if (arrow == std::string::npos)
+            return output.find(" unchanged\n") == std::string::npos ? output : "=";
+        return output.substr(arrow + 6, output.find('\n') - arrow - 6);
+    }
+};
+
+} // namespace
+
+TEST_F(RuleOrder, EveryRuleGivesWhatItSays)
+{
+    WriteNamed({u"abcdef.Txt"});
+    struct Case
+    {
+        std::vector<CString> rule;
+        const char* made;
+    };
+    for (const auto& [rule, made] :
+         {Case{{u"--number", u"n##"}, "n01.Txt"},
+          Case{{u"--number", u"<Name>-#"}, "abcdef-1.Txt"},
+          Case{{u"--number", u"#-<Name>", u"--start=-5", u"--digits=3"}, "00-5-abcdef.Txt"},
+          Case{{u"--number", u"x<Number>#", u"--start", u"999", u"--digits", u"2"}, "x999#.Txt"},
+          Case{{u"--replace", u"c", u"CC"}, "abCCdef.Txt"},
+          Case{{u"--replace", u"C", u"x"}, "="},
+          Case{{u"--replace", u"Txt", u"x"}, "="},
+
+          Case{{u"--prefix", u"-"}, "-abcdef.Txt"},
+          Case{{u"--suffix", u"."}, "abcdef..Txt"},
+          Case{{u"--insert", u"3:X"}, "abcXdef.Txt"},
+          Case{{u"--insert", u"6:X"}, "abcdefX.Txt"},
+          Case{{u"--insert", u"7:X"}, "="},
+          Case{{u"--insert", u"-0:X"}, "abcdefX.Txt"},
+          Case{{u"--insert", u"-6:X"}, "Xabcdef.Txt"},
+
+          Case{{u"--delete", u"2:3"}, "abf.Txt"},
+          Case{{u"--delete", u"2:4"}, "ab.Txt"},
+          Case{{u"--delete", u"2:5"}, "="},
+          Case{{u"--delete", u"-1:2"}, "abcf.Txt"},
+          Case{{u"--delete-first", u"2"}, "cdef.Txt"},
+          Case{{u"--delete-last", u"2"}, "abcd.Txt"},
+          Case{{u"--delete-last", u"7"}, "="},
+          Case{{u"--keep-first", u"2"}, "ab.Txt"},
+          Case{{u"--keep-last", u"2"}, "ef.Txt"},
+          Case{{u"--keep-last", u"7"}, "="},
+          Case{{u"--case", u"first"}, "Abcdef.Txt"},
+          Case{{u"--case", u"upper"}, "ABCDEF.Txt"},
+          Case{{u"--case", u"lower"}, "="},
+          Case{{u"--extension", u"jpg"}, "abcdef.jpg"},
+          Case{{u"--extension", u".tar.gz"}, "abcdef.tar.gz"},
+          Case{{u"--extension-case", u"upper"}, "abcdef.TXT"},
+          Case{{u"--extension-case", u"lower"}, "abcdef.txt"},
+          Case{{u"--drop-extension"}, "abcdef"}})
+        EXPECT_EQ(Made(rule, u"abcdef.Txt"), made) << VyrPlatform::Encoding::ToUtf8(rule.front());
+}
+
+TEST_F(RuleOrder, EachRuleWorksOnTheResultOfTheOneBefore)
+{
+    WriteNamed({u"img 01.JPEG"});
+    EXPECT_EQ(Made({u"--delete-first", u"4", u"--number", u"<Name>_##", u"--start", u"7", u"--replace", u"_", u"-",
+                    u"--prefix", u"scan", u"--case", u"first", u"--extension", u"jpg", u"--extension-case", u"upper"},
+                   u"img 01.JPEG"),
+              "Scan01-07.JPG");
+    // The place that the first rule made is there for the second, and the second has no effect where it is not.
+    EXPECT_EQ(Made({u"--suffix", u"xyz", u"--insert", u"9:!"}, u"img 01.JPEG"), "img 01xyz!.JPEG");
+    EXPECT_EQ(Made({u"--keep-first", u"3", u"--insert", u"4:!", u"--case", u"upper"}, u"img 01.JPEG"), "IMG.JPEG");
+    EXPECT_EQ(Made({u"--drop-extension", u"--suffix", u".raw"}, u"img 01.JPEG"), "img 01.raw");
+}
+
+TEST_F(RuleOrder, AnEmptyNameInBetweenIsNoFault)
+{
+    WriteNamed({u"ab.c"});
+    EXPECT_EQ(Made({u"--keep-first", u"0", u"--prefix", u"new"}, u"ab.c"), "new.c");
+    EXPECT_THAT(Made({u"--keep-first", u"0"}, u"ab.c"), HasSubstr("refused: the new name would be empty\n"));
+}
+
+TEST_F(RuleOrder, FoldersKeepTheirWholeNameFromExtensionRules)
+{
+    m_folder.MakeFolder(u"my.folder");
+    EXPECT_EQ(Made({u"--extension", u"jpg"}, u"my.folder"), "=");
+    EXPECT_EQ(Made({u"--extension-case", u"upper"}, u"my.folder"), "=");
+    EXPECT_EQ(Made({u"--drop-extension"}, u"my.folder"), "=");
+    EXPECT_EQ(Made({u"--extension", u"jpg", u"--suffix", u"!", u"--case", u"upper"}, u"my.folder"), "MY.FOLDER!");
+    EXPECT_EQ(Made({u"--keep-last", u"6"}, u"my.folder"), "folder");
+}
