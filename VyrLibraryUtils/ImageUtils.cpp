@@ -31,11 +31,10 @@ CString FromLatin1(std::string_view bytes)
 
 CString ToText(std::string_view bytes)
 {
-    if (IsAscii(bytes))
-        return FromLatin1(bytes);
-    // What is not UTF-8 does not come back as it was.
     const CString text = VyrPlatform::Encoding::FromUtf8(bytes);
-    return VyrPlatform::Encoding::ToUtf8(text) == bytes ? text : FromLatin1(bytes);
+    // What is not UTF-8 does not come back as it was.
+    const bool isUtf8 = IsAscii(bytes) || VyrPlatform::Encoding::ToUtf8(text) == bytes;
+    return isUtf8 ? text : FromLatin1(bytes);
 }
 
 CString ReadTag(const CString& path, PictureTag tag)

@@ -4,6 +4,9 @@
 #include <VyrHost/output/Words.h>
 #include <VyrPlatform/Encoding.h>
 
+#include <algorithm>
+#include <array>
+
 namespace VyrHost {
 
 namespace {
@@ -13,27 +16,40 @@ bool IsSurrogate(char16_t unit)
     return unit >= 0xD800 && unit <= 0xDFFF;
 }
 
-bool IsPair(std::u16string_view text, std::size_t index)
+bool BeginsWithPair(std::u16string_view text)
 {
-    return text[index] <= 0xDBFF && index + 1 < text.size() && text[index + 1] >= 0xDC00 && text[index + 1] <= 0xDFFF;
+    return text.size() >= 2 && text[0] >= 0xD800 && text[0] <= 0xDBFF && text[1] >= 0xDC00 && text[1] <= 0xDFFF;
+}
+
+/// Which of the first characters stand in a JSON text as they are.
+constexpr auto IsPlainLatin = [] {
+    std::array<bool, 0x100> isPlain{};
+    std::fill(isPlain.begin() + u' ', isPlain.begin() + 0x7F, true);
+    std::fill(isPlain.begin() + 0xA0, isPlain.end(), true);
+    isPlain[u'"'] = isPlain[u'\\'] = false;
+    return isPlain;
+}();
+
+/// How many units `text` begins with that stand in a JSON text as they are, whatever is beside them.
+std::size_t CountPlain(std::u16string_view text)
+{
+    const auto special = std::find_if_not(text.begin(), text.end(), [](char16_t unit) {
+        return unit < IsPlainLatin.size() ? IsPlainLatin[unit] : !IsSurrogate(unit);
+    });
+    return static_cast<std::size_t>(special - text.begin());
 }
 
 void AppendEscape(std::string& line, char16_t unit)
 {
     constexpr char Digits[] = "0123456789abcdef";
+    if (unit == u'"' || unit == u'\\') {
+        line += '\\';
+        line += static_cast<char>(unit);
+        return;
+    }
     line += "\\u";
     for (int shift = 12; shift >= 0; shift -= 4)
         line += Digits[(unit >> shift) & 0xF];
-}
-
-void AppendAscii(std::string& line, char16_t unit)
-{
-    if (unit == u'"' || unit == u'\\')
-        line += '\\';
-    if (unit < u' ' || unit == 0x7F)
-        AppendEscape(line, unit);
-    else
-        line += static_cast<char>(unit);
 }
 
 void AppendField(std::string& line, std::string_view name, std::string_view words)
@@ -51,18 +67,17 @@ void AppendField(std::string& line, std::string_view name, std::string_view word
 void AppendJsonText(std::string& line, std::u16string_view text)
 {
     line += '"';
-    for (std::size_t index = 0; index < text.size(); ++index) {
-        const char16_t unit = text[index];
-        if (unit < 0x80) {
-            AppendAscii(line, unit);
-        } else if (IsSurrogate(unit) && IsPair(text, index)) {
-            VyrPlatform::Encoding::AppendUtf8(line, text.substr(index, 2));
-            ++index;
-        } else if (IsSurrogate(unit) || unit < 0xA0) {
-            AppendEscape(line, unit);
+    while (!text.empty()) {
+        std::size_t length = CountPlain(text);
+        if (length == 0 && BeginsWithPair(text))
+            length = 2;
+        if (length > 0) {
+            VyrPlatform::Encoding::AppendUtf8(line, text.substr(0, length));
         } else {
-            VyrPlatform::Encoding::AppendUtf8(line, text.substr(index, 1));
+            AppendEscape(line, text.front());
+            length = 1;
         }
+        text.remove_prefix(length);
     }
     line += '"';
 }

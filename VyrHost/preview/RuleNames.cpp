@@ -77,6 +77,7 @@ RuleFault RuleNames::Run(const EntryList& list, const Entry& entry, int index, c
     m_subject.extension.Swap(split.extension);
     if (&dated != &entry)
         m_subject.path = list.PathOf(dated);
+    m_workingFolder.Enter(list.folders[dated.folder].path);
     m_subject.isFolder = entry.kind == Kind::Folder;
     m_subject.index = index;
     m_subject.dateRank = 0;

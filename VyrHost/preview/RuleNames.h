@@ -4,6 +4,7 @@
 
 #include <VyrHost/preview/NameSource.h>
 #include <VyrHost/rules/Rule.h>
+#include <VyrPlatform/WorkingFolder.h>
 
 #include <vector>
 
@@ -38,6 +39,8 @@ private:
     /// By folder; the whole list counts as the folder 0.
     std::vector<int> m_next;
     Subject m_subject;
+    /// Where the files are that dates and picture data come from.
+    VyrPlatform::WorkingFolder m_workingFolder;
 };
 
 } // namespace VyrHost

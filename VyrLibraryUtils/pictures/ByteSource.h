@@ -45,7 +45,7 @@ class FileSource final : public ByteSource
 {
 public:
     /// How much of a file's beginning is worth reading at once: enough for the tags of almost every JPEG.
-    static constexpr std::size_t BeginningSize = 4096;
+    static constexpr std::size_t BeginningSize = 2048;
 
     /// `beginning` is what was read of `file` when it was opened. Both must outlive this source.
     FileSource(const VyrPlatform::FileReader& file, std::string_view beginning)

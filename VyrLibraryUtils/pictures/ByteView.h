@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <numeric>
 #include <string>
 #include <string_view>
 
@@ -45,10 +46,11 @@ private:
 /// The number that `bytes` (1 to 8 of them) are in `order`.
 [[nodiscard]] inline std::uint64_t ToUnsigned(std::string_view bytes, ByteOrder order)
 {
-    std::uint64_t value = 0;
-    for (std::size_t i = 0; i < bytes.size(); ++i)
-        value = value << 8 | static_cast<unsigned char>(bytes[order == ByteOrder::Big ? i : bytes.size() - 1 - i]);
-    return value;
+    const auto append = [](std::uint64_t value, char byte) {
+        return value << 8 | static_cast<unsigned char>(byte);
+    };
+    return order == ByteOrder::Big ? std::accumulate(bytes.begin(), bytes.end(), std::uint64_t{0}, append)
+                                   : std::accumulate(bytes.rbegin(), bytes.rend(), std::uint64_t{0}, append);
 }
 
 /// Reads a view from its start on. A read that does not find all its bytes gives zero and makes every later one do so

@@ -65,12 +65,16 @@ std::optional<Entry> TiffReader::Find(std::uint32_t offset, std::uint16_t tag) c
     // A directory that is not all there is damaged: an offset into other data mostly looks like that.
     if (m_tiff.From(first).Size() < count * EntrySize)
         return std::nullopt;
+    const auto high = static_cast<char>(tag >> 8);
+    const auto low = static_cast<char>(tag & 0xFF);
+    const bool isBig = m_order == ByteOrder::Big;
+    const char wanted[] = {isBig ? high : low, isBig ? low : high};
     constexpr std::size_t most = ByteSource::MaximumFetch / EntrySize;
     for (std::uint64_t done = 0; done < count; done += most) {
         const auto size = static_cast<std::size_t>(std::min<std::uint64_t>(count - done, most) * EntrySize);
         const std::string_view entries = m_tiff.Fetch(first + done * EntrySize, size);
         for (std::size_t place = 0; place < entries.size(); place += EntrySize)
-            if (Number(entries, place, 2) == tag)
+            if (entries[place] == wanted[0] && entries[place + 1] == wanted[1])
                 return Entry{static_cast<ValueType>(Number(entries, place + 2, 2)), Number(entries, place + 4, 4),
                              Number(entries, place + 8, 4), first + done * EntrySize + place + 8};
     }

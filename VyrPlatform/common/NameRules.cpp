@@ -45,9 +45,10 @@ constexpr auto WindowsForbidden = [] {
     return forbidden;
 }();
 
-bool IsForbiddenOnWindows(char16_t unit)
+bool HasForbiddenOnWindows(std::u16string_view name)
 {
-    return unit < WindowsForbidden.size() && WindowsForbidden[unit];
+    return std::any_of(name.begin(), name.end(),
+                       [](char16_t unit) { return unit < WindowsForbidden.size() && WindowsForbidden[unit]; });
 }
 
 /// The first fault that this system itself does not take.
@@ -63,7 +64,7 @@ NameFault FindError(std::u16string_view name)
 /// The first fault that a name has on Windows.
 NameFault FindWindowsFault(std::u16string_view name)
 {
-    if (std::any_of(name.begin(), name.end(), IsForbiddenOnWindows))
+    if (HasForbiddenOnWindows(name))
         return NameFault::ForbiddenCharacter;
     if (IsReserved(name))
         return NameFault::ReservedWord;

@@ -1,6 +1,7 @@
 // Reading a file at any place, on Linux.
 #include <VyrPlatform/FileReader.h>
 
+#include "EnteredFolder.h"
 #include "NativePath.h"
 
 #include <algorithm>
@@ -14,6 +15,8 @@ namespace VyrPlatform {
 namespace {
 
 constexpr int notOpen = -1;
+/// Opening a pipe without O_NONBLOCK would wait for its other end.
+constexpr int howToOpen = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
 
 /// Takes the size of the regular file behind `descriptor`.
 /// @return 0, or the error code when it is something else.
@@ -67,12 +70,6 @@ int TakeBeginning(int descriptor, std::uint64_t& size, std::span<std::byte> begi
     return 0;
 }
 
-int OpenForReading(const CString& path)
-{
-    // Opening a pipe without O_NONBLOCK would wait for its other end.
-    return open(NativePath(path).Get(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-}
-
 /// Keeps `descriptor`, or closes it where `error` says so.
 std::intptr_t KeepUnless(int error, int descriptor) noexcept
 {
@@ -87,7 +84,7 @@ std::intptr_t KeepUnless(int error, int descriptor) noexcept
 
 FileReader::FileReader(const CString& path) : m_handle(notOpen)
 {
-    const int descriptor = OpenForReading(path);
+    const int descriptor = OpenFromEnteredFolder(NativePath(path).Get(), howToOpen);
     const int error = descriptor == notOpen ? errno : TakeSize(descriptor, m_size);
     m_error = static_cast<std::uint32_t>(error);
     m_handle = KeepUnless(error, descriptor);
@@ -95,7 +92,7 @@ FileReader::FileReader(const CString& path) : m_handle(notOpen)
 
 FileReader::FileReader(const CString& path, std::span<std::byte> beginning) : m_handle(notOpen)
 {
-    const int descriptor = OpenForReading(path);
+    const int descriptor = OpenFromEnteredFolder(NativePath(path).Get(), howToOpen);
     const int error = descriptor == notOpen ? errno : TakeBeginning(descriptor, m_size, beginning, m_beginningSize);
     m_error = static_cast<std::uint32_t>(error);
     m_handle = KeepUnless(error, descriptor);
