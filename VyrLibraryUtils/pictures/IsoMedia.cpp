@@ -7,6 +7,7 @@
 #include <VyrLibraryUtils/pictures/Tiff.h>
 
 #include <optional>
+#include <utility>
 
 namespace VyrLibraryUtils::Pictures {
 namespace {
@@ -199,8 +200,10 @@ std::string ReadIsoMedia(const ByteView& media, PictureTag tag)
 {
     ByteCursor cursor(media, ByteOrder::Big);
     std::string text;
+    // A file has one meta box at most. Many of them could all name the same large item.
+    bool isMetaLeft = true;
     while (const std::optional<IsoBox> box = NextBox(cursor)) {
-        if (box->type == FourCc("meta"))
+        if (box->type == FourCc("meta") && std::exchange(isMetaLeft, false))
             text = ReadMeta(box->content, media, tag);
         else if (box->type == FourCc("moov"))
             text = ReadMovie(box->content, tag);

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 
 namespace {
 
@@ -201,6 +202,38 @@ TEST(IsoMedia, APictureThatIsAFilmTooIsReadInEitherOrder)
     const Bytes movie = Box("moov", Box("mvhd", "header"));
     EXPECT_EQ(FactsOf(FileType + movie + meta), BuiltFacts);
     EXPECT_EQ(FactsOf(FileType + meta + movie), BuiltFacts);
+}
+
+TEST(IsoMedia, AnItemThatManyMetaBoxesNameIsReadOnce)
+{
+    /// Counts the bytes that are asked for.
+    class CountingSource final : public VyrLibraryUtils::Pictures::ByteSource
+    {
+    public:
+        explicit CountingSource(std::string_view bytes) : ByteSource(bytes.size()), m_bytes(bytes) {}
+        std::string_view Fetch(std::uint64_t offset, std::size_t count) override
+        {
+            fetched += count;
+            return Holds(offset, count) ? m_bytes.substr(static_cast<std::size_t>(offset), count) : std::string_view();
+        }
+        std::size_t fetched = 0;
+
+    private:
+        std::string_view m_bytes;
+    };
+    // A directory as long as one can be, without a tag that is looked for.
+    constexpr std::size_t entries = 65535;
+    const Bytes tiff = Bytes("II*\0\x08\0\0\0\xFF\xFF", 10) + Bytes(12 * entries, '\1');
+    Bytes metas;
+    for (int i = 0; i < 100; ++i)
+        metas += Meta(ItemInfo(1, "Exif") + ItemLocation(static_cast<std::uint32_t>(FileType.size() + 8),
+                                                         static_cast<std::uint32_t>(tiff.size()), 0));
+    const Bytes picture = FileType + Box("mdat", tiff) + metas;
+    CountingSource source(picture);
+    using VyrLibraryUtils::Pictures::PictureTag;
+    EXPECT_EQ(VyrLibraryUtils::Pictures::ReadPicture(source, PictureTag::Make), "");
+    EXPECT_GT(source.fetched, 12 * entries);
+    EXPECT_LT(source.fetched, 2 * 12 * entries);
 }
 
 TEST(IsoMedia, FilmsAreEmpty)
