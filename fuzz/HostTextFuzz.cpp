@@ -1,0 +1,94 @@
+// Any text that users hand to the program: rules, formats, tables of pairs and edited lists are read or refused with a
+// reason, and no rule makes a name out of bounds.
+#include <VyrHost/UsageError.h>
+#include <VyrHost/entries/EditedList.h>
+#include <VyrHost/entries/Pairs.h>
+#include <VyrHost/rules/RuleTexts.h>
+
+#include <VyrPlatform/Encoding.h>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <functional>
+#include <string>
+
+using namespace VyrHost;
+
+namespace {
+
+void Require(bool holds)
+{
+    if (!holds)
+        std::abort();
+}
+
+/// Whether `read` takes its text; a text that is refused has a reason.
+bool IsTaken(const std::function<void()>& read)
+{
+    try {
+        read();
+        return true;
+    } catch (const UsageError& error) {
+        Require(*error.what() != '\0');
+        return false;
+    }
+}
+
+void CheckRules(const CString& text)
+{
+    using Make = Rules (*)(const CString&);
+    constexpr std::array<Make, 11> makers{InsertRules,      PrefixRules,     SuffixRules,       DeleteRules,
+                                          DeleteFirstRules, DeleteLastRules, KeepFirstRules,    KeepLastRules,
+                                          CaseRules,        ExtensionRules,  ExtensionCaseRules};
+    for (const Make make : makers)
+        IsTaken([&] { Require(!make(text).empty()); });
+    IsTaken([&] { Require(!NumberRules(text, {}).empty()); });
+    IsTaken([&] { Require(!DateRules(text, {DateSource::Modified}).empty()); });
+    IsTaken([&] { Require(!ReplaceRules(text, text).empty()); });
+    IsTaken([&] { Require(!ParseDateSources(text).empty()); });
+    IsTaken([&] { Require(ParseNumber(text, 1, "a number") >= 1); });
+}
+
+void CheckPairs(std::string_view bytes)
+{
+    IsTaken([bytes] {
+        for (const NamePair& pair : ParsePairs(bytes)) {
+            Require(!pair.from.IsEmpty() && !pair.to.IsEmpty());
+            Require(pair.from.View().find(u'\0') == std::u16string_view::npos &&
+                    pair.to.View().find(u'\0') == std::u16string_view::npos);
+        }
+    });
+}
+
+void CheckEdited(std::string_view bytes, const CString& name)
+{
+    constexpr std::size_t count = 100;
+    IsTaken([bytes] {
+        const auto names = ParseEdited(bytes, count);
+        Require(names.size() <= count);
+        for (const auto& [place, edited] : names)
+            Require(place < count && !edited.IsEmpty());
+    });
+    // No system gives a name with a NUL.
+    if (name.IsEmpty() || name.View().find(u'\0') != std::u16string_view::npos)
+        return;
+    const std::string escaped = EscapeName(name);
+    Require(escaped.find_first_of("\n\t") == std::string::npos);
+    Require(UnescapeName(escaped) == name);
+    const auto again = ParseEdited(TextForEditing({name, u"other"}), 2);
+    Require(again.size() == 2 && again.at(0) == name && again.at(1) == u"other");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const std::string bytes(data, data + size);
+    const CString text = VyrPlatform::Encoding::FromNameBytes(bytes);
+    CheckRules(text);
+    CheckPairs(bytes);
+    CheckEdited(bytes, text);
+    return 0;
+}
