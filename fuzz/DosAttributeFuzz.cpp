@@ -1,13 +1,20 @@
-// Samba's extended attribute: no bytes lead the reader astray.
+// Samba's extended attribute: no bytes lead the reader astray, and a time that is put into them is read again.
 #include <VyrPlatform/linux/DosAttribute.h>
 
 #include <cstdlib>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const VyrPlatform::DosAttribute parsed = VyrPlatform::ParseDosAttribute(std::as_bytes(std::span(data, size)));
+    const auto value = std::as_bytes(std::span(data, size));
+    const VyrPlatform::DosAttribute parsed = VyrPlatform::ParseDosAttribute(value);
     // Attributes need a text of three characters at least, a creation time the shortest record.
     if ((parsed.attributes && size < 3) || (parsed.created && (size < 24 || *parsed.created == 0)))
+        std::abort();
+    constexpr VyrPlatform::FileTicks created = 0x01'DC'AA'54'2B'1A'9C'99;
+    const std::vector<std::byte> changed = VyrPlatform::WithCreated(value, created);
+    const VyrPlatform::DosAttribute read = VyrPlatform::ParseDosAttribute(changed);
+    if (changed.empty() ? parsed.attributes || parsed.created
+                        : read.created != created || read.attributes != parsed.attributes)
         std::abort();
     return 0;
 }

@@ -86,7 +86,6 @@ private:
             else
                 Transfer(report, m_trees[index], m_newFolders[index]);
         }
-        m_wasInterrupted = VyrPlatform::Interrupt::WasAsked();
     }
 
     void Transfer(TreeReport& report, const Tree& tree, std::size_t newFolders)

@@ -1,4 +1,4 @@
-// An interrupt before a folder is begun, and folders whose names come from Linux.
+// Tests of the program: folders with odd names, behind links, and an interrupt before one is begun.
 #include "../VyrProgram.h"
 
 #include <VyrHost/cli/TreeRequest.h>
