@@ -47,6 +47,9 @@ std::vector<Identity> UpFrom(const CString& path)
 {
     std::vector<Identity> identities;
     CString above = VyrPlatform::GetRealPath(path);
+    // Some volumes of Windows have no path to tell.
+    if (above.IsEmpty())
+        above = VyrPlatform::GetFullPath(path);
     for (CString folder; above != folder; above = FolderOf(folder)) {
         folder = above;
         const FileState state = LookAtFile(folder);

@@ -143,8 +143,8 @@ TEST(FileTimes, CreatedIsSetToTheTickAndNothingElse)
     constexpr FileTicks modified = Utc(2025y / January / 2, 3, 4, 5, 1'000'000);
     constexpr FileTicks created = Utc(2001y / July / 19, 18, 45, 3, 1'234'567);
     for (const CString& path : {scratch.WriteFile(u"a", "content"), scratch.MakeFolder(u"folder")}) {
-        const std::optional<FileTicks> before = FileTimes::GetCreated(path);
         VyrTests::StampFile(path, modified, modified);
+        const std::optional<FileTicks> before = FileTimes::GetCreated(path);
         ASSERT_EQ(FileTimes::SetCreated(path, created), 0U);
         EXPECT_EQ(FileTimes::GetModified(path), modified);
         EXPECT_EQ(FileTimes::GetAccessed(path), modified);

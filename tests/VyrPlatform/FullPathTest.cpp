@@ -82,12 +82,3 @@ TEST(RealPath, LeadsThroughLinks)
         GTEST_SKIP() << reason;
     EXPECT_EQ(GetRealPath(scratch.Path(u"link")), GetRealPath(folder));
 }
-
-TEST(RealPath, MayBeLong)
-{
-    const ScratchFolder scratch;
-    CString name;
-    for (int count = 0; count < 60; ++count)
-        name += count == 0 ? CString(u"long name") : CString(u"/long name");
-    EXPECT_GT(GetRealPath(scratch.MakeFolder(name)).GetLength(), 599);
-}
