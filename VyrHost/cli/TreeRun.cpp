@@ -14,6 +14,7 @@
 #include <VyrPlatform/Interrupt.h>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace VyrHost {

@@ -11,6 +11,7 @@
 #include <VyrPlatform/NameFolding.h>
 
 #include <map>
+#include <optional>
 #include <string>
 #include <unordered_set>
 #include <utility>

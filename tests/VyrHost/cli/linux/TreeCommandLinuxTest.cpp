@@ -8,6 +8,7 @@
 #include <tests/support/StdPath.h>
 
 #include <csignal>
+#include <cstdlib>
 #include <filesystem>
 
 using namespace VyrTests;
