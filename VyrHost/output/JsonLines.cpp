@@ -52,6 +52,32 @@ void AppendEscape(std::string& line, char16_t unit)
         line += Digits[(unit >> shift) & 0xF];
 }
 
+/// Appends `text` to a JSON text that has begun.
+void AppendInside(std::string& line, std::u16string_view text)
+{
+    while (!text.empty()) {
+        std::size_t length = CountPlain(text);
+        if (length == 0 && BeginsWithPair(text))
+            length = 2;
+        if (length > 0) {
+            VyrPlatform::Encoding::AppendUtf8(line, text.substr(0, length));
+        } else {
+            AppendEscape(line, text.front());
+            length = 1;
+        }
+        text.remove_prefix(length);
+    }
+}
+
+/// Appends the path of what is called `name` in `folder`.
+void AppendPath(std::string& line, const Folder& folder, std::u16string_view name)
+{
+    line += '"';
+    AppendInside(line, folder.path);
+    AppendInside(line, name);
+    line += '"';
+}
+
 void AppendField(std::string& line, std::string_view name, std::string_view words)
 {
     if (words.empty())
@@ -67,18 +93,7 @@ void AppendField(std::string& line, std::string_view name, std::string_view word
 void AppendJsonText(std::string& line, std::u16string_view text)
 {
     line += '"';
-    while (!text.empty()) {
-        std::size_t length = CountPlain(text);
-        if (length == 0 && BeginsWithPair(text))
-            length = 2;
-        if (length > 0) {
-            VyrPlatform::Encoding::AppendUtf8(line, text.substr(0, length));
-        } else {
-            AppendEscape(line, text.front());
-            length = 1;
-        }
-        text.remove_prefix(length);
-    }
+    AppendInside(line, text);
     line += '"';
 }
 
@@ -88,13 +103,17 @@ void WriteJsonLines(OutputBuffer& output, const EntryList& list, const Outcome& 
     for (std::size_t index = 0; index < outcome.decisions.size() && !output.HasFailed(); ++index) {
         const Decision& decision = outcome.decisions[index];
         line = "{\"from\":";
-        AppendJsonText(line, list.PathOf(list.entries[index]));
+        const Entry& entry = list.entries[index];
+        AppendPath(line, list.folders[entry.folder], entry.name);
         line += ",\"to\":";
         if (decision.name.empty())
             line += "null";
         else
-            AppendJsonText(line, CString::Join({list.folders[decision.folder].path, decision.name}));
-        AppendField(line, "status", WordFor(decision.status));
+            AppendPath(line, list.folders[decision.folder], decision.name);
+        // Its letters and blanks stand as they are.
+        line += ",\"status\":\"";
+        line += WordFor(decision.status);
+        line += '"';
         AppendField(line, "reason", ReasonFor(outcome, index));
         AppendField(line, "warning", decision.IsRename() ? WarningFor(decision.warning) : "");
         line += "}\n";
