@@ -58,6 +58,8 @@ public:
 
     int Run()
     {
+        if (!m_request.apply)
+            OfferRecovery();
         TakeEntries();
         const Groups groups = m_request.together ? Groups::ByStem(List()) : Groups::OfOne(List());
         Decide(groups);
@@ -73,6 +75,13 @@ public:
     }
 
 private:
+    /// A preview is no reason to stop, but what it finds on the disk may be half a batch.
+    static void OfferRecovery()
+    {
+        if (const auto cutOff = Batches().FindCutOff())
+            Complain(CutOffNotice(*cutOff));
+    }
+
     void TakeEntries()
     {
         if (m_request.pairs) {
@@ -177,19 +186,9 @@ private:
     void Note(std::uint32_t entry, const RenameResult& result)
     {
         Decision& decision = m_outcome.decisions[entry];
-        switch (result.outcome) {
-        case RenameOutcome::Done:
+        if (result.outcome == RenameOutcome::Done)
             return;
-        case RenameOutcome::Failed:
-            decision.status = Status::Failed;
-            break;
-        case RenameOutcome::Refused:
-            decision.status = Status::Refused;
-            break;
-        case RenameOutcome::NotReached:
-            decision.status = Status::NotReached;
-            break;
-        }
+        decision.status = StatusOf(result.outcome);
         decision.reason = Reason::Applying;
         if (!result.reason.IsEmpty())
             m_outcome.causes.insert_or_assign(entry, result.reason);

@@ -3,13 +3,14 @@
 
 #include <VyrHost/output/JsonLines.h>
 #include <VyrHost/output/SafeText.h>
+#include <VyrHost/output/Summary.h>
 #include <VyrHost/output/Table.h>
+#include <VyrHost/output/Words.h>
 #include <VyrPlatform/Encoding.h>
 #include <VyrPlatform/FileSystem.h>
 
 #include <algorithm>
 #include <string_view>
-#include <utility>
 
 namespace VyrHost {
 
@@ -32,19 +33,9 @@ std::u16string_view WordFor(BatchState state)
     return u"damaged";
 }
 
-std::u16string_view WordFor(RenameOutcome outcome)
+CString WordFor(RenameOutcome outcome)
 {
-    switch (outcome) {
-    case RenameOutcome::Done:
-        return u"renamed";
-    case RenameOutcome::Failed:
-        return u"failed";
-    case RenameOutcome::Refused:
-        return u"refused";
-    case RenameOutcome::NotReached:
-        break;
-    }
-    return u"not reached";
+    return VyrPlatform::Encoding::FromUtf8(WordFor(StatusOf(outcome)));
 }
 
 std::u16string_view FolderOf(std::u16string_view path)
@@ -104,13 +95,6 @@ CString LineOf(const BatchInformation& batch)
                                    : line + batch.problem;
 }
 
-void AppendText(std::string& line, std::string_view name, std::u16string_view text)
-{
-    line += line.empty() ? "{\"" : ",\"";
-    line.append(name).append("\":");
-    AppendJsonText(line, text);
-}
-
 } // namespace
 
 void WriteBatchLines(OutputBuffer& output, const std::vector<BatchInformation>& batches)
@@ -123,13 +107,13 @@ void WriteBatchJson(OutputBuffer& output, const std::vector<BatchInformation>& b
 {
     for (const BatchInformation& batch : batches) {
         std::string line = "{\"number\":" + std::to_string(batch.number);
-        AppendText(line, "started", batch.started);
-        AppendText(line, "state", WordFor(batch.state));
+        AppendJsonField(line, "started", batch.started);
+        AppendJsonField(line, "state", WordFor(batch.state));
         line += ",\"entries\":" + std::to_string(batch.entries);
-        AppendText(line, "from", batch.firstFrom);
-        AppendText(line, "to", batch.firstTo);
+        AppendJsonField(line, "from", batch.firstFrom);
+        AppendJsonField(line, "to", batch.firstTo);
         if (!batch.problem.IsEmpty())
-            AppendText(line, "problem", batch.problem);
+            AppendJsonField(line, "problem", batch.problem);
         output << line << "}\n";
     }
 }
@@ -145,11 +129,11 @@ void WriteEntryJson(OutputBuffer& output, const std::vector<BatchEntry>& entries
     for (const BatchEntry& entry : entries) {
         const auto [from, to] = WayOf(entry, direction);
         std::string line;
-        AppendText(line, "from", from);
-        AppendText(line, "to", to);
-        AppendText(line, "status", WordFor(entry.result.outcome));
+        AppendJsonField(line, "from", from);
+        AppendJsonField(line, "to", to);
+        AppendJsonField(line, "status", WordFor(entry.result.outcome));
         if (!entry.result.reason.IsEmpty())
-            AppendText(line, "reason", entry.result.reason);
+            AppendJsonField(line, "reason", entry.result.reason);
         line += entry.hasChanged ? ",\"changed\":true}\n" : ",\"changed\":false}\n";
         output << line;
     }
@@ -157,18 +141,10 @@ void WriteEntryJson(OutputBuffer& output, const std::vector<BatchEntry>& entries
 
 std::string SummaryOf(const BatchSummary& summary)
 {
-    const std::pair<std::size_t, const char*> counts[] = {{summary.done, "renamed"},
-                                                          {summary.refused, "refused"},
-                                                          {summary.failed, "failed"},
-                                                          {summary.notReached, "not reached"}};
-    std::size_t all = 0;
-    std::string parts;
-    for (const auto& [count, word] : counts) {
-        all += count;
-        if (count > 0)
-            parts.append(parts.empty() ? ": " : ", ").append(std::to_string(count)).append(" ").append(word);
-    }
-    return std::to_string(all) + (all == 1 ? " entry" : " entries") + parts + ".\n";
+    return SummaryOf({{summary.done, WordFor(Status::Renamed)},
+                      {summary.refused, WordFor(Status::Refused)},
+                      {summary.failed, WordFor(Status::Failed)},
+                      {summary.notReached, WordFor(Status::NotReached)}});
 }
 
 } // namespace VyrHost

@@ -78,14 +78,11 @@ void AppendPath(std::string& line, const Folder& folder, std::u16string_view nam
     line += '"';
 }
 
+/// Nothing where there are no words.
 void AppendField(std::string& line, std::string_view name, std::string_view words)
 {
-    if (words.empty())
-        return;
-    line += ",\"";
-    line += name;
-    line += "\":";
-    AppendJsonText(line, VyrPlatform::Encoding::FromUtf8(words));
+    if (!words.empty())
+        AppendJsonField(line, name, VyrPlatform::Encoding::FromUtf8(words));
 }
 
 } // namespace
@@ -95,6 +92,13 @@ void AppendJsonText(std::string& line, std::u16string_view text)
     line += '"';
     AppendInside(line, text);
     line += '"';
+}
+
+void AppendJsonField(std::string& line, std::string_view name, std::u16string_view text)
+{
+    line += line.empty() ? "{\"" : ",\"";
+    line.append(name).append("\":");
+    AppendJsonText(line, text);
 }
 
 void WriteJsonLines(OutputBuffer& output, const EntryList& list, const Outcome& outcome)

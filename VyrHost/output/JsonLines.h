@@ -1,5 +1,5 @@
 /// @file
-/// A preview for programs: one JSON object a line.
+/// Output for programs: one JSON object a line.
 #pragma once
 
 #include <VyrHost/entries/EntryList.h>
@@ -14,6 +14,9 @@ namespace VyrHost {
 /// Appends `text` as a JSON text with its quotes: UTF-8, control characters escaped, a lone surrogate (a byte of a name
 /// that is not UTF-8) as its `\ud...` escape.
 void AppendJsonText(std::string& line, std::u16string_view text);
+
+/// Appends a field to the object that `line` holds so far, or begins the object where it is empty.
+void AppendJsonField(std::string& line, std::string_view name, std::u16string_view text);
 
 /// Writes one object for each entry: `from` and `to` (full paths; `to` is null where the rules give no name), `status`,
 /// and `reason` or `warning` where there is one.

@@ -134,19 +134,12 @@ std::vector<Row> RowsOf(const std::vector<TreeReport>& reports, TreeAction actio
     return rows;
 }
 
-void AppendText(std::string& line, std::string_view name, std::u16string_view text)
-{
-    line += line.empty() ? "{\"" : ",\"";
-    line.append(name).append("\":");
-    AppendJsonText(line, text);
-}
-
 std::string JsonOf(const CString& from, const CString& to, std::u16string_view status)
 {
     std::string line;
-    AppendText(line, "from", from);
-    AppendText(line, "to", to);
-    AppendText(line, "status", status);
+    AppendJsonField(line, "from", from);
+    AppendJsonField(line, "to", to);
+    AppendJsonField(line, "status", status);
     return line;
 }
 
@@ -173,7 +166,7 @@ void WriteTreeJson(OutputBuffer& output, const std::vector<TreeReport>& reports,
         for (const TreeProblem& problem : ByPath(report.problems)) {
             std::string line = JsonOf(FileUtils::GetCombinePath(task.source, problem.path),
                                       FileUtils::GetCombinePath(task.target, problem.path), StatusOf(problem));
-            AppendText(line, "reason", ReasonOf(problem));
+            AppendJsonField(line, "reason", ReasonOf(problem));
             output << line << "}\n";
         }
     }

@@ -28,6 +28,21 @@ std::string_view WordFor(Status status)
     return "refused";
 }
 
+Status StatusOf(RenameOutcome outcome)
+{
+    switch (outcome) {
+    case RenameOutcome::Done:
+        return Status::Renamed;
+    case RenameOutcome::Failed:
+        return Status::Failed;
+    case RenameOutcome::Refused:
+        return Status::Refused;
+    case RenameOutcome::NotReached:
+        break;
+    }
+    return Status::NotReached;
+}
+
 std::string_view WordsFor(Reason reason)
 {
     switch (reason) {

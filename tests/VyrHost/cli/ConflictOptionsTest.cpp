@@ -4,6 +4,7 @@
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <gmock/gmock.h>
+#include <tests/support/Describe.h>
 
 #include <algorithm>
 #include <random>

@@ -91,13 +91,17 @@ protected:
         KillWhen(arguments, [path = FilePath(name)] { return fs::exists(path); });
     }
 
-    /// Recovers in one of the two ways. Counts in `m_recovered` when there was something to recover.
+    /// Recovers in one of the two ways, which a preview offers before. Counts in `m_recovered` when there was something
+    /// to recover.
     void Recover(bool isTakenBack)
     {
+        const ProgramResult preview = Run({u"rename", u"--prefix", u"x", u"nothing"});
         const ProgramResult result =
             isTakenBack ? Run({u"recover", u"--take-back"}) : Run(std::vector<CString>{u"recover"});
         EXPECT_EQ(result.exitCode, 0) << result.errors;
-        m_recovered += result.output.find("No batch was cut off") == std::string::npos;
+        const bool isCutOff = result.output.find("No batch was cut off") == std::string::npos;
+        EXPECT_EQ(preview.errors.find("\"vyr recover\" ends it") != std::string::npos, isCutOff) << preview.errors;
+        m_recovered += isCutOff;
     }
 
     ScratchFolder m_files;

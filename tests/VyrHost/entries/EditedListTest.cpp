@@ -4,6 +4,7 @@
 #include <VyrHost/UsageError.h>
 
 #include <gtest/gtest.h>
+#include <tests/support/Describe.h>
 
 #include <random>
 #include <string>

@@ -8,6 +8,7 @@
 #include <VyrPlatform/FileSystem.h>
 
 #include <gmock/gmock.h>
+#include <tests/support/Describe.h>
 
 #include <random>
 #include <string>

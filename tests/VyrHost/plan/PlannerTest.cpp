@@ -4,6 +4,7 @@
 #include <VyrPlatform/FileSystem.h>
 
 #include <gmock/gmock.h>
+#include <tests/support/Describe.h>
 
 #include <algorithm>
 #include <map>

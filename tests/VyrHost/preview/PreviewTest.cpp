@@ -11,6 +11,7 @@
 #include <VyrPlatform/NameFolding.h>
 
 #include <gtest/gtest.h>
+#include <tests/support/Describe.h>
 #include <tests/support/PictureBuilder.h>
 #include <tests/support/ScratchFolder.h>
 

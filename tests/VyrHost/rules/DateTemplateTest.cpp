@@ -6,6 +6,7 @@
 #include <VyrPlatform/FileSystem.h>
 
 #include <gtest/gtest.h>
+#include <tests/support/Describe.h>
 #include <tests/support/PictureBuilder.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>

@@ -5,6 +5,7 @@
 #include <VyrHost/rules/RuleTexts.h>
 
 #include <gtest/gtest.h>
+#include <tests/support/Describe.h>
 
 using namespace VyrHost;
 using namespace VyrTests;

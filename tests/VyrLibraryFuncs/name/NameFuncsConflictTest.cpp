@@ -6,6 +6,7 @@
 #include <tests/support/StdPath.h>
 
 #include <gtest/gtest.h>
+#include <tests/support/Describe.h>
 
 #include <filesystem>
 #include <limits>

@@ -9,6 +9,7 @@
 #include <tests/support/TimeZone.h>
 
 #include <gtest/gtest.h>
+#include <tests/support/Describe.h>
 
 #include <chrono>
 #include <ctime>

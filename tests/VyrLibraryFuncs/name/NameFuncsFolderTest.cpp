@@ -5,6 +5,7 @@
 #include <tests/support/StdPath.h>
 
 #include <gtest/gtest.h>
+#include <tests/support/Describe.h>
 
 #include <algorithm>
 #include <filesystem>

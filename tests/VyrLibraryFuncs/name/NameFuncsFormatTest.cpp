@@ -8,6 +8,7 @@
 #include <tests/support/TimeZone.h>
 
 #include <gtest/gtest.h>
+#include <tests/support/Describe.h>
 
 #include <ctime>
 #include <limits>

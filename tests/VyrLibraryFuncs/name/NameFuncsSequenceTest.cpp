@@ -4,6 +4,7 @@
 #include <tests/support/MessagePosting.h>
 
 #include <gtest/gtest.h>
+#include <tests/support/Describe.h>
 
 #include <algorithm>
 #include <cstdint>

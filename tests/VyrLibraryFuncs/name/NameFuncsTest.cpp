@@ -4,6 +4,7 @@
 #include <tests/support/ScratchFolder.h>
 
 #include <gtest/gtest.h>
+#include <tests/support/Describe.h>
 
 #include <limits>
 

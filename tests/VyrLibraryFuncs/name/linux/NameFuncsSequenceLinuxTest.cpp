@@ -2,6 +2,7 @@
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <gtest/gtest.h>
+#include <tests/support/Describe.h>
 
 #include <string>
 
