@@ -89,9 +89,9 @@ CString CountText(std::size_t count, std::u16string_view one, std::u16string_vie
 
 CString NoteFor(const TreeReport& report, TreeAction action)
 {
-    const CString size = CString::Join({CountText(report.size.folders, u"folder", u"folders"), u", ",
-                                        CountText(report.size.files, u"file", u"files"), u", ",
-                                        FileUtils::GetFileSize(report.size.bytes, 0)});
+    CString size = CString::Join({CountText(report.size.folders, u"folder", u"folders"), u", ",
+                                  CountText(report.size.files, u"file", u"files"), u", ",
+                                  FileUtils::GetFileSize(report.size.bytes, 0)});
     if (report.status == TreeStatus::Done)
         return size;
     return CString::Join({WordFor(report.status, action), u"; ", size});
