@@ -7,7 +7,7 @@
 #include <VyrHost/output/Progress.h>
 #include <VyrHost/output/SafeText.h>
 #include <VyrHost/output/TreeOutput.h>
-#include <VyrHost/trees/FolderTimes.h>
+#include <VyrHost/trees/MadeFolders.h>
 #include <VyrHost/trees/TreeClashes.h>
 #include <VyrHost/trees/TreeFinish.h>
 #include <VyrPlatform/Console.h>
@@ -112,11 +112,11 @@ private:
             return;
         }
         report.problems = FinishTree(tree, target, m_request.action, records);
-        FolderTimesResult times = SetFolderTimes(tree, records);
-        std::move(times.problems.begin(), times.problems.end(), std::back_inserter(report.problems));
+        MadeFoldersResult made = CompleteFolders(tree, records);
+        std::move(made.problems.begin(), made.problems.end(), std::back_inserter(report.problems));
         report.status = report.problems.empty() ? TreeStatus::Done : TreeStatus::Incomplete;
-        if (times.creationError != 0)
-            m_creationError = times.creationError;
+        if (made.creationError != 0)
+            m_creationError = made.creationError;
     }
 
     int Show(bool isRefused)

@@ -55,8 +55,8 @@ std::u16string_view WordsFor(TreeFault fault)
         return u"it has come there, but could not be removed here";
     case TreeFault::NotEmpty:
         return u"something new is in it";
-    case TreeFault::TimesNotSet:
-        return u"the times of the folder could not be set";
+    case TreeFault::FolderNotSet:
+        return u"the times or permissions of the folder could not be set";
     case TreeFault::System:
         break;
     }

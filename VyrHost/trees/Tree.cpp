@@ -33,6 +33,7 @@ TreeFolder FolderAt(const CString& root, const CString& path)
     folder.path = path;
     folder.created = FileTimes::GetCreated(full).value_or(0);
     folder.modified = FileTimes::GetModified(full).value_or(0);
+    folder.traits = VyrPlatform::GetFolderTraits(full);
     return folder;
 }
 

@@ -4,9 +4,11 @@
 
 #include <VyrPlatform/CString.h>
 #include <VyrPlatform/FileTimes.h>
+#include <VyrPlatform/FolderTraits.h>
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace VyrHost {
@@ -39,6 +41,8 @@ struct TreeFolder
     CString path;
     VyrPlatform::FileTicks created = 0;
     VyrPlatform::FileTicks modified = 0;
+    /// Nothing where they may not be read.
+    std::optional<VyrPlatform::FolderTraits> traits;
     /// Why its entries could not be read to their end: the system's error code, else 0.
     std::uint32_t error = 0;
     /// Its entries stand together in Tree::entries.

@@ -36,8 +36,8 @@ enum class TreeFault : std::uint8_t
     StillAtSource,
     /// The folder is not empty, though all that was known of is gone.
     NotEmpty,
-    /// The times of the folder could not be set.
-    TimesNotSet
+    /// The times, permissions or attributes of the folder could not be set.
+    FolderNotSet
 };
 
 struct TreeProblem

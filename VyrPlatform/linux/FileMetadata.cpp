@@ -6,9 +6,9 @@
 #include <linux/limits.h>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <sys/xattr.h>
 #include <unistd.h>
+#include <utility>
 
 namespace VyrPlatform {
 
@@ -25,15 +25,6 @@ bool IsRefused(int error) noexcept
 int ErrorOf(int result) noexcept
 {
     return result == 0 || IsRefused(errno) ? 0 : errno;
-}
-
-/// @return whether the file has the owner and group of `status` now.
-bool CopyOwner(int target, const struct stat& status) noexcept
-{
-    struct stat now;
-    if (fstat(target, &now) == 0 && now.st_uid == status.st_uid && now.st_gid == status.st_gid)
-        return true;
-    return fchown(target, status.st_uid, status.st_gid) == 0;
 }
 
 /// The answer of one of the system's calls that fill a buffer, which is asked with a bigger one until it fits; nothing
@@ -53,37 +44,52 @@ std::optional<std::string> AskForBytes(Call call)
     return bytes;
 }
 
-int CopyExtendedAttribute(int source, int target, const char* name)
+} // namespace
+
+bool SetOwner(int file, uid_t owner, gid_t group) noexcept
 {
-    const auto value =
-        AskForBytes([source, name](char* buffer, std::size_t size) { return fgetxattr(source, name, buffer, size); });
-    return value ? ErrorOf(fsetxattr(target, name, value->data(), value->size(), 0)) : 0;
+    struct stat now;
+    if (fstat(file, &now) == 0 && now.st_uid == owner && now.st_gid == group)
+        return true;
+    return fchown(file, owner, group) == 0;
 }
 
-int CopyExtendedAttributes(int source, int target)
+int SetPermissions(int file, mode_t permissions, bool hasOwner) noexcept
 {
-    const auto names =
-        AskForBytes([source](char* buffer, std::size_t size) { return flistxattr(source, buffer, size); });
+    const auto setIds = static_cast<mode_t>(S_ISUID | S_ISGID);
+    return ErrorOf(fchmod(file, hasOwner ? permissions : permissions & ~setIds));
+}
+
+ExtendedList GetExtendedAttributes(int file)
+{
+    ExtendedList attributes;
+    const auto names = AskForBytes([file](char* buffer, std::size_t size) { return flistxattr(file, buffer, size); });
     for (std::size_t start = 0; names && start < names->size();) {
-        const char* const name = names->c_str() + start;
-        if (const int error = CopyExtendedAttribute(source, target, name))
-            return error;
-        start += std::string_view(name).size() + 1;
+        std::string name(names->c_str() + start);
+        start += name.size() + 1;
+        auto value = AskForBytes(
+            [file, &name](char* buffer, std::size_t size) { return fgetxattr(file, name.c_str(), buffer, size); });
+        if (value)
+            attributes.emplace_back(std::move(name), std::move(*value));
     }
+    return attributes;
+}
+
+int SetExtendedAttributes(int file, const ExtendedList& attributes)
+{
+    for (const auto& [name, value] : attributes)
+        if (const int error = ErrorOf(fsetxattr(file, name.c_str(), value.data(), value.size(), 0)))
+            return error;
     return 0;
 }
-
-} // namespace
 
 int CopyMetadata(int source, int target, const struct stat& status)
 {
     // A change of the owner takes capabilities and the set-id bits away, and the mode may forbid to set attributes.
-    mode_t mode = status.st_mode & 07777;
-    if (!CopyOwner(target, status))
-        mode &= static_cast<mode_t>(~(S_ISUID | S_ISGID));
-    if (const int error = CopyExtendedAttributes(source, target))
+    const bool hasOwner = SetOwner(target, status.st_uid, status.st_gid);
+    if (const int error = SetExtendedAttributes(target, GetExtendedAttributes(source)))
         return error;
-    if (const int error = ErrorOf(fchmod(target, mode)))
+    if (const int error = SetPermissions(target, PermissionsOf(status), hasOwner))
         return error;
     const struct timespec times[] = {status.st_atim, status.st_mtim};
     return ErrorOf(futimens(target, times));

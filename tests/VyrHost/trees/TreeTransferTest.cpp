@@ -1,7 +1,7 @@
 // Trees are copied and moved, compared, and their folders get their times.
 #include "Snapshot.h"
 
-#include <VyrHost/trees/FolderTimes.h>
+#include <VyrHost/trees/MadeFolders.h>
 #include <VyrHost/trees/TreeFinish.h>
 #include <VyrPlatform/FileTimes.h>
 #include <tests/support/FileMoments.h>
@@ -40,7 +40,7 @@ protected:
     {
         Transfer(action);
         EXPECT_TRUE(Finish(action).empty());
-        EXPECT_TRUE(SetFolderTimes(m_tree, m_records).problems.empty());
+        EXPECT_TRUE(CompleteFolders(m_tree, m_records).problems.empty());
     }
     [[nodiscard]] TreeSnapshot From() const { return SnapshotOf(m_scratch.Path(u"from")); }
     [[nodiscard]] TreeSnapshot To() const { return SnapshotOf(m_scratch.Path(u"to")); }
@@ -145,7 +145,7 @@ TEST_F(TreeTransfer, TimesThatHaveChangedSinceAreTheRecordedOnes)
     TransferWell(TreeAction::Copy);
     constexpr auto modified = TicksOfUnixTime(1'111'111'111);
     m_records.back().dateModified = FileTimes::ToLocal(modified);
-    EXPECT_TRUE(SetFolderTimes(m_tree, m_records).problems.empty());
+    EXPECT_TRUE(CompleteFolders(m_tree, m_records).problems.empty());
     EXPECT_EQ(FileTimes::GetModified(m_scratch.Path(u"to")), modified);
 }
 
@@ -154,8 +154,8 @@ TEST_F(TreeTransfer, TimesOfAFolderThatIsGoneAreAProblem)
     m_scratch.MakeFolder(u"from/a");
     Transfer(TreeAction::Copy);
     fs::remove(ToStdPath(m_scratch.Path(u"to/a")));
-    const FolderTimesResult result = SetFolderTimes(m_tree, m_records);
-    EXPECT_EQ(PathsOf(result.problems, TreeFault::TimesNotSet), Paths{u"a"});
+    const MadeFoldersResult result = CompleteFolders(m_tree, m_records);
+    EXPECT_EQ(PathsOf(result.problems, TreeFault::FolderNotSet), Paths{u"a"});
     EXPECT_NE(result.problems.at(0).error, 0u);
     EXPECT_NE(result.creationError, 0u);
 }
@@ -197,7 +197,7 @@ TEST_F(TreeTransfer, WhatIsMissingIsTriedAgain)
         EXPECT_EQ(To(), (TreeSnapshot{{"a", "<folder>"}, {"a/b", "<folder>"}, {"a/b/file", "1"}, {"c", "2"}}));
         EXPECT_EQ(From(), action == TreeAction::Copy ? To() : Missing);
         EXPECT_EQ(m_records.size(), 2u);
-        EXPECT_TRUE(SetFolderTimes(m_tree, m_records).problems.empty());
+        EXPECT_TRUE(CompleteFolders(m_tree, m_records).problems.empty());
         EXPECT_EQ(FileTimes::GetModified(m_scratch.Path(u"to/a")), modified);
         fs::remove_all(ToStdPath(m_scratch.Path(u"to")));
     }

@@ -2,7 +2,7 @@
 #include "../Snapshot.h"
 
 #include <VyrHost/UsageError.h>
-#include <VyrHost/trees/FolderTimes.h>
+#include <VyrHost/trees/MadeFolders.h>
 #include <VyrHost/trees/TreeClashes.h>
 #include <VyrHost/trees/TreeFinish.h>
 #include <VyrHost/trees/TreeTasks.h>
@@ -48,7 +48,7 @@ Went Carry(const CString& from, const CString& to, TreeAction action)
     TreeRecords records;
     EXPECT_EQ(TransferTree(tree, to, action, records, [](std::size_t) {}), 0u);
     Went went{FinishTree(tree, to, action, records)};
-    const FolderTimesResult times = SetFolderTimes(tree, records);
+    const MadeFoldersResult times = CompleteFolders(tree, records);
     EXPECT_TRUE(times.problems.empty());
     went.creationError = times.creationError;
     return went;
@@ -178,6 +178,27 @@ TEST(TreeLinux, UnreadableEntriesFailAlone)
                                             Text("secret", TreeFault::System, EACCES)}));
     }
     EXPECT_EQ(SnapshotOf(scratch.Path(u"parent/to")), (TreeSnapshot{{"closed", "<folder>"}, {"open", "3"}}));
+}
+
+TEST(TreeLinux, FoldersKeepTheirPermissions)
+{
+    for (const TreeAction action : {TreeAction::Copy, TreeAction::Move}) {
+        const ScratchFolder scratch;
+        scratch.WriteFile(u"from/private/a", "1");
+        scratch.WriteFile(u"from/finished/deep/b", "2");
+        const auto modeOf = [&scratch](const char16_t* path) {
+            return fs::status(ToStdPath(scratch.Path(path))).permissions();
+        };
+        const std::vector<std::pair<const char16_t*, fs::perms>> modes = {{u"/private", fs::perms(0700)},
+                                                                          {u"/finished/deep", fs::perms(0775)},
+                                                                          {u"/finished", fs::perms(0711)},
+                                                                          {u"", fs::perms(0750)}};
+        for (const auto& [path, mode] : modes)
+            fs::permissions(ToStdPath(scratch.Path(CString(u"from") + path)), mode);
+        EXPECT_TRUE(Carry(scratch.Path(u"from"), scratch.Path(u"to"), action).problems.empty());
+        for (const auto& [path, mode] : modes)
+            EXPECT_EQ(modeOf((CString(u"to") + path).GetString()), mode);
+    }
 }
 
 TEST(TreeLinux, FolderThatMayNotBeWrittenLosesNothingOfAMove)

@@ -1,0 +1,89 @@
+// Gives folders that were made the times and traits of those that they were made for.
+#include <VyrHost/trees/MadeFolders.h>
+
+#include <VyrLibraryUtils/FileUtils.h>
+#include <VyrPlatform/FileTimes.h>
+#include <VyrPlatform/FolderTraits.h>
+
+#include <optional>
+#include <unordered_map>
+#include <utility>
+
+namespace VyrHost {
+
+namespace {
+
+using VyrLibraryUtils::FileUtils;
+using VyrPlatform::FileTicks;
+namespace FileTimes = VyrPlatform::FileTimes;
+
+/// The ticks that `recorded` stands for: `exact` where that is the same to the second.
+std::optional<FileTicks> TicksOf(const COleDateTime& recorded, std::optional<FileTicks> exact)
+{
+    if (exact && FileTimes::ToLocal(*exact).m_dt == recorded.m_dt)
+        return exact;
+    return FileTimes::FromLocal(recorded);
+}
+
+using FoldersByPath = std::unordered_map<CString, const TreeFolder*>;
+
+FoldersByPath FoldersOf(const Tree& tree)
+{
+    FoldersByPath folders;
+    for (const TreeFolder& folder : tree.folders)
+        folders.emplace(FileUtils::GetCombinePath(tree.root, folder.path), &folder);
+    return folders;
+}
+
+class FolderCompletion
+{
+public:
+    explicit FolderCompletion(const Tree& tree) : m_folders(FoldersOf(tree)) {}
+
+    void Complete(const VyrLibraryFuncs::NameFuncs::RENAMEITEM& record)
+    {
+        const auto found = m_folders.find(record.sourcePath);
+        const TreeFolder* const known = found == m_folders.end() ? nullptr : found->second;
+        const CString& path = record.destinationPath;
+        std::uint32_t firstError = 0;
+        const auto check = [&firstError](std::uint32_t error) {
+            if (firstError == 0)
+                firstError = error;
+        };
+        // The creation time may stand in an extended attribute; the permissions may forbid to set any.
+        if (known && known->traits)
+            check(VyrPlatform::SetFolderExtras(path, *known->traits));
+        if (const auto created = TicksOf(record.dateCreated, Exactly(known, &TreeFolder::created)))
+            if (const std::uint32_t error = FileTimes::SetCreated(path, *created))
+                m_result.creationError = error;
+        if (const auto modified = TicksOf(record.dateModified, Exactly(known, &TreeFolder::modified)))
+            check(FileTimes::SetModified(path, *modified));
+        if (known && known->traits)
+            check(VyrPlatform::SetFolderMode(path, *known->traits));
+        if (firstError)
+            m_result.problems.push_back({known ? known->path : record.sourcePath, TreeFault::FolderNotSet, firstError});
+    }
+
+    [[nodiscard]] MadeFoldersResult Take() { return std::move(m_result); }
+
+private:
+    static std::optional<FileTicks> Exactly(const TreeFolder* known, FileTicks TreeFolder::*time)
+    {
+        return known ? std::optional(known->*time) : std::nullopt;
+    }
+
+    const FoldersByPath m_folders;
+    MadeFoldersResult m_result;
+};
+
+} // namespace
+
+MadeFoldersResult CompleteFolders(const Tree& tree, const TreeRecords& records)
+{
+    FolderCompletion completion(tree);
+    for (auto record = records.rbegin(); record != records.rend(); ++record)
+        completion.Complete(*record);
+    return completion.Take();
+}
+
+} // namespace VyrHost

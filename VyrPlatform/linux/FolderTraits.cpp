@@ -1,0 +1,52 @@
+// What a folder has besides its entries and times, on Linux: owner, mode, extended attributes.
+#include <VyrPlatform/FolderTraits.h>
+
+#include "Descriptor.h"
+#include "FileMetadata.h"
+#include "NativePath.h"
+
+#include <cerrno>
+#include <fcntl.h>
+
+namespace VyrPlatform {
+
+namespace {
+
+Descriptor OpenFolder(const CString& path)
+{
+    return Descriptor(open(NativePath(path).Get(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+}
+
+} // namespace
+
+std::optional<FolderTraits> GetFolderTraits(const CString& path)
+{
+    const Descriptor folder = OpenFolder(path);
+    struct stat status;
+    if (!folder.IsOpen() || fstat(folder.Get(), &status) != 0)
+        return std::nullopt;
+    return FolderTraits{.mode = PermissionsOf(status),
+                        .owner = status.st_uid,
+                        .group = status.st_gid,
+                        .extended = GetExtendedAttributes(folder.Get())};
+}
+
+std::uint32_t SetFolderExtras(const CString& path, const FolderTraits& traits)
+{
+    const Descriptor folder = OpenFolder(path);
+    if (!folder.IsOpen())
+        return static_cast<std::uint32_t>(errno);
+    static_cast<void>(SetOwner(folder.Get(), traits.owner, traits.group));
+    return static_cast<std::uint32_t>(SetExtendedAttributes(folder.Get(), traits.extended));
+}
+
+std::uint32_t SetFolderMode(const CString& path, const FolderTraits& traits)
+{
+    const Descriptor folder = OpenFolder(path);
+    if (!folder.IsOpen())
+        return static_cast<std::uint32_t>(errno);
+    const bool hasOwner = SetOwner(folder.Get(), traits.owner, traits.group);
+    return static_cast<std::uint32_t>(SetPermissions(folder.Get(), traits.mode, hasOwner));
+}
+
+} // namespace VyrPlatform
