@@ -421,9 +421,10 @@ CString Describe(const Damage& damage)
 
 std::string WriteJournal(const Journal& journal, std::uint32_t& check)
 {
-    constexpr std::size_t usualLine = 100;
+    // The line of an entry and that of its step: longer ones make the text grow once more.
+    constexpr std::size_t usualLines = 200;
     std::string text;
-    text.reserve((journal.plan.entries.size() + journal.plan.folders.size() + 2) * usualLine);
+    text.reserve((journal.plan.entries.size() + journal.plan.folders.size() + 2) * usualLines);
     LineWriter writer(text, 0);
     writer.Word(format).Number(version).End();
     WriteHeading(writer, journal);
