@@ -130,10 +130,8 @@ private:
     void Edit()
     {
         std::vector<CString> names;
-        for (std::size_t entry = 0; entry < m_outcome.decisions.size(); ++entry) {
-            const Decision& decision = m_outcome.decisions[entry];
-            names.emplace_back(decision.IsRename() ? decision.name : List().entries[entry].name);
-        }
+        for (std::size_t entry = 0; entry < m_outcome.decisions.size(); ++entry)
+            names.push_back(NameForEditing(List().entries[entry], m_outcome.decisions[entry]));
         const VyrPlatform::EditedText edited = VyrPlatform::EditText(TextForEditing(names));
         if (!edited.text)
             throw UsageError(SafeText(edited.error));
@@ -141,6 +139,16 @@ private:
         m_outcome = {};
         List().ForgetHolders();
         Decide(Groups::OfOne(List()));
+    }
+
+    /// With its folder as it is shown: a bare name would leave the entry where it is.
+    [[nodiscard]] CString NameForEditing(const Entry& entry, const Decision& decision)
+    {
+        if (!decision.IsRename())
+            return CString::Join({List().folders[entry.folder].shown, entry.name});
+        const CString& shown = List().folders[decision.folder].shown;
+        const bool goesToCurrentFolder = shown.IsEmpty() && decision.folder != entry.folder;
+        return CString::Join({goesToCurrentFolder ? std::u16string_view(u"./") : shown.View(), decision.name});
     }
 
     [[nodiscard]] bool HasConflict() const

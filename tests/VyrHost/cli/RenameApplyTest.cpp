@@ -2,6 +2,7 @@
 #include "VyrProgram.h"
 
 #include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/FileSystem.h>
 
 #include <gmock/gmock.h>
 #include <tests/support/PictureBuilder.h>
@@ -161,6 +162,32 @@ TEST_F(RenameApply, LetsTheNamesBeEdited)
     m_environment[u"EDITOR"] = editor + u" 2 7";
     EXPECT_EQ(Rename({u"--edit", u"--apply", u"*.txt"}).exitCode, 2);
     EXPECT_TRUE(m_folder.Has(u"two!.txt"));
+}
+
+TEST_F(RenameApply, NamesAreEditedWithTheirFolders)
+{
+    m_folder.WriteFile(u"a/one", "1");
+    m_folder.WriteFile(u"b/one", "2");
+    const CString separator(VyrPlatform::FileSystem::Separator(), 1);
+    const CString editor = CString::Join({u"\"", BesideThisProgram(u"EditorProbe"), u"\""});
+    m_environment[u"VISUAL"] = std::nullopt;
+    m_environment[u"EDITOR"] = CString::Join({editor, u" a", separator, u"one b", separator, u"three"});
+    const ProgramResult result = Rename({u"--edit", u"--suffix", u"!", u"--apply", u"-r", u"a", u"b"});
+    EXPECT_EQ(result.exitCode, 0) << result.output << result.errors;
+    EXPECT_EQ(m_folder.ReadFile(u"b/three!"), "1");
+    EXPECT_EQ(m_folder.ReadFile(u"b/one!"), "2");
+}
+
+TEST_F(RenameApply, EditedNamesKeepTheFoldersThatADateGivesThem)
+{
+    m_folder.WriteFile(u"a/one", "1");
+    m_folder.WriteFile(u"two", "2");
+    m_environment[u"VISUAL"] = std::nullopt;
+    m_environment[u"EDITOR"] = CString::Join({u"\"", BesideThisProgram(u"EditorProbe"), u"\" one three"});
+    const ProgramResult result = Rename({u"--edit", u"--date", u"'new'<Folder><Name>", u"--apply", u"-r", u"."});
+    EXPECT_EQ(result.exitCode, 0) << result.output << result.errors;
+    EXPECT_EQ(m_folder.ReadFile(u"a/new/three"), "1");
+    EXPECT_EQ(m_folder.ReadFile(u"new/two"), "2");
 }
 
 TEST_F(RenameApply, UndoTakesTheLastBatchOrOneByItsNumberBack)
