@@ -20,6 +20,7 @@
 #include <VyrPlatform/Console.h>
 #include <VyrPlatform/Editor.h>
 #include <VyrPlatform/FileReader.h>
+#include <VyrPlatform/FileSystem.h>
 #include <VyrPlatform/Interrupt.h>
 #include <VyrPlatform/Process.h>
 
@@ -145,10 +146,18 @@ private:
     [[nodiscard]] CString NameForEditing(const Entry& entry, const Decision& decision)
     {
         if (!decision.IsRename())
-            return CString::Join({List().folders[entry.folder].shown, entry.name});
-        const CString& shown = List().folders[decision.folder].shown;
-        const bool goesToCurrentFolder = shown.IsEmpty() && decision.folder != entry.folder;
-        return CString::Join({goesToCurrentFolder ? std::u16string_view(u"./") : shown.View(), decision.name});
+            return CString::Join({FolderForEditing(entry.folder), entry.name});
+        const CString folder = FolderForEditing(decision.folder);
+        const bool goesToCurrentFolder = folder.IsEmpty() && decision.folder != entry.folder;
+        return CString::Join({goesToCurrentFolder ? std::u16string_view(u"./") : folder.View(), decision.name});
+    }
+
+    /// With slashes on every system: a backslash would begin an escape.
+    [[nodiscard]] CString FolderForEditing(std::uint32_t folder)
+    {
+        std::u16string text(List().folders[folder].shown.View());
+        std::replace(text.begin(), text.end(), VyrPlatform::FileSystem::Separator(), u'/');
+        return CString(std::u16string_view(text));
     }
 
     [[nodiscard]] bool HasConflict() const

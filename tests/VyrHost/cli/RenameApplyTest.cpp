@@ -2,7 +2,6 @@
 #include "VyrProgram.h"
 
 #include <VyrPlatform/Encoding.h>
-#include <VyrPlatform/FileSystem.h>
 
 #include <gmock/gmock.h>
 #include <tests/support/PictureBuilder.h>
@@ -168,10 +167,9 @@ TEST_F(RenameApply, NamesAreEditedWithTheirFolders)
 {
     m_folder.WriteFile(u"a/one", "1");
     m_folder.WriteFile(u"b/one", "2");
-    const CString separator(VyrPlatform::FileSystem::Separator(), 1);
     const CString editor = CString::Join({u"\"", BesideThisProgram(u"EditorProbe"), u"\""});
     m_environment[u"VISUAL"] = std::nullopt;
-    m_environment[u"EDITOR"] = CString::Join({editor, u" a", separator, u"one b", separator, u"three"});
+    m_environment[u"EDITOR"] = editor + u" a/one b/three";
     const ProgramResult result = Rename({u"--edit", u"--suffix", u"!", u"--apply", u"-r", u"a", u"b"});
     EXPECT_EQ(result.exitCode, 0) << result.output << result.errors;
     EXPECT_EQ(m_folder.ReadFile(u"b/three!"), "1");
