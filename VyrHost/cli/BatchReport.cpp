@@ -9,6 +9,16 @@
 
 namespace VyrHost {
 
+namespace {
+
+/// A batch of which no entry could be renamed has no number either, but then each entry says why.
+bool WasBlocked(const BatchSummary& summary)
+{
+    return summary.number == 0 && !summary.error.IsEmpty();
+}
+
+} // namespace
+
 BatchReport::BatchReport(const char* what, std::size_t total, BatchReportStyle style)
     : m_style(style), m_progress(what, total, style.json || style.quiet)
 {}
@@ -32,8 +42,9 @@ int BatchReport::Write(const BatchSummary& summary)
         VyrPlatform::Console::Write(VyrPlatform::Console::Stream::Error, SummaryOf(summary));
     } else {
         WriteEntryTable(output, m_entries, m_style.direction);
-        if (!m_style.quiet && summary.number != 0)
-            output << "Batch " << std::to_string(summary.number) << ": " << SummaryOf(summary);
+        if (!m_style.quiet && !WasBlocked(summary))
+            output << (summary.number != 0 ? "Batch " + std::to_string(summary.number) + ": " : "")
+                   << SummaryOf(summary);
     }
     output.Flush();
     const int code = JudgeSummary(summary);
@@ -50,7 +61,7 @@ int JudgeSummary(const BatchSummary& summary)
                  std::to_string(summary.number) + "\" tries again");
     if (!summary.error.IsEmpty())
         Complain(SafeText(summary.error));
-    if (summary.number == 0)
+    if (WasBlocked(summary))
         return ExitCode::Blocked;
     if (summary.wasStopped)
         return ExitCode::Interrupted;

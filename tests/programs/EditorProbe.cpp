@@ -1,5 +1,6 @@
 // For tests: an editor. It takes FIND, WITH and a file, puts WITH in place of every FIND in the file, and ends with 0;
-// where FIND is "fail" it ends with 3 and changes nothing.
+// where FIND is "fail" it ends with 3 and changes nothing, and where it is "remove" it removes the file WITH instead.
+#include <cstdio>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -12,6 +13,8 @@ int main(int count, char** arguments)
     const std::string with = arguments[2];
     if (find == "fail")
         return 3;
+    if (find == "remove")
+        return std::remove(with.c_str()) == 0 ? 0 : 1;
     std::ifstream input(arguments[3], std::ios::binary);
     std::ostringstream content;
     content << input.rdbuf();

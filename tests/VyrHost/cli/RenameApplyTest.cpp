@@ -51,6 +51,26 @@ TEST_F(RenameApply, NothingToRenameMakesNoBatch)
     EXPECT_EQ(Run({u"undo", u"--list"}).output, "");
 }
 
+TEST_F(RenameApply, ABatchOfWhichNothingCanBeDoneSaysWhyOfEachEntry)
+{
+    m_folder.WriteFile(u"d/x", "1");
+    ProgramResult result = Rename({u"--pairs", u"-", u"--apply"}, "d,d/d\n");
+    EXPECT_EQ(result.exitCode, 1) << result.errors;
+    EXPECT_THAT(result.output, AllOf(HasSubstr("refused: "), HasSubstr("Nothing was renamed.\n")));
+
+    // What goes after the names were made fails when they are applied.
+    m_folder.WriteFile(u"gone", "2");
+    m_environment[u"VISUAL"] = std::nullopt;
+    m_environment[u"EDITOR"] = CString::Join({u"\"", BesideThisProgram(u"EditorProbe"), u"\" remove gone"});
+    result = Rename({u"--edit", u"--suffix", u"!", u"--apply", u"gone"});
+    EXPECT_EQ(result.exitCode, 1) << result.errors;
+    EXPECT_THAT(result.output, HasSubstr("gone  ->  gone!  failed: "));
+    EXPECT_THAT(result.output, HasSubstr("1 entry: 1 failed.\nNothing was renamed.\n"));
+    m_folder.WriteFile(u"gone", "2");
+    EXPECT_EQ(Rename({u"--edit", u"--suffix", u"!", u"--apply", u"--quiet", u"gone"}).exitCode, 1);
+    EXPECT_EQ(Run({u"undo", u"--list"}).output, "");
+}
+
 TEST_F(RenameApply, FailsAsAWholeOnRequest)
 {
     m_folder.WriteFile(u"a1");
