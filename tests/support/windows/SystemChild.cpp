@@ -133,6 +133,27 @@ CString EnvironmentBlock(const ProgramCall& call)
     return block;
 }
 
+/// Once in some thousand starts Wine answers ERROR_INTERNAL_ERROR: the new process ended before it was initialised.
+/// None of the program's own code ran, so nothing is done twice when it is started again. Windows does not do this.
+PROCESS_INFORMATION Start(const ProgramCall& call, STARTUPINFOW& start, DWORD flags)
+{
+    constexpr int mostTries = 5;
+    const CString line = CommandLine(call);
+    const CString environment = EnvironmentBlock(call);
+    std::wstring block(ToWide(environment), static_cast<std::size_t>(environment.GetLength()));
+    for (int tries = 1;; ++tries) {
+        std::wstring writableLine(ToWide(line));
+        PROCESS_INFORMATION process{};
+        if (::CreateProcessW(ToWide(call.program), writableLine.data(), nullptr, nullptr, TRUE,
+                             CREATE_UNICODE_ENVIRONMENT | flags, block.data(),
+                             call.folder.IsEmpty() ? nullptr : ToWide(call.folder), &start, &process))
+            return process;
+        if (::GetLastError() != ERROR_INTERNAL_ERROR || tries == mostTries)
+            Fail("CreateProcessW");
+        ::Sleep(100);
+    }
+}
+
 } // namespace
 
 struct SystemChild::Handles
@@ -157,15 +178,7 @@ SystemChild::SystemChild(const ProgramCall& call) : m_handles(std::make_unique<H
     start.hStdError = m_handles->errors.writer.Get();
     if (call.isOutputClosed)
         m_handles->output.reader.Close();
-    const CString line = CommandLine(call);
-    std::wstring writableLine(ToWide(line));
-    CString environment = EnvironmentBlock(call);
-    std::wstring block(ToWide(environment), static_cast<std::size_t>(environment.GetLength()));
-    PROCESS_INFORMATION process{};
-    if (!::CreateProcessW(ToWide(call.program), writableLine.data(), nullptr, nullptr, TRUE,
-                          CREATE_UNICODE_ENVIRONMENT | (m_handles->isConsoleOwn ? 0 : CREATE_NEW_PROCESS_GROUP),
-                          block.data(), call.folder.IsEmpty() ? nullptr : ToWide(call.folder), &start, &process))
-        Fail("CreateProcessW");
+    const PROCESS_INFORMATION process = Start(call, start, m_handles->isConsoleOwn ? 0 : CREATE_NEW_PROCESS_GROUP);
     ::CloseHandle(process.hThread);
     m_handles->process = Handle(process.hProcess);
     m_handles->group = m_handles->isConsoleOwn ? 0 : process.dwProcessId;
