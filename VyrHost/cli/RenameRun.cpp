@@ -8,6 +8,7 @@
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/entries/EditedList.h>
 #include <VyrHost/entries/Pairs.h>
+#include <VyrHost/files/FileOperations.h>
 #include <VyrHost/output/JsonLines.h>
 #include <VyrHost/output/OutcomeRows.h>
 #include <VyrHost/output/Progress.h>
@@ -15,6 +16,7 @@
 #include <VyrHost/output/Summary.h>
 #include <VyrHost/output/Table.h>
 #include <VyrHost/output/Words.h>
+#include <VyrHost/plan/Planner.h>
 #include <VyrHost/preview/GivenNames.h>
 #include <VyrHost/preview/PlannedRenames.h>
 #include <VyrPlatform/Console.h>
@@ -119,6 +121,31 @@ private:
         for (std::uint32_t entry = 0; entry < m_outcome.decisions.size(); ++entry)
             if (m_outcome.decisions[entry].reason == Reason::FolderNotRead)
                 m_outcome.causes.emplace(entry, WhyNotRead(entry));
+        if (MovesAFolder())
+            RefuseWhatHasNoPlan();
+    }
+
+    [[nodiscard]] bool MovesAFolder()
+    {
+        const std::vector<Entry>& entries = List().entries;
+        for (std::size_t index = 0; index < entries.size(); ++index) {
+            const Decision& decision = m_outcome.decisions[index];
+            if (decision.IsRename() && decision.folder != entries[index].folder &&
+                entries[index].kind == VyrPlatform::FileSystem::Kind::Folder)
+                return true;
+        }
+        return false;
+    }
+
+    /// A folder that would end up inside itself, and what needs its name: only the plan as a whole shows them.
+    void RefuseWhatHasNoPlan()
+    {
+        const PlannedRenames planned = PlanOf(List(), m_outcome.decisions);
+        const PlannerResult plan =
+            PlanRenames(planned.list, [](const CString& path) { return SystemFiles().GetNameFolding(path); });
+        for (const PlanRefusal& refusal : plan.refused)
+            Note(planned.entries[refusal.index],
+                 {.outcome = RenameOutcome::Refused, .error = 0, .reason = refusal.reason});
     }
 
     [[nodiscard]] CString WhyNotRead(std::uint32_t entry) const

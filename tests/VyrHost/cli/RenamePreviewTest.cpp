@@ -151,3 +151,22 @@ TEST_F(RenamePreview, ShowsAFoldersFilesWithTheFolderAsItWasNamed)
     EXPECT_EQ(result.output, "d" + slash + "b    ->  xb\nd" + slash + "e" + slash + "a  ->  xa\n" +
                                  "2 entries: 2 renamed.\nThis is a preview: nothing was changed.\n");
 }
+
+TEST_F(RenamePreview, AFolderThatWouldEndUpInsideItselfIsRefused)
+{
+    m_folder.WriteFile(u"d/x");
+    m_folder.WriteFile(u"e");
+    const ProgramResult result = Rename({u"--pairs", u"-"}, "d,d/in/d\ne,d\n");
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.output, HasSubstr("refused: the folder would end up inside itself\n"));
+    EXPECT_THAT(result.output, HasSubstr("refused: the new path is taken by an entry that keeps it\n"));
+    EXPECT_THAT(result.output, HasSubstr("2 entries: 2 refused.\n"));
+    // As when a call that sorts by date is given once more, with the folder that it made.
+    const ProgramResult again = Rename({u"--date", u"'d'<Folder><Name>", u"d", u"e"});
+    EXPECT_EQ(again.exitCode, 1);
+    EXPECT_THAT(again.output, HasSubstr("refused: the folder would end up inside itself\n"));
+    EXPECT_THAT(again.output, HasSubstr("2 entries: 1 renamed, 1 refused.\n"));
+    // Each of two folders may not go into the other.
+    m_folder.WriteFile(u"f/x");
+    EXPECT_THAT(Rename({u"--pairs", u"-"}, "d,f/d\nf,d/f\n").output, HasSubstr("2 entries: 2 refused.\n"));
+}

@@ -323,6 +323,29 @@ TEST(RenameContract, FolderThatCannotBeMadeGetsNoRecordAndItsContentsFail)
     }
 }
 
+TEST(RenameContract, FolderWhoseMakingFailsIsWalkedAllTheSame)
+{
+    for (const Operation operation : operations) {
+        const ScratchFolder scratch;
+        for (const char16_t* const name : {u"s/a/1", u"s/a/2", u"s/a/3"})
+            scratch.WriteFile(name, "x");
+        // Nothing stands at the new path of "a", nor can anything.
+        scratch.WriteFile(u"d", "a file");
+        const VyrTests::MessagePosting queue;
+        const VyrTests::EmptiedQueue emptied;
+        int handled = 0;
+        for (int i = 0; i < 20; ++i)
+            queue.PostWork([&handled] { ++handled; });
+        Records records;
+        EXPECT_EQ(operation(scratch.Path(u"s"), scratch.Path(u"d"), &records), 0);
+        // "." and ".." twice, a, and its three files.
+        EXPECT_EQ(handled, 8);
+        EXPECT_TRUE(records.empty());
+        EXPECT_EQ(NamesIn(scratch.Path(u"s/a")).size(), 3U);
+        EXPECT_EQ(scratch.ReadFile(u"d"), "a file");
+    }
+}
+
 TEST(RenameContract, MoveReplacesAnExistingFile)
 {
     const ScratchFolder scratch;
@@ -382,4 +405,18 @@ TEST(RenameContract, FileThatGoesAwayDuringTheWalkIsLeftOut)
         EXPECT_EQ(operation(scratch.Path(u"s"), scratch.Path(u"d"), nullptr), operation == operations.front() ? 0 : 1);
         EXPECT_FALSE(scratch.Has(u"d/a"));
     }
+}
+
+TEST(RenameContract, FileThatGoesAwayLeavesTheResultOfTheOneBefore)
+{
+    const ScratchFolder scratch;
+    for (const char16_t* const name : {u"s/a", u"s/b", u"s/c"})
+        scratch.WriteFile(name, "x");
+    scratch.MakeFolder(u"d");
+    const CString last = scratch.Path(u"s/" + NamesIn(scratch.Path(u"s")).back());
+    const VyrTests::MessagePosting queue;
+    const VyrTests::EmptiedQueue emptied;
+    queue.PostWork([&last] { std::filesystem::remove(VyrTests::ToStdPath(last)); });
+    EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"s"), scratch.Path(u"d"), nullptr), 1);
+    EXPECT_EQ(NamesIn(scratch.Path(u"d")).size(), 2U);
 }
