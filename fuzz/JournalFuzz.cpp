@@ -11,7 +11,9 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string>
+#include <string_view>
 
 using namespace VyrHost;
 
@@ -91,6 +93,20 @@ void CheckRoundTrip(const Journal& journal)
     Require(textAgain == text && again->check == check);
 }
 
+/// What is read from the end alone says the same as the whole.
+void CheckLastMark(const std::optional<Journal>& journal, std::string_view text)
+{
+    const std::size_t entries = journal ? journal->plan.entries.size() : 1000;
+    const std::optional<MarkOutline> mark = ReadLastMark(FindMarks(text), entries);
+    Require(!mark || mark->entriesBefore + mark->entriesAside <= entries);
+    if (!journal || !mark)
+        return;
+    Require(journal->mark && journal->mark->isBackward == mark->isBackward &&
+            journal->mark->wasStopped == mark->wasStopped);
+    Require(journal->mark->entriesBefore.size() == mark->entriesBefore &&
+            journal->mark->entriesAside.size() == mark->entriesAside);
+}
+
 void CheckText(std::string_view text)
 {
     CString problem;
@@ -100,6 +116,7 @@ void CheckText(std::string_view text)
         CheckPlan(*journal);
         CheckRoundTrip(*journal);
     }
+    CheckLastMark(journal, text);
     CString headingProblem;
     Require(ReadHeading(text, headingProblem).has_value() || !journal);
 }

@@ -167,6 +167,8 @@ void BatchWork::Close(Direction direction)
 JournalMark BatchWork::MakeMark(Direction direction) const
 {
     JournalMark mark;
+    mark.isBackward = direction == Direction::Backward;
+    mark.wasStopped = m_summary.wasStopped;
     for (PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry) {
         const Standing standing = m_progress.Of(entry);
         // What is not found after it was to be done counts as not done; what is not found when it is taken back may be

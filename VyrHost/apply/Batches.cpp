@@ -67,6 +67,20 @@ BatchState StateOf(BatchPhase phase)
     return BatchState::Applied;
 }
 
+/// What the journal's last mark tells. It may be of the work before, where that of the last one is missing.
+void AddProgress(BatchInformation& information, const std::optional<MarkOutline>& mark)
+{
+    if (!mark)
+        return;
+    const std::size_t renamed = information.entries - mark->entriesBefore - mark->entriesAside;
+    if (information.state == BatchState::TakenBack && !mark->isBackward && renamed > 0)
+        return;
+    information.renamed = renamed;
+    information.wasStopped = mark->wasStopped;
+    if (information.state == BatchState::Applied && mark->isBackward)
+        information.state = BatchState::TakenBackInPart;
+}
+
 BatchInformation Describe(const JournalFolder& folder, const JournalFile& file)
 {
     // More than the two longest paths take.
@@ -88,6 +102,8 @@ BatchInformation Describe(const JournalFolder& folder, const JournalFile& file)
     information.entries = heading->entries;
     information.firstFrom = heading->firstFrom;
     information.firstTo = heading->firstTo;
+    if (file.phase == BatchPhase::Applied || file.phase == BatchPhase::TakenBack)
+        AddProgress(information, ReadLastMark(folder.ReadMarks(file), information.entries));
     return information;
 }
 

@@ -20,6 +20,8 @@ enum class BatchState : std::uint8_t
 {
     /// Its work has ended; what was done can be taken back.
     Applied,
+    /// The work of taking it back has ended, and left some of it.
+    TakenBackInPart,
     TakenBack,
     /// It was cut off while it was applied.
     CutOff,
@@ -39,12 +41,23 @@ struct BatchInformation
     CString started;
     /// How many renames it was to do.
     std::size_t entries = 0;
+    /// How many of them are done and not taken back; when it was taken back, those that were not found count, too.
+    /// Nothing where the journal does not tell: the batch or the last lines of its journal were cut off.
+    std::optional<std::size_t> renamed;
+    /// The last work on it ended because it was asked to.
+    bool wasStopped = false;
     /// The first of them.
     CString firstFrom;
     CString firstTo;
     /// For people; empty unless the batch is damaged.
     CString problem;
 };
+
+/// Whether there may be something of a batch to take back.
+[[nodiscard]] inline bool IsToTakeBack(BatchState state)
+{
+    return state == BatchState::Applied || state == BatchState::TakenBackInPart;
+}
 
 /// What became of one entry of a batch that is taken back or recovered.
 struct BatchEntry

@@ -22,13 +22,13 @@ namespace VyrHost {
 
 namespace {
 
-/// How many entries the batch `number`, or the latest that is not taken back, has.
+/// How many entries the batch `number`, or the latest that is not taken back, has to take back.
 std::size_t CountEntries(const std::vector<BatchInformation>& batches, std::optional<std::uint32_t> number)
 {
     const auto found = std::find_if(batches.begin(), batches.end(), [number](const BatchInformation& batch) {
-        return number ? batch.number == *number : batch.state == BatchState::Applied;
+        return number ? batch.number == *number : IsToTakeBack(batch.state);
     });
-    return found == batches.end() ? 0 : found->entries;
+    return found == batches.end() ? 0 : found->renamed.value_or(found->entries);
 }
 
 } // namespace

@@ -73,6 +73,13 @@ std::optional<JournalFile> FileOf(const CString& name, const CString& path)
     return {};
 }
 
+std::string ReadPart(const VyrPlatform::FileReader& reader, std::uint64_t offset, std::uint64_t count)
+{
+    std::string text(static_cast<std::size_t>(count), '\0');
+    text.resize(reader.ReadAt(offset, std::as_writable_bytes(std::span(text))));
+    return text;
+}
+
 } // namespace
 
 JournalFolder::JournalFolder(FileOperations& files, const CString& path) : m_files(files), m_path(path) {}
@@ -121,9 +128,21 @@ std::optional<std::string> JournalFolder::Read(const JournalFile& file, std::uin
     error = reader.Error();
     if (!reader.IsOpen())
         return {};
-    std::string text(static_cast<std::size_t>(std::min(reader.Size(), count)), '\0');
-    text.resize(reader.ReadAt(0, std::as_writable_bytes(std::span(text))));
-    return text;
+    return ReadPart(reader, 0, std::min(reader.Size(), count));
+}
+
+std::string JournalFolder::ReadMarks(const JournalFile& file) const
+{
+    // More than most marks take.
+    constexpr std::uint64_t firstCount = 4096;
+    const VyrPlatform::FileReader reader(file.path);
+    for (std::uint64_t count = firstCount;; count *= 4) {
+        const std::uint64_t offset = reader.Size() - std::min(reader.Size(), count);
+        const std::string tail = ReadPart(reader, offset, reader.Size() - offset);
+        const std::string_view marks = FindMarks(tail);
+        if (!marks.empty() || offset == 0)
+            return std::string(marks);
+    }
 }
 
 std::uint32_t JournalFolder::Begin(Journal& journal, JournalFile& file)

@@ -57,6 +57,10 @@ public:
     [[nodiscard]] std::optional<std::string> Read(const JournalFile& file, std::uint32_t& error,
                                                   std::uint64_t count = ~std::uint64_t{0}) const;
 
+    /// The marks of a journal, as FindMarks gives them: read from its end on, as far back as they reach. Empty when it
+    /// has none, or cannot be read.
+    [[nodiscard]] std::string ReadMarks(const JournalFile& file) const;
+
     // Under the lock.
 
     /// Gives `journal` the next number, and has it on the disk, for good, before it returns: then the work may begin.

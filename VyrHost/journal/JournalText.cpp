@@ -23,6 +23,8 @@ constexpr std::uint32_t version = 1;
 constexpr char noneText = '-';
 constexpr std::size_t checkLength = 8;
 constexpr std::size_t stepsInLine = 1000;
+constexpr std::array<std::pair<bool, char>, 2> directions{{{false, 'f'}, {true, 'b'}}};
+constexpr std::array<std::pair<bool, char>, 2> ends{{{false, 'e'}, {true, 's'}}};
 constexpr std::array<std::pair<Kind, char>, 4> kinds{
     {{Kind::File, 'f'}, {Kind::Folder, 'd'}, {Kind::Other, 'o'}, {Kind::Missing, noneText}}};
 constexpr std::array<std::pair<PlanStep::Action, char>, 3> actions{
@@ -190,6 +192,13 @@ public:
             return false;
         }
     }
+    /// Goes past a line whose check cannot be told to be right or wrong.
+    /// @return that check.
+    std::uint32_t Skip()
+    {
+        TakeLine();
+        return m_lineCheck;
+    }
     [[nodiscard]] bool HasMore() const { return !m_text.empty(); }
     [[nodiscard]] bool HasMoreFields() const { return !m_isAtEnd; }
 
@@ -235,12 +244,18 @@ public:
     std::vector<PlanIndex> Ranges(std::size_t bound)
     {
         std::vector<PlanIndex> indexes;
-        for (std::string_view rest = Word(); !rest.empty();) {
-            const std::size_t end = std::min(rest.find(','), rest.size());
-            AppendRange(rest.substr(0, end), bound, indexes);
-            rest.remove_prefix(std::min(end + 1, rest.size()));
-        }
+        ForEachRange(bound, [&indexes](std::size_t first, std::size_t behind) {
+            for (; first < behind; ++first)
+                indexes.push_back(static_cast<PlanIndex>(first));
+        });
         return indexes;
+    }
+    /// How many Ranges would give.
+    std::size_t CountOfRanges(std::size_t bound)
+    {
+        std::size_t count = 0;
+        ForEachRange(bound, [&count](std::size_t first, std::size_t behind) { count += behind - first; });
+        return count;
     }
     void End() const
     {
@@ -284,15 +299,23 @@ private:
                 return value;
         Fail(u"a letter has no meaning");
     }
-    void AppendRange(std::string_view range, std::size_t bound, std::vector<PlanIndex>& indexes) const
+    /// Calls `use` with the first index of each range, and the one behind its last.
+    template <class Use>
+    void ForEachRange(std::size_t bound, Use use)
     {
-        const std::size_t dash = range.find('-');
-        const auto first = ParseNumber<PlanIndex>(range.substr(0, dash));
-        const auto last = dash == range.npos ? first : ParseNumber<PlanIndex>(range.substr(dash + 1));
-        if (last < first || last >= bound || (!indexes.empty() && first <= indexes.back()))
-            Fail(u"a range is out of order");
-        for (PlanIndex index = first; index <= last; ++index)
-            indexes.push_back(index);
+        std::size_t least = 0;
+        for (std::string_view rest = Word(); !rest.empty();) {
+            const std::size_t end = std::min(rest.find(','), rest.size());
+            const std::string_view range = rest.substr(0, end);
+            const std::size_t dash = range.find('-');
+            const auto first = ParseNumber<PlanIndex>(range.substr(0, dash));
+            const auto last = dash == range.npos ? first : ParseNumber<PlanIndex>(range.substr(dash + 1));
+            if (first < least || last < first || last >= bound)
+                Fail(u"a range is out of order");
+            least = std::size_t{last} + 1;
+            use(first, least);
+            rest.remove_prefix(std::min(end + 1, rest.size()));
+        }
     }
 
     std::string_view m_text;
@@ -396,18 +419,42 @@ void ReadPlan(LineReader& reader, const Counts& counts, Journal& journal)
     LinkFolders(reader, journal.plan);
 }
 
-void ReadMarks(LineReader& reader, Journal& journal)
+/// The last whole mark, each read by `read`.
+template <class Read>
+auto ReadMarks(LineReader& reader, std::uint32_t check, Read read)
 {
+    std::optional<decltype(read())> last;
     while (reader.HasMore()) {
-        if (!reader.NextMark(journal.check))
+        if (!reader.NextMark(check))
             continue;
-        JournalMark mark;
-        mark.entriesBefore = reader.Ranges(journal.plan.entries.size());
-        mark.entriesAside = reader.Ranges(journal.plan.entries.size());
-        mark.foldersMade = reader.Ranges(journal.plan.folders.size());
+        last = read();
         reader.End();
-        journal.mark = std::move(mark);
     }
+    return last;
+}
+
+JournalMark ReadMark(LineReader& reader, const RenamePlan& plan)
+{
+    JournalMark mark;
+    mark.isBackward = reader.Letter(directions);
+    mark.wasStopped = reader.Letter(ends);
+    mark.entriesBefore = reader.Ranges(plan.entries.size());
+    mark.entriesAside = reader.Ranges(plan.entries.size());
+    mark.foldersMade = reader.Ranges(plan.folders.size());
+    return mark;
+}
+
+MarkOutline ReadMarkOutline(LineReader& reader, std::size_t entries)
+{
+    MarkOutline mark;
+    mark.isBackward = reader.Letter(directions);
+    mark.wasStopped = reader.Letter(ends);
+    mark.entriesBefore = reader.CountOfRanges(entries);
+    mark.entriesAside = reader.CountOfRanges(entries);
+    if (mark.entriesAside > entries - mark.entriesBefore)
+        reader.Fail(u"an entry stands at two places");
+    reader.CountOfRanges(none);
+    return mark;
 }
 
 CString Describe(const Damage& damage)
@@ -443,7 +490,8 @@ std::string WriteMark(const JournalMark& mark, std::uint32_t check)
     // The line before may have been cut off.
     std::string text = "\n";
     LineWriter writer(text, check);
-    writer.Word("mark").Ranges(mark.entriesBefore).Ranges(mark.entriesAside).Ranges(mark.foldersMade).End();
+    writer.Word("mark").Letter(LetterOf(directions, mark.isBackward)).Letter(LetterOf(ends, mark.wasStopped));
+    writer.Ranges(mark.entriesBefore).Ranges(mark.entriesAside).Ranges(mark.foldersMade).End();
     return text;
 }
 
@@ -459,7 +507,7 @@ std::optional<Journal> ReadJournal(std::string_view text, CString& problem)
         problem = FindPlanFault(journal.plan);
         if (!problem.IsEmpty())
             return {};
-        ReadMarks(reader, journal);
+        journal.mark = ReadMarks(reader, journal.check, [&] { return ReadMark(reader, journal.plan); });
         return journal;
     } catch (const Damage& damage) {
         problem = Describe(damage);
@@ -475,6 +523,23 @@ std::optional<JournalHeading> ReadHeading(std::string_view text, CString& proble
         return ReadHeadingLines(reader, counts);
     } catch (const Damage& damage) {
         problem = Describe(damage);
+        return {};
+    }
+}
+
+std::string_view FindMarks(std::string_view tail)
+{
+    const std::size_t before = tail.find("\nend\t");
+    return before == tail.npos ? std::string_view() : tail.substr(before + 1);
+}
+
+std::optional<MarkOutline> ReadLastMark(std::string_view marks, std::size_t entries)
+{
+    try {
+        LineReader reader(marks);
+        const std::uint32_t check = reader.Skip();
+        return ReadMarks(reader, check, [&reader, entries] { return ReadMarkOutline(reader, entries); });
+    } catch (const Damage&) {
         return {};
     }
 }

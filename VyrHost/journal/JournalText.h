@@ -9,7 +9,8 @@
 ///     entry        kind  device  number  size  modified  links  folder  name  new folder  new name  itself  waits for
 ///     steps        m(ake), a(side) or r(ename) with the number of the folder or entry, in order
 ///     end
-///     mark         entries that stand at their old paths  entries set aside  folders that the batch has made
+///     mark         f(orward) or b(ackward)  e(nded) or s(topped)  entries that stand at their old paths
+///                  entries set aside  folders that the batch has made
 ///
 /// Numbers are decimal; folders and entries are numbered from 0 in the order of their lines, "-" stands for none. The
 /// check is the CRC-32, in eight hexadecimal digits, of all fields up to there from the start of the text; of a mark,
@@ -44,10 +45,23 @@ struct JournalHeading
 /// How far a batch came.
 struct JournalMark
 {
+    /// The work that ended was to take the batch back.
+    bool isBackward = false;
+    /// It ended because it was asked to.
+    bool wasStopped = false;
     /// In rising order.
     std::vector<PlanIndex> entriesBefore;
     std::vector<PlanIndex> entriesAside;
     std::vector<PlanIndex> foldersMade;
+};
+
+/// What a mark says, in numbers.
+struct MarkOutline
+{
+    bool isBackward = false;
+    bool wasStopped = false;
+    std::size_t entriesBefore = 0;
+    std::size_t entriesAside = 0;
 };
 
 struct Journal
@@ -73,5 +87,14 @@ struct Journal
 [[nodiscard]] std::optional<Journal> ReadJournal(std::string_view text, CString& problem);
 /// The heading alone, from the first part of a journal.
 [[nodiscard]] std::optional<JournalHeading> ReadHeading(std::string_view text, CString& problem);
+
+/// The marks of a journal, with the line "end" before them.
+/// @param tail  the last part of a journal, from anywhere on.
+/// @return empty when `tail` does not reach back to them.
+[[nodiscard]] std::string_view FindMarks(std::string_view tail);
+/// The last whole one of `marks`, as FindMarks gives them.
+/// @param entries  how many the batch has.
+/// @return nothing when there is none.
+[[nodiscard]] std::optional<MarkOutline> ReadLastMark(std::string_view marks, std::size_t entries);
 
 } // namespace VyrHost

@@ -21,6 +21,8 @@ std::u16string_view WordFor(BatchState state)
     switch (state) {
     case BatchState::Applied:
         return u"applied";
+    case BatchState::TakenBackInPart:
+        return u"taken back in part";
     case BatchState::TakenBack:
         return u"taken back";
     case BatchState::CutOff:
@@ -86,13 +88,41 @@ TableRow RowOf(const BatchEntry& entry, BatchDirection direction)
             ToneOf(entry)};
 }
 
+/// The state, for people.
+std::u16string_view StateOf(const BatchInformation& batch)
+{
+    if (batch.wasStopped && batch.state == BatchState::Applied)
+        return u"stopped";
+    if (batch.wasStopped && batch.state == BatchState::TakenBackInPart)
+        return u"stopped while it was taken back";
+    return WordFor(batch.state);
+}
+
+/// Of how many entries the state holds, and what of the others.
+CString ExtentOf(const BatchInformation& batch)
+{
+    const std::u16string_view entries = batch.entries == 1 ? u"entry" : u"entries";
+    CString text;
+    if (!batch.renamed)
+        text.Format(u"at most %u %s", batch.entries, entries);
+    else if (*batch.renamed == (batch.state == BatchState::TakenBack ? 0 : batch.entries))
+        text.Format(u"%u %s", batch.entries, entries);
+    else
+        text.Format(u"%u of %u %s%s", *batch.renamed, batch.entries, entries,
+                    std::u16string_view(batch.state == BatchState::TakenBack         ? u" not found"
+                                        : batch.state == BatchState::TakenBackInPart ? u" left"
+                                                                                     : u""));
+    return text;
+}
+
 CString LineOf(const BatchInformation& batch)
 {
     CString line;
-    line.Format(u"%u  %s  %s, %u %s  ", batch.number, batch.started, WordFor(batch.state), batch.entries,
-                std::u16string_view(batch.entries == 1 ? u"entry" : u"entries"));
-    return batch.problem.IsEmpty() ? CString::Join({line, batch.firstFrom, u" -> ", batch.firstTo})
-                                   : line + batch.problem;
+    line.Format(u"%u  %s  ", batch.number, batch.started);
+    if (batch.state == BatchState::Damaged)
+        return CString::Join({line, WordFor(batch.state), u"  ", batch.problem});
+    return CString::Join(
+        {line, StateOf(batch), u", ", ExtentOf(batch), u"  ", batch.firstFrom, u" -> ", batch.firstTo});
 }
 
 } // namespace
@@ -110,6 +140,9 @@ void WriteBatchJson(OutputBuffer& output, const std::vector<BatchInformation>& b
         AppendJsonField(line, "started", batch.started);
         AppendJsonField(line, "state", WordFor(batch.state));
         line += ",\"entries\":" + std::to_string(batch.entries);
+        if (batch.renamed)
+            line += ",\"renamed\":" + std::to_string(*batch.renamed);
+        line += batch.wasStopped ? ",\"stopped\":true" : ",\"stopped\":false";
         AppendJsonField(line, "from", batch.firstFrom);
         AppendJsonField(line, "to", batch.firstTo);
         if (!batch.problem.IsEmpty())

@@ -18,9 +18,11 @@ enum class BatchDirection : std::uint8_t
     Back
 };
 
-/// A line for each batch: its number, when it began, what has become of it, how much it renamed, and its first rename.
+/// A line for each batch: its number, when it began, what has become of it, of how many of its entries, and its first
+/// rename.
 void WriteBatchLines(OutputBuffer& output, const std::vector<BatchInformation>& batches);
-/// A JSON object for each: `number`, `started`, `state`, `entries`, `from`, `to` (those of its first entry), `problem`.
+/// A JSON object for each: `number`, `started`, `state`, `entries`, `renamed` (where it is known), `stopped`, `from`,
+/// `to` (those of its first entry), `problem`.
 void WriteBatchJson(OutputBuffer& output, const std::vector<BatchInformation>& batches);
 
 /// A row for each entry: where it was, where it is now, and what there is to say.

@@ -12,6 +12,7 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <fstream>
 
 namespace {
 
@@ -486,6 +487,159 @@ TEST(Batches, AreListedTheLatestFirst)
     EXPECT_EQ(batches[0].started.GetLength(), 19);
     EXPECT_EQ(batches[1].number, 1u);
     EXPECT_EQ(batches[1].state, BatchState::Applied);
+}
+
+/// The one batch of a scene, as it is listed.
+BatchInformation Listed(const BatchScene& scene)
+{
+    const std::vector<BatchInformation> batches = scene.batches.List();
+    EXPECT_EQ(batches.size(), 1u);
+    return batches.empty() ? BatchInformation() : batches.front();
+}
+
+/// A scene with files of these names, each of which is to get a "2" behind it.
+void RenameEach(BatchScene& scene, const std::vector<CString>& names)
+{
+    for (const CString& name : names) {
+        scene.Write(name);
+        scene.Rename(name, name + u"2");
+    }
+}
+
+StopRequest StopAfter(int renames)
+{
+    return [left = renames]() mutable {
+        return left-- == 0;
+    };
+}
+
+TEST(Batches, AreListedWithWhatWasDone)
+{
+    BatchScene scene;
+    RenameEach(scene, {u"a", u"b", u"c"});
+    scene.Apply();
+    EXPECT_EQ(Listed(scene).state, BatchState::Applied);
+    EXPECT_EQ(Listed(scene).entries, 3u);
+    EXPECT_EQ(Listed(scene).renamed, 3u);
+    EXPECT_FALSE(Listed(scene).wasStopped);
+    scene.TakeBack();
+    EXPECT_EQ(Listed(scene).state, BatchState::TakenBack);
+    EXPECT_EQ(Listed(scene).renamed, 0u);
+    EXPECT_FALSE(Listed(scene).wasStopped);
+}
+
+TEST(Batches, AreListedAsStoppedWithWhatWasDoneUntilThen)
+{
+    BatchScene scene;
+    RenameEach(scene, {u"a", u"b", u"c"});
+    scene.Apply(StopAfter(2));
+    EXPECT_EQ(Listed(scene).state, BatchState::Applied);
+    EXPECT_TRUE(Listed(scene).wasStopped);
+    EXPECT_EQ(Listed(scene).entries, 3u);
+    EXPECT_EQ(Listed(scene).renamed, 2u);
+    scene.TakeBack({}, StopAfter(1));
+    EXPECT_EQ(Listed(scene).state, BatchState::TakenBackInPart);
+    EXPECT_TRUE(Listed(scene).wasStopped);
+    EXPECT_EQ(Listed(scene).renamed, 1u);
+    scene.TakeBack();
+    EXPECT_EQ(Listed(scene).state, BatchState::TakenBack);
+    EXPECT_FALSE(Listed(scene).wasStopped);
+    EXPECT_EQ(Listed(scene).renamed, 0u);
+}
+
+TEST(Batches, AreListedWithoutTheEntriesThatFailed)
+{
+    BatchScene scene;
+    RenameEach(scene, {u"a", u"b", u"c"});
+    scene.Write(u"b2", "in the way");
+    scene.Apply();
+    EXPECT_EQ(Listed(scene).state, BatchState::Applied);
+    EXPECT_EQ(Listed(scene).renamed, 2u);
+    EXPECT_FALSE(Listed(scene).wasStopped);
+    // One cannot go back, one is not found, and both are left to be taken back.
+    scene.Write(u"a", "in the way");
+    std::filesystem::rename(ToStdPath(scene.Path(u"c2")), ToStdPath(scene.Path(u"elsewhere")));
+    scene.TakeBack();
+    EXPECT_EQ(Listed(scene).state, BatchState::TakenBackInPart);
+    EXPECT_EQ(Listed(scene).renamed, 2u);
+    EXPECT_FALSE(Listed(scene).wasStopped);
+    // What was not found stays known when the rest is taken back.
+    std::filesystem::remove(ToStdPath(scene.Path(u"a")));
+    EXPECT_EQ(scene.TakeBack().done, 1u);
+    EXPECT_EQ(Listed(scene).state, BatchState::TakenBack);
+    EXPECT_EQ(Listed(scene).renamed, 1u);
+}
+
+TEST(Batches, AreListedAsUnknownInExtentWhereTheJournalLacksItsEnd)
+{
+    FaultyFiles files;
+    BatchScene scene(files);
+    RenameEach(scene, {u"a", u"b"});
+    const auto failAtMarks = [](const FileChange& change, std::size_t) {
+        return std::uint32_t{change.kind == FileChange::Kind::Append ? 28u : 0u};
+    };
+    files.before = failAtMarks;
+    scene.Apply();
+    EXPECT_EQ(Listed(scene).state, BatchState::Applied);
+    EXPECT_EQ(Listed(scene).renamed, std::nullopt);
+    files.before = {};
+    scene.TakeBack({}, StopAfter(1));
+    EXPECT_EQ(Listed(scene).renamed, 1u);
+}
+
+TEST(Batches, AreNotListedByTheMarkOfEarlierWork)
+{
+    FaultyFiles files;
+    BatchScene scene(files);
+    RenameEach(scene, {u"a", u"b"});
+    scene.Apply();
+    files.before = [](const FileChange& change, std::size_t) {
+        return std::uint32_t{change.kind == FileChange::Kind::Append ? 28u : 0u};
+    };
+    EXPECT_EQ(scene.TakeBack().done, 2u);
+    EXPECT_EQ(Listed(scene).state, BatchState::TakenBack);
+    EXPECT_EQ(Listed(scene).renamed, std::nullopt);
+}
+
+TEST(Batches, AreListedAsCutOffWithoutGuessingHowFarTheyCame)
+{
+    FaultyFiles files;
+    BatchScene scene(files);
+    RenameEach(scene, {u"a", u"b"});
+    files.before = [](const FileChange& change, std::size_t) {
+        const bool isClosing = change.kind == FileChange::Kind::RenameFile && change.newName.Find(u".applied") > 0;
+        return std::uint32_t{isClosing ? 28u : 0u};
+    };
+    scene.Apply();
+    EXPECT_EQ(Listed(scene).state, BatchState::CutOff);
+    EXPECT_EQ(Listed(scene).entries, 2u);
+    EXPECT_EQ(Listed(scene).renamed, std::nullopt);
+    files.before = {};
+    EXPECT_EQ(scene.Recover(Recovery::Finish).error, u"");
+    EXPECT_EQ(Listed(scene).state, BatchState::Applied);
+    EXPECT_EQ(Listed(scene).renamed, 2u);
+}
+
+TEST(Batches, AreListedFromTheTwoEndsOfTheirJournals)
+{
+    BatchScene scene;
+    std::vector<CString> names;
+    for (int number = 0; number < 2400; ++number)
+        names.push_back(Name(number));
+    RenameEach(scene, names);
+    // Every second one fails, which makes the mark longer than the part that is read at first.
+    for (std::size_t index = 0; index < names.size(); index += 2)
+        scene.Write(names[index] + u"2", "in the way");
+    EXPECT_EQ(scene.Apply().done, 1200u);
+    EXPECT_EQ(Listed(scene).renamed, 1200u);
+    // What stands in between is not looked at.
+    const std::filesystem::path journal = ToStdPath(scene.JournalFolder()) / "000001.applied";
+    std::fstream file(journal, std::ios::in | std::ios::out | std::ios::binary);
+    file.seekp(static_cast<std::streamoff>(std::filesystem::file_size(journal) / 2));
+    file << "damaged";
+    file.close();
+    EXPECT_EQ(Listed(scene).renamed, 1200u);
+    EXPECT_GE(scene.TakeBack().error.Find(u"damaged"), 0);
 }
 
 TEST(Batches, SayWhichFilesHaveChangedSince)

@@ -199,15 +199,29 @@ TEST(JournalText, GivesItsHeadingFromItsFirstLines)
     EXPECT_FALSE(problem.IsEmpty());
 }
 
+JournalMark Mark(const std::vector<PlanIndex>& before, const std::vector<PlanIndex>& aside = {})
+{
+    JournalMark mark;
+    mark.entriesBefore = before;
+    mark.entriesAside = aside;
+    return mark;
+}
+
 TEST(JournalText, KeepsTheLastMark)
 {
     const Journal journal = MakeJournal();
     std::uint32_t check = 0;
     std::string text = WriteJournal(journal, check);
-    text += WriteMark({.entriesBefore = {0}, .entriesAside = {1}, .foldersMade = {}}, check);
-    text += WriteMark({.entriesBefore = {0, 1, 2, 4}, .entriesAside = {}, .foldersMade = {2}}, check);
+    text += WriteMark(Mark({0}, {1}), check);
+    JournalMark last = Mark({0, 1, 2, 4});
+    last.isBackward = true;
+    last.wasStopped = true;
+    last.foldersMade = {2};
+    text += WriteMark(last, check);
     const Journal read = MustRead(text);
     ASSERT_TRUE(read.mark);
+    EXPECT_TRUE(read.mark->isBackward);
+    EXPECT_TRUE(read.mark->wasStopped);
     EXPECT_THAT(read.mark->entriesBefore, testing::ElementsAre(0, 1, 2, 4));
     EXPECT_THAT(read.mark->entriesAside, testing::IsEmpty());
     EXPECT_THAT(read.mark->foldersMade, testing::ElementsAre(2));
@@ -219,8 +233,8 @@ TEST(JournalText, OverlooksAMarkThatWasCutOff)
     const Journal journal = MakeJournal();
     std::uint32_t check = 0;
     std::string text = WriteJournal(journal, check);
-    const std::string first = WriteMark({.entriesBefore = {3}, .entriesAside = {}, .foldersMade = {}}, check);
-    const std::string second = WriteMark({.entriesBefore = {4}, .entriesAside = {}, .foldersMade = {}}, check);
+    const std::string first = WriteMark(Mark({3}), check);
+    const std::string second = WriteMark(Mark({4}), check);
     for (std::size_t length = 0; length + 1 < second.size(); ++length) {
         const std::string cut = text + first + second.substr(0, length);
         ASSERT_TRUE(MustRead(cut).mark);
@@ -228,6 +242,53 @@ TEST(JournalText, OverlooksAMarkThatWasCutOff)
         // What is appended next counts again.
         EXPECT_THAT(MustRead(cut + second).mark->entriesBefore, testing::ElementsAre(4));
     }
+}
+
+TEST(JournalText, GivesItsLastMarkFromItsEnd)
+{
+    std::uint32_t check = 0;
+    const std::string plan = WriteJournal(MakeJournal(), check);
+    EXPECT_FALSE(ReadLastMark(FindMarks(plan), 5));
+    JournalMark mark = Mark({0, 1, 2, 4}, {3});
+    mark.wasStopped = true;
+    const std::string marks = WriteMark(Mark({1}), check) + WriteMark(mark, check);
+    const std::string text = plan + marks;
+    const std::size_t end = text.find("\nend\t");
+    for (std::size_t start = 0; start < text.size(); ++start) {
+        const std::optional<MarkOutline> read = ReadLastMark(FindMarks(std::string_view(text).substr(start)), 5);
+        EXPECT_EQ(read.has_value(), start <= end) << start;
+        if (!read)
+            continue;
+        EXPECT_FALSE(read->isBackward);
+        EXPECT_TRUE(read->wasStopped);
+        EXPECT_EQ(read->entriesBefore, 4u);
+        EXPECT_EQ(read->entriesAside, 1u);
+    }
+    // A part of the last one does not count.
+    for (std::size_t cut = 1; cut < 10; ++cut)
+        EXPECT_EQ(ReadLastMark(FindMarks(text.substr(0, text.size() - cut)), 5)->entriesBefore, 1u);
+}
+
+TEST(JournalText, GivesNoLastMarkThatCannotBe)
+{
+    std::uint32_t check = 0;
+    const std::string plan = WriteJournal(MakeJournal(), check);
+    const auto isGiven = [&](const JournalMark& mark, std::size_t entries) {
+        const std::string text = plan + WriteMark(mark, check);
+        return ReadLastMark(FindMarks(text), entries).has_value();
+    };
+    EXPECT_TRUE(isGiven(Mark({0, 1, 2, 3, 4}), 5));
+    EXPECT_FALSE(isGiven(Mark({0, 1, 2, 3, 4}), 4));
+    EXPECT_FALSE(isGiven(Mark({0, 1, 2}, {0, 1, 2}), 5));
+    EXPECT_FALSE(isGiven(Mark({1, 0}), 5));
+    // Billions of entries are counted, not kept.
+    std::string text = "\nend\t00000000\nmark\tf\te\t0-4294967293\t\t";
+    const std::string content = text.substr(text.find("mark"));
+    char digits[16];
+    std::snprintf(digits, sizeof(digits), "\t%08x\n", Checksum(0, content));
+    const std::optional<MarkOutline> read = ReadLastMark(FindMarks(text + digits), 4294967294);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->entriesBefore, 4294967294u);
 }
 
 TEST(JournalText, IsNotReadWhenAnyByteIsChanged)

@@ -1,0 +1,143 @@
+// Tests of the program: what "vyr undo --list" says of batches that ended in every way.
+#include "VyrProgram.h"
+
+#include <tests/VyrHost/apply/BatchScene.h>
+#include <tests/VyrHost/apply/FaultyFiles.h>
+
+#include <VyrPlatform/Encoding.h>
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+using namespace VyrTests;
+using namespace VyrHost;
+using testing::HasSubstr;
+
+namespace {
+
+/// A batch of three renames, worked on in this program, and listed by vyr.
+class BatchList : public VyrProgram
+{
+protected:
+    BatchList() : m_scene(m_files)
+    {
+        m_environment[u"VYR_JOURNAL_DIR"] = m_scene.JournalFolder();
+        for (const char16_t* const name : {u"a", u"b", u"c"}) {
+            m_scene.Write(name);
+            m_scene.Rename(name, name + CString(u"2"));
+        }
+    }
+
+    static StopRequest StopAfter(int renames)
+    {
+        return [left = renames]() mutable {
+            return left-- == 0;
+        };
+    }
+
+    void FailWhen(FileChange::Kind kind, std::u16string_view newName)
+    {
+        m_files.before = [kind, ending = CString(newName)](const FileChange& change, std::size_t) {
+            return std::uint32_t{change.kind == kind && change.newName.Find(ending) >= 0 ? 28u : 0u};
+        };
+    }
+
+    /// What the list says between the time and the paths.
+    [[nodiscard]] std::string Listed() const
+    {
+        const ProgramResult result = Run({u"undo", u"--list"});
+        EXPECT_EQ(result.exitCode, 0) << result.errors;
+        const std::string paths = VyrPlatform::Encoding::ToUtf8(
+            CString::Join({u"  ", m_scene.Path(u"a"), u" -> ", m_scene.Path(u"a2"), u"\n"}));
+        constexpr std::size_t timeLength = std::string_view("1  2024/05/06 07:08:09  ").size();
+        EXPECT_TRUE(result.output.starts_with("1  ") && result.output.ends_with(paths)) << result.output;
+        return result.output.substr(timeLength, result.output.size() - timeLength - paths.size());
+    }
+
+    /// What the list for programs says between the time and the paths.
+    [[nodiscard]] std::string ListedAsJson() const
+    {
+        const std::string output = Run({u"undo", u"--list", u"--json"}).output;
+        const std::size_t start = output.find("\"state\"");
+        return start == std::string::npos ? output : output.substr(start, output.find(",\"from\"") - start);
+    }
+
+    FaultyFiles m_files;
+    BatchScene m_scene;
+};
+
+} // namespace
+
+TEST_F(BatchList, CountsTheEntriesOfOneThatWasDone)
+{
+    m_scene.Apply();
+    EXPECT_EQ(Listed(), "applied, 3 entries");
+    EXPECT_EQ(ListedAsJson(), R"("state":"applied","entries":3,"renamed":3,"stopped":false)");
+    m_scene.TakeBack();
+    EXPECT_EQ(Listed(), "taken back, 3 entries");
+    EXPECT_EQ(ListedAsJson(), R"("state":"taken back","entries":3,"renamed":0,"stopped":false)");
+}
+
+TEST_F(BatchList, SaysHowFarOneCameThatWasInterrupted)
+{
+    m_scene.Apply(StopAfter(2));
+    EXPECT_EQ(Listed(), "stopped, 2 of 3 entries");
+    EXPECT_EQ(ListedAsJson(), R"("state":"applied","entries":3,"renamed":2,"stopped":true)");
+    m_scene.TakeBack({}, StopAfter(1));
+    EXPECT_EQ(Listed(), "stopped while it was taken back, 1 of 3 entries left");
+    EXPECT_EQ(ListedAsJson(), R"("state":"taken back in part","entries":3,"renamed":1,"stopped":true)");
+    // It is the one that is taken back next.
+    EXPECT_EQ(Run({u"undo", u"--quiet"}).exitCode, 0);
+    EXPECT_EQ(Listed(), "taken back, 3 entries");
+}
+
+TEST_F(BatchList, CountsWithoutTheEntriesThatFailed)
+{
+    m_scene.Write(u"b2", "in the way");
+    m_scene.Apply();
+    EXPECT_EQ(Listed(), "applied, 2 of 3 entries");
+    m_scene.Write(u"a", "in the way");
+    m_scene.TakeBack();
+    EXPECT_EQ(Listed(), "taken back in part, 1 of 3 entries left");
+    EXPECT_EQ(ListedAsJson(), R"("state":"taken back in part","entries":3,"renamed":1,"stopped":false)");
+}
+
+TEST_F(BatchList, CountsWhatWasNotFoundWhenItWasTakenBack)
+{
+    m_scene.Apply();
+    std::filesystem::remove(ToStdPath(m_scene.Path(u"b2")));
+    m_scene.TakeBack();
+    EXPECT_EQ(Listed(), "taken back, 1 of 3 entries not found");
+    EXPECT_EQ(ListedAsJson(), R"("state":"taken back","entries":3,"renamed":1,"stopped":false)");
+}
+
+TEST_F(BatchList, DoesNotGuessHowFarOneCameThatWasCutOff)
+{
+    FailWhen(FileChange::Kind::RenameFile, u".applied");
+    m_scene.Apply();
+    EXPECT_EQ(Listed(), "cut off, at most 3 entries");
+    EXPECT_EQ(ListedAsJson(), R"("state":"cut off","entries":3,"stopped":false)");
+    m_files.before = {};
+    m_scene.Recover(Recovery::Finish);
+    EXPECT_EQ(Listed(), "applied, 3 entries");
+    FailWhen(FileChange::Kind::RenameFile, u".taken-back");
+    m_scene.TakeBack();
+    EXPECT_EQ(Listed(), "cut off while it was taken back, at most 3 entries");
+}
+
+TEST_F(BatchList, DoesNotGuessHowFarOneCameWhoseJournalLacksItsEnd)
+{
+    FailWhen(FileChange::Kind::Append, u"");
+    m_scene.Apply();
+    EXPECT_EQ(Listed(), "applied, at most 3 entries");
+    EXPECT_EQ(ListedAsJson(), R"("state":"applied","entries":3,"stopped":false)");
+}
+
+TEST_F(BatchList, SaysWhatIsWrongWithADamagedJournal)
+{
+    m_scene.Apply();
+    std::filesystem::resize_file(ToStdPath(m_scene.JournalFolder()) / "000001.applied", 60);
+    EXPECT_THAT(Run({u"undo", u"--list"}).output, HasSubstr("  damaged  line 2: "));
+    EXPECT_THAT(Run({u"undo", u"--list", u"--json"}).output, HasSubstr("\"state\":\"damaged\""));
+}
