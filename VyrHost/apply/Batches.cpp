@@ -242,14 +242,13 @@ BatchSummary Batches::Recover(Recovery recovery, const BatchEntryReport& report,
         summary.error = CString::Join({summary.error, wayOut});
         return summary;
     }
-    const bool isForward = (file->phase == BatchPhase::Applying) == (recovery == Recovery::Finish);
     BatchWork work(*m_files, folder, std::move(*journal), summary);
     if (!work.Locate(*file))
         summary.error =
             CString::Join({u"none of the batch's files is at one of its paths; nothing was changed", wayOut});
     else
         work.Run(
-            isForward ? Direction::Forward : Direction::Backward,
+            DoesRenames(recovery, StateOf(file->phase)) ? Direction::Forward : Direction::Backward,
             [&](PlanIndex entry, const RenameResult& result) { report(work.Describe(entry, result)); }, isStopAsked);
     return summary;
 }

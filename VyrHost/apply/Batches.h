@@ -73,7 +73,8 @@ struct BatchEntry
 /// What was done. Every entry counts in one of the four.
 struct BatchSummary
 {
-    /// The batch's number in the journal; 0 when nothing was done that could be taken back.
+    /// The batch's number in the journal; 0 when nothing was done that could be taken back: nothing was begun where
+    /// there is an error.
     std::uint32_t number = 0;
     std::size_t done = 0;
     std::size_t failed = 0;
@@ -101,6 +102,12 @@ enum class Recovery : std::uint8_t
     /// Restores what was before it.
     TakeBack
 };
+
+/// Whether `recovery` of a batch in `state` (it was cut off) does its renames; else it takes them back.
+[[nodiscard]] inline bool DoesRenames(Recovery recovery, BatchState state)
+{
+    return (state == BatchState::CutOff) == (recovery == Recovery::Finish);
+}
 
 /// What became of the journal of a batch that was to be given up.
 struct SetAsideJournal

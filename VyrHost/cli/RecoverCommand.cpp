@@ -20,8 +20,8 @@ RecoverCommand::RecoverCommand(CLI::App& program)
     : m_command(
           *program.add_subcommand("recover", "Finish a batch that was cut off (power loss, kill), or take it back"))
 {
-    auto* const takeBack =
-        m_command.add_flag("--take-back", m_takeBack, "Restore what was before the batch instead of finishing it");
+    auto* const takeBack = m_command.add_flag(
+        "--take-back", m_takeBack, "Restore what was before the work that was cut off instead of finishing it");
     auto* const setAside = m_command.add_flag("--set-aside", m_setAside,
                                               "Give the batch up, where neither is possible: files stay as they are");
     auto* const json = m_command.add_flag("--json", m_json, "Write one JSON object for each entry");
@@ -50,7 +50,8 @@ int RecoverCommand::Run() const
         return SetAside();
     VyrPlatform::Interrupt::Catch();
     const Recovery recovery = m_takeBack ? Recovery::TakeBack : Recovery::Finish;
-    const BatchDirection direction = m_takeBack ? BatchDirection::Back : BatchDirection::Forward;
+    const BatchDirection direction =
+        DoesRenames(recovery, cutOff->state) ? BatchDirection::Forward : BatchDirection::Back;
     BatchReport report("recovering", cutOff->entries, {direction, m_json, m_quiet});
     const BatchSummary summary = batches.Recover(recovery, report.Collector(), VyrPlatform::Interrupt::WasAsked);
     return report.Write(summary);

@@ -126,6 +126,20 @@ TEST_F(BatchList, DoesNotGuessHowFarOneCameThatWasCutOff)
     EXPECT_EQ(Listed(), "cut off while it was taken back, at most 3 entries");
 }
 
+TEST_F(BatchList, RecoveringSaysWhichWayTheEntriesGo)
+{
+    m_scene.Apply();
+    FailWhen(FileChange::Kind::RenameFile, u".taken-back");
+    m_scene.TakeBack();
+    const std::string before = VyrPlatform::Encoding::ToUtf8(m_scene.Path(u"a"));
+    EXPECT_THAT(Run({u"recover"}).output, HasSubstr(before + "2  ->  a\n"));
+    EXPECT_EQ(Listed(), "taken back, 3 entries");
+    FailWhen(FileChange::Kind::RenameFile, u".applied");
+    m_scene.Apply();
+    EXPECT_THAT(Run({u"recover", u"--take-back"}).output, HasSubstr(before + "2  ->  a\n"));
+    EXPECT_EQ(m_scene.Now(), (Tree{{"a", "a"}, {"b", "b"}, {"c", "c"}}));
+}
+
 TEST_F(BatchList, DoesNotGuessHowFarOneCameWhoseJournalLacksItsEnd)
 {
     FailWhen(FileChange::Kind::Append, u"");
