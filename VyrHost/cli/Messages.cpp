@@ -13,8 +13,15 @@ void Complain(const std::string& what)
 
 std::string CutOffNotice(const BatchInformation& batch)
 {
-    return "batch " + std::to_string(batch.number) + " of " + SafeText(batch.started) +
-           " was cut off; \"vyr recover\" ends it";
+    // A damaged journal does not tell when it began.
+    const std::string time = batch.started.IsEmpty() ? "" : " of " + SafeText(batch.started);
+    return "batch " + std::to_string(batch.number) + time + " was cut off; \"vyr recover\" ends it";
+}
+
+void OfferRecovery()
+{
+    if (const auto cutOff = Batches().FindCutOff())
+        Complain(CutOffNotice(*cutOff));
 }
 
 } // namespace VyrHost

@@ -14,4 +14,8 @@ void Complain(const std::string& what);
 /// That a batch was cut off, and what ends it.
 [[nodiscard]] std::string CutOffNotice(const BatchInformation& batch);
 
+/// Complains of a batch that was cut off, if there is one, for a command that need not wait for its end: what such a
+/// command finds on the disk may be half of the batch.
+void OfferRecovery();
+
 } // namespace VyrHost

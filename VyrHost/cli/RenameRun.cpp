@@ -78,13 +78,6 @@ public:
     }
 
 private:
-    /// A preview is no reason to stop, but what it finds on the disk may be half a batch.
-    static void OfferRecovery()
-    {
-        if (const auto cutOff = Batches().FindCutOff())
-            Complain(CutOffNotice(*cutOff));
-    }
-
     void TakeEntries()
     {
         if (m_request.pairs) {

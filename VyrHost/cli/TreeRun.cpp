@@ -28,6 +28,7 @@ public:
 
     int Run()
     {
+        OfferRecovery();
         for (TreeTask& task : MakeTreeTasks(m_request.sources, m_request.destination))
             Check(std::move(task));
         const bool isRefused = std::any_of(m_reports.begin(), m_reports.end(), [](const TreeReport& report) {

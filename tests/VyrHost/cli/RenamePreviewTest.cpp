@@ -170,3 +170,15 @@ TEST_F(RenamePreview, AFolderThatWouldEndUpInsideItselfIsRefused)
     m_folder.WriteFile(u"f/x");
     EXPECT_THAT(Rename({u"--pairs", u"-"}, "d,f/d\nf,d/f\n").output, HasSubstr("2 entries: 2 refused.\n"));
 }
+
+TEST_F(RenamePreview, OffersToEndABatchThatWasCutOff)
+{
+    const ScratchFolder journal;
+    m_environment[u"VYR_JOURNAL_DIR"] = journal.Path();
+    journal.WriteFile(u"000001.taking-back", "damaged");
+    m_folder.WriteFile(u"a");
+    const ProgramResult result = Rename({u"--suffix", u"!", u"a"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_THAT(result.output, StartsWith("a  ->  a!\n"));
+    EXPECT_EQ(result.errors, "vyr: batch 1 was cut off; \"vyr recover\" ends it\n");
+}

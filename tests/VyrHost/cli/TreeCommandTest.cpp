@@ -133,3 +133,23 @@ TEST_F(TreeCommand, WrongCallsAreRefusedBeforeAnythingIsTouched)
     EXPECT_EQ(m_folder.ReadFile(u"a/b/c"), "1");
     EXPECT_FALSE(m_folder.Has(u"to/a"));
 }
+
+TEST_F(TreeCommand, OffersToEndABatchThatWasCutOffAndGoesOn)
+{
+    const ScratchFolder journal;
+    m_environment[u"VYR_JOURNAL_DIR"] = journal.Path();
+    journal.WriteFile(u"000003.applying", "damaged");
+    m_folder.WriteFile(u"from/a", "1");
+    for (const char16_t* const command : {u"copy", u"move"}) {
+        for (const bool isApplied : {false, true}) {
+            std::vector<CString> call = {command, u"from", CString(command) + u"d"};
+            if (isApplied)
+                call.emplace_back(u"--apply");
+            const ProgramResult result = Run(call);
+            EXPECT_EQ(result.exitCode, 0) << result.output;
+            EXPECT_EQ(result.errors, "vyr: batch 3 was cut off; \"vyr recover\" ends it\n");
+        }
+        EXPECT_EQ(m_folder.ReadFile(CString(command) + u"d/a"), "1");
+    }
+    EXPECT_TRUE(journal.Has(u"000003.applying"));
+}
