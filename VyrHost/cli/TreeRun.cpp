@@ -1,4 +1,4 @@
-// Carries out a call of "vyr copy" or "vyr move": takes the trees down, checks, transfers, compares, and shows.
+// Carries out a call of "vyr copy" or "vyr move", and shows what becomes of the folders.
 #include <VyrHost/cli/TreeRequest.h>
 
 #include <VyrHost/cli/ExitCode.h>
@@ -7,170 +7,124 @@
 #include <VyrHost/output/Progress.h>
 #include <VyrHost/output/SafeText.h>
 #include <VyrHost/output/TreeOutput.h>
-#include <VyrHost/trees/MadeFolders.h>
-#include <VyrHost/trees/TreeClashes.h>
-#include <VyrHost/trees/TreeFinish.h>
+#include <VyrHost/trees/TreeBatch.h>
 #include <VyrPlatform/Console.h>
 #include <VyrPlatform/Interrupt.h>
 
 #include <algorithm>
-#include <iterator>
+#include <optional>
 #include <utility>
 
 namespace VyrHost {
 
 namespace {
 
+/// Shows how far the work is, and looks for an interrupt.
+class TerminalWatch final : public TreeWatch
+{
+public:
+    TerminalWatch(const char* what, bool isSilent) : m_what(what), m_isSilent(isSilent) {}
+
+    bool IsStopAsked() override { return VyrPlatform::Interrupt::WasAsked(); }
+
+    void Begin(const TreeTask& task, std::size_t newFolders) override
+    {
+        m_source = task.shownSource;
+        m_progress.emplace(m_what, newFolders, m_isSilent);
+    }
+    void Show(std::size_t made) override
+    {
+        if (IsStopAsked() && !std::exchange(m_isTold, true)) {
+            m_progress->Close();
+            Complain("interrupted; '" + SafeText(m_source) +
+                     "' is brought to its end first (a second interrupt ends that, too)");
+        }
+        m_progress->Show(made);
+    }
+    void End() override { m_progress.reset(); }
+
+private:
+    const char* m_what;
+    const bool m_isSilent;
+    CString m_source;
+    std::optional<Progress> m_progress;
+    bool m_isTold = false;
+};
+
 class TreeRun
 {
 public:
-    explicit TreeRun(const TreeRequest& request) : m_request(request) {}
+    explicit TreeRun(const TreeRequest& request)
+        : m_request(request),
+          m_batch(request.sources, request.destination, request.action, request.apply ? Trial::Allowed : Trial::No)
+    {}
 
     int Run()
     {
-        OfferRecovery();
-        for (TreeTask& task : MakeTreeTasks(m_request.sources, m_request.destination))
-            Check(std::move(task));
-        const bool isRefused = std::any_of(m_reports.begin(), m_reports.end(), [](const TreeReport& report) {
-            return report.status == TreeStatus::Refused;
-        });
-        if (isRefused)
-            StopAll();
-        else if (m_request.apply)
+        if (m_request.apply && !m_batch.IsRefused())
             Apply();
-        return Show(isRefused);
+        OutputBuffer output;
+        Show(output);
+        output.Flush();
+        if (m_batch.CreationError() != 0)
+            Complain("warning: folders do not keep their creation times there: " +
+                     SafeText(ErrorText(m_batch.CreationError())));
+        return output.HasFailed() ? ExitCode::Output : Judge();
     }
 
 private:
-    void Check(TreeTask task)
-    {
-        Tree tree = ScanTree(task.source);
-        TargetCheck check = CheckTarget(tree, task.target, m_request.apply ? Trial::Allowed : Trial::No);
-        TreeReport report;
-        report.size = SizeOf(tree);
-        report.problems = std::move(check.clashes);
-        if (!report.problems.empty())
-            report.status = TreeStatus::Refused;
-        else
-            Foresee(report, tree);
-        report.task = std::move(task);
-        m_reports.push_back(std::move(report));
-        m_trees.push_back(std::move(tree));
-        m_newFolders.push_back(check.newFolders);
-    }
-
-    void Foresee(TreeReport& report, const Tree& tree) const
-    {
-        report.problems = ForeseeProblems(tree, m_request.action);
-        if (!report.problems.empty())
-            report.status = TreeStatus::Incomplete;
-    }
-
-    /// One clash leaves every folder where it is.
-    void StopAll()
-    {
-        for (TreeReport& report : m_reports)
-            if (report.status != TreeStatus::Refused) {
-                report.status = TreeStatus::NotReached;
-                report.problems.clear();
-            }
-    }
-
     void Apply()
     {
         VyrPlatform::Interrupt::Catch();
-        for (std::size_t index = 0; index < m_reports.size(); ++index) {
-            TreeReport& report = m_reports[index];
-            report.problems.clear();
-            m_wasInterrupted = VyrPlatform::Interrupt::WasAsked();
-            if (m_wasInterrupted)
-                report.status = TreeStatus::NotReached;
-            else
-                Transfer(report, m_trees[index], m_newFolders[index]);
-        }
+        TerminalWatch watch(m_request.action == TreeAction::Copy ? "copying folders" : "moving folders",
+                            m_request.quiet || m_request.json);
+        m_batch.Apply(watch);
     }
 
-    void Transfer(TreeReport& report, const Tree& tree, std::size_t newFolders)
+    void Show(OutputBuffer& output) const
     {
-        const CString& target = report.task.target;
-        Progress progress(m_request.action == TreeAction::Copy ? "copying folders" : "moving folders", newFolders,
-                          IsSilent());
-        bool isTold = false;
-        const auto show = [&](std::size_t made) {
-            if (VyrPlatform::Interrupt::WasAsked() && !std::exchange(isTold, true)) {
-                progress.Close();
-                Complain("interrupted; '" + SafeText(report.task.shownSource) +
-                         "' is brought to its end first (a second interrupt ends that, too)");
-            }
-            progress.Show(made);
-        };
-        TreeRecords records;
-        const std::uint32_t error = TransferTree(tree, target, m_request.action, records, show);
-        progress.Close();
-        if (error != 0) {
-            report.status = TreeStatus::Failed;
-            report.problems.push_back({CString(), TreeFault::System, error});
-            return;
-        }
-        report.problems = FinishTree(tree, target, m_request.action, records);
-        MadeFoldersResult made = CompleteFolders(tree, records);
-        std::move(made.problems.begin(), made.problems.end(), std::back_inserter(report.problems));
-        report.status = report.problems.empty() ? TreeStatus::Done : TreeStatus::Incomplete;
-        if (made.creationError != 0)
-            m_creationError = made.creationError;
-    }
-
-    int Show(bool isRefused)
-    {
-        OutputBuffer output;
-        const std::string summary = SummaryOf(m_reports, m_request.action);
+        const std::string summary = SummaryOf(m_batch.Reports(), m_request.action);
         if (m_request.json) {
-            WriteTreeJson(output, m_reports, m_request.action);
+            WriteTreeJson(output, m_batch.Reports(), m_request.action);
             VyrPlatform::Console::Write(VyrPlatform::Console::Stream::Error, summary);
         } else if (m_request.quiet) {
-            for (const std::string& line : ProblemLines(m_reports, m_request.action))
+            for (const std::string& line : ProblemLines(m_batch.Reports(), m_request.action))
                 Complain(line);
         } else {
-            WriteTreeTable(output, m_reports, m_request.action);
-            output << summary << Ending(isRefused);
+            WriteTreeTable(output, m_batch.Reports(), m_request.action);
+            output << summary << Ending();
         }
-        output.Flush();
-        if (m_creationError != 0)
-            Complain("warning: folders do not keep their creation times there: " +
-                     SafeText(ErrorText(m_creationError)));
-        if (output.HasFailed())
-            return ExitCode::Output;
-        if (m_wasInterrupted)
-            return ExitCode::Interrupted;
-        const bool isWhole = std::all_of(m_reports.begin(), m_reports.end(),
-                                         [](const TreeReport& report) { return report.status == TreeStatus::Done; });
-        return isWhole ? ExitCode::Success : ExitCode::Partly;
     }
 
-    [[nodiscard]] const char* Ending(bool isRefused) const
+    [[nodiscard]] const char* Ending() const
     {
         if (!m_request.apply)
             return "This is a preview: nothing was changed.\n";
-        if (!isRefused)
+        if (m_batch.WasStopped())
+            return "Interrupted: folders that were not reached are as they were.\n";
+        if (!m_batch.IsRefused())
             return "";
         return m_request.action == TreeAction::Copy ? "Nothing was copied.\n" : "Nothing was moved.\n";
     }
 
-    [[nodiscard]] bool IsSilent() const { return m_request.quiet || m_request.json; }
+    [[nodiscard]] int Judge() const
+    {
+        if (m_batch.WasStopped())
+            return ExitCode::Interrupted;
+        const bool isWhole = std::all_of(m_batch.Reports().begin(), m_batch.Reports().end(),
+                                         [](const TreeReport& report) { return report.status == TreeStatus::Done; });
+        return isWhole ? ExitCode::Success : ExitCode::Partly;
+    }
 
     const TreeRequest& m_request;
-    std::vector<TreeReport> m_reports;
-    /// For each report: the tree, and how many folders it will make.
-    std::vector<Tree> m_trees;
-    std::vector<std::size_t> m_newFolders;
-    std::uint32_t m_creationError = 0;
-    bool m_wasInterrupted = false;
+    TreeBatch m_batch;
 };
 
 } // namespace
 
 int RunTrees(const TreeRequest& request)
 {
+    OfferRecovery();
     return TreeRun(request).Run();
 }
 

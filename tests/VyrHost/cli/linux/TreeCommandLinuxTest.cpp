@@ -1,15 +1,18 @@
-// Tests of the program: folders with odd names, behind links, and an interrupt before one is begun.
+// Tests of the program: folders with odd names, behind links, and interrupts before a folder is begun and in it.
 #include "../VyrProgram.h"
 
 #include <VyrHost/cli/TreeRequest.h>
 #include <VyrPlatform/Interrupt.h>
 
 #include <gmock/gmock.h>
+#include <tests/support/MessagePosting.h>
 #include <tests/support/StdPath.h>
 
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
+#include <thread>
 
 using namespace VyrTests;
 using testing::HasSubstr;
@@ -38,6 +41,36 @@ TEST_F(TreeCommandLinux, InterruptBeginsNoFurtherFolder)
     EXPECT_EXIT(runInterrupted(), testing::ExitedWithCode(130), "from' not reached");
     EXPECT_EQ(m_folder.ReadFile(u"from/a"), "1");
     EXPECT_FALSE(m_folder.Has(u"to"));
+}
+
+TEST_F(TreeCommandLinux, InterruptInAFolderIsToldAndTheFolderBroughtToItsEnd)
+{
+    m_folder.WriteFile(u"one/a", "1");
+    m_folder.WriteFile(u"one/b/c", "2");
+    m_folder.WriteFile(u"two/d", "3");
+    m_folder.MakeFolder(u"to");
+    VyrHost::TreeRequest request;
+    request.action = VyrHost::TreeAction::Move;
+    request.sources = {m_folder.Path(u"one"), m_folder.Path(u"two")};
+    request.destination = m_folder.Path(u"to");
+    request.apply = true;
+    request.quiet = true;
+    const auto runInterrupted = [&request] {
+        const MessagePosting posting;
+        // The walk through the first folder runs it, and shows how far it is when this is over.
+        posting.PostWork([] {
+            std::raise(SIGINT);
+            std::this_thread::sleep_for(std::chrono::milliseconds(250));
+        });
+        std::exit(VyrHost::RunTrees(request));
+    };
+    EXPECT_EXIT(runInterrupted(), testing::ExitedWithCode(130),
+                "vyr: interrupted; '.*one' is brought to its end first .*\n.*vyr: '.*two' not reached\n$");
+    EXPECT_EQ(m_folder.ReadFile(u"to/one/a"), "1");
+    EXPECT_EQ(m_folder.ReadFile(u"to/one/b/c"), "2");
+    EXPECT_FALSE(m_folder.Has(u"one"));
+    EXPECT_EQ(m_folder.ReadFile(u"two/d"), "3");
+    EXPECT_FALSE(m_folder.Has(u"to/two"));
 }
 
 TEST_F(TreeCommandLinux, AFolderDoesNotGoIntoItselfThroughALink)

@@ -1,0 +1,174 @@
+// Several folders in one call, and a stop that is asked for in the middle of one.
+#include "Snapshot.h"
+
+#include <VyrHost/trees/TreeBatch.h>
+#include <tests/support/EmptiedQueue.h>
+#include <tests/support/MessagePosting.h>
+#include <tests/support/ScratchFolder.h>
+
+#include <gmock/gmock.h>
+
+#include <chrono>
+#include <filesystem>
+#include <thread>
+
+using namespace VyrHost;
+using testing::ElementsAre;
+using testing::Field;
+using VyrTests::SnapshotOf;
+using VyrTests::TreeSnapshot;
+
+namespace {
+
+/// Asks for a stop from within the walk through a tree, as soon as some of its files have come to the target.
+class StoppingWatch final : public TreeWatch
+{
+public:
+    StoppingWatch(const CString& target, std::size_t arrived) : m_target(target), m_arrived(arrived) { PostLook(); }
+
+    bool IsStopAsked() override { return m_isAsked; }
+    void Begin(const TreeTask& task, std::size_t) override { begun.push_back(task.source); }
+    void Show(std::size_t) override { shownAfterStop += m_isAsked; }
+    void End() override { ++ended; }
+
+    std::vector<CString> begun;
+    std::size_t ended = 0;
+    /// What stood at the target when the stop was asked for.
+    TreeSnapshot then;
+    std::size_t shownAfterStop = 0;
+
+private:
+    /// The walk drains the thread's queue at each entry.
+    void PostLook()
+    {
+        m_posting.PostWork([this] { Look(); });
+    }
+    void Look()
+    {
+        then = SnapshotOf(m_target);
+        if (then.size() < m_arrived || then.contains("missing")) {
+            PostLook();
+            return;
+        }
+        m_isAsked = true;
+        // Longer than from one show to the next.
+        std::this_thread::sleep_for(std::chrono::milliseconds(250));
+    }
+
+    const CString m_target;
+    const std::size_t m_arrived;
+    bool m_isAsked = false;
+    VyrTests::MessagePosting m_posting;
+};
+
+class TreeBatchTest : public testing::TestWithParam<TreeAction>
+{
+protected:
+    TreeBatchTest()
+    {
+        for (const char16_t* const name :
+             {u"one/a", u"one/b", u"one/sub/c", u"one/sub/d", u"one/e", u"two/f", u"three/g"})
+            m_scratch.WriteFile(name, "content");
+        m_scratch.MakeFolder(u"to");
+    }
+    [[nodiscard]] std::vector<CString> Paths(const std::vector<CString>& names) const
+    {
+        std::vector<CString> paths;
+        for (const CString& name : names)
+            paths.push_back(m_scratch.Path(name));
+        return paths;
+    }
+    [[nodiscard]] TreeSnapshot At(std::u16string_view name) const { return SnapshotOf(m_scratch.Path(name)); }
+
+    const VyrTests::ScratchFolder m_scratch;
+};
+
+const TreeSnapshot Missing = {{"missing", ""}};
+
+std::vector<TreeStatus> StatusesOf(const TreeBatch& batch)
+{
+    std::vector<TreeStatus> statuses;
+    for (const TreeReport& report : batch.Reports()) {
+        EXPECT_TRUE(report.problems.empty());
+        statuses.push_back(report.status);
+    }
+    return statuses;
+}
+
+} // namespace
+
+TEST_P(TreeBatchTest, StopInATreeBringsItToItsEndAndBeginsNoOther)
+{
+    const TreeSnapshot one = At(u"one");
+    const TreeSnapshot two = At(u"two");
+    TreeBatch batch(Paths({u"one", u"two", u"three"}), m_scratch.Path(u"to"), GetParam(), Trial::Allowed);
+    ASSERT_FALSE(batch.IsRefused());
+    StoppingWatch watch(m_scratch.Path(u"to/one"), 2);
+    const VyrTests::EmptiedQueue emptied;
+    batch.Apply(watch);
+
+    EXPECT_TRUE(batch.WasStopped());
+    EXPECT_THAT(StatusesOf(batch), ElementsAre(TreeStatus::Done, TreeStatus::NotReached, TreeStatus::NotReached));
+    EXPECT_THAT(watch.begun, ElementsAre(m_scratch.Path(u"one")));
+    EXPECT_EQ(watch.ended, 1u);
+    EXPECT_GE(watch.shownAfterStop, 1u);
+    // The stop did come in the middle, and nothing is half there.
+    EXPECT_GE(watch.then.size(), 2u);
+    EXPECT_LT(watch.then.size(), one.size());
+    EXPECT_EQ(At(u"to/one"), one);
+    EXPECT_EQ(At(u"one"), GetParam() == TreeAction::Copy ? one : Missing);
+    EXPECT_EQ(At(u"two"), two);
+    EXPECT_EQ(At(u"to/two"), Missing);
+    EXPECT_EQ(At(u"to/three"), Missing);
+}
+
+TEST_P(TreeBatchTest, StopInTheLastTreeLeavesNothingUndone)
+{
+    const TreeSnapshot one = At(u"one");
+    TreeBatch batch(Paths({u"two", u"one"}), m_scratch.Path(u"to"), GetParam(), Trial::Allowed);
+    StoppingWatch watch(m_scratch.Path(u"to/one"), 2);
+    const VyrTests::EmptiedQueue emptied;
+    batch.Apply(watch);
+    EXPECT_TRUE(watch.IsStopAsked());
+    EXPECT_FALSE(batch.WasStopped());
+    EXPECT_THAT(StatusesOf(batch), ElementsAre(TreeStatus::Done, TreeStatus::Done));
+    EXPECT_EQ(At(u"to/one"), one);
+    EXPECT_EQ(watch.ended, 2u);
+}
+
+TEST_P(TreeBatchTest, WhatWasNotReachedIsDoneByTheNextCall)
+{
+    {
+        TreeBatch batch(Paths({u"one", u"two", u"three"}), m_scratch.Path(u"to"), GetParam(), Trial::Allowed);
+        StoppingWatch watch(m_scratch.Path(u"to/one"), 1);
+        const VyrTests::EmptiedQueue emptied;
+        batch.Apply(watch);
+        ASSERT_TRUE(batch.WasStopped());
+    }
+    const TreeSnapshot two = At(u"two");
+    TreeBatch rest(Paths({u"two", u"three"}), m_scratch.Path(u"to"), GetParam(), Trial::Allowed);
+    StoppingWatch never(m_scratch.Path(u"nowhere"), 1);
+    const VyrTests::EmptiedQueue emptied;
+    rest.Apply(never);
+    EXPECT_THAT(StatusesOf(rest), ElementsAre(TreeStatus::Done, TreeStatus::Done));
+    EXPECT_EQ(At(u"to/two"), two);
+    EXPECT_EQ(At(u"to/three").size(), 1u);
+}
+
+TEST_P(TreeBatchTest, RefusesAllForOneClashAndTouchesNothing)
+{
+    m_scratch.WriteFile(u"to/two/f", "old");
+    TreeBatch batch(Paths({u"one", u"two"}), m_scratch.Path(u"to"), GetParam(), Trial::Allowed);
+    EXPECT_TRUE(batch.IsRefused());
+    EXPECT_THAT(batch.Reports(), ElementsAre(Field(&TreeReport::status, TreeStatus::NotReached),
+                                             Field(&TreeReport::status, TreeStatus::Refused)));
+    StoppingWatch watch(m_scratch.Path(u"nowhere"), 1);
+    const VyrTests::EmptiedQueue emptied;
+    batch.Apply(watch);
+    EXPECT_TRUE(watch.begun.empty());
+    EXPECT_EQ(At(u"to/one"), Missing);
+    EXPECT_EQ(m_scratch.ReadFile(u"to/two/f"), "old");
+}
+
+INSTANTIATE_TEST_SUITE_P(Trees, TreeBatchTest, testing::Values(TreeAction::Copy, TreeAction::Move),
+                         [](const auto& action) { return action.param == TreeAction::Copy ? "Copy" : "Move"; });
