@@ -121,11 +121,12 @@ std::string ReadInput()
         return ReadText(input);
     std::string piece(largestPiece, '\0');
     DWORD count = 0;
-    // A pipe whose writer wrote nothing gives a piece of no bytes, which is not its end; a closed pipe fails.
+    // A pipe whose writer wrote nothing gives a piece of no bytes, which is not its end. A closed pipe fails, but one
+    // of the system below Wine gives no bytes either, time and again; nobody can look into it.
     BOOL succeeded = FALSE;
     do {
         succeeded = ::ReadFile(input, piece.data(), static_cast<DWORD>(piece.size()), &count, nullptr);
-    } while (succeeded && count == 0 && ::GetFileType(input) == FILE_TYPE_PIPE);
+    } while (succeeded && count == 0 && ::PeekNamedPipe(input, nullptr, 0, nullptr, nullptr, nullptr));
     piece.resize(succeeded ? count : 0);
     return piece;
 }

@@ -2,6 +2,7 @@
 #include <tests/VyrHost/apply/BatchScene.h>
 #include <tests/VyrHost/apply/FaultyFiles.h>
 #include <tests/support/Describe.h>
+#include <tests/support/FileMoments.h>
 #include <tests/support/Links.h>
 #include <tests/support/StdPath.h>
 
@@ -640,6 +641,26 @@ TEST(Batches, AreListedFromTheTwoEndsOfTheirJournals)
     file.close();
     EXPECT_EQ(Listed(scene).renamed, 1200u);
     EXPECT_GE(scene.TakeBack().error.Find(u"damaged"), 0);
+}
+
+TEST(Batches, SayAChangeOfTheSizeAloneAndOneOfTheTimeAlone)
+{
+    BatchScene scene;
+    const VyrPlatform::FileTicks early = TicksOfUnixTime(1'700'000'000);
+    for (const char16_t* name : {u"same", u"size", u"time"}) {
+        scene.Write(name);
+        StampFile(scene.Path(name), early, early);
+        scene.Rename(name, CString(name) + u"2");
+    }
+    scene.Apply();
+    scene.Write(u"size2", "longer, but of the same time");
+    StampFile(scene.Path(u"size2"), early, early);
+    const VyrPlatform::FileTicks late = TicksOfUnixTime(1'700'000'000, 1'000'000);
+    StampFile(scene.Path(u"time2"), late, late);
+    EXPECT_EQ(scene.TakeBack().done, 3u);
+    ASSERT_EQ(scene.entries.size(), 3u);
+    for (const BatchEntry& entry : scene.entries)
+        EXPECT_EQ(entry.hasChanged, entry.before != scene.Path(u"same"));
 }
 
 TEST(Batches, SayWhichFilesHaveChangedSince)

@@ -73,6 +73,8 @@ TEST_F(DateTokens, TheCameraLosesWhatNoNameMayHold)
 {
     WritePicture(u"p.jpg", "2024:07:19 18:45:03", "A/B\\C:D", "*?\"<>|E");
     EXPECT_EQ(Named({u"--date", u"<Make> <Model>", u"--date-from", u"picture", u"p.jpg"}), "A_B_C_D ______E.jpg");
+    WritePicture(u"c.jpg", "2024:07:19 18:45:03", "A\x01\x1F\x7F\tB", "  C D  ");
+    EXPECT_EQ(Named({u"--date", u"(<Make>)(<Model>)", u"--date-from", u"picture", u"c.jpg"}), "(A____B)(C D).jpg");
 }
 
 TEST_F(DateTokens, MakeAndModelCannotLeadOutOfTheFolder)
@@ -143,6 +145,11 @@ TEST_F(DateTokens, APictureDecidesForItsSidecarWhereItsDateComesFirst)
     EXPECT_THAT(
         Rename({u"--date", u"yyyy", u"--date-from", u"modified,picture", u"--together", u"p.jpg", u"p.aae"}).output,
         StartsWith("p.jpg  ->  2001.jpg\np.aae  ->  2001.aae\n"));
+    // The rule that has to take a later date tells, whatever the rules behind it find.
+    EXPECT_THAT(Rename({u"--date", u"yyyy", u"--date-from", u"picture,modified", u"--date", u"<Name>-MM",
+                        u"--date-from", u"modified", u"--together", u"p.aae", u"p.jpg"})
+                    .output,
+                StartsWith("p.aae  ->  2024-02.aae\np.jpg  ->  2024-02.jpg\n"));
 }
 
 TEST_F(DateTokens, AFolderIsDatedByItsLastChange)
