@@ -153,6 +153,8 @@ void RenameOptions::RefuseContradictions() const
         refuse("--pairs names the entries itself; no other entries can be named");
     if (m_edit || m_together || m_countsPerFolder)
         refuse("--pairs gives each new name itself; --edit, --together and --number-per-folder do not go with it");
+    if (m_sort || m_isDescending)
+        refuse("--pairs are taken in the order given; --sort and --descending do not go with it");
 }
 
 SourceSettings RenameOptions::ReadSources() const

@@ -88,9 +88,7 @@ private:
         }
         for (const CString& problem : m_gathered.problems)
             Complain(SafeText(problem));
-        // Places are by the order given, which pairs need.
-        if (!m_request.pairs)
-            Sort(List(), m_request.order);
+        Sort(List(), m_request.order);
     }
 
     void TakePairs(std::vector<NamePair> pairs)

@@ -119,6 +119,8 @@ TEST_F(BadInput, ContradictoryOptions)
     ExpectRefused({u"--pairs", u"pairs.csv", u"--together"}, "--pairs");
     ExpectRefused({u"--pairs", u"pairs.csv", u"--number-per-folder"}, "--pairs");
     ExpectRefused({u"--pairs", u"pairs.csv", u"--edit"}, "--edit");
+    ExpectRefused({u"--pairs", u"pairs.csv", u"--sort", u"name"}, "--sort");
+    ExpectRefused({u"--pairs", u"pairs.csv", u"--descending"}, "--descending");
     ExpectRefused({u"--suffix", u"!", u"--only", u"folders", u"d"}, "--recursive");
     ExpectRefused({u"--suffix", u"!", u"--json", u"-q", u"a"}, "--quiet");
     ExpectRefused({u"--suffix", u"!", u"--sort=name", u"--sort=size", u"a"}, "--sort");

@@ -85,6 +85,22 @@ TEST_F(RenameApply, FailsAsAWholeOnRequest)
         EXPECT_TRUE(m_folder.Has(name));
 }
 
+TEST_F(RenameApply, FailsAsAWholeForANameOnTheDiskToo)
+{
+    m_folder.WriteFile(u"a1", "1");
+    m_folder.WriteFile(u"b1", "2");
+    m_folder.WriteFile(u"b2", "3");
+    const ProgramResult result = Rename({u"--replace", u"1", u"2", u"--on-conflict=fail", u"--apply", u"a1", u"b1"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.output, StartsWith("a1  ->  a2  not reached: "));
+    EXPECT_THAT(result.output, HasSubstr("b1  ->  b2  refused: the new name is there already\n"));
+    EXPECT_THAT(result.output, HasSubstr("2 entries: 1 refused, 1 not reached.\nNothing was renamed.\n"));
+    EXPECT_EQ(m_folder.ReadFile(u"a1"), "1");
+    EXPECT_EQ(m_folder.ReadFile(u"b1"), "2");
+    EXPECT_EQ(m_folder.ReadFile(u"b2"), "3");
+    EXPECT_EQ(Run({u"undo", u"--list"}).output, "");
+}
+
 TEST_F(RenameApply, SkipsOnRequest)
 {
     m_folder.WriteFile(u"a1");

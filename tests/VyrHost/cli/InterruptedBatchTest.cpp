@@ -1,0 +1,122 @@
+// Tests of the program: Ctrl-C while a batch of renames is applied and while it is taken back.
+#include "VyrProgram.h"
+
+#include <VyrPlatform/Encoding.h>
+
+#include <gmock/gmock.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+using namespace VyrTests;
+using testing::AllOf;
+using testing::HasSubstr;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class InterruptedBatch : public VyrProgram
+{
+protected:
+    static constexpr int count = 800;
+    static constexpr int mostAttempts = 5;
+
+    using Tree = std::map<std::string, std::string>;
+
+    /// Every file holds its first name.
+    void Arrange()
+    {
+        for (int number = 0; number < count; ++number) {
+            const std::string name = "f" + std::to_string(number);
+            std::ofstream(PathOf(name), std::ios::binary) << name;
+            m_names += name + "\n";
+        }
+    }
+
+    /// Starts a call, and interrupts it as soon as something stands at `name`.
+    ProgramResult InterruptWhenThere(const std::vector<CString>& arguments, const std::string& name,
+                                     const std::string& input = {}) const
+    {
+        ChildProcess child(CallOf(arguments, input));
+        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+        while (!fs::exists(PathOf(name)) && std::chrono::steady_clock::now() < end)
+            std::this_thread::yield();
+        child.Interrupt();
+        return child.Wait();
+    }
+
+    ProgramResult InterruptRename() const
+    {
+        return InterruptWhenThere({u"rename", u"--prefix", u"x", u"--stdin", u"--apply"}, "xf0", m_names);
+    }
+
+    /// How many files have the new name; that each holds its own content is tested on the way.
+    [[nodiscard]] int CountRenamed() const
+    {
+        const Tree files = Files();
+        EXPECT_EQ(files.size(), std::size_t{count});
+        int renamed = 0;
+        for (const auto& [name, content] : files) {
+            const bool isRenamed = name.front() == 'x';
+            EXPECT_EQ(isRenamed ? name.substr(1) : name, content);
+            renamed += isRenamed ? 1 : 0;
+        }
+        return renamed;
+    }
+
+    [[nodiscard]] fs::path PathOf(const std::string& name) const
+    {
+        return ToStdPath(m_folder.Path(VyrPlatform::Encoding::FromUtf8(name)));
+    }
+
+    static std::string Counts(int renamed)
+    {
+        return std::to_string(count) + " entries: " + std::to_string(renamed) + " renamed, " +
+               std::to_string(count - renamed) + " not reached.\n";
+    }
+
+private:
+    std::string m_names;
+};
+
+} // namespace
+
+TEST_F(InterruptedBatch, SaysWhatWasDoneAndCanBeTakenBack)
+{
+    Arrange();
+    ProgramResult result = InterruptRename();
+    // The work may end before the interrupt comes.
+    for (int attempt = 1; result.exitCode == 0 && attempt < mostAttempts; ++attempt) {
+        ASSERT_EQ(Run({u"undo", u"--quiet"}).exitCode, 0);
+        result = InterruptRename();
+    }
+    const int renamed = CountRenamed();
+    EXPECT_GT(renamed, 0);
+    EXPECT_EQ(result.exitCode, 130) << result.errors;
+    EXPECT_THAT(result.output,
+                AllOf(HasSubstr(Counts(renamed) + "This was batch "), HasSubstr("; \"vyr undo\" takes it back.\n")));
+    EXPECT_EQ(Run({u"recover"}).output, "No batch was cut off.\n");
+    EXPECT_EQ(Run({u"undo", u"--quiet"}).exitCode, 0);
+    EXPECT_EQ(CountRenamed(), 0);
+}
+
+TEST_F(InterruptedBatch, TakingBackSaysWhatWasDoneAndCanGoOn)
+{
+    Arrange();
+    ProgramResult result;
+    for (int attempt = 0; result.exitCode != 130 && attempt < mostAttempts; ++attempt) {
+        ASSERT_EQ(Rename({u"--prefix", u"x", u"--apply", u"--quiet", u"f*"}).exitCode, 0);
+        // The last one is taken back first.
+        result = InterruptWhenThere({u"undo"}, "f" + std::to_string(count - 1));
+    }
+    const int left = CountRenamed();
+    EXPECT_LT(left, count);
+    EXPECT_EQ(result.exitCode, 130) << result.errors;
+    EXPECT_THAT(result.output, HasSubstr(": " + Counts(count - left)));
+    EXPECT_EQ(Run({u"recover"}).output, "No batch was cut off.\n");
+    EXPECT_EQ(Run({u"undo", u"--quiet"}).exitCode, 0);
+    EXPECT_EQ(CountRenamed(), 0);
+}
