@@ -43,7 +43,7 @@ protected:
         ChildProcess child(CallOf(arguments, input));
         const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
         while (!fs::exists(PathOf(name)) && std::chrono::steady_clock::now() < end)
-            std::this_thread::yield();
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
         child.Interrupt();
         return child.Wait();
     }
