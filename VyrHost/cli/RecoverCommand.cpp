@@ -6,6 +6,7 @@
 #include <VyrHost/cli/Examples.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
+#include <VyrHost/cli/OptionPairs.h>
 #include <VyrHost/output/OutputBuffer.h>
 #include <VyrHost/output/SafeText.h>
 #include <VyrPlatform/Interrupt.h>
@@ -20,12 +21,11 @@ RecoverCommand::RecoverCommand(CLI::App& program)
     : m_command(
           *program.add_subcommand("recover", "Finish a batch that was cut off (power loss, kill), or take it back"))
 {
-    auto* const takeBack = m_command.add_flag(
-        "--take-back", m_takeBack, "Restore what was before the work that was cut off instead of finishing it");
-    auto* const setAside = m_command.add_flag("--set-aside", m_setAside,
-                                              "Give the batch up, where neither is possible: files stay as they are");
-    auto* const json = m_command.add_flag("--json", m_json, "Write one JSON object for each entry");
-    setAside->excludes(takeBack)->excludes(json);
+    m_command.add_flag("--take-back", m_takeBack,
+                       "Restore what was before the work that was cut off instead of finishing it");
+    m_command.add_flag("--set-aside", m_setAside,
+                       "Give the batch up, where neither is possible: files stay as they are");
+    m_command.add_flag("--json", m_json, "Write one JSON object for each entry");
     m_command.add_flag("-q,--quiet", m_quiet, "Show only what is not done");
     m_command.footer(RecoverExamples() + "\n" + ExitCode::Table);
 }
@@ -37,6 +37,9 @@ bool RecoverCommand::IsChosen() const
 
 int RecoverCommand::Run() const
 {
+    constexpr ExclusivePair Exclusive[] = {{"--set-aside", "--take-back"},
+                                           {"--set-aside", "--json", "--set-aside does nothing to the entries"}};
+    CheckOptionPairs(m_command, Exclusive);
     Batches batches;
     const auto cutOff = batches.FindCutOff();
     if (!cutOff) {

@@ -19,6 +19,7 @@ public:
     /// Whether the parsed command line asks for it.
     [[nodiscard]] bool IsChosen() const;
     /// @return the program's exit code.
+    /// @throws UsageError
     [[nodiscard]] int Run() const;
 
 private:

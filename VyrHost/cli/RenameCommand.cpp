@@ -7,6 +7,9 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
+#include <memory>
+
 namespace VyrHost {
 
 RenameCommand::RenameCommand(CLI::App& program)
@@ -30,6 +33,12 @@ int RenameCommand::Run() const
         throw UsageError("--pairs gives each new name itself; rules do not go with it");
     if (!request.pairs && !request.edit && request.rules.empty())
         throw UsageError("no rule is given, such as --number or --date");
+    const bool mayNumber = std::any_of(request.rules.begin(), request.rules.end(),
+                                       [](const std::unique_ptr<Rule>& rule) { return rule->MayNumber(); });
+    if (m_options.AsksForNumbering() && !mayNumber)
+        throw UsageError("--conflict-pattern, -position, -start and -step say how names are numbered, which is not "
+                         "done to names that are given or come of --replace, --case, --extension-case and "
+                         "--drop-extension alone");
     return RunRename(request);
 }
 

@@ -3,12 +3,15 @@
 
 #include <VyrHost/UsageError.h>
 #include <VyrHost/cli/ArgumentText.h>
+#include <VyrHost/cli/OptionPairs.h>
+#include <VyrHost/entries/Wildcard.h>
 #include <VyrHost/output/SafeText.h>
 #include <VyrHost/rules/LiteralText.h>
 #include <VyrHost/rules/RuleTexts.h>
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -55,9 +58,31 @@ void AddFlag(CLI::App& command, const char* name, bool& flag, const char* help, 
     command.add_flag(name, flag, help)->group(group);
 }
 
+constexpr const char* NamesItself = "--pairs names the entries itself";
+constexpr const char* GivesNames = "--pairs gives each new name itself";
+
+constexpr ExclusivePair Exclusive[] = {
+    {"--json", "--quiet"},
+    {"--stdin", "--stdin0"},
+    {"--pairs", "PATH", NamesItself},
+    {"--pairs", "--stdin", NamesItself},
+    {"--pairs", "--stdin0", NamesItself},
+    {"--pairs", "--recursive", NamesItself},
+    {"--pairs", "--edit", GivesNames},
+    {"--pairs", "--together", GivesNames},
+    {"--pairs", "--number-per-folder", GivesNames},
+    {"--pairs", "--sort", "the order of the pairs counts"},
+    {"--pairs", "--descending", "the order of the pairs counts"},
+};
+
+constexpr DependentOption Dependent[] = {
+    {"--only", "--recursive"},
+    {"--number-per-folder", "--number"},
+};
+
 } // namespace
 
-RenameOptions::RenameOptions(CLI::App& command)
+RenameOptions::RenameOptions(CLI::App& command) : m_command(command)
 {
     AddSources(command);
     AddOrder(command);
@@ -117,7 +142,7 @@ void RenameOptions::AddOutput(CLI::App& command)
 
 RenameRequest RenameOptions::Read() const
 {
-    RefuseContradictions();
+    CheckOptionPairs(m_command, Exclusive, Dependent);
     RenameRequest request;
     request.sources = ReadSources();
     if (m_pairs)
@@ -133,35 +158,15 @@ RenameRequest RenameOptions::Read() const
     return request;
 }
 
-void RenameOptions::RefuseContradictions() const
-{
-    const auto refuse = [](const char* what) {
-        throw UsageError(what);
-    };
-    const bool hasInput = m_lines || m_terminated;
-    if (m_lines && m_terminated)
-        refuse("--stdin and --stdin0 exclude each other");
-    if (m_pick && !m_recursive)
-        refuse("--only says what --recursive takes, which is not given");
-    if (m_json && m_quiet)
-        refuse("--json and --quiet exclude each other");
-    if (!m_pairs && m_paths.empty() && !hasInput)
-        refuse("nothing to rename is named");
-    if (!m_pairs)
-        return;
-    if (!m_paths.empty() || hasInput || m_recursive)
-        refuse("--pairs names the entries itself; no other entries can be named");
-    if (m_edit || m_together || m_countsPerFolder)
-        refuse("--pairs gives each new name itself; --edit, --together and --number-per-folder do not go with it");
-    if (m_sort || m_isDescending)
-        refuse("--pairs are taken in the order given; --sort and --descending do not go with it");
-}
-
 SourceSettings RenameOptions::ReadSources() const
 {
     SourceSettings settings;
     for (const std::string& path : m_paths)
         settings.paths.push_back(FromParser(path));
+    if (!m_pairs && m_paths.empty() && !m_lines && !m_terminated)
+        throw UsageError("nothing to rename is named");
+    if (m_hidden && !m_recursive && std::none_of(settings.paths.begin(), settings.paths.end(), IsPattern))
+        throw UsageError(WithoutEffect("--hidden", "--recursive or a wildcard"));
     settings.recursive = m_recursive;
     settings.pick =
         ReadWord<Pick>(m_pick, "--only", {{"files", Pick::Files}, {"folders", Pick::Folders}, {"all", Pick::All}});
@@ -184,6 +189,11 @@ SortSettings RenameOptions::ReadOrder() const
     return order;
 }
 
+bool RenameOptions::AsksForNumbering() const
+{
+    return m_conflictPattern || m_conflictPosition || m_conflictStart || m_conflictStep;
+}
+
 void RenameOptions::ReadConflicts(RenameRequest& request) const
 {
     enum class Word
@@ -194,8 +204,7 @@ void RenameOptions::ReadConflicts(RenameRequest& request) const
     };
     const auto word = ReadWord<Word>(m_onConflict, "--on-conflict",
                                      {{"number", Word::Number}, {"skip", Word::Skip}, {"fail", Word::Fail}});
-    const bool hasNumbering = m_conflictPattern || m_conflictPosition || m_conflictStart || m_conflictStep;
-    if (hasNumbering && word != Word::Number)
+    if (AsksForNumbering() && word != Word::Number)
         throw UsageError("--on-conflict=" + *m_onConflict +
                          " numbers nothing; no other --conflict option goes with it");
     request.failOnConflict = word == Word::Fail;

@@ -26,6 +26,9 @@ public:
     /// @throws UsageError for options that contradict each other and values that make no sense.
     [[nodiscard]] RenameRequest Read() const;
 
+    /// Whether it is said how a name that is taken is numbered.
+    [[nodiscard]] bool AsksForNumbering() const;
+
 private:
     void AddSources(CLI::App& command);
     void AddOrder(CLI::App& command);
@@ -34,8 +37,8 @@ private:
     [[nodiscard]] SourceSettings ReadSources() const;
     [[nodiscard]] SortSettings ReadOrder() const;
     void ReadConflicts(RenameRequest& request) const;
-    void RefuseContradictions() const;
 
+    CLI::App& m_command;
     std::vector<std::string> m_paths;
     std::optional<std::string> m_pick;
     std::optional<std::string> m_pairs;

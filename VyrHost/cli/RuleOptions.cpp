@@ -3,6 +3,7 @@
 
 #include <VyrHost/UsageError.h>
 #include <VyrHost/cli/ArgumentText.h>
+#include <VyrHost/cli/OptionPairs.h>
 #include <VyrHost/rules/RuleTexts.h>
 
 #include <CLI/CLI.hpp>
@@ -211,7 +212,7 @@ private:
             return std::string_view(given.option->name) == setting.rule;
         });
         if (rule == m_given.end())
-            throw UsageError(std::string(setting.name) + " belongs to " + setting.rule + ", which is not given");
+            throw UsageError(WithoutEffect(setting.name, setting.rule));
         return *rule;
     }
 

@@ -5,6 +5,7 @@
 #include <VyrHost/cli/ArgumentText.h>
 #include <VyrHost/cli/Examples.h>
 #include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/OptionPairs.h>
 
 #include <CLI/CLI.hpp>
 
@@ -52,8 +53,8 @@ bool TreeCommand::IsChosen() const
 
 int TreeCommand::Run() const
 {
-    if (m_json && m_quiet)
-        throw UsageError("--json and --quiet exclude each other");
+    constexpr ExclusivePair Exclusive[] = {{"--json", "--quiet"}};
+    CheckOptionPairs(m_command, Exclusive);
     if (m_paths.size() < 2)
         throw UsageError("a folder and the destination are to be named");
     TreeRequest request;

@@ -1,13 +1,13 @@
 // Declares and runs "vyr undo".
 #include <VyrHost/cli/UndoCommand.h>
 
-#include <VyrHost/UsageError.h>
 #include <VyrHost/apply/Batches.h>
 #include <VyrHost/cli/ArgumentText.h>
 #include <VyrHost/cli/BatchReport.h>
 #include <VyrHost/cli/Examples.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
+#include <VyrHost/cli/OptionPairs.h>
 #include <VyrHost/output/BatchOutput.h>
 #include <VyrHost/output/OutputBuffer.h>
 #include <VyrHost/rules/RuleTexts.h>
@@ -54,8 +54,9 @@ bool UndoCommand::IsChosen() const
 
 int UndoCommand::Run() const
 {
-    if (m_list && m_batch)
-        throw UsageError("--list lists every batch; no number goes with it");
+    constexpr ExclusivePair Exclusive[] = {{"--list", "BATCH", "--list lists every batch"},
+                                           {"--list", "--quiet", "--list lists every batch"}};
+    CheckOptionPairs(m_command, Exclusive);
     std::optional<std::uint32_t> number;
     if (m_batch)
         number = static_cast<std::uint32_t>(ParseNumber(FromParser(*m_batch), 1, "BATCH"));

@@ -65,7 +65,6 @@ TEST_F(BadInput, NumbersThatAreNone)
         EXPECT_EQ(result.exitCode, 2);
         EXPECT_THAT(result.errors, StartsWith("vyr: BATCH '"));
     }
-    EXPECT_EQ(Run({u"undo", u"--list", u"1"}).exitCode, 2);
 }
 
 TEST_F(BadInput, OptionsGivenEmpty)
@@ -119,18 +118,65 @@ TEST_F(BadInput, ContradictoryOptions)
     ExpectRefused({u"--pairs", u"pairs.csv", u"--together"}, "--pairs");
     ExpectRefused({u"--pairs", u"pairs.csv", u"--number-per-folder"}, "--pairs");
     ExpectRefused({u"--pairs", u"pairs.csv", u"--edit"}, "--edit");
-    ExpectRefused({u"--pairs", u"pairs.csv", u"--sort", u"name"}, "--sort");
-    ExpectRefused({u"--pairs", u"pairs.csv", u"--descending"}, "--descending");
-    ExpectRefused({u"--suffix", u"!", u"--only", u"folders", u"d"}, "--recursive");
     ExpectRefused({u"--suffix", u"!", u"--json", u"-q", u"a"}, "--quiet");
     ExpectRefused({u"--suffix", u"!", u"--sort=name", u"--sort=size", u"a"}, "--sort");
     ExpectRefused({u"--number", u"##", u"--digits", u"3", u"a"}, "--digits");
-    ExpectRefused({u"--prefix", u"x", u"--step", u"3", u"a"}, "--number");
-    ExpectRefused({u"--prefix", u"x", u"--date-from", u"picture", u"a"}, "--date");
+    ExpectRefused({u"--pairs", u"pairs.csv", u"a"}, "--pairs names the entries itself");
+    ExpectRefused({u"--pairs", u"pairs.csv", u"--stdin0"}, "--pairs names the entries itself");
+    ExpectRefused({u"--pairs", u"pairs.csv", u"--sort", u"name"}, "--sort");
+    ExpectRefused({u"--pairs", u"pairs.csv", u"--descending"}, "--descending");
     ExpectRefused({u"--date", u"yyyy", u"--date-from", u"modified,modified", u"a"}, "twice");
     for (const char16_t* const mode : {u"skip", u"fail"})
         ExpectRefused({u"--suffix", u"!", u"--on-conflict", mode, u"--conflict-position=before", u"a"},
                       "numbers nothing");
+    const std::vector<std::vector<CString>> calls = {{u"undo", u"--list", u"1"},
+                                                     {u"undo", u"--list", u"-q"},
+                                                     {u"recover", u"--set-aside", u"--take-back"},
+                                                     {u"recover", u"--set-aside", u"--json"},
+                                                     {u"copy", u"d", u"to", u"--json", u"-q"}};
+    for (const std::vector<CString>& call : calls) {
+        const ProgramResult result = Run(call);
+        EXPECT_EQ(result.exitCode, 2);
+        EXPECT_THAT(result.errors, AllOf(StartsWith("vyr: --"), HasSubstr(" exclude each other")));
+        EXPECT_THAT(result.output, IsEmpty());
+    }
+}
+
+TEST_F(BadInput, OptionsThatChangeNothingWithoutAnother)
+{
+    WriteNamed({u"a", u"b.x", u"d/e"});
+    const std::string numbering = "say how names are numbered";
+    ExpectRefused({u"--prefix", u"x", u"--number-per-folder", u"a"},
+                  "--number-per-folder changes nothing without --number, which is not given");
+    ExpectRefused({u"--suffix", u"!", u"--only", u"folders", u"d"}, "--only changes nothing without --recursive");
+    for (const char16_t* const setting : {u"--start", u"--step", u"--digits"})
+        ExpectRefused({u"--prefix", u"x", setting, u"3", u"a"}, " changes nothing without --number");
+    ExpectRefused({u"--prefix", u"x", u"--date-from", u"picture", u"a"}, "--date-from changes nothing without --date");
+    ExpectRefused({u"--prefix", u"x", u"--hidden", u"a"}, "--hidden changes nothing without --recursive or a wildcard");
+    ExpectRefused({u"--prefix", u"x", u"--hidden", u"--stdin"}, "--hidden", "*\n");
+    m_folder.WriteFile(u"pairs.csv", "a,b\n");
+    for (const CString& option : {CString(u"--conflict-pattern=_?"), CString(u"--conflict-position=before"),
+                                  CString(u"--conflict-start=2"), CString(u"--conflict-step=2")}) {
+        ExpectRefused({u"--pairs", u"pairs.csv", option}, numbering);
+        ExpectRefused({u"--edit", option, u"a"}, numbering);
+        ExpectRefused({u"--replace", u"a", u"b", u"--case=upper", u"--drop-extension", option, u"a"}, numbering);
+    }
+}
+
+TEST_F(BadInput, OptionsAreTakenWhereTheyChangeSomething)
+{
+    WriteNamed({u"a", u".b", u"d/e", u"d/f"});
+    const std::vector<std::vector<CString>> calls = {
+        {u"--number", u"#", u"--number-per-folder", u"-r", u"d"},
+        {u"--suffix", u"!", u"--hidden", u"*"},
+        {u"--suffix", u"!", u"--hidden", u"-r", u"."},
+        {u"--suffix", u"!", u"--only", u"all", u"-r", u"d"},
+        {u"--keep-first", u"1", u"--case=lower", u"--conflict-pattern=_?", u"--conflict-start=2", u"d/e"},
+    };
+    for (const std::vector<CString>& call : calls) {
+        const ProgramResult result = Rename(call);
+        EXPECT_EQ(result.exitCode, 0) << result.errors;
+    }
 }
 
 TEST_F(BadInput, SomethingNamedTwice)
