@@ -8,6 +8,7 @@
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/entries/EditedList.h>
 #include <VyrHost/entries/Pairs.h>
+#include <VyrHost/files/ErrorText.h>
 #include <VyrHost/files/FileOperations.h>
 #include <VyrHost/output/JsonLines.h>
 #include <VyrHost/output/OutcomeRows.h>
@@ -21,14 +22,14 @@
 #include <VyrHost/preview/PlannedRenames.h>
 #include <VyrPlatform/Console.h>
 #include <VyrPlatform/Editor.h>
-#include <VyrPlatform/FileReader.h>
 #include <VyrPlatform/FileSystem.h>
 #include <VyrPlatform/Interrupt.h>
 #include <VyrPlatform/Process.h>
+#include <VyrPlatform/ReadToEnd.h>
 
 #include <algorithm>
 #include <memory>
-#include <span>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -38,19 +39,17 @@ namespace {
 
 std::string ReadPairsFile(const CString& path)
 {
-    std::string bytes;
-    if (path == u"-") {
-        for (std::string piece = VyrPlatform::Console::ReadInput(); !piece.empty();
-             piece = VyrPlatform::Console::ReadInput())
-            bytes += piece;
-        return bytes;
+    if (path != u"-") {
+        std::uint32_t error = 0;
+        std::optional<std::string> bytes = VyrPlatform::ReadToEnd(path, error);
+        if (!bytes)
+            throw UsageError("cannot read '" + SafeText(path) + "': " + SafeText(ErrorText(error)));
+        return std::move(*bytes);
     }
-    const VyrPlatform::FileReader file(path);
-    if (!file.IsOpen())
-        throw UsageError("cannot read '" + SafeText(path) +
-                         "': " + SafeText(VyrPlatform::Process::GetErrorMessage(file.Error())));
-    bytes.resize(file.Size());
-    bytes.resize(file.ReadAt(0, std::as_writable_bytes(std::span(bytes))));
+    std::string bytes;
+    for (std::string piece = VyrPlatform::Console::ReadInput(); !piece.empty();
+         piece = VyrPlatform::Console::ReadInput())
+        bytes += piece;
     return bytes;
 }
 
