@@ -4,6 +4,7 @@
 #include <VyrHost/UsageError.h>
 #include <VyrHost/entries/Utf8Mark.h>
 #include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/Surrogates.h>
 
 #include <algorithm>
 #include <charconv>
@@ -18,19 +19,6 @@ constexpr std::string_view Explanation =
     "# In a name \\\\ is a backslash, \\n a line end, \\t a tab.\n";
 
 constexpr std::string_view HexDigits = "0123456789abcdef";
-
-bool IsLoneSurrogate(std::u16string_view text, std::size_t index)
-{
-    const auto isHigh = [](char16_t unit) {
-        return unit >= 0xD800 && unit <= 0xDBFF;
-    };
-    const auto isLow = [](char16_t unit) {
-        return unit >= 0xDC00 && unit <= 0xDFFF;
-    };
-    if (isHigh(text[index]))
-        return index + 1 == text.size() || !isLow(text[index + 1]);
-    return isLow(text[index]) && (index == 0 || !isHigh(text[index - 1]));
-}
 
 void AppendEscape(std::string& text, char16_t unit)
 {
@@ -79,20 +67,20 @@ std::string_view TakeLine(std::string_view& text)
 std::string EscapeName(std::u16string_view name)
 {
     std::string text;
-    for (std::size_t index = 0; index < name.size(); ++index) {
-        const char16_t unit = name[index];
+    while (!name.empty()) {
+        const char16_t unit = name.front();
+        const std::size_t length = VyrPlatform::BeginsWithPair(name) ? 2 : 1;
         if (unit == u'\\')
             text += "\\\\";
         else if (unit == u'\n')
             text += "\\n";
         else if (unit == u'\t')
             text += "\\t";
-        else if (unit < u' ' || unit == 0x7F || IsLoneSurrogate(name, index))
+        else if (unit < u' ' || unit == 0x7F || VyrPlatform::BeginsWithLoneSurrogate(name))
             AppendEscape(text, unit);
-        else if (unit >= 0xD800 && unit <= 0xDBFF)
-            VyrPlatform::Encoding::AppendUtf8(text, name.substr(index++, 2));
         else
-            VyrPlatform::Encoding::AppendUtf8(text, name.substr(index, 1));
+            VyrPlatform::Encoding::AppendUtf8(text, name.substr(0, length));
+        name.remove_prefix(length);
     }
     return text;
 }

@@ -2,6 +2,7 @@
 #include <VyrHost/journal/JournalName.h>
 
 #include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/Surrogates.h>
 
 #include <array>
 #include <charconv>
@@ -12,23 +13,11 @@ namespace {
 
 constexpr std::size_t escapeLength = 6;
 
-bool IsHigh(char16_t unit) noexcept
-{
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-
-bool IsLow(char16_t unit) noexcept
-{
-    return unit >= 0xDC00 && unit <= 0xDFFF;
-}
-
 /// Whether `text` starts with a unit that cannot stand for itself.
 bool StartsWithSpecial(std::u16string_view text) noexcept
 {
     const char16_t unit = text.front();
-    if (IsHigh(unit))
-        return text.size() == 1 || !IsLow(text[1]);
-    return unit < 0x20 || unit == 0x7F || unit == u'\\' || IsLow(unit);
+    return unit < 0x20 || unit == 0x7F || unit == u'\\' || VyrPlatform::BeginsWithLoneSurrogate(text);
 }
 
 void AppendEscape(std::string& text, char16_t unit)
@@ -77,7 +66,7 @@ void AppendJournalName(std::string& text, const CString& name)
         }
         std::size_t length = 0;
         while (length < rest.size() && !StartsWithSpecial(rest.substr(length)))
-            length += IsHigh(rest[length]) ? std::size_t{2} : std::size_t{1};
+            length += VyrPlatform::IsHighSurrogate(rest[length]) ? std::size_t{2} : std::size_t{1};
         VyrPlatform::Encoding::AppendUtf8(text, rest.substr(0, length));
         rest.remove_prefix(length);
     }

@@ -3,6 +3,7 @@
 
 #include <VyrHost/output/Words.h>
 #include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/Surrogates.h>
 
 #include <algorithm>
 #include <array>
@@ -10,16 +11,6 @@
 namespace VyrHost {
 
 namespace {
-
-bool IsSurrogate(char16_t unit)
-{
-    return unit >= 0xD800 && unit <= 0xDFFF;
-}
-
-bool BeginsWithPair(std::u16string_view text)
-{
-    return text.size() >= 2 && text[0] >= 0xD800 && text[0] <= 0xDBFF && text[1] >= 0xDC00 && text[1] <= 0xDFFF;
-}
 
 /// Which of the first characters stand in a JSON text as they are.
 constexpr auto IsPlainLatin = [] {
@@ -34,7 +25,7 @@ constexpr auto IsPlainLatin = [] {
 std::size_t CountPlain(std::u16string_view text)
 {
     const auto special = std::find_if_not(text.begin(), text.end(), [](char16_t unit) {
-        return unit < IsPlainLatin.size() ? IsPlainLatin[unit] : !IsSurrogate(unit);
+        return unit < IsPlainLatin.size() ? IsPlainLatin[unit] : !VyrPlatform::IsSurrogate(unit);
     });
     return static_cast<std::size_t>(special - text.begin());
 }
@@ -57,7 +48,7 @@ void AppendInside(std::string& line, std::u16string_view text)
 {
     while (!text.empty()) {
         std::size_t length = CountPlain(text);
-        if (length == 0 && BeginsWithPair(text))
+        if (length == 0 && VyrPlatform::BeginsWithPair(text))
             length = 2;
         if (length > 0) {
             VyrPlatform::Encoding::AppendUtf8(line, text.substr(0, length));

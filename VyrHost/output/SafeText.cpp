@@ -3,6 +3,7 @@
 
 #include <VyrHost/output/CharacterWidth.h>
 #include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/Surrogates.h>
 
 #include <algorithm>
 #include <vector>
@@ -12,16 +13,6 @@ namespace VyrHost {
 namespace {
 
 constexpr char16_t Ellipsis[] = u"…";
-
-bool IsHigh(char16_t unit)
-{
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-
-bool IsLow(char16_t unit)
-{
-    return unit >= 0xDC00 && unit <= 0xDFFF;
-}
 
 /// Whether `text` is printable ASCII throughout.
 bool IsAllPlain(std::u16string_view text)
@@ -39,20 +30,8 @@ bool ActsOnTerminal(char32_t character)
     const bool turnsDirection = character == 0x061C || character == 0x200E || character == 0x200F ||
                                 (character >= 0x2028 && character <= 0x202E) ||
                                 (character >= 0x2066 && character <= 0x2069);
-    const bool isSurrogate = character >= 0xD800 && character <= 0xDFFF;
-    return isControl || turnsDirection || isSurrogate || character == 0xFEFF;
-}
-
-/// Takes a character off the front of `text`; a lone surrogate is one of its own.
-char32_t TakeCharacter(std::u16string_view& text)
-{
-    const char16_t first = text.front();
-    text.remove_prefix(1);
-    if (!IsHigh(first) || text.empty() || !IsLow(text.front()))
-        return first;
-    const char16_t second = text.front();
-    text.remove_prefix(1);
-    return 0x10000 + ((char32_t{first} - 0xD800) << 10) + (char32_t{second} - 0xDC00);
+    const bool isHalf = character < 0x10000 && VyrPlatform::IsSurrogate(static_cast<char16_t>(character));
+    return isControl || turnsDirection || isHalf || character == 0xFEFF;
 }
 
 std::string Escape(char32_t character)
@@ -86,7 +65,7 @@ struct Glyph
 Glyph TakeGlyph(std::u16string_view& text)
 {
     const std::u16string_view before = text;
-    const char32_t character = TakeCharacter(text);
+    const char32_t character = VyrPlatform::TakeCharacter(text);
     const int width =
         ActsOnTerminal(character) ? static_cast<int>(Escape(character).size()) : CharacterWidth(character);
     return {before.substr(0, before.size() - text.size()), character, width};

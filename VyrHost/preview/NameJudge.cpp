@@ -1,6 +1,8 @@
 // Judges new names: what the system forbids, and halves of characters.
 #include <VyrHost/preview/NameJudge.h>
 
+#include <VyrPlatform/Surrogates.h>
+
 #include <cstddef>
 
 namespace VyrHost {
@@ -9,23 +11,13 @@ namespace {
 
 using VyrPlatform::NameFault;
 
-bool IsHigh(char16_t unit)
-{
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-
-bool IsLow(char16_t unit)
-{
-    return unit >= 0xDC00 && unit <= 0xDFFF;
-}
-
 /// The index of the first lone surrogate from `start` on.
 std::size_t FindLoneSurrogate(std::u16string_view text, std::size_t start)
 {
     for (std::size_t index = start; index < text.size(); ++index) {
-        if (IsHigh(text[index]) && index + 1 < text.size() && IsLow(text[index + 1]))
+        if (VyrPlatform::BeginsWithPair(text.substr(index)))
             ++index;
-        else if (IsHigh(text[index]) || IsLow(text[index]))
+        else if (VyrPlatform::IsSurrogate(text[index]))
             return index;
     }
     return std::u16string_view::npos;

@@ -1,6 +1,8 @@
 // Bytes and UTF-16: one strict UTF-8 decoder and one encoder, each with two ways to treat what is not well-formed.
 #include <VyrPlatform/Encoding.h>
 
+#include <VyrPlatform/Surrogates.h>
+
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -20,21 +22,6 @@ enum class Malformed
     Replace,
     Keep
 };
-
-bool IsHighSurrogate(char16_t unit) noexcept
-{
-    return (unit & 0xFC00) == 0xD800;
-}
-
-bool IsLowSurrogate(char16_t unit) noexcept
-{
-    return (unit & 0xFC00) == 0xDC00;
-}
-
-bool IsSurrogate(char16_t unit) noexcept
-{
-    return (unit & 0xF800) == 0xD800;
-}
 
 bool IsStrayByte(char16_t unit) noexcept
 {
@@ -160,13 +147,12 @@ char* PutUtf8(char* target, char32_t character) noexcept
 /// Encodes the character at `at`, of one unit or of two, and moves `at` behind it.
 char* EncodeOne(std::u16string_view text, std::size_t& at, char* target, Malformed malformed) noexcept
 {
-    const char16_t unit = text[at++];
-    if (!IsSurrogate(unit))
-        return PutUtf8(target, unit);
-    if (IsHighSurrogate(unit) && at < text.size() && IsLowSurrogate(text[at])) {
-        const char16_t low = text[at++];
-        return PutUtf8(target, (static_cast<char32_t>(unit - 0xD7C0) << 10) | (low & 0x3FFU));
-    }
+    const char16_t unit = text[at];
+    std::u16string_view rest = text.substr(at);
+    const char32_t character = TakeCharacter(rest);
+    at = text.size() - rest.size();
+    if (character >= 0x10000 || !IsSurrogate(unit))
+        return PutUtf8(target, character);
     if (malformed == Malformed::Replace)
         return PutUtf8(target, replacementUnit);
     if (!IsStrayByte(unit))

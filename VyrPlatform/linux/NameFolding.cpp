@@ -6,6 +6,7 @@
 #include "NativePath.h"
 
 #include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/Surrogates.h>
 
 #include <algorithm>
 #include <array>
@@ -171,15 +172,6 @@ void LowerAscii(std::u16string& text) noexcept
             unit = static_cast<char16_t>(unit + (u'a' - u'A'));
 }
 
-/// The code point at `index`, which goes past it. A lone surrogate stands for itself.
-UChar32 TakePoint(std::u16string_view text, std::size_t& index) noexcept
-{
-    const char16_t first = text[index++];
-    if (first < 0xD800 || first > 0xDBFF || index == text.size() || text[index] < 0xDC00 || text[index] > 0xDFFF)
-        return first;
-    return 0x10000 + ((first - 0xD800) << 10) + (text[index++] - 0xDC00);
-}
-
 void Append(std::u16string& text, UChar32 point)
 {
     if (point >= 0x10000) {
@@ -193,10 +185,8 @@ void Append(std::u16string& text, UChar32 point)
 std::u16string FoldLetters(std::u16string_view text)
 {
     std::u16string folded;
-    for (std::size_t index = 0; index < text.size();) {
-        const UChar32 point = TakePoint(text, index);
-        Append(folded, u_foldCase(point, U_FOLD_CASE_DEFAULT));
-    }
+    while (!text.empty())
+        Append(folded, u_foldCase(static_cast<UChar32>(TakeCharacter(text)), U_FOLD_CASE_DEFAULT));
     return folded;
 }
 
@@ -204,8 +194,8 @@ std::u16string FoldLetters(std::u16string_view text)
 std::u16string FoldFully(std::u16string_view text)
 {
     std::u16string visible;
-    for (std::size_t index = 0; index < text.size();) {
-        const UChar32 point = TakePoint(text, index);
+    while (!text.empty()) {
+        const auto point = static_cast<UChar32>(TakeCharacter(text));
         if (!u_hasBinaryProperty(point, UCHAR_DEFAULT_IGNORABLE_CODE_POINT))
             Append(visible, point);
     }

@@ -2,22 +2,13 @@
 #include "NativePath.h"
 
 #include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/Surrogates.h>
 
 #include <algorithm>
 
 namespace VyrPlatform {
 
 namespace {
-
-bool IsHighSurrogate(char16_t unit) noexcept
-{
-    return unit >= 0xD800 && unit < 0xDC00;
-}
-
-bool IsLowSurrogate(char16_t unit) noexcept
-{
-    return unit >= 0xDC00 && unit < 0xE000;
-}
 
 bool StandsForByte(char16_t unit) noexcept
 {
@@ -27,15 +18,10 @@ bool StandsForByte(char16_t unit) noexcept
 /// Whether a file can have this path at all.
 bool CanName(std::u16string_view path) noexcept
 {
-    for (std::size_t index = 0; index < path.size(); ++index) {
-        const char16_t unit = path[index];
-        if (IsHighSurrogate(unit)) {
-            if (index + 1 == path.size() || !IsLowSurrogate(path[index + 1]))
-                return false;
-            ++index;
-        } else if (unit == 0 || (IsLowSurrogate(unit) && !StandsForByte(unit))) {
+    while (!path.empty()) {
+        if (path.front() == 0 || (BeginsWithLoneSurrogate(path) && !StandsForByte(path.front())))
             return false;
-        }
+        path.remove_prefix(BeginsWithPair(path) ? 2 : 1);
     }
     return true;
 }
