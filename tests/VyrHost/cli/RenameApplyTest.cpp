@@ -246,6 +246,28 @@ TEST_F(RenameApply, UndoTakesTheLastBatchOrOneByItsNumberBack)
     EXPECT_EQ(Run({u"undo", u"x"}).exitCode, 2);
 }
 
+TEST_F(RenameApply, WrongCallsOfUndoAndRecoverAreRefused)
+{
+    m_folder.WriteFile(u"a");
+    ASSERT_EQ(Rename({u"--suffix", u"1", u"--apply", u"a"}).exitCode, 0);
+    for (const std::vector<CString>& call :
+         std::vector<std::vector<CString>>{{u"undo", u"--list", u"1"},
+                                           {u"undo", u"1", u"1"},
+                                           {u"undo", u"0"},
+                                           {u"undo", u"-1"},
+                                           {u"undo", u"1.5"},
+                                           {u"undo", u""},
+                                           {u"undo", u"99999999999"},
+                                           {u"recover", u"1"},
+                                           {u"recover", u"--take-back", u"--set-aside"}}) {
+        const ProgramResult result = Run(call);
+        EXPECT_EQ(result.exitCode, 2) << VyrPlatform::Encoding::ToUtf8(call.back()) << result.output;
+        EXPECT_THAT(result.errors, StartsWith("vyr: "));
+    }
+    EXPECT_EQ(Run({u"undo", u"2"}).exitCode, 4);
+    EXPECT_TRUE(m_folder.Has(u"a1"));
+}
+
 TEST_F(RenameApply, RecoverSaysWhenThereIsNothingToRecover)
 {
     const ProgramResult result = Run({u"recover"});
