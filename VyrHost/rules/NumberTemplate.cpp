@@ -8,6 +8,8 @@
 #include <VyrHost/rules/Tokens.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <limits>
 #include <string>
 #include <utility>
 
@@ -23,6 +25,23 @@ constexpr int MostDigits = 255;
 {
     throw UsageError("--number '" + SafeText(text) + "': " + reason);
 }
+
+/// The engine's sequence numbers, which wrap where 32 bits end: here that is an error.
+class SequenceRule final : public EngineRule
+{
+public:
+    using EngineRule::EngineRule;
+
+    RuleFault Apply(Subject& subject) override
+    {
+        const std::int64_t number = m_item.startNumber + std::int64_t{m_item.step} * subject.index;
+        using Limits = std::numeric_limits<int>;
+        if (number < Limits::min() || number > Limits::max())
+            throw UsageError("--number would count to " + std::to_string(number) + "; numbers go from " +
+                             std::to_string(Limits::min()) + " to " + std::to_string(Limits::max()));
+        return EngineRule::Apply(subject);
+    }
+};
 
 /// The part of a template that stands for the number.
 struct NumberSpot
@@ -52,16 +71,16 @@ NumberSpot FindNumber(std::u16string_view text)
     return {begin, width, width > 1 ? std::optional(static_cast<int>(width)) : std::nullopt};
 }
 
-void Append(Rules& rules, NameFuncs::ITEM item)
+void AppendNumber(Rules& rules, NameFuncs::ITEM number)
 {
-    rules.push_back(std::make_unique<EngineRule>(std::move(item)));
+    rules.push_back(std::make_unique<SequenceRule>(std::move(number)));
 }
 
 /// Only what has a text to put in.
 void AppendInsert(Rules& rules, InsertType type, std::u16string_view text)
 {
     if (!text.empty())
-        Append(rules, InsertItem(type, 0, text));
+        rules.push_back(std::make_unique<EngineRule>(InsertItem(type, 0, text)));
 }
 
 /// The old name goes.
@@ -71,7 +90,7 @@ void AppendWithoutName(Rules& rules, NameFuncs::ITEM number, std::u16string_view
     number.numberText1 = number.numberPosition == 1 ? after : before;
     if (number.numberPosition == 2)
         number.numberText2 = after;
-    Append(rules, std::move(number));
+    AppendNumber(rules, std::move(number));
 }
 
 /// before + number + between + name + after
@@ -80,7 +99,7 @@ void AppendBeforeName(Rules& rules, NameFuncs::ITEM number, std::u16string_view 
     const std::size_t name = rest.find(Token::Name);
     AppendInsert(rules, InsertType::FromStart, rest.substr(0, name));
     number.numberPosition = 3;
-    Append(rules, std::move(number));
+    AppendNumber(rules, std::move(number));
     AppendInsert(rules, InsertType::FromStart, before);
     AppendInsert(rules, InsertType::FromEnd, rest.substr(name + Token::Name.size()));
 }
@@ -92,7 +111,7 @@ void AppendAfterName(Rules& rules, NameFuncs::ITEM number, std::u16string_view s
     AppendInsert(rules, InsertType::FromStart, start.substr(0, name));
     AppendInsert(rules, InsertType::FromEnd, start.substr(name + Token::Name.size()));
     number.numberPosition = 4;
-    Append(rules, std::move(number));
+    AppendNumber(rules, std::move(number));
     AppendInsert(rules, InsertType::FromEnd, after);
 }
 

@@ -22,7 +22,7 @@ struct NumberSettings
 };
 
 /// A run of "#" (as wide as the number at least), or "<Number>", is the number; "<Name>" is the name so far, which goes
-/// when it is not there; all else stands as it is.
+/// when it is not there; all else stands as it is. The rule throws UsageError where a number would not be an int.
 [[nodiscard]] Rules NumberRules(const CString& text, const NumberSettings& settings);
 
 /// A date format in which "<Name>", the name so far, may stand once.

@@ -67,6 +67,18 @@ TEST_F(BadInput, NumbersThatAreNone)
     }
 }
 
+TEST_F(BadInput, NumbersThatEndBeforeTheList)
+{
+    WriteNamed({u"a", u"b", u"d/c", u"d/e"});
+    ExpectRefused({u"--number", u"#", u"--start", u"2147483647", u"a", u"b"}, "would count to 2147483648; numbers go");
+    ExpectRefused({u"--number", u"#", u"--step=-2147483648", u"a", u"b", u"d/c"}, "would count to -4294967295;");
+    // Each folder has its own count.
+    const ProgramResult result =
+        Rename({u"--number", u"#", u"--start=2147483646", u"--number-per-folder", u"a", u"b", u"d/c", u"d/e"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    EXPECT_THAT(result.output, HasSubstr("b    ->  2147483647\n"));
+}
+
 TEST_F(BadInput, OptionsGivenEmpty)
 {
     WriteNamed({u"a"});

@@ -57,9 +57,22 @@ TEST(NumberTemplate, CountsFromStartByStep)
     EXPECT_EQ(Numbered(u"#", 3, settings), u"/d/85.jpg");
     settings.start = -5;
     EXPECT_EQ(Numbered(u"###", 0, settings), u"/d/00-5.jpg");
-    settings.start = INT_MAX;
-    settings.step = 1;
-    EXPECT_EQ(Numbered(u"#", 1, settings), u"/d/-2147483648.jpg");
+}
+
+TEST(NumberTemplate, DoesNotCountBeyondTheLastNumber)
+{
+    NumberSettings settings;
+    settings.start = INT_MAX - 1;
+    EXPECT_EQ(Numbered(u"#", 1, settings), u"/d/2147483647.jpg");
+    EXPECT_THROW((void)Numbered(u"#", 2, settings), UsageError);
+    settings.start = INT_MIN;
+    settings.step = -1;
+    EXPECT_EQ(Numbered(u"#", 0, settings), u"/d/-2147483648.jpg");
+    EXPECT_THROW((void)Numbered(u"#<Name>", 1, settings), UsageError);
+    settings.step = INT_MAX;
+    EXPECT_EQ(Numbered(u"#", 2, settings), u"/d/2147483646.jpg");
+    EXPECT_THROW((void)Numbered(u"<Name>#", 3, settings), UsageError);
+    EXPECT_THROW((void)Numbered(u"#", INT_MAX, settings), UsageError);
 }
 
 TEST(NumberTemplate, IsAsWideAs255DigitsAndNoWider)
