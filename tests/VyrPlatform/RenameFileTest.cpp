@@ -149,6 +149,13 @@ TEST(OpenFolder, DropsNoNameOfAnotherFile)
     EXPECT_NE(folder.DropSecondName(u"nothing", folder, u"a"), 0u);
     EXPECT_TRUE(scratch.Has(u"a"));
     EXPECT_TRUE(scratch.Has(u"b"));
+    // Two files of two names each, of which neither is a second name of the other.
+    for (const char16_t* const name : {u"a", u"b"})
+        fs::create_hard_link(ToStdPath(scratch.Path(name)), ToStdPath(scratch.Path(CString(name) + u"2")));
+    EXPECT_NE(folder.DropSecondName(u"a", folder, u"b"), 0u);
+    EXPECT_NE(folder.DropSecondName(u"b2", folder, u"a2"), 0u);
+    for (const char16_t* const name : {u"a", u"a2", u"b", u"b2"})
+        EXPECT_TRUE(scratch.Has(name));
 }
 
 } // namespace
