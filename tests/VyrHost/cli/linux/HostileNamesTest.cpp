@@ -68,6 +68,22 @@ TEST_F(HostileNames, NamesThatLookLikeWindowsPathsAreNames)
     EXPECT_TRUE(m_folder.Has(u"pC:\\x\\y.z"));
 }
 
+TEST_F(HostileNames, BackslashesLeadIntoNoFolder)
+{
+    const std::vector<std::u16string_view> names = {u"a\\b.jpg", u"c\\", u"\\\\server\\share", u"C:\\x", u"<Folder>x"};
+    WriteNamed(names);
+    const std::map<std::string, std::string> before = Files();
+    const ProgramResult result = Rename({u"--date", u"'p\\q'<Folder><Name>", u"--apply", u"*"});
+    EXPECT_EQ(result.exitCode, 0) << result.output << result.errors;
+    std::map<std::string, std::string> expected;
+    for (const auto& [name, content] : before)
+        expected.emplace("p\\q/" + name, content);
+    EXPECT_EQ(Files(), expected);
+    EXPECT_EQ(Run({u"undo", u"--quiet"}).exitCode, 0);
+    EXPECT_EQ(Files(), before);
+    EXPECT_FALSE(m_folder.Has(u"p\\q"));
+}
+
 TEST_F(HostileNames, WindowsFaultsAreWarnings)
 {
     m_folder.WriteFile(u"a");
