@@ -3,6 +3,8 @@
 #pragma once
 
 #include <stdexcept>
+#include <string>
+#include <string_view>
 
 namespace VyrHost {
 
@@ -13,5 +15,8 @@ class UsageError : public std::runtime_error
 public:
     using std::runtime_error::runtime_error;
 };
+
+/// Throws a UsageError for the `value` that was given with `option`.
+[[noreturn]] void RefuseValue(const std::string& option, std::u16string_view value, const std::string& reason);
 
 } // namespace VyrHost

@@ -83,13 +83,11 @@ void AddProgress(BatchInformation& information, const std::optional<MarkOutline>
 
 BatchInformation Describe(const JournalFolder& folder, const JournalFile& file)
 {
-    // More than the two longest paths take.
-    constexpr std::uint64_t longestHeading = 1'000'000;
     BatchInformation information;
     information.number = file.number;
     information.state = StateOf(file.phase);
     std::uint32_t error = 0;
-    const std::optional<std::string> text = folder.Read(file, error, longestHeading);
+    const std::optional<std::string> text = folder.ReadBeginning(file, error);
     const std::optional<JournalHeading> heading =
         text ? ReadHeading(*text, information.problem) : std::optional<JournalHeading>();
     if (!heading) {

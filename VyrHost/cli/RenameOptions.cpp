@@ -5,7 +5,6 @@
 #include <VyrHost/cli/ArgumentText.h>
 #include <VyrHost/cli/OptionPairs.h>
 #include <VyrHost/entries/Wildcard.h>
-#include <VyrHost/output/SafeText.h>
 #include <VyrHost/rules/LiteralText.h>
 #include <VyrHost/rules/RuleTexts.h>
 
@@ -35,8 +34,7 @@ Value ReadWord(const std::optional<std::string>& text, const char* option, const
             return value;
         expected.append(expected.empty() ? "" : ", ").append(word);
     }
-    throw UsageError(std::string(option) + " '" + SafeText(FromParser(*text)) + "': one of " + expected +
-                     " is expected");
+    RefuseValue(option, FromParser(*text), "one of " + expected + " is expected");
 }
 
 int ReadNumber(const std::optional<std::string>& text, int usual, const char* option)
@@ -211,7 +209,11 @@ void RenameOptions::ReadConflicts(RenameRequest& request) const
     request.conflicts.mode = word == Word::Number ? OnConflict::Number
                              : word == Word::Skip ? OnConflict::Skip
                                                   : OnConflict::Refuse;
-    auto& numbering = request.conflicts.numbering;
+    ReadNumbering(request.conflicts.numbering);
+}
+
+void RenameOptions::ReadNumbering(VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering) const
+{
     numbering.numberFormat = m_conflictPattern ? FromParser(*m_conflictPattern) : CString(u" (?)");
     RequireNameText(numbering.numberFormat, "--conflict-pattern");
     if (numbering.numberFormat.Find(u"?") < 0)

@@ -37,6 +37,7 @@ private:
     [[nodiscard]] SourceSettings ReadSources() const;
     [[nodiscard]] SortSettings ReadOrder() const;
     void ReadConflicts(RenameRequest& request) const;
+    void ReadNumbering(VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering) const;
 
     CLI::App& m_command;
     std::vector<std::string> m_paths;

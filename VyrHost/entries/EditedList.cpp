@@ -3,6 +3,7 @@
 
 #include <VyrHost/UsageError.h>
 #include <VyrHost/entries/Utf8Mark.h>
+#include <VyrHost/output/UnitEscape.h>
 #include <VyrPlatform/Encoding.h>
 #include <VyrPlatform/Surrogates.h>
 
@@ -18,33 +19,18 @@ constexpr std::string_view Explanation =
     "# The entry of a line that is taken out keeps its name. Save nothing to change nothing.\n"
     "# In a name \\\\ is a backslash, \\n a line end, \\t a tab.\n";
 
-constexpr std::string_view HexDigits = "0123456789abcdef";
-
-void AppendEscape(std::string& text, char16_t unit)
-{
-    text += "\\u";
-    for (int shift = 12; shift >= 0; shift -= 4)
-        text += HexDigits[(unit >> shift) & 0xF];
-}
-
 /// Takes the escape that `text` begins with; 0 when it is none of those that EscapeName writes.
 char16_t TakeEscape(std::string_view& text)
 {
-    constexpr std::size_t LongLength = 6;
     if (text.starts_with("\\\\") || text.starts_with("\\n") || text.starts_with("\\t")) {
         const char16_t unit = text[1] == 'n' ? u'\n' : text[1] == 't' ? u'\t' : u'\\';
         text.remove_prefix(2);
         return unit;
     }
-    unsigned unit = 0;
-    if (text.size() < LongLength || !text.starts_with("\\u"))
-        return 0;
-    const char* const end = text.data() + LongLength;
-    const auto [stop, error] = std::from_chars(text.data() + 2, end, unit, 16);
-    if (error != std::errc() || stop != end || unit == 0)
-        return 0;
-    text.remove_prefix(LongLength);
-    return static_cast<char16_t>(unit);
+    const char16_t unit = ReadUnitEscape(text).value_or(0);
+    if (unit != 0)
+        text.remove_prefix(UnitEscapeLength);
+    return unit;
 }
 
 [[noreturn]] void Refuse(std::size_t line, const std::string& what)
@@ -77,7 +63,7 @@ std::string EscapeName(std::u16string_view name)
         else if (unit == u'\t')
             text += "\\t";
         else if (unit < u' ' || unit == 0x7F || VyrPlatform::BeginsWithLoneSurrogate(name))
-            AppendEscape(text, unit);
+            AppendUnitEscape(text, unit);
         else
             VyrPlatform::Encoding::AppendUtf8(text, name.substr(0, length));
         name.remove_prefix(length);

@@ -28,6 +28,9 @@ constexpr std::array<std::pair<BatchPhase, const char16_t*>, 4> endings{{{BatchP
 constexpr const char16_t* newEnding = u".new";
 constexpr const char16_t* setAsideEnding = u".set-aside";
 constexpr int digits = 6;
+/// How much of a journal is read at first for its heading and for its marks: more than most of them take.
+constexpr std::uint64_t firstPart = 4096;
+constexpr std::uint64_t partGrowth = 4;
 
 CString NameOf(std::uint32_t number, const char16_t* ending)
 {
@@ -122,21 +125,32 @@ std::optional<JournalFile> JournalFolder::FindOpen() const
     return {};
 }
 
-std::optional<std::string> JournalFolder::Read(const JournalFile& file, std::uint32_t& error, std::uint64_t count) const
+std::optional<std::string> JournalFolder::Read(const JournalFile& file, std::uint32_t& error) const
 {
     const VyrPlatform::FileReader reader(file.path);
     error = reader.Error();
     if (!reader.IsOpen())
         return {};
-    return ReadPart(reader, 0, std::min(reader.Size(), count));
+    return ReadPart(reader, 0, reader.Size());
+}
+
+std::optional<std::string> JournalFolder::ReadBeginning(const JournalFile& file, std::uint32_t& error) const
+{
+    const VyrPlatform::FileReader reader(file.path);
+    error = reader.Error();
+    if (!reader.IsOpen())
+        return {};
+    for (std::uint64_t count = firstPart;; count *= partGrowth) {
+        std::string text = ReadPart(reader, 0, std::min(reader.Size(), count));
+        if (HasHeading(text) || count >= reader.Size())
+            return text;
+    }
 }
 
 std::string JournalFolder::ReadMarks(const JournalFile& file) const
 {
-    // More than most marks take.
-    constexpr std::uint64_t firstCount = 4096;
     const VyrPlatform::FileReader reader(file.path);
-    for (std::uint64_t count = firstCount;; count *= 4) {
+    for (std::uint64_t count = firstPart;; count *= partGrowth) {
         const std::uint64_t offset = reader.Size() - std::min(reader.Size(), count);
         const std::string tail = ReadPart(reader, offset, reader.Size() - offset);
         const std::string_view marks = FindMarks(tail);

@@ -52,13 +52,13 @@ public:
     [[nodiscard]] std::vector<JournalFile> List() const;
     /// The journal of a batch that is being worked on, or was when that was cut off.
     [[nodiscard]] std::optional<JournalFile> FindOpen() const;
-    /// The text of a journal, or at least the first `count` bytes of it; nothing, with `error` set, when it cannot be
-    /// read.
-    [[nodiscard]] std::optional<std::string> Read(const JournalFile& file, std::uint32_t& error,
-                                                  std::uint64_t count = ~std::uint64_t{0}) const;
+    /// The text of a journal; nothing, with `error` set, when it cannot be read.
+    [[nodiscard]] std::optional<std::string> Read(const JournalFile& file, std::uint32_t& error) const;
+    /// The first part of it, as far as its heading reaches.
+    [[nodiscard]] std::optional<std::string> ReadBeginning(const JournalFile& file, std::uint32_t& error) const;
 
-    /// The marks of a journal, as FindMarks gives them: read from its end on, as far back as they reach. Empty when it
-    /// has none, or cannot be read.
+    /// Its marks, as FindMarks gives them: read from its end on, as far back as they reach. Empty when it has none, or
+    /// cannot be read.
     [[nodiscard]] std::string ReadMarks(const JournalFile& file) const;
 
     // Under the lock.

@@ -1,17 +1,15 @@
 // Writes and reads names.
 #include <VyrHost/journal/JournalName.h>
 
+#include <VyrHost/output/UnitEscape.h>
 #include <VyrPlatform/Encoding.h>
 #include <VyrPlatform/Surrogates.h>
 
-#include <array>
-#include <charconv>
+#include <algorithm>
 
 namespace VyrHost {
 
 namespace {
-
-constexpr std::size_t escapeLength = 6;
 
 /// Whether `text` starts with a unit that cannot stand for itself.
 bool StartsWithSpecial(std::u16string_view text) noexcept
@@ -20,32 +18,12 @@ bool StartsWithSpecial(std::u16string_view text) noexcept
     return unit < 0x20 || unit == 0x7F || unit == u'\\' || VyrPlatform::BeginsWithLoneSurrogate(text);
 }
 
-void AppendEscape(std::string& text, char16_t unit)
-{
-    constexpr const char* digits = "0123456789abcdef";
-    text += "\\u";
-    for (int shift = 12; shift >= 0; shift -= 4)
-        text += digits[(unit >> shift) & 0xF];
-}
-
 bool IsPlainAscii(std::u16string_view name) noexcept
 {
     for (const char16_t unit : name)
         if (unit < 0x20 || unit >= 0x7F || unit == u'\\')
             return false;
     return true;
-}
-
-std::optional<char16_t> ReadEscape(std::string_view escape) noexcept
-{
-    if (escape.size() < escapeLength || escape[1] != 'u')
-        return {};
-    unsigned unit = 0;
-    const char* const end = escape.data() + escapeLength;
-    const auto [read, error] = std::from_chars(escape.data() + 2, end, unit, 16);
-    if (error != std::errc() || read != end)
-        return {};
-    return static_cast<char16_t>(unit);
 }
 
 } // namespace
@@ -60,7 +38,7 @@ void AppendJournalName(std::string& text, const CString& name)
     }
     while (!rest.empty()) {
         if (StartsWithSpecial(rest)) {
-            AppendEscape(text, rest.front());
+            AppendUnitEscape(text, rest.front());
             rest.remove_prefix(1);
             continue;
         }
@@ -82,11 +60,11 @@ std::optional<CString> ReadJournalName(std::string_view text)
             text.remove_prefix(length);
             continue;
         }
-        const std::optional<char16_t> unit = ReadEscape(text);
+        const std::optional<char16_t> unit = ReadUnitEscape(text);
         if (!unit)
             return {};
         name += *unit;
-        text.remove_prefix(escapeLength);
+        text.remove_prefix(UnitEscapeLength);
     }
     return name;
 }

@@ -515,6 +515,11 @@ std::optional<Journal> ReadJournal(std::string_view text, CString& problem)
     }
 }
 
+bool HasHeading(std::string_view text)
+{
+    return text.find('\n', text.find('\n') + 1) != text.npos;
+}
+
 std::optional<JournalHeading> ReadHeading(std::string_view text, CString& problem)
 {
     try {

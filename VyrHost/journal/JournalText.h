@@ -85,6 +85,8 @@ struct Journal
 /// every name a single part of a path.
 /// @return nothing, with `problem` saying why and where, when it is damaged.
 [[nodiscard]] std::optional<Journal> ReadJournal(std::string_view text, CString& problem);
+/// Whether the first part of a journal reaches to the end of the heading.
+[[nodiscard]] bool HasHeading(std::string_view text);
 /// The heading alone, from the first part of a journal.
 [[nodiscard]] std::optional<JournalHeading> ReadHeading(std::string_view text, CString& problem);
 

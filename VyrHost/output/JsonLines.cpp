@@ -1,6 +1,7 @@
 // Writes a preview as JSON lines.
 #include <VyrHost/output/JsonLines.h>
 
+#include <VyrHost/output/UnitEscape.h>
 #include <VyrHost/output/Words.h>
 #include <VyrPlatform/Encoding.h>
 #include <VyrPlatform/Surrogates.h>
@@ -32,15 +33,12 @@ std::size_t CountPlain(std::u16string_view text)
 
 void AppendEscape(std::string& line, char16_t unit)
 {
-    constexpr char Digits[] = "0123456789abcdef";
     if (unit == u'"' || unit == u'\\') {
         line += '\\';
         line += static_cast<char>(unit);
-        return;
+    } else {
+        AppendUnitEscape(line, unit);
     }
-    line += "\\u";
-    for (int shift = 12; shift >= 0; shift -= 4)
-        line += Digits[(unit >> shift) & 0xF];
 }
 
 /// Appends `text` to a JSON text that has begun.

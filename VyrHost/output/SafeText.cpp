@@ -2,6 +2,7 @@
 #include <VyrHost/output/SafeText.h>
 
 #include <VyrHost/output/CharacterWidth.h>
+#include <VyrHost/output/UnitEscape.h>
 #include <VyrPlatform/Encoding.h>
 #include <VyrPlatform/Surrogates.h>
 
@@ -46,12 +47,9 @@ std::string Escape(char32_t character)
     default:
         break;
     }
-    constexpr char Digits[] = "0123456789abcdef";
-    const int width = character < 0x100 ? 2 : 4;
-    std::string escape = width == 2 ? "\\x" : "\\u";
-    for (int shift = 4 * (width - 1); shift >= 0; shift -= 4)
-        escape += Digits[(character >> shift) & 0xF];
-    return escape;
+    std::string escape;
+    AppendUnitEscape(escape, static_cast<char16_t>(character));
+    return character < 0x100 ? "\\x" + escape.substr(UnitEscapeLength - 2) : escape;
 }
 
 /// A character as it is shown.

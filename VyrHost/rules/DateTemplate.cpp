@@ -17,7 +17,7 @@ using VyrLibraryFuncs::NameFuncs;
 
 [[noreturn]] void Refuse(std::u16string_view text, const std::string& reason)
 {
-    throw UsageError("--date '" + SafeText(text) + "': " + reason);
+    RefuseValue("--date", text, reason);
 }
 
 /// Where the date goes, by the numbers of ITEM::dateTimePosition.

@@ -2,7 +2,6 @@
 #include <VyrHost/rules/RuleTexts.h>
 
 #include <VyrHost/UsageError.h>
-#include <VyrHost/output/SafeText.h>
 #include <VyrHost/rules/EditItems.h>
 #include <VyrHost/rules/LiteralText.h>
 
@@ -60,7 +59,7 @@ PlacedText CutPlace(const CString& text, const char* option)
 {
     const int colon = text.Find(u":");
     if (colon < 0)
-        throw UsageError(std::string(option) + " '" + SafeText(text) + "': a place and a colon are expected in front");
+        RefuseValue(option, text, "a place and a colon are expected in front");
     const bool fromEnd = text[0] == u'-';
     const CString place = fromEnd ? text.Mid(1, colon - 1) : text.Left(colon);
     return {fromEnd, ParseNumber(place, 0, option), text.Mid(colon + 1)};
@@ -69,11 +68,6 @@ PlacedText CutPlace(const CString& text, const char* option)
 int ParseCount(const CString& text, const char* option)
 {
     return ParseNumber(text, 1, option);
-}
-
-[[noreturn]] void RefuseWord(const CString& text, const char* option, const char* expected)
-{
-    throw UsageError(std::string(option) + " '" + SafeText(text) + "': " + expected + " is expected");
 }
 
 Rules ExtensionRule(int type)
@@ -148,7 +142,7 @@ Rules CaseRules(const CString& text)
     else if (text == u"lower")
         item.convertType = 2;
     else
-        RefuseWord(text, "--case", "first, upper or lower");
+        RefuseValue("--case", text, "first, upper or lower is expected");
     return One(std::move(item));
 }
 
@@ -181,7 +175,7 @@ Rules ExtensionCaseRules(const CString& text)
         return ExtensionRule(0);
     if (text == u"lower")
         return ExtensionRule(1);
-    RefuseWord(text, "--extension-case", "upper or lower");
+    RefuseValue("--extension-case", text, "upper or lower is expected");
 }
 
 Rules DropExtensionRules()

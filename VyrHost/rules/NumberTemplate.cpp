@@ -2,7 +2,6 @@
 #include <VyrHost/rules/RuleTexts.h>
 
 #include <VyrHost/UsageError.h>
-#include <VyrHost/output/SafeText.h>
 #include <VyrHost/rules/EditItems.h>
 #include <VyrHost/rules/LiteralText.h>
 #include <VyrHost/rules/Tokens.h>
@@ -23,7 +22,7 @@ constexpr int MostDigits = 255;
 
 [[noreturn]] void Refuse(std::u16string_view text, const std::string& reason)
 {
-    throw UsageError("--number '" + SafeText(text) + "': " + reason);
+    RefuseValue("--number", text, reason);
 }
 
 /// The engine's sequence numbers, which wrap where 32 bits end: here that is an error.

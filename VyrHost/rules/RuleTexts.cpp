@@ -20,8 +20,7 @@ void RequireNameText(std::u16string_view text, const char* option)
         return unit == 0 || VyrPlatform::FileSystem::IsSeparator(unit);
     };
     if (std::any_of(text.begin(), text.end(), isBad))
-        throw UsageError(std::string(option) + " '" + SafeText(text) +
-                         "': a name cannot hold a folder separator or a NUL");
+        RefuseValue(option, text, "a name cannot hold a folder separator or a NUL");
 }
 
 int ParseNumber(const CString& text, int least, const char* what)
@@ -33,8 +32,9 @@ int ParseNumber(const CString& text, int least, const char* what)
     const char* const end = digits.data() + digits.size();
     const auto [stop, error] = std::from_chars(digits.data(), end, number);
     if (error != std::errc() || stop != end || number < least)
-        throw UsageError(std::string(what) + " '" + SafeText(text) + "': a whole number from " + std::to_string(least) +
-                         " to " + std::to_string(std::numeric_limits<int>::max()) + " is expected");
+        RefuseValue(what, text,
+                    "a whole number from " + std::to_string(least) + " to " +
+                        std::to_string(std::numeric_limits<int>::max()) + " is expected");
     return number;
 }
 
@@ -52,10 +52,10 @@ std::vector<DateSource> ParseDateSources(const CString& text)
         const auto* const found =
             std::find_if(std::begin(Names), std::end(Names), [word](const auto& name) { return name.first == word; });
         if (found == std::end(Names))
-            throw UsageError("--date-from '" + SafeText(text) +
-                             "': a list of picture, modified, created and accessed is expected, parted by commas");
+            RefuseValue("--date-from", text,
+                        "a list of picture, modified, created and accessed is expected, parted by commas");
         if (std::find(sources.begin(), sources.end(), found->second) != sources.end())
-            throw UsageError("--date-from '" + SafeText(text) + "': " + SafeText(word) + " is named twice");
+            RefuseValue("--date-from", text, SafeText(word) + " is named twice");
         sources.push_back(found->second);
         more = end != std::u16string_view::npos;
         rest.remove_prefix(more ? end + 1 : rest.size());

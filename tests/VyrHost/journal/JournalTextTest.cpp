@@ -196,6 +196,8 @@ TEST(JournalText, GivesItsHeadingFromItsFirstLines)
     EXPECT_EQ(heading->started, u"2024/05/06 07:08:09");
     EXPECT_EQ(heading->entries, 5u);
     EXPECT_FALSE(ReadHeading(text.substr(0, end - 1), problem));
+    for (std::size_t length = 0; length < text.size(); ++length)
+        EXPECT_EQ(HasHeading(std::string_view(text).substr(0, length)), length >= end) << length;
     EXPECT_FALSE(problem.IsEmpty());
 }
 
