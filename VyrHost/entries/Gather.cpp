@@ -191,6 +191,7 @@ private:
             return;
         }
         const std::vector<std::uint32_t> order = ByName(folder.names);
+        MakeRoom(order.size());
         std::vector<std::u16string_view> below;
         for (const std::uint32_t index : order) {
             NameRecord& record = folder.names.Records()[index];
@@ -203,9 +204,16 @@ private:
             Walk(WithSeparator(CString::Join({path, name})), WithSeparator(CString::Join({shown, name})));
     }
 
+    void MakeRoom(std::size_t count)
+    {
+        std::vector<Entry>& entries = List().entries;
+        if (count > entries.capacity() - entries.size())
+            entries.reserve(std::max(entries.size() + count, 2 * entries.capacity()));
+    }
+
     [[nodiscard]] std::vector<std::uint32_t> ByName(const NameTable& names) const
     {
-        const std::vector<NameRecord>& records = names.Records();
+        const std::deque<NameRecord>& records = names.Records();
         std::vector<std::uint32_t> order;
         order.reserve(records.size());
         for (std::uint32_t index = 0; index < records.size(); ++index)

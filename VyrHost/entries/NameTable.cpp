@@ -2,6 +2,7 @@
 #include <VyrHost/entries/NameTable.h>
 
 #include <functional>
+#include <utility>
 
 namespace VyrHost {
 
@@ -29,8 +30,6 @@ NameTable::Key NameTable::KeyOf(std::u16string_view name) const
 
 bool NameTable::IsSame(const NameRecord& record, const Key& key) const
 {
-    if (record.hash != key.hash)
-        return false;
     return record.name == key.name ||
            (m_folding != NameFolding::None && VyrPlatform::FoldName(record.name, m_folding) == key.folded);
 }
@@ -39,7 +38,8 @@ std::size_t NameTable::SlotOf(const Key& key) const
 {
     const std::size_t mask = m_slots.size() - 1;
     std::size_t slot = key.hash & mask;
-    while (m_slots[slot] != 0 && !IsSame(m_records[m_slots[slot] - 1], key))
+    while (m_slots[slot].number != 0 &&
+           (m_slots[slot].hash != key.hash || !IsSame(m_records[m_slots[slot].number - 1], key)))
         slot = (slot + 1) & mask;
     return slot;
 }
@@ -48,8 +48,8 @@ const NameRecord* NameTable::Find(std::u16string_view name) const
 {
     if (m_slots.empty())
         return nullptr;
-    const std::uint32_t found = m_slots[SlotOf(KeyOf(name))];
-    return found ? &m_records[found - 1] : nullptr;
+    const std::uint32_t number = m_slots[SlotOf(KeyOf(name))].number;
+    return number ? &m_records[number - 1] : nullptr;
 }
 
 NameRecord* NameTable::Find(std::u16string_view name)
@@ -63,24 +63,27 @@ NameRecord& NameTable::Add(std::u16string_view name)
     if ((m_records.size() + 1) * 3 > m_slots.size() * 2)
         Grow();
     const Key key = KeyOf(name);
-    std::uint32_t& slot = m_slots[SlotOf(key)];
-    if (slot == 0) {
-        m_records.push_back({.name = name, .hash = key.hash});
-        slot = static_cast<std::uint32_t>(m_records.size());
+    Slot& slot = m_slots[SlotOf(key)];
+    if (slot.number == 0) {
+        m_records.push_back({.name = name});
+        slot = {key.hash, static_cast<std::uint32_t>(m_records.size())};
     }
-    return m_records[slot - 1];
+    return m_records[slot.number - 1];
 }
 
 void NameTable::Grow()
 {
-    m_slots.assign(m_slots.empty() ? FirstSlots : m_slots.size() * 2, 0);
-    const std::size_t mask = m_slots.size() - 1;
-    for (std::size_t index = 0; index < m_records.size(); ++index) {
-        std::size_t slot = m_records[index].hash & mask;
-        while (m_slots[slot] != 0)
+    std::vector<Slot> slots(m_slots.empty() ? FirstSlots : m_slots.size() * 2);
+    const std::size_t mask = slots.size() - 1;
+    for (const Slot& moved : m_slots) {
+        if (moved.number == 0)
+            continue;
+        std::size_t slot = moved.hash & mask;
+        while (slots[slot].number != 0)
             slot = (slot + 1) & mask;
-        m_slots[slot] = static_cast<std::uint32_t>(index + 1);
+        slots[slot] = moved;
     }
+    m_slots = std::move(slots);
 }
 
 } // namespace VyrHost

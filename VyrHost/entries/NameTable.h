@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <string_view>
 #include <vector>
 
@@ -22,7 +23,6 @@ inline constexpr std::uint32_t NewFolder = NoEntry - 1;
 struct NameRecord
 {
     std::u16string_view name;
-    std::uint32_t hash = 0;
     /// The entry of the list whose name it is now.
     std::uint32_t owner = NoEntry;
     /// The entry of the list whose name it is after the batch.
@@ -32,7 +32,7 @@ struct NameRecord
     bool isLink = false;
 };
 
-/// Finds a folder's names in constant time. A reference stays good until the next name is added.
+/// Finds a folder's names in constant time. References to records stay good for the life of the table.
 class NameTable
 {
 public:
@@ -47,8 +47,8 @@ public:
     NameRecord& Add(std::u16string_view name);
 
     /// The records in the order in which they were added.
-    [[nodiscard]] std::vector<NameRecord>& Records() { return m_records; }
-    [[nodiscard]] const std::vector<NameRecord>& Records() const { return m_records; }
+    [[nodiscard]] std::deque<NameRecord>& Records() { return m_records; }
+    [[nodiscard]] const std::deque<NameRecord>& Records() const { return m_records; }
 
 private:
     /// A name as it is looked for.
@@ -61,14 +61,22 @@ private:
     };
 
     [[nodiscard]] Key KeyOf(std::u16string_view name) const;
+    struct Slot
+    {
+        std::uint32_t hash = 0;
+        /// Of the record, plus 1; 0 for a free slot.
+        std::uint32_t number = 0;
+    };
+
     [[nodiscard]] bool IsSame(const NameRecord& record, const Key& key) const;
     [[nodiscard]] std::size_t SlotOf(const Key& key) const;
     void Grow();
 
     VyrPlatform::NameFolding m_folding = VyrPlatform::NameFolding::None;
-    std::vector<NameRecord> m_records;
-    /// Index of a record plus 1, 0 for a free slot; their count is a power of two.
-    std::vector<std::uint32_t> m_slots;
+    /// Not a vector: a table of many names would be copied each time that it grows.
+    std::deque<NameRecord> m_records;
+    /// Their count is a power of two.
+    std::vector<Slot> m_slots;
 };
 
 } // namespace VyrHost

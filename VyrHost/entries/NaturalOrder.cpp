@@ -164,7 +164,6 @@ void SortNaturally(std::vector<std::uint32_t>& indexes, const NameOfIndex& nameO
     struct Keyed
     {
         std::uint64_t key;
-        std::u16string_view name;
         std::uint32_t index;
     };
     if (indexes.empty())
@@ -172,12 +171,10 @@ void SortNaturally(std::vector<std::uint32_t>& indexes, const NameOfIndex& nameO
     const std::size_t common = CommonLength(indexes, nameOf);
     std::vector<Keyed> keyed;
     keyed.reserve(indexes.size());
-    for (const std::uint32_t index : indexes) {
-        const std::u16string_view name = nameOf(index);
-        keyed.push_back({KeyBuilder::KeyOf(name.substr(common)), name, index});
-    }
-    std::sort(keyed.begin(), keyed.end(), [](const Keyed& left, const Keyed& right) {
-        return left.key != right.key ? left.key < right.key : IsNaturallyLess(left.name, right.name);
+    for (const std::uint32_t index : indexes)
+        keyed.push_back({KeyBuilder::KeyOf(nameOf(index).substr(common)), index});
+    std::sort(keyed.begin(), keyed.end(), [&nameOf](const Keyed& left, const Keyed& right) {
+        return left.key != right.key ? left.key < right.key : IsNaturallyLess(nameOf(left.index), nameOf(right.index));
     });
     std::transform(keyed.begin(), keyed.end(), indexes.begin(), [](const Keyed& one) { return one.index; });
 }

@@ -204,13 +204,7 @@ private:
     }
 
     /// Where the last entry that wanted the same name left off.
-    std::uint64_t& AttemptOf(std::uint32_t entry)
-    {
-        NameTable& names = Names(entry);
-        const NameRecord& record = names.Add(WantedName(entry));
-        const auto index = static_cast<std::uint64_t>(&record - names.Records().data());
-        return m_attempts[(std::uint64_t{m_decisions[entry].folder} << 32) | index];
-    }
+    std::uint64_t& AttemptOf(std::uint32_t entry) { return m_attempts[&Names(entry).Add(WantedName(entry))]; }
 
     /// Whether nobody has the name after the batch. An entry that stays holds its own name, so an owner without a
     /// holder leaves.
@@ -238,8 +232,8 @@ private:
     std::vector<std::uint32_t> m_members;
     /// What the entries wanted that got a numbered name.
     std::unordered_map<std::uint32_t, std::u16string_view> m_wanted;
-    /// The next attempt at a number, by folder and index of the wanted name's record.
-    std::unordered_map<std::uint64_t, std::uint64_t> m_attempts;
+    /// The next attempt at a number, by the wanted name's record.
+    std::unordered_map<const NameRecord*, std::uint64_t> m_attempts;
 };
 
 } // namespace
