@@ -32,8 +32,7 @@ void AppendJournalName(std::string& text, const CString& name)
 {
     std::u16string_view rest = name;
     if (IsPlainAscii(rest)) {
-        for (const char16_t unit : rest)
-            text += static_cast<char>(unit);
+        text.append(rest.begin(), rest.end());
         return;
     }
     while (!rest.empty()) {

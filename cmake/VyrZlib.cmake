@@ -1,0 +1,8 @@
+# zlib, for what is linked to VyrZlib. On Windows it is linked in, so that no further DLL is needed.
+if(WIN32)
+  find_library(VYR_ZLIB NAMES libz.a REQUIRED)
+else()
+  find_library(VYR_ZLIB NAMES z REQUIRED)
+endif()
+add_library(VyrZlib INTERFACE)
+target_link_libraries(VyrZlib INTERFACE ${VYR_ZLIB})
