@@ -8,15 +8,31 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace VyrHost {
 
-/// One accepted rename. Both paths are absolute and differ.
+/// An absolute path, cut behind its last separator: the entries of one folder share the folder's text.
+struct PlannedPath
+{
+    PlannedPath() = default;
+    PlannedPath(CString inFolder, CString called) noexcept : folder(std::move(inFolder)), name(std::move(called)) {}
+    /// Cuts `path`.
+    PlannedPath(const CString& path);
+
+    [[nodiscard]] CString Path() const { return CString::Join({folder, name}); }
+
+    /// With its separator; empty where the path has none.
+    CString folder;
+    CString name;
+};
+
+/// One accepted rename. The paths differ.
 struct PlannedRename
 {
-    CString from;
-    CString to;
+    PlannedPath from;
+    PlannedPath to;
     /// What stands at `from`, as the listing told it: File, Folder or Other.
     VyrPlatform::FileSystem::Kind kind = VyrPlatform::FileSystem::Kind::File;
 };

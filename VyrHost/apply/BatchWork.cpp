@@ -61,16 +61,14 @@ BatchWork::BatchWork(FileOperations& files, JournalFolder& folder, Journal journ
 
 bool BatchWork::Begin()
 {
-    FolderCache folders(m_progress, m_files);
-    m_journal.states.reserve(m_journal.plan.entries.size());
     for (PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry)
-        LookAtSource(entry, folders);
+        CheckSource(entry);
     return MayGoOn(m_folder.Begin(m_journal, m_file));
 }
 
-void BatchWork::LookAtSource(PlanIndex entry, FolderCache& folders)
+void BatchWork::CheckSource(PlanIndex entry)
 {
-    FileState state = folders.Look(m_before.PlaceOf(entry, Standing::Before));
+    FileState& state = m_journal.states[entry];
     if (state.kind == Kind::Missing) {
         LeaveOut(entry, {.outcome = RenameOutcome::Failed, .error = state.error, .reason = ErrorText(state.error)});
     } else if (IsOtherKind(m_journal.plan.entries[entry].kind, state.kind)) {
@@ -79,7 +77,6 @@ void BatchWork::LookAtSource(PlanIndex entry, FolderCache& folders)
                          .reason = u"it is no longer what it was when it was listed"});
         state = {};
     }
-    m_journal.states.push_back(state);
 }
 
 void BatchWork::LeaveOut(PlanIndex entry, const RenameResult& result)

@@ -20,8 +20,8 @@ public:
     BatchWork(const BatchWork&) = delete;
     BatchWork& operator=(const BatchWork&) = delete;
 
-    /// For a new batch: looks at what stands at the old paths, and writes the journal. From then on the batch can be
-    /// recovered.
+    /// For a new batch, whose journal says what stands at the old paths: leaves out what is not there any more, and
+    /// writes the journal. From then on the batch can be recovered.
     /// @return false when the journal cannot be written.
     [[nodiscard]] bool Begin();
 
@@ -39,7 +39,7 @@ public:
     [[nodiscard]] BatchEntry Describe(PlanIndex entry, const RenameResult& result) const;
 
 private:
-    void LookAtSource(PlanIndex entry, FolderCache& folders);
+    void CheckSource(PlanIndex entry);
     void LeaveOut(PlanIndex entry, const RenameResult& result);
     bool MayGoOn(std::uint32_t journalError);
     void CheckListings(Standing standing);

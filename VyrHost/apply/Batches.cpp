@@ -3,6 +3,7 @@
 
 #include <VyrHost/apply/BatchWork.h>
 #include <VyrHost/files/ErrorText.h>
+#include <VyrHost/files/Looker.h>
 #include <VyrHost/plan/Planner.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
@@ -19,6 +20,7 @@ namespace VyrHost {
 namespace {
 
 using VyrLibraryUtils::FileUtils;
+using VyrPlatform::FileState;
 
 /// What is said of a batch that cannot be recovered.
 constexpr const char16_t* wayOut = u"; \"vyr recover --set-aside\" goes on without the batch";
@@ -39,6 +41,25 @@ CString NowAsText()
     text.Format(u"%04d/%02d/%02d %02d:%02d:%02d", now.GetYear(), now.GetMonth(), now.GetDay(), now.GetHour(),
                 now.GetMinute(), now.GetSecond());
     return text;
+}
+
+std::vector<FileState> LookAtSources(const RenameList& list, FileOperations& files)
+{
+    Looker looker(files);
+    std::vector<FileState> states;
+    states.reserve(list.renames.size());
+    for (const PlannedRename& rename : list.renames)
+        states.push_back(looker.Look(rename.from.folder, rename.from.name));
+    return states;
+}
+
+/// The states at `indexes`, which rise.
+std::vector<FileState> Pick(std::vector<FileState> states, const std::vector<std::size_t>& indexes)
+{
+    for (std::size_t place = 0; place < indexes.size(); ++place)
+        states[place] = states[indexes[place]];
+    states.resize(indexes.size());
+    return states;
 }
 
 std::uint64_t MakeToken()
@@ -141,7 +162,8 @@ Batches::Batches() : Batches(SystemFiles(), FindJournalFolder()) {}
 Batches::Batches(FileOperations& files, const CString& journalFolder) : m_files(&files), m_journalFolder(journalFolder)
 {}
 
-BatchSummary Batches::Apply(const RenameList& list, const RenameReport& report, const StopRequest& isStopAsked)
+BatchSummary Batches::Apply(const RenameList& list, const RenameReport& report, const StopRequest& isStopAsked,
+                            const SourceStates& states)
 {
     BatchSummary summary;
     JournalFolder folder(*m_files, m_journalFolder);
@@ -155,12 +177,13 @@ BatchSummary Batches::Apply(const RenameList& list, const RenameReport& report, 
     PlannerResult planned = PlanRenames(list, [this](const CString& path) { return m_files->GetNameFolding(path); });
     Journal journal;
     journal.plan = std::move(planned.plan);
+    journal.states = Pick(states ? states() : LookAtSources(list, *m_files), planned.indexes);
     journal.heading.token = MakeToken();
     journal.heading.started = NowAsText();
     journal.heading.entries = journal.plan.entries.size();
     if (!planned.indexes.empty()) {
-        journal.heading.firstFrom = list.renames[planned.indexes.front()].from;
-        journal.heading.firstTo = list.renames[planned.indexes.front()].to;
+        journal.heading.firstFrom = list.renames[planned.indexes.front()].from.Path();
+        journal.heading.firstTo = list.renames[planned.indexes.front()].to.Path();
     }
     BatchWork work(*m_files, folder, std::move(journal), summary);
     if (!planned.indexes.empty() && !work.Begin()) {

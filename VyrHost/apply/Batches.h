@@ -5,6 +5,7 @@
 #include <VyrHost/RenameList.h>
 
 #include <VyrPlatform/CString.h>
+#include <VyrPlatform/FileIdentity.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -90,6 +91,9 @@ struct BatchSummary
     CString error;
 };
 
+/// Gives what stands at the old path of each rename of a list, seen after the list was made.
+using SourceStates = std::function<std::vector<VyrPlatform::FileState>()>;
+
 using BatchEntryReport = std::function<void(const BatchEntry& entry)>;
 
 /// Asked before each rename: whether to end the work after the one in hand.
@@ -133,8 +137,10 @@ public:
 
     /// Does `list`: journal on disk first, nothing ever overwritten, afterwards a look at the folders
     /// that do not tell every two names apart. `report` is
-    /// called once for each rename, unless the summary's error says that nothing was begun.
-    BatchSummary Apply(const RenameList& list, const RenameReport& report, const StopRequest& isStopAsked);
+    /// called once for each rename, unless the summary's error says that nothing was begun. `states` is called once the
+    /// plan is made; without it the files are looked at then.
+    BatchSummary Apply(const RenameList& list, const RenameReport& report, const StopRequest& isStopAsked,
+                       const SourceStates& states = {});
 
     /// The batches in the journal, the latest first.
     [[nodiscard]] std::vector<BatchInformation> List() const;

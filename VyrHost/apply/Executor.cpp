@@ -35,6 +35,7 @@ Executor::Executor(const RenamePlan& plan, PlanProgress& progress, FileOperation
 void Executor::FindGroups()
 {
     std::size_t open = 0;
+    m_groups.reserve(m_plan.steps.size());
     for (std::size_t step = 0; step < m_plan.steps.size(); ++step) {
         const auto [action, subject] = m_plan.steps[step];
         if (open == 0)
@@ -51,11 +52,9 @@ void Executor::FindGroups()
 
 bool Executor::Run(Direction direction, const Report& report, const StopRequest& isStopAsked)
 {
-    std::vector<Group> groups = m_groups;
-    if (direction == Direction::Backward)
-        std::reverse(groups.begin(), groups.end());
     bool isStopped = false;
-    for (const Group& group : groups) {
+    for (std::size_t index = 0; index < m_groups.size(); ++index) {
+        const Group& group = m_groups[direction == Direction::Forward ? index : m_groups.size() - 1 - index];
         if (!isStopped && HasWork(group, direction)) {
             isStopped = isStopAsked();
             if (!isStopped)
@@ -92,6 +91,10 @@ void Executor::ForEachStep(const Group& group, Direction direction, Use use)
 
 void Executor::RunGroup(const Group& group, Direction direction)
 {
+    if (group.end - group.first == 1) {
+        Perform(m_plan.steps[group.first], direction);
+        return;
+    }
     std::vector<PlanStep> done;
     bool hasFailed = false;
     ForEachStep(group, direction, [&](const PlanStep& step) {

@@ -20,6 +20,7 @@
 #include <VyrHost/plan/Planner.h>
 #include <VyrHost/preview/GivenNames.h>
 #include <VyrHost/preview/PlannedRenames.h>
+#include <VyrHost/preview/SourceLooks.h>
 #include <VyrPlatform/Console.h>
 #include <VyrPlatform/Editor.h>
 #include <VyrPlatform/FileSystem.h>
@@ -106,8 +107,16 @@ private:
     void Decide(const Groups& groups)
     {
         Progress progress("naming", groups.Count(), IsSilent());
-        m_outcome.decisions = VyrHost::Decide(List(), groups, *m_names, m_request.conflicts,
-                                              [&progress](std::size_t named) { progress.Show(named); });
+        WishReport onWish;
+        if (m_request.apply) {
+            m_looks = std::make_unique<SourceLooks>(List(), SystemFiles());
+            onWish = [this](std::uint32_t entry) {
+                m_looks->Ask(entry);
+            };
+        }
+        m_outcome.decisions = VyrHost::Decide(
+            List(), groups, *m_names, m_request.conflicts, [&progress](std::size_t named) { progress.Show(named); },
+            onWish);
         for (std::uint32_t entry = 0; entry < m_outcome.decisions.size(); ++entry)
             if (m_outcome.decisions[entry].reason == Reason::FolderNotRead)
                 m_outcome.causes.emplace(entry, WhyNotRead(entry));
@@ -212,7 +221,8 @@ private:
             Note(planned.entries[index], result);
             progress.Show(++done);
         };
-        m_summary = batches.Apply(planned.list, report, VyrPlatform::Interrupt::WasAsked);
+        m_summary = batches.Apply(planned.list, report, VyrPlatform::Interrupt::WasAsked,
+                                  [this, &planned] { return m_looks->Take(planned.entries); });
         progress.Close();
         return JudgeSummary(m_summary);
     }
@@ -280,6 +290,7 @@ private:
     RenameRequest& m_request;
     Gathered m_gathered;
     std::unique_ptr<NameSource> m_names;
+    std::unique_ptr<SourceLooks> m_looks;
     Outcome m_outcome;
     BatchSummary m_summary;
 };

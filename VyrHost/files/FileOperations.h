@@ -32,7 +32,8 @@ public:
     [[nodiscard]] virtual std::uint32_t RemoveEmptyFolder(const CString& name) = 0;
 };
 
-/// All results are the system's error codes, 0 for success.
+/// All results are the system's error codes, 0 for success. Folders may be opened and looked into on a thread beside
+/// the one that does all else.
 class FileOperations
 {
 public:

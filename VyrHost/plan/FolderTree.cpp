@@ -5,7 +5,6 @@
 #include <VyrPlatform/FileSystem.h>
 
 #include <algorithm>
-#include <iterator>
 
 namespace VyrHost {
 
@@ -20,15 +19,6 @@ constexpr int longestPath = 32'767;
 bool CanName(std::u16string_view name)
 {
     return !name.empty() && name != u"." && name != u".." && name.find(u'\0') == name.npos;
-}
-
-/// Up to and including the last separator.
-std::u16string_view FolderPart(std::u16string_view path)
-{
-    // What every system takes for one, and its own: a question for each unit would cost more than all the rest.
-    const char16_t separators[] = {u'/', VyrPlatform::FileSystem::Separator()};
-    const auto separator = std::find_first_of(path.rbegin(), path.rend(), std::begin(separators), std::end(separators));
-    return path.substr(0, static_cast<std::size_t>(path.rend() - separator));
 }
 
 /// `root` with the system's own separators.
@@ -46,16 +36,14 @@ FolderTree::FolderTree(std::vector<PlanFolder>& folders, const FoldingOfFolder& 
     : m_folders(folders), m_foldingOf(foldingOf)
 {}
 
-std::optional<Place> FolderTree::PlaceOf(const CString& path)
+std::optional<Place> FolderTree::PlaceOf(const PlannedPath& path)
 {
-    const std::u16string_view folderPath = FolderPart(path);
-    const std::u16string_view name = path.View().substr(folderPath.size());
-    if (path.GetLength() > longestPath || !CanName(name))
+    if (path.folder.GetLength() + path.name.GetLength() > longestPath || !CanName(path.name))
         return {};
-    const PlanIndex folder = FolderOf(folderPath);
+    const PlanIndex folder = FolderOf(path.folder);
     if (folder == none)
         return {};
-    return Place{folder, name};
+    return Place{folder, path.name};
 }
 
 Slot FolderTree::SlotOf(const Place& place) const
@@ -74,7 +62,7 @@ PlanIndex FolderTree::Collect(const Place& place, std::u16string_view path)
     return folder;
 }
 
-PlanIndex FolderTree::FolderOf(std::u16string_view folderPath)
+PlanIndex FolderTree::FolderOf(const CString& folderPath)
 {
     if (m_lastPath == folderPath)
         return m_lastFolder;

@@ -21,7 +21,7 @@ public:
 
     /// The place that `path` names; nothing when the path is not full, is longer than any system takes, or its name is
     /// empty, "." or "..".
-    [[nodiscard]] std::optional<Place> PlaceOf(const CString& path);
+    [[nodiscard]] std::optional<Place> PlaceOf(const PlannedPath& path);
     [[nodiscard]] Slot SlotOf(const Place& place) const;
     /// The folder at `slot`; `none` when no path has named it.
     [[nodiscard]] PlanIndex FolderAt(const Slot& slot) const { return m_bySlot.Find(slot); }
@@ -29,7 +29,7 @@ public:
     PlanIndex Collect(const Place& place, std::u16string_view path);
 
 private:
-    [[nodiscard]] PlanIndex FolderOf(std::u16string_view folderPath);
+    [[nodiscard]] PlanIndex FolderOf(const CString& folderPath);
     [[nodiscard]] PlanIndex Walk(std::u16string_view folderPath);
     [[nodiscard]] PlanIndex RootOf(std::u16string_view root);
     [[nodiscard]] PlanIndex Add(const Place& place, std::u16string_view path);

@@ -174,16 +174,20 @@ private:
     {
         PlannerResult result;
         std::vector<PlanIndex> newIndexes(m_draft.entries.size(), none);
-        result.plan.entries.reserve(m_draft.entries.size());
+        result.indexes.reserve(m_draft.entries.size());
         for (PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
             if (IsRefused(entry)) {
                 result.refused.push_back({entry, m_reasons[entry]});
                 continue;
             }
-            newIndexes[entry] = static_cast<PlanIndex>(result.indexes.size());
+            const auto kept = static_cast<PlanIndex>(result.indexes.size());
+            newIndexes[entry] = kept;
             result.indexes.push_back(entry);
-            result.plan.entries.push_back(std::move(m_draft.entries[entry]));
+            if (kept != entry)
+                m_draft.entries[kept] = std::move(m_draft.entries[entry]);
         }
+        m_draft.entries.resize(result.indexes.size());
+        result.plan.entries = std::move(m_draft.entries);
         const auto renumber = [&newIndexes](PlanIndex& entry) {
             entry = entry == none ? none : newIndexes[entry];
         };

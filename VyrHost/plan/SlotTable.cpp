@@ -27,7 +27,7 @@ SlotTable::SlotTable() : m_buckets(fewestBuckets) {}
 PlanIndex SlotTable::Find(const Slot& slot) const
 {
     const Bucket& bucket = m_buckets[FindBucket(slot, HashOf(slot))];
-    return bucket.item == none ? none : m_items[bucket.item].second;
+    return bucket.item == none ? none : m_items[bucket.item].index;
 }
 
 bool SlotTable::Put(const Slot& slot, PlanIndex index)
@@ -40,7 +40,7 @@ bool SlotTable::Put(const Slot& slot, PlanIndex index)
     if (bucket.item != none)
         return false;
     bucket = {TagOf(hash), static_cast<PlanIndex>(m_items.size())};
-    m_items.emplace_back(slot, index);
+    m_items.push_back({slot.key, slot.folder, index});
     return true;
 }
 
@@ -52,8 +52,9 @@ void SlotTable::Reserve(std::size_t count)
     m_buckets.assign(size, {});
     m_items.reserve(count);
     for (PlanIndex item = 0; item < m_items.size(); ++item) {
-        const std::uint64_t hash = HashOf(m_items[item].first);
-        m_buckets[FindBucket(m_items[item].first, hash)] = {TagOf(hash), item};
+        const Slot slot{m_items[item].folder, m_items[item].key};
+        const std::uint64_t hash = HashOf(slot);
+        m_buckets[FindBucket(slot, hash)] = {TagOf(hash), item};
     }
 }
 
@@ -62,8 +63,7 @@ std::size_t SlotTable::FindBucket(const Slot& slot, std::uint64_t hash) const
 {
     const std::size_t mask = m_buckets.size() - 1;
     std::size_t at = (hash >> 20) & mask;
-    while (m_buckets[at].item != none &&
-           (m_buckets[at].tag != TagOf(hash) || !(m_items[m_buckets[at].item].first == slot)))
+    while (m_buckets[at].item != none && (m_buckets[at].tag != TagOf(hash) || !IsAt(m_items[m_buckets[at].item], slot)))
         at = (at + 1) & mask;
     return at;
 }

@@ -5,7 +5,6 @@
 #include <VyrHost/plan/RenamePlan.h>
 
 #include <cstdint>
-#include <utility>
 #include <vector>
 
 namespace VyrHost {
@@ -41,10 +40,21 @@ private:
         PlanIndex item = none;
     };
 
+    struct Item
+    {
+        CString key;
+        PlanIndex folder;
+        PlanIndex index;
+    };
+
+    [[nodiscard]] bool IsAt(const Item& item, const Slot& slot) const
+    {
+        return item.folder == slot.folder && item.key == slot.key;
+    }
     [[nodiscard]] std::size_t FindBucket(const Slot& slot, std::uint64_t hash) const;
 
     std::vector<Bucket> m_buckets;
-    std::vector<std::pair<Slot, PlanIndex>> m_items;
+    std::vector<Item> m_items;
 };
 
 } // namespace VyrHost

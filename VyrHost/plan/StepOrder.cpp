@@ -19,6 +19,7 @@ public:
 
     std::vector<PlanStep> Order()
     {
+        m_steps.reserve(m_plan.entries.size());
         for (PlanIndex entry = 0; entry < m_plan.entries.size(); ++entry)
             Visit(entry);
         return std::move(m_steps);

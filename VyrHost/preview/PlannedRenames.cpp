@@ -8,13 +8,16 @@ namespace VyrHost {
 PlannedRenames PlanOf(EntryList& list, const std::vector<Decision>& decisions)
 {
     PlannedRenames planned;
+    planned.list.renames.reserve(decisions.size());
+    planned.entries.reserve(decisions.size());
     for (std::uint32_t index = 0; index < decisions.size(); ++index) {
         const Decision& decision = decisions[index];
         if (!decision.IsRename())
             continue;
         const Entry& entry = list.entries[index];
-        planned.list.renames.push_back(
-            {list.PathOf(entry), CString::Join({list.folders[decision.folder].path, decision.name}), entry.kind});
+        planned.list.renames.push_back({{list.folders[entry.folder].path, entry.name},
+                                        {list.folders[decision.folder].path, decision.name},
+                                        entry.kind});
         planned.entries.push_back(index);
     }
     planned.list.newFolders = FoldersToMake(list, decisions);

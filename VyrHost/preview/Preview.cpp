@@ -17,8 +17,8 @@ using VyrPlatform::FileSystem::Kind;
 class Naming
 {
 public:
-    Naming(EntryList& list, NameSource& source)
-        : m_list(list), m_source(source), m_targets(list.folders), m_decisions(list.entries.size())
+    Naming(EntryList& list, NameSource& source, const WishReport& onWish)
+        : m_list(list), m_source(source), m_onWish(onWish), m_targets(list.folders), m_decisions(list.entries.size())
     {}
 
     void NameGroup(std::span<const std::uint32_t> members)
@@ -33,6 +33,7 @@ public:
         for (std::size_t place = 0; place < m_present.size(); ++place)
             Judge(m_present[place], m_names[place]);
         KeepTogether();
+        ReportWishes();
     }
 
     std::vector<Decision> TakeDecisions() { return std::move(m_decisions); }
@@ -95,8 +96,18 @@ private:
                 m_decisions[entry].Refuse(Reason::CompanionRefused);
     }
 
+    void ReportWishes() const
+    {
+        if (!m_onWish)
+            return;
+        for (const std::uint32_t entry : m_present)
+            if (m_decisions[entry].IsRename())
+                m_onWish(entry);
+    }
+
     EntryList& m_list;
     NameSource& m_source;
+    const WishReport& m_onWish;
     TargetFolders m_targets;
     std::vector<Decision> m_decisions;
     std::vector<std::uint32_t> m_present;
@@ -106,10 +117,10 @@ private:
 } // namespace
 
 std::vector<Decision> Decide(EntryList& list, const Groups& groups, NameSource& names, const ConflictSettings& settings,
-                             const NamingProgress& progress)
+                             const NamingProgress& progress, const WishReport& onWish)
 {
     constexpr std::size_t Often = 32;
-    Naming naming(list, names);
+    Naming naming(list, names, onWish);
     for (std::size_t group = 0; group < groups.Count(); ++group) {
         naming.NameGroup(groups.Members(group));
         if (progress && group % Often == 0)

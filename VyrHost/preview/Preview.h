@@ -34,6 +34,8 @@ struct ConflictSettings
 
 /// Told now and then how many entries have their names.
 using NamingProgress = std::function<void(std::size_t named)>;
+/// Told of each entry that wants another name as soon as it does; another entry may still keep it from that.
+using WishReport = std::function<void(std::uint32_t entry)>;
 
 /// One decision for each entry of `list`, in its order. Only the listings that `list` brings are asked what stands on
 /// the disk, and those of the folders that entries move into.
@@ -43,6 +45,7 @@ using NamingProgress = std::function<void(std::size_t named)>;
 /// is decided anew. Of entries that keep together either all get their names, with one number where one is needed, or
 /// none does.
 [[nodiscard]] std::vector<Decision> Decide(EntryList& list, const Groups& groups, NameSource& names,
-                                           const ConflictSettings& settings, const NamingProgress& progress = {});
+                                           const ConflictSettings& settings, const NamingProgress& progress = {},
+                                           const WishReport& onWish = {});
 
 } // namespace VyrHost

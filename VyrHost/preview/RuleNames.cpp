@@ -33,6 +33,22 @@ void RuleNames::Name(const EntryList& list, std::span<const std::uint32_t> membe
 {
     const int index = TakeIndex(list.entries[members.front()].folder);
     names.resize(members.size());
+    if (members.size() == 1)
+        NameOne(list, list.entries[members.front()], index, names.front());
+    else
+        NameTogether(list, members, index, names);
+}
+
+void RuleNames::NameOne(const EntryList& list, const Entry& entry, int index, WantedName& name)
+{
+    name.reason = ReasonOf(Run(list, entry, index, entry));
+    if (name.reason == Reason::None)
+        name = Wanted(list, entry);
+}
+
+void RuleNames::NameTogether(const EntryList& list, std::span<const std::uint32_t> members, int index,
+                             std::vector<WantedName>& names)
+{
     const Entry* leader = nullptr;
     Subject made;
     for (std::size_t place = 0; place < members.size() && (!leader || made.dateRank > 0); ++place) {

@@ -31,6 +31,10 @@ public:
 
 private:
     [[nodiscard]] int TakeIndex(std::uint32_t folder);
+    void NameOne(const EntryList& list, const Entry& entry, int index, WantedName& name);
+    /// One stem for all, from the first that has a date of the best source.
+    void NameTogether(const EntryList& list, std::span<const std::uint32_t> members, int index,
+                      std::vector<WantedName>& names);
     RuleFault Run(const EntryList& list, const Entry& entry, int index, const Entry& dated);
     WantedName Wanted(const EntryList& list, const Entry& entry) const;
 

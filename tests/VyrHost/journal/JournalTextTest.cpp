@@ -102,8 +102,8 @@ Journal MakeJournal()
                        .token = 0xFEDCBA9876543210,
                        .started = u"2024/05/06 07:08:09",
                        .entries = result.plan.entries.size(),
-                       .firstFrom = list.renames[0].from,
-                       .firstTo = list.renames[0].to};
+                       .firstFrom = list.renames[0].from.Path(),
+                       .firstTo = list.renames[0].to.Path()};
     for (std::uint32_t entry = 0; entry < result.plan.entries.size(); ++entry) {
         FileState state;
         state.kind = entry == 1 ? Kind::Missing : entry == 2 ? Kind::Folder : entry == 4 ? Kind::Other : Kind::File;

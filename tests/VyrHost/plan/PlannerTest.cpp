@@ -207,6 +207,28 @@ std::size_t CountSetAside(const RenamePlan& plan)
 
 using testing::ElementsAre;
 
+TEST(PlannedPath, IsCutBehindTheLastSeparator)
+{
+    const CString path = Full("/folder/inner/name.jpg");
+    const PlannedPath cut(path);
+    EXPECT_EQ(cut.folder, Full("/folder/inner/"));
+    EXPECT_EQ(cut.name, u"name.jpg");
+    EXPECT_EQ(cut.Path(), path);
+}
+
+TEST(PlannedPath, WithoutASeparatorIsAllName)
+{
+    EXPECT_TRUE(PlannedPath(u"name").folder.IsEmpty());
+    EXPECT_EQ(PlannedPath(u"name").name, u"name");
+    EXPECT_TRUE(PlannedPath(CString()).Path().IsEmpty());
+}
+
+TEST(PlannedPath, CanEndInASeparator)
+{
+    EXPECT_EQ(PlannedPath(Full("/folder/")).folder, Full("/folder/"));
+    EXPECT_TRUE(PlannedPath(Full("/folder/")).name.IsEmpty());
+}
+
 TEST(Planner, KeepsIndependentRenamesInTheOrderOfTheList)
 {
     const PlannerResult result = PlanRenames(ListOf({{"/b", "/x"}, {"/a", "/y"}, {"/c", "/z"}}), Exact);
@@ -332,7 +354,7 @@ TEST(Planner, RefusesPathsThatNameNoEntry)
     EXPECT_THAT(RefusedIndexes(ListOf({{"/a", "/.."}, {"/b", "/d/"}, {"/d/.", "/c"}, {"/e", "/e"}, {"/f", "/g"}})),
                 ElementsAre(0, 1, 2, 3));
     RenameList list;
-    list.renames.push_back({u"relative", Full("/x"), Kind::File});
+    list.renames.push_back({CString(u"relative"), Full("/x"), Kind::File});
     list.renames.push_back({Full("/y"), CString(u""), Kind::File});
     list.renames.push_back({Full("/y"), Full("/") + CString(std::u16string_view(u"a\0b", 3)), Kind::File});
     list.renames.push_back({Full("/z"), Full("/") + CString(u'z', 40'000), Kind::File});
@@ -450,7 +472,7 @@ private:
     {
         std::set<int> leaving;
         for (const std::size_t index : result.indexes)
-            leaving.insert(m_tree.Find(Slashed(list.renames[index].from)));
+            leaving.insert(m_tree.Find(Slashed(list.renames[index].from.Path())));
         const auto isInTheWay = [&](PlanIndex folder, const CString& name) {
             const int folderId =
                 result.plan.folders[folder].isNew ? -1 : m_tree.Find(Slashed(PathBefore(result.plan, folder)));
@@ -492,7 +514,7 @@ private:
         performer.Perform();
         for (std::size_t entry = 0; entry < result.indexes.size(); ++entry) {
             const int id = performer.EntryId(entry);
-            const std::string to = Slashed(list.renames[result.indexes[entry]].to);
+            const std::string to = Slashed(list.renames[result.indexes[entry]].to.Path());
             EXPECT_EQ(m_tree.NameOf(id), to.substr(to.rfind('/') + 1));
             if (newParents[entry] >= 0)
                 EXPECT_EQ(m_tree.FolderOf(id), newParents[entry]);

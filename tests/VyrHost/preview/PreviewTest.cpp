@@ -323,8 +323,8 @@ TEST_F(Preview, MovesIntoFoldersThatAreThereOrAreToBeMade)
     const PlannedRenames planned = PlanOf(gathered.list, decisions);
     EXPECT_EQ(planned.list.newFolders, (std::vector{m_folder.Path(u"07"), m_folder.Path(u"07/19")}));
     ASSERT_EQ(planned.list.renames.size(), 2u);
-    EXPECT_EQ(planned.list.renames[0].from, m_folder.Path(u"a.jpg"));
-    EXPECT_EQ(planned.list.renames[0].to, m_folder.Path(u"07/19/a.jpg"));
+    EXPECT_EQ(planned.list.renames[0].from.Path(), m_folder.Path(u"a.jpg"));
+    EXPECT_EQ(planned.list.renames[0].to.Path(), m_folder.Path(u"07/19/a.jpg"));
 }
 
 TEST_F(Preview, RefusesToMoveIntoWhatIsNoFolder)
@@ -404,4 +404,17 @@ TEST_F(Preview, NumbersTenThousandEntriesThatWantOneNameQuickly)
     EXPECT_TRUE(names.contains(u"a (9999)"));
     // Trying every number for every entry would be 50 million attempts.
     EXPECT_LT(std::chrono::duration<double>(taken).count(), 5.0);
+}
+
+TEST_F(Preview, TellsOfEachEntryThatWantsAnotherName)
+{
+    Write({u"a.jpg", u"b.jpg", u"c.jpg", u"d.jpg", u"taken.jpg"});
+    Gathered gathered = GatherNamed({u"a.jpg", u"b.jpg", u"missing.jpg", u"c.jpg", u"d.jpg"});
+    GivenNames names({{0, u"A.jpg"}, {1, u"b.jpg"}, {2, u"m.jpg"}, {3, u"taken.jpg"}, {4, u"a/"}});
+    std::vector<std::uint32_t> told;
+    const auto decisions = Decide(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Skip), {},
+                                  [&told](std::uint32_t entry) { told.push_back(entry); });
+    // The third of them cannot have it in the end.
+    EXPECT_EQ(told, (std::vector<std::uint32_t>{0, 3}));
+    EXPECT_EQ(Told(decisions[3]), "skip");
 }

@@ -1,0 +1,60 @@
+/// @file
+/// Looks at files that will be renamed while the rest of the batch is still being thought out.
+#pragma once
+
+#include <VyrHost/entries/EntryList.h>
+#include <VyrHost/files/Looker.h>
+
+#include <atomic>
+#include <condition_variable>
+#include <cstdint>
+#include <mutex>
+#include <span>
+#include <thread>
+#include <vector>
+
+namespace VyrHost {
+
+/// A thread that looks at the entries it is asked for, one after the other. The naming of a long list takes about as
+/// long as the looks at its files, and neither needs the other.
+class SourceLooks
+{
+public:
+    /// @param list is used as long as this lives: its entries stay as they are, their names in their places.
+    SourceLooks(const EntryList& list, FileOperations& files);
+    SourceLooks(const SourceLooks&) = delete;
+    SourceLooks& operator=(const SourceLooks&) = delete;
+    /// Leaves the looks that are not done yet.
+    ~SourceLooks();
+
+    /// Has `entry` looked at; to be called once for each entry at most.
+    void Ask(std::uint32_t entry);
+    /// Waits until all is looked at.
+    /// @return what stands at each of `entries`, those included that were not asked for.
+    [[nodiscard]] std::vector<VyrPlatform::FileState> Take(const std::vector<std::uint32_t>& entries);
+
+private:
+    void HandOver(bool isEnd);
+    void Work();
+    [[nodiscard]] VyrPlatform::FileState Look(Looker& looker, std::uint32_t entry) const;
+
+    const EntryList& m_list;
+    FileOperations& m_files;
+    /// The paths of the folders: the list's own folders may become more meanwhile. They share no text with those, whose
+    /// counts of owners would go to and fro between the processor's cores.
+    std::vector<CString> m_folders;
+    /// Has room for all entries from the beginning: what is handed over stays in its place.
+    std::vector<std::uint32_t> m_asked;
+    /// For each of the asked; the thread's own until it has ended.
+    std::vector<VyrPlatform::FileState> m_states;
+
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    /// Those of the asked that the thread knows of.
+    std::span<const std::uint32_t> m_handedOver;
+    bool m_isEnd = false;
+    std::atomic<bool> m_isGivenUp = false;
+    std::thread m_thread;
+};
+
+} // namespace VyrHost
