@@ -6,7 +6,10 @@
 #include <VyrPlatform/FileIdentity.h>
 #include <VyrPlatform/FileSystem.h>
 #include <VyrPlatform/FileTimes.h>
+#include <VyrPlatform/FolderListing.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace VyrHost {
@@ -137,12 +140,30 @@ private:
     void RemoveEmptied()
     {
         const bool isAllElseWell = m_problems.empty();
-        for (auto folder = m_tree.folders.rbegin(); folder != m_tree.folders.rend(); ++folder) {
-            const CString path = WayOf(folder->path).from;
+        std::vector<bool> isLeft(m_tree.folders.size());
+        for (std::size_t number = m_tree.folders.size(); number-- > 0;) {
+            const TreeFolder& folder = m_tree.folders[number];
+            const CString path = WayOf(folder.path).from;
             const std::uint32_t error = FileCopy::RemoveEmptyFolder(path);
-            if (error != 0 && isAllElseWell && LookAtFile(path).kind != Kind::Missing)
-                Report(folder->path, TreeFault::NotEmpty, error);
+            isLeft[number] = error != 0 && LookAtFile(path).kind != Kind::Missing;
+            if (isLeft[number] && isAllElseWell && !HoldsAny(folder, isLeft))
+                Report(folder.path, IsEmpty(path) ? TreeFault::StillAtSource : TreeFault::NotEmpty, error);
         }
+    }
+
+    /// Whether one of the folders in `folder` is among `folders`.
+    [[nodiscard]] bool HoldsAny(const TreeFolder& folder, const std::vector<bool>& folders) const
+    {
+        const auto first = m_tree.entries.begin() + static_cast<std::ptrdiff_t>(folder.firstEntry);
+        return std::any_of(first, first + static_cast<std::ptrdiff_t>(folder.entryCount), [&](const TreeEntry& entry) {
+            return entry.kind == TreeKind::Folder && folders[entry.folder];
+        });
+    }
+
+    [[nodiscard]] static bool IsEmpty(const CString& path)
+    {
+        VyrPlatform::FolderListing listing(path);
+        return !listing.Next() && listing.Error() == 0;
     }
 
     [[nodiscard]] Way WayOf(const CString& path) const

@@ -32,7 +32,7 @@ enum class TreeFault : std::uint8_t
     NoFolder,
     /// What stands at the target is not what stood at the source.
     Differs,
-    /// It is at the target, and at the source, too.
+    /// It is at the target, and at the source, too, where it could not be removed.
     StillAtSource,
     /// The folder is not empty, though all that was known of is gone.
     NotEmpty,

@@ -3,6 +3,7 @@
 
 #include <VyrHost/trees/MadeFolders.h>
 #include <VyrHost/trees/TreeFinish.h>
+#include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/FileTimes.h>
 #include <tests/support/FileMoments.h>
 #include <tests/support/ScratchFolder.h>
@@ -259,4 +260,17 @@ TEST_F(TreeTransfer, SourceOfAMoveThatIsNotEmptyIsReported)
     const TreeProblems problems = Finish(TreeAction::Move);
     EXPECT_EQ(PathsOf(problems, TreeFault::NotEmpty), Paths{u""});
     EXPECT_EQ(From(), (TreeSnapshot{{"new", "2"}}));
+}
+
+TEST_F(TreeTransfer, OnlyTheInnermostFolderThatIsNotEmptyIsReported)
+{
+    m_scratch.WriteFile(u"from/a/b/c", "1");
+    m_scratch.WriteFile(u"from/d", "2");
+    Transfer(TreeAction::Move);
+    m_scratch.WriteFile(u"from/a/b/new", "3");
+    const TreeProblems problems = Finish(TreeAction::Move);
+    ASSERT_EQ(problems.size(), 1u);
+    EXPECT_EQ(problems[0].fault, TreeFault::NotEmpty);
+    EXPECT_EQ(problems[0].path, VyrLibraryUtils::FileUtils::GetCombinePath(u"a", u"b"));
+    EXPECT_EQ(From(), (TreeSnapshot{{"a", "<folder>"}, {"a/b", "<folder>"}, {"a/b/new", "3"}}));
 }

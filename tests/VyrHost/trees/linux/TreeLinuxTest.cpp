@@ -223,6 +223,25 @@ TEST(TreeLinux, FolderThatMayNotBeWrittenLosesNothingOfAMove)
               (TreeSnapshot{{"locked", "<folder>"}, {"open", "<folder>"}, {"open/b", "2"}}));
 }
 
+TEST(TreeLinux, EmptiedFolderThatCannotBeRemovedIsReportedWithTheReason)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"outer/from/file", "1");
+    TreeProblems problems;
+    {
+        const VyrTests::WriteProtection protection(scratch.Path(u"outer"));
+        if (!protection.WhyNot().empty())
+            GTEST_SKIP() << protection.WhyNot();
+        problems = Carry(scratch.Path(u"outer/from"), scratch.Path(u"to"), TreeAction::Move).problems;
+    }
+    ASSERT_EQ(problems.size(), 1u);
+    EXPECT_EQ(problems[0].path, u"");
+    EXPECT_EQ(problems[0].fault, TreeFault::StillAtSource);
+    EXPECT_TRUE(problems[0].error == EACCES || problems[0].error == EPERM);
+    EXPECT_EQ(SnapshotOf(scratch.Path(u"to")), (TreeSnapshot{{"file", "1"}}));
+    EXPECT_EQ(SnapshotOf(scratch.Path(u"outer/from")), TreeSnapshot());
+}
+
 TEST(TreeLinux, FullDiskFailsWhatDoesNotFitAndLosesNothingOfAMove)
 {
     const MountedFolder disk(MountedFolder::Kind::Memory, "size=1m");
