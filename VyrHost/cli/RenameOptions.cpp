@@ -148,7 +148,7 @@ RenameRequest RenameOptions::Read() const
     request.order = ReadOrder();
     request.counting = m_countsPerFolder ? Counting::EachFolder : Counting::WholeList;
     request.together = m_together;
-    ReadConflicts(request);
+    request.conflicts = ReadConflicts();
     request.edit = m_edit;
     request.apply = m_apply;
     request.json = m_json;
@@ -192,24 +192,17 @@ bool RenameOptions::AsksForNumbering() const
     return m_conflictPattern || m_conflictPosition || m_conflictStart || m_conflictStep;
 }
 
-void RenameOptions::ReadConflicts(RenameRequest& request) const
+ConflictSettings RenameOptions::ReadConflicts() const
 {
-    enum class Word
-    {
-        Number,
-        Skip,
-        Fail
-    };
-    const auto word = ReadWord<Word>(m_onConflict, "--on-conflict",
-                                     {{"number", Word::Number}, {"skip", Word::Skip}, {"fail", Word::Fail}});
-    if (AsksForNumbering() && word != Word::Number)
+    ConflictSettings settings;
+    settings.mode = ReadWord<OnConflict>(
+        m_onConflict, "--on-conflict",
+        {{"number", OnConflict::Number}, {"skip", OnConflict::Skip}, {"fail", OnConflict::Refuse}});
+    if (AsksForNumbering() && settings.mode != OnConflict::Number)
         throw UsageError("--on-conflict=" + *m_onConflict +
                          " numbers nothing; no other --conflict option goes with it");
-    request.failOnConflict = word == Word::Fail;
-    request.conflicts.mode = word == Word::Number ? OnConflict::Number
-                             : word == Word::Skip ? OnConflict::Skip
-                                                  : OnConflict::Refuse;
-    ReadNumbering(request.conflicts.numbering);
+    ReadNumbering(settings.numbering);
+    return settings;
 }
 
 void RenameOptions::ReadNumbering(VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering) const

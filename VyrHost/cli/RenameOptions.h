@@ -36,7 +36,7 @@ private:
     void AddOutput(CLI::App& command);
     [[nodiscard]] SourceSettings ReadSources() const;
     [[nodiscard]] SortSettings ReadOrder() const;
-    void ReadConflicts(RenameRequest& request) const;
+    [[nodiscard]] ConflictSettings ReadConflicts() const;
     void ReadNumbering(VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering) const;
 
     CLI::App& m_command;

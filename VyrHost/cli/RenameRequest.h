@@ -21,9 +21,8 @@ struct RenameRequest
     SortSettings order;
     Counting counting = Counting::WholeList;
     bool together = false;
+    /// With OnConflict::Refuse any name that is taken stops the whole.
     ConflictSettings conflicts;
-    /// Any name that is taken stops the whole.
-    bool failOnConflict = false;
     /// The user looks through the new names in an editor.
     bool edit = false;
     bool apply = false;

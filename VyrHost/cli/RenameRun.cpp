@@ -68,7 +68,7 @@ public:
         Decide(groups);
         if (m_request.edit)
             Edit();
-        const bool isStopped = m_request.failOnConflict && HasConflict();
+        const bool isStopped = m_request.conflicts.mode == OnConflict::Refuse && HasConflict();
         if (isStopped)
             StopAll();
         const int applied = m_request.apply && !isStopped ? Apply() : ExitCode::Success;

@@ -5,6 +5,7 @@
 #include <VyrHost/entries/NameReader.h>
 #include <VyrHost/entries/NaturalOrder.h>
 #include <VyrHost/entries/Wildcard.h>
+#include <VyrHost/files/FolderPart.h>
 #include <VyrHost/output/SafeText.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/Console.h>
@@ -45,10 +46,10 @@ bool IsPlain(std::u16string_view path, std::u16string_view name)
 CutPath Cut(const CString& path)
 {
     const std::u16string_view text = path;
-    const auto behind = std::find_if(text.rbegin(), text.rend(), IsSeparator);
-    const auto folderLength = static_cast<std::size_t>(text.rend() - behind);
-    if (IsPlain(text, text.substr(folderLength)))
-        return {text.substr(0, folderLength), text.substr(folderLength)};
+    const std::u16string_view before = FolderPart(text);
+    const std::u16string_view name = text.substr(before.size());
+    if (IsPlain(text, name))
+        return {before, name};
     const CString full = VyrPlatform::GetFullPath(path);
     const CString folder = FileUtils::GetSplitDirPath(full);
     return {folder, full.Mid(folder.GetLength())};

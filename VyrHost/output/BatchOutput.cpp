@@ -1,15 +1,14 @@
 // Words batches and their entries as rows and as JSON.
 #include <VyrHost/output/BatchOutput.h>
 
+#include <VyrHost/files/FolderPart.h>
 #include <VyrHost/output/JsonLines.h>
 #include <VyrHost/output/SafeText.h>
 #include <VyrHost/output/Summary.h>
 #include <VyrHost/output/Table.h>
 #include <VyrHost/output/Words.h>
 #include <VyrPlatform/Encoding.h>
-#include <VyrPlatform/FileSystem.h>
 
-#include <algorithm>
 #include <string_view>
 
 namespace VyrHost {
@@ -38,12 +37,6 @@ std::u16string_view WordFor(BatchState state)
 CString WordFor(RenameOutcome outcome)
 {
     return VyrPlatform::Encoding::FromUtf8(WordFor(StatusOf(outcome)));
-}
-
-std::u16string_view FolderOf(std::u16string_view path)
-{
-    const auto behind = std::find_if(path.rbegin(), path.rend(), VyrPlatform::FileSystem::IsSeparator);
-    return path.substr(0, static_cast<std::size_t>(path.rend() - behind));
 }
 
 /// A rename as it went.
@@ -80,8 +73,8 @@ Tone ToneOf(const BatchEntry& entry)
 TableRow RowOf(const BatchEntry& entry, BatchDirection direction)
 {
     const Way way = WayOf(entry, direction);
-    const std::u16string_view from = FolderOf(way.from);
-    const std::u16string_view to = FolderOf(way.to);
+    const std::u16string_view from = FolderPart(way.from);
+    const std::u16string_view to = FolderPart(way.to);
     return {{from, way.from.View().substr(from.size())},
             {from == to ? std::u16string_view() : to, way.to.View().substr(to.size())},
             NoteFor(entry),

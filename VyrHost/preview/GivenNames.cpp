@@ -1,18 +1,15 @@
 // Finds the folder and the name in what the user wrote.
 #include <VyrHost/preview/GivenNames.h>
 
+#include <VyrHost/files/FolderPart.h>
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/FileSystem.h>
 #include <VyrPlatform/FullPath.h>
-
-#include <algorithm>
 
 namespace VyrHost {
 
 namespace {
 
 using VyrLibraryUtils::FileUtils;
-using VyrPlatform::FileSystem::IsSeparator;
 
 WantedName NameFor(const Folder& now, const CString& given)
 {
@@ -20,15 +17,13 @@ WantedName NameFor(const Folder& now, const CString& given)
     wanted.folder = now.path;
     wanted.shownFolder = now.shown;
     wanted.name = given;
-    const std::u16string_view text = given;
-    const auto behind = std::find_if(text.rbegin(), text.rend(), IsSeparator);
-    if (behind == text.rend())
+    const std::u16string_view folder = FolderPart(given);
+    if (folder.empty())
         return wanted;
-    const auto length = static_cast<int>(text.rend() - behind);
     const CString full = VyrPlatform::GetFullPath(given);
     wanted.folder = FileUtils::GetSplitDirPath(full);
-    wanted.shownFolder = given.Left(length);
-    wanted.name = given.Mid(length);
+    wanted.shownFolder = folder;
+    wanted.name = given.View().substr(folder.size());
     if (wanted.name.IsEmpty())
         wanted.reason = Reason::EmptyName;
     return wanted;
