@@ -121,7 +121,7 @@ BatchInformation Describe(const JournalFolder& folder, const JournalFile& file)
     information.entries = heading->entries;
     information.firstFrom = heading->firstFrom;
     information.firstTo = heading->firstTo;
-    if (file.phase == BatchPhase::Applied || file.phase == BatchPhase::TakenBack)
+    if (IsEnded(file.phase))
         AddProgress(information, ReadLastMark(folder.ReadMarks(file), information.entries));
     return information;
 }
@@ -205,8 +205,11 @@ std::vector<BatchInformation> Batches::List() const
 {
     const JournalFolder folder(*m_files, m_journalFolder);
     std::vector<BatchInformation> batches;
-    for (const JournalFile& file : folder.List())
-        batches.push_back(Describe(folder, file));
+    for (const JournalFile& file : folder.List()) {
+        BatchInformation& batch = batches.emplace_back(Describe(folder, file));
+        if (!IsEnded(file.phase) && folder.IsLockedByAnother())
+            batch.state = BatchState::BeingWorkedOn;
+    }
     std::reverse(batches.begin(), batches.end());
     return batches;
 }

@@ -24,6 +24,8 @@ enum class BatchState : std::uint8_t
     /// The work of taking it back has ended, and left some of it.
     TakenBackInPart,
     TakenBack,
+    /// Another program applies it, takes it back or recovers it.
+    BeingWorkedOn,
     /// It was cut off while it was applied.
     CutOff,
     /// It was cut off while it was taken back.

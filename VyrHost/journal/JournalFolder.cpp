@@ -45,11 +45,6 @@ const char16_t* EndingOf(BatchPhase phase)
         ->second;
 }
 
-bool IsEnded(BatchPhase phase)
-{
-    return phase == BatchPhase::Applied || phase == BatchPhase::TakenBack;
-}
-
 /// The number in front of `name`'s dot; 0 when there is none.
 std::uint32_t NumberOf(std::u16string_view name)
 {
@@ -84,6 +79,11 @@ std::string ReadPart(const VyrPlatform::FileReader& reader, std::uint64_t offset
 }
 
 } // namespace
+
+bool IsEnded(BatchPhase phase)
+{
+    return phase == BatchPhase::Applied || phase == BatchPhase::TakenBack;
+}
 
 JournalFolder::JournalFolder(FileOperations& files, const CString& path) : m_files(files), m_path(path) {}
 

@@ -26,6 +26,9 @@ enum class BatchPhase : std::uint8_t
     TakenBack
 };
 
+/// Whether the work on a batch has come to its end.
+[[nodiscard]] bool IsEnded(BatchPhase phase);
+
 struct JournalFile
 {
     std::uint32_t number = 0;

@@ -24,6 +24,8 @@ std::u16string_view WordFor(BatchState state)
         return u"taken back in part";
     case BatchState::TakenBack:
         return u"taken back";
+    case BatchState::BeingWorkedOn:
+        return u"being worked on";
     case BatchState::CutOff:
         return u"cut off";
     case BatchState::CutOffTakingBack:

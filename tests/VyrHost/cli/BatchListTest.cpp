@@ -4,6 +4,7 @@
 #include <tests/VyrHost/apply/BatchScene.h>
 #include <tests/VyrHost/apply/FaultyFiles.h>
 
+#include <VyrPlatform/DurableFile.h>
 #include <VyrPlatform/Encoding.h>
 
 #include <gmock/gmock.h>
@@ -124,6 +125,19 @@ TEST_F(BatchList, DoesNotGuessHowFarOneCameThatWasCutOff)
     FailWhen(FileChange::Kind::RenameFile, u".taken-back");
     m_scene.TakeBack();
     EXPECT_EQ(Listed(), "cut off while it was taken back, at most 3 entries");
+}
+
+TEST_F(BatchList, DoesNotCallOneCutOffThatAnotherProgramWorksOn)
+{
+    FailWhen(FileChange::Kind::RenameFile, u".applied");
+    m_scene.Apply();
+    {
+        const VyrPlatform::FileLock lock(m_scene.JournalFolder() + CString(u"/lock"));
+        ASSERT_TRUE(lock.IsHeld());
+        EXPECT_EQ(Listed(), "being worked on, at most 3 entries");
+        EXPECT_EQ(ListedAsJson(), R"("state":"being worked on","entries":3,"stopped":false)");
+    }
+    EXPECT_EQ(Listed(), "cut off, at most 3 entries");
 }
 
 TEST_F(BatchList, RecoveringSaysWhichWayTheEntriesGo)
