@@ -2,7 +2,6 @@
 #include "Snapshot.h"
 
 #include <VyrHost/trees/TreeBatch.h>
-#include <tests/support/EmptiedQueue.h>
 #include <tests/support/MessagePosting.h>
 #include <tests/support/ScratchFolder.h>
 
@@ -10,6 +9,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <memory>
 #include <thread>
 
 using namespace VyrHost;
@@ -25,6 +25,8 @@ class StoppingWatch final : public TreeWatch
 {
 public:
     StoppingWatch(const CString& target, std::size_t arrived) : m_target(target), m_arrived(arrived) { PostLook(); }
+    StoppingWatch(const StoppingWatch&) = delete;
+    StoppingWatch& operator=(const StoppingWatch&) = delete;
 
     bool IsStopAsked() override { return m_isAsked; }
     void Begin(const TreeTask& task, std::size_t) override { begun.push_back(task.source); }
@@ -38,10 +40,13 @@ public:
     std::size_t shownAfterStop = 0;
 
 private:
-    /// The walk drains the thread's queue at each entry.
+    /// The walk drains the thread's queue at each entry. The last look may still be in the queue when this is gone.
     void PostLook()
     {
-        m_posting.PostWork([this] { Look(); });
+        m_posting.PostWork([self = std::weak_ptr(m_self)] {
+            if (const auto watch = self.lock())
+                (*watch)->Look();
+        });
     }
     void Look()
     {
@@ -59,6 +64,7 @@ private:
     const std::size_t m_arrived;
     bool m_isAsked = false;
     VyrTests::MessagePosting m_posting;
+    std::shared_ptr<StoppingWatch*> m_self = std::make_shared<StoppingWatch*>(this);
 };
 
 class TreeBatchTest : public testing::TestWithParam<TreeAction>
@@ -104,7 +110,6 @@ TEST_P(TreeBatchTest, StopInATreeBringsItToItsEndAndBeginsNoOther)
     TreeBatch batch(Paths({u"one", u"two", u"three"}), m_scratch.Path(u"to"), GetParam(), Trial::Allowed);
     ASSERT_FALSE(batch.IsRefused());
     StoppingWatch watch(m_scratch.Path(u"to/one"), 2);
-    const VyrTests::EmptiedQueue emptied;
     batch.Apply(watch);
 
     EXPECT_TRUE(batch.WasStopped());
@@ -127,7 +132,6 @@ TEST_P(TreeBatchTest, StopInTheLastTreeLeavesNothingUndone)
     const TreeSnapshot one = At(u"one");
     TreeBatch batch(Paths({u"two", u"one"}), m_scratch.Path(u"to"), GetParam(), Trial::Allowed);
     StoppingWatch watch(m_scratch.Path(u"to/one"), 2);
-    const VyrTests::EmptiedQueue emptied;
     batch.Apply(watch);
     EXPECT_TRUE(watch.IsStopAsked());
     EXPECT_FALSE(batch.WasStopped());
@@ -141,14 +145,12 @@ TEST_P(TreeBatchTest, WhatWasNotReachedIsDoneByTheNextCall)
     {
         TreeBatch batch(Paths({u"one", u"two", u"three"}), m_scratch.Path(u"to"), GetParam(), Trial::Allowed);
         StoppingWatch watch(m_scratch.Path(u"to/one"), 1);
-        const VyrTests::EmptiedQueue emptied;
         batch.Apply(watch);
         ASSERT_TRUE(batch.WasStopped());
     }
     const TreeSnapshot two = At(u"two");
     TreeBatch rest(Paths({u"two", u"three"}), m_scratch.Path(u"to"), GetParam(), Trial::Allowed);
     StoppingWatch never(m_scratch.Path(u"nowhere"), 1);
-    const VyrTests::EmptiedQueue emptied;
     rest.Apply(never);
     EXPECT_THAT(StatusesOf(rest), ElementsAre(TreeStatus::Done, TreeStatus::Done));
     EXPECT_EQ(At(u"to/two"), two);
@@ -163,7 +165,6 @@ TEST_P(TreeBatchTest, RefusesAllForOneClashAndTouchesNothing)
     EXPECT_THAT(batch.Reports(), ElementsAre(Field(&TreeReport::status, TreeStatus::NotReached),
                                              Field(&TreeReport::status, TreeStatus::Refused)));
     StoppingWatch watch(m_scratch.Path(u"nowhere"), 1);
-    const VyrTests::EmptiedQueue emptied;
     batch.Apply(watch);
     EXPECT_TRUE(watch.begun.empty());
     EXPECT_EQ(At(u"to/one"), Missing);
