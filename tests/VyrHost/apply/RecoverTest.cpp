@@ -1,6 +1,7 @@
 // Batches that are cut off at any moment, and what recover makes of them.
 #include <tests/VyrHost/apply/CutOffScene.h>
 #include <tests/support/Describe.h>
+#include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
 
 #include <VyrPlatform/FileIdentity.h>
@@ -217,7 +218,9 @@ TEST(Recover, FindsFilesThatWereReplacedMeanwhile)
 TEST(Recover, LeavesAloneWhatItCannotTell)
 {
     CutOffScene cut(ArrangeThree, 1);
-    fs::remove(ToStdPath(cut.scene.Path(u"b")));
+    // As long as the file is there its number is given to no other.
+    const ScratchFolder elsewhere;
+    fs::rename(ToStdPath(cut.scene.Path(u"b")), ToStdPath(elsewhere.Path(u"b")));
     cut.scene.Write(u"b", "of someone else");
     cut.scene.Write(u"y", "of someone else, too");
     const BatchSummary summary = cut.scene.Recover(Recovery::Finish);
