@@ -37,6 +37,17 @@ TEST_F(NameInput, OnlyHoldsForWhatIsNamedToo)
     EXPECT_EQ(Files(), (FileMap{{"a!", "a"}, {"d/b!", "d/b"}, {"d/e!/c!", "d/e/c"}}));
 }
 
+TEST_F(NameInput, WildcardsTakeCaseAsTheFileSystemDoes)
+{
+    WriteNamed({u"a1.txt", u"A2.TXT", u"b.txt"});
+    const bool isOne = m_folder.Has(u"A1.TXT");
+    EXPECT_THAT(Rename({u"--suffix", u"!", u"A*.TXT"}).output,
+                StartsWith(isOne ? "a1.txt  ->  a1!.txt\nA2.TXT  ->  A2!.TXT\n2 entries: 2 renamed.\n"
+                                 : "A2.TXT  ->  A2!.TXT\n1 entry: 1 renamed.\n"));
+    EXPECT_THAT(Rename({u"--suffix", u"!", u"a?.txt"}).output,
+                StartsWith(isOne ? "a1.txt  ->  a1!.txt\nA2.TXT  ->  A2!.TXT\n" : "a1.txt  ->  a1!.txt\n1 entry: "));
+}
+
 TEST_F(NameInput, FromTheStandardInputHaveNoWildcards)
 {
     WriteNamed({u"a", u"b"});

@@ -43,6 +43,15 @@ TEST_F(HostileNames, LineEndsTabsAndEscapesAreShownAsEscapes)
     EXPECT_TRUE(m_folder.Has(u"xa\nb\tc\x1b[31m"));
 }
 
+TEST_F(HostileNames, ACarriageReturnFromTheStandardInputIsPartOfTheName)
+{
+    m_folder.WriteFile(u"a\r", "1");
+    m_folder.WriteFile(u"a", "2");
+    EXPECT_EQ(Rename({u"--prefix", u"x", u"--apply", u"--quiet", u"--stdin"}, "a\r\n").exitCode, 0);
+    EXPECT_EQ(m_folder.ReadFile(u"xa\r"), "1");
+    EXPECT_EQ(m_folder.ReadFile(u"a"), "2");
+}
+
 TEST_F(HostileNames, BytesThatAreNotUtf8AreKept)
 {
     m_folder.WriteFile(u"a\xDCFF\xDC80");
