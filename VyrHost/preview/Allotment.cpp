@@ -91,9 +91,9 @@ private:
     {
         for (std::size_t place = 0; place < m_members.size(); ++place) {
             const std::uint32_t entry = m_members[place];
-            const NameRecord& record = Names(entry).Add(WantedName(entry));
+            NameRecord& record = Names(entry).Add(WantedName(entry));
             if (IsFree(record)) {
-                Give(entry, WantedName(entry), Status::Renamed);
+                Give(entry, record, WantedName(entry), Status::Renamed);
                 continue;
             }
             const bool isWithin = record.holder < NewFolder && m_groups.Of(record.holder) == group;
@@ -141,15 +141,17 @@ private:
         for (std::size_t place = 0; place < m_members.size(); ++place) {
             const std::uint32_t entry = m_members[place];
             m_wanted.try_emplace(entry, m_decisions[entry].name);
-            Give(entry, m_list.folders.Keep(candidates[place]), Status::Numbered);
+            const std::u16string_view name = m_list.folders.Keep(candidates[place]);
+            Give(entry, Names(entry).Add(name), name, Status::Numbered);
         }
     }
 
-    void Give(std::uint32_t entry, std::u16string_view name, Status status)
+    /// @param record  of `name`, which it may write in another way.
+    void Give(std::uint32_t entry, NameRecord& record, std::u16string_view name, Status status)
     {
         Decision& decision = m_decisions[entry];
         const Entry& own = m_list.entries[entry];
-        Names(entry).Add(name).holder = entry;
+        record.holder = entry;
         decision.name = name;
         decision.status = decision.folder == own.folder && name == own.name ? Status::Unchanged : status;
     }

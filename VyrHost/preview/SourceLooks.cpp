@@ -1,6 +1,7 @@
 // Hands entries over to a thread, many at once.
 #include <VyrHost/preview/SourceLooks.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace VyrHost {
@@ -14,12 +15,12 @@ constexpr std::size_t nowhere = ~std::size_t{0};
 
 } // namespace
 
-SourceLooks::SourceLooks(const EntryList& list, FileOperations& files) : m_list(list), m_files(files)
+SourceLooks::SourceLooks(const EntryList& list, FileOperations& files)
+    : m_list(list), m_files(files), m_states(list.entries.size())
 {
     for (std::uint32_t folder = 0; folder < list.folders.Count(); ++folder)
         m_folders.emplace_back(list.folders[folder].path.View());
     m_asked.reserve(list.entries.size());
-    m_states.reserve(list.entries.size());
     m_thread = std::thread(&SourceLooks::Work, this);
 }
 
@@ -27,8 +28,12 @@ SourceLooks::~SourceLooks()
 {
     if (!m_thread.joinable())
         return;
-    m_isGivenUp = true;
-    HandOver(true);
+    {
+        const std::lock_guard lock(m_mutex);
+        m_taken = m_handedOver.size();
+        m_isEnd = true;
+    }
+    m_changed.notify_one();
     m_thread.join();
 }
 
@@ -42,7 +47,9 @@ void SourceLooks::Ask(std::uint32_t entry)
 std::vector<FileState> SourceLooks::Take(const std::vector<std::uint32_t>& entries)
 {
     HandOver(true);
+    Work();
     m_thread.join();
+    m_states.resize(m_asked.size());
     if (m_asked == entries)
         return std::move(m_states);
     std::vector<std::size_t> places(m_list.entries.size(), nowhere);
@@ -66,18 +73,24 @@ void SourceLooks::HandOver(bool isEnd)
     m_changed.notify_one();
 }
 
+/// Waits for something to look at; nothing at the end.
+SourceLooks::Part SourceLooks::TakePart()
+{
+    std::unique_lock lock(m_mutex);
+    m_changed.wait(lock, [this] { return m_isEnd || m_taken < m_handedOver.size(); });
+    if (m_taken >= m_handedOver.size())
+        return {};
+    const std::size_t first = m_taken;
+    m_taken = std::min(first + manyAtOnce, m_handedOver.size());
+    return {first, m_handedOver.subspan(first, m_taken - first)};
+}
+
 void SourceLooks::Work()
 {
     Looker looker(m_files);
-    for (bool isEnd = false; !isEnd;) {
-        std::unique_lock lock(m_mutex);
-        m_changed.wait(lock, [this] { return m_isEnd || m_states.size() < m_handedOver.size(); });
-        const std::span<const std::uint32_t> asked = m_handedOver;
-        isEnd = m_isEnd;
-        lock.unlock();
-        while (m_states.size() < asked.size() && !m_isGivenUp)
-            m_states.push_back(Look(looker, asked[m_states.size()]));
-    }
+    for (Part part = TakePart(); !part.entries.empty(); part = TakePart())
+        for (std::size_t place = 0; place < part.entries.size(); ++place)
+            m_states[part.first + place] = Look(looker, part.entries[place]);
 }
 
 FileState SourceLooks::Look(Looker& looker, std::uint32_t entry) const

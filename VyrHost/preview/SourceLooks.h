@@ -5,7 +5,6 @@
 #include <VyrHost/entries/EntryList.h>
 #include <VyrHost/files/Looker.h>
 
-#include <atomic>
 #include <condition_variable>
 #include <cstdint>
 #include <mutex>
@@ -29,12 +28,20 @@ public:
 
     /// Has `entry` looked at; to be called once for each entry at most.
     void Ask(std::uint32_t entry);
-    /// Waits until all is looked at.
+    /// Helps the thread until all is looked at; to be called once.
     /// @return what stands at each of `entries`, those included that were not asked for.
     [[nodiscard]] std::vector<VyrPlatform::FileState> Take(const std::vector<std::uint32_t>& entries);
 
 private:
+    /// Some of the asked, the first of them at the place `first` there.
+    struct Part
+    {
+        std::size_t first = 0;
+        std::span<const std::uint32_t> entries;
+    };
+
     void HandOver(bool isEnd);
+    [[nodiscard]] Part TakePart();
     void Work();
     [[nodiscard]] VyrPlatform::FileState Look(Looker& looker, std::uint32_t entry) const;
 
@@ -45,15 +52,14 @@ private:
     std::vector<CString> m_folders;
     /// Has room for all entries from the beginning: what is handed over stays in its place.
     std::vector<std::uint32_t> m_asked;
-    /// For each of the asked; the thread's own until it has ended.
+    /// For each of the asked; whoever took a part writes those of the part.
     std::vector<VyrPlatform::FileState> m_states;
 
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    /// Those of the asked that the thread knows of.
     std::span<const std::uint32_t> m_handedOver;
+    std::size_t m_taken = 0;
     bool m_isEnd = false;
-    std::atomic<bool> m_isGivenUp = false;
     std::thread m_thread;
 };
 
