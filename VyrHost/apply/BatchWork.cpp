@@ -63,6 +63,7 @@ bool BatchWork::Begin()
 {
     for (PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry)
         CheckSource(entry);
+    KeepJournalInPlace();
     return MayGoOn(m_folder.Begin(m_journal, m_file));
 }
 
@@ -83,6 +84,33 @@ void BatchWork::LeaveOut(PlanIndex entry, const RenameResult& result)
 {
     m_progress.Set(entry, Standing::Unknown);
     m_executor.SetResult(entry, result);
+}
+
+/// What was not renamed did not get its new path, nor did anything in it.
+void BatchWork::Keep(PlanIndex entry)
+{
+    m_executor.LeaveAlone(entry);
+    m_after.Set(entry, Standing::Before);
+}
+
+/// To find the batch again the journal has to stay where it is.
+void BatchWork::KeepJournalInPlace()
+{
+    const auto isFolder = [](const PlanEntry& entry) {
+        return entry.kind == Kind::Folder;
+    };
+    if (std::none_of(m_journal.plan.entries.begin(), m_journal.plan.entries.end(), isFolder))
+        return;
+    const std::vector<VyrPlatform::FileIdentity> way = m_folder.Way();
+    for (PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry) {
+        const FileState& state = m_journal.states[entry];
+        if (state.kind != Kind::Folder || std::find(way.begin(), way.end(), state.identity) == way.end())
+            continue;
+        m_executor.LeaveAlone(entry);
+        m_executor.SetResult(entry, {.outcome = RenameOutcome::Refused,
+                                     .error = 0,
+                                     .reason = u"the journal that \"vyr undo\" needs is kept in it"});
+    }
 }
 
 bool BatchWork::MayGoOn(std::uint32_t journalError)
@@ -107,7 +135,7 @@ bool BatchWork::Locate(const JournalFile& file)
         m_isKept[entry] = locator.IsKept(entry);
         m_hasChanged[entry] = locator.HasChanged(entry);
         if (m_isKept[entry])
-            m_executor.LeaveAlone(entry);
+            Keep(entry);
         else if (m_progress.Of(entry) == Standing::Unknown)
             m_executor.SetResult(entry, NotFound(locator.Error(entry)));
         else

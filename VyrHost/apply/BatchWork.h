@@ -41,6 +41,8 @@ public:
 private:
     void CheckSource(PlanIndex entry);
     void LeaveOut(PlanIndex entry, const RenameResult& result);
+    void Keep(PlanIndex entry);
+    void KeepJournalInPlace();
     bool MayGoOn(std::uint32_t journalError);
     void CheckListings(Standing standing);
     void Close(Direction direction);

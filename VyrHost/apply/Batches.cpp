@@ -243,10 +243,11 @@ BatchSummary Batches::TakeBack(std::optional<std::uint32_t> number, const BatchE
 std::optional<BatchInformation> Batches::FindCutOff() const
 {
     const JournalFolder folder(*m_files, m_journalFolder);
-    const std::optional<JournalFile> file = folder.FindOpen();
-    if (!file || folder.IsLockedByAnother())
+    if (!folder.FindOpen() || folder.IsLockedByAnother())
         return {};
-    return Describe(folder, *file);
+    // Its program may just have ended it.
+    const std::optional<JournalFile> file = folder.FindOpen();
+    return file ? Describe(folder, *file) : std::optional<BatchInformation>();
 }
 
 BatchSummary Batches::Recover(Recovery recovery, const BatchEntryReport& report, const StopRequest& isStopAsked)

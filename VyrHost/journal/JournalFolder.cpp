@@ -1,12 +1,14 @@
 // Journal files: their names, their order, their ends.
 #include <VyrHost/journal/JournalFolder.h>
 
+#include <VyrHost/RenameList.h>
 #include <VyrHost/files/ErrorText.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/FolderUtils.h>
 #include <VyrPlatform/FileReader.h>
 #include <VyrPlatform/FolderListing.h>
+#include <VyrPlatform/FullPath.h>
 
 #include <algorithm>
 #include <array>
@@ -102,6 +104,16 @@ CString JournalFolder::Lock()
 bool JournalFolder::IsLockedByAnother() const
 {
     return VyrPlatform::FileLock(PathOf(u"lock")).IsTaken();
+}
+
+std::vector<VyrPlatform::FileIdentity> JournalFolder::Way() const
+{
+    std::vector<VyrPlatform::FileIdentity> way;
+    // As the path is written, and with its links followed.
+    for (const CString& path : {VyrPlatform::GetFullPath(m_path), VyrPlatform::GetRealPath(m_path)})
+        for (PlannedPath at(path); !at.folder.IsEmpty(); at = at.folder.Left(at.folder.GetLength() - 1))
+            way.push_back(VyrPlatform::LookAtFile(at.Path()).identity);
+    return way;
 }
 
 std::vector<JournalFile> JournalFolder::List() const

@@ -51,6 +51,9 @@ public:
     /// Whether another program holds the lock.
     [[nodiscard]] bool IsLockedByAnother() const;
 
+    /// The folders and links that its path leads through, and the folder itself.
+    [[nodiscard]] std::vector<VyrPlatform::FileIdentity> Way() const;
+
     /// The journals by rising numbers.
     [[nodiscard]] std::vector<JournalFile> List() const;
     /// The journal of a batch that is being worked on, or was when that was cut off.

@@ -232,6 +232,53 @@ TEST(Batches, NeverReplaceWhatAppearedSinceThePreview)
     EXPECT_EQ(scene.Now(), before);
 }
 
+TEST(Batches, LeaveTheFolderOfTheirJournalWhereItIs)
+{
+    BatchScene scene;
+    scene.Write(u"a");
+    const CString journal = scene.JournalFolder();
+    scene.list.renames.push_back({journal, journal + u" renamed", VyrPlatform::FileSystem::Kind::Folder});
+    scene.Rename(u"a", u"b");
+    const BatchSummary summary = scene.Apply();
+    EXPECT_EQ(summary.refused, 1u);
+    EXPECT_EQ(scene.results[0].outcome, RenameOutcome::Refused);
+    EXPECT_EQ(scene.results[0].reason, u"the journal that \"vyr undo\" needs is kept in it");
+    EXPECT_EQ(summary.done, 1u);
+    EXPECT_EQ(scene.Now(), (Tree{{"b", "a"}}));
+    EXPECT_EQ(scene.TakeBack().done, 1u);
+    EXPECT_EQ(scene.Now(), (Tree{{"a", "a"}}));
+}
+
+TEST(Batches, LeaveTheFoldersAboveTheirJournalWhereTheyAre)
+{
+    BatchScene scene;
+    scene.MakeFolder(u"state/deep/journal");
+    scene.Write(u"state/deep/a");
+    scene.MakeFolder(u"other");
+    scene.batches = Batches(SystemFiles(), scene.Path(u"state/deep/journal"));
+    scene.RenameFolder(u"state", u"other state").Rename(u"state/deep/a", u"state/deep/b").RenameFolder(u"other", u"x");
+    const BatchSummary summary = scene.Apply();
+    EXPECT_EQ(scene.results[0].outcome, RenameOutcome::Refused);
+    EXPECT_EQ(summary.done, 2u);
+    EXPECT_EQ(scene.Now().at("state/deep/b"), "state/deep/a");
+    EXPECT_EQ(scene.TakeBack().done, 2u);
+    EXPECT_EQ(scene.Now().at("state/deep/a"), "state/deep/a");
+    EXPECT_TRUE(scene.Now().contains("other"));
+}
+
+TEST(Batches, TellWhereWhatStandsInAFolderThatKeptItsNameCameFrom)
+{
+    BatchScene scene;
+    scene.Write(u"folder/a");
+    scene.RenameFolder(u"folder", u"taken").Rename(u"folder/a", u"folder/b");
+    scene.MakeFolder(u"taken");
+    EXPECT_EQ(scene.Apply().done, 1u);
+    EXPECT_EQ(scene.TakeBack().done, 1u);
+    ASSERT_EQ(scene.entries.size(), 1u);
+    EXPECT_EQ(scene.entries[0].before, scene.Path(u"folder/a"));
+    EXPECT_EQ(scene.entries[0].after, scene.Path(u"folder/b"));
+}
+
 TEST(Batches, RefuseWhatDependsOnARenameThatFailed)
 {
     BatchScene scene;
