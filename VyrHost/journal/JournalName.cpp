@@ -32,7 +32,10 @@ void AppendJournalName(std::string& text, const CString& name)
 {
     std::u16string_view rest = name;
     if (IsPlainAscii(rest)) {
-        text.append(rest.begin(), rest.end());
+        const std::size_t length = text.size();
+        text.resize(length + rest.size());
+        std::transform(rest.begin(), rest.end(), text.begin() + static_cast<std::ptrdiff_t>(length),
+                       [](char16_t unit) { return static_cast<char>(unit); });
         return;
     }
     while (!rest.empty()) {

@@ -117,7 +117,7 @@ private:
     {
         char digits[24];
         const auto [end, error] = std::to_chars(std::begin(digits), std::end(digits), number);
-        m_text.append(digits, end);
+        m_text.append(digits, static_cast<std::size_t>(end - digits));
     }
 
     std::string& m_text;
