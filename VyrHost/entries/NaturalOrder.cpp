@@ -86,8 +86,9 @@ public:
         if (text.empty())
             return 0;
         KeyBuilder key;
-        while (!text.empty() && key.m_free > 0)
+        do
             key.Take(text);
+        while (!text.empty() && key.m_free > 0);
         return key.m_bits << (8 * key.m_free);
     }
 

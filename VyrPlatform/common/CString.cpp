@@ -244,9 +244,9 @@ CString& CString::MakeLower()
 
 int CString::CompareNoCase(std::u16string_view other) const
 {
-    const CString left = CString(*this).MakeLower();
-    const CString right = CString(other).MakeLower();
-    return left.View().compare(right);
+    CString left = *this;
+    CString right(other);
+    return left.MakeLower().View().compare(right.MakeLower());
 }
 
 void CString::FormatArguments(std::u16string_view format, std::initializer_list<FormatArgument> arguments)

@@ -56,7 +56,7 @@ CString ToSystemPath(const CString& path, std::u16string_view suffix)
     const CString full = IsFull(path) ? path : MakeFullPath(path);
     const bool isPrefixed = HasSystemPrefix(full);
     // The name of a device becomes one with a prefix, by which not every function of the system knows it.
-    const CString whole = (isPrefixed ? path : full) + suffix;
+    CString whole = (isPrefixed ? path : full) + suffix;
     if (isPrefixed || whole.GetLength() <= longestPlainPath)
         return whole;
     // The prefix ends all reading of the path, so that it must be plain before.
