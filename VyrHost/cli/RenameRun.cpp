@@ -65,7 +65,7 @@ public:
             OfferRecovery();
         TakeEntries();
         const Groups groups = m_request.together ? Groups::ByStem(List()) : Groups::OfOne(List());
-        Decide(groups);
+        Decide(groups, !m_request.edit);
         if (m_request.edit)
             Edit();
         const bool isStopped = m_request.conflicts.mode == OnConflict::Refuse && HasConflict();
@@ -104,11 +104,12 @@ private:
         m_names = std::make_unique<GivenNames>(std::move(names));
     }
 
-    void Decide(const Groups& groups)
+    /// @param areFinal  the names are those that are applied.
+    void Decide(const Groups& groups, bool areFinal)
     {
         Progress progress("naming", groups.Count(), IsSilent());
         WishReport onWish;
-        if (m_request.apply) {
+        if (m_request.apply && areFinal) {
             m_looks = std::make_unique<SourceLooks>(List(), SystemFiles());
             onWish = [this](std::uint32_t entry) {
                 m_looks->Ask(entry);
@@ -165,7 +166,7 @@ private:
         m_names = std::make_unique<GivenNames>(ParseEdited(*edited.text, names.size()));
         m_outcome = {};
         List().ForgetHolders();
-        Decide(Groups::OfOne(List()));
+        Decide(Groups::OfOne(List()), true);
     }
 
     /// With its folder as it is shown: a bare name would leave the entry where it is.
