@@ -6,15 +6,22 @@
 #include <VyrPlatform/Export.h>
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 namespace VyrPlatform::DurableFile {
 
+/// Takes a piece of a file's content.
+using TakePiece = std::function<void(std::string_view piece)>;
+/// Gives the content of a file to `take`, piece by piece: a long one need not stand in memory as a whole.
+using Content = std::function<void(const TakePiece& take)>;
+
 /// Makes the file `path`, for its owner's eyes alone, with `content`, and waits until that is on the disk. The name is
 /// there for good only after FlushFolder.
+/// @param content called once at most.
 /// @return 0, else the system's error code (a file that exists already is an error), and then no file of this call is
 /// left.
-[[nodiscard]] VYR_PLATFORM_API std::uint32_t WriteNew(const CString& path, std::string_view content);
+[[nodiscard]] VYR_PLATFORM_API std::uint32_t WriteNew(const CString& path, const Content& content);
 
 /// Writes `content` behind what the file `path` holds. It comes to the disk in the system's own time.
 /// @return 0, else the system's error code; a part of `content` may then have been written.

@@ -23,7 +23,7 @@ Direction Opposite(Direction direction)
 
 Executor::Executor(const RenamePlan& plan, PlanProgress& progress, FileOperations& files)
     : m_plan(plan), m_progress(progress), m_folders(progress, files), m_goesAside(plan.entries.size()),
-      m_isLeftAlone(plan.entries.size()), m_successors(plan.entries.size(), none), m_results(plan.entries.size()),
+      m_isLeftAlone(plan.entries.size()), m_successors(plan.entries.size(), none),
       m_folderErrors(plan.folders.size())
 {
     for (PlanIndex entry = 0; entry < plan.entries.size(); ++entry)
@@ -36,7 +36,7 @@ void Executor::FindGroups()
 {
     std::size_t open = 0;
     m_groups.reserve(m_plan.steps.size());
-    for (std::size_t step = 0; step < m_plan.steps.size(); ++step) {
+    for (PlanIndex step = 0; step < m_plan.steps.size(); ++step) {
         const auto [action, subject] = m_plan.steps[step];
         if (open == 0)
             m_groups.push_back({step, step});
@@ -181,8 +181,9 @@ PlanIndex Executor::FindInTheWay(PlanIndex entry, Standing target) const
 
 Executor::StepResult Executor::Move(PlanIndex entry, Standing source, Standing target)
 {
-    const Place from = m_progress.PlaceOf(entry, source);
-    const Place to = m_progress.PlaceOf(entry, target);
+    Place aside;
+    const Place& from = m_progress.PlaceOf(entry, source, aside);
+    const Place& to = m_progress.PlaceOf(entry, target, aside);
     const OpenedFolder fromFolder = m_folders.Open(from.folder);
     const OpenedFolder toFolder = fromFolder.folder ? m_folders.Open(to.folder) : fromFolder;
     if (!toFolder.folder)
@@ -254,8 +255,9 @@ void Executor::RemoveFoldersWithoutUse()
 
 Executor::StepResult Executor::Refuse(PlanIndex entry, const CString& reason)
 {
-    if (m_results[entry].outcome == RenameOutcome::NotReached)
-        m_results[entry] = {.outcome = RenameOutcome::Refused, .error = 0, .reason = reason};
+    RenameResult& result = m_results[entry];
+    if (result.outcome == RenameOutcome::NotReached)
+        result = {.outcome = RenameOutcome::Refused, .error = 0, .reason = reason};
     return StepResult::Failed;
 }
 
@@ -278,13 +280,15 @@ RenameResult Executor::ResultOf(PlanIndex entry, Direction direction) const
     const Standing standing = m_progress.Of(entry);
     if (standing == goal)
         return {.outcome = RenameOutcome::Done, .error = 0, .reason = {}};
+    const auto found = m_results.find(entry);
+    const RenameResult result = found == m_results.end() ? RenameResult() : found->second;
     if (standing != Standing::Aside)
-        return m_results[entry];
+        return result;
     return {.outcome = RenameOutcome::Failed,
-            .error = m_results[entry].error,
+            .error = result.error,
             .reason = CString::Join({u"it stands under a temporary name now, ",
                                      m_progress.PathOf(m_progress.PlaceOf(entry, Standing::Aside)),
-                                     m_results[entry].reason.IsEmpty() ? u"" : u": ", m_results[entry].reason})};
+                                     result.reason.IsEmpty() ? u"" : u": ", result.reason})};
 }
 
 } // namespace VyrHost

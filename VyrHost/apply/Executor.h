@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <unordered_map>
 #include <vector>
 
 namespace VyrHost {
@@ -31,7 +32,7 @@ public:
     /// Leaves `entry` where it is, whatever the direction.
     void LeaveAlone(PlanIndex entry) { m_isLeftAlone[entry] = true; }
     /// Says beforehand what the result is for an entry that was not found.
-    void SetResult(PlanIndex entry, const RenameResult& result) { m_results[entry] = result; }
+    void SetResult(PlanIndex entry, const RenameResult& result) { m_results.insert_or_assign(entry, result); }
 
     /// Does every step that is not done yet in `direction`; backward in reverse order. Nothing is overwritten. A
     /// failure ends only what depends on it: entries that need its place are refused, a circle that cannot be closed is
@@ -45,8 +46,8 @@ private:
     /// Steps that are done or taken back together: their first, and the one behind their last.
     struct Group
     {
-        std::size_t first;
-        std::size_t end;
+        PlanIndex first;
+        PlanIndex end;
     };
     enum class StepResult : std::uint8_t
     {
@@ -88,8 +89,8 @@ private:
     std::vector<bool> m_isLeftAlone;
     /// For each entry the one that gets its old place.
     std::vector<PlanIndex> m_successors;
-    /// For each entry why it is not where it is to be.
-    std::vector<RenameResult> m_results;
+    /// Why entries are not where they are to be; of the others the work did not come to them.
+    std::unordered_map<PlanIndex, RenameResult> m_results;
     /// For each new folder why it was not made.
     std::vector<std::uint32_t> m_folderErrors;
 };

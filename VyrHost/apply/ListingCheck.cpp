@@ -55,9 +55,10 @@ private:
     template <class Use>
     void ForEachStanding(Use use)
     {
+        Place aside;
         for (PlanIndex entry = 0; entry < m_plan.entries.size(); ++entry)
             if (m_progress.Of(entry) == m_standing)
-                use(entry, m_progress.PlaceOf(entry, m_standing));
+                use(entry, m_progress.PlaceOf(entry, m_standing, aside));
     }
 
     [[nodiscard]] bool IsExact(PlanIndex folder)
@@ -70,9 +71,8 @@ private:
     {
         const std::optional<CString> path = m_progress.PathOfFolder(folder);
         return path && m_files.List(*path, [this, folder](const CString& name) {
-            const PlanIndex entry = m_expected.Find({folder, name});
-            if (entry != none)
-                m_isFound[entry] = true;
+            if (const PlanIndex* const entry = m_expected.Find({folder, name}))
+                m_isFound[*entry] = true;
         }) == 0;
     }
 
@@ -80,7 +80,7 @@ private:
     const PlanProgress& m_progress;
     Standing m_standing;
     FileOperations& m_files;
-    SlotTable m_expected;
+    SlotTable<PlanIndex> m_expected;
     std::vector<bool> m_isFound;
     std::vector<bool> m_isWanted;
     std::vector<bool> m_isExact;

@@ -110,7 +110,7 @@ Locator::Sight Locator::LookAt(PlanIndex entry, Standing standing)
     Sight sight;
     sight.standing = standing;
     sight.state = m_folders.Look(place);
-    if (m_taken.Find({place.folder, place.name}) == none)
+    if (!m_taken.Find({place.folder, place.name}))
         sight.likeness = Compare(entry, sight.state);
     return sight;
 }

@@ -76,7 +76,7 @@ private:
     std::vector<bool> m_hasChanged;
     std::vector<std::uint32_t> m_errors;
     /// The places of the entries that are found: hard links make two entries look alike.
-    SlotTable m_taken;
+    SlotTable<PlanIndex> m_taken;
     std::unordered_map<PlanIndex, std::unordered_set<CString>> m_names;
 };
 

@@ -21,14 +21,15 @@ PlanProgress::PlanProgress(const RenamePlan& plan, std::uint64_t token)
       m_newFolders(plan.folders.size(), NewFolder::Absent)
 {}
 
-Place PlanProgress::PlaceOf(PlanIndex entry, Standing standing) const
+const Place& PlanProgress::PlaceOf(PlanIndex entry, Standing standing, Place& aside) const
 {
     const PlanEntry& planned = m_plan.entries[entry];
     if (standing != Standing::Aside)
         return standing == Standing::After ? planned.to : planned.from;
     CString name;
     name.Format(u".vyr-%016x-%u.tmp", m_token, entry);
-    return {planned.from.folder, name};
+    aside = {planned.from.folder, name};
+    return aside;
 }
 
 std::optional<Place> PlanProgress::PlaceOfFolder(PlanIndex folder) const

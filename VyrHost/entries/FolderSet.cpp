@@ -1,9 +1,25 @@
 // Lists each folder once and remembers it by number.
 #include <VyrHost/entries/FolderSet.h>
 
+#include <VyrHost/entries/NaturalOrder.h>
 #include <VyrPlatform/FolderListing.h>
 
+#include <numeric>
+#include <vector>
+
 namespace VyrHost {
+
+namespace {
+
+std::vector<std::uint32_t> OrderOf(const std::deque<NameRecord>& records)
+{
+    std::vector<std::uint32_t> order(records.size());
+    std::iota(order.begin(), order.end(), 0);
+    SortNaturally(order, [&records](std::uint32_t index) { return records[index].name; });
+    return order;
+}
+
+} // namespace
 
 std::uint32_t FolderSet::Open(const CString& path, const CString& shown)
 {
@@ -31,15 +47,21 @@ std::uint32_t FolderSet::Find(const CString& path)
 
 void FolderSet::List(Folder& folder)
 {
-    folder.names.SetFolding(VyrPlatform::GetNameFolding(folder.path));
+    NameStore texts;
+    std::deque<NameRecord> listed;
     VyrPlatform::FolderListing listing(folder.path);
-    while (listing.Next()) {
-        NameRecord& record = folder.names.Add(m_texts.Keep(listing.Name()));
-        record.kind = listing.Kind();
-        record.isLink = listing.IsLink();
-    }
+    while (listing.Next())
+        listed.push_back({.name = texts.Keep(listing.Name()), .kind = listing.Kind(), .isLink = listing.IsLink()});
     folder.error = listing.Error();
     folder.exists = folder.error == 0;
+    folder.names.SetFolding(VyrPlatform::GetNameFolding(folder.path));
+    folder.names.Reserve(listed.size());
+    // Whoever goes through them in this order finds the texts side by side.
+    for (const std::uint32_t index : OrderOf(listed)) {
+        NameRecord& record = folder.names.Add(m_texts.Keep(listed[index].name));
+        record.kind = listed[index].kind;
+        record.isLink = listed[index].isLink;
+    }
 }
 
 } // namespace VyrHost

@@ -20,6 +20,7 @@ struct Folder
     CString path;
     /// What stands before an entry's name when it is shown: the folder as the user named it.
     CString shown;
+    /// What the listing brings stands first, in natural order.
     NameTable names;
     /// The disk has it: its listing is in `names`.
     bool exists = false;

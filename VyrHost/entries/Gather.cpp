@@ -3,7 +3,6 @@
 
 #include <VyrHost/UsageError.h>
 #include <VyrHost/entries/NameReader.h>
-#include <VyrHost/entries/NaturalOrder.h>
 #include <VyrHost/entries/Wildcard.h>
 #include <VyrHost/files/FolderPart.h>
 #include <VyrHost/output/SafeText.h>
@@ -163,9 +162,8 @@ private:
         NameTable& names = List().folders[folder].names;
         const CString folded = VyrPlatform::FoldName(pattern, names.Folding());
         bool matched = false;
-        for (const std::uint32_t index : ByName(names)) {
-            NameRecord& record = names.Records()[index];
-            if (MatchesPattern(folded, VyrPlatform::FoldName(record.name, names.Folding()))) {
+        for (NameRecord& record : names.Records()) {
+            if (IsShown(record) && MatchesPattern(folded, VyrPlatform::FoldName(record.name, names.Folding()))) {
                 AddSource(folder, record);
                 matched = true;
             }
@@ -191,11 +189,11 @@ private:
                                                        VyrPlatform::Process::GetErrorMessage(folder.error)}));
             return;
         }
-        const std::vector<std::uint32_t> order = ByName(folder.names);
-        MakeRoom(order.size());
+        MakeRoom(folder.names.Records().size());
         std::vector<std::u16string_view> below;
-        for (const std::uint32_t index : order) {
-            NameRecord& record = folder.names.Records()[index];
+        for (NameRecord& record : folder.names.Records()) {
+            if (!IsShown(record))
+                continue;
             if (IsPicked(record))
                 AddListed(number, record);
             if (record.kind == Kind::Folder && !record.isLink)
@@ -212,16 +210,9 @@ private:
             entries.reserve(std::max(entries.size() + count, 2 * entries.capacity()));
     }
 
-    [[nodiscard]] std::vector<std::uint32_t> ByName(const NameTable& names) const
+    [[nodiscard]] bool IsShown(const NameRecord& record) const
     {
-        const std::deque<NameRecord>& records = names.Records();
-        std::vector<std::uint32_t> order;
-        order.reserve(records.size());
-        for (std::uint32_t index = 0; index < records.size(); ++index)
-            if (m_settings.hidden || !records[index].name.starts_with(u'.'))
-                order.push_back(index);
-        SortNaturally(order, [&records](std::uint32_t index) { return records[index].name; });
-        return order;
+        return m_settings.hidden || !record.name.starts_with(u'.');
     }
 
     [[nodiscard]] bool IsPicked(const NameRecord& record) const

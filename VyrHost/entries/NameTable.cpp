@@ -1,6 +1,8 @@
 // A hash table with open addressing over the names of one folder.
 #include <VyrHost/entries/NameTable.h>
 
+#include <algorithm>
+#include <bit>
 #include <functional>
 #include <utility>
 
@@ -59,9 +61,7 @@ NameRecord* NameTable::Find(std::u16string_view name)
 
 NameRecord& NameTable::Add(std::u16string_view name)
 {
-    // A third of the slots stays free, so that runs stay short.
-    if ((m_records.size() + 1) * 3 > m_slots.size() * 2)
-        Grow();
+    Reserve(m_records.size() + 1);
     const Key key = KeyOf(name);
     Slot& slot = m_slots[SlotOf(key)];
     if (slot.number == 0) {
@@ -71,9 +71,17 @@ NameRecord& NameTable::Add(std::u16string_view name)
     return m_records[slot.number - 1];
 }
 
-void NameTable::Grow()
+void NameTable::Reserve(std::size_t count)
 {
-    std::vector<Slot> slots(m_slots.empty() ? FirstSlots : m_slots.size() * 2);
+    // A third of the slots stays free, so that runs stay short.
+    const std::size_t slots = count + count / 2;
+    if (slots > m_slots.size())
+        Grow(std::max(FirstSlots, std::bit_ceil(slots)));
+}
+
+void NameTable::Grow(std::size_t count)
+{
+    std::vector<Slot> slots(count);
     const std::size_t mask = slots.size() - 1;
     for (const Slot& moved : m_slots) {
         if (moved.number == 0)

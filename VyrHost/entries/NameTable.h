@@ -45,6 +45,8 @@ public:
     [[nodiscard]] const NameRecord* Find(std::u16string_view name) const;
     /// The record of `name`, added when there is none. The table keeps the view: its text must outlive the table.
     NameRecord& Add(std::u16string_view name);
+    /// Makes room for `count` names.
+    void Reserve(std::size_t count);
 
     /// The records in the order in which they were added.
     [[nodiscard]] std::deque<NameRecord>& Records() { return m_records; }
@@ -70,7 +72,7 @@ private:
 
     [[nodiscard]] bool IsSame(const NameRecord& record, const Key& key) const;
     [[nodiscard]] std::size_t SlotOf(const Key& key) const;
-    void Grow();
+    void Grow(std::size_t count);
 
     VyrPlatform::NameFolding m_folding = VyrPlatform::NameFolding::None;
     /// Not a vector: a table of many names would be copied each time that it grows.

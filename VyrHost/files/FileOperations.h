@@ -3,6 +3,7 @@
 #pragma once
 
 #include <VyrPlatform/CString.h>
+#include <VyrPlatform/DurableFile.h>
 #include <VyrPlatform/FileIdentity.h>
 #include <VyrPlatform/NameFolding.h>
 
@@ -49,7 +50,8 @@ public:
     [[nodiscard]] virtual VyrPlatform::NameFolding GetNameFolding(const CString& path) = 0;
 
     // For journal files: VyrPlatform/DurableFile.h and RenameNoReplace.
-    [[nodiscard]] virtual std::uint32_t WriteNew(const CString& path, std::string_view content) = 0;
+    [[nodiscard]] virtual std::uint32_t WriteNew(const CString& path,
+                                                 const VyrPlatform::DurableFile::Content& content) = 0;
     [[nodiscard]] virtual std::uint32_t Append(const CString& path, std::string_view content) = 0;
     [[nodiscard]] virtual std::uint32_t RenameFile(const CString& from, const CString& to) = 0;
     [[nodiscard]] virtual std::uint32_t Remove(const CString& path) = 0;

@@ -54,7 +54,7 @@ public:
     }
     VyrPlatform::NameFolding GetNameFolding(const CString& path) override { return VyrPlatform::GetNameFolding(path); }
 
-    std::uint32_t WriteNew(const CString& path, std::string_view content) override
+    std::uint32_t WriteNew(const CString& path, const DurableFile::Content& content) override
     {
         return DurableFile::WriteNew(path, content);
     }

@@ -178,11 +178,13 @@ std::uint32_t JournalFolder::Begin(Journal& journal, JournalFile& file)
     file.path = PathOf(NameOf(file.number, EndingOf(file.phase)));
     journal.heading.number = file.number;
     const CString newPath = PathOf(NameOf(file.number, newEnding));
-    const std::string text = WriteJournal(journal, journal.check);
-    std::uint32_t error = m_files.WriteNew(newPath, text);
+    const auto content = [&journal](const VyrPlatform::DurableFile::TakePiece& take) {
+        journal.check = WriteJournal(journal, take);
+    };
+    std::uint32_t error = m_files.WriteNew(newPath, content);
     // A program that ended while it wrote its journal leaves a part of it.
     if (error && m_files.Remove(newPath) == 0)
-        error = m_files.WriteNew(newPath, text);
+        error = m_files.WriteNew(newPath, content);
     if (error)
         return error;
     error = m_files.RenameFile(newPath, file.path);

@@ -16,13 +16,17 @@ namespace VyrHost {
 namespace {
 
 using VyrPlatform::FileState;
+using VyrPlatform::DurableFile::TakePiece;
 using VyrPlatform::FileSystem::Kind;
 
 constexpr std::string_view format = "vyr-journal";
-constexpr std::uint32_t version = 1;
+constexpr std::uint32_t version = 2;
 constexpr char noneText = '-';
 constexpr std::size_t checkLength = 8;
+/// Fields, in a line of steps.
 constexpr std::size_t stepsInLine = 1000;
+/// The least length of a piece of text, in bytes.
+constexpr std::size_t pieceLength = std::size_t{1} << 16;
 constexpr std::array<std::pair<bool, char>, 2> directions{{{false, 'f'}, {true, 'b'}}};
 constexpr std::array<std::pair<bool, char>, 2> ends{{{false, 'e'}, {true, 's'}}};
 constexpr std::array<std::pair<Kind, char>, 4> kinds{
@@ -44,11 +48,12 @@ void AppendHexadecimal(std::string& text, std::uint32_t value)
         text += digits[value >> shift & 0xF];
 }
 
-/// Writes lines field by field.
+/// Writes lines field by field, and hands them on in pieces.
 class LineWriter
 {
 public:
-    LineWriter(std::string& text, std::uint32_t check) : m_text(text), m_check(check), m_start(text.size()) {}
+    /// @param check  of what stands before.
+    LineWriter(std::uint32_t check, const TakePiece& use) : m_use(use), m_check(check) {}
 
     LineWriter& Word(std::string_view word)
     {
@@ -71,10 +76,10 @@ public:
         AppendJournalName(m_text, name);
         return *this;
     }
-    LineWriter& Step(const PlanStep& step)
+    LineWriter& Steps(PlanStep::Action action, PlanIndex first, PlanIndex last)
     {
-        Letter(LetterOf(actions, step.action));
-        AppendNumber(step.subject);
+        Letter(LetterOf(actions, action));
+        AppendRange(first, last);
         return *this;
     }
     /// As in 3,17,19-25.
@@ -87,30 +92,53 @@ public:
                 ++last;
             if (first > 0)
                 m_text += ',';
-            AppendNumber(indexes[first]);
-            if (last > first) {
-                m_text += '-';
-                AppendNumber(indexes[last]);
-            }
+            AppendRange(indexes[first], indexes[last]);
             first = last + 1;
         }
         return *this;
     }
+    /// Writes the check of all the text so far.
+    std::uint32_t Check()
+    {
+        const std::uint32_t check = UpdateCheck();
+        Separate();
+        AppendHexadecimal(m_text, check);
+        return check;
+    }
     void End()
     {
-        m_check = Checksum(m_check, std::string_view(m_text).substr(m_start));
-        m_text += '\t';
-        AppendHexadecimal(m_text, m_check);
         m_text += '\n';
-        m_start = m_text.size();
+        if (m_text.size() >= pieceLength)
+            HandOn();
+        m_line = m_text.size();
     }
-    [[nodiscard]] std::uint32_t Check() const { return m_check; }
+    void HandOn()
+    {
+        UpdateCheck();
+        m_use(m_text);
+        m_text.clear();
+        m_checked = 0;
+    }
 
 private:
+    std::uint32_t UpdateCheck()
+    {
+        m_check = Checksum(m_check, std::string_view(m_text).substr(m_checked));
+        m_checked = m_text.size();
+        return m_check;
+    }
     void Separate()
     {
-        if (m_text.size() > m_start)
+        if (m_text.size() > m_line)
             m_text += '\t';
+    }
+    void AppendRange(PlanIndex first, PlanIndex last)
+    {
+        AppendNumber(first);
+        if (last > first) {
+            m_text += '-';
+            AppendNumber(last);
+        }
     }
     template <std::integral Integer>
     void AppendNumber(Integer number)
@@ -120,17 +148,23 @@ private:
         m_text.append(digits, static_cast<std::size_t>(end - digits));
     }
 
-    std::string& m_text;
+    const TakePiece& m_use;
     std::uint32_t m_check;
-    std::size_t m_start;
+    std::string m_text;
+    /// Where the line in hand begins.
+    std::size_t m_line = 0;
+    /// How much the check has taken in.
+    std::size_t m_checked = 0;
 };
 
 void WriteHeading(LineWriter& writer, const Journal& journal)
 {
     const JournalHeading& heading = journal.heading;
+    writer.Word(format).Number(version).End();
     writer.Word("batch").Number(heading.number).Number(heading.token).Name(heading.started);
     writer.Number(journal.plan.folders.size()).Number(journal.plan.entries.size());
-    writer.Number(journal.plan.steps.size()).Name(heading.firstFrom).Name(heading.firstTo).End();
+    writer.Number(journal.plan.steps.size()).Name(heading.firstFrom).Name(heading.firstTo).Check();
+    writer.End();
 }
 
 void WriteFolder(LineWriter& writer, const PlanFolder& folder)
@@ -146,12 +180,19 @@ void WriteEntry(LineWriter& writer, const PlanEntry& entry, const FileState& sta
     writer.Index(entry.to.folder).Name(entry.to.name).Index(entry.folder).Index(entry.waitsFor).End();
 }
 
+/// Steps of one kind whose subjects follow each other stand together.
 void WriteSteps(LineWriter& writer, const std::vector<PlanStep>& steps)
 {
-    for (std::size_t first = 0; first < steps.size(); first += stepsInLine) {
+    std::size_t written = 0;
+    while (written < steps.size()) {
         writer.Word("steps");
-        for (std::size_t step = first; step < std::min(first + stepsInLine, steps.size()); ++step)
-            writer.Step(steps[step]);
+        for (std::size_t field = 0; field < stepsInLine && written < steps.size(); ++field) {
+            const std::size_t first = written++;
+            while (written < steps.size() &&
+                   steps[written] == PlanStep{steps[first].action, steps[written - 1].subject + 1})
+                ++written;
+            writer.Steps(steps[first].action, steps[first].subject, steps[written - 1].subject);
+        }
         writer.End();
     }
 }
@@ -163,30 +204,31 @@ struct Damage
     const char16_t* what;
 };
 
-/// Hands out lines whose checks are right, field by field.
+/// Hands out lines field by field.
 class LineReader
 {
 public:
-    explicit LineReader(std::string_view text) : m_text(text) {}
+    explicit LineReader(std::string_view text) : m_text(text), m_unchecked(text.data()) {}
 
     /// Goes to the next line, whose first field must be `word`.
-    void Next(std::string_view word)
+    void Next(std::string_view word) { Begin(TakeLine(), word); }
+    /// Goes to the next line, whose check, the last field, must be right.
+    void NextChecked(std::string_view word)
     {
-        const std::string_view content = TakeLine();
-        m_check = Checksum(m_check, content);
+        const std::string_view content = TakeCheckedLine();
+        m_check = Checksum(m_check, {m_unchecked, content.data() + content.size()});
+        m_unchecked = content.data() + content.size();
         if (m_check != m_lineCheck)
-            Fail(u"the line's check is wrong");
-        m_fields = content;
-        m_isAtEnd = false;
-        if (Word() != word)
-            Fail(u"it is not the line that belongs there");
+            Fail(u"the text up to here has been changed");
+        Begin(content, word);
     }
     /// Goes to the next line if it is a whole mark; else past it.
     [[nodiscard]] bool NextMark(std::uint32_t check)
     {
         try {
             m_check = check;
-            Next("mark");
+            m_unchecked = m_text.data();
+            NextChecked("mark");
             return true;
         } catch (const Damage&) {
             return false;
@@ -196,7 +238,7 @@ public:
     /// @return that check.
     std::uint32_t Skip()
     {
-        TakeLine();
+        TakeCheckedLine();
         return m_lineCheck;
     }
     [[nodiscard]] bool HasMore() const { return !m_text.empty(); }
@@ -234,11 +276,16 @@ public:
     {
         return ParseLetter(Word(), letters);
     }
-    PlanStep Step()
+    /// Adds steps, `most` at most.
+    void Steps(std::vector<PlanStep>& steps, std::size_t most)
     {
         const std::string_view word = Word();
-        return {ParseLetter(word.substr(0, 1), actions),
-                ParseNumber<PlanIndex>(word.substr(std::min<std::size_t>(1, word.size())))};
+        const PlanStep::Action action = ParseLetter(word.substr(0, 1), actions);
+        const auto [first, last] = ParseRange(word.substr(std::min<std::size_t>(1, word.size())));
+        if (last < first || last - first >= most)
+            Fail(u"there are too many steps");
+        for (std::size_t subject = first; subject <= last; ++subject)
+            steps.push_back({action, static_cast<PlanIndex>(subject)});
     }
     /// Each below `bound`, in rising order.
     std::vector<PlanIndex> Ranges(std::size_t bound)
@@ -266,7 +313,13 @@ public:
     [[noreturn]] void Fail(const char16_t* what) const { throw Damage{m_line, what}; }
 
 private:
-    /// What stands before the line's check, which is taken too.
+    void Begin(std::string_view content, std::string_view word)
+    {
+        m_fields = content;
+        m_isAtEnd = false;
+        if (Word() != word)
+            Fail(u"it is not the line that belongs there");
+    }
     std::string_view TakeLine()
     {
         ++m_line;
@@ -277,6 +330,12 @@ private:
         }
         const std::string_view line = m_text.substr(0, end);
         m_text.remove_prefix(end + 1);
+        return line;
+    }
+    /// What stands before the line's check, which is taken too.
+    std::string_view TakeCheckedLine()
+    {
+        const std::string_view line = TakeLine();
         if (line.size() <= checkLength || line[line.size() - checkLength - 1] != '\t')
             Fail(u"the line has no check");
         m_lineCheck = ParseNumber<std::uint32_t>(line.substr(line.size() - checkLength), 16);
@@ -299,6 +358,13 @@ private:
                 return value;
         Fail(u"a letter has no meaning");
     }
+    /// As in 17 or 19-25: the first number and the last.
+    [[nodiscard]] std::pair<PlanIndex, PlanIndex> ParseRange(std::string_view range) const
+    {
+        const std::size_t dash = range.find('-');
+        const auto first = ParseNumber<PlanIndex>(range.substr(0, dash));
+        return {first, dash == range.npos ? first : ParseNumber<PlanIndex>(range.substr(dash + 1))};
+    }
     /// Calls `use` with the first index of each range, and the one behind its last.
     template <class Use>
     void ForEachRange(std::size_t bound, Use use)
@@ -307,9 +373,7 @@ private:
         for (std::string_view rest = Word(); !rest.empty();) {
             const std::size_t end = std::min(rest.find(','), rest.size());
             const std::string_view range = rest.substr(0, end);
-            const std::size_t dash = range.find('-');
-            const auto first = ParseNumber<PlanIndex>(range.substr(0, dash));
-            const auto last = dash == range.npos ? first : ParseNumber<PlanIndex>(range.substr(dash + 1));
+            const auto [first, last] = ParseRange(range);
             if (first < least || last < first || last >= bound)
                 Fail(u"a range is out of order");
             least = std::size_t{last} + 1;
@@ -322,7 +386,9 @@ private:
     std::string_view m_fields;
     bool m_isAtEnd = true;
     std::size_t m_line = 0;
+    /// The check of the text before `m_unchecked`.
     std::uint32_t m_check = 0;
+    const char* m_unchecked;
     std::uint32_t m_lineCheck = 0;
 };
 
@@ -340,7 +406,7 @@ JournalHeading ReadHeadingLines(LineReader& reader, Counts& counts)
     if (reader.Number<std::uint32_t>() != version)
         reader.Fail(u"it is of a version that this program does not know");
     reader.End();
-    reader.Next("batch");
+    reader.NextChecked("batch");
     JournalHeading heading;
     heading.number = reader.Number<std::uint32_t>();
     heading.token = reader.Number<std::uint64_t>();
@@ -407,15 +473,16 @@ void ReadPlan(LineReader& reader, const Counts& counts, Journal& journal)
         journal.plan.folders.push_back(ReadFolder(reader));
     while (journal.plan.entries.size() < counts.entries)
         journal.plan.entries.push_back(ReadEntry(reader, journal.states.emplace_back()));
+    // No entry has more steps than two, no folder more than one.
+    if (counts.steps > 2 * counts.entries + counts.folders)
+        reader.Fail(u"there are too many steps");
     while (journal.plan.steps.size() < counts.steps) {
         reader.Next("steps");
         while (reader.HasMoreFields())
-            journal.plan.steps.push_back(reader.Step());
+            reader.Steps(journal.plan.steps, counts.steps - journal.plan.steps.size());
     }
-    reader.Next("end");
+    reader.NextChecked("end");
     reader.End();
-    if (journal.plan.steps.size() != counts.steps)
-        reader.Fail(u"there are too many steps");
     LinkFolders(reader, journal.plan);
 }
 
@@ -466,32 +533,33 @@ CString Describe(const Damage& damage)
 
 } // namespace
 
-std::string WriteJournal(const Journal& journal, std::uint32_t& check)
+std::uint32_t WriteJournal(const Journal& journal, const TakePiece& use)
 {
-    // The line of an entry and that of its step: longer ones make the text grow once more.
-    constexpr std::size_t usualLines = 200;
-    std::string text;
-    text.reserve((journal.plan.entries.size() + journal.plan.folders.size() + 2) * usualLines);
-    LineWriter writer(text, 0);
-    writer.Word(format).Number(version).End();
+    LineWriter writer(0, use);
     WriteHeading(writer, journal);
     for (const PlanFolder& folder : journal.plan.folders)
         WriteFolder(writer, folder);
     for (std::size_t entry = 0; entry < journal.plan.entries.size(); ++entry)
         WriteEntry(writer, journal.plan.entries[entry], journal.states[entry]);
     WriteSteps(writer, journal.plan.steps);
-    writer.Word("end").End();
-    check = writer.Check();
-    return text;
+    const std::uint32_t check = writer.Word("end").Check();
+    writer.End();
+    writer.HandOn();
+    return check;
 }
 
 std::string WriteMark(const JournalMark& mark, std::uint32_t check)
 {
     // The line before may have been cut off.
     std::string text = "\n";
-    LineWriter writer(text, check);
+    const TakePiece add = [&text](std::string_view piece) {
+        text += piece;
+    };
+    LineWriter writer(check, add);
     writer.Word("mark").Letter(LetterOf(directions, mark.isBackward)).Letter(LetterOf(ends, mark.wasStopped));
-    writer.Ranges(mark.entriesBefore).Ranges(mark.entriesAside).Ranges(mark.foldersMade).End();
+    writer.Ranges(mark.entriesBefore).Ranges(mark.entriesAside).Ranges(mark.foldersMade).Check();
+    writer.End();
+    writer.HandOn();
     return text;
 }
 

@@ -1,25 +1,26 @@
 /// @file
 /// The journal of a batch as text: what was to be done, and afterwards how far it came.
 ///
-/// The text is UTF-8, a line for each record, its fields separated by tabs, the last field a check:
+/// The text is UTF-8, a line for each record, its fields separated by tabs:
 ///
-///     vyr-journal  1
-///     batch        number  token  started  folders  entries  steps  first path  its new path
+///     vyr-journal  2
+///     batch        number  token  started  folders  entries  steps  first path  its new path  check
 ///     folder       parent  n(ew) or o(ld)  name
 ///     entry        kind  device  number  size  modified  links  folder  name  new folder  new name  itself  waits for
-///     steps        m(ake), a(side) or r(ename) with the number of the folder or entry, in order
-///     end
+///     steps        m(ake), a(side) or r(ename) with the number of the folder or entry, in order;
+///                  r3-7 stands for r3, r4 and so on to r7
+///     end          check
 ///     mark         f(orward) or b(ackward)  e(nded) or s(topped)  entries that stand at their old paths
-///                  entries set aside  folders that the batch has made
+///                  entries set aside  folders that the batch has made  check
 ///
-/// Numbers are decimal; folders and entries are numbered from 0 in the order of their lines, "-" stands for none. The
-/// check is the CRC-32, in eight hexadecimal digits, of all fields up to there from the start of the text; of a mark,
-/// of those up to "end" and its own. A mark is appended whenever work on the batch has ended; the last whole one
-/// counts.
+/// Numbers are decimal; folders and entries are numbered from 0 in the order of their lines, "-" stands for none. A
+/// check is the CRC-32, in eight hexadecimal digits, of all the text before its tab; of a mark, of its own line alone,
+/// started from the check of "end". A mark is appended whenever work on the batch has ended; the last whole one counts.
 #pragma once
 
 #include <VyrHost/plan/RenamePlan.h>
 
+#include <VyrPlatform/DurableFile.h>
 #include <VyrPlatform/FileIdentity.h>
 
 #include <optional>
@@ -75,9 +76,9 @@ struct Journal
     std::uint32_t check = 0;
 };
 
-/// The text of a batch that is about to begin: `journal` without its mark and check.
-/// @return the text, with its check in `check`.
-[[nodiscard]] std::string WriteJournal(const Journal& journal, std::uint32_t& check);
+/// Gives `use` the text of a batch that is about to begin, piece by piece: `journal` without its mark and check.
+/// @return the check.
+std::uint32_t WriteJournal(const Journal& journal, const VyrPlatform::DurableFile::TakePiece& use);
 /// What is appended to the text with the check `check`.
 [[nodiscard]] std::string WriteMark(const JournalMark& mark, std::uint32_t check);
 

@@ -24,7 +24,11 @@ public:
     [[nodiscard]] std::optional<Place> PlaceOf(const PlannedPath& path);
     [[nodiscard]] Slot SlotOf(const Place& place) const;
     /// The folder at `slot`; `none` when no path has named it.
-    [[nodiscard]] PlanIndex FolderAt(const Slot& slot) const { return m_bySlot.Find(slot); }
+    [[nodiscard]] PlanIndex FolderAt(const Slot& slot) const
+    {
+        const PlanIndex* const folder = m_bySlot.Find(slot);
+        return folder ? *folder : none;
+    }
     /// The folder at `place`, whose path is `path`.
     PlanIndex Collect(const Place& place, std::u16string_view path);
 
@@ -37,7 +41,7 @@ private:
     std::vector<PlanFolder>& m_folders;
     const FoldingOfFolder& m_foldingOf;
     std::vector<VyrPlatform::NameFolding> m_foldings;
-    SlotTable m_bySlot;
+    SlotTable<PlanIndex> m_bySlot;
     std::unordered_map<CString, PlanIndex> m_byPath;
     /// Lists name the entries of one folder after another.
     CString m_lastPath;

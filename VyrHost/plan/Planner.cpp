@@ -4,6 +4,7 @@
 #include <VyrHost/plan/FolderTree.h>
 #include <VyrHost/plan/StepOrder.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace VyrHost {
@@ -14,7 +15,7 @@ class Planner
 {
 public:
     Planner(const RenameList& list, const FoldingOfFolder& foldingOf)
-        : m_list(list), m_tree(m_draft.folders, foldingOf), m_reasons(list.renames.size())
+        : m_list(list), m_tree(m_draft.folders, foldingOf), m_isRefused(list.renames.size())
     {}
 
     PlannerResult Plan()
@@ -33,8 +34,7 @@ private:
     void PlaceEntries()
     {
         m_draft.entries.reserve(m_list.renames.size());
-        m_fromSlots.Reserve(m_list.renames.size());
-        m_toSlots.Reserve(m_list.renames.size());
+        m_occupants.Reserve(2 * m_list.renames.size());
         for (const PlannedRename& rename : m_list.renames) {
             const std::optional<Place> from = m_tree.PlaceOf(rename.from);
             const std::optional<Place> to = m_tree.PlaceOf(rename.to);
@@ -63,17 +63,19 @@ private:
     {
         for (PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
             const Place& from = m_draft.entries[entry].from;
-            if (from.folder != none && !m_fromSlots.Put(m_tree.SlotOf(from), entry))
+            if (from.folder != none && m_occupants.Put(m_tree.SlotOf(from), {.before = entry}).before != entry)
                 Refuse(entry, u"the path stands in the list twice");
         }
         for (PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
             if (IsRefused(entry))
                 continue;
             PlanEntry& rename = m_draft.entries[entry];
-            const Slot slot = m_tree.SlotOf(rename.to);
-            if (!m_toSlots.Put(slot, entry))
+            Occupants& occupants = m_occupants.Put(m_tree.SlotOf(rename.to), {});
+            if (occupants.after != none)
                 Refuse(entry, u"another entry of the list gets the same new path");
-            rename.waitsFor = m_fromSlots.Find(slot);
+            else
+                occupants.after = entry;
+            rename.waitsFor = occupants.before;
         }
     }
 
@@ -85,14 +87,13 @@ private:
             PlanFolder& planned = m_draft.folders[folder];
             if (planned.place.folder == none)
                 continue;
-            const Slot slot = m_tree.SlotOf(planned.place);
-            const PlanIndex standing = m_fromSlots.Find(slot);
+            const auto [standing, coming] = OccupantsOf(m_tree.SlotOf(planned.place));
             // Entries move into a folder by its name before the batch, also where the batch gives it another one.
             if (standing != none && m_draft.entries[standing].kind == VyrPlatform::FileSystem::Kind::Folder)
                 planned.isNew = false;
             if (planned.isNew) {
                 m_standingAt[folder] = standing;
-                RefuseIfAny(m_toSlots.Find(slot), u"a folder is made at the new path");
+                RefuseIfAny(coming, u"a folder is made at the new path");
             } else if (standing != none && !IsRefused(standing)) {
                 planned.entry = standing;
                 m_draft.entries[standing].folder = folder;
@@ -121,13 +122,15 @@ private:
         const std::vector<std::vector<PlanIndex>> insideNewFolders =
             m_refused.empty() ? std::vector<std::vector<PlanIndex>>() : ListInsideNewFolders();
         for (std::size_t next = 0; next < m_refused.size(); ++next) {
-            const Place& from = m_draft.entries[m_refused[next]].from;
+            const PlanIndex refused = m_refused[next].entry;
+            const Place& from = m_draft.entries[refused].from;
             if (from.folder == none)
                 continue;
             const Slot slot = m_tree.SlotOf(from);
-            if (m_fromSlots.Find(slot) != m_refused[next])
+            const auto [standing, coming] = OccupantsOf(slot);
+            if (standing != refused)
                 continue;
-            RefuseIfAny(m_toSlots.Find(slot), u"the new path is taken by an entry that keeps it");
+            RefuseIfAny(coming, u"the new path is taken by an entry that keeps it");
             const PlanIndex folder = m_tree.FolderAt(slot);
             if (folder != none && m_draft.folders[folder].isNew)
                 for (const PlanIndex entry : insideNewFolders[folder])
@@ -153,14 +156,33 @@ private:
         return inside;
     }
 
-    [[nodiscard]] bool IsRefused(PlanIndex entry) const { return !m_reasons[entry].IsEmpty(); }
+    /// Who stands at a place before the batch, and who after it.
+    struct Occupants
+    {
+        PlanIndex before = none;
+        PlanIndex after = none;
+    };
+
+    [[nodiscard]] Occupants OccupantsOf(const Slot& slot) const
+    {
+        const Occupants* const occupants = m_occupants.Find(slot);
+        return occupants ? *occupants : Occupants();
+    }
+
+    struct Refused
+    {
+        PlanIndex entry;
+        const char16_t* reason;
+    };
+
+    [[nodiscard]] bool IsRefused(PlanIndex entry) const { return m_isRefused[entry]; }
 
     void Refuse(PlanIndex entry, const char16_t* reason)
     {
         if (IsRefused(entry))
             return;
-        m_reasons[entry] = reason;
-        m_refused.push_back(entry);
+        m_isRefused[entry] = true;
+        m_refused.push_back({entry, reason});
     }
 
     void RefuseIfAny(PlanIndex entry, const char16_t* reason)
@@ -176,16 +198,18 @@ private:
         std::vector<PlanIndex> newIndexes(m_draft.entries.size(), none);
         result.indexes.reserve(m_draft.entries.size());
         for (PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
-            if (IsRefused(entry)) {
-                result.refused.push_back({entry, m_reasons[entry]});
+            if (IsRefused(entry))
                 continue;
-            }
             const auto kept = static_cast<PlanIndex>(result.indexes.size());
             newIndexes[entry] = kept;
             result.indexes.push_back(entry);
             if (kept != entry)
                 m_draft.entries[kept] = std::move(m_draft.entries[entry]);
         }
+        std::sort(m_refused.begin(), m_refused.end(),
+                  [](const Refused& left, const Refused& right) { return left.entry < right.entry; });
+        for (const auto& [entry, reason] : m_refused)
+            result.refused.push_back({entry, reason});
         m_draft.entries.resize(result.indexes.size());
         result.plan.entries = std::move(m_draft.entries);
         const auto renumber = [&newIndexes](PlanIndex& entry) {
@@ -205,13 +229,12 @@ private:
     const RenameList& m_list;
     RenamePlan m_draft;
     FolderTree m_tree;
-    SlotTable m_fromSlots;
-    SlotTable m_toSlots;
+    SlotTable<Occupants> m_occupants;
     /// For each new folder the entry at its place.
     std::vector<PlanIndex> m_standingAt;
-    /// For each entry why it is refused; empty while it is not.
-    std::vector<CString> m_reasons;
-    std::vector<PlanIndex> m_refused;
+    std::vector<bool> m_isRefused;
+    /// In the order in which it was found out.
+    std::vector<Refused> m_refused;
 };
 
 } // namespace

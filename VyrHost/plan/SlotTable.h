@@ -1,10 +1,12 @@
 /// @file
-/// Finds what stands at a place, in tables as large as the longest lists.
+/// Finds what belongs to a place, in tables as large as the longest lists.
 #pragma once
 
 #include <VyrHost/plan/RenamePlan.h>
 
+#include <bit>
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace VyrHost {
@@ -18,21 +20,54 @@ struct Slot
     friend bool operator==(const Slot&, const Slot&) noexcept = default;
 };
 
-/// A map from slots to indexes. (One flat table: the nodes of the standard one cost five times as much here.)
+/// A map from slots to values. (Open addressing over one list: the nodes of the standard one cost five times as much
+/// here.)
+template <class Value>
 class SlotTable
 {
 public:
-    SlotTable();
+    SlotTable() : m_buckets(fewestBuckets) {}
 
-    /// The index at `slot`; `none` when there is none.
-    [[nodiscard]] PlanIndex Find(const Slot& slot) const;
-    /// Puts `index` at `slot`, where nothing is yet.
-    /// @return false, and nothing is changed, when something is there.
-    bool Put(const Slot& slot, PlanIndex index);
+    /// The value at `slot`, good until the next Put; a null pointer when there is none.
+    [[nodiscard]] const Value* Find(const Slot& slot) const
+    {
+        const PlanIndex item = m_buckets[FindBucket(slot, HashOf(slot))].item;
+        return item == none ? nullptr : &m_items[item].value;
+    }
+
+    /// Puts `value` at `slot` where nothing is yet.
+    /// @return what is there now, good until the next call.
+    Value& Put(const Slot& slot, const Value& value)
+    {
+        // At most half full, so that a free bucket is near.
+        if (m_items.size() * 2 >= m_buckets.size())
+            Reserve(m_buckets.size());
+        const std::uint64_t hash = HashOf(slot);
+        Bucket& bucket = m_buckets[FindBucket(slot, hash)];
+        if (bucket.item == none) {
+            bucket = {TagOf(hash), static_cast<PlanIndex>(m_items.size())};
+            m_items.push_back({slot, value});
+        }
+        return m_items[bucket.item].value;
+    }
+
     /// Makes room for `count` slots.
-    void Reserve(std::size_t count);
+    void Reserve(std::size_t count)
+    {
+        const std::size_t size = std::bit_ceil(count * 2);
+        if (size <= m_buckets.size())
+            return;
+        m_buckets.assign(size, {});
+        m_items.reserve(count);
+        for (PlanIndex item = 0; item < m_items.size(); ++item) {
+            const std::uint64_t hash = HashOf(m_items[item].slot);
+            m_buckets[FindBucket(m_items[item].slot, hash)] = {TagOf(hash), item};
+        }
+    }
 
 private:
+    static constexpr std::size_t fewestBuckets = 16;
+
     /// The upper half of a slot's hash, and its place in the list of items.
     struct Bucket
     {
@@ -42,16 +77,27 @@ private:
 
     struct Item
     {
-        CString key;
-        PlanIndex folder;
-        PlanIndex index;
+        Slot slot;
+        Value value;
     };
 
-    [[nodiscard]] bool IsAt(const Item& item, const Slot& slot) const
+    static std::uint64_t HashOf(const Slot& slot) noexcept
     {
-        return item.folder == slot.folder && item.key == slot.key;
+        return (std::hash<CString>()(slot.key) ^ slot.folder) * std::uint64_t{0x9E3779B97F4A7C15};
     }
-    [[nodiscard]] std::size_t FindBucket(const Slot& slot, std::uint64_t hash) const;
+
+    static std::uint32_t TagOf(std::uint64_t hash) noexcept { return static_cast<std::uint32_t>(hash >> 32); }
+
+    /// The bucket of `slot`, or the free one where it belongs.
+    [[nodiscard]] std::size_t FindBucket(const Slot& slot, std::uint64_t hash) const
+    {
+        const std::size_t mask = m_buckets.size() - 1;
+        std::size_t at = (hash >> 20) & mask;
+        while (m_buckets[at].item != none &&
+               (m_buckets[at].tag != TagOf(hash) || m_items[m_buckets[at].item].slot != slot))
+            at = (at + 1) & mask;
+        return at;
+    }
 
     std::vector<Bucket> m_buckets;
     std::vector<Item> m_items;

@@ -16,7 +16,7 @@ constexpr std::size_t nowhere = ~std::size_t{0};
 } // namespace
 
 SourceLooks::SourceLooks(const EntryList& list, FileOperations& files)
-    : m_list(list), m_files(files), m_states(list.entries.size())
+    : m_list(list), m_files(files)
 {
     for (std::uint32_t folder = 0; folder < list.folders.Count(); ++folder)
         m_folders.emplace_back(list.folders[folder].path.View());
@@ -87,6 +87,7 @@ SourceLooks::Part SourceLooks::TakePart()
 
 void SourceLooks::Work()
 {
+    std::call_once(m_roomMade, [this] { m_states.resize(m_list.entries.size()); });
     Looker looker(m_files);
     for (Part part = TakePart(); !part.entries.empty(); part = TakePart())
         for (std::size_t place = 0; place < part.entries.size(); ++place)

@@ -52,8 +52,10 @@ private:
     std::vector<CString> m_folders;
     /// Has room for all entries from the beginning: what is handed over stays in its place.
     std::vector<std::uint32_t> m_asked;
-    /// For each of the asked; whoever took a part writes those of the part.
+    /// For each of the asked; whoever took a part writes those of the part. New memory takes time: the room is made by
+    /// whoever works first, which is the thread as a rule.
     std::vector<VyrPlatform::FileState> m_states;
+    std::once_flag m_roomMade;
 
     std::mutex m_mutex;
     std::condition_variable m_changed;

@@ -36,13 +36,17 @@ std::uint32_t Close(Descriptor& file, std::uint32_t error) noexcept
 
 } // namespace
 
-std::uint32_t DurableFile::WriteNew(const CString& path, std::string_view content)
+std::uint32_t DurableFile::WriteNew(const CString& path, const Content& content)
 {
     const NativePath nativePath(path);
     Descriptor file(open(nativePath.Get(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (!file.IsOpen())
         return LastError();
-    std::uint32_t error = Write(file, content);
+    std::uint32_t error = 0;
+    content([&file, &error](std::string_view piece) {
+        if (!error)
+            error = Write(file, piece);
+    });
     if (!error && fdatasync(file.Get()) != 0)
         error = LastError();
     error = Close(file, error);

@@ -30,14 +30,18 @@ DWORD Close(HANDLE file, DWORD error) noexcept
 
 } // namespace
 
-std::uint32_t DurableFile::WriteNew(const CString& path, std::string_view content)
+std::uint32_t DurableFile::WriteNew(const CString& path, const Content& content)
 {
     const LongPath longPath(path);
     const HANDLE file = CreateFileW(longPath.Get(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
                                     FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return GetLastError();
-    DWORD error = WriteAll(file, content);
+    DWORD error = ERROR_SUCCESS;
+    content([file, &error](std::string_view piece) {
+        if (!error)
+            error = WriteAll(file, piece);
+    });
     if (!error && !FlushFileBuffers(file))
         error = GetLastError();
     error = Close(file, error);

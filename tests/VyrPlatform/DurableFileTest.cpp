@@ -12,23 +12,41 @@ namespace {
 using namespace VyrPlatform;
 using VyrTests::ScratchFolder;
 
+std::uint32_t WriteNew(const CString& path, std::string_view content)
+{
+    return DurableFile::WriteNew(path, [content](const DurableFile::TakePiece& take) { take(content); });
+}
+
 TEST(DurableFile, WritesAndAppends)
 {
     const ScratchFolder scratch;
     const CString path = scratch.Path(u"file");
     const std::string large(3'000'000, 'x');
-    EXPECT_EQ(DurableFile::WriteNew(path, large), 0u);
+    EXPECT_EQ(WriteNew(path, large), 0u);
     EXPECT_EQ(DurableFile::Append(path, "more"), 0u);
     EXPECT_EQ(DurableFile::Append(path, ""), 0u);
     EXPECT_EQ(DurableFile::FlushFolder(scratch.Path()), 0u);
     EXPECT_EQ(scratch.ReadFile(u"file"), large + "more");
 }
 
+TEST(DurableFile, WritesPiecesOneBehindAnother)
+{
+    const ScratchFolder scratch;
+    const auto content = [](const DurableFile::TakePiece& take) {
+        for (const char* piece : {"one, ", "", "two, ", "three"})
+            take(piece);
+    };
+    EXPECT_EQ(DurableFile::WriteNew(scratch.Path(u"file"), content), 0u);
+    EXPECT_EQ(scratch.ReadFile(u"file"), "one, two, three");
+    EXPECT_EQ(DurableFile::WriteNew(scratch.Path(u"none"), [](const DurableFile::TakePiece&) {}), 0u);
+    EXPECT_EQ(scratch.ReadFile(u"none"), "");
+}
+
 TEST(DurableFile, KeepsAFileThatIsThere)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"file", "first");
-    EXPECT_NE(DurableFile::WriteNew(path, "second"), 0u);
+    EXPECT_NE(WriteNew(path, "second"), 0u);
     EXPECT_EQ(scratch.ReadFile(u"file"), "first");
 }
 
@@ -51,7 +69,7 @@ TEST(DurableFile, Removes)
 TEST(DurableFile, FailsInAFolderThatIsNotThere)
 {
     const ScratchFolder scratch;
-    EXPECT_NE(DurableFile::WriteNew(scratch.Path(u"no/file"), "x"), 0u);
+    EXPECT_NE(WriteNew(scratch.Path(u"no/file"), "x"), 0u);
 }
 
 TEST(FileLock, IsHeldByOneAtATime)

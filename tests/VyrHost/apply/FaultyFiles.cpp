@@ -47,12 +47,13 @@ private:
 };
 
 // No test can see whether the disk has what is written, and waiting for it would take most of their time.
-std::uint32_t WriteWithoutWaiting(const CString& path, std::string_view content)
+std::uint32_t WriteWithoutWaiting(const CString& path, const VyrPlatform::DurableFile::Content& content)
 {
     const std::filesystem::path file = ToStdPath(path);
     if (std::filesystem::exists(file))
         return SystemFiles().WriteNew(path, content);
-    std::ofstream(file, std::ios::binary) << content;
+    std::ofstream stream(file, std::ios::binary);
+    content([&stream](std::string_view piece) { stream << piece; });
     return 0;
 }
 
@@ -84,7 +85,7 @@ VyrPlatform::NameFolding FaultyFiles::GetNameFolding(const CString& path)
     return folding ? folding(path) : SystemFiles().GetNameFolding(path);
 }
 
-std::uint32_t FaultyFiles::WriteNew(const CString& path, std::string_view content)
+std::uint32_t FaultyFiles::WriteNew(const CString& path, const VyrPlatform::DurableFile::Content& content)
 {
     return Change({FileChange::Kind::WriteNew, path, {}}, [&] { return WriteWithoutWaiting(path, content); });
 }

@@ -48,7 +48,7 @@ public:
     std::unique_ptr<VyrHost::FolderOperations> OpenFolder(const CString& path, std::uint32_t& error) override;
     std::uint32_t List(const CString& path, const std::function<void(const CString&)>& use) override;
     VyrPlatform::NameFolding GetNameFolding(const CString& path) override;
-    std::uint32_t WriteNew(const CString& path, std::string_view content) override;
+    std::uint32_t WriteNew(const CString& path, const VyrPlatform::DurableFile::Content& content) override;
     std::uint32_t Append(const CString& path, std::string_view content) override;
     std::uint32_t RenameFile(const CString& from, const CString& to) override;
     std::uint32_t Remove(const CString& path) override;

@@ -116,10 +116,17 @@ Journal MakeJournal()
     return journal;
 }
 
+std::string TextOf(const Journal& journal, std::uint32_t& check)
+{
+    std::string text;
+    check = WriteJournal(journal, [&text](std::string_view piece) { text += piece; });
+    return text;
+}
+
 std::string TextOf(const Journal& journal)
 {
     std::uint32_t check = 0;
-    return WriteJournal(journal, check);
+    return TextOf(journal, check);
 }
 
 void ExpectSame(const Journal& journal, const Journal& expected)
@@ -213,7 +220,7 @@ TEST(JournalText, KeepsTheLastMark)
 {
     const Journal journal = MakeJournal();
     std::uint32_t check = 0;
-    std::string text = WriteJournal(journal, check);
+    std::string text = TextOf(journal, check);
     text += WriteMark(Mark({0}, {1}), check);
     JournalMark last = Mark({0, 1, 2, 4});
     last.isBackward = true;
@@ -234,7 +241,7 @@ TEST(JournalText, OverlooksAMarkThatWasCutOff)
 {
     const Journal journal = MakeJournal();
     std::uint32_t check = 0;
-    std::string text = WriteJournal(journal, check);
+    std::string text = TextOf(journal, check);
     const std::string first = WriteMark(Mark({3}), check);
     const std::string second = WriteMark(Mark({4}), check);
     for (std::size_t length = 0; length + 1 < second.size(); ++length) {
@@ -249,7 +256,7 @@ TEST(JournalText, OverlooksAMarkThatWasCutOff)
 TEST(JournalText, GivesItsLastMarkFromItsEnd)
 {
     std::uint32_t check = 0;
-    const std::string plan = WriteJournal(MakeJournal(), check);
+    const std::string plan = TextOf(MakeJournal(), check);
     EXPECT_FALSE(ReadLastMark(FindMarks(plan), 5));
     JournalMark mark = Mark({0, 1, 2, 4}, {3});
     mark.wasStopped = true;
@@ -274,7 +281,7 @@ TEST(JournalText, GivesItsLastMarkFromItsEnd)
 TEST(JournalText, GivesNoLastMarkThatCannotBe)
 {
     std::uint32_t check = 0;
-    const std::string plan = WriteJournal(MakeJournal(), check);
+    const std::string plan = TextOf(MakeJournal(), check);
     const auto isGiven = [&](const JournalMark& mark, std::size_t entries) {
         const std::string text = plan + WriteMark(mark, check);
         return ReadLastMark(FindMarks(text), entries).has_value();
@@ -405,13 +412,95 @@ TEST(JournalText, RefusesAFolderThatWouldEndUpInsideItself)
 
 TEST(JournalText, SaysWhatAnUnknownVersionIs)
 {
-    std::string text = "vyr-journal\t2";
-    const std::uint32_t check = Checksum(0, text);
+    for (const char* text : {"vyr-journal\t1\t12345678\n", "vyr-journal\t3\n"}) {
+        CString problem;
+        EXPECT_FALSE(ReadJournal(text, problem));
+        EXPECT_GE(problem.Find(u"version"), 0);
+        EXPECT_FALSE(ReadHeading(text, problem));
+        EXPECT_GE(problem.Find(u"version"), 0);
+    }
+}
+
+/// `text` up to its end, with `line` in the place of its lines of steps, and with the check that belongs to it.
+std::string WithSteps(const std::string& text, const std::string& line)
+{
+    std::string changed = text.substr(0, text.find("\nsteps") + 1) + line + "\nend";
     char digits[16];
-    std::snprintf(digits, sizeof(digits), "\t%08x\n", check);
+    std::snprintf(digits, sizeof(digits), "\t%08x\n", Checksum(0, changed));
+    return changed + digits;
+}
+
+TEST(JournalText, WritesStepsThatFollowEachOtherAsARange)
+{
+    RenameList list;
+    for (const char16_t* name : {u"a", u"b", u"c", u"d"})
+        list.renames.push_back({Full(name), Full(CString(name) + u"x"), Kind::File});
+    Journal journal;
+    journal.plan = PlanRenames(list, [](const CString&) { return NameFolding::None; }).plan;
+    journal.states.resize(4);
+    journal.heading.entries = 4;
+    const std::string text = TextOf(journal);
+    EXPECT_NE(text.find("\nsteps\tr0-3\nend\t"), text.npos) << text;
+    EXPECT_EQ(MustRead(WithSteps(text, "steps\tr0-3")).plan.steps, journal.plan.steps);
+    EXPECT_EQ(MustRead(WithSteps(text, "steps\tr0\tr1-1\nsteps\tr2-3")).plan.steps, journal.plan.steps);
+    std::swap(journal.plan.steps[0], journal.plan.steps[3]);
+    EXPECT_NE(TextOf(journal).find("\nsteps\tr3\tr1-2\tr0\nend\t"), text.npos);
+}
+
+TEST(JournalText, IsNotReadWhenItsRangesOfStepsCannotBe)
+{
+    RenameList list;
+    list.renames.push_back({Full(u"a"), Full(u"b"), Kind::File});
+    list.renames.push_back({Full(u"c"), Full(u"d"), Kind::File});
+    Journal journal;
+    journal.plan = PlanRenames(list, [](const CString&) { return NameFolding::None; }).plan;
+    journal.states.resize(2);
+    const std::string text = TextOf(journal);
     CString problem;
-    EXPECT_FALSE(ReadJournal(text + digits, problem));
-    EXPECT_GE(problem.Find(u"version"), 0);
+    EXPECT_TRUE(ReadJournal(WithSteps(text, "steps\tr0-1"), problem));
+    for (const char* line : {"steps\tr1-0", "steps\tr0-2", "steps\tr0-1\tr1", "steps\tr0-", "steps\tr-1", "steps\tr0-1-1",
+                             "steps\t0-1", "steps\tr0-4294967295", "steps\tr0-4294967296", "steps\tr0"}) {
+        problem = {};
+        EXPECT_FALSE(ReadJournal(WithSteps(text, line), problem)) << line;
+        EXPECT_FALSE(problem.IsEmpty()) << line;
+    }
+}
+
+TEST(JournalText, IsNotReadWhenItSpeaksOfMoreStepsThanItsEntriesCanHave)
+{
+    std::string text = "vyr-journal\t2\nbatch\t1\t2\t\t0\t0\t4294967294\t\t";
+    char digits[16];
+    std::snprintf(digits, sizeof(digits), "\t%08x\n", Checksum(0, text));
+    text += digits;
+    CString problem;
+    EXPECT_FALSE(ReadJournal(text + "steps\tr0-4294967293\nend\t00000000\n", problem));
+    EXPECT_GE(problem.Find(u"too many steps"), 0);
+}
+
+TEST(JournalText, ComesInPiecesThatMakeTheWhole)
+{
+    RenameList list;
+    for (int index = 0; index < 5000; ++index) {
+        CString name;
+        name.Format(u"%d", index);
+        list.renames.push_back({Full(name), Full(name + u"x"), Kind::File});
+    }
+    Journal journal;
+    journal.plan = PlanRenames(list, [](const CString&) { return NameFolding::None; }).plan;
+    journal.states.resize(5000);
+    journal.heading.entries = 5000;
+    std::string text;
+    std::size_t longest = 0;
+    const std::uint32_t check = WriteJournal(journal, [&](std::string_view piece) {
+        longest = std::max(longest, piece.size());
+        text += piece;
+    });
+    EXPECT_GT(text.size(), 150'000u);
+    EXPECT_LT(longest, 80'000u);
+    const Journal read = MustRead(text);
+    ExpectSame(read, journal);
+    EXPECT_EQ(read.check, check);
+    EXPECT_EQ(check, Checksum(0, text.substr(0, text.rfind('\t'))));
 }
 
 } // namespace
