@@ -5,6 +5,10 @@
 
 namespace VyrHost {
 
-PlannedPath::PlannedPath(const CString& path) : folder(FolderPart(path)), name(path.Mid(folder.GetLength())) {}
+PlannedPath Cut(const CString& path, NameStore& texts)
+{
+    const std::u16string_view folder = FolderPart(path);
+    return {folder, texts.Keep(path.View().substr(folder.size()))};
+}
 
 } // namespace VyrHost

@@ -2,13 +2,14 @@
 /// What the preview hands to the executor: the renames that were accepted, and what became of each.
 #pragma once
 
+#include <VyrHost/entries/NameStore.h>
 #include <VyrPlatform/CString.h>
 #include <VyrPlatform/FileSystem.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <utility>
+#include <memory>
 #include <vector>
 
 namespace VyrHost {
@@ -16,17 +17,15 @@ namespace VyrHost {
 /// An absolute path, cut behind its last separator: the entries of one folder share the folder's text.
 struct PlannedPath
 {
-    PlannedPath() = default;
-    PlannedPath(CString inFolder, CString called) noexcept : folder(std::move(inFolder)), name(std::move(called)) {}
-    /// Cuts `path`.
-    PlannedPath(const CString& path);
-
     [[nodiscard]] CString Path() const { return CString::Join({folder, name}); }
 
     /// With its separator; empty where the path has none.
     CString folder;
-    CString name;
+    KeptName name;
 };
+
+/// Cuts `path`, whose name `texts` is to keep.
+[[nodiscard]] PlannedPath Cut(const CString& path, NameStore& texts);
 
 /// One accepted rename. The paths differ.
 struct PlannedRename
@@ -47,6 +46,14 @@ struct RenameList
     std::vector<PlannedRename> renames;
     /// The folders that renames move into and that are not there yet, each parent before what stands in it.
     std::vector<CString> newFolders;
+    /// What keeps the names.
+    std::shared_ptr<NameStore> texts = std::make_shared<NameStore>();
+
+    void Add(const CString& from, const CString& to,
+             VyrPlatform::FileSystem::Kind kind = VyrPlatform::FileSystem::Kind::File)
+    {
+        renames.push_back({Cut(from, *texts), Cut(to, *texts), kind});
+    }
 };
 
 /// What became of one rename.

@@ -42,21 +42,21 @@ public:
     [[nodiscard]] std::uint32_t Error() const noexcept { return m_error; }
 
     /// LookAtFile for the entry `name`.
-    [[nodiscard]] FileState Look(const CString& name) const;
+    [[nodiscard]] FileState Look(std::u16string_view name) const;
     /// RenameNoReplace from the entry `name` to `newName` in `target`, which may be this folder. Both are open.
-    [[nodiscard]] std::uint32_t RenameNoReplace(const CString& name, const OpenFolder& target,
-                                                const CString& newName) const;
+    [[nodiscard]] std::uint32_t RenameNoReplace(std::u16string_view name, const OpenFolder& target,
+                                                std::u16string_view newName) const;
     /// Ends a rename that was cut off between its two halves (see RenameNoReplace): takes the name `name` away from a
     /// file that has the name `keptName` in `kept` too.
     /// @return 0 when it was taken away, else the system's error code (also when the two are not names of one file).
-    [[nodiscard]] std::uint32_t DropSecondName(const CString& name, const OpenFolder& kept,
-                                               const CString& keptName) const;
+    [[nodiscard]] std::uint32_t DropSecondName(std::u16string_view name, const OpenFolder& kept,
+                                               std::u16string_view keptName) const;
     /// Makes the folder `name` in this one.
     /// @return 0 when it was made, else the system's error code (one that exists already is an error).
-    [[nodiscard]] std::uint32_t MakeFolder(const CString& name) const;
+    [[nodiscard]] std::uint32_t MakeFolder(std::u16string_view name) const;
     /// Takes the folder `name` away when it is empty.
     /// @return 0 when it is gone, else the system's error code.
-    [[nodiscard]] std::uint32_t RemoveEmptyFolder(const CString& name) const;
+    [[nodiscard]] std::uint32_t RemoveEmptyFolder(std::u16string_view name) const;
 
 private:
     CString m_path;

@@ -181,9 +181,8 @@ PlanIndex Executor::FindInTheWay(PlanIndex entry, Standing target) const
 
 Executor::StepResult Executor::Move(PlanIndex entry, Standing source, Standing target)
 {
-    Place aside;
-    const Place& from = m_progress.PlaceOf(entry, source, aside);
-    const Place& to = m_progress.PlaceOf(entry, target, aside);
+    const Place from = m_progress.PlaceOf(entry, source);
+    const Place to = m_progress.PlaceOf(entry, target);
     const OpenedFolder fromFolder = m_folders.Open(from.folder);
     const OpenedFolder toFolder = fromFolder.folder ? m_folders.Open(to.folder) : fromFolder;
     if (!toFolder.folder)
@@ -212,7 +211,7 @@ Executor::StepResult Executor::PerformOnFolder(PlanIndex folder, Direction direc
                                            : RemoveFolder(folder, parent, place.name);
 }
 
-Executor::StepResult Executor::MakeFolder(PlanIndex folder, const OpenedFolder& parent, const CString& name)
+Executor::StepResult Executor::MakeFolder(PlanIndex folder, const OpenedFolder& parent, std::u16string_view name)
 {
     const std::uint32_t error = parent.folder->MakeFolder(name);
     NewFolder state = NewFolder::Made;
@@ -227,7 +226,7 @@ Executor::StepResult Executor::MakeFolder(PlanIndex folder, const OpenedFolder& 
     return StepResult::Done;
 }
 
-Executor::StepResult Executor::RemoveFolder(PlanIndex folder, const OpenedFolder& parent, const CString& name)
+Executor::StepResult Executor::RemoveFolder(PlanIndex folder, const OpenedFolder& parent, std::u16string_view name)
 {
     m_folders.Forget(folder);
     // One that holds something that the batch did not put there stays.

@@ -68,8 +68,8 @@ private:
 
     StepResult Perform(const PlanStep& step, Direction direction);
     StepResult PerformOnFolder(PlanIndex folder, Direction direction);
-    StepResult MakeFolder(PlanIndex folder, const OpenedFolder& parent, const CString& name);
-    StepResult RemoveFolder(PlanIndex folder, const OpenedFolder& parent, const CString& name);
+    StepResult MakeFolder(PlanIndex folder, const OpenedFolder& parent, std::u16string_view name);
+    StepResult RemoveFolder(PlanIndex folder, const OpenedFolder& parent, std::u16string_view name);
     StepResult Move(PlanIndex entry, Standing source, Standing target);
     void RemoveFoldersWithoutUse();
 

@@ -24,7 +24,7 @@ public:
             m_isWanted[place.folder] = true;
         });
         ForEachEntry([this](PlanIndex entry, const Place& place) {
-            m_expected.Put({place.folder, place.name}, entry);
+            m_expected.Put(place, entry);
         });
         std::vector<bool> isListed(m_plan.folders.size());
         for (PlanIndex folder = 0; folder < m_plan.folders.size(); ++folder)
@@ -55,10 +55,9 @@ private:
     template <class Use>
     void ForEachStanding(Use use)
     {
-        Place aside;
         for (PlanIndex entry = 0; entry < m_plan.entries.size(); ++entry)
             if (m_progress.Of(entry) == m_standing)
-                use(entry, m_progress.PlaceOf(entry, m_standing, aside));
+                use(entry, m_progress.PlaceOf(entry, m_standing));
     }
 
     [[nodiscard]] bool IsExact(PlanIndex folder)
@@ -71,7 +70,7 @@ private:
     {
         const std::optional<CString> path = m_progress.PathOfFolder(folder);
         return path && m_files.List(*path, [this, folder](const CString& name) {
-            if (const PlanIndex* const entry = m_expected.Find({folder, name}))
+            if (const PlanIndex* const entry = m_expected.Find(folder, name))
                 m_isFound[*entry] = true;
         }) == 0;
     }

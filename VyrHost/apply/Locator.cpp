@@ -36,8 +36,7 @@ void Locator::KeepMarked()
         return;
     for (const PlanIndex entry : m_journal.mark->entriesBefore) {
         m_isKept[entry] = true;
-        const Place& place = m_journal.plan.entries[entry].from;
-        m_taken.Put({place.folder, place.name}, entry);
+        m_taken.Put(m_journal.plan.entries[entry].from, entry);
     }
 }
 
@@ -99,8 +98,8 @@ void Locator::LocateByName(PlanIndex entry)
     const PlanEntry& planned = m_journal.plan.entries[entry];
     const std::unordered_set<CString>& names = NamesIn(planned.from.folder);
     Sight sight = LookAt(entry, Standing::After);
-    if (!names.contains(planned.to.name))
-        sight.standing = names.contains(planned.from.name) ? Standing::Before : Standing::Unknown;
+    if (!names.contains(planned.to.name.View()))
+        sight.standing = names.contains(planned.from.name.View()) ? Standing::Before : Standing::Unknown;
     Settle(entry, sight);
 }
 
@@ -110,7 +109,7 @@ Locator::Sight Locator::LookAt(PlanIndex entry, Standing standing)
     Sight sight;
     sight.standing = standing;
     sight.state = m_folders.Look(place);
-    if (!m_taken.Find({place.folder, place.name}))
+    if (!m_taken.Find(place))
         sight.likeness = Compare(entry, sight.state);
     return sight;
 }
@@ -162,8 +161,7 @@ void Locator::Settle(PlanIndex entry, const Sight& sight)
         m_errors[entry] = sight.state.error;
         return;
     }
-    const Place place = m_progress.PlaceOf(entry, sight.standing);
-    m_taken.Put({place.folder, place.name}, entry);
+    m_taken.Put(m_progress.PlaceOf(entry, sight.standing), entry);
     m_hasChanged[entry] = sight.state.kind == Kind::File && sight.likeness != Likeness::All;
 }
 

@@ -7,7 +7,7 @@ namespace VyrHost {
 
 namespace {
 
-CString JoinPath(const CString& folder, const CString& name)
+CString JoinPath(const CString& folder, std::u16string_view name)
 {
     const char16_t separator = VyrPlatform::FileSystem::Separator();
     const bool hasSeparator = folder.IsEmpty() || VyrPlatform::FileSystem::IsSeparator(folder[folder.GetLength() - 1]);
@@ -21,15 +21,14 @@ PlanProgress::PlanProgress(const RenamePlan& plan, std::uint64_t token)
       m_newFolders(plan.folders.size(), NewFolder::Absent)
 {}
 
-const Place& PlanProgress::PlaceOf(PlanIndex entry, Standing standing, Place& aside) const
+Place PlanProgress::PlaceOf(PlanIndex entry, Standing standing) const
 {
     const PlanEntry& planned = m_plan.entries[entry];
     if (standing != Standing::Aside)
         return standing == Standing::After ? planned.to : planned.from;
     CString name;
     name.Format(u".vyr-%016x-%u.tmp", m_token, entry);
-    aside = {planned.from.folder, name};
-    return aside;
+    return {planned.from.folder, m_plan.texts->Keep(name)};
 }
 
 std::optional<Place> PlanProgress::PlaceOfFolder(PlanIndex folder) const
@@ -44,7 +43,7 @@ std::optional<Place> PlanProgress::PlaceOfFolder(PlanIndex folder) const
 
 std::optional<CString> PlanProgress::PathOfFolder(PlanIndex folder) const
 {
-    std::vector<CString> names;
+    std::vector<KeptName> names;
     for (PlanIndex at = folder; at != none;) {
         const std::optional<Place> place = PlaceOfFolder(at);
         if (!place)
@@ -52,7 +51,7 @@ std::optional<CString> PlanProgress::PathOfFolder(PlanIndex folder) const
         names.push_back(place->name);
         at = place->folder;
     }
-    CString path = names.back();
+    CString path = names.back().View();
     for (std::size_t index = names.size() - 1; index-- > 0;)
         path = JoinPath(path, names[index]);
     return path;

@@ -49,13 +49,7 @@ public:
     }
 
     /// The place of `entry` where it stands as `standing` says (not Unknown).
-    [[nodiscard]] Place PlaceOf(PlanIndex entry, Standing standing) const
-    {
-        Place aside;
-        return PlaceOf(entry, standing, aside);
-    }
-    /// The same without a copy. The place of a temporary name is made in `aside`.
-    [[nodiscard]] const Place& PlaceOf(PlanIndex entry, Standing standing, Place& aside) const;
+    [[nodiscard]] Place PlaceOf(PlanIndex entry, Standing standing) const;
     /// Where `folder` stands now; nothing when it was not found.
     [[nodiscard]] std::optional<Place> PlaceOfFolder(PlanIndex folder) const;
     /// The path of `folder` now; nothing when it or one that it stands in was not found.

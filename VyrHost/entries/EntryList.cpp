@@ -9,7 +9,7 @@ SplitName Split(const CString& path, const Entry& entry)
 {
     using VyrLibraryUtils::FileUtils;
     if (entry.kind == VyrPlatform::FileSystem::Kind::Folder)
-        return {entry.name, {}};
+        return {entry.name.View(), {}};
     return {FileUtils::GetSplitFName(path), FileUtils::GetSplitExtension(path, 1)};
 }
 

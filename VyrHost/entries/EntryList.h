@@ -15,7 +15,7 @@ namespace VyrHost {
 /// A file or folder of the list. A million of them are kept, so each is a few words.
 struct Entry
 {
-    std::u16string_view name;
+    KeptName name;
     std::uint32_t folder = 0;
     /// As the folder's listing tells it; Missing when the folder has no such name.
     VyrPlatform::FileSystem::Kind kind = VyrPlatform::FileSystem::Kind::Missing;

@@ -58,7 +58,7 @@ void FolderSet::List(Folder& folder)
     folder.names.Reserve(listed.size());
     // Whoever goes through them in this order finds the texts side by side.
     for (const std::uint32_t index : OrderOf(listed)) {
-        NameRecord& record = folder.names.Add(m_texts.Keep(listed[index].name));
+        NameRecord& record = folder.names.Add(m_texts->Keep(listed[index].name));
         record.kind = listed[index].kind;
         record.isLink = listed[index].isLink;
     }

@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <memory>
 #include <unordered_map>
 
 namespace VyrHost {
@@ -49,13 +50,15 @@ public:
     [[nodiscard]] std::uint32_t Count() const { return static_cast<std::uint32_t>(m_folders.size()); }
 
     /// Keeps the text of a name as long as the set lives.
-    [[nodiscard]] std::u16string_view Keep(std::u16string_view name) { return m_texts.Keep(name); }
+    [[nodiscard]] KeptName Keep(std::u16string_view name) { return m_texts->Keep(name); }
+    /// What keeps all the names.
+    [[nodiscard]] const std::shared_ptr<NameStore>& Texts() const { return m_texts; }
 
 private:
     std::uint32_t Find(const CString& path);
     void List(Folder& folder);
 
-    NameStore m_texts;
+    std::shared_ptr<NameStore> m_texts = std::make_shared<NameStore>();
     std::deque<Folder> m_folders;
     std::unordered_map<CString, std::uint32_t> m_byPath;
     std::unordered_map<VyrPlatform::FileIdentity, std::uint32_t, IdentityHash> m_byIdentity;

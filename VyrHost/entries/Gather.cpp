@@ -163,7 +163,7 @@ private:
         const CString folded = VyrPlatform::FoldName(pattern, names.Folding());
         bool matched = false;
         for (NameRecord& record : names.Records()) {
-            if (IsShown(record) && MatchesPattern(folded, VyrPlatform::FoldName(record.name, names.Folding()))) {
+            if (IsShown(record) && MatchesPattern(folded, VyrPlatform::FoldName(record.name.View(), names.Folding()))) {
                 AddSource(folder, record);
                 matched = true;
             }
@@ -212,7 +212,7 @@ private:
 
     [[nodiscard]] bool IsShown(const NameRecord& record) const
     {
-        return m_settings.hidden || !record.name.starts_with(u'.');
+        return m_settings.hidden || !record.name.View().starts_with(u'.');
     }
 
     [[nodiscard]] bool IsPicked(const NameRecord& record) const

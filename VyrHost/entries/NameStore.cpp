@@ -11,18 +11,21 @@ constexpr std::size_t BlockLength = std::size_t{1} << 16;
 
 } // namespace
 
-std::u16string_view NameStore::Keep(std::u16string_view text)
+KeptName NameStore::Keep(std::u16string_view text)
 {
-    if (text.size() > m_left) {
-        m_left = std::max(BlockLength, text.size());
+    const std::size_t needed = KeptName::LengthUnits + text.size();
+    if (needed > m_left) {
+        m_left = std::max(BlockLength, needed);
         m_blocks.push_back(std::make_unique_for_overwrite<char16_t[]>(m_left));
         m_free = m_blocks.back().get();
     }
-    char16_t* const kept = m_free;
+    const auto length = static_cast<std::uint32_t>(text.size());
+    std::memcpy(m_free, &length, sizeof(length));
+    char16_t* const kept = m_free + KeptName::LengthUnits;
     std::copy(text.begin(), text.end(), kept);
-    m_free += text.size();
-    m_left -= text.size();
-    return {kept, text.size()};
+    m_free += needed;
+    m_left -= needed;
+    return KeptName(kept);
 }
 
 } // namespace VyrHost

@@ -3,17 +3,49 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <memory>
 #include <string_view>
 #include <vector>
 
 namespace VyrHost {
 
-/// Texts one behind another in large blocks. A view that it gave stays good for the life of the store.
+/// A text that a NameStore keeps, as long as that lives. Lists of a million names have one for each, so it is one word.
+class KeptName
+{
+public:
+    /// Empty.
+    KeptName() = default;
+
+    [[nodiscard]] std::u16string_view View() const noexcept
+    {
+        std::uint32_t length = 0;
+        std::memcpy(&length, m_text - LengthUnits, sizeof(length));
+        return {m_text, length};
+    }
+    operator std::u16string_view() const noexcept { return View(); }
+    [[nodiscard]] bool IsEmpty() const noexcept { return View().empty(); }
+
+    /// By the texts.
+    friend bool operator==(KeptName left, KeptName right) noexcept { return left.View() == right.View(); }
+
+private:
+    friend class NameStore;
+    explicit KeptName(const char16_t* text) noexcept : m_text(text) {}
+
+    /// The length stands before the text.
+    static constexpr std::size_t LengthUnits = sizeof(std::uint32_t) / sizeof(char16_t);
+    static constexpr char16_t NoText[LengthUnits + 1] = {};
+    const char16_t* m_text = NoText + LengthUnits;
+};
+
+/// Texts one behind another in large blocks.
 class NameStore
 {
 public:
-    [[nodiscard]] std::u16string_view Keep(std::u16string_view text);
+    /// @param text  shorter than 2^32 code units.
+    [[nodiscard]] KeptName Keep(std::u16string_view text);
 
 private:
     std::vector<std::unique_ptr<char16_t[]>> m_blocks;

@@ -33,7 +33,7 @@ NameTable::Key NameTable::KeyOf(std::u16string_view name) const
 bool NameTable::IsSame(const NameRecord& record, const Key& key) const
 {
     return record.name == key.name ||
-           (m_folding != NameFolding::None && VyrPlatform::FoldName(record.name, m_folding) == key.folded);
+           (m_folding != NameFolding::None && VyrPlatform::FoldName(record.name.View(), m_folding) == key.folded);
 }
 
 std::size_t NameTable::SlotOf(const Key& key) const
@@ -59,7 +59,7 @@ NameRecord* NameTable::Find(std::u16string_view name)
     return const_cast<NameRecord*>(static_cast<const NameTable&>(*this).Find(name));
 }
 
-NameRecord& NameTable::Add(std::u16string_view name)
+NameRecord& NameTable::Add(KeptName name)
 {
     Reserve(m_records.size() + 1);
     const Key key = KeyOf(name);

@@ -2,6 +2,7 @@
 /// The names of one folder: what the disk has, whose they are, and who gets them.
 #pragma once
 
+#include <VyrHost/entries/NameStore.h>
 #include <VyrPlatform/CString.h>
 #include <VyrPlatform/FileSystem.h>
 #include <VyrPlatform/NameFolding.h>
@@ -22,7 +23,7 @@ inline constexpr std::uint32_t NewFolder = NoEntry - 1;
 /// A name in a folder.
 struct NameRecord
 {
-    std::u16string_view name;
+    KeptName name;
     /// The entry of the list whose name it is now.
     std::uint32_t owner = NoEntry;
     /// The entry of the list whose name it is after the batch.
@@ -43,8 +44,8 @@ public:
     /// The record of `name`, or of what the folder takes for the same name; a null pointer when there is none.
     [[nodiscard]] NameRecord* Find(std::u16string_view name);
     [[nodiscard]] const NameRecord* Find(std::u16string_view name) const;
-    /// The record of `name`, added when there is none. The table keeps the view: its text must outlive the table.
-    NameRecord& Add(std::u16string_view name);
+    /// The record of `name`, added when there is none. The text of `name` must outlive the table.
+    NameRecord& Add(KeptName name);
     /// Makes room for `count` names.
     void Reserve(std::size_t count);
 

@@ -23,14 +23,14 @@ public:
     FolderOperations& operator=(const FolderOperations&) = delete;
     virtual ~FolderOperations() = default;
 
-    [[nodiscard]] virtual VyrPlatform::FileState Look(const CString& name) = 0;
+    [[nodiscard]] virtual VyrPlatform::FileState Look(std::u16string_view name) = 0;
     /// `target` comes from the same FileOperations.
-    [[nodiscard]] virtual std::uint32_t Rename(const CString& name, FolderOperations& target,
-                                               const CString& newName) = 0;
-    [[nodiscard]] virtual std::uint32_t DropSecondName(const CString& name, FolderOperations& kept,
-                                                       const CString& keptName) = 0;
-    [[nodiscard]] virtual std::uint32_t MakeFolder(const CString& name) = 0;
-    [[nodiscard]] virtual std::uint32_t RemoveEmptyFolder(const CString& name) = 0;
+    [[nodiscard]] virtual std::uint32_t Rename(std::u16string_view name, FolderOperations& target,
+                                               std::u16string_view newName) = 0;
+    [[nodiscard]] virtual std::uint32_t DropSecondName(std::u16string_view name, FolderOperations& kept,
+                                                       std::u16string_view keptName) = 0;
+    [[nodiscard]] virtual std::uint32_t MakeFolder(std::u16string_view name) = 0;
+    [[nodiscard]] virtual std::uint32_t RemoveEmptyFolder(std::u16string_view name) = 0;
 };
 
 /// All results are the system's error codes, 0 for success. Folders may be opened and looked into on a thread beside

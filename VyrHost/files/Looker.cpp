@@ -3,7 +3,7 @@
 
 namespace VyrHost {
 
-VyrPlatform::FileState Looker::Look(const CString& folder, const CString& name)
+VyrPlatform::FileState Looker::Look(const CString& folder, std::u16string_view name)
 {
     const Opened& opened = Open(folder);
     if (opened.folder)

@@ -16,7 +16,7 @@ public:
     explicit Looker(FileOperations& files) : m_files(files) {}
 
     /// What stands at `name` in the folder at the absolute path `folder`.
-    [[nodiscard]] VyrPlatform::FileState Look(const CString& folder, const CString& name);
+    [[nodiscard]] VyrPlatform::FileState Look(const CString& folder, std::u16string_view name);
 
 private:
     struct Opened

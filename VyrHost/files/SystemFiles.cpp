@@ -18,17 +18,17 @@ public:
 
     [[nodiscard]] std::uint32_t Error() const { return m_folder.Error(); }
 
-    VyrPlatform::FileState Look(const CString& name) override { return m_folder.Look(name); }
-    std::uint32_t Rename(const CString& name, FolderOperations& target, const CString& newName) override
+    VyrPlatform::FileState Look(std::u16string_view name) override { return m_folder.Look(name); }
+    std::uint32_t Rename(std::u16string_view name, FolderOperations& target, std::u16string_view newName) override
     {
         return m_folder.RenameNoReplace(name, static_cast<SystemFolder&>(target).m_folder, newName);
     }
-    std::uint32_t DropSecondName(const CString& name, FolderOperations& kept, const CString& keptName) override
+    std::uint32_t DropSecondName(std::u16string_view name, FolderOperations& kept, std::u16string_view keptName) override
     {
         return m_folder.DropSecondName(name, static_cast<SystemFolder&>(kept).m_folder, keptName);
     }
-    std::uint32_t MakeFolder(const CString& name) override { return m_folder.MakeFolder(name); }
-    std::uint32_t RemoveEmptyFolder(const CString& name) override { return m_folder.RemoveEmptyFolder(name); }
+    std::uint32_t MakeFolder(std::u16string_view name) override { return m_folder.MakeFolder(name); }
+    std::uint32_t RemoveEmptyFolder(std::u16string_view name) override { return m_folder.RemoveEmptyFolder(name); }
 
 private:
     VyrPlatform::OpenFolder m_folder;

@@ -1,8 +1,8 @@
 // Journal files: their names, their order, their ends.
 #include <VyrHost/journal/JournalFolder.h>
 
-#include <VyrHost/RenameList.h>
 #include <VyrHost/files/ErrorText.h>
+#include <VyrHost/files/FolderPart.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/FolderUtils.h>
@@ -111,8 +111,8 @@ std::vector<VyrPlatform::FileIdentity> JournalFolder::Way() const
     std::vector<VyrPlatform::FileIdentity> way;
     // As the path is written, and with its links followed.
     for (const CString& path : {VyrPlatform::GetFullPath(m_path), VyrPlatform::GetRealPath(m_path)})
-        for (PlannedPath at(path); !at.folder.IsEmpty(); at = at.folder.Left(at.folder.GetLength() - 1))
-            way.push_back(VyrPlatform::LookAtFile(at.Path()).identity);
+        for (std::u16string_view at = path; !FolderPart(at).empty(); at = at.substr(0, FolderPart(at).size() - 1))
+            way.push_back(VyrPlatform::LookAtFile(at).identity);
     return way;
 }
 

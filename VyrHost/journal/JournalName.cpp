@@ -28,7 +28,7 @@ bool IsPlainAscii(std::u16string_view name) noexcept
 
 } // namespace
 
-void AppendJournalName(std::string& text, const CString& name)
+void AppendJournalName(std::string& text, std::u16string_view name)
 {
     std::u16string_view rest = name;
     if (IsPlainAscii(rest)) {

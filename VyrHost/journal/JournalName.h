@@ -12,7 +12,7 @@ namespace VyrHost {
 
 /// Appends `name` as UTF-8. A backslash, a control character and a lone surrogate become a backslash, "u" and four
 /// hexadecimal digits, so that every text comes back unit by unit.
-void AppendJournalName(std::string& text, const CString& name);
+void AppendJournalName(std::string& text, std::u16string_view name);
 
 /// The name that `text` stands for; nothing when it is not as AppendJournalName writes it.
 [[nodiscard]] std::optional<CString> ReadJournalName(std::string_view text);

@@ -70,7 +70,7 @@ public:
         return *this;
     }
     LineWriter& Index(PlanIndex index) { return index == none ? Letter(noneText) : Number(index); }
-    LineWriter& Name(const CString& name)
+    LineWriter& Name(std::u16string_view name)
     {
         Separate();
         AppendJournalName(m_text, name);
@@ -421,19 +421,19 @@ JournalHeading ReadHeadingLines(LineReader& reader, Counts& counts)
     return heading;
 }
 
-PlanFolder ReadFolder(LineReader& reader)
+PlanFolder ReadFolder(LineReader& reader, NameStore& texts)
 {
     constexpr std::array<std::pair<bool, char>, 2> ages{{{true, 'n'}, {false, 'o'}}};
     reader.Next("folder");
     PlanFolder folder;
     folder.place.folder = reader.Index();
     folder.isNew = reader.Letter(ages);
-    folder.place.name = reader.Name();
+    folder.place.name = texts.Keep(reader.Name());
     reader.End();
     return folder;
 }
 
-PlanEntry ReadEntry(LineReader& reader, FileState& state)
+PlanEntry ReadEntry(LineReader& reader, NameStore& texts, FileState& state)
 {
     reader.Next("entry");
     PlanEntry entry;
@@ -445,9 +445,9 @@ PlanEntry ReadEntry(LineReader& reader, FileState& state)
     state.modified = reader.Number<VyrPlatform::FileTicks>();
     state.links = reader.Number<std::uint32_t>();
     entry.from.folder = reader.Index();
-    entry.from.name = reader.Name();
+    entry.from.name = texts.Keep(reader.Name());
     entry.to.folder = reader.Index();
-    entry.to.name = reader.Name();
+    entry.to.name = texts.Keep(reader.Name());
     entry.folder = reader.Index();
     entry.waitsFor = reader.Index();
     reader.End();
@@ -469,10 +469,11 @@ void LinkFolders(LineReader& reader, RenamePlan& plan)
 void ReadPlan(LineReader& reader, const Counts& counts, Journal& journal)
 {
     // The counts may be anything: room is made as lines come.
+    NameStore& texts = *journal.plan.texts;
     while (journal.plan.folders.size() < counts.folders)
-        journal.plan.folders.push_back(ReadFolder(reader));
+        journal.plan.folders.push_back(ReadFolder(reader, texts));
     while (journal.plan.entries.size() < counts.entries)
-        journal.plan.entries.push_back(ReadEntry(reader, journal.states.emplace_back()));
+        journal.plan.entries.push_back(ReadEntry(reader, texts, journal.states.emplace_back()));
     // No entry has more steps than two, no folder more than one.
     if (counts.steps > 2 * counts.entries + counts.folders)
         reader.Fail(u"there are too many steps");

@@ -99,7 +99,7 @@ void WriteJsonLines(OutputBuffer& output, const EntryList& list, const Outcome& 
         const Entry& entry = list.entries[index];
         AppendPath(line, list.folders[entry.folder], entry.name);
         line += ",\"to\":";
-        if (decision.name.empty())
+        if (decision.name.IsEmpty())
             line += "null";
         else
             AppendPath(line, list.folders[decision.folder], decision.name);

@@ -12,7 +12,7 @@ namespace {
 
 ShownName NewName(const EntryList& list, const Entry& entry, const Decision& decision)
 {
-    if (decision.status == Status::Unchanged || decision.name.empty())
+    if (decision.status == Status::Unchanged || decision.name.IsEmpty())
         return {};
     if (decision.folder == entry.folder)
         return {{}, decision.name};

@@ -14,7 +14,7 @@ using VyrLibraryUtils::FileUtils;
 using VyrPlatform::FileSystem::IsSeparator;
 
 /// In code units; more than any of the systems takes.
-constexpr int longestPath = 32'767;
+constexpr std::size_t longestPath = 32'767;
 
 bool CanName(std::u16string_view name)
 {
@@ -32,13 +32,12 @@ CString WrittenUsually(std::u16string_view root)
 
 } // namespace
 
-FolderTree::FolderTree(std::vector<PlanFolder>& folders, const FoldingOfFolder& foldingOf)
-    : m_folders(folders), m_foldingOf(foldingOf)
-{}
+FolderTree::FolderTree(RenamePlan& plan, const FoldingOfFolder& foldingOf) : m_plan(plan), m_foldingOf(foldingOf) {}
 
 std::optional<Place> FolderTree::PlaceOf(const PlannedPath& path)
 {
-    if (path.folder.GetLength() + path.name.GetLength() > longestPath || !CanName(path.name))
+    const std::u16string_view name = path.name;
+    if (path.folder.View().size() + name.size() > longestPath || !CanName(name))
         return {};
     const PlanIndex folder = FolderOf(path.folder);
     if (folder == none)
@@ -46,14 +45,17 @@ std::optional<Place> FolderTree::PlaceOf(const PlannedPath& path)
     return Place{folder, path.name};
 }
 
-Slot FolderTree::SlotOf(const Place& place) const
+Place FolderTree::SlotOf(const Place& place)
 {
-    return {place.folder, VyrPlatform::FoldName(place.name, m_foldings[place.folder])};
+    const VyrPlatform::NameFolding folding = m_foldings[place.folder];
+    if (folding == VyrPlatform::NameFolding::None)
+        return place;
+    return {place.folder, m_foldedNames.Keep(VyrPlatform::FoldName(place.name.View(), folding))};
 }
 
 PlanIndex FolderTree::Collect(const Place& place, std::u16string_view path)
 {
-    const Slot slot = SlotOf(place);
+    const Place slot = SlotOf(place);
     const PlanIndex known = FolderAt(slot);
     if (known != none)
         return known;
@@ -87,7 +89,7 @@ PlanIndex FolderTree::Walk(std::u16string_view folderPath)
             folderPath.begin());
         const std::u16string_view name = folderPath.substr(at, end - at);
         if (!name.empty() && name != u".")
-            folder = Collect({folder, name}, folderPath.substr(0, end));
+            folder = Collect({folder, m_plan.texts->Keep(name)}, folderPath.substr(0, end));
         at = end + 1;
     }
     return folder;
@@ -96,20 +98,20 @@ PlanIndex FolderTree::Walk(std::u16string_view folderPath)
 PlanIndex FolderTree::RootOf(std::u16string_view root)
 {
     const CString usual = WrittenUsually(root);
-    const Slot slot{none, VyrPlatform::FoldName(usual, m_foldingOf(usual))};
+    const Place slot{none, m_foldedNames.Keep(VyrPlatform::FoldName(usual, m_foldingOf(usual)))};
     const PlanIndex known = FolderAt(slot);
     if (known != none)
         return known;
-    const PlanIndex folder = Add({none, usual}, usual);
+    const PlanIndex folder = Add({none, m_plan.texts->Keep(usual)}, usual);
     m_bySlot.Put(slot, folder);
     return folder;
 }
 
 PlanIndex FolderTree::Add(const Place& place, std::u16string_view path)
 {
-    m_folders.push_back({.place = place});
+    m_plan.folders.push_back({.place = place});
     m_foldings.push_back(m_foldingOf(path));
-    return static_cast<PlanIndex>(m_folders.size() - 1);
+    return static_cast<PlanIndex>(m_plan.folders.size() - 1);
 }
 
 } // namespace VyrHost

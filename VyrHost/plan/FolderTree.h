@@ -16,15 +16,16 @@ namespace VyrHost {
 class FolderTree
 {
 public:
-    /// Adds to `folders`, each parent before what stands in it.
-    FolderTree(std::vector<PlanFolder>& folders, const FoldingOfFolder& foldingOf);
+    /// Adds to the folders of `plan`, each parent before what stands in it.
+    FolderTree(RenamePlan& plan, const FoldingOfFolder& foldingOf);
 
     /// The place that `path` names; nothing when the path is not full, is longer than any system takes, or its name is
     /// empty, "." or "..".
     [[nodiscard]] std::optional<Place> PlaceOf(const PlannedPath& path);
-    [[nodiscard]] Slot SlotOf(const Place& place) const;
+    /// `place` as its file system sees it: its name is folded. Good for the life of the tree.
+    [[nodiscard]] Place SlotOf(const Place& place);
     /// The folder at `slot`; `none` when no path has named it.
-    [[nodiscard]] PlanIndex FolderAt(const Slot& slot) const
+    [[nodiscard]] PlanIndex FolderAt(const Place& slot) const
     {
         const PlanIndex* const folder = m_bySlot.Find(slot);
         return folder ? *folder : none;
@@ -38,8 +39,9 @@ private:
     [[nodiscard]] PlanIndex RootOf(std::u16string_view root);
     [[nodiscard]] PlanIndex Add(const Place& place, std::u16string_view path);
 
-    std::vector<PlanFolder>& m_folders;
+    RenamePlan& m_plan;
     const FoldingOfFolder& m_foldingOf;
+    NameStore m_foldedNames;
     std::vector<VyrPlatform::NameFolding> m_foldings;
     SlotTable<PlanIndex> m_bySlot;
     std::unordered_map<CString, PlanIndex> m_byPath;

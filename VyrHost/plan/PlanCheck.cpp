@@ -29,7 +29,7 @@ bool IsFolderSound(const RenamePlan& plan, PlanIndex index)
 {
     const PlanFolder& folder = plan.folders[index];
     if (folder.place.folder == none)
-        return !folder.isNew && folder.entry == none && IsRoot(folder.place.name);
+        return !folder.isNew && folder.entry == none && IsRoot(folder.place.name.View());
     if (folder.place.folder >= index || !IsPart(folder.place.name, !folder.isNew))
         return false;
     return folder.entry == none ||

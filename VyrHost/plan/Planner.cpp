@@ -15,8 +15,10 @@ class Planner
 {
 public:
     Planner(const RenameList& list, const FoldingOfFolder& foldingOf)
-        : m_list(list), m_tree(m_draft.folders, foldingOf), m_isRefused(list.renames.size())
-    {}
+        : m_list(list), m_tree(m_draft, foldingOf), m_isRefused(list.renames.size())
+    {
+        m_draft.texts = list.texts;
+    }
 
     PlannerResult Plan()
     {
@@ -53,7 +55,7 @@ private:
     void PlaceNewFolders()
     {
         for (const CString& path : m_list.newFolders) {
-            const std::optional<Place> place = m_tree.PlaceOf(path);
+            const std::optional<Place> place = m_tree.PlaceOf(Cut(path, *m_draft.texts));
             if (place)
                 m_draft.folders[m_tree.Collect(*place, path)].isNew = true;
         }
@@ -126,7 +128,7 @@ private:
             const Place& from = m_draft.entries[refused].from;
             if (from.folder == none)
                 continue;
-            const Slot slot = m_tree.SlotOf(from);
+            const Place slot = m_tree.SlotOf(from);
             const auto [standing, coming] = OccupantsOf(slot);
             if (standing != refused)
                 continue;
@@ -163,7 +165,7 @@ private:
         PlanIndex after = none;
     };
 
-    [[nodiscard]] Occupants OccupantsOf(const Slot& slot) const
+    [[nodiscard]] Occupants OccupantsOf(const Place& slot) const
     {
         const Occupants* const occupants = m_occupants.Find(slot);
         return occupants ? *occupants : Occupants();
@@ -216,6 +218,7 @@ private:
             entry = entry == none ? none : newIndexes[entry];
         };
         result.plan.folders = std::move(m_draft.folders);
+        result.plan.texts = m_draft.texts;
         for (PlanEntry& entry : result.plan.entries)
             renumber(entry.waitsFor);
         for (PlanFolder& folder : result.plan.folders)

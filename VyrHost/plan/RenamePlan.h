@@ -2,12 +2,14 @@
 /// A batch of renames as ordered steps: what the planner makes, the journal keeps and the executor performs.
 #pragma once
 
+#include <VyrHost/entries/NameStore.h>
 #include <VyrPlatform/CString.h>
 #include <VyrPlatform/FileSystem.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <memory>
 #include <vector>
 
 namespace VyrHost {
@@ -20,7 +22,7 @@ constexpr PlanIndex none = std::numeric_limits<PlanIndex>::max();
 struct Place
 {
     PlanIndex folder = none;
-    CString name;
+    KeptName name;
 
     friend bool operator==(const Place&, const Place&) noexcept = default;
 };
@@ -79,6 +81,8 @@ struct RenamePlan
     /// SetAside where its place is needed earlier. The steps from a SetAside to its Rename belong together: no step
     /// outside depends on a part of them.
     std::vector<PlanStep> steps;
+    /// What keeps the names.
+    std::shared_ptr<NameStore> texts = std::make_shared<NameStore>();
 };
 
 /// Where the folder `folder` stands before the batch, as a path.

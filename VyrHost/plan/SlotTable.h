@@ -7,43 +7,36 @@
 #include <bit>
 #include <cstdint>
 #include <functional>
+#include <string_view>
 #include <vector>
 
 namespace VyrHost {
 
-/// A place as its file system sees it: the name is folded.
-struct Slot
-{
-    PlanIndex folder = none;
-    CString key;
-
-    friend bool operator==(const Slot&, const Slot&) noexcept = default;
-};
-
-/// A map from slots to values. (Open addressing over one list: the nodes of the standard one cost five times as much
-/// here.)
+/// A map from places, their names as their file system sees them (folded), to values. (Open addressing over one list:
+/// the nodes of the standard one cost five times as much here.)
 template <class Value>
 class SlotTable
 {
 public:
     SlotTable() : m_buckets(fewestBuckets) {}
 
-    /// The value at `slot`, good until the next Put; a null pointer when there is none.
-    [[nodiscard]] const Value* Find(const Slot& slot) const
+    /// The value at `key` in `folder`, good until the next Put; a null pointer when there is none.
+    [[nodiscard]] const Value* Find(PlanIndex folder, std::u16string_view key) const
     {
-        const PlanIndex item = m_buckets[FindBucket(slot, HashOf(slot))].item;
+        const PlanIndex item = m_buckets[FindBucket(folder, key, HashOf(folder, key))].item;
         return item == none ? nullptr : &m_items[item].value;
     }
+    [[nodiscard]] const Value* Find(const Place& slot) const { return Find(slot.folder, slot.name); }
 
-    /// Puts `value` at `slot` where nothing is yet.
+    /// Puts `value` at `slot` where nothing is yet. The text of its name must outlive the table.
     /// @return what is there now, good until the next call.
-    Value& Put(const Slot& slot, const Value& value)
+    Value& Put(const Place& slot, const Value& value)
     {
         // At most half full, so that a free bucket is near.
         if (m_items.size() * 2 >= m_buckets.size())
             Reserve(m_buckets.size());
-        const std::uint64_t hash = HashOf(slot);
-        Bucket& bucket = m_buckets[FindBucket(slot, hash)];
+        const std::uint64_t hash = HashOf(slot.folder, slot.name);
+        Bucket& bucket = m_buckets[FindBucket(slot.folder, slot.name, hash)];
         if (bucket.item == none) {
             bucket = {TagOf(hash), static_cast<PlanIndex>(m_items.size())};
             m_items.push_back({slot, value});
@@ -51,7 +44,7 @@ public:
         return m_items[bucket.item].value;
     }
 
-    /// Makes room for `count` slots.
+    /// Makes room for `count` places.
     void Reserve(std::size_t count)
     {
         const std::size_t size = std::bit_ceil(count * 2);
@@ -60,15 +53,16 @@ public:
         m_buckets.assign(size, {});
         m_items.reserve(count);
         for (PlanIndex item = 0; item < m_items.size(); ++item) {
-            const std::uint64_t hash = HashOf(m_items[item].slot);
-            m_buckets[FindBucket(m_items[item].slot, hash)] = {TagOf(hash), item};
+            const Place& slot = m_items[item].slot;
+            const std::uint64_t hash = HashOf(slot.folder, slot.name);
+            m_buckets[FindBucket(slot.folder, slot.name, hash)] = {TagOf(hash), item};
         }
     }
 
 private:
     static constexpr std::size_t fewestBuckets = 16;
 
-    /// The upper half of a slot's hash, and its place in the list of items.
+    /// The upper half of a place's hash, and where it stands in the list of items.
     struct Bucket
     {
         std::uint32_t tag = 0;
@@ -77,24 +71,27 @@ private:
 
     struct Item
     {
-        Slot slot;
+        Place slot;
         Value value;
     };
 
-    static std::uint64_t HashOf(const Slot& slot) noexcept
+    static std::uint64_t HashOf(PlanIndex folder, std::u16string_view key) noexcept
     {
-        return (std::hash<CString>()(slot.key) ^ slot.folder) * std::uint64_t{0x9E3779B97F4A7C15};
+        return (std::hash<std::u16string_view>()(key) ^ folder) * std::uint64_t{0x9E3779B97F4A7C15};
     }
 
     static std::uint32_t TagOf(std::uint64_t hash) noexcept { return static_cast<std::uint32_t>(hash >> 32); }
 
-    /// The bucket of `slot`, or the free one where it belongs.
-    [[nodiscard]] std::size_t FindBucket(const Slot& slot, std::uint64_t hash) const
+    /// The bucket of `key` in `folder`, or the free one where it belongs.
+    [[nodiscard]] std::size_t FindBucket(PlanIndex folder, std::u16string_view key, std::uint64_t hash) const
     {
+        const auto isAt = [folder, key](const Place& slot) {
+            return slot.folder == folder && slot.name.View() == key;
+        };
         const std::size_t mask = m_buckets.size() - 1;
         std::size_t at = (hash >> 20) & mask;
         while (m_buckets[at].item != none &&
-               (m_buckets[at].tag != TagOf(hash) || m_items[m_buckets[at].item].slot != slot))
+               (m_buckets[at].tag != TagOf(hash) || !isAt(m_items[m_buckets[at].item].slot)))
             at = (at + 1) & mask;
         return at;
     }

@@ -141,13 +141,13 @@ private:
         for (std::size_t place = 0; place < m_members.size(); ++place) {
             const std::uint32_t entry = m_members[place];
             m_wanted.try_emplace(entry, m_decisions[entry].name);
-            const std::u16string_view name = m_list.folders.Keep(candidates[place]);
+            const KeptName name = m_list.folders.Keep(candidates[place]);
             Give(entry, Names(entry).Add(name), name, Status::Numbered);
         }
     }
 
     /// @param record  of `name`, which it may write in another way.
-    void Give(std::uint32_t entry, NameRecord& record, std::u16string_view name, Status status)
+    void Give(std::uint32_t entry, NameRecord& record, KeptName name, Status status)
     {
         Decision& decision = m_decisions[entry];
         const Entry& own = m_list.entries[entry];
@@ -188,7 +188,7 @@ private:
     }
 
     /// What was wanted before any number.
-    [[nodiscard]] std::u16string_view WantedName(std::uint32_t entry) const
+    [[nodiscard]] KeptName WantedName(std::uint32_t entry) const
     {
         const auto found = m_wanted.find(entry);
         return found != m_wanted.end() ? found->second : m_decisions[entry].name;
@@ -196,7 +196,7 @@ private:
 
     [[nodiscard]] NumberedName NumberedNameOf(std::uint32_t entry)
     {
-        const std::u16string_view wanted = WantedName(entry);
+        const KeptName wanted = WantedName(entry);
         const NameRecord* const record = Names(entry).Find(wanted);
         // As the engine splits: by what stands there, where something does.
         const bool isThere = record && record->kind != Kind::Missing;
@@ -233,7 +233,7 @@ private:
     /// The members that take part of the group in hand.
     std::vector<std::uint32_t> m_members;
     /// What the entries wanted that got a numbered name.
-    std::unordered_map<std::uint32_t, std::u16string_view> m_wanted;
+    std::unordered_map<std::uint32_t, KeptName> m_wanted;
     /// The next attempt at a number, by the wanted name's record.
     std::unordered_map<const NameRecord*, std::uint64_t> m_attempts;
 };

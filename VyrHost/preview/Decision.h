@@ -2,6 +2,7 @@
 /// What a preview says of one entry.
 #pragma once
 
+#include <VyrHost/entries/NameStore.h>
 #include <VyrPlatform/CString.h>
 #include <VyrPlatform/NameRules.h>
 
@@ -67,7 +68,7 @@ enum class Reason : std::uint8_t
 struct Decision
 {
     /// The new name; for an entry that is not renamed, the one that it would have had. Empty when there is none.
-    std::u16string_view name;
+    KeptName name;
     /// The folder that the name is in.
     std::uint32_t folder = 0;
     Status status = Status::Renamed;

@@ -37,7 +37,7 @@ void GivenNames::Name(const EntryList& list, std::span<const std::uint32_t> memb
     for (const std::uint32_t entry : members) {
         const auto given = m_names.find(entry);
         names.push_back(NameFor(list.folders[list.entries[entry].folder],
-                                given == m_names.end() ? CString(list.entries[entry].name) : given->second));
+                                given == m_names.end() ? CString(list.entries[entry].name.View()) : given->second));
     }
 }
 

@@ -8,6 +8,7 @@ namespace VyrHost {
 PlannedRenames PlanOf(EntryList& list, const std::vector<Decision>& decisions)
 {
     PlannedRenames planned;
+    planned.list.texts = list.folders.Texts();
     planned.list.renames.reserve(decisions.size());
     planned.entries.reserve(decisions.size());
     for (std::uint32_t index = 0; index < decisions.size(); ++index) {

@@ -97,18 +97,18 @@ OpenFolder::~OpenFolder()
         close(static_cast<int>(m_handle));
 }
 
-FileState OpenFolder::Look(const CString& name) const
+FileState OpenFolder::Look(std::u16string_view name) const
 {
     return LookAtFile(static_cast<int>(m_handle), NativePath(name).Get());
 }
 
-std::uint32_t OpenFolder::RenameNoReplace(const CString& name, const OpenFolder& target, const CString& newName) const
+std::uint32_t OpenFolder::RenameNoReplace(std::u16string_view name, const OpenFolder& target, std::u16string_view newName) const
 {
     return Rename({static_cast<int>(m_handle), NativePath(name).Get()},
                   {static_cast<int>(target.m_handle), NativePath(newName).Get()});
 }
 
-std::uint32_t OpenFolder::DropSecondName(const CString& name, const OpenFolder& kept, const CString& keptName) const
+std::uint32_t OpenFolder::DropSecondName(std::u16string_view name, const OpenFolder& kept, std::u16string_view keptName) const
 {
     const NativePath second(name);
     const FileState dropped = LookAtFile(static_cast<int>(m_handle), second.Get());
@@ -120,12 +120,12 @@ std::uint32_t OpenFolder::DropSecondName(const CString& name, const OpenFolder& 
     return unlinkat(static_cast<int>(m_handle), second.Get(), 0) == 0 ? 0 : LastError();
 }
 
-std::uint32_t OpenFolder::MakeFolder(const CString& name) const
+std::uint32_t OpenFolder::MakeFolder(std::u16string_view name) const
 {
     return mkdirat(static_cast<int>(m_handle), NativePath(name).Get(), 0777) == 0 ? 0 : LastError();
 }
 
-std::uint32_t OpenFolder::RemoveEmptyFolder(const CString& name) const
+std::uint32_t OpenFolder::RemoveEmptyFolder(std::u16string_view name) const
 {
     return unlinkat(static_cast<int>(m_handle), NativePath(name).Get(), AT_REMOVEDIR) == 0 ? 0 : LastError();
 }

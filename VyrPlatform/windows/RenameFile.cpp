@@ -31,7 +31,7 @@ DWORD FindFolderError(const CString& path) noexcept
     return attributes & FILE_ATTRIBUTE_DIRECTORY ? ERROR_SUCCESS : ERROR_DIRECTORY;
 }
 
-CString PathOf(const CString& folder, const CString& name)
+CString PathOf(const CString& folder, std::u16string_view name)
 {
     const bool hasSeparator = folder.GetLength() > 0 && folder[folder.GetLength() - 1] == u'\\';
     return CString::Join({folder, hasSeparator ? u"" : uR"(\)", name});
@@ -68,28 +68,28 @@ OpenFolder::OpenFolder(const CString& path)
 
 OpenFolder::~OpenFolder() = default;
 
-FileState OpenFolder::Look(const CString& name) const
+FileState OpenFolder::Look(std::u16string_view name) const
 {
     return LookAtFile(PathOf(m_path, name));
 }
 
-std::uint32_t OpenFolder::RenameNoReplace(const CString& name, const OpenFolder& target, const CString& newName) const
+std::uint32_t OpenFolder::RenameNoReplace(std::u16string_view name, const OpenFolder& target, std::u16string_view newName) const
 {
     return Rename(PathOf(m_path, name), PathOf(target.m_path, newName));
 }
 
-std::uint32_t OpenFolder::DropSecondName(const CString&, const OpenFolder&, const CString&) const
+std::uint32_t OpenFolder::DropSecondName(std::u16string_view, const OpenFolder&, std::u16string_view) const
 {
     // The system renames in one call everywhere, so that nothing is ever left half done.
     return ERROR_NOT_SUPPORTED;
 }
 
-std::uint32_t OpenFolder::MakeFolder(const CString& name) const
+std::uint32_t OpenFolder::MakeFolder(std::u16string_view name) const
 {
     return CreateDirectoryW(ToWide(PathOf(m_path, name)), nullptr) ? ERROR_SUCCESS : GetLastError();
 }
 
-std::uint32_t OpenFolder::RemoveEmptyFolder(const CString& name) const
+std::uint32_t OpenFolder::RemoveEmptyFolder(std::u16string_view name) const
 {
     return RemoveDirectoryW(ToWide(PathOf(m_path, name))) ? ERROR_SUCCESS : GetLastError();
 }

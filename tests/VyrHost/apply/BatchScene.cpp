@@ -75,7 +75,7 @@ void BatchScene::MakeFolder(std::u16string_view name) const
 
 BatchScene& BatchScene::Rename(std::u16string_view from, std::u16string_view to, VyrPlatform::FileSystem::Kind kind)
 {
-    list.renames.push_back({Path(from), Path(to), kind});
+    list.Add(Path(from), Path(to), kind);
     return *this;
 }
 

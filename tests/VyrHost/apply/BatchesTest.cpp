@@ -237,7 +237,7 @@ TEST(Batches, LeaveTheFolderOfTheirJournalWhereItIs)
     BatchScene scene;
     scene.Write(u"a");
     const CString journal = scene.JournalFolder();
-    scene.list.renames.push_back({journal, journal + u" renamed", VyrPlatform::FileSystem::Kind::Folder});
+    scene.list.Add(journal, journal + u" renamed", VyrPlatform::FileSystem::Kind::Folder);
     scene.Rename(u"a", u"b");
     const BatchSummary summary = scene.Apply();
     EXPECT_EQ(summary.refused, 1u);

@@ -18,22 +18,22 @@ public:
         : m_files(files), m_folder(std::move(folder))
     {}
 
-    VyrPlatform::FileState Look(const CString& name) override { return m_folder->Look(name); }
-    std::uint32_t Rename(const CString& name, FolderOperations& target, const CString& newName) override
+    VyrPlatform::FileState Look(std::u16string_view name) override { return m_folder->Look(name); }
+    std::uint32_t Rename(std::u16string_view name, FolderOperations& target, std::u16string_view newName) override
     {
         return m_files.Change({FileChange::Kind::Rename, name, newName},
                               [&] { return m_folder->Rename(name, Inner(target), newName); });
     }
-    std::uint32_t DropSecondName(const CString& name, FolderOperations& kept, const CString& keptName) override
+    std::uint32_t DropSecondName(std::u16string_view name, FolderOperations& kept, std::u16string_view keptName) override
     {
         return m_files.Change({FileChange::Kind::DropSecondName, name, keptName},
                               [&] { return m_folder->DropSecondName(name, Inner(kept), keptName); });
     }
-    std::uint32_t MakeFolder(const CString& name) override
+    std::uint32_t MakeFolder(std::u16string_view name) override
     {
         return m_files.Change({FileChange::Kind::MakeFolder, name, {}}, [&] { return m_folder->MakeFolder(name); });
     }
-    std::uint32_t RemoveEmptyFolder(const CString& name) override
+    std::uint32_t RemoveEmptyFolder(std::u16string_view name) override
     {
         return m_files.Change({FileChange::Kind::RemoveFolder, name, {}},
                               [&] { return m_folder->RemoveEmptyFolder(name); });

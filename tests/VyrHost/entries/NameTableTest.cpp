@@ -25,7 +25,7 @@ TEST(NameTable, FindsEveryNameAmongManyAndNoOther)
         const NameRecord* const record = table.Find(nameOf(number));
         ASSERT_NE(record, nullptr);
         EXPECT_EQ(record->owner, number);
-        EXPECT_EQ(&table.Add(nameOf(number)), record);
+        EXPECT_EQ(&table.Add(texts.Keep(nameOf(number))), record);
     }
     EXPECT_EQ(table.Records().size(), Count);
     EXPECT_EQ(table.Find(nameOf(Count)), nullptr);
@@ -35,12 +35,12 @@ TEST(NameTable, FindsEveryNameAmongManyAndNoOther)
 TEST(NameStore, KeepsTextsOfEveryLengthApart)
 {
     NameStore texts;
-    std::vector<std::pair<std::u16string, std::u16string_view>> kept;
+    std::vector<std::pair<std::u16string, KeptName>> kept;
     for (const std::size_t length : {0U, 1U, 40000U, 40000U, 65536U, 65537U, 200000U, 3U})
         for (char16_t unit : {u'a', u'b'}) {
             const std::u16string text(length, unit);
             kept.emplace_back(text, texts.Keep(text));
         }
-    for (const auto& [text, view] : kept)
-        EXPECT_EQ(view, text);
+    for (const auto& [text, name] : kept)
+        EXPECT_EQ(name.View(), text);
 }

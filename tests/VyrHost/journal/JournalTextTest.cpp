@@ -88,11 +88,11 @@ CString In(const CString& folder, const CString& name)
 Journal MakeJournal()
 {
     RenameList list;
-    list.renames.push_back({Full(u"a"), Full(u"b"), Kind::File});
-    list.renames.push_back({Full(u"b"), Full(u"a"), Kind::File});
-    list.renames.push_back({Full(u"folder"), Full(u"renamed"), Kind::Folder});
-    list.renames.push_back({In(Full(u"folder"), u"x"), In(Full(u"new"), CString(u'\xDC80', 2) + u"\t"), Kind::File});
-    list.renames.push_back({Full(u"case"), Full(u"CASE"), Kind::File});
+    list.Add(Full(u"a"), Full(u"b"), Kind::File);
+    list.Add(Full(u"b"), Full(u"a"), Kind::File);
+    list.Add(Full(u"folder"), Full(u"renamed"), Kind::Folder);
+    list.Add(In(Full(u"folder"), u"x"), In(Full(u"new"), CString(u'\xDC80', 2) + u"\t"), Kind::File);
+    list.Add(Full(u"case"), Full(u"CASE"), Kind::File);
     list.newFolders.push_back(Full(u"new"));
     const PlannerResult result = PlanRenames(list, [](const CString&) { return NameFolding::Case; });
     EXPECT_TRUE(result.refused.empty());
@@ -184,7 +184,7 @@ TEST(JournalText, HoldsMoreStepsThanALine)
     for (int index = 0; index < 2500; ++index) {
         CString name;
         name.Format(u"%d", index);
-        list.renames.push_back({Full(name), Full(name + u"x"), Kind::File});
+        list.Add(Full(name), Full(name + u"x"), Kind::File);
     }
     Journal journal;
     journal.plan = PlanRenames(list, [](const CString&) { return NameFolding::None; }).plan;
@@ -357,18 +357,18 @@ TEST(JournalText, RefusesNamesThatLeaveTheirFolder)
                              CString(std::u16string_view(u"x\0y", 3))};
     for (const CString& name : names) {
         Journal journal = MakeJournal();
-        journal.plan.entries[0].to.name = name;
+        journal.plan.entries[0].to.name = journal.plan.texts->Keep(name);
         ExpectRefused(journal);
         journal = MakeJournal();
-        journal.plan.entries[0].from.name = name;
+        journal.plan.entries[0].from.name = journal.plan.texts->Keep(name);
         ExpectRefused(journal);
         journal = MakeJournal();
         for (PlanFolder& folder : journal.plan.folders)
             if (folder.isNew)
-                folder.place.name = name;
+                folder.place.name = journal.plan.texts->Keep(name);
         ExpectRefused(journal);
         journal = MakeJournal();
-        journal.plan.folders[0].place.name = name + u"x";
+        journal.plan.folders[0].place.name = journal.plan.texts->Keep(name + u"x");
         ExpectRefused(journal);
     }
 }
@@ -434,7 +434,7 @@ TEST(JournalText, WritesStepsThatFollowEachOtherAsARange)
 {
     RenameList list;
     for (const char16_t* name : {u"a", u"b", u"c", u"d"})
-        list.renames.push_back({Full(name), Full(CString(name) + u"x"), Kind::File});
+        list.Add(Full(name), Full(CString(name) + u"x"), Kind::File);
     Journal journal;
     journal.plan = PlanRenames(list, [](const CString&) { return NameFolding::None; }).plan;
     journal.states.resize(4);
@@ -450,8 +450,8 @@ TEST(JournalText, WritesStepsThatFollowEachOtherAsARange)
 TEST(JournalText, IsNotReadWhenItsRangesOfStepsCannotBe)
 {
     RenameList list;
-    list.renames.push_back({Full(u"a"), Full(u"b"), Kind::File});
-    list.renames.push_back({Full(u"c"), Full(u"d"), Kind::File});
+    list.Add(Full(u"a"), Full(u"b"), Kind::File);
+    list.Add(Full(u"c"), Full(u"d"), Kind::File);
     Journal journal;
     journal.plan = PlanRenames(list, [](const CString&) { return NameFolding::None; }).plan;
     journal.states.resize(2);
@@ -483,7 +483,7 @@ TEST(JournalText, ComesInPiecesThatMakeTheWhole)
     for (int index = 0; index < 5000; ++index) {
         CString name;
         name.Format(u"%d", index);
-        list.renames.push_back({Full(name), Full(name + u"x"), Kind::File});
+        list.Add(Full(name), Full(name + u"x"), Kind::File);
     }
     Journal journal;
     journal.plan = PlanRenames(list, [](const CString&) { return NameFolding::None; }).plan;

@@ -57,7 +57,7 @@ RenameList ListOf(const std::vector<Rename>& renames, const std::vector<std::str
 {
     RenameList list;
     for (const Rename& rename : renames)
-        list.renames.push_back({Full(rename.from), Full(rename.to), rename.kind});
+        list.Add(Full(rename.from), Full(rename.to), rename.kind);
     for (const std::string& folder : newFolders)
         list.newFolders.push_back(Full(folder));
     return list;
@@ -134,10 +134,10 @@ private:
     std::map<std::pair<int, std::string>, int> m_ids;
 };
 
-std::string Text(const CString& name)
+std::string Text(std::u16string_view name)
 {
     std::string text;
-    for (const char16_t unit : name.View())
+    for (const char16_t unit : name)
         text += static_cast<char>(unit);
     return text;
 }
@@ -209,24 +209,27 @@ using testing::ElementsAre;
 
 TEST(PlannedPath, IsCutBehindTheLastSeparator)
 {
+    NameStore texts;
     const CString path = Full("/folder/inner/name.jpg");
-    const PlannedPath cut(path);
+    const PlannedPath cut = Cut(path, texts);
     EXPECT_EQ(cut.folder, Full("/folder/inner/"));
-    EXPECT_EQ(cut.name, u"name.jpg");
+    EXPECT_EQ(cut.name.View(), u"name.jpg");
     EXPECT_EQ(cut.Path(), path);
 }
 
 TEST(PlannedPath, WithoutASeparatorIsAllName)
 {
-    EXPECT_TRUE(PlannedPath(u"name").folder.IsEmpty());
-    EXPECT_EQ(PlannedPath(u"name").name, u"name");
-    EXPECT_TRUE(PlannedPath(CString()).Path().IsEmpty());
+    NameStore texts;
+    EXPECT_TRUE(Cut(u"name", texts).folder.IsEmpty());
+    EXPECT_EQ(Cut(u"name", texts).name.View(), u"name");
+    EXPECT_TRUE(Cut(CString(), texts).Path().IsEmpty());
 }
 
 TEST(PlannedPath, CanEndInASeparator)
 {
-    EXPECT_EQ(PlannedPath(Full("/folder/")).folder, Full("/folder/"));
-    EXPECT_TRUE(PlannedPath(Full("/folder/")).name.IsEmpty());
+    NameStore texts;
+    EXPECT_EQ(Cut(Full("/folder/"), texts).folder, Full("/folder/"));
+    EXPECT_TRUE(Cut(Full("/folder/"), texts).name.IsEmpty());
 }
 
 TEST(Planner, KeepsIndependentRenamesInTheOrderOfTheList)
@@ -278,7 +281,7 @@ TEST(Planner, ChangesCaseInTwoStepsWhereThatIsOneName)
 TEST(Planner, ChangesTheNormalFormInTwoStepsWhereThatIsOneName)
 {
     RenameList list;
-    list.renames.push_back({Full("/") + u"\u00E9", Full("/") + u"e\u0301", Kind::File});
+    list.Add(Full("/") + u"\u00E9", Full("/") + u"e\u0301", Kind::File);
     const auto foldingForm = [](const CString&) {
         return NameFolding::Form;
     };
@@ -354,10 +357,10 @@ TEST(Planner, RefusesPathsThatNameNoEntry)
     EXPECT_THAT(RefusedIndexes(ListOf({{"/a", "/.."}, {"/b", "/d/"}, {"/d/.", "/c"}, {"/e", "/e"}, {"/f", "/g"}})),
                 ElementsAre(0, 1, 2, 3));
     RenameList list;
-    list.renames.push_back({CString(u"relative"), Full("/x"), Kind::File});
-    list.renames.push_back({Full("/y"), CString(u""), Kind::File});
-    list.renames.push_back({Full("/y"), Full("/") + CString(std::u16string_view(u"a\0b", 3)), Kind::File});
-    list.renames.push_back({Full("/z"), Full("/") + CString(u'z', 40'000), Kind::File});
+    list.Add(CString(u"relative"), Full("/x"), Kind::File);
+    list.Add(Full("/y"), CString(u""), Kind::File);
+    list.Add(Full("/y"), Full("/") + CString(std::u16string_view(u"a\0b", 3)), Kind::File);
+    list.Add(Full("/z"), Full("/") + CString(u'z', 40'000), Kind::File);
     EXPECT_THAT(RefusedIndexes(list), ElementsAre(0, 1, 2, 3));
 }
 
@@ -397,7 +400,7 @@ TEST(Planner, PlansAChainOfAHundredThousand)
 {
     RenameList list;
     for (int index = 0; index < 100'000; ++index)
-        list.renames.push_back({Full("/" + std::to_string(index)), Full("/" + std::to_string(index + 1)), Kind::File});
+        list.Add(Full("/" + std::to_string(index)), Full("/" + std::to_string(index + 1)), Kind::File);
     const PlannerResult result = PlanRenames(list, Exact);
     ASSERT_EQ(result.plan.steps.size(), 100'000u);
     for (PlanIndex step = 0; step < 100'000; ++step)
@@ -473,7 +476,7 @@ private:
         std::set<int> leaving;
         for (const std::size_t index : result.indexes)
             leaving.insert(m_tree.Find(Slashed(list.renames[index].from.Path())));
-        const auto isInTheWay = [&](PlanIndex folder, const CString& name) {
+        const auto isInTheWay = [&](PlanIndex folder, std::u16string_view name) {
             const int folderId =
                 result.plan.folders[folder].isNew ? -1 : m_tree.Find(Slashed(PathBefore(result.plan, folder)));
             const int there = folderId < 0 ? -1 : m_tree.FindIn(folderId, Text(name));

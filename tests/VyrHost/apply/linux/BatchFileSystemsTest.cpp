@@ -100,8 +100,8 @@ TEST(BatchesOnLinux, NeverCrossFileSystems)
     BatchScene scene;
     scene.Write(u"a");
     scene.Write(u"b");
-    scene.list.renames.push_back({scene.Path(u"a"), other.Path(u"a"), VyrPlatform::FileSystem::Kind::File});
-    scene.list.renames.push_back({scene.Path(u"b"), scene.Path(u"a"), VyrPlatform::FileSystem::Kind::File});
+    scene.list.Add(scene.Path(u"a"), other.Path(u"a"), VyrPlatform::FileSystem::Kind::File);
+    scene.list.Add(scene.Path(u"b"), scene.Path(u"a"), VyrPlatform::FileSystem::Kind::File);
     EXPECT_EQ(scene.Apply().refused, 2u);
     EXPECT_GE(scene.results[0].reason.Find(u"another file system"), 0);
     EXPECT_EQ(scene.Now(), (Tree{{"a", "a"}, {"b", "b"}}));
