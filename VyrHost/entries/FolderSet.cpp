@@ -2,22 +2,21 @@
 #include <VyrHost/entries/FolderSet.h>
 
 #include <VyrHost/entries/NaturalOrder.h>
+#include <VyrHost/entries/Prefetch.h>
 #include <VyrPlatform/FolderListing.h>
 
-#include <numeric>
 #include <vector>
 
 namespace VyrHost {
 
 namespace {
 
-std::vector<std::uint32_t> OrderOf(const std::deque<NameRecord>& records)
+struct Listed
 {
-    std::vector<std::uint32_t> order(records.size());
-    std::iota(order.begin(), order.end(), 0);
-    SortNaturally(order, [&records](std::uint32_t index) { return records[index].name; });
-    return order;
-}
+    KeptName name;
+    VyrPlatform::FileSystem::Kind kind;
+    bool isLink;
+};
 
 } // namespace
 
@@ -48,17 +47,26 @@ std::uint32_t FolderSet::Find(const CString& path)
 void FolderSet::List(Folder& folder)
 {
     NameStore texts;
-    std::deque<NameRecord> listed;
+    std::vector<Listed> listed;
     VyrPlatform::FolderListing listing(folder.path);
     while (listing.Next())
-        listed.push_back({.name = texts.Keep(listing.Name()), .kind = listing.Kind(), .isLink = listing.IsLink()});
+        listed.push_back({texts.Keep(listing.Name()), listing.Kind(), listing.IsLink()});
     folder.error = listing.Error();
     folder.exists = folder.error == 0;
     folder.names.SetFolding(VyrPlatform::GetNameFolding(folder.path));
     folder.names.Reserve(listed.size());
     // Whoever goes through them in this order finds the texts side by side.
-    for (const std::uint32_t index : OrderOf(listed)) {
-        NameRecord& record = folder.names.Add(m_texts->Keep(listed[index].name));
+    SortNaturally(listed);
+    for (std::size_t index = 0; index < listed.size(); ++index) {
+        if (index + PrefetchDistance < listed.size())
+            listed[index + PrefetchDistance].name.Expect();
+        Listed& one = listed[index];
+        one.name = m_texts->Keep(one.name);
+    }
+    for (std::size_t index = 0; index < listed.size(); ++index) {
+        if (index + PrefetchDistance < listed.size())
+            folder.names.Expect(listed[index + PrefetchDistance].name);
+        NameRecord& record = folder.names.Add(listed[index].name);
         record.kind = listed[index].kind;
         record.isLink = listed[index].isLink;
     }

@@ -2,6 +2,8 @@
 /// Keeps the names of a million entries without an allocation for each.
 #pragma once
 
+#include <VyrHost/entries/Prefetch.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -26,6 +28,8 @@ public:
     }
     operator std::u16string_view() const noexcept { return View(); }
     [[nodiscard]] bool IsEmpty() const noexcept { return View().empty(); }
+    /// Says that the text will soon be read.
+    void Expect() const noexcept { Prefetch(m_text); }
 
     /// By the texts.
     friend bool operator==(KeptName left, KeptName right) noexcept { return left.View() == right.View(); }

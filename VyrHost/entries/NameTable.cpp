@@ -1,6 +1,8 @@
 // A hash table with open addressing over the names of one folder.
 #include <VyrHost/entries/NameTable.h>
 
+#include <VyrHost/entries/Prefetch.h>
+
 #include <algorithm>
 #include <bit>
 #include <functional>
@@ -69,6 +71,13 @@ NameRecord& NameTable::Add(KeptName name)
         slot = {key.hash, static_cast<std::uint32_t>(m_records.size())};
     }
     return m_records[slot.number - 1];
+}
+
+void NameTable::Expect(std::u16string_view name) const
+{
+    // To fold a name twice would cost more than is won.
+    if (m_folding == NameFolding::None && !m_slots.empty())
+        Prefetch(&m_slots[HashOf(name) & (m_slots.size() - 1)]);
 }
 
 void NameTable::Reserve(std::size_t count)

@@ -46,6 +46,8 @@ public:
     [[nodiscard]] const NameRecord* Find(std::u16string_view name) const;
     /// The record of `name`, added when there is none. The text of `name` must outlive the table.
     NameRecord& Add(KeptName name);
+    /// Says that `name` will soon be looked for or added, which is quicker then.
+    void Expect(std::u16string_view name) const;
     /// Makes room for `count` names.
     void Reserve(std::size_t count);
 

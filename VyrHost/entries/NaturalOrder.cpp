@@ -139,16 +139,6 @@ private:
     int m_free = 8;
 };
 
-/// How much all names begin with in common, as CommonLength counts it.
-std::size_t CommonLength(const std::vector<std::uint32_t>& indexes, const NameOfIndex& nameOf)
-{
-    const std::u16string_view first = nameOf(indexes.front());
-    std::size_t length = first.size();
-    for (std::size_t place = 1; place < indexes.size() && length > 0; ++place)
-        length = CommonLength(first.substr(0, length), nameOf(indexes[place]));
-    return length;
-}
-
 } // namespace
 
 bool IsNaturallyLess(std::u16string_view left, std::u16string_view right)
@@ -160,24 +150,20 @@ bool IsNaturallyLess(std::u16string_view left, std::u16string_view right)
     return order != 0 ? order < 0 : left < right;
 }
 
-void SortNaturally(std::vector<std::uint32_t>& indexes, const NameOfIndex& nameOf)
+void NaturalKeys::Take(std::u16string_view name)
 {
-    struct Keyed
-    {
-        std::uint64_t key;
-        std::uint32_t index;
-    };
-    if (indexes.empty())
+    if (m_hasFirst) {
+        m_common = CommonLength(m_first.substr(0, m_common), name);
         return;
-    const std::size_t common = CommonLength(indexes, nameOf);
-    std::vector<Keyed> keyed;
-    keyed.reserve(indexes.size());
-    for (const std::uint32_t index : indexes)
-        keyed.push_back({KeyBuilder::KeyOf(nameOf(index).substr(common)), index});
-    std::sort(keyed.begin(), keyed.end(), [&nameOf](const Keyed& left, const Keyed& right) {
-        return left.key != right.key ? left.key < right.key : IsNaturallyLess(nameOf(left.index), nameOf(right.index));
-    });
-    std::transform(keyed.begin(), keyed.end(), indexes.begin(), [](const Keyed& one) { return one.index; });
+    }
+    m_hasFirst = true;
+    m_first = name;
+    m_common = name.size();
+}
+
+std::uint64_t NaturalKeys::KeyOf(std::u16string_view name) const
+{
+    return KeyBuilder::KeyOf(name.substr(m_common));
 }
 
 } // namespace VyrHost

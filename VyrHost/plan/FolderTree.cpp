@@ -47,10 +47,9 @@ std::optional<Place> FolderTree::PlaceOf(const PlannedPath& path)
 
 Place FolderTree::SlotOf(const Place& place)
 {
-    const VyrPlatform::NameFolding folding = m_foldings[place.folder];
-    if (folding == VyrPlatform::NameFolding::None)
+    if (TakesNamesAsTheyAre(place.folder))
         return place;
-    return {place.folder, m_foldedNames.Keep(VyrPlatform::FoldName(place.name.View(), folding))};
+    return {place.folder, m_foldedNames.Keep(VyrPlatform::FoldName(place.name.View(), m_foldings[place.folder]))};
 }
 
 PlanIndex FolderTree::Collect(const Place& place, std::u16string_view path)

@@ -24,6 +24,11 @@ public:
     [[nodiscard]] std::optional<Place> PlaceOf(const PlannedPath& path);
     /// `place` as its file system sees it: its name is folded. Good for the life of the tree.
     [[nodiscard]] Place SlotOf(const Place& place);
+    /// Whether nothing is folded in `folder`.
+    [[nodiscard]] bool TakesNamesAsTheyAre(PlanIndex folder) const
+    {
+        return m_foldings[folder] == VyrPlatform::NameFolding::None;
+    }
     /// The folder at `slot`; `none` when no path has named it.
     [[nodiscard]] PlanIndex FolderAt(const Place& slot) const
     {

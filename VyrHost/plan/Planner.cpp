@@ -1,6 +1,7 @@
 // Turns paths into places, finds out who waits for whom, refuses what cannot be done, and has the rest ordered.
 #include <VyrHost/plan/Planner.h>
 
+#include <VyrHost/entries/Prefetch.h>
 #include <VyrHost/plan/FolderTree.h>
 #include <VyrHost/plan/StepOrder.h>
 
@@ -64,11 +65,13 @@ private:
     void FindWhoStandsWhere()
     {
         for (PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
+            Expect(entry + PrefetchDistance, &PlanEntry::from);
             const Place& from = m_draft.entries[entry].from;
             if (from.folder != none && m_occupants.Put(m_tree.SlotOf(from), {.before = entry}).before != entry)
                 Refuse(entry, u"the path stands in the list twice");
         }
         for (PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
+            Expect(entry + PrefetchDistance, &PlanEntry::to);
             if (IsRefused(entry))
                 continue;
             PlanEntry& rename = m_draft.entries[entry];
@@ -79,6 +82,15 @@ private:
                 occupants.after = entry;
             rename.waitsFor = occupants.before;
         }
+    }
+
+    void Expect(std::size_t entry, Place PlanEntry::*end) const
+    {
+        if (entry >= m_draft.entries.size())
+            return;
+        const Place& place = m_draft.entries[entry].*end;
+        if (place.folder != none && m_tree.TakesNamesAsTheyAre(place.folder))
+            m_occupants.Expect(place);
     }
 
     /// Tells the folders that the batch renames and makes from those that stay.

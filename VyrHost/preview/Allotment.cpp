@@ -1,6 +1,7 @@
 // Gives names out in the order of the list, and takes one back when an entry has to stay.
 #include <VyrHost/preview/Allotment.h>
 
+#include <VyrHost/entries/Prefetch.h>
 #include <VyrHost/preview/NameJudge.h>
 #include <VyrHost/preview/NumberedName.h>
 
@@ -29,9 +30,12 @@ public:
                 continue;
             HoldOwnName(entry);
         }
-        for (std::size_t group = 0; group < m_groups.Count(); ++group)
+        for (std::size_t group = 0; group < m_groups.Count(); ++group) {
+            if (group + PrefetchDistance < m_groups.Count())
+                ExpectWishes(group + PrefetchDistance);
             if (IsToSettle(group))
                 Place(static_cast<std::uint32_t>(group));
+        }
     }
 
 private:
@@ -46,6 +50,12 @@ private:
         const auto members = m_groups.Members(group);
         return std::any_of(members.begin(), members.end(),
                            [this](std::uint32_t entry) { return m_decisions[entry].IsRename(); });
+    }
+
+    void ExpectWishes(std::size_t group)
+    {
+        for (const std::uint32_t entry : m_groups.Members(group))
+            Names(entry).Expect(m_decisions[entry].name);
     }
 
     void Place(std::uint32_t group)

@@ -44,6 +44,12 @@ TEST(NaturalOrder, IsAStrictOrder)
             EXPECT_FALSE(IsNaturallyLess(names[right], names[left]));
 }
 
+struct Named
+{
+    Named(std::u16string_view text) : name(text) {}
+    std::u16string_view name;
+};
+
 TEST(NaturalOrder, SortsAsTheOrderSaysWhateverNamesBeginWith)
 {
     constexpr char16_t Units[] = {u'0', u'0', u'1', u'2', u'9', u'a', u'A', u'b', u'-', u':', u'.', u'é', u'日', u'z'};
@@ -59,15 +65,14 @@ TEST(NaturalOrder, SortsAsTheOrderSaysWhateverNamesBeginWith)
         }
         names.push_back(start + std::u16string(300, u'7'));
         names.push_back(start + std::u16string(299, u'8'));
-        std::vector<std::uint32_t> indexes(names.size());
-        std::iota(indexes.begin(), indexes.end(), 0U);
-        VyrHost::SortNaturally(indexes, [&names](std::uint32_t index) { return std::u16string_view(names[index]); });
+        std::vector<Named> sorted(names.begin(), names.end());
+        VyrHost::SortNaturally(sorted);
         std::vector<std::u16string> expected = names;
         std::sort(expected.begin(), expected.end(), IsNaturallyLess);
         for (std::size_t place = 0; place < names.size(); ++place)
-            ASSERT_EQ(names[indexes[place]], expected[place]);
+            ASSERT_EQ(sorted[place].name, expected[place]);
     }
-    std::vector<std::uint32_t> none;
-    VyrHost::SortNaturally(none, [](std::uint32_t) { return std::u16string_view(); });
+    std::vector<Named> none;
+    VyrHost::SortNaturally(none);
     EXPECT_TRUE(none.empty());
 }
