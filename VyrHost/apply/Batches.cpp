@@ -3,7 +3,6 @@
 
 #include <VyrHost/apply/BatchWork.h>
 #include <VyrHost/files/ErrorText.h>
-#include <VyrHost/files/Looker.h>
 #include <VyrHost/plan/Planner.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
@@ -41,16 +40,6 @@ CString NowAsText()
     text.Format(u"%04d/%02d/%02d %02d:%02d:%02d", now.GetYear(), now.GetMonth(), now.GetDay(), now.GetHour(),
                 now.GetMinute(), now.GetSecond());
     return text;
-}
-
-std::vector<FileState> LookAtSources(const RenameList& list, FileOperations& files)
-{
-    Looker looker(files);
-    std::vector<FileState> states;
-    states.reserve(list.renames.size());
-    for (const PlannedRename& rename : list.renames)
-        states.push_back(looker.Look(rename.from.folder, rename.from.name));
-    return states;
 }
 
 /// The states at `indexes`, which rise.
@@ -162,8 +151,8 @@ Batches::Batches() : Batches(SystemFiles(), FindJournalFolder()) {}
 Batches::Batches(FileOperations& files, const CString& journalFolder) : m_files(&files), m_journalFolder(journalFolder)
 {}
 
-BatchSummary Batches::Apply(const RenameList& list, const RenameReport& report, const StopRequest& isStopAsked,
-                            const SourceStates& states)
+BatchSummary Batches::Apply(const RenameList& list, const SourceStates& states, const RenameReport& report,
+                            const StopRequest& isStopAsked)
 {
     BatchSummary summary;
     JournalFolder folder(*m_files, m_journalFolder);
@@ -177,7 +166,7 @@ BatchSummary Batches::Apply(const RenameList& list, const RenameReport& report, 
     PlannerResult planned = PlanRenames(list, [this](const CString& path) { return m_files->GetNameFolding(path); });
     Journal journal;
     journal.plan = std::move(planned.plan);
-    journal.states = Pick(states ? states() : LookAtSources(list, *m_files), planned.indexes);
+    journal.states = Pick(states(), planned.indexes);
     journal.heading.token = MakeToken();
     journal.heading.started = NowAsText();
     journal.heading.entries = journal.plan.entries.size();

@@ -137,12 +137,12 @@ public:
     /// For tests: acts through `files` and keeps the journals in `journalFolder`.
     Batches(FileOperations& files, const CString& journalFolder);
 
-    /// Does `list`: journal on disk first, nothing ever overwritten, afterwards a look at the folders
-    /// that do not tell every two names apart. `report` is
-    /// called once for each rename, unless the summary's error says that nothing was begun. `states` is called once the
-    /// plan is made; without it the files are looked at then.
-    BatchSummary Apply(const RenameList& list, const RenameReport& report, const StopRequest& isStopAsked,
-                       const SourceStates& states = {});
+    /// Does `list`: journal on disk first, nothing ever overwritten, afterwards a look at the folders that do not tell
+    /// every two names apart.
+    /// @param states  called once the plan is made.
+    /// @param report  called once for each rename, unless the summary's error says that nothing was begun.
+    BatchSummary Apply(const RenameList& list, const SourceStates& states, const RenameReport& report,
+                       const StopRequest& isStopAsked);
 
     /// The batches in the journal, the latest first.
     [[nodiscard]] std::vector<BatchInformation> List() const;

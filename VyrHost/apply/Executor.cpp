@@ -1,6 +1,7 @@
 // Goes through the steps of a plan, group by group.
 #include <VyrHost/apply/Executor.h>
 
+#include <VyrHost/entries/Prefetch.h>
 #include <VyrHost/files/ErrorText.h>
 
 #include <VyrPlatform/RenameFile.h>
@@ -23,8 +24,7 @@ Direction Opposite(Direction direction)
 
 Executor::Executor(const RenamePlan& plan, PlanProgress& progress, FileOperations& files)
     : m_plan(plan), m_progress(progress), m_folders(progress, files), m_goesAside(plan.entries.size()),
-      m_isLeftAlone(plan.entries.size()), m_successors(plan.entries.size(), none),
-      m_folderErrors(plan.folders.size())
+      m_isLeftAlone(plan.entries.size()), m_successors(plan.entries.size(), none), m_folderErrors(plan.folders.size())
 {
     for (PlanIndex entry = 0; entry < plan.entries.size(); ++entry)
         if (plan.entries[entry].waitsFor != none)
@@ -54,7 +54,8 @@ bool Executor::Run(Direction direction, const Report& report, const StopRequest&
 {
     bool isStopped = false;
     for (std::size_t index = 0; index < m_groups.size(); ++index) {
-        const Group& group = m_groups[direction == Direction::Forward ? index : m_groups.size() - 1 - index];
+        ExpectAfter(index, direction);
+        const Group& group = GroupAt(index, direction);
         if (!isStopped && HasWork(group, direction)) {
             isStopped = isStopAsked();
             if (!isStopped)
@@ -65,6 +66,21 @@ bool Executor::Run(Direction direction, const Report& report, const StopRequest&
     if (direction == Direction::Forward)
         RemoveFoldersWithoutUse();
     return !isStopped;
+}
+
+/// The call of the system for a rename takes so long that what the next ones need can come from memory meanwhile.
+void Executor::ExpectAfter(std::size_t index, Direction direction) const
+{
+    if (index + 2 >= m_groups.size())
+        return;
+    const PlanStep& next = m_plan.steps[GroupAt(index + 1, direction).first];
+    const PlanStep& second = m_plan.steps[GroupAt(index + 2, direction).first];
+    if (next.action != Action::MakeFolder) {
+        m_plan.entries[next.subject].from.name.Expect();
+        m_plan.entries[next.subject].to.name.Expect();
+    }
+    if (second.action != Action::MakeFolder)
+        Prefetch(&m_plan.entries[second.subject]);
 }
 
 bool Executor::HasWork(const Group& group, Direction direction) const

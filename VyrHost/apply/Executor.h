@@ -58,6 +58,12 @@ private:
     };
 
     void FindGroups();
+    /// The group that comes as the one with the number `index` in `direction`.
+    [[nodiscard]] const Group& GroupAt(std::size_t index, Direction direction) const
+    {
+        return m_groups[direction == Direction::Forward ? index : m_groups.size() - 1 - index];
+    }
+    void ExpectAfter(std::size_t index, Direction direction) const;
     [[nodiscard]] bool IsToDo(const PlanStep& step, Direction direction) const;
     [[nodiscard]] bool HasWork(const Group& group, Direction direction) const;
     void RunGroup(const Group& group, Direction direction);

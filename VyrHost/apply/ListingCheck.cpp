@@ -23,9 +23,7 @@ public:
                 m_isExact[place.folder] = IsExact(place.folder);
             m_isWanted[place.folder] = true;
         });
-        ForEachEntry([this](PlanIndex entry, const Place& place) {
-            m_expected.Put(place, entry);
-        });
+        ForEachEntry([this](PlanIndex entry, const Place& place) { m_expected.Put(place, entry); });
         std::vector<bool> isListed(m_plan.folders.size());
         for (PlanIndex folder = 0; folder < m_plan.folders.size(); ++folder)
             isListed[folder] = m_isWanted[folder] && !m_isExact[folder] && List(folder);

@@ -222,8 +222,9 @@ private:
             Note(planned.entries[index], result);
             progress.Show(++done);
         };
-        m_summary = batches.Apply(planned.list, report, VyrPlatform::Interrupt::WasAsked,
-                                  [this, &planned] { return m_looks->Take(planned.entries); });
+        m_summary = batches.Apply(
+            planned.list, [this, &planned] { return m_looks->Take(planned.entries); }, report,
+            VyrPlatform::Interrupt::WasAsked);
         progress.Close();
         return JudgeSummary(m_summary);
     }

@@ -23,7 +23,8 @@ public:
     {
         return m_folder.RenameNoReplace(name, static_cast<SystemFolder&>(target).m_folder, newName);
     }
-    std::uint32_t DropSecondName(std::u16string_view name, FolderOperations& kept, std::u16string_view keptName) override
+    std::uint32_t DropSecondName(std::u16string_view name, FolderOperations& kept,
+                                 std::u16string_view keptName) override
     {
         return m_folder.DropSecondName(name, static_cast<SystemFolder&>(kept).m_folder, keptName);
     }

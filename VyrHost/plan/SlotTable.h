@@ -46,10 +46,7 @@ public:
     }
 
     /// Says that `slot` will soon be looked for or put, which is quicker then.
-    void Expect(const Place& slot) const
-    {
-        Prefetch(&m_buckets[StartOf(HashOf(slot.folder, slot.name))]);
-    }
+    void Expect(const Place& slot) const { Prefetch(&m_buckets[StartOf(HashOf(slot.folder, slot.name))]); }
 
     /// Makes room for `count` places.
     void Reserve(std::size_t count)

@@ -15,8 +15,7 @@ constexpr std::size_t nowhere = ~std::size_t{0};
 
 } // namespace
 
-SourceLooks::SourceLooks(const EntryList& list, FileOperations& files)
-    : m_list(list), m_files(files)
+SourceLooks::SourceLooks(const EntryList& list, FileOperations& files) : m_list(list), m_files(files)
 {
     for (std::uint32_t folder = 0; folder < list.folders.Count(); ++folder)
         m_folders.emplace_back(list.folders[folder].path.View());

@@ -102,13 +102,15 @@ FileState OpenFolder::Look(std::u16string_view name) const
     return LookAtFile(static_cast<int>(m_handle), NativePath(name).Get());
 }
 
-std::uint32_t OpenFolder::RenameNoReplace(std::u16string_view name, const OpenFolder& target, std::u16string_view newName) const
+std::uint32_t OpenFolder::RenameNoReplace(std::u16string_view name, const OpenFolder& target,
+                                          std::u16string_view newName) const
 {
     return Rename({static_cast<int>(m_handle), NativePath(name).Get()},
                   {static_cast<int>(target.m_handle), NativePath(newName).Get()});
 }
 
-std::uint32_t OpenFolder::DropSecondName(std::u16string_view name, const OpenFolder& kept, std::u16string_view keptName) const
+std::uint32_t OpenFolder::DropSecondName(std::u16string_view name, const OpenFolder& kept,
+                                         std::u16string_view keptName) const
 {
     const NativePath second(name);
     const FileState dropped = LookAtFile(static_cast<int>(m_handle), second.Get());

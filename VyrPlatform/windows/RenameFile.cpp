@@ -73,7 +73,8 @@ FileState OpenFolder::Look(std::u16string_view name) const
     return LookAtFile(PathOf(m_path, name));
 }
 
-std::uint32_t OpenFolder::RenameNoReplace(std::u16string_view name, const OpenFolder& target, std::u16string_view newName) const
+std::uint32_t OpenFolder::RenameNoReplace(std::u16string_view name, const OpenFolder& target,
+                                          std::u16string_view newName) const
 {
     return Rename(PathOf(m_path, name), PathOf(target.m_path, newName));
 }

@@ -2,6 +2,7 @@
 #include <tests/VyrHost/apply/BatchScene.h>
 
 #include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/RenameFile.h>
 
 #include <tests/support/StdPath.h>
 
@@ -95,7 +96,7 @@ BatchSummary BatchScene::Apply(const StopRequest& isStopAsked)
     results.assign(list.renames.size(), {});
     std::vector<int> calls(list.renames.size());
     BatchSummary summary = batches.Apply(
-        list,
+        list, [this] { return LookAtSources(); },
         [&](std::size_t index, const RenameResult& result) {
             results[index] = result;
             ++calls[index];
@@ -107,6 +108,20 @@ BatchSummary BatchScene::Apply(const StopRequest& isStopAsked)
     EXPECT_EQ(summary.done + summary.failed + summary.refused + summary.notReached, list.renames.size());
     EXPECT_TRUE(summary.missing.empty());
     return summary;
+}
+
+std::vector<VyrPlatform::FileState> BatchScene::LookAtSources() const
+{
+    std::vector<VyrPlatform::FileState> states;
+    for (const PlannedRename& rename : list.renames) {
+        const VyrPlatform::OpenFolder folder(rename.from.folder);
+        VyrPlatform::FileState& state = states.emplace_back();
+        if (folder.IsOpen())
+            state = folder.Look(rename.from.name);
+        else
+            state.error = folder.Error();
+    }
+    return states;
 }
 
 BatchSummary BatchScene::TakeBack(std::optional<std::uint32_t> number, const StopRequest& isStopAsked)

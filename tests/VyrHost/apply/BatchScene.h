@@ -38,6 +38,8 @@ public:
     BatchScene& RenameFolder(std::u16string_view from, std::u16string_view to);
     BatchScene& NewFolder(std::u16string_view name);
 
+    /// What stands at the old path of each rename of the list.
+    [[nodiscard]] std::vector<VyrPlatform::FileState> LookAtSources() const;
     /// Applies the list; the results stand in `results`.
     VyrHost::BatchSummary Apply(const VyrHost::StopRequest& isStopAsked = {});
     VyrHost::BatchSummary TakeBack(std::optional<std::uint32_t> number = {},

@@ -24,7 +24,8 @@ public:
         return m_files.Change({FileChange::Kind::Rename, name, newName},
                               [&] { return m_folder->Rename(name, Inner(target), newName); });
     }
-    std::uint32_t DropSecondName(std::u16string_view name, FolderOperations& kept, std::u16string_view keptName) override
+    std::uint32_t DropSecondName(std::u16string_view name, FolderOperations& kept,
+                                 std::u16string_view keptName) override
     {
         return m_files.Change({FileChange::Kind::DropSecondName, name, keptName},
                               [&] { return m_folder->DropSecondName(name, Inner(kept), keptName); });

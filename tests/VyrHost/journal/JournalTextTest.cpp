@@ -458,8 +458,9 @@ TEST(JournalText, IsNotReadWhenItsRangesOfStepsCannotBe)
     const std::string text = TextOf(journal);
     CString problem;
     EXPECT_TRUE(ReadJournal(WithSteps(text, "steps\tr0-1"), problem));
-    for (const char* line : {"steps\tr1-0", "steps\tr0-2", "steps\tr0-1\tr1", "steps\tr0-", "steps\tr-1", "steps\tr0-1-1",
-                             "steps\t0-1", "steps\tr0-4294967295", "steps\tr0-4294967296", "steps\tr0"}) {
+    for (const char* line :
+         {"steps\tr1-0", "steps\tr0-2", "steps\tr0-1\tr1", "steps\tr0-", "steps\tr-1", "steps\tr0-1-1", "steps\t0-1",
+          "steps\tr0-4294967295", "steps\tr0-4294967296", "steps\tr0"}) {
         problem = {};
         EXPECT_FALSE(ReadJournal(WithSteps(text, line), problem)) << line;
         EXPECT_FALSE(problem.IsEmpty()) << line;
