@@ -62,10 +62,9 @@ std::string TextOf(const Journal& journal, std::uint32_t& check)
     return text;
 }
 
-bool IsPart(const CString& name)
+bool IsPart(std::u16string_view name)
 {
-    const std::u16string_view view = name;
-    return !view.empty() && view != u"." && view != u".." && std::none_of(view.begin(), view.end(), [](char16_t unit) {
+    return !name.empty() && name != u"." && name != u".." && std::none_of(name.begin(), name.end(), [](char16_t unit) {
         return unit == 0 || VyrPlatform::FileSystem::IsSeparator(unit);
     });
 }
