@@ -25,7 +25,8 @@ struct FolderTraits
     std::vector<std::pair<std::string, std::string>> extended;
 };
 
-/// The traits of the folder at `path`; nothing where there is none that may be read.
+/// The traits of the folder at `path`; nothing where there is none. On Linux those of a folder that may not
+/// be read, too, without the extended attributes that are kept from the user with it.
 [[nodiscard]] VYR_PLATFORM_API std::optional<FolderTraits> GetFolderTraits(const CString& path);
 
 /// Gives the folder at `path` the owner and the extended attributes of `traits`. What the user may not give, or the

@@ -42,6 +42,24 @@ bool IsPlain(std::u16string_view path, std::u16string_view name)
     return !name.empty() && name != u"." && name != u".." && !mayHaveDrive;
 }
 
+std::u16string_view LastStep(std::u16string_view path)
+{
+    const std::u16string_view step = path.substr(FolderPart(path).size());
+    const std::size_t drive = IsSeparator(u'\\') ? step.find(u':') : std::u16string_view::npos;
+    return drive == std::u16string_view::npos ? step : step.substr(drive + 1);
+}
+
+/// Whether `path` ends in a step to the folder above: it names no entry, though Windows would resolve it to one.
+bool LeadsUp(std::u16string_view path)
+{
+    std::u16string_view step = LastStep(path);
+    while (!path.empty() && (step.empty() || step == u".")) {
+        path.remove_suffix(std::max<std::size_t>(step.size(), 1));
+        step = LastStep(path);
+    }
+    return step == u"..";
+}
+
 CutPath Cut(const CString& path)
 {
     const std::u16string_view text = path;
@@ -106,7 +124,7 @@ private:
             return;
         }
         const CutPath cut = Cut(path);
-        if (cut.name.IsEmpty() || cut.name == u"..")
+        if (cut.name.IsEmpty() || LeadsUp(path))
             throw UsageError("'" + SafeText(path) +
                              "' is no name that could be changed; --recursive renames what is in a folder");
         AddNamed(OpenParent(cut.folder), cut.name, mayBePattern);

@@ -44,6 +44,23 @@ std::optional<std::string> AskForBytes(Call call)
     return bytes;
 }
 
+/// The attributes that `list` names, with the values that `get` gives for a name.
+template <class List, class Get>
+ExtendedList ReadAttributes(List list, Get get)
+{
+    ExtendedList attributes;
+    const auto names = AskForBytes(list);
+    for (std::size_t start = 0; names && start < names->size();) {
+        std::string name(names->c_str() + start);
+        start += name.size() + 1;
+        auto value =
+            AskForBytes([&get, &name](char* buffer, std::size_t size) { return get(name.c_str(), buffer, size); });
+        if (value)
+            attributes.emplace_back(std::move(name), std::move(*value));
+    }
+    return attributes;
+}
+
 } // namespace
 
 bool SetOwner(int file, uid_t owner, gid_t group) noexcept
@@ -62,17 +79,17 @@ int SetPermissions(int file, mode_t permissions, bool hasOwner) noexcept
 
 ExtendedList GetExtendedAttributes(int file)
 {
-    ExtendedList attributes;
-    const auto names = AskForBytes([file](char* buffer, std::size_t size) { return flistxattr(file, buffer, size); });
-    for (std::size_t start = 0; names && start < names->size();) {
-        std::string name(names->c_str() + start);
-        start += name.size() + 1;
-        auto value = AskForBytes(
-            [file, &name](char* buffer, std::size_t size) { return fgetxattr(file, name.c_str(), buffer, size); });
-        if (value)
-            attributes.emplace_back(std::move(name), std::move(*value));
-    }
-    return attributes;
+    return ReadAttributes(
+        [file](char* buffer, std::size_t size) { return flistxattr(file, buffer, size); },
+        [file](const char* name, char* buffer, std::size_t size) { return fgetxattr(file, name, buffer, size); });
+}
+
+ExtendedList GetExtendedAttributes(const NativePath& path)
+{
+    return ReadAttributes([&path](char* buffer, std::size_t size) { return llistxattr(path.Get(), buffer, size); },
+                          [&path](const char* name, char* buffer, std::size_t size) {
+                              return lgetxattr(path.Get(), name, buffer, size);
+                          });
 }
 
 int SetExtendedAttributes(int file, const ExtendedList& attributes)

@@ -1,6 +1,8 @@
 // What a file has besides its content: owner, extended attributes, mode, times.
 #pragma once
 
+#include "NativePath.h"
+
 #include <string>
 #include <sys/stat.h>
 #include <utility>
@@ -26,6 +28,8 @@ namespace VyrPlatform {
 using ExtendedList = std::vector<std::pair<std::string, std::string>>;
 
 [[nodiscard]] ExtendedList GetExtendedAttributes(int file);
+/// Those of what stands at `path` itself, be it a link.
+[[nodiscard]] ExtendedList GetExtendedAttributes(const NativePath& path);
 /// What the user may not set, or the file system cannot keep, is left out.
 /// @return 0, or the error code.
 [[nodiscard]] int SetExtendedAttributes(int file, const ExtendedList& attributes);

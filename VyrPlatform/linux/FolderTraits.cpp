@@ -21,14 +21,15 @@ Descriptor OpenFolder(const CString& path)
 
 std::optional<FolderTraits> GetFolderTraits(const CString& path)
 {
-    const Descriptor folder = OpenFolder(path);
+    // By path: a folder that may not be read cannot be opened, but has its traits all the same.
+    const NativePath native(path);
     struct stat status;
-    if (!folder.IsOpen() || fstat(folder.Get(), &status) != 0)
+    if (lstat(native.Get(), &status) != 0 || !S_ISDIR(status.st_mode))
         return std::nullopt;
     return FolderTraits{.mode = PermissionsOf(status),
                         .owner = status.st_uid,
                         .group = status.st_gid,
-                        .extended = GetExtendedAttributes(folder.Get())};
+                        .extended = GetExtendedAttributes(native)};
 }
 
 std::uint32_t SetFolderExtras(const CString& path, const FolderTraits& traits)

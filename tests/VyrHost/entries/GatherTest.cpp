@@ -139,13 +139,18 @@ TEST_F(Gathering, NamingAFolderTogetherWithWhatIsInItIsRefused)
 
 TEST_F(Gathering, WhatHasNoNameOfItsOwnIsRefused)
 {
-    for (const char16_t* const path : {u"..", u"/", u"a/.."}) {
+    for (const char16_t* const path : {u"", u"/", u"..", u"../", u"../.", u"./..", u"a/..", u"a/..//", u"/.."}) {
         SourceSettings settings;
         settings.paths = {path};
-        if (VyrPlatform::FileSystem::Separator() == u'\\' && std::u16string_view(path) != u"/")
-            continue; // Windows resolves these in the text.
-        EXPECT_THROW((void)Gather(settings), UsageError);
+        EXPECT_THROW((void)Gather(settings), UsageError) << testing::PrintToString(CString(path));
     }
+}
+
+TEST_F(Gathering, DotsInANameAreNoStepUp)
+{
+    for (const char16_t* const name : {u"..a", u"a..b", u"...a"})
+        m_folder.WriteFile(name);
+    EXPECT_EQ(Paths(Named({u"..a", u"./a..b", u"a/.././...a"})).size(), 3u);
 }
 
 TEST_F(Gathering, KnowsKindsAndSplitsNamesAsTheEngineDoesByAskingTheSystem)

@@ -178,6 +178,8 @@ TEST(TreeLinux, UnreadableEntriesFailAlone)
                                             Text("secret", TreeFault::System, EACCES)}));
     }
     EXPECT_EQ(SnapshotOf(scratch.Path(u"parent/to")), (TreeSnapshot{{"closed", "<folder>"}, {"open", "3"}}));
+    // What was closed is not open at its new place.
+    EXPECT_EQ(fs::status(ToStdPath(scratch.Path(u"parent/to/closed"))).permissions(), fs::perms::none);
 }
 
 TEST(TreeLinux, FoldersKeepTheirPermissions)
