@@ -10,8 +10,8 @@
 
 namespace VyrHost {
 
-/// Appends `name` as UTF-8. A backslash, a control character and a lone surrogate become a backslash, "u" and four
-/// hexadecimal digits, so that every text comes back unit by unit.
+/// Appends `name` as UTF-8. A backslash, a control character of ASCII and a lone surrogate become a backslash, "u" and
+/// four hexadecimal digits, so that every text comes back unit by unit.
 void AppendJournalName(std::string& text, std::u16string_view name);
 
 /// The name that `text` stands for; nothing when it is not as AppendJournalName writes it.

@@ -15,7 +15,8 @@
 ///
 /// Numbers are decimal; folders and entries are numbered from 0 in the order of their lines, "-" stands for none. A
 /// check is the CRC-32, in eight hexadecimal digits, of all the text before its tab; of a mark, of its own line alone,
-/// started from the check of "end". A mark is appended whenever work on the batch has ended; the last whole one counts.
+/// started from the check of "end". A mark is appended, behind an empty line, whenever work on the batch has ended; the
+/// last whole one counts.
 #pragma once
 
 #include <VyrHost/plan/RenamePlan.h>

@@ -3,21 +3,22 @@
 
 #include <VyrHost/journal/Checksum.h>
 #include <VyrHost/journal/JournalName.h>
-#include <VyrHost/plan/Planner.h>
-
 #include <VyrPlatform/FileSystem.h>
 
 #include <gmock/gmock.h>
+#include <tests/VyrHost/journal/SampleJournal.h>
 #include <tests/support/Describe.h>
 
+#include <algorithm>
+#include <cstdio>
+#include <iterator>
 #include <random>
 #include <string>
 
 namespace {
 
 using namespace VyrHost;
-using VyrPlatform::FileState;
-using VyrPlatform::NameFolding;
+using namespace VyrTests;
 using VyrPlatform::FileSystem::Kind;
 
 TEST(Checksum, IsTheUsualCrc32)
@@ -32,6 +33,18 @@ TEST(Checksum, IsTheSameInPieces)
     const std::string text = "the quick brown fox jumps over the lazy dog";
     for (std::size_t cut = 0; cut <= text.size(); ++cut)
         EXPECT_EQ(Checksum(Checksum(0, text.substr(0, cut)), text.substr(cut)), Checksum(0, text));
+}
+
+TEST(Checksum, IsWhatItsDefinitionSaysOfAnyBytes)
+{
+    std::mt19937 random(5);
+    for (std::size_t length = 0; length < 600; ++length) {
+        std::string text;
+        while (text.size() < length)
+            text += static_cast<char>(random());
+        const auto before = static_cast<std::uint32_t>(length % 3 == 0 ? 0 : random());
+        EXPECT_EQ(Checksum(before, text), BitwiseCrc(before, text)) << length;
+    }
 }
 
 std::string Written(const CString& name)
@@ -68,106 +81,137 @@ TEST(JournalName, ComesBackUnitByUnit)
     }
 }
 
+/// Whether `text` is UTF-8: each character in its shortest form, no surrogates, nothing above the last code point.
+bool IsUtf8(std::string_view text)
+{
+    for (std::size_t at = 0; at < text.size();) {
+        const auto byteAt = [&](std::size_t place) {
+            return place < text.size() ? static_cast<unsigned char>(text[place]) : 0u;
+        };
+        const unsigned lead = byteAt(at);
+        const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+        std::uint32_t point = length == 1 ? lead : lead & (0x7Fu >> length);
+        for (std::size_t place = at + 1; place < at + length; ++place) {
+            if ((byteAt(place) & 0xC0) != 0x80)
+                return false;
+            point = point << 6 | (byteAt(place) & 0x3F);
+        }
+        const std::uint32_t least[] = {0, 0, 0x80, 0x800, 0x10000};
+        if (lead >= 0xF8 || (lead >= 0x80 && lead < 0xC0) || point < least[length] || point > 0x10FFFF ||
+            (point >= 0xD800 && point <= 0xDFFF))
+            return false;
+        at += length;
+    }
+    return true;
+}
+
+TEST(JournalName, WritesEveryUnitAsItIsOrEscaped)
+{
+    for (unsigned unit = 0; unit <= 0xFFFF; ++unit) {
+        const bool isEscaped = unit < 0x20 || unit == 0x7F || unit == u'\\' || (unit >= 0xD800 && unit <= 0xDFFF);
+        const CString name = CString::Join({u"x", CString(static_cast<char16_t>(unit), 1), u"y"});
+        const std::string text = Written(name);
+        char escape[16];
+        std::snprintf(escape, sizeof(escape), "\\u%04x", unit);
+        EXPECT_EQ(text == std::string("x") + escape + "y", isEscaped) << text;
+        EXPECT_EQ(text.find('\\') != text.npos, isEscaped) << text;
+        EXPECT_TRUE(IsUtf8(text)) << unit;
+        EXPECT_EQ(ReadJournalName(text), name) << unit;
+    }
+}
+
 TEST(JournalName, RefusesBrokenEscapes)
 {
     for (const char* text : {"\\", "\\u", "\\u12", "\\x0041", "a\\u00g1", "\\u+041"})
         EXPECT_EQ(ReadJournalName(text), std::nullopt) << text;
 }
 
-CString Full(const CString& name)
+/// The root as a path, and as a journal writes it.
+CString Root()
 {
-    return (VyrPlatform::FileSystem::Separator() == u'/' ? CString(u"/") : CString(u"C:\\")) + name;
+    return Full(u"");
+}
+std::string RootText()
+{
+    return VyrPlatform::FileSystem::Separator() == u'/' ? "/" : "C:\\u005c";
+}
+std::string SeparatorText()
+{
+    return VyrPlatform::FileSystem::Separator() == u'/' ? "/" : "\\u005c";
 }
 
-CString In(const CString& folder, const CString& name)
+/// A journal written by hand: "a" goes to the new folder "n" as "b", "c" becomes "d", "d" becomes "e".
+std::string HandWrittenText()
 {
-    return CString::Join({folder, std::u16string(1, VyrPlatform::FileSystem::Separator()), name});
+    const std::string heading = "vyr-journal\t2\nbatch\t7\t18364758544493064720\t2024/05/06 07:08:09\t2\t3\t4\t" +
+                                RootText() + "a\t" + RootText() + "n" + SeparatorText() + "b";
+    return WithCheck(WithCheck(heading) + "folder\t-\to\t" + RootText() +
+                     "\nfolder\t0\tn\tn\n"
+                     "entry\tf\t1\t2\t3\t4\t5\t0\ta\t1\tb\t-\t-\n"
+                     "entry\tf\t6\t7\t8\t-9\t10\t0\tc\t0\td\t-\t2\n"
+                     "entry\tf\t11\t12\t13\t14\t15\t0\td\t0\te\t-\t-\n"
+                     "steps\tm1\tr0\tr2\tr1\nend");
 }
 
-/// A batch with all that a journal can hold.
-Journal MakeJournal()
+/// The journal of the same batch.
+Journal HandMadeJournal()
 {
     RenameList list;
-    list.Add(Full(u"a"), Full(u"b"), Kind::File);
-    list.Add(Full(u"b"), Full(u"a"), Kind::File);
-    list.Add(Full(u"folder"), Full(u"renamed"), Kind::Folder);
-    list.Add(In(Full(u"folder"), u"x"), In(Full(u"new"), CString(u'\xDC80', 2) + u"\t"), Kind::File);
-    list.Add(Full(u"case"), Full(u"CASE"), Kind::File);
-    list.newFolders.push_back(Full(u"new"));
-    const PlannerResult result = PlanRenames(list, [](const CString&) { return NameFolding::Case; });
-    EXPECT_TRUE(result.refused.empty());
-    Journal journal;
-    journal.plan = result.plan;
+    list.Add(Full(u"a"), In(Full(u"n"), u"b"), Kind::File);
+    list.Add(Full(u"c"), Full(u"d"), Kind::File);
+    list.Add(Full(u"d"), Full(u"e"), Kind::File);
+    list.newFolders.push_back(Full(u"n"));
+    Journal journal = PlannedJournal(list);
     journal.heading = {.number = 7,
                        .token = 0xFEDCBA9876543210,
                        .started = u"2024/05/06 07:08:09",
-                       .entries = result.plan.entries.size(),
-                       .firstFrom = list.renames[0].from.Path(),
-                       .firstTo = list.renames[0].to.Path()};
-    for (std::uint32_t entry = 0; entry < result.plan.entries.size(); ++entry) {
-        FileState state;
-        state.kind = entry == 1 ? Kind::Missing : entry == 2 ? Kind::Folder : entry == 4 ? Kind::Other : Kind::File;
-        state.identity = {~std::uint64_t{0} - entry, std::uint64_t{1} << 40 | entry};
-        state.size = std::int64_t{5} << 40;
-        state.modified = -1 - std::int64_t{entry};
-        state.links = entry;
-        journal.states.push_back(state);
-    }
+                       .entries = 3,
+                       .firstFrom = Full(u"a"),
+                       .firstTo = In(Full(u"n"), u"b")};
+    journal.states = {{.kind = Kind::File, .identity = {1, 2}, .size = 3, .modified = 4, .links = 5},
+                      {.kind = Kind::File, .identity = {6, 7}, .size = 8, .modified = -9, .links = 10},
+                      {.kind = Kind::File, .identity = {11, 12}, .size = 13, .modified = 14, .links = 15}};
     return journal;
 }
 
-std::string TextOf(const Journal& journal, std::uint32_t& check)
+TEST(JournalText, IsWrittenAsItsFormatSays)
 {
-    std::string text;
-    check = WriteJournal(journal, [&text](std::string_view piece) { text += piece; });
-    return text;
+    EXPECT_EQ(TextOf(HandMadeJournal()), HandWrittenText());
 }
 
-std::string TextOf(const Journal& journal)
+TEST(JournalText, IsReadAsItsFormatSays)
 {
-    std::uint32_t check = 0;
-    return TextOf(journal, check);
+    const Journal journal = MustRead(HandWrittenText());
+    ExpectSame(journal, HandMadeJournal());
+    EXPECT_EQ(journal.plan.folders[0].place.name.View(), Root().View());
+    EXPECT_EQ(journal.plan.folders[1].place.name.View(), u"n");
+    EXPECT_EQ(journal.plan.entries[0].to.name.View(), u"b");
+    EXPECT_EQ(journal.plan.entries[0].to.folder, 1u);
+    EXPECT_EQ(journal.plan.entries[1].waitsFor, 2u);
+    EXPECT_EQ(journal.states[1].modified, -9);
 }
 
-void ExpectSame(const Journal& journal, const Journal& expected)
+TEST(JournalText, ContinuesTheChecksOfMarksFromThatOfItsEnd)
 {
-    EXPECT_EQ(journal.heading.number, expected.heading.number);
-    EXPECT_EQ(journal.heading.token, expected.heading.token);
-    EXPECT_EQ(journal.heading.started, expected.heading.started);
-    EXPECT_EQ(journal.heading.entries, expected.heading.entries);
-    EXPECT_EQ(journal.heading.firstFrom, expected.heading.firstFrom);
-    EXPECT_EQ(journal.heading.firstTo, expected.heading.firstTo);
-    ASSERT_EQ(journal.plan.folders.size(), expected.plan.folders.size());
-    for (std::size_t index = 0; index < journal.plan.folders.size(); ++index) {
-        const PlanFolder& folder = journal.plan.folders[index];
-        EXPECT_EQ(folder.place, expected.plan.folders[index].place);
-        EXPECT_EQ(folder.isNew, expected.plan.folders[index].isNew);
-        EXPECT_EQ(folder.entry, expected.plan.folders[index].entry);
-    }
-    ASSERT_EQ(journal.plan.entries.size(), expected.plan.entries.size());
-    for (std::size_t index = 0; index < journal.plan.entries.size(); ++index) {
-        const PlanEntry& entry = journal.plan.entries[index];
-        EXPECT_EQ(entry.from, expected.plan.entries[index].from);
-        EXPECT_EQ(entry.to, expected.plan.entries[index].to);
-        EXPECT_EQ(entry.folder, expected.plan.entries[index].folder);
-        EXPECT_EQ(entry.waitsFor, expected.plan.entries[index].waitsFor);
-        const FileState& state = journal.states[index];
-        EXPECT_EQ(state.kind, expected.states[index].kind);
-        EXPECT_EQ(state.identity, expected.states[index].identity);
-        EXPECT_EQ(state.size, expected.states[index].size);
-        EXPECT_EQ(state.modified, expected.states[index].modified);
-        EXPECT_EQ(state.links, expected.states[index].links);
-    }
-    EXPECT_EQ(journal.plan.steps, expected.plan.steps);
-}
-
-Journal MustRead(const std::string& text)
-{
-    CString problem;
-    std::optional<Journal> journal = ReadJournal(text, problem);
-    EXPECT_TRUE(journal) << text;
-    EXPECT_TRUE(problem.IsEmpty());
-    return journal.value_or(Journal());
+    const std::string text = HandWrittenText();
+    const std::uint32_t check = BitwiseCrc(0, text.substr(0, text.rfind('\t')));
+    const std::string first = "mark\tf\ts\t0\t1-2\t1";
+    const std::string second = "mark\tb\te\t0-2\t\t";
+    const std::string firstLine = first + CheckField(BitwiseCrc(check, first));
+    const std::string secondLine = second + CheckField(BitwiseCrc(check, second));
+    JournalMark expected = Mark({0}, {1, 2});
+    expected.wasStopped = true;
+    expected.foldersMade = {1};
+    ExpectSame(MustRead(text + firstLine).mark, expected);
+    // A mark that is appended may have an empty line before it, which ends one that was cut off.
+    EXPECT_EQ(WriteMark(expected, check), "\n" + firstLine);
+    expected = Mark({0, 1, 2});
+    expected.isBackward = true;
+    EXPECT_EQ(WriteMark(expected, check), "\n" + secondLine);
+    ExpectSame(MustRead(text + firstLine + secondLine).mark, expected);
+    // The check of a mark of another batch.
+    const std::string other = second + CheckField(BitwiseCrc(check ^ 1, second));
+    EXPECT_TRUE(MustRead(text + firstLine + other).mark->wasStopped);
 }
 
 TEST(JournalText, ComesBackWhole)
@@ -180,15 +224,7 @@ TEST(JournalText, ComesBackWhole)
 
 TEST(JournalText, HoldsMoreStepsThanALine)
 {
-    RenameList list;
-    for (int index = 0; index < 2500; ++index) {
-        CString name;
-        name.Format(u"%d", index);
-        list.Add(Full(name), Full(name + u"x"), Kind::File);
-    }
-    Journal journal;
-    journal.plan = PlanRenames(list, [](const CString&) { return NameFolding::None; }).plan;
-    journal.states.resize(2500);
+    const Journal journal = LongJournal(2500);
     EXPECT_EQ(MustRead(TextOf(journal)).plan.steps, journal.plan.steps);
 }
 
@@ -206,14 +242,6 @@ TEST(JournalText, GivesItsHeadingFromItsFirstLines)
     for (std::size_t length = 0; length < text.size(); ++length)
         EXPECT_EQ(HasHeading(std::string_view(text).substr(0, length)), length >= end) << length;
     EXPECT_FALSE(problem.IsEmpty());
-}
-
-JournalMark Mark(const std::vector<PlanIndex>& before, const std::vector<PlanIndex>& aside = {})
-{
-    JournalMark mark;
-    mark.entriesBefore = before;
-    mark.entriesAside = aside;
-    return mark;
 }
 
 TEST(JournalText, KeepsTheLastMark)
@@ -293,57 +321,16 @@ TEST(JournalText, GivesNoLastMarkThatCannotBe)
     // Billions of entries are counted, not kept.
     std::string text = "\nend\t00000000\nmark\tf\te\t0-4294967293\t\t";
     const std::string content = text.substr(text.find("mark"));
-    char digits[16];
-    std::snprintf(digits, sizeof(digits), "\t%08x\n", Checksum(0, content));
-    const std::optional<MarkOutline> read = ReadLastMark(FindMarks(text + digits), 4294967294);
+    const std::string whole = text + CheckField(BitwiseCrc(0, content));
+    const std::optional<MarkOutline> read = ReadLastMark(FindMarks(whole), 4294967294);
     ASSERT_TRUE(read);
     EXPECT_EQ(read->entriesBefore, 4294967294u);
-}
-
-TEST(JournalText, IsNotReadWhenAnyByteIsChanged)
-{
-    const std::string text = TextOf(MakeJournal());
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        std::string damaged = text;
-        damaged[at] = static_cast<char>(damaged[at] ^ 1);
-        CString problem;
-        EXPECT_FALSE(ReadJournal(damaged, problem)) << at;
-        EXPECT_FALSE(problem.IsEmpty());
-    }
-}
-
-TEST(JournalText, IsNotReadWhenItIsCutOff)
-{
-    const std::string text = TextOf(MakeJournal());
-    for (std::size_t length = 0; length < text.size(); ++length) {
-        CString problem;
-        EXPECT_FALSE(ReadJournal(text.substr(0, length), problem)) << length;
-        EXPECT_FALSE(problem.IsEmpty());
-    }
-}
-
-TEST(JournalText, IsNotReadWhenALineIsMissingOrTwice)
-{
-    const std::string text = TextOf(MakeJournal());
-    for (std::size_t start = 0; start < text.size();) {
-        const std::size_t end = text.find('\n', start) + 1;
-        const std::string line = text.substr(start, end - start);
-        CString problem;
-        EXPECT_FALSE(ReadJournal(text.substr(0, start) + text.substr(end), problem)) << line;
-        // Behind the last line there are marks, which may be cut off.
-        if (end < text.size()) {
-            EXPECT_FALSE(ReadJournal(text.substr(0, end) + line + text.substr(end), problem)) << line;
-        }
-        start = end;
-    }
 }
 
 /// Writes `journal`, which has a fault that the checks do not show.
 void ExpectRefused(const Journal& journal)
 {
-    CString problem;
-    EXPECT_FALSE(ReadJournal(TextOf(journal), problem));
-    EXPECT_FALSE(problem.IsEmpty());
+    EXPECT_TRUE(IsRefused(TextOf(journal)));
 }
 
 TEST(JournalText, RefusesNamesThatLeaveTheirFolder)
@@ -424,10 +411,7 @@ TEST(JournalText, SaysWhatAnUnknownVersionIs)
 /// `text` up to its end, with `line` in the place of its lines of steps, and with the check that belongs to it.
 std::string WithSteps(const std::string& text, const std::string& line)
 {
-    std::string changed = text.substr(0, text.find("\nsteps") + 1) + line + "\nend";
-    char digits[16];
-    std::snprintf(digits, sizeof(digits), "\t%08x\n", Checksum(0, changed));
-    return changed + digits;
+    return WithCheck(text.substr(0, text.find("\nsteps") + 1) + line + "\nend");
 }
 
 TEST(JournalText, WritesStepsThatFollowEachOtherAsARange)
@@ -435,10 +419,7 @@ TEST(JournalText, WritesStepsThatFollowEachOtherAsARange)
     RenameList list;
     for (const char16_t* name : {u"a", u"b", u"c", u"d"})
         list.Add(Full(name), Full(CString(name) + u"x"), Kind::File);
-    Journal journal;
-    journal.plan = PlanRenames(list, [](const CString&) { return NameFolding::None; }).plan;
-    journal.states.resize(4);
-    journal.heading.entries = 4;
+    Journal journal = PlannedJournal(list);
     const std::string text = TextOf(journal);
     EXPECT_NE(text.find("\nsteps\tr0-3\nend\t"), text.npos) << text;
     EXPECT_EQ(MustRead(WithSteps(text, "steps\tr0-3")).plan.steps, journal.plan.steps);
@@ -452,10 +433,7 @@ TEST(JournalText, IsNotReadWhenItsRangesOfStepsCannotBe)
     RenameList list;
     list.Add(Full(u"a"), Full(u"b"), Kind::File);
     list.Add(Full(u"c"), Full(u"d"), Kind::File);
-    Journal journal;
-    journal.plan = PlanRenames(list, [](const CString&) { return NameFolding::None; }).plan;
-    journal.states.resize(2);
-    const std::string text = TextOf(journal);
+    const std::string text = TextOf(PlannedJournal(list));
     CString problem;
     EXPECT_TRUE(ReadJournal(WithSteps(text, "steps\tr0-1"), problem));
     for (const char* line :
@@ -469,10 +447,7 @@ TEST(JournalText, IsNotReadWhenItsRangesOfStepsCannotBe)
 
 TEST(JournalText, IsNotReadWhenItSpeaksOfMoreStepsThanItsEntriesCanHave)
 {
-    std::string text = "vyr-journal\t2\nbatch\t1\t2\t\t0\t0\t4294967294\t\t";
-    char digits[16];
-    std::snprintf(digits, sizeof(digits), "\t%08x\n", Checksum(0, text));
-    text += digits;
+    const std::string text = WithCheck("vyr-journal\t2\nbatch\t1\t2\t\t0\t0\t4294967294\t\t");
     CString problem;
     EXPECT_FALSE(ReadJournal(text + "steps\tr0-4294967293\nend\t00000000\n", problem));
     EXPECT_GE(problem.Find(u"too many steps"), 0);
@@ -480,16 +455,7 @@ TEST(JournalText, IsNotReadWhenItSpeaksOfMoreStepsThanItsEntriesCanHave)
 
 TEST(JournalText, ComesInPiecesThatMakeTheWhole)
 {
-    RenameList list;
-    for (int index = 0; index < 5000; ++index) {
-        CString name;
-        name.Format(u"%d", index);
-        list.Add(Full(name), Full(name + u"x"), Kind::File);
-    }
-    Journal journal;
-    journal.plan = PlanRenames(list, [](const CString&) { return NameFolding::None; }).plan;
-    journal.states.resize(5000);
-    journal.heading.entries = 5000;
+    const Journal journal = LongJournal(5000);
     std::string text;
     std::size_t longest = 0;
     const std::uint32_t check = WriteJournal(journal, [&](std::string_view piece) {
@@ -501,7 +467,7 @@ TEST(JournalText, ComesInPiecesThatMakeTheWhole)
     const Journal read = MustRead(text);
     ExpectSame(read, journal);
     EXPECT_EQ(read.check, check);
-    EXPECT_EQ(check, Checksum(0, text.substr(0, text.rfind('\t'))));
+    EXPECT_EQ(check, BitwiseCrc(0, text.substr(0, text.rfind('\t'))));
 }
 
 } // namespace
