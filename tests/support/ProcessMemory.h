@@ -5,7 +5,8 @@
 
 namespace VyrTests {
 
-/// The most memory, in bytes, that the process has had at a time, what was asked for but not touched included.
+/// The most memory, in bytes, that the process has had at a time; what was asked for but not touched counts, except
+/// under Wine.
 [[nodiscard]] std::uint64_t PeakMemory();
 
 } // namespace VyrTests
