@@ -1,5 +1,5 @@
 /// @file
-/// The user's wish to end a long work (Ctrl-C).
+/// The user's wish to end a long work (Ctrl-C), or the end of the terminal.
 #pragma once
 
 #include <VyrPlatform/Export.h>

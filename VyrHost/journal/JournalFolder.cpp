@@ -98,7 +98,7 @@ CString JournalFolder::Lock()
         return {};
     if (m_lock->IsTaken())
         return u"another batch of renames is being worked on";
-    return CString::Join({u"the journal cannot be locked: ", ErrorText(m_lock->Error())});
+    return CString::Join({u"the journal in ", m_path, u" cannot be locked: ", ErrorText(m_lock->Error())});
 }
 
 bool JournalFolder::IsLockedByAnother() const

@@ -55,6 +55,8 @@ std::string_view WordsFor(Reason reason)
         return "its folder cannot be read";
     case Reason::NoDate:
         return "it has no date of the kind asked for";
+    case Reason::NamelessFolder:
+        return "the name of its new folder would be empty, . or ..";
     case Reason::BadFolder:
         return "a folder of that name cannot be made";
     case Reason::EmptyName:

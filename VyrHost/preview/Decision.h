@@ -43,6 +43,9 @@ enum class Reason : std::uint8_t
     /// The entry's folder, or the one that it would move into, cannot be read.
     FolderNotRead,
     NoDate,
+    /// The rules give a folder to move into no name that a folder can have on any system.
+    NamelessFolder,
+    /// A folder to move into cannot be made: its name is none for this system, or something else has it.
     BadFolder,
     EmptyName,
     /// Something that the batch leaves in place has the name.

@@ -81,6 +81,8 @@ private:
         decision.folder = target.folder;
         if (target.reason != Reason::None)
             decision.Refuse(target.reason);
+        else if (decision.warning == VyrPlatform::NameFault::None)
+            decision.warning = target.warning;
     }
 
     /// Where one of those that keep together is refused, all are.

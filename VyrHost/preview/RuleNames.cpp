@@ -14,8 +14,8 @@ Reason ReasonOf(RuleFault fault)
     switch (fault) {
     case RuleFault::NoDate:
         return Reason::NoDate;
-    case RuleFault::BadFolder:
-        return Reason::BadFolder;
+    case RuleFault::NamelessFolder:
+        return Reason::NamelessFolder;
     case RuleFault::None:
         break;
     }

@@ -12,6 +12,7 @@ namespace VyrHost {
 namespace {
 
 using VyrLibraryUtils::FileUtils;
+using VyrPlatform::NameFault;
 using VyrPlatform::FileSystem::Kind;
 
 CString WithoutSeparator(const CString& folder)
@@ -35,35 +36,36 @@ void AppendMissing(EntryList& list, std::uint32_t number, std::unordered_set<std
 TargetFolders::Target TargetFolders::Open(const CString& path, const CString& shown)
 {
     const std::uint32_t number = m_folders.Open(path, shown);
-    const Folder& folder = m_folders[number];
-    if (folder.exists)
-        return {number, Reason::None};
-    const auto known = m_reasons.find(number);
-    if (known != m_reasons.end())
-        return {number, known->second};
-    const Reason reason = Claim(folder);
-    m_reasons.emplace(number, reason);
-    return {number, reason};
+    if (m_folders[number].exists)
+        return {number};
+    const auto known = m_targets.find(number);
+    if (known != m_targets.end())
+        return known->second;
+    const Target target = Claim(number);
+    m_targets.emplace(number, target);
+    return target;
 }
 
 /// Takes the name of a folder that is not there yet, and of those above it.
-Reason TargetFolders::Claim(const Folder& folder)
+TargetFolders::Target TargetFolders::Claim(std::uint32_t number)
 {
+    const Folder& folder = m_folders[number];
     const CString path = WithoutSeparator(folder.path);
     const CString above = FileUtils::GetSplitDirPath(path);
     const CString name = path.Mid(above.GetLength());
     if (VyrPlatform::FileSystem::IsFolder(folder.path))
-        return Reason::FolderNotRead;
-    if (name.IsEmpty() || JudgeName(name, {}).reason != Reason::None)
-        return Reason::BadFolder;
+        return {number, Reason::FolderNotRead};
+    const NameJudgement judgement = JudgeName(name, {});
+    if (name.IsEmpty() || judgement.reason != Reason::None)
+        return {number, Reason::BadFolder};
     const Target parent = Open(above, {});
     if (parent.reason != Reason::None)
-        return parent.reason;
+        return {number, parent.reason};
     NameRecord& record = m_folders[parent.folder].names.Add(m_folders.Keep(name));
     if (record.kind != Kind::Missing)
-        return Reason::BadFolder;
+        return {number, Reason::BadFolder};
     record.holder = NewFolder;
-    return Reason::None;
+    return {number, Reason::None, judgement.warning == NameFault::None ? parent.warning : judgement.warning};
 }
 
 std::vector<CString> FoldersToMake(EntryList& list, const std::vector<Decision>& decisions)

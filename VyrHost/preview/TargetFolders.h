@@ -22,17 +22,19 @@ public:
         std::uint32_t folder = 0;
         /// Why nothing can be moved there.
         Reason reason = Reason::None;
+        /// What a folder that is to be made would be in trouble for on Windows.
+        VyrPlatform::NameFault warning = VyrPlatform::NameFault::None;
     };
 
     /// The folder `path` (absolute, its separator at the end).
     Target Open(const CString& path, const CString& shown);
 
 private:
-    [[nodiscard]] Reason Claim(const Folder& folder);
+    [[nodiscard]] Target Claim(std::uint32_t number);
 
     FolderSet& m_folders;
     /// What was found for each folder.
-    std::unordered_map<std::uint32_t, Reason> m_reasons;
+    std::unordered_map<std::uint32_t, Target> m_targets;
 };
 
 /// The folders to make, each parent before what stands in it, for what `decisions` move.

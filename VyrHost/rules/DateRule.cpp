@@ -95,7 +95,7 @@ RuleFault DateRule::TakeFolders(Subject& subject)
     for (int end = rest.Find(Token::Folder); end >= 0; end = rest.Find(Token::Folder)) {
         const CString step = rest.Left(end);
         if (step.IsEmpty() || step == u"." || step == u"..")
-            return RuleFault::BadFolder;
+            return RuleFault::NamelessFolder;
         subject.folder = CString::Join({subject.folder, step, std::u16string_view(&separator, 1)});
         rest = rest.Mid(end + static_cast<int>(Token::Folder.size()));
     }

@@ -36,7 +36,7 @@ enum class RuleFault : std::uint8_t
     /// None of the dates that were asked for exists.
     NoDate,
     /// A folder to move into would be named "", "." or "..".
-    BadFolder
+    NamelessFolder
 };
 
 class Rule

@@ -67,7 +67,7 @@ void DiscardPipeSignal(const SignalsBlocked& blocked) noexcept
 bool WaitForInput()
 {
     // Delivered only while waiting, so that none slips in between the look and the wait.
-    const SignalsBlocked blocked({SIGINT, SIGTERM});
+    const SignalsBlocked blocked({SIGINT, SIGTERM, SIGHUP});
     pollfd input{STDIN_FILENO, POLLIN, 0};
     while (!Interrupt::WasAsked()) {
         if (::ppoll(&input, 1, nullptr, &blocked.Before()) >= 0 || errno != EINTR)

@@ -1,4 +1,4 @@
-// Notes SIGINT and SIGTERM for the program to look at between two steps of its work.
+// Notes SIGINT, SIGTERM and SIGHUP (the terminal is closed) for the program to look at between two steps of its work.
 #include <VyrPlatform/Interrupt.h>
 
 #include <atomic>
@@ -13,7 +13,8 @@ static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler may not 
 
 void Note(int signal)
 {
-    if (!wasAsked.exchange(true))
+    // That the terminal is closed is told by the system and by the shell, so that the second time says nothing new.
+    if (!wasAsked.exchange(true) || signal == SIGHUP)
         return;
     // It is blocked while this handler runs, and ends the program when it returns.
     std::signal(signal, SIG_DFL);
@@ -40,6 +41,7 @@ void Catch()
 {
     CatchSignal(SIGINT);
     CatchSignal(SIGTERM);
+    CatchSignal(SIGHUP);
 }
 
 bool WasAsked() noexcept

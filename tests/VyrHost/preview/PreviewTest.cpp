@@ -335,6 +335,19 @@ TEST_F(Preview, RefusesToMoveIntoWhatIsNoFolder)
               Strings{No(Reason::BadFolder)});
 }
 
+TEST_F(Preview, RefusesFoldersWithoutAName)
+{
+    const auto camera = [](const char* make) {
+        PictureFacts facts;
+        facts.make = make;
+        return BuildJpeg(facts);
+    };
+    m_folder.WriteFile(u"a.jpg", camera(".."));
+    m_folder.WriteFile(u"b.jpg", camera(" "));
+    EXPECT_EQ(DecideNamed({u"a.jpg", u"b.jpg"}, DateRules(u"<Make><Folder><Name>", {DateSource::Picture})),
+              (Strings{No(Reason::NamelessFolder), No(Reason::NamelessFolder)}));
+}
+
 TEST_F(Preview, AFolderToBeMadeHoldsItsName)
 {
     m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));

@@ -30,6 +30,13 @@ TEST(InterruptSignalTest, EveryPairOfSignalsEndsTheProgramByTheSecond)
     EXPECT_EXIT(CatchAndRaise(SIGTERM, SIGTERM), testing::KilledBySignal(SIGTERM), "");
     EXPECT_EXIT(CatchAndRaise(SIGINT, SIGTERM), testing::KilledBySignal(SIGTERM), "");
     EXPECT_EXIT(CatchAndRaise(SIGTERM, SIGINT), testing::KilledBySignal(SIGINT), "");
+    EXPECT_EXIT(CatchAndRaise(SIGHUP, SIGTERM), testing::KilledBySignal(SIGTERM), "");
+}
+
+TEST(InterruptSignalTest, ClosedTerminalIsNotedHoweverOftenItIsTold)
+{
+    EXPECT_EXIT(CatchAndRaise(SIGHUP, SIGHUP), testing::ExitedWithCode(7), "");
+    EXPECT_EXIT(CatchAndRaise(SIGINT, SIGHUP), testing::ExitedWithCode(7), "");
 }
 
 TEST(InterruptSignalTest, SignalThatWasIgnoredAtTheStartStaysIgnored)

@@ -101,6 +101,9 @@ TEST_F(HostileNames, WindowsFaultsAreWarnings)
                 StartsWith("a  ->  a?  warning: Windows forbids a character of the new name\n"));
     EXPECT_THAT(Rename({u"--replace", u"a", u"nul", u"a"}).output, HasSubstr("reserved on Windows"));
     EXPECT_THAT(Rename({u"--suffix", u".", u"a"}).output, HasSubstr("warning: on Windows no name ends in a dot"));
+    // A folder that would be made is judged as well.
+    EXPECT_THAT(Rename({u"--date", u"'nul'<Folder>'x'<Folder><Name>", u"a"}).output,
+                HasSubstr("a  ->  nul/x/a  warning: the new name is reserved on Windows"));
     EXPECT_THAT(Rename({u"--prefix", u"x", u"b:"}).output, StartsWith("b:  ->  xb:\n"));
 }
 
