@@ -49,6 +49,7 @@ struct RenameList
     /// What keeps the names.
     std::shared_ptr<NameStore> texts = std::make_shared<NameStore>();
 
+    /// Adds the rename of the absolute path `from` to `to`.
     void Add(const CString& from, const CString& to,
              VyrPlatform::FileSystem::Kind kind = VyrPlatform::FileSystem::Kind::File)
     {

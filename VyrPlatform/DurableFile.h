@@ -18,7 +18,7 @@ using Content = std::function<void(const TakePiece& take)>;
 
 /// Makes the file `path`, for its owner's eyes alone, with `content`, and waits until that is on the disk. The name is
 /// there for good only after FlushFolder.
-/// @param content called once at most.
+/// @param content called once at most; what it throws is passed on, and a part of the file is left.
 /// @return 0, else the system's error code (a file that exists already is an error), and then no file of this call is
 /// left.
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t WriteNew(const CString& path, const Content& content);

@@ -296,14 +296,14 @@ RenameResult Executor::ResultOf(PlanIndex entry, Direction direction) const
     if (standing == goal)
         return {.outcome = RenameOutcome::Done, .error = 0, .reason = {}};
     const auto found = m_results.find(entry);
-    const RenameResult result = found == m_results.end() ? RenameResult() : found->second;
-    if (standing != Standing::Aside)
-        return result;
-    return {.outcome = RenameOutcome::Failed,
-            .error = result.error,
-            .reason = CString::Join({u"it stands under a temporary name now, ",
-                                     m_progress.PathOf(m_progress.PlaceOf(entry, Standing::Aside)),
-                                     result.reason.IsEmpty() ? u"" : u": ", result.reason})};
+    RenameResult result = found == m_results.end() ? RenameResult() : found->second;
+    if (standing == Standing::Aside) {
+        result.outcome = RenameOutcome::Failed;
+        result.reason = CString::Join({u"it stands under a temporary name now, ",
+                                       m_progress.PathOf(m_progress.PlaceOf(entry, Standing::Aside)),
+                                       result.reason.IsEmpty() ? u"" : u": ", result.reason});
+    }
+    return result;
 }
 
 } // namespace VyrHost

@@ -95,7 +95,7 @@ private:
     std::vector<bool> m_isLeftAlone;
     /// For each entry the one that gets its old place.
     std::vector<PlanIndex> m_successors;
-    /// Why entries are not where they are to be; of the others the work did not come to them.
+    /// Why entries are not where they are to be. Nothing is said of one that is, or that the work did not come to.
     std::unordered_map<PlanIndex, RenameResult> m_results;
     /// For each new folder why it was not made.
     std::vector<std::uint32_t> m_folderErrors;

@@ -44,7 +44,7 @@ private:
     const char16_t* m_text = NoText + LengthUnits;
 };
 
-/// Texts one behind another in large blocks.
+/// Texts one behind another in large blocks. Those that are kept may be read on one thread while another keeps more.
 class NameStore
 {
 public:

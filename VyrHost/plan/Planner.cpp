@@ -218,7 +218,7 @@ private:
             newIndexes[entry] = kept;
             result.indexes.push_back(entry);
             if (kept != entry)
-                m_draft.entries[kept] = std::move(m_draft.entries[entry]);
+                m_draft.entries[kept] = m_draft.entries[entry];
         }
         std::sort(m_refused.begin(), m_refused.end(),
                   [](const Refused& left, const Refused& right) { return left.entry < right.entry; });

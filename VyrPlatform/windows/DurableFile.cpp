@@ -4,6 +4,7 @@
 #include "LongPath.h"
 
 #include <algorithm>
+#include <memory>
 #include <windows.h>
 
 namespace VyrPlatform {
@@ -28,6 +29,11 @@ DWORD Close(HANDLE file, DWORD error) noexcept
     return CloseHandle(file) || error ? error : GetLastError();
 }
 
+struct HandleCloser
+{
+    void operator()(HANDLE file) const noexcept { CloseHandle(file); }
+};
+
 } // namespace
 
 std::uint32_t DurableFile::WriteNew(const CString& path, const Content& content)
@@ -37,6 +43,7 @@ std::uint32_t DurableFile::WriteNew(const CString& path, const Content& content)
                                     FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return GetLastError();
+    std::unique_ptr<void, HandleCloser> owner(file);
     DWORD error = ERROR_SUCCESS;
     content([file, &error](std::string_view piece) {
         if (!error)
@@ -44,7 +51,7 @@ std::uint32_t DurableFile::WriteNew(const CString& path, const Content& content)
     });
     if (!error && !FlushFileBuffers(file))
         error = GetLastError();
-    error = Close(file, error);
+    error = Close(owner.release(), error);
     if (error)
         DeleteFileW(longPath.Get());
     return error;

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 
 namespace {
@@ -40,6 +41,20 @@ TEST(DurableFile, WritesPiecesOneBehindAnother)
     EXPECT_EQ(scratch.ReadFile(u"file"), "one, two, three");
     EXPECT_EQ(DurableFile::WriteNew(scratch.Path(u"none"), [](const DurableFile::TakePiece&) {}), 0u);
     EXPECT_EQ(scratch.ReadFile(u"none"), "");
+}
+
+TEST(DurableFile, ClosesTheFileWhoseContentThrows)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.Path(u"file");
+    const auto content = [](const DurableFile::TakePiece& take) {
+        take("part");
+        throw std::runtime_error("no more");
+    };
+    EXPECT_THROW(static_cast<void>(DurableFile::WriteNew(path, content)), std::runtime_error);
+    EXPECT_EQ(scratch.ReadFile(u"file"), "part");
+    // Windows removes no file that is open.
+    EXPECT_EQ(DurableFile::Remove(path), 0u);
 }
 
 TEST(DurableFile, KeepsAFileThatIsThere)

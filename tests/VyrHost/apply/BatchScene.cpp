@@ -1,8 +1,8 @@
 // Makes trees of files, and reads them again.
 #include <tests/VyrHost/apply/BatchScene.h>
 
+#include <VyrHost/files/Looker.h>
 #include <VyrPlatform/Encoding.h>
-#include <VyrPlatform/RenameFile.h>
 
 #include <tests/support/StdPath.h>
 
@@ -112,15 +112,10 @@ BatchSummary BatchScene::Apply(const StopRequest& isStopAsked)
 
 std::vector<VyrPlatform::FileState> BatchScene::LookAtSources() const
 {
+    Looker looker(SystemFiles());
     std::vector<VyrPlatform::FileState> states;
-    for (const PlannedRename& rename : list.renames) {
-        const VyrPlatform::OpenFolder folder(rename.from.folder);
-        VyrPlatform::FileState& state = states.emplace_back();
-        if (folder.IsOpen())
-            state = folder.Look(rename.from.name);
-        else
-            state.error = folder.Error();
-    }
+    for (const PlannedRename& rename : list.renames)
+        states.push_back(looker.Look(rename.from.folder, rename.from.name));
     return states;
 }
 

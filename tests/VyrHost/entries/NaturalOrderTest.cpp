@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <numeric>
 #include <random>
 #include <string>
 #include <vector>
