@@ -20,7 +20,7 @@ inline std::pair<std::vector<std::uint32_t>, std::u16string> NaturalKey(std::u16
     std::vector<std::uint32_t> key;
     for (std::size_t at = 0; at < name.size();) {
         if (!isDigit(name[at])) {
-            const char16_t unit = name[at++];
+            const std::uint32_t unit = name[at++];
             key.push_back(unit >= u'A' && unit <= u'Z' ? unit - u'A' + u'a' : unit);
             continue;
         }
