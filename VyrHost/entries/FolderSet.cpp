@@ -24,21 +24,23 @@ std::uint32_t FolderSet::Open(const CString& path, const CString& shown)
 {
     if (const auto known = m_byPath.find(path); known != m_byPath.end())
         return known->second;
-    const std::uint32_t number = Find(path);
+    const VyrPlatform::FileState state = VyrPlatform::LookAtFile(path);
+    const std::uint32_t number = Find(state);
     m_byPath.emplace(path, number);
     if (number == Count()) {
         Folder& folder = m_folders.emplace_back();
         folder.path = path;
         folder.shown = shown;
+        if (state.kind == VyrPlatform::FileSystem::Kind::Folder)
+            folder.device = state.identity.device;
         List(folder);
     }
     return number;
 }
 
-/// The number that the folder has under another path, else the next number.
-std::uint32_t FolderSet::Find(const CString& path)
+/// The number that the folder in `state` has under another path, else the next number.
+std::uint32_t FolderSet::Find(const VyrPlatform::FileState& state)
 {
-    const VyrPlatform::FileState state = VyrPlatform::LookAtFile(path);
     if (state.kind != VyrPlatform::FileSystem::Kind::Folder)
         return Count();
     return m_byIdentity.try_emplace(state.identity, Count()).first->second;

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <deque>
 #include <memory>
+#include <optional>
 #include <unordered_map>
 
 namespace VyrHost {
@@ -27,6 +28,8 @@ struct Folder
     bool exists = false;
     /// Why it could not be listed (the system's code); 0 when it was.
     std::uint32_t error = 0;
+    /// The file system that it is on (FileIdentity); nothing where the system does not tell.
+    std::optional<std::uint64_t> device;
 };
 
 struct IdentityHash
@@ -55,7 +58,7 @@ public:
     [[nodiscard]] const std::shared_ptr<NameStore>& Texts() const { return m_texts; }
 
 private:
-    std::uint32_t Find(const CString& path);
+    std::uint32_t Find(const VyrPlatform::FileState& state);
     void List(Folder& folder);
 
     std::shared_ptr<NameStore> m_texts = std::make_shared<NameStore>();

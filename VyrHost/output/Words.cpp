@@ -59,6 +59,8 @@ std::string_view WordsFor(Reason reason)
         return "the name of its new folder would be empty, . or ..";
     case Reason::BadFolder:
         return "a folder of that name cannot be made";
+    case Reason::OtherFileSystem:
+        return "the new path is on another file system";
     case Reason::EmptyName:
         return "the new name would be empty";
     case Reason::TargetExists:

@@ -47,6 +47,8 @@ enum class Reason : std::uint8_t
     NamelessFolder,
     /// A folder to move into cannot be made: its name is none for this system, or something else has it.
     BadFolder,
+    /// The folder to move into is on another file system.
+    OtherFileSystem,
     EmptyName,
     /// Something that the batch leaves in place has the name.
     TargetExists,

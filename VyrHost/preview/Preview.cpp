@@ -6,6 +6,8 @@
 #include <VyrHost/preview/TargetFolders.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <optional>
 #include <span>
 
 namespace VyrHost {
@@ -72,15 +74,17 @@ private:
         if (judgement.reason != Reason::None)
             decision.Refuse(judgement.reason);
         else if (moves)
-            Move(decision, wanted);
+            Move(decision, m_list.folders[entry.folder].device, wanted);
     }
 
-    void Move(Decision& decision, const WantedName& wanted)
+    void Move(Decision& decision, std::optional<std::uint64_t> device, const WantedName& wanted)
     {
         const TargetFolders::Target target = m_targets.Open(wanted.folder, wanted.shownFolder);
         decision.folder = target.folder;
         if (target.reason != Reason::None)
             decision.Refuse(target.reason);
+        else if (device && target.device && *device != *target.device)
+            decision.Refuse(Reason::OtherFileSystem);
         else if (decision.warning == VyrPlatform::NameFault::None)
             decision.warning = target.warning;
     }

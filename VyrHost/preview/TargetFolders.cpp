@@ -37,7 +37,7 @@ TargetFolders::Target TargetFolders::Open(const CString& path, const CString& sh
 {
     const std::uint32_t number = m_folders.Open(path, shown);
     if (m_folders[number].exists)
-        return {number};
+        return {.folder = number, .device = m_folders[number].device};
     const auto known = m_targets.find(number);
     if (known != m_targets.end())
         return known->second;
@@ -54,18 +54,20 @@ TargetFolders::Target TargetFolders::Claim(std::uint32_t number)
     const CString above = FileUtils::GetSplitDirPath(path);
     const CString name = path.Mid(above.GetLength());
     if (VyrPlatform::FileSystem::IsFolder(folder.path))
-        return {number, Reason::FolderNotRead};
+        return {.folder = number, .reason = Reason::FolderNotRead};
     const NameJudgement judgement = JudgeName(name, {});
     if (name.IsEmpty() || judgement.reason != Reason::None)
-        return {number, Reason::BadFolder};
+        return {.folder = number, .reason = Reason::BadFolder};
     const Target parent = Open(above, {});
     if (parent.reason != Reason::None)
-        return {number, parent.reason};
+        return {.folder = number, .reason = parent.reason};
     NameRecord& record = m_folders[parent.folder].names.Add(m_folders.Keep(name));
     if (record.kind != Kind::Missing)
-        return {number, Reason::BadFolder};
+        return {.folder = number, .reason = Reason::BadFolder};
     record.holder = NewFolder;
-    return {number, Reason::None, judgement.warning == NameFault::None ? parent.warning : judgement.warning};
+    return {.folder = number,
+            .warning = judgement.warning == NameFault::None ? parent.warning : judgement.warning,
+            .device = parent.device};
 }
 
 std::vector<CString> FoldersToMake(EntryList& list, const std::vector<Decision>& decisions)

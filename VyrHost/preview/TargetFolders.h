@@ -5,6 +5,8 @@
 #include <VyrHost/entries/EntryList.h>
 #include <VyrHost/preview/Decision.h>
 
+#include <cstdint>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -24,6 +26,8 @@ public:
         Reason reason = Reason::None;
         /// What a folder that is to be made would be in trouble for on Windows.
         VyrPlatform::NameFault warning = VyrPlatform::NameFault::None;
+        /// The file system that the folder is on, or will be.
+        std::optional<std::uint64_t> device = std::nullopt;
     };
 
     /// The folder `path` (absolute, its separator at the end).
