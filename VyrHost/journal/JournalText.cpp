@@ -487,18 +487,20 @@ void ReadPlan(LineReader& reader, const Counts& counts, Journal& journal)
     LinkFolders(reader, journal.plan);
 }
 
-/// The last whole mark, each read by `read`.
+/// The last whole mark, read by `read`. Those before it are not: each could name all entries.
 template <class Read>
 auto ReadMarks(LineReader& reader, std::uint32_t check, Read read)
 {
-    std::optional<decltype(read())> last;
-    while (reader.HasMore()) {
-        if (!reader.NextMark(check))
-            continue;
-        last = read();
-        reader.End();
+    std::optional<LineReader> last;
+    while (reader.HasMore())
+        if (reader.NextMark(check))
+            last = reader;
+    std::optional<decltype(read(reader))> mark;
+    if (last) {
+        mark = read(*last);
+        last->End();
     }
-    return last;
+    return mark;
 }
 
 JournalMark ReadMark(LineReader& reader, const RenamePlan& plan)
@@ -576,7 +578,8 @@ std::optional<Journal> ReadJournal(std::string_view text, CString& problem)
         problem = FindPlanFault(journal.plan);
         if (!problem.IsEmpty())
             return {};
-        journal.mark = ReadMarks(reader, journal.check, [&] { return ReadMark(reader, journal.plan); });
+        journal.mark =
+            ReadMarks(reader, journal.check, [&journal](LineReader& last) { return ReadMark(last, journal.plan); });
         return journal;
     } catch (const Damage& damage) {
         problem = Describe(damage);
@@ -612,7 +615,7 @@ std::optional<MarkOutline> ReadLastMark(std::string_view marks, std::size_t entr
     try {
         LineReader reader(marks);
         const std::uint32_t check = reader.Skip();
-        return ReadMarks(reader, check, [&reader, entries] { return ReadMarkOutline(reader, entries); });
+        return ReadMarks(reader, check, [entries](LineReader& last) { return ReadMarkOutline(last, entries); });
     } catch (const Damage&) {
         return {};
     }

@@ -227,4 +227,24 @@ TEST(JournalDamage, OfAMarkWithItsCheckIsNoticedAndTakesLittleMemory)
     }
 }
 
+TEST(JournalDamage, OfMarksBeforeTheLastIsOverlooked)
+{
+    constexpr std::uint32_t count = 100'000;
+    std::uint32_t check = 0;
+    std::string text = TextOf(LongJournal(count), check);
+    const auto markOf = [check](const std::string& fields) {
+        const std::string line = "mark\tf\te\t" + fields;
+        return line + CheckField(BitwiseCrc(check, line));
+    };
+    text += markOf("0-99999999\t\t");
+    const std::string ofAll = markOf("0-99999\t\t");
+    for (std::uint32_t mark = 0; mark < count; ++mark)
+        text += ofAll;
+    text += WriteMark(Mark({7}), check);
+    const Modesty modesty;
+    ExpectSame(MustRead(text).mark, Mark({7}));
+    const std::optional<MarkOutline> outline = ReadLastMark(FindMarks(text), count);
+    EXPECT_TRUE(outline && outline->entriesBefore == 1);
+}
+
 } // namespace
