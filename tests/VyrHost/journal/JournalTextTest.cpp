@@ -183,6 +183,8 @@ TEST(JournalText, IsReadAsItsFormatSays)
 {
     const Journal journal = MustRead(HandWrittenText());
     ExpectSame(journal, HandMadeJournal());
+    ASSERT_EQ(journal.plan.folders.size(), 2u);
+    ASSERT_EQ(journal.plan.entries.size(), 3u);
     EXPECT_EQ(journal.plan.folders[0].place.name.View(), Root().View());
     EXPECT_EQ(journal.plan.folders[1].place.name.View(), u"n");
     EXPECT_EQ(journal.plan.entries[0].to.name.View(), u"b");
@@ -199,19 +201,19 @@ TEST(JournalText, ContinuesTheChecksOfMarksFromThatOfItsEnd)
     const std::string second = "mark\tb\te\t0-2\t\t";
     const std::string firstLine = first + CheckField(BitwiseCrc(check, first));
     const std::string secondLine = second + CheckField(BitwiseCrc(check, second));
-    JournalMark expected = Mark({0}, {1, 2});
-    expected.wasStopped = true;
-    expected.foldersMade = {1};
-    ExpectSame(MustRead(text + firstLine).mark, expected);
-    // A mark that is appended may have an empty line before it, which ends one that was cut off.
-    EXPECT_EQ(WriteMark(expected, check), "\n" + firstLine);
-    expected = Mark({0, 1, 2});
-    expected.isBackward = true;
-    EXPECT_EQ(WriteMark(expected, check), "\n" + secondLine);
-    ExpectSame(MustRead(text + firstLine + secondLine).mark, expected);
+    JournalMark firstMark = Mark({0}, {1, 2});
+    firstMark.wasStopped = true;
+    firstMark.foldersMade = {1};
+    JournalMark secondMark = Mark({0, 1, 2});
+    secondMark.isBackward = true;
+    ExpectSame(MustRead(text + firstLine).mark, firstMark);
+    ExpectSame(MustRead(text + firstLine + secondLine).mark, secondMark);
+    // The empty line ends a mark that was cut off.
+    EXPECT_EQ(WriteMark(firstMark, check), "\n" + firstLine);
+    EXPECT_EQ(WriteMark(secondMark, check), "\n" + secondLine);
     // The check of a mark of another batch.
     const std::string other = second + CheckField(BitwiseCrc(check ^ 1, second));
-    EXPECT_TRUE(MustRead(text + firstLine + other).mark->wasStopped);
+    ExpectSame(MustRead(text + firstLine + other).mark, firstMark);
 }
 
 TEST(JournalText, ComesBackWhole)

@@ -196,6 +196,7 @@ TEST(RandomJournal, ComesBackAsItWasWritten)
         EXPECT_EQ(read.check, check);
         EXPECT_EQ(FindPlanFault(read.plan), u"");
         EXPECT_EQ(TextOf(read), plan);
+        ASSERT_EQ(read.plan.entries.size(), journal.plan.entries.size());
         for (std::size_t entry = 0; entry < journal.plan.entries.size(); ++entry)
             EXPECT_EQ(PathBefore(read.plan, read.plan.entries[entry].from.folder),
                       PathBefore(journal.plan, journal.plan.entries[entry].from.folder));
@@ -230,6 +231,7 @@ TEST(RandomJournal, KeepsNamesOfEveryUnit)
     ASSERT_GT(journal.plan.entries.size(), 131'000u);
     const Journal read = MustRead(TextOf(journal));
     ExpectSame(read, journal);
+    ASSERT_EQ(read.plan.entries.size(), list.renames.size());
     for (std::size_t entry = 0; entry < list.renames.size(); ++entry) {
         ASSERT_EQ(read.plan.entries[entry].from.name, list.renames[entry].from.name);
         ASSERT_EQ(read.plan.entries[entry].to.name, list.renames[entry].to.name);
