@@ -93,24 +93,26 @@ void BatchWork::Keep(PlanIndex entry)
     m_after.Set(entry, Standing::Before);
 }
 
-/// To find the batch again the journal has to stay where it is.
+/// To find the batches again their journals have to stay where they are, and the lock has to keep others away.
 void BatchWork::KeepJournalInPlace()
 {
-    const auto isFolder = [](const PlanEntry& entry) {
-        return entry.kind == Kind::Folder;
-    };
-    if (std::none_of(m_journal.plan.entries.begin(), m_journal.plan.entries.end(), isFolder))
-        return;
-    const std::vector<VyrPlatform::FileIdentity> way = m_folder.Way();
-    for (PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry) {
+    const std::vector<PlanEntry>& entries = m_journal.plan.entries;
+    const bool hasFolder =
+        std::any_of(entries.begin(), entries.end(), [](const PlanEntry& entry) { return entry.kind == Kind::Folder; });
+    const auto way = hasFolder ? m_folder.Way() : std::vector<VyrPlatform::FileIdentity>();
+    for (PlanIndex entry = 0; entry < entries.size(); ++entry) {
         const FileState& state = m_journal.states[entry];
-        if (state.kind != Kind::Folder || std::find(way.begin(), way.end(), state.identity) == way.end())
-            continue;
-        m_executor.LeaveAlone(entry);
-        m_executor.SetResult(entry, {.outcome = RenameOutcome::Refused,
-                                     .error = 0,
-                                     .reason = u"the journal that \"vyr undo\" needs is kept in it"});
+        if (state.kind == Kind::Folder && std::find(way.begin(), way.end(), state.identity) != way.end())
+            KeepInPlace(entry, u"the journal that \"vyr undo\" needs is kept in it");
+        else if (state.kind == Kind::File && m_folder.Keeps(entries[entry].from.name, state.identity))
+            KeepInPlace(entry, u"it is part of the journal that \"vyr undo\" needs");
     }
+}
+
+void BatchWork::KeepInPlace(PlanIndex entry, const CString& reason)
+{
+    m_executor.LeaveAlone(entry);
+    m_executor.SetResult(entry, {.outcome = RenameOutcome::Refused, .error = 0, .reason = reason});
 }
 
 bool BatchWork::MayGoOn(std::uint32_t journalError)

@@ -43,6 +43,7 @@ private:
     void LeaveOut(PlanIndex entry, const RenameResult& result);
     void Keep(PlanIndex entry);
     void KeepJournalInPlace();
+    void KeepInPlace(PlanIndex entry, const CString& reason);
     bool MayGoOn(std::uint32_t journalError);
     void CheckListings(Standing standing);
     void Close(Direction direction);

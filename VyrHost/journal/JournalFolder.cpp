@@ -28,6 +28,7 @@ constexpr std::array<std::pair<BatchPhase, const char16_t*>, 4> endings{{{BatchP
 /// Of a journal that is not whole yet: its batch has not begun.
 constexpr const char16_t* newEnding = u".new";
 constexpr const char16_t* setAsideEnding = u".set-aside";
+constexpr const char16_t* lockName = u"lock";
 constexpr int digits = 6;
 /// How much of a journal is read at first for its heading and for its marks: more than most of them take.
 constexpr std::uint64_t firstPart = 4096;
@@ -92,7 +93,7 @@ CString JournalFolder::Lock()
 {
     if (VyrLibraryUtils::FolderUtils::CreateFolderPathExists(m_path) == 0)
         return CString::Join({u"the folder for the journal cannot be made: ", m_path});
-    m_lock = std::make_unique<VyrPlatform::FileLock>(PathOf(u"lock"));
+    m_lock = std::make_unique<VyrPlatform::FileLock>(PathOf(lockName));
     if (m_lock->IsHeld())
         return {};
     if (m_lock->IsTaken())
@@ -102,7 +103,7 @@ CString JournalFolder::Lock()
 
 bool JournalFolder::IsLockedByAnother() const
 {
-    return VyrPlatform::FileLock(PathOf(u"lock")).IsTaken();
+    return VyrPlatform::FileLock(PathOf(lockName)).IsTaken();
 }
 
 std::vector<VyrPlatform::FileIdentity> JournalFolder::Way() const
@@ -113,6 +114,16 @@ std::vector<VyrPlatform::FileIdentity> JournalFolder::Way() const
         for (std::u16string_view at = path; !FolderPart(at).empty(); at = at.substr(0, FolderPart(at).size() - 1))
             way.push_back(VyrPlatform::LookAtFile(at).identity);
     return way;
+}
+
+bool JournalFolder::Keeps(std::u16string_view name, const VyrPlatform::FileIdentity& identity) const
+{
+    // The system is asked only where the name is one of ours.
+    const auto hasEnding = [name](const auto& pair) {
+        return name.ends_with(pair.second);
+    };
+    const bool isJournal = NumberOf(name) != 0 && std::any_of(endings.begin(), endings.end(), hasEnding);
+    return (isJournal || name == lockName) && VyrPlatform::LookAtFile(PathOf(name)).identity == identity;
 }
 
 std::vector<JournalFile> JournalFolder::List() const

@@ -54,6 +54,8 @@ public:
     /// The folders and links that its path leads through, and the folder itself.
     [[nodiscard]] std::vector<VyrPlatform::FileIdentity> Way() const;
 
+    /// Whether the file `name` with this identity is the lock or one of the journals.
+    [[nodiscard]] bool Keeps(std::u16string_view name, const VyrPlatform::FileIdentity& identity) const;
     /// The journals by rising numbers.
     [[nodiscard]] std::vector<JournalFile> List() const;
     /// The journal of a batch that is being worked on, or was when that was cut off.

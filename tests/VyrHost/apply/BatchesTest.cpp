@@ -249,6 +249,31 @@ TEST(Batches, LeaveTheFolderOfTheirJournalWhereItIs)
     EXPECT_EQ(scene.Now(), (Tree{{"a", "a"}}));
 }
 
+TEST(Batches, LeaveJournalsAndTheLockWhereTheyAre)
+{
+    BatchScene scene;
+    scene.MakeFolder(u"journal");
+    scene.batches = Batches(SystemFiles(), scene.Path(u"journal"));
+    scene.Write(u"a");
+    scene.Rename(u"a", u"b");
+    ASSERT_EQ(scene.Apply().done, 1u);
+    scene.Write(u"lock");
+    scene.Write(u"000001.applied");
+    scene.list = {};
+    scene.Rename(u"journal/lock", u"journal/unlocked").Rename(u"journal/000001.applied", u"journal/1");
+    scene.Rename(u"lock", u"unlocked").Rename(u"000001.applied", u"1");
+    const BatchSummary summary = scene.Apply();
+    EXPECT_EQ(summary.refused, 2u);
+    EXPECT_EQ(scene.results[0].reason, u"it is part of the journal that \"vyr undo\" needs");
+    EXPECT_EQ(scene.results[1].reason, scene.results[0].reason);
+    // Files of such names elsewhere are like any other.
+    EXPECT_EQ(summary.done, 2u);
+    EXPECT_EQ(scene.Now().at("unlocked"), "lock");
+    EXPECT_EQ(scene.TakeBack().done, 2u);
+    EXPECT_EQ(scene.TakeBack().done, 1u);
+    EXPECT_EQ(scene.Now().at("a"), "a");
+}
+
 TEST(Batches, LeaveTheFoldersAboveTheirJournalWhereTheyAre)
 {
     BatchScene scene;
