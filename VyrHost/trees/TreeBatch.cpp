@@ -35,7 +35,7 @@ void TreeBatch::Check(TreeTask task, Trial trial)
         report.status = TreeStatus::Refused;
         report.problems = std::move(check.clashes);
     } else {
-        report.problems = ForeseeProblems(tree, m_action);
+        report.problems = ForeseeProblems(tree, task.target, m_action);
         report.status = report.problems.empty() ? TreeStatus::Done : TreeStatus::Incomplete;
     }
     report.task = std::move(task);

@@ -63,6 +63,16 @@ bool IsSame(const TreeEntry& entry, const Way& way, const FileState& there)
     return there.kind == Kind::Other;
 }
 
+/// Whether `target`, which may not be there yet, is on another file system than the folder `source`.
+bool IsElsewhere(const CString& source, const CString& target)
+{
+    FileState to = LookAtFile(target);
+    if (to.kind != Kind::Folder)
+        to = LookAtFile(FileUtils::GetSplitDirPath(target));
+    const FileState from = LookAtFile(source);
+    return from.kind == Kind::Folder && to.kind == Kind::Folder && from.identity.device != to.identity.device;
+}
+
 class TreeFinisher
 {
 public:
@@ -189,15 +199,16 @@ private:
 
 } // namespace
 
-TreeProblems ForeseeProblems(const Tree& tree, TreeAction action)
+TreeProblems ForeseeProblems(const Tree& tree, const CString& target, TreeAction action)
 {
+    const bool copies = action == TreeAction::Copy || IsElsewhere(tree.root, target);
     TreeProblems problems;
     for (const TreeFolder& folder : tree.folders) {
         if (folder.error != 0)
             problems.push_back({folder.path, TreeFault::NotRead, folder.error});
         for (std::size_t index = 0; index < folder.entryCount; ++index) {
             const TreeEntry& entry = tree.entries[folder.firstEntry + index];
-            if (entry.kind == TreeKind::Other && action == TreeAction::Copy)
+            if (entry.kind == TreeKind::Other && copies)
                 problems.push_back({FileUtils::GetCombinePath(folder.path, entry.name), TreeFault::NoContent, 0});
         }
     }

@@ -6,8 +6,9 @@
 
 namespace VyrHost {
 
-/// What cannot go well, as the tree alone tells: folders that cannot be read, and what has no content to copy.
-[[nodiscard]] TreeProblems ForeseeProblems(const Tree& tree, TreeAction action);
+/// What cannot go well, as the tree alone tells: folders that cannot be read, and, where files are copied, what has no
+/// content to copy. A move copies when the full path `target` is on another file system.
+[[nodiscard]] TreeProblems ForeseeProblems(const Tree& tree, const CString& target, TreeAction action);
 
 /// Looks at every entry of `tree` at the full path `target`: it must be there, of the same kind and size, a link with
 /// the same text; after a move nothing may be left at the source. What is missing is tried a second time, which tells

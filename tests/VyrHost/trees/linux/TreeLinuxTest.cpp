@@ -135,8 +135,15 @@ TEST(TreeLinux, PipesAreForeseenAndFailAlone)
     scratch.WriteFile(u"from/sub/file", "1");
     ASSERT_EQ(mkfifo(ToStdPath(scratch.Path(u"from/sub/pipe")).c_str(), 0600), 0);
     const std::vector<std::string> expected = {Text("sub/pipe", TreeFault::NoContent, 0)};
-    EXPECT_EQ(TextsOf(ForeseeProblems(ScanTree(scratch.Path(u"from")), TreeAction::Copy)), expected);
-    EXPECT_TRUE(ForeseeProblems(ScanTree(scratch.Path(u"from")), TreeAction::Move).empty());
+    const auto foresee = [&scratch](const CString& target, TreeAction action) {
+        return TextsOf(ForeseeProblems(ScanTree(scratch.Path(u"from")), target, action));
+    };
+    EXPECT_EQ(foresee(scratch.Path(u"to"), TreeAction::Copy), expected);
+    EXPECT_TRUE(foresee(scratch.Path(u"to"), TreeAction::Move).empty());
+    if (const MountedFolder disk(MountedFolder::Kind::Memory); disk.WhyNot().empty()) {
+        EXPECT_EQ(foresee(disk.Path(), TreeAction::Move), expected);
+        EXPECT_EQ(foresee(disk.Path(u"to"), TreeAction::Move), expected);
+    }
     EXPECT_EQ(TextsOf(Carry(scratch.Path(u"from"), scratch.Path(u"to"), TreeAction::Copy).problems), expected);
     EXPECT_EQ(SnapshotOf(scratch.Path(u"to")), (TreeSnapshot{{"sub", "<folder>"}, {"sub/file", "1"}}));
     EXPECT_TRUE(Carry(scratch.Path(u"from"), scratch.Path(u"moved"), TreeAction::Move).problems.empty());
@@ -171,8 +178,9 @@ TEST(TreeLinux, UnreadableEntriesFailAlone)
     {
         const VyrTests::Unprivileged user;
         ASSERT_TRUE(user.IsDone());
-        EXPECT_EQ(TextsOf(ForeseeProblems(ScanTree(scratch.Path(u"from")), TreeAction::Copy)),
-                  std::vector<std::string>{Text("closed", TreeFault::NotRead, EACCES)});
+        EXPECT_EQ(
+            TextsOf(ForeseeProblems(ScanTree(scratch.Path(u"from")), scratch.Path(u"parent/to"), TreeAction::Copy)),
+            std::vector<std::string>{Text("closed", TreeFault::NotRead, EACCES)});
         EXPECT_EQ(TextsOf(Carry(scratch.Path(u"from"), scratch.Path(u"parent/to"), TreeAction::Copy).problems),
                   (std::vector<std::string>{Text("closed", TreeFault::NotRead, EACCES),
                                             Text("secret", TreeFault::System, EACCES)}));
