@@ -122,10 +122,19 @@ bool IsNameless(const std::string& field)
     return field.empty() || field.find('\0') != std::string::npos;
 }
 
+/// Names may begin with the bytes of its mark, but hold no NUL, which every ASCII character has in UTF-16.
+bool IsUtf16(std::string_view bytes)
+{
+    const bool hasMark = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
+    return hasMark && bytes.find('\0') != std::string_view::npos;
+}
+
 } // namespace
 
 std::vector<NamePair> ParsePairs(std::string_view bytes)
 {
+    if (IsUtf16(bytes))
+        throw UsageError("the pairs are in UTF-16, as some spreadsheets write them; save them in UTF-8");
     TableReader table(bytes);
     std::vector<NamePair> pairs;
     for (std::vector<std::string> fields = table.NextLine(); !fields.empty(); fields = table.NextLine()) {

@@ -55,6 +55,16 @@ TEST(Pairs, KeepBytesThatAreNotUtf8AndSkipTheMarkInFront)
     EXPECT_EQ(Read("\xEF\xBB\xBF\xC3\xA4,\xFF\n"), u"ä>\xDCFF|");
 }
 
+TEST(Pairs, SayThatUtf16IsNotTheirs)
+{
+    using testing::HasSubstr;
+    EXPECT_THAT(ErrorOf("\xFF\xFE"
+                        "a\0,\0b\0\n\0"sv),
+                HasSubstr("UTF-16"));
+    EXPECT_THAT(ErrorOf("\xFE\xFF\0a\0,\0b\0\n"sv), HasSubstr("UTF-16"));
+    EXPECT_EQ(Read("\xFF\xFE,b\n"), u"\xDCFF\xDCFE>b|");
+}
+
 TEST(Pairs, SayInWhichLineTheyMakeNoSense)
 {
     using testing::HasSubstr;
