@@ -58,7 +58,8 @@ int CopyThroughBuffer(int source, int target, off_t offset, off_t end)
 
 /// Like CopyThroughBuffer, within the kernel as far as it can. What it cannot, and files that tell no size but have
 /// content (those of /proc), go through the buffer, which also tells a true error.
-int CopyRange(int source, int target, off_t offset, off_t end)
+/// @param size  what the file tells.
+int CopyRange(int source, int target, off_t offset, off_t end, off_t size)
 {
     constexpr off_t longestCall = 1 << 30;
     while (offset < end) {
@@ -66,6 +67,8 @@ int CopyRange(int source, int target, off_t offset, off_t end)
         off_t to = offset;
         const auto wanted = static_cast<std::size_t>(std::min(longestCall, end - offset));
         const ssize_t count = copy_file_range(source, &from, target, &to, wanted, 0);
+        if (count == 0 && size > 0 && offset >= size)
+            return 0;
         if (count <= 0)
             break;
         offset += count;
@@ -82,10 +85,10 @@ int CopyData(int source, int target, off_t size)
         if (data < 0 && errno == ENXIO)
             break;
         if (data < 0)
-            return CopyRange(source, target, position, endOfFile);
+            return CopyRange(source, target, position, endOfFile, size);
         const off_t hole = lseek(source, data, SEEK_HOLE);
         position = hole > data ? hole : size;
-        if (const int error = CopyRange(source, target, data, position))
+        if (const int error = CopyRange(source, target, data, position, size))
             return error;
     }
     return ftruncate(target, size) == 0 ? 0 : errno;
@@ -100,7 +103,8 @@ int CopyContent(int source, int target, const struct stat& status)
         return 0;
     posix_fadvise(source, 0, 0, POSIX_FADV_SEQUENTIAL);
     const bool hasHoles = status.st_blocks < status.st_size / blockSize;
-    return hasHoles ? CopyData(source, target, status.st_size) : CopyRange(source, target, 0, endOfFile);
+    return hasHoles ? CopyData(source, target, status.st_size)
+                    : CopyRange(source, target, 0, endOfFile, status.st_size);
 }
 
 } // namespace VyrPlatform
