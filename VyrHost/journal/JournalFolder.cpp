@@ -62,7 +62,8 @@ std::uint32_t NumberOf(std::u16string_view name)
     return static_cast<std::uint32_t>(number);
 }
 
-std::optional<JournalFile> FileOf(const CString& name, const CString& path)
+/// The journal with this name; nothing when it is no journal's.
+std::optional<JournalFile> FileOf(std::u16string_view name, const CString& path)
 {
     const std::uint32_t number = NumberOf(name);
     if (number == 0)
@@ -119,11 +120,8 @@ std::vector<VyrPlatform::FileIdentity> JournalFolder::Way() const
 bool JournalFolder::Keeps(std::u16string_view name, const VyrPlatform::FileIdentity& identity) const
 {
     // The system is asked only where the name is one of ours.
-    const auto hasEnding = [name](const auto& pair) {
-        return name.ends_with(pair.second);
-    };
-    const bool isJournal = NumberOf(name) != 0 && std::any_of(endings.begin(), endings.end(), hasEnding);
-    return (isJournal || name == lockName) && VyrPlatform::LookAtFile(PathOf(name)).identity == identity;
+    const bool isOurs = name == lockName || FileOf(name, {});
+    return isOurs && VyrPlatform::LookAtFile(PathOf(name)).identity == identity;
 }
 
 std::vector<JournalFile> JournalFolder::List() const

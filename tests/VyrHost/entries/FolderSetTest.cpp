@@ -4,6 +4,7 @@
 #include <VyrPlatform/FileSystem.h>
 
 #include <gtest/gtest.h>
+#include <tests/VyrHost/entries/ListedNames.h>
 #include <tests/VyrHost/entries/NaturalKey.h>
 #include <tests/support/Describe.h>
 #include <tests/support/ScratchFolder.h>
@@ -24,14 +25,6 @@ using VyrPlatform::FileSystem::Kind;
 CString WithSeparator(const CString& path)
 {
     return path + CString(VyrPlatform::FileSystem::Separator(), 1);
-}
-
-std::vector<std::u16string> NamesIn(const Folder& folder)
-{
-    std::vector<std::u16string> names;
-    for (const NameRecord& record : folder.names.Records())
-        names.emplace_back(record.name.View());
-    return names;
 }
 
 TEST(FolderSet, ListsAFolderInNaturalOrder)

@@ -2,6 +2,7 @@
 #include <VyrHost/entries/FolderSet.h>
 
 #include <gtest/gtest.h>
+#include <tests/VyrHost/entries/ListedNames.h>
 #include <tests/support/Describe.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
@@ -14,14 +15,6 @@ namespace {
 
 using namespace VyrHost;
 using namespace VyrTests;
-
-std::vector<std::u16string> NamesIn(const Folder& folder)
-{
-    std::vector<std::u16string> names;
-    for (const NameRecord& record : folder.names.Records())
-        names.emplace_back(record.name.View());
-    return names;
-}
 
 TEST(FolderSetOnLinux, HasAllNamesThatDifferInCaseAlone)
 {
