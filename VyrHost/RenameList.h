@@ -3,8 +3,8 @@
 #pragma once
 
 #include <VyrHost/entries/NameStore.h>
-#include <VyrPlatform/CString.h>
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstddef>
 #include <cstdint>

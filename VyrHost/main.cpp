@@ -1,8 +1,8 @@
 // Starts the program.
 #include <VyrHost/cli/Program.h>
-#include <VyrPlatform/Console.h>
+#include <VyrHostPlatform/Console.h>
 
 int main(int count, char** arguments)
 {
-    return VyrHost::RunProgram(VyrPlatform::Console::GetArguments(count, arguments));
+    return VyrHost::RunProgram(VyrHostPlatform::Console::GetArguments(count, arguments));
 }

@@ -1,6 +1,6 @@
 // The order of texts.
 #include <VyrLibraryUtils/CompareUtils.h>
-#include <VyrPlatform/Locale.h>
+#include <VyrPlatform/text/Locale.h>
 
 namespace VyrLibraryUtils {
 

@@ -1,7 +1,7 @@
 // The patterns in which date-times are written.
 #include <VyrLibraryUtils/DateTimePattern.h>
-#include <VyrPlatform/Locale.h>
 #include <VyrPlatform/WinTypes.h>
+#include <VyrPlatform/text/Locale.h>
 
 #include <algorithm>
 #include <array>

@@ -8,8 +8,8 @@
 /// %% a percent sign. Anything else stands for itself.
 #pragma once
 
-#include <VyrPlatform/COleDateTime.h>
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
+#include <VyrPlatform/time/COleDateTime.h>
 
 #include <cstdint>
 #include <string_view>

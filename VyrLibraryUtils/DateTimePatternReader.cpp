@@ -1,6 +1,6 @@
 // Date-times read by a pattern.
 #include <VyrLibraryUtils/DateTimePattern.h>
-#include <VyrPlatform/Locale.h>
+#include <VyrPlatform/text/Locale.h>
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // Date-times of files, and their parts.
 #include <VyrLibraryUtils/DateTimePattern.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
-#include <VyrPlatform/FileTimes.h>
+#include <VyrPlatform/files/FileTimes.h>
 
 namespace VyrLibraryUtils {
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>
-#include <VyrPlatform/COleDateTime.h>
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
+#include <VyrPlatform/time/COleDateTime.h>
 
 #include <cstdint>
 

@@ -1,8 +1,8 @@
 // Date-times from text and to text.
 #include <VyrLibraryUtils/DateTimePattern.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
-#include <VyrPlatform/Clock.h>
-#include <VyrPlatform/Locale.h>
+#include <VyrPlatform/text/Locale.h>
+#include <VyrPlatform/time/Clock.h>
 
 #include <algorithm>
 #include <array>

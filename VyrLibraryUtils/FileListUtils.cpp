@@ -3,7 +3,7 @@
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/FileListUtils.h>
 #include <VyrLibraryUtils/ImageUtils.h>
-#include <VyrPlatform/FileTimes.h>
+#include <VyrPlatform/files/FileTimes.h>
 
 namespace VyrLibraryUtils {
 

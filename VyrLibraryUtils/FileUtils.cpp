@@ -2,12 +2,12 @@
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/PathSplit.h>
 #include <VyrLibraryUtils/StringUtils.h>
-#include <VyrPlatform/FileAttributes.h>
-#include <VyrPlatform/FileSystem.h>
-#include <VyrPlatform/FolderListing.h>
-#include <VyrPlatform/Locale.h>
-#include <VyrPlatform/NamedStreams.h>
-#include <VyrPlatform/Process.h>
+#include <VyrPlatform/files/FileAttributes.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/files/FolderListing.h>
+#include <VyrPlatform/files/NamedStreams.h>
+#include <VyrPlatform/process/Process.h>
+#include <VyrPlatform/text/Locale.h>
 
 #include <array>
 #include <limits>

@@ -2,8 +2,8 @@
 #include <VyrLibraryUtils/ImageUtils.h>
 
 #include <VyrLibraryUtils/pictures/Picture.h>
-#include <VyrPlatform/Encoding.h>
-#include <VyrPlatform/FileReader.h>
+#include <VyrPlatform/files/FileReader.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 // Texts for log lines.
 #include <VyrLibraryUtils/LogUtils.h>
-#include <VyrPlatform/Process.h>
+#include <VyrPlatform/process/Process.h>
 
 namespace VyrLibraryUtils {
 

@@ -1,6 +1,6 @@
 // How a path is cut into its parts.
 #include <VyrLibraryUtils/PathSplit.h>
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 namespace VyrLibraryUtils {
 

@@ -1,7 +1,7 @@
 // Where the program keeps its files.
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/PathUtils.h>
-#include <VyrPlatform/Process.h>
+#include <VyrPlatform/process/Process.h>
 
 namespace VyrLibraryUtils {
 

@@ -1,6 +1,6 @@
 // What kind of document a file is.
 #include <VyrLibraryUtils/PropertyUtils.h>
-#include <VyrPlatform/FileReader.h>
+#include <VyrPlatform/files/FileReader.h>
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 namespace VyrLibraryUtils {
 

@@ -1,6 +1,6 @@
 // Texts filled in, cut into tokens and quoted, and numbers to and from text.
 #include <VyrLibraryUtils/StringUtils.h>
-#include <VyrPlatform/Locale.h>
+#include <VyrPlatform/text/Locale.h>
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 // The version of the running program.
 #include <VyrLibraryUtils/VersionUtils.h>
-#include <VyrPlatform/Process.h>
+#include <VyrPlatform/process/Process.h>
 
 namespace VyrLibraryUtils {
 

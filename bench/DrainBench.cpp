@@ -1,7 +1,7 @@
 // What a drain costs that finds nothing to do, as inner loops call it: on a thread without a queue, on one with a
 // queue, and, as the reference, the lock that a queue would have to take to look.
-#include <VyrPlatform/LinuxMessageQueue.h>
-#include <VyrPlatform/MessageQueue.h>
+#include <VyrPlatform/process/LinuxMessageQueue.h>
+#include <VyrPlatform/process/MessageQueue.h>
 
 #include <benchmark/benchmark.h>
 

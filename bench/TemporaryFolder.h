@@ -2,7 +2,7 @@
 /// For benchmarks: a place on the disk, and its paths as the library takes them.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstdlib>
 #include <filesystem>

@@ -1,13 +1,24 @@
-# A shared library of the product, which others find as Vyr::EXPORT_NAME: every source in its folder, the system's own
-# folder for VyrPlatform. PUBLIC_HEADERS are patterns; what they match is installed, in the same folders.
+# The sources below FOLDER into the variable RESULT, without those that stand in a folder of the other system.
+function(vyr_find_sources result folder)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${folder}/*.cpp")
+  if(WIN32)
+    set(other_system linux)
+  else()
+    set(other_system windows)
+  endif()
+  foreach(source IN LISTS sources)
+    file(RELATIVE_PATH place "${folder}" "${source}")
+    if(NOT "/${place}" MATCHES "/${other_system}/")
+      list(APPEND kept "${source}")
+    endif()
+  endforeach()
+  set(${result} ${kept} PARENT_SCOPE)
+endfunction()
+
+# A shared library of the product, which others find as Vyr::EXPORT_NAME: every source in its folder. PUBLIC_HEADERS are patterns; what they match is installed, in the same folders.
 function(vyr_add_component name)
   cmake_parse_arguments(component "" "EXPORT_NAME" "PUBLIC_HEADERS" ${ARGN})
-  file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp")
-  if(WIN32)
-    list(FILTER sources EXCLUDE REGEX "/linux/[^/]*$")
-  else()
-    list(FILTER sources EXCLUDE REGEX "/windows/[^/]*$")
-  endif()
+  vyr_find_sources(sources "${CMAKE_CURRENT_SOURCE_DIR}")
   file(GLOB headers CONFIGURE_DEPENDS ${component_PUBLIC_HEADERS})
   # A public header that serves one system alone tells so by its name.
   if(WIN32)

@@ -1,5 +1,5 @@
 // Samba's extended attribute: no bytes lead the reader astray, and a time that is put into them is read again.
-#include <VyrPlatform/linux/DosAttribute.h>
+#include <VyrPlatform/linux/files/DosAttribute.h>
 
 #include <cstdlib>
 

@@ -1,6 +1,6 @@
 // Any bytes and any code units: names come back exactly, content loses only what is not well-formed, and what was
 // converted once stays as it is.
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <cstddef>
 #include <cstdint>

@@ -5,7 +5,7 @@
 #include <VyrHost/entries/Pairs.h>
 #include <VyrHost/rules/RuleTexts.h>
 
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <array>
 #include <cstddef>

@@ -4,7 +4,7 @@
 #include <VyrHost/journal/JournalText.h>
 #include <VyrHost/plan/PlanCheck.h>
 
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <algorithm>
 #include <cstddef>

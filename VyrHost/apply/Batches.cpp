@@ -7,8 +7,8 @@
 
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/PathUtils.h>
-#include <VyrPlatform/Clock.h>
-#include <VyrPlatform/Process.h>
+#include <VyrPlatform/process/Process.h>
+#include <VyrPlatform/time/Clock.h>
 
 #include <algorithm>
 #include <random>

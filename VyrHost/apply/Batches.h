@@ -4,8 +4,8 @@
 
 #include <VyrHost/RenameList.h>
 
-#include <VyrPlatform/CString.h>
-#include <VyrPlatform/FileIdentity.h>
+#include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstddef>
 #include <cstdint>

@@ -4,7 +4,7 @@
 #include <VyrHost/entries/Prefetch.h>
 #include <VyrHost/files/ErrorText.h>
 
-#include <VyrPlatform/RenameFile.h>
+#include <VyrHostPlatform/RenameFile.h>
 
 #include <algorithm>
 #include <utility>
@@ -278,9 +278,9 @@ Executor::StepResult Executor::Refuse(PlanIndex entry, const CString& reason)
 
 Executor::StepResult Executor::Fail(PlanIndex entry, std::uint32_t error, Standing target)
 {
-    if (VyrPlatform::IsOtherFileSystem(error))
+    if (VyrHostPlatform::IsOtherFileSystem(error))
         return Refuse(entry, u"the new path is on another file system");
-    const bool isTaken = VyrPlatform::IsTargetTaken(error);
+    const bool isTaken = VyrHostPlatform::IsTargetTaken(error);
     m_results[entry] = {.outcome = RenameOutcome::Failed,
                         .error = error,
                         .reason = !isTaken                     ? ErrorText(error)

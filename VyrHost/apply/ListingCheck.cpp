@@ -61,7 +61,7 @@ private:
     [[nodiscard]] bool IsExact(PlanIndex folder)
     {
         const std::optional<CString> path = m_progress.PathOfFolder(folder);
-        return path && m_files.GetNameFolding(*path) == VyrPlatform::NameFolding::None;
+        return path && m_files.GetNameFolding(*path) == VyrHostPlatform::NameFolding::None;
     }
 
     bool List(PlanIndex folder)

@@ -1,7 +1,7 @@
 // Finds paths in a tree of folders whose names change.
 #include <VyrHost/apply/PlanProgress.h>
 
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 namespace VyrHost {
 

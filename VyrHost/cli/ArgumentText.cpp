@@ -1,7 +1,7 @@
 // Turns arguments into the parser's bytes and back.
 #include <VyrHost/cli/ArgumentText.h>
 
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <CLI/CLI.hpp>
 

@@ -2,7 +2,7 @@
 /// Arguments on their way through the parser of the command line, which works on bytes.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <string>
 #include <vector>

@@ -5,7 +5,7 @@
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/output/OutputBuffer.h>
 #include <VyrHost/output/SafeText.h>
-#include <VyrPlatform/Console.h>
+#include <VyrHostPlatform/Console.h>
 
 namespace VyrHost {
 
@@ -39,7 +39,7 @@ int BatchReport::Write(const BatchSummary& summary)
     OutputBuffer output;
     if (m_style.json) {
         WriteEntryJson(output, m_entries, m_style.direction);
-        VyrPlatform::Console::Write(VyrPlatform::Console::Stream::Error, SummaryOf(summary));
+        VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, SummaryOf(summary));
     } else {
         WriteEntryTable(output, m_entries, m_style.direction);
         if (!m_style.quiet && !WasBlocked(summary))

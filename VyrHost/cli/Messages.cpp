@@ -2,13 +2,13 @@
 #include <VyrHost/cli/Messages.h>
 
 #include <VyrHost/output/SafeText.h>
-#include <VyrPlatform/Console.h>
+#include <VyrHostPlatform/Console.h>
 
 namespace VyrHost {
 
 void Complain(const std::string& what)
 {
-    VyrPlatform::Console::Write(VyrPlatform::Console::Stream::Error, "vyr: " + what + "\n");
+    VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, "vyr: " + what + "\n");
 }
 
 std::string CutOffNotice(const BatchInformation& batch)

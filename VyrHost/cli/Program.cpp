@@ -10,9 +10,9 @@
 #include <VyrHost/cli/RenameCommand.h>
 #include <VyrHost/cli/TreeCommand.h>
 #include <VyrHost/cli/UndoCommand.h>
+#include <VyrHostPlatform/Console.h>
 #include <VyrLibraryUtils/VersionUtils.h>
-#include <VyrPlatform/Console.h>
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <CLI/CLI.hpp>
 
@@ -22,8 +22,8 @@ namespace VyrHost {
 
 namespace {
 
+using VyrHostPlatform::Console::Stream;
 using VyrLibraryUtils::VersionUtils;
-using VyrPlatform::Console::Stream;
 
 std::string VersionText()
 {
@@ -33,7 +33,7 @@ std::string VersionText()
 
 int WriteOut(const std::string& text)
 {
-    return VyrPlatform::Console::Write(Stream::Output, text) ? ExitCode::Success : ExitCode::Output;
+    return VyrHostPlatform::Console::Write(Stream::Output, text) ? ExitCode::Success : ExitCode::Output;
 }
 
 int RefuseCall(const std::string& what)

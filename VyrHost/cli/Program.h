@@ -2,7 +2,7 @@
 /// The program vyr, from its arguments to its exit code.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <vector>
 

@@ -9,7 +9,7 @@
 #include <VyrHost/cli/OptionPairs.h>
 #include <VyrHost/output/OutputBuffer.h>
 #include <VyrHost/output/SafeText.h>
-#include <VyrPlatform/Interrupt.h>
+#include <VyrHostPlatform/Interrupt.h>
 
 #include <CLI/CLI.hpp>
 
@@ -51,12 +51,12 @@ int RecoverCommand::Run() const
     }
     if (m_setAside)
         return SetAside();
-    VyrPlatform::Interrupt::Catch();
+    VyrHostPlatform::Interrupt::Catch();
     const Recovery recovery = m_takeBack ? Recovery::TakeBack : Recovery::Finish;
     const BatchDirection direction =
         DoesRenames(recovery, cutOff->state) ? BatchDirection::Forward : BatchDirection::Back;
     BatchReport report("recovering", cutOff->entries, {direction, m_json, m_quiet});
-    const BatchSummary summary = batches.Recover(recovery, report.Collector(), VyrPlatform::Interrupt::WasAsked);
+    const BatchSummary summary = batches.Recover(recovery, report.Collector(), VyrHostPlatform::Interrupt::WasAsked);
     return report.Write(summary);
 }
 

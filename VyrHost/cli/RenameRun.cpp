@@ -21,12 +21,12 @@
 #include <VyrHost/preview/GivenNames.h>
 #include <VyrHost/preview/PlannedRenames.h>
 #include <VyrHost/preview/SourceLooks.h>
-#include <VyrPlatform/Console.h>
-#include <VyrPlatform/Editor.h>
-#include <VyrPlatform/FileSystem.h>
-#include <VyrPlatform/Interrupt.h>
-#include <VyrPlatform/Process.h>
-#include <VyrPlatform/ReadToEnd.h>
+#include <VyrHostPlatform/Console.h>
+#include <VyrHostPlatform/Editor.h>
+#include <VyrHostPlatform/Interrupt.h>
+#include <VyrHostPlatform/ReadToEnd.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/process/Process.h>
 
 #include <algorithm>
 #include <memory>
@@ -42,14 +42,14 @@ std::string ReadPairsFile(const CString& path)
 {
     if (path != u"-") {
         std::uint32_t error = 0;
-        std::optional<std::string> bytes = VyrPlatform::ReadToEnd(path, error);
+        std::optional<std::string> bytes = VyrHostPlatform::ReadToEnd(path, error);
         if (!bytes)
             throw UsageError("cannot read '" + SafeText(path) + "': " + SafeText(ErrorText(error)));
         return std::move(*bytes);
     }
     std::string bytes;
-    for (std::string piece = VyrPlatform::Console::ReadInput(); !piece.empty();
-         piece = VyrPlatform::Console::ReadInput())
+    for (std::string piece = VyrHostPlatform::Console::ReadInput(); !piece.empty();
+         piece = VyrHostPlatform::Console::ReadInput())
         bytes += piece;
     return bytes;
 }
@@ -160,7 +160,7 @@ private:
         std::vector<CString> names;
         for (std::size_t entry = 0; entry < m_outcome.decisions.size(); ++entry)
             names.push_back(NameForEditing(List().entries[entry], m_outcome.decisions[entry]));
-        const VyrPlatform::EditedText edited = VyrPlatform::EditText(TextForEditing(names));
+        const VyrHostPlatform::EditedText edited = VyrHostPlatform::EditText(TextForEditing(names));
         if (!edited.text)
             throw UsageError(SafeText(edited.error));
         m_names = std::make_unique<GivenNames>(ParseEdited(*edited.text, names.size()));
@@ -215,7 +215,7 @@ private:
             Complain(CutOffNotice(*cutOff) + "; nothing was done");
             return ExitCode::Blocked;
         }
-        VyrPlatform::Interrupt::Catch();
+        VyrHostPlatform::Interrupt::Catch();
         Progress progress("renaming", planned.list.renames.size(), IsSilent());
         std::size_t done = 0;
         const RenameReport report = [&](std::size_t index, const RenameResult& result) {
@@ -224,7 +224,7 @@ private:
         };
         m_summary = batches.Apply(
             planned.list, [this, &planned] { return m_looks->Take(planned.entries); }, report,
-            VyrPlatform::Interrupt::WasAsked);
+            VyrHostPlatform::Interrupt::WasAsked);
         progress.Close();
         return JudgeSummary(m_summary);
     }
@@ -247,7 +247,7 @@ private:
         const Tally tally(m_outcome.decisions);
         if (m_request.json) {
             WriteJsonLines(output, List(), m_outcome);
-            VyrPlatform::Console::Write(VyrPlatform::Console::Stream::Error, SummaryOf(tally));
+            VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, SummaryOf(tally));
         } else if (m_request.quiet) {
             ShowProblems();
         } else {

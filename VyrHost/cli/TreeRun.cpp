@@ -8,8 +8,8 @@
 #include <VyrHost/output/SafeText.h>
 #include <VyrHost/output/TreeOutput.h>
 #include <VyrHost/trees/TreeBatch.h>
-#include <VyrPlatform/Console.h>
-#include <VyrPlatform/Interrupt.h>
+#include <VyrHostPlatform/Console.h>
+#include <VyrHostPlatform/Interrupt.h>
 
 #include <algorithm>
 #include <optional>
@@ -25,7 +25,7 @@ class TerminalWatch final : public TreeWatch
 public:
     TerminalWatch(const char* what, bool isSilent) : m_what(what), m_isSilent(isSilent) {}
 
-    bool IsStopAsked() override { return VyrPlatform::Interrupt::WasAsked(); }
+    bool IsStopAsked() override { return VyrHostPlatform::Interrupt::WasAsked(); }
 
     void Begin(const TreeTask& task, std::size_t newFolders) override
     {
@@ -75,7 +75,7 @@ public:
 private:
     void Apply()
     {
-        VyrPlatform::Interrupt::Catch();
+        VyrHostPlatform::Interrupt::Catch();
         TerminalWatch watch(m_request.action == TreeAction::Copy ? "copying folders" : "moving folders",
                             m_request.quiet || m_request.json);
         m_batch.Apply(watch);
@@ -86,7 +86,7 @@ private:
         const std::string summary = SummaryOf(m_batch.Reports(), m_request.action);
         if (m_request.json) {
             WriteTreeJson(output, m_batch.Reports(), m_request.action);
-            VyrPlatform::Console::Write(VyrPlatform::Console::Stream::Error, summary);
+            VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, summary);
         } else if (m_request.quiet) {
             for (const std::string& line : ProblemLines(m_batch.Reports(), m_request.action))
                 Complain(line);

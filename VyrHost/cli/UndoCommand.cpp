@@ -11,7 +11,7 @@
 #include <VyrHost/output/BatchOutput.h>
 #include <VyrHost/output/OutputBuffer.h>
 #include <VyrHost/rules/RuleTexts.h>
-#include <VyrPlatform/Interrupt.h>
+#include <VyrHostPlatform/Interrupt.h>
 
 #include <CLI/CLI.hpp>
 
@@ -72,9 +72,9 @@ int UndoCommand::Run() const
         Complain(CutOffNotice(*cutOff) + "; nothing was done");
         return ExitCode::Blocked;
     }
-    VyrPlatform::Interrupt::Catch();
+    VyrHostPlatform::Interrupt::Catch();
     BatchReport report("taking back", CountEntries(known, number), {BatchDirection::Back, m_json, m_quiet});
-    const BatchSummary summary = batches.TakeBack(number, report.Collector(), VyrPlatform::Interrupt::WasAsked);
+    const BatchSummary summary = batches.TakeBack(number, report.Collector(), VyrHostPlatform::Interrupt::WasAsked);
     return report.Write(summary);
 }
 

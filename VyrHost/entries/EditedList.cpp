@@ -4,8 +4,8 @@
 #include <VyrHost/UsageError.h>
 #include <VyrHost/entries/Utf8Mark.h>
 #include <VyrHost/output/UnitEscape.h>
-#include <VyrPlatform/Encoding.h>
-#include <VyrPlatform/Surrogates.h>
+#include <VyrPlatform/text/Encoding.h>
+#include <VyrPlatform/text/Surrogates.h>
 
 #include <algorithm>
 #include <charconv>

@@ -2,7 +2,7 @@
 /// A list of names as a text that people edit.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
 #include <string>

@@ -3,7 +3,7 @@
 
 #include <VyrHost/entries/NaturalOrder.h>
 #include <VyrHost/entries/Prefetch.h>
-#include <VyrPlatform/FolderListing.h>
+#include <VyrPlatform/files/FolderListing.h>
 
 #include <vector>
 
@@ -55,7 +55,7 @@ void FolderSet::List(Folder& folder)
         listed.push_back({texts.Keep(listing.Name()), listing.Kind(), listing.IsLink()});
     folder.error = listing.Error();
     folder.exists = folder.error == 0;
-    folder.names.SetFolding(VyrPlatform::GetNameFolding(folder.path));
+    folder.names.SetFolding(VyrHostPlatform::GetNameFolding(folder.path));
     folder.names.Reserve(listed.size());
     // Whoever goes through them in this order finds the texts side by side.
     SortNaturally(listed);

@@ -4,8 +4,8 @@
 
 #include <VyrHost/entries/NameStore.h>
 #include <VyrHost/entries/NameTable.h>
-#include <VyrPlatform/CString.h>
-#include <VyrPlatform/FileIdentity.h>
+#include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
 #include <deque>

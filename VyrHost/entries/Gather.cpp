@@ -6,13 +6,13 @@
 #include <VyrHost/entries/Wildcard.h>
 #include <VyrHost/files/FolderPart.h>
 #include <VyrHost/output/SafeText.h>
+#include <VyrHostPlatform/Console.h>
+#include <VyrHostPlatform/FullPath.h>
+#include <VyrHostPlatform/NameFolding.h>
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/Console.h>
-#include <VyrPlatform/FileIdentity.h>
-#include <VyrPlatform/FileSystem.h>
-#include <VyrPlatform/FullPath.h>
-#include <VyrPlatform/NameFolding.h>
-#include <VyrPlatform/Process.h>
+#include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/process/Process.h>
 
 #include <algorithm>
 #include <string>
@@ -67,7 +67,7 @@ CutPath Cut(const CString& path)
     const std::u16string_view name = text.substr(before.size());
     if (IsPlain(text, name))
         return {before, name};
-    const CString full = VyrPlatform::GetFullPath(path);
+    const CString full = VyrHostPlatform::GetFullPath(path);
     const CString folder = FileUtils::GetSplitDirPath(full);
     return {folder, full.Mid(folder.GetLength())};
 }
@@ -109,8 +109,8 @@ private:
         const auto add = [this](const CString& path) {
             Add(path, false);
         };
-        for (std::string piece = VyrPlatform::Console::ReadInput(); !piece.empty();
-             piece = VyrPlatform::Console::ReadInput())
+        for (std::string piece = VyrHostPlatform::Console::ReadInput(); !piece.empty();
+             piece = VyrHostPlatform::Console::ReadInput())
             reader.Read(piece, add);
         reader.Finish(add);
     }
@@ -118,7 +118,7 @@ private:
     void Add(const CString& path, bool mayBePattern)
     {
         if (m_settings.recursive && VyrPlatform::FileSystem::IsFolder(path)) {
-            const CString full = WithSeparator(VyrPlatform::GetFullPath(path));
+            const CString full = WithSeparator(VyrHostPlatform::GetFullPath(path));
             NoteSourceFolder(full, path);
             Walk(full, Shown(path));
             return;
@@ -134,7 +134,7 @@ private:
     {
         if (m_parent == NoEntry || m_parentText != folder) {
             const CString path =
-                folder.IsEmpty() ? VyrPlatform::Process::GetCurrentFolder() : VyrPlatform::GetFullPath(folder);
+                folder.IsEmpty() ? VyrPlatform::Process::GetCurrentFolder() : VyrHostPlatform::GetFullPath(folder);
             m_parent = List().folders.Open(WithSeparator(path), Shown(folder));
             m_parentText = folder;
         }
@@ -178,10 +178,11 @@ private:
     bool AddMatches(std::uint32_t folder, const CString& pattern)
     {
         NameTable& names = List().folders[folder].names;
-        const CString folded = VyrPlatform::FoldName(pattern, names.Folding());
+        const CString folded = VyrHostPlatform::FoldName(pattern, names.Folding());
         bool matched = false;
         for (NameRecord& record : names.Records()) {
-            if (IsShown(record) && MatchesPattern(folded, VyrPlatform::FoldName(record.name.View(), names.Folding()))) {
+            if (IsShown(record) &&
+                MatchesPattern(folded, VyrHostPlatform::FoldName(record.name.View(), names.Folding()))) {
                 AddSource(folder, record);
                 matched = true;
             }

@@ -1,7 +1,7 @@
 // Finds the entries that keep together.
 #include <VyrHost/entries/Groups.h>
 
-#include <VyrPlatform/NameFolding.h>
+#include <VyrHostPlatform/NameFolding.h>
 
 #include <numeric>
 #include <string>
@@ -29,8 +29,8 @@ Groups Groups::ByStem(const EntryList& list)
         std::uint32_t group = count;
         if (entry.kind == Kind::File) {
             const CString stem = Split(list.PathOf(entry), entry).name;
-            const VyrPlatform::NameFolding folding = list.folders[entry.folder].names.Folding();
-            group = stems[entry.folder].try_emplace(VyrPlatform::FoldName(stem, folding), count).first->second;
+            const VyrHostPlatform::NameFolding folding = list.folders[entry.folder].names.Folding();
+            group = stems[entry.folder].try_emplace(VyrHostPlatform::FoldName(stem, folding), count).first->second;
         }
         if (group == count)
             ++count;

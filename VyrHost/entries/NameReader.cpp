@@ -2,8 +2,8 @@
 #include <VyrHost/entries/NameReader.h>
 
 #include <VyrHost/entries/Utf8Mark.h>
-#include <VyrPlatform/Encoding.h>
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/text/Encoding.h>
 
 namespace VyrHost {
 

@@ -2,7 +2,7 @@
 /// Names from a stream of bytes.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <string>
 #include <string_view>

@@ -10,7 +10,7 @@
 
 namespace VyrHost {
 
-using VyrPlatform::NameFolding;
+using VyrHostPlatform::NameFolding;
 
 namespace {
 
@@ -28,14 +28,14 @@ NameTable::Key NameTable::KeyOf(std::u16string_view name) const
 {
     if (m_folding == NameFolding::None)
         return {name, {}, HashOf(name)};
-    const CString folded = VyrPlatform::FoldName(name, m_folding);
+    const CString folded = VyrHostPlatform::FoldName(name, m_folding);
     return {name, folded, HashOf(folded)};
 }
 
 bool NameTable::IsSame(const NameRecord& record, const Key& key) const
 {
     return record.name == key.name ||
-           (m_folding != NameFolding::None && VyrPlatform::FoldName(record.name.View(), m_folding) == key.folded);
+           (m_folding != NameFolding::None && VyrHostPlatform::FoldName(record.name.View(), m_folding) == key.folded);
 }
 
 std::size_t NameTable::SlotOf(const Key& key) const

@@ -3,9 +3,9 @@
 #pragma once
 
 #include <VyrHost/entries/NameStore.h>
-#include <VyrPlatform/CString.h>
-#include <VyrPlatform/FileSystem.h>
-#include <VyrPlatform/NameFolding.h>
+#include <VyrHostPlatform/NameFolding.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -38,8 +38,8 @@ class NameTable
 {
 public:
     /// How the folder compares names. To be set before the first name is added.
-    void SetFolding(VyrPlatform::NameFolding folding) { m_folding = folding; }
-    [[nodiscard]] VyrPlatform::NameFolding Folding() const { return m_folding; }
+    void SetFolding(VyrHostPlatform::NameFolding folding) { m_folding = folding; }
+    [[nodiscard]] VyrHostPlatform::NameFolding Folding() const { return m_folding; }
 
     /// The record of `name`, or of what the folder takes for the same name; a null pointer when there is none.
     [[nodiscard]] NameRecord* Find(std::u16string_view name);
@@ -77,7 +77,7 @@ private:
     [[nodiscard]] std::size_t SlotOf(const Key& key) const;
     void Grow(std::size_t count);
 
-    VyrPlatform::NameFolding m_folding = VyrPlatform::NameFolding::None;
+    VyrHostPlatform::NameFolding m_folding = VyrHostPlatform::NameFolding::None;
     /// Not a vector: a table of many names would be copied each time that it grows.
     std::deque<NameRecord> m_records;
     /// Their count is a power of two.

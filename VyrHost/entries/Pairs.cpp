@@ -3,7 +3,7 @@
 
 #include <VyrHost/UsageError.h>
 #include <VyrHost/entries/Utf8Mark.h>
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <algorithm>
 #include <string>

@@ -2,7 +2,7 @@
 /// Pairs of old and new names from a table.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <string_view>
 #include <vector>

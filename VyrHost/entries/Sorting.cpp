@@ -4,7 +4,7 @@
 #include <VyrHost/entries/NaturalOrder.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/ImageUtils.h>
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <algorithm>
 #include <cmath>

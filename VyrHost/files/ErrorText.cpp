@@ -1,7 +1,7 @@
 // Words for error codes.
 #include <VyrHost/files/ErrorText.h>
 
-#include <VyrPlatform/Process.h>
+#include <VyrPlatform/process/Process.h>
 
 namespace VyrHost {
 

@@ -2,7 +2,7 @@
 /// What a system's error code means, for people.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
 

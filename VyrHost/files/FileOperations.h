@@ -2,10 +2,10 @@
 /// What the executor and the journal do to the disk: an interface, so that tests can let any of it fail.
 #pragma once
 
-#include <VyrPlatform/CString.h>
-#include <VyrPlatform/DurableFile.h>
-#include <VyrPlatform/FileIdentity.h>
-#include <VyrPlatform/NameFolding.h>
+#include <VyrHostPlatform/DurableFile.h>
+#include <VyrHostPlatform/NameFolding.h>
+#include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
 #include <functional>
@@ -14,7 +14,7 @@
 
 namespace VyrHost {
 
-/// One folder, as VyrPlatform::OpenFolder describes it.
+/// One folder, as VyrHostPlatform::OpenFolder describes it.
 class FolderOperations
 {
 public:
@@ -47,11 +47,11 @@ public:
     [[nodiscard]] virtual std::unique_ptr<FolderOperations> OpenFolder(const CString& path, std::uint32_t& error) = 0;
     /// Calls `use` with the name of each entry of the folder at `path`, as the file system keeps it.
     [[nodiscard]] virtual std::uint32_t List(const CString& path, const std::function<void(const CString&)>& use) = 0;
-    [[nodiscard]] virtual VyrPlatform::NameFolding GetNameFolding(const CString& path) = 0;
+    [[nodiscard]] virtual VyrHostPlatform::NameFolding GetNameFolding(const CString& path) = 0;
 
-    // For journal files: VyrPlatform/DurableFile.h and RenameNoReplace.
+    // For journal files: VyrHostPlatform/DurableFile.h and RenameNoReplace.
     [[nodiscard]] virtual std::uint32_t WriteNew(const CString& path,
-                                                 const VyrPlatform::DurableFile::Content& content) = 0;
+                                                 const VyrHostPlatform::DurableFile::Content& content) = 0;
     [[nodiscard]] virtual std::uint32_t Append(const CString& path, std::string_view content) = 0;
     [[nodiscard]] virtual std::uint32_t RenameFile(const CString& from, const CString& to) = 0;
     [[nodiscard]] virtual std::uint32_t Remove(const CString& path) = 0;

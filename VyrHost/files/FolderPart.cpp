@@ -1,7 +1,7 @@
 // Finds the last separator of a path.
 #include <VyrHost/files/FolderPart.h>
 
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <algorithm>
 

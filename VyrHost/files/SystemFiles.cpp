@@ -1,15 +1,15 @@
 // The file operations, done by the platform.
 #include <VyrHost/files/FileOperations.h>
 
-#include <VyrPlatform/DurableFile.h>
-#include <VyrPlatform/FolderListing.h>
-#include <VyrPlatform/RenameFile.h>
+#include <VyrHostPlatform/DurableFile.h>
+#include <VyrHostPlatform/RenameFile.h>
+#include <VyrPlatform/files/FolderListing.h>
 
 namespace VyrHost {
 
 namespace {
 
-namespace DurableFile = VyrPlatform::DurableFile;
+namespace DurableFile = VyrHostPlatform::DurableFile;
 
 class SystemFolder final : public FolderOperations
 {
@@ -32,7 +32,7 @@ public:
     std::uint32_t RemoveEmptyFolder(std::u16string_view name) override { return m_folder.RemoveEmptyFolder(name); }
 
 private:
-    VyrPlatform::OpenFolder m_folder;
+    VyrHostPlatform::OpenFolder m_folder;
 };
 
 class SystemFileOperations final : public FileOperations
@@ -53,7 +53,10 @@ public:
             use(listing.Name());
         return listing.Error();
     }
-    VyrPlatform::NameFolding GetNameFolding(const CString& path) override { return VyrPlatform::GetNameFolding(path); }
+    VyrHostPlatform::NameFolding GetNameFolding(const CString& path) override
+    {
+        return VyrHostPlatform::GetNameFolding(path);
+    }
 
     std::uint32_t WriteNew(const CString& path, const DurableFile::Content& content) override
     {
@@ -65,7 +68,7 @@ public:
     }
     std::uint32_t RenameFile(const CString& from, const CString& to) override
     {
-        return VyrPlatform::RenameNoReplace(from, to);
+        return VyrHostPlatform::RenameNoReplace(from, to);
     }
     std::uint32_t Remove(const CString& path) override { return DurableFile::Remove(path); }
     std::uint32_t FlushFolder(const CString& path) override { return DurableFile::FlushFolder(path); }

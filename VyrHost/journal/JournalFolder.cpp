@@ -4,11 +4,11 @@
 #include <VyrHost/files/ErrorText.h>
 #include <VyrHost/files/FolderPart.h>
 
+#include <VyrHostPlatform/FullPath.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/FolderUtils.h>
-#include <VyrPlatform/FileReader.h>
-#include <VyrPlatform/FolderListing.h>
-#include <VyrPlatform/FullPath.h>
+#include <VyrPlatform/files/FileReader.h>
+#include <VyrPlatform/files/FolderListing.h>
 
 #include <algorithm>
 #include <array>
@@ -94,7 +94,7 @@ CString JournalFolder::Lock()
 {
     if (VyrLibraryUtils::FolderUtils::CreateFolderPathExists(m_path) == 0)
         return CString::Join({u"the folder for the journal cannot be made: ", m_path});
-    m_lock = std::make_unique<VyrPlatform::FileLock>(PathOf(lockName));
+    m_lock = std::make_unique<VyrHostPlatform::FileLock>(PathOf(lockName));
     if (m_lock->IsHeld())
         return {};
     if (m_lock->IsTaken())
@@ -104,14 +104,14 @@ CString JournalFolder::Lock()
 
 bool JournalFolder::IsLockedByAnother() const
 {
-    return VyrPlatform::FileLock(PathOf(lockName)).IsTaken();
+    return VyrHostPlatform::FileLock(PathOf(lockName)).IsTaken();
 }
 
 std::vector<VyrPlatform::FileIdentity> JournalFolder::Way() const
 {
     std::vector<VyrPlatform::FileIdentity> way;
     // As the path is written, and with its links followed.
-    for (const CString& path : {VyrPlatform::GetFullPath(m_path), VyrPlatform::GetRealPath(m_path)})
+    for (const CString& path : {VyrHostPlatform::GetFullPath(m_path), VyrHostPlatform::GetRealPath(m_path)})
         for (std::u16string_view at = path; !FolderPart(at).empty(); at = at.substr(0, FolderPart(at).size() - 1))
             way.push_back(VyrPlatform::LookAtFile(at).identity);
     return way;
@@ -186,7 +186,7 @@ std::uint32_t JournalFolder::Begin(Journal& journal, JournalFile& file)
     file.path = PathOf(NameOf(file.number, EndingOf(file.phase)));
     journal.heading.number = file.number;
     const CString newPath = PathOf(NameOf(file.number, newEnding));
-    const auto content = [&journal](const VyrPlatform::DurableFile::TakePiece& take) {
+    const auto content = [&journal](const VyrHostPlatform::DurableFile::TakePiece& take) {
         journal.check = WriteJournal(journal, take);
     };
     std::uint32_t error = m_files.WriteNew(newPath, content);

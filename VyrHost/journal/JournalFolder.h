@@ -5,7 +5,7 @@
 #include <VyrHost/files/FileOperations.h>
 #include <VyrHost/journal/JournalText.h>
 
-#include <VyrPlatform/DurableFile.h>
+#include <VyrHostPlatform/DurableFile.h>
 
 #include <cstdint>
 #include <memory>
@@ -95,7 +95,7 @@ private:
 
     FileOperations& m_files;
     CString m_path;
-    std::unique_ptr<VyrPlatform::FileLock> m_lock;
+    std::unique_ptr<VyrHostPlatform::FileLock> m_lock;
 };
 
 } // namespace VyrHost

@@ -2,8 +2,8 @@
 #include <VyrHost/journal/JournalName.h>
 
 #include <VyrHost/output/UnitEscape.h>
-#include <VyrPlatform/Encoding.h>
-#include <VyrPlatform/Surrogates.h>
+#include <VyrPlatform/text/Encoding.h>
+#include <VyrPlatform/text/Surrogates.h>
 
 #include <algorithm>
 

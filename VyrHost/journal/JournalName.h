@@ -2,7 +2,7 @@
 /// Names as the journal writes them: exactly, and on one line.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <optional>
 #include <string>

@@ -15,8 +15,8 @@ namespace VyrHost {
 
 namespace {
 
+using VyrHostPlatform::DurableFile::TakePiece;
 using VyrPlatform::FileState;
-using VyrPlatform::DurableFile::TakePiece;
 using VyrPlatform::FileSystem::Kind;
 
 constexpr std::string_view format = "vyr-journal";

@@ -21,8 +21,8 @@
 
 #include <VyrHost/plan/RenamePlan.h>
 
-#include <VyrPlatform/DurableFile.h>
-#include <VyrPlatform/FileIdentity.h>
+#include <VyrHostPlatform/DurableFile.h>
+#include <VyrPlatform/files/FileIdentity.h>
 
 #include <optional>
 #include <string>
@@ -79,7 +79,7 @@ struct Journal
 
 /// Gives `use` the text of a batch that is about to begin, piece by piece: `journal` without its mark and check.
 /// @return the check.
-std::uint32_t WriteJournal(const Journal& journal, const VyrPlatform::DurableFile::TakePiece& use);
+std::uint32_t WriteJournal(const Journal& journal, const VyrHostPlatform::DurableFile::TakePiece& use);
 /// What is appended to the text with the check `check`.
 [[nodiscard]] std::string WriteMark(const JournalMark& mark, std::uint32_t check);
 

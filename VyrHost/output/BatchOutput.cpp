@@ -7,7 +7,7 @@
 #include <VyrHost/output/Summary.h>
 #include <VyrHost/output/Table.h>
 #include <VyrHost/output/Words.h>
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <string_view>
 

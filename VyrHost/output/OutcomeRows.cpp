@@ -2,7 +2,7 @@
 #include <VyrHost/output/OutcomeRows.h>
 
 #include <VyrHost/output/Words.h>
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <string>
 
@@ -22,14 +22,14 @@ ShownName NewName(const EntryList& list, const Entry& entry, const Decision& dec
 CString NoteFor(const Outcome& outcome, std::size_t index)
 {
     const Decision& decision = outcome.decisions[index];
-    if (decision.status == Status::Renamed && decision.warning == VyrPlatform::NameFault::None)
+    if (decision.status == Status::Renamed && decision.warning == VyrHostPlatform::NameFault::None)
         return {};
     std::string note;
     if (decision.status != Status::Renamed)
         note = WordFor(decision.status);
     if (const std::string reason = ReasonFor(outcome, index); !reason.empty())
         note.append(": ").append(reason);
-    if (decision.warning != VyrPlatform::NameFault::None && decision.IsRename())
+    if (decision.warning != VyrHostPlatform::NameFault::None && decision.IsRename())
         note.append(note.empty() ? "" : "; ").append("warning: ").append(WarningFor(decision.warning));
     return VyrPlatform::Encoding::FromUtf8(note);
 }
@@ -38,7 +38,7 @@ Tone ToneOf(const Decision& decision)
 {
     switch (decision.status) {
     case Status::Renamed:
-        return decision.warning == VyrPlatform::NameFault::None ? Tone::Plain : Tone::Notable;
+        return decision.warning == VyrHostPlatform::NameFault::None ? Tone::Plain : Tone::Notable;
     case Status::Numbered:
     case Status::Skipped:
     case Status::NotReached:

@@ -1,7 +1,7 @@
 // Draws a bar over itself.
 #include <VyrHost/output/Progress.h>
 
-#include <VyrPlatform/Console.h>
+#include <VyrHostPlatform/Console.h>
 
 #include <algorithm>
 #include <utility>
@@ -10,7 +10,7 @@ namespace VyrHost {
 
 namespace {
 
-using VyrPlatform::Console::Stream;
+using VyrHostPlatform::Console::Stream;
 
 constexpr std::chrono::milliseconds Patience{500};
 constexpr std::chrono::milliseconds Pause{100};
@@ -26,8 +26,8 @@ std::string Bar(std::size_t done, std::size_t total)
 } // namespace
 
 Progress::Progress(std::string what, std::size_t total, bool isSilent)
-    : m_what(std::move(what)), m_total(total), m_isShown(!isSilent && VyrPlatform::Console::IsTerminal(Stream::Error)),
-      m_next(Clock::now() + Patience)
+    : m_what(std::move(what)), m_total(total),
+      m_isShown(!isSilent && VyrHostPlatform::Console::IsTerminal(Stream::Error)), m_next(Clock::now() + Patience)
 {}
 
 Progress::~Progress()
@@ -38,7 +38,7 @@ Progress::~Progress()
 void Progress::Close()
 {
     if (m_hasLine)
-        VyrPlatform::Console::Write(Stream::Error, EraseLine);
+        VyrHostPlatform::Console::Write(Stream::Error, EraseLine);
     m_hasLine = false;
 }
 
@@ -48,8 +48,8 @@ void Progress::Show(std::size_t done)
         return;
     m_next = Clock::now() + Pause;
     m_hasLine = true;
-    VyrPlatform::Console::Write(Stream::Error, EraseLine + m_what + " [" + Bar(done, m_total) + "] " +
-                                                   std::to_string(done) + " of " + std::to_string(m_total));
+    VyrHostPlatform::Console::Write(Stream::Error, EraseLine + m_what + " [" + Bar(done, m_total) + "] " +
+                                                       std::to_string(done) + " of " + std::to_string(m_total));
 }
 
 } // namespace VyrHost

@@ -3,8 +3,8 @@
 
 #include <VyrHost/output/CharacterWidth.h>
 #include <VyrHost/output/UnitEscape.h>
-#include <VyrPlatform/Encoding.h>
-#include <VyrPlatform/Surrogates.h>
+#include <VyrPlatform/text/Encoding.h>
+#include <VyrPlatform/text/Surrogates.h>
 
 #include <algorithm>
 #include <vector>

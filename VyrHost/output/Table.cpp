@@ -2,8 +2,8 @@
 #include <VyrHost/output/Table.h>
 
 #include <VyrHost/output/SafeText.h>
-#include <VyrPlatform/Console.h>
-#include <VyrPlatform/Process.h>
+#include <VyrHostPlatform/Console.h>
+#include <VyrPlatform/process/Process.h>
 
 #include <algorithm>
 #include <string>
@@ -132,11 +132,11 @@ private:
 
 TableStyle StyleOfOutput()
 {
-    using VyrPlatform::Console::Stream;
+    using VyrHostPlatform::Console::Stream;
     const auto noColour = VyrPlatform::Process::GetEnvironment(u"NO_COLOR");
     const bool wantsColour = !noColour || noColour->IsEmpty();
-    return {VyrPlatform::Console::GetWidth(Stream::Output),
-            wantsColour && VyrPlatform::Console::IsTerminal(Stream::Output)};
+    return {VyrHostPlatform::Console::GetWidth(Stream::Output),
+            wantsColour && VyrHostPlatform::Console::IsTerminal(Stream::Output)};
 }
 
 void WriteTable(OutputBuffer& output, std::size_t count, const RowOfTable& rowOf, TableStyle style)

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <VyrHost/output/OutputBuffer.h>
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstddef>
 #include <cstdint>

@@ -6,7 +6,7 @@
 #include <VyrHost/output/SafeText.h>
 #include <VyrHost/output/Table.h>
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <algorithm>
 #include <string_view>

@@ -1,11 +1,11 @@
 // Words for statuses, reasons and warnings.
 #include <VyrHost/output/Words.h>
 
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 namespace VyrHost {
 
-using VyrPlatform::NameFault;
+using VyrHostPlatform::NameFault;
 
 std::string_view WordFor(Status status)
 {

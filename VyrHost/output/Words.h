@@ -21,6 +21,6 @@ namespace VyrHost {
 /// yet made safe to show; empty when there is none.
 [[nodiscard]] std::string ReasonFor(const Outcome& outcome, std::size_t index);
 /// A few words on what a name would be in trouble for; empty for NameFault::None.
-[[nodiscard]] std::string_view WarningFor(VyrPlatform::NameFault fault);
+[[nodiscard]] std::string_view WarningFor(VyrHostPlatform::NameFault fault);
 
 } // namespace VyrHost

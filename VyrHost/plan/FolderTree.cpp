@@ -2,7 +2,7 @@
 #include <VyrHost/plan/FolderTree.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <algorithm>
 
@@ -49,7 +49,7 @@ Place FolderTree::SlotOf(const Place& place)
 {
     if (TakesNamesAsTheyAre(place.folder))
         return place;
-    return {place.folder, m_foldedNames.Keep(VyrPlatform::FoldName(place.name.View(), m_foldings[place.folder]))};
+    return {place.folder, m_foldedNames.Keep(VyrHostPlatform::FoldName(place.name.View(), m_foldings[place.folder]))};
 }
 
 PlanIndex FolderTree::Collect(const Place& place, std::u16string_view path)
@@ -97,7 +97,7 @@ PlanIndex FolderTree::Walk(std::u16string_view folderPath)
 PlanIndex FolderTree::RootOf(std::u16string_view root)
 {
     const CString usual = WrittenUsually(root);
-    const Place slot{none, m_foldedNames.Keep(VyrPlatform::FoldName(usual, m_foldingOf(usual)))};
+    const Place slot{none, m_foldedNames.Keep(VyrHostPlatform::FoldName(usual, m_foldingOf(usual)))};
     const PlanIndex known = FolderAt(slot);
     if (known != none)
         return known;

@@ -27,7 +27,7 @@ public:
     /// Whether nothing is folded in `folder`.
     [[nodiscard]] bool TakesNamesAsTheyAre(PlanIndex folder) const
     {
-        return m_foldings[folder] == VyrPlatform::NameFolding::None;
+        return m_foldings[folder] == VyrHostPlatform::NameFolding::None;
     }
     /// The folder at `slot`; `none` when no path has named it.
     [[nodiscard]] PlanIndex FolderAt(const Place& slot) const
@@ -47,7 +47,7 @@ private:
     RenamePlan& m_plan;
     const FoldingOfFolder& m_foldingOf;
     NameStore m_foldedNames;
-    std::vector<VyrPlatform::NameFolding> m_foldings;
+    std::vector<VyrHostPlatform::NameFolding> m_foldings;
     SlotTable<PlanIndex> m_bySlot;
     std::unordered_map<CString, PlanIndex> m_byPath;
     /// Lists name the entries of one folder after another.

@@ -2,7 +2,7 @@
 #include <VyrHost/plan/PlanCheck.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <algorithm>
 

@@ -5,14 +5,14 @@
 #include <VyrHost/RenameList.h>
 #include <VyrHost/plan/RenamePlan.h>
 
-#include <VyrPlatform/NameFolding.h>
+#include <VyrHostPlatform/NameFolding.h>
 
 #include <functional>
 
 namespace VyrHost {
 
 /// Answers how the folder at a path compares names; asked once for each folder.
-using FoldingOfFolder = std::function<VyrPlatform::NameFolding(const CString& path)>;
+using FoldingOfFolder = std::function<VyrHostPlatform::NameFolding(const CString& path)>;
 
 struct PlanRefusal
 {

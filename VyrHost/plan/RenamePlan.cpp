@@ -1,7 +1,7 @@
 // What can be said of a plan from its folders alone.
 #include <VyrHost/plan/RenamePlan.h>
 
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <array>
 #include <string>

@@ -3,8 +3,8 @@
 #pragma once
 
 #include <VyrHost/entries/NameStore.h>
-#include <VyrPlatform/CString.h>
-#include <VyrPlatform/NameRules.h>
+#include <VyrHostPlatform/NameRules.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -79,7 +79,7 @@ struct Decision
     Status status = Status::Renamed;
     Reason reason = Reason::None;
     /// What the new name would be in trouble for on Windows, on a system that takes it.
-    VyrPlatform::NameFault warning = VyrPlatform::NameFault::None;
+    VyrHostPlatform::NameFault warning = VyrHostPlatform::NameFault::None;
 
     void Refuse(Reason why)
     {

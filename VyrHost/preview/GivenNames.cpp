@@ -2,8 +2,8 @@
 #include <VyrHost/preview/GivenNames.h>
 
 #include <VyrHost/files/FolderPart.h>
+#include <VyrHostPlatform/FullPath.h>
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/FullPath.h>
 
 namespace VyrHost {
 
@@ -20,7 +20,7 @@ WantedName NameFor(const Folder& now, const CString& given)
     const std::u16string_view folder = FolderPart(given);
     if (folder.empty())
         return wanted;
-    const CString full = VyrPlatform::GetFullPath(given);
+    const CString full = VyrHostPlatform::GetFullPath(given);
     wanted.folder = FileUtils::GetSplitDirPath(full);
     wanted.shownFolder = folder;
     wanted.name = given.View().substr(folder.size());

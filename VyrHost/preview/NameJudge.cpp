@@ -1,7 +1,7 @@
 // Judges new names: what the system forbids, and halves of characters.
 #include <VyrHost/preview/NameJudge.h>
 
-#include <VyrPlatform/Surrogates.h>
+#include <VyrPlatform/text/Surrogates.h>
 
 #include <cstddef>
 
@@ -9,7 +9,7 @@ namespace VyrHost {
 
 namespace {
 
-using VyrPlatform::NameFault;
+using VyrHostPlatform::NameFault;
 
 /// The index of the first lone surrogate from `start` on.
 std::size_t FindLoneSurrogate(std::u16string_view text, std::size_t start)
@@ -63,12 +63,12 @@ Reason ReasonOf(NameFault fault)
 
 NameJudgement JudgeName(std::u16string_view newName, std::u16string_view oldName)
 {
-    const VyrPlatform::NameVerdict verdict = VyrPlatform::CheckName(newName);
+    const VyrHostPlatform::NameVerdict verdict = VyrHostPlatform::CheckName(newName);
     if (verdict.isError)
         return {ReasonOf(verdict.fault), NameFault::None};
     if (HasNewLoneSurrogate(newName, oldName))
         return {Reason::NewLoneSurrogate, NameFault::None};
-    const bool isNew = verdict.fault != NameFault::None && VyrPlatform::CheckName(oldName).fault != verdict.fault;
+    const bool isNew = verdict.fault != NameFault::None && VyrHostPlatform::CheckName(oldName).fault != verdict.fault;
     return {Reason::None, isNew ? verdict.fault : NameFault::None};
 }
 

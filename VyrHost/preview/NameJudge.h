@@ -12,7 +12,7 @@ struct NameJudgement
 {
     Reason reason = Reason::None;
     /// A fault that the old name did not have and this system does not mind.
-    VyrPlatform::NameFault warning = VyrPlatform::NameFault::None;
+    VyrHostPlatform::NameFault warning = VyrHostPlatform::NameFault::None;
 };
 
 [[nodiscard]] NameJudgement JudgeName(std::u16string_view newName, std::u16string_view oldName);

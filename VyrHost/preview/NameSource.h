@@ -4,7 +4,7 @@
 
 #include <VyrHost/entries/EntryList.h>
 #include <VyrHost/preview/Decision.h>
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
 #include <span>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <VyrLibraryFuncs/name/NameFuncs.h>
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
 

@@ -85,7 +85,7 @@ private:
             decision.Refuse(target.reason);
         else if (device && target.device && *device != *target.device)
             decision.Refuse(Reason::OtherFileSystem);
-        else if (decision.warning == VyrPlatform::NameFault::None)
+        else if (decision.warning == VyrHostPlatform::NameFault::None)
             decision.warning = target.warning;
     }
 

@@ -4,7 +4,7 @@
 
 #include <VyrHost/preview/NameSource.h>
 #include <VyrHost/rules/Rule.h>
-#include <VyrPlatform/WorkingFolder.h>
+#include <VyrPlatform/files/WorkingFolder.h>
 
 #include <vector>
 

@@ -3,7 +3,7 @@
 
 #include <VyrHost/preview/NameJudge.h>
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <unordered_set>
 
@@ -11,8 +11,8 @@ namespace VyrHost {
 
 namespace {
 
+using VyrHostPlatform::NameFault;
 using VyrLibraryUtils::FileUtils;
-using VyrPlatform::NameFault;
 using VyrPlatform::FileSystem::Kind;
 
 CString WithoutSeparator(const CString& folder)

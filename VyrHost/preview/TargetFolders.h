@@ -25,7 +25,7 @@ public:
         /// Why nothing can be moved there.
         Reason reason = Reason::None;
         /// What a folder that is to be made would be in trouble for on Windows.
-        VyrPlatform::NameFault warning = VyrPlatform::NameFault::None;
+        VyrHostPlatform::NameFault warning = VyrHostPlatform::NameFault::None;
         /// The file system that the folder is on, or will be.
         std::optional<std::uint64_t> device = std::nullopt;
     };

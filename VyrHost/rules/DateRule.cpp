@@ -3,7 +3,7 @@
 
 #include <VyrHost/rules/Tokens.h>
 #include <VyrLibraryUtils/ImageUtils.h>
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <algorithm>
 #include <string>

@@ -2,7 +2,7 @@
 /// A rule: what it works on, and what it may answer.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstddef>
 #include <cstdint>

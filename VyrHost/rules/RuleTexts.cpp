@@ -4,7 +4,7 @@
 #include <VyrHost/UsageError.h>
 #include <VyrHost/output/SafeText.h>
 #include <VyrHost/rules/LiteralText.h>
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <algorithm>
 #include <charconv>

@@ -1,9 +1,9 @@
 // Gives folders that were made the times and traits of those that they were made for.
 #include <VyrHost/trees/MadeFolders.h>
 
+#include <VyrHostPlatform/FolderTraits.h>
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/FileTimes.h>
-#include <VyrPlatform/FolderTraits.h>
+#include <VyrPlatform/files/FileTimes.h>
 
 #include <optional>
 #include <unordered_map>
@@ -52,14 +52,14 @@ public:
         };
         // The creation time may stand in an extended attribute; the permissions may forbid to set any.
         if (known && known->traits)
-            check(VyrPlatform::SetFolderExtras(path, *known->traits));
+            check(VyrHostPlatform::SetFolderExtras(path, *known->traits));
         if (const auto created = TicksOf(record.dateCreated, Exactly(known, &TreeFolder::created)))
             if (const std::uint32_t error = FileTimes::SetCreated(path, *created))
                 m_result.creationError = error;
         if (const auto modified = TicksOf(record.dateModified, Exactly(known, &TreeFolder::modified)))
             check(FileTimes::SetModified(path, *modified));
         if (known && known->traits)
-            check(VyrPlatform::SetFolderMode(path, *known->traits));
+            check(VyrHostPlatform::SetFolderMode(path, *known->traits));
         if (firstError)
             m_result.problems.push_back({known ? known->path : record.sourcePath, TreeFault::FolderNotSet, firstError});
     }

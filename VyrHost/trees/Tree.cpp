@@ -2,8 +2,8 @@
 #include <VyrHost/trees/Tree.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/FileSystem.h>
-#include <VyrPlatform/FolderListing.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/files/FolderListing.h>
 
 #include <algorithm>
 #include <utility>
@@ -33,7 +33,7 @@ TreeFolder FolderAt(const CString& root, const CString& path)
     folder.path = path;
     folder.created = FileTimes::GetCreated(full).value_or(0);
     folder.modified = FileTimes::GetModified(full).value_or(0);
-    folder.traits = VyrPlatform::GetFolderTraits(full);
+    folder.traits = VyrHostPlatform::GetFolderTraits(full);
     return folder;
 }
 

@@ -2,9 +2,9 @@
 /// What stands in a folder and below it, taken down before it is copied or moved.
 #pragma once
 
-#include <VyrPlatform/CString.h>
-#include <VyrPlatform/FileTimes.h>
-#include <VyrPlatform/FolderTraits.h>
+#include <VyrHostPlatform/FolderTraits.h>
+#include <VyrPlatform/files/FileTimes.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -42,7 +42,7 @@ struct TreeFolder
     VyrPlatform::FileTicks created = 0;
     VyrPlatform::FileTicks modified = 0;
     /// Nothing where they may not be read.
-    std::optional<VyrPlatform::FolderTraits> traits;
+    std::optional<VyrHostPlatform::FolderTraits> traits;
     /// Why its entries could not be read to their end: the system's error code, else 0.
     std::uint32_t error = 0;
     /// Its entries stand together in Tree::entries.

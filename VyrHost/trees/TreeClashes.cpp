@@ -1,11 +1,11 @@
 // Looks through the folders that a tree shares with its target.
 #include <VyrHost/trees/TreeClashes.h>
 
+#include <VyrHostPlatform/FullPath.h>
+#include <VyrHostPlatform/NameFolding.h>
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/FileIdentity.h>
-#include <VyrPlatform/FolderListing.h>
-#include <VyrPlatform/FullPath.h>
-#include <VyrPlatform/NameFolding.h>
+#include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/files/FolderListing.h>
 
 #include <unordered_map>
 #include <utility>
@@ -14,10 +14,10 @@ namespace VyrHost {
 
 namespace {
 
+using VyrHostPlatform::FoldName;
+using VyrHostPlatform::NameFolding;
 using VyrLibraryUtils::FileUtils;
 using VyrPlatform::FolderListing;
-using VyrPlatform::FoldName;
-using VyrPlatform::NameFolding;
 using VyrPlatform::FileSystem::Kind;
 
 /// What becomes of a folder of the tree.
@@ -60,7 +60,7 @@ private:
         if (kind == Kind::File || kind == Kind::Other)
             Report(CString(), TreeFault::TargetExists);
         else
-            SetPlan(0, kind == Kind::Folder ? Place::There : Place::New, VyrPlatform::GetNameFolding(m_target));
+            SetPlan(0, kind == Kind::Folder ? Place::There : Place::New, VyrHostPlatform::GetNameFolding(m_target));
     }
 
     void SetPlan(std::size_t folder, Place place, NameFolding folding)
@@ -108,14 +108,14 @@ private:
         if (m_trial == Trial::No)
             return false;
         const auto [other, isFirst] = m_names.emplace(FoldName(name, NameFolding::CaseAndForm), name);
-        return !isFirst && VyrPlatform::TryIsOneName(NearestFolder(path), other->second, name);
+        return !isFirst && VyrHostPlatform::TryIsOneName(NearestFolder(path), other->second, name);
     }
 
     /// The folder at `path`, or the nearest one above it that is there.
     [[nodiscard]] static CString NearestFolder(CString path)
     {
         while (!VyrPlatform::FileSystem::IsFolder(path))
-            path = VyrPlatform::GetFullPath(FileUtils::GetSplitDirPath(path));
+            path = VyrHostPlatform::GetFullPath(FileUtils::GetSplitDirPath(path));
         return path;
     }
 
@@ -133,7 +133,8 @@ private:
         if (found == m_isFolder.end())
             PlanNew(entry, folding);
         else if (entry.kind == TreeKind::Folder && found->second)
-            SetPlan(entry.folder, Place::There, VyrPlatform::GetNameFolding(FileUtils::GetCombinePath(m_target, path)));
+            SetPlan(entry.folder, Place::There,
+                    VyrHostPlatform::GetNameFolding(FileUtils::GetCombinePath(m_target, path)));
         else
             Report(path, TreeFault::TargetExists);
     }

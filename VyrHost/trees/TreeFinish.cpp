@@ -2,11 +2,11 @@
 #include <VyrHost/trees/TreeFinish.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/FileCopy.h>
-#include <VyrPlatform/FileIdentity.h>
-#include <VyrPlatform/FileSystem.h>
-#include <VyrPlatform/FileTimes.h>
-#include <VyrPlatform/FolderListing.h>
+#include <VyrPlatform/files/FileCopy.h>
+#include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/files/FileTimes.h>
+#include <VyrPlatform/files/FolderListing.h>
 
 #include <algorithm>
 #include <cstddef>

@@ -2,7 +2,7 @@
 /// What is in the way of an entry of a tree, or what became of it.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
 #include <vector>

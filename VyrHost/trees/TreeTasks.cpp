@@ -4,11 +4,11 @@
 #include <VyrHost/UsageError.h>
 #include <VyrHost/files/ErrorText.h>
 #include <VyrHost/output/SafeText.h>
+#include <VyrHostPlatform/FullPath.h>
+#include <VyrHostPlatform/NameFolding.h>
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/FileIdentity.h>
-#include <VyrPlatform/FileSystem.h>
-#include <VyrPlatform/FullPath.h>
-#include <VyrPlatform/NameFolding.h>
+#include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <map>
 #include <optional>
@@ -40,17 +40,17 @@ std::string Quoted(const CString& path)
 
 CString FolderOf(const CString& fullPath)
 {
-    return VyrPlatform::GetFullPath(FileUtils::GetSplitDirPath(fullPath));
+    return VyrHostPlatform::GetFullPath(FileUtils::GetSplitDirPath(fullPath));
 }
 
 /// The identities of the folder at `path` and of each one above it.
 std::vector<Identity> UpFrom(const CString& path)
 {
     std::vector<Identity> identities;
-    CString above = VyrPlatform::GetRealPath(path);
+    CString above = VyrHostPlatform::GetRealPath(path);
     // Some volumes of Windows have no path to tell.
     if (above.IsEmpty())
-        above = VyrPlatform::GetFullPath(path);
+        above = VyrHostPlatform::GetFullPath(path);
     for (CString folder; above != folder; above = FolderOf(folder)) {
         folder = above;
         const FileState state = LookAtFile(folder);
@@ -64,7 +64,7 @@ class TaskMaker
 {
 public:
     TaskMaker(const std::vector<CString>& sources, const CString& destination)
-        : m_destination(destination), m_folder(VyrPlatform::GetFullPath(destination))
+        : m_destination(destination), m_folder(VyrHostPlatform::GetFullPath(destination))
     {
         for (const CString& source : sources)
             AddSource(source);
@@ -85,7 +85,7 @@ private:
     {
         TreeTask task;
         task.shownSource = given;
-        task.source = VyrPlatform::GetFullPath(given);
+        task.source = VyrHostPlatform::GetFullPath(given);
         const FileState state = LookAtFile(task.source);
         if (state.kind == FileSystem::Kind::Missing)
             throw UsageError(Quoted(given) + " cannot be found: " + SafeText(ErrorText(state.error)));
@@ -97,7 +97,7 @@ private:
             throw UsageError(Quoted(given) + " is named twice");
         // Only a name can be given on.
         if (FileUtils::GetSplitFileName(task.source) == u"..")
-            task.source = VyrPlatform::GetRealPath(task.source);
+            task.source = VyrHostPlatform::GetRealPath(task.source);
         m_tasks.push_back(std::move(task));
     }
 
@@ -150,7 +150,7 @@ private:
             throw UsageError(Quoted(task.shownSource) + " has no name that it could have in " + Quoted(m_destination));
         task.target = m_goesInto ? FileUtils::GetCombinePath(m_folder, name) : m_newPath;
         task.shownTarget = m_goesInto ? FileUtils::GetCombinePath(m_destination, name) : m_destination;
-        if (m_goesInto && !m_names.insert(VyrPlatform::FoldName(name, Folding())).second)
+        if (m_goesInto && !m_names.insert(VyrHostPlatform::FoldName(name, Folding())).second)
             throw UsageError("two of the folders would become " + Quoted(task.shownTarget));
         RefuseMeeting(task);
     }
@@ -169,11 +169,11 @@ private:
                                  ", with which it would become one");
     }
 
-    [[nodiscard]] VyrPlatform::NameFolding Folding()
+    [[nodiscard]] VyrHostPlatform::NameFolding Folding()
     {
         if (m_tasks.size() > 1 && !m_folding)
-            m_folding = VyrPlatform::GetNameFolding(m_folder);
-        return m_folding.value_or(VyrPlatform::NameFolding::None);
+            m_folding = VyrHostPlatform::GetNameFolding(m_folder);
+        return m_folding.value_or(VyrHostPlatform::NameFolding::None);
     }
 
     const CString m_destination;
@@ -184,7 +184,7 @@ private:
     /// What the one source will be called, where it does not keep its name.
     CString m_newPath;
     bool m_goesInto = false;
-    std::optional<VyrPlatform::NameFolding> m_folding;
+    std::optional<VyrHostPlatform::NameFolding> m_folding;
     /// The keys of the names given.
     std::unordered_set<CString> m_names;
 };

@@ -2,7 +2,7 @@
 /// From where to where each folder goes.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <vector>
 

@@ -1,9 +1,9 @@
 // Hands a tree to the library, which copies or moves it.
 #include <VyrHost/trees/TreeTransfer.h>
 
+#include <VyrHostPlatform/QueueTimer.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
-#include <VyrPlatform/FileSystem.h>
-#include <VyrPlatform/QueueTimer.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 namespace VyrHost {
 
@@ -22,7 +22,7 @@ std::uint32_t TransferTree(const Tree& tree, const CString& target, TreeAction a
             return error;
         records.push_back(root);
     }
-    const VyrPlatform::QueueTimer timer(interval, [&records, &progress] { progress(records.size()); });
+    const VyrHostPlatform::QueueTimer timer(interval, [&records, &progress] { progress(records.size()); });
     // The result tells of the last operation alone.
     if (action == TreeAction::Copy)
         static_cast<void>(NameFuncs::CopyFolder(tree.root, target, &records));

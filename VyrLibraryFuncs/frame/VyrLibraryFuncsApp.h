@@ -3,7 +3,7 @@
 #pragma once
 
 #include <VyrLibraryFuncs/Export.h>
-#include <VyrPlatform/CWinApp.h>
+#include <VyrPlatform/process/CWinApp.h>
 
 /// The one instance is made when the library is loaded, after all static settings, and destroyed before them.
 class VYR_FUNCS_API CVyrLibraryFuncsApp : public CWinApp

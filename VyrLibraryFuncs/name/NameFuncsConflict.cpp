@@ -3,7 +3,7 @@
 
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/StringUtils.h>
-#include <VyrPlatform/MessageQueue.h>
+#include <VyrPlatform/process/MessageQueue.h>
 
 #include <cstdint>
 

@@ -4,9 +4,9 @@
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/FolderUtils.h>
-#include <VyrPlatform/CFileFind.h>
-#include <VyrPlatform/FileCopy.h>
-#include <VyrPlatform/MessageQueue.h>
+#include <VyrPlatform/files/CFileFind.h>
+#include <VyrPlatform/files/FileCopy.h>
+#include <VyrPlatform/process/MessageQueue.h>
 
 using VyrLibraryUtils::DateTimeUtils;
 using VyrLibraryUtils::FileUtils;

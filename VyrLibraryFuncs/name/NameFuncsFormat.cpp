@@ -3,7 +3,7 @@
 
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/ImageUtils.h>
-#include <VyrPlatform/Clock.h>
+#include <VyrPlatform/time/Clock.h>
 
 using VyrLibraryUtils::DateTimeUtils;
 using VyrLibraryUtils::ImageUtils;

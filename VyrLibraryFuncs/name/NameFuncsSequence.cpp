@@ -1,7 +1,7 @@
 // The sequence-number rename: a running number in the place of a name, or beside it.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
-#include <VyrPlatform/MessageQueue.h>
+#include <VyrPlatform/process/MessageQueue.h>
 
 #include <charconv>
 #include <cstdint>

@@ -2,7 +2,7 @@
 /// Where the picture readers get their bytes: a file or memory, a few at a time.
 #pragma once
 
-#include <VyrPlatform/FileReader.h>
+#include <VyrPlatform/files/FileReader.h>
 
 #include <array>
 #include <cstddef>

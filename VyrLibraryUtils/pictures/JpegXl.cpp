@@ -4,7 +4,7 @@
 #include <VyrLibraryUtils/pictures/Exif.h>
 #include <VyrLibraryUtils/pictures/FourCc.h>
 #include <VyrLibraryUtils/pictures/IsoBox.h>
-#include <VyrPlatform/Brotli.h>
+#include <VyrPlatform/documents/Brotli.h>
 
 #include <optional>
 

@@ -1,25 +1,25 @@
 // A host outside the library's tree: it shows the numbered names that the files of a folder would get, and its own
 // version. It renames nothing.
+#include <VyrHostPlatform/Console.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/VersionUtils.h>
-#include <VyrPlatform/Console.h>
-#include <VyrPlatform/Encoding.h>
-#include <VyrPlatform/FolderListing.h>
+#include <VyrPlatform/files/FolderListing.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <algorithm>
 #include <vector>
 
+using VyrHostPlatform::Console::Stream;
 using VyrLibraryFuncs::NameFuncs;
 using VyrLibraryUtils::FileUtils;
 using VyrLibraryUtils::VersionUtils;
-using VyrPlatform::Console::Stream;
 
 namespace {
 
 void PrintLine(Stream stream, const CString& line)
 {
-    VyrPlatform::Console::Write(stream, VyrPlatform::Encoding::ToUtf8(line + u"\n"));
+    VyrHostPlatform::Console::Write(stream, VyrPlatform::Encoding::ToUtf8(line + u"\n"));
 }
 
 /// What this host calls itself: its product name, product version and the four numbers of its file version.
@@ -61,7 +61,7 @@ NameFuncs::ITEM MakeRule()
 
 int main(int count, char** arguments)
 {
-    const std::vector<CString> paths = VyrPlatform::Console::GetArguments(count, arguments);
+    const std::vector<CString> paths = VyrHostPlatform::Console::GetArguments(count, arguments);
     if (paths.size() != 1) {
         PrintLine(Stream::Error, u"usage: PreviewHost FOLDER");
         return 2;

@@ -9,7 +9,7 @@
 #include <VyrLibraryUtils/RegexUtils.h>
 #include <VyrLibraryUtils/StringUtils.h>
 #include <VyrLibraryUtils/VersionUtils.h>
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <tests/support/Describe.h>
 #include <tests/support/FileState.h>

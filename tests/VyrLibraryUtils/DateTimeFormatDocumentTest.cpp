@@ -1,6 +1,6 @@
 // Every table row of docs/date-time-formats.md, held against what the library does.
 #include <VyrLibraryUtils/DateTimeUtils.h>
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <tests/support/Describe.h>
 #include <tests/support/UserLocale.h>

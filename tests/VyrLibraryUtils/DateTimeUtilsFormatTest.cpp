@@ -1,7 +1,7 @@
 // Date-times written: formats of users, their patterns, the forms of locales.
 #include <VyrLibraryUtils/DateTimeUtils.h>
-#include <VyrPlatform/Clock.h>
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
+#include <VyrPlatform/time/Clock.h>
 
 #include <tests/support/Describe.h>
 #include <tests/support/UserLocale.h>

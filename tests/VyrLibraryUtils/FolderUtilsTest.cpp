@@ -1,6 +1,6 @@
 // The making of folders.
 #include <VyrLibraryUtils/FolderUtils.h>
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <tests/support/Describe.h>
 #include <tests/support/ScratchFolder.h>

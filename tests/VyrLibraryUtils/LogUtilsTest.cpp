@@ -1,6 +1,6 @@
 // Texts for log lines.
 #include <VyrLibraryUtils/LogUtils.h>
-#include <VyrPlatform/FileReader.h>
+#include <VyrPlatform/files/FileReader.h>
 
 #include <tests/support/Describe.h>
 #include <tests/support/ScratchFolder.h>

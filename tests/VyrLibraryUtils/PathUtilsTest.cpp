@@ -1,7 +1,7 @@
 // Where the program keeps its files.
 #include <VyrLibraryUtils/PathUtils.h>
-#include <VyrPlatform/FileSystem.h>
-#include <VyrPlatform/Process.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/process/Process.h>
 
 #include <tests/support/Describe.h>
 

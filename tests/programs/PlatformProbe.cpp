@@ -1,9 +1,9 @@
 // Answers what a program of its own sees of the platform services; the first argument says which. The tests run it.
-#include <VyrPlatform/Console.h>
-#include <VyrPlatform/Encoding.h>
-#include <VyrPlatform/Interrupt.h>
-#include <VyrPlatform/Locale.h>
-#include <VyrPlatform/Process.h>
+#include <VyrHostPlatform/Console.h>
+#include <VyrHostPlatform/Interrupt.h>
+#include <VyrPlatform/process/Process.h>
+#include <VyrPlatform/text/Encoding.h>
+#include <VyrPlatform/text/Locale.h>
 
 #include <chrono>
 #include <map>
@@ -13,6 +13,7 @@
 
 namespace {
 
+using namespace VyrHostPlatform;
 using namespace VyrPlatform;
 using Arguments = std::vector<CString>;
 

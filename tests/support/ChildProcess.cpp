@@ -2,8 +2,8 @@
 #include <tests/support/ChildProcess.h>
 #include <tests/support/SystemChild.h>
 
-#include <VyrPlatform/FileSystem.h>
-#include <VyrPlatform/Process.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/process/Process.h>
 
 #include <condition_variable>
 #include <gtest/gtest.h>

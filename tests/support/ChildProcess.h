@@ -1,7 +1,7 @@
 // For tests: running a program as a user's shell does, without a shell.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <map>
 #include <memory>

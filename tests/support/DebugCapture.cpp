@@ -1,7 +1,7 @@
 // Collects debugger output through the sink.
 #include <tests/support/DebugCapture.h>
 
-#include <VyrPlatform/DebugOutput.h>
+#include <VyrPlatform/process/DebugOutput.h>
 
 namespace VyrTests {
 

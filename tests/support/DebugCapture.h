@@ -1,7 +1,7 @@
 // For tests: what is written to the debugger output.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <mutex>
 #include <vector>

@@ -1,9 +1,9 @@
 // For tests: values of the class library as text, for comparisons and for messages.
 #pragma once
 
-#include <VyrPlatform/COleDateTime.h>
-#include <VyrPlatform/CString.h>
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/CString.h>
+#include <VyrPlatform/text/Encoding.h>
+#include <VyrPlatform/time/COleDateTime.h>
 
 #include <cstdio>
 #include <ostream>

@@ -1,7 +1,7 @@
 // For tests: what a failing test leaves in the thread's message queue must not meet the tests after it.
 #pragma once
 
-#include <VyrPlatform/MessageQueue.h>
+#include <VyrPlatform/process/MessageQueue.h>
 
 namespace VyrTests {
 

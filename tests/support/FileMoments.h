@@ -1,9 +1,9 @@
 // For tests: file times set, and local calendar fields turned into file times by the system's own conversion.
 #pragma once
 
-#include <VyrPlatform/COleDateTime.h>
-#include <VyrPlatform/CString.h>
-#include <VyrPlatform/FileTimes.h>
+#include <VyrPlatform/files/FileTimes.h>
+#include <VyrPlatform/text/CString.h>
+#include <VyrPlatform/time/COleDateTime.h>
 
 namespace VyrTests {
 

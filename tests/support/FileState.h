@@ -1,7 +1,7 @@
 // For tests: the read-only state and the download mark of a file, set by the system's own means.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 namespace VyrTests {
 

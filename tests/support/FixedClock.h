@@ -1,7 +1,7 @@
 // For tests: a clock that stands still.
 #pragma once
 
-#include <VyrPlatform/Clock.h>
+#include <VyrPlatform/time/Clock.h>
 
 namespace VyrTests {
 

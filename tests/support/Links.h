@@ -1,7 +1,7 @@
 // For tests: symbolic links.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <string>
 

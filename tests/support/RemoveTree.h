@@ -1,7 +1,7 @@
 // For tests: the removal of whole folders.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <string>
 

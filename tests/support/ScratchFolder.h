@@ -1,7 +1,7 @@
 // For tests: a folder of their own on the disk.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <string>
 #include <string_view>

@@ -1,7 +1,7 @@
 // For tests: CString as the standard library's path and back, names that are not UTF-8 included.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <filesystem>
 

@@ -1,7 +1,7 @@
 // For tests: the user's language and region.
 #pragma once
 
-#include <VyrPlatform/Locale.h>
+#include <VyrPlatform/text/Locale.h>
 
 namespace VyrTests {
 

@@ -2,7 +2,7 @@
 #include <tests/VyrHost/apply/BatchScene.h>
 
 #include <VyrHost/files/Looker.h>
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <tests/support/StdPath.h>
 

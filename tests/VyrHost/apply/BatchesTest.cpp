@@ -6,9 +6,9 @@
 #include <tests/support/Links.h>
 #include <tests/support/StdPath.h>
 
-#include <VyrPlatform/DurableFile.h>
-#include <VyrPlatform/FileIdentity.h>
-#include <VyrPlatform/RenameFile.h>
+#include <VyrHostPlatform/DurableFile.h>
+#include <VyrHostPlatform/RenameFile.h>
+#include <VyrPlatform/files/FileIdentity.h>
 
 #include <gmock/gmock.h>
 
@@ -113,7 +113,7 @@ TEST(Batches, GoThroughATemporaryNameWhereTheOldAndTheNewNameAreOne)
 {
     FaultyFiles files;
     files.folding = [](const CString&) {
-        return VyrPlatform::NameFolding::CaseAndForm;
+        return VyrHostPlatform::NameFolding::CaseAndForm;
     };
     std::vector<CString> newNames;
     files.after = [&](const FileChange& change, std::size_t) {
@@ -221,7 +221,7 @@ TEST(Batches, NeverReplaceWhatAppearedSinceThePreview)
     EXPECT_EQ(summary.done, 1u);
     EXPECT_EQ(summary.failed, 2u);
     EXPECT_EQ(scene.results[0].outcome, RenameOutcome::Failed);
-    EXPECT_TRUE(VyrPlatform::IsTargetTaken(scene.results[0].error));
+    EXPECT_TRUE(VyrHostPlatform::IsTargetTaken(scene.results[0].error));
     EXPECT_EQ(scene.results[0].reason, u"something stands at the new path");
     EXPECT_EQ(scene.results[1].outcome, RenameOutcome::Done);
     EXPECT_EQ(scene.results[2].outcome, RenameOutcome::Failed);
@@ -463,7 +463,7 @@ TEST(Batches, NameWhatItsFolderDoesNotListAfterwards)
 {
     FaultyFiles files;
     files.folding = [](const CString&) {
-        return VyrPlatform::NameFolding::Case;
+        return VyrHostPlatform::NameFolding::Case;
     };
     BatchScene scene(files);
     scene.Write(u"a");
@@ -895,7 +895,7 @@ TEST(Batches, AreRefusedWhileAnotherProgramWorksOnOne)
     scene.Apply();
     scene.list = {};
     scene.Rename(u"b", u"y");
-    const VyrPlatform::FileLock lock(scene.JournalFolder() + CString(u"/lock"));
+    const VyrHostPlatform::FileLock lock(scene.JournalFolder() + CString(u"/lock"));
     ASSERT_TRUE(lock.IsHeld());
     EXPECT_EQ(scene.Apply().error, u"another batch of renames is being worked on");
     EXPECT_EQ(scene.TakeBack().error, u"another batch of renames is being worked on");

@@ -48,7 +48,7 @@ private:
 };
 
 // No test can see whether the disk has what is written, and waiting for it would take most of their time.
-std::uint32_t WriteWithoutWaiting(const CString& path, const VyrPlatform::DurableFile::Content& content)
+std::uint32_t WriteWithoutWaiting(const CString& path, const VyrHostPlatform::DurableFile::Content& content)
 {
     const std::filesystem::path file = ToStdPath(path);
     if (std::filesystem::exists(file))
@@ -81,12 +81,12 @@ std::uint32_t FaultyFiles::List(const CString& path, const std::function<void(co
     return SystemFiles().List(path, use);
 }
 
-VyrPlatform::NameFolding FaultyFiles::GetNameFolding(const CString& path)
+VyrHostPlatform::NameFolding FaultyFiles::GetNameFolding(const CString& path)
 {
     return folding ? folding(path) : SystemFiles().GetNameFolding(path);
 }
 
-std::uint32_t FaultyFiles::WriteNew(const CString& path, const VyrPlatform::DurableFile::Content& content)
+std::uint32_t FaultyFiles::WriteNew(const CString& path, const VyrHostPlatform::DurableFile::Content& content)
 {
     return Change({FileChange::Kind::WriteNew, path, {}}, [&] { return WriteWithoutWaiting(path, content); });
 }

@@ -40,15 +40,15 @@ public:
     /// Called after a change that succeeded. May throw, as if the program ended after it.
     std::function<void(const FileChange& change, std::size_t number)> after;
     /// Instead of the system's answer to how folders compare names.
-    std::function<VyrPlatform::NameFolding(const CString& path)> folding;
+    std::function<VyrHostPlatform::NameFolding(const CString& path)> folding;
 
     /// How many changes were asked for.
     [[nodiscard]] std::size_t Changes() const { return m_changes; }
 
     std::unique_ptr<VyrHost::FolderOperations> OpenFolder(const CString& path, std::uint32_t& error) override;
     std::uint32_t List(const CString& path, const std::function<void(const CString&)>& use) override;
-    VyrPlatform::NameFolding GetNameFolding(const CString& path) override;
-    std::uint32_t WriteNew(const CString& path, const VyrPlatform::DurableFile::Content& content) override;
+    VyrHostPlatform::NameFolding GetNameFolding(const CString& path) override;
+    std::uint32_t WriteNew(const CString& path, const VyrHostPlatform::DurableFile::Content& content) override;
     std::uint32_t Append(const CString& path, std::string_view content) override;
     std::uint32_t RenameFile(const CString& from, const CString& to) override;
     std::uint32_t Remove(const CString& path) override;

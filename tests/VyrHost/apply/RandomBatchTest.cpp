@@ -4,7 +4,7 @@
 #include <tests/support/Describe.h>
 #include <tests/support/StdPath.h>
 
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <gmock/gmock.h>
 

@@ -4,7 +4,7 @@
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
 
-#include <VyrPlatform/FileIdentity.h>
+#include <VyrPlatform/files/FileIdentity.h>
 
 #include <gmock/gmock.h>
 
@@ -48,9 +48,9 @@ void ArrangeLinks(BatchScene& scene)
     scene.Rename(u"1", u"2").Rename(u"2", u"3").Rename(u"3", u"4").Rename(u"a", u"b").Rename(u"b", u"a");
 }
 
-VyrPlatform::NameFolding FoldAll(const CString&)
+VyrHostPlatform::NameFolding FoldAll(const CString&)
 {
-    return VyrPlatform::NameFolding::CaseAndForm;
+    return VyrHostPlatform::NameFolding::CaseAndForm;
 }
 
 class CutOffAnywhere : public testing::TestWithParam<Arrange>

@@ -4,8 +4,8 @@
 #include <tests/VyrHost/apply/BatchScene.h>
 #include <tests/VyrHost/apply/FaultyFiles.h>
 
-#include <VyrPlatform/DurableFile.h>
-#include <VyrPlatform/Encoding.h>
+#include <VyrHostPlatform/DurableFile.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <gmock/gmock.h>
 
@@ -132,7 +132,7 @@ TEST_F(BatchList, DoesNotCallOneCutOffThatAnotherProgramWorksOn)
     FailWhen(FileChange::Kind::RenameFile, u".applied");
     m_scene.Apply();
     {
-        const VyrPlatform::FileLock lock(m_scene.JournalFolder() + CString(u"/lock"));
+        const VyrHostPlatform::FileLock lock(m_scene.JournalFolder() + CString(u"/lock"));
         ASSERT_TRUE(lock.IsHeld());
         EXPECT_EQ(Listed(), "being worked on, at most 3 entries");
         EXPECT_EQ(ListedAsJson(), R"("state":"being worked on","entries":3,"stopped":false)");

@@ -1,7 +1,7 @@
 // Tests of the program: dates of files, the camera, and folders to move into.
 #include "VyrProgram.h"
 
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <gmock/gmock.h>
 #include <tests/support/FileMoments.h>

@@ -1,7 +1,7 @@
 // Tests of the program: Ctrl-C while a batch of renames is applied and while it is taken back.
 #include "VyrProgram.h"
 
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <gmock/gmock.h>
 

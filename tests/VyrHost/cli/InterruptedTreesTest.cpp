@@ -1,7 +1,7 @@
 // Tests of the program: Ctrl-C while folders are copied and moved.
 #include "VyrProgram.h"
 
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <gmock/gmock.h>
 

@@ -2,7 +2,7 @@
 // and undo gives back exactly the tree before.
 #include "VyrProgram.h"
 
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <gmock/gmock.h>
 #include <tests/support/FileMoments.h>

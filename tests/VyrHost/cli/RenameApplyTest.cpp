@@ -1,7 +1,7 @@
 // Tests of the program: renames that are applied, taken back and recovered.
 #include "VyrProgram.h"
 
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <gmock/gmock.h>
 #include <tests/support/PictureBuilder.h>

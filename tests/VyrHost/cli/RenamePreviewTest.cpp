@@ -2,7 +2,7 @@
 #include "VyrProgram.h"
 
 #include <VyrHost/output/JsonLines.h>
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <gmock/gmock.h>
 

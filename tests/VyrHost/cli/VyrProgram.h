@@ -1,8 +1,8 @@
 // For tests: the program vyr in a folder of its own.
 #pragma once
 
-#include <VyrPlatform/CString.h>
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/CString.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <tests/support/ChildProcess.h>
 #include <tests/support/ScratchFolder.h>

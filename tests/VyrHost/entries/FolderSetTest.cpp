@@ -1,7 +1,7 @@
 // Tests of the listings of folders: in natural order, with every name that the disk tells apart.
 #include <VyrHost/entries/FolderSet.h>
 
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <gtest/gtest.h>
 #include <tests/VyrHost/entries/ListedNames.h>

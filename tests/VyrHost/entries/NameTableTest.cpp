@@ -15,7 +15,7 @@
 #include <vector>
 
 using namespace VyrHost;
-using VyrPlatform::NameFolding;
+using VyrHostPlatform::NameFolding;
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include <VyrHost/entries/Sorting.h>
 
 #include <VyrHost/entries/Gather.h>
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <gtest/gtest.h>
 #include <tests/support/PictureBuilder.h>

@@ -3,7 +3,7 @@
 
 #include <VyrHost/journal/Checksum.h>
 #include <VyrHost/journal/JournalName.h>
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <gmock/gmock.h>
 #include <tests/VyrHost/journal/SampleJournal.h>

@@ -4,7 +4,7 @@
 #include <VyrHost/plan/PlanCheck.h>
 #include <VyrHost/plan/Planner.h>
 
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <gtest/gtest.h>
 #include <tests/VyrHost/journal/SampleJournal.h>
@@ -23,8 +23,8 @@ namespace {
 
 using namespace VyrHost;
 using namespace VyrTests;
+using VyrHostPlatform::NameFolding;
 using VyrPlatform::FileState;
-using VyrPlatform::NameFolding;
 using VyrPlatform::FileSystem::Kind;
 
 /// A tree by chance, its renames (alone, in chains and in circles, with new folders), what stood there, and marks.

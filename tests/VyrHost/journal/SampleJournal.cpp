@@ -3,7 +3,7 @@
 
 #include <VyrHost/plan/Planner.h>
 
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <gtest/gtest.h>
 #include <tests/support/Describe.h>
@@ -14,8 +14,8 @@
 namespace VyrTests {
 
 using namespace VyrHost;
+using VyrHostPlatform::NameFolding;
 using VyrPlatform::FileState;
-using VyrPlatform::NameFolding;
 using VyrPlatform::FileSystem::Kind;
 
 CString Full(const CString& name)

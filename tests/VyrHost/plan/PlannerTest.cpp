@@ -1,7 +1,7 @@
 // The planner: its steps are done on a tree in memory and must lead to what the list says, whatever the list.
 #include <VyrHost/plan/Planner.h>
 
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <gmock/gmock.h>
 #include <tests/support/Describe.h>
@@ -15,7 +15,7 @@
 namespace {
 
 using namespace VyrHost;
-using VyrPlatform::NameFolding;
+using VyrHostPlatform::NameFolding;
 using VyrPlatform::FileSystem::Kind;
 
 NameFolding Exact(const CString&)

@@ -6,9 +6,9 @@
 #include <VyrHost/preview/PlannedRenames.h>
 #include <VyrHost/preview/RuleNames.h>
 #include <VyrHost/rules/RuleTexts.h>
+#include <VyrHostPlatform/NameFolding.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
-#include <VyrPlatform/Encoding.h>
-#include <VyrPlatform/NameFolding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <gtest/gtest.h>
 #include <tests/support/Describe.h>
@@ -384,9 +384,9 @@ TEST_F(Preview, NamesThatAreGivenOneByOneAreNotNumbered)
 TEST_F(Preview, JudgesNamesAsTheFolderFoldsThem)
 {
     Write({u"a", u"B"});
-    const auto folding = VyrPlatform::GetNameFolding(m_folder.Path());
+    const auto folding = VyrHostPlatform::GetNameFolding(m_folder.Path());
     const bool foldsCase =
-        folding == VyrPlatform::NameFolding::Case || folding == VyrPlatform::NameFolding::CaseAndForm;
+        folding == VyrHostPlatform::NameFolding::Case || folding == VyrHostPlatform::NameFolding::CaseAndForm;
     EXPECT_EQ(DecideNamed({u"a"}, ReplaceRules(u"a", u"b")),
               Strings{foldsCase ? No(Reason::TargetExists) : std::string("b")});
     // A change of case alone is a rename everywhere.

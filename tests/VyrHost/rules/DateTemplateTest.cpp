@@ -3,7 +3,7 @@
 
 #include <VyrHost/UsageError.h>
 #include <VyrHost/rules/RuleTexts.h>
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <gtest/gtest.h>
 #include <tests/support/Describe.h>

@@ -1,7 +1,7 @@
 // For tests: what stands in a folder and below it, for comparison.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 #include <tests/support/StdPath.h>
 
 #include <filesystem>

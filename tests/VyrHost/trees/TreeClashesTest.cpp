@@ -1,7 +1,7 @@
 // What is in the way of a tree at its target.
 #include <VyrHost/trees/TreeClashes.h>
 
-#include <VyrPlatform/NameFolding.h>
+#include <VyrHostPlatform/NameFolding.h>
 #include <tests/support/Links.h>
 #include <tests/support/ScratchFolder.h>
 
@@ -92,7 +92,7 @@ TEST_F(TreeClashes, AreNamesThatTheFolderTakesForOne)
 {
     m_scratch.WriteFile(u"from/é.txt");
     m_scratch.WriteFile(u"to/É.TXT");
-    const bool isOne = VyrPlatform::GetNameFolding(m_scratch.Path(u"to")) != VyrPlatform::NameFolding::None;
+    const bool isOne = VyrHostPlatform::GetNameFolding(m_scratch.Path(u"to")) != VyrHostPlatform::NameFolding::None;
     EXPECT_EQ(Clashes(), isOne ? Paths{u"é.txt"} : Paths{});
 }
 

@@ -2,7 +2,7 @@
 #include <VyrHost/trees/TreeTasks.h>
 
 #include <VyrHost/UsageError.h>
-#include <VyrPlatform/FileSystem.h>
+#include <VyrPlatform/files/FileSystem.h>
 #include <tests/support/Links.h>
 #include <tests/support/ScratchFolder.h>
 

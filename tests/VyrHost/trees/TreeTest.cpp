@@ -1,7 +1,7 @@
 // A tree is taken down as it stands.
 #include <VyrHost/trees/Tree.h>
 
-#include <VyrPlatform/FileTimes.h>
+#include <VyrPlatform/files/FileTimes.h>
 #include <tests/support/FileMoments.h>
 #include <tests/support/ScratchFolder.h>
 

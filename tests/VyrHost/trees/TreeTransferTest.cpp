@@ -4,7 +4,7 @@
 #include <VyrHost/trees/MadeFolders.h>
 #include <VyrHost/trees/TreeFinish.h>
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/FileTimes.h>
+#include <VyrPlatform/files/FileTimes.h>
 #include <tests/support/FileMoments.h>
 #include <tests/support/ScratchFolder.h>
 

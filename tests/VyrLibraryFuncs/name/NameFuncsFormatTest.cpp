@@ -1,7 +1,7 @@
 // Samples of formats, and the tokens that a format may hold.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
-#include <VyrPlatform/Clock.h>
+#include <VyrPlatform/time/Clock.h>
 
 #include <tests/support/PictureBuilder.h>
 #include <tests/support/ScratchFolder.h>

@@ -1,6 +1,6 @@
 // The promises of conflict numbering, of format tokens and of samples, each tested by itself.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
-#include <VyrPlatform/MessageQueue.h>
+#include <VyrPlatform/process/MessageQueue.h>
 
 #include <tests/support/Describe.h>
 #include <tests/support/EmptiedQueue.h>

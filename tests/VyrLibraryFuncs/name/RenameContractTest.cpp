@@ -2,7 +2,7 @@
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/MessageQueue.h>
+#include <VyrPlatform/process/MessageQueue.h>
 
 #include <tests/support/Describe.h>
 #include <tests/support/EmptiedQueue.h>

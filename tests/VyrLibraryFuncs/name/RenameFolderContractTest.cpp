@@ -2,8 +2,8 @@
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/FileUtils.h>
-#include <VyrPlatform/CFileFind.h>
-#include <VyrPlatform/MessageQueue.h>
+#include <VyrPlatform/files/CFileFind.h>
+#include <VyrPlatform/process/MessageQueue.h>
 
 #include <tests/support/Describe.h>
 #include <tests/support/EmptiedQueue.h>

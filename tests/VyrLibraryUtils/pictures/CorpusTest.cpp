@@ -1,6 +1,6 @@
 // Real pictures, sound and damaged: every text is the one that is expected.
 #include <VyrLibraryUtils/ImageUtils.h>
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 #include <tests/support/StdPath.h>
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // JPEG XL: the Exif box, bare and packed.
 #include "Facts.h"
 
-#include <VyrPlatform/Brotli.h>
+#include <VyrPlatform/documents/Brotli.h>
 #include <tests/support/PictureBuilder.h>
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // File times through utimensat, calendar fields through mktime.
 #include <tests/support/FileMoments.h>
 
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <gtest/gtest.h>
 

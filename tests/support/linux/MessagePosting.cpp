@@ -1,7 +1,7 @@
 // On Linux events come through the poster of the thread's queue.
 #include <tests/support/MessagePosting.h>
 
-#include <VyrPlatform/LinuxMessageQueue.h>
+#include <VyrPlatform/process/LinuxMessageQueue.h>
 
 #include <utility>
 

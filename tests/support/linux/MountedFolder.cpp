@@ -4,7 +4,7 @@
 #include <tests/support/ChildProcess.h>
 #include <tests/support/StdPath.h>
 
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <gtest/gtest.h>
 

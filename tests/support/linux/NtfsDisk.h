@@ -1,7 +1,7 @@
 // For tests on Linux: a small NTFS, as Windows disks are mounted.
 #pragma once
 
-#include <VyrPlatform/CString.h>
+#include <VyrPlatform/text/CString.h>
 #include <tests/support/ScratchFolder.h>
 
 #include <string>

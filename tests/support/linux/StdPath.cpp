@@ -1,7 +1,7 @@
 // On Linux the standard library's paths are bytes.
 #include <tests/support/StdPath.h>
 
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 namespace VyrTests {
 

@@ -1,7 +1,7 @@
 // A program started with posix_spawn, its streams pipes.
 #include <tests/support/SystemChild.h>
 
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <array>
 #include <cerrno>

@@ -1,7 +1,7 @@
 // On Linux the environment variable TZ is the process's time zone.
 #include <tests/support/TimeZone.h>
 
-#include <VyrPlatform/FileTimes.h>
+#include <VyrPlatform/files/FileTimes.h>
 
 #include <cstdlib>
 

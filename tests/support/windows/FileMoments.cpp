@@ -1,7 +1,7 @@
 // File times through SetFileTime, calendar fields through LocalFileTimeToFileTime.
 #include <tests/support/FileMoments.h>
 
-#include <VyrPlatform/WindowsCString.h>
+#include <VyrPlatform/text/WindowsCString.h>
 
 #include <gtest/gtest.h>
 

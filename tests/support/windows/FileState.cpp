@@ -2,7 +2,7 @@
 #include <tests/support/FileState.h>
 #include <tests/support/StdPath.h>
 
-#include <VyrPlatform/WindowsCString.h>
+#include <VyrPlatform/text/WindowsCString.h>
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // Symbolic links on Windows, which not every user may make.
 #include <tests/support/Links.h>
 
-#include <VyrPlatform/FileSystem.h>
-#include <VyrPlatform/WindowsCString.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/text/WindowsCString.h>
 
 #include <windows.h>
 

@@ -1,7 +1,7 @@
 // Removes folders on Windows. The standard library's own call stumbles over streams, which Wine lists as files.
 #include <tests/support/RemoveTree.h>
 
-#include <VyrPlatform/WindowsCString.h>
+#include <VyrPlatform/text/WindowsCString.h>
 
 #include <windows.h>
 

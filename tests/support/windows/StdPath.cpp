@@ -1,7 +1,7 @@
 // On Windows the standard library's paths are wide texts.
 #include <tests/support/StdPath.h>
 
-#include <VyrPlatform/WindowsCString.h>
+#include <VyrPlatform/text/WindowsCString.h>
 
 namespace VyrTests {
 

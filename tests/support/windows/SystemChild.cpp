@@ -2,7 +2,7 @@
 #include <tests/support/SystemChild.h>
 #include <tests/support/windows/OwnConsole.h>
 
-#include <VyrPlatform/WindowsCString.h>
+#include <VyrPlatform/text/WindowsCString.h>
 
 #include <memory>
 #include <stdexcept>

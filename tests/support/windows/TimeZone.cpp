@@ -1,7 +1,7 @@
 // On Windows the time zone is the machine's, which tests leave alone: they run where it is the wanted one already.
 #include <tests/support/TimeZone.h>
 
-#include <VyrPlatform/FileTimes.h>
+#include <VyrPlatform/files/FileTimes.h>
 
 #include <cstdlib>
 #include <ctime>

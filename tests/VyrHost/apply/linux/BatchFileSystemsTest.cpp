@@ -4,7 +4,7 @@
 #include <tests/support/StdPath.h>
 #include <tests/support/linux/MountedFolder.h>
 
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <gmock/gmock.h>
 

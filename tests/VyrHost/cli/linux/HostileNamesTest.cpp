@@ -1,7 +1,7 @@
 // Tests of the program: names that only Linux can have.
 #include "../VyrProgram.h"
 
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <gmock/gmock.h>
 #include <tests/support/StdPath.h>

@@ -1,7 +1,7 @@
 // Tests of the program: new paths that are on another file system.
 #include "../VyrProgram.h"
 
-#include <VyrPlatform/Encoding.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <gmock/gmock.h>
 #include <tests/support/linux/MountedFolder.h>

@@ -2,7 +2,7 @@
 #include "../VyrProgram.h"
 
 #include <VyrHost/cli/TreeRequest.h>
-#include <VyrPlatform/Interrupt.h>
+#include <VyrHostPlatform/Interrupt.h>
 
 #include <gmock/gmock.h>
 #include <tests/support/MessagePosting.h>
@@ -34,7 +34,7 @@ TEST_F(TreeCommandLinux, InterruptBeginsNoFurtherFolder)
     request.apply = true;
     request.quiet = true;
     const auto runInterrupted = [&request] {
-        VyrPlatform::Interrupt::Catch();
+        VyrHostPlatform::Interrupt::Catch();
         std::raise(SIGINT);
         std::exit(VyrHost::RunTrees(request));
     };

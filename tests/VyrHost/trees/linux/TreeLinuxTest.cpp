@@ -6,10 +6,10 @@
 #include <VyrHost/trees/TreeClashes.h>
 #include <VyrHost/trees/TreeFinish.h>
 #include <VyrHost/trees/TreeTasks.h>
-#include <VyrPlatform/FileTimes.h>
-#include <tests/VyrPlatform/linux/Unprivileged.h>
+#include <VyrPlatform/files/FileTimes.h>
 #include <tests/support/FileMoments.h>
 #include <tests/support/linux/MountedFolder.h>
+#include <tests/support/linux/Unprivileged.h>
 
 #include <gtest/gtest.h>
 

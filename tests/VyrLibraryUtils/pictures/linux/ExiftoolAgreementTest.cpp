@@ -2,7 +2,7 @@
 // alone: the bytes are the same on Windows.
 #include "../Facts.h"
 
-#include <VyrPlatform/Brotli.h>
+#include <VyrPlatform/documents/Brotli.h>
 #include <tests/support/ChildProcess.h>
 #include <tests/support/PictureBuilder.h>
 #include <tests/support/ScratchFolder.h>

@@ -1,0 +1,55 @@
+// What a folder has besides its entries and times, on Linux: owner, mode, extended attributes.
+#include <VyrHostPlatform/FolderTraits.h>
+
+#include <VyrPlatform/linux/files/Descriptor.h>
+#include <VyrPlatform/linux/files/FileMetadata.h>
+#include <VyrPlatform/linux/files/NativePath.h>
+
+#include <cerrno>
+#include <fcntl.h>
+
+namespace VyrHostPlatform {
+
+using namespace VyrPlatform;
+
+namespace {
+
+Descriptor OpenFolder(const CString& path)
+{
+    return Descriptor(open(NativePath(path).Get(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+}
+
+} // namespace
+
+std::optional<FolderTraits> GetFolderTraits(const CString& path)
+{
+    // By path: a folder that may not be read cannot be opened, but has its traits all the same.
+    const NativePath native(path);
+    struct stat status;
+    if (lstat(native.Get(), &status) != 0 || !S_ISDIR(status.st_mode))
+        return std::nullopt;
+    return FolderTraits{.mode = PermissionsOf(status),
+                        .owner = status.st_uid,
+                        .group = status.st_gid,
+                        .extended = GetExtendedAttributes(native)};
+}
+
+std::uint32_t SetFolderExtras(const CString& path, const FolderTraits& traits)
+{
+    const Descriptor folder = OpenFolder(path);
+    if (!folder.IsOpen())
+        return static_cast<std::uint32_t>(errno);
+    static_cast<void>(SetOwner(folder.Get(), traits.owner, traits.group));
+    return static_cast<std::uint32_t>(SetExtendedAttributes(folder.Get(), traits.extended));
+}
+
+std::uint32_t SetFolderMode(const CString& path, const FolderTraits& traits)
+{
+    const Descriptor folder = OpenFolder(path);
+    if (!folder.IsOpen())
+        return static_cast<std::uint32_t>(errno);
+    const bool hasOwner = SetOwner(folder.Get(), traits.owner, traits.group);
+    return static_cast<std::uint32_t>(SetPermissions(folder.Get(), traits.mode, hasOwner));
+}
+
+} // namespace VyrHostPlatform

@@ -1,0 +1,51 @@
+// Full paths of Linux: the current folder in front, and no empty steps.
+#include <VyrHostPlatform/FullPath.h>
+
+#include <VyrPlatform/linux/files/NativePath.h>
+
+#include <VyrPlatform/process/Process.h>
+#include <VyrPlatform/text/Encoding.h>
+
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+namespace VyrHostPlatform {
+
+using namespace VyrPlatform;
+
+namespace {
+
+void AppendSteps(std::u16string& full, std::u16string_view path)
+{
+    while (!path.empty()) {
+        const std::size_t end = path.find(u'/');
+        const std::u16string_view step = path.substr(0, end);
+        if (!step.empty() && step != u".") {
+            full += u'/';
+            full += step;
+        }
+        path.remove_prefix(end == std::u16string_view::npos ? path.size() : end + 1);
+    }
+}
+
+} // namespace
+
+CString GetFullPath(const CString& path)
+{
+    if (path.IsEmpty())
+        return path;
+    std::u16string full;
+    if (path[0] != u'/')
+        AppendSteps(full, Process::GetCurrentFolder());
+    AppendSteps(full, path);
+    return full.empty() ? CString(u"/") : CString(full);
+}
+
+CString GetRealPath(const CString& path)
+{
+    const std::unique_ptr<char, decltype(&std::free)> real(realpath(NativePath(path).Get(), nullptr), std::free);
+    return real ? Encoding::FromNameBytes(real.get()) : CString();
+}
+
+} // namespace VyrHostPlatform

@@ -1,0 +1,123 @@
+// The editor as a process of its own.
+#include <VyrHostPlatform/Editor.h>
+
+#include <VyrHostPlatform/common/EditorCommand.h>
+#include <VyrPlatform/process/Process.h>
+#include <VyrPlatform/text/WindowsCString.h>
+
+#include <array>
+#include <string_view>
+#include <windows.h>
+
+namespace VyrHostPlatform {
+
+using namespace VyrPlatform;
+
+namespace {
+
+/// A file of its own in the folder for temporary files, removed at the end.
+class TemporaryFile
+{
+public:
+    TemporaryFile()
+    {
+        std::array<wchar_t, MAX_PATH + 1> folder{};
+        std::array<wchar_t, MAX_PATH + 1> name{};
+        if (GetTempPathW(static_cast<DWORD>(folder.size()), folder.data()) != 0 &&
+            GetTempFileNameW(folder.data(), L"vyr", 0, name.data()) != 0)
+            m_path = FromWide(name.data());
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile()
+    {
+        if (!m_path.IsEmpty())
+            DeleteFileW(ToWide(m_path));
+    }
+
+    [[nodiscard]] const CString& Path() const noexcept { return m_path; }
+
+    [[nodiscard]] bool Write(std::string_view bytes) const
+    {
+        const HANDLE file = Open(GENERIC_WRITE, TRUNCATE_EXISTING);
+        if (file == INVALID_HANDLE_VALUE)
+            return false;
+        DWORD written = 0;
+        const bool isWhole = bytes.size() <= MAXDWORD &&
+                             WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
+                             written == bytes.size();
+        return CloseHandle(file) && isWhole;
+    }
+
+    /// What stands under the path now: an editor may have put a new file there.
+    [[nodiscard]] bool Read(std::string& bytes) const
+    {
+        const HANDLE file = Open(GENERIC_READ, OPEN_EXISTING);
+        if (file == INVALID_HANDLE_VALUE)
+            return false;
+        std::array<char, 65536> piece;
+        DWORD count = 0;
+        BOOL succeeded = FALSE;
+        while ((succeeded = ReadFile(file, piece.data(), static_cast<DWORD>(piece.size()), &count, nullptr)) &&
+               count > 0)
+            bytes.append(piece.data(), count);
+        CloseHandle(file);
+        return succeeded != FALSE;
+    }
+
+private:
+    [[nodiscard]] HANDLE Open(DWORD access, DWORD disposition) const
+    {
+        return CreateFileW(ToWide(m_path), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                           disposition, FILE_ATTRIBUTE_TEMPORARY, nullptr);
+    }
+
+    CString m_path;
+};
+
+/// Runs `command` with `path` as its last argument.
+/// @return false when it could not be started.
+bool RunOnFile(const CString& command, const CString& path, DWORD& code)
+{
+    const CString line = CString::Join({command, u" \"", path, u"\""});
+    std::wstring writable = ToWide(line);
+    STARTUPINFOW startup{};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION process{};
+    if (!CreateProcessW(nullptr, writable.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
+        return false;
+    CloseHandle(process.hThread);
+    WaitForSingleObject(process.hProcess, INFINITE);
+    const BOOL hasCode = GetExitCodeProcess(process.hProcess, &code);
+    CloseHandle(process.hProcess);
+    return hasCode != FALSE;
+}
+
+EditedText Failure(const CString& what)
+{
+    return {std::nullopt, CString::Join({what, u": ", Process::GetErrorMessage(GetLastError())})};
+}
+
+} // namespace
+
+EditedText EditText(const std::string& text)
+{
+    const CString command = GetEditorCommand(u"notepad");
+    const TemporaryFile file;
+    if (!file.Write(text))
+        return Failure(file.Path());
+    DWORD code = 0;
+    if (!RunOnFile(command, file.Path(), code))
+        return Failure(command);
+    if (code != 0) {
+        CString message;
+        message.Format(u"the editor (%s) ended with the code %d", command, static_cast<int>(code));
+        return {std::nullopt, message};
+    }
+    std::string edited;
+    if (!file.Read(edited))
+        return Failure(file.Path());
+    return {std::move(edited), {}};
+}
+
+} // namespace VyrHostPlatform

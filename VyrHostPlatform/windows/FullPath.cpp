@@ -1,0 +1,49 @@
+// Full paths of Windows, as the system words them.
+#include <VyrHostPlatform/FullPath.h>
+
+#include <VyrPlatform/windows/files/LongPath.h>
+
+#include <string>
+#include <windows.h>
+
+namespace VyrHostPlatform {
+
+using namespace VyrPlatform;
+
+namespace {
+
+/// A path as the system answers it, in the form in which people write it.
+CString WithoutPrefix(const CString& path)
+{
+    constexpr std::u16string_view share = uR"(\\?\UNC\)";
+    constexpr std::u16string_view drive = uR"(\\?\)";
+    const std::u16string_view text = path;
+    if (text.starts_with(share))
+        return CString::Join({uR"(\\)", text.substr(share.size())});
+    return text.starts_with(drive) ? CString(text.substr(drive.size())) : path;
+}
+
+} // namespace
+
+CString GetFullPath(const CString& path)
+{
+    const CString full = MakeFullPath(path);
+    // The separator of a root ("C:\", "\\server\share\") is part of its name.
+    const bool hasSeparator = full.GetLength() > 3 && full[full.GetLength() - 1] == u'\\';
+    return hasSeparator ? full.Left(full.GetLength() - 1) : full;
+}
+
+CString GetRealPath(const CString& path)
+{
+    const HANDLE file =
+        CreateFileW(LongPath(path).Get(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return {};
+    std::wstring real(GetFinalPathNameByHandleW(file, nullptr, 0, VOLUME_NAME_DOS), L'\0');
+    real.resize(GetFinalPathNameByHandleW(file, real.data(), static_cast<DWORD>(real.size()), VOLUME_NAME_DOS));
+    CloseHandle(file);
+    return WithoutPrefix(FromWide(real));
+}
+
+} // namespace VyrHostPlatform

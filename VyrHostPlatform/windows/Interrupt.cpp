@@ -1,0 +1,36 @@
+// Notes Ctrl-C, Ctrl-Break and the closing of the console for the program to look at between two steps of its work.
+#include <VyrHostPlatform/Interrupt.h>
+
+#include <atomic>
+#include <windows.h>
+
+namespace VyrHostPlatform::Interrupt {
+
+namespace {
+
+constinit std::atomic<bool> wasAsked = false;
+
+BOOL WINAPI Note(DWORD event)
+{
+    const bool askedBefore = wasAsked.exchange(true);
+    if (event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT)
+        return askedBefore ? FALSE : TRUE;
+    // The console is closing or the user logs off: Windows ends the program when this handler returns, at the latest
+    // some seconds from now. Until then the work may come to its end, which ends this thread too.
+    ::Sleep(INFINITE);
+    return TRUE;
+}
+
+} // namespace
+
+void Catch()
+{
+    ::SetConsoleCtrlHandler(Note, TRUE);
+}
+
+bool WasAsked() noexcept
+{
+    return wasAsked.load();
+}
+
+} // namespace VyrHostPlatform::Interrupt

@@ -1,0 +1,100 @@
+// Renames without ever replacing, on Windows.
+#include <VyrHostPlatform/RenameFile.h>
+
+#include <VyrPlatform/windows/files/LongPath.h>
+
+#include <VyrPlatform/text/WindowsCString.h>
+
+#include <windows.h>
+
+namespace VyrHostPlatform {
+
+using namespace VyrPlatform;
+
+namespace {
+
+/// A folder held open could not be renamed, nor one above it, so that only its path is kept.
+constexpr std::intptr_t noHandle = -1;
+
+/// The form in which the system changes nothing in a path: it would otherwise drop dots and blanks at the end of a
+/// name, and take some names for devices.
+CString ToExactPath(const CString& fullPath)
+{
+    CString path = fullPath;
+    path.Replace(u"/", uR"(\)");
+    return AddLongPathPrefix(path);
+}
+
+DWORD FindFolderError(const CString& path) noexcept
+{
+    const DWORD attributes = GetFileAttributesW(ToWide(path));
+    if (attributes == INVALID_FILE_ATTRIBUTES)
+        return GetLastError();
+    return attributes & FILE_ATTRIBUTE_DIRECTORY ? ERROR_SUCCESS : ERROR_DIRECTORY;
+}
+
+CString PathOf(const CString& folder, std::u16string_view name)
+{
+    const bool hasSeparator = folder.GetLength() > 0 && folder[folder.GetLength() - 1] == u'\\';
+    return CString::Join({folder, hasSeparator ? u"" : uR"(\)", name});
+}
+
+std::uint32_t Rename(const CString& from, const CString& to) noexcept
+{
+    // Where both are links to one file, or one path in another case, some file systems succeed and do nothing.
+    if (GetFileAttributesW(ToWide(to)) != INVALID_FILE_ATTRIBUTES)
+        return GetFileAttributesW(ToWide(from)) != INVALID_FILE_ATTRIBUTES ? ERROR_ALREADY_EXISTS : GetLastError();
+    return MoveFileExW(ToWide(from), ToWide(to), 0) ? ERROR_SUCCESS : GetLastError();
+}
+
+} // namespace
+
+std::uint32_t RenameNoReplace(const CString& from, const CString& to)
+{
+    return Rename(ToExactPath(from), ToExactPath(to));
+}
+
+bool IsTargetTaken(std::uint32_t error) noexcept
+{
+    return error == ERROR_ALREADY_EXISTS || error == ERROR_FILE_EXISTS;
+}
+
+bool IsOtherFileSystem(std::uint32_t error) noexcept
+{
+    return error == ERROR_NOT_SAME_DEVICE;
+}
+
+OpenFolder::OpenFolder(const CString& path)
+    : m_path(ToExactPath(path)), m_handle(noHandle), m_error(FindFolderError(m_path))
+{}
+
+OpenFolder::~OpenFolder() = default;
+
+FileState OpenFolder::Look(std::u16string_view name) const
+{
+    return LookAtFile(PathOf(m_path, name));
+}
+
+std::uint32_t OpenFolder::RenameNoReplace(std::u16string_view name, const OpenFolder& target,
+                                          std::u16string_view newName) const
+{
+    return Rename(PathOf(m_path, name), PathOf(target.m_path, newName));
+}
+
+std::uint32_t OpenFolder::DropSecondName(std::u16string_view, const OpenFolder&, std::u16string_view) const
+{
+    // The system renames in one call everywhere, so that nothing is ever left half done.
+    return ERROR_NOT_SUPPORTED;
+}
+
+std::uint32_t OpenFolder::MakeFolder(std::u16string_view name) const
+{
+    return CreateDirectoryW(ToWide(PathOf(m_path, name)), nullptr) ? ERROR_SUCCESS : GetLastError();
+}
+
+std::uint32_t OpenFolder::RemoveEmptyFolder(std::u16string_view name) const
+{
+    return RemoveDirectoryW(ToWide(PathOf(m_path, name))) ? ERROR_SUCCESS : GetLastError();
+}
+
+} // namespace VyrHostPlatform

@@ -1,0 +1,28 @@
+/// @file
+/// What each system knows of a locale. A locale's name is written as the system itself writes it.
+#pragma once
+
+#include <VyrPlatform/text/Locale.h>
+
+#include <functional>
+
+namespace VyrPlatform::Locale {
+
+/// The locale that the user has chosen; US English where he has chosen none (the POSIX locale).
+[[nodiscard]] CString UserLocaleName();
+/// The system's form of a name such as "de_DE.UTF-8" or "de-DE"; US English for "C", "POSIX" and what it does not know.
+[[nodiscard]] CString SystemLocaleName(const CString& name);
+
+/// The capital or the small letter of `unit`, or `unit` itself, whatever the locale.
+[[nodiscard]] char16_t SystemUpper(char16_t unit) noexcept;
+[[nodiscard]] char16_t SystemLower(char16_t unit) noexcept;
+
+using Collation = std::function<int(const CString& left, const CString& right)>;
+/// The order of texts under a locale; may be used by several threads at once.
+[[nodiscard]] Collation MakeCollation(const CString& localeName);
+
+/// The patterns are already in the letters of Unicode's date patterns.
+[[nodiscard]] DateTexts ReadDateTexts(const CString& localeName);
+[[nodiscard]] NumberTexts ReadNumberTexts(const CString& localeName);
+
+} // namespace VyrPlatform::Locale

@@ -1,0 +1,43 @@
+/// @file
+/// Which file stands at a path, whatever its name: what tells a file from every other one, and whether it has changed.
+#pragma once
+
+#include <VyrPlatform/Export.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/text/CString.h>
+
+#include <cstdint>
+
+namespace VyrPlatform {
+
+/// What a file keeps through every rename. Two names with the same identity are hard links to one file.
+struct FileIdentity
+{
+    /// The file system (Linux: the device number; Windows: the volume's serial number). It may change when the file
+    /// system is mounted again.
+    std::uint64_t device = 0;
+    /// The file in it (Linux: the inode number; Windows: the file index).
+    std::uint64_t number = 0;
+
+    friend bool operator==(const FileIdentity&, const FileIdentity&) noexcept = default;
+};
+
+/// The answer to one question about an entry itself: a link is not followed.
+struct FileState
+{
+    /// File, Folder, or Other (a symbolic link, a device); Missing when nothing could be looked at.
+    FileSystem::Kind kind = FileSystem::Kind::Missing;
+    FileIdentity identity;
+    /// In bytes; 0 for what is not a file.
+    std::int64_t size = 0;
+    FileTicks modified = 0;
+    /// How many names the file has.
+    std::uint32_t links = 0;
+    /// Why the kind is Missing: the system's error code, else 0.
+    std::uint32_t error = 0;
+};
+
+/// What stands at `path`.
+[[nodiscard]] VYR_PLATFORM_API FileState LookAtFile(const CString& path);
+
+} // namespace VyrPlatform

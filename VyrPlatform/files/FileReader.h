@@ -1,0 +1,46 @@
+/// @file
+/// Reading a file at any place.
+#pragma once
+
+#include <VyrPlatform/Export.h>
+#include <VyrPlatform/text/CString.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+namespace VyrPlatform {
+
+/// A file opened for reading; others may meanwhile read, write, rename and delete it. Never blocks on a pipe or a
+/// device: what is not a regular file does not open.
+class VYR_PLATFORM_API FileReader
+{
+public:
+    /// Opens the file at `path`; IsOpen tells whether that succeeded, Error why not.
+    explicit FileReader(const CString& path);
+    /// Opens the file and at once reads its beginning into `beginning`, as far as it reaches. On Linux that is cheaper
+    /// than one after the other, for no question about the file is asked; a disk device, too, opens in this way.
+    FileReader(const CString& path, std::span<std::byte> beginning);
+    FileReader(const FileReader&) = delete;
+    FileReader& operator=(const FileReader&) = delete;
+    ~FileReader();
+
+    [[nodiscard]] bool IsOpen() const noexcept;
+    /// The system's error code when the file did not open, else 0.
+    [[nodiscard]] std::uint32_t Error() const noexcept;
+    /// The size in bytes when it was opened; 0 when it is not open.
+    [[nodiscard]] std::uint64_t Size() const noexcept { return m_size; }
+    /// How many bytes of the beginning were read when it was opened.
+    [[nodiscard]] std::size_t BeginningSize() const noexcept { return m_beginningSize; }
+    /// Reads from `offset` on into `buffer`.
+    /// @return how many bytes were read: fewer than asked for only at the end of the file or when the system fails.
+    [[nodiscard]] std::size_t ReadAt(std::uint64_t offset, std::span<std::byte> buffer) const;
+
+private:
+    std::intptr_t m_handle;
+    std::uint64_t m_size = 0;
+    std::size_t m_beginningSize = 0;
+    std::uint32_t m_error = 0;
+};
+
+} // namespace VyrPlatform

@@ -1,0 +1,59 @@
+/// @file
+/// What stands at a path, and the making of folders.
+#pragma once
+
+#include <VyrPlatform/Export.h>
+#include <VyrPlatform/files/FileTimes.h>
+#include <VyrPlatform/text/CString.h>
+
+#include <cstdint>
+#include <optional>
+
+namespace VyrPlatform::FileSystem {
+
+enum class Kind : std::uint8_t
+{
+    Missing,
+    File,
+    Folder,
+    /// A device, a pipe, a socket, or a link to nothing.
+    Other
+};
+
+/// The answer to one question to the system.
+struct Entry
+{
+    Kind kind = Kind::Missing;
+    /// The path itself names a symbolic link (a reparse point that stands for another path).
+    bool isLink = false;
+    /// In bytes; 0 for what is not a file.
+    std::int64_t size = 0;
+    FileTicks modified = 0;
+    FileTicks accessed = 0;
+    /// As the file system tells it (0 when it does not); FileTimes::GetCreated knows the conventions beyond.
+    FileTicks created = 0;
+};
+
+/// What stands at `path`. A link is followed; one that leads nowhere is of kind Other. A path that cannot be looked at
+/// (a missing parent, no permission, a name that the system cannot hold) is Missing.
+[[nodiscard]] VYR_PLATFORM_API Entry Query(const CString& path);
+
+/// Whether anything stands at `path`, a link that leads nowhere included.
+[[nodiscard]] VYR_PLATFORM_API bool Exists(const CString& path);
+/// Whether a folder, or a link to one, stands at `path`.
+[[nodiscard]] VYR_PLATFORM_API bool IsFolder(const CString& path);
+
+/// Where the symbolic link (on Windows also the junction) at `path` leads to, as it holds it; nothing when there is no
+/// such link.
+[[nodiscard]] VYR_PLATFORM_API std::optional<CString> GetLinkTarget(const CString& path);
+
+/// Makes the folder `path`, whose parent exists.
+/// @return 0 when it was made, else the system's error code (one that exists already is an error).
+[[nodiscard]] VYR_PLATFORM_API std::uint32_t CreateFolder(const CString& path);
+
+/// Whether `unit` separates the parts of a path on this system.
+[[nodiscard]] VYR_PLATFORM_API bool IsSeparator(char16_t unit) noexcept;
+/// The separator that this system writes.
+[[nodiscard]] VYR_PLATFORM_API char16_t Separator() noexcept;
+
+} // namespace VyrPlatform::FileSystem

@@ -1,0 +1,57 @@
+/// @file
+/// A file's three times.
+#pragma once
+
+#include <VyrPlatform/Export.h>
+#include <VyrPlatform/text/CString.h>
+#include <VyrPlatform/time/COleDateTime.h>
+
+#include <cstdint>
+#include <optional>
+
+namespace VyrPlatform {
+
+/// A count of 100-nanosecond intervals since 1 January 1601 UTC (the value of a FILETIME).
+using FileTicks = std::int64_t;
+
+} // namespace VyrPlatform
+
+namespace VyrPlatform::FileTimes {
+
+/// The last-write time of the file or folder at `path` (a link is followed); nothing when there is none.
+[[nodiscard]] VYR_PLATFORM_API std::optional<FileTicks> GetModified(const CString& path);
+/// The creation time. On Linux it is, in this order: what a Windows file system or Samba keeps in the file's extended
+/// attributes, the birth time, the last-write time.
+[[nodiscard]] VYR_PLATFORM_API std::optional<FileTicks> GetCreated(const CString& path);
+/// The last-access time.
+[[nodiscard]] VYR_PLATFORM_API std::optional<FileTicks> GetAccessed(const CString& path);
+
+/// Sets the last-write time of the file or folder at `path` (a link is followed).
+/// @return 0 when it was set, else the system's error code.
+[[nodiscard]] VYR_PLATFORM_API std::uint32_t SetModified(const CString& path, FileTicks modified);
+/// Sets the creation time. On Linux it is written to where GetCreated reads it: into the attribute that Samba keeps,
+/// whose other fields stay as they are, or to the disk of an NTFS driver; where there is neither, that attribute is
+/// made.
+/// @param created  more than 0.
+/// @return 0 when it was set, else the system's error code: that of an operation that is not supported where the file
+///         system keeps none. Some systems answer 0 all the same.
+[[nodiscard]] VYR_PLATFORM_API std::uint32_t SetCreated(const CString& path, FileTicks created);
+
+/// `ticks` as local time, with the offset that holds at its own date; fractions of a second are dropped.
+/// @return invalid when it is out of the calendar's range.
+[[nodiscard]] VYR_PLATFORM_API COleDateTime ToLocal(FileTicks ticks);
+
+/// The moment at which clocks show `local`: the inverse of ToLocal, to the second. Of two such moments (where clocks
+/// are turned back) it is the first; of a time that clocks leave out, what the offset before makes of it.
+/// @return nothing when `local` is not valid.
+[[nodiscard]] VYR_PLATFORM_API std::optional<FileTicks> FromLocal(const COleDateTime& local);
+
+/// `ticks` as local time by the inverse of the system's own conversion from local calendar fields to a file time: what
+/// is going to be written back is read with it, so that it becomes the same instant again. On Windows that pair uses
+/// today's offset; on Linux this is ToLocal.
+[[nodiscard]] VYR_PLATFORM_API COleDateTime ToLocalForWriting(FileTicks ticks);
+
+/// Makes ToLocal read the time zone anew. For a host that lives on while its user's time zone changes, and for tests.
+VYR_PLATFORM_API void FollowTimeZone();
+
+} // namespace VyrPlatform::FileTimes

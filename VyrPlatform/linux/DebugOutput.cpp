@@ -1,8 +1,0 @@
-// Linux has no debugger output: what no sink takes is discarded.
-#include <VyrPlatform/common/SystemDebugOutput.h>
-
-namespace VyrPlatform::DebugOutput {
-
-void WriteToSystem(const CString& /*text*/) {}
-
-} // namespace VyrPlatform::DebugOutput

@@ -1,0 +1,32 @@
+// The extended attribute "user.DOSATTRIB", in which Samba keeps a file's DOS attributes and creation time.
+#pragma once
+
+#include <VyrPlatform/Export.h>
+#include <VyrPlatform/files/FileTimes.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace VyrPlatform {
+
+struct DosAttribute
+{
+    /// The FILE_ATTRIBUTE_... bits; nothing when the value does not hold them.
+    std::optional<std::uint32_t> attributes;
+    /// Nothing when the value does not hold it, or holds zero.
+    std::optional<FileTicks> created;
+};
+
+/// Reads the value of the extended attribute: versions 1 to 5, or a hexadecimal number as ASCII text. Any other bytes
+/// give nothing. (Samba, librpc/idl/xattr.idl; exported for its tests alone.)
+[[nodiscard]] VYR_PLATFORM_API DosAttribute ParseDosAttribute(std::span<const std::byte> value);
+
+/// `value` with the creation time `created`, whatever else it holds unchanged. No value at all, and a text, become
+/// version 5.
+/// @return empty when `value` is none that ParseDosAttribute reads.
+[[nodiscard]] VYR_PLATFORM_API std::vector<std::byte> WithCreated(std::span<const std::byte> value, FileTicks created);
+
+} // namespace VyrPlatform

@@ -1,0 +1,196 @@
+// Copying and moving files on Linux.
+#include <VyrPlatform/files/FileCopy.h>
+
+#include "Descriptor.h"
+#include "FileContent.h"
+#include "FileMetadata.h"
+#include "FileStatus.h"
+#include "FlushFolder.h"
+
+#include <VyrPlatform/common/files/TemporaryPath.h>
+#include <VyrPlatform/files/FileAttributes.h>
+
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace VyrPlatform::FileCopy {
+
+namespace {
+
+enum class Flush : bool
+{
+    No,
+    Yes
+};
+
+/// The error code of a call that has just answered `result`.
+int ErrorOf(int result) noexcept
+{
+    return result == 0 ? 0 : errno;
+}
+
+/// What stands at `path` itself.
+int AskSource(const NativePath& path, struct statx& status) noexcept
+{
+    constexpr unsigned mask = STATX_TYPE | STATX_INO | STATX_SIZE | STATX_ATIME | STATX_MTIME | STATX_UID | STATX_GID;
+    return AskStatus(path, AT_SYMLINK_NOFOLLOW, mask, status) ? 0 : errno;
+}
+
+bool IsSameFile(const struct statx& left, const struct statx& right) noexcept
+{
+    return left.stx_ino == right.stx_ino && left.stx_dev_major == right.stx_dev_major &&
+           left.stx_dev_minor == right.stx_dev_minor;
+}
+
+/// Whether `source` may take the place of what stands at `destination`: 0 (also when nothing does), or the error code.
+int MayReplace(const struct statx& source, const CString& destination)
+{
+    struct statx status;
+    if (!AskStatus(NativePath(destination), AT_SYMLINK_NOFOLLOW, STATX_TYPE | STATX_INO, status))
+        return errno == ENOENT ? 0 : errno;
+    if (S_ISDIR(status.stx_mode))
+        return EISDIR;
+    if (IsSameFile(source, status))
+        return EINVAL;
+    return S_ISREG(status.stx_mode) && FileAttributes::IsReadOnly(destination) ? EACCES : 0;
+}
+
+int FillCopy(int source, int target, Flush flush)
+{
+    struct stat status;
+    if (fstat(source, &status) != 0)
+        return errno;
+    if (!S_ISREG(status.st_mode))
+        return ENOTSUP;
+    if (const int error = CopyContent(source, target, status))
+        return error;
+    if (const int error = CopyMetadata(source, target, status))
+        return error;
+    return flush == Flush::Yes ? ErrorOf(fsync(target)) : 0;
+}
+
+/// Makes the new file `destination`, or nothing.
+int CopyRegularFile(const NativePath& source, const NativePath& destination, Flush flush)
+{
+    const Descriptor from(open(source.Get(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
+    if (!from.IsOpen())
+        return errno;
+    // Nobody else reads the copy before it has its own mode.
+    Descriptor to(open(destination.Get(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    if (!to.IsOpen())
+        return errno;
+    int error = FillCopy(from.Get(), to.Get(), flush);
+    if (const int closeError = to.Close(); error == 0)
+        error = closeError;
+    if (error != 0)
+        unlink(destination.Get());
+    return error;
+}
+
+/// Makes the new link `destination`, or nothing.
+int CopyLink(const NativePath& source, const struct statx& status, const NativePath& destination)
+{
+    char target[PATH_MAX];
+    const ssize_t length = readlink(source.Get(), target, sizeof target - 1);
+    if (length < 0)
+        return errno;
+    target[length] = '\0';
+    if (symlink(target, destination.Get()) != 0)
+        return errno;
+    const auto toTime = [](const struct statx_timestamp& time) {
+        return timespec{time.tv_sec, static_cast<long>(time.tv_nsec)};
+    };
+    const struct timespec times[] = {toTime(status.stx_atime), toTime(status.stx_mtime)};
+    // A link serves as well without its owner and times.
+    static_cast<void>(lchown(destination.Get(), status.stx_uid, status.stx_gid) == 0 &&
+                      utimensat(AT_FDCWD, destination.Get(), times, AT_SYMLINK_NOFOLLOW) == 0);
+    return 0;
+}
+
+/// Makes the new entry `destination`, or nothing.
+int CopyEntry(const NativePath& source, const struct statx& status, const NativePath& destination, Flush flush)
+{
+    if (S_ISREG(status.stx_mode))
+        return CopyRegularFile(source, destination, flush);
+    if (S_ISLNK(status.stx_mode))
+        return CopyLink(source, status, destination);
+    return S_ISDIR(status.stx_mode) ? EISDIR : ENOTSUP;
+}
+
+int CopyOver(const NativePath& source, const struct statx& status, const CString& destination, Flush flush)
+{
+    if (const int error = MayReplace(status, destination))
+        return error;
+    const NativePath temporary(MakeTemporaryPath(destination));
+    if (const int error = CopyEntry(source, status, temporary, flush))
+        return error;
+    const int error = ErrorOf(std::rename(temporary.Get(), NativePath(destination).Get()));
+    if (error != 0)
+        unlink(temporary.Get());
+    return error;
+}
+
+int Copy(const CString& source, const CString& destination, Flush flush)
+{
+    const NativePath from(source);
+    struct statx status;
+    if (const int error = AskSource(from, status))
+        return error;
+    const int error = CopyEntry(from, status, NativePath(destination), flush);
+    return error == EEXIST ? CopyOver(from, status, destination, flush) : error;
+}
+
+/// Whether `source` is still the file of `status`: one that somebody writes meanwhile is more than its copy.
+bool IsUnchanged(const NativePath& source, const struct statx& status) noexcept
+{
+    struct statx now;
+    return AskSource(source, now) == 0 && IsSameFile(now, status) && now.stx_size == status.stx_size &&
+           ToTicks(now.stx_mtime) == ToTicks(status.stx_mtime);
+}
+
+int MoveToOtherVolume(const CString& source, const struct statx& status, const CString& destination)
+{
+    if (const int error = Copy(source, destination, Flush::Yes))
+        return error;
+    const CString folder = GetFolderOf(destination);
+    if (const std::uint32_t error = FlushFolder(folder.IsEmpty() ? CString(u".") : folder))
+        return static_cast<int>(error);
+    const NativePath from(source);
+    return IsUnchanged(from, status) ? ErrorOf(unlink(from.Get())) : EBUSY;
+}
+
+int MoveFrom(const CString& source, const CString& destination)
+{
+    const NativePath from(source);
+    struct statx status;
+    if (const int error = AskSource(from, status))
+        return error;
+    if (S_ISDIR(status.stx_mode))
+        return EISDIR;
+    if (const int error = MayReplace(status, destination))
+        return error;
+    const int error = ErrorOf(std::rename(from.Get(), NativePath(destination).Get()));
+    return error == EXDEV ? MoveToOtherVolume(source, status, destination) : error;
+}
+
+} // namespace
+
+std::uint32_t Copy(const CString& source, const CString& destination)
+{
+    return static_cast<std::uint32_t>(Copy(source, destination, Flush::No));
+}
+
+std::uint32_t Move(const CString& source, const CString& destination)
+{
+    return static_cast<std::uint32_t>(MoveFrom(source, destination));
+}
+
+std::uint32_t RemoveEmptyFolder(const CString& path)
+{
+    return static_cast<std::uint32_t>(ErrorOf(rmdir(NativePath(path).Get())));
+}
+
+} // namespace VyrPlatform::FileCopy

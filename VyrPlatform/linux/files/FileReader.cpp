@@ -1,0 +1,122 @@
+// Reading a file at any place, on Linux.
+#include <VyrPlatform/files/FileReader.h>
+
+#include "EnteredFolder.h"
+#include "NativePath.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace VyrPlatform {
+
+namespace {
+
+constexpr int notOpen = -1;
+/// Opening a pipe without O_NONBLOCK would wait for its other end.
+constexpr int howToOpen = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+
+/// Takes the size of the regular file behind `descriptor`.
+/// @return 0, or the error code when it is something else.
+int TakeSize(int descriptor, std::uint64_t& size) noexcept
+{
+    struct stat status;
+    if (fstat(descriptor, &status) != 0)
+        return errno;
+    if (S_ISDIR(status.st_mode))
+        return EISDIR;
+    if (!S_ISREG(status.st_mode))
+        return EINVAL;
+    size = static_cast<std::uint64_t>(status.st_size);
+    return 0;
+}
+
+/// Reads from `offset` on until `buffer` is full, the file ends or the system fails.
+/// @return how many bytes were read; where they are none, `errno` tells why when the system failed.
+std::size_t Read(int descriptor, std::uint64_t offset, std::span<std::byte> buffer) noexcept
+{
+    std::size_t count = 0;
+    while (count < buffer.size()) {
+        const ssize_t read =
+            pread(descriptor, buffer.data() + count, buffer.size() - count, static_cast<off_t>(offset + count));
+        if (read < 0 && errno == EINTR)
+            continue;
+        if (read <= 0)
+            break;
+        count += static_cast<std::size_t>(read);
+    }
+    return count;
+}
+
+/// Takes the size of what is behind `descriptor` and reads its beginning.
+/// @return 0, or the error code when it cannot be read at a place.
+int TakeBeginning(int descriptor, std::uint64_t& size, std::span<std::byte> beginning, std::size_t& count) noexcept
+{
+    // A pipe has no end to go to, and a folder gives itself away when it is read. Both tell so in less time than the
+    // kind of a file takes to ask for; only what seems empty may be anything.
+    const off_t end = lseek(descriptor, 0, SEEK_END);
+    if (end < 0)
+        return errno;
+    if (end == 0)
+        return TakeSize(descriptor, size);
+    const auto wanted = std::min<std::uint64_t>(beginning.size(), static_cast<std::uint64_t>(end));
+    errno = EIO;
+    count = Read(descriptor, 0, beginning.first(static_cast<std::size_t>(wanted)));
+    if (count == 0)
+        return errno;
+    size = static_cast<std::uint64_t>(end);
+    return 0;
+}
+
+/// Keeps `descriptor`, or closes it where `error` says so.
+std::intptr_t KeepUnless(int error, int descriptor) noexcept
+{
+    if (error == 0)
+        return descriptor;
+    if (descriptor != notOpen)
+        close(descriptor);
+    return notOpen;
+}
+
+} // namespace
+
+FileReader::FileReader(const CString& path) : m_handle(notOpen)
+{
+    const int descriptor = OpenFromEnteredFolder(NativePath(path).Get(), howToOpen);
+    const int error = descriptor == notOpen ? errno : TakeSize(descriptor, m_size);
+    m_error = static_cast<std::uint32_t>(error);
+    m_handle = KeepUnless(error, descriptor);
+}
+
+FileReader::FileReader(const CString& path, std::span<std::byte> beginning) : m_handle(notOpen)
+{
+    const int descriptor = OpenFromEnteredFolder(NativePath(path).Get(), howToOpen);
+    const int error = descriptor == notOpen ? errno : TakeBeginning(descriptor, m_size, beginning, m_beginningSize);
+    m_error = static_cast<std::uint32_t>(error);
+    m_handle = KeepUnless(error, descriptor);
+}
+
+FileReader::~FileReader()
+{
+    if (IsOpen())
+        close(static_cast<int>(m_handle));
+}
+
+bool FileReader::IsOpen() const noexcept
+{
+    return m_handle != notOpen;
+}
+
+std::uint32_t FileReader::Error() const noexcept
+{
+    return m_error;
+}
+
+std::size_t FileReader::ReadAt(std::uint64_t offset, std::span<std::byte> buffer) const
+{
+    return Read(static_cast<int>(m_handle), offset, buffer);
+}
+
+} // namespace VyrPlatform

@@ -1,0 +1,59 @@
+// Turns paths into the bytes of Linux, quickly for those in ASCII.
+#include "NativePath.h"
+
+#include <VyrPlatform/text/Encoding.h>
+#include <VyrPlatform/text/Surrogates.h>
+
+#include <algorithm>
+
+namespace VyrPlatform {
+
+namespace {
+
+bool StandsForByte(char16_t unit) noexcept
+{
+    return unit >= 0xDC80 && unit <= 0xDCFF;
+}
+
+/// Whether a file can have this path at all.
+bool CanName(std::u16string_view path) noexcept
+{
+    while (!path.empty()) {
+        if (path.front() == 0 || (BeginsWithLoneSurrogate(path) && !StandsForByte(path.front())))
+            return false;
+        path.remove_prefix(BeginsWithPair(path) ? 2 : 1);
+    }
+    return true;
+}
+
+} // namespace
+
+NativePath::NativePath(std::u16string_view path, std::string_view suffix) : m_bytes(m_short)
+{
+    if (TakeShortAscii(path, suffix))
+        return;
+    if (CanName(path)) {
+        Encoding::AppendNameBytes(m_long, path);
+        m_long += suffix;
+    }
+    m_bytes = m_long.c_str();
+}
+
+bool NativePath::TakeShortAscii(std::u16string_view path, std::string_view suffix) noexcept
+{
+    if (path.size() + suffix.size() >= shortLength)
+        return false;
+    // Without an early way out the loop is done many units at a time. A NUL and what is not ASCII wrap round to 0x7F
+    // up.
+    unsigned highest = 0;
+    for (std::size_t index = 0; index < path.size(); ++index) {
+        highest = std::max(highest, static_cast<unsigned>(static_cast<char16_t>(path[index] - 1)));
+        m_short[index] = static_cast<char>(path[index]);
+    }
+    if (highest >= 0x7F)
+        return false;
+    *std::copy(suffix.begin(), suffix.end(), m_short + path.size()) = '\0';
+    return true;
+}
+
+} // namespace VyrPlatform

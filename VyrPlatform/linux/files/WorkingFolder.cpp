@@ -1,0 +1,80 @@
+// A folder whose files are about to be opened, on Linux: they are opened by their names, beside its descriptor.
+#include <VyrPlatform/files/WorkingFolder.h>
+
+#include "Descriptor.h"
+#include "EnteredFolder.h"
+#include "NativePath.h"
+
+#include <cstring>
+#include <fcntl.h>
+#include <optional>
+#include <string>
+
+namespace VyrPlatform {
+
+namespace {
+
+class EnteredFolder
+{
+public:
+    explicit EnteredFolder(const CString& path) : m_path(NativePath(path).Get()) {}
+
+    /// The name of the file at `path` when it stands in this folder itself, else a null pointer.
+    [[nodiscard]] const char* NameOf(const char* path) const noexcept
+    {
+        if (m_path.empty() || std::strncmp(path, m_path.c_str(), m_path.size()) != 0)
+            return nullptr;
+        const char* const name = path + m_path.size();
+        return *name == '\0' || std::strchr(name, '/') ? nullptr : name;
+    }
+
+    /// A descriptor of the folder, opened when it is first asked for; negative when it cannot be opened.
+    [[nodiscard]] int Get()
+    {
+        if (!m_folder)
+            m_folder.emplace(open(m_path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+        return m_folder->Get();
+    }
+
+private:
+    std::string m_path;
+    std::optional<Descriptor> m_folder;
+};
+
+thread_local EnteredFolder* entered = nullptr;
+
+} // namespace
+
+struct WorkingFolder::State
+{
+    explicit State(const CString& folder) : path(folder), opened(folder) {}
+
+    CString path;
+    EnteredFolder opened;
+};
+
+WorkingFolder::WorkingFolder() = default;
+
+WorkingFolder::~WorkingFolder()
+{
+    if (m_state)
+        entered = nullptr;
+}
+
+void WorkingFolder::Enter(const CString& path)
+{
+    if (m_state && m_state->path == path)
+        return;
+    m_state = std::make_unique<State>(path);
+    entered = &m_state->opened;
+}
+
+int OpenFromEnteredFolder(const char* path, int flags)
+{
+    const char* const name = entered ? entered->NameOf(path) : nullptr;
+    if (name && entered->Get() >= 0)
+        return openat(entered->Get(), name, flags);
+    return open(path, flags);
+}
+
+} // namespace VyrPlatform

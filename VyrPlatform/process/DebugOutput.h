@@ -1,0 +1,21 @@
+/// @file
+/// The debugger output.
+#pragma once
+
+#include <VyrPlatform/Export.h>
+#include <VyrPlatform/text/CString.h>
+
+#include <functional>
+
+namespace VyrPlatform::DebugOutput {
+
+using Sink = std::function<void(const CString&)>;
+
+/// Sends `text` to the sink, if one is set; else to the system's debugger output (which Linux has not: it is
+/// discarded).
+VYR_PLATFORM_API void Write(const CString& text);
+
+/// Makes Write hand its texts to `sink`; an empty one ends that. Set it while no other thread writes.
+VYR_PLATFORM_API void SetSink(Sink sink);
+
+} // namespace VyrPlatform::DebugOutput

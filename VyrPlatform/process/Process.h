@@ -1,0 +1,59 @@
+/// @file
+/// The running program: its file, its version, its environment, and the system's folders.
+#pragma once
+
+#include <VyrPlatform/Export.h>
+#include <VyrPlatform/text/CString.h>
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+namespace VyrPlatform::Process {
+
+/// The full path of the program's executable file.
+[[nodiscard]] VYR_PLATFORM_API CString GetProgramPath();
+
+/// What the program says of itself: on Windows its version resource, on Linux the note that the build puts in.
+struct ProgramVersion
+{
+    /// Major, minor, revision, build.
+    std::array<std::int32_t, 4> file{};
+    CString productName;
+    CString productVersion;
+};
+
+/// Zeros and empty texts for a program that carries none. Read once.
+[[nodiscard]] VYR_PLATFORM_API const ProgramVersion& GetProgramVersion();
+
+/// The folder of the system's own programs and libraries, without a separator at its end (Windows: the system
+/// directory; Linux: /usr/bin).
+[[nodiscard]] VYR_PLATFORM_API CString GetSystemFolder();
+/// The folder of the system's built-in apps (Windows: SystemApps in the Windows folder; Linux:
+/// /usr/share/applications).
+[[nodiscard]] VYR_PLATFORM_API CString GetSystemAppsFolder();
+
+/// The user's folders for a program's data. On Linux the XDG base directories.
+enum class DataLocation : std::uint8_t
+{
+    /// Data of this machine (Windows: local application data; Linux: XDG_DATA_HOME).
+    Local,
+    /// Settings that follow the user (Windows: roaming application data; Linux: XDG_CONFIG_HOME).
+    Roaming,
+    /// What a program keeps of its doings: logs, journals (Windows: local application data; Linux: XDG_STATE_HOME).
+    State
+};
+
+/// The folder of `location`, without a separator at its end; empty when the system names none.
+[[nodiscard]] VYR_PLATFORM_API CString GetDataFolder(DataLocation location);
+
+/// An environment variable; nothing when it is not set.
+[[nodiscard]] VYR_PLATFORM_API std::optional<CString> GetEnvironment(const CString& name);
+
+/// The current folder, as a full path.
+[[nodiscard]] VYR_PLATFORM_API CString GetCurrentFolder();
+
+/// The system's message for one of its error codes, without a line end; empty for an unknown one.
+[[nodiscard]] VYR_PLATFORM_API CString GetErrorMessage(std::uint32_t code);
+
+} // namespace VyrPlatform::Process

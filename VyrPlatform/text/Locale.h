@@ -1,0 +1,60 @@
+/// @file
+/// The user's language and region: letter case, collation, numbers, names of months and days.
+#pragma once
+
+#include <VyrPlatform/Export.h>
+#include <VyrPlatform/text/CString.h>
+
+#include <array>
+#include <cstddef>
+
+namespace VyrPlatform::Locale {
+
+/// Upper-cases `length` code units in place, one unit to one (a letter whose capital needs more units stays as it is),
+/// under the user's locale: Unicode's simple mapping, in which Turkish and Azerbaijani keep the dot of i. Units beyond
+/// U+FFFF (surrogates) stay.
+VYR_PLATFORM_API void ToUpper(char16_t* text, std::size_t length);
+/// Lower-cases likewise.
+VYR_PLATFORM_API void ToLower(char16_t* text, std::size_t length);
+
+/// Compares under the user's collation: negative, zero or positive.
+[[nodiscard]] VYR_PLATFORM_API int Compare(const CString& left, const CString& right);
+
+/// The words and patterns of dates in the user's language, Gregorian. Patterns use the letters of Unicode's date
+/// patterns (yyyy, M, dd, EEEE, HH, h, mm, ss, a) with literal text in apostrophes; their years have four digits, so
+/// that a date written with them can be read back, and their blanks are plain ones.
+struct DateTexts
+{
+    /// As they are called beside a day, which in some languages is not their name in a list.
+    std::array<CString, 12> months;
+    std::array<CString, 12> shortMonths;
+    /// From Sunday on.
+    std::array<CString, 7> days;
+    std::array<CString, 7> shortDays;
+    /// "AM" and "PM" where the language has no words for the halves of a day.
+    CString am;
+    CString pm;
+    CString shortDatePattern;
+    /// With seconds.
+    CString timePattern;
+};
+
+/// What separates the digits of a number.
+struct NumberTexts
+{
+    CString thousands;
+    CString decimal;
+    /// How many digits the last group has, and each group before it; 0: no grouping.
+    int lastGroup = 3;
+    int otherGroups = 3;
+};
+
+/// Read once for each locale and kept; the reference stays good for the life of the process.
+[[nodiscard]] VYR_PLATFORM_API const DateTexts& GetDateTexts();
+[[nodiscard]] VYR_PLATFORM_API const NumberTexts& GetNumberTexts();
+
+/// Makes the calling process follow the locale `name`: such as "de_DE", "de-DE" or "de_DE.UTF-8"; "C", "POSIX" and an
+/// unknown one are US English; empty is the user's own again, as it was when it was first asked for. For tests.
+VYR_PLATFORM_API void SetLocale(const CString& name);
+
+} // namespace VyrPlatform::Locale

@@ -1,0 +1,18 @@
+/// @file
+/// The current local time.
+#pragma once
+
+#include <VyrPlatform/Export.h>
+#include <VyrPlatform/time/COleDateTime.h>
+
+#include <optional>
+
+namespace VyrPlatform::Clock {
+
+/// The current local date and time; fractions of a second are dropped.
+[[nodiscard]] VYR_PLATFORM_API COleDateTime Now();
+
+/// Makes Now answer `moment` until it is called with nothing. For tests, while no other thread asks.
+VYR_PLATFORM_API void SetNow(std::optional<COleDateTime> moment);
+
+} // namespace VyrPlatform::Clock

@@ -1,0 +1,63 @@
+// Which file stands at a path, asked of Windows through a handle that reads nothing but attributes.
+#include <VyrPlatform/files/FileIdentity.h>
+
+#include "FileStatus.h"
+#include "LongPath.h"
+
+namespace VyrPlatform {
+
+namespace {
+
+FileSystem::Kind KindOf(DWORD attributes) noexcept
+{
+    if (attributes & FILE_ATTRIBUTE_DIRECTORY)
+        return FileSystem::Kind::Folder;
+    return FileSystem::Kind::File;
+}
+
+/// Whether the opened reparse point stands for another path.
+bool IsLink(HANDLE file) noexcept
+{
+    FILE_ATTRIBUTE_TAG_INFO information;
+    return GetFileInformationByHandleEx(file, FileAttributeTagInfo, &information, sizeof(information)) &&
+           IsReparseTagNameSurrogate(information.ReparseTag);
+}
+
+FileState Describe(HANDLE file) noexcept
+{
+    FileState state;
+    BY_HANDLE_FILE_INFORMATION information;
+    if (!GetFileInformationByHandle(file, &information)) {
+        state.error = GetLastError();
+        return state;
+    }
+    state.kind = KindOf(information.dwFileAttributes);
+    if ((information.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) && IsLink(file))
+        state.kind = FileSystem::Kind::Other;
+    if (state.kind == FileSystem::Kind::File)
+        state.size = Combine(information.nFileSizeHigh, information.nFileSizeLow);
+    state.identity.device = information.dwVolumeSerialNumber;
+    state.identity.number = static_cast<std::uint64_t>(Combine(information.nFileIndexHigh, information.nFileIndexLow));
+    state.modified = ToTicks(information.ftLastWriteTime);
+    state.links = information.nNumberOfLinks;
+    return state;
+}
+
+} // namespace
+
+FileState LookAtFile(const CString& path)
+{
+    const HANDLE file =
+        CreateFileW(LongPath(path).Get(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        FileState missing;
+        missing.error = GetLastError();
+        return missing;
+    }
+    const FileState state = Describe(file);
+    CloseHandle(file);
+    return state;
+}
+
+} // namespace VyrPlatform

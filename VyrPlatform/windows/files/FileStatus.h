@@ -1,0 +1,34 @@
+// What the system's structures tell of a file, in the words of the file services.
+#pragma once
+
+#include <VyrPlatform/files/FileTimes.h>
+
+#include <windows.h>
+
+namespace VyrPlatform {
+
+/// Two halves as one number.
+[[nodiscard]] inline std::int64_t Combine(DWORD high, DWORD low) noexcept
+{
+    return static_cast<std::int64_t>(static_cast<std::uint64_t>(high) << 32 | low);
+}
+
+[[nodiscard]] inline FileTicks ToTicks(const FILETIME& time) noexcept
+{
+    return Combine(time.dwHighDateTime, time.dwLowDateTime);
+}
+
+/// The inverse.
+[[nodiscard]] inline FILETIME ToFileTime(FileTicks ticks) noexcept
+{
+    return {static_cast<DWORD>(ticks & 0xFFFF'FFFF), static_cast<DWORD>(ticks >> 32)};
+}
+
+/// Whether a found entry stands for another path (a symbolic link, a junction), as against other reparse points (files
+/// that are compressed or kept online).
+[[nodiscard]] inline bool IsLink(const WIN32_FIND_DATAW& found) noexcept
+{
+    return (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) && IsReparseTagNameSurrogate(found.dwReserved0);
+}
+
+} // namespace VyrPlatform

@@ -1,0 +1,63 @@
+// A file's three times on Windows.
+#include <VyrPlatform/files/FileTimes.h>
+
+#include "FileStatus.h"
+#include "LongPath.h"
+
+#include <VyrPlatform/files/FileSystem.h>
+
+namespace VyrPlatform::FileTimes {
+
+namespace {
+
+std::optional<FileTicks> Get(const CString& path, FileTicks FileSystem::Entry::*time)
+{
+    const FileSystem::Entry entry = FileSystem::Query(path);
+    if (entry.kind != FileSystem::Kind::File && entry.kind != FileSystem::Kind::Folder)
+        return std::nullopt;
+    return entry.*time;
+}
+
+/// Sets those times that are given.
+std::uint32_t Set(const CString& path, const FILETIME* created, const FILETIME* modified)
+{
+    const HANDLE file =
+        CreateFileW(LongPath(path).Get(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return GetLastError();
+    const DWORD error = SetFileTime(file, created, nullptr, modified) ? ERROR_SUCCESS : GetLastError();
+    CloseHandle(file);
+    return error;
+}
+
+} // namespace
+
+std::optional<FileTicks> GetModified(const CString& path)
+{
+    return Get(path, &FileSystem::Entry::modified);
+}
+
+std::optional<FileTicks> GetCreated(const CString& path)
+{
+    return Get(path, &FileSystem::Entry::created);
+}
+
+std::optional<FileTicks> GetAccessed(const CString& path)
+{
+    return Get(path, &FileSystem::Entry::accessed);
+}
+
+std::uint32_t SetModified(const CString& path, FileTicks modified)
+{
+    const FILETIME time = ToFileTime(modified);
+    return Set(path, nullptr, &time);
+}
+
+std::uint32_t SetCreated(const CString& path, FileTicks created)
+{
+    const FILETIME time = ToFileTime(created);
+    return Set(path, &time, nullptr);
+}
+
+} // namespace VyrPlatform::FileTimes

@@ -1,0 +1,38 @@
+// Local time on Windows, under the rules that hold in each year.
+#include <VyrPlatform/common/time/LocalOffset.h>
+
+#include "files/FileStatus.h"
+
+#include <algorithm>
+
+namespace VyrPlatform {
+
+namespace {
+
+constexpr FileTicks ticksPerSecond = 10'000'000;
+/// From 1 January 1601 to 1 January 1970.
+constexpr std::int64_t secondsToUnixEpoch = 11'644'473'600;
+
+} // namespace
+
+std::optional<int> GetLocalOffset(std::int64_t unixSeconds)
+{
+    // The system knows no time before 1601.
+    const FileTicks ticks = std::max<FileTicks>(0, unixSeconds + secondsToUnixEpoch) * ticksPerSecond;
+    const FILETIME time = ToFileTime(ticks);
+    SYSTEMTIME universal;
+    TIME_ZONE_INFORMATION zone;
+    SYSTEMTIME local;
+    FILETIME localTime;
+    if (!FileTimeToSystemTime(&time, &universal) || !GetTimeZoneInformationForYear(universal.wYear, nullptr, &zone) ||
+        !SystemTimeToTzSpecificLocalTime(&zone, &universal, &local) || !SystemTimeToFileTime(&local, &localTime))
+        return std::nullopt;
+    return static_cast<int>((ToTicks(localTime) - ticks) / ticksPerSecond);
+}
+
+void ReadTimeZone()
+{
+    // The system is asked anew each time.
+}
+
+} // namespace VyrPlatform

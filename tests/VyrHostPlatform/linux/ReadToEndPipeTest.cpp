@@ -1,0 +1,43 @@
+// ReadToEnd on Linux: pipes are read until their writers are done, endless devices are refused.
+#include <VyrHostPlatform/ReadToEnd.h>
+
+#include <gtest/gtest.h>
+#include <tests/support/ScratchFolder.h>
+#include <tests/support/StdPath.h>
+
+#include <cerrno>
+#include <chrono>
+#include <fstream>
+#include <string>
+#include <sys/stat.h>
+#include <thread>
+
+using VyrHostPlatform::ReadToEnd;
+
+TEST(ReadToEndPipe, GivesAllThatComesThroughANamedPipe)
+{
+    const VyrTests::ScratchFolder scratch;
+    const auto path = VyrTests::ToStdPath(scratch.Path(u"pipe"));
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    const std::string half(700'000, 'x');
+    // More than a pipe holds, and with a wait in the middle.
+    std::thread writer([&] {
+        std::ofstream stream(path, std::ios::binary);
+        stream << half << std::flush;
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        stream << half << "end";
+    });
+    std::uint32_t error = 1;
+    EXPECT_EQ(ReadToEnd(scratch.Path(u"pipe"), error), half + half + "end");
+    EXPECT_EQ(error, 0u);
+    writer.join();
+}
+
+TEST(ReadToEndPipe, RefusesDevicesThatNeverEnd)
+{
+    for (const char16_t* const path : {u"/dev/zero", u"/dev/urandom"}) {
+        std::uint32_t error = 0;
+        EXPECT_EQ(ReadToEnd(path, error), std::nullopt);
+        EXPECT_EQ(error, std::uint32_t{ENODEV});
+    }
+}

@@ -1,0 +1,52 @@
+// File times that are going to be written back: the inverse of the system's own conversion.
+#include <VyrPlatform/files/FileTimes.h>
+
+#include <tests/support/Describe.h>
+#include <tests/support/FileMoments.h>
+#include <tests/support/TimeZone.h>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace FileTimes = VyrPlatform::FileTimes;
+using VyrTests::TicksOfUnixTime;
+using VyrTests::TimeZone;
+
+namespace {
+
+constexpr std::int64_t secondsPerDay = 86'400;
+
+/// Writes back what is read of the noon (UTC) of each day from 1971 to 2037. Where clocks are turned back, an hour has
+/// two instants; it is never that of noon in the zones asked.
+void ExpectEveryDayComesBack()
+{
+    for (std::int64_t day = 365; day < 67 * 365; ++day) {
+        const VyrPlatform::FileTicks noon = TicksOfUnixTime(day * secondsPerDay + secondsPerDay / 2);
+        const COleDateTime local = FileTimes::ToLocalForWriting(noon + 9'999'999);
+        ASSERT_EQ(VyrTests::ToFileTicks(local), noon) << VyrTests::Describe(local);
+    }
+}
+
+TEST(FileTimesForWriting, EveryDayComesBackInTheMachinesOwnZone)
+{
+    ExpectEveryDayComesBack();
+}
+
+TEST(FileTimesForWriting, EveryDayComesBackWhereClocksAreTurned)
+{
+    const TimeZone zone("Europe/Berlin");
+    if (!zone.IsSet())
+        GTEST_SKIP() << zone.WhyNot();
+    ExpectEveryDayComesBack();
+}
+
+TEST(FileTimesForWriting, IsInvalidOutOfTheCalendarsRange)
+{
+    constexpr VyrPlatform::FileTicks last = std::numeric_limits<VyrPlatform::FileTicks>::max();
+    EXPECT_EQ(VyrTests::Describe(FileTimes::ToLocalForWriting(last)), "invalid");
+    EXPECT_EQ(VyrTests::Describe(FileTimes::ToLocalForWriting(std::numeric_limits<VyrPlatform::FileTicks>::min())),
+              "invalid");
+}
+
+} // namespace

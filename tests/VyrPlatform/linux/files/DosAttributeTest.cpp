@@ -1,0 +1,256 @@
+// Samba's extended attribute: every version, and bytes that are none of them.
+#include <VyrPlatform/files/FileAttributes.h>
+#include <VyrPlatform/files/FileTimes.h>
+#include <VyrPlatform/linux/files/DosAttribute.h>
+#include <tests/support/FileMoments.h>
+#include <tests/support/ScratchFolder.h>
+#include <tests/support/StdPath.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <sys/xattr.h>
+
+namespace FileAttributes = VyrPlatform::FileAttributes;
+namespace FileTimes = VyrPlatform::FileTimes;
+using VyrPlatform::DosAttribute;
+using VyrPlatform::FileTicks;
+using VyrTests::ScratchFolder;
+using namespace std::string_view_literals;
+
+namespace {
+
+constexpr FileTicks created = 0x01'DC'AA'54'2B'1A'9C'99;
+constexpr auto createdBytes = "\x99\x9c\x1a\x2b\x54\xaa\xdc\x01"sv;
+constexpr auto eightBytes = "\x11\x22\x33\x44\x55\x66\x77\x88"sv;
+constexpr auto fourBytes = "\xaa\xbb\xcc\xdd"sv;
+
+DosAttribute Parse(std::string_view value)
+{
+    return VyrPlatform::ParseDosAttribute(std::as_bytes(std::span(value)));
+}
+
+std::string Join(std::initializer_list<std::string_view> parts)
+{
+    std::string joined;
+    for (const std::string_view part : parts)
+        joined += part;
+    return joined;
+}
+
+/// A value of version 5 with the attributes 0x21 and a creation time.
+std::string Version5()
+{
+    return Join({"\0\0\5\0\5\0\0\0\x11\0\0\0\x21\0\0\0"sv, createdBytes});
+}
+
+std::string Changed(std::string_view value, FileTicks time)
+{
+    std::string changed;
+    for (const std::byte byte : VyrPlatform::WithCreated(std::as_bytes(std::span(value)), time))
+        changed += static_cast<char>(byte);
+    return changed;
+}
+
+/// The value of the attribute as it stands; empty when there is none.
+std::string ValueOf(const CString& path)
+{
+    std::string value(256, '\0');
+    const ssize_t size = getxattr(VyrTests::ToStdPath(path).c_str(), "user.DOSATTRIB", value.data(), value.size());
+    value.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
+    return value;
+}
+
+void SetValue(const CString& path, const char* name, std::string_view value)
+{
+    ASSERT_EQ(setxattr(VyrTests::ToStdPath(path).c_str(), name, value.data(), value.size(), 0), 0);
+}
+
+} // namespace
+
+TEST(DosAttribute, SampleOfVersion5IsRead)
+{
+    const DosAttribute parsed = Parse("\0\0\x05\0\x05\0\0\0\x11\0\0\0\x20\x04\0\0\x99\x9c\x19\xae\x54\xaa\xdc\x01"sv);
+    EXPECT_EQ(parsed.attributes, 0x420U);
+    EXPECT_EQ(parsed.created, 0x01'DC'AA'54'AE'19'9C'99);
+}
+
+TEST(DosAttribute, EveryVersionIsRead)
+{
+    const std::string values[] = {
+        Join({"\0\0\1\0\1\0\0\0"sv, "\x21\0\0\0"sv, fourBytes, eightBytes, eightBytes, createdBytes, eightBytes}),
+        Join({"\0\0\2\0\2\0\0\0"sv, fourBytes, "\x21\0\0\0"sv, fourBytes, eightBytes, eightBytes, createdBytes,
+              eightBytes, eightBytes, "name\0"sv}),
+        Join({"\0\0\3\0\3\0\0\0"sv, "\x11\0\0\0"sv, "\x21\0\0\0"sv, fourBytes, eightBytes, eightBytes, createdBytes,
+              eightBytes}),
+        Join({"\0\0\4\0\4\0\0\0"sv, "\x51\0\0\0"sv, "\x21\0\0\0"sv, eightBytes, createdBytes}),
+        Version5(),
+    };
+    for (const std::string& value : values) {
+        EXPECT_EQ(Parse(value).attributes, 0x21U) << static_cast<int>(value[2]);
+        EXPECT_EQ(Parse(value).created, created) << static_cast<int>(value[2]);
+    }
+}
+
+TEST(DosAttribute, TextAndPaddingBeforeTheNumbersAreSkipped)
+{
+    const std::string rest = Join({"\x11\0\0\0\x21\0\0\0"sv, createdBytes});
+    for (const std::string_view start : {"0x2\0\5\0\5\0"sv, "0x21\0\0\5\0\5\0\0\0"sv, "0x221\0\5\0\5\0\0\0"sv}) {
+        EXPECT_EQ(Parse(Join({start, rest})).attributes, 0x21U) << start.size();
+        EXPECT_EQ(Parse(Join({start, rest})).created, created) << start.size();
+    }
+}
+
+TEST(DosAttribute, OnlyTheFieldsThatAreValidAreTaken)
+{
+    std::string value = Version5();
+    value[8] = '\x01';
+    EXPECT_EQ(Parse(value).attributes, 0x21U);
+    EXPECT_EQ(Parse(value).created, std::nullopt);
+    value[8] = '\x10';
+    EXPECT_EQ(Parse(value).attributes, std::nullopt);
+    EXPECT_EQ(Parse(value).created, created);
+    value[8] = '\0';
+    EXPECT_EQ(Parse(value).attributes, std::nullopt);
+    EXPECT_EQ(Parse(value).created, std::nullopt);
+}
+
+TEST(DosAttribute, CreationTimeZeroIsNone)
+{
+    const DosAttribute parsed = Parse(Join({Version5().substr(0, 16), std::string(8, '\0')}));
+    EXPECT_EQ(parsed.attributes, 0x21U);
+    EXPECT_EQ(parsed.created, std::nullopt);
+}
+
+TEST(DosAttribute, TextAloneIsANumber)
+{
+    EXPECT_EQ(Parse("0x20").attributes, 0x20U);
+    EXPECT_EQ(Parse("0x20\0"sv).attributes, 0x20U);
+    EXPECT_EQ(Parse("0xFfFfFfFf").attributes, 0xFFFFFFFFU);
+    EXPECT_EQ(Parse("0x20").created, std::nullopt);
+}
+
+TEST(DosAttribute, OtherBytesGiveNothing)
+{
+    for (const std::string_view value :
+         {""sv, "\0"sv, "0x"sv, "0x\0"sv, "32"sv, "0x20z"sv, "0x123456789"sv, "0x-1"sv, "x20"sv, "\0\0"sv, "\0\0\5\0"sv,
+          "\0\0\0\0\0\0\0\0\x11\0\0\0\x21\0\0\0\0\0\0\0\0\0\0\0"sv, "\xff\xff\xff\xff\xff\xff\xff\xff"sv}) {
+        EXPECT_EQ(Parse(value).attributes, std::nullopt) << testing::PrintToString(value);
+        EXPECT_EQ(Parse(value).created, std::nullopt) << testing::PrintToString(value);
+    }
+}
+
+TEST(DosAttribute, VersionThatIsUnknownOrContradictsItselfGivesNothing)
+{
+    for (const auto& [first, second] : {std::pair{'\0', '\0'}, {'\6', '\6'}, {'\5', '\4'}, {'\4', '\5'}}) {
+        std::string value = Version5() + std::string(64, '\1');
+        value[2] = first;
+        value[4] = second;
+        EXPECT_EQ(Parse(value).attributes, std::nullopt);
+        EXPECT_EQ(Parse(value).created, std::nullopt);
+    }
+}
+
+TEST(DosAttribute, ValueCutOffAnywhereGivesNothing)
+{
+    const std::string whole = Version5();
+    for (std::size_t size = 0; size < whole.size(); ++size) {
+        EXPECT_EQ(Parse(std::string_view(whole).substr(0, size)).attributes, std::nullopt) << size;
+        EXPECT_EQ(Parse(std::string_view(whole).substr(0, size)).created, std::nullopt) << size;
+    }
+}
+
+TEST(DosAttribute, CreationTimeIsPutIntoEveryVersionAndNothingElseChanges)
+{
+    const std::string starts[] = {
+        Join({"\0\0\1\0\1\0\0\0"sv, "\x21\0\0\0"sv, fourBytes, eightBytes, eightBytes}),
+        Join({"\0\0\2\0\2\0\0\0"sv, fourBytes, "\x21\0\0\0"sv, fourBytes, eightBytes, eightBytes}),
+        Join({"\0\0\3\0\3\0\0\0"sv, "\x11\0\0\0"sv, "\x21\0\0\0"sv, fourBytes, eightBytes, eightBytes}),
+        Join({"\0\0\4\0\4\0\0\0"sv, "\x51\0\0\0"sv, "\x21\0\0\0"sv, eightBytes}),
+        Join({"0x21\0\0\5\0\5\0\0\0"sv, "\x11\0\0\0\x21\0\0\0"sv}),
+    };
+    for (const std::string& start : starts)
+        EXPECT_EQ(Changed(Join({start, eightBytes, "rest\0"sv}), created), Join({start, createdBytes, "rest\0"sv}));
+}
+
+TEST(DosAttribute, CreationTimeThatIsPutInIsValid)
+{
+    std::string value = Version5();
+    value[8] = '\x41';
+    std::string expected = value;
+    expected[8] = '\x51';
+    EXPECT_EQ(Changed(value, created), expected);
+}
+
+TEST(DosAttribute, CreationTimeMakesVersion5OfNothingAndOfText)
+{
+    EXPECT_EQ(Changed("", created), Join({"\0\0\5\0\5\0\0\0\x10\0\0\0\0\0\0\0"sv, createdBytes}));
+    EXPECT_EQ(Changed("0x21", created), Version5());
+    EXPECT_EQ(Changed("0x21\0"sv, created), Version5());
+}
+
+TEST(DosAttribute, CreationTimeIsNotPutIntoOtherBytes)
+{
+    for (const std::string_view value : {"\0"sv, "32"sv, "0x20z"sv, "\0\0\6\0\6\0\0\0"sv, "\0\0\5\0"sv})
+        EXPECT_EQ(Changed(value, created), "") << testing::PrintToString(value);
+    const std::string whole = Version5();
+    for (std::size_t size = 1; size < whole.size(); ++size)
+        EXPECT_EQ(Changed(std::string_view(whole).substr(0, size), created), "") << size;
+}
+
+TEST(DosAttributeOfFile, CreationTimeThatIsSetLeavesTheAttributes)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    SetValue(path, "user.DOSATTRIB", "0x21");
+    ASSERT_EQ(FileTimes::SetCreated(path, created), 0U);
+    EXPECT_EQ(ValueOf(path), Version5());
+    EXPECT_EQ(FileTimes::GetCreated(path), created);
+    ASSERT_EQ(FileTimes::SetCreated(path, created + 1), 0U);
+    EXPECT_EQ(FileTimes::GetCreated(path), created + 1);
+    EXPECT_TRUE(FileAttributes::IsReadOnly(path));
+}
+
+TEST(DosAttributeOfFile, DamagedValueIsNotWrittenOver)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    const std::string damaged = Version5().substr(0, 20);
+    SetValue(path, "user.DOSATTRIB", damaged);
+    EXPECT_NE(FileTimes::SetCreated(path, created), 0U);
+    EXPECT_EQ(ValueOf(path), damaged);
+}
+
+TEST(DosAttributeOfFile, CreationTimeComesBeforeTheBirthTime)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    EXPECT_NE(FileTimes::GetCreated(path), created);
+    SetValue(path, "user.DOSATTRIB", Version5());
+    EXPECT_EQ(FileTimes::GetCreated(path), created);
+}
+
+TEST(DosAttributeOfFile, DamagedValueLeavesTheBirthTime)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    const std::optional<FileTicks> birth = FileTimes::GetCreated(path);
+    SetValue(path, "user.DOSATTRIB", Version5().substr(0, 20));
+    EXPECT_EQ(FileTimes::GetCreated(path), birth);
+    SetValue(path, "user.DOSATTRIB", std::string(3000, '\xff'));
+    EXPECT_EQ(FileTimes::GetCreated(path), birth);
+    EXPECT_FALSE(FileAttributes::IsReadOnly(path));
+}
+
+TEST(DosAttributeOfFile, ReadOnlyBitMakesAFileReadOnly)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    SetValue(path, "user.DOSATTRIB", "0x20");
+    EXPECT_FALSE(FileAttributes::IsReadOnly(path));
+    SetValue(path, "user.DOSATTRIB", "0x21");
+    EXPECT_TRUE(FileAttributes::IsReadOnly(path));
+    SetValue(path, "user.DOSATTRIB", Version5());
+    EXPECT_TRUE(FileAttributes::IsReadOnly(path));
+}
