@@ -1,14 +1,13 @@
 // COleDateTime against the system's own conversion between calendar fields and automation days.
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/time/COleDateTime.h>
+#include <tests/VyrPlatform/time/CalendarWalk.h>
 
 #include <gtest/gtest.h>
 #include <oleauto.h>
 
 #include <cmath>
 #include <cstring>
-
-#include "../CalendarWalk.h"
 
 TEST(COleDateTimeSystem, EverySecondAroundTheEndOfFebruaryAgreesWithTheSystem)
 {
