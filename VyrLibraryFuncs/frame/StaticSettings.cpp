@@ -1,6 +1,14 @@
 // Everything that exists from the library's load to its unload, in the order in which it is created. It stands in one
 // source because only within one source is that order certain; no other source has a dynamic initialiser.
 #include <VyrLibraryFuncs/frame/VyrLibraryFuncsApp.h>
+#include <VyrLibraryFuncs/html/OutputFuncs.h>
+
+namespace VyrLibraryFuncs {
+
+CString OutputFuncs::m_outputFilePath;
+int OutputFuncs::m_outputFilterIndex = 0;
+
+} // namespace VyrLibraryFuncs
 
 namespace {
 
@@ -11,8 +19,7 @@ public:
     explicit ModuleState(CWinApp& application) { application.InitInstance(); }
 };
 
-// The static settings of the classes come before this line.
-
+// Comes last: the static settings of the classes stand above.
 CVyrLibraryFuncsApp application;
 const ModuleState moduleState(application);
 

@@ -1,0 +1,36 @@
+// What stands around a tag: the indentation before it and the end of its line.
+#pragma once
+
+#include <VyrPlatform/text/CString.h>
+
+#include <string_view>
+
+namespace VyrLibraryFuncs {
+
+inline constexpr std::u16string_view LineEnd = u"\r\n";
+
+/// `tag` on a line of its own.
+[[nodiscard]] inline CString OnLine(std::u16string_view tag)
+{
+    return CString::Join({tag, LineEnd});
+}
+
+/// `tag` with an empty line behind it.
+[[nodiscard]] inline CString BeforeEmptyLine(std::u16string_view tag)
+{
+    return CString::Join({tag, LineEnd, LineEnd});
+}
+
+/// `tag` on an indented line.
+[[nodiscard]] inline CString OnIndentedLine(std::u16string_view tag)
+{
+    return CString::Join({u"\t", tag, LineEnd});
+}
+
+/// `tag`, and the end of the line unless `newLine` is 0.
+[[nodiscard]] inline CString WithNewLine(std::u16string_view tag, int newLine)
+{
+    return newLine == 0 ? CString(tag) : OnLine(tag);
+}
+
+} // namespace VyrLibraryFuncs
