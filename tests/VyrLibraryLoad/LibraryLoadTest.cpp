@@ -36,12 +36,19 @@ std::string Demangled(const std::string& symbol)
     return name;
 }
 
+/// Whether `symbol` is a destructor that also frees the object. It reads as the one that does not.
+bool IsDeletingDestructor(const std::string& symbol)
+{
+    return symbol.ends_with("D0Ev");
+}
+
 /// The library's exports: the readable form of each, and its symbol.
 std::map<std::string, std::string> ReadableExports(const DynamicLibrary& library)
 {
     std::map<std::string, std::string> exports;
     for (const std::string& symbol : library.Exports())
-        exports.emplace(Demangled(symbol), symbol);
+        if (!IsDeletingDestructor(symbol))
+            exports.emplace(Demangled(symbol), symbol);
     return exports;
 }
 
