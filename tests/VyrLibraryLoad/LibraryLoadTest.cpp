@@ -85,8 +85,8 @@ TEST(LibraryLoad, HeadersPublishTheClassesThatTheTestsKnow)
         for (const PublishedClass& published : ClassesOf(library))
             names.insert(published.name);
     for (const char* const name :
-         {"VyrLibraryFuncs::NameFuncs", "VyrLibraryUtils::FileUtils", "VyrLibraryUtils::FolderUtils",
-          "VyrLibraryUtils::StringUtils", "VyrLibraryUtils::DateTimeUtils"})
+         {"VyrLibraryFuncs::NameFuncs", "VyrLibraryFuncs::LogFuncs", "VyrLibraryUtils::FileUtils",
+          "VyrLibraryUtils::FolderUtils", "VyrLibraryUtils::StringUtils", "VyrLibraryUtils::DateTimeUtils"})
         EXPECT_TRUE(names.contains(name)) << name;
 }
 
@@ -151,6 +151,10 @@ TEST(LibraryLoad, OperationsAreCalledByName)
         library, "VyrLibraryFuncs::NameFuncs::IsResolveConflict(VyrLibraryFuncs::NameFuncs::ITEM)");
     ASSERT_TRUE(isNumbered);
     EXPECT_EQ(isNumbered(item), 1);
+
+    auto* const write = Get<int(CString)>(library, "VyrLibraryFuncs::LogFuncs::Write(CString)");
+    ASSERT_TRUE(write);
+    EXPECT_EQ(write(u"a line of the log"), 0);
 }
 
 TEST(LibraryLoad, ApplicationObjectSaysThatTheLibraryMayBeUsed)
