@@ -2,9 +2,18 @@
 // operation.
 #pragma once
 
+#include <VyrLibraryFuncs/select/FilterFuncs.h>
+
 namespace VyrLibraryFuncs {
 
 struct PrivateOperations
-{};
+{
+    // FilterFuncs
+
+    static int IsMatchCondition(CString name, FilterFuncs::FILTERITEM item)
+    {
+        return FilterFuncs::IsMatchCondition(name, item);
+    }
+};
 
 } // namespace VyrLibraryFuncs
