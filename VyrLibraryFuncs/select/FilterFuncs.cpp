@@ -3,6 +3,7 @@
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/process/MessageQueue.h>
 
+#include <optional>
 #include <string_view>
 
 using VyrLibraryUtils::FileUtils;
@@ -12,7 +13,7 @@ namespace VyrLibraryFuncs {
 
 namespace {
 
-bool Matches(std::u16string_view name, std::u16string_view text, int condition)
+bool MatchesText(std::u16string_view name, std::u16string_view text, int condition)
 {
     switch (static_cast<FilterFuncs::Condition>(condition)) {
     case FilterFuncs::Condition::Equals:
@@ -32,19 +33,33 @@ CString Lowered(CString text)
     return text.MakeLower();
 }
 
-bool MatchesCondition(const CString& name, const FilterFuncs::FILTERITEM& item)
+/// A name that conditions are held against. It is lower-cased once, when the first condition asks for that.
+class ComparedName
 {
-    if (item.matchCase != 0)
-        return Matches(name, item.text, item.condition);
-    return Matches(Lowered(name), Lowered(item.text), item.condition);
-}
+public:
+    explicit ComparedName(const CString& name) : m_name(name) {}
+
+    bool Matches(const FilterFuncs::FILTERITEM& item)
+    {
+        if (item.matchCase != 0)
+            return MatchesText(m_name, item.text, item.condition);
+        if (!m_lowered)
+            m_lowered = Lowered(m_name);
+        return MatchesText(*m_lowered, Lowered(item.text), item.condition);
+    }
+
+private:
+    const CString& m_name;
+    std::optional<CString> m_lowered;
+};
 
 bool MatchesAny(const CString& name, const std::vector<FilterFuncs::FILTERITEM>& items)
 {
+    ComparedName compared(name);
     for (const FilterFuncs::FILTERITEM& item : items) {
         if (DrainOne())
             return false;
-        if (item.enabled != 0 && MatchesCondition(name, item))
+        if (item.enabled != 0 && compared.Matches(item))
             return true;
     }
     return false;
@@ -91,7 +106,7 @@ int FilterFuncs::IsAlreadyAdded(CString text, std::vector<CString> list)
 
 int FilterFuncs::IsMatchCondition(CString name, FILTERITEM item)
 {
-    return MatchesCondition(name, item);
+    return ComparedName(name).Matches(item);
 }
 
 } // namespace VyrLibraryFuncs
