@@ -50,6 +50,14 @@ enum class DataLocation : std::uint8_t
 /// An environment variable; nothing when it is not set.
 [[nodiscard]] VYR_PLATFORM_API std::optional<CString> GetEnvironment(const CString& name);
 
+/// `text` with each `%NAME%` replaced by the environment variable NAME; what names none stays as it is.
+///
+/// On Linux the variables SystemRoot, windir, SystemDrive, ProgramFiles, ProgramFiles(x86), CommonProgramFiles and
+/// ProgramData, which its processes do not have, are taken from the registry that is open (Registry.h), in any case.
+/// @param capacity the length of the buffer for the result, in code units with its NUL.
+/// @return nothing when the result does not fit.
+[[nodiscard]] VYR_PLATFORM_API std::optional<CString> ExpandEnvironment(const CString& text, std::uint32_t capacity);
+
 /// The current folder, as a full path.
 [[nodiscard]] VYR_PLATFORM_API CString GetCurrentFolder();
 

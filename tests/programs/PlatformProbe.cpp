@@ -6,6 +6,8 @@
 #include <VyrPlatform/text/Locale.h>
 
 #include <chrono>
+#include <filesystem>
+#include <fstream>
 #include <map>
 #include <string>
 #include <thread>
@@ -87,6 +89,33 @@ int PrintTerminals(const Arguments& /*arguments*/)
     return Print(text);
 }
 
+/// Writes its further arguments to the file that the first one names, which is there once it is complete.
+int WriteArguments(const Arguments& arguments)
+{
+    const std::filesystem::path path(std::u16string(arguments.at(0).View()));
+    std::filesystem::path unfinished = path;
+    unfinished += u".unfinished";
+    {
+        std::ofstream stream(unfinished, std::ios::binary);
+        for (std::size_t i = 1; i < arguments.size(); ++i)
+            stream << Encoding::ToUtf8(arguments[i]) << '\n';
+    }
+    std::filesystem::rename(unfinished, path);
+    return 0;
+}
+
+/// Waits for a file, half a minute at most, and then makes another.
+int WaitForFile(const Arguments& arguments)
+{
+    const std::filesystem::path awaited(std::u16string(arguments.at(0).View()));
+    for (int i = 0; i < 1000 && !std::filesystem::exists(awaited); ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(30));
+    if (!std::filesystem::exists(awaited))
+        return refused;
+    std::ofstream(std::filesystem::path(std::u16string(arguments.at(1).View())));
+    return 0;
+}
+
 int CatchInterrupt(const Arguments& /*arguments*/)
 {
     Interrupt::Catch();
@@ -120,6 +149,8 @@ int main(int count, char** argumentBytes)
         {u"folders", PrintFolders},
         {u"locale", PrintLocale},
         {u"terminals", PrintTerminals},
+        {u"write", WriteArguments},
+        {u"wait-for", WaitForFile},
         {u"interrupt", CatchInterrupt},
         {u"interrupted-input", InterruptedInput},
     };

@@ -1,0 +1,20 @@
+// Libraries loaded at run time, on Linux.
+#include <VyrPlatform/process/SystemLibrary.h>
+#include <VyrPlatform/text/Encoding.h>
+
+#include <dlfcn.h>
+
+namespace VyrPlatform {
+
+SystemLibrary::SystemLibrary(const CString& path)
+    // The empty path would be the program itself.
+    : m_handle(path.IsEmpty() ? nullptr
+                              : ::dlopen(Encoding::ToNameBytes(path).c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE))
+{}
+
+SystemLibrary::AnyFunction* SystemLibrary::FindAny(const char* name) const
+{
+    return m_handle ? reinterpret_cast<AnyFunction*>(::dlsym(m_handle, name)) : nullptr;
+}
+
+} // namespace VyrPlatform

@@ -1,0 +1,54 @@
+// Names and paths of keys.
+#include "Node.h"
+
+#include <algorithm>
+#include <unicode/uchar.h>
+#include <utility>
+
+namespace VyrPlatform::Registry {
+
+namespace {
+
+constexpr bool IsAscii(char16_t unit) noexcept
+{
+    return unit < 0x80;
+}
+
+char16_t Fold(char16_t unit) noexcept
+{
+    if (IsAscii(unit))
+        return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - (u'a' - u'A')) : unit;
+    // No letter beyond ASCII meets one of ASCII: the long s and the dotless i stay themselves.
+    const auto upper = static_cast<char32_t>(u_toupper(unit));
+    return upper > 0xFFFF || upper < 0x80 ? unit : static_cast<char16_t>(upper);
+}
+
+} // namespace
+
+CString FoldName(std::u16string_view name)
+{
+    std::u16string folded(name);
+    std::transform(folded.begin(), folded.end(), folded.begin(), Fold);
+    return CString(std::u16string_view(folded));
+}
+
+std::u16string_view TakeName(std::u16string_view& path) noexcept
+{
+    path.remove_prefix(std::min(path.find_first_not_of(u'\\'), path.size()));
+    const std::u16string_view name = path.substr(0, path.find(u'\\'));
+    path.remove_prefix(name.size());
+    return name;
+}
+
+std::shared_ptr<Node> FindNode(std::shared_ptr<Node> start, std::u16string_view path)
+{
+    std::shared_ptr<Node> node = std::move(start);
+    for (std::u16string_view name = TakeName(path); node && !name.empty(); name = TakeName(path)) {
+        const Subkeys& subkeys = node->GetSubkeys();
+        const auto found = subkeys.find(FoldName(name));
+        node = found == subkeys.end() ? nullptr : found->second.node;
+    }
+    return node;
+}
+
+} // namespace VyrPlatform::Registry

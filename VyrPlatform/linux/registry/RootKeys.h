@@ -1,0 +1,13 @@
+// What the root keys show.
+#pragma once
+
+#include "Node.h"
+
+#include <VyrPlatform/registry/Registry.h>
+
+namespace VyrPlatform::Registry {
+
+/// Makes the root key `root` show `node`; null: nothing.
+void SetRootNode(Handle root, std::shared_ptr<Node> node);
+
+} // namespace VyrPlatform::Registry

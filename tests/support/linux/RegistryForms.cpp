@@ -1,0 +1,29 @@
+// The forms of a registry on Linux.
+#include <tests/support/RegistryForms.h>
+#include <tests/support/ScratchRegistry.h>
+
+#include <VyrPlatform/WinTypes.h>
+
+namespace VyrTests {
+
+namespace {
+
+class ScratchForm : public ShownRegistry
+{
+public:
+    explicit ScratchForm(const RegistryTree& tree) { m_registry.Add(HKEY_CURRENT_USER, tree); }
+
+private:
+    ScratchRegistry m_registry;
+};
+
+} // namespace
+
+std::vector<RegistryForm> RegistryForms()
+{
+    return {{"Memory", [](const RegistryTree& tree) -> std::unique_ptr<ShownRegistry> {
+                 return std::make_unique<ScratchForm>(tree);
+             }}};
+}
+
+} // namespace VyrTests
