@@ -4,5 +4,5 @@
 
 int main(int count, char** arguments)
 {
-    return VyrHost::RunProgram(VyrHostPlatform::Console::GetArguments(count, arguments));
+    return VyrHost::Cli::RunProgram(VyrHostPlatform::Console::GetArguments(count, arguments));
 }

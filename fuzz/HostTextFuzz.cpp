@@ -1,9 +1,9 @@
 // Any text that users hand to the program: rules, formats, tables of pairs and edited lists are read or refused with a
 // reason, and no rule makes a name out of bounds.
-#include <VyrHost/UsageError.h>
-#include <VyrHost/entries/EditedList.h>
-#include <VyrHost/entries/Pairs.h>
-#include <VyrHost/rules/RuleTexts.h>
+#include <VyrHost/rename/EditedList.h>
+#include <VyrHost/rename/Pairs.h>
+#include <VyrHost/rename/RuleTexts.h>
+#include <VyrHost/text/UsageError.h>
 
 #include <VyrPlatform/text/Encoding.h>
 
@@ -14,7 +14,8 @@
 #include <functional>
 #include <string>
 
-using namespace VyrHost;
+using namespace VyrHost::Rename;
+using namespace VyrHost::Text;
 
 namespace {
 

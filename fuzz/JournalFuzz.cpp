@@ -1,8 +1,8 @@
 // Any bytes as a journal: what is read can be worked with, stays in its folders, and is written again as it was.
-#include <VyrHost/journal/Checksum.h>
-#include <VyrHost/journal/JournalName.h>
-#include <VyrHost/journal/JournalText.h>
-#include <VyrHost/plan/PlanCheck.h>
+#include <VyrHost/batch/Checksum.h>
+#include <VyrHost/batch/JournalName.h>
+#include <VyrHost/batch/JournalText.h>
+#include <VyrHost/model/PlanCheck.h>
 
 #include <VyrPlatform/files/FileSystem.h>
 
@@ -15,7 +15,8 @@
 #include <string>
 #include <string_view>
 
-using namespace VyrHost;
+using namespace VyrHost::Batch;
+using namespace VyrHost::Model;
 
 namespace {
 
@@ -57,8 +58,8 @@ std::string TextOf(const Journal& journal, std::uint32_t& check)
 {
     std::string text;
     check = WriteJournal(journal, [&text](std::string_view piece) { text += piece; });
-    if (journal.mark)
-        text += WriteMark(*journal.mark, check);
+    if (journal.checkpoint)
+        text += WriteCheckpoint(*journal.checkpoint, check);
     return text;
 }
 
@@ -85,13 +86,13 @@ void CheckPlan(const Journal& journal)
     for (const PlanStep& step : plan.steps)
         Require(step.subject <
                 (step.action == PlanStep::Action::MakeFolder ? plan.folders.size() : plan.entries.size()));
-    if (!journal.mark)
+    if (!journal.checkpoint)
         return;
-    for (const PlanIndex entry : journal.mark->entriesBefore)
+    for (const PlanIndex entry : journal.checkpoint->entriesBefore)
         Require(entry < plan.entries.size());
-    for (const PlanIndex entry : journal.mark->entriesAside)
+    for (const PlanIndex entry : journal.checkpoint->entriesTemporary)
         Require(entry < plan.entries.size());
-    for (const PlanIndex folder : journal.mark->foldersMade)
+    for (const PlanIndex folder : journal.checkpoint->foldersMade)
         Require(folder < plan.folders.size());
 }
 
@@ -111,14 +112,14 @@ void CheckRoundTrip(const Journal& journal)
 void CheckLastMark(const std::optional<Journal>& journal, std::string_view text)
 {
     const std::size_t entries = journal ? journal->plan.entries.size() : 1000;
-    const std::optional<MarkOutline> mark = ReadLastMark(FindMarks(text), entries);
-    Require(!mark || mark->entriesBefore + mark->entriesAside <= entries);
-    if (!journal || !mark)
+    const std::optional<CheckpointOutline> checkpoint = ReadLastCheckpoint(FindCheckpoints(text), entries);
+    Require(!checkpoint || checkpoint->entriesBefore + checkpoint->entriesTemporary <= entries);
+    if (!journal || !checkpoint)
         return;
-    Require(journal->mark && journal->mark->isBackward == mark->isBackward &&
-            journal->mark->wasStopped == mark->wasStopped);
-    Require(journal->mark->entriesBefore.size() == mark->entriesBefore &&
-            journal->mark->entriesAside.size() == mark->entriesAside);
+    Require(journal->checkpoint && journal->checkpoint->isBackward == checkpoint->isBackward &&
+            journal->checkpoint->wasStopped == checkpoint->wasStopped);
+    Require(journal->checkpoint->entriesBefore.size() == checkpoint->entriesBefore &&
+            journal->checkpoint->entriesTemporary.size() == checkpoint->entriesTemporary);
 }
 
 void CheckText(std::string_view text)

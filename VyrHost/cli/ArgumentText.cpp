@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <string_view>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 namespace {
 
@@ -80,4 +80,4 @@ CString FromParser(const std::string& bytes)
     return VyrPlatform::Encoding::FromNameBytes(text);
 }
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

@@ -11,7 +11,7 @@ namespace CLI {
 class App;
 }
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 /// The bytes of `arguments`, the last argument first, as the parser of `program` takes them. Each stays one text (the
 /// parser would read "[a,b]" as two), and "--" makes every one behind it a plain argument.
@@ -19,4 +19,4 @@ namespace VyrHost {
 /// The argument that the parser read as `bytes`.
 [[nodiscard]] CString FromParser(const std::string& bytes);
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

@@ -1,18 +1,18 @@
-// Reports on a batch that is taken back or recovered.
+// Reports on a batch that is undone or recovered.
 #include <VyrHost/cli/BatchReport.h>
 
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
-#include <VyrHost/output/OutputBuffer.h>
-#include <VyrHost/output/SafeText.h>
+#include <VyrHost/text/SafeText.h>
+#include <VyrHost/ui/OutputBuffer.h>
 #include <VyrHostPlatform/Console.h>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 namespace {
 
 /// A batch of which no entry could be renamed has no number either, but then each entry says why.
-bool WasBlocked(const BatchSummary& summary)
+bool WasBlocked(const Batch::BatchSummary& summary)
 {
     return summary.number == 0 && !summary.error.IsEmpty();
 }
@@ -23,44 +23,46 @@ BatchReport::BatchReport(const char* what, std::size_t total, BatchReportStyle s
     : m_style(style), m_progress(what, total, style.json || style.quiet)
 {}
 
-BatchEntryReport BatchReport::Collector()
+Batch::BatchEntryReport BatchReport::Collector()
 {
-    return [this](const BatchEntry& entry) {
+    return [this](const Batch::BatchEntry& entry) {
         m_entries.push_back(entry);
         m_progress.Show(m_entries.size());
     };
 }
 
-int BatchReport::Write(const BatchSummary& summary)
+int BatchReport::Write(const Batch::BatchSummary& summary)
 {
     m_progress.Close();
     if (m_style.quiet)
-        std::erase_if(m_entries, [](const BatchEntry& entry) { return entry.result.outcome == RenameOutcome::Done; });
-    OutputBuffer output;
+        std::erase_if(m_entries, [](const Batch::BatchEntry& entry) {
+            return entry.result.outcome == Model::RenameOutcome::Done;
+        });
+    Ui::OutputBuffer output;
     if (m_style.json) {
-        WriteEntryJson(output, m_entries, m_style.direction);
-        VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, SummaryOf(summary));
+        Ui::WriteEntryJson(output, m_entries, m_style.direction);
+        VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, Ui::SummaryOf(summary));
     } else {
-        WriteEntryTable(output, m_entries, m_style.direction);
+        Ui::WriteEntryTable(output, m_entries, m_style.direction);
         if (!m_style.quiet && !WasBlocked(summary))
             output << (summary.number != 0 ? "Batch " + std::to_string(summary.number) + ": " : "")
-                   << SummaryOf(summary);
+                   << Ui::SummaryOf(summary);
     }
     output.Flush();
     const int code = JudgeSummary(summary);
     return output.HasFailed() ? ExitCode::Output : code;
 }
 
-int JudgeSummary(const BatchSummary& summary)
+int JudgeSummary(const Batch::BatchSummary& summary)
 {
     for (const CString& path : summary.missing)
-        Complain("'" + SafeText(path) + "' is not listed by its folder after its rename");
+        Complain("'" + Text::SafeText(path) + "' is not listed by its folder after its rename");
     for (const CString& path : summary.keptFolders)
-        Complain("the folder '" + SafeText(path) +
+        Complain("the folder '" + Text::SafeText(path) +
                  "', which the batch made, stays: it is not empty, or cannot be removed; " + "\"vyr undo " +
                  std::to_string(summary.number) + "\" tries again");
     if (!summary.error.IsEmpty())
-        Complain(SafeText(summary.error));
+        Complain(Text::SafeText(summary.error));
     if (WasBlocked(summary))
         return ExitCode::Blocked;
     if (summary.wasStopped)
@@ -69,4 +71,4 @@ int JudgeSummary(const BatchSummary& summary)
     return isWhole && summary.error.IsEmpty() && summary.missing.empty() ? ExitCode::Success : ExitCode::Partly;
 }
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

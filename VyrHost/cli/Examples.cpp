@@ -3,7 +3,7 @@
 
 #include <span>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 namespace {
 
@@ -37,14 +37,14 @@ constexpr Example OfMove[] = {
 
 constexpr Example OfUndo[] = {
     {"vyr undo --list", "the batches with their numbers"},
-    {"vyr undo", "take the latest batch back"},
-    {"vyr undo 1 --quiet", "take batch 1 back, and show only what stays renamed"},
+    {"vyr undo", "undo the latest batch"},
+    {"vyr undo 1 --quiet", "undo batch 1, and show only what stays renamed"},
 };
 
 constexpr Example OfRecover[] = {
     {"vyr recover", "do what is left of the batch that was cut off"},
     {"vyr recover --take-back", "restore what was before it"},
-    {"vyr recover --set-aside", "go on without a batch that can be neither finished nor taken back"},
+    {"vyr recover --abandon", "go on without a batch that can be neither finished nor undone"},
 };
 
 std::string TextOf(std::span<const Example> examples)
@@ -82,4 +82,4 @@ std::string RecoverExamples()
     return TextOf(OfRecover);
 }
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

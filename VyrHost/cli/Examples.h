@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 /// For the help of "vyr rename": a line for each example and one that says what it does.
 [[nodiscard]] std::string RenameExamples();
@@ -15,4 +15,4 @@ namespace VyrHost {
 [[nodiscard]] std::string UndoExamples();
 [[nodiscard]] std::string RecoverExamples();
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

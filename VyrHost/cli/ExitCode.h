@@ -2,7 +2,7 @@
 /// What the program tells the one who called it. docs/vyr.1 says the same.
 #pragma once
 
-namespace VyrHost::ExitCode {
+namespace VyrHost::Cli::ExitCode {
 
 /// Everything that was asked for was done, or can be.
 inline constexpr int Success = 0;
@@ -28,4 +28,4 @@ inline constexpr const char* Table = "Exit codes:\n"
                                      "       another vyr is at work, or the journal cannot be kept\n"
                                      "  130  interrupted (Ctrl-C); what was done was said\n";
 
-} // namespace VyrHost::ExitCode
+} // namespace VyrHost::Cli::ExitCode

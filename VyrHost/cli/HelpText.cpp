@@ -3,7 +3,7 @@
 
 #include <sstream>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 namespace {
 
@@ -33,4 +33,4 @@ std::string WrapHelp(const std::string& help)
     return text;
 }
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

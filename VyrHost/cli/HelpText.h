@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 /// Where the descriptions of options begin.
 inline constexpr int HelpColumn = 32;
@@ -13,4 +13,4 @@ inline constexpr int HelpColumn = 32;
 /// empty lines become one.
 [[nodiscard]] std::string WrapHelp(const std::string& help);
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

@@ -1,27 +1,27 @@
 // Words messages for the error stream.
 #include <VyrHost/cli/Messages.h>
 
-#include <VyrHost/output/SafeText.h>
+#include <VyrHost/text/SafeText.h>
 #include <VyrHostPlatform/Console.h>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 void Complain(const std::string& what)
 {
     VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, "vyr: " + what + "\n");
 }
 
-std::string CutOffNotice(const BatchInformation& batch)
+std::string CutOffNotice(const Batch::BatchInformation& batch)
 {
     // A damaged journal does not tell when it began.
-    const std::string time = batch.started.IsEmpty() ? "" : " of " + SafeText(batch.started);
+    const std::string time = batch.started.IsEmpty() ? "" : " of " + Text::SafeText(batch.started);
     return "batch " + std::to_string(batch.number) + time + " was cut off; \"vyr recover\" ends it";
 }
 
 void OfferRecovery()
 {
-    if (const auto cutOff = Batches().FindCutOff())
+    if (const auto cutOff = Batch::Batches().FindCutOff())
         Complain(CutOffNotice(*cutOff));
 }
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

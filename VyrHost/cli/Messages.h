@@ -2,20 +2,20 @@
 /// What the program says on the error stream.
 #pragma once
 
-#include <VyrHost/apply/Batches.h>
+#include <VyrHost/batch/Batches.h>
 
 #include <string>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 /// Writes "vyr: " and `what` (UTF-8, safe to show) as a line.
 void Complain(const std::string& what);
 
 /// That a batch was cut off, and what ends it.
-[[nodiscard]] std::string CutOffNotice(const BatchInformation& batch);
+[[nodiscard]] std::string CutOffNotice(const Batch::BatchInformation& batch);
 
 /// Complains of a batch that was cut off, if there is one, for a command that need not wait for its end: what such a
 /// command finds on the disk may be half of the batch.
 void OfferRecovery();
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

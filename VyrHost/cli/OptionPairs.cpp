@@ -1,11 +1,11 @@
 // Refuses options that contradict each other or change nothing.
 #include <VyrHost/cli/OptionPairs.h>
 
-#include <VyrHost/UsageError.h>
+#include <VyrHost/text/UsageError.h>
 
 #include <CLI/CLI.hpp>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 namespace {
 
@@ -21,11 +21,11 @@ void CheckOptionPairs(const CLI::App& command, std::span<const ExclusivePair> ex
 {
     for (const auto& [option, other, why] : exclusive)
         if (IsGiven(command, option) && IsGiven(command, other))
-            throw UsageError(std::string(option) + " and " + other + " exclude each other" +
-                             (why ? std::string(": ") + why : ""));
+            throw Text::UsageError(std::string(option) + " and " + other + " exclude each other" +
+                                   (why ? std::string(": ") + why : ""));
     for (const auto& [option, needed] : dependent)
         if (IsGiven(command, option) && !IsGiven(command, needed))
-            throw UsageError(WithoutEffect(option, needed));
+            throw Text::UsageError(WithoutEffect(option, needed));
 }
 
 std::string WithoutEffect(const std::string& option, const std::string& needed)
@@ -33,4 +33,4 @@ std::string WithoutEffect(const std::string& option, const std::string& needed)
     return option + " changes nothing without " + needed + ", which is not given";
 }
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

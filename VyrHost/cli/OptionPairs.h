@@ -9,7 +9,7 @@ namespace CLI {
 class App;
 }
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 /// Two options, or an option and an argument, that contradict each other.
 struct ExclusivePair
@@ -35,4 +35,4 @@ void CheckOptionPairs(const CLI::App& command, std::span<const ExclusivePair> ex
 /// What is said of an option that changes nothing without `needed`.
 [[nodiscard]] std::string WithoutEffect(const std::string& option, const std::string& needed);
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

@@ -1,15 +1,15 @@
 // Finds the command in the arguments, runs it, and says what is wrong with the call.
 #include <VyrHost/cli/Program.h>
 
-#include <VyrHost/UsageError.h>
 #include <VyrHost/cli/ArgumentText.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/HelpText.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/RecoverCommand.h>
 #include <VyrHost/cli/RenameCommand.h>
-#include <VyrHost/cli/TreeCommand.h>
+#include <VyrHost/cli/TransferCommand.h>
 #include <VyrHost/cli/UndoCommand.h>
+#include <VyrHost/text/UsageError.h>
 #include <VyrHostPlatform/Console.h>
 #include <VyrLibraryUtils/VersionUtils.h>
 #include <VyrPlatform/text/Encoding.h>
@@ -18,7 +18,7 @@
 
 #include <string>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 namespace {
 
@@ -53,8 +53,8 @@ int RunProgram(const std::vector<CString>& arguments)
     program.require_subcommand(1);
     program.get_formatter()->column_width(HelpColumn);
     const RenameCommand rename(program);
-    const TreeCommand copy(program, TreeAction::Copy);
-    const TreeCommand move(program, TreeAction::Move);
+    const TransferCommand copy(program, FolderCopy::TransferAction::Copy);
+    const TransferCommand move(program, FolderCopy::TransferAction::Move);
     const UndoCommand undo(program);
     const RecoverCommand recover(program);
     try {
@@ -74,9 +74,9 @@ int RunProgram(const std::vector<CString>& arguments)
         return WriteOut(WrapHelp(program.help()));
     } catch (const CLI::ParseError& error) {
         return RefuseCall(std::string(error.what()) + "\nvyr --help and vyr COMMAND --help say more.");
-    } catch (const UsageError& error) {
+    } catch (const Text::UsageError& error) {
         return RefuseCall(error.what());
     }
 }
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

@@ -6,10 +6,10 @@
 
 #include <vector>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 /// Runs the command that `arguments` (without the program's name) ask for.
 /// @return the exit code.
 [[nodiscard]] int RunProgram(const std::vector<CString>& arguments);
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

@@ -1,30 +1,28 @@
 // Declares and runs "vyr recover".
 #include <VyrHost/cli/RecoverCommand.h>
 
-#include <VyrHost/apply/Batches.h>
+#include <VyrHost/batch/Batches.h>
 #include <VyrHost/cli/BatchReport.h>
 #include <VyrHost/cli/Examples.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/OptionPairs.h>
-#include <VyrHost/output/OutputBuffer.h>
-#include <VyrHost/output/SafeText.h>
+#include <VyrHost/text/SafeText.h>
+#include <VyrHost/ui/OutputBuffer.h>
 #include <VyrHostPlatform/Interrupt.h>
 
 #include <CLI/CLI.hpp>
 
 #include <string>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 RecoverCommand::RecoverCommand(CLI::App& program)
-    : m_command(
-          *program.add_subcommand("recover", "Finish a batch that was cut off (power loss, kill), or take it back"))
+    : m_command(*program.add_subcommand("recover", "Finish a batch that was cut off (power loss, kill), or undo it"))
 {
     m_command.add_flag("--take-back", m_takeBack,
                        "Restore what was before the work that was cut off instead of finishing it");
-    m_command.add_flag("--set-aside", m_setAside,
-                       "Give the batch up, where neither is possible: files stay as they are");
+    m_command.add_flag("--abandon", m_abandon, "Abandon the batch, where neither is possible: files stay as they are");
     m_command.add_flag("--json", m_json, "Write one JSON object for each entry");
     m_command.add_flag("-q,--quiet", m_quiet, "Show only what is not done");
     m_command.footer(RecoverExamples() + "\n" + ExitCode::Table);
@@ -37,43 +35,44 @@ bool RecoverCommand::IsChosen() const
 
 int RecoverCommand::Run() const
 {
-    constexpr ExclusivePair Exclusive[] = {{"--set-aside", "--take-back"},
-                                           {"--set-aside", "--json", "--set-aside does nothing to the entries"}};
+    constexpr ExclusivePair Exclusive[] = {{"--abandon", "--take-back"},
+                                           {"--abandon", "--json", "--abandon does nothing to the entries"}};
     CheckOptionPairs(m_command, Exclusive);
-    Batches batches;
+    Batch::Batches batches;
     const auto cutOff = batches.FindCutOff();
     if (!cutOff) {
-        OutputBuffer output;
+        Ui::OutputBuffer output;
         if (!m_json && !m_quiet)
             output << "No batch was cut off.\n";
         output.Flush();
         return output.HasFailed() ? ExitCode::Output : ExitCode::Success;
     }
-    if (m_setAside)
-        return SetAside();
+    if (m_abandon)
+        return Abandon();
     VyrHostPlatform::Interrupt::Catch();
-    const Recovery recovery = m_takeBack ? Recovery::TakeBack : Recovery::Finish;
-    const BatchDirection direction =
-        DoesRenames(recovery, cutOff->state) ? BatchDirection::Forward : BatchDirection::Back;
+    const Batch::Recovery recovery = m_takeBack ? Batch::Recovery::Undo : Batch::Recovery::Finish;
+    const Ui::BatchDirection direction =
+        Batch::DoesRenames(recovery, cutOff->state) ? Ui::BatchDirection::Forward : Ui::BatchDirection::Back;
     BatchReport report("recovering", cutOff->entries, {direction, m_json, m_quiet});
-    const BatchSummary summary = batches.Recover(recovery, report.Collector(), VyrHostPlatform::Interrupt::WasAsked);
+    const Batch::BatchSummary summary =
+        batches.Recover(recovery, report.Collector(), VyrHostPlatform::Interrupt::WasAsked);
     return report.Write(summary);
 }
 
-int RecoverCommand::SetAside() const
+int RecoverCommand::Abandon() const
 {
-    const SetAsideJournal journal = Batches().SetAsideCutOff();
+    const Batch::AbandonedJournal journal = Batch::Batches().AbandonCutOff();
     if (!journal.error.IsEmpty()) {
-        Complain(SafeText(journal.error));
+        Complain(Text::SafeText(journal.error));
         return ExitCode::Blocked;
     }
-    OutputBuffer output;
+    Ui::OutputBuffer output;
     if (!m_quiet)
-        output << "Batch " << std::to_string(journal.number) << " is set aside; its files stay as they are.\n"
-               << "Its journal is kept as " << SafeText(journal.to) << "\n"
-               << "and can be recovered under its old name, " << SafeText(journal.from) << "\n";
+        output << "Batch " << std::to_string(journal.number) << " is abandoned; its files stay as they are.\n"
+               << "Its journal is kept as " << Text::SafeText(journal.to) << "\n"
+               << "and can be recovered under its old name, " << Text::SafeText(journal.from) << "\n";
     output.Flush();
     return output.HasFailed() ? ExitCode::Output : ExitCode::Success;
 }
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

@@ -6,9 +6,9 @@ namespace CLI {
 class App;
 }
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
-/// Ends a batch that was cut off: finishes it, or takes it back.
+/// Ends a batch that was cut off: finishes it, or undoes it.
 class RecoverCommand
 {
 public:
@@ -23,13 +23,13 @@ public:
     [[nodiscard]] int Run() const;
 
 private:
-    [[nodiscard]] int SetAside() const;
+    [[nodiscard]] int Abandon() const;
 
     CLI::App& m_command;
     bool m_takeBack = false;
-    bool m_setAside = false;
+    bool m_abandon = false;
     bool m_json = false;
     bool m_quiet = false;
 };
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

@@ -1,22 +1,22 @@
 // Declares "vyr rename" and makes a request of what was given.
 #include <VyrHost/cli/RenameCommand.h>
 
-#include <VyrHost/UsageError.h>
 #include <VyrHost/cli/Examples.h>
 #include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/text/UsageError.h>
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <memory>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 RenameCommand::RenameCommand(CLI::App& program)
     : m_command(*program.add_subcommand("rename", "Rename files and folders by rules; shows the result first")),
       m_rules(m_command), m_options(m_command)
 {
-    m_command.footer("Without --apply nothing is renamed. What --apply renamed, \"vyr undo\" takes back.\n\n" +
+    m_command.footer("Without --apply nothing is renamed. What --apply renamed, \"vyr undo\" undoes.\n\n" +
                      RenameExamples() + "\n" + ExitCode::Table);
 }
 
@@ -30,16 +30,17 @@ int RenameCommand::Run() const
     RenameRequest request = m_options.Read();
     request.rules = m_rules.Make();
     if (request.pairs && !request.rules.empty())
-        throw UsageError("--pairs gives each new name itself; rules do not go with it");
+        throw Text::UsageError("--pairs gives each new name itself; rules do not go with it");
     if (!request.pairs && !request.edit && request.rules.empty())
-        throw UsageError("no rule is given, such as --number or --date");
+        throw Text::UsageError("no rule is given, such as --number or --date");
     const bool mayNumber = std::any_of(request.rules.begin(), request.rules.end(),
-                                       [](const std::unique_ptr<Rule>& rule) { return rule->MayNumber(); });
+                                       [](const std::unique_ptr<Rename::Rule>& rule) { return rule->MayNumber(); });
     if (m_options.AsksForNumbering() && !mayNumber)
-        throw UsageError("--conflict-pattern, -position, -start and -step say how names are numbered, which is not "
-                         "done to names that are given or come of --replace, --case, --extension-case and "
-                         "--drop-extension alone");
+        throw Text::UsageError(
+            "--conflict-pattern, -position, -start and -step say how names are numbered, which is not "
+            "done to names that are given or come of --replace, --case, --extension-case and "
+            "--drop-extension alone");
     return RunRename(request);
 }
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

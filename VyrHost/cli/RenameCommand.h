@@ -9,7 +9,7 @@ namespace CLI {
 class App;
 }
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 /// Previews a rename, or does it.
 class RenameCommand
@@ -29,4 +29,4 @@ private:
     RenameOptions m_options;
 };
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

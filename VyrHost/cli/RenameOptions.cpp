@@ -1,12 +1,12 @@
 // Declares and reads the options of "vyr rename" beside the rules.
 #include <VyrHost/cli/RenameOptions.h>
 
-#include <VyrHost/UsageError.h>
 #include <VyrHost/cli/ArgumentText.h>
 #include <VyrHost/cli/OptionPairs.h>
-#include <VyrHost/entries/Wildcard.h>
-#include <VyrHost/rules/LiteralText.h>
-#include <VyrHost/rules/RuleTexts.h>
+#include <VyrHost/collect/Wildcard.h>
+#include <VyrHost/rename/LiteralText.h>
+#include <VyrHost/rename/RuleTexts.h>
+#include <VyrHost/text/UsageError.h>
 
 #include <CLI/CLI.hpp>
 
@@ -14,7 +14,7 @@
 #include <limits>
 #include <utility>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 namespace {
 
@@ -34,12 +34,12 @@ Value ReadWord(const std::optional<std::string>& text, const char* option, const
             return value;
         expected.append(expected.empty() ? "" : ", ").append(word);
     }
-    RefuseValue(option, FromParser(*text), "one of " + expected + " is expected");
+    Text::RefuseValue(option, FromParser(*text), "one of " + expected + " is expected");
 }
 
 int ReadNumber(const std::optional<std::string>& text, int usual, const char* option)
 {
-    return text ? ParseNumber(FromParser(*text), std::numeric_limits<int>::min(), option) : usual;
+    return text ? Rename::ParseNumber(FromParser(*text), std::numeric_limits<int>::min(), option) : usual;
 }
 
 void AddText(CLI::App& command, const char* name, std::optional<std::string>& text, const char* value, const char* help,
@@ -146,7 +146,7 @@ RenameRequest RenameOptions::Read() const
     if (m_pairs)
         request.pairs = FromParser(*m_pairs);
     request.order = ReadOrder();
-    request.counting = m_countsPerFolder ? Counting::EachFolder : Counting::WholeList;
+    request.counting = m_countsPerFolder ? Rename::Counting::EachFolder : Rename::Counting::WholeList;
     request.together = m_together;
     request.conflicts = ReadConflicts();
     request.edit = m_edit;
@@ -156,33 +156,34 @@ RenameRequest RenameOptions::Read() const
     return request;
 }
 
-SourceSettings RenameOptions::ReadSources() const
+Collect::SourceSettings RenameOptions::ReadSources() const
 {
-    SourceSettings settings;
+    Collect::SourceSettings settings;
     for (const std::string& path : m_paths)
         settings.paths.push_back(FromParser(path));
     if (!m_pairs && m_paths.empty() && !m_lines && !m_terminated)
-        throw UsageError("nothing to rename is named");
-    if (m_hidden && !m_recursive && std::none_of(settings.paths.begin(), settings.paths.end(), IsPattern))
-        throw UsageError(WithoutEffect("--hidden", "--recursive or a wildcard"));
+        throw Text::UsageError("nothing to rename is named");
+    if (m_hidden && !m_recursive && std::none_of(settings.paths.begin(), settings.paths.end(), Collect::IsPattern))
+        throw Text::UsageError(WithoutEffect("--hidden", "--recursive or a wildcard"));
     settings.recursive = m_recursive;
-    settings.pick =
-        ReadWord<Pick>(m_pick, "--only", {{"files", Pick::Files}, {"folders", Pick::Folders}, {"all", Pick::All}});
+    settings.pick = ReadWord<Collect::Pick>(
+        m_pick, "--only",
+        {{"files", Collect::Pick::Files}, {"folders", Collect::Pick::Folders}, {"all", Collect::Pick::All}});
     settings.hidden = m_hidden;
     if (m_lines || m_terminated)
-        settings.input = m_lines ? InputNames::Lines : InputNames::Terminated;
+        settings.input = m_lines ? Collect::InputNames::Lines : Collect::InputNames::Terminated;
     return settings;
 }
 
-SortSettings RenameOptions::ReadOrder() const
+Collect::SortSettings RenameOptions::ReadOrder() const
 {
-    SortSettings order;
-    order.key = ReadWord<SortKey>(m_sort, "--sort",
-                                  {{"given", SortKey::Given},
-                                   {"name", SortKey::Name},
-                                   {"date", SortKey::Modified},
-                                   {"picture-date", SortKey::Taken},
-                                   {"size", SortKey::Size}});
+    Collect::SortSettings order;
+    order.key = ReadWord<Collect::SortKey>(m_sort, "--sort",
+                                           {{"given", Collect::SortKey::Given},
+                                            {"name", Collect::SortKey::Name},
+                                            {"date", Collect::SortKey::Modified},
+                                            {"picture-date", Collect::SortKey::Taken},
+                                            {"size", Collect::SortKey::Size}});
     order.isDescending = m_isDescending;
     return order;
 }
@@ -192,15 +193,16 @@ bool RenameOptions::AsksForNumbering() const
     return m_conflictPattern || m_conflictPosition || m_conflictStart || m_conflictStep;
 }
 
-ConflictSettings RenameOptions::ReadConflicts() const
+Rename::ConflictSettings RenameOptions::ReadConflicts() const
 {
-    ConflictSettings settings;
-    settings.mode = ReadWord<OnConflict>(
-        m_onConflict, "--on-conflict",
-        {{"number", OnConflict::Number}, {"skip", OnConflict::Skip}, {"fail", OnConflict::Refuse}});
-    if (AsksForNumbering() && settings.mode != OnConflict::Number)
-        throw UsageError("--on-conflict=" + *m_onConflict +
-                         " numbers nothing; no other --conflict option goes with it");
+    Rename::ConflictSettings settings;
+    settings.mode = ReadWord<Rename::OnConflict>(m_onConflict, "--on-conflict",
+                                                 {{"number", Rename::OnConflict::Number},
+                                                  {"skip", Rename::OnConflict::Skip},
+                                                  {"fail", Rename::OnConflict::Refuse}});
+    if (AsksForNumbering() && settings.mode != Rename::OnConflict::Number)
+        throw Text::UsageError("--on-conflict=" + *m_onConflict +
+                               " numbers nothing; no other --conflict option goes with it");
     ReadNumbering(settings.numbering);
     return settings;
 }
@@ -208,14 +210,14 @@ ConflictSettings RenameOptions::ReadConflicts() const
 void RenameOptions::ReadNumbering(VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering) const
 {
     numbering.numberFormat = m_conflictPattern ? FromParser(*m_conflictPattern) : CString(u" (?)");
-    RequireNameText(numbering.numberFormat, "--conflict-pattern");
+    Rename::RequireNameText(numbering.numberFormat, "--conflict-pattern");
     if (numbering.numberFormat.Find(u"?") < 0)
-        throw UsageError("--conflict-pattern: it has no ? for the number, so it could never give a free name");
+        throw Text::UsageError("--conflict-pattern: it has no ? for the number, so it could never give a free name");
     numbering.position = ReadWord<int>(m_conflictPosition, "--conflict-position", {{"after", 1}, {"before", 0}});
     numbering.startNumber = ReadNumber(m_conflictStart, 1, "--conflict-start");
     numbering.step = ReadNumber(m_conflictStep, 1, "--conflict-step");
     if (numbering.step == 0)
-        throw UsageError("--conflict-step: a step of 0 could never give a free name");
+        throw Text::UsageError("--conflict-step: a step of 0 could never give a free name");
 }
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

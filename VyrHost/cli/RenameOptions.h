@@ -12,7 +12,7 @@ namespace CLI {
 class App;
 }
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 /// Adds the options to a command, and reads what was given. Not to be moved once it has added them.
 class RenameOptions
@@ -34,9 +34,9 @@ private:
     void AddOrder(CLI::App& command);
     void AddConflicts(CLI::App& command);
     void AddOutput(CLI::App& command);
-    [[nodiscard]] SourceSettings ReadSources() const;
-    [[nodiscard]] SortSettings ReadOrder() const;
-    [[nodiscard]] ConflictSettings ReadConflicts() const;
+    [[nodiscard]] Collect::SourceSettings ReadSources() const;
+    [[nodiscard]] Collect::SortSettings ReadOrder() const;
+    [[nodiscard]] Rename::ConflictSettings ReadConflicts() const;
     void ReadNumbering(VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering) const;
 
     CLI::App& m_command;
@@ -62,4 +62,4 @@ private:
     bool m_quiet = false;
 };
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

@@ -2,27 +2,27 @@
 /// What a call of "vyr rename" asks for.
 #pragma once
 
-#include <VyrHost/entries/Gather.h>
-#include <VyrHost/entries/Sorting.h>
-#include <VyrHost/preview/Preview.h>
-#include <VyrHost/preview/RuleNames.h>
-#include <VyrHost/rules/Rule.h>
+#include <VyrHost/collect/CollectEntries.h>
+#include <VyrHost/collect/Sorting.h>
+#include <VyrHost/rename/Preview.h>
+#include <VyrHost/rename/Rule.h>
+#include <VyrHost/rename/RuleNames.h>
 
 #include <optional>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 struct RenameRequest
 {
-    Rules rules;
-    SourceSettings sources;
+    Rename::Rules rules;
+    Collect::SourceSettings sources;
     /// The file with pairs of old and new names, instead of rules and sources; "-" is the standard input.
     std::optional<CString> pairs;
-    SortSettings order;
-    Counting counting = Counting::WholeList;
+    Collect::SortSettings order;
+    Rename::Counting counting = Rename::Counting::WholeList;
     bool together = false;
     /// With OnConflict::Refuse any name that is taken stops the whole.
-    ConflictSettings conflicts;
+    Rename::ConflictSettings conflicts;
     /// The user looks through the new names in an editor.
     bool edit = false;
     bool apply = false;
@@ -35,4 +35,4 @@ struct RenameRequest
 /// @throws UsageError
 [[nodiscard]] int RunRename(RenameRequest& request);
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

@@ -1,26 +1,26 @@
 // Carries out a call of "vyr rename": gathers, names, shows, and applies.
 #include <VyrHost/cli/RenameRequest.h>
 
-#include <VyrHost/UsageError.h>
-#include <VyrHost/apply/Batches.h>
+#include <VyrHost/batch/Batches.h>
+#include <VyrHost/batch/FileOperations.h>
+#include <VyrHost/batch/SourceLooks.h>
 #include <VyrHost/cli/BatchReport.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
-#include <VyrHost/entries/EditedList.h>
-#include <VyrHost/entries/Pairs.h>
-#include <VyrHost/files/ErrorText.h>
-#include <VyrHost/files/FileOperations.h>
-#include <VyrHost/output/JsonLines.h>
-#include <VyrHost/output/OutcomeRows.h>
-#include <VyrHost/output/Progress.h>
-#include <VyrHost/output/SafeText.h>
-#include <VyrHost/output/Summary.h>
-#include <VyrHost/output/Table.h>
-#include <VyrHost/output/Words.h>
-#include <VyrHost/plan/Planner.h>
-#include <VyrHost/preview/GivenNames.h>
-#include <VyrHost/preview/PlannedRenames.h>
-#include <VyrHost/preview/SourceLooks.h>
+#include <VyrHost/rename/EditedList.h>
+#include <VyrHost/rename/GivenNames.h>
+#include <VyrHost/rename/Pairs.h>
+#include <VyrHost/rename/PlannedRenames.h>
+#include <VyrHost/rename/Planner.h>
+#include <VyrHost/text/ErrorText.h>
+#include <VyrHost/text/SafeText.h>
+#include <VyrHost/text/UsageError.h>
+#include <VyrHost/ui/JsonLines.h>
+#include <VyrHost/ui/OutcomeRows.h>
+#include <VyrHost/ui/Progress.h>
+#include <VyrHost/ui/Summary.h>
+#include <VyrHost/ui/Table.h>
+#include <VyrHost/ui/Words.h>
 #include <VyrHostPlatform/Console.h>
 #include <VyrHostPlatform/Editor.h>
 #include <VyrHostPlatform/Interrupt.h>
@@ -34,7 +34,7 @@
 #include <string>
 #include <utility>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 namespace {
 
@@ -44,7 +44,8 @@ std::string ReadPairsFile(const CString& path)
         std::uint32_t error = 0;
         std::optional<std::string> bytes = VyrHostPlatform::ReadToEnd(path, error);
         if (!bytes)
-            throw UsageError("cannot read '" + SafeText(path) + "': " + SafeText(ErrorText(error)));
+            throw Text::UsageError("cannot read '" + Text::SafeText(path) +
+                                   "': " + Text::SafeText(Text::ErrorText(error)));
         return std::move(*bytes);
     }
     std::string bytes;
@@ -64,11 +65,12 @@ public:
         if (!m_request.apply)
             OfferRecovery();
         TakeEntries();
-        const Groups groups = m_request.together ? Groups::ByStem(List()) : Groups::OfOne(List());
+        const Rename::Groups groups =
+            m_request.together ? Rename::Groups::ByStem(List()) : Rename::Groups::OfOne(List());
         Decide(groups, !m_request.edit);
         if (m_request.edit)
             Edit();
-        const bool isStopped = m_request.conflicts.mode == OnConflict::Refuse && HasConflict();
+        const bool isStopped = m_request.conflicts.mode == Rename::OnConflict::Refuse && HasConflict();
         if (isStopped)
             StopAll();
         const int applied = m_request.apply && !isStopped ? Apply() : ExitCode::Success;
@@ -81,45 +83,45 @@ private:
     void TakeEntries()
     {
         if (m_request.pairs) {
-            TakePairs(ParsePairs(ReadPairsFile(*m_request.pairs)));
+            TakePairs(Rename::ParsePairs(ReadPairsFile(*m_request.pairs)));
         } else {
-            m_gathered = Gather(m_request.sources);
-            m_names = std::make_unique<RuleNames>(m_request.rules, m_request.counting);
+            m_collected = Collect::CollectEntries(m_request.sources);
+            m_names = std::make_unique<Rename::RuleNames>(m_request.rules, m_request.counting);
         }
-        for (const CString& problem : m_gathered.problems)
-            Complain(SafeText(problem));
-        Sort(List(), m_request.order);
+        for (const CString& problem : m_collected.problems)
+            Complain(Text::SafeText(problem));
+        Collect::Sort(List(), m_request.order);
     }
 
-    void TakePairs(std::vector<NamePair> pairs)
+    void TakePairs(std::vector<Rename::NamePair> pairs)
     {
         std::unordered_map<std::uint32_t, CString> names;
-        SourceSettings sources;
+        Collect::SourceSettings sources;
         sources.areNames = true;
-        for (NamePair& pair : pairs) {
+        for (Rename::NamePair& pair : pairs) {
             names.emplace(static_cast<std::uint32_t>(names.size()), std::move(pair.to));
             sources.paths.push_back(std::move(pair.from));
         }
-        m_gathered = Gather(sources);
-        m_names = std::make_unique<GivenNames>(std::move(names));
+        m_collected = Collect::CollectEntries(sources);
+        m_names = std::make_unique<Rename::GivenNames>(std::move(names));
     }
 
     /// @param areFinal  the names are those that are applied.
-    void Decide(const Groups& groups, bool areFinal)
+    void Decide(const Rename::Groups& groups, bool areFinal)
     {
-        Progress progress("naming", groups.Count(), IsSilent());
-        WishReport onWish;
+        Ui::Progress progress("naming", groups.Count(), IsSilent());
+        Rename::WishReport onWish;
         if (m_request.apply && areFinal) {
-            m_looks = std::make_unique<SourceLooks>(List(), SystemFiles());
+            m_looks = std::make_unique<Batch::SourceLooks>(List(), Batch::SystemFiles());
             onWish = [this](std::uint32_t entry) {
                 m_looks->Ask(entry);
             };
         }
-        m_outcome.decisions = VyrHost::Decide(
+        m_outcome.decisions = Rename::Decide(
             List(), groups, *m_names, m_request.conflicts, [&progress](std::size_t named) { progress.Show(named); },
             onWish);
         for (std::uint32_t entry = 0; entry < m_outcome.decisions.size(); ++entry)
-            if (m_outcome.decisions[entry].reason == Reason::FolderNotRead)
+            if (m_outcome.decisions[entry].reason == Model::Reason::FolderNotRead)
                 m_outcome.causes.emplace(entry, WhyNotRead(entry));
         if (MovesAFolder())
             RefuseWhatHasNoPlan();
@@ -127,9 +129,9 @@ private:
 
     [[nodiscard]] bool MovesAFolder()
     {
-        const std::vector<Entry>& entries = List().entries;
+        const std::vector<Model::Entry>& entries = List().entries;
         for (std::size_t index = 0; index < entries.size(); ++index) {
-            const Decision& decision = m_outcome.decisions[index];
+            const Model::Decision& decision = m_outcome.decisions[index];
             if (decision.IsRename() && decision.folder != entries[index].folder &&
                 entries[index].kind == VyrPlatform::FileSystem::Kind::Folder)
                 return true;
@@ -140,17 +142,17 @@ private:
     /// A folder that would end up inside itself, and what needs its name: only the plan as a whole shows them.
     void RefuseWhatHasNoPlan()
     {
-        const PlannedRenames planned = PlanOf(List(), m_outcome.decisions);
-        const PlannerResult plan =
-            PlanRenames(planned.list, [](const CString& path) { return SystemFiles().GetNameFolding(path); });
-        for (const PlanRefusal& refusal : plan.refused)
+        const Rename::PlannedRenames planned = Rename::PlanOf(List(), m_outcome.decisions);
+        const Rename::PlannerResult plan = Rename::PlanRenames(
+            planned.list, [](const CString& path) { return Batch::SystemFiles().GetNameFolding(path); });
+        for (const Rename::PlanRefusal& refusal : plan.refused)
             Note(planned.entries[refusal.index],
-                 {.outcome = RenameOutcome::Refused, .error = 0, .reason = refusal.reason});
+                 {.outcome = Model::RenameOutcome::Refused, .error = 0, .reason = refusal.reason});
     }
 
     [[nodiscard]] CString WhyNotRead(std::uint32_t entry) const
     {
-        const Folder& folder = m_gathered.list.folders[m_outcome.decisions[entry].folder];
+        const Model::Folder& folder = m_collected.list.folders[m_outcome.decisions[entry].folder];
         return VyrPlatform::Process::GetErrorMessage(folder.error);
     }
 
@@ -160,17 +162,17 @@ private:
         std::vector<CString> names;
         for (std::size_t entry = 0; entry < m_outcome.decisions.size(); ++entry)
             names.push_back(NameForEditing(List().entries[entry], m_outcome.decisions[entry]));
-        const VyrHostPlatform::EditedText edited = VyrHostPlatform::EditText(TextForEditing(names));
+        const VyrHostPlatform::EditedText edited = VyrHostPlatform::EditText(Rename::TextForEditing(names));
         if (!edited.text)
-            throw UsageError(SafeText(edited.error));
-        m_names = std::make_unique<GivenNames>(ParseEdited(*edited.text, names.size()));
+            throw Text::UsageError(Text::SafeText(edited.error));
+        m_names = std::make_unique<Rename::GivenNames>(Rename::ParseEdited(*edited.text, names.size()));
         m_outcome = {};
         List().ForgetHolders();
-        Decide(Groups::OfOne(List()), true);
+        Decide(Rename::Groups::OfOne(List()), true);
     }
 
     /// With its folder as it is shown: a bare name would leave the entry where it is.
-    [[nodiscard]] CString NameForEditing(const Entry& entry, const Decision& decision)
+    [[nodiscard]] CString NameForEditing(const Model::Entry& entry, const Model::Decision& decision)
     {
         if (!decision.IsRename())
             return CString::Join({FolderForEditing(entry.folder), entry.name});
@@ -189,36 +191,36 @@ private:
 
     [[nodiscard]] bool HasConflict() const
     {
-        return std::any_of(m_outcome.decisions.begin(), m_outcome.decisions.end(), [](const Decision& decision) {
-            return decision.reason == Reason::TargetExists || decision.reason == Reason::TwoToOne;
+        return std::any_of(m_outcome.decisions.begin(), m_outcome.decisions.end(), [](const Model::Decision& decision) {
+            return decision.reason == Model::Reason::TargetExists || decision.reason == Model::Reason::TwoToOne;
         });
     }
 
     void StopAll()
     {
         Complain("a name is taken, and --on-conflict=fail was asked for: nothing is renamed");
-        for (Decision& decision : m_outcome.decisions)
+        for (Model::Decision& decision : m_outcome.decisions)
             if (decision.IsRename()) {
-                decision.status = Status::NotReached;
-                decision.reason = Reason::Stopped;
+                decision.status = Model::Status::NotReached;
+                decision.reason = Model::Reason::Stopped;
             }
     }
 
     /// Renames, and writes what became of each entry into the outcome.
     int Apply()
     {
-        const PlannedRenames planned = PlanOf(List(), m_outcome.decisions);
+        const Rename::PlannedRenames planned = Rename::PlanOf(List(), m_outcome.decisions);
         if (planned.list.renames.empty())
             return ExitCode::Success;
-        Batches batches;
+        Batch::Batches batches;
         if (const auto cutOff = batches.FindCutOff()) {
             Complain(CutOffNotice(*cutOff) + "; nothing was done");
             return ExitCode::Blocked;
         }
         VyrHostPlatform::Interrupt::Catch();
-        Progress progress("renaming", planned.list.renames.size(), IsSilent());
+        Ui::Progress progress("renaming", planned.list.renames.size(), IsSilent());
         std::size_t done = 0;
-        const RenameReport report = [&](std::size_t index, const RenameResult& result) {
+        const Model::RenameReport report = [&](std::size_t index, const Model::RenameResult& result) {
             Note(planned.entries[index], result);
             progress.Show(++done);
         };
@@ -229,13 +231,13 @@ private:
         return JudgeSummary(m_summary);
     }
 
-    void Note(std::uint32_t entry, const RenameResult& result)
+    void Note(std::uint32_t entry, const Model::RenameResult& result)
     {
-        Decision& decision = m_outcome.decisions[entry];
-        if (result.outcome == RenameOutcome::Done)
+        Model::Decision& decision = m_outcome.decisions[entry];
+        if (result.outcome == Model::RenameOutcome::Done)
             return;
-        decision.status = StatusOf(result.outcome);
-        decision.reason = Reason::Applying;
+        decision.status = Ui::StatusOf(result.outcome);
+        decision.reason = Model::Reason::Applying;
         if (!result.reason.IsEmpty())
             m_outcome.causes.insert_or_assign(entry, result.reason);
     }
@@ -243,58 +245,59 @@ private:
     /// Writes the outcome; what is not renamed decides the exit code.
     int Show(bool isStopped)
     {
-        OutputBuffer output;
-        const Tally tally(m_outcome.decisions);
+        Ui::OutputBuffer output;
+        const Model::Tally tally(m_outcome.decisions);
         if (m_request.json) {
-            WriteJsonLines(output, List(), m_outcome);
-            VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, SummaryOf(tally));
+            Ui::WriteJsonLines(output, List(), m_outcome);
+            VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, Ui::SummaryOf(tally));
         } else if (m_request.quiet) {
             ShowProblems();
         } else {
             const auto rowOf = [this](std::size_t index) {
-                return RowOf(List(), m_outcome, index);
+                return Ui::RowOf(List(), m_outcome, index);
             };
-            WriteTable(output, m_outcome.decisions.size(), rowOf, StyleOfOutput());
-            output << SummaryOf(tally) << Ending(isStopped);
+            Ui::WriteTable(output, m_outcome.decisions.size(), rowOf, Ui::StyleOfOutput());
+            output << Ui::SummaryOf(tally) << Ending(isStopped);
         }
         output.Flush();
         if (output.HasFailed())
             return ExitCode::Output;
-        const bool isWhole = tally[Status::Refused] + tally[Status::Failed] + tally[Status::NotReached] == 0;
-        return isWhole && m_gathered.problems.empty() ? ExitCode::Success : ExitCode::Partly;
+        const bool isWhole =
+            tally[Model::Status::Refused] + tally[Model::Status::Failed] + tally[Model::Status::NotReached] == 0;
+        return isWhole && m_collected.problems.empty() ? ExitCode::Success : ExitCode::Partly;
     }
 
     void ShowProblems() const
     {
         for (std::size_t index = 0; index < m_outcome.decisions.size(); ++index) {
-            const Decision& decision = m_outcome.decisions[index];
-            if (decision.IsRename() || decision.status == Status::Unchanged)
+            const Model::Decision& decision = m_outcome.decisions[index];
+            if (decision.IsRename() || decision.status == Model::Status::Unchanged)
                 continue;
-            const Entry& entry = m_gathered.list.entries[index];
-            const std::string reason = ReasonFor(m_outcome, index);
-            Complain("'" + SafeText(CString::Join({m_gathered.list.folders[entry.folder].shown, entry.name})) + "' " +
-                     std::string(WordFor(decision.status)) + (reason.empty() ? "" : ": " + reason));
+            const Model::Entry& entry = m_collected.list.entries[index];
+            const std::string reason = Ui::ReasonFor(m_outcome, index);
+            Complain("'" + Text::SafeText(CString::Join({m_collected.list.folders[entry.folder].shown, entry.name})) +
+                     "' " + std::string(Ui::WordFor(decision.status)) + (reason.empty() ? "" : ": " + reason));
         }
     }
 
     [[nodiscard]] std::string Ending(bool isStopped) const
     {
         if (m_summary.number != 0)
-            return "This was batch " + std::to_string(m_summary.number) + "; \"vyr undo\" takes it back.\n";
+            return "This was batch " + std::to_string(m_summary.number) + "; \"vyr undo\" undoes it.\n";
         if (m_request.apply || isStopped)
             return "Nothing was renamed.\n";
         return "This is a preview: nothing was changed.\n";
     }
 
     [[nodiscard]] bool IsSilent() const { return m_request.quiet || m_request.json; }
-    [[nodiscard]] EntryList& List() { return m_gathered.list; }
+    [[nodiscard]] Model::EntryList& List() { return m_collected.list; }
 
     RenameRequest& m_request;
-    Gathered m_gathered;
-    std::unique_ptr<NameSource> m_names;
-    std::unique_ptr<SourceLooks> m_looks;
-    Outcome m_outcome;
-    BatchSummary m_summary;
+    Collect::CollectedEntries m_collected;
+    std::unique_ptr<Rename::NameSource> m_names;
+    std::unique_ptr<Batch::SourceLooks> m_looks;
+    Model::Outcome m_outcome;
+    Batch::BatchSummary m_summary;
 };
 
 } // namespace
@@ -304,4 +307,4 @@ int RunRename(RenameRequest& request)
     return RenameRun(request).Run();
 }
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

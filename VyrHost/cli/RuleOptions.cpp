@@ -1,10 +1,10 @@
 // Reads rules off the command line, in the order given.
 #include <VyrHost/cli/RuleOptions.h>
 
-#include <VyrHost/UsageError.h>
 #include <VyrHost/cli/ArgumentText.h>
 #include <VyrHost/cli/OptionPairs.h>
-#include <VyrHost/rules/RuleTexts.h>
+#include <VyrHost/rename/RuleTexts.h>
+#include <VyrHost/text/UsageError.h>
 
 #include <CLI/CLI.hpp>
 
@@ -15,7 +15,7 @@
 #include <string>
 #include <utility>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 namespace {
 
@@ -31,20 +31,20 @@ struct RuleOption
     const char* values;
     std::size_t count;
     const char* help;
-    Rules (*make)(const Given& given);
+    Rename::Rules (*make)(const Given& given);
 };
 
 struct Given
 {
     const RuleOption* option;
     std::vector<CString> values;
-    NumberSettings number;
-    std::optional<std::vector<DateSource>> dates;
+    Rename::NumberSettings number;
+    std::optional<std::vector<Rename::DateSource>> dates;
 };
 
 /// Makes rules of the one value.
-template <Rules (*Make)(const CString&)>
-Rules FromValue(const Given& given)
+template <Rename::Rules (*Make)(const CString&)>
+Rename::Rules FromValue(const Given& given)
 {
     return Make(given.values.front());
 }
@@ -53,36 +53,38 @@ constexpr RuleOption Options[] = {
     {"--number", "TEMPLATE", 1,
      "A sequence number: \"Trip ###\", \"<Name>-#\". Each # is a digit at least; <Name> keeps the old name",
      [](const Given& given) {
-         return NumberRules(given.values.front(), given.number);
+         return Rename::NumberRules(given.values.front(), given.number);
      }},
     {"--date", "FORMAT", 1,
      "A date of the file: \"yyyy-MM-dd HHmmss\". <Name> keeps the old name, <Make> and <Model> are the camera, "
      "<Folder> ends the name of a folder to move into",
      [](const Given& given) {
-         return DateRules(given.values.front(), given.dates.value_or(std::vector{DateSource::Modified}));
+         return Rename::DateRules(given.values.front(),
+                                  given.dates.value_or(std::vector{Rename::DateSource::Modified}));
      }},
     {"--replace", "FIND WITH", 2, "Put WITH in place of every FIND (upper and lower case differ)",
      [](const Given& given) {
-         return ReplaceRules(given.values[0], given.values[1]);
+         return Rename::ReplaceRules(given.values[0], given.values[1]);
      }},
-    {"--prefix", "TEXT", 1, "Put TEXT before the name", FromValue<PrefixRules>},
-    {"--suffix", "TEXT", 1, "Put TEXT after the name, before the extension", FromValue<SuffixRules>},
+    {"--prefix", "TEXT", 1, "Put TEXT before the name", FromValue<Rename::PrefixRules>},
+    {"--suffix", "TEXT", 1, "Put TEXT after the name, before the extension", FromValue<Rename::SuffixRules>},
     {"--insert", "PLACE:TEXT", 1, "Put TEXT in after the first PLACE characters; -PLACE counts from the end",
-     FromValue<InsertRules>},
+     FromValue<Rename::InsertRules>},
     {"--delete", "PLACE:COUNT", 1,
-     "Delete COUNT characters after the first PLACE; with -PLACE those before the last PLACE", FromValue<DeleteRules>},
-    {"--delete-first", "COUNT", 1, "Delete the first COUNT characters", FromValue<DeleteFirstRules>},
-    {"--delete-last", "COUNT", 1, "Delete the last COUNT characters", FromValue<DeleteLastRules>},
-    {"--keep-first", "COUNT", 1, "Keep only the first COUNT characters", FromValue<KeepFirstRules>},
-    {"--keep-last", "COUNT", 1, "Keep only the last COUNT characters", FromValue<KeepLastRules>},
+     "Delete COUNT characters after the first PLACE; with -PLACE those before the last PLACE",
+     FromValue<Rename::DeleteRules>},
+    {"--delete-first", "COUNT", 1, "Delete the first COUNT characters", FromValue<Rename::DeleteFirstRules>},
+    {"--delete-last", "COUNT", 1, "Delete the last COUNT characters", FromValue<Rename::DeleteLastRules>},
+    {"--keep-first", "COUNT", 1, "Keep only the first COUNT characters", FromValue<Rename::KeepFirstRules>},
+    {"--keep-last", "COUNT", 1, "Keep only the last COUNT characters", FromValue<Rename::KeepLastRules>},
     {"--case", "first|upper|lower", 1, "Make the first letter a capital, or all letters capital or small",
-     FromValue<CaseRules>},
-    {"--extension", "NEW", 1, "Change the extension to NEW (files only)", FromValue<ExtensionRules>},
+     FromValue<Rename::CaseRules>},
+    {"--extension", "NEW", 1, "Change the extension to NEW (files only)", FromValue<Rename::ExtensionRules>},
     {"--extension-case", "upper|lower", 1, "Make the extension's letters capital or small",
-     FromValue<ExtensionCaseRules>},
+     FromValue<Rename::ExtensionCaseRules>},
     {"--drop-extension", "", 0, "Take the extension away",
      [](const Given&) {
-         return DropExtensionRules();
+         return Rename::DropExtensionRules();
      }},
 };
 
@@ -102,7 +104,7 @@ bool SetNumber(std::optional<int>& setting, const CString& value, int least, con
 {
     if (setting)
         return false;
-    setting = ParseNumber(value, least, name);
+    setting = Rename::ParseNumber(value, least, name);
     return true;
 }
 
@@ -124,7 +126,7 @@ constexpr SettingOption Settings[] = {
      [](Given& given, const CString& value) {
          if (given.dates)
              return false;
-         given.dates = ParseDateSources(value);
+         given.dates = Rename::ParseDateSources(value);
          return true;
      }},
 };
@@ -212,14 +214,14 @@ private:
             return std::string_view(given.option->name) == setting.rule;
         });
         if (rule == m_given.end())
-            throw UsageError(WithoutEffect(setting.name, setting.rule));
+            throw Text::UsageError(WithoutEffect(setting.name, setting.rule));
         return *rule;
     }
 
     static void Set(const SettingOption& setting, const CString& value, Given& given)
     {
         if (!setting.set(given, value))
-            throw UsageError(std::string(setting.name) + " is given twice for one " + setting.rule);
+            throw Text::UsageError(std::string(setting.name) + " is given twice for one " + setting.rule);
     }
 
     const CLI::App& m_command;
@@ -246,14 +248,14 @@ RuleOptions::RuleOptions(CLI::App& command) : m_command(command)
         AddTexts(command, setting.name, setting.value, 1, setting.help)->group("Settings of the rule before them");
 }
 
-Rules RuleOptions::Make() const
+Rename::Rules RuleOptions::Make() const
 {
-    Rules all;
+    Rename::Rules all;
     for (const Given& given : Collector(m_command).Run()) {
-        Rules made = given.option->make(given);
+        Rename::Rules made = given.option->make(given);
         std::move(made.begin(), made.end(), std::back_inserter(all));
     }
     return all;
 }
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

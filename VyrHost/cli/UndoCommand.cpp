@@ -1,16 +1,16 @@
 // Declares and runs "vyr undo".
 #include <VyrHost/cli/UndoCommand.h>
 
-#include <VyrHost/apply/Batches.h>
+#include <VyrHost/batch/Batches.h>
 #include <VyrHost/cli/ArgumentText.h>
 #include <VyrHost/cli/BatchReport.h>
 #include <VyrHost/cli/Examples.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/OptionPairs.h>
-#include <VyrHost/output/BatchOutput.h>
-#include <VyrHost/output/OutputBuffer.h>
-#include <VyrHost/rules/RuleTexts.h>
+#include <VyrHost/rename/RuleTexts.h>
+#include <VyrHost/ui/BatchOutput.h>
+#include <VyrHost/ui/OutputBuffer.h>
 #include <VyrHostPlatform/Interrupt.h>
 
 #include <CLI/CLI.hpp>
@@ -18,15 +18,15 @@
 #include <algorithm>
 #include <vector>
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 namespace {
 
-/// How many entries the batch `number`, or the latest that is not taken back, has to take back.
-std::size_t CountEntries(const std::vector<BatchInformation>& batches, std::optional<std::uint32_t> number)
+/// How many entries the batch `number`, or the latest that is not undone, has to undo.
+std::size_t CountEntries(const std::vector<Batch::BatchInformation>& batches, std::optional<std::uint32_t> number)
 {
-    const auto found = std::find_if(batches.begin(), batches.end(), [number](const BatchInformation& batch) {
-        return number ? batch.number == *number : IsToTakeBack(batch.state);
+    const auto found = std::find_if(batches.begin(), batches.end(), [number](const Batch::BatchInformation& batch) {
+        return number ? batch.number == *number : Batch::CanBeUndone(batch.state);
     });
     return found == batches.end() ? 0 : found->renamed.value_or(found->entries);
 }
@@ -39,11 +39,11 @@ UndoCommand::UndoCommand(CLI::App& program)
     m_command
         .add_option_function<std::string>(
             "BATCH", [this](const std::string& text) { m_batch = text; },
-            "The number of a batch; the latest that is not taken back when not given")
+            "The number of a batch; the latest that is not undone when not given")
         ->type_name("");
     m_command.add_flag("--list", m_list, "List the batches instead, the latest first");
     m_command.add_flag("--json", m_json, "Write one JSON object a line");
-    m_command.add_flag("-q,--quiet", m_quiet, "Show only what is not taken back");
+    m_command.add_flag("-q,--quiet", m_quiet, "Show only what is not undone");
     m_command.footer(UndoExamples() + "\n" + ExitCode::Table);
 }
 
@@ -59,12 +59,12 @@ int UndoCommand::Run() const
     CheckOptionPairs(m_command, Exclusive);
     std::optional<std::uint32_t> number;
     if (m_batch)
-        number = static_cast<std::uint32_t>(ParseNumber(FromParser(*m_batch), 1, "BATCH"));
-    Batches batches;
-    const std::vector<BatchInformation> known = batches.List();
+        number = static_cast<std::uint32_t>(Rename::ParseNumber(FromParser(*m_batch), 1, "BATCH"));
+    Batch::Batches batches;
+    const std::vector<Batch::BatchInformation> known = batches.List();
     if (m_list) {
-        OutputBuffer output;
-        m_json ? WriteBatchJson(output, known) : WriteBatchLines(output, known);
+        Ui::OutputBuffer output;
+        m_json ? Ui::WriteBatchJson(output, known) : Ui::WriteBatchLines(output, known);
         output.Flush();
         return output.HasFailed() ? ExitCode::Output : ExitCode::Success;
     }
@@ -73,9 +73,9 @@ int UndoCommand::Run() const
         return ExitCode::Blocked;
     }
     VyrHostPlatform::Interrupt::Catch();
-    BatchReport report("taking back", CountEntries(known, number), {BatchDirection::Back, m_json, m_quiet});
-    const BatchSummary summary = batches.TakeBack(number, report.Collector(), VyrHostPlatform::Interrupt::WasAsked);
+    BatchReport report("undoing", CountEntries(known, number), {Ui::BatchDirection::Back, m_json, m_quiet});
+    const Batch::BatchSummary summary = batches.Undo(number, report.Collector(), VyrHostPlatform::Interrupt::WasAsked);
     return report.Write(summary);
 }
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

@@ -9,7 +9,7 @@ namespace CLI {
 class App;
 }
 
-namespace VyrHost {
+namespace VyrHost::Cli {
 
 /// Takes a batch of renames back, or lists the batches.
 class UndoCommand
@@ -33,4 +33,4 @@ private:
     bool m_quiet = false;
 };
 
-} // namespace VyrHost
+} // namespace VyrHost::Cli

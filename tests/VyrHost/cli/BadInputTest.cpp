@@ -143,8 +143,8 @@ TEST_F(BadInput, ContradictoryOptions)
                       "numbers nothing");
     const std::vector<std::vector<CString>> calls = {{u"undo", u"--list", u"1"},
                                                      {u"undo", u"--list", u"-q"},
-                                                     {u"recover", u"--set-aside", u"--take-back"},
-                                                     {u"recover", u"--set-aside", u"--json"},
+                                                     {u"recover", u"--abandon", u"--take-back"},
+                                                     {u"recover", u"--abandon", u"--json"},
                                                      {u"copy", u"d", u"to", u"--json", u"-q"}};
     for (const std::vector<CString>& call : calls) {
         const ProgramResult result = Run(call);

@@ -1,8 +1,8 @@
 // Tests of the program: what "vyr undo --list" says of batches that ended in every way.
 #include "VyrProgram.h"
 
-#include <tests/VyrHost/apply/BatchScene.h>
-#include <tests/VyrHost/apply/FaultyFiles.h>
+#include <tests/VyrHost/batch/BatchScene.h>
+#include <tests/VyrHost/batch/FaultyFiles.h>
 
 #include <VyrHostPlatform/DurableFile.h>
 #include <VyrPlatform/text/Encoding.h>
@@ -12,7 +12,7 @@
 #include <filesystem>
 
 using namespace VyrTests;
-using namespace VyrHost;
+using namespace VyrHost::Batch;
 using testing::HasSubstr;
 
 namespace {
@@ -75,9 +75,9 @@ TEST_F(BatchList, CountsTheEntriesOfOneThatWasDone)
     m_scene.Apply();
     EXPECT_EQ(Listed(), "applied, 3 entries");
     EXPECT_EQ(ListedAsJson(), R"("state":"applied","entries":3,"renamed":3,"stopped":false)");
-    m_scene.TakeBack();
-    EXPECT_EQ(Listed(), "taken back, 3 entries");
-    EXPECT_EQ(ListedAsJson(), R"("state":"taken back","entries":3,"renamed":0,"stopped":false)");
+    m_scene.Undo();
+    EXPECT_EQ(Listed(), "undone, 3 entries");
+    EXPECT_EQ(ListedAsJson(), R"("state":"undone","entries":3,"renamed":0,"stopped":false)");
 }
 
 TEST_F(BatchList, SaysHowFarOneCameThatWasInterrupted)
@@ -85,12 +85,12 @@ TEST_F(BatchList, SaysHowFarOneCameThatWasInterrupted)
     m_scene.Apply(StopAfter(2));
     EXPECT_EQ(Listed(), "stopped, 2 of 3 entries");
     EXPECT_EQ(ListedAsJson(), R"("state":"applied","entries":3,"renamed":2,"stopped":true)");
-    m_scene.TakeBack({}, StopAfter(1));
-    EXPECT_EQ(Listed(), "stopped while it was taken back, 1 of 3 entries left");
-    EXPECT_EQ(ListedAsJson(), R"("state":"taken back in part","entries":3,"renamed":1,"stopped":true)");
-    // It is the one that is taken back next.
+    m_scene.Undo({}, StopAfter(1));
+    EXPECT_EQ(Listed(), "stopped while it was undone, 1 of 3 entries left");
+    EXPECT_EQ(ListedAsJson(), R"("state":"undone in part","entries":3,"renamed":1,"stopped":true)");
+    // It is the one that is undone next.
     EXPECT_EQ(Run({u"undo", u"--quiet"}).exitCode, 0);
-    EXPECT_EQ(Listed(), "taken back, 3 entries");
+    EXPECT_EQ(Listed(), "undone, 3 entries");
 }
 
 TEST_F(BatchList, CountsWithoutTheEntriesThatFailed)
@@ -99,18 +99,18 @@ TEST_F(BatchList, CountsWithoutTheEntriesThatFailed)
     m_scene.Apply();
     EXPECT_EQ(Listed(), "applied, 2 of 3 entries");
     m_scene.Write(u"a", "in the way");
-    m_scene.TakeBack();
-    EXPECT_EQ(Listed(), "taken back in part, 1 of 3 entries left");
-    EXPECT_EQ(ListedAsJson(), R"("state":"taken back in part","entries":3,"renamed":1,"stopped":false)");
+    m_scene.Undo();
+    EXPECT_EQ(Listed(), "undone in part, 1 of 3 entries left");
+    EXPECT_EQ(ListedAsJson(), R"("state":"undone in part","entries":3,"renamed":1,"stopped":false)");
 }
 
-TEST_F(BatchList, CountsWhatWasNotFoundWhenItWasTakenBack)
+TEST_F(BatchList, CountsWhatWasNotFoundWhenItWasUndone)
 {
     m_scene.Apply();
     std::filesystem::remove(ToStdPath(m_scene.Path(u"b2")));
-    m_scene.TakeBack();
-    EXPECT_EQ(Listed(), "taken back, 1 of 3 entries not found");
-    EXPECT_EQ(ListedAsJson(), R"("state":"taken back","entries":3,"renamed":1,"stopped":false)");
+    m_scene.Undo();
+    EXPECT_EQ(Listed(), "undone, 1 of 3 entries not found");
+    EXPECT_EQ(ListedAsJson(), R"("state":"undone","entries":3,"renamed":1,"stopped":false)");
 }
 
 TEST_F(BatchList, DoesNotGuessHowFarOneCameThatWasCutOff)
@@ -123,8 +123,8 @@ TEST_F(BatchList, DoesNotGuessHowFarOneCameThatWasCutOff)
     m_scene.Recover(Recovery::Finish);
     EXPECT_EQ(Listed(), "applied, 3 entries");
     FailWhen(FileChange::Kind::RenameFile, u".taken-back");
-    m_scene.TakeBack();
-    EXPECT_EQ(Listed(), "cut off while it was taken back, at most 3 entries");
+    m_scene.Undo();
+    EXPECT_EQ(Listed(), "cut off while it was undone, at most 3 entries");
 }
 
 TEST_F(BatchList, DoesNotCallOneCutOffThatAnotherProgramWorksOn)
@@ -144,14 +144,14 @@ TEST_F(BatchList, RecoveringSaysWhichWayTheEntriesGo)
 {
     m_scene.Apply();
     FailWhen(FileChange::Kind::RenameFile, u".taken-back");
-    m_scene.TakeBack();
+    m_scene.Undo();
     const std::string before = VyrPlatform::Encoding::ToUtf8(m_scene.Path(u"a"));
     EXPECT_THAT(Run({u"recover"}).output, HasSubstr(before + "2  ->  a\n"));
-    EXPECT_EQ(Listed(), "taken back, 3 entries");
+    EXPECT_EQ(Listed(), "undone, 3 entries");
     FailWhen(FileChange::Kind::RenameFile, u".applied");
     m_scene.Apply();
     EXPECT_THAT(Run({u"recover", u"--take-back"}).output, HasSubstr(before + "2  ->  a\n"));
-    EXPECT_EQ(m_scene.Now(), (Tree{{"a", "a"}, {"b", "b"}, {"c", "c"}}));
+    EXPECT_EQ(m_scene.Now(), (FolderSnapshot{{"a", "a"}, {"b", "b"}, {"c", "c"}}));
 }
 
 TEST_F(BatchList, DoesNotGuessHowFarOneCameWhoseJournalLacksItsEnd)

@@ -5,7 +5,8 @@
 
 #include <gtest/gtest.h>
 
-using namespace VyrHost;
+using namespace VyrHost::Batch;
+using namespace VyrHost::Cli;
 
 namespace {
 

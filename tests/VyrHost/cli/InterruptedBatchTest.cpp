@@ -1,4 +1,4 @@
-// Tests of the program: Ctrl-C while a batch of renames is applied and while it is taken back.
+// Tests of the program: Ctrl-C while a batch of renames is applied and while it is undone.
 #include "VyrProgram.h"
 
 #include <VyrPlatform/text/Encoding.h>
@@ -24,7 +24,7 @@ protected:
     static constexpr int count = 800;
     static constexpr int mostAttempts = 5;
 
-    using Tree = std::map<std::string, std::string>;
+    using FolderSnapshot = std::map<std::string, std::string>;
 
     /// Every file holds its first name.
     void Arrange()
@@ -56,7 +56,7 @@ protected:
     /// How many files have the new name; that each holds its own content is tested on the way.
     [[nodiscard]] int CountRenamed() const
     {
-        const Tree files = Files();
+        const FolderSnapshot files = Files();
         EXPECT_EQ(files.size(), std::size_t{count});
         int renamed = 0;
         for (const auto& [name, content] : files) {
@@ -84,7 +84,7 @@ private:
 
 } // namespace
 
-TEST_F(InterruptedBatch, SaysWhatWasDoneAndCanBeTakenBack)
+TEST_F(InterruptedBatch, SaysWhatWasDoneAndCanBeUndone)
 {
     Arrange();
     ProgramResult result = InterruptRename();
@@ -97,19 +97,19 @@ TEST_F(InterruptedBatch, SaysWhatWasDoneAndCanBeTakenBack)
     EXPECT_GT(renamed, 0);
     EXPECT_EQ(result.exitCode, 130) << result.errors;
     EXPECT_THAT(result.output,
-                AllOf(HasSubstr(Counts(renamed) + "This was batch "), HasSubstr("; \"vyr undo\" takes it back.\n")));
+                AllOf(HasSubstr(Counts(renamed) + "This was batch "), HasSubstr("; \"vyr undo\" undoes it.\n")));
     EXPECT_EQ(Run({u"recover"}).output, "No batch was cut off.\n");
     EXPECT_EQ(Run({u"undo", u"--quiet"}).exitCode, 0);
     EXPECT_EQ(CountRenamed(), 0);
 }
 
-TEST_F(InterruptedBatch, TakingBackSaysWhatWasDoneAndCanGoOn)
+TEST_F(InterruptedBatch, UndoSaysWhatWasDoneAndCanGoOn)
 {
     Arrange();
     ProgramResult result;
     for (int attempt = 0; result.exitCode != 130 && attempt < mostAttempts; ++attempt) {
         ASSERT_EQ(Rename({u"--prefix", u"x", u"--apply", u"--quiet", u"f*"}).exitCode, 0);
-        // The last one is taken back first.
+        // The last one is undone first.
         result = InterruptWhenThere({u"undo"}, "f" + std::to_string(count - 1));
     }
     const int left = CountRenamed();

@@ -22,9 +22,9 @@ class KilledProgram : public VyrProgram
 protected:
     static constexpr int plainRenames = 300;
 
-    using Tree = std::map<std::string, std::string>;
+    using FolderSnapshot = std::map<std::string, std::string>;
 
-    /// Between the plain renames there are swaps and circles, so that any of them may be cut off.
+    /// Between the plain renames there are swaps and cycles, so that any of them may be cut off.
     void Arrange()
     {
         m_environment[u"VYR_JOURNAL_DIR"] = m_journalFolder.Path(u"journal");
@@ -37,8 +37,8 @@ protected:
             }
             if (index % 100 == 50)
                 for (int part = 0; part < 5; ++part)
-                    Add("circle " + number + " " + std::to_string(part),
-                        "circle " + number + " " + std::to_string((part + 1) % 5));
+                    Add("cycle " + number + " " + std::to_string(part),
+                        "cycle " + number + " " + std::to_string((part + 1) % 5));
         }
         fs::create_directory(ToStdPath(m_files.Path(u"files")));
         for (const auto& [name, content] : m_before)
@@ -52,9 +52,9 @@ protected:
 
     void WritePairs() const { std::ofstream(ToStdPath(m_files.Path(u"pairs.csv")), std::ios::binary) << m_pairs; }
 
-    [[nodiscard]] Tree Now() const
+    [[nodiscard]] FolderSnapshot Now() const
     {
-        Tree tree;
+        FolderSnapshot tree;
         for (const fs::directory_entry& entry : fs::directory_iterator(ToStdPath(m_files.Path(u"files")))) {
             std::ostringstream content;
             content << std::ifstream(entry.path(), std::ios::binary).rdbuf();
@@ -63,7 +63,7 @@ protected:
         return tree;
     }
 
-    [[nodiscard]] static std::multiset<std::string> ContentsOf(const Tree& tree)
+    [[nodiscard]] static std::multiset<std::string> ContentsOf(const FolderSnapshot& tree)
     {
         std::multiset<std::string> contents;
         for (const auto& [name, content] : tree)
@@ -93,11 +93,11 @@ protected:
 
     /// Recovers in one of the two ways, which a preview offers before. Counts in `m_recovered` when there was something
     /// to recover.
-    void Recover(bool isTakenBack)
+    void Recover(bool isUndone)
     {
         const ProgramResult preview = Run({u"rename", u"--prefix", u"x", u"nothing"});
         const ProgramResult result =
-            isTakenBack ? Run({u"recover", u"--take-back"}) : Run(std::vector<CString>{u"recover"});
+            isUndone ? Run({u"recover", u"--take-back"}) : Run(std::vector<CString>{u"recover"});
         EXPECT_EQ(result.exitCode, 0) << result.errors;
         const bool isCutOff = result.output.find("No batch was cut off") == std::string::npos;
         EXPECT_EQ(preview.errors.find("\"vyr recover\" ends it") != std::string::npos, isCutOff) << preview.errors;
@@ -106,8 +106,8 @@ protected:
 
     ScratchFolder m_files;
     ScratchFolder m_journalFolder;
-    Tree m_before;
-    Tree m_after;
+    FolderSnapshot m_before;
+    FolderSnapshot m_after;
     int m_recovered = 0;
 
 private:
@@ -121,7 +121,7 @@ private:
     std::string m_pairs;
 };
 
-TEST_F(KilledProgram, LeavesEveryFileAndItsBatchCanBeTakenBackOrFinished)
+TEST_F(KilledProgram, LeavesEveryFileAndItsBatchCanBeUndoneOrFinished)
 {
     Arrange();
     WritePairs();
@@ -132,11 +132,11 @@ TEST_F(KilledProgram, LeavesEveryFileAndItsBatchCanBeTakenBackOrFinished)
         const int index = kill * plainRenames / 2 / (kills - 1);
         KillWhenThere(RenameAll(), "new " + std::to_string(index));
         EXPECT_EQ(ContentsOf(Now()), ContentsOf(m_before));
-        const bool isTakenBack = kill % 2 == 0;
-        Recover(isTakenBack);
+        const bool isUndone = kill % 2 == 0;
+        Recover(isUndone);
         // One that had ended before it was killed is not cut off.
-        Tree now = Now();
-        if (!isTakenBack || now != m_before) {
+        FolderSnapshot now = Now();
+        if (!isUndone || now != m_before) {
             EXPECT_EQ(now, m_after);
             EXPECT_EQ(Run({u"undo", u"--quiet"}).exitCode, 0);
             now = Now();
@@ -171,7 +171,7 @@ TEST_F(KilledProgram, LosesNothingWhenItIsKilledOverItsJournal)
     }
 }
 
-TEST_F(KilledProgram, TakingBackCanBeKilledToo)
+TEST_F(KilledProgram, UndoCanBeKilledToo)
 {
     Arrange();
     WritePairs();

@@ -26,11 +26,11 @@ class RandomRules : public VyrProgram
 {
 protected:
     /// What stands at each path: a file's content, or "<folder>".
-    using Tree = std::map<std::string, std::string>;
+    using FolderSnapshot = std::map<std::string, std::string>;
 
-    [[nodiscard]] Tree Now() const
+    [[nodiscard]] FolderSnapshot Now() const
     {
-        Tree tree = Files();
+        FolderSnapshot tree = Files();
         const fs::path root = ToStdPath(m_folder.Path());
         for (const fs::directory_entry& entry : fs::recursive_directory_iterator(root))
             if (entry.is_directory())
@@ -38,7 +38,7 @@ protected:
         return tree;
     }
 
-    [[nodiscard]] static std::multiset<std::string> ContentsOf(const Tree& tree)
+    [[nodiscard]] static std::multiset<std::string> ContentsOf(const FolderSnapshot& tree)
     {
         std::multiset<std::string> contents;
         for (const auto& [name, content] : tree)
@@ -138,7 +138,7 @@ std::string Shown(const std::vector<CString>& call)
 
 } // namespace
 
-TEST_F(RandomRules, AreAppliedAsShownAndTakenBackWithoutATrace)
+TEST_F(RandomRules, AreAppliedAsShownAndUndoneWithoutATrace)
 {
     constexpr unsigned seeds = 25;
     int applied = 0;
@@ -157,7 +157,7 @@ TEST_F(RandomRules, AreAppliedAsShownAndTakenBackWithoutATrace)
                 m_folder.WriteFile(name, "content " + std::to_string(count));
             }
         }
-        const Tree before = Now();
+        const FolderSnapshot before = Now();
         for (const auto& [name, content] : before)
             StampFile(m_folder.Path(VyrPlatform::Encoding::FromUtf8(name)), TicksOfUnixTime(1'700'000'000),
                       TicksOfUnixTime(1'700'000'000));

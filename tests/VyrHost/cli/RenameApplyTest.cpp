@@ -1,4 +1,4 @@
-// Tests of the program: renames that are applied, taken back and recovered.
+// Tests of the program: renames that are applied, undone and recovered.
 #include "VyrProgram.h"
 
 #include <VyrPlatform/text/Encoding.h>
@@ -27,7 +27,7 @@ TEST_F(RenameApply, RenamesAndSaysWhichBatchItWas)
     const ProgramResult result = Rename({u"--suffix", u"!", u"--apply", u"a", u"b"});
     EXPECT_EQ(result.exitCode, 0) << result.errors;
     EXPECT_EQ(result.output, "a  ->  a!\nb  ->  b!\n2 entries: 2 renamed.\n"
-                             "This was batch 1; \"vyr undo\" takes it back.\n");
+                             "This was batch 1; \"vyr undo\" undoes it.\n");
     EXPECT_EQ(m_folder.ReadFile(u"a!"), "1");
     EXPECT_EQ(m_folder.ReadFile(u"b!"), "2");
     EXPECT_FALSE(m_folder.Has(u"a"));
@@ -224,7 +224,7 @@ TEST_F(RenameApply, EditedNamesKeepTheFoldersThatADateGivesThem)
     EXPECT_EQ(m_folder.ReadFile(u"new/two"), "2");
 }
 
-TEST_F(RenameApply, UndoTakesTheLastBatchOrOneByItsNumberBack)
+TEST_F(RenameApply, UndoWorksOnTheLastBatchOrOneByItsNumber)
 {
     m_folder.WriteFile(u"a", "1");
     ASSERT_EQ(Rename({u"--suffix", u"1", u"--apply", u"a"}).exitCode, 0);
@@ -238,7 +238,7 @@ TEST_F(RenameApply, UndoTakesTheLastBatchOrOneByItsNumberBack)
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_THAT(result.output, HasSubstr("\"status\":\"renamed\",\"changed\":false}"));
     EXPECT_EQ(m_folder.ReadFile(u"a"), "1");
-    EXPECT_THAT(Run({u"undo", u"--list", u"--json"}).output, HasSubstr("\"state\":\"taken back\""));
+    EXPECT_THAT(Run({u"undo", u"--list", u"--json"}).output, HasSubstr("\"state\":\"undone\""));
 
     result = Run({u"undo"});
     EXPECT_EQ(result.exitCode, 4);
@@ -259,7 +259,7 @@ TEST_F(RenameApply, WrongCallsOfUndoAndRecoverAreRefused)
                                            {u"undo", u""},
                                            {u"undo", u"99999999999"},
                                            {u"recover", u"1"},
-                                           {u"recover", u"--take-back", u"--set-aside"}}) {
+                                           {u"recover", u"--take-back", u"--abandon"}}) {
         const ProgramResult result = Run(call);
         EXPECT_EQ(result.exitCode, 2) << VyrPlatform::Encoding::ToUtf8(call.back()) << result.output;
         EXPECT_THAT(result.errors, StartsWith("vyr: "));
@@ -284,15 +284,15 @@ TEST_F(RenameApply, RecoverGivesUpABatchWhoseJournalIsDamagedAndKeepsTheJournal)
     EXPECT_EQ(Rename({u"--suffix", u"1", u"--apply", u"a"}).exitCode, 4);
     const ProgramResult refused = Run({u"recover"});
     EXPECT_EQ(refused.exitCode, 4);
-    EXPECT_THAT(refused.errors, HasSubstr("vyr recover --set-aside"));
-    const ProgramResult given = Run({u"recover", u"--set-aside"});
+    EXPECT_THAT(refused.errors, HasSubstr("vyr recover --abandon"));
+    const ProgramResult given = Run({u"recover", u"--abandon"});
     EXPECT_EQ(given.exitCode, 0) << given.errors;
-    EXPECT_THAT(given.output, AllOf(HasSubstr("Batch 1 is set aside"), HasSubstr("000001.set-aside")));
-    EXPECT_TRUE(journal.Has(u"000001.set-aside"));
+    EXPECT_THAT(given.output, AllOf(HasSubstr("Batch 1 is abandoned"), HasSubstr("000001.abandoned")));
+    EXPECT_TRUE(journal.Has(u"000001.abandoned"));
     EXPECT_THAT(Rename({u"--suffix", u"1", u"--apply", u"a"}).output, HasSubstr("batch 2"));
     EXPECT_TRUE(m_folder.Has(u"a1"));
-    EXPECT_EQ(Run({u"recover", u"--set-aside", u"--take-back"}).exitCode, 2);
-    EXPECT_EQ(Run({u"recover", u"--set-aside", u"--json"}).exitCode, 2);
+    EXPECT_EQ(Run({u"recover", u"--abandon", u"--take-back"}).exitCode, 2);
+    EXPECT_EQ(Run({u"recover", u"--abandon", u"--json"}).exitCode, 2);
 }
 
 TEST_F(RenameApply, UndoNamesAFolderThatStaysAndRemovesItAtTheNextAttempt)

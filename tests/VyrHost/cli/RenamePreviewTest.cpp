@@ -1,7 +1,7 @@
 // Tests of the program: "vyr rename" as a preview.
 #include "VyrProgram.h"
 
-#include <VyrHost/output/JsonLines.h>
+#include <VyrHost/ui/JsonLines.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <gmock/gmock.h>
@@ -21,7 +21,7 @@ using RenamePreview = VyrProgram;
 std::string Json(std::u16string_view text)
 {
     std::string line;
-    VyrHost::AppendJsonText(line, text);
+    VyrHost::Ui::AppendJsonText(line, text);
     return line;
 }
 

@@ -100,7 +100,7 @@ TEST_F(WindowsPaths, WildcardsOverlookCaseAsTheFileSystemDoes)
                 StartsWith("a.JPG  ->  xa.JPG\nb.jpg  ->  xb.jpg\n2 entries: "));
 }
 
-TEST_F(WindowsPaths, ChangesOfCaseAloneAreStoredAndTakenBack)
+TEST_F(WindowsPaths, ChangesOfCaseAloneAreStoredAndUndone)
 {
     WriteNamed({u"photo.jpg", u"Folder/File"});
     ASSERT_EQ(Rename({u"--case", u"upper", u"--apply", u"photo.jpg", u"FOLDER"}).exitCode, 0);

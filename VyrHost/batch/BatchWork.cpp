@@ -1,0 +1,276 @@
+// Begins, locates, runs and closes a batch.
+#include <VyrHost/batch/BatchWork.h>
+
+#include <VyrHost/batch/ListingCheck.h>
+#include <VyrHost/batch/Locator.h>
+#include <VyrHost/text/ErrorText.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace VyrHost::Batch {
+
+namespace {
+
+using VyrPlatform::FileState;
+using VyrPlatform::FileSystem::Kind;
+
+/// Whether a file stands where a folder was listed, or the other way round.
+bool IsOtherKind(Kind listed, Kind found)
+{
+    return (listed == Kind::File && found == Kind::Folder) || (listed == Kind::Folder && found == Kind::File);
+}
+
+void Count(BatchSummary& summary, Model::RenameOutcome outcome)
+{
+    switch (outcome) {
+    case Model::RenameOutcome::Done:
+        ++summary.done;
+        break;
+    case Model::RenameOutcome::Failed:
+        ++summary.failed;
+        break;
+    case Model::RenameOutcome::Refused:
+        ++summary.refused;
+        break;
+    case Model::RenameOutcome::NotReached:
+        ++summary.notReached;
+        break;
+    }
+}
+
+Model::RenameResult NotFound(std::uint32_t error)
+{
+    CString reason = u"it is at none of its paths";
+    if (error)
+        reason = CString::Join({reason, u": ", Text::ErrorText(error)});
+    return {.outcome = Model::RenameOutcome::Failed, .error = error, .reason = reason};
+}
+
+} // namespace
+
+BatchWork::BatchWork(FileOperations& files, JournalFolder& folder, Journal journal, BatchSummary& summary)
+    : m_files(files), m_folder(folder), m_journal(std::move(journal)),
+      m_progress(m_journal.plan, m_journal.heading.token), m_before(m_progress), m_after(m_progress),
+      m_executor(m_journal.plan, m_progress, files), m_isKept(m_journal.plan.entries.size()),
+      m_hasChanged(m_journal.plan.entries.size()), m_summary(summary)
+{
+    for (Model::PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry)
+        m_after.Set(entry, Location::After);
+}
+
+bool BatchWork::Begin()
+{
+    for (Model::PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry)
+        CheckSource(entry);
+    KeepJournalInPlace();
+    return MayGoOn(m_folder.Begin(m_journal, m_file));
+}
+
+void BatchWork::CheckSource(Model::PlanIndex entry)
+{
+    FileState& state = m_journal.states[entry];
+    if (state.kind == Kind::Missing) {
+        LeaveOut(
+            entry,
+            {.outcome = Model::RenameOutcome::Failed, .error = state.error, .reason = Text::ErrorText(state.error)});
+    } else if (IsOtherKind(m_journal.plan.entries[entry].kind, state.kind)) {
+        LeaveOut(entry, {.outcome = Model::RenameOutcome::Refused,
+                         .error = 0,
+                         .reason = u"it is no longer what it was when it was listed"});
+        state = {};
+    }
+}
+
+void BatchWork::LeaveOut(Model::PlanIndex entry, const Model::RenameResult& result)
+{
+    m_progress.Set(entry, Location::Unknown);
+    m_executor.SetResult(entry, result);
+}
+
+/// What was not renamed did not get its new path, nor did anything in it.
+void BatchWork::Keep(Model::PlanIndex entry)
+{
+    m_executor.LeaveAlone(entry);
+    m_after.Set(entry, Location::Before);
+}
+
+/// To find the batches again their journals have to stay where they are, and the lock has to keep others away.
+void BatchWork::KeepJournalInPlace()
+{
+    const std::vector<Model::PlanEntry>& entries = m_journal.plan.entries;
+    const bool hasFolder = std::any_of(entries.begin(), entries.end(),
+                                       [](const Model::PlanEntry& entry) { return entry.kind == Kind::Folder; });
+    const auto way = hasFolder ? m_folder.Way() : std::vector<VyrPlatform::FileIdentity>();
+    for (Model::PlanIndex entry = 0; entry < entries.size(); ++entry) {
+        const FileState& state = m_journal.states[entry];
+        if (state.kind == Kind::Folder && std::find(way.begin(), way.end(), state.identity) != way.end())
+            KeepInPlace(entry, u"the journal that \"vyr undo\" needs is kept in it");
+        else if (state.kind == Kind::File && m_folder.Keeps(entries[entry].from.name, state.identity))
+            KeepInPlace(entry, u"it is part of the journal that \"vyr undo\" needs");
+    }
+}
+
+void BatchWork::KeepInPlace(Model::PlanIndex entry, const CString& reason)
+{
+    m_executor.LeaveAlone(entry);
+    m_executor.SetResult(entry, {.outcome = Model::RenameOutcome::Refused, .error = 0, .reason = reason});
+}
+
+bool BatchWork::MayGoOn(std::uint32_t journalError)
+{
+    if (journalError)
+        m_summary.error = CString::Join(
+            {u"the journal cannot be written, so that nothing was done: ", Text::ErrorText(journalError)});
+    return journalError == 0;
+}
+
+bool BatchWork::Locate(const JournalFile& file)
+{
+    m_file = file;
+    const bool wasCutOff =
+        file.phase == BatchPhase::Applying || file.phase == BatchPhase::Undoing || !m_journal.checkpoint;
+    Locator locator(m_journal, m_progress, m_files);
+    locator.TrustCheckpoint();
+    locator.Locate(wasCutOff);
+    // Folders that could not be removed when it was undone.
+    bool isAnyFound = file.phase == BatchPhase::Undone && HasMadeFolder();
+    for (Model::PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry) {
+        m_isKept[entry] = locator.IsKept(entry);
+        m_hasChanged[entry] = locator.HasChanged(entry);
+        if (m_isKept[entry])
+            Keep(entry);
+        else if (m_progress.Of(entry) == Location::Unknown)
+            m_executor.SetResult(entry, NotFound(locator.Error(entry)));
+        else
+            isAnyFound = true;
+    }
+    return isAnyFound;
+}
+
+bool BatchWork::BeginUndo()
+{
+    const std::uint32_t error = m_folder.SetPhase(m_file, BatchPhase::Undoing);
+    return MayGoOn(error ? error : m_folder.Flush());
+}
+
+void BatchWork::Run(Direction direction, const Executor::Report& report, const StopRequest& isStopAsked)
+{
+    const auto countAndReport = [&](Model::PlanIndex entry, const Model::RenameResult& result) {
+        if (m_isKept[entry])
+            return;
+        Count(m_summary, result.outcome);
+        report(entry, result);
+    };
+    const auto isAsked = [&isStopAsked] {
+        return isStopAsked && isStopAsked();
+    };
+    m_summary.wasStopped = !m_executor.Run(direction, countAndReport, isAsked);
+    CheckListings(direction == Direction::Forward ? Location::After : Location::Before);
+    Close(direction);
+}
+
+void BatchWork::CheckListings(Location location)
+{
+    for (const Model::PlanIndex entry : FindUnlisted(m_journal.plan, m_progress, location, m_files))
+        if (!m_isKept[entry])
+            m_summary.missing.push_back(m_progress.PathOf(m_progress.PlaceOf(entry, location)));
+}
+
+void BatchWork::Close(Direction direction)
+{
+    const Checkpoint checkpoint = MakeCheckpoint(direction);
+    if (direction == Direction::Backward)
+        NameKeptFolders(checkpoint);
+    m_summary.number = m_file.number;
+    if (!checkpoint.entriesTemporary.empty())
+        m_summary.error = u"some entries stand under temporary names: \"vyr recover\" tries again";
+    else if (IsAny(Location::After))
+        End(checkpoint, BatchPhase::Applied);
+    else if (direction == Direction::Forward && checkpoint.foldersMade.empty())
+        Forget();
+    else
+        End(checkpoint, BatchPhase::Undone);
+}
+
+Checkpoint BatchWork::MakeCheckpoint(Direction direction) const
+{
+    Checkpoint checkpoint;
+    checkpoint.isBackward = direction == Direction::Backward;
+    checkpoint.wasStopped = m_summary.wasStopped;
+    for (Model::PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry) {
+        const Location location = m_progress.Of(entry);
+        // What is not found after it was to be done counts as not done; what is not found when it is undone may be
+        // there again at the next attempt.
+        const bool isNotDone = location == Location::Before ||
+                               (location == Location::Unknown && (direction == Direction::Forward || m_isKept[entry]));
+        if (location == Location::Temporary)
+            checkpoint.entriesTemporary.push_back(entry);
+        else if (isNotDone)
+            checkpoint.entriesBefore.push_back(entry);
+    }
+    for (Model::PlanIndex folder = 0; folder < m_journal.plan.folders.size(); ++folder)
+        if (m_progress.OfFolder(folder) == NewFolder::Made)
+            checkpoint.foldersMade.push_back(folder);
+    return checkpoint;
+}
+
+bool BatchWork::HasMadeFolder() const
+{
+    for (Model::PlanIndex folder = 0; folder < m_journal.plan.folders.size(); ++folder)
+        if (m_progress.OfFolder(folder) == NewFolder::Made)
+            return true;
+    return false;
+}
+
+bool BatchWork::IsAny(Location location) const
+{
+    for (Model::PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry)
+        if (m_progress.Of(entry) == location)
+            return true;
+    return false;
+}
+
+/// The phase first: a checkpoint that is not written any more only means that the next one who works on the batch looks
+/// at the disk, while checkpoints in an open batch could be of its beginning or of its end.
+void BatchWork::End(const Checkpoint& checkpoint, BatchPhase phase)
+{
+    std::uint32_t error = m_folder.SetPhase(m_file, phase);
+    if (error) {
+        m_summary.error = CString::Join({u"the journal could not be closed: ", Text::ErrorText(error),
+                                         u"; \"vyr recover\" does that once it is possible"});
+        return;
+    }
+    error = m_folder.Append(m_file, WriteCheckpoint(checkpoint, m_journal.check));
+    if (error)
+        m_summary.error = CString::Join({u"how far the batch came could not be written to its journal: ",
+                                         Text::ErrorText(error), u"; \"vyr undo\" goes by what it finds on the disk"});
+}
+
+void BatchWork::Forget()
+{
+    const std::uint32_t error = m_folder.Remove(m_file);
+    if (error)
+        m_summary.error = CString::Join({u"the journal could not be removed: ", Text::ErrorText(error)});
+    else
+        m_summary.number = 0;
+}
+
+void BatchWork::NameKeptFolders(const Checkpoint& checkpoint)
+{
+    for (const Model::PlanIndex folder : checkpoint.foldersMade) {
+        const std::optional<CString> path = m_progress.PathOfFolder(folder);
+        if (path)
+            m_summary.keptFolders.push_back(*path);
+    }
+}
+
+BatchEntry BatchWork::Describe(Model::PlanIndex entry, const Model::RenameResult& result) const
+{
+    return {.before = m_before.PathOf(m_before.PlaceOf(entry, Location::Before)),
+            .after = m_after.PathOf(m_after.PlaceOf(entry, Location::After)),
+            .result = result,
+            .hasChanged = m_hasChanged[entry]};
+}
+
+} // namespace VyrHost::Batch

@@ -1,0 +1,72 @@
+/// @file
+/// One batch at work: its journal, where its entries stand, and what is done to them.
+#pragma once
+
+#include <VyrHost/batch/Batches.h>
+#include <VyrHost/batch/Executor.h>
+#include <VyrHost/batch/JournalFolder.h>
+#include <VyrHost/batch/PlanProgress.h>
+
+#include <vector>
+
+namespace VyrHost::Batch {
+
+class BatchWork
+{
+public:
+    /// @param folder is locked.
+    /// @param summary gets what is done, and why something is not.
+    BatchWork(FileOperations& files, JournalFolder& folder, Journal journal, BatchSummary& summary);
+    BatchWork(const BatchWork&) = delete;
+    BatchWork& operator=(const BatchWork&) = delete;
+
+    /// For a new batch, whose journal says what stands at the old paths: leaves out what is not there any more, and
+    /// writes the journal. From then on the batch can be recovered.
+    /// @return false when the journal cannot be written.
+    [[nodiscard]] bool Begin();
+
+    /// For a batch from the journal: finds out where everything stands.
+    /// @return false when nothing of it is found.
+    [[nodiscard]] bool Locate(const JournalFile& file);
+    /// Writes to the disk that the batch is being undone.
+    /// @return false when that cannot be written.
+    [[nodiscard]] bool BeginUndo();
+
+    /// Does what is left to do in `direction`, looks at the folders, and closes the journal.
+    void Run(Direction direction, const Executor::Report& report, const StopRequest& isStopAsked);
+
+    /// After Locate: what is said of an entry.
+    [[nodiscard]] BatchEntry Describe(Model::PlanIndex entry, const Model::RenameResult& result) const;
+
+private:
+    void CheckSource(Model::PlanIndex entry);
+    void LeaveOut(Model::PlanIndex entry, const Model::RenameResult& result);
+    void Keep(Model::PlanIndex entry);
+    void KeepJournalInPlace();
+    void KeepInPlace(Model::PlanIndex entry, const CString& reason);
+    bool MayGoOn(std::uint32_t journalError);
+    void CheckListings(Location location);
+    void Close(Direction direction);
+    [[nodiscard]] Checkpoint MakeCheckpoint(Direction direction) const;
+    [[nodiscard]] bool IsAny(Location location) const;
+    [[nodiscard]] bool HasMadeFolder() const;
+    void End(const Checkpoint& checkpoint, BatchPhase phase);
+    void Forget();
+    void NameKeptFolders(const Checkpoint& checkpoint);
+
+    FileOperations& m_files;
+    JournalFolder& m_folder;
+    Journal m_journal;
+    JournalFile m_file;
+    PlanProgress m_progress;
+    /// How everything stands before the batch, and after it.
+    PlanProgress m_before;
+    PlanProgress m_after;
+    Executor m_executor;
+    /// Entries that the work leaves alone, and does not speak of.
+    std::vector<bool> m_isKept;
+    std::vector<bool> m_hasChanged;
+    BatchSummary& m_summary;
+};
+
+} // namespace VyrHost::Batch

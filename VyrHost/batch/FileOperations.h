@@ -1,0 +1,64 @@
+/// @file
+/// What the executor and the journal do to the disk: an interface, so that tests can let any of it fail.
+#pragma once
+
+#include <VyrHostPlatform/DurableFile.h>
+#include <VyrHostPlatform/NameFolding.h>
+#include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/text/CString.h>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string_view>
+
+namespace VyrHost::Batch {
+
+/// One folder, as VyrHostPlatform::OpenFolder describes it.
+class FolderOperations
+{
+public:
+    FolderOperations() = default;
+    FolderOperations(const FolderOperations&) = delete;
+    FolderOperations& operator=(const FolderOperations&) = delete;
+    virtual ~FolderOperations() = default;
+
+    [[nodiscard]] virtual VyrPlatform::FileState Look(std::u16string_view name) = 0;
+    /// `target` comes from the same FileOperations.
+    [[nodiscard]] virtual std::uint32_t Rename(std::u16string_view name, FolderOperations& target,
+                                               std::u16string_view newName) = 0;
+    [[nodiscard]] virtual std::uint32_t DropSecondName(std::u16string_view name, FolderOperations& kept,
+                                                       std::u16string_view keptName) = 0;
+    [[nodiscard]] virtual std::uint32_t MakeFolder(std::u16string_view name) = 0;
+    [[nodiscard]] virtual std::uint32_t RemoveEmptyFolder(std::u16string_view name) = 0;
+};
+
+/// All results are the system's error codes, 0 for success. Folders may be opened and looked into on a thread beside
+/// the one that does all else.
+class FileOperations
+{
+public:
+    FileOperations() = default;
+    FileOperations(const FileOperations&) = delete;
+    FileOperations& operator=(const FileOperations&) = delete;
+    virtual ~FileOperations() = default;
+
+    /// The folder at `path`; null, with `error` set, when it does not open.
+    [[nodiscard]] virtual std::unique_ptr<FolderOperations> OpenFolder(const CString& path, std::uint32_t& error) = 0;
+    /// Calls `use` with the name of each entry of the folder at `path`, as the file system keeps it.
+    [[nodiscard]] virtual std::uint32_t List(const CString& path, const std::function<void(const CString&)>& use) = 0;
+    [[nodiscard]] virtual VyrHostPlatform::NameFolding GetNameFolding(const CString& path) = 0;
+
+    // For journal files: VyrHostPlatform/DurableFile.h and RenameNoReplace.
+    [[nodiscard]] virtual std::uint32_t WriteNew(const CString& path,
+                                                 const VyrHostPlatform::DurableFile::Content& content) = 0;
+    [[nodiscard]] virtual std::uint32_t Append(const CString& path, std::string_view content) = 0;
+    [[nodiscard]] virtual std::uint32_t RenameFile(const CString& from, const CString& to) = 0;
+    [[nodiscard]] virtual std::uint32_t Remove(const CString& path) = 0;
+    [[nodiscard]] virtual std::uint32_t FlushFolder(const CString& path) = 0;
+};
+
+/// The system's own.
+[[nodiscard]] FileOperations& SystemFiles();
+
+} // namespace VyrHost::Batch

@@ -1,0 +1,273 @@
+// Journal files: their names, their order, their ends.
+#include <VyrHost/batch/JournalFolder.h>
+
+#include <VyrHost/text/ErrorText.h>
+#include <VyrHost/text/FolderPart.h>
+
+#include <VyrHostPlatform/FullPath.h>
+#include <VyrLibraryUtils/FileUtils.h>
+#include <VyrLibraryUtils/FolderUtils.h>
+#include <VyrPlatform/files/FileReader.h>
+#include <VyrPlatform/files/FolderListing.h>
+
+#include <algorithm>
+#include <array>
+#include <span>
+#include <utility>
+
+namespace VyrHost::Batch {
+
+namespace {
+
+using VyrLibraryUtils::FileUtils;
+
+constexpr std::array<std::pair<BatchPhase, const char16_t*>, 4> endings{{{BatchPhase::Applying, u".applying"},
+                                                                         {BatchPhase::Applied, u".applied"},
+                                                                         {BatchPhase::Undoing, u".taking-back"},
+                                                                         {BatchPhase::Undone, u".taken-back"}}};
+/// Of a journal that is not whole yet: its batch has not begun.
+constexpr const char16_t* newEnding = u".new";
+constexpr const char16_t* abandonedEnding = u".abandoned";
+constexpr const char16_t* lockName = u"lock";
+constexpr int digits = 6;
+/// How much of a journal is read at first for its heading and for its checkpoints: more than most of them take.
+constexpr std::uint64_t firstPart = 4096;
+constexpr std::uint64_t partGrowth = 4;
+
+CString NameOf(std::uint32_t number, const char16_t* ending)
+{
+    CString name;
+    name.Format(u"%06u%s", number, ending);
+    return name;
+}
+
+const char16_t* EndingOf(BatchPhase phase)
+{
+    return std::find_if(endings.begin(), endings.end(), [phase](const auto& pair) { return pair.first == phase; })
+        ->second;
+}
+
+/// The number in front of `name`'s dot; 0 when there is none.
+std::uint32_t NumberOf(std::u16string_view name)
+{
+    const std::u16string_view text = name.substr(0, name.find(u'.'));
+    std::uint64_t number = 0;
+    if (text.size() < digits || text.size() > digits + 3)
+        return 0;
+    for (const char16_t unit : text) {
+        if (unit < u'0' || unit > u'9')
+            return 0;
+        number = number * 10 + (unit - u'0');
+    }
+    return static_cast<std::uint32_t>(number);
+}
+
+/// The journal with this name; nothing when it is no journal's.
+std::optional<JournalFile> FileOf(std::u16string_view name, const CString& path)
+{
+    const std::uint32_t number = NumberOf(name);
+    if (number == 0)
+        return {};
+    for (const auto& [phase, ending] : endings)
+        if (name == NameOf(number, ending))
+            return JournalFile{number, phase, path};
+    return {};
+}
+
+std::string ReadPart(const VyrPlatform::FileReader& reader, std::uint64_t offset, std::uint64_t count)
+{
+    std::string text(static_cast<std::size_t>(count), '\0');
+    text.resize(reader.ReadAt(offset, std::as_writable_bytes(std::span(text))));
+    return text;
+}
+
+} // namespace
+
+bool IsEnded(BatchPhase phase)
+{
+    return phase == BatchPhase::Applied || phase == BatchPhase::Undone;
+}
+
+JournalFolder::JournalFolder(FileOperations& files, const CString& path) : m_files(files), m_path(path) {}
+
+CString JournalFolder::Lock()
+{
+    if (VyrLibraryUtils::FolderUtils::CreateFolderPathExists(m_path) == 0)
+        return CString::Join({u"the folder for the journal cannot be made: ", m_path});
+    m_lock = std::make_unique<VyrHostPlatform::FileLock>(PathOf(lockName));
+    if (m_lock->IsHeld())
+        return {};
+    if (m_lock->IsTaken())
+        return u"another batch of renames is being worked on";
+    return CString::Join({u"the journal in ", m_path, u" cannot be locked: ", Text::ErrorText(m_lock->Error())});
+}
+
+bool JournalFolder::IsLockedByAnother() const
+{
+    return VyrHostPlatform::FileLock(PathOf(lockName)).IsTaken();
+}
+
+std::vector<VyrPlatform::FileIdentity> JournalFolder::Way() const
+{
+    std::vector<VyrPlatform::FileIdentity> way;
+    // As the path is written, and with its links followed.
+    for (const CString& path : {VyrHostPlatform::GetFullPath(m_path), VyrHostPlatform::GetRealPath(m_path)})
+        for (std::u16string_view at = path; !Text::FolderPart(at).empty();
+             at = at.substr(0, Text::FolderPart(at).size() - 1))
+            way.push_back(VyrPlatform::LookAtFile(at).identity);
+    return way;
+}
+
+bool JournalFolder::Keeps(std::u16string_view name, const VyrPlatform::FileIdentity& identity) const
+{
+    // The system is asked only where the name is one of ours.
+    const bool isOurs = name == lockName || FileOf(name, {});
+    return isOurs && VyrPlatform::LookAtFile(PathOf(name)).identity == identity;
+}
+
+std::vector<JournalFile> JournalFolder::List() const
+{
+    std::vector<JournalFile> journals;
+    for (VyrPlatform::FolderListing listing(m_path); listing.Next();) {
+        const std::optional<JournalFile> journal = FileOf(listing.Name(), PathOf(listing.Name()));
+        if (journal)
+            journals.push_back(*journal);
+    }
+    std::sort(journals.begin(), journals.end(),
+              [](const JournalFile& left, const JournalFile& right) { return left.number < right.number; });
+    return journals;
+}
+
+std::optional<JournalFile> JournalFolder::FindOpen() const
+{
+    for (const JournalFile& journal : List())
+        if (!IsEnded(journal.phase))
+            return journal;
+    return {};
+}
+
+std::optional<std::string> JournalFolder::Read(const JournalFile& file, std::uint32_t& error) const
+{
+    const VyrPlatform::FileReader reader(file.path);
+    error = reader.Error();
+    if (!reader.IsOpen())
+        return {};
+    return ReadPart(reader, 0, reader.Size());
+}
+
+std::optional<std::string> JournalFolder::ReadBeginning(const JournalFile& file, std::uint32_t& error) const
+{
+    const VyrPlatform::FileReader reader(file.path);
+    error = reader.Error();
+    if (!reader.IsOpen())
+        return {};
+    for (std::uint64_t count = firstPart;; count *= partGrowth) {
+        std::string text = ReadPart(reader, 0, std::min(reader.Size(), count));
+        if (HasHeading(text) || count >= reader.Size())
+            return text;
+    }
+}
+
+std::string JournalFolder::ReadCheckpoints(const JournalFile& file) const
+{
+    const VyrPlatform::FileReader reader(file.path);
+    for (std::uint64_t count = firstPart;; count *= partGrowth) {
+        const std::uint64_t offset = reader.Size() - std::min(reader.Size(), count);
+        const std::string tail = ReadPart(reader, offset, reader.Size() - offset);
+        const std::string_view checkpoints = FindCheckpoints(tail);
+        if (!checkpoints.empty() || offset == 0)
+            return std::string(checkpoints);
+    }
+}
+
+std::uint32_t JournalFolder::Begin(Journal& journal, JournalFile& file)
+{
+    file.number = NextNumber();
+    file.phase = BatchPhase::Applying;
+    file.path = PathOf(NameOf(file.number, EndingOf(file.phase)));
+    journal.heading.number = file.number;
+    const CString newPath = PathOf(NameOf(file.number, newEnding));
+    const auto content = [&journal](const VyrHostPlatform::DurableFile::TakePiece& take) {
+        journal.check = WriteJournal(journal, take);
+    };
+    std::uint32_t error = m_files.WriteNew(newPath, content);
+    // A program that ended while it wrote its journal leaves a part of it.
+    if (error && m_files.Remove(newPath) == 0)
+        error = m_files.WriteNew(newPath, content);
+    if (error)
+        return error;
+    error = m_files.RenameFile(newPath, file.path);
+    if (error) {
+        static_cast<void>(m_files.Remove(newPath));
+        return error;
+    }
+    error = Flush();
+    if (error)
+        static_cast<void>(m_files.Remove(file.path));
+    else
+        RemoveOld();
+    return error;
+}
+
+std::uint32_t JournalFolder::Append(const JournalFile& file, std::string_view text)
+{
+    return m_files.Append(file.path, text);
+}
+
+std::uint32_t JournalFolder::SetPhase(JournalFile& file, BatchPhase phase)
+{
+    const CString path = PathOf(NameOf(file.number, EndingOf(phase)));
+    const std::uint32_t error = phase == file.phase ? 0 : m_files.RenameFile(file.path, path);
+    if (!error) {
+        file.phase = phase;
+        file.path = path;
+    }
+    return error;
+}
+
+std::uint32_t JournalFolder::Flush()
+{
+    return m_files.FlushFolder(m_path);
+}
+
+std::uint32_t JournalFolder::Abandon(JournalFile& file)
+{
+    const CString path = PathOf(NameOf(file.number, abandonedEnding));
+    const std::uint32_t error = m_files.RenameFile(file.path, path);
+    if (error)
+        return error;
+    file.path = path;
+    return Flush();
+}
+
+std::uint32_t JournalFolder::Remove(const JournalFile& file)
+{
+    return m_files.Remove(file.path);
+}
+
+CString JournalFolder::PathOf(const CString& name) const
+{
+    return FileUtils::GetCombinePath(m_path, name);
+}
+
+/// Above every number in use, those of abandoned journals too.
+std::uint32_t JournalFolder::NextNumber() const
+{
+    std::uint32_t highest = 0;
+    for (VyrPlatform::FolderListing listing(m_path); listing.Next();) {
+        const std::uint32_t number = NumberOf(listing.Name());
+        if (listing.Name() != NameOf(number, newEnding))
+            highest = std::max(highest, number);
+    }
+    return highest + 1;
+}
+
+void JournalFolder::RemoveOld()
+{
+    std::vector<JournalFile> ended = List();
+    std::erase_if(ended, [](const JournalFile& journal) { return !IsEnded(journal.phase); });
+    for (std::size_t index = 0; index + mostKept < ended.size(); ++index)
+        static_cast<void>(Remove(ended[index]));
+}
+
+} // namespace VyrHost::Batch

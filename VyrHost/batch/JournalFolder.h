@@ -1,0 +1,101 @@
+/// @file
+/// The folder in which the journals of all batches stand, one file each.
+#pragma once
+
+#include <VyrHost/batch/FileOperations.h>
+#include <VyrHost/batch/JournalText.h>
+
+#include <VyrHostPlatform/DurableFile.h>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace VyrHost::Batch {
+
+/// What the work on a batch has come to. It is the ending of the journal's file name, so that it changes at a stroke.
+enum class BatchPhase : std::uint8_t
+{
+    /// It is being applied, or that was cut off.
+    Applying,
+    Applied,
+    /// It is being undone, or that was cut off.
+    Undoing,
+    Undone
+};
+
+/// Whether the work on a batch has come to its end.
+[[nodiscard]] bool IsEnded(BatchPhase phase);
+
+struct JournalFile
+{
+    std::uint32_t number = 0;
+    BatchPhase phase = BatchPhase::Applied;
+    CString path;
+};
+
+class JournalFolder
+{
+public:
+    /// How many journals are kept of batches whose work has ended.
+    static constexpr std::size_t mostKept = 100;
+
+    /// The folder at `path`; Lock makes it when it is not there.
+    JournalFolder(FileOperations& files, const CString& path);
+
+    /// Takes the lock that one program has while it works on a batch, for as long as this object lives.
+    /// @return why that is not possible, for people; empty when it is held.
+    [[nodiscard]] CString Lock();
+    /// Whether another program holds the lock.
+    [[nodiscard]] bool IsLockedByAnother() const;
+
+    /// The folders and links that its path leads through, and the folder itself.
+    [[nodiscard]] std::vector<VyrPlatform::FileIdentity> Way() const;
+
+    /// Whether the file `name` with this identity is the lock or one of the journals.
+    [[nodiscard]] bool Keeps(std::u16string_view name, const VyrPlatform::FileIdentity& identity) const;
+    /// The journals by rising numbers.
+    [[nodiscard]] std::vector<JournalFile> List() const;
+    /// The journal of a batch that is being worked on, or was when that was cut off.
+    [[nodiscard]] std::optional<JournalFile> FindOpen() const;
+    /// The text of a journal; nothing, with `error` set, when it cannot be read.
+    [[nodiscard]] std::optional<std::string> Read(const JournalFile& file, std::uint32_t& error) const;
+    /// The first part of it, as far as its heading reaches.
+    [[nodiscard]] std::optional<std::string> ReadBeginning(const JournalFile& file, std::uint32_t& error) const;
+
+    /// Its checkpoints, as FindCheckpoints gives them: read from its end on, as far back as they reach. Empty when it
+    /// has none, or cannot be read.
+    [[nodiscard]] std::string ReadCheckpoints(const JournalFile& file) const;
+
+    // Under the lock.
+
+    /// Gives `journal` the next number, and has it on the disk, for good, before it returns: then the work may begin.
+    /// Journals beyond mostKept are removed, the oldest first.
+    /// @return the system's error code, 0 when it is there.
+    [[nodiscard]] std::uint32_t Begin(Journal& journal, JournalFile& file);
+    /// Appends to a journal.
+    [[nodiscard]] std::uint32_t Append(const JournalFile& file, std::string_view text);
+    /// Goes over to another phase.
+    [[nodiscard]] std::uint32_t SetPhase(JournalFile& file, BatchPhase phase);
+    /// Waits until the phases are on the disk.
+    [[nodiscard]] std::uint32_t Flush();
+    /// Takes a journal out of the way and keeps it: it is no batch any more until it has its old name again. Its number
+    /// stays its own.
+    /// @return the system's error code, 0 when `file.path` is its new path.
+    [[nodiscard]] std::uint32_t Abandon(JournalFile& file);
+    /// Removes a journal of which nothing was done.
+    [[nodiscard]] std::uint32_t Remove(const JournalFile& file);
+
+private:
+    [[nodiscard]] CString PathOf(const CString& name) const;
+    [[nodiscard]] std::uint32_t NextNumber() const;
+    void RemoveOld();
+
+    FileOperations& m_files;
+    CString m_path;
+    std::unique_ptr<VyrHostPlatform::FileLock> m_lock;
+};
+
+} // namespace VyrHost::Batch

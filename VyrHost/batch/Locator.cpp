@@ -1,0 +1,177 @@
+// Compares what stands at the places of a batch with what its journal says.
+#include <VyrHost/batch/Locator.h>
+
+namespace VyrHost::Batch {
+
+namespace {
+
+using VyrPlatform::FileState;
+using VyrPlatform::FileSystem::Kind;
+using Action = Model::PlanStep::Action;
+
+bool IsSameContent(const FileState& left, const FileState& right)
+{
+    return left.size == right.size && left.modified == right.modified;
+}
+
+} // namespace
+
+Locator::Locator(const Journal& journal, PlanProgress& progress, FileOperations& files)
+    : m_journal(journal), m_progress(progress), m_files(files), m_folders(progress, files),
+      m_hasTemporaryName(journal.plan.entries.size()), m_isMade(journal.plan.folders.size(), !journal.checkpoint),
+      m_isKept(journal.plan.entries.size()), m_hasChanged(journal.plan.entries.size()),
+      m_errors(journal.plan.entries.size())
+{
+    for (const Model::PlanStep& step : journal.plan.steps)
+        if (step.action == Action::UseTemporaryName)
+            m_hasTemporaryName[step.subject] = true;
+    if (journal.checkpoint)
+        for (const Model::PlanIndex folder : journal.checkpoint->foldersMade)
+            m_isMade[folder] = true;
+}
+
+void Locator::TrustCheckpoint()
+{
+    if (!m_journal.checkpoint)
+        return;
+    for (const Model::PlanIndex entry : m_journal.checkpoint->entriesBefore) {
+        m_isKept[entry] = true;
+        m_taken.Put(m_journal.plan.entries[entry].from, entry);
+    }
+}
+
+void Locator::Locate(bool wasCutOff)
+{
+    // Folders first, from the outside in, since the rest is looked for in them.
+    for (const Model::PlanIndex folder : Model::OrderFolders(m_journal.plan)) {
+        const Model::PlanFolder& planned = m_journal.plan.folders[folder];
+        if (planned.isNew)
+            LocateNewFolder(folder);
+        else if (planned.entry != Model::none)
+            LocateEntry(planned.entry, wasCutOff);
+    }
+    // In the order of the steps a place has been left before another entry is looked for there.
+    for (const Model::PlanStep& step : m_journal.plan.steps)
+        if (step.action == Action::Rename && m_journal.plan.entries[step.subject].folder == Model::none)
+            LocateEntry(step.subject, wasCutOff);
+}
+
+void Locator::LocateNewFolder(Model::PlanIndex folder)
+{
+    if (m_folders.Look(m_journal.plan.folders[folder].place).kind == Kind::Folder)
+        m_progress.SetFolder(folder, m_isMade[folder] ? NewFolder::Made : NewFolder::Found);
+}
+
+void Locator::LocateEntry(Model::PlanIndex entry, bool wasCutOff)
+{
+    if (m_isKept[entry])
+        return;
+    if (m_journal.states[entry].kind == Kind::Missing) {
+        m_progress.Set(entry, Location::Unknown);
+        return;
+    }
+    const bool isOneSlot = m_journal.plan.entries[entry].waitsFor == entry;
+    const Sight aside = m_hasTemporaryName[entry] ? LookAt(entry, Location::Temporary) : Sight();
+    if (isOneSlot && aside.likeness == Likeness::None) {
+        LocateByName(entry);
+        return;
+    }
+    const Sight before = LookAt(entry, Location::Before);
+    const Sight after = isOneSlot ? Sight() : LookAt(entry, Location::After);
+    const Sight chosen = aside.likeness != Likeness::None ? aside : Choose(before, after, wasCutOff);
+    for (const Sight& other : {before, aside, after})
+        if (wasCutOff && IsHalfRenamed(entry, chosen, other) && !EndHalfRename(entry, chosen, other))
+            return;
+    Settle(entry, chosen);
+}
+
+/// Whether a rename in two calls had given the file its one name and not yet taken the other away.
+bool Locator::IsHalfRenamed(Model::PlanIndex entry, const Sight& kept, const Sight& left) const
+{
+    return left.location != kept.location && left.likeness == Likeness::All && kept.likeness == Likeness::All &&
+           left.state.kind != Kind::Folder && m_journal.states[entry].links == 1 && left.state.links > 1;
+}
+
+/// The old and the new name are one to the file system: what it lists tells which of them it is.
+void Locator::LocateByName(Model::PlanIndex entry)
+{
+    const Model::PlanEntry& planned = m_journal.plan.entries[entry];
+    const std::unordered_set<CString>& names = NamesIn(planned.from.folder);
+    Sight sight = LookAt(entry, Location::After);
+    if (!names.contains(planned.to.name.View()))
+        sight.location = names.contains(planned.from.name.View()) ? Location::Before : Location::Unknown;
+    Settle(entry, sight);
+}
+
+Locator::Sight Locator::LookAt(Model::PlanIndex entry, Location location)
+{
+    const Model::Place place = m_progress.PlaceOf(entry, location);
+    Sight sight;
+    sight.location = location;
+    sight.state = m_folders.Look(place);
+    if (!m_taken.Find(place))
+        sight.likeness = Compare(entry, sight.state);
+    return sight;
+}
+
+Locator::Likeness Locator::Compare(Model::PlanIndex entry, const FileState& state) const
+{
+    const FileState& known = m_journal.states[entry];
+    if (state.kind == Kind::Missing || state.kind != known.kind)
+        return Likeness::None;
+    const bool hasSameNumber = state.identity.number == known.identity.number;
+    if (known.kind == Kind::Folder)
+        return hasSameNumber ? Likeness::All : Likeness::Kind;
+    if (IsSameContent(state, known))
+        return hasSameNumber ? Likeness::All : Likeness::Content;
+    return hasSameNumber ? Likeness::Number : Likeness::Kind;
+}
+
+/// The likelier of the two; where both are equally likely, the new path, if that may be.
+Locator::Sight Locator::Choose(const Sight& before, const Sight& after, bool wasCutOff)
+{
+    if (before.likeness > after.likeness)
+        return before;
+    const bool isClear = after.likeness > before.likeness || after.likeness == Likeness::All || !wasCutOff;
+    if (isClear && after.likeness != Likeness::None)
+        return after;
+    Sight unknown;
+    unknown.state.error = after.state.error ? after.state.error : before.state.error;
+    return unknown;
+}
+
+bool Locator::EndHalfRename(Model::PlanIndex entry, const Sight& kept, const Sight& left)
+{
+    const Model::Place leftPlace = m_progress.PlaceOf(entry, left.location);
+    const Model::Place keptPlace = m_progress.PlaceOf(entry, kept.location);
+    const OpenedFolder leftFolder = m_folders.Open(leftPlace.folder);
+    const OpenedFolder keptFolder = m_folders.Open(keptPlace.folder);
+    const std::uint32_t error = leftFolder.folder->DropSecondName(leftPlace.name, *keptFolder.folder, keptPlace.name);
+    if (error == 0)
+        return true;
+    m_errors[entry] = error;
+    m_progress.Set(entry, Location::Unknown);
+    return false;
+}
+
+void Locator::Settle(Model::PlanIndex entry, const Sight& sight)
+{
+    m_progress.Set(entry, sight.location);
+    if (sight.location == Location::Unknown) {
+        m_errors[entry] = sight.state.error;
+        return;
+    }
+    m_taken.Put(m_progress.PlaceOf(entry, sight.location), entry);
+    m_hasChanged[entry] = sight.state.kind == Kind::File && sight.likeness != Likeness::All;
+}
+
+const std::unordered_set<CString>& Locator::NamesIn(Model::PlanIndex folder)
+{
+    const auto [known, isNew] = m_names.try_emplace(folder);
+    const std::optional<CString> path = isNew ? m_progress.PathOfFolder(folder) : std::nullopt;
+    if (path && m_files.List(*path, [&names = known->second](const CString& name) { names.insert(name); }) != 0)
+        known->second.clear();
+    return known->second;
+}
+
+} // namespace VyrHost::Batch

@@ -1,0 +1,281 @@
+// Gathers entries from arguments, from the standard input and from folders.
+#include <VyrHost/collect/CollectEntries.h>
+
+#include <VyrHost/collect/NameReader.h>
+#include <VyrHost/collect/Wildcard.h>
+#include <VyrHost/text/FolderPart.h>
+#include <VyrHost/text/SafeText.h>
+#include <VyrHost/text/UsageError.h>
+#include <VyrHostPlatform/Console.h>
+#include <VyrHostPlatform/FullPath.h>
+#include <VyrHostPlatform/NameFolding.h>
+#include <VyrLibraryUtils/FileUtils.h>
+#include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/process/Process.h>
+
+#include <algorithm>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace VyrHost::Collect {
+
+namespace {
+
+using VyrLibraryUtils::FileUtils;
+using VyrPlatform::FileSystem::IsSeparator;
+using VyrPlatform::FileSystem::Kind;
+
+/// A path cut into the folder, as the user wrote it, and the name in it.
+struct CutPath
+{
+    CString folder;
+    CString name;
+};
+
+/// Whether the last part of `path` is the name of an entry as it stands, so that a cut at the last separator is enough.
+bool IsPlain(std::u16string_view path, std::u16string_view name)
+{
+    // Where a backslash separates, what stands before a colon is a drive.
+    const bool mayHaveDrive = IsSeparator(u'\\') && path.find(u':') != std::u16string_view::npos;
+    return !name.empty() && name != u"." && name != u".." && !mayHaveDrive;
+}
+
+std::u16string_view LastStep(std::u16string_view path)
+{
+    const std::u16string_view step = path.substr(Text::FolderPart(path).size());
+    const std::size_t drive = IsSeparator(u'\\') ? step.find(u':') : std::u16string_view::npos;
+    return drive == std::u16string_view::npos ? step : step.substr(drive + 1);
+}
+
+/// Whether `path` ends in a step to the folder above: it names no entry, though Windows would resolve it to one.
+bool LeadsUp(std::u16string_view path)
+{
+    std::u16string_view step = LastStep(path);
+    while (!path.empty() && (step.empty() || step == u".")) {
+        path.remove_suffix(std::max<std::size_t>(step.size(), 1));
+        step = LastStep(path);
+    }
+    return step == u"..";
+}
+
+CutPath Cut(const CString& path)
+{
+    const std::u16string_view text = path;
+    const std::u16string_view before = Text::FolderPart(text);
+    const std::u16string_view name = text.substr(before.size());
+    if (IsPlain(text, name))
+        return {before, name};
+    const CString full = VyrHostPlatform::GetFullPath(path);
+    const CString folder = FileUtils::GetSplitDirPath(full);
+    return {folder, full.Mid(folder.GetLength())};
+}
+
+CString WithSeparator(const CString& folder)
+{
+    if (!folder.IsEmpty() && IsSeparator(folder[folder.GetLength() - 1]))
+        return folder;
+    const char16_t separator = VyrPlatform::FileSystem::Separator();
+    return CString::Join({folder, std::u16string_view(&separator, 1)});
+}
+
+/// The folder as it is shown before the names in it.
+CString Shown(const CString& folder)
+{
+    const bool isHere = folder == u"." || (folder.GetLength() == 2 && folder[0] == u'.' && IsSeparator(folder[1]));
+    return folder.IsEmpty() || isHere ? CString() : WithSeparator(folder);
+}
+
+class EntryCollector
+{
+public:
+    explicit EntryCollector(const SourceSettings& settings) : m_settings(settings) {}
+
+    CollectedEntries Run()
+    {
+        for (const CString& path : m_settings.paths)
+            Add(path, !m_settings.areNames);
+        if (m_settings.input != InputNames::None)
+            AddInput();
+        RefuseNested();
+        return std::move(m_result);
+    }
+
+private:
+    void AddInput()
+    {
+        NameReader reader(m_settings.input == InputNames::Lines ? '\n' : '\0');
+        const auto add = [this](const CString& path) {
+            Add(path, false);
+        };
+        for (std::string piece = VyrHostPlatform::Console::ReadInput(); !piece.empty();
+             piece = VyrHostPlatform::Console::ReadInput())
+            reader.Read(piece, add);
+        reader.Finish(add);
+    }
+
+    void Add(const CString& path, bool mayBePattern)
+    {
+        if (m_settings.recursive && VyrPlatform::FileSystem::IsFolder(path)) {
+            const CString full = WithSeparator(VyrHostPlatform::GetFullPath(path));
+            NoteSourceFolder(full, path);
+            Walk(full, Shown(path));
+            return;
+        }
+        const CutPath cut = Cut(path);
+        if (cut.name.IsEmpty() || LeadsUp(path))
+            throw Text::UsageError("'" + Text::SafeText(path) +
+                                   "' is no name that could be changed; --recursive renames what is in a folder");
+        AddNamed(OpenParent(cut.folder), cut.name, mayBePattern);
+    }
+
+    std::uint32_t OpenParent(const CString& folder)
+    {
+        if (m_parent == Model::NoEntry || m_parentText != folder) {
+            const CString path =
+                folder.IsEmpty() ? VyrPlatform::Process::GetCurrentFolder() : VyrHostPlatform::GetFullPath(folder);
+            m_parent = List().folders.Open(WithSeparator(path), Shown(folder));
+            m_parentText = folder;
+        }
+        return m_parent;
+    }
+
+    void AddNamed(std::uint32_t folder, const CString& name, bool mayBePattern)
+    {
+        m_namedIn.insert(folder);
+        Model::NameRecord* const record = List().folders[folder].names.Find(name);
+        if (!record) {
+            if (mayBePattern && IsPattern(name) && AddMatches(folder, name))
+                return;
+            List().entries.push_back({List().folders.Intern(name), folder, Kind::Missing});
+            return;
+        }
+        AddSource(folder, *record);
+    }
+
+    /// Adds what stands at a name; with recursion what is below it, where that is a folder.
+    void AddSource(std::uint32_t folder, Model::NameRecord& record)
+    {
+        const bool isFolder = record.kind == Kind::Folder && !record.isLink;
+        const CString path =
+            isFolder ? WithSeparator(CString::Join({List().folders[folder].path, record.name})) : CString();
+        const CString shown = CString::Join({List().folders[folder].shown, record.name});
+        if (isFolder)
+            NoteSourceFolder(path, shown);
+        if (isFolder && m_settings.recursive)
+            Walk(path, WithSeparator(shown));
+        else if (!m_settings.recursive || IsPicked(record))
+            AddListed(folder, record);
+    }
+
+    void NoteSourceFolder(const CString& path, const CString& shown)
+    {
+        m_sourceFolders.emplace(VyrPlatform::LookAtFile(path).identity, shown);
+    }
+
+    /// False when nothing matches.
+    bool AddMatches(std::uint32_t folder, const CString& pattern)
+    {
+        Model::NameTable& names = List().folders[folder].names;
+        const CString folded = VyrHostPlatform::FoldName(pattern, names.Folding());
+        bool matched = false;
+        for (Model::NameRecord& record : names.Records()) {
+            if (IsShown(record) &&
+                MatchesPattern(folded, VyrHostPlatform::FoldName(record.name.View(), names.Folding()))) {
+                AddSource(folder, record);
+                matched = true;
+            }
+        }
+        return matched;
+    }
+
+    void AddListed(std::uint32_t folder, Model::NameRecord& record)
+    {
+        if (record.owner != Model::NoEntry)
+            throw Text::UsageError("'" + Text::SafeText(CString::Join({List().folders[folder].shown, record.name})) +
+                                   "' is named twice");
+        record.owner = static_cast<std::uint32_t>(List().entries.size());
+        List().entries.push_back({record.name, folder, record.kind});
+    }
+
+    void Walk(const CString& path, const CString& shown)
+    {
+        const std::uint32_t number = List().folders.Open(path, shown);
+        Model::Folder& folder = List().folders[number];
+        if (!folder.exists) {
+            m_result.problems.push_back(CString::Join({u"cannot read the folder ", folder.shown, u": ",
+                                                       VyrPlatform::Process::GetErrorMessage(folder.error)}));
+            return;
+        }
+        MakeRoom(folder.names.Records().size());
+        std::vector<std::u16string_view> below;
+        for (Model::NameRecord& record : folder.names.Records()) {
+            if (!IsShown(record))
+                continue;
+            if (IsPicked(record))
+                AddListed(number, record);
+            if (record.kind == Kind::Folder && !record.isLink)
+                below.push_back(record.name);
+        }
+        for (const std::u16string_view name : below)
+            Walk(WithSeparator(CString::Join({path, name})), WithSeparator(CString::Join({shown, name})));
+    }
+
+    void MakeRoom(std::size_t count)
+    {
+        std::vector<Model::Entry>& entries = List().entries;
+        if (count > entries.capacity() - entries.size())
+            entries.reserve(std::max(entries.size() + count, 2 * entries.capacity()));
+    }
+
+    [[nodiscard]] bool IsShown(const Model::NameRecord& record) const
+    {
+        return m_settings.hidden || !record.name.View().starts_with(u'.');
+    }
+
+    [[nodiscard]] bool IsPicked(const Model::NameRecord& record) const
+    {
+        const Pick wanted = record.kind == Kind::Folder ? Pick::Folders : Pick::Files;
+        return m_settings.pick == Pick::All || m_settings.pick == wanted;
+    }
+
+    /// Renaming a folder and what is in it in one call is left to recursion, which knows of both.
+    void RefuseNested() const
+    {
+        std::unordered_set<VyrPlatform::FileIdentity, Model::IdentityHash> known;
+        for (const std::uint32_t folder : m_namedIn) {
+            CString path = List().folders[folder].path;
+            for (auto state = VyrPlatform::LookAtFile(path);
+                 state.kind == Kind::Folder && known.insert(state.identity).second;
+                 state = VyrPlatform::LookAtFile(path)) {
+                if (const auto source = m_sourceFolders.find(state.identity); source != m_sourceFolders.end())
+                    throw Text::UsageError("'" + Text::SafeText(source->second) +
+                                           "' is named together with something inside it");
+                path = WithSeparator(path + u"..");
+            }
+        }
+    }
+
+    [[nodiscard]] Model::EntryList& List() { return m_result.list; }
+    [[nodiscard]] const Model::EntryList& List() const { return m_result.list; }
+
+    const SourceSettings& m_settings;
+    CollectedEntries m_result;
+    /// The folder that the last name was in, as the user wrote it: names of one folder mostly follow each other.
+    CString m_parentText;
+    std::uint32_t m_parent = Model::NoEntry;
+    /// The folders that entries were named in.
+    std::unordered_set<std::uint32_t> m_namedIn;
+    /// The folders that were named themselves, as the user named them.
+    std::unordered_map<VyrPlatform::FileIdentity, CString, Model::IdentityHash> m_sourceFolders;
+};
+
+} // namespace
+
+CollectedEntries CollectEntries(const SourceSettings& settings)
+{
+    return EntryCollector(settings).Run();
+}
+
+} // namespace VyrHost::Collect

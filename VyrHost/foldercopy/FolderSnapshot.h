@@ -1,0 +1,79 @@
+/// @file
+/// What stands in a folder and below it, taken down before it is copied or moved.
+#pragma once
+
+#include <VyrHostPlatform/FolderTraits.h>
+#include <VyrPlatform/files/FileTimes.h>
+#include <VyrPlatform/text/CString.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace VyrHost::FolderCopy {
+
+enum class SnapshotKind : std::uint8_t
+{
+    Folder,
+    File,
+    /// A symbolic link, wherever it leads: no link is followed.
+    Link,
+    /// A pipe, a device: nothing that has a content.
+    Other
+};
+
+struct SnapshotEntry
+{
+    CString name;
+    SnapshotKind kind = SnapshotKind::File;
+    /// Of a folder: its place in FolderSnapshot::folders.
+    std::size_t folder = 0;
+    /// In bytes; of a link that of the file it leads to, -1 where it leads to none.
+    std::int64_t size = 0;
+    /// Of a link: where it leads, as it holds it.
+    CString linkTarget;
+};
+
+struct SnapshotFolder
+{
+    /// From the root on; empty for the root itself.
+    CString path;
+    VyrPlatform::FileTicks created = 0;
+    VyrPlatform::FileTicks modified = 0;
+    /// Nothing where they may not be read.
+    std::optional<VyrHostPlatform::FolderTraits> traits;
+    /// Why its entries could not be read to their end: the system's error code, else 0.
+    std::uint32_t error = 0;
+    /// Its entries stand together in FolderSnapshot::entries.
+    std::size_t firstEntry = 0;
+    std::size_t entryCount = 0;
+};
+
+struct FolderSnapshot
+{
+    /// Full path of the root folder.
+    CString root;
+    /// The root first, each folder before those in it.
+    std::vector<SnapshotFolder> folders;
+    /// Folders but the root, too.
+    std::vector<SnapshotEntry> entries;
+};
+
+/// How much there is in a tree.
+struct SnapshotSize
+{
+    /// The root included.
+    std::size_t folders = 0;
+    /// Whatever is no folder.
+    std::size_t files = 0;
+    /// Of all files together.
+    std::int64_t bytes = 0;
+};
+
+/// Takes down the folder at the full path `root`, hidden entries included.
+[[nodiscard]] FolderSnapshot TakeSnapshot(const CString& root);
+
+[[nodiscard]] SnapshotSize SizeOf(const FolderSnapshot& tree);
+
+} // namespace VyrHost::FolderCopy

@@ -1,0 +1,165 @@
+// Looks through the folders that a tree shares with its target.
+#include <VyrHost/foldercopy/TargetCheck.h>
+
+#include <VyrHostPlatform/FullPath.h>
+#include <VyrHostPlatform/NameFolding.h>
+#include <VyrLibraryUtils/FileUtils.h>
+#include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/files/FolderListing.h>
+
+#include <unordered_map>
+#include <utility>
+
+namespace VyrHost::FolderCopy {
+
+namespace {
+
+using VyrHostPlatform::FoldName;
+using VyrHostPlatform::NameFolding;
+using VyrLibraryUtils::FileUtils;
+using VyrPlatform::FolderListing;
+using VyrPlatform::FileSystem::Kind;
+
+/// What becomes of a folder of the tree.
+enum class Place : std::uint8_t
+{
+    /// Not known: something is in the way of it, or of one above it.
+    InTheWay,
+    /// It will be made.
+    New,
+    /// A folder stands there and takes up its entries.
+    There
+};
+
+struct FolderPlan
+{
+    Place place = Place::InTheWay;
+    NameFolding folding = NameFolding::None;
+};
+
+class TargetChecker
+{
+public:
+    TargetChecker(const FolderSnapshot& tree, const CString& target, Trial trial)
+        : m_tree(tree), m_target(target), m_trial(trial), m_plans(tree.folders.size())
+    {}
+
+    TargetCheck Run()
+    {
+        PlanRoot();
+        for (std::size_t number = 0; number < m_plans.size(); ++number)
+            if (m_plans[number].place != Place::InTheWay)
+                CheckFolder(m_tree.folders[number], m_plans[number]);
+        return std::move(m_check);
+    }
+
+private:
+    void PlanRoot()
+    {
+        const Kind kind = VyrPlatform::LookAtFile(m_target).kind;
+        if (kind == Kind::File || kind == Kind::Other)
+            Report(CString(), TransferFault::TargetExists);
+        else
+            SetPlan(0, kind == Kind::Folder ? Place::There : Place::New, VyrHostPlatform::GetNameFolding(m_target));
+    }
+
+    void SetPlan(std::size_t folder, Place place, NameFolding folding)
+    {
+        m_plans[folder] = {place, folding};
+        if (place == Place::New)
+            ++m_check.newFolders;
+    }
+
+    /// The names in the folder at `path` by their keys, with whether each is a folder and no link.
+    [[nodiscard]] bool ReadNames(const CString& path, NameFolding folding, const CString& shown)
+    {
+        m_isFolder.clear();
+        FolderListing listing(path);
+        while (listing.Next())
+            m_isFolder.emplace(FoldName(listing.Name(), folding), listing.Kind() == Kind::Folder && !listing.IsLink());
+        if (listing.Error() != 0)
+            Report(shown, TransferFault::TargetNotRead, listing.Error());
+        return listing.Error() == 0;
+    }
+
+    void CheckFolder(const SnapshotFolder& folder, FolderPlan plan)
+    {
+        const CString path = FileUtils::GetCombinePath(m_target, folder.path);
+        if (plan.place == Place::There && !ReadNames(path, plan.folding, folder.path))
+            return;
+        m_names.clear();
+        for (std::size_t index = 0; index < folder.entryCount; ++index) {
+            const SnapshotEntry& entry = m_tree.entries[folder.firstEntry + index];
+            const CString key = FoldName(entry.name, plan.folding);
+            if (IsTwoInOne(entry.name, key, plan.folding, path))
+                Report(FileUtils::GetCombinePath(folder.path, entry.name), TransferFault::TwoNamesInOne);
+            else if (plan.place == Place::New)
+                PlanNew(entry, plan.folding);
+            else
+                CheckEntry(entry, key, folder.path, plan.folding);
+        }
+    }
+
+    /// Whether an entry before it in its folder, which goes to `path`, gets the same name.
+    [[nodiscard]] bool IsTwoInOne(const CString& name, const CString& key, NameFolding folding, const CString& path)
+    {
+        if (folding != NameFolding::None)
+            return !m_names.emplace(key, name).second;
+        if (m_trial == Trial::No)
+            return false;
+        const auto [other, isFirst] = m_names.emplace(FoldName(name, NameFolding::CaseAndForm), name);
+        return !isFirst && VyrHostPlatform::TryIsOneName(NearestFolder(path), other->second, name);
+    }
+
+    /// The folder at `path`, or the nearest one above it that is there.
+    [[nodiscard]] static CString NearestFolder(CString path)
+    {
+        while (!VyrPlatform::FileSystem::IsFolder(path))
+            path = VyrHostPlatform::GetFullPath(FileUtils::GetSplitDirPath(path));
+        return path;
+    }
+
+    /// A new folder compares names as the one that it is made in.
+    void PlanNew(const SnapshotEntry& entry, NameFolding folding)
+    {
+        if (entry.kind == SnapshotKind::Folder)
+            SetPlan(entry.folder, Place::New, folding);
+    }
+
+    void CheckEntry(const SnapshotEntry& entry, const CString& key, const CString& folder, NameFolding folding)
+    {
+        const auto found = m_isFolder.find(key);
+        const CString path = FileUtils::GetCombinePath(folder, entry.name);
+        if (found == m_isFolder.end())
+            PlanNew(entry, folding);
+        else if (entry.kind == SnapshotKind::Folder && found->second)
+            SetPlan(entry.folder, Place::There,
+                    VyrHostPlatform::GetNameFolding(FileUtils::GetCombinePath(m_target, path)));
+        else
+            Report(path, TransferFault::TargetExists);
+    }
+
+    void Report(const CString& path, TransferFault fault, std::uint32_t error = 0)
+    {
+        m_check.clashes.push_back({path, fault, error});
+    }
+
+    const FolderSnapshot& m_tree;
+    const CString m_target;
+    const Trial m_trial;
+    std::vector<FolderPlan> m_plans;
+    /// Of the folder of the target that is looked through: its names by their keys, with whether each is a folder.
+    std::unordered_map<CString, bool> m_isFolder;
+    /// Of the same folder of the tree: the names so far, by the keys of names that are alike.
+    std::unordered_map<CString, CString> m_names;
+    TargetCheck m_check;
+};
+
+} // namespace
+
+TargetCheck CheckTarget(const FolderSnapshot& tree, const CString& target, Trial trial)
+{
+    return TargetChecker(tree, target, trial).Run();
+}
+
+} // namespace VyrHost::FolderCopy

@@ -1,0 +1,94 @@
+// Takes trees down, checks, transfers and compares them.
+#include <VyrHost/foldercopy/TransferBatch.h>
+
+#include <VyrHost/foldercopy/CreatedFolders.h>
+#include <VyrHost/foldercopy/TransferFinish.h>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace VyrHost::FolderCopy {
+
+TransferBatch::TransferBatch(const std::vector<CString>& sources, const CString& destination, TransferAction action,
+                             Trial trial)
+    : m_action(action)
+{
+    for (TransferTask& task : MakeTransferTasks(sources, destination))
+        Check(std::move(task), trial);
+    if (IsRefused())
+        StopAll();
+}
+
+bool TransferBatch::IsRefused() const
+{
+    return std::any_of(m_reports.begin(), m_reports.end(),
+                       [](const TransferReport& report) { return report.status == TransferStatus::Refused; });
+}
+
+void TransferBatch::Check(TransferTask task, Trial trial)
+{
+    FolderSnapshot tree = TakeSnapshot(task.source);
+    TargetCheck check = CheckTarget(tree, task.target, trial);
+    TransferReport report;
+    report.size = SizeOf(tree);
+    if (!check.clashes.empty()) {
+        report.status = TransferStatus::Refused;
+        report.problems = std::move(check.clashes);
+    } else {
+        report.problems = ForeseeProblems(tree, task.target, m_action);
+        report.status = report.problems.empty() ? TransferStatus::Done : TransferStatus::Incomplete;
+    }
+    report.task = std::move(task);
+    m_reports.push_back(std::move(report));
+    m_trees.push_back(std::move(tree));
+    m_newFolders.push_back(check.newFolders);
+}
+
+/// One clash leaves every folder where it is.
+void TransferBatch::StopAll()
+{
+    for (TransferReport& report : m_reports)
+        if (report.status != TransferStatus::Refused) {
+            report.status = TransferStatus::NotReached;
+            report.problems.clear();
+        }
+}
+
+void TransferBatch::Apply(TransferWatch& watch)
+{
+    if (IsRefused())
+        return;
+    for (std::size_t index = 0; index < m_reports.size(); ++index) {
+        m_reports[index].problems.clear();
+        m_wasStopped = watch.IsStopAsked();
+        if (m_wasStopped)
+            m_reports[index].status = TransferStatus::NotReached;
+        else
+            Transfer(index, watch);
+    }
+}
+
+void TransferBatch::Transfer(std::size_t index, TransferWatch& watch)
+{
+    TransferReport& report = m_reports[index];
+    const FolderSnapshot& tree = m_trees[index];
+    TransferRecords records;
+    watch.Begin(report.task, m_newFolders[index]);
+    const std::uint32_t error =
+        TransferFolder(tree, report.task.target, m_action, records, [&watch](std::size_t made) { watch.Show(made); });
+    watch.End();
+    if (error != 0) {
+        report.status = TransferStatus::Failed;
+        report.problems.push_back({CString(), TransferFault::System, error});
+        return;
+    }
+    report.problems = FinishTransfer(tree, report.task.target, m_action, records);
+    CreatedFoldersResult made = CompleteFolders(tree, records);
+    std::move(made.problems.begin(), made.problems.end(), std::back_inserter(report.problems));
+    report.status = report.problems.empty() ? TransferStatus::Done : TransferStatus::Incomplete;
+    if (made.creationError != 0)
+        m_creationError = made.creationError;
+}
+
+} // namespace VyrHost::FolderCopy

@@ -1,0 +1,92 @@
+/// @file
+/// The folders of one call: checked together, then copied or moved one after the other.
+#pragma once
+
+#include <VyrHost/foldercopy/FolderSnapshot.h>
+#include <VyrHost/foldercopy/TargetCheck.h>
+#include <VyrHost/foldercopy/Transfer.h>
+#include <VyrHost/foldercopy/TransferProblem.h>
+#include <VyrHost/foldercopy/TransferTasks.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace VyrHost::FolderCopy {
+
+/// What becomes of a tree.
+enum class TransferStatus : std::uint8_t
+{
+    /// It is copied or moved, or can be.
+    Done,
+    /// Likewise, but not all that is in it.
+    Incomplete,
+    /// Something is in its way.
+    Refused,
+    /// Nothing of it, since its root could not be made.
+    Failed,
+    /// Nothing was begun.
+    NotReached
+};
+
+struct TransferReport
+{
+    TransferTask task;
+    TransferStatus status = TransferStatus::Done;
+    SnapshotSize size;
+    TransferProblems problems;
+};
+
+/// Looks on while trees are copied or moved.
+class TransferWatch
+{
+public:
+    TransferWatch() = default;
+    TransferWatch(const TransferWatch&) = delete;
+    TransferWatch& operator=(const TransferWatch&) = delete;
+    virtual ~TransferWatch() = default;
+
+    /// Whether to begin no further tree.
+    [[nodiscard]] virtual bool IsStopAsked() = 0;
+    /// The tree of `task` is begun, and will make `newFolders` folders.
+    virtual void Begin(const TransferTask& task, std::size_t newFolders) = 0;
+    /// Now and then: how many folders it has made.
+    virtual void Show(std::size_t made) = 0;
+    /// It has come to its end.
+    virtual void End() = 0;
+};
+
+class TransferBatch
+{
+public:
+    /// Takes each tree down, and looks at what is in its way. Of the folders only those of an allowed trial are made.
+    /// @throws UsageError where MakeTransferTasks does.
+    TransferBatch(const std::vector<CString>& sources, const CString& destination, TransferAction action, Trial trial);
+
+    /// Something is in the way of a tree: none is to be touched.
+    [[nodiscard]] bool IsRefused() const;
+    /// Copies or moves the trees, unless they are refused. A stop ends nothing that is begun.
+    void Apply(TransferWatch& watch);
+
+    /// What becomes of each tree; before Apply, what would.
+    [[nodiscard]] const std::vector<TransferReport>& Reports() const { return m_reports; }
+    /// Whether a tree was not begun since a stop was asked for.
+    [[nodiscard]] bool WasStopped() const { return m_wasStopped; }
+    /// Why creation times were not set, see CreatedFoldersResult.
+    [[nodiscard]] std::uint32_t CreationError() const { return m_creationError; }
+
+private:
+    void Check(TransferTask task, Trial trial);
+    void StopAll();
+    void Transfer(std::size_t index, TransferWatch& watch);
+
+    const TransferAction m_action;
+    std::vector<TransferReport> m_reports;
+    /// For each report: the tree, and how many folders it will make.
+    std::vector<FolderSnapshot> m_trees;
+    std::vector<std::size_t> m_newFolders;
+    std::uint32_t m_creationError = 0;
+    bool m_wasStopped = false;
+};
+
+} // namespace VyrHost::FolderCopy

@@ -1,0 +1,70 @@
+/// @file
+/// The folders that a list of entries touches, each listed once.
+#pragma once
+
+#include <VyrHost/model/NamePool.h>
+#include <VyrHost/model/NameTable.h>
+#include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/text/CString.h>
+
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <optional>
+#include <unordered_map>
+
+namespace VyrHost::Model {
+
+/// A folder and the names in it.
+struct Folder
+{
+    /// Absolute, its separator at the end.
+    CString path;
+    /// What stands before an entry's name when it is shown: the folder as the user named it.
+    CString shown;
+    /// What the listing brings stands first, in natural order.
+    NameTable names;
+    /// The disk has it: its listing is in `names`.
+    bool exists = false;
+    /// Why it could not be listed (the system's code); 0 when it was.
+    std::uint32_t error = 0;
+    /// The file system that it is on (FileIdentity); nothing where the system does not tell.
+    std::optional<std::uint64_t> device;
+};
+
+struct IdentityHash
+{
+    std::size_t operator()(const VyrPlatform::FileIdentity& identity) const noexcept
+    {
+        return static_cast<std::size_t>(identity.number * 31 + identity.device);
+    }
+};
+
+/// Gives each folder a number and keeps its listing. References to folders stay good for the life of the set.
+class FolderSet
+{
+public:
+    /// The number of the folder `path` (absolute, its separator at the end), listed when it is new here. Two paths to
+    /// one folder give one number; the first path stays. `shown` is taken for a new one.
+    std::uint32_t Open(const CString& path, const CString& shown);
+
+    [[nodiscard]] Folder& operator[](std::uint32_t folder) { return m_folders[folder]; }
+    [[nodiscard]] const Folder& operator[](std::uint32_t folder) const { return m_folders[folder]; }
+    [[nodiscard]] std::uint32_t Count() const { return static_cast<std::uint32_t>(m_folders.size()); }
+
+    /// Keeps the text of a name as long as the set lives.
+    [[nodiscard]] InternedName Intern(std::u16string_view name) { return m_texts->Intern(name); }
+    /// What keeps all the names.
+    [[nodiscard]] const std::shared_ptr<NamePool>& Texts() const { return m_texts; }
+
+private:
+    std::uint32_t Find(const VyrPlatform::FileState& state);
+    void List(Folder& folder);
+
+    std::shared_ptr<NamePool> m_texts = std::make_shared<NamePool>();
+    std::deque<Folder> m_folders;
+    std::unordered_map<CString, std::uint32_t> m_byPath;
+    std::unordered_map<VyrPlatform::FileIdentity, std::uint32_t, IdentityHash> m_byIdentity;
+};
+
+} // namespace VyrHost::Model

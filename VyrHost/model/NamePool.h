@@ -1,0 +1,60 @@
+/// @file
+/// Keeps the names of a million entries without an allocation for each.
+#pragma once
+
+#include <VyrHost/model/Prefetch.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace VyrHost::Model {
+
+/// A text that a NamePool keeps, as long as that lives. Lists of a million names have one for each, so it is one word.
+class InternedName
+{
+public:
+    /// Empty.
+    InternedName() = default;
+
+    [[nodiscard]] std::u16string_view View() const noexcept
+    {
+        std::uint32_t length = 0;
+        std::memcpy(&length, m_text - LengthUnits, sizeof(length));
+        return {m_text, length};
+    }
+    operator std::u16string_view() const noexcept { return View(); }
+    [[nodiscard]] bool IsEmpty() const noexcept { return View().empty(); }
+    /// Says that the text will soon be read.
+    void Expect() const noexcept { Prefetch(m_text); }
+
+    /// By the texts.
+    friend bool operator==(InternedName left, InternedName right) noexcept { return left.View() == right.View(); }
+
+private:
+    friend class NamePool;
+    explicit InternedName(const char16_t* text) noexcept : m_text(text) {}
+
+    /// The length stands before the text.
+    static constexpr std::size_t LengthUnits = sizeof(std::uint32_t) / sizeof(char16_t);
+    static constexpr char16_t NoText[LengthUnits + 1] = {};
+    const char16_t* m_text = NoText + LengthUnits;
+};
+
+/// Texts one behind another in large blocks. Those that are kept may be read on one thread while another keeps more.
+class NamePool
+{
+public:
+    /// @param text  shorter than 2^32 code units.
+    [[nodiscard]] InternedName Intern(std::u16string_view text);
+
+private:
+    std::vector<std::unique_ptr<char16_t[]>> m_blocks;
+    char16_t* m_free = nullptr;
+    std::size_t m_left = 0;
+};
+
+} // namespace VyrHost::Model

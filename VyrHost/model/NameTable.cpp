@@ -1,0 +1,106 @@
+// A hash table with open addressing over the names of one folder.
+#include <VyrHost/model/NameTable.h>
+
+#include <VyrHost/model/Prefetch.h>
+
+#include <algorithm>
+#include <bit>
+#include <functional>
+#include <utility>
+
+namespace VyrHost::Model {
+
+using VyrHostPlatform::NameFolding;
+
+namespace {
+
+constexpr std::size_t FirstSlots = 16;
+
+std::uint32_t HashOf(std::u16string_view name)
+{
+    const std::size_t hash = std::hash<std::u16string_view>()(name);
+    return static_cast<std::uint32_t>(hash ^ (hash >> 32));
+}
+
+} // namespace
+
+NameTable::Key NameTable::KeyOf(std::u16string_view name) const
+{
+    if (m_folding == NameFolding::None)
+        return {name, {}, HashOf(name)};
+    const CString folded = VyrHostPlatform::FoldName(name, m_folding);
+    return {name, folded, HashOf(folded)};
+}
+
+bool NameTable::IsSame(const NameRecord& record, const Key& key) const
+{
+    return record.name == key.name ||
+           (m_folding != NameFolding::None && VyrHostPlatform::FoldName(record.name.View(), m_folding) == key.folded);
+}
+
+std::size_t NameTable::SlotOf(const Key& key) const
+{
+    const std::size_t mask = m_slots.size() - 1;
+    std::size_t slot = key.hash & mask;
+    while (m_slots[slot].number != 0 &&
+           (m_slots[slot].hash != key.hash || !IsSame(m_records[m_slots[slot].number - 1], key)))
+        slot = (slot + 1) & mask;
+    return slot;
+}
+
+const NameRecord* NameTable::Find(std::u16string_view name) const
+{
+    if (m_slots.empty())
+        return nullptr;
+    const std::uint32_t number = m_slots[SlotOf(KeyOf(name))].number;
+    return number ? &m_records[number - 1] : nullptr;
+}
+
+NameRecord* NameTable::Find(std::u16string_view name)
+{
+    return const_cast<NameRecord*>(static_cast<const NameTable&>(*this).Find(name));
+}
+
+NameRecord& NameTable::Add(InternedName name)
+{
+    Reserve(m_records.size() + 1);
+    const Key key = KeyOf(name);
+    Slot& slot = m_slots[SlotOf(key)];
+    if (slot.number == 0) {
+        m_records.push_back({.name = name});
+        slot = {key.hash, static_cast<std::uint32_t>(m_records.size())};
+    }
+    return m_records[slot.number - 1];
+}
+
+void NameTable::Expect(std::u16string_view name) const
+{
+    // To fold a name twice would cost more than is won.
+    if (m_folding == NameFolding::None && !m_slots.empty())
+        Prefetch(&m_slots[HashOf(name) & (m_slots.size() - 1)]);
+}
+
+void NameTable::Reserve(std::size_t count)
+{
+    // A third of the slots stays free, so that runs stay short.
+    const std::size_t slots = count + count / 2;
+    if (slots > m_slots.size())
+        Grow(std::max(FirstSlots, std::bit_ceil(slots)));
+}
+
+void NameTable::Grow(std::size_t count)
+{
+    std::vector<Slot> slots(count);
+    const std::size_t mask = slots.size() - 1;
+    for (const Slot& moved : m_slots) {
+        if (moved.number == 0)
+            continue;
+        std::size_t slot = moved.hash & mask;
+        while (slots[slot].number != 0)
+            slot = (slot + 1) & mask;
+        slots[slot] = moved;
+    }
+    m_slots = std::move(slots);
+}
+
+} // namespace VyrHost::Model

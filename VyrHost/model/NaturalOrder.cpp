@@ -1,0 +1,169 @@
+// Compares names run by run: digits by value, letters without case.
+#include <VyrHost/model/NaturalOrder.h>
+
+#include <algorithm>
+
+namespace VyrHost::Model {
+
+namespace {
+
+bool IsDigit(char16_t unit)
+{
+    return unit >= u'0' && unit <= u'9';
+}
+
+char16_t Folded(char16_t unit)
+{
+    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
+}
+
+bool BeginsWithDigit(std::u16string_view text)
+{
+    return !text.empty() && IsDigit(text.front());
+}
+
+void SkipZeros(std::u16string_view& text)
+{
+    while (!text.empty() && text.front() == u'0')
+        text.remove_prefix(1);
+}
+
+/// Takes the numbers off the front of both and compares them: negative, zero or positive.
+int CompareNumbers(std::u16string_view& left, std::u16string_view& right)
+{
+    SkipZeros(left);
+    SkipZeros(right);
+    int order = 0;
+    while (BeginsWithDigit(left) && BeginsWithDigit(right)) {
+        if (order == 0)
+            order = left.front() - right.front();
+        left.remove_prefix(1);
+        right.remove_prefix(1);
+    }
+    // Of two numbers the one with more digits is the greater.
+    if (BeginsWithDigit(left))
+        return 1;
+    return BeginsWithDigit(right) ? -1 : order;
+}
+
+/// How much both begin with in common, less the digits at its end: those may be part of different numbers.
+std::size_t CommonLength(std::u16string_view left, std::u16string_view right)
+{
+    const std::size_t shorter = std::min(left.size(), right.size());
+    std::size_t length = 0;
+    while (length < shorter && left[length] == right[length])
+        ++length;
+    while (length > 0 && IsDigit(left[length - 1]))
+        --length;
+    return length;
+}
+
+int CompareRuns(std::u16string_view left, std::u16string_view right)
+{
+    while (!left.empty() && !right.empty()) {
+        if (IsDigit(left.front()) && IsDigit(right.front())) {
+            if (const int order = CompareNumbers(left, right))
+                return order;
+            continue;
+        }
+        const char16_t leftUnit = Folded(left.front());
+        const char16_t rightUnit = Folded(right.front());
+        if (leftUnit != rightUnit)
+            return leftUnit < rightUnit ? -1 : 1;
+        left.remove_prefix(1);
+        right.remove_prefix(1);
+    }
+    return static_cast<int>(!left.empty()) - static_cast<int>(!right.empty());
+}
+
+/// The first units of a name as a number: names whose keys differ are in the order of their keys.
+class KeyBuilder
+{
+public:
+    [[nodiscard]] static std::uint64_t KeyOf(std::u16string_view text)
+    {
+        // A shift by all the bits of a number has no meaning.
+        if (text.empty())
+            return 0;
+        KeyBuilder key;
+        do
+            key.Take(text);
+        while (!text.empty() && key.m_free > 0);
+        return key.m_bits << (8 * key.m_free);
+    }
+
+private:
+    void Take(std::u16string_view& text)
+    {
+        const char16_t unit = text.front();
+        if (IsDigit(unit)) {
+            TakeNumber(text);
+        } else if (unit < 0x80) {
+            Push(Folded(unit));
+            text.remove_prefix(1);
+        } else {
+            // Beyond ASCII there is no order in a byte.
+            Push(0xFF);
+            text = {};
+        }
+    }
+
+    /// A digit among other units, then how many digits there are, then the digits: so 9 comes before 10.
+    void TakeNumber(std::u16string_view& text)
+    {
+        SkipZeros(text);
+        std::size_t length = 0;
+        while (length < text.size() && IsDigit(text[length]))
+            ++length;
+        Push(u'0');
+        constexpr std::size_t MostDigits = 0xFF;
+        Push(static_cast<unsigned>(std::min(length, MostDigits)));
+        if (length >= MostDigits) {
+            text = {};
+            return;
+        }
+        for (std::size_t index = 0; index < length && m_free > 0; ++index)
+            Push(text[index]);
+        text.remove_prefix(length);
+    }
+
+    void Push(unsigned byte)
+    {
+        if (m_free == 0)
+            return;
+        m_bits = (m_bits << 8) | byte;
+        --m_free;
+    }
+
+    std::uint64_t m_bits = 0;
+    int m_free = 8;
+};
+
+} // namespace
+
+bool IsNaturallyLess(std::u16string_view left, std::u16string_view right)
+{
+    const std::size_t common = CommonLength(left, right);
+    left.remove_prefix(common);
+    right.remove_prefix(common);
+    const int order = CompareRuns(left, right);
+    return order != 0 ? order < 0 : left < right;
+}
+
+void NaturalKeys::Take(std::u16string_view name)
+{
+    if (m_hasFirst) {
+        m_common = CommonLength(m_first.substr(0, m_common), name);
+        return;
+    }
+    m_hasFirst = true;
+    m_first = name;
+    m_common = name.size();
+}
+
+std::uint64_t NaturalKeys::KeyOf(std::u16string_view name) const
+{
+    return KeyBuilder::KeyOf(name.substr(m_common));
+}
+
+} // namespace VyrHost::Model

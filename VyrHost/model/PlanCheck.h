@@ -1,0 +1,13 @@
+/// @file
+/// Whether a plan that comes from elsewhere can be worked with.
+#pragma once
+
+#include <VyrHost/model/RenamePlan.h>
+
+namespace VyrHost::Model {
+
+/// What is wrong with `plan`, for people; empty when it keeps every promise that RenamePlan.h makes: its indexes are in
+/// range, its names are single parts of a path, its steps are complete and no folder ends up inside itself.
+[[nodiscard]] CString FindPlanFault(const RenamePlan& plan);
+
+} // namespace VyrHost::Model

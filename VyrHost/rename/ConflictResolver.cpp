@@ -1,0 +1,262 @@
+// Gives names out in the order of the list, and withdraws one when an entry has to stay.
+#include <VyrHost/rename/ConflictResolver.h>
+
+#include <VyrHost/model/Prefetch.h>
+#include <VyrHost/rename/NameValidator.h>
+#include <VyrHost/rename/NumberedName.h>
+
+#include <algorithm>
+#include <optional>
+#include <unordered_map>
+
+namespace VyrHost::Rename {
+
+namespace {
+
+using VyrPlatform::FileSystem::Kind;
+
+class ConflictResolver
+{
+public:
+    ConflictResolver(Model::EntryList& list, const Groups& groups, std::vector<Model::Decision>& decisions,
+                     const ConflictSettings& settings, bool mayNumber)
+        : m_list(list), m_groups(groups), m_decisions(decisions), m_settings(settings), m_mayNumber(mayNumber)
+    {}
+
+    void Run()
+    {
+        for (std::uint32_t entry = 0; entry < m_decisions.size(); ++entry) {
+            if (m_decisions[entry].IsRename())
+                continue;
+            HoldOwnName(entry);
+        }
+        for (std::size_t group = 0; group < m_groups.Count(); ++group) {
+            if (group + Model::PrefetchDistance < m_groups.Count())
+                ExpectWishes(group + Model::PrefetchDistance);
+            if (IsToSettle(group))
+                Place(static_cast<std::uint32_t>(group));
+        }
+    }
+
+private:
+    /// Whether the entry takes part in what its group decides: it has a name that it wants.
+    [[nodiscard]] bool TakesPart(std::uint32_t entry) const
+    {
+        return m_decisions[entry].IsRename() || m_decisions[entry].status == Model::Status::Unchanged;
+    }
+
+    [[nodiscard]] bool IsToSettle(std::size_t group) const
+    {
+        const auto members = m_groups.Members(group);
+        return std::any_of(members.begin(), members.end(),
+                           [this](std::uint32_t entry) { return m_decisions[entry].IsRename(); });
+    }
+
+    void ExpectWishes(std::size_t group)
+    {
+        for (const std::uint32_t entry : m_groups.Members(group))
+            Names(entry).Expect(m_decisions[entry].name);
+    }
+
+    void Place(std::uint32_t group)
+    {
+        Settle(group, false);
+        while (!m_pending.empty()) {
+            const std::uint32_t next = m_pending.back();
+            m_pending.pop_back();
+            Settle(next, true);
+        }
+    }
+
+    /// Gives the members of a group their names, or decides that they stay.
+    /// @param isAgain  they may hold names already.
+    void Settle(std::uint32_t group, bool isAgain)
+    {
+        m_members.clear();
+        for (const std::uint32_t entry : m_groups.Members(group))
+            if (TakesPart(entry))
+                m_members.push_back(entry);
+        // A member whose name does not change holds it from the beginning.
+        if (isAgain || m_members.size() > 1)
+            for (const std::uint32_t entry : m_members)
+                Release(entry);
+        const std::optional<Clash> clash = GiveWanted(group);
+        if (!clash)
+            return;
+        if (m_settings.mode == OnConflict::Number && m_mayNumber && !clash->isWithin)
+            Number();
+        else
+            Stay(m_settings.mode == OnConflict::Skip ? Model::Status::Skipped : Model::Status::Refused, clash->reason);
+    }
+
+    struct Clash
+    {
+        Model::Reason reason;
+        /// The name is taken by another member of the group, which no number changes.
+        bool isWithin;
+    };
+
+    /// Gives each member the name that it wants; where one of those is taken, none of them.
+    std::optional<Clash> GiveWanted(std::uint32_t group)
+    {
+        for (std::size_t place = 0; place < m_members.size(); ++place) {
+            const std::uint32_t entry = m_members[place];
+            Model::NameRecord& record = Names(entry).Add(WantedName(entry));
+            if (IsFree(record)) {
+                Give(entry, record, WantedName(entry), Model::Status::Renamed);
+                continue;
+            }
+            const bool isWithin = record.holder < Model::NewFolder && m_groups.Of(record.holder) == group;
+            const Clash clash{ClashOf(record), isWithin};
+            for (std::size_t given = 0; given < place; ++given)
+                Release(m_members[given]);
+            return clash;
+        }
+        return std::nullopt;
+    }
+
+    /// Numbers all members with the first number that is free for each of them.
+    void Number()
+    {
+        std::vector<NumberedName> names;
+        for (const std::uint32_t entry : m_members)
+            names.push_back(NumberedNameOf(entry));
+        std::uint64_t& attempt = AttemptOf(m_members.front());
+        const std::uint64_t end = CountNumbers(m_settings.numbering.step);
+        std::vector<CString> candidates(m_members.size());
+        for (; attempt < end; ++attempt) {
+            bool areFree = true;
+            for (std::size_t place = 0; place < m_members.size(); ++place) {
+                const std::uint32_t entry = m_members[place];
+                candidates[place] = names[place].With(m_settings.numbering, attempt);
+                if (const Model::Reason reason = ValidateName(candidates[place], m_list.entries[entry].name).reason;
+                    reason != Model::Reason::None) {
+                    Stay(Model::Status::Refused, reason);
+                    return;
+                }
+                const Model::NameRecord* const record = Names(entry).Find(candidates[place]);
+                areFree = areFree && (!record || IsFree(*record));
+            }
+            if (areFree) {
+                ++attempt;
+                GiveNumbered(candidates);
+                return;
+            }
+        }
+        Stay(Model::Status::Refused, Model::Reason::NoFreeNumber);
+    }
+
+    void GiveNumbered(const std::vector<CString>& candidates)
+    {
+        for (std::size_t place = 0; place < m_members.size(); ++place) {
+            const std::uint32_t entry = m_members[place];
+            m_wanted.try_emplace(entry, m_decisions[entry].name);
+            const Model::InternedName name = m_list.folders.Intern(candidates[place]);
+            Give(entry, Names(entry).Add(name), name, Model::Status::Numbered);
+        }
+    }
+
+    /// @param record  of `name`, which it may write in another way.
+    void Give(std::uint32_t entry, Model::NameRecord& record, Model::InternedName name, Model::Status status)
+    {
+        Model::Decision& decision = m_decisions[entry];
+        const Model::Entry& own = m_list.entries[entry];
+        record.holder = entry;
+        decision.name = name;
+        decision.status = decision.folder == own.folder && name == own.name ? Model::Status::Unchanged : status;
+    }
+
+    /// The members keep the names that they have, whoever was to get those.
+    void Stay(Model::Status status, Model::Reason reason)
+    {
+        for (const std::uint32_t entry : m_members) {
+            Model::Decision& decision = m_decisions[entry];
+            decision.name = WantedName(entry);
+            decision.status = status;
+            decision.reason = reason;
+            HoldOwnName(entry);
+        }
+    }
+
+    void HoldOwnName(std::uint32_t entry)
+    {
+        const Model::Entry& own = m_list.entries[entry];
+        if (own.kind == Kind::Missing)
+            return;
+        Model::NameRecord& record = m_list.folders[own.folder].names.Add(own.name);
+        if (record.holder < Model::NewFolder && record.holder != entry)
+            m_pending.push_back(m_groups.Of(record.holder));
+        record.holder = entry;
+    }
+
+    /// Lets go of what the entry holds.
+    void Release(std::uint32_t entry)
+    {
+        Model::NameRecord* const record = Names(entry).Find(m_decisions[entry].name);
+        if (record && record->holder == entry)
+            record->holder = Model::NoEntry;
+    }
+
+    /// What was wanted before any number.
+    [[nodiscard]] Model::InternedName WantedName(std::uint32_t entry) const
+    {
+        const auto found = m_wanted.find(entry);
+        return found != m_wanted.end() ? found->second : m_decisions[entry].name;
+    }
+
+    [[nodiscard]] NumberedName NumberedNameOf(std::uint32_t entry)
+    {
+        const Model::InternedName wanted = WantedName(entry);
+        const Model::NameRecord* const record = Names(entry).Find(wanted);
+        // As the engine splits: by what stands there, where something does.
+        const bool isThere = record && record->kind != Kind::Missing;
+        const Kind kind = isThere ? record->kind : m_list.entries[entry].kind;
+        const CString& folder = m_list.folders[m_decisions[entry].folder].path;
+        return {CString::Join({folder, wanted}), kind == Kind::Folder};
+    }
+
+    /// Where the last entry that wanted the same name left off.
+    std::uint64_t& AttemptOf(std::uint32_t entry) { return m_attempts[&Names(entry).Add(WantedName(entry))]; }
+
+    /// Whether nobody has the name after the batch. An entry that stays holds its own name, so an owner without a
+    /// holder leaves.
+    static bool IsFree(const Model::NameRecord& record)
+    {
+        return record.holder == Model::NoEntry && (record.kind == Kind::Missing || record.owner != Model::NoEntry);
+    }
+
+    [[nodiscard]] Model::Reason ClashOf(const Model::NameRecord& record) const
+    {
+        const bool goesToOther = record.holder < Model::NewFolder && m_decisions[record.holder].IsRename();
+        return goesToOther ? Model::Reason::TwoToOne : Model::Reason::TargetExists;
+    }
+
+    [[nodiscard]] Model::NameTable& Names(std::uint32_t entry)
+    {
+        return m_list.folders[m_decisions[entry].folder].names;
+    }
+
+    Model::EntryList& m_list;
+    const Groups& m_groups;
+    std::vector<Model::Decision>& m_decisions;
+    const ConflictSettings& m_settings;
+    const bool m_mayNumber;
+    /// Groups to settle.
+    std::vector<std::uint32_t> m_pending;
+    /// The members that take part of the group in hand.
+    std::vector<std::uint32_t> m_members;
+    /// What the entries wanted that got a numbered name.
+    std::unordered_map<std::uint32_t, Model::InternedName> m_wanted;
+    /// The next attempt at a number, by the wanted name's record.
+    std::unordered_map<const Model::NameRecord*, std::uint64_t> m_attempts;
+};
+
+} // namespace
+
+void ResolveConflicts(Model::EntryList& list, const Groups& groups, std::vector<Model::Decision>& decisions,
+                      const ConflictSettings& settings, bool mayNumber)
+{
+    ConflictResolver(list, groups, decisions, settings, mayNumber).Run();
+}
+
+} // namespace VyrHost::Rename

@@ -1,0 +1,187 @@
+// Makes rules that edit the name there is: insert, delete, keep, case, replace, extension.
+#include <VyrHost/rename/RuleTexts.h>
+
+#include <VyrHost/rename/EditItems.h>
+#include <VyrHost/rename/LiteralText.h>
+#include <VyrHost/text/UsageError.h>
+
+#include <string>
+#include <utility>
+
+namespace VyrHost::Rename {
+
+namespace {
+
+using VyrLibraryFuncs::NameFuncs;
+
+/// The deleting operations, by the numbers of ITEM::addDeleteType.
+enum class DeleteType : int
+{
+    KeepFirst = 2,
+    KeepLast = 3,
+    FromStart = 4,
+    FromEnd = 5
+};
+
+Rules One(NameFuncs::ITEM item)
+{
+    Rules rules;
+    rules.push_back(std::make_unique<EngineRule>(std::move(item)));
+    return rules;
+}
+
+Rules DeleteRule(DeleteType type, int position, int count)
+{
+    NameFuncs::ITEM item = NewItem(RenameKind::AddDelete);
+    item.addDeleteType = static_cast<int>(type);
+    item.position = position;
+    item.deleteCount = count;
+    return One(std::move(item));
+}
+
+Rules InsertRule(InsertType type, int position, const CString& text, const char* option)
+{
+    RequireNameText(text, option);
+    if (text.IsEmpty())
+        throw Text::UsageError(std::string(option) + ": there is no text to put in");
+    return One(InsertItem(type, position, text));
+}
+
+/// A place in a name, counted from its start or, with a minus sign, from its end; and what stands behind the colon.
+struct PlacedText
+{
+    bool fromEnd;
+    int position;
+    CString text;
+};
+
+PlacedText CutPlace(const CString& text, const char* option)
+{
+    const int colon = text.Find(u":");
+    if (colon < 0)
+        Text::RefuseValue(option, text, "a place and a colon are expected in front");
+    const bool fromEnd = text[0] == u'-';
+    const CString place = fromEnd ? text.Mid(1, colon - 1) : text.Left(colon);
+    return {fromEnd, ParseNumber(place, 0, option), text.Mid(colon + 1)};
+}
+
+int ParseCount(const CString& text, const char* option)
+{
+    return ParseNumber(text, 1, option);
+}
+
+Rules ExtensionRule(int type)
+{
+    NameFuncs::ITEM item = NewItem(RenameKind::Extension);
+    item.extensionType = type;
+    return One(std::move(item));
+}
+
+} // namespace
+
+NameFuncs::ITEM InsertItem(InsertType type, int position, std::u16string_view text)
+{
+    NameFuncs::ITEM item = NewItem(RenameKind::AddDelete);
+    item.addDeleteType = static_cast<int>(type);
+    item.position = position;
+    item.addText = text;
+    return item;
+}
+
+Rules InsertRules(const CString& text)
+{
+    const PlacedText placed = CutPlace(text, "--insert");
+    return InsertRule(placed.fromEnd ? InsertType::FromEnd : InsertType::FromStart, placed.position, placed.text,
+                      "--insert");
+}
+
+Rules PrefixRules(const CString& text)
+{
+    return InsertRule(InsertType::FromStart, 0, text, "--prefix");
+}
+
+Rules SuffixRules(const CString& text)
+{
+    return InsertRule(InsertType::FromEnd, 0, text, "--suffix");
+}
+
+Rules DeleteRules(const CString& text)
+{
+    const PlacedText placed = CutPlace(text, "--delete");
+    return DeleteRule(placed.fromEnd ? DeleteType::FromEnd : DeleteType::FromStart, placed.position,
+                      ParseCount(placed.text, "--delete"));
+}
+
+Rules DeleteFirstRules(const CString& text)
+{
+    return DeleteRule(DeleteType::FromStart, 0, ParseCount(text, "--delete-first"));
+}
+
+Rules DeleteLastRules(const CString& text)
+{
+    return DeleteRule(DeleteType::FromEnd, 0, ParseCount(text, "--delete-last"));
+}
+
+Rules KeepFirstRules(const CString& text)
+{
+    return DeleteRule(DeleteType::KeepFirst, ParseNumber(text, 0, "--keep-first"), 0);
+}
+
+Rules KeepLastRules(const CString& text)
+{
+    return DeleteRule(DeleteType::KeepLast, ParseNumber(text, 0, "--keep-last"), 0);
+}
+
+Rules CaseRules(const CString& text)
+{
+    NameFuncs::ITEM item = NewItem(RenameKind::Convert);
+    if (text == u"first")
+        item.convertType = 0;
+    else if (text == u"upper")
+        item.convertType = 1;
+    else if (text == u"lower")
+        item.convertType = 2;
+    else
+        Text::RefuseValue("--case", text, "first, upper or lower is expected");
+    return One(std::move(item));
+}
+
+Rules ReplaceRules(const CString& find, const CString& replacement)
+{
+    RequireNameText(replacement, "--replace");
+    if (find.IsEmpty())
+        throw Text::UsageError("--replace: there is no text to look for");
+    NameFuncs::ITEM item = NewItem(RenameKind::Replace);
+    item.findText = find;
+    item.replaceText = replacement;
+    return One(std::move(item));
+}
+
+Rules ExtensionRules(const CString& text)
+{
+    RequireNameText(text, "--extension");
+    const CString extension = text.Find(u".") == 0 ? text.Mid(1) : text;
+    if (extension.IsEmpty())
+        throw Text::UsageError("--extension: there is no extension; --drop-extension takes the old one away");
+    NameFuncs::ITEM item = NewItem(RenameKind::Extension);
+    item.extensionType = 2;
+    item.newExtension = extension;
+    return One(std::move(item));
+}
+
+Rules ExtensionCaseRules(const CString& text)
+{
+    if (text == u"upper")
+        return ExtensionRule(0);
+    if (text == u"lower")
+        return ExtensionRule(1);
+    Text::RefuseValue("--extension-case", text, "upper or lower is expected");
+}
+
+Rules DropExtensionRules()
+{
+    constexpr int NoExtension = 3;
+    return ExtensionRule(NoExtension);
+}
+
+} // namespace VyrHost::Rename

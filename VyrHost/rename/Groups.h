@@ -1,0 +1,41 @@
+/// @file
+/// Entries that keep together: the raw file, the picture and the sidecar of one shot.
+#pragma once
+
+#include <VyrHost/model/EntryList.h>
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace VyrHost::Rename {
+
+/// Parts a list into groups. Groups are in the order of their first entries, entries of a group in the order of the
+/// list.
+class Groups
+{
+public:
+    /// Each entry is a group of its own.
+    [[nodiscard]] static Groups OfOne(const Model::EntryList& list);
+    /// The files of one folder whose names differ in their extensions alone are a group.
+    [[nodiscard]] static Groups ByStem(const Model::EntryList& list);
+
+    [[nodiscard]] std::size_t Count() const { return m_begins.size() - 1; }
+    [[nodiscard]] std::span<const std::uint32_t> Members(std::size_t group) const
+    {
+        return std::span(m_members).subspan(m_begins[group], m_begins[group + 1] - m_begins[group]);
+    }
+    /// The group of an entry.
+    [[nodiscard]] std::uint32_t Of(std::uint32_t entry) const { return m_groups[entry]; }
+
+private:
+    /// From the group of each entry, numbered in the order of first entries.
+    Groups(std::vector<std::uint32_t> groups, std::uint32_t count);
+
+    std::vector<std::uint32_t> m_groups;
+    std::vector<std::uint32_t> m_members;
+    /// Where the members of each group begin, and the end.
+    std::vector<std::uint32_t> m_begins;
+};
+
+} // namespace VyrHost::Rename

@@ -1,0 +1,30 @@
+/// @file
+/// The names that numbering makes of one name.
+#pragma once
+
+#include <VyrLibraryFuncs/name/NameFuncs.h>
+#include <VyrPlatform/text/CString.h>
+
+#include <cstdint>
+
+namespace VyrHost::Rename {
+
+/// Numbers one name as the engine's conflict resolution does.
+class NumberedName
+{
+public:
+    /// `path` is the name with its folder; a folder's name is numbered at its end, a file's before its extension.
+    NumberedName(const CString& path, bool isFolder);
+
+    /// The name with the number of the attempt `attempt` (from 0).
+    [[nodiscard]] CString With(const VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering, std::uint64_t attempt) const;
+
+private:
+    CString m_stem;
+    CString m_extension;
+};
+
+/// How many attempts there are before the first number comes again: numbers wrap in 32 bits. `step` is not 0.
+[[nodiscard]] std::uint64_t CountNumbers(int step);
+
+} // namespace VyrHost::Rename

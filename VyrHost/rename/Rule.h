@@ -1,0 +1,54 @@
+/// @file
+/// A rule: what it works on, and what it may answer.
+#pragma once
+
+#include <VyrPlatform/text/CString.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace VyrHost::Rename {
+
+/// One entry while the rules work on it, one after the other.
+struct Subject
+{
+    /// Where the entry is now: the source of its dates and picture data. Absolute.
+    CString path;
+    bool isFolder = false;
+    /// The place that counts for sequence numbers, from 0.
+    int index = 0;
+
+    /// What the rules have made of it so far. The folder ends in its separator, the extension begins with its dot.
+    CString folder;
+    CString name;
+    CString extension;
+
+    /// How late among the dates asked for the one stands that a rule took: 0 for the first, the highest of all rules.
+    std::size_t dateRank = 0;
+};
+
+/// Why a rule has no name for an entry.
+enum class RuleFault : std::uint8_t
+{
+    None,
+    /// None of the dates that were asked for exists.
+    NoDate,
+    /// A folder to move into would be named "", "." or "..".
+    NamelessFolder
+};
+
+class Rule
+{
+public:
+    virtual ~Rule() = default;
+    /// Changes the subject's folder, name and extension. After a fault they are not to be used.
+    virtual RuleFault Apply(Subject& subject) = 0;
+    /// Whether names that clash under this rule are to be numbered.
+    [[nodiscard]] virtual bool MayNumber() const = 0;
+};
+
+using Rules = std::vector<std::unique_ptr<Rule>>;
+
+} // namespace VyrHost::Rename

@@ -1,0 +1,123 @@
+// Runs the rules over one group of entries after the other.
+#include <VyrHost/rename/RuleNames.h>
+
+#include <algorithm>
+
+namespace VyrHost::Rename {
+
+namespace {
+
+using VyrPlatform::FileSystem::Kind;
+
+Model::Reason ReasonOf(RuleFault fault)
+{
+    switch (fault) {
+    case RuleFault::NoDate:
+        return Model::Reason::NoDate;
+    case RuleFault::NamelessFolder:
+        return Model::Reason::NamelessFolder;
+    case RuleFault::None:
+        break;
+    }
+    return Model::Reason::None;
+}
+
+} // namespace
+
+bool RuleNames::MayNumber() const
+{
+    return std::any_of(m_rules.begin(), m_rules.end(), [](const auto& rule) { return rule->MayNumber(); });
+}
+
+void RuleNames::Name(const Model::EntryList& list, std::span<const std::uint32_t> members,
+                     std::vector<WantedName>& names)
+{
+    const int index = TakeIndex(list.entries[members.front()].folder);
+    names.resize(members.size());
+    if (members.size() == 1)
+        NameOne(list, list.entries[members.front()], index, names.front());
+    else
+        NameTogether(list, members, index, names);
+}
+
+void RuleNames::NameOne(const Model::EntryList& list, const Model::Entry& entry, int index, WantedName& name)
+{
+    name.reason = ReasonOf(Run(list, entry, index, entry));
+    if (name.reason == Model::Reason::None)
+        name = Wanted(list, entry);
+}
+
+void RuleNames::NameTogether(const Model::EntryList& list, std::span<const std::uint32_t> members, int index,
+                             std::vector<WantedName>& names)
+{
+    const Model::Entry* leader = nullptr;
+    Subject made;
+    for (std::size_t place = 0; place < members.size() && (!leader || made.dateRank > 0); ++place) {
+        const Model::Entry& entry = list.entries[members[place]];
+        names[place].reason = ReasonOf(Run(list, entry, index, entry));
+        if (names[place].reason == Model::Reason::None && (!leader || m_subject.dateRank < made.dateRank)) {
+            leader = &entry;
+            made = m_subject;
+        }
+    }
+    if (!leader)
+        return;
+    for (std::size_t place = 0; place < members.size(); ++place) {
+        const Model::Entry& entry = list.entries[members[place]];
+        if (&entry != leader) {
+            // Its own extension under the rules, all else from the first.
+            (void)Run(list, entry, index, *leader);
+            m_subject.folder = made.folder;
+            m_subject.name = made.name;
+        } else {
+            m_subject = made;
+        }
+        names[place] = Wanted(list, entry);
+    }
+}
+
+int RuleNames::TakeIndex(std::uint32_t folder)
+{
+    const std::size_t counter = m_counting == Counting::EachFolder ? folder : 0;
+    if (counter >= m_next.size())
+        m_next.resize(counter + 1);
+    return m_next[counter]++;
+}
+
+/// @param dated  whose dates and picture data count.
+RuleFault RuleNames::Run(const Model::EntryList& list, const Model::Entry& entry, int index, const Model::Entry& dated)
+{
+    m_subject.folder = list.folders[entry.folder].path;
+    m_subject.path = list.PathOf(entry);
+    Model::SplitName split = Model::Split(m_subject.path, entry);
+    m_subject.name.Swap(split.name);
+    m_subject.extension.Swap(split.extension);
+    if (&dated != &entry)
+        m_subject.path = list.PathOf(dated);
+    m_workingFolder.Enter(list.folders[dated.folder].path);
+    m_subject.isFolder = entry.kind == Kind::Folder;
+    m_subject.index = index;
+    m_subject.dateRank = 0;
+    for (const auto& rule : m_rules)
+        if (const RuleFault fault = rule->Apply(m_subject); fault != RuleFault::None)
+            return fault;
+    return RuleFault::None;
+}
+
+WantedName RuleNames::Wanted(const Model::EntryList& list, const Model::Entry& entry) const
+{
+    WantedName wanted;
+    if (m_subject.name.IsEmpty()) {
+        wanted.reason = Model::Reason::EmptyName;
+        return wanted;
+    }
+    const Model::Folder& now = list.folders[entry.folder];
+    wanted.folder = m_subject.folder;
+    wanted.shownFolder = now.shown;
+    if (wanted.folder != now.path)
+        wanted.shownFolder = now.shown + m_subject.folder.Mid(now.path.GetLength());
+    wanted.name = m_subject.name + m_subject.extension;
+    return wanted;
+}
+
+} // namespace VyrHost::Rename

@@ -1,0 +1,51 @@
+/// @file
+/// New names that rules make.
+#pragma once
+
+#include <VyrHost/rename/NameSource.h>
+#include <VyrHost/rename/Rule.h>
+#include <VyrPlatform/files/WorkingFolder.h>
+
+#include <vector>
+
+namespace VyrHost::Rename {
+
+/// Which entries sequence numbers count.
+enum class Counting : std::uint8_t
+{
+    WholeList,
+    /// Starts anew in each folder.
+    EachFolder
+};
+
+/// Runs rules over entries. Entries that keep together get one number and one new name before the extension: that of
+/// the first of them for which the rules have one, whose dates and picture data count for all. Where several dates may
+/// serve, one that has an earlier of them goes before it, so that a picture decides for its sidecar.
+class RuleNames : public NameSource
+{
+public:
+    RuleNames(const Rules& rules, Counting counting) : m_rules(rules), m_counting(counting) {}
+
+    void Name(const Model::EntryList& list, std::span<const std::uint32_t> members,
+              std::vector<WantedName>& names) override;
+    [[nodiscard]] bool MayNumber() const override;
+
+private:
+    [[nodiscard]] int TakeIndex(std::uint32_t folder);
+    void NameOne(const Model::EntryList& list, const Model::Entry& entry, int index, WantedName& name);
+    /// One stem for all, from the first that has a date of the best source.
+    void NameTogether(const Model::EntryList& list, std::span<const std::uint32_t> members, int index,
+                      std::vector<WantedName>& names);
+    RuleFault Run(const Model::EntryList& list, const Model::Entry& entry, int index, const Model::Entry& dated);
+    WantedName Wanted(const Model::EntryList& list, const Model::Entry& entry) const;
+
+    const Rules& m_rules;
+    const Counting m_counting;
+    /// By folder; the whole list counts as the folder 0.
+    std::vector<int> m_next;
+    Subject m_subject;
+    /// Where the files are that dates and picture data come from.
+    VyrPlatform::WorkingFolder m_workingFolder;
+};
+
+} // namespace VyrHost::Rename

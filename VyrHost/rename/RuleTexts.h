@@ -1,0 +1,58 @@
+/// @file
+/// Makes rules of the texts in which users write them. Each throws UsageError for a text that makes no sense.
+#pragma once
+
+#include <VyrHost/rename/DateRule.h>
+#include <VyrHost/rename/Rule.h>
+
+#include <optional>
+#include <vector>
+
+namespace VyrHost::Rename {
+
+/// Settings of a sequence number beside its template.
+struct NumberSettings
+{
+    /// 1 when not given.
+    std::optional<int> start;
+    /// 1 when not given.
+    std::optional<int> step;
+    /// The least width; the template's when not given.
+    std::optional<int> digits;
+};
+
+/// A run of "#" (as wide as the number at least), or "<Number>", is the number; "<Name>" is the name so far, which goes
+/// when it is not there; all else stands as it is. The rule throws UsageError where a number would not be an int.
+[[nodiscard]] Rules NumberRules(const CString& text, const NumberSettings& settings);
+
+/// A date format in which "<Name>", the name so far, may stand once.
+[[nodiscard]] Rules DateRules(const CString& text, const std::vector<DateSource>& sources);
+
+/// "PLACE:TEXT" puts TEXT in: PLACE counts from the start, with a minus sign from the end ("-0" is the end).
+[[nodiscard]] Rules InsertRules(const CString& text);
+[[nodiscard]] Rules PrefixRules(const CString& text);
+[[nodiscard]] Rules SuffixRules(const CString& text);
+/// "PLACE:COUNT" deletes COUNT characters from PLACE on; with a minus sign those that end there.
+[[nodiscard]] Rules DeleteRules(const CString& text);
+/// A count of characters.
+[[nodiscard]] Rules DeleteFirstRules(const CString& text);
+[[nodiscard]] Rules DeleteLastRules(const CString& text);
+[[nodiscard]] Rules KeepFirstRules(const CString& text);
+[[nodiscard]] Rules KeepLastRules(const CString& text);
+
+/// "first", "upper" or "lower".
+[[nodiscard]] Rules CaseRules(const CString& text);
+[[nodiscard]] Rules ReplaceRules(const CString& find, const CString& replacement);
+
+/// An extension, with or without its dot.
+[[nodiscard]] Rules ExtensionRules(const CString& text);
+/// "upper" or "lower".
+[[nodiscard]] Rules ExtensionCaseRules(const CString& text);
+[[nodiscard]] Rules DropExtensionRules();
+
+/// The dates named in "picture,modified" and the like, in that order.
+[[nodiscard]] std::vector<DateSource> ParseDateSources(const CString& text);
+/// A whole number in decimal, from `least` on. `what` names it in the message.
+[[nodiscard]] int ParseNumber(const CString& text, int least, const char* what);
+
+} // namespace VyrHost::Rename

@@ -1,0 +1,47 @@
+/// @file
+/// The folders that entries move into.
+#pragma once
+
+#include <VyrHost/model/Decision.h>
+#include <VyrHost/model/EntryList.h>
+
+#include <cstdint>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+namespace VyrHost::Rename {
+
+/// Opens folders to move into; those that are not there yet count as folders that the batch makes, and hold their
+/// names.
+class TargetFolders
+{
+public:
+    explicit TargetFolders(Model::FolderSet& folders) : m_folders(folders) {}
+
+    struct Target
+    {
+        std::uint32_t folder = 0;
+        /// Why nothing can be moved there.
+        Model::Reason reason = Model::Reason::None;
+        /// What a folder that is to be made would be in trouble for on Windows.
+        VyrHostPlatform::NameFault warning = VyrHostPlatform::NameFault::None;
+        /// The file system that the folder is on, or will be.
+        std::optional<std::uint64_t> device = std::nullopt;
+    };
+
+    /// The folder `path` (absolute, its separator at the end).
+    Target Open(const CString& path, const CString& shown);
+
+private:
+    [[nodiscard]] Target Claim(std::uint32_t number);
+
+    Model::FolderSet& m_folders;
+    /// What was found for each folder.
+    std::unordered_map<std::uint32_t, Target> m_targets;
+};
+
+/// The folders to make, each parent before what stands in it, for what `decisions` move.
+[[nodiscard]] std::vector<CString> FoldersToMake(Model::EntryList& list, const std::vector<Model::Decision>& decisions);
+
+} // namespace VyrHost::Rename

@@ -1,0 +1,147 @@
+// Escapes and measures names character by character.
+#include <VyrHost/text/SafeText.h>
+
+#include <VyrHost/text/CharacterWidth.h>
+#include <VyrHost/text/UnitEscape.h>
+#include <VyrPlatform/text/Encoding.h>
+#include <VyrPlatform/text/Surrogates.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace VyrHost::Text {
+
+namespace {
+
+constexpr char16_t Ellipsis[] = u"…";
+
+/// Whether `text` is printable ASCII throughout.
+bool IsAllPlain(std::u16string_view text)
+{
+    unsigned others = 0;
+    for (const char16_t unit : text)
+        others |= static_cast<unsigned>(unit < u' ' || unit >= 0x7F);
+    return others == 0;
+}
+
+/// Whether a terminal would do something else than draw `character`.
+bool ActsOnTerminal(char32_t character)
+{
+    const bool isControl = character < 0x20 || (character >= 0x7F && character < 0xA0);
+    const bool turnsDirection = character == 0x061C || character == 0x200E || character == 0x200F ||
+                                (character >= 0x2028 && character <= 0x202E) ||
+                                (character >= 0x2066 && character <= 0x2069);
+    const bool isHalf = character < 0x10000 && VyrPlatform::IsSurrogate(static_cast<char16_t>(character));
+    return isControl || turnsDirection || isHalf || character == 0xFEFF;
+}
+
+std::string Escape(char32_t character)
+{
+    switch (character) {
+    case U'\n':
+        return "\\n";
+    case U'\r':
+        return "\\r";
+    case U'\t':
+        return "\\t";
+    default:
+        break;
+    }
+    std::string escape;
+    AppendUnitEscape(escape, static_cast<char16_t>(character));
+    return character < 0x100 ? "\\x" + escape.substr(UnitEscapeLength - 2) : escape;
+}
+
+/// A character as it is shown.
+struct Glyph
+{
+    std::u16string_view units;
+    char32_t character;
+    int width;
+};
+
+Glyph TakeGlyph(std::u16string_view& text)
+{
+    const std::u16string_view before = text;
+    const char32_t character = VyrPlatform::TakeCharacter(text);
+    const int width =
+        ActsOnTerminal(character) ? static_cast<int>(Escape(character).size()) : CharacterWidth(character);
+    return {before.substr(0, before.size() - text.size()), character, width};
+}
+
+void Append(std::string& shown, const Glyph& glyph)
+{
+    if (ActsOnTerminal(glyph.character))
+        shown += Escape(glyph.character);
+    else
+        VyrPlatform::Encoding::AppendUtf8(shown, glyph.units);
+}
+
+/// How many of `glyphs`, taken in order, fit into `width`.
+template <class Iterator>
+std::ptrdiff_t CountFitting(Iterator begin, Iterator end, int width)
+{
+    std::ptrdiff_t count = 0;
+    for (Iterator glyph = begin; glyph != end && glyph->width <= width; ++glyph, ++count)
+        width -= glyph->width;
+    return count;
+}
+
+} // namespace
+
+void AppendSafeText(std::string& line, std::u16string_view text)
+{
+    if (IsAllPlain(text)) {
+        const std::size_t before = line.size();
+        line.resize(before + text.size());
+        std::transform(text.begin(), text.end(), line.begin() + static_cast<std::ptrdiff_t>(before),
+                       [](char16_t unit) { return static_cast<char>(unit); });
+        return;
+    }
+    while (!text.empty())
+        Append(line, TakeGlyph(text));
+}
+
+std::string SafeText(std::u16string_view text)
+{
+    std::string shown;
+    AppendSafeText(shown, text);
+    return shown;
+}
+
+int SafeWidth(std::u16string_view text)
+{
+    if (IsAllPlain(text))
+        return static_cast<int>(text.size());
+    int width = 0;
+    while (!text.empty())
+        width += TakeGlyph(text).width;
+    return width;
+}
+
+std::string FittedText(std::u16string_view text, int width)
+{
+    if (const int left = width - SafeWidth(text); left >= 0)
+        return SafeText(text).append(static_cast<std::size_t>(left), ' ');
+    std::vector<Glyph> glyphs;
+    while (!text.empty())
+        glyphs.push_back(TakeGlyph(text));
+    int left = std::max(width - 1, 0);
+    const auto front = glyphs.begin() + CountFitting(glyphs.begin(), glyphs.end(), (left + 1) / 2);
+    auto back = glyphs.end() - CountFitting(glyphs.rbegin(), glyphs.rend(), left / 2);
+    // What is drawn over a character that is cut off goes with it.
+    while (back != glyphs.end() && back->width == 0)
+        ++back;
+    std::string shown;
+    const auto append = [&shown, &left](const Glyph& glyph) {
+        Append(shown, glyph);
+        left -= glyph.width;
+    };
+    std::for_each(glyphs.begin(), front, append);
+    if (width > 0)
+        shown += VyrPlatform::Encoding::ToUtf8(Ellipsis);
+    std::for_each(back, glyphs.end(), append);
+    return shown.append(static_cast<std::size_t>(left), ' ');
+}
+
+} // namespace VyrHost::Text

@@ -1,0 +1,15 @@
+// Writes collected text to the standard output.
+#include <VyrHost/ui/OutputBuffer.h>
+
+#include <VyrHostPlatform/Console.h>
+
+namespace VyrHost::Ui {
+
+void OutputBuffer::Flush()
+{
+    if (!m_text.empty() && !m_hasFailed)
+        m_hasFailed = !VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Output, m_text);
+    m_text.clear();
+}
+
+} // namespace VyrHost::Ui

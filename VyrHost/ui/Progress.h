@@ -1,0 +1,36 @@
+/// @file
+/// The progress of a long work, on a terminal alone.
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <string>
+
+namespace VyrHost::Ui {
+
+/// Shows how far a work is in a line of the error stream, from half a second on and a few times a second. Shows nothing
+/// where that is no terminal, or when it is told to be silent. The line is gone at the end.
+class Progress
+{
+public:
+    /// `what` is done with `total` entries.
+    Progress(std::string what, std::size_t total, bool isSilent);
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+    ~Progress();
+
+    void Show(std::size_t done);
+    /// Takes the line away; others may write now.
+    void Close();
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    const std::string m_what;
+    const std::size_t m_total;
+    const bool m_isShown;
+    Clock::time_point m_next;
+    bool m_hasLine = false;
+};
+
+} // namespace VyrHost::Ui

@@ -1,0 +1,147 @@
+// Tests of the listings of folders: in natural order, with every name that the disk tells apart.
+#include <VyrHost/model/FolderSet.h>
+
+#include <VyrPlatform/files/FileSystem.h>
+
+#include <gtest/gtest.h>
+#include <tests/VyrHost/collect/ListedNames.h>
+#include <tests/VyrHost/model/NaturalKey.h>
+#include <tests/support/Describe.h>
+#include <tests/support/ScratchFolder.h>
+
+#include <algorithm>
+#include <iterator>
+#include <random>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace VyrHost::Model;
+using namespace VyrTests;
+using VyrPlatform::FileSystem::Kind;
+
+CString WithSeparator(const CString& path)
+{
+    return path + CString(VyrPlatform::FileSystem::Separator(), 1);
+}
+
+TEST(FolderSet, ListsAFolderInNaturalOrder)
+{
+    constexpr char16_t units[] = {u'0', u'0', u'1', u'2', u'9', u'a', u'b', u'z', u'-', u'~', u'.', u' ', u'\u00E9'};
+    std::mt19937 random(17);
+    for (const std::u16string start : {u"", u"img-00", u"9"}) {
+        const ScratchFolder scratch;
+        std::set<std::u16string> made;
+        while (made.size() < 200) {
+            std::u16string name = start;
+            for (std::size_t length = 1 + random() % 9; length > 0; --length)
+                name += units[random() % std::size(units)];
+            // Windows takes no name that ends in a dot or a space.
+            name += u'x';
+            if (!made.insert(name).second)
+                continue;
+            if (made.size() % 5 == 0)
+                scratch.MakeFolder(name);
+            else
+                scratch.WriteFile(name);
+        }
+        std::vector<std::u16string> expected(made.begin(), made.end());
+        std::sort(expected.begin(), expected.end(),
+                  [](const auto& left, const auto& right) { return NaturalKey(left) < NaturalKey(right); });
+        FolderSet folders;
+        const Folder& folder = folders[folders.Open(WithSeparator(scratch.Path()), u"shown/")];
+        EXPECT_EQ(NamesIn(folder), expected);
+    }
+}
+
+TEST(FolderSet, ListsNumbersThatAreAlikeByTheirUnits)
+{
+    const ScratchFolder scratch;
+    for (const char16_t* const name : {u"10", u"9", u"010", u"1", u"01", u"001", u"0", u"00", u"2a", u"02b", u"2"})
+        scratch.WriteFile(name);
+    FolderSet folders;
+    EXPECT_EQ(
+        NamesIn(folders[folders.Open(WithSeparator(scratch.Path()), u"")]),
+        (std::vector<std::u16string>{u"0", u"00", u"001", u"01", u"1", u"2", u"2a", u"02b", u"9", u"010", u"10"}));
+}
+
+TEST(FolderSet, HasBothOfTwoNamesThatDifferInTheirNormalForm)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"\u00E9t\u00E9.jpg");
+    scratch.WriteFile(u"e\u0301te\u0301.jpg");
+    FolderSet folders;
+    Folder& folder = folders[folders.Open(WithSeparator(scratch.Path()), u"")];
+    EXPECT_EQ(NamesIn(folder), (std::vector<std::u16string>{u"e\u0301te\u0301.jpg", u"\u00E9t\u00E9.jpg"}));
+    EXPECT_NE(folder.names.Find(u"\u00E9t\u00E9.jpg"), folder.names.Find(u"e\u0301te\u0301.jpg"));
+    EXPECT_EQ(folder.names.Find(u"\u00E9te\u0301.jpg"), nullptr);
+}
+
+TEST(FolderSet, TellsWhatStandsUnderEachName)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"file");
+    scratch.MakeFolder(u"folder");
+    FolderSet folders;
+    const std::uint32_t number = folders.Open(WithSeparator(scratch.Path()), u"shown/");
+    Folder& folder = folders[number];
+    EXPECT_EQ(folder.path, WithSeparator(scratch.Path()));
+    EXPECT_EQ(folder.shown, u"shown/");
+    EXPECT_TRUE(folder.exists);
+    EXPECT_EQ(folder.error, 0u);
+    ASSERT_NE(folder.names.Find(u"file"), nullptr);
+    EXPECT_EQ(folder.names.Find(u"file")->kind, Kind::File);
+    EXPECT_EQ(folder.names.Find(u"file")->owner, NoEntry);
+    EXPECT_EQ(folder.names.Find(u"file")->holder, NoEntry);
+    ASSERT_NE(folder.names.Find(u"folder"), nullptr);
+    EXPECT_EQ(folder.names.Find(u"folder")->kind, Kind::Folder);
+    // What is added stands behind.
+    folder.names.Add(folders.Intern(u"a"));
+    EXPECT_EQ(NamesIn(folder), (std::vector<std::u16string>{u"file", u"folder", u"a"}));
+}
+
+TEST(FolderSet, ListsAFolderOnceWhateverItsPath)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"inner/first");
+    FolderSet folders;
+    const CString path = WithSeparator(scratch.Path(u"inner"));
+    const std::uint32_t number = folders.Open(path, u"inner/");
+    scratch.WriteFile(u"inner/second");
+    EXPECT_EQ(folders.Open(path, u"other/"), number);
+    EXPECT_EQ(folders.Open(WithSeparator(scratch.Path()) + WithSeparator(u".") + WithSeparator(u"inner"), u""), number);
+    EXPECT_EQ(folders.Count(), 1u);
+    EXPECT_EQ(folders[number].path, path);
+    EXPECT_EQ(folders[number].shown, u"inner/");
+    EXPECT_EQ(NamesIn(folders[number]), std::vector<std::u16string>{u"first"});
+}
+
+TEST(FolderSet, KeepsFoldersWhereTheyAreWhenMoreAreOpened)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"name");
+    FolderSet folders;
+    const Folder& first = folders[folders.Open(WithSeparator(scratch.Path()), u"")];
+    for (int number = 0; number < 300; ++number) {
+        CString name;
+        name.Format(u"%d", number);
+        EXPECT_EQ(folders.Open(WithSeparator(scratch.MakeFolder(name)), u""), static_cast<std::uint32_t>(number) + 1);
+    }
+    EXPECT_EQ(folders.Count(), 301u);
+    EXPECT_EQ(&folders[0], &first);
+    EXPECT_EQ(NamesIn(first), std::vector<std::u16string>{u"name"});
+}
+
+TEST(FolderSet, TakesAFolderThatIsNotThereForEmpty)
+{
+    const ScratchFolder scratch;
+    FolderSet folders;
+    const Folder& folder = folders[folders.Open(WithSeparator(scratch.Path(u"missing")), u"missing/")];
+    EXPECT_FALSE(folder.exists);
+    EXPECT_TRUE(folder.names.Records().empty());
+    EXPECT_EQ(folder.path, WithSeparator(scratch.Path(u"missing")));
+}
+
+} // namespace

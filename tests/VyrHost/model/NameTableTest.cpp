@@ -1,0 +1,190 @@
+// Tests of the table of a folder's names.
+#include <VyrHost/model/NameTable.h>
+
+#include <VyrHost/model/NamePool.h>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <iterator>
+#include <map>
+#include <random>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+using namespace VyrHost::Model;
+using VyrHostPlatform::NameFolding;
+
+namespace {
+
+constexpr NameFolding Foldings[] = {NameFolding::None, NameFolding::Case, NameFolding::Form, NameFolding::CaseAndForm};
+
+/// A piece of a name, and what it is for each of the foldings: equal numbers are one to the folder.
+struct Piece
+{
+    std::u16string_view text;
+    std::array<char, 4> kinds;
+};
+
+// A letter with its accent, in one code point and in two, small and capital.
+constexpr Piece Pieces[] = {
+    {u"a", {1, 1, 1, 1}},       {u"A", {2, 1, 2, 1}},       {u"\u00E9", {3, 3, 3, 3}}, {u"\u00C9", {4, 3, 4, 3}},
+    {u"e\u0301", {5, 5, 3, 3}}, {u"E\u0301", {6, 5, 4, 3}}, {u".", {7, 7, 7, 7}},      {u"1", {8, 8, 8, 8}},
+};
+
+/// A name of some of these, and its key for a folding.
+struct Made
+{
+    std::u16string name;
+    std::string key;
+};
+
+Made MakeName(std::mt19937& random, NameFolding folding)
+{
+    Made made;
+    for (std::size_t length = 1 + random() % 5; length > 0; --length) {
+        const Piece& piece = Pieces[random() % std::size(Pieces)];
+        made.name += piece.text;
+        made.key += piece.kinds[static_cast<std::size_t>(folding)];
+    }
+    return made;
+}
+
+} // namespace
+
+TEST(NameTable, HasNothingAtFirst)
+{
+    for (const NameFolding folding : Foldings) {
+        NameTable table;
+        EXPECT_EQ(table.Folding(), NameFolding::None);
+        table.SetFolding(folding);
+        EXPECT_EQ(table.Folding(), folding);
+        for (const std::u16string_view name : {u"", u"a", u"\u00E9"}) {
+            table.Expect(name);
+            EXPECT_EQ(table.Find(name), nullptr);
+            EXPECT_EQ(std::as_const(table).Find(name), nullptr);
+        }
+        EXPECT_TRUE(table.Records().empty());
+    }
+}
+
+TEST(NameTable, FindsWhatItsFolderTakesForTheSameName)
+{
+    for (const NameFolding folding : Foldings)
+        for (const Piece& left : Pieces)
+            for (const Piece& right : Pieces) {
+                NamePool texts;
+                NameTable table;
+                table.SetFolding(folding);
+                NameRecord& first = table.Add(texts.Intern(left.text));
+                const auto kind = static_cast<std::size_t>(folding);
+                const bool isOne = left.kinds[kind] == right.kinds[kind];
+                table.Expect(right.text);
+                EXPECT_EQ(table.Find(right.text), isOne ? &first : nullptr);
+                EXPECT_EQ(&table.Add(texts.Intern(right.text)) == &first, isOne);
+                EXPECT_EQ(table.Records().size(), isOne ? 1u : 2u);
+                EXPECT_EQ(first.name.View(), left.text);
+                EXPECT_EQ(table.Find(left.text), &first);
+            }
+}
+
+TEST(NameTable, KeepsTheFirstOfNamesThatAreOne)
+{
+    NamePool texts;
+    NameTable table;
+    table.SetFolding(NameFolding::CaseAndForm);
+    NameRecord& first = table.Add(texts.Intern(u"\u00C9t\u00E9.JPG"));
+    first.owner = 3;
+    first.kind = VyrPlatform::FileSystem::Kind::Folder;
+    NameRecord& again = table.Add(texts.Intern(u"e\u0301te\u0301.jpg"));
+    EXPECT_EQ(&again, &first);
+    EXPECT_EQ(again.name.View(), u"\u00C9t\u00E9.JPG");
+    EXPECT_EQ(again.owner, 3u);
+    EXPECT_EQ(again.kind, VyrPlatform::FileSystem::Kind::Folder);
+    EXPECT_EQ(table.Records().size(), 1u);
+}
+
+TEST(NameTable, IsAMapOfNamesAsItsFolderComparesThem)
+{
+    for (const NameFolding folding : Foldings)
+        for (unsigned seed = 0; seed < 5; ++seed) {
+            std::mt19937 random(seed);
+            NamePool texts;
+            NameTable table;
+            table.SetFolding(folding);
+            std::map<std::string, NameRecord*> expected;
+            std::vector<std::u16string> order;
+            for (int round = 0; round < 4000; ++round) {
+                const Made made = MakeName(random, folding);
+                if (round % 3 == 0)
+                    table.Expect(made.name);
+                if (round % 500 == 0)
+                    table.Reserve(random() % 5000);
+                const auto at = expected.find(made.key);
+                ASSERT_EQ(table.Find(made.name), at == expected.end() ? nullptr : at->second);
+                if (random() % 2)
+                    continue;
+                NameRecord& record = table.Add(texts.Intern(made.name));
+                if (expected.try_emplace(made.key, &record).second)
+                    order.push_back(made.name);
+                ASSERT_EQ(&record, expected[made.key]);
+            }
+            // References stayed good, and the records stand in their order.
+            ASSERT_EQ(table.Records().size(), order.size());
+            for (std::size_t place = 0; place < order.size(); ++place) {
+                EXPECT_EQ(table.Records()[place].name.View(), order[place]);
+                EXPECT_EQ(table.Find(order[place]), &table.Records()[place]);
+                EXPECT_EQ(std::as_const(table).Find(order[place]), &table.Records()[place]);
+            }
+        }
+}
+
+TEST(NameTable, HoldsTheSameWheneverRoomIsMade)
+{
+    for (const NameFolding folding : Foldings)
+        for (const std::size_t room : {0u, 1u, 8u, 15u, 16u, 17u, 3000u}) {
+            NamePool texts;
+            NameTable table;
+            table.SetFolding(folding);
+            table.Reserve(room);
+            std::vector<NameRecord*> records;
+            for (int number = 0; number < 1000; ++number) {
+                const std::string digits = std::to_string(number);
+                if (number == 500)
+                    table.Reserve(room);
+                records.push_back(&table.Add(texts.Intern(u"n\u00E9" + std::u16string(digits.begin(), digits.end()))));
+            }
+            table.Reserve(0);
+            for (int number = 0; number < 1000; ++number) {
+                const std::string digits = std::to_string(number);
+                EXPECT_EQ(table.Find(u"n\u00E9" + std::u16string(digits.begin(), digits.end())),
+                          records[static_cast<std::size_t>(number)]);
+            }
+            EXPECT_EQ(table.Records().size(), 1000u);
+        }
+}
+
+TEST(NameTable, FindsEveryNameAmongManyAndNoOther)
+{
+    constexpr std::uint32_t Count = 20000;
+    NamePool texts;
+    NameTable table;
+    const auto nameOf = [](std::uint32_t number) {
+        const std::string digits = std::to_string(number);
+        return u"name " + std::u16string(digits.begin(), digits.end());
+    };
+    EXPECT_EQ(table.Find(nameOf(0)), nullptr);
+    for (std::uint32_t number = 0; number < Count; ++number)
+        table.Add(texts.Intern(nameOf(number))).owner = number;
+    for (std::uint32_t number = 0; number < Count; ++number) {
+        const NameRecord* const record = table.Find(nameOf(number));
+        ASSERT_NE(record, nullptr);
+        EXPECT_EQ(record->owner, number);
+        EXPECT_EQ(&table.Add(texts.Intern(nameOf(number))), record);
+    }
+    EXPECT_EQ(table.Records().size(), Count);
+    EXPECT_EQ(table.Find(nameOf(Count)), nullptr);
+    EXPECT_EQ(table.Find(u""), nullptr);
+}

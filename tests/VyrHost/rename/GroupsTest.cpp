@@ -1,0 +1,69 @@
+// Tests of entries that keep together.
+#include <VyrHost/rename/Groups.h>
+
+#include <VyrHost/collect/CollectEntries.h>
+
+#include <gtest/gtest.h>
+#include <tests/support/ScratchFolder.h>
+
+#include <vector>
+
+using namespace VyrHost::Collect;
+using namespace VyrHost::Model;
+using namespace VyrHost::Rename;
+using namespace VyrTests;
+
+namespace {
+
+using Members = std::vector<std::vector<std::uint32_t>>;
+
+Members MembersOf(const Groups& groups)
+{
+    Members all;
+    for (std::size_t group = 0; group < groups.Count(); ++group) {
+        const auto members = groups.Members(group);
+        all.emplace_back(members.begin(), members.end());
+        for (const std::uint32_t entry : members)
+            EXPECT_EQ(groups.Of(entry), group);
+    }
+    return all;
+}
+
+class KeepingTogether : public testing::Test
+{
+protected:
+    [[nodiscard]] CollectedEntries GatherNamed(std::initializer_list<const char16_t*> names) const
+    {
+        SourceSettings settings;
+        for (const char16_t* const name : names)
+            settings.paths.push_back(m_folder.Path(name));
+        return CollectEntries(settings);
+    }
+
+    ScratchFolder m_folder;
+};
+
+} // namespace
+
+TEST_F(KeepingTogether, FilesOfOneStemAndFolderAreAGroup)
+{
+    for (const char16_t* const name : {u"a.raf", u"b.jpg", u"a.jpg", u"a", u"d/a.jpg", u"a.b.jpg"})
+        m_folder.WriteFile(name);
+    m_folder.MakeFolder(u"b");
+    const CollectedEntries gathered = GatherNamed({u"a.raf", u"b.jpg", u"b", u"a.jpg", u"d/a.jpg", u"a.b.jpg", u"a"});
+    EXPECT_EQ(MembersOf(Groups::ByStem(gathered.list)), (Members{{0, 3, 6}, {1}, {2}, {4}, {5}}));
+    EXPECT_EQ(MembersOf(Groups::OfOne(gathered.list)), (Members{{0}, {1}, {2}, {3}, {4}, {5}, {6}}));
+}
+
+TEST_F(KeepingTogether, MissingEntriesStandAlone)
+{
+    m_folder.WriteFile(u"a.jpg");
+    const CollectedEntries gathered = GatherNamed({u"a.raf", u"a.jpg"});
+    EXPECT_EQ(MembersOf(Groups::ByStem(gathered.list)), (Members{{0}, {1}}));
+}
+
+TEST(Groups, OfNothingAreNone)
+{
+    EXPECT_EQ(Groups::OfOne(EntryList()).Count(), 0u);
+    EXPECT_EQ(Groups::ByStem(EntryList()).Count(), 0u);
+}

@@ -1,0 +1,435 @@
+// Tests of the decisions of a preview.
+#include <VyrHost/rename/Preview.h>
+
+#include <VyrHost/collect/CollectEntries.h>
+#include <VyrHost/rename/GivenNames.h>
+#include <VyrHost/rename/PlannedRenames.h>
+#include <VyrHost/rename/RuleNames.h>
+#include <VyrHost/rename/RuleTexts.h>
+#include <VyrHostPlatform/NameFolding.h>
+#include <VyrLibraryFuncs/name/NameFuncs.h>
+#include <VyrPlatform/text/Encoding.h>
+
+#include <gtest/gtest.h>
+#include <tests/support/Describe.h>
+#include <tests/support/PictureBuilder.h>
+#include <tests/support/ScratchFolder.h>
+
+#include <chrono>
+#include <set>
+#include <string>
+#include <vector>
+
+using namespace VyrHost::Collect;
+using namespace VyrHost::Model;
+using namespace VyrHost::Rename;
+using namespace VyrTests;
+using VyrLibraryFuncs::NameFuncs;
+
+namespace {
+
+ConflictSettings Mode(OnConflict mode)
+{
+    ConflictSettings settings;
+    settings.mode = mode;
+    settings.numbering.numberFormat = u" (?)";
+    settings.numbering.position = 1;
+    settings.numbering.startNumber = 1;
+    settings.numbering.step = 1;
+    return settings;
+}
+
+std::vector<Decision> DecideByRules(EntryList& list, const Rules& rules, OnConflict mode,
+                                    Counting counting = Counting::WholeList)
+{
+    RuleNames names(rules, counting);
+    return Decide(list, Groups::OfOne(list), names, Mode(mode));
+}
+
+/// A decision as "NAME" (renamed), "NAME #" (numbered), "=" (unchanged), "skip" or "no NUMBER-OF-REASON".
+std::string Told(const Decision& decision)
+{
+    switch (decision.status) {
+    case Status::Renamed:
+        return VyrPlatform::Encoding::ToUtf8(decision.name);
+    case Status::Numbered:
+        return VyrPlatform::Encoding::ToUtf8(decision.name) + " #";
+    case Status::Unchanged:
+        return "=";
+    case Status::Skipped:
+        return "skip";
+    default:
+        break;
+    }
+    return "no " + std::to_string(static_cast<int>(decision.reason));
+}
+
+std::string No(Reason reason)
+{
+    return "no " + std::to_string(static_cast<int>(reason));
+}
+
+using Names = std::vector<const char16_t*>;
+using Strings = std::vector<std::string>;
+
+class Preview : public testing::Test
+{
+protected:
+    [[nodiscard]] CollectedEntries GatherNamed(const Names& names) const
+    {
+        SourceSettings settings;
+        for (const char16_t* const name : names)
+            settings.paths.push_back(m_folder.Path(name));
+        return CollectEntries(settings);
+    }
+
+    void Write(const Names& names) const
+    {
+        for (const char16_t* const name : names)
+            m_folder.WriteFile(name);
+    }
+
+    [[nodiscard]] Strings DecideNamed(const Names& names, const Rules& rules, OnConflict mode = OnConflict::Number,
+                                      Counting counting = Counting::WholeList) const
+    {
+        CollectedEntries gathered = GatherNamed(names);
+        Strings told;
+        for (const Decision& decision : DecideByRules(gathered.list, rules, mode, counting))
+            told.push_back(Told(decision));
+        return told;
+    }
+
+    [[nodiscard]] Strings DecideTogether(const Names& names, const Rules& rules) const
+    {
+        CollectedEntries gathered = GatherNamed(names);
+        RuleNames source(rules, Counting::WholeList);
+        Strings told;
+        for (const Decision& decision :
+             Decide(gathered.list, Groups::ByStem(gathered.list), source, Mode(OnConflict::Number)))
+            told.push_back(Told(decision));
+        return told;
+    }
+
+    ScratchFolder m_folder;
+};
+
+} // namespace
+
+TEST_F(Preview, TellsWhatIsRenamedAndWhatStays)
+{
+    Write({u"b1", u"a2", u"x"});
+    EXPECT_EQ(DecideNamed({u"b1", u"a2"}, NumberRules(u"a#", {})), (Strings{"a1", "="}));
+    EXPECT_EQ(DecideNamed({u"x", u"missing"}, PrefixRules(u"y")), (Strings{"yx", No(Reason::NoSuchEntry)}));
+}
+
+TEST_F(Preview, MissingEntriesTakeNoNumber)
+{
+    Write({u"a", u"b"});
+    EXPECT_EQ(DecideNamed({u"a", u"missing", u"b"}, NumberRules(u"n#", {})),
+              (Strings{"n1", No(Reason::NoSuchEntry), "n2"}));
+}
+
+TEST_F(Preview, RefusesAnEmptyName)
+{
+    Write({u"a.txt"});
+    EXPECT_EQ(DecideNamed({u"a.txt"}, KeepFirstRules(u"0")), Strings{No(Reason::EmptyName)});
+}
+
+TEST_F(Preview, RefusesAPictureWithoutADate)
+{
+    Write({u"a.jpg"});
+    EXPECT_EQ(DecideNamed({u"a.jpg"}, DateRules(u"yyyy", {DateSource::Picture})), Strings{No(Reason::NoDate)});
+}
+
+TEST_F(Preview, NumbersTwoEntriesThatWantOneName)
+{
+    Write({u"a1.txt", u"a2.txt", u"a3.txt"});
+    EXPECT_EQ(DecideNamed({u"a1.txt", u"a2.txt", u"a3.txt"}, KeepFirstRules(u"1")),
+              (Strings{"a.txt", "a (1).txt #", "a (2).txt #"}));
+}
+
+TEST_F(Preview, NumbersPastWhatTheDiskHas)
+{
+    Write({u"a.txt", u"a (1).txt", u"a1.txt", u"a2.txt"});
+    EXPECT_EQ(DecideNamed({u"a1.txt", u"a2.txt"}, KeepFirstRules(u"1")), (Strings{"a (2).txt #", "a (3).txt #"}));
+}
+
+TEST_F(Preview, AgreesWithTheEngineWhereOnlyTheDiskMatters)
+{
+    Write({u"new.txt", u"new (1).txt", u"new (3).txt", u"x.txt"});
+    m_folder.MakeFolder(u"d.e");
+    m_folder.MakeFolder(u"f.g");
+    m_folder.MakeFolder(u"f.g (1)");
+    m_folder.MakeFolder(u"folder");
+    struct Case
+    {
+        const char16_t* entry;
+        const char16_t* wanted;
+    };
+    // A file or a folder that wants the name of a file or of a folder.
+    for (const auto& [entry, wanted] : {Case{u"x.txt", u"new"}, Case{u"folder", u"new.txt"}, Case{u"folder", u"d.e"},
+                                        Case{u"folder", u"f.g"}, Case{u"folder", u"free"}}) {
+        const CString ending = std::u16string_view(entry) == u"x.txt" ? u".txt" : u"";
+        NumberSettings settings;
+        settings.digits = 0;
+        // Deleting all and putting the name in is a rule that allows numbering.
+        Rules rules = KeepFirstRules(u"0");
+        for (auto& rule : PrefixRules(wanted))
+            rules.push_back(std::move(rule));
+        CollectedEntries gathered = GatherNamed({entry});
+        const std::vector<Decision> decisions = DecideByRules(gathered.list, rules, OnConflict::Number);
+        const CString engine = NameFuncs::GetResolveConflictFilePath(m_folder.Path(CString(wanted) + ending),
+                                                                     Mode(OnConflict::Number).numbering);
+        EXPECT_EQ(m_folder.Path(decisions[0].name), engine);
+    }
+}
+
+TEST_F(Preview, ANameThatTheBatchVacatesIsFree)
+{
+    Write({u"n1", u"n2", u"n3"});
+    EXPECT_EQ(DecideNamed({u"n3", u"n1", u"n2"}, NumberRules(u"n#", {})), (Strings{"n1", "n2", "n3"}));
+    Write({u"b1"});
+    EXPECT_EQ(DecideNamed({u"b1", u"n1"}, ReplaceRules(u"b", u"n")), (Strings{No(Reason::TargetExists), "="}));
+}
+
+TEST_F(Preview, AnEntrysOwnNameIsFree)
+{
+    Write({u"a.txt", u"a (1).txt"});
+    EXPECT_EQ(DecideNamed({u"a (1).txt"}, KeepFirstRules(u"1")), Strings{"="});
+}
+
+TEST_F(Preview, RefusesClashesWhereTheRulesAllowNoNumber)
+{
+    Write({u"aX", u"aY", u"b"});
+    EXPECT_EQ(DecideNamed({u"aX", u"aY"}, ReplaceRules(u"Y", u"X")), (Strings{"=", No(Reason::TargetExists)}));
+    Write({u"pX", u"pY"});
+    Rules rules = ReplaceRules(u"X", u"");
+    for (auto& rule : ReplaceRules(u"Y", u""))
+        rules.push_back(std::move(rule));
+    EXPECT_EQ(DecideNamed({u"pX", u"pY"}, rules), (Strings{"p", No(Reason::TwoToOne)}));
+    EXPECT_EQ(DecideNamed({u"pX", u"pY"}, rules, OnConflict::Skip), (Strings{"p", "skip"}));
+}
+
+TEST_F(Preview, SkipsOrRefusesOnRequest)
+{
+    Write({u"a1", u"a2"});
+    EXPECT_EQ(DecideNamed({u"a1", u"a2"}, KeepFirstRules(u"1"), OnConflict::Skip), (Strings{"a", "skip"}));
+    EXPECT_EQ(DecideNamed({u"a1", u"a2"}, KeepFirstRules(u"1"), OnConflict::Refuse),
+              (Strings{"a", No(Reason::TwoToOne)}));
+}
+
+TEST_F(Preview, WhoeverWasToGetTheNameOfARefusedEntryIsDecidedAnew)
+{
+    // x1 to x2, x2 to x3, x3 refused: so x2 stays, and so does x1.
+    Write({u"x1", u"x2", u"x3", u"x4"});
+    NumberSettings settings;
+    settings.start = 2;
+    // Replacing by hand, since sequence numbers would be numbered.
+    Rules rules = ReplaceRules(u"3", u"4");
+    for (auto& rule : ReplaceRules(u"2", u"3"))
+        rules.push_back(std::move(rule));
+    for (auto& rule : ReplaceRules(u"1", u"2"))
+        rules.push_back(std::move(rule));
+    EXPECT_EQ(DecideNamed({u"x1", u"x2", u"x3"}, rules),
+              (Strings{No(Reason::TargetExists), No(Reason::TargetExists), No(Reason::TargetExists)}));
+    // With numbers the one in front gets another name.
+    rules.push_back(std::move(InsertRules(u"-0:!").front()));
+    EXPECT_EQ(DecideNamed({u"x1", u"x2", u"x3"}, rules), (Strings{"x2!", "x3!", "x4!"}));
+}
+
+TEST_F(Preview, RefusesNamesThatAreTooLong)
+{
+    const CString longest(u'a', 251);
+    m_folder.WriteFile(longest + u".txt");
+    m_folder.WriteFile(u"b1.txt");
+    EXPECT_EQ(DecideNamed({(longest + u".txt").GetString()}, PrefixRules(u"b")), Strings{No(Reason::TooLong)});
+    EXPECT_EQ(DecideNamed({(longest + u".txt").GetString()}, DeleteFirstRules(u"1")),
+              Strings{std::string(250, 'a') + ".txt"});
+    // The number that it would need does not fit.
+    Rules rules = KeepFirstRules(u"0");
+    for (auto& rule : PrefixRules(longest))
+        rules.push_back(std::move(rule));
+    EXPECT_EQ(DecideNamed({u"b1.txt"}, rules), Strings{No(Reason::TooLong)});
+}
+
+TEST_F(Preview, RefusesHalfACharacterThatTheOldNameDidNotHave)
+{
+    m_folder.WriteFile(u"a\U0001F600");
+    EXPECT_EQ(DecideNamed({u"a\U0001F600"}, DeleteLastRules(u"1")), Strings{No(Reason::NewLoneSurrogate)});
+    EXPECT_EQ(DecideNamed({u"a\U0001F600"}, DeleteLastRules(u"2")), Strings{"a"});
+}
+
+TEST_F(Preview, KeepsFilesOfOneStemTogether)
+{
+    Write({u"b.jpg", u"a.raf", u"a.jpg", u"a.xmp"});
+    EXPECT_EQ(DecideTogether({u"b.jpg", u"a.raf", u"a.jpg", u"a.xmp"}, NumberRules(u"n#", {})),
+              (Strings{"n1.jpg", "n2.raf", "n2.jpg", "n2.xmp"}));
+}
+
+TEST_F(Preview, TakesTheDateOfTheFirstThatHasOneForAllThatKeepTogether)
+{
+    Write({u"a.xmp", u"b.xmp"});
+    m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
+    EXPECT_EQ(DecideTogether({u"a.xmp", u"a.jpg", u"b.xmp"}, DateRules(u"yyyy", {DateSource::Picture})),
+              (Strings{"2024.xmp", "2024.jpg", No(Reason::NoDate)}));
+}
+
+TEST_F(Preview, GivesAllThatKeepTogetherOneNumber)
+{
+    Write({u"a1.raf", u"a1.jpg", u"a2.jpg", u"a2.raf", u"a (1).raf", u"a.jpg"});
+    // a.jpg and a (1).raf are there: the first pair needs 2, the second 3.
+    EXPECT_EQ(DecideTogether({u"a1.raf", u"a1.jpg", u"a2.jpg", u"a2.raf"}, KeepFirstRules(u"1")),
+              (Strings{"a (2).raf #", "a (2).jpg #", "a (3).jpg #", "a (3).raf #"}));
+}
+
+TEST_F(Preview, RefusesAllThatKeepTogetherWhenOneCannotBeNamed)
+{
+    m_folder.WriteFile(u"a.x");
+    m_folder.WriteFile(u"a.longer");
+    const CString longest(u'b', 252);
+    EXPECT_EQ(DecideTogether({u"a.x", u"a.longer"}, PrefixRules(longest)),
+              (Strings{No(Reason::CompanionRefused), No(Reason::TooLong)}));
+}
+
+TEST_F(Preview, RefusesThoseThatKeepTogetherWhenTheyWantOneName)
+{
+    Write({u"a.jpeg", u"a.jpg"});
+    EXPECT_EQ(DecideTogether({u"a.jpeg", u"a.jpg"}, ExtensionRules(u"png")),
+              (Strings{No(Reason::TwoToOne), No(Reason::TwoToOne)}));
+}
+
+TEST_F(Preview, CountsAnewInEachFolder)
+{
+    Write({u"c/a", u"c/b", u"d/a", u"d/b"});
+    EXPECT_EQ(
+        DecideNamed({u"c/a", u"d/a", u"d/b", u"c/b"}, NumberRules(u"#", {}), OnConflict::Number, Counting::EachFolder),
+        (Strings{"1", "1", "2", "2"}));
+}
+
+TEST_F(Preview, MovesIntoFoldersThatAreThereOrAreToBeMade)
+{
+    m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
+    m_folder.WriteFile(u"b.jpg", BuildJpeg(PictureFacts{}));
+    m_folder.WriteFile(u"2024/a.jpg");
+    CollectedEntries gathered = GatherNamed({u"a.jpg", u"b.jpg"});
+    const Rules rules = DateRules(u"yyyy<Folder><Name>", {DateSource::Picture});
+    std::vector<Decision> decisions = DecideByRules(gathered.list, rules, OnConflict::Number);
+    // What is in the folder counts.
+    EXPECT_EQ(Told(decisions[0]), "a (1).jpg #");
+    EXPECT_EQ(Told(decisions[1]), "b.jpg");
+    EXPECT_TRUE(PlanOf(gathered.list, decisions).list.newFolders.empty());
+
+    gathered = GatherNamed({u"a.jpg", u"b.jpg"});
+    const Rules deep = DateRules(u"MM<Folder>dd<Folder><Name>", {DateSource::Picture});
+    decisions = DecideByRules(gathered.list, deep, OnConflict::Number);
+    const PlannedRenames planned = PlanOf(gathered.list, decisions);
+    EXPECT_EQ(planned.list.newFolders, (std::vector{m_folder.Path(u"07"), m_folder.Path(u"07/19")}));
+    ASSERT_EQ(planned.list.renames.size(), 2u);
+    EXPECT_EQ(planned.list.renames[0].from.Path(), m_folder.Path(u"a.jpg"));
+    EXPECT_EQ(planned.list.renames[0].to.Path(), m_folder.Path(u"07/19/a.jpg"));
+}
+
+TEST_F(Preview, RefusesToMoveIntoWhatIsNoFolder)
+{
+    m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
+    m_folder.WriteFile(u"2024");
+    EXPECT_EQ(DecideNamed({u"a.jpg"}, DateRules(u"yyyy<Folder><Name>", {DateSource::Picture})),
+              Strings{No(Reason::BadFolder)});
+}
+
+TEST_F(Preview, RefusesFoldersWithoutAName)
+{
+    const auto camera = [](const char* make) {
+        PictureFacts facts;
+        facts.make = make;
+        return BuildJpeg(facts);
+    };
+    m_folder.WriteFile(u"a.jpg", camera(".."));
+    m_folder.WriteFile(u"b.jpg", camera(" "));
+    EXPECT_EQ(DecideNamed({u"a.jpg", u"b.jpg"}, DateRules(u"<Make><Folder><Name>", {DateSource::Picture})),
+              (Strings{No(Reason::NamelessFolder), No(Reason::NamelessFolder)}));
+}
+
+TEST_F(Preview, AFolderToBeMadeHoldsItsName)
+{
+    m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
+    Write({u"x2024"});
+    CollectedEntries gathered = GatherNamed({u"x2024", u"a.jpg"});
+    GivenNames names({{0, u"2024"}, {1, m_folder.Path(u"2024/a.jpg")}});
+    const auto decisions = Decide(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    EXPECT_EQ(Told(decisions[0]), No(Reason::TargetExists));
+    EXPECT_EQ(Told(decisions[1]), "a.jpg");
+}
+
+TEST_F(Preview, NamesThatAreGivenOneByOneMaySwap)
+{
+    Write({u"a", u"b", u"c"});
+    CollectedEntries gathered = GatherNamed({u"a", u"b", u"c"});
+    GivenNames names({{0, u"b"}, {1, u"a"}});
+    Strings told;
+    for (const Decision& decision :
+         Decide(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number)))
+        told.push_back(Told(decision));
+    EXPECT_EQ(told, (Strings{"b", "a", "="}));
+}
+
+TEST_F(Preview, NamesThatAreGivenOneByOneAreNotNumbered)
+{
+    Write({u"a", u"b", u"c"});
+    CollectedEntries gathered = GatherNamed({u"a", u"b"});
+    GivenNames names({{0, u"c"}, {1, u".."}});
+    const auto decisions = Decide(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    EXPECT_EQ(Told(decisions[0]), No(Reason::TargetExists));
+    EXPECT_EQ(Told(decisions[1]), No(Reason::DotName));
+}
+
+TEST_F(Preview, JudgesNamesAsTheFolderFoldsThem)
+{
+    Write({u"a", u"B"});
+    const auto folding = VyrHostPlatform::GetNameFolding(m_folder.Path());
+    const bool foldsCase =
+        folding == VyrHostPlatform::NameFolding::Case || folding == VyrHostPlatform::NameFolding::CaseAndForm;
+    EXPECT_EQ(DecideNamed({u"a"}, ReplaceRules(u"a", u"b")),
+              Strings{foldsCase ? No(Reason::TargetExists) : std::string("b")});
+    // A change of case alone is a rename everywhere.
+    EXPECT_EQ(DecideNamed({u"a", u"B"}, CaseRules(u"upper")), (Strings{"A", "="}));
+}
+
+TEST_F(Preview, NumbersTenThousandEntriesThatWantOneNameQuickly)
+{
+    constexpr int Count = 10000;
+    for (int number = 0; number < Count; ++number) {
+        CString name;
+        name.Format(u"a%05d", number);
+        m_folder.WriteFile(name);
+    }
+    SourceSettings settings;
+    settings.paths = {m_folder.Path()};
+    settings.recursive = true;
+    CollectedEntries gathered = CollectEntries(settings);
+    const auto begin = std::chrono::steady_clock::now();
+    const std::vector<Decision> decisions = DecideByRules(gathered.list, KeepFirstRules(u"1"), OnConflict::Number);
+    const auto taken = std::chrono::steady_clock::now() - begin;
+    std::set<std::u16string_view> names;
+    for (const Decision& decision : decisions) {
+        EXPECT_TRUE(decision.IsRename());
+        names.insert(decision.name);
+    }
+    EXPECT_EQ(names.size(), static_cast<std::size_t>(Count));
+    EXPECT_TRUE(names.contains(u"a (9999)"));
+    // Trying every number for every entry would be 50 million attempts.
+    EXPECT_LT(std::chrono::duration<double>(taken).count(), 5.0);
+}
+
+TEST_F(Preview, TellsOfEachEntryThatWantsAnotherName)
+{
+    Write({u"a.jpg", u"b.jpg", u"c.jpg", u"d.jpg", u"taken.jpg"});
+    CollectedEntries gathered = GatherNamed({u"a.jpg", u"b.jpg", u"missing.jpg", u"c.jpg", u"d.jpg"});
+    GivenNames names({{0, u"A.jpg"}, {1, u"b.jpg"}, {2, u"m.jpg"}, {3, u"taken.jpg"}, {4, u"a/"}});
+    std::vector<std::uint32_t> told;
+    const auto decisions = Decide(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Skip), {},
+                                  [&told](std::uint32_t entry) { told.push_back(entry); });
+    // The third of them cannot have it in the end.
+    EXPECT_EQ(told, (std::vector<std::uint32_t>{0, 3}));
+    EXPECT_EQ(Told(decisions[3]), "skip");
+}
