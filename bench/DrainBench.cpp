@@ -1,5 +1,5 @@
-// What a drain costs that finds nothing to do, as inner loops call it: on a thread without a queue, on one with a
-// queue, and, as the reference, the lock that a queue would have to take to look.
+// Measures a drain that finds nothing to do, as inner loops call it, against the lock that a queue without a flag would
+// take each time.
 #include <VyrPlatform/process/LinuxMessageQueue.h>
 #include <VyrPlatform/process/MessageQueue.h>
 
@@ -35,7 +35,7 @@ BENCHMARK(Lock);
 int main(int argc, char** argv)
 {
     benchmark::Initialize(&argc, argv);
-    // Another thread lives meanwhile, as in every program that posts; locks are real then.
+    // A second thread makes locks real, as in every program that posts.
     std::promise<void> end;
     std::thread other([wait = end.get_future()] { wait.wait(); });
     benchmark::RunSpecifiedBenchmarks();

@@ -1,6 +1,5 @@
-// What a folder copy costs, against the system's own copying command: a tree of 20,000 small files, or with the
-// argument
-// --large one file of 2 GB.
+// Measures a folder copy against the system's own copy command: a tree of 20,000 small files, or one file of 2 GB with
+// the argument --large.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include "TemporaryFolder.h"
@@ -39,10 +38,10 @@ public:
     [[nodiscard]] std::string Source() const { return m_folder.Path() / "from"; }
     [[nodiscard]] std::string Copy() const { return m_folder.Path() / ("to" + std::to_string(m_copies)); }
 
-    /// Makes an empty folder for the next copy, and lets the system write out what earlier ones left to it.
+    /// Creates an empty folder for the next copy and flushes what earlier copies wrote.
     ///
-    /// Copies of many files stay until the end: a file system that has just lost many files is slow to make new ones
-    /// (ext4 looks through all that went within the last seconds).
+    /// Copies of many files stay until the end: a file system that has just removed many files is slow to create new
+    /// ones (ext4 searches everything that was removed in the last seconds).
     void MakeRoom()
     {
         if (m_isLarge)
@@ -58,7 +57,7 @@ private:
     int m_copies = 0;
 };
 
-/// Bytes that no file system stores as a hole.
+/// Bytes that no file system stores as a hole: none is zero.
 std::string RandomBytes(std::size_t count)
 {
     std::mt19937_64 random(1);

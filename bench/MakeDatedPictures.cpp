@@ -1,4 +1,4 @@
-// Makes the pictures that the readers of dates are compared on: MakeDatedPictures FOLDER COUNT
+// Creates the pictures on which date readers are compared: MakeDatedPictures FOLDER COUNT
 //
 // Each is a sound JPEG of 20 to 100 KiB with a date, a maker and a model of its own.
 #include <tests/support/PictureBuilder.h>

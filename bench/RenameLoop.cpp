@@ -1,4 +1,4 @@
-// The limit that renaming many files is compared with: a bare loop of rename calls in the current folder.
+// The lower limit for renaming many files: a bare loop of rename calls in the current folder.
 // Use: RenameLoop COUNT   from IMG_00000.jpg to Trip_00000.jpg and so on
 #include <cstdio>
 #include <cstdlib>

@@ -1,7 +1,7 @@
-// What a preview of one sequence-number rename costs: through the engine, by a function that takes a record of
-// std::u16string, and by bare reserve-and-append as the limit.
+// Measures the preview of one sequence-number rename: by the engine, by a function that takes a record of
+// std::u16string, and by bare reserve-and-append as the lower limit.
 //
-// With the argument --second-thread another thread is alive meanwhile, so that shared counts are locked.
+// The argument --second-thread keeps a second thread alive, so that shared counts are locked.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <benchmark/benchmark.h>

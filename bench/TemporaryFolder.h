@@ -1,5 +1,5 @@
 /// @file
-/// For benchmarks: a place on the disk, and its paths as the library takes them.
+/// For benchmarks: a temporary folder on the disk.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <string>
 
-/// An empty folder among the temporary files, removed at the end with all that it holds.
+/// An empty folder in the system's temporary folder. Removes itself with its contents.
 class TemporaryFolder
 {
 public:

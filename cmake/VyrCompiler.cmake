@@ -1,4 +1,4 @@
-# The rules that every target is compiled under.
+# The compiler's options for all targets.
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -6,14 +6,14 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
-# Programs and libraries of one build stand in one folder, so that Windows finds the DLLs.
+# All programs and libraries of a build go into one folder, where Windows finds the DLLs.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 
 find_package(Threads REQUIRED)
 
-# What every target of this project is linked to: warnings as errors, the root as include folder.
+# Every target links to this: warnings as errors, the root as include folder.
 add_library(VyrCompileRules INTERFACE)
 target_include_directories(VyrCompileRules INTERFACE "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
 target_compile_options(VyrCompileRules INTERFACE
@@ -24,13 +24,13 @@ target_compile_definitions(VyrCompileRules INTERFACE "$<$<BOOL:${WIN32}>:UNICODE
 
 if(VYR_SANITIZE)
   add_compile_options(-fsanitize=${VYR_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  # Only the fuzz targets themselves take libFuzzer's main.
+  # Only the fuzz targets get libFuzzer's main.
   string(REPLACE "fuzzer-no-link," "" link_sanitizers "${VYR_SANITIZE}")
   add_link_options(-fsanitize=${link_sanitizers})
 endif()
 
 if(WIN32)
-  # Exceptions cross the DLLs, so the run-time libraries are shared ones; they stand beside the programs.
+  # Exceptions cross the DLLs, so the run-time libraries are shared and stand beside the programs.
   foreach(runtime libgcc_s_seh-1.dll libstdc++-6.dll libwinpthread-1.dll)
     execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${runtime}
       OUTPUT_VARIABLE runtime_path OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
@@ -42,8 +42,8 @@ if(WIN32)
   endforeach()
 endif()
 
-# Header-only libraries of the build machine that a cross-build may use too: /usr/include itself must never be on
-# its path, so the one folder is linked into the build tree.
+# Header-only libraries that a cross-build may use too. /usr/include itself must never be on its path, so the build tree
+# gets a link to the one folder.
 function(vyr_header_only_library target folder)
   add_library(${target} INTERFACE)
   set(view "${CMAKE_BINARY_DIR}/header-only/${target}")

@@ -1,4 +1,4 @@
-# The sources below FOLDER into the variable RESULT, without those that stand in a folder of the other system.
+# Sets RESULT to the sources below FOLDER, without those in a folder of the other system.
 function(vyr_find_sources result folder)
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${folder}/*.cpp")
   if(WIN32)
@@ -15,12 +15,13 @@ function(vyr_find_sources result folder)
   set(${result} ${kept} PARENT_SCOPE)
 endfunction()
 
-# A shared library of the product, which others find as Vyr::EXPORT_NAME: every source in its folder. PUBLIC_HEADERS are patterns; what they match is installed, in the same folders.
+# Adds a shared library of the product, Vyr::EXPORT_NAME for others, from all sources in its folder. Headers that match the
+# patterns PUBLIC_HEADERS are installed in the same folders.
 function(vyr_add_component name)
   cmake_parse_arguments(component "" "EXPORT_NAME" "PUBLIC_HEADERS" ${ARGN})
   vyr_find_sources(sources "${CMAKE_CURRENT_SOURCE_DIR}")
   file(GLOB headers CONFIGURE_DEPENDS ${component_PUBLIC_HEADERS})
-  # A public header that serves one system alone tells so by its name.
+  # The name of a public header for one system begins with the system.
   if(WIN32)
     list(FILTER headers EXCLUDE REGEX "/Linux[^/]*$")
   else()
@@ -32,12 +33,12 @@ function(vyr_add_component name)
   target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}" FILES ${headers})
   target_link_libraries(${name} PRIVATE VyrCompileRules)
   target_compile_features(${name} PUBLIC cxx_std_20)
-  # A library that holds symbols of GNU's unique kind stays in the process for ever; a host may unload ours.
+  # A library with GNU's unique symbols never leaves the process; a host may unload ours.
   target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
   set_target_properties(${name} PROPERTIES
     EXPORT_NAME ${component_EXPORT_NAME} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
   if(WIN32)
-    # The DLL carries the component's own name; its import library keeps the usual prefix.
+    # The DLL has the component's own name; its import library keeps the usual prefix.
     set_target_properties(${name} PROPERTIES PREFIX "")
   endif()
 endfunction()

@@ -1,4 +1,4 @@
-# zlib, for what is linked to VyrZlib. On Windows it is linked in, so that no further DLL is needed.
+# Provides zlib as VyrZlib. On Windows it is linked statically, so that no further DLL is needed.
 if(WIN32)
   find_library(VYR_ZLIB NAMES libz.a REQUIRED)
 else()

@@ -1,5 +1,5 @@
-// Any text through the companion's paths, formats, date-times, tokens and numbers: it ends, and what belongs together
-// agrees.
+// Feeds any text to the companion's paths, formats, date-times, tokens and numbers: each call ends, and results that
+// belong together agree.
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/StringUtils.h>
@@ -21,7 +21,7 @@ void Require(bool holds)
         std::abort();
 }
 
-/// A byte for a code unit; one from 0x80 on as one of those that stand for a byte in a file name.
+/// The code unit for a byte; from 0x80 on, the lone surrogate that stands for that byte in a file name.
 CString ToText(const std::uint8_t* data, std::size_t size)
 {
     std::u16string text;
@@ -53,7 +53,7 @@ void CheckFormat(const CString& text)
 {
     const COleDateTime moment(2024, 3, 15, 13, 5, 9);
     Require(DateTimeUtils::GetOleDateTimeFormat(moment, text).GetLength() <= text.GetLength() * 8);
-    // A whole format in apostrophes comes out as it went in, but for the apostrophes themselves.
+    // A format wholly in apostrophes gives its own text without them.
     CString literal = text;
     literal.Replace(u"'", u"''");
     const CString pattern = DateTimeUtils::GetDateTimeFormat(CString::Join({u"' ", literal, u"'"}), CString());

@@ -1,4 +1,5 @@
-// Samba's extended attribute: no bytes lead the reader astray, and a time that is put into them is read again.
+// Feeds any bytes to the reader of Samba's extended attribute: it stays in bounds, and a time written into the bytes is
+// read back.
 #include <VyrPlatform/linux/files/DosAttribute.h>
 
 #include <cstdlib>

@@ -1,5 +1,5 @@
-// Any bytes and any code units: names come back exactly, content loses only what is not well-formed, and what was
-// converted once stays as it is.
+// Converts any bytes and any code units: names come back exactly, contents lose only what is not well-formed, and a
+// second conversion changes nothing.
 #include <VyrPlatform/text/Encoding.h>
 
 #include <cstddef>

@@ -1,5 +1,5 @@
-// Any rename rule on any name: the computation ends, stays in bounds, and touches only the part of the path that it
-// may.
+// Applies any rename rule to any name: the computation ends, stays in bounds, and changes only its own part of the
+// path.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <fuzzer/FuzzedDataProvider.h>
@@ -19,7 +19,7 @@ void Require(bool holds)
         std::abort();
 }
 
-/// A byte for a code unit; the bytes from 0xF0 on as surrogates, which belong into pairs and stand alone here.
+/// The code unit for a byte; from 0xF0 on, a lone surrogate.
 CString TakeText(FuzzedDataProvider& input)
 {
     std::u16string text;
@@ -30,7 +30,7 @@ CString TakeText(FuzzedDataProvider& input)
     return std::u16string_view(text);
 }
 
-/// A small number, so that rules apply often, or now and then any.
+/// A small number mostly, so that rules apply often; any number now and then.
 int TakeNumber(FuzzedDataProvider& input)
 {
     return input.ConsumeIntegralInRange(0, 7) == 0 ? input.ConsumeIntegral<int>() : input.ConsumeIntegralInRange(-2, 9);

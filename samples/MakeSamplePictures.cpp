@@ -1,4 +1,4 @@
-// Makes the few pictures that ./run previews a rename of: small JPEG files with Exif data, as cameras name them.
+// Creates the sample pictures for ./run: small JPEG files with Exif data, named as cameras name them.
 #include <array>
 #include <chrono>
 #include <cstdint>
@@ -34,7 +34,7 @@ void AppendSegment(Bytes& bytes, int marker, const Bytes& content)
     bytes.insert(bytes.end(), content.begin(), content.end());
 }
 
-/// A TIFF structure in the making, little-endian: directories first, the texts that they point to behind each.
+/// Builds a TIFF structure, little-endian: directories, each followed by the texts that it points to.
 class TiffDirectory
 {
 public:
@@ -42,7 +42,7 @@ public:
 
     void AddText(int tag, std::string_view text) { m_entries.push_back({tag, 2, std::string(text) + '\0'}); }
     void AddVersion(int tag, std::string_view text) { m_entries.push_back({tag, 7, std::string(text)}); }
-    /// A pointer to the directory that comes right behind this one.
+    /// A pointer to the directory that follows this one.
     void AddPointerToNext(int tag) { m_entries.push_back({tag, 4, {}}); }
 
     [[nodiscard]] std::uint32_t End() const
@@ -94,7 +94,7 @@ private:
     {
         return m_offset + 2 + 12 * static_cast<std::uint32_t>(m_entries.size()) + 4;
     }
-    /// How many bytes of a value do not fit its entry; values begin at even places.
+    /// How many bytes of a value stand outside its entry; values begin at even offsets.
     static std::uint32_t Outside(const Entry& entry)
     {
         const auto size = static_cast<std::uint32_t>(entry.text.size());
@@ -110,7 +110,7 @@ struct Picture
     std::string_view fileName;
     std::string_view make;
     std::string_view model;
-    /// When it was taken, as Exif writes it; empty for a picture that does not tell.
+    /// When it was taken, as Exif writes it; empty for a picture without a date.
     std::string_view taken;
 };
 
@@ -133,8 +133,8 @@ Bytes MakeExif(const Picture& picture)
     return content;
 }
 
-/// The picture's entropy-coded data: every block of 8 x 8 points has one colour, so that it is one difference to the
-/// block before and an end-of-block code for each component.
+/// The entropy-coded data. Every block of 8 x 8 points has one colour: for each component a difference to the previous
+/// block and an end-of-block code.
 class BlockWriter
 {
 public:
@@ -151,7 +151,7 @@ public:
     void Finish() { WriteBits(0x7F, 7); }
 
 private:
-    /// The count of bits in four bits, then the bits; a negative number is written less one (ITU T.81, F.1.2.1).
+    /// Writes the number of bits in four bits, then the bits; a negative number less one (ITU T.81, F.1.2.1).
     void WriteDifference(int difference)
     {
         int count = 0;
@@ -222,7 +222,7 @@ constexpr std::array pictures{
     Picture{"scan.jpg", "", "", ""},
 };
 
-/// Noon of 24 June 2024, local time: what a picture without a date was last modified at.
+/// Noon of 24 June 2024, local time: the modification time of the picture without a date.
 std::filesystem::file_time_type GetModifiedTime()
 {
     std::tm noon{};
@@ -234,7 +234,7 @@ std::filesystem::file_time_type GetModifiedTime()
     return std::chrono::file_clock::from_sys(std::chrono::system_clock::from_time_t(std::mktime(&noon)));
 }
 
-/// Writes the picture's file into `folder`; false when the system refuses it.
+/// Writes the file of the picture into `folder`; false when the system refuses.
 bool WritePicture(const std::filesystem::path& folder, const Picture& picture)
 {
     const Bytes jpeg = MakeJpeg(picture);

@@ -1,5 +1,5 @@
-// A host outside the library's tree: it shows the numbered names that the files of a folder would get, and its own
-// version. It renames nothing.
+// A host outside the library's tree. It shows the numbered names that the files of a folder would get, and its own
+// version; it renames nothing.
 #include <VyrHostPlatform/Console.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrLibraryUtils/FileUtils.h>
@@ -22,7 +22,7 @@ void PrintLine(Stream stream, const CString& line)
     VyrHostPlatform::Console::Write(stream, VyrPlatform::Encoding::ToUtf8(line + u"\n"));
 }
 
-/// What this host calls itself: its product name, product version and the four numbers of its file version.
+/// The host's product name, product version and the four numbers of its file version.
 CString GetVersionLine()
 {
     CString line;
@@ -44,7 +44,7 @@ std::vector<CString> GetFileNames(const CString& folder)
     return names;
 }
 
-/// A sequence-number rule: "picture 001", "picture 002" and so on, the extension kept.
+/// A sequence-number rule: "picture 001", "picture 002" and so on; the extension stays.
 NameFuncs::ITEM MakeRule()
 {
     NameFuncs::ITEM rule;

@@ -1,4 +1,4 @@
-// Answers what a program of its own sees of the platform services; the first argument says which. The tests run it.
+// For tests: prints what a separate program gets from a platform service. The first argument says which.
 #include <VyrHostPlatform/Console.h>
 #include <VyrHostPlatform/Interrupt.h>
 #include <VyrPlatform/process/Process.h>
@@ -33,7 +33,7 @@ int PrintArguments(const Arguments& arguments)
     return 0;
 }
 
-/// Both streams get the input, so that the tests see that neither changes a byte.
+/// Writes the input to both streams; tests see that neither changes a byte.
 int CopyInput(const Arguments& /*arguments*/)
 {
     for (std::string piece = Console::ReadInput(); !piece.empty(); piece = Console::ReadInput()) {
@@ -89,7 +89,7 @@ int PrintTerminals(const Arguments& /*arguments*/)
     return Print(text);
 }
 
-/// Writes its further arguments to the file that the first one names, which is there once it is complete.
+/// Writes its further arguments to the file that the first one names; the file appears when it is complete.
 int WriteArguments(const Arguments& arguments)
 {
     const std::filesystem::path path(std::u16string(arguments.at(0).View()));
@@ -104,7 +104,7 @@ int WriteArguments(const Arguments& arguments)
     return 0;
 }
 
-/// Waits for a file, half a minute at most, and then makes another.
+/// Waits for a file, half a minute at most, and then creates another.
 int WaitForFile(const Arguments& arguments)
 {
     const std::filesystem::path awaited(std::u16string(arguments.at(0).View()));

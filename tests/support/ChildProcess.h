@@ -1,4 +1,4 @@
-// For tests: running a program as a user's shell does, without a shell.
+// For tests: runs a program as a shell does, without a shell.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -16,46 +16,46 @@ struct ProgramCall
 {
     /// The full path of the program, see BesideThisProgram.
     CString program;
-    /// The program gets each exactly as it stands.
+    /// The program gets each argument unchanged.
     std::vector<CString> arguments;
     /// The bytes of its standard input.
     std::string input = {};
-    /// What its environment has other than the test's own; nothing takes the variable away.
+    /// Variables that differ from the test's own environment; without a value the variable is removed.
     std::map<CString, std::optional<CString>> environment = {};
     /// The folder in which it runs; empty: the test's own.
     CString folder = {};
-    /// More input may come, which never does: its standard input has no end.
+    /// Its standard input never ends.
     bool staysInputOpen = false;
-    /// Its standard output is a pipe that nobody reads any more.
+    /// Its standard output is a pipe whose reader is gone.
     bool isOutputClosed = false;
 };
 
 struct ProgramResult
 {
-    /// What it ended with; on Linux 128 plus the signal that ended it.
+    /// Its exit code; on Linux 128 plus the signal that ended it.
     int exitCode = -1;
     std::string output;
     std::string errors;
 };
 
-/// A program at work. One that runs for more than two minutes is killed, and the test fails.
+/// A running program. After two minutes it is killed and the test fails.
 class ChildProcess
 {
 public:
-    /// Starts the program; throws std::runtime_error when the system does not.
+    /// Starts the program; throws std::runtime_error when that fails.
     explicit ChildProcess(const ProgramCall& call);
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;
-    /// Kills it where nobody has waited for it.
+    /// Kills the program unless it was waited for.
     ~ChildProcess();
 
-    /// Waits until its standard output holds `text`; false when it ends without it.
+    /// Waits until its standard output holds `text`; false when the program ends first.
     [[nodiscard]] bool WaitForOutput(std::string_view text);
-    /// Interrupts it, as Ctrl-C does; on Windows every program that the test runs at the time gets it.
+    /// Interrupts it as Ctrl-C does; on Windows every running program of the test is interrupted.
     void Interrupt();
-    /// Ends it at once, as a crash does.
+    /// Kills it at once, as a crash does.
     void Kill();
-    /// Waits for its end. To be called once.
+    /// Waits for its end. Call it once.
     [[nodiscard]] ProgramResult Wait();
 
 private:

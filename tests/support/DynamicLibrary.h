@@ -1,5 +1,5 @@
 /// @file
-/// A shared library that is loaded while the tests run, as a host would that was not linked to it.
+/// A shared library that the tests load at run time, as a host that is not linked to it does.
 #pragma once
 
 #include <string>
@@ -20,7 +20,7 @@ public:
     [[nodiscard]] bool IsLoaded() const noexcept { return m_handle != nullptr; }
     /// The address of the export `symbol`; null when there is none.
     [[nodiscard]] void* Find(const std::string& symbol) const;
-    /// The symbols that the library's own table of exports names, as the compiler spells them.
+    /// The mangled symbols in the library's table of exports.
     [[nodiscard]] std::vector<std::string> Exports() const;
 
     /// Whether the library `name` is in the process now, whoever loaded it.

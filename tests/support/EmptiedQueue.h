@@ -1,11 +1,11 @@
-// For tests: what a failing test leaves in the thread's message queue must not meet the tests after it.
+// For tests: empties the thread's message queue after a failing test.
 #pragma once
 
 #include <VyrPlatform/process/MessageQueue.h>
 
 namespace VyrTests {
 
-/// Handles up to a hundred pending events at its end of life. To be made after all that posted work refers to.
+/// Handles up to a hundred pending events when it is destroyed. Construct it after everything that posted work uses.
 class EmptiedQueue
 {
 public:

@@ -1,4 +1,4 @@
-// For tests: file times set, and local calendar fields turned into file times by the system's own conversion.
+// For tests: sets file times, and converts local calendar fields to file times with the system's own conversion.
 #pragma once
 
 #include <VyrPlatform/files/FileTimes.h>
@@ -7,7 +7,7 @@
 
 namespace VyrTests {
 
-/// A Unix time, with the given count of 100-nanosecond intervals on top.
+/// A Unix time plus a number of 100-nanosecond intervals.
 [[nodiscard]] constexpr VyrPlatform::FileTicks TicksOfUnixTime(std::int64_t seconds, std::int64_t fraction = 0)
 {
     constexpr std::int64_t secondsFrom1601To1970 = 11'644'473'600;

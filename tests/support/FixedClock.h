@@ -5,7 +5,7 @@
 
 namespace VyrTests {
 
-/// Makes the current local time `moment` until its end of life.
+/// Sets the current local time to `moment` as long as it lives.
 class FixedClock
 {
 public:

@@ -5,8 +5,7 @@
 
 namespace VyrTests {
 
-/// The most memory, in bytes, that the process has had at a time; what was asked for but not touched counts, except
-/// under Wine.
+/// The process's peak memory in bytes. Memory that was allocated and never touched counts, except under Wine.
 [[nodiscard]] std::uint64_t PeakMemory();
 
 } // namespace VyrTests

@@ -7,7 +7,7 @@
 
 namespace VyrTests {
 
-/// Removes the folder `path` with all that it holds, even what may not be written or read. No link is followed.
+/// Removes the folder `path` with its contents, also entries that cannot be read or written. Follows no link.
 /// @return why that failed; empty when it is gone.
 [[nodiscard]] std::string RemoveTree(const CString& path);
 

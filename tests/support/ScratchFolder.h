@@ -1,4 +1,4 @@
-// For tests: a folder of their own on the disk.
+// For tests: a temporary folder on the disk.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -8,10 +8,10 @@
 
 namespace VyrTests {
 
-/// A new empty folder in the system's folder for temporary files, removed at the end with all that it holds then, even
-/// what may not be written or read.
+/// A new empty folder in the system's temporary folder. Removes itself with its contents, also with entries that cannot
+/// be read or written.
 ///
-/// A name below may have several parts, separated by slashes; the folders in front of the last part are made as needed.
+/// `name` may have several parts, separated by slashes; missing folders before the last part are created.
 class ScratchFolder
 {
 public:
@@ -25,16 +25,16 @@ public:
     /// The full path of `name` in the folder, with the system's separators.
     [[nodiscard]] CString Path(std::u16string_view name) const;
 
-    /// Makes the file `name`, or replaces its content.
+    /// Creates the file `name`, or replaces its content.
     /// @return its full path.
     CString WriteFile(std::u16string_view name, std::string_view bytes = {}) const;
-    /// Makes the folder `name`.
+    /// Creates the folder `name`.
     /// @return its full path.
     CString MakeFolder(std::u16string_view name) const;
 
     /// The content of the file `name`; a test failure and empty when it cannot be read.
     [[nodiscard]] std::string ReadFile(std::u16string_view name) const;
-    /// Whether anything stands at `name`, a link that leads nowhere included.
+    /// Whether `name` exists; a broken link counts.
     [[nodiscard]] bool Has(std::u16string_view name) const;
 
 private:

@@ -1,4 +1,4 @@
-// For tests: root keys of their own.
+// For tests: temporary root keys.
 #pragma once
 
 #include <tests/support/RegistryTree.h>
@@ -9,8 +9,8 @@
 
 namespace VyrTests {
 
-/// Makes HKEY_CLASSES_ROOT, HKEY_CURRENT_USER and HKEY_LOCAL_MACHINE of this process empty keys that may be written to,
-/// until its end of life; the real ones stay as they are. One at a time.
+/// Redirects HKEY_CLASSES_ROOT, HKEY_CURRENT_USER and HKEY_LOCAL_MACHINE of this process to empty, writable keys as
+/// long as it lives; the real ones stay as they are. One at a time.
 class ScratchRegistry
 {
 public:
