@@ -2,6 +2,7 @@
 #include <VyrHostPlatform/Console.h>
 #include <VyrHostPlatform/Interrupt.h>
 #include <VyrPlatform/process/Process.h>
+#include <VyrPlatform/text/CodePage.h>
 #include <VyrPlatform/text/Encoding.h>
 #include <VyrPlatform/text/Locale.h>
 
@@ -81,6 +82,13 @@ int PrintLocale(const Arguments& /*arguments*/)
         {CString(u"i").MakeUpper(), u"|", Locale::GetNumberTexts().thousands, u"|", Locale::GetDateTexts().months[0]}));
 }
 
+int PrintAnsiCodePage(const Arguments& /*arguments*/)
+{
+    CString text;
+    text.Format(u"%u", CodePage::GetAnsi());
+    return Print(text);
+}
+
 int PrintTerminals(const Arguments& /*arguments*/)
 {
     CString text;
@@ -148,6 +156,7 @@ int main(int count, char** argumentBytes)
         {u"current-folder", PrintCurrentFolder},
         {u"folders", PrintFolders},
         {u"locale", PrintLocale},
+        {u"ansi-code-page", PrintAnsiCodePage},
         {u"terminals", PrintTerminals},
         {u"write", WriteArguments},
         {u"wait-for", WaitForFile},
