@@ -2,11 +2,18 @@
 // source because only within one source is that order certain; no other source has a dynamic initialiser.
 #include <VyrLibraryFuncs/frame/VyrLibraryFuncsApp.h>
 #include <VyrLibraryFuncs/html/OutputFuncs.h>
+#include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>
+#include <VyrLibraryFuncs/programs/RegistryFuncs.h>
 
 namespace VyrLibraryFuncs {
 
 CString OutputFuncs::m_outputFilePath;
 int OutputFuncs::m_outputFilterIndex = 0;
+CString ProgramsFeaturesFuncs::m_iconFolderName = u"icons";
+CString ProgramsFeaturesFuncs::m_outputFilePath;
+int ProgramsFeaturesFuncs::m_openOutputFile = 1;
+CString RegistryFuncs::m_productKeyPattern = u"SOFTWARE\\%s\\%s\\%d.0";
+CString RegistryFuncs::m_uninstallKeyPattern = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\%s";
 
 } // namespace VyrLibraryFuncs
 

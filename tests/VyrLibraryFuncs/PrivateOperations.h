@@ -2,7 +2,13 @@
 // operation.
 #pragma once
 
+#include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>
 #include <VyrLibraryFuncs/select/FilterFuncs.h>
+#include <VyrLibraryFuncs/shell/ControlPanelFuncs.h>
+#include <VyrLibraryFuncs/shell/FeatureControlFuncs.h>
+
+#include <utility>
+#include <vector>
 
 namespace VyrLibraryFuncs {
 
@@ -14,6 +20,57 @@ struct PrivateOperations
     {
         return FilterFuncs::IsMatchCondition(name, item);
     }
+
+    // ProgramsFeaturesFuncs
+
+    using Program = ProgramsFeaturesFuncs::ITEM;
+    using Product = ProgramsFeaturesFuncs::INSTALLER_PRODUCTS_ITEM;
+    using RegValues = std::vector<ProgramsFeaturesFuncs::REGVALUE>;
+
+    static std::vector<Program> GetProgramsFeaturesItemsList(HKEY root, CString keyPath, RegValues values,
+                                                             std::vector<Program> items)
+    {
+        return ProgramsFeaturesFuncs::GetProgramsFeaturesItemsList(root, keyPath, values, std::move(items));
+    }
+    static std::vector<Program> GetProgramsFeaturesWindowsInstallerItemsList(HKEY root, CString keyPath,
+                                                                             RegValues values,
+                                                                             std::vector<Program> items)
+    {
+        return ProgramsFeaturesFuncs::GetProgramsFeaturesWindowsInstallerItemsList(root, keyPath, values,
+                                                                                   std::move(items));
+    }
+    static RegValues GetProgramsFeaturesValueList() { return ProgramsFeaturesFuncs::GetProgramsFeaturesValueList(); }
+    static std::vector<Product> GetProgramsFeaturesInstallerProductsItemsList(HKEY root, CString keyPath,
+                                                                              RegValues values,
+                                                                              std::vector<Product> items)
+    {
+        return ProgramsFeaturesFuncs::GetProgramsFeaturesInstallerProductsItemsList(root, keyPath, values,
+                                                                                    std::move(items));
+    }
+    static RegValues GetProgramsFeaturesInstallerProductsValueList()
+    {
+        return ProgramsFeaturesFuncs::GetProgramsFeaturesInstallerProductsValueList();
+    }
+
+    // FeatureControlFuncs
+
+    static void SetFeatureControlEnabled(INTERNETFEATURELIST feature, int enable)
+    {
+        FeatureControlFuncs::SetFeatureControlEnabled(feature, enable);
+    }
+    static void DeleteFeatureControlRegistry(CString featureName)
+    {
+        FeatureControlFuncs::DeleteFeatureControlRegistry(featureName);
+    }
+    static void SetInformationBarRegistry(CString featureName, std::uint32_t value)
+    {
+        FeatureControlFuncs::SetInformationBarRegistry(featureName, value);
+    }
+    static int IsRegValueMore(HKEY key) { return FeatureControlFuncs::IsRegValueMore(key); }
+
+    // ControlPanelFuncs
+
+    static int ExecuteItems(HWND owner, CString arguments) { return ControlPanelFuncs::ExecuteItems(owner, arguments); }
 };
 
 } // namespace VyrLibraryFuncs

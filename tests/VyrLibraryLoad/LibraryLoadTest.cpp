@@ -85,8 +85,10 @@ TEST(LibraryLoad, HeadersPublishTheClassesThatTheTestsKnow)
         for (const PublishedClass& published : ClassesOf(library))
             names.insert(published.name);
     for (const char* const name :
-         {"VyrLibraryFuncs::NameFuncs", "VyrLibraryFuncs::LogFuncs", "VyrLibraryUtils::FileUtils",
-          "VyrLibraryUtils::FolderUtils", "VyrLibraryUtils::StringUtils", "VyrLibraryUtils::DateTimeUtils"})
+         {"VyrLibraryFuncs::NameFuncs", "VyrLibraryFuncs::LogFuncs", "VyrLibraryFuncs::ProgramsFeaturesFuncs",
+          "VyrLibraryFuncs::RegistryFuncs", "VyrLibraryFuncs::BrowserFuncs", "VyrLibraryFuncs::FeatureControlFuncs",
+          "VyrLibraryFuncs::ControlPanelFuncs", "VyrLibraryUtils::FileUtils", "VyrLibraryUtils::FolderUtils",
+          "VyrLibraryUtils::StringUtils", "VyrLibraryUtils::DateTimeUtils"})
         EXPECT_TRUE(names.contains(name)) << name;
 }
 

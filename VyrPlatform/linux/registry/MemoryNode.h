@@ -4,10 +4,11 @@
 #include "Node.h"
 
 #include <optional>
+#include <utility>
 
 namespace VyrPlatform::Registry {
 
-class MemoryNode final : public Node
+class VYR_PLATFORM_API MemoryNode final : public Node
 {
 public:
     /// Windows allows no more levels below a root.
@@ -19,6 +20,7 @@ public:
     [[nodiscard]] const Subkeys& GetSubkeys() override { return m_subkeys; }
     [[nodiscard]] std::shared_ptr<const Values> GetValues() override { return m_values; }
     [[nodiscard]] FileTicks GetLastWrite() const override { return m_lastWrite; }
+    [[nodiscard]] const Link* GetLink() const noexcept override { return m_link ? &*m_link : nullptr; }
     [[nodiscard]] MemoryNode* AsWritable() noexcept override { return m_isWritable ? this : nullptr; }
     [[nodiscard]] std::uint64_t GetGeneration() const noexcept override { return m_generation; }
     [[nodiscard]] bool IsDeleted() const noexcept override { return m_isDeleted; }
@@ -31,6 +33,9 @@ public:
     void SetValue(Value value);
     void SetLastWrite(FileTicks moment) noexcept { m_lastWrite = moment; }
 
+    /// Makes the key a link.
+    void SetLink(Link link) { m_link = std::move(link); }
+
     /// @return false when there is no such value.
     [[nodiscard]] bool RemoveValue(std::u16string_view name);
     /// Takes the subkey away with all below it, which counts as deleted from then on.
@@ -41,6 +46,7 @@ private:
 
     Subkeys m_subkeys;
     std::shared_ptr<Values> m_values = std::make_shared<Values>();
+    std::optional<Link> m_link;
     bool m_isWritable;
     bool m_isDeleted = false;
     int m_level = 0;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <unicode/uchar.h>
 #include <utility>
+#include <vector>
 
 namespace VyrPlatform::Registry {
 
@@ -42,13 +43,37 @@ std::u16string_view TakeName(std::u16string_view& path) noexcept
 
 std::shared_ptr<Node> FindNode(std::shared_ptr<Node> start, std::u16string_view path)
 {
+    // More links than any registry has on one path; links may lead in a circle.
+    constexpr int mostLinks = 32;
+    int links = 0;
     std::shared_ptr<Node> node = std::move(start);
-    for (std::u16string_view name = TakeName(path); node && !name.empty(); name = TakeName(path)) {
+    // What is still to be gone after the current path: the rest behind each link.
+    std::vector<std::u16string_view> rests;
+    std::vector<std::shared_ptr<Node>> linkNodes;
+    while (node) {
+        std::u16string_view name = TakeName(path);
+        while (name.empty() && !rests.empty()) {
+            path = rests.back();
+            rests.pop_back();
+            name = TakeName(path);
+        }
+        if (name.empty())
+            return node;
         const Subkeys& subkeys = node->GetSubkeys();
         const auto found = subkeys.find(FoldName(name));
         node = found == subkeys.end() ? nullptr : found->second.node;
+        const Link* const link = node ? node->GetLink() : nullptr;
+        if (!link)
+            continue;
+        if (++links > mostLinks)
+            return nullptr;
+        // The link's own text lives as long as the link.
+        linkNodes.push_back(node);
+        rests.push_back(path);
+        path = link->path;
+        node = link->start.lock();
     }
-    return node;
+    return nullptr;
 }
 
 } // namespace VyrPlatform::Registry

@@ -1,6 +1,7 @@
 // A key of one of the trees that a root key can show, whatever it is kept in.
 #pragma once
 
+#include <VyrPlatform/Export.h>
 #include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/text/CString.h>
 
@@ -14,7 +15,7 @@
 namespace VyrPlatform::Registry {
 
 /// The form of a name in which names are compared and ordered: upper-cased, one unit to one, the same in every locale.
-[[nodiscard]] CString FoldName(std::u16string_view name);
+[[nodiscard]] VYR_PLATFORM_API CString FoldName(std::u16string_view name);
 
 struct NameOrder
 {
@@ -37,6 +38,14 @@ using Values = ByName<Value>;
 class Node;
 class MemoryNode;
 
+/// Where a key that is a link leads.
+struct Link
+{
+    /// What the path starts from; nothing when that is gone.
+    std::weak_ptr<Node> start;
+    CString path;
+};
+
 struct Subkey
 {
     CString name;
@@ -44,7 +53,7 @@ struct Subkey
 };
 using Subkeys = ByName<Subkey>;
 
-class Node
+class VYR_PLATFORM_API Node
 {
 public:
     Node() = default;
@@ -58,6 +67,8 @@ public:
     [[nodiscard]] virtual std::shared_ptr<const Values> GetValues() = 0;
     [[nodiscard]] virtual FileTicks GetLastWrite() const = 0;
 
+    /// Where the key leads; a null pointer for one that is no link.
+    [[nodiscard]] virtual const Link* GetLink() const noexcept { return nullptr; }
     /// The node as one that can be written to; null for any other.
     [[nodiscard]] virtual MemoryNode* AsWritable() noexcept { return nullptr; }
     /// Changes whenever the names of subkeys or values do.
@@ -65,8 +76,8 @@ public:
     [[nodiscard]] virtual bool IsDeleted() const noexcept { return false; }
 };
 
-/// The node at `path` below `start`; null when there is none.
-[[nodiscard]] std::shared_ptr<Node> FindNode(std::shared_ptr<Node> start, std::u16string_view path);
+/// The node at `path` below `start`; null when there is none. Links are followed.
+[[nodiscard]] VYR_PLATFORM_API std::shared_ptr<Node> FindNode(std::shared_ptr<Node> start, std::u16string_view path);
 
 /// Takes the first name off the front of `path`, and the separators around it; empty when there is none.
 [[nodiscard]] std::u16string_view TakeName(std::u16string_view& path) noexcept;

@@ -1,29 +1,53 @@
 // The forms of a registry on Linux.
 #include <tests/support/RegistryForms.h>
+#include <tests/support/ScratchFolder.h>
 #include <tests/support/ScratchRegistry.h>
+#include <tests/support/linux/WinePrefixText.h>
 
 #include <VyrPlatform/WinTypes.h>
+#include <VyrPlatform/registry/RegistryFiles.h>
+
+#include <gtest/gtest.h>
 
 namespace VyrTests {
 
 namespace {
 
-class ScratchForm : public ShownRegistry
+using VyrPlatform::Registry::OpenResult;
+
+class MemoryForm : public ShownRegistry
 {
 public:
-    explicit ScratchForm(const RegistryTree& tree) { m_registry.Add(HKEY_CURRENT_USER, tree); }
+    explicit MemoryForm(const RegistryTree& tree) { m_registry.Add(HKEY_CURRENT_USER, tree); }
 
 private:
     ScratchRegistry m_registry;
 };
 
+class WineForm : public ShownRegistry
+{
+public:
+    explicit WineForm(const RegistryTree& tree)
+    {
+        const ScratchFolder prefix;
+        prefix.WriteFile(u"system.reg", WineText({}));
+        prefix.WriteFile(u"user.reg", WineText(tree));
+        EXPECT_EQ(VyrPlatform::Registry::ShowWinePrefix(prefix.Path()).outcome, OpenResult::Outcome::Shown);
+    }
+    ~WineForm() override { VyrPlatform::Registry::CloseRegistryFiles(); }
+};
+
+template <class Form>
+std::unique_ptr<ShownRegistry> Show(const RegistryTree& tree)
+{
+    return std::make_unique<Form>(tree);
+}
+
 } // namespace
 
 std::vector<RegistryForm> RegistryForms()
 {
-    return {{"Memory", [](const RegistryTree& tree) -> std::unique_ptr<ShownRegistry> {
-                 return std::make_unique<ScratchForm>(tree);
-             }}};
+    return {{"Memory", Show<MemoryForm>}, {"WinePrefix", Show<WineForm>}};
 }
 
 } // namespace VyrTests

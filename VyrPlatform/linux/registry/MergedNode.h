@@ -1,0 +1,28 @@
+// Two keys as one.
+#pragma once
+
+#include "Node.h"
+
+namespace VyrPlatform::Registry {
+
+/// What the key `upper` has, and what `lower` has beside it. For keys that do not change.
+class MergedNode final : public Node
+{
+public:
+    MergedNode(std::shared_ptr<Node> upper, std::shared_ptr<Node> lower);
+
+    [[nodiscard]] const Subkeys& GetSubkeys() override;
+    [[nodiscard]] std::shared_ptr<const Values> GetValues() override;
+    [[nodiscard]] FileTicks GetLastWrite() const override { return m_upper->GetLastWrite(); }
+
+private:
+    std::shared_ptr<Node> m_upper;
+    std::shared_ptr<Node> m_lower;
+    bool m_isLoaded = false;
+    Subkeys m_subkeys;
+};
+
+/// Both as one; the other where one is null.
+[[nodiscard]] std::shared_ptr<Node> Merge(std::shared_ptr<Node> upper, std::shared_ptr<Node> lower);
+
+} // namespace VyrPlatform::Registry

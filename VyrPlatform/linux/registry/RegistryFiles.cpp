@@ -1,0 +1,73 @@
+// Registries that lie in files, shown below the root keys.
+#include "MemoryNode.h"
+#include "MergedNode.h"
+#include "RootKeys.h"
+#include "WineText.h"
+
+#include <VyrPlatform/WinTypes.h>
+#include <VyrPlatform/files/FileReader.h>
+#include <VyrPlatform/registry/RegistryFiles.h>
+
+#include <cerrno>
+#include <span>
+#include <string>
+
+namespace VyrPlatform::Registry {
+
+namespace {
+
+using Outcome = OpenResult::Outcome;
+
+/// More than any prefix holds: a file that lies about itself shall not fill the memory.
+constexpr std::uint64_t mostBytes = std::uint64_t{1} << 30;
+
+/// Reads the whole text of a registry into `text`.
+OpenResult ReadWhole(const CString& path, std::string& text)
+{
+    const FileReader reader(path);
+    if (!reader.IsOpen())
+        return {Outcome::Unreadable, reader.Error(), path};
+    if (reader.Size() > mostBytes)
+        return {Outcome::NoRegistry, 0, path};
+    text.resize(reader.Size());
+    text.resize(reader.ReadAt(0, std::as_writable_bytes(std::span(text))));
+    return {IsWineText(text) ? Outcome::Shown : Outcome::NoRegistry, 0, path};
+}
+
+/// Shows the two trees, and the classes of both.
+void ShowRoots(const std::shared_ptr<Node>& machine, const std::shared_ptr<Node>& user)
+{
+    const char16_t classes[] = u"Software\\Classes";
+    SetRootNode(HKEY_LOCAL_MACHINE, machine);
+    SetRootNode(HKEY_CURRENT_USER, user);
+    SetRootNode(HKEY_CLASSES_ROOT, Merge(FindNode(user, classes), FindNode(machine, classes)));
+}
+
+} // namespace
+
+OpenResult ShowWinePrefix(const CString& folder)
+{
+    std::string machineText;
+    OpenResult result = ReadWhole(folder + u"/system.reg", machineText);
+    if (result.outcome != Outcome::Shown)
+        return result;
+    std::string userText;
+    result = ReadWhole(folder + u"/user.reg", userText);
+    if (result.outcome != Outcome::Shown && result.error != ENOENT)
+        return result;
+
+    const auto machine = std::make_shared<MemoryNode>(false, 0);
+    const auto user = std::make_shared<MemoryNode>(false, 0);
+    const LinkTargets links{machine, user};
+    ReadWineText(machineText, machine, links);
+    ReadWineText(userText, user, links);
+    ShowRoots(machine, user);
+    return {};
+}
+
+void CloseRegistryFiles()
+{
+    ShowRoots(nullptr, nullptr);
+}
+
+} // namespace VyrPlatform::Registry

@@ -1,0 +1,42 @@
+/// @file
+/// Registries that lie in files: those of a Wine prefix, and the hives of a Windows that does not run.
+///
+/// On Linux they are shown below the root keys, for reading alone; HKEY_CLASSES_ROOT is the user's classes over those
+/// of the machine. Windows shows its own registry and no other: there nothing is opened.
+#pragma once
+
+#include <VyrPlatform/Export.h>
+#include <VyrPlatform/text/CString.h>
+
+#include <cstdint>
+
+namespace VyrPlatform::Registry {
+
+struct OpenResult
+{
+    enum class Outcome : std::uint8_t
+    {
+        /// The root keys show it now.
+        Shown,
+        /// A file cannot be read.
+        Unreadable,
+        /// A file is something else, or damaged from its beginning.
+        NoRegistry,
+        /// This system does not open such files.
+        NotSupported
+    };
+    Outcome outcome = Outcome::Shown;
+    /// The system's error code for a file that cannot be read.
+    std::uint32_t error = 0;
+    /// The file that is meant, where there is one.
+    CString file;
+};
+
+/// Shows the registry of the Wine prefix in `folder`: its files `system.reg` and, where it is there, `user.reg`. What
+/// is damaged in them is missing. They are read whole.
+[[nodiscard]] VYR_PLATFORM_API OpenResult ShowWinePrefix(const CString& folder);
+
+/// Makes the root keys show nothing of files any more.
+VYR_PLATFORM_API void CloseRegistryFiles();
+
+} // namespace VyrPlatform::Registry

@@ -1,0 +1,13 @@
+// Windows has its own registry, and no other beside it.
+#include <VyrPlatform/registry/RegistryFiles.h>
+
+namespace VyrPlatform::Registry {
+
+OpenResult ShowWinePrefix(const CString& folder)
+{
+    return {OpenResult::Outcome::NotSupported, 0, folder};
+}
+
+void CloseRegistryFiles() {}
+
+} // namespace VyrPlatform::Registry
