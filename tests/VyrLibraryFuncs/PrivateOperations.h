@@ -6,6 +6,7 @@
 #include <VyrLibraryFuncs/select/FilterFuncs.h>
 #include <VyrLibraryFuncs/shell/ControlPanelFuncs.h>
 #include <VyrLibraryFuncs/shell/FeatureControlFuncs.h>
+#include <VyrLibraryFuncs/xmlinfo/ApplicationFuncs.h>
 
 #include <utility>
 #include <vector>
@@ -14,6 +15,12 @@ namespace VyrLibraryFuncs {
 
 struct PrivateOperations
 {
+    // ApplicationFuncs
+
+    static CString GetLocalDataApplication(CString key) { return ApplicationFuncs::GetLocalDataApplication(key); }
+    static CString GetUrl(CString section) { return ApplicationFuncs::GetUrl(section); }
+    static int IsVersionStagePrefix(CString word) { return ApplicationFuncs::IsVersionStagePrefix(word); }
+
     // FilterFuncs
 
     static int IsMatchCondition(CString name, FilterFuncs::FILTERITEM item)
