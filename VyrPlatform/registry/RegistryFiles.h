@@ -9,6 +9,7 @@
 #include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
+#include <vector>
 
 namespace VyrPlatform::Registry {
 
@@ -30,11 +31,29 @@ struct OpenResult
     std::uint32_t error = 0;
     /// The file that is meant, where there is one.
     CString file;
+    /// Hives that Windows did not close: what it wrote last may be missing in them.
+    std::vector<CString> unclosedFiles;
 };
 
 /// Shows the registry of the Wine prefix in `folder`: its files `system.reg` and, where it is there, `user.reg`. What
 /// is damaged in them is missing. They are read whole.
 [[nodiscard]] VYR_PLATFORM_API OpenResult ShowWinePrefix(const CString& folder);
+
+/// The files of a Windows. An empty path stands for none; what would be in it is missing.
+struct HiveFiles
+{
+    /// `SOFTWARE` and `SYSTEM`, mostly in `Windows/System32/config`: the keys of these names of HKEY_LOCAL_MACHINE.
+    CString software;
+    CString system;
+    /// `NTUSER.DAT` in the user's folder: HKEY_CURRENT_USER.
+    CString user;
+    /// `UsrClass.dat` in `AppData/Local/Microsoft/Windows` there: its key `Software\Classes`.
+    CString userClasses;
+};
+
+/// Shows the registry of a Windows that does not run. Its files are opened for reading and held; keys that are damaged
+/// are missing. Where one file cannot be opened, nothing changes.
+[[nodiscard]] VYR_PLATFORM_API OpenResult ShowHives(const HiveFiles& files);
 
 /// Makes the root keys show nothing of files any more.
 VYR_PLATFORM_API void CloseRegistryFiles();

@@ -1,4 +1,5 @@
 // Registries that lie in files, shown below the root keys.
+#include "Hive.h"
 #include "MemoryNode.h"
 #include "MergedNode.h"
 #include "RootKeys.h"
@@ -11,6 +12,7 @@
 #include <cerrno>
 #include <span>
 #include <string>
+#include <utility>
 
 namespace VyrPlatform::Registry {
 
@@ -26,12 +28,12 @@ OpenResult ReadWhole(const CString& path, std::string& text)
 {
     const FileReader reader(path);
     if (!reader.IsOpen())
-        return {Outcome::Unreadable, reader.Error(), path};
+        return {Outcome::Unreadable, reader.Error(), path, {}};
     if (reader.Size() > mostBytes)
-        return {Outcome::NoRegistry, 0, path};
+        return {Outcome::NoRegistry, 0, path, {}};
     text.resize(reader.Size());
     text.resize(reader.ReadAt(0, std::as_writable_bytes(std::span(text))));
-    return {IsWineText(text) ? Outcome::Shown : Outcome::NoRegistry, 0, path};
+    return {IsWineText(text) ? Outcome::Shown : Outcome::NoRegistry, 0, path, {}};
 }
 
 /// Shows the two trees, and the classes of both.
@@ -41,6 +43,16 @@ void ShowRoots(const std::shared_ptr<Node>& machine, const std::shared_ptr<Node>
     SetRootNode(HKEY_LOCAL_MACHINE, machine);
     SetRootNode(HKEY_CURRENT_USER, user);
     SetRootNode(HKEY_CLASSES_ROOT, Merge(FindNode(user, classes), FindNode(machine, classes)));
+}
+
+/// The user's hive, with that of the classes in its place.
+std::shared_ptr<Node> WithClasses(std::shared_ptr<Node> user, const std::shared_ptr<Node>& classes)
+{
+    if (!classes)
+        return user;
+    const auto above = std::make_shared<MemoryNode>(false, 0);
+    AddNode(above, u"Software", 0)->Attach(u"Classes", classes);
+    return Merge(std::move(user), above);
 }
 
 } // namespace
@@ -63,6 +75,35 @@ OpenResult ShowWinePrefix(const CString& folder)
     ReadWineText(userText, user, links);
     ShowRoots(machine, user);
     return {};
+}
+
+OpenResult ShowHives(const HiveFiles& files)
+{
+    OpenResult result;
+    const auto open = [&result](const CString& path) -> std::shared_ptr<Node> {
+        if (path.IsEmpty() || result.outcome != Outcome::Shown)
+            return nullptr;
+        OpenedHive hive = OpenHive(path);
+        hive.result.unclosedFiles.insert(hive.result.unclosedFiles.begin(), result.unclosedFiles.begin(),
+                                         result.unclosedFiles.end());
+        result = std::move(hive.result);
+        return hive.top;
+    };
+    const std::shared_ptr<Node> software = open(files.software);
+    const std::shared_ptr<Node> system = open(files.system);
+    const std::shared_ptr<Node> userHive = open(files.user);
+    const std::shared_ptr<Node> userClasses = open(files.userClasses);
+    if (result.outcome != Outcome::Shown)
+        return result;
+
+    const auto machine = std::make_shared<MemoryNode>(false, 0);
+    if (software)
+        machine->Attach(u"SOFTWARE", software);
+    if (system)
+        machine->Attach(u"SYSTEM", system);
+    ShowRoots(machine, WithClasses(userHive, userClasses));
+    result.file.Empty();
+    return result;
 }
 
 void CloseRegistryFiles()

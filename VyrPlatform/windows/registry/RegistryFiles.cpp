@@ -5,7 +5,12 @@ namespace VyrPlatform::Registry {
 
 OpenResult ShowWinePrefix(const CString& folder)
 {
-    return {OpenResult::Outcome::NotSupported, 0, folder};
+    return {OpenResult::Outcome::NotSupported, 0, folder, {}};
+}
+
+OpenResult ShowHives(const HiveFiles& files)
+{
+    return {OpenResult::Outcome::NotSupported, 0, files.software, {}};
 }
 
 void CloseRegistryFiles() {}

@@ -2,6 +2,7 @@
 #include <tests/support/RegistryForms.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/ScratchRegistry.h>
+#include <tests/support/linux/HiveBuilder.h>
 #include <tests/support/linux/WinePrefixText.h>
 
 #include <VyrPlatform/WinTypes.h>
@@ -37,6 +38,21 @@ public:
     ~WineForm() override { VyrPlatform::Registry::CloseRegistryFiles(); }
 };
 
+class HiveForm : public ShownRegistry
+{
+public:
+    explicit HiveForm(const RegistryTree& tree)
+    {
+        VyrPlatform::Registry::HiveFiles files;
+        files.user = m_folder.WriteFile(u"NTUSER.DAT", BuildHive(tree).bytes);
+        EXPECT_EQ(VyrPlatform::Registry::ShowHives(files).outcome, OpenResult::Outcome::Shown);
+    }
+    ~HiveForm() override { VyrPlatform::Registry::CloseRegistryFiles(); }
+
+private:
+    const ScratchFolder m_folder;
+};
+
 template <class Form>
 std::unique_ptr<ShownRegistry> Show(const RegistryTree& tree)
 {
@@ -47,7 +63,7 @@ std::unique_ptr<ShownRegistry> Show(const RegistryTree& tree)
 
 std::vector<RegistryForm> RegistryForms()
 {
-    return {{"Memory", Show<MemoryForm>}, {"WinePrefix", Show<WineForm>}};
+    return {{"Memory", Show<MemoryForm>}, {"WinePrefix", Show<WineForm>}, {"Hive", Show<HiveForm>}};
 }
 
 } // namespace VyrTests
