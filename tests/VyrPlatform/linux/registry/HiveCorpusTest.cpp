@@ -85,9 +85,9 @@ void Gather(Node& node, const std::string& path, bool isPlainPath, Facts& facts)
             std::memcpy(units.data(), value.data.data(), units.size() * 2);
             units.resize(std::min(units.find(u'\0'), units.size()));
             const std::string text = Encoding::ToUtf8(units);
-            // The other reader says "(null)" for the empty text.
+            // The other reader says "(null)" for a text without even a terminator.
             if (IsPlain(text))
-                facts.texts.insert(place + (text.empty() ? "(null)" : text));
+                facts.texts.insert(place + (value.data.empty() ? "(null)" : text));
         }
     }
     for (const auto& [folded, subkey] : node.GetSubkeys()) {
