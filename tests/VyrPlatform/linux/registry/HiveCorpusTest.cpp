@@ -34,7 +34,7 @@ struct Facts
     std::multiset<std::string> keyTimes;
     /// Path and type of every value.
     std::multiset<std::string> types;
-    /// Path and text of every text that is nothing but plain ASCII.
+    /// Path and text of every text that is nothing but plain ASCII and has an even count of bytes.
     std::multiset<std::string> texts;
 };
 
@@ -80,7 +80,7 @@ void Gather(Node& node, const std::string& path, bool isPlainPath, Facts& facts)
             std::snprintf(text, sizeof text, "0x%.8X", number);
             facts.numbers.insert(place + text);
         }
-        if (value.type == 1) {
+        if (value.type == 1 && value.data.size() % 2 == 0) {
             std::u16string units(value.data.size() / 2, u'\0');
             std::memcpy(units.data(), value.data.data(), units.size() * 2);
             units.resize(std::min(units.find(u'\0'), units.size()));
