@@ -1,10 +1,11 @@
 // Date-times of files, and their parts.
-#include <VyrLibraryUtils/DateTimePattern.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrPlatform/files/FileTimes.h>
+#include <VyrPlatform/time/DateTimePattern.h>
 
 namespace VyrLibraryUtils {
 
+namespace DateTimePattern = VyrPlatform::DateTimePattern;
 namespace FileTimes = VyrPlatform::FileTimes;
 
 namespace {

@@ -1,69 +1,13 @@
 // Date-times from text and to text.
-#include <VyrLibraryUtils/DateTimePattern.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
-#include <VyrPlatform/text/Locale.h>
 #include <VyrPlatform/time/Clock.h>
-
-#include <algorithm>
-#include <array>
-#include <cstddef>
+#include <VyrPlatform/time/DateTimePattern.h>
 
 namespace VyrLibraryUtils {
 
-using DateTimePattern::Reader;
-using DateTimePattern::Reading;
+namespace DateTimePattern = VyrPlatform::DateTimePattern;
 
 namespace {
-
-CString ShortDatePattern()
-{
-    return DateTimePattern::FromFormat(VyrPlatform::Locale::GetDateTexts().shortDatePattern);
-}
-
-CString TimePattern()
-{
-    return DateTimePattern::FromFormat(VyrPlatform::Locale::GetDateTexts().timePattern);
-}
-
-struct Form
-{
-    CString pattern;
-    Reading reading;
-};
-
-bool Take(Reader& reader, const Form& form)
-{
-    return reader.Take(form.pattern, form.reading);
-}
-
-std::u16string_view WithoutBlanksAround(std::u16string_view text)
-{
-    const std::size_t first = std::min(text.find_first_not_of(u" \t"), text.size());
-    return text.substr(first, text.find_last_not_of(u" \t") + 1 - first);
-}
-
-COleDateTime Parse(std::u16string_view text)
-{
-    const std::array<Form, 4> dates{{{u"%Y/%m/%d", Reading::Exact},
-                                     {u"%Y-%m-%d", Reading::Exact},
-                                     {u"%Y-%b-%d", Reading::Exact},
-                                     {ShortDatePattern(), Reading::Lenient}}};
-    const std::array<Form, 3> times{
-        {{u"%H:%M:%S", Reading::Exact}, {u"%H:%M", Reading::Exact}, {TimePattern(), Reading::Lenient}}};
-    for (const Form& date : dates) {
-        Reader reader(WithoutBlanksAround(text));
-        if (!Take(reader, date))
-            continue;
-        if (reader.IsAtEnd())
-            return reader.Value();
-        if (!reader.TakeBlanks())
-            continue;
-        for (const Form& time : times)
-            if (Reader attempt = reader; Take(attempt, time) && attempt.IsAtEnd())
-                return attempt.Value();
-    }
-    return DateTimePattern::Invalid();
-}
 
 CString Now()
 {
@@ -85,7 +29,7 @@ COleDateTime DateTimeUtils::GetInstallDateTime(CString text)
 COleDateTime DateTimeUtils::GetParseDateTime(CString text, int /*mode*/, std::uint32_t /*flags*/,
                                              std::uint32_t /*locale*/)
 {
-    return Parse(text);
+    return DateTimePattern::ReadUsual(text);
 }
 
 CString DateTimeUtils::GetDateTimeFormat(CString format, CString /*reserved*/)
@@ -100,12 +44,13 @@ CString DateTimeUtils::GetOleDateTimeFormat(COleDateTime dateTime, CString patte
 
 CString DateTimeUtils::GetFormatedDate(COleDateTime dateTime)
 {
-    return DateTimePattern::Write(dateTime, ShortDatePattern());
+    return DateTimePattern::Write(dateTime, DateTimePattern::ShortDate());
 }
 
 CString DateTimeUtils::GetFormatedDateTime(COleDateTime dateTime)
 {
-    return DateTimePattern::Write(dateTime, CString::Join({ShortDatePattern(), u" ", TimePattern()}));
+    return DateTimePattern::Write(dateTime,
+                                  CString::Join({DateTimePattern::ShortDate(), u" ", DateTimePattern::TimeOfDay()}));
 }
 
 CString DateTimeUtils::GetCurrentDateTime()

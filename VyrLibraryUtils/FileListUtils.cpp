@@ -1,12 +1,13 @@
 // File date-times as text.
-#include <VyrLibraryUtils/DateTimePattern.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/FileListUtils.h>
 #include <VyrLibraryUtils/ImageUtils.h>
 #include <VyrPlatform/files/FileTimes.h>
+#include <VyrPlatform/time/DateTimePattern.h>
 
 namespace VyrLibraryUtils {
 
+namespace DateTimePattern = VyrPlatform::DateTimePattern;
 namespace FileTimes = VyrPlatform::FileTimes;
 
 namespace {

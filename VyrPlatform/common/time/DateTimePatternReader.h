@@ -1,29 +1,13 @@
-/// @file
-/// The patterns in which date-times are written and read. Private to this library.
-///
-/// A pattern is text with conversions: %Y year (four digits), %y year (two digits), %m month, %d day, %H hour (0 to
-/// 23), %I hour (1 to 12), %M minute, %S second, each number of two digits; %-m %-d %-H %-I %-M %-S the same without a
-/// leading zero; %B and %b the month's name and its abbreviation, %A and %a those of the day of the week, %p morning or
-/// afternoon, in the user's language;
-/// %% a percent sign. Anything else stands for itself.
+// The reading of date-times by a pattern, piece by piece.
 #pragma once
 
-#include <VyrPlatform/text/CString.h>
 #include <VyrPlatform/time/COleDateTime.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
-namespace VyrLibraryUtils::DateTimePattern {
-
-/// What the library itself reads back, whatever the locale: yyyy/MM/dd HH:mm:ss.
-constexpr std::u16string_view stored = u"%Y/%m/%d %H:%M:%S";
-
-/// The pattern of a format in the letters of Unicode's date patterns, as docs/date-time-formats.md describes it.
-[[nodiscard]] CString FromFormat(std::u16string_view format);
-
-/// `dateTime` written with `pattern`; empty when it is not valid.
-[[nodiscard]] CString Write(const COleDateTime& dateTime, std::u16string_view pattern);
+namespace VyrPlatform::DateTimePattern {
 
 /// How closely a text must follow a pattern. Names count in either case, and a two-digit year below 30 is of the 21st
 /// century, any other of the 20th.
@@ -78,9 +62,4 @@ private:
     Fields m_fields;
 };
 
-/// What a text that is no date-time gives.
-[[nodiscard]] COleDateTime Invalid() noexcept;
-/// The date-time that all of `text` gives with `pattern`, digit for digit; invalid when it does not.
-[[nodiscard]] COleDateTime Read(std::u16string_view text, std::u16string_view pattern);
-
-} // namespace VyrLibraryUtils::DateTimePattern
+} // namespace VyrPlatform::DateTimePattern

@@ -1,7 +1,7 @@
 // The patterns in which date-times are written.
-#include <VyrLibraryUtils/DateTimePattern.h>
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/text/Locale.h>
+#include <VyrPlatform/time/DateTimePattern.h>
 
 #include <algorithm>
 #include <array>
@@ -9,7 +9,7 @@
 #include <memory_resource>
 #include <string>
 
-namespace VyrLibraryUtils::DateTimePattern {
+namespace VyrPlatform::DateTimePattern {
 
 namespace {
 
@@ -210,7 +210,7 @@ private:
 
     [[nodiscard]] bool AppendName(char16_t letter)
     {
-        const VyrPlatform::Locale::DateTexts& texts = VyrPlatform::Locale::GetDateTexts();
+        const Locale::DateTexts& texts = Locale::GetDateTexts();
         switch (letter) {
         case u'B':
             m_text.Append(texts.months[m_fields.wMonth - 1U]);
@@ -243,10 +243,20 @@ CString FromFormat(std::u16string_view format)
     return FormatCompiler(format).Compile();
 }
 
+CString ShortDate()
+{
+    return FromFormat(Locale::GetDateTexts().shortDatePattern);
+}
+
+CString TimeOfDay()
+{
+    return FromFormat(Locale::GetDateTexts().timePattern);
+}
+
 CString Write(const COleDateTime& dateTime, std::u16string_view pattern)
 {
     SYSTEMTIME fields;
     return dateTime.GetAsSystemTime(fields) ? Writer(fields).Write(pattern) : CString();
 }
 
-} // namespace VyrLibraryUtils::DateTimePattern
+} // namespace VyrPlatform::DateTimePattern

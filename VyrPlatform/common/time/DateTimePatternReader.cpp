@@ -1,15 +1,17 @@
 // Date-times read by a pattern.
-#include <VyrLibraryUtils/DateTimePattern.h>
+#include <VyrPlatform/common/time/DateTimePatternReader.h>
+#include <VyrPlatform/text/CString.h>
 #include <VyrPlatform/text/Locale.h>
+#include <VyrPlatform/time/DateTimePattern.h>
 
 #include <algorithm>
 #include <array>
 
-namespace VyrLibraryUtils::DateTimePattern {
+namespace VyrPlatform::DateTimePattern {
 
 namespace {
 
-using VyrPlatform::Locale::GetDateTexts;
+using Locale::GetDateTexts;
 
 bool IsDigit(char16_t unit) noexcept
 {
@@ -25,6 +27,23 @@ bool IsBlank(char16_t unit) noexcept
 /// English names are read in every locale.
 constexpr std::array<std::u16string_view, 12> englishMonths{u"Jan", u"Feb", u"Mar", u"Apr", u"May", u"Jun",
                                                             u"Jul", u"Aug", u"Sep", u"Oct", u"Nov", u"Dec"};
+
+struct Form
+{
+    CString pattern;
+    Reading reading;
+};
+
+bool Take(Reader& reader, const Form& form)
+{
+    return reader.Take(form.pattern, form.reading);
+}
+
+std::u16string_view WithoutBlanksAround(std::u16string_view text)
+{
+    const std::size_t first = std::min(text.find_first_not_of(u" \t"), text.size());
+    return text.substr(first, text.find_last_not_of(u" \t") + 1 - first);
+}
 
 } // namespace
 
@@ -188,4 +207,27 @@ COleDateTime Read(std::u16string_view text, std::u16string_view pattern)
     return Invalid();
 }
 
-} // namespace VyrLibraryUtils::DateTimePattern
+COleDateTime ReadUsual(std::u16string_view text)
+{
+    const std::array<Form, 4> dates{{{u"%Y/%m/%d", Reading::Exact},
+                                     {u"%Y-%m-%d", Reading::Exact},
+                                     {u"%Y-%b-%d", Reading::Exact},
+                                     {ShortDate(), Reading::Lenient}}};
+    const std::array<Form, 3> times{
+        {{u"%H:%M:%S", Reading::Exact}, {u"%H:%M", Reading::Exact}, {TimeOfDay(), Reading::Lenient}}};
+    for (const Form& date : dates) {
+        Reader reader(WithoutBlanksAround(text));
+        if (!Take(reader, date))
+            continue;
+        if (reader.IsAtEnd())
+            return reader.Value();
+        if (!reader.TakeBlanks())
+            continue;
+        for (const Form& time : times)
+            if (Reader attempt = reader; Take(attempt, time) && attempt.IsAtEnd())
+                return attempt.Value();
+    }
+    return Invalid();
+}
+
+} // namespace VyrPlatform::DateTimePattern
