@@ -1,7 +1,8 @@
-// Feeds any bytes to the reader of Samba's extended attribute: it stays in bounds, and a time written into the bytes is
-// read back.
+// Feeds any bytes to the reader of Samba's extended attribute: it stays in bounds, and a time or attributes written
+// into the bytes are read back, with all else as it was.
 #include <VyrPlatform/linux/files/DosAttribute.h>
 
+#include <algorithm>
 #include <cstdlib>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
@@ -17,5 +18,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (changed.empty() ? parsed.attributes || parsed.created
                         : read.created != created || read.attributes != parsed.attributes)
         std::abort();
+
+    constexpr std::uint32_t attributes = 0x2122;
+    const std::vector<std::byte> marked = VyrPlatform::WithAttributes(value, attributes);
+    const VyrPlatform::DosAttribute markedRead = VyrPlatform::ParseDosAttribute(marked);
+    if (marked.empty() ? parsed.attributes || parsed.created
+                       : markedRead.attributes != attributes || markedRead.created != parsed.created)
+        std::abort();
+    // What is put back as it was gives the very bytes, but for the spelling of a text.
+    if (parsed.attributes && parsed.created) {
+        const std::vector<std::byte> back = VyrPlatform::WithAttributes(marked, *parsed.attributes);
+        if (!std::equal(back.begin(), back.end(), value.begin(), value.end()))
+            std::abort();
+    }
     return 0;
 }

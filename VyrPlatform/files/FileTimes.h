@@ -37,6 +37,23 @@ namespace VyrPlatform::FileTimes {
 ///         system keeps none. Some systems answer 0 all the same.
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t SetCreated(const CString& path, FileTicks created);
 
+/// Times to be written; 0 leaves one alone.
+struct NewTimes
+{
+    FileTicks created = 0;
+    FileTicks modified = 0;
+    FileTicks accessed = 0;
+};
+
+/// Writes `times` to the file or folder at `path` (a link is followed), all or none: as a program that opens it for
+/// reading and writing, so that a file which is read-only (FileAttributes::IsReadOnly) is refused, whoever asks.
+///
+/// On Linux the creation time is kept where SetCreated keeps it; the other two are set at once, to 100 nanoseconds
+/// where the file system keeps as much.
+/// @return 0 when all were written, else the system's error code: among them that of an operation that is not supported
+///     where the file system keeps no creation time, and on Linux ERANGE where it cannot hold a time.
+[[nodiscard]] VYR_PLATFORM_API std::uint32_t Write(const CString& path, const NewTimes& times);
+
 /// `ticks` as local time, with the offset that holds at its own date; fractions of a second are dropped.
 /// @return invalid when it is out of the calendar's range.
 [[nodiscard]] VYR_PLATFORM_API COleDateTime ToLocal(FileTicks ticks);
@@ -50,6 +67,11 @@ namespace VyrPlatform::FileTimes {
 /// is going to be written back is read with it, so that it becomes the same instant again. On Windows that pair uses
 /// today's offset; on Linux this is ToLocal.
 [[nodiscard]] VYR_PLATFORM_API COleDateTime ToLocalForWriting(FileTicks ticks);
+
+/// The file time that the system's own conversion makes of local calendar fields: the inverse of ToLocalForWriting, to
+/// the second. On Windows it uses today's offset; on Linux this is FromLocal.
+/// @return nothing when `local` is not valid or lies before 1601, also when only UTC does; else more than 0.
+[[nodiscard]] VYR_PLATFORM_API std::optional<FileTicks> FromLocalForWriting(const COleDateTime& local);
 
 /// Makes ToLocal read the time zone anew. For a host that lives on while its user's time zone changes, and for tests.
 VYR_PLATFORM_API void FollowTimeZone();

@@ -20,4 +20,13 @@ void StampFile(const CString& path, VyrPlatform::FileTicks modified, VyrPlatform
 /// The file time that writing the calendar fields of `local` to a file makes of them.
 [[nodiscard]] VyrPlatform::FileTicks ToFileTicks(const COleDateTime& local);
 
+/// Sets the creation time of the file or folder at `path` to 2001.
+/// @return whether it stands there now: Wine answers that it set one, and drops it.
+[[nodiscard]] inline bool KeepsCreationTime(const CString& path)
+{
+    constexpr VyrPlatform::FileTicks created = TicksOfUnixTime(1'000'000'000);
+    return VyrPlatform::FileTimes::SetCreated(path, created) == 0 &&
+           VyrPlatform::FileTimes::GetCreated(path) == created;
+}
+
 } // namespace VyrTests

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <string_view>
 #include <system_error>
 
@@ -101,17 +102,27 @@ DosAttribute ParseRecord(std::span<const std::byte> value, const Layout& layout)
 }
 
 /// A record of version 5.
-std::vector<std::byte> MakeRecord(std::optional<std::uint32_t> attributes, FileTicks created)
+std::vector<std::byte> MakeRecord(std::optional<std::uint32_t> attributes, std::optional<FileTicks> created)
 {
     constexpr std::uint16_t version = 5;
     constexpr std::size_t size = 24;
     std::vector<std::byte> value(size);
     PutNumber(value, 2, version);
     PutNumber(value, 4, version);
-    PutNumber(value, 8, attributes ? hasAttributes | hasCreated : hasCreated);
+    PutNumber(value, 8, (attributes ? hasAttributes : 0) | (created ? hasCreated : 0));
     PutNumber(value, 12, attributes.value_or(0));
-    PutNumber(value, 16, static_cast<std::uint64_t>(created));
+    PutNumber(value, 16, static_cast<std::uint64_t>(created.value_or(0)));
     return value;
+}
+
+/// "0x20" and the like, with a NUL behind it where asked.
+std::vector<std::byte> MakeText(std::uint32_t attributes, bool isEnded)
+{
+    char text[] = "0x00000000";
+    const auto written = std::to_chars(text + 2, std::end(text), attributes, 16);
+    *written.ptr = '\0';
+    const auto bytes = std::as_bytes(std::span(std::begin(text), written.ptr + (isEnded ? 1 : 0)));
+    return {bytes.begin(), bytes.end()};
 }
 
 /// The length of the text that a value begins with.
@@ -123,6 +134,22 @@ std::size_t TextLength(std::span<const std::byte> value)
 bool IsTextAlone(std::span<const std::byte> value)
 {
     return TextLength(value) + 1 >= value.size();
+}
+
+/// `value` with the `number` at that place of its record, and `field` among those that are valid; empty when it is no
+/// record.
+template <class Number>
+std::vector<std::byte> WithNumber(std::span<const std::byte> value, std::size_t Layout::*place, Number number,
+                                  std::uint32_t field)
+{
+    const auto layout = FindLayout(value, TextLength(value) + 1);
+    if (!layout)
+        return {};
+    std::vector<std::byte> changed(value.begin(), value.end());
+    PutNumber(changed, (*layout).*place, number);
+    if (layout->fields)
+        PutNumber(changed, *layout->fields, NumberAt<std::uint32_t>(value, *layout->fields) | field);
+    return changed;
 }
 
 } // namespace
@@ -142,14 +169,17 @@ std::vector<std::byte> WithCreated(std::span<const std::byte> value, FileTicks c
         const DosAttribute text = ParseDosAttribute(value);
         return value.empty() || text.attributes ? MakeRecord(text.attributes, created) : std::vector<std::byte>();
     }
-    const auto layout = FindLayout(value, TextLength(value) + 1);
-    if (!layout)
-        return {};
-    std::vector<std::byte> changed(value.begin(), value.end());
-    PutNumber(changed, layout->created, static_cast<std::uint64_t>(created));
-    if (layout->fields)
-        PutNumber(changed, *layout->fields, NumberAt<std::uint32_t>(value, *layout->fields) | hasCreated);
-    return changed;
+    return WithNumber(value, &Layout::created, static_cast<std::uint64_t>(created), hasCreated);
+}
+
+std::vector<std::byte> WithAttributes(std::span<const std::byte> value, std::uint32_t attributes)
+{
+    if (value.empty())
+        return MakeRecord(attributes, std::nullopt);
+    if (!IsTextAlone(value))
+        return WithNumber(value, &Layout::attributes, attributes, hasAttributes);
+    const bool isEnded = value.back() == std::byte(0);
+    return ParseDosAttribute(value).attributes ? MakeText(attributes, isEnded) : std::vector<std::byte>();
 }
 
 } // namespace VyrPlatform

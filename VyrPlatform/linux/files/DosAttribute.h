@@ -28,5 +28,10 @@ struct DosAttribute
 /// version 5.
 /// @return empty when `value` is none that ParseDosAttribute reads.
 [[nodiscard]] VYR_PLATFORM_API std::vector<std::byte> WithCreated(std::span<const std::byte> value, FileTicks created);
+/// `value` with these attributes, whatever else it holds unchanged. No value at all becomes version 5; a text stays
+/// one.
+/// @return empty when `value` is none that ParseDosAttribute reads.
+[[nodiscard]] VYR_PLATFORM_API std::vector<std::byte> WithAttributes(std::span<const std::byte> value,
+                                                                     std::uint32_t attributes);
 
 } // namespace VyrPlatform

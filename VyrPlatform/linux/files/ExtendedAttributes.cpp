@@ -15,6 +15,7 @@ namespace VyrPlatform::ExtendedAttributes {
 namespace {
 
 constexpr const char* SambaName = "user.DOSATTRIB";
+constexpr const char* NtfsAttributesName = "system.ntfs_attrib_be";
 constexpr const char* NtfsCreatedName = "system.ntfs_crtime_be";
 
 /// The value of one extended attribute; longer than any that is read here, so that a longer one is none of them.
@@ -22,7 +23,7 @@ class Value
 {
 public:
     Value(const NativePath& path, const char* name) noexcept
-        : m_size(getxattr(path.Get(), name, m_bytes.data(), m_bytes.size()))
+        : m_size(getxattr(path.Get(), name, m_bytes.data(), m_bytes.size())), m_error(m_size < 0 ? errno : 0)
     {}
 
     [[nodiscard]] std::span<const std::byte> Bytes() const noexcept
@@ -30,7 +31,9 @@ public:
         return {m_bytes.data(), m_size > 0 ? static_cast<std::size_t>(m_size) : 0};
     }
     /// Whether this file system has no attributes of this family at all.
-    [[nodiscard]] bool IsUnsupported() const noexcept { return m_size < 0 && errno == ENOTSUP; }
+    [[nodiscard]] bool IsUnsupported() const noexcept { return m_error == ENOTSUP; }
+    /// Why it could not be read though it may be there, as an error code; 0 when it was read or is not there.
+    [[nodiscard]] int WhyUnread() const noexcept { return m_error == ENODATA || m_error == ENOTSUP ? 0 : m_error; }
 
     /// The first `count` bytes as a number, most significant first; nothing when there are fewer.
     [[nodiscard]] std::optional<std::uint64_t> BigEndian(std::size_t count) const noexcept
@@ -46,11 +49,44 @@ public:
 private:
     std::array<std::byte, 1024> m_bytes;
     ssize_t m_size;
+    int m_error;
 };
 
 std::optional<FileTicks> ToSetTime(std::optional<std::uint64_t> number) noexcept
 {
     return number.value_or(0) != 0 ? std::optional(static_cast<FileTicks>(*number)) : std::nullopt;
+}
+
+int Set(const NativePath& path, const char* name, std::span<const std::byte> value) noexcept
+{
+    return setxattr(path.Get(), name, value.data(), value.size(), 0) == 0 ? 0 : errno;
+}
+
+/// Sets a number as its bytes, most significant first.
+template <class Number>
+int SetBigEndian(const NativePath& path, const char* name, Number number) noexcept
+{
+    std::array<std::byte, sizeof(Number)> value;
+    for (std::size_t index = 0; index < value.size(); ++index)
+        value[index] = static_cast<std::byte>(number >> 8 * (value.size() - 1 - index));
+    return Set(path, name, value);
+}
+
+/// Sets Samba's attribute to what `change` makes of its value.
+template <class Change>
+int ChangeSamba(const NativePath& path, Change change)
+{
+    const Value before(path, SambaName);
+    if (const int error = before.WhyUnread())
+        return error;
+    const std::vector<std::byte> value = change(before.Bytes());
+    return value.empty() ? EINVAL : Set(path, SambaName, value);
+}
+
+std::optional<std::uint32_t> GetNtfsAttributes(const NativePath& path)
+{
+    const auto attributes = Value(path, NtfsAttributesName).BigEndian(sizeof(std::uint32_t));
+    return attributes ? std::optional(static_cast<std::uint32_t>(*attributes)) : std::nullopt;
 }
 
 } // namespace
@@ -59,10 +95,7 @@ std::optional<std::uint32_t> GetAttributes(const NativePath& path)
 {
     if (const DosAttribute samba = ParseDosAttribute(Value(path, SambaName).Bytes()); samba.attributes)
         return samba.attributes;
-    const Value ntfs(path, "system.ntfs_attrib_be");
-    if (const auto attributes = ntfs.BigEndian(sizeof(std::uint32_t)))
-        return static_cast<std::uint32_t>(*attributes);
-    return std::nullopt;
+    return GetNtfsAttributes(path);
 }
 
 std::optional<FileTicks> GetSambaCreated(const NativePath& path)
@@ -83,18 +116,55 @@ std::optional<FileTicks> GetNtfsCreated(const NativePath& path)
 
 int SetSambaCreated(const NativePath& path, FileTicks created)
 {
-    const std::vector<std::byte> value = WithCreated(Value(path, SambaName).Bytes(), created);
-    if (value.empty())
-        return EINVAL;
-    return setxattr(path.Get(), SambaName, value.data(), value.size(), 0) == 0 ? 0 : errno;
+    return ChangeSamba(path, [created](std::span<const std::byte> value) { return WithCreated(value, created); });
 }
 
 int SetNtfsCreated(const NativePath& path, FileTicks created)
 {
-    std::array<std::byte, sizeof(FileTicks)> value;
-    for (std::size_t index = 0; index < value.size(); ++index)
-        value[index] = static_cast<std::byte>(created >> 8 * (value.size() - 1 - index));
-    return setxattr(path.Get(), NtfsCreatedName, value.data(), value.size(), 0) == 0 ? 0 : errno;
+    return SetBigEndian(path, NtfsCreatedName, created);
+}
+
+int SetCreated(const NativePath& path, FileTicks created)
+{
+    // What is read first is written, too.
+    if (GetSambaCreated(path) || SetNtfsCreated(path, created) != 0)
+        return SetSambaCreated(path, created);
+    return 0;
+}
+
+int SetAttributes(const NativePath& path, std::uint32_t attributes, bool isWorthKeeping)
+{
+    if (!ParseDosAttribute(Value(path, SambaName).Bytes()).attributes) {
+        if (GetNtfsAttributes(path))
+            return SetBigEndian(path, NtfsAttributesName, attributes);
+        if (!isWorthKeeping)
+            return 0;
+    }
+    return ChangeSamba(path,
+                       [attributes](std::span<const std::byte> value) { return WithAttributes(value, attributes); });
+}
+
+Snapshot::Snapshot(const NativePath& path)
+{
+    for (const char* const name : {SambaName, NtfsAttributesName, NtfsCreatedName}) {
+        const Value value(path, name);
+        const auto bytes = value.Bytes();
+        if (!value.IsUnsupported() && value.WhyUnread() == 0)
+            m_values.emplace_back(
+                name, bytes.empty() ? std::nullopt
+                                    : std::optional<std::string>(
+                                          std::in_place, reinterpret_cast<const char*>(bytes.data()), bytes.size()));
+    }
+}
+
+void Snapshot::PutBack(const NativePath& path) const noexcept
+{
+    for (const auto& [name, value] : m_values) {
+        if (value)
+            setxattr(path.Get(), name, value->data(), value->size(), 0);
+        else
+            removexattr(path.Get(), name);
+    }
 }
 
 } // namespace VyrPlatform::ExtendedAttributes

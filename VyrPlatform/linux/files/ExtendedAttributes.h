@@ -7,6 +7,9 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace VyrPlatform::ExtendedAttributes {
 
@@ -24,5 +27,26 @@ namespace VyrPlatform::ExtendedAttributes {
 /// Sets the creation time on the disk of an NTFS driver.
 /// @return 0, or the error code: one on every other file system.
 [[nodiscard]] int SetNtfsCreated(const NativePath& path, FileTicks created);
+/// Sets the creation time where it is read from, or makes Samba's attribute.
+/// @return 0, or the error code.
+[[nodiscard]] int SetCreated(const NativePath& path, FileTicks created);
+
+/// Sets the attributes where GetAttributes reads them: into Samba's attribute, whose other fields stay, or on the disk
+/// of an NTFS driver. Where there is neither, Samba's attribute is made, unless `isWorthKeeping` is false.
+/// @return 0, or the error code.
+[[nodiscard]] int SetAttributes(const NativePath& path, std::uint32_t attributes, bool isWorthKeeping);
+
+/// What the extended attributes of a file hold that these operations write, to be put back when a later step fails.
+class Snapshot
+{
+public:
+    explicit Snapshot(const NativePath& path);
+    /// To the same file.
+    void PutBack(const NativePath& path) const noexcept;
+
+private:
+    /// Names and values; one that is not there has none.
+    std::vector<std::pair<const char*, std::optional<std::string>>> m_values;
+};
 
 } // namespace VyrPlatform::ExtendedAttributes

@@ -1,19 +1,146 @@
-// The read-only state of a file on Linux.
+// The attributes of a file on Linux: what Samba and Windows disks keep in extended attributes, and the mode.
 #include <VyrPlatform/files/FileAttributes.h>
 
 #include "ExtendedAttributes.h"
 #include "FileStatus.h"
 
+#include <cerrno>
+#include <fstream>
+#include <string>
+
 namespace VyrPlatform::FileAttributes {
+
+namespace {
+
+constexpr std::uint32_t readOnly = 0x1;
+constexpr std::uint32_t folder = 0x10;
+constexpr std::uint32_t normal = 0x80;
+constexpr std::uint32_t noAttribute = 0x80000000;
+
+constexpr mode_t allWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+constexpr mode_t permissions = 07777;
+
+/// What takes part in the attributes of a file.
+struct State
+{
+    bool isFolder = false;
+    mode_t mode = 0;
+    std::uint32_t attributes = unknown;
+};
+
+/// @return false, with errno set, when nothing can be told.
+bool Ask(const NativePath& path, State& state)
+{
+    struct statx status;
+    if (!AskStatus(path, 0, STATX_TYPE | STATX_MODE, status))
+        return false;
+    state.isFolder = S_ISDIR(status.stx_mode);
+    state.mode = status.stx_mode & permissions;
+    state.attributes = ExtendedAttributes::GetAttributes(path).value_or(0) & ~(folder | normal | noAttribute);
+    if (state.isFolder)
+        state.attributes |= folder;
+    else if (!(state.mode & S_IWUSR))
+        state.attributes |= readOnly;
+    if (state.attributes == 0)
+        state.attributes = normal;
+    return true;
+}
+
+/// The permissions that the process withholds from files that it makes. (umask itself could only be asked by changing
+/// it, for other threads, too.)
+mode_t GetUmask()
+{
+    constexpr mode_t allOfOthers = 077;
+    std::ifstream status("/proc/self/status");
+    for (std::string word; status >> word;) {
+        unsigned mask = 0;
+        if (word == "Umask:" && status >> std::oct >> mask)
+            return mask;
+    }
+    return allOfOthers;
+}
+
+mode_t MadeWritable(mode_t mode)
+{
+    const mode_t readers = (mode & (S_IRGRP | S_IROTH)) >> 1;
+    return mode | S_IWUSR | (readers & ~GetUmask());
+}
+
+/// The mode that goes with the new attributes.
+mode_t NewMode(const State& state, std::uint32_t attributes)
+{
+    const bool isWanted = attributes & readOnly;
+    if (state.isFolder || isWanted == static_cast<bool>(state.attributes & readOnly))
+        return state.mode;
+    if (isWanted)
+        return state.mode & ~allWrite;
+    return state.mode & S_IWUSR ? state.mode : MadeWritable(state.mode);
+}
+
+int SetMode(const NativePath& path, mode_t mode) noexcept
+{
+    return chmod(path.Get(), mode) == 0 ? 0 : errno;
+}
+
+/// Sets what is kept in extended attributes; those of the kind "user" need the permission to write.
+int SetKept(const NativePath& path, const State& state, std::uint32_t attributes)
+{
+    // The mode alone keeps the read-only state of a file of which nothing else is kept.
+    const bool isWorthKeeping = (attributes & ~(folder | normal | (state.isFolder ? 0 : readOnly))) != 0;
+    const std::uint32_t kept = (attributes & ~(folder | normal)) | (state.isFolder ? folder : 0);
+    const int error = ExtendedAttributes::SetAttributes(path, kept, isWorthKeeping);
+    if (error != EACCES || (state.mode & S_IWUSR) || SetMode(path, state.mode | S_IWUSR) != 0)
+        return error;
+    const int secondError = ExtendedAttributes::SetAttributes(path, kept, isWorthKeeping);
+    static_cast<void>(SetMode(path, state.mode));
+    return secondError;
+}
+
+} // namespace
+
+std::uint32_t Get(const CString& path)
+{
+    State state;
+    return Ask(NativePath(path), state) ? state.attributes : unknown;
+}
+
+std::uint32_t Set(const CString& path, std::uint32_t attributes)
+{
+    const NativePath nativePath(path);
+    State state;
+    if (!Ask(nativePath, state))
+        return static_cast<std::uint32_t>(errno);
+    if (attributes & noAttribute)
+        return EINVAL;
+    const ExtendedAttributes::Snapshot kept(nativePath);
+    if (const int error = SetKept(nativePath, state, attributes))
+        return static_cast<std::uint32_t>(error);
+    const mode_t mode = NewMode(state, attributes);
+    const int error = mode == state.mode ? 0 : SetMode(nativePath, mode);
+    if (error != 0)
+        kept.PutBack(nativePath);
+    return static_cast<std::uint32_t>(error);
+}
 
 bool IsReadOnly(const CString& path)
 {
-    constexpr std::uint32_t readOnly = 0x1;
+    const std::uint32_t attributes = Get(path);
+    return attributes != unknown && (attributes & readOnly);
+}
+
+LiftedReadOnly::LiftedReadOnly(const CString& path) : m_path(path)
+{
+    // What Samba keeps of the read-only state hinders nobody here.
     const NativePath nativePath(path);
-    struct statx status;
-    if (!AskStatus(nativePath, 0, STATX_MODE, status))
-        return false;
-    return !(status.stx_mode & S_IWUSR) || (ExtendedAttributes::GetAttributes(nativePath).value_or(0) & readOnly);
+    State state;
+    if (Ask(nativePath, state) && !(state.mode & S_IWUSR) && SetMode(nativePath, state.mode | S_IWUSR) == 0)
+        m_before = state.mode;
+}
+
+LiftedReadOnly::~LiftedReadOnly()
+{
+    if (m_before)
+        static_cast<void>(SetMode(NativePath(m_path), *m_before));
 }
 
 } // namespace VyrPlatform::FileAttributes

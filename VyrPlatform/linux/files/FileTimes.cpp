@@ -4,9 +4,64 @@
 #include "ExtendedAttributes.h"
 #include "FileStatus.h"
 
+#include <VyrPlatform/files/FileAttributes.h>
+
 #include <cerrno>
 
 namespace VyrPlatform::FileTimes {
+
+namespace {
+
+struct timespec AsItWas(const struct statx_timestamp& time) noexcept
+{
+    return {time.tv_sec, time.tv_nsec};
+}
+
+/// The time to be set: one that is left alone is given as it was, since some FUSE file systems (exfat-fuse) set nothing
+/// when it is left out.
+struct timespec NewTime(FileTicks wanted, const struct statx_timestamp& before) noexcept
+{
+    return wanted == 0 ? AsItWas(before) : ToTimespec(wanted);
+}
+
+/// Whether a time that was set to `wanted` stands at something else: file systems take the nearest that they can hold,
+/// which may be off by centuries, and FAT keeps of the last access only the day.
+bool IsFarOff(const struct statx_timestamp& now, FileTicks wanted) noexcept
+{
+    constexpr FileTicks twoDays = 2 * 86'400 * FileTicks{10'000'000};
+    const FileTicks ticks = ToTicks(now);
+    return wanted != 0 && (ticks > wanted ? ticks - wanted : wanted - ticks) > twoDays;
+}
+
+/// Sets last write and last access, or neither. @return 0, or the error code.
+int WriteKernelTimes(const NativePath& path, const NewTimes& times, const struct statx& before)
+{
+    const struct timespec wanted[] = {NewTime(times.accessed, before.stx_atime),
+                                      NewTime(times.modified, before.stx_mtime)};
+    if (utimensat(AT_FDCWD, path.Get(), wanted, 0) != 0)
+        return errno;
+    struct statx after;
+    if (!AskStatus(path, 0, STATX_MTIME | STATX_ATIME, after) ||
+        (!IsFarOff(after.stx_mtime, times.modified) && !IsFarOff(after.stx_atime, times.accessed)))
+        return 0;
+    const struct timespec old[] = {AsItWas(before.stx_atime), AsItWas(before.stx_mtime)};
+    utimensat(AT_FDCWD, path.Get(), old, 0);
+    return ERANGE;
+}
+
+/// Sets all three, or none.
+int WriteAllTimes(const NativePath& path, const NewTimes& times, const struct statx& before)
+{
+    const ExtendedAttributes::Snapshot kept(path);
+    if (const int error = ExtendedAttributes::SetCreated(path, times.created))
+        return error;
+    const int error = WriteKernelTimes(path, times, before);
+    if (error != 0)
+        kept.PutBack(path);
+    return error;
+}
+
+} // namespace
 
 std::optional<FileTicks> GetModified(const CString& path)
 {
@@ -48,11 +103,21 @@ std::uint32_t SetModified(const CString& path, FileTicks modified)
 
 std::uint32_t SetCreated(const CString& path, FileTicks created)
 {
+    return static_cast<std::uint32_t>(ExtendedAttributes::SetCreated(NativePath(path), created));
+}
+
+std::uint32_t Write(const CString& path, const NewTimes& times)
+{
     const NativePath nativePath(path);
-    // What is read first is written, too.
-    if (ExtendedAttributes::GetSambaCreated(nativePath) || ExtendedAttributes::SetNtfsCreated(nativePath, created) != 0)
-        return static_cast<std::uint32_t>(ExtendedAttributes::SetSambaCreated(nativePath, created));
-    return 0;
+    struct statx before;
+    if (!AskStatus(nativePath, 0, STATX_TYPE | STATX_MTIME | STATX_ATIME, before))
+        return static_cast<std::uint32_t>(errno);
+    if (times.created < 0 || times.modified < 0 || times.accessed < 0)
+        return EINVAL;
+    if (!S_ISDIR(before.stx_mode) && FileAttributes::IsReadOnly(path))
+        return EACCES;
+    return static_cast<std::uint32_t>(times.created == 0 ? WriteKernelTimes(nativePath, times, before)
+                                                         : WriteAllTimes(nativePath, times, before));
 }
 
 } // namespace VyrPlatform::FileTimes

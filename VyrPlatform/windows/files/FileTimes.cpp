@@ -4,6 +4,7 @@
 #include "FileStatus.h"
 #include "LongPath.h"
 
+#include <VyrPlatform/files/FileAttributes.h>
 #include <VyrPlatform/files/FileSystem.h>
 
 namespace VyrPlatform::FileTimes {
@@ -58,6 +59,28 @@ std::uint32_t SetCreated(const CString& path, FileTicks created)
 {
     const FILETIME time = ToFileTime(created);
     return Set(path, &time, nullptr);
+}
+
+std::uint32_t Write(const CString& path, const NewTimes& times)
+{
+    const bool isFolder = FileSystem::IsFolder(path);
+    // The system refuses to open it for writing; Wine does not refuse root.
+    if (!isFolder && FileAttributes::IsReadOnly(path))
+        return ERROR_ACCESS_DENIED;
+    const DWORD flags = isFolder ? FILE_ATTRIBUTE_NORMAL | FILE_FLAG_BACKUP_SEMANTICS : FILE_ATTRIBUTE_NORMAL;
+    const HANDLE file = CreateFileW(LongPath(path).Get(), GENERIC_READ | GENERIC_WRITE,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, flags, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return GetLastError();
+    const FILETIME created = ToFileTime(times.created);
+    const FILETIME modified = ToFileTime(times.modified);
+    const FILETIME accessed = ToFileTime(times.accessed);
+    const BOOL isSet =
+        SetFileTime(file, times.created != 0 ? &created : nullptr, times.accessed != 0 ? &accessed : nullptr,
+                    times.modified != 0 ? &modified : nullptr);
+    const DWORD error = isSet ? ERROR_SUCCESS : GetLastError();
+    CloseHandle(file);
+    return error;
 }
 
 } // namespace VyrPlatform::FileTimes

@@ -1,13 +1,13 @@
 // File times that are going to be written back, on Windows.
-#include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/files/FileTimes.h>
+
+#include "FileStatus.h"
 
 namespace VyrPlatform::FileTimes {
 
 COleDateTime ToLocalForWriting(FileTicks ticks)
 {
-    const ULARGE_INTEGER bits{.QuadPart = static_cast<std::uint64_t>(ticks)};
-    const FILETIME time{bits.LowPart, bits.HighPart};
+    const FILETIME time = ToFileTime(ticks);
     FILETIME local;
     SYSTEMTIME fields;
     // The pair of these is SystemTimeToFileTime and LocalFileTimeToFileTime, which use today's offset too.
@@ -16,6 +16,18 @@ COleDateTime ToLocalForWriting(FileTicks ticks)
     COleDateTime invalid;
     invalid.SetStatus(COleDateTime::invalid);
     return invalid;
+}
+
+std::optional<FileTicks> FromLocalForWriting(const COleDateTime& local)
+{
+    SYSTEMTIME fields;
+    FILETIME localTime;
+    FILETIME time;
+    // The system's calendar begins in 1601.
+    if (!local.GetAsSystemTime(fields) || !::SystemTimeToFileTime(&fields, &localTime) ||
+        !::LocalFileTimeToFileTime(&localTime, &time) || ToTicks(time) <= 0)
+        return std::nullopt;
+    return ToTicks(time);
 }
 
 } // namespace VyrPlatform::FileTimes

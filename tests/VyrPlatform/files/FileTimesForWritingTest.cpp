@@ -25,6 +25,7 @@ void ExpectEveryDayComesBack()
         const VyrPlatform::FileTicks noon = TicksOfUnixTime(day * secondsPerDay + secondsPerDay / 2);
         const COleDateTime local = FileTimes::ToLocalForWriting(noon + 9'999'999);
         ASSERT_EQ(VyrTests::ToFileTicks(local), noon) << VyrTests::Describe(local);
+        ASSERT_EQ(FileTimes::FromLocalForWriting(local), noon) << VyrTests::Describe(local);
     }
 }
 
@@ -47,6 +48,27 @@ TEST(FileTimesForWriting, IsInvalidOutOfTheCalendarsRange)
     EXPECT_EQ(VyrTests::Describe(FileTimes::ToLocalForWriting(last)), "invalid");
     EXPECT_EQ(VyrTests::Describe(FileTimes::ToLocalForWriting(std::numeric_limits<VyrPlatform::FileTicks>::min())),
               "invalid");
+}
+
+TEST(FileTimesForWriting, LocalTimeBefore1601IsNone)
+{
+    EXPECT_EQ(FileTimes::FromLocalForWriting(COleDateTime(1600, 12, 31, 23, 59, 59)), std::nullopt);
+    EXPECT_EQ(FileTimes::FromLocalForWriting(COleDateTime(100, 1, 1, 0, 0, 0)), std::nullopt);
+    const COleDateTime first(1601, 1, 3, 0, 0, 0);
+    EXPECT_EQ(FileTimes::FromLocalForWriting(first), VyrTests::ToFileTicks(first));
+    EXPECT_TRUE(FileTimes::FromLocalForWriting(COleDateTime(9999, 12, 31, 23, 59, 59)));
+}
+
+TEST(FileTimesForWriting, LocalTimeThatIsNotValidIsNone)
+{
+    for (const auto status : {COleDateTime::invalid, COleDateTime::null}) {
+        COleDateTime none(2024, 1, 5, 10, 30, 0);
+        none.SetStatus(status);
+        EXPECT_EQ(FileTimes::FromLocalForWriting(none), std::nullopt);
+    }
+    COleDateTime outside;
+    outside.m_dt = 1e9;
+    EXPECT_EQ(FileTimes::FromLocalForWriting(outside), std::nullopt);
 }
 
 } // namespace

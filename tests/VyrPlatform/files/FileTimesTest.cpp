@@ -2,6 +2,7 @@
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/files/FileTimes.h>
 #include <tests/support/FileMoments.h>
+#include <tests/support/FileState.h>
 #include <tests/support/Links.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/TimeZone.h>
@@ -155,6 +156,82 @@ TEST(FileTimes, CreatedIsSetToTheTickAndNothingElse)
     EXPECT_EQ(scratch.ReadFile(u"a"), "content");
 }
 
+TEST(FileTimes, AreWrittenToTheTick)
+{
+    const ScratchFolder scratch;
+    constexpr FileTicks modified = Utc(2024y / July / 19, 18, 45, 3, 1'234'567);
+    constexpr FileTicks accessed = Utc(1969y / December / 31, 23, 59, 59, 5'000'001);
+    for (const CString& path : {scratch.WriteFile(u"a", "content"), scratch.MakeFolder(u"folder")}) {
+        const bool isCreatedKept = VyrTests::KeepsCreationTime(path);
+        const std::optional<FileTicks> created = FileTimes::GetCreated(path);
+        EXPECT_EQ(FileTimes::Write(path, {.modified = modified, .accessed = accessed}), 0U);
+        EXPECT_EQ(FileTimes::GetModified(path), modified);
+        EXPECT_EQ(FileTimes::GetAccessed(path), accessed);
+        EXPECT_TRUE(!isCreatedKept || FileTimes::GetCreated(path) == created);
+    }
+    EXPECT_EQ(scratch.ReadFile(u"a"), "content");
+}
+
+TEST(FileTimes, ThatAreZeroAreLeftAlone)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    constexpr FileTicks before = Utc(2025y / January / 2, 3, 4, 5);
+    constexpr FileTicks time = Utc(2001y / July / 19, 18, 45, 3, 1'234'567);
+    VyrTests::StampFile(path, before, before);
+    EXPECT_EQ(FileTimes::Write(path, {}), 0U);
+    EXPECT_EQ(FileTimes::GetModified(path), before);
+    EXPECT_EQ(FileTimes::Write(path, {.modified = time}), 0U);
+    EXPECT_EQ(FileTimes::GetModified(path), time);
+    EXPECT_EQ(FileTimes::GetAccessed(path), before);
+    EXPECT_EQ(FileTimes::Write(path, {.accessed = time + 1}), 0U);
+    EXPECT_EQ(FileTimes::GetModified(path), time);
+    EXPECT_EQ(FileTimes::GetAccessed(path), time + 1);
+}
+
+TEST(FileTimes, AreAllWrittenAtOnce)
+{
+    const ScratchFolder scratch;
+    constexpr FileTicks created = Utc(2001y / July / 19, 18, 45, 3, 1'234'567);
+    for (const CString& path : {scratch.WriteFile(u"a"), scratch.MakeFolder(u"folder")}) {
+        const bool isCreatedKept = VyrTests::KeepsCreationTime(path);
+        ASSERT_EQ(FileTimes::Write(path, {.created = created, .modified = created + 1, .accessed = created + 2}), 0U);
+        EXPECT_EQ(FileTimes::GetModified(path), created + 1);
+        EXPECT_EQ(FileTimes::GetAccessed(path), created + 2);
+        if (!isCreatedKept)
+            GTEST_SKIP() << "Wine answers that it set the creation time, and drops it";
+        EXPECT_EQ(FileTimes::GetCreated(path), created);
+    }
+}
+
+TEST(FileTimes, OfAReadOnlyFileAreNotWritten)
+{
+    const ScratchFolder scratch;
+    constexpr FileTicks before = Utc(2025y / January / 2, 3, 4, 5);
+    constexpr FileTicks time = Utc(2001y / July / 19, 18, 45, 3);
+    const CString path = scratch.WriteFile(u"a");
+    VyrTests::StampFile(path, before, before);
+    VyrTests::SetReadOnly(path, true);
+    EXPECT_NE(FileTimes::Write(path, {.created = time, .modified = time, .accessed = time}), 0U);
+    EXPECT_EQ(FileTimes::GetModified(path), before);
+    EXPECT_EQ(FileTimes::GetAccessed(path), before);
+    EXPECT_NE(FileTimes::GetCreated(path), time);
+    VyrTests::SetReadOnly(path, false);
+}
+
+TEST(FileTimes, ArePutOnWhatALinkLeadsTo)
+{
+    const ScratchFolder scratch;
+    const CString file = scratch.WriteFile(u"a");
+    if (const std::string reason = VyrTests::MakeLink(file, scratch.Path(u"link")); !reason.empty())
+        GTEST_SKIP() << reason;
+    constexpr FileTicks time = Utc(2001y / July / 19, 18, 45, 3);
+    EXPECT_EQ(FileTimes::Write(scratch.Path(u"link"), {.modified = time}), 0U);
+    EXPECT_EQ(FileTimes::GetModified(file), time);
+    ASSERT_EQ(VyrTests::MakeLink(scratch.Path(u"missing"), scratch.Path(u"dangling")), "");
+    EXPECT_NE(FileTimes::Write(scratch.Path(u"dangling"), {.modified = time}), 0U);
+}
+
 TEST(FileTimes, OfNothingAreNotSet)
 {
     const ScratchFolder scratch;
@@ -162,6 +239,8 @@ TEST(FileTimes, OfNothingAreNotSet)
     for (const CString& path : {scratch.Path(u"missing"), scratch.Path(u"no/way"), CString()}) {
         EXPECT_NE(FileTimes::SetModified(path, time), 0U);
         EXPECT_NE(FileTimes::SetCreated(path, time), 0U);
+        EXPECT_NE(FileTimes::Write(path, {.created = time, .modified = time, .accessed = time}), 0U);
+        EXPECT_NE(FileTimes::Write(path, {}), 0U);
     }
     EXPECT_FALSE(scratch.Has(u"missing"));
 }

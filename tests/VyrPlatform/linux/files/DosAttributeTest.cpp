@@ -53,6 +53,14 @@ std::string Changed(std::string_view value, FileTicks time)
     return changed;
 }
 
+std::string Attributed(std::string_view value, std::uint32_t attributes)
+{
+    std::string changed;
+    for (const std::byte byte : VyrPlatform::WithAttributes(std::as_bytes(std::span(value)), attributes))
+        changed += static_cast<char>(byte);
+    return changed;
+}
+
 /// The value of the attribute as it stands; empty when there is none.
 std::string ValueOf(const CString& path)
 {
@@ -197,6 +205,123 @@ TEST(DosAttribute, CreationTimeIsNotPutIntoOtherBytes)
     const std::string whole = Version5();
     for (std::size_t size = 1; size < whole.size(); ++size)
         EXPECT_EQ(Changed(std::string_view(whole).substr(0, size), created), "") << size;
+}
+
+TEST(DosAttribute, AttributesArePutIntoEveryVersionAndNothingElseChanges)
+{
+    const auto sizes = Join({fourBytes, eightBytes, eightBytes, createdBytes, eightBytes, "rest\0"sv});
+    const auto newVersion = Join({eightBytes, createdBytes, "rest"sv});
+    const std::pair<std::string, std::string> starts[] = {
+        {Join({"\0\0\1\0\1\0\0\0"sv}), sizes},
+        {Join({"\0\0\2\0\2\0\0\0"sv, fourBytes}), sizes},
+        {Join({"\0\0\3\0\3\0\0\0"sv, "\x51\0\0\0"sv}), sizes},
+        {Join({"\0\0\4\0\4\0\0\0"sv, "\x51\0\0\0"sv}), newVersion},
+        {Join({"\0\0\5\0\5\0\0\0"sv, "\x51\0\0\0"sv}), Join({createdBytes, "rest"sv})},
+    };
+    for (const auto& [start, rest] : starts)
+        EXPECT_EQ(Attributed(Join({start, "\x21\0\0\0"sv, rest}), 0x2122), Join({start, "\x22\x21\0\0"sv, rest}))
+            << static_cast<int>(start[2]);
+}
+
+TEST(DosAttribute, AttributesThatArePutInAreValid)
+{
+    std::string value = Version5();
+    value[8] = '\x10';
+    std::string expected = Version5();
+    expected[12] = '\x26';
+    EXPECT_EQ(Attributed(value, 0x26), expected);
+}
+
+TEST(DosAttribute, AttributesMakeVersion5OfNothingAndTextOfText)
+{
+    EXPECT_EQ(Attributed("", 0x2002), Join({"\0\0\5\0\5\0\0\0\1\0\0\0\2\x20\0\0"sv, std::string(8, '\0')}));
+    EXPECT_EQ(Attributed("0x20", 0x2122), "0x2122");
+    EXPECT_EQ(Attributed("0x20\0"sv, 0x22), "0x22\0"sv);
+    EXPECT_EQ(Attributed("0x20", 0xFFFF'FFFF), "0xffffffff");
+    EXPECT_EQ(Attributed("0x20", 0), "0x0");
+}
+
+TEST(DosAttribute, AttributesAreNotPutIntoOtherBytes)
+{
+    for (const std::string_view value : {"\0"sv, "32"sv, "0x20z"sv, "\0\0\6\0\6\0\0\0"sv, "\0\0\5\0"sv})
+        EXPECT_EQ(Attributed(value, 0x22), "") << testing::PrintToString(value);
+    const std::string whole = Version5();
+    for (std::size_t size = 1; size < whole.size(); ++size)
+        EXPECT_EQ(Attributed(std::string_view(whole).substr(0, size), 0x22), "") << size;
+}
+
+TEST(DosAttributeOfFile, ValuesOfSambaAreReadAndKeepTheirTime)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    SetValue(path, "user.DOSATTRIB", "\0\0\x05\0\x05\0\0\0\x11\0\0\0\x22\0\0\0\x99\x9c\x19\xae\x54\xaa\xdc\x01"sv);
+    EXPECT_EQ(FileAttributes::Get(path), 0x22U);
+    ASSERT_EQ(FileAttributes::Set(path, 0x26), 0U);
+    EXPECT_EQ(ValueOf(path), "\0\0\x05\0\x05\0\0\0\x11\0\0\0\x26\0\0\0\x99\x9c\x19\xae\x54\xaa\xdc\x01"sv);
+}
+
+TEST(DosAttributeOfFile, WhatSambaWroteForItsClientsIsRead)
+{
+    // Samba 4.17, after a client's "setmode a.txt +hs", "setmode a.txt +r" and "mkdir d", "setmode d +h".
+    const ScratchFolder scratch;
+    const CString file = scratch.WriteFile(u"a.txt");
+    SetValue(file, "user.DOSATTRIB", "\0\0\5\0\5\0\0\0\x11\0\0\0\7\0\0\0\xce\xf7\x6d\xcc\x2f\x7a\xdd\1"sv);
+    EXPECT_EQ(FileAttributes::Get(file), 0x7U);
+    EXPECT_EQ(FileTimes::GetCreated(file), 0x01'DD'7A'2F'CC'6D'F7'CE);
+    const CString folder = scratch.MakeFolder(u"d");
+    SetValue(folder, "user.DOSATTRIB", "\0\0\5\0\5\0\0\0\x11\0\0\0\x12\0\0\0\xb9\xa8\x1c\xf4\x2f\x7a\xdd\1"sv);
+    EXPECT_EQ(FileAttributes::Get(folder), 0x12U);
+    EXPECT_EQ(FileTimes::GetCreated(folder), 0x01'DD'7A'2F'F4'1C'A8'B9);
+}
+
+TEST(DosAttributeOfFile, EveryBitIsKept)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    for (std::uint32_t bit = 2; bit != 0x8000'0000; bit <<= 1) {
+        if (bit == 0x10 || bit == 0x80)
+            continue;
+        ASSERT_EQ(FileAttributes::Set(path, bit), 0U);
+        EXPECT_EQ(FileAttributes::Get(path), bit);
+    }
+    ASSERT_EQ(FileAttributes::Set(path, 0x10 | 0x80), 0U);
+    EXPECT_EQ(FileAttributes::Get(path), 0x80U) << "what it is decides whether it is a folder";
+}
+
+TEST(DosAttributeOfFile, IsNotMadeWhereNothingIsWorthKeeping)
+{
+    const ScratchFolder scratch;
+    for (const CString& path : {scratch.WriteFile(u"a"), scratch.MakeFolder(u"folder")}) {
+        EXPECT_EQ(FileAttributes::Set(path, 0x80), 0U);
+        EXPECT_EQ(FileAttributes::Set(path, 0), 0U);
+        EXPECT_EQ(FileAttributes::Set(path, 0x10), 0U);
+        EXPECT_EQ(ValueOf(path), "");
+    }
+    const CString file = scratch.Path(u"a");
+    EXPECT_EQ(FileAttributes::Set(file, 0x81), 0U);
+    EXPECT_EQ(FileAttributes::Get(file), 1U);
+    EXPECT_EQ(ValueOf(file), "") << "the mode tells it";
+    // Of a folder the mode never tells it.
+    EXPECT_EQ(FileAttributes::Set(scratch.Path(u"folder"), 0x11), 0U);
+    EXPECT_EQ(FileAttributes::Get(scratch.Path(u"folder")), 0x11U);
+    EXPECT_EQ(ValueOf(scratch.Path(u"folder")).substr(8, 8), "\1\0\0\0\x11\0\0\0"sv);
+}
+
+TEST(DosAttributeOfFile, ValueThatIsNoneOrTooLongIsNotWrittenOver)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    for (const std::string& value : {Version5().substr(0, 20), std::string(3000, '\xff'), std::string("32")}) {
+        SetValue(path, "user.DOSATTRIB", value);
+        EXPECT_NE(FileAttributes::Set(path, 0x22), 0U);
+        EXPECT_NE(FileAttributes::Set(path, 0x23), 0U);
+        EXPECT_NE(FileTimes::SetCreated(path, created), 0U);
+        EXPECT_NE(FileTimes::Write(path, {.created = created, .modified = created}), 0U);
+        EXPECT_NE(FileTimes::GetModified(path), created);
+        EXPECT_GE(getxattr(VyrTests::ToStdPath(path).c_str(), "user.DOSATTRIB", nullptr, 0),
+                  static_cast<ssize_t>(value.size()));
+        EXPECT_FALSE(FileAttributes::IsReadOnly(path));
+    }
 }
 
 TEST(DosAttributeOfFile, CreationTimeThatIsSetLeavesTheAttributes)

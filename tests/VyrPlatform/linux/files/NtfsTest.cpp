@@ -9,10 +9,12 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <string_view>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 
+namespace FileAttributes = VyrPlatform::FileAttributes;
 namespace FileTimes = VyrPlatform::FileTimes;
 using namespace std::string_view_literals;
 
@@ -35,6 +37,14 @@ protected:
     void SetAttribute(const char* name, std::string_view value) const
     {
         ASSERT_EQ(setxattr(VyrTests::ToStdPath(Path(u"a")).c_str(), name, value.data(), value.size(), 0), 0);
+    }
+
+    [[nodiscard]] std::string GetAttribute(const char* name) const
+    {
+        std::string value(64, '\0');
+        const ssize_t size = getxattr(VyrTests::ToStdPath(Path(u"a")).c_str(), name, value.data(), value.size());
+        value.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
+        return value;
     }
 
 private:
@@ -66,6 +76,38 @@ TEST_F(Ntfs, ReadOnlyAttributeMakesAFileReadOnly)
     EXPECT_FALSE(VyrPlatform::FileAttributes::IsReadOnly(Path(u"a")));
     SetAttribute("system.ntfs_attrib_be", "\0\0\0\x21"sv);
     EXPECT_TRUE(VyrPlatform::FileAttributes::IsReadOnly(Path(u"a")));
+}
+
+TEST_F(Ntfs, AttributesAreThoseOfTheDisk)
+{
+    SetAttribute("system.ntfs_attrib_be", "\0\0\x01\x26"sv);
+    EXPECT_EQ(FileAttributes::Get(Path(u"a")), 0x126U);
+    ASSERT_EQ(FileAttributes::Set(Path(u"a"), 0x3007), 0U);
+    EXPECT_EQ(GetAttribute("system.ntfs_attrib_be"), "\0\0\x30\x07"sv);
+    EXPECT_EQ(FileAttributes::Get(Path(u"a")), 0x3007U);
+    ASSERT_EQ(FileAttributes::Set(Path(u"a"), 0), 0U);
+    EXPECT_EQ(FileAttributes::Get(Path(u"a")), 0x80U);
+    EXPECT_EQ(GetAttribute("user.DOSATTRIB"), "");
+}
+
+TEST_F(Ntfs, AttributesOfAFolderAreThoseOfTheDisk)
+{
+    const CString folder = Outside().MakeFolder(u"disk/folder");
+    EXPECT_EQ(FileAttributes::Get(folder) & ~0x20U, 0x10U);
+    ASSERT_EQ(FileAttributes::Set(folder, 0x13), 0U);
+    EXPECT_EQ(FileAttributes::Get(folder), 0x13U);
+    EXPECT_TRUE(FileAttributes::IsReadOnly(folder));
+}
+
+TEST_F(Ntfs, TimesAreWrittenToTheTick)
+{
+    constexpr VyrPlatform::FileTicks created = 0x01'BF'53'EB'25'6D'40'07;
+    ASSERT_EQ(FileTimes::Write(Path(u"a"), {.created = created, .modified = created + 1, .accessed = created + 2}), 0U);
+    EXPECT_EQ(FileTimes::GetCreated(Path(u"a")), created);
+    EXPECT_EQ(FileTimes::GetModified(Path(u"a")), created + 1);
+    EXPECT_EQ(FileTimes::GetAccessed(Path(u"a")), created + 2);
+    ASSERT_EQ(FileAttributes::Set(Path(u"a"), 0x21), 0U);
+    EXPECT_NE(FileTimes::Write(Path(u"a"), {.modified = created}), 0U) << "it is read-only";
 }
 
 TEST_F(Ntfs, ZoneMarkIsAStreamAndGoes)
