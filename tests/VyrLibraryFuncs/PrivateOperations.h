@@ -2,12 +2,12 @@
 // operation.
 #pragma once
 
+#include <VyrLibraryFuncs/metadata/AttributesFuncs.h>
 #include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>
 #include <VyrLibraryFuncs/select/FilterFuncs.h>
 #include <VyrLibraryFuncs/shell/ControlPanelFuncs.h>
 #include <VyrLibraryFuncs/shell/FeatureControlFuncs.h>
 #include <VyrLibraryFuncs/xmlinfo/ApplicationFuncs.h>
-
 #include <utility>
 #include <vector>
 
@@ -20,6 +20,45 @@ struct PrivateOperations
     static CString GetLocalDataApplication(CString key) { return ApplicationFuncs::GetLocalDataApplication(key); }
     static CString GetUrl(CString section) { return ApplicationFuncs::GetUrl(section); }
     static int IsVersionStagePrefix(CString word) { return ApplicationFuncs::IsVersionStagePrefix(word); }
+
+    // AttributesFuncs
+
+    static int SetModifiedReadOnlyAttributes(CString path, int state)
+    {
+        return AttributesFuncs::SetModifiedReadOnlyAttributes(path, state);
+    }
+    static int SetModifiedHiddenAttributes(CString path, int state)
+    {
+        return AttributesFuncs::SetModifiedHiddenAttributes(path, state);
+    }
+    static int SetModifiedSystemAttributes(CString path, int state)
+    {
+        return AttributesFuncs::SetModifiedSystemAttributes(path, state);
+    }
+    static int SetModifiedArchiveAttributes(CString path, int state)
+    {
+        return AttributesFuncs::SetModifiedArchiveAttributes(path, state);
+    }
+    static int SetModifiedTemporaryAttributes(CString path, int state)
+    {
+        return AttributesFuncs::SetModifiedTemporaryAttributes(path, state);
+    }
+    static int SetModifiedNotContentIndexedAttributes(CString path, int state)
+    {
+        return AttributesFuncs::SetModifiedNotContentIndexedAttributes(path, state);
+    }
+    static int SetModifiedAttributes(CString path, int state, int index)
+    {
+        return AttributesFuncs::SetModifiedAttributes(path, state, index);
+    }
+    static int SetAttributes(CString path, int isSet, int index)
+    {
+        return AttributesFuncs::SetAttributes(path, isSet, index);
+    }
+    static int GetSelectedAttributes(CString text, CString letter)
+    {
+        return AttributesFuncs::GetSelectedAttributes(text, letter);
+    }
 
     // FilterFuncs
 

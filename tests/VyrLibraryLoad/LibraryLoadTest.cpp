@@ -85,7 +85,8 @@ TEST(LibraryLoad, HeadersPublishTheClassesThatTheTestsKnow)
         for (const PublishedClass& published : ClassesOf(library))
             names.insert(published.name);
     for (const char* const name :
-         {"VyrLibraryFuncs::NameFuncs", "VyrLibraryFuncs::LogFuncs", "VyrLibraryFuncs::ProgramsFeaturesFuncs",
+         {"VyrLibraryFuncs::NameFuncs", "VyrLibraryFuncs::DateTimeFuncs", "VyrLibraryFuncs::AttributesFuncs",
+          "VyrLibraryFuncs::UnblockFuncs", "VyrLibraryFuncs::LogFuncs", "VyrLibraryFuncs::ProgramsFeaturesFuncs",
           "VyrLibraryFuncs::RegistryFuncs", "VyrLibraryFuncs::BrowserFuncs", "VyrLibraryFuncs::FeatureControlFuncs",
           "VyrLibraryFuncs::ControlPanelFuncs", "VyrLibraryUtils::FileUtils", "VyrLibraryUtils::FolderUtils",
           "VyrLibraryUtils::StringUtils", "VyrLibraryUtils::DateTimeUtils"})
