@@ -91,12 +91,18 @@ ChildProcess::~ChildProcess()
     if (!m_state->inputWriter.joinable())
         return;
     m_state->child.Kill();
+    static_cast<void>(m_state->child.WaitFor(patience));
     m_state->Join();
 }
 
 bool ChildProcess::WaitForOutput(std::string_view text)
 {
     return m_state->output.WaitFor(text);
+}
+
+bool ChildProcess::GoToNextChange()
+{
+    return m_state->child.GoToNextChange();
 }
 
 void ChildProcess::Interrupt()
@@ -124,6 +130,17 @@ ProgramResult ChildProcess::Wait()
 ProgramResult RunProgram(const ProgramCall& call)
 {
     return ChildProcess(call).Wait();
+}
+
+int CountChanges(ProgramCall call)
+{
+    call.stopsAtChanges = true;
+    ChildProcess child(call);
+    int count = 0;
+    while (child.GoToNextChange())
+        ++count;
+    EXPECT_EQ(child.Wait().exitCode, 0);
+    return count;
 }
 
 CString BesideThisProgram(std::u16string_view name)

@@ -28,6 +28,8 @@ struct ProgramCall
     bool staysInputOpen = false;
     /// Its standard output is a pipe whose reader is gone.
     bool isOutputClosed = false;
+    /// It stops before each change, see ChildProcess::GoToNextChange.
+    bool stopsAtChanges = false;
 };
 
 struct ProgramResult
@@ -51,11 +53,17 @@ public:
 
     /// Waits until its standard output holds `text`; false when the program ends first.
     [[nodiscard]] bool WaitForOutput(std::string_view text);
-    /// Interrupts it as Ctrl-C does; on Windows every running program of the test is interrupted.
+    /// Lets a program that stops at changes work until it is about to make the next one, and holds it there. A change
+    /// is a call of the system that creates, writes, renames, flushes or deletes a file or folder, or sets its
+    /// properties. The same work makes the same changes each time. Call it on the thread that started the program.
+    /// @return false when the program ended instead.
+    [[nodiscard]] bool GoToNextChange();
+    /// Interrupts it as Ctrl-C does; on Windows every running program of the test is interrupted. One that is held
+    /// makes the change that it is held before, and knows of the interrupt after that.
     void Interrupt();
-    /// Kills it at once, as a crash does.
+    /// Kills it at once, as a crash does. One that is held does not make the change that it is held before.
     void Kill();
-    /// Waits for its end. Call it once.
+    /// Waits for its end; one that is held goes on. Call it once.
     [[nodiscard]] ProgramResult Wait();
 
 private:
@@ -65,6 +73,10 @@ private:
 
 /// Runs a program to its end.
 [[nodiscard]] ProgramResult RunProgram(const ProgramCall& call);
+
+/// Runs a program to its end.
+/// @return how many changes it made, see ChildProcess::GoToNextChange.
+[[nodiscard]] int CountChanges(ProgramCall call);
 
 /// The full path of the program `name` (without ".exe") that the build puts beside the test's own.
 [[nodiscard]] CString BesideThisProgram(std::u16string_view name);

@@ -30,6 +30,9 @@ public:
     /// The next bytes that it has written to `stream`; empty at the end.
     [[nodiscard]] std::string Read(Stream stream);
 
+    /// See ChildProcess.
+    [[nodiscard]] bool GoToNextChange();
+
     /// The exit code, once it has ended; nothing when it still runs after `patience`.
     [[nodiscard]] std::optional<int> WaitFor(std::chrono::milliseconds patience);
     void Interrupt();

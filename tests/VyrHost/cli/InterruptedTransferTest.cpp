@@ -5,10 +5,8 @@
 
 #include <gmock/gmock.h>
 
-#include <chrono>
 #include <filesystem>
 #include <fstream>
-#include <thread>
 
 using namespace VyrTests;
 using testing::AllOf;
@@ -22,16 +20,13 @@ namespace fs = std::filesystem;
 class InterruptedTransfer : public VyrProgram
 {
 protected:
-    static constexpr int filesInOne = 500;
+    static constexpr int filesInOne = 40;
 
     using Files = std::map<std::string, std::string>;
 
-    /// "one" takes a while, "two" is small; both go to "to".
+    /// "one" has many files, "two" one; both go to "to".
     Files Arrange() const
     {
-        fs::remove_all(PathOf("one"));
-        fs::remove_all(PathOf("two"));
-        fs::remove_all(PathOf("to"));
         fs::create_directories(PathOf("one"));
         fs::create_directories(PathOf("two"));
         fs::create_directories(PathOf("to"));
@@ -41,33 +36,22 @@ protected:
         return FilesIn("");
     }
 
-    /// Starts a call, and interrupts it `times` as soon as something of "one" has come to the target.
+    /// Starts a call, and interrupts it `times` when something of "one" has come to the target, before each of its next
+    /// changes.
     ProgramResult RunInterrupted(const std::vector<CString>& arguments, int times = 1) const
     {
-        ChildProcess child(CallOf(arguments));
-        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
-        while ((!fs::exists(PathOf("to/one")) || fs::is_empty(PathOf("to/one"))) &&
-               std::chrono::steady_clock::now() < end)
-            std::this_thread::yield();
+        ProgramCall call = CallOf(arguments);
+        call.stopsAtChanges = true;
+        ChildProcess child(call);
+        bool isHeld = child.GoToNextChange();
+        while (isHeld && (!fs::exists(PathOf("to/one")) || fs::is_empty(PathOf("to/one"))))
+            isHeld = child.GoToNextChange();
         for (int time = 0; time < times; ++time) {
+            EXPECT_TRUE(isHeld);
             child.Interrupt();
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+            isHeld = time + 1 < times && child.GoToNextChange();
         }
         return child.Wait();
-    }
-
-    /// RunInterrupted on what Arrange makes, anew where the work had ended before the interrupt came.
-    ProgramResult RunInterruptedInTime(const std::vector<CString>& arguments) const
-    {
-        constexpr int attempts = 5;
-        ProgramResult result;
-        for (int attempt = 0; attempt < attempts; ++attempt) {
-            Arrange();
-            result = RunInterrupted(arguments);
-            if (result.exitCode != 0)
-                break;
-        }
-        return result;
     }
 
     [[nodiscard]] Files FilesIn(const std::string& folder) const
@@ -89,9 +73,10 @@ protected:
 
 TEST_F(InterruptedTransfer, CopyEndsTheFolderInHandAndSaysWhatWasNotReached)
 {
-    const ProgramResult result = RunInterruptedInTime({u"copy", u"one", u"two", u"to", u"--apply"});
+    Arrange();
+    const ProgramResult result = RunInterrupted({u"copy", u"one", u"two", u"to", u"--apply"});
     EXPECT_EQ(result.exitCode, 130) << result.errors;
-    EXPECT_THAT(result.output, AllOf(StartsWith("one  ->  to"), HasSubstr("one  1 folder, 500 files, ")));
+    EXPECT_THAT(result.output, AllOf(StartsWith("one  ->  to"), HasSubstr("one  1 folder, 40 files, ")));
     EXPECT_THAT(result.output, HasSubstr("two  not reached; 1 folder, 1 file, 1 byte\n"
                                          "2 folders: 1 copied, 1 not reached.\n"
                                          "Interrupted: folders that were not reached are as they were.\n"));
@@ -103,7 +88,8 @@ TEST_F(InterruptedTransfer, CopyEndsTheFolderInHandAndSaysWhatWasNotReached)
 
 TEST_F(InterruptedTransfer, MoveLeavesTheSourceOfWhatWasNotReachedWhole)
 {
-    const ProgramResult result = RunInterruptedInTime({u"move", u"one", u"two", u"to", u"--apply", u"--quiet"});
+    Arrange();
+    const ProgramResult result = RunInterrupted({u"move", u"one", u"two", u"to", u"--apply", u"--quiet"});
     EXPECT_EQ(result.exitCode, 130) << result.errors;
     EXPECT_THAT(result.errors, HasSubstr("vyr: 'two' not reached\n"));
     EXPECT_EQ(FilesIn("to/one/").size(), std::size_t{filesInOne});
@@ -116,7 +102,9 @@ TEST_F(InterruptedTransfer, SecondInterruptEndsAMoveAtOnceAndLosesNothing)
 {
     const Files before = Arrange();
     const ProgramResult result = RunInterrupted({u"move", u"one", u"two", u"to", u"--apply"}, 2);
-    EXPECT_THAT(result.exitCode, testing::Ne(1));
+    EXPECT_THAT(result.exitCode, testing::AllOf(testing::Ne(0), testing::Ne(1)));
+    EXPECT_EQ(result.output.find("2 folders"), std::string::npos) << result.output;
+    EXPECT_FALSE(FilesIn("one/").empty());
     // Every file is whole at one of its two places.
     for (const auto& [name, content] : before) {
         const bool isAtSource = fs::exists(PathOf(name));
@@ -124,8 +112,6 @@ TEST_F(InterruptedTransfer, SecondInterruptEndsAMoveAtOnceAndLosesNothing)
         EXPECT_EQ(m_folder.ReadFile(there), content) << name;
     }
     // And the rest can go after.
-    if (m_folder.Has(u"one")) {
-        EXPECT_EQ(Run({u"move", u"one", u"to", u"--apply", u"--quiet"}).exitCode, 0);
-    }
+    EXPECT_EQ(Run({u"move", u"one", u"to", u"--apply", u"--quiet"}).exitCode, 0);
     EXPECT_EQ(FilesIn("to/one/").size(), std::size_t{filesInOne});
 }

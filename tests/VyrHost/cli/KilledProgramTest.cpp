@@ -1,16 +1,15 @@
-// Tests of the program itself: killed in the middle of a batch, and what "vyr recover" and "vyr undo" make of that.
+// Tests of the program itself: killed between any two of its changes, and what "vyr recover" and "vyr undo" make of
+// that.
 #include <tests/VyrHost/cli/VyrProgram.h>
 #include <tests/support/StdPath.h>
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <filesystem>
 #include <fstream>
-#include <functional>
+#include <map>
 #include <set>
 #include <sstream>
-#include <thread>
 
 namespace {
 
@@ -20,14 +19,13 @@ namespace fs = std::filesystem;
 class KilledProgram : public VyrProgram
 {
 protected:
-    static constexpr int plainRenames = 300;
+    static constexpr int plainRenames = 60;
 
     using FolderSnapshot = std::map<std::string, std::string>;
 
     /// Between the plain renames there are swaps and cycles, so that any of them may be cut off.
     void Arrange()
     {
-        m_environment[u"VYR_JOURNAL_DIR"] = m_journalFolder.Path(u"journal");
         for (int index = 0; index < plainRenames; ++index) {
             const std::string number = std::to_string(index);
             Add("old " + number, "new " + number);
@@ -35,7 +33,7 @@ protected:
                 Add("left " + number, "right " + number);
                 Add("right " + number, "left " + number);
             }
-            if (index % 100 == 50)
+            if (index % 30 == 15)
                 for (int part = 0; part < 5; ++part)
                     Add("cycle " + number + " " + std::to_string(part),
                         "cycle " + number + " " + std::to_string((part + 1) % 5));
@@ -43,72 +41,74 @@ protected:
         fs::create_directory(ToStdPath(m_files.Path(u"files")));
         for (const auto& [name, content] : m_before)
             std::ofstream(FilePath(name), std::ios::binary) << content;
+        std::ofstream(ToStdPath(m_files.Path(u"pairs.csv")), std::ios::binary) << m_pairs;
     }
 
-    [[nodiscard]] std::vector<CString> RenameAll() const
+    [[nodiscard]] ProgramCall RenameAll() const
     {
-        return {u"rename", u"--pairs", m_files.Path(u"pairs.csv"), u"--apply", u"--quiet"};
+        return InFiles({u"rename", u"--pairs", m_files.Path(u"pairs.csv"), u"--apply", u"--quiet"});
     }
+    [[nodiscard]] ProgramCall UndoAll() const { return InFiles({u"undo", u"--quiet"}); }
 
-    void WritePairs() const { std::ofstream(ToStdPath(m_files.Path(u"pairs.csv")), std::ios::binary) << m_pairs; }
+    /// From now on the program keeps its journal in a folder that is not there yet, so that it makes the same changes
+    /// each time.
+    void BeginJournal()
+    {
+        CString folder;
+        folder.Format(u"journal %d", m_journals++);
+        m_environment[u"VYR_JOURNAL_DIR"] = m_journalFolder.Path(folder);
+    }
 
     [[nodiscard]] FolderSnapshot Now() const
     {
-        FolderSnapshot tree;
+        FolderSnapshot files;
         for (const fs::directory_entry& entry : fs::directory_iterator(ToStdPath(m_files.Path(u"files")))) {
             std::ostringstream content;
             content << std::ifstream(entry.path(), std::ios::binary).rdbuf();
-            tree[entry.path().filename().string()] = std::move(content).str();
+            files[entry.path().filename().string()] = std::move(content).str();
         }
-        return tree;
+        return files;
     }
 
-    [[nodiscard]] static std::multiset<std::string> ContentsOf(const FolderSnapshot& tree)
+    [[nodiscard]] static std::multiset<std::string> ContentsOf(const FolderSnapshot& files)
     {
         std::multiset<std::string> contents;
-        for (const auto& [name, content] : tree)
+        for (const auto& [name, content] : files)
             contents.insert(content);
         return contents;
     }
 
-    [[nodiscard]] fs::path FilePath(const std::string& name) const { return ToStdPath(m_files.Path(u"files")) / name; }
-
-    /// Starts `arguments`, and kills it as soon as `isTime`.
-    void KillWhen(const std::vector<CString>& arguments, const std::function<bool()>& isTime)
+    /// Starts a program, lets it make `changes`, and kills it before the next one.
+    void KillAfter(int changes, ProgramCall call) const
     {
-        ProgramCall call = CallOf(arguments);
-        call.folder = m_files.Path(u"files");
+        call.stopsAtChanges = true;
         ChildProcess child(call);
-        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
-        while (!isTime() && std::chrono::steady_clock::now() < end)
-            std::this_thread::yield();
+        for (int change = 0; change <= changes; ++change)
+            ASSERT_TRUE(child.GoToNextChange());
         child.Kill();
-        static_cast<void>(child.Wait());
-        ASSERT_TRUE(isTime());
-    }
-    void KillWhenThere(const std::vector<CString>& arguments, const std::string& name)
-    {
-        KillWhen(arguments, [path = FilePath(name)] { return fs::exists(path); });
+        EXPECT_NE(child.Wait().exitCode, 0);
+        EXPECT_EQ(ContentsOf(Now()), ContentsOf(m_before));
     }
 
-    /// Recovers in one of the two ways, which a preview offers before. Counts in `m_recovered` when there was something
-    /// to recover.
-    void Recover(bool isUndone)
+    /// Recovers in one of the two ways, which a preview offers before.
+    /// @return whether there was something to recover, as there is when some files are renamed and others are not.
+    bool Recover(bool isUndone) const
     {
+        const FolderSnapshot now = Now();
         const ProgramResult preview = Run({u"rename", u"--prefix", u"x", u"nothing"});
         const ProgramResult result =
             isUndone ? Run({u"recover", u"--take-back"}) : Run(std::vector<CString>{u"recover"});
         EXPECT_EQ(result.exitCode, 0) << result.errors;
         const bool isCutOff = result.output.find("No batch was cut off") == std::string::npos;
         EXPECT_EQ(preview.errors.find("\"vyr recover\" ends it") != std::string::npos, isCutOff) << preview.errors;
-        m_recovered += isCutOff;
+        EXPECT_TRUE(isCutOff || now == m_before || now == m_after);
+        return isCutOff;
     }
 
     ScratchFolder m_files;
     ScratchFolder m_journalFolder;
     FolderSnapshot m_before;
     FolderSnapshot m_after;
-    int m_recovered = 0;
 
 private:
     void Add(const std::string& from, const std::string& to)
@@ -118,78 +118,88 @@ private:
         m_pairs += from + "," + to + "\n";
     }
 
+    [[nodiscard]] fs::path FilePath(const std::string& name) const { return ToStdPath(m_files.Path(u"files")) / name; }
+
+    [[nodiscard]] ProgramCall InFiles(const std::vector<CString>& arguments) const
+    {
+        ProgramCall call = CallOf(arguments);
+        call.folder = m_files.Path(u"files");
+        return call;
+    }
+
     std::string m_pairs;
+    int m_journals = 0;
 };
 
 TEST_F(KilledProgram, LeavesEveryFileAndItsBatchCanBeUndoneOrFinished)
 {
     Arrange();
-    WritePairs();
-    constexpr int kills = 8;
+    BeginJournal();
+    const int changes = CountChanges(RenameAll());
+    ASSERT_EQ(Now(), m_after);
+    ASSERT_EQ(RunProgram(UndoAll()).exitCode, 0);
+    constexpr int kills = 16;
+    int recovered = 0;
     for (int kill = 0; kill < kills; ++kill) {
-        SCOPED_TRACE(kill);
-        // From the first rename on; behind the middle it could end before it is killed.
-        const int index = kill * plainRenames / 2 / (kills - 1);
-        KillWhenThere(RenameAll(), "new " + std::to_string(index));
-        EXPECT_EQ(ContentsOf(Now()), ContentsOf(m_before));
+        const int made = kill * (changes - 1) / (kills - 1);
+        SCOPED_TRACE(made);
+        BeginJournal();
+        ASSERT_NO_FATAL_FAILURE(KillAfter(made, RenameAll()));
         const bool isUndone = kill % 2 == 0;
-        Recover(isUndone);
-        // One that had ended before it was killed is not cut off.
-        FolderSnapshot now = Now();
-        if (!isUndone || now != m_before) {
-            EXPECT_EQ(now, m_after);
-            EXPECT_EQ(Run({u"undo", u"--quiet"}).exitCode, 0);
-            now = Now();
+        const bool wasAsBefore = Now() == m_before;
+        const bool isRecovered = Recover(isUndone);
+        recovered += isRecovered;
+        const bool isDone = isRecovered ? !isUndone : !wasAsBefore;
+        EXPECT_EQ(Now(), isDone ? m_after : m_before);
+        if (isDone) {
+            EXPECT_EQ(RunProgram(UndoAll()).exitCode, 0);
         }
-        ASSERT_EQ(now, m_before);
+        ASSERT_EQ(Now(), m_before);
     }
-    EXPECT_GT(m_recovered, 0);
-    RecordProperty("recovered", m_recovered);
+    EXPECT_GT(recovered, kills / 2);
 }
 
 TEST_F(KilledProgram, LosesNothingWhenItIsKilledOverItsJournal)
 {
     Arrange();
-    WritePairs();
-    for (int kill = 0; kill < 4; ++kill) {
-        SCOPED_TRACE(kill);
-        CString folder;
-        folder.Format(u"journal %d", kill);
-        m_environment[u"VYR_JOURNAL_DIR"] = m_journalFolder.Path(folder);
-        const fs::path journal = ToStdPath(m_journalFolder.Path(folder));
-        // While it is being written, and when it is whole.
-        KillWhen(RenameAll(), [&journal, mayBeNew = kill % 2 == 0] {
-            return fs::exists(journal / "000001.applying") || fs::exists(journal / "000001.applied") ||
-                   (mayBeNew && fs::exists(journal / "000001.new"));
-        });
-        EXPECT_EQ(ContentsOf(Now()), ContentsOf(m_before));
-        Recover(true);
-        if (fs::exists(journal / "000001.applied")) {
-            EXPECT_EQ(Run({u"undo", u"--quiet"}).exitCode, 0);
-        }
-        ASSERT_EQ(Now(), m_before);
+    int recovered = 0;
+    // Before each change up to the first rename of a file, and behind that.
+    for (int made = 0; Now() == m_before; ++made) {
+        SCOPED_TRACE(made);
+        BeginJournal();
+        ASSERT_NO_FATAL_FAILURE(KillAfter(made, RenameAll()));
+        if (Now() == m_before)
+            recovered += Recover(true);
     }
+    EXPECT_GT(recovered, 0);
+    EXPECT_TRUE(Recover(true));
+    EXPECT_EQ(Now(), m_before);
 }
 
 TEST_F(KilledProgram, UndoCanBeKilledToo)
 {
     Arrange();
-    WritePairs();
-    constexpr int kills = 4;
+    BeginJournal();
+    ASSERT_EQ(RunProgram(RenameAll()).exitCode, 0);
+    const int changes = CountChanges(UndoAll());
+    ASSERT_EQ(Now(), m_before);
+    constexpr int kills = 8;
+    int recovered = 0;
     for (int kill = 0; kill < kills; ++kill) {
-        SCOPED_TRACE(kill);
-        ProgramCall call = CallOf(RenameAll());
-        call.folder = m_files.Path(u"files");
-        ASSERT_EQ(RunProgram(call).exitCode, 0);
-        // Backward: the last is renamed first.
-        const int index = plainRenames - 1 - kill * plainRenames / 2 / (kills - 1);
-        KillWhenThere({u"undo", u"--quiet"}, "old " + std::to_string(index));
-        EXPECT_EQ(ContentsOf(Now()), ContentsOf(m_before));
-        Recover(false);
+        const int made = kill * (changes - 1) / (kills - 1);
+        SCOPED_TRACE(made);
+        BeginJournal();
+        ASSERT_EQ(RunProgram(RenameAll()).exitCode, 0);
+        ASSERT_NO_FATAL_FAILURE(KillAfter(made, UndoAll()));
+        const bool isRecovered = Recover(false);
+        recovered += isRecovered;
+        if (Now() == m_after) {
+            EXPECT_FALSE(isRecovered);
+            EXPECT_EQ(RunProgram(UndoAll()).exitCode, 0);
+        }
         ASSERT_EQ(Now(), m_before);
     }
-    EXPECT_GT(m_recovered, 0);
-    RecordProperty("recovered", m_recovered);
+    EXPECT_GT(recovered, kills / 2);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
-// A program started with CreateProcess, its streams pipes.
+// A program started with CreateProcess, its streams pipes; one that stops at changes is debugged.
 #include <tests/support/SystemChild.h>
+#include <tests/support/windows/ChangeStops.h>
 #include <tests/support/windows/OwnConsole.h>
 
 #include <VyrPlatform/text/WindowsCString.h>
@@ -166,6 +167,8 @@ struct SystemChild::Handles
     Handle process;
     /// 0: everything in the console.
     DWORD group = 0;
+    /// Of a program that stops at changes.
+    std::optional<ChangeStops> stops;
 };
 
 SystemChild::SystemChild(const ProgramCall& call) : m_handles(std::make_unique<Handles>())
@@ -178,9 +181,14 @@ SystemChild::SystemChild(const ProgramCall& call) : m_handles(std::make_unique<H
     start.hStdError = m_handles->errors.writer.Get();
     if (call.isOutputClosed)
         m_handles->output.reader.Close();
-    const PROCESS_INFORMATION process = Start(call, start, m_handles->isConsoleOwn ? 0 : CREATE_NEW_PROCESS_GROUP);
+    const DWORD flags = (m_handles->isConsoleOwn ? 0UL : CREATE_NEW_PROCESS_GROUP) |
+                        (call.stopsAtChanges ? DEBUG_ONLY_THIS_PROCESS : 0UL);
+    const PROCESS_INFORMATION process = Start(call, start, flags);
     ::CloseHandle(process.hThread);
     m_handles->process = Handle(process.hProcess);
+    // The program has the handles under the same numbers.
+    if (call.stopsAtChanges)
+        m_handles->stops.emplace(process.hProcess, std::set{start.hStdOutput, start.hStdError});
     m_handles->group = m_handles->isConsoleOwn ? 0 : process.dwProcessId;
     m_handles->input.reader.Close();
     m_handles->output.writer.Close();
@@ -216,8 +224,15 @@ std::string SystemChild::Read(Stream stream)
     return bytes;
 }
 
+bool SystemChild::GoToNextChange()
+{
+    return m_handles->stops && m_handles->stops->GoToNext();
+}
+
 std::optional<int> SystemChild::WaitFor(std::chrono::milliseconds patience)
 {
+    while (GoToNextChange())
+        continue;
     DWORD exitCode = 0;
     if (::WaitForSingleObject(m_handles->process.Get(), static_cast<DWORD>(patience.count())) != WAIT_OBJECT_0 ||
         !::GetExitCodeProcess(m_handles->process.Get(), &exitCode))
@@ -232,6 +247,8 @@ void SystemChild::Interrupt()
     const DWORD event = m_handles->isConsoleOwn ? CTRL_C_EVENT : CTRL_BREAK_EVENT;
     if (!::GenerateConsoleCtrlEvent(event, m_handles->group))
         Fail("GenerateConsoleCtrlEvent");
+    if (m_handles->stops)
+        m_handles->stops->AwaitInterrupt();
 }
 
 void SystemChild::Kill()
