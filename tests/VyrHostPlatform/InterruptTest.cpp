@@ -20,7 +20,7 @@ TEST(InterruptTest, FirstIsNotedSecondEndsTheProgram)
     child.Interrupt();
     ASSERT_TRUE(child.WaitForOutput("asked"));
     child.Interrupt();
-    // Left alone it would go on, and write more.
+    // Left alone it would never end.
     EXPECT_EQ(child.Wait().output, "ready\nasked\n");
 }
 

@@ -6,13 +6,30 @@
 #include <tests/support/StdPath.h>
 
 #include <cerrno>
-#include <chrono>
+#include <fcntl.h>
+#include <filesystem>
 #include <fstream>
 #include <string>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <thread>
+#include <unistd.h>
 
 using VyrHostPlatform::ReadToEnd;
+
+namespace {
+
+/// How many bytes stand in a named pipe that was opened by a writer and a reader.
+int CountUnread(const std::filesystem::path& pipe)
+{
+    const int descriptor = open(pipe.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+    int count = 0;
+    ioctl(descriptor, FIONREAD, &count);
+    close(descriptor);
+    return count;
+}
+
+} // namespace
 
 TEST(ReadToEndPipe, GivesAllThatComesThroughANamedPipe)
 {
@@ -24,7 +41,8 @@ TEST(ReadToEndPipe, GivesAllThatComesThroughANamedPipe)
     std::thread writer([&] {
         std::ofstream stream(path, std::ios::binary);
         stream << half << std::flush;
-        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        while (CountUnread(path) > 0)
+            std::this_thread::yield();
         stream << half << "end";
     });
     std::uint32_t error = 1;
