@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 class KilledProgram : public VyrProgram
 {
 protected:
-    static constexpr int plainRenames = 60;
+    static constexpr int plainRenames = 20;
 
     using FolderSnapshot = std::map<std::string, std::string>;
 
@@ -138,7 +138,7 @@ TEST_F(KilledProgram, LeavesEveryFileAndItsBatchCanBeUndoneOrFinished)
     const int changes = CountChanges(RenameAll());
     ASSERT_EQ(Now(), m_after);
     ASSERT_EQ(RunProgram(UndoAll()).exitCode, 0);
-    constexpr int kills = 16;
+    constexpr int kills = 10;
     int recovered = 0;
     for (int kill = 0; kill < kills; ++kill) {
         const int made = kill * (changes - 1) / (kills - 1);
@@ -183,7 +183,7 @@ TEST_F(KilledProgram, UndoCanBeKilledToo)
     ASSERT_EQ(RunProgram(RenameAll()).exitCode, 0);
     const int changes = CountChanges(UndoAll());
     ASSERT_EQ(Now(), m_before);
-    constexpr int kills = 8;
+    constexpr int kills = 6;
     int recovered = 0;
     for (int kill = 0; kill < kills; ++kill) {
         const int made = kill * (changes - 1) / (kills - 1);
