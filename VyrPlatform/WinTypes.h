@@ -42,6 +42,7 @@ using FILETIME = _FILETIME;
 using HKEY = struct HKEY__*; // NOLINT(bugprone-reserved-identifier): the system's own tag
 
 // Macros, as the system's own are: the numbers of the root keys are no addresses that a constant could hold.
+// NOLINTNEXTLINE(performance-no-int-to-ptr)
 #define VYR_ROOT_KEY(number) (reinterpret_cast<HKEY>(static_cast<std::intptr_t>(static_cast<std::int32_t>(number))))
 #define HKEY_CLASSES_ROOT VYR_ROOT_KEY(0x80000000)
 #define HKEY_CURRENT_USER VYR_ROOT_KEY(0x80000001)

@@ -37,6 +37,15 @@ Handed<Content> Take(Content* content)
     return {content, &std::free};
 }
 
+/// The number of a type, which need not be one that the library has a name for.
+std::uint32_t NumberOf(const hive_type& type) noexcept
+{
+    std::uint32_t number = 0;
+    static_assert(sizeof number == sizeof type);
+    std::memcpy(&number, &type, sizeof number);
+    return number;
+}
+
 struct HiveFile
 {
     std::shared_ptr<hive_h> handle;
@@ -128,7 +137,7 @@ Values HiveNode::ReadValues() const
             continue;
         const CString name = Encoding::FromUtf8(std::string_view(nameBytes.get(), nameLength));
         const auto bytes = std::as_bytes(std::span(data.get(), size));
-        values.emplace(FoldName(name), Value{name, static_cast<std::uint32_t>(type), {bytes.begin(), bytes.end()}});
+        values.emplace(FoldName(name), Value{name, NumberOf(type), {bytes.begin(), bytes.end()}});
     }
     return values;
 }
