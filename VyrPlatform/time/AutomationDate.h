@@ -14,8 +14,8 @@ namespace VyrPlatform::AutomationDate {
 ///
 /// On both systems it reads `yyyy/MM/dd HH:mm:ss`, `yyyy-MM-dd HH:mm:ss`, the calendar's `yyyy-MMM-dd HH:mm:ss`
 /// ("2024-Jan-05 10:30:00") and the short date of the user's locale, each with or without a time. On Linux these are
-/// all (DateTimePattern::ReadUsual). On Windows the system's own parser reads more; whether it knows the English names
-/// of months under another language is up to the system.
+/// all (DateTimePattern::ReadUsual). On Windows the system's own parser comes first and reads more; it may not know the
+/// English names of months under another language.
 /// @return nothing when the text is no date-time, such as one with a `T` between date and time.
 [[nodiscard]] VYR_PLATFORM_API std::optional<COleDateTime> Parse(const CString& text);
 

@@ -2,6 +2,7 @@
 #include <VyrPlatform/time/AutomationDate.h>
 
 #include <VyrPlatform/text/WindowsCString.h>
+#include <VyrPlatform/time/DateTimePattern.h>
 
 #include <windows.h>
 
@@ -13,9 +14,13 @@ std::optional<COleDateTime> Parse(const CString& text)
 {
     DATE days = 0;
     // Some headers declare the text, which is only read, as one that may be changed.
-    if (FAILED(VarDateFromStr(const_cast<OLECHAR*>(ToWide(text)), LOCALE_USER_DEFAULT, 0, &days)))
+    if (SUCCEEDED(VarDateFromStr(const_cast<OLECHAR*>(ToWide(text)), LOCALE_USER_DEFAULT, 0, &days)))
+        return COleDateTime(days);
+    // It may not know the English names of months under another language.
+    const COleDateTime read = DateTimePattern::ReadUsual(text);
+    if (read.GetStatus() != COleDateTime::valid)
         return std::nullopt;
-    return COleDateTime(days);
+    return read;
 }
 
 } // namespace VyrPlatform::AutomationDate
