@@ -24,27 +24,21 @@ NameFuncs& NameFuncs::operator=(const NameFuncs&) = default;
 
 CString NameFuncs::GetRenameFilePath(ITEM item)
 {
-    return ComputeRenameFilePath(item);
-}
-
-CString NameFuncs::ComputeRenameFilePath(const ITEM& item)
-{
-    switch (item.renameType) {
-    case 0:
-        return ComputeSequenceNumberFilePath(item);
-    case 1:
-        return ComputeDateTimeFilePath(item);
-    case 2:
-        return ComputeAddDeleteFilePath(item);
-    case 3:
-        return ComputeConvertFilePath(item);
-    case 4:
-        return ComputeReplaceFilePath(item);
-    case 5:
-        return ComputeExtensionFilePath(item);
-    default:
-        return {};
+    switch (static_cast<RenameType>(item.renameType)) {
+    case RenameType::SequenceNumber:
+        return GetSequenceNumberFilePath(std::move(item));
+    case RenameType::DateTime:
+        return GetDateTimeFilePath(std::move(item));
+    case RenameType::AddDelete:
+        return GetAddDeleteFilePath(std::move(item));
+    case RenameType::Convert:
+        return GetConvertFilePath(std::move(item));
+    case RenameType::Replace:
+        return GetReplaceFilePath(std::move(item));
+    case RenameType::Extension:
+        return GetExtensionFilePath(std::move(item));
     }
+    return {};
 }
 
 CString NameFuncs::GetFName(CString path)
@@ -64,16 +58,18 @@ CString NameFuncs::GetExtension(CString path)
 
 int NameFuncs::IsResolveConflict(ITEM item)
 {
-    switch (item.renameType) {
-    case 0:
-    case 1:
-    case 2:
+    switch (static_cast<RenameType>(item.renameType)) {
+    case RenameType::SequenceNumber:
+    case RenameType::DateTime:
+    case RenameType::AddDelete:
         return 1;
-    case 5:
-        return item.extensionType == 2 ? 1 : 0;
-    default:
-        return 0;
+    case RenameType::Extension:
+        return static_cast<ExtensionType>(item.extensionType) == ExtensionType::Replace ? 1 : 0;
+    case RenameType::Convert:
+    case RenameType::Replace:
+        break;
     }
+    return 0;
 }
 
 } // namespace VyrLibraryFuncs

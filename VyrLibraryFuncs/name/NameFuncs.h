@@ -7,9 +7,21 @@
 #include <VyrPlatform/time/COleDateTime.h>
 
 #include <list>
-#include <string>
+#include <string_view>
 
 namespace VyrLibraryFuncs {
+
+/// The tokens of a name pattern: a step down into a folder, the camera's maker, the camera's model.
+inline constexpr std::u16string_view folderToken = u"<Folder>";
+inline constexpr std::u16string_view makeToken = u"<Make>";
+inline constexpr std::u16string_view modelToken = u"<Model>";
+
+/// Replaces every "?" of the pattern of a conflict number by `number`: " (?)" and "7" give " (7)".
+[[nodiscard]] inline CString FillConflictPattern(CString pattern, std::u16string_view number)
+{
+    pattern.Replace(u"?", number);
+    return pattern;
+}
 
 /// Computes new paths from rename rules, numbers names that clash, and copies or moves folder trees.
 ///
@@ -19,6 +31,94 @@ namespace VyrLibraryFuncs {
 class VYR_FUNCS_API NameFuncs
 {
 public:
+    /// ITEM::renameType: the rename kind. Any other value gives an empty path.
+    enum class RenameType : int
+    {
+        SequenceNumber = 0,
+        DateTime = 1,
+        AddDelete = 2,
+        Convert = 3,
+        Replace = 4,
+        Extension = 5
+    };
+
+    /// ITEM::numberPosition: what the new name consists of. Any other value gives an empty name.
+    enum class NumberPosition : int
+    {
+        /// `numberText1`, the number.
+        AfterText = 0,
+        /// The number, `numberText1`.
+        BeforeText = 1,
+        /// `numberText1`, the number, `numberText2`.
+        BetweenTexts = 2,
+        /// The number, `fileName`.
+        BeforeName = 3,
+        /// `fileName`, the number.
+        AfterName = 4
+    };
+
+    /// ITEM::dateTimePosition: where the date-time's text goes. Any other value gives an empty name.
+    enum class DateTimePosition : int
+    {
+        /// The text is the whole name.
+        Alone = 0,
+        BeforeName = 1,
+        AfterName = 2
+    };
+
+    /// ITEM::dateTimeTarget: which date-time of the file. Any other value is the zero date-time, 30 December 1899.
+    enum class DateTimeTarget : int
+    {
+        Modified = 0,
+        Created = 1,
+        Accessed = 2,
+        PictureTaken = 3
+    };
+
+    /// ITEM::addDeleteType: the operation, with p = `position`, c = `deleteCount`, n = the length of `fileName`. Where
+    /// p is greater than n, or p + c for the last two, and for any other value, the path stays unchanged.
+    enum class AddDeleteType : int
+    {
+        /// Inserts `addText` behind the first p characters.
+        InsertFromStart = 0,
+        /// Inserts `addText` before the last p characters.
+        InsertFromEnd = 1,
+        /// Keeps the first p characters.
+        KeepFirst = 2,
+        /// Keeps the last p characters.
+        KeepLast = 3,
+        /// Deletes c characters behind the first p.
+        DeleteFromStart = 4,
+        /// Deletes c characters before the last p.
+        DeleteFromEnd = 5
+    };
+
+    /// ITEM::convertType: the case conversion. Any other value gives an empty name.
+    enum class ConvertType : int
+    {
+        /// The first character in upper case, the others as they are.
+        FirstUpper = 0,
+        Upper = 1,
+        Lower = 2
+    };
+
+    /// ITEM::extensionType: what becomes of the extension. Any other value removes it.
+    enum class ExtensionType : int
+    {
+        Upper = 0,
+        Lower = 1,
+        /// A dot and `newExtension`.
+        Replace = 2
+    };
+
+    /// CONFLICTITEM::position: where the number goes. Any other value finds no free path.
+    enum class ConflictPosition : int
+    {
+        BeforeName = 0,
+        /// Before the extension.
+        AfterName = 1
+    };
+
     /// One rename request: an entry, its place in the list, and the rule.
     ///
     /// The caller fills `dirPath`, `fileName` and `extension` by FileUtils::GetSplitDirPath, GetFName and GetExtension
@@ -42,10 +142,9 @@ public:
         CString extension;
         /// Place in the list of entries, from 0.
         int index = 0;
-        /// Rename kind: 0 sequence number, 1 date-time, 2 add/delete, 3 convert case, 4 replace text, 5 extension.
+        /// A RenameType.
         int renameType = 0;
-        /// Sequence number: 0 `numberText1` + number, 1 number + `numberText1`, 2 `numberText1` + number +
-        /// `numberText2`, 3 number + `fileName`, 4 `fileName` + number, other an empty name.
+        /// Sequence number: a NumberPosition.
         int numberPosition = 0;
         /// Sequence number: first literal text.
         CString numberText1;
@@ -57,15 +156,13 @@ public:
         int digits = 0;
         /// Sequence number: increment from one entry to the next.
         int step = 0;
-        /// Date-time: 0 the text alone, 1 text + `fileName`, 2 `fileName` + text, other an empty name.
+        /// Date-time: a DateTimePosition.
         int dateTimePosition = 0;
-        /// Date-time: 0 modified, 1 created, 2 accessed, 3 picture taken, other the zero date-time.
+        /// Date-time: a DateTimeTarget.
         int dateTimeTarget = 0;
         /// Date-time: the user's format, as DateTimeUtils::GetDateTimeFormat reads it.
         CString dateTimeFormat;
-        /// Add/delete: 0 insert at `position` from the start, 1 insert at `position` from the end, 2 keep the first
-        /// `position` characters, 3 keep the last, 4 delete `deleteCount` from `position` on, 5 delete `deleteCount`
-        /// that end `position` before the end; other: unchanged.
+        /// Add/delete: an AddDeleteType.
         int addDeleteType = 0;
         /// Add/delete: a place in `fileName`, or how many characters stay.
         int position = 0;
@@ -73,13 +170,13 @@ public:
         int deleteCount = 0;
         /// Add/delete: the text to insert.
         CString addText;
-        /// Convert: 0 first character upper-cased, 1 all upper-cased, 2 all lower-cased, other an empty name.
+        /// Convert: a ConvertType.
         int convertType = 0;
         /// Replace: the text to look for; empty: nothing is replaced.
         CString findText;
         /// Replace: the text to put in its place.
         CString replaceText;
-        /// Extension: 0 upper-cased, 1 lower-cased, 2 a dot and `newExtension`, other none.
+        /// Extension: an ExtensionType.
         int extensionType = 0;
         /// Extension: the new one, without its dot.
         CString newExtension;
@@ -90,7 +187,7 @@ public:
     {
         /// The inserted text; every "?" in it stands for the number.
         CString numberFormat;
-        /// 0: before the name; 1: after the name, before the extension.
+        /// A ConflictPosition.
         int position = 0;
         /// Number of the first attempt.
         int startNumber = 0;
@@ -177,20 +274,16 @@ public:
     static int MoveFolder(CString source, CString destination, std::list<RENAMEITEM>* records);
 
 private:
-    static CString ComputeRenameFilePath(const ITEM& item);
-    static CString ComputeSequenceNumberFilePath(const ITEM& item);
-    static CString ComputeDateTimeFilePath(const ITEM& item);
-    static CString ComputeAddDeleteFilePath(const ITEM& item);
-    static CString ComputeConvertFilePath(const ITEM& item);
-    static CString ComputeReplaceFilePath(const ITEM& item);
-    static CString ComputeExtensionFilePath(const ITEM& item);
+    friend struct PrivateOperations;
 
-    // A number's text is mostly so short that std::u16string needs no allocation for it.
-    static std::u16string GetSequenceNumber(int digits, int number);
-    static std::u16string GetScaleString(int digits, int number);
-    static COleDateTime GetSelectedDateTime(const CString& path, int target);
-    static CString WriteSelectedDateTime(const CString& path, const CString& format, int target);
-    static CString GetResolveConflictNumber(const CString& format, int number);
+    /// The decimal text of `number`, with zeros before it (and before its minus sign) up to `digits`.
+    static CString GetSequenceNumber(int digits, int number);
+    /// One zero for each of the powers 10 to 10^(digits - 1) that is above `number`; fewer when a stop is asked for.
+    static CString GetScaleString(int digits, int number);
+    /// The date-time `target` of the file at `path`.
+    static COleDateTime GetSelectedDateTime(CString path, int target);
+    /// `format` with every "?" replaced by the decimal text of `number`.
+    static CString GetResolveConflictNumber(CString format, int number);
 };
 
 } // namespace VyrLibraryFuncs

@@ -6,6 +6,7 @@
 #include <VyrPlatform/process/MessageQueue.h>
 
 #include <cstdint>
+#include <utility>
 
 using VyrLibraryUtils::FileUtils;
 
@@ -22,9 +23,10 @@ CString NameFuncs::GetResolveConflictFilePath(CString path, CONFLICTITEM item)
     auto number = static_cast<std::uint32_t>(item.startNumber);
     for (; !VyrPlatform::MessageQueue::DrainOne(); number += static_cast<std::uint32_t>(item.step)) {
         const CString text = GetResolveConflictNumber(item.numberFormat, static_cast<int>(number));
-        if (item.position == 0)
+        const auto position = static_cast<ConflictPosition>(item.position);
+        if (position == ConflictPosition::BeforeName)
             path = CString::Join({folder, text, name, extension});
-        else if (item.position == 1)
+        else if (position == ConflictPosition::AfterName)
             path = CString::Join({folder, name, text, extension});
         if (!FileUtils::IsFileExist(path))
             break;
@@ -32,12 +34,9 @@ CString NameFuncs::GetResolveConflictFilePath(CString path, CONFLICTITEM item)
     return path;
 }
 
-/// `format` with every "?" replaced by the decimal text of `number`.
-CString NameFuncs::GetResolveConflictNumber(const CString& format, int number)
+CString NameFuncs::GetResolveConflictNumber(CString format, int number)
 {
-    CString text = format;
-    text.Replace(u"?", VyrLibraryUtils::StringUtils::IntNumberToString(number));
-    return text;
+    return FillConflictPattern(std::move(format), VyrLibraryUtils::StringUtils::IntNumberToString(number));
 }
 
 } // namespace VyrLibraryFuncs

@@ -4,6 +4,8 @@
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/ImageUtils.h>
 
+#include <utility>
+
 using VyrLibraryUtils::DateTimeUtils;
 using VyrLibraryUtils::ImageUtils;
 
@@ -11,44 +13,33 @@ namespace VyrLibraryFuncs {
 
 CString NameFuncs::GetDateTimeFilePath(ITEM item)
 {
-    return ComputeDateTimeFilePath(item);
-}
-
-CString NameFuncs::ComputeDateTimeFilePath(const ITEM& item)
-{
-    const CString text = WriteSelectedDateTime(item.filePath, item.dateTimeFormat, item.dateTimeTarget);
-    switch (item.dateTimePosition) {
-    case 0:
+    const COleDateTime value = GetSelectedDateTime(item.filePath, item.dateTimeTarget);
+    const CString text =
+        DateTimeUtils::GetOleDateTimeFormat(value, DateTimeUtils::GetDateTimeFormat(item.dateTimeFormat, CString()));
+    switch (static_cast<DateTimePosition>(item.dateTimePosition)) {
+    case DateTimePosition::Alone:
         return CString::Join({item.dirPath, text, item.extension});
-    case 1:
+    case DateTimePosition::BeforeName:
         return CString::Join({item.dirPath, text, item.fileName, item.extension});
-    case 2:
+    case DateTimePosition::AfterName:
         return CString::Join({item.dirPath, item.fileName, text, item.extension});
-    default:
-        return CString::Join({item.dirPath, item.extension});
     }
+    return CString::Join({item.dirPath, item.extension});
 }
 
-CString NameFuncs::WriteSelectedDateTime(const CString& path, const CString& format, int target)
+COleDateTime NameFuncs::GetSelectedDateTime(CString path, int target)
 {
-    const COleDateTime value = GetSelectedDateTime(path, target);
-    return DateTimeUtils::GetOleDateTimeFormat(value, DateTimeUtils::GetDateTimeFormat(format, CString()));
-}
-
-COleDateTime NameFuncs::GetSelectedDateTime(const CString& path, int target)
-{
-    switch (target) {
-    case 0:
-        return DateTimeUtils::GetDateModified(path);
-    case 1:
-        return DateTimeUtils::GetDateCreated(path);
-    case 2:
-        return DateTimeUtils::GetDateAccessed(path);
-    case 3:
-        return DateTimeUtils::GetExifDateTime(ImageUtils::GetPropertyTagExifDTOrig(path));
-    default:
-        return {};
+    switch (static_cast<DateTimeTarget>(target)) {
+    case DateTimeTarget::Modified:
+        return DateTimeUtils::GetDateModified(std::move(path));
+    case DateTimeTarget::Created:
+        return DateTimeUtils::GetDateCreated(std::move(path));
+    case DateTimeTarget::Accessed:
+        return DateTimeUtils::GetDateAccessed(std::move(path));
+    case DateTimeTarget::PictureTaken:
+        return DateTimeUtils::GetExifDateTime(ImageUtils::GetPropertyTagExifDTOrig(std::move(path)));
     }
+    return {};
 }
 
 } // namespace VyrLibraryFuncs

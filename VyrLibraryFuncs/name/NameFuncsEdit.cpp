@@ -37,11 +37,6 @@ namespace VyrLibraryFuncs {
 
 CString NameFuncs::GetAddDeleteFilePath(ITEM item)
 {
-    return ComputeAddDeleteFilePath(item);
-}
-
-CString NameFuncs::ComputeAddDeleteFilePath(const ITEM& item)
-{
     const std::u16string_view name = item.fileName;
     const auto length = static_cast<std::int64_t>(name.size());
     const std::int64_t position = item.position;
@@ -49,47 +44,39 @@ CString NameFuncs::ComputeAddDeleteFilePath(const ITEM& item)
     const std::int64_t behind = length - position;
     if (behind < 0)
         return item.filePath;
-    switch (item.addDeleteType) {
-    case 0:
+    switch (static_cast<AddDeleteType>(item.addDeleteType)) {
+    case AddDeleteType::InsertFromStart:
         return CString::Join({item.dirPath, First(name, position), item.addText, From(name, position), item.extension});
-    case 1:
+    case AddDeleteType::InsertFromEnd:
         return CString::Join({item.dirPath, First(name, behind), item.addText, Last(name, position), item.extension});
-    case 2:
+    case AddDeleteType::KeepFirst:
         return CString::Join({item.dirPath, First(name, position), item.extension});
-    case 3:
+    case AddDeleteType::KeepLast:
         return CString::Join({item.dirPath, Last(name, position), item.extension});
-    case 4:
+    case AddDeleteType::DeleteFromStart:
         if (behind < count)
             return item.filePath;
         return CString::Join({item.dirPath, First(name, position), From(From(name, position), count), item.extension});
-    case 5:
+    case AddDeleteType::DeleteFromEnd:
         if (behind < count)
             return item.filePath;
         return CString::Join({item.dirPath, First(name, behind - count), Last(name, position), item.extension});
-    default:
-        return item.filePath;
     }
+    return item.filePath;
 }
 
 CString NameFuncs::GetConvertFilePath(ITEM item)
 {
-    return ComputeConvertFilePath(item);
-}
-
-CString NameFuncs::ComputeConvertFilePath(const ITEM& item)
-{
     CString name;
-    switch (item.convertType) {
-    case 0:
+    switch (static_cast<ConvertType>(item.convertType)) {
+    case ConvertType::FirstUpper:
         name = item.fileName.Left(1).MakeUpper() + item.fileName.Mid(1);
         break;
-    case 1:
-        name = CString(item.fileName).MakeUpper();
+    case ConvertType::Upper:
+        name = item.fileName.MakeUpper();
         break;
-    case 2:
-        name = CString(item.fileName).MakeLower();
-        break;
-    default:
+    case ConvertType::Lower:
+        name = item.fileName.MakeLower();
         break;
     }
     return CString::Join({item.dirPath, name, item.extension});
@@ -97,35 +84,23 @@ CString NameFuncs::ComputeConvertFilePath(const ITEM& item)
 
 CString NameFuncs::GetReplaceFilePath(ITEM item)
 {
-    return ComputeReplaceFilePath(item);
-}
-
-CString NameFuncs::ComputeReplaceFilePath(const ITEM& item)
-{
-    CString name = item.fileName;
-    name.Replace(item.findText, item.replaceText);
-    return CString::Join({item.dirPath, name, item.extension});
+    item.fileName.Replace(item.findText, item.replaceText);
+    return CString::Join({item.dirPath, item.fileName, item.extension});
 }
 
 CString NameFuncs::GetExtensionFilePath(ITEM item)
 {
-    return ComputeExtensionFilePath(item);
-}
-
-CString NameFuncs::ComputeExtensionFilePath(const ITEM& item)
-{
     if (VyrLibraryUtils::FileUtils::IsDirectory(item.filePath))
         return item.filePath;
-    switch (item.extensionType) {
-    case 0:
-        return CString::Join({item.dirPath, item.fileName, CString(item.extension).MakeUpper()});
-    case 1:
-        return CString::Join({item.dirPath, item.fileName, CString(item.extension).MakeLower()});
-    case 2:
+    switch (static_cast<ExtensionType>(item.extensionType)) {
+    case ExtensionType::Upper:
+        return CString::Join({item.dirPath, item.fileName, item.extension.MakeUpper()});
+    case ExtensionType::Lower:
+        return CString::Join({item.dirPath, item.fileName, item.extension.MakeLower()});
+    case ExtensionType::Replace:
         return CString::Join({item.dirPath, item.fileName, u".", item.newExtension});
-    default:
-        return CString::Join({item.dirPath, item.fileName});
     }
+    return CString::Join({item.dirPath, item.fileName});
 }
 
 } // namespace VyrLibraryFuncs

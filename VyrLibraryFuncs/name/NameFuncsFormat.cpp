@@ -5,14 +5,12 @@
 #include <VyrLibraryUtils/ImageUtils.h>
 #include <VyrPlatform/time/Clock.h>
 
+#include <utility>
+
 using VyrLibraryUtils::DateTimeUtils;
 using VyrLibraryUtils::ImageUtils;
 
 namespace {
-
-constexpr std::u16string_view folderToken = u"<Folder>";
-constexpr std::u16string_view makeToken = u"<Make>";
-constexpr std::u16string_view modelToken = u"<Model>";
 
 bool Contains(const CString& text, std::u16string_view token) noexcept
 {
@@ -36,7 +34,8 @@ CString NameFuncs::GetDateTimeFormat(CString path, CString format, int target)
 {
     if (format.IsEmpty())
         return format;
-    return WriteSelectedDateTime(path, format, target);
+    const COleDateTime value = GetSelectedDateTime(std::move(path), target);
+    return DateTimeUtils::GetOleDateTimeFormat(value, DateTimeUtils::GetDateTimeFormat(std::move(format), CString()));
 }
 
 CString NameFuncs::GetFolderFormat(CString format)

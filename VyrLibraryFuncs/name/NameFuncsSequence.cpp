@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <iterator>
 #include <limits>
+#include <string>
 
 namespace {
 
@@ -24,46 +25,8 @@ std::int64_t NextScale(std::int64_t scale) noexcept
     return scale > largest / 10 ? largest : scale * 10;
 }
 
-} // namespace
-
-namespace VyrLibraryFuncs {
-
-CString NameFuncs::GetSequenceNumberFilePath(ITEM item)
-{
-    return ComputeSequenceNumberFilePath(item);
-}
-
-CString NameFuncs::ComputeSequenceNumberFilePath(const ITEM& item)
-{
-    const std::u16string number = GetSequenceNumber(item.digits, NumberOf(item));
-    switch (item.numberPosition) {
-    case 0:
-        return CString::Join({item.dirPath, item.numberText1, number, item.extension});
-    case 1:
-        return CString::Join({item.dirPath, number, item.numberText1, item.extension});
-    case 2:
-        return CString::Join({item.dirPath, item.numberText1, number, item.numberText2, item.extension});
-    case 3:
-        return CString::Join({item.dirPath, number, item.fileName, item.extension});
-    case 4:
-        return CString::Join({item.dirPath, item.fileName, number, item.extension});
-    default:
-        return CString::Join({item.dirPath, item.extension});
-    }
-}
-
-/// The decimal text of `number`, with zeros in front of it (and of its minus sign) up to `digits`.
-std::u16string NameFuncs::GetSequenceNumber(int digits, int number)
-{
-    char digitsOfNumber[std::numeric_limits<int>::digits10 + 2];
-    const char* const end = std::to_chars(digitsOfNumber, std::end(digitsOfNumber), number).ptr;
-    std::u16string text = GetScaleString(digits, number);
-    text.append(static_cast<const char*>(digitsOfNumber), end);
-    return text;
-}
-
 /// One zero for each of the powers 10 to 10^(digits - 1) that is above `number`; fewer when a stop is asked for.
-std::u16string NameFuncs::GetScaleString(int digits, int number)
+std::u16string Padding(int digits, int number)
 {
     std::size_t zeros = 0;
     std::int64_t scale = 1;
@@ -73,6 +36,48 @@ std::u16string NameFuncs::GetScaleString(int digits, int number)
             ++zeros;
     }
     return std::u16string(zeros, u'0');
+}
+
+/// The padded number. Most are so short that std::u16string needs no allocation, which a CString would.
+std::u16string PaddedNumber(int digits, int number)
+{
+    char decimal[std::numeric_limits<int>::digits10 + 2];
+    const char* const end = std::to_chars(decimal, std::end(decimal), number).ptr;
+    std::u16string text = Padding(digits, number);
+    text.append(static_cast<const char*>(decimal), end);
+    return text;
+}
+
+} // namespace
+
+namespace VyrLibraryFuncs {
+
+CString NameFuncs::GetSequenceNumberFilePath(ITEM item)
+{
+    const std::u16string number = PaddedNumber(item.digits, NumberOf(item));
+    switch (static_cast<NumberPosition>(item.numberPosition)) {
+    case NumberPosition::AfterText:
+        return CString::Join({item.dirPath, item.numberText1, number, item.extension});
+    case NumberPosition::BeforeText:
+        return CString::Join({item.dirPath, number, item.numberText1, item.extension});
+    case NumberPosition::BetweenTexts:
+        return CString::Join({item.dirPath, item.numberText1, number, item.numberText2, item.extension});
+    case NumberPosition::BeforeName:
+        return CString::Join({item.dirPath, number, item.fileName, item.extension});
+    case NumberPosition::AfterName:
+        return CString::Join({item.dirPath, item.fileName, number, item.extension});
+    }
+    return CString::Join({item.dirPath, item.extension});
+}
+
+CString NameFuncs::GetSequenceNumber(int digits, int number)
+{
+    return std::u16string_view(PaddedNumber(digits, number));
+}
+
+CString NameFuncs::GetScaleString(int digits, int number)
+{
+    return std::u16string_view(Padding(digits, number));
 }
 
 } // namespace VyrLibraryFuncs

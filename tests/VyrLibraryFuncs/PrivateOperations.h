@@ -3,6 +3,7 @@
 #pragma once
 
 #include <VyrLibraryFuncs/metadata/AttributesFuncs.h>
+#include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>
 #include <VyrLibraryFuncs/select/FilterFuncs.h>
 #include <VyrLibraryFuncs/shell/ControlPanelFuncs.h>
@@ -58,6 +59,19 @@ struct PrivateOperations
     static int GetSelectedAttributes(CString text, CString letter)
     {
         return AttributesFuncs::GetSelectedAttributes(text, letter);
+    }
+
+    // NameFuncs
+
+    static CString GetSequenceNumber(int digits, int number) { return NameFuncs::GetSequenceNumber(digits, number); }
+    static CString GetScaleString(int digits, int number) { return NameFuncs::GetScaleString(digits, number); }
+    static COleDateTime GetSelectedDateTime(CString path, int target)
+    {
+        return NameFuncs::GetSelectedDateTime(std::move(path), target);
+    }
+    static CString GetResolveConflictNumber(CString format, int number)
+    {
+        return NameFuncs::GetResolveConflictNumber(std::move(format), number);
     }
 
     // FilterFuncs

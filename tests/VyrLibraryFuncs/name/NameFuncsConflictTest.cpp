@@ -1,6 +1,7 @@
 // The numbering of names that are taken, on real files.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
+#include <tests/VyrLibraryFuncs/PrivateOperations.h>
 #include <tests/support/MessagePosting.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
@@ -75,6 +76,16 @@ TEST(NameFuncsConflict, EveryQuestionMarkIsTheNumber)
 {
     const ScratchFolder scratch;
     EXPECT_EQ(Resolve(scratch.WriteFile(u"a.txt"), Numbering(u"-?-?", 1, 12)), scratch.Path(u"a-12-12.txt"));
+}
+
+TEST(NameFuncsConflict, PatternIsFilledWithTheDecimalNumber)
+{
+    using VyrLibraryFuncs::PrivateOperations;
+    EXPECT_EQ(PrivateOperations::GetResolveConflictNumber(u" (?)", 7), u" (7)");
+    EXPECT_EQ(PrivateOperations::GetResolveConflictNumber(u"?.?-?", -12), u"-12.-12--12");
+    EXPECT_EQ(PrivateOperations::GetResolveConflictNumber(u"%d", 7), u"%d");
+    EXPECT_EQ(PrivateOperations::GetResolveConflictNumber(u"", 7), u"");
+    EXPECT_EQ(VyrLibraryFuncs::FillConflictPattern(u" (?)", u"007"), u" (007)");
 }
 
 TEST(NameFuncsConflict, NumbersAreNeitherPaddedNorUnsigned)

@@ -3,6 +3,7 @@
 
 #include <VyrLibraryUtils/DateTimeUtils.h>
 
+#include <tests/VyrLibraryFuncs/PrivateOperations.h>
 #include <tests/support/PictureBuilder.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
@@ -179,4 +180,22 @@ TEST(NameFuncsDateTime, FormatIsPassedThroughWithItsTokens)
 {
     NameFuncs::ITEM item = Dated(u"", 9, u"yyyy<Folder>100%d 'd'");
     EXPECT_EQ(NameFuncs::GetDateTimeFilePath(item), u"/d/1899<Folder>100%30 d.jpg");
+}
+
+TEST(NameFuncsDateTime, SelectedDateTimeIsTheOneOfItsTarget)
+{
+    using VyrLibraryFuncs::PrivateOperations;
+    const ScratchFolder scratch;
+    const CString picture = WritePicture(scratch, "2001:02:03 04:05:06");
+    SetModified(picture, Late(2019, 5, 6, 0).time);
+    EXPECT_EQ(PrivateOperations::GetSelectedDateTime(picture, 0), DateTimeUtils::GetDateModified(picture));
+    EXPECT_EQ(PrivateOperations::GetSelectedDateTime(picture, 1), DateTimeUtils::GetDateCreated(picture));
+    EXPECT_EQ(PrivateOperations::GetSelectedDateTime(picture, 2), DateTimeUtils::GetDateAccessed(picture));
+    EXPECT_EQ(PrivateOperations::GetSelectedDateTime(picture, 3), COleDateTime(2001, 2, 3, 4, 5, 6));
+    for (const int target : {4, 7, -1, std::numeric_limits<int>::min()}) {
+        const COleDateTime zero = PrivateOperations::GetSelectedDateTime(picture, target);
+        EXPECT_EQ(zero, 0.0);
+        EXPECT_EQ(zero.GetStatus(), COleDateTime::valid);
+    }
+    EXPECT_EQ(PrivateOperations::GetSelectedDateTime(u"", 0).GetStatus(), COleDateTime::invalid);
 }

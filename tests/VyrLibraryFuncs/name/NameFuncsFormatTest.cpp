@@ -77,6 +77,15 @@ TEST(NameFuncsFormat, SampleShowsFoldersAsBackslashes)
     EXPECT_EQ(NameFuncs::GetRenameToSampleFormated(u"yyyy<Make>"), u"2024<Make>");
 }
 
+TEST(NameFuncsFormat, FoldersOfASampleAreLookedForOnceItIsWritten)
+{
+    const FixedClock clock(COleDateTime(2024, 2, 29, 23, 5, 59));
+    EXPECT_EQ(NameFuncs::GetRenameToSampleFormated(u"'<'Fol'der>'"), u"\\")
+        << "the token is put together by the format";
+    // Before the format is read, the inner token would go, and the rest would be no token any more.
+    EXPECT_EQ(NameFuncs::GetRenameToSampleFormated(u"<yyyy<Folder>"), u"<yyyy\\");
+}
+
 TEST(NameFuncsFormat, EmptyFormatsGiveEmptyTexts)
 {
     const ScratchFolder scratch;

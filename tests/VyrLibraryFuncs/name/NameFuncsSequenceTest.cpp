@@ -1,6 +1,7 @@
 // The sequence-number rename: where the number goes, its arithmetic, and its padding against the C library's.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
+#include <tests/VyrLibraryFuncs/PrivateOperations.h>
 #include <tests/support/MessagePosting.h>
 
 #include <gtest/gtest.h>
@@ -14,6 +15,7 @@
 #include <string>
 
 using VyrLibraryFuncs::NameFuncs;
+using VyrLibraryFuncs::PrivateOperations;
 
 namespace {
 
@@ -211,4 +213,15 @@ TEST(NameFuncsSequence, NoPaddingHandlesNoEvent)
 TEST(NameFuncsSequence, LongPaddingIsComplete)
 {
     EXPECT_EQ(NumberText(900, 42), ExpectedNumberText(900, 42));
+}
+
+TEST(NameFuncsSequence, PrivateOperationsGiveWhatTheNameHolds)
+{
+    for (const int digits : {-1, 0, 1, 2, 3, 11, 40})
+        for (const int number : {0, 5, 99, 100, 1234, largest, -5, smallest}) {
+            const CString whole = PrivateOperations::GetSequenceNumber(digits, number);
+            EXPECT_EQ(Narrow(whole), ExpectedNumberText(digits, number));
+            EXPECT_EQ(Narrow(PrivateOperations::GetScaleString(digits, number)) + std::to_string(number),
+                      ExpectedNumberText(digits, number));
+        }
 }
