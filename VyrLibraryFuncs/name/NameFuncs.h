@@ -234,7 +234,7 @@ public:
     /// or `deleteCount` reach beyond the name. A negative `position` or `deleteCount` counts as the formulas of the six
     /// operations give it, each part of the name clamped to what there is.
     static CString GetAddDeleteFilePath(ITEM item);
-    /// `dirPath` + `fileName` with its case converted, one code unit to one by the user's locale + `extension`.
+    /// `dirPath` + `fileName` with its case converted, one code unit to one and the same in every locale + `extension`.
     static CString GetConvertFilePath(ITEM item);
     /// `dirPath` + `fileName` with every `findText` replaced by `replaceText`, from the start, without overlap,
     /// case-sensitively + `extension`.

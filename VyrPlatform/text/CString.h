@@ -117,9 +117,9 @@ public:
     /// @return how many were replaced; 0 for an empty `find`.
     int Replace(std::u16string_view find, std::u16string_view replacement);
 
-    /// Upper-cases the text, one code unit to one, under the user's locale.
+    /// Upper-cases the text, one code unit to one, the same in every locale (VyrPlatform::Locale::ToUpper).
     CString& MakeUpper();
-    /// Lower-cases the text, one code unit to one, under the user's locale.
+    /// Lower-cases the text in the same way.
     CString& MakeLower();
     /// Compares under lower case, as MakeLower gives it: negative, zero or positive.
     [[nodiscard]] int CompareNoCase(std::u16string_view other) const;

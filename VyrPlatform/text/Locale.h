@@ -1,5 +1,8 @@
 /// @file
-/// The user's language and region: letter case, collation, numbers, names of months and days.
+/// Letter case, and the user's language and region: collation, numbers, names of months and days.
+///
+/// On Linux the environment names the locale of each: LC_COLLATE, LC_NUMERIC and LC_TIME, before them LC_ALL, after
+/// them LANG. Windows has one locale for all three.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -10,11 +13,12 @@
 
 namespace VyrPlatform::Locale {
 
-/// Upper-cases `length` code units in place, one unit to one (a letter whose capital needs more units stays as it is),
-/// under the user's locale: Unicode's simple mapping, in which Turkish and Azerbaijani keep the dot of i. Units beyond
-/// U+FFFF (surrogates) stay.
+/// Upper-cases `length` code units in place, one unit to one, the same in every locale: Unicode's simple case mapping
+/// (UnicodeData.txt). A letter whose upper case takes more than one unit stays, and so do surrogates.
+///
+///     "straße" becomes "STRAßE", "scan" becomes "SCAN", also under a Turkish locale.
 VYR_PLATFORM_API void ToUpper(char16_t* text, std::size_t length);
-/// Lower-cases likewise.
+/// Lower-cases in the same way.
 VYR_PLATFORM_API void ToLower(char16_t* text, std::size_t length);
 
 /// Compares under the user's collation: negative, zero or positive.

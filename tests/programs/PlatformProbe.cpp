@@ -78,8 +78,11 @@ int PrintFolders(const Arguments& /*arguments*/)
 
 int PrintLocale(const Arguments& /*arguments*/)
 {
-    return Print(CString::Join(
-        {CString(u"i").MakeUpper(), u"|", Locale::GetNumberTexts().thousands, u"|", Locale::GetDateTexts().months[0]}));
+    const int order = Locale::Compare(u"z", u"ö");
+    return Print(CString::Join({order < 0   ? u"<"
+                                : order > 0 ? u">"
+                                            : u"=",
+                                u"|", Locale::GetNumberTexts().thousands, u"|", Locale::GetDateTexts().months[0]}));
 }
 
 int PrintAnsiCodePage(const Arguments& /*arguments*/)

@@ -1,24 +1,18 @@
-// The locale in force, what has been read of it, and the rules that are the same on both systems.
+// Keeps the locale in force and what has been read of it.
 #include <VyrPlatform/common/text/DatePattern.h>
 #include <VyrPlatform/common/text/SystemLocale.h>
 #include <VyrPlatform/text/Locale.h>
 
+#include <algorithm>
+#include <array>
 #include <atomic>
 #include <map>
 #include <memory>
 #include <mutex>
-#include <string_view>
 
 namespace VyrPlatform::Locale {
 
 namespace {
-
-/// Turkish and Azerbaijani have an i with and one without a dot, each with a capital of its own.
-bool HasTwoLettersI(std::u16string_view localeName) noexcept
-{
-    const std::u16string_view language = localeName.substr(0, localeName.find_first_of(u"_-"));
-    return language == u"tr" || language == u"az";
-}
 
 /// A value that is read when it is first wanted.
 template <class Value>
@@ -39,16 +33,16 @@ private:
 
 struct LocaleData
 {
-    explicit LocaleData(const CString& localeName) : name(localeName), hasTwoLettersI(HasTwoLettersI(name)) {}
+    explicit LocaleData(const CString& localeName) : name(localeName) {}
 
     CString name;
-    bool hasTwoLettersI;
     Lazy<Collation> collation;
     Lazy<DateTexts> dateTexts;
     Lazy<NumberTexts> numberTexts;
 };
 
-constinit std::atomic<const LocaleData*> currentLocale = nullptr;
+/// The locale in force, by Category.
+constinit std::array<std::atomic<const LocaleData*>, categoryCount> currentLocales{};
 
 /// The data of the locale `name`, made at the first call and kept for the life of the process.
 const LocaleData& Load(const CString& name)
@@ -60,11 +54,12 @@ const LocaleData& Load(const CString& name)
     return loaded.try_emplace(name, name).first->second;
 }
 
-const LocaleData& Current()
+const LocaleData& Current(Category category)
 {
+    std::atomic<const LocaleData*>& currentLocale = currentLocales[static_cast<std::size_t>(category)];
     const LocaleData* current = currentLocale.load(std::memory_order_acquire);
     if (!current) [[unlikely]] {
-        const LocaleData* const own = &Load(UserLocaleName());
+        const LocaleData* const own = &Load(UserLocaleName(category));
         // Unless another thread was quicker.
         if (currentLocale.compare_exchange_strong(current, own))
             current = own;
@@ -72,27 +67,18 @@ const LocaleData& Current()
     return *current;
 }
 
-constexpr char16_t capitalDottedI = u'\u0130';
-constexpr char16_t smallDotlessI = u'\u0131';
-
-char16_t Upper(char16_t unit, bool hasTwoLettersI) noexcept
+char16_t Upper(char16_t unit) noexcept
 {
-    if (unit < 0x80) {
-        if (unit == u'i' && hasTwoLettersI)
-            return capitalDottedI;
+    if (unit < 0x80)
         return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - u'a' + u'A') : unit;
-    }
-    return unit == smallDotlessI ? u'I' : SystemUpper(unit);
+    return SystemUpper(unit);
 }
 
-char16_t Lower(char16_t unit, bool hasTwoLettersI) noexcept
+char16_t Lower(char16_t unit) noexcept
 {
-    if (unit < 0x80) {
-        if (unit == u'I' && hasTwoLettersI)
-            return smallDotlessI;
+    if (unit < 0x80)
         return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit - u'A' + u'a') : unit;
-    }
-    return unit == capitalDottedI ? u'i' : SystemLower(unit);
+    return SystemLower(unit);
 }
 
 DateTexts ReadTidyDateTexts(const CString& localeName)
@@ -109,39 +95,37 @@ DateTexts ReadTidyDateTexts(const CString& localeName)
 
 void ToUpper(char16_t* text, std::size_t length)
 {
-    const bool hasTwoLettersI = Current().hasTwoLettersI;
-    for (std::size_t i = 0; i < length; ++i)
-        text[i] = Upper(text[i], hasTwoLettersI);
+    std::transform(text, text + length, text, Upper);
 }
 
 void ToLower(char16_t* text, std::size_t length)
 {
-    const bool hasTwoLettersI = Current().hasTwoLettersI;
-    for (std::size_t i = 0; i < length; ++i)
-        text[i] = Lower(text[i], hasTwoLettersI);
+    std::transform(text, text + length, text, Lower);
 }
 
 int Compare(const CString& left, const CString& right)
 {
-    const LocaleData& locale = Current();
+    const LocaleData& locale = Current(Category::Collation);
     return locale.collation.Get([&] { return MakeCollation(locale.name); })(left, right);
 }
 
 const DateTexts& GetDateTexts()
 {
-    const LocaleData& locale = Current();
+    const LocaleData& locale = Current(Category::Dates);
     return locale.dateTexts.Get([&] { return ReadTidyDateTexts(locale.name); });
 }
 
 const NumberTexts& GetNumberTexts()
 {
-    const LocaleData& locale = Current();
+    const LocaleData& locale = Current(Category::Numbers);
     return locale.numberTexts.Get([&] { return ReadNumberTexts(locale.name); });
 }
 
 void SetLocale(const CString& name)
 {
-    currentLocale.store(name.IsEmpty() ? nullptr : &Load(SystemLocaleName(name)), std::memory_order_release);
+    const LocaleData* const chosen = name.IsEmpty() ? nullptr : &Load(SystemLocaleName(name));
+    for (std::atomic<const LocaleData*>& currentLocale : currentLocales)
+        currentLocale.store(chosen, std::memory_order_release);
 }
 
 } // namespace VyrPlatform::Locale

@@ -4,16 +4,29 @@
 
 #include <VyrPlatform/text/Locale.h>
 
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 
 namespace VyrPlatform::Locale {
 
-/// The locale that the user has chosen; US English where he has chosen none (the POSIX locale).
-[[nodiscard]] CString UserLocaleName();
+/// What a user may choose a locale for.
+enum class Category : std::uint8_t
+{
+    Collation,
+    Dates,
+    Numbers
+};
+inline constexpr std::size_t categoryCount = 3;
+
+/// The locale that the user has chosen for `category`; US English where none is chosen (the POSIX locale). On Windows
+/// one locale serves all categories.
+[[nodiscard]] CString UserLocaleName(Category category);
 /// The system's form of a name such as "de_DE.UTF-8" or "de-DE"; US English for "C", "POSIX" and what it does not know.
 [[nodiscard]] CString SystemLocaleName(const CString& name);
 
-/// The capital or the small letter of `unit`, or `unit` itself, whatever the locale.
+/// The upper-case or lower-case letter of `unit` by Unicode's simple mapping; `unit` itself where that has none of one
+/// code unit.
 [[nodiscard]] char16_t SystemUpper(char16_t unit) noexcept;
 [[nodiscard]] char16_t SystemLower(char16_t unit) noexcept;
 

@@ -3,6 +3,7 @@
 #include <VyrPlatform/common/text/SystemLocale.h>
 #include <VyrPlatform/text/Encoding.h>
 
+#include <cstdlib>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -15,6 +16,20 @@
 namespace VyrPlatform::Locale {
 
 namespace {
+
+/// The variable of the environment that names the locale of `category`.
+const char* VariableOf(Category category) noexcept
+{
+    switch (category) {
+    case Category::Collation:
+        return "LC_COLLATE";
+    case Category::Dates:
+        return "LC_TIME";
+    case Category::Numbers:
+        return "LC_NUMERIC";
+    }
+    return "LANG";
+}
 
 /// The text that `ask(buffer, size, error)` writes; empty when it fails.
 template <class Ask>
@@ -89,9 +104,12 @@ std::array<CString, Count> Symbols(const DateFormat& format, UDateFormatSymbolTy
 
 } // namespace
 
-CString UserLocaleName()
+CString UserLocaleName(Category category)
 {
-    return SystemLocaleName(Encoding::FromUtf8(uloc_getDefault()));
+    for (const char* const variable : {"LC_ALL", VariableOf(category), "LANG"})
+        if (const char* const name = std::getenv(variable); name && *name)
+            return SystemLocaleName(Encoding::FromUtf8(name));
+    return SystemLocaleName(u"C");
 }
 
 CString SystemLocaleName(const CString& name)

@@ -67,7 +67,8 @@ CString Pattern(const CString& localeName, LCTYPE type)
 class CaseTable
 {
 public:
-    explicit CaseTable(DWORD mapping)
+    /// `letterI` is what `dottedOrDotlessI` becomes: linguistic casing keeps it apart.
+    CaseTable(DWORD mapping, char16_t dottedOrDotlessI, char16_t letterI)
     {
         std::wstring all(unitCount, L'\0');
         for (std::size_t i = 0; i < unitCount; ++i)
@@ -77,6 +78,7 @@ public:
         const int length = ::LCMapStringEx(LOCALE_NAME_INVARIANT, mapping | LCMAP_LINGUISTIC_CASING, all.data(), count,
                                            mapped.data(), count, nullptr, nullptr, 0);
         m_units = length == count ? mapped : all;
+        m_units[dottedOrDotlessI] = static_cast<wchar_t>(letterI);
         for (std::size_t surrogate = 0xD800; surrogate < 0xE000; ++surrogate)
             m_units[surrogate] = static_cast<wchar_t>(surrogate);
     }
@@ -95,7 +97,7 @@ int GroupSize(std::u16string_view grouping, std::size_t index) noexcept
 
 } // namespace
 
-CString UserLocaleName()
+CString UserLocaleName(Category /*category*/)
 {
     wchar_t name[LOCALE_NAME_MAX_LENGTH];
     const int length = ::GetUserDefaultLocaleName(name, LOCALE_NAME_MAX_LENGTH);
@@ -114,13 +116,13 @@ CString SystemLocaleName(const CString& name)
 
 char16_t SystemUpper(char16_t unit) noexcept
 {
-    static const CaseTable table(LCMAP_UPPERCASE);
+    static const CaseTable table(LCMAP_UPPERCASE, u'\u0131', u'I');
     return table[unit];
 }
 
 char16_t SystemLower(char16_t unit) noexcept
 {
-    static const CaseTable table(LCMAP_LOWERCASE);
+    static const CaseTable table(LCMAP_LOWERCASE, u'\u0130', u'i');
     return table[unit];
 }
 

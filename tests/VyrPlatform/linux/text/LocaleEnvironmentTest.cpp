@@ -8,10 +8,11 @@ namespace {
 
 using Environment = std::map<CString, std::optional<CString>>;
 
-/// The capital of i, the thousands separator and the name of January, under `changes`.
+/// What z is to ö (<, > or =), the thousands separator and the name of January, under `changes`.
 std::string LocaleUnder(const Environment& changes)
 {
-    Environment environment = {{u"LC_ALL", {}}, {u"LC_MESSAGES", {}}, {u"LANG", {}}};
+    Environment environment = {{u"LC_ALL", {}},     {u"LC_MESSAGES", {}}, {u"LC_COLLATE", {}},
+                               {u"LC_NUMERIC", {}}, {u"LC_TIME", {}},     {u"LANG", {}}};
     for (const auto& [name, value] : changes)
         environment[name] = value;
     return VyrTests::RunProgram({VyrTests::BesideThisProgram(u"PlatformProbe"), {u"locale"}, {}, environment}).output;
@@ -21,16 +22,31 @@ std::string LocaleUnder(const Environment& changes)
 
 TEST(LocaleEnvironmentTest, LanguageComesFromTheEnvironment)
 {
-    EXPECT_EQ(LocaleUnder({{u"LANG", u"de_DE.UTF-8"}}), "I|.|Januar\n");
-    EXPECT_EQ(LocaleUnder({{u"LANG", u"de_DE.UTF-8"}, {u"LC_ALL", u"tr_TR.UTF-8"}}), "İ|.|Ocak\n");
+    EXPECT_EQ(LocaleUnder({{u"LANG", u"de_DE.UTF-8"}}), ">|.|Januar\n");
+    EXPECT_EQ(LocaleUnder({{u"LANG", u"de_DE.UTF-8"}, {u"LC_ALL", u"sv_SE.UTF-8"}}), "<|\u00A0|januari\n");
+}
+
+TEST(LocaleEnvironmentTest, EachCategoryHasALocaleOfItsOwn)
+{
+    const CString english = u"en_US.UTF-8";
+    EXPECT_EQ(LocaleUnder({{u"LANG", english}, {u"LC_COLLATE", u"sv_SE"}}), "<|,|January\n");
+    EXPECT_EQ(LocaleUnder({{u"LANG", english}, {u"LC_NUMERIC", u"de_DE"}}), ">|.|January\n");
+    EXPECT_EQ(LocaleUnder({{u"LANG", english}, {u"LC_TIME", u"de_DE"}}), ">|,|Januar\n");
+    EXPECT_EQ(LocaleUnder({{u"LANG", u"sv_SE"}, {u"LC_TIME", u"C"}, {u"LC_NUMERIC", u""}}), "<|\u00A0|January\n");
+    EXPECT_EQ(LocaleUnder({{u"LC_ALL", u"de_DE"}, {u"LC_TIME", u"C"}, {u"LC_COLLATE", u"sv_SE"}}), ">|.|Januar\n");
+}
+
+TEST(LocaleEnvironmentTest, LanguageOfMessagesDecidesNothing)
+{
+    EXPECT_EQ(LocaleUnder({{u"LC_MESSAGES", u"de_DE.UTF-8"}}), ">|,|January\n");
 }
 
 TEST(LocaleEnvironmentTest, PosixLocaleReadsAsUsEnglish)
 {
     for (const char16_t* name : {u"C", u"POSIX", u"C.UTF-8"})
-        EXPECT_EQ(LocaleUnder({{u"LC_ALL", name}}), "I|,|January\n");
-    EXPECT_EQ(LocaleUnder({}), "I|,|January\n");
-    EXPECT_EQ(LocaleUnder({{u"LC_ALL", u""}, {u"LANG", u"nonsense"}}), "I|,|January\n");
+        EXPECT_EQ(LocaleUnder({{u"LC_ALL", name}}), ">|,|January\n");
+    EXPECT_EQ(LocaleUnder({}), ">|,|January\n");
+    EXPECT_EQ(LocaleUnder({{u"LC_ALL", u""}, {u"LANG", u"nonsense"}}), ">|,|January\n");
 }
 
 TEST(LocaleEnvironmentTest, TurkishAndAzerbaijaniSortTheDotlessIFirst)
