@@ -1,11 +1,10 @@
 // Files whose content is on the disk, and the lock between programs, on Windows.
 #include <VyrHostPlatform/DurableFile.h>
 
+#include <VyrPlatform/windows/Handle.h>
 #include <VyrPlatform/windows/files/LongPath.h>
 
 #include <algorithm>
-#include <memory>
-#include <windows.h>
 
 namespace VyrHostPlatform {
 
@@ -26,34 +25,30 @@ DWORD WriteAll(HANDLE file, std::string_view content) noexcept
     return ERROR_SUCCESS;
 }
 
-DWORD Close(HANDLE file, DWORD error) noexcept
+/// Closes `file` and answers `error`, or why closing failed.
+DWORD Close(Handle& file, DWORD error) noexcept
 {
-    return CloseHandle(file) || error ? error : GetLastError();
+    const DWORD closeError = file.Close();
+    return error ? error : closeError;
 }
-
-struct HandleCloser
-{
-    void operator()(HANDLE file) const noexcept { CloseHandle(file); }
-};
 
 } // namespace
 
 std::uint32_t DurableFile::WriteNew(const CString& path, const Content& content)
 {
     const LongPath longPath(path);
-    const HANDLE file = CreateFileW(longPath.Get(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
+    Handle file(CreateFileW(longPath.Get(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL,
+                            nullptr));
+    if (!file.IsOpen())
         return GetLastError();
-    std::unique_ptr<void, HandleCloser> owner(file);
     DWORD error = ERROR_SUCCESS;
-    content([file, &error](std::string_view piece) {
+    content([&file, &error](std::string_view piece) {
         if (!error)
-            error = WriteAll(file, piece);
+            error = WriteAll(file.Get(), piece);
     });
-    if (!error && !FlushFileBuffers(file))
+    if (!error && !FlushFileBuffers(file.Get()))
         error = GetLastError();
-    error = Close(owner.release(), error);
+    error = Close(file, error);
     if (error)
         DeleteFileW(longPath.Get());
     return error;
@@ -61,13 +56,11 @@ std::uint32_t DurableFile::WriteNew(const CString& path, const Content& content)
 
 std::uint32_t DurableFile::Append(const CString& path, std::string_view content)
 {
-    const HANDLE file = CreateFileW(LongPath(path).Get(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
+    Handle file(CreateFileW(LongPath(path).Get(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                            FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file.IsOpen() || !SetFilePointerEx(file.Get(), {}, nullptr, FILE_END))
         return GetLastError();
-    if (!SetFilePointerEx(file, {}, nullptr, FILE_END))
-        return Close(file, GetLastError());
-    return Close(file, WriteAll(file, content));
+    return Close(file, WriteAll(file.Get(), content));
 }
 
 std::uint32_t DurableFile::Remove(const CString& path)
@@ -82,19 +75,17 @@ std::uint32_t DurableFile::FlushFolder(const CString&)
 
 FileLock::FileLock(const CString& path)
 {
-    const HANDLE file =
-        CreateFileW(LongPath(path).Get(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-    m_handle = reinterpret_cast<std::intptr_t>(file);
-    if (file != INVALID_HANDLE_VALUE)
-        return;
-    m_error = GetLastError();
+    Handle file(
+        CreateFileW(LongPath(path).Get(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+    m_error = file.IsOpen() ? ERROR_SUCCESS : GetLastError();
+    m_handle = reinterpret_cast<std::intptr_t>(file.Release());
     m_isTaken = m_error == ERROR_SHARING_VIOLATION;
 }
 
 FileLock::~FileLock()
 {
-    if (IsHeld())
-        CloseHandle(reinterpret_cast<HANDLE>(m_handle));
+    // Closes itself.
+    const Handle file(reinterpret_cast<HANDLE>(m_handle));
 }
 
 } // namespace VyrHostPlatform

@@ -4,10 +4,10 @@
 #include <VyrHostPlatform/common/EditorCommand.h>
 #include <VyrPlatform/process/Process.h>
 #include <VyrPlatform/text/WindowsCString.h>
+#include <VyrPlatform/windows/Handle.h>
 
 #include <array>
 #include <string_view>
-#include <windows.h>
 
 namespace VyrHostPlatform {
 
@@ -39,37 +39,36 @@ public:
 
     [[nodiscard]] bool Write(std::string_view bytes) const
     {
-        const HANDLE file = Open(GENERIC_WRITE, TRUNCATE_EXISTING);
-        if (file == INVALID_HANDLE_VALUE)
+        Handle file = Open(GENERIC_WRITE, TRUNCATE_EXISTING);
+        if (!file.IsOpen())
             return false;
         DWORD written = 0;
         const bool isWhole = bytes.size() <= MAXDWORD &&
-                             WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
+                             WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
                              written == bytes.size();
-        return CloseHandle(file) && isWhole;
+        return file.Close() == ERROR_SUCCESS && isWhole;
     }
 
     /// What stands under the path now: an editor may have put a new file there.
     [[nodiscard]] bool Read(std::string& bytes) const
     {
-        const HANDLE file = Open(GENERIC_READ, OPEN_EXISTING);
-        if (file == INVALID_HANDLE_VALUE)
+        const Handle file = Open(GENERIC_READ, OPEN_EXISTING);
+        if (!file.IsOpen())
             return false;
         std::array<char, 65536> piece;
         DWORD count = 0;
         BOOL succeeded = FALSE;
-        while ((succeeded = ReadFile(file, piece.data(), static_cast<DWORD>(piece.size()), &count, nullptr)) &&
+        while ((succeeded = ReadFile(file.Get(), piece.data(), static_cast<DWORD>(piece.size()), &count, nullptr)) &&
                count > 0)
             bytes.append(piece.data(), count);
-        CloseHandle(file);
         return succeeded != FALSE;
     }
 
 private:
-    [[nodiscard]] HANDLE Open(DWORD access, DWORD disposition) const
+    [[nodiscard]] Handle Open(DWORD access, DWORD disposition) const
     {
-        return CreateFileW(ToWide(m_path), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                           disposition, FILE_ATTRIBUTE_TEMPORARY, nullptr);
+        return Handle(CreateFileW(ToWide(m_path), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                  nullptr, disposition, FILE_ATTRIBUTE_TEMPORARY, nullptr));
     }
 
     CString m_path;
@@ -86,11 +85,10 @@ bool RunOnFile(const CString& command, const CString& path, DWORD& code)
     PROCESS_INFORMATION process{};
     if (!CreateProcessW(nullptr, writable.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
         return false;
-    CloseHandle(process.hThread);
-    WaitForSingleObject(process.hProcess, INFINITE);
-    const BOOL hasCode = GetExitCodeProcess(process.hProcess, &code);
-    CloseHandle(process.hProcess);
-    return hasCode != FALSE;
+    const Handle thread(process.hThread);
+    const Handle editor(process.hProcess);
+    WaitForSingleObject(editor.Get(), INFINITE);
+    return GetExitCodeProcess(editor.Get(), &code) != FALSE;
 }
 
 EditedText Failure(const CString& what)

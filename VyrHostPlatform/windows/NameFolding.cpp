@@ -1,13 +1,12 @@
 // Which names a folder takes for one, on Windows.
 #include <VyrHostPlatform/NameFolding.h>
 
-#include <VyrPlatform/windows/files/LongPath.h>
+#include <VyrPlatform/windows/files/OpenEntry.h>
 
 #include <VyrPlatform/text/WindowsCString.h>
 
 #include <algorithm>
 #include <string>
-#include <windows.h>
 
 namespace VyrHostPlatform {
 
@@ -23,27 +22,18 @@ struct CaseSensitiveInformation
 constexpr auto fileCaseSensitiveInfo = static_cast<FILE_INFO_BY_HANDLE_CLASS>(23);
 constexpr ULONG caseSensitiveFolder = 1;
 
-HANDLE OpenFolderAt(const CString& path) noexcept
-{
-    return CreateFileW(LongPath(path).Get(), FILE_READ_ATTRIBUTES,
-                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                       FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-}
-
 CString ParentOf(const CString& path)
 {
     return path.Left(std::max(path.ReverseFind(u'\\'), path.ReverseFind(u'/')));
 }
 
 /// Opens the folder at `path`, or the nearest one above it that is there.
-HANDLE OpenNearest(CString path) noexcept
+Handle OpenNearest(CString path) noexcept
 {
-    for (; !path.IsEmpty(); path = ParentOf(path)) {
-        const HANDLE folder = OpenFolderAt(path);
-        if (folder != INVALID_HANDLE_VALUE)
-            return folder;
-    }
-    return INVALID_HANDLE_VALUE;
+    Handle folder;
+    for (; !path.IsEmpty() && !folder.IsOpen(); path = ParentOf(path))
+        folder = OpenEntry(LongPath(path), FILE_READ_ATTRIBUTES, Links::Follow);
+    return folder;
 }
 
 bool IsCaseSensitive(HANDLE folder) noexcept
@@ -74,12 +64,8 @@ CString Compose(const CString& name)
 
 NameFolding GetNameFolding(const CString& path)
 {
-    const HANDLE folder = OpenNearest(path);
-    if (folder == INVALID_HANDLE_VALUE)
-        return NameFolding::Case;
-    const bool isCaseSensitive = IsCaseSensitive(folder);
-    CloseHandle(folder);
-    return isCaseSensitive ? NameFolding::None : NameFolding::Case;
+    const Handle folder = OpenNearest(path);
+    return folder.IsOpen() && IsCaseSensitive(folder.Get()) ? NameFolding::None : NameFolding::Case;
 }
 
 CString FoldName(const CString& name, NameFolding folding)

@@ -1,9 +1,8 @@
 // Reading files, pipes and consoles to their end, on Windows.
 #include <VyrHostPlatform/ReadToEnd.h>
 
+#include <VyrPlatform/windows/Handle.h>
 #include <VyrPlatform/windows/files/LongPath.h>
-
-#include <windows.h>
 
 namespace VyrHostPlatform {
 
@@ -42,18 +41,17 @@ DWORD AppendAll(HANDLE file, std::string& bytes)
 
 std::optional<std::string> ReadToEnd(const CString& path, std::uint32_t& error)
 {
-    const HANDLE file =
-        CreateFileW(LongPath(path).Get(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) {
+    const Handle file(CreateFileW(LongPath(path).Get(), GENERIC_READ,
+                                  FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file.IsOpen()) {
         error = GetLastError();
         return std::nullopt;
     }
     std::string bytes;
-    error = CheckKind(file);
+    error = CheckKind(file.Get());
     if (error == ERROR_SUCCESS)
-        error = AppendAll(file, bytes);
-    CloseHandle(file);
+        error = AppendAll(file.Get(), bytes);
     return error == ERROR_SUCCESS ? std::optional(std::move(bytes)) : std::nullopt;
 }
 

@@ -259,18 +259,20 @@ public:
     /// tells them, by nothing where it tells none. The picture is read only for a token that is there.
     static CString GetExifFormat(CString path, CString format);
 
-    /// Copies what stands in the folder `source` into the folder `destination`, folders with their contents; existing
-    /// files are overwritten. Neither path may stand inside the other.
-    /// @param source  a path that is empty, or at which no folder stands, gives 0.
-    /// @param destination  is there already: it is not made for files that stand directly in `source`.
+    /// Copies what stands in the folder `source` into the folder `destination`, folders with their contents, and
+    /// overwrites existing files. A folder that is created gets the mode (on Windows the attributes) of its source.
+    ///
+    /// Two rules keep files safe: a link to a folder (on Windows a junction too) is copied as a link, is never entered
+    /// and gets no record; and nothing is copied when `destination` is `source` itself or lies in it.
+    /// @param source  an empty path, or one without a folder, gives 0.
+    /// @param destination  has to exist where files stand directly in `source`: it is created for folders alone.
     /// @param records  gets a record for each folder that was created, a parent before its children. Never cleared.
-    /// Null:
-    ///        nothing is recorded.
-    /// @return whether the last copy succeeded (1 or 0); 0 when there was nothing to copy. A stop does not end the
-    /// walk.
+    ///        Null: nothing is recorded.
+    /// @return 1 when the last copy succeeded, else 0; 0 when there was nothing to copy. A stop does not end the walk.
     static int CopyFolder(CString source, CString destination, std::list<RENAMEITEM>* records);
-    /// Moves what stands in the folder `source` into the folder `destination`, likewise, and removes `source`.
-    /// @return whether `source` is gone (1 or 0): 0 when something in it could not be moved.
+    /// Moves what stands in the folder `source` into the folder `destination` by the rules of CopyFolder, and removes
+    /// `source`. A file whose other hard link stands at its new place is removed.
+    /// @return 1 when `source` is gone; 0 when something in it could not be moved.
     static int MoveFolder(CString source, CString destination, std::list<RENAMEITEM>* records);
 
 private:

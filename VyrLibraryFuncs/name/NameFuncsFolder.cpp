@@ -1,85 +1,202 @@
-// The copying and moving of folder trees, with a record of every folder that comes into being.
+// Copies and moves folder trees, and records every folder that it creates.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/FolderUtils.h>
+#include <VyrPlatform/common/files/DeepWalk.h>
 #include <VyrPlatform/files/CFileFind.h>
 #include <VyrPlatform/files/FileCopy.h>
+#include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/files/FullPath.h>
 #include <VyrPlatform/process/MessageQueue.h>
+
+#include <cstddef>
+#include <utility>
+#include <vector>
 
 using VyrLibraryUtils::DateTimeUtils;
 using VyrLibraryUtils::FileUtils;
 using VyrLibraryUtils::FolderUtils;
+using VyrPlatform::FileCopy::OwnerAccess;
+
+namespace FileCopy = VyrPlatform::FileCopy;
 
 namespace {
 
 using Records = std::list<VyrLibraryFuncs::NameFuncs::RENAMEITEM>;
 
-/// Calls `onFolder` or `onFile` for each entry of `source`, with its path and the path that it gets in `destination`.
-/// @return false when `source` cannot be searched. It is not held open when this returns.
-template <class OnFolder, class OnFile>
-bool WalkFolder(const CString& source, const CString& destination, OnFolder onFolder, OnFile onFile)
+enum class Operation : bool
 {
+    Copy,
+    Move
+};
+
+struct Entry
+{
+    CString name;
+    bool isFolder = false;
+    bool isDots = false;
+};
+
+/// The entries of `folder` in the order in which the system gives them; none when it cannot be searched.
+std::vector<Entry> ReadEntries(const CString& folder)
+{
+    std::vector<Entry> entries;
     CFileFind finder;
     // An empty path joined with the pattern would name the current folder.
-    if (source.IsEmpty() || !finder.FindFile(FileUtils::GetCombinePath(source, u"*.*")))
-        return false;
+    if (folder.IsEmpty() || !finder.FindFile(FileUtils::GetCombinePath(folder, u"*.*")))
+        return entries;
     for (bool more = true; more;) {
         more = finder.FindNextFile();
-        // A tree is not left half done: here a stop ends nothing.
-        static_cast<void>(VyrPlatform::MessageQueue::DrainOne());
-        if (finder.IsDots())
-            continue;
-        const CString name = finder.GetFileName();
-        const CString from = FileUtils::GetCombinePath(finder.GetRoot(), name);
-        const CString to = FileUtils::GetCombinePath(destination, name);
-        if (finder.IsDirectory())
-            onFolder(from, to);
-        else
-            onFile(from, to);
+        entries.push_back({finder.GetFileName(), finder.IsDirectory(), finder.IsDots()});
     }
+    return entries;
+}
+
+CString ParentOf(const CString& path)
+{
+    const CString folder = FileUtils::GetSplitDirPath(path);
+    return folder.GetLength() == path.GetLength() ? CString() : VyrPlatform::GetFullPath(folder);
+}
+
+/// Whether `path`, of which the last parts may be missing, is the folder `folder` or lies in it.
+bool IsInside(const CString& path, const CString& folder)
+{
+    const VyrPlatform::FileState wanted = VyrPlatform::LookAtFile(FileUtils::GetCombinePath(folder, u"."));
+    if (wanted.error != 0)
+        return false;
+    CString above = VyrPlatform::GetFullPath(path);
+    while (!above.IsEmpty() && !FileUtils::IsFileExist(above))
+        above = ParentOf(above);
+    // In a real path the folder above a name is the one in front of it, whatever links led there.
+    if (const CString real = VyrPlatform::GetRealPath(above); !real.IsEmpty())
+        above = real;
+    while (!above.IsEmpty() && VyrPlatform::LookAtFile(above).identity != wanted.identity)
+        above = ParentOf(above);
+    return !above.IsEmpty();
+}
+
+/// Creates the folder `destination` unless something stands there, and records it with the times of `source`.
+/// @return whether it was created.
+bool CreateFolderFor(const CString& source, const CString& destination, Records* records)
+{
+    if (FileUtils::IsFileExist(destination) || !FolderUtils::CreateFolderPathExists(destination))
+        return false;
+    // What is to come into it can be written, and nobody else sees more of it than of the source.
+    static_cast<void>(FileCopy::CopyFolderMode(source, destination, OwnerAccess::Full));
+    if (records)
+        records->push_back(
+            {source, destination, DateTimeUtils::GetDateCreated(source), DateTimeUtils::GetDateModified(source)});
     return true;
 }
 
-/// Makes the folder `destination` unless something stands there, and records it with the times of `source`.
-void CreateFolderFor(const CString& source, const CString& destination, Records* records)
+/// `folder` with exactly one separator at its end.
+CString WithSeparator(const CString& folder)
 {
-    if (FileUtils::IsFileExist(destination) || !FolderUtils::CreateFolderPathExists(destination) || !records)
-        return;
-    records->push_back(
-        {source, destination, DateTimeUtils::GetDateCreated(source), DateTimeUtils::GetDateModified(source)});
+    return FileUtils::GetSplitDirPath(FileUtils::GetCombinePath(folder, u"*"));
 }
 
-int CopyTree(const CString& source, const CString& destination, Records* records)
+/// Walks a tree without recursion: its depth is limited neither by the stack nor by the files that may be open at once.
+class TreeWalk
 {
-    int result = 0;
-    WalkFolder(
-        source, destination,
-        [&](const CString& from, const CString& to) {
-            CreateFolderFor(from, to, records);
-            result = CopyTree(from, to, records);
-        },
-        [&](const CString& from, const CString& to) {
-            if (VyrPlatform::FileCopy::Copy(from, to) == 0)
-                result = 1;
-            else if (FileUtils::IsFileExist(from)) // An entry that has gone meanwhile counts as none.
-                result = 0;
-        });
-    return result;
-}
+public:
+    TreeWalk(Operation operation, Records* records) : m_operation(operation), m_records(records) {}
 
-int MoveTree(const CString& source, const CString& destination, Records* records)
+    /// Copies or moves what stands in `source` into `destination`.
+    /// @return the result of CopyFolder or MoveFolder.
+    int Run(const CString& source, const CString& destination)
+    {
+        const VyrPlatform::DeepWalk deepWalk;
+        Enter(WithSeparator(source), WithSeparator(destination), false);
+        while (!m_folders.empty())
+            Step();
+        return m_result;
+    }
+
+private:
+    /// A folder whose entries are being handled. Its paths are the beginnings of those of the innermost folder.
+    struct Folder
+    {
+        int sourceLength = 0;
+        int destinationLength = 0;
+        std::vector<Entry> entries;
+        std::size_t next = 0;
+        bool wasCreated = false;
+        /// Of the last copy in it.
+        int result = 0;
+    };
+
+    void Enter(const CString& source, const CString& destination, bool wasCreated)
+    {
+        m_source = source;
+        m_destination = destination;
+        m_folders.push_back({source.GetLength(), destination.GetLength(), ReadEntries(source), 0, wasCreated});
+    }
+
+    /// Handles one entry of the innermost folder, or leaves that folder.
+    void Step()
+    {
+        Folder& folder = m_folders.back();
+        if (folder.next == folder.entries.size()) {
+            Leave();
+            return;
+        }
+        const Entry entry = folder.entries[folder.next++];
+        // A tree is not left half done: here a stop ends nothing.
+        static_cast<void>(VyrPlatform::MessageQueue::DrainOne());
+        if (entry.isDots)
+            return;
+        const CString from = FileUtils::GetCombinePath(m_source, entry.name);
+        const CString to = FileUtils::GetCombinePath(m_destination, entry.name);
+        if (entry.isFolder)
+            Enter(from, to, CreateFolderFor(from, to, m_records));
+        else
+            TransferFile(from, to, folder.result);
+    }
+
+    void TransferFile(const CString& from, const CString& to, int& result) const
+    {
+        if (m_operation == Operation::Move)
+            // What cannot be moved stays, and its folder cannot be removed.
+            static_cast<void>(FileCopy::Move(from, to));
+        else if (FileCopy::Copy(from, to) == 0)
+            result = 1;
+        else if (FileUtils::IsFileExist(from)) // An entry that has gone meanwhile counts as none.
+            result = 0;
+    }
+
+    void Leave()
+    {
+        const Folder folder = std::move(m_folders.back());
+        m_folders.pop_back();
+        if (folder.wasCreated)
+            static_cast<void>(FileCopy::CopyFolderMode(m_source, m_destination, OwnerAccess::AsInSource));
+        m_result = folder.result;
+        if (m_operation == Operation::Move)
+            m_result = !folder.entries.empty() && FileCopy::RemoveEmptyFolder(m_source) == 0 ? 1 : 0;
+        if (m_folders.empty())
+            return;
+        m_folders.back().result = m_result;
+        m_source = m_source.Left(m_folders.back().sourceLength);
+        m_destination = m_destination.Left(m_folders.back().destinationLength);
+    }
+
+    Operation m_operation;
+    Records* m_records;
+    /// Of the innermost folder.
+    CString m_source;
+    CString m_destination;
+    /// The folder that is walked, behind those above it.
+    std::vector<Folder> m_folders;
+    int m_result = 0;
+};
+
+int Transfer(Operation operation, const CString& source, const CString& destination, Records* records)
 {
-    const bool isSearched = WalkFolder(
-        source, destination,
-        [&](const CString& from, const CString& to) {
-            CreateFolderFor(from, to, records);
-            MoveTree(from, to, records);
-        },
-        // What cannot be moved stays, and shows in that its folder cannot be removed.
-        [](const CString& from, const CString& to) { static_cast<void>(VyrPlatform::FileCopy::Move(from, to)); });
-    return isSearched && VyrPlatform::FileCopy::RemoveEmptyFolder(source) == 0 ? 1 : 0;
+    if (source.IsEmpty() || IsInside(destination, source))
+        return 0;
+    return TreeWalk(operation, records).Run(source, destination);
 }
 
 } // namespace
@@ -88,12 +205,12 @@ namespace VyrLibraryFuncs {
 
 int NameFuncs::CopyFolder(CString source, CString destination, std::list<RENAMEITEM>* records)
 {
-    return CopyTree(source, destination, records);
+    return Transfer(Operation::Copy, source, destination, records);
 }
 
 int NameFuncs::MoveFolder(CString source, CString destination, std::list<RENAMEITEM>* records)
 {
-    return MoveTree(source, destination, records);
+    return Transfer(Operation::Move, source, destination, records);
 }
 
 } // namespace VyrLibraryFuncs

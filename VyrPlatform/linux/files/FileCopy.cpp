@@ -9,6 +9,8 @@
 
 #include <VyrPlatform/common/files/TemporaryPath.h>
 #include <VyrPlatform/files/FileAttributes.h>
+#include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <cerrno>
 #include <climits>
@@ -35,7 +37,8 @@ int ErrorOf(int result) noexcept
 /// What stands at `path` itself.
 int AskSource(const NativePath& path, struct statx& status) noexcept
 {
-    constexpr unsigned mask = STATX_TYPE | STATX_INO | STATX_SIZE | STATX_ATIME | STATX_MTIME | STATX_UID | STATX_GID;
+    constexpr unsigned mask =
+        STATX_TYPE | STATX_NLINK | STATX_INO | STATX_SIZE | STATX_ATIME | STATX_MTIME | STATX_UID | STATX_GID;
     return AskStatus(path, AT_SYMLINK_NOFOLLOW, mask, status) ? 0 : errno;
 }
 
@@ -44,6 +47,9 @@ bool IsSameFile(const struct statx& left, const struct statx& right) noexcept
     return left.stx_ino == right.stx_ino && left.stx_dev_major == right.stx_dev_major &&
            left.stx_dev_minor == right.stx_dev_minor;
 }
+
+/// What MayReplace answers for two names of one file, as the system does not.
+constexpr int isSameFile = EINVAL;
 
 /// Whether `source` may take the place of what stands at `destination`: 0 (also when nothing does), or the error code.
 int MayReplace(const struct statx& source, const CString& destination)
@@ -54,7 +60,7 @@ int MayReplace(const struct statx& source, const CString& destination)
     if (S_ISDIR(status.stx_mode))
         return EISDIR;
     if (IsSameFile(source, status))
-        return EINVAL;
+        return isSameFile;
     return S_ISREG(status.stx_mode) && FileAttributes::IsReadOnly(destination) ? EACCES : 0;
 }
 
@@ -120,13 +126,34 @@ int CopyEntry(const NativePath& source, const struct statx& status, const Native
     return S_ISDIR(status.stx_mode) ? EISDIR : ENOTSUP;
 }
 
+/// Whether a call failed because the folder may not be written.
+bool IsFolderLocked(int error) noexcept
+{
+    return error == EACCES || error == EPERM || error == EROFS;
+}
+
+/// Overwrites the file `destination` with the file `source`.
+/// @return 0, or the error code; `folderError` when either is no regular file or the second may not be written.
+int CopyInPlace(const NativePath& source, const NativePath& destination, Flush flush, int folderError)
+{
+    const Descriptor from(open(source.Get(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
+    Descriptor to(open(destination.Get(), O_WRONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
+    struct stat status;
+    if (!from.IsOpen() || !to.IsOpen() || fstat(from.Get(), &status) != 0 || !S_ISREG(status.st_mode) ||
+        fstat(to.Get(), &status) != 0 || !S_ISREG(status.st_mode) || ftruncate(to.Get(), 0) != 0)
+        return folderError;
+    const int error = FillCopy(from.Get(), to.Get(), flush);
+    const int closeError = to.Close();
+    return error != 0 ? error : closeError;
+}
+
 int CopyOver(const NativePath& source, const struct statx& status, const CString& destination, Flush flush)
 {
     if (const int error = MayReplace(status, destination))
         return error;
     const NativePath temporary(MakeTemporaryPath(destination));
     if (const int error = CopyEntry(source, status, temporary, flush))
-        return error;
+        return IsFolderLocked(error) ? CopyInPlace(source, NativePath(destination), flush, error) : error;
     const int error = ErrorOf(std::rename(temporary.Get(), NativePath(destination).Get()));
     if (error != 0)
         unlink(temporary.Get());
@@ -151,7 +178,7 @@ bool IsUnchanged(const NativePath& source, const struct statx& status) noexcept
            ToTicks(now.stx_mtime) == ToTicks(status.stx_mtime);
 }
 
-int MoveToOtherVolume(const CString& source, const struct statx& status, const CString& destination)
+int MoveByCopy(const CString& source, const struct statx& status, const CString& destination)
 {
     if (const int error = Copy(source, destination, Flush::Yes))
         return error;
@@ -160,6 +187,44 @@ int MoveToOtherVolume(const CString& source, const struct statx& status, const C
         return static_cast<int>(error);
     const NativePath from(source);
     return IsUnchanged(from, status) ? ErrorOf(unlink(from.Get())) : EBUSY;
+}
+
+bool IsSameEntry(const CString& left, const CString& right)
+{
+    const CString leftFolder = GetFolderOf(left);
+    const CString rightFolder = GetFolderOf(right);
+    return left.Mid(leftFolder.GetLength()) == right.Mid(rightFolder.GetLength()) &&
+           LookAtFile(leftFolder + u".").identity == LookAtFile(rightFolder + u".").identity;
+}
+
+/// Removes `source`, which names the same file as `destination`. The two may be one entry even where their names
+/// differ, in a folder that takes upper and lower case for the same.
+int RemoveSecondName(const CString& source, const CString& destination)
+{
+    if (IsSameEntry(source, destination))
+        return isSameFile;
+    const NativePath from(source);
+    const NativePath temporary(MakeTemporaryPath(source));
+    if (const int error = ErrorOf(std::rename(from.Get(), temporary.Get())))
+        return error;
+    if (FileSystem::Exists(destination))
+        return ErrorOf(unlink(temporary.Get()));
+    const int error = ErrorOf(std::rename(temporary.Get(), from.Get()));
+    return error != 0 ? error : isSameFile;
+}
+
+/// Whether the user may remove `source`, whose state is `status`, from its folder.
+bool CanBeRemoved(const CString& source, const struct statx& status)
+{
+    constexpr std::uint64_t fixed = STATX_ATTR_IMMUTABLE | STATX_ATTR_APPEND;
+    const NativePath folder(GetFolderOf(source) + u".");
+    struct statx folderStatus;
+    if (faccessat(AT_FDCWD, folder.Get(), W_OK | X_OK, AT_EACCESS) != 0 ||
+        !AskStatus(folder, 0, STATX_MODE | STATX_UID, folderStatus) ||
+        ((status.stx_attributes | folderStatus.stx_attributes) & fixed))
+        return false;
+    const uid_t user = geteuid();
+    return !(folderStatus.stx_mode & S_ISVTX) || user == 0 || user == status.stx_uid || user == folderStatus.stx_uid;
 }
 
 int MoveFrom(const CString& source, const CString& destination)
@@ -171,9 +236,10 @@ int MoveFrom(const CString& source, const CString& destination)
     if (S_ISDIR(status.stx_mode))
         return EISDIR;
     if (const int error = MayReplace(status, destination))
-        return error;
+        return error == isSameFile && status.stx_nlink > 1 ? RemoveSecondName(source, destination) : error;
     const int error = ErrorOf(std::rename(from.Get(), NativePath(destination).Get()));
-    return error == EXDEV ? MoveToOtherVolume(source, status, destination) : error;
+    const bool isLocked = IsFolderLocked(error) && FileSystem::Exists(destination) && CanBeRemoved(source, status);
+    return error == EXDEV || isLocked ? MoveByCopy(source, status, destination) : error;
 }
 
 } // namespace
@@ -186,6 +252,21 @@ std::uint32_t Copy(const CString& source, const CString& destination)
 std::uint32_t Move(const CString& source, const CString& destination)
 {
     return static_cast<std::uint32_t>(MoveFrom(source, destination));
+}
+
+std::uint32_t CopyFolderMode(const CString& source, const CString& destination, OwnerAccess access)
+{
+    const NativePath to(destination);
+    struct statx from;
+    struct statx now;
+    if (!AskStatus(NativePath(source), 0, STATX_MODE | STATX_GID, from) || !AskStatus(to, 0, STATX_GID, now))
+        return static_cast<std::uint32_t>(errno);
+    mode_t permissions = from.stx_mode & (S_IRWXU | S_IRWXG | S_IRWXO | S_ISVTX);
+    if (from.stx_gid == now.stx_gid)
+        permissions |= from.stx_mode & S_ISGID;
+    if (access == OwnerAccess::Full)
+        permissions |= S_IRWXU;
+    return static_cast<std::uint32_t>(ErrorOf(chmod(to.Get(), permissions)));
 }
 
 std::uint32_t RemoveEmptyFolder(const CString& path)

@@ -1,10 +1,13 @@
 // Turns paths into the bytes of Linux, quickly for those in ASCII.
 #include "NativePath.h"
 
+#include "FolderPins.h"
+
 #include <VyrPlatform/text/Encoding.h>
 #include <VyrPlatform/text/Surrogates.h>
 
 #include <algorithm>
+#include <climits>
 
 namespace VyrPlatform {
 
@@ -35,8 +38,22 @@ NativePath::NativePath(std::u16string_view path, std::string_view suffix) : m_by
     if (CanName(path)) {
         Encoding::AppendNameBytes(m_long, path);
         m_long += suffix;
+        if (m_long.size() >= PATH_MAX)
+            Shorten();
     }
     m_bytes = m_long.c_str();
+}
+
+NativePath::~NativePath() = default;
+
+void NativePath::Shorten()
+{
+    FolderPins* pins = SharedFolderPins();
+    if (!pins) {
+        m_pins = std::make_unique<FolderPins>();
+        pins = m_pins.get();
+    }
+    m_long = pins->Shorten(m_long);
 }
 
 bool NativePath::TakeShortAscii(std::u16string_view path, std::string_view suffix) noexcept

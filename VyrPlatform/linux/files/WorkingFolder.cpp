@@ -5,6 +5,8 @@
 #include "EnteredFolder.h"
 #include "NativePath.h"
 
+#include <VyrPlatform/text/Encoding.h>
+
 #include <cstring>
 #include <fcntl.h>
 #include <optional>
@@ -17,7 +19,12 @@ namespace {
 class EnteredFolder
 {
 public:
-    explicit EnteredFolder(const CString& path) : m_path(NativePath(path).Get()) {}
+    explicit EnteredFolder(const CString& path) : m_path(NativePath(path).Get())
+    {
+        // A folder whose path is too long for the system is not entered: the short one to it is not good for long.
+        if (Encoding::ToNameBytes(path) != m_path)
+            m_path.clear();
+    }
 
     /// The name of the file at `path` when it stands in this folder itself, else a null pointer.
     [[nodiscard]] const char* NameOf(const char* path) const noexcept

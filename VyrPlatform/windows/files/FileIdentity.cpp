@@ -2,7 +2,7 @@
 #include <VyrPlatform/files/FileIdentity.h>
 
 #include "FileStatus.h"
-#include "LongPath.h"
+#include "OpenEntry.h"
 
 namespace VyrPlatform {
 
@@ -47,17 +47,12 @@ FileState Describe(HANDLE file) noexcept
 
 FileState LookAtFile(const CString& path)
 {
-    const HANDLE file =
-        CreateFileW(LongPath(path).Get(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
-    if (file == INVALID_HANDLE_VALUE) {
-        FileState missing;
-        missing.error = GetLastError();
-        return missing;
-    }
-    const FileState state = Describe(file);
-    CloseHandle(file);
-    return state;
+    const Handle file = OpenEntry(LongPath(path), FILE_READ_ATTRIBUTES, Links::Keep);
+    if (file.IsOpen())
+        return Describe(file.Get());
+    FileState missing;
+    missing.error = GetLastError();
+    return missing;
 }
 
 } // namespace VyrPlatform

@@ -3,8 +3,9 @@
 
 #include "LongPath.h"
 
+#include <VyrPlatform/windows/Handle.h>
+
 #include <algorithm>
-#include <windows.h>
 
 namespace VyrPlatform {
 
@@ -34,14 +35,11 @@ DWORD TakeSize(HANDLE file, std::uint64_t& size) noexcept
 
 FileReader::FileReader(const CString& path) : m_handle(notOpen)
 {
-    const HANDLE file =
-        CreateFileW(LongPath(path).Get(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    m_error = file == INVALID_HANDLE_VALUE ? GetLastError() : TakeSize(file, m_size);
+    Handle file(CreateFileW(LongPath(path).Get(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                            nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    m_error = file.IsOpen() ? TakeSize(file.Get(), m_size) : GetLastError();
     if (m_error == ERROR_SUCCESS)
-        m_handle = reinterpret_cast<std::intptr_t>(file);
-    else if (file != INVALID_HANDLE_VALUE)
-        CloseHandle(file);
+        m_handle = reinterpret_cast<std::intptr_t>(file.Release());
 }
 
 FileReader::FileReader(const CString& path, std::span<std::byte> beginning) : FileReader(path)
@@ -52,8 +50,8 @@ FileReader::FileReader(const CString& path, std::span<std::byte> beginning) : Fi
 
 FileReader::~FileReader()
 {
-    if (IsOpen())
-        CloseHandle(ToHandle(m_handle));
+    // Closes itself.
+    const Handle file(ToHandle(m_handle));
 }
 
 bool FileReader::IsOpen() const noexcept

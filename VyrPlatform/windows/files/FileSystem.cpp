@@ -2,16 +2,8 @@
 #include <VyrPlatform/files/FileSystem.h>
 
 #include "FileStatus.h"
-#include "LongPath.h"
-
-#include <VyrPlatform/text/WindowsCString.h>
-
-#include <cstddef>
-#include <cstring>
-#include <span>
-#include <string>
-#include <vector>
-#include <winioctl.h>
+#include "OpenEntry.h"
+#include "ReparsePoint.h"
 
 namespace VyrPlatform::FileSystem {
 
@@ -33,25 +25,16 @@ void Describe(const Information& information, Entry& entry) noexcept
 /// What the parent folder tells of `path`, which is known to exist.
 bool Find(const LongPath& path, WIN32_FIND_DATAW& found) noexcept
 {
-    const HANDLE search = FindFirstFileW(path.Get(), &found);
-    if (search == INVALID_HANDLE_VALUE)
-        return false;
-    FindClose(search);
-    return true;
+    return SearchHandle(FindFirstFileW(path.Get(), &found)).IsOpen();
 }
 
 /// Describes what the link at `path` leads to; leaves `entry` as it is when that is nothing.
 void DescribeTarget(const LongPath& path, Entry& entry) noexcept
 {
-    const HANDLE target =
-        CreateFileW(path.Get(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-    if (target == INVALID_HANDLE_VALUE)
-        return;
+    const Handle target = OpenEntry(path, FILE_READ_ATTRIBUTES, Links::Follow);
     BY_HANDLE_FILE_INFORMATION information;
-    if (GetFileInformationByHandle(target, &information))
+    if (target.IsOpen() && GetFileInformationByHandle(target.Get(), &information))
         Describe(information, entry);
-    CloseHandle(target);
 }
 
 /// For a path that does not tell its attributes by itself: a file that is locked (its folder still does) or a device.
@@ -64,35 +47,6 @@ Entry QueryUncommon(const LongPath& path, DWORD error) noexcept
     else if (GetFileAttributesW(path.Get()) != INVALID_FILE_ATTRIBUTES)
         entry.kind = Kind::Other;
     return entry;
-}
-
-/// A number of a reparse point's data, 0 where that is too short.
-template <class Number>
-Number NumberAt(std::span<const std::byte> data, std::size_t offset) noexcept
-{
-    Number number = 0;
-    if (offset + sizeof(number) <= data.size())
-        std::memcpy(&number, data.data() + offset, sizeof(number));
-    return number;
-}
-
-/// Where a reparse point leads to. (REPARSE_DATA_BUFFER in the documentation of the Windows drivers.)
-std::optional<CString> ParseReparsePoint(std::span<const std::byte> data)
-{
-    constexpr std::size_t namePlace = 8;
-    constexpr std::size_t junctionNames = 16;
-    constexpr std::size_t linkNames = 20;
-    const auto tag = NumberAt<std::uint32_t>(data, 0);
-    if (tag != IO_REPARSE_TAG_SYMLINK && tag != IO_REPARSE_TAG_MOUNT_POINT)
-        return std::nullopt;
-    const std::size_t start =
-        (tag == IO_REPARSE_TAG_SYMLINK ? linkNames : junctionNames) + NumberAt<std::uint16_t>(data, namePlace);
-    const std::size_t size = NumberAt<std::uint16_t>(data, namePlace + sizeof(std::uint16_t));
-    if (start + size > data.size())
-        return std::nullopt;
-    std::wstring target(size / sizeof(wchar_t), L'\0');
-    std::memcpy(target.data(), data.data() + start, target.size() * sizeof(wchar_t));
-    return FromWide(target);
 }
 
 } // namespace
@@ -131,17 +85,8 @@ bool IsFolder(const CString& path)
 
 std::optional<CString> GetLinkTarget(const CString& path)
 {
-    const HANDLE link =
-        CreateFileW(LongPath(path).Get(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
-    if (link == INVALID_HANDLE_VALUE)
-        return std::nullopt;
-    std::vector<std::byte> data(MAXIMUM_REPARSE_DATA_BUFFER_SIZE);
-    DWORD size = 0;
-    const BOOL isRead = DeviceIoControl(link, FSCTL_GET_REPARSE_POINT, nullptr, 0, data.data(),
-                                        static_cast<DWORD>(data.size()), &size, nullptr);
-    CloseHandle(link);
-    return isRead ? ParseReparsePoint(std::span(data).first(size)) : std::nullopt;
+    const std::optional<LinkTarget> target = ParseReparsePoint(ReadReparsePoint(LongPath(path)));
+    return target ? std::optional(target->path) : std::nullopt;
 }
 
 std::uint32_t CreateFolder(const CString& path)

@@ -2,7 +2,7 @@
 #include <VyrPlatform/files/FileTimes.h>
 
 #include "FileStatus.h"
-#include "LongPath.h"
+#include "OpenEntry.h"
 
 #include <VyrPlatform/files/FileAttributes.h>
 #include <VyrPlatform/files/FileSystem.h>
@@ -22,14 +22,9 @@ std::optional<FileTicks> Get(const CString& path, FileTicks FileSystem::Entry::*
 /// Sets those times that are given.
 std::uint32_t Set(const CString& path, const FILETIME* created, const FILETIME* modified)
 {
-    const HANDLE file =
-        CreateFileW(LongPath(path).Get(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
-        return GetLastError();
-    const DWORD error = SetFileTime(file, created, nullptr, modified) ? ERROR_SUCCESS : GetLastError();
-    CloseHandle(file);
-    return error;
+    const Handle file = OpenEntry(LongPath(path), FILE_WRITE_ATTRIBUTES, Links::Follow);
+    const bool isSet = file.IsOpen() && SetFileTime(file.Get(), created, nullptr, modified);
+    return isSet ? ERROR_SUCCESS : GetLastError();
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "LongPath.h"
 
 #include <VyrPlatform/text/WindowsCString.h>
+#include <VyrPlatform/windows/Handle.h>
 
 #include <cwchar>
 
@@ -15,7 +16,7 @@ using FileSystem::Kind;
 struct FolderListing::State
 {
     CString folder;
-    HANDLE search = INVALID_HANDLE_VALUE;
+    SearchHandle search;
     WIN32_FIND_DATAW found{};
     /// The system gave `found` with the opening, and Next has not handed it out.
     bool isPending = false;
@@ -50,9 +51,9 @@ FolderListing::FolderListing(const CString& path, Dots dots) : m_state(std::make
     m_state->dots = dots;
     m_state->folder = path;
     const LongPath pattern(path, EndsWithSeparator(path) ? u"*" : uR"(\*)");
-    m_state->search = FindFirstFileExW(pattern.Get(), FindExInfoBasic, &m_state->found, FindExSearchNameMatch, nullptr,
-                                       FIND_FIRST_EX_LARGE_FETCH);
-    m_state->isPending = m_state->search != INVALID_HANDLE_VALUE;
+    m_state->search = SearchHandle(FindFirstFileExW(pattern.Get(), FindExInfoBasic, &m_state->found,
+                                                    FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH));
+    m_state->isPending = m_state->search.IsOpen();
     if (m_state->isPending)
         return;
     m_state->error = GetLastError();
@@ -61,18 +62,14 @@ FolderListing::FolderListing(const CString& path, Dots dots) : m_state(std::make
         m_state->error = ERROR_SUCCESS;
 }
 
-FolderListing::~FolderListing()
-{
-    if (m_state->search != INVALID_HANDLE_VALUE)
-        FindClose(m_state->search);
-}
+FolderListing::~FolderListing() = default;
 
 bool FolderListing::Next()
 {
-    if (m_state->search == INVALID_HANDLE_VALUE)
+    if (!m_state->search.IsOpen())
         return false;
     do {
-        if (!m_state->isPending && !FindNextFileW(m_state->search, &m_state->found)) {
+        if (!m_state->isPending && !FindNextFileW(m_state->search.Get(), &m_state->found)) {
             const DWORD error = GetLastError();
             m_state->error = error == ERROR_NO_MORE_FILES ? 0 : error;
             return false;

@@ -1,6 +1,11 @@
 // Folder copy and move on whole trees, compared entry by entry.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
+#include <VyrPlatform/files/FileTimes.h>
+
+#include <tests/support/EmptiedQueue.h>
+#include <tests/support/FileMoments.h>
+#include <tests/support/MessagePosting.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
 
@@ -206,4 +211,74 @@ TEST(NameFuncsFolder, DeepTreesAreCopiedAndMoved)
     EXPECT_EQ(Tree(scratch.Path(u"to")), before);
     EXPECT_EQ(NameFuncs::MoveFolder(scratch.Path(u"from"), scratch.Path(u"moved"), &records), 1);
     EXPECT_EQ(Tree(scratch.Path(u"moved")), before);
+}
+
+TEST(NameFuncsFolder, DestinationInsideTheSourceGivesZeroAndChangesNothing)
+{
+    for (const Operation operation : operations) {
+        const ScratchFolder scratch;
+        scratch.WriteFile(u"from/sub/a.txt", "a");
+        const auto before = Tree(scratch.Path());
+        for (const char16_t* const inside :
+             {u"from/to", u"from/sub", u"from/sub/x/y", u"from/../from/to", u"from/sub/.."}) {
+            Records records;
+            EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(inside), &records), 0);
+            EXPECT_TRUE(records.empty());
+            EXPECT_EQ(Tree(scratch.Path()), before);
+        }
+    }
+}
+
+TEST(NameFuncsFolder, DestinationWhoseNameBeginsLikeTheSourceIsNotInside)
+{
+    for (const Operation operation : operations) {
+        const ScratchFolder scratch;
+        scratch.WriteFile(u"from/sub/a.txt", "a");
+        for (const char16_t* const outside : {u"from2", u"fro", u"other/from"}) {
+            scratch.WriteFile(u"from/sub/a.txt", "a");
+            Records records;
+            EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(outside), &records), 1);
+            EXPECT_EQ(Tree(scratch.Path(outside)).size(), 2U);
+        }
+    }
+}
+
+TEST(NameFuncsFolder, MoveOntoAnotherHardLinkRemovesTheSource)
+{
+    const ScratchFolder scratch;
+    const CString file = scratch.WriteFile(u"from/a.txt", "a");
+    scratch.MakeFolder(u"to");
+    std::filesystem::create_hard_link(VyrTests::ToStdPath(file), VyrTests::ToStdPath(scratch.Path(u"to/a.txt")));
+    EXPECT_EQ(NameFuncs::MoveFolder(scratch.Path(u"from"), scratch.Path(u"to"), nullptr), 1);
+    EXPECT_FALSE(scratch.Has(u"from"));
+    EXPECT_EQ(scratch.ReadFile(u"to/a.txt"), "a");
+}
+
+TEST(NameFuncsFolder, FolderIsReadBeforeAnEventIsHandled)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"from/a.txt", "a");
+    scratch.MakeFolder(u"to");
+    const VyrTests::MessagePosting queue;
+    const VyrTests::EmptiedQueue emptied;
+    queue.PostWork([&scratch] { scratch.WriteFile(u"from/late.txt", "late"); });
+    EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"from"), scratch.Path(u"to"), nullptr), 1);
+    EXPECT_TRUE(scratch.Has(u"from/late.txt"));
+    EXPECT_FALSE(scratch.Has(u"to/late.txt"));
+}
+
+TEST(NameFuncsFolder, RecordHoldsTheCreationTimeOfItsSourceAndNotTheModifiedTime)
+{
+    const ScratchFolder scratch;
+    const CString folder = scratch.MakeFolder(u"from/sub");
+    const VyrPlatform::FileTicks created = VyrTests::TicksOfUnixTime(1'000'000'000);
+    if (VyrPlatform::FileTimes::SetCreated(folder, created) != 0 ||
+        VyrPlatform::FileTimes::GetCreated(folder) != created)
+        GTEST_SKIP() << "this file system keeps no creation time that can be set (Wine drops it)";
+    Records records;
+    static_cast<void>(NameFuncs::CopyFolder(scratch.Path(u"from"), scratch.Path(u"to"), &records));
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records.front().dateCreated, VyrPlatform::FileTimes::ToLocal(created));
+    EXPECT_EQ(records.front().dateModified,
+              VyrPlatform::FileTimes::ToLocal(VyrPlatform::FileTimes::GetModified(folder).value()));
 }

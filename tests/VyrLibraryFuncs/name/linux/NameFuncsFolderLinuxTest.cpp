@@ -1,18 +1,25 @@
 // Folder copy and move among what only Linux has: links, pipes, names that are not UTF-8, a second file system.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
+#include <tests/support/ChildProcess.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
+
+#include <tests/support/linux/Unprivileged.h>
 
 #include <gtest/gtest.h>
 #include <tests/support/Describe.h>
 
+#include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <utility>
 
 using VyrLibraryFuncs::NameFuncs;
 using VyrTests::ScratchFolder;
@@ -22,6 +29,51 @@ namespace fs = std::filesystem;
 namespace {
 
 using Records = std::list<NameFuncs::RENAMEITEM>;
+
+mode_t ModeOf(const CString& path)
+{
+    struct stat status = {};
+    EXPECT_EQ(lstat(VyrTests::ToStdPath(path).c_str(), &status), 0);
+    return status.st_mode & 07777;
+}
+
+/// As long as it lives, the process may have as many files open as is usual.
+class UsualFileLimit
+{
+public:
+    UsualFileLimit()
+    {
+        getrlimit(RLIMIT_NOFILE, &m_before);
+        const rlimit limit{std::min<rlim_t>(1024, m_before.rlim_cur), m_before.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &limit);
+    }
+    UsualFileLimit(const UsualFileLimit&) = delete;
+    UsualFileLimit& operator=(const UsualFileLimit&) = delete;
+    ~UsualFileLimit() { setrlimit(RLIMIT_NOFILE, &m_before); }
+
+private:
+    rlimit m_before;
+};
+
+/// Goes down `levels` folders called "d" from `folder`, and makes those that are missing if `isMaking`.
+/// @return a descriptor of the last one; negative when one is missing.
+int GoDown(const CString& folder, int levels, bool isMaking)
+{
+    int at = open(VyrTests::ToStdPath(folder).c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+    for (int level = 0; level < levels && at >= 0; ++level) {
+        if (isMaking)
+            mkdirat(at, "d", 0755);
+        const int below = openat(at, "d", O_PATH | O_DIRECTORY | O_CLOEXEC);
+        close(at);
+        at = below;
+    }
+    return at;
+}
+
+bool HasFile(int folder, const char* name)
+{
+    return folder >= 0 && faccessat(folder, name, F_OK, 0) == 0;
+}
 
 dev_t DeviceOf(const fs::path& path)
 {
@@ -129,4 +181,88 @@ TEST(NameFuncsFolderLinux, TreeIsMovedToAnotherFileSystem)
     EXPECT_EQ(records.size(), 2U);
     EXPECT_EQ(fs::file_size(other.Path() / "to" / "sub" / "a.txt"), 1U);
     EXPECT_TRUE(fs::is_directory(other.Path() / "to" / "empty"));
+}
+
+TEST(NameFuncsFolderLinux, CreatedFoldersHaveTheModeOfTheirSource)
+{
+    for (const auto operation : {&NameFuncs::CopyFolder, &NameFuncs::MoveFolder}) {
+        const ScratchFolder scratch;
+        const std::pair<const char16_t*, mode_t> folders[] = {
+            {u"from/private", 0700}, {u"from/shared", 0777}, {u"from/kept", 0500}, {u"from/kept/below", 01755}};
+        for (const auto& [name, mode] : folders)
+            scratch.WriteFile(CString(name) + u"/a", "a");
+        for (const auto& [name, mode] : folders)
+            ASSERT_EQ(chmod(VyrTests::ToStdPath(scratch.Path(name)).c_str(), mode), 0);
+        EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"to"), nullptr), 1);
+        for (const auto& [name, mode] : folders) {
+            const CString copied = CString(u"to") + CString(name).Mid(4);
+            EXPECT_EQ(ModeOf(scratch.Path(copied)), mode);
+            EXPECT_EQ(scratch.ReadFile(copied + u"/a"), "a");
+        }
+    }
+}
+
+TEST(NameFuncsFolderLinux, FolderThatMayNotBeWrittenIsFilledAndThenLocked)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"from/sub/a", "a");
+    ASSERT_EQ(chmod(VyrTests::ToStdPath(scratch.Path(u"from/sub")).c_str(), 0555), 0);
+    ASSERT_EQ(chmod(VyrTests::ToStdPath(scratch.Path()).c_str(), 0777), 0);
+    {
+        const VyrTests::Unprivileged user;
+        ASSERT_TRUE(user.IsDone());
+        EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"from"), scratch.Path(u"to"), nullptr), 1);
+    }
+    EXPECT_EQ(scratch.ReadFile(u"to/sub/a"), "a");
+    EXPECT_EQ(ModeOf(scratch.Path(u"to/sub")), 0555U);
+}
+
+TEST(NameFuncsFolderLinux, ExistingFolderKeepsItsMode)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"from/sub/a", "a");
+    scratch.MakeFolder(u"to/sub");
+    ASSERT_EQ(chmod(VyrTests::ToStdPath(scratch.Path(u"from/sub")).c_str(), 0700), 0);
+    ASSERT_EQ(chmod(VyrTests::ToStdPath(scratch.Path(u"to/sub")).c_str(), 0751), 0);
+    EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"from"), scratch.Path(u"to"), nullptr), 1);
+    EXPECT_EQ(ModeOf(scratch.Path(u"to/sub")), 0751U);
+}
+
+TEST(NameFuncsFolderLinux, DestinationThatALinkLeadsIntoTheSourceGivesZero)
+{
+    for (const auto operation : {&NameFuncs::CopyFolder, &NameFuncs::MoveFolder}) {
+        const ScratchFolder scratch;
+        scratch.WriteFile(u"from/sub/a", "a");
+        const fs::path link = VyrTests::ToStdPath(scratch.Path(u"link"));
+        fs::create_directory_symlink("from/sub", link);
+        EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"link/to"), nullptr), 0);
+        EXPECT_EQ(operation(scratch.Path(u"link"), scratch.Path(u"from/sub/to"), nullptr), 0);
+        EXPECT_FALSE(scratch.Has(u"from/sub/to"));
+        EXPECT_EQ(scratch.ReadFile(u"from/sub/a"), "a");
+        // What lies beyond a link that only begins inside is outside.
+        EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"link/../../to"), nullptr), 1);
+        EXPECT_EQ(scratch.ReadFile(u"to/sub/a"), "a");
+    }
+}
+
+TEST(NameFuncsFolderLinux, ThreeThousandLevelsAreCopiedAndMovedWithFewOpenFiles)
+{
+    // More folders than files may be open, and a path that is longer than the system takes.
+    constexpr int levels = 3000;
+    const ScratchFolder scratch;
+    const UsualFileLimit limit;
+    const int deepest = GoDown(scratch.MakeFolder(u"from"), levels, true);
+    ASSERT_GE(deepest, 0);
+    close(openat(deepest, "a", O_WRONLY | O_CREAT | O_CLOEXEC, 0644));
+    close(deepest);
+
+    EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"from"), scratch.Path(u"copied"), nullptr), 1);
+    EXPECT_EQ(NameFuncs::MoveFolder(scratch.Path(u"from"), scratch.Path(u"moved"), nullptr), 1);
+    EXPECT_FALSE(scratch.Has(u"from"));
+    for (const char16_t* const name : {u"copied", u"moved"}) {
+        const int reached = GoDown(scratch.Path(name), levels, false);
+        EXPECT_TRUE(HasFile(reached, "a"));
+        close(reached);
+        EXPECT_EQ(VyrTests::RunProgram({u"/bin/rm", {u"-r", scratch.Path(name)}}).exitCode, 0);
+    }
 }

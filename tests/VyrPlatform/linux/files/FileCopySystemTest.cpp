@@ -23,6 +23,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
+#include <unistd.h>
 #include <vector>
 
 namespace FileCopy = VyrPlatform::FileCopy;
@@ -376,25 +377,134 @@ TEST(FileCopyFailures, FileThatOneMayNotReadFailsAlone)
     EXPECT_EQ(CountEntries(scratch.Path()), 2U);
 }
 
+/// A folder that may not be written, with one file that may be and one that may not, and a folder of the user's own.
+class LockedFolder
+{
+public:
+    LockedFolder()
+    {
+        for (const char16_t* const name : {u"locked/open", u"locked/closed"})
+            m_scratch.WriteFile(name, "precious, and longer");
+        m_scratch.MakeFolder(u"own");
+        Allow(u"locked/open", 0666);
+        Allow(u"locked", 0555);
+        Allow(u"own", 0777);
+        Allow(u"", 0755);
+    }
+
+    /// Writes a file that the user may move away.
+    CString WriteSource() const
+    {
+        const CString path = m_scratch.WriteFile(u"own/a", "content");
+        Allow(u"own/a", 0666);
+        return path;
+    }
+    void Allow(std::u16string_view name, mode_t mode) const
+    {
+        EXPECT_EQ(chmod(ToStdPath(name.empty() ? m_scratch.Path() : m_scratch.Path(name)).c_str(), mode), 0);
+    }
+    [[nodiscard]] const ScratchFolder& Scratch() const noexcept { return m_scratch; }
+    [[nodiscard]] CString Path(std::u16string_view name) const { return m_scratch.Path(name); }
+
+private:
+    ScratchFolder m_scratch;
+};
+
 TEST(FileCopyFailures, FolderThatOneMayNotWriteKeepsItsFiles)
 {
-    const ScratchFolder scratch;
-    const CString source = scratch.WriteFile(u"a", "content");
-    const CString existing = scratch.WriteFile(u"folder/b", "precious");
-    ASSERT_EQ(chmod(ToStdPath(existing).c_str(), 0666), 0);
-    ASSERT_EQ(chmod(ToStdPath(scratch.Path(u"folder")).c_str(), 0555), 0);
-    ASSERT_EQ(chmod(ToStdPath(scratch.Path()).c_str(), 0755), 0);
+    const LockedFolder folder;
+    const CString source = folder.WriteSource();
     {
         const VyrTests::Unprivileged user;
         ASSERT_TRUE(user.IsDone());
         for (const auto operation : {&FileCopy::Copy, &FileCopy::Move}) {
-            EXPECT_NE(operation(source, scratch.Path(u"folder/new")), 0U);
-            EXPECT_NE(operation(source, existing), 0U);
+            EXPECT_NE(operation(source, folder.Path(u"locked/new")), 0U);
+            EXPECT_NE(operation(source, folder.Path(u"locked/closed")), 0U);
         }
     }
-    EXPECT_EQ(scratch.ReadFile(u"a"), "content");
-    EXPECT_EQ(scratch.ReadFile(u"folder/b"), "precious");
-    EXPECT_EQ(CountEntries(scratch.Path(u"folder")), 1U);
+    EXPECT_EQ(folder.Scratch().ReadFile(u"own/a"), "content");
+    EXPECT_EQ(folder.Scratch().ReadFile(u"locked/closed"), "precious, and longer");
+    EXPECT_EQ(CountEntries(folder.Path(u"locked")), 2U);
+}
+
+TEST(FileCopyInPlace, FileIsOverwrittenWhereItsFolderMayNotBeWritten)
+{
+    for (const bool isMove : {false, true}) {
+        const LockedFolder folder;
+        const CString source = folder.WriteSource();
+        const ino_t number = StatusOf(folder.Path(u"locked/open")).st_ino;
+        {
+            const VyrTests::Unprivileged user;
+            ASSERT_TRUE(user.IsDone());
+            EXPECT_EQ((isMove ? FileCopy::Move : FileCopy::Copy)(source, folder.Path(u"locked/open")), 0U);
+        }
+        EXPECT_EQ(folder.Scratch().ReadFile(u"locked/open"), "content");
+        EXPECT_EQ(StatusOf(folder.Path(u"locked/open")).st_ino, number);
+        EXPECT_EQ(folder.Scratch().Has(u"own/a"), !isMove);
+        EXPECT_EQ(CountEntries(folder.Path(u"locked")), 2U);
+    }
+}
+
+TEST(FileCopyInPlace, MoveOfAFileThatCannotBeRemovedChangesNothing)
+{
+    const LockedFolder folder;
+    const CString source = folder.WriteSource();
+    // Neither a folder that may not be written nor one whose files belong to others gives a file away.
+    for (const mode_t mode : {0555U, 01777U}) {
+        folder.Allow(u"own", mode);
+        {
+            const VyrTests::Unprivileged user;
+            ASSERT_TRUE(user.IsDone());
+            EXPECT_NE(FileCopy::Move(source, folder.Path(u"locked/open")), 0U);
+        }
+        EXPECT_EQ(folder.Scratch().ReadFile(u"locked/open"), "precious, and longer");
+        EXPECT_EQ(folder.Scratch().ReadFile(u"own/a"), "content");
+    }
+}
+
+TEST(FileCopyInPlace, LinkIsNotWrittenThrough)
+{
+    const LockedFolder folder;
+    const CString source = folder.WriteSource();
+    const CString target = folder.Scratch().WriteFile(u"target", "kept");
+    folder.Allow(u"target", 0666);
+    std::filesystem::create_symlink(ToStdPath(target), ToStdPath(folder.Path(u"locked/link")));
+    {
+        const VyrTests::Unprivileged user;
+        ASSERT_TRUE(user.IsDone());
+        EXPECT_NE(FileCopy::Copy(source, folder.Path(u"locked/link")), 0U);
+        EXPECT_NE(FileCopy::Move(source, folder.Path(u"locked/link")), 0U);
+    }
+    EXPECT_EQ(folder.Scratch().ReadFile(u"target"), "kept");
+}
+
+TEST(FileCopyFolderMode, IsThatOfTheSource)
+{
+    const ScratchFolder scratch;
+    const CString source = scratch.MakeFolder(u"a");
+    const CString destination = scratch.MakeFolder(u"b");
+    for (const mode_t mode : {0700U, 0755U, 0500U, 0000U, 01777U, 02750U}) {
+        ASSERT_EQ(chmod(ToStdPath(source).c_str(), mode), 0);
+        EXPECT_EQ(FileCopy::CopyFolderMode(source, destination, FileCopy::OwnerAccess::Full), 0U);
+        EXPECT_EQ(StatusOf(destination).st_mode & 07777, mode | 0700);
+        EXPECT_EQ(FileCopy::CopyFolderMode(source, destination, FileCopy::OwnerAccess::AsInSource), 0U);
+        EXPECT_EQ(StatusOf(destination).st_mode & 07777, mode);
+    }
+    EXPECT_EQ(FileCopy::CopyFolderMode(scratch.Path(u"missing"), destination, FileCopy::OwnerAccess::Full),
+              static_cast<std::uint32_t>(ENOENT));
+}
+
+TEST(FileCopyFolderMode, BitThatHandsOnAGroupIsNotGivenToAnotherGroup)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root may give a folder to another group";
+    const ScratchFolder scratch;
+    const CString source = scratch.MakeFolder(u"a");
+    const CString destination = scratch.MakeFolder(u"b");
+    ASSERT_EQ(chown(ToStdPath(source).c_str(), 0, 65534), 0);
+    ASSERT_EQ(chmod(ToStdPath(source).c_str(), 02770), 0);
+    EXPECT_EQ(FileCopy::CopyFolderMode(source, destination, FileCopy::OwnerAccess::AsInSource), 0U);
+    EXPECT_EQ(StatusOf(destination).st_mode & 07777, 0770U);
 }
 
 TEST(FileCopyFailures, ReadOnlyBitOfSambaProtectsAFile)

@@ -1,7 +1,7 @@
 // Full paths of Linux: the current folder in front, and no empty steps.
-#include <VyrHostPlatform/FullPath.h>
+#include <VyrPlatform/files/FullPath.h>
 
-#include <VyrPlatform/linux/files/NativePath.h>
+#include "NativePath.h"
 
 #include <VyrPlatform/process/Process.h>
 #include <VyrPlatform/text/Encoding.h>
@@ -10,9 +10,7 @@
 #include <memory>
 #include <string>
 
-namespace VyrHostPlatform {
-
-using namespace VyrPlatform;
+namespace VyrPlatform {
 
 namespace {
 
@@ -48,4 +46,4 @@ CString GetRealPath(const CString& path)
     return real ? Encoding::FromNameBytes(real.get()) : CString();
 }
 
-} // namespace VyrHostPlatform
+} // namespace VyrPlatform

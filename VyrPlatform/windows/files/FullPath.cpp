@@ -1,14 +1,11 @@
 // Full paths of Windows, as the system words them.
-#include <VyrHostPlatform/FullPath.h>
+#include <VyrPlatform/files/FullPath.h>
 
-#include <VyrPlatform/windows/files/LongPath.h>
+#include "OpenEntry.h"
 
 #include <string>
-#include <windows.h>
 
-namespace VyrHostPlatform {
-
-using namespace VyrPlatform;
+namespace VyrPlatform {
 
 namespace {
 
@@ -35,15 +32,12 @@ CString GetFullPath(const CString& path)
 
 CString GetRealPath(const CString& path)
 {
-    const HANDLE file =
-        CreateFileW(LongPath(path).Get(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
+    const Handle file = OpenEntry(LongPath(path), FILE_READ_ATTRIBUTES, Links::Follow);
+    if (!file.IsOpen())
         return {};
-    std::wstring real(GetFinalPathNameByHandleW(file, nullptr, 0, VOLUME_NAME_DOS), L'\0');
-    real.resize(GetFinalPathNameByHandleW(file, real.data(), static_cast<DWORD>(real.size()), VOLUME_NAME_DOS));
-    CloseHandle(file);
+    std::wstring real(GetFinalPathNameByHandleW(file.Get(), nullptr, 0, VOLUME_NAME_DOS), L'\0');
+    real.resize(GetFinalPathNameByHandleW(file.Get(), real.data(), static_cast<DWORD>(real.size()), VOLUME_NAME_DOS));
     return WithoutPrefix(FromWide(real));
 }
 
-} // namespace VyrHostPlatform
+} // namespace VyrPlatform

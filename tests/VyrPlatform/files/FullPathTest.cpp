@@ -1,5 +1,5 @@
 // Tests of full paths.
-#include <VyrHostPlatform/FullPath.h>
+#include <VyrPlatform/files/FullPath.h>
 
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/process/Process.h>
@@ -8,8 +8,8 @@
 #include <tests/support/Links.h>
 #include <tests/support/ScratchFolder.h>
 
-using VyrHostPlatform::GetFullPath;
-using VyrHostPlatform::GetRealPath;
+using VyrPlatform::GetFullPath;
+using VyrPlatform::GetRealPath;
 using VyrTests::ScratchFolder;
 
 namespace {

@@ -1,0 +1,21 @@
+/// @file
+/// Paths that do not depend on the current folder.
+#pragma once
+
+#include <VyrPlatform/Export.h>
+#include <VyrPlatform/text/CString.h>
+
+namespace VyrPlatform {
+
+/// `path` as a full path from the current folder, without "." steps, doubled separators and separators at its end (that
+/// of a root stays). The disk is not asked: on Linux ".." steps stay, since links decide where they lead; on Windows
+/// they are resolved in the text, as the system itself does. An empty path stays empty.
+///
+///     In the folder /home/me, "a//./b/" gives "/home/me/a/b".
+[[nodiscard]] VYR_PLATFORM_API CString GetFullPath(const CString& path);
+
+/// The full path, without any link and ".." step, of what stands at `path`; empty when nothing does, or the system
+/// cannot tell.
+[[nodiscard]] VYR_PLATFORM_API CString GetRealPath(const CString& path);
+
+} // namespace VyrPlatform
