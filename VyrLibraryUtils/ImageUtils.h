@@ -21,7 +21,8 @@ public:
     ImageUtils& operator=(const ImageUtils& other);
 
     /// The moment at which the picture at `path` was taken, in Exif's form `yyyy:MM:dd HH:mm:ss` (the camera's local
-    /// time): the tag DateTimeOriginal of the Exif directory, and no other in its place.
+    /// time): the tag DateTimeOriginal of the Exif directory; where that has none, of the picture's first directory. No
+    /// other tag takes its place.
     static CString GetPropertyTagExifDTOrig(CString path);
     /// The maker of the camera: the tag Make of the picture's first directory.
     static CString GetEquipMake(CString path);

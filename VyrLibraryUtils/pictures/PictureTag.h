@@ -11,7 +11,7 @@ enum class PictureTag : std::uint16_t
 {
     Make = 0x010F,            ///< of the first directory
     Model = 0x0110,           ///< of the first directory
-    DateTimeOriginal = 0x9003 ///< of the Exif directory
+    DateTimeOriginal = 0x9003 ///< of the Exif directory, else of the first directory
 };
 
 } // namespace VyrLibraryUtils::Pictures

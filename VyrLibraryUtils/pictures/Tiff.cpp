@@ -43,6 +43,8 @@ public:
     }
     /// The first entry of `tag` in the directory at `offset`.
     [[nodiscard]] std::optional<Entry> Find(std::uint32_t offset, std::uint16_t tag) const;
+    /// The first entry of `tag` in the Exif directory that the directory at `offset` links to.
+    [[nodiscard]] std::optional<Entry> FindInExifDirectory(std::uint32_t offset, std::uint16_t tag) const;
     /// The directory that `entry` links to; 0, where no directory can be, when it links to none.
     [[nodiscard]] std::uint32_t LinkedDirectory(const Entry& entry) const;
     [[nodiscard]] std::string Text(const Entry& entry) const;
@@ -85,6 +87,13 @@ std::uint32_t TiffReader::LinkedDirectory(const Entry& entry) const
 {
     const bool isLink = (entry.type == ValueType::Long || entry.type == ValueType::Directory) && entry.count == 1;
     return isLink ? entry.valueOrOffset : 0;
+}
+
+std::optional<Entry> TiffReader::FindInExifDirectory(std::uint32_t offset, std::uint16_t tag) const
+{
+    const std::optional<Entry> link = Find(offset, ExifDirectoryLink);
+    const std::uint32_t linked = link ? LinkedDirectory(*link) : 0;
+    return linked == 0 || linked == offset ? std::nullopt : Find(linked, tag);
 }
 
 std::string TiffReader::Bytes(const Entry& entry) const
@@ -141,15 +150,13 @@ std::string ReadTiff(const ByteView& tiff, PictureTag tag, FirstDirectory first)
     const TiffReader reader(tiff, tiff.StartsWith("II") ? ByteOrder::Little : ByteOrder::Big);
     const bool isDate = tag == PictureTag::DateTimeOriginal;
 
-    std::uint32_t directory = reader.FirstDirectoryOffset();
-    if (isDate && first == FirstDirectory::Image) {
-        const std::optional<Entry> link = reader.Find(directory, ExifDirectoryLink);
-        const std::uint32_t linked = link ? reader.LinkedDirectory(*link) : 0;
-        if (linked == 0 || linked == directory)
-            return {};
-        directory = linked;
-    }
-    const std::optional<Entry> entry = reader.Find(directory, static_cast<std::uint16_t>(tag));
+    const std::uint32_t directory = reader.FirstDirectoryOffset();
+    std::optional<Entry> entry;
+    if (isDate && first == FirstDirectory::Image)
+        entry = reader.FindInExifDirectory(directory, static_cast<std::uint16_t>(tag));
+    // Some programs write the date into the first directory.
+    if (!entry)
+        entry = reader.Find(directory, static_cast<std::uint16_t>(tag));
     const std::string text = entry ? TrimmedText(reader.Text(*entry)) : std::string();
     return isDate && IsBlankDate(text) ? std::string() : text;
 }

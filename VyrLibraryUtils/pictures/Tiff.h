@@ -21,8 +21,9 @@ enum class FirstDirectory : std::uint8_t
 [[nodiscard]] bool IsTiff(const ByteView& bytes);
 
 /// The text of `tag` in the TIFF structure that `tiff` holds from its first byte on: without trailing blanks and NULs,
-/// empty when it is missing or blank, or, for a date, without a digit other than 0. At most two directories are read,
-/// none twice. Source: TIFF 6.0, section 2; Exif 2.32, section 4.5.
+/// empty when it is missing or blank, or, for a date, without a digit other than 0. The date is that of the Exif
+/// directory; where that has no such tag, that of the first directory. At most two directories are read. Source:
+/// TIFF 6.0, section 2; Exif 2.32, section 4.5.
 [[nodiscard]] std::string ReadTiff(const ByteView& tiff, PictureTag tag, FirstDirectory first = FirstDirectory::Image);
 
 } // namespace VyrLibraryUtils::Pictures

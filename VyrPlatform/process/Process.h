@@ -11,7 +11,8 @@
 
 namespace VyrPlatform::Process {
 
-/// The full path of the program's executable file.
+/// The full path of the program's executable file. It stays the same when that file is replaced or removed while the
+/// program runs.
 [[nodiscard]] VYR_PLATFORM_API CString GetProgramPath();
 
 /// What the program says of itself: on Windows its version resource, on Linux the note that the build puts in.

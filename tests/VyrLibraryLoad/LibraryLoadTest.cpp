@@ -2,6 +2,7 @@
 // nothing is left after unloading.
 #include <VyrLibraryFuncs/frame/VyrLibraryFuncsApp.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
+#include <VyrPlatform/common/process/ApplicationCounts.h>
 
 #include <tests/support/DynamicLibrary.h>
 
@@ -106,6 +107,22 @@ TEST(LibraryLoad, EveryOperationOfEveryPublishedClassIsExported)
     }
 }
 
+TEST(LibraryLoad, TextsAndRecordsAreTakenByValue)
+{
+    for (const std::string& name : libraryNames) {
+        const DynamicLibrary library(name);
+        ASSERT_TRUE(library.IsLoaded()) << name;
+        const std::map<std::string, std::string> exports = ReadableExports(library);
+        for (const PublishedClass& published : ClassesOf(name))
+            for (const auto& [operation, overloads] : published.operations) {
+                const std::string start = published.name + "::" + operation + '(';
+                for (auto found = exports.lower_bound(start); found != exports.end() && found->first.starts_with(start);
+                     ++found)
+                    EXPECT_EQ(found->first.find('&'), std::string::npos) << found->first;
+            }
+    }
+}
+
 TEST(LibraryLoad, EveryPublishedClassIsConstructedAssignedAndDestroyedByName)
 {
     for (const std::string& libraryName : libraryNames) {
@@ -172,6 +189,18 @@ TEST(LibraryLoad, ApplicationObjectSaysThatTheLibraryMayBeUsed)
     construct(application);
     EXPECT_EQ(initialise(application), 1);
     destroy(application);
+}
+
+TEST(LibraryLoad, LoadingMakesAndInitialisesOneApplicationObjectAndUnloadingDestroysIt)
+{
+    const VyrPlatform::ApplicationCounts before = VyrPlatform::CountApplications();
+    {
+        const DynamicLibrary library("VyrLibraryFuncs");
+        ASSERT_TRUE(library.IsLoaded());
+        EXPECT_EQ(VyrPlatform::CountApplications().alive, before.alive + 1);
+        EXPECT_EQ(VyrPlatform::CountApplications().initialised, before.initialised + 1);
+    }
+    EXPECT_EQ(VyrPlatform::CountApplications().alive, before.alive);
 }
 
 TEST(LibraryLoad, NothingIsLeftInTheProcessAfterUnloading)

@@ -75,6 +75,19 @@ TEST(DateTimeUtilsOfFile, KnowsWhenItWasCreated)
     EXPECT_GE(created.GetYear(), 2024);
 }
 
+TEST(DateTimeUtilsOfFile, CreationIsNotTheLastChange)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    VyrTests::StampFile(path, TicksOfUnixTime(summerNoon), TicksOfUnixTime(summerNoon));
+    const auto created = VyrPlatform::FileTimes::GetCreated(path);
+    ASSERT_TRUE(created);
+    if (*created == TicksOfUnixTime(summerNoon))
+        GTEST_SKIP() << "this file system tells no creation time of its own";
+    EXPECT_EQ(Describe(DateTimeUtils::GetDateCreated(path)), Describe(VyrPlatform::FileTimes::ToLocal(*created)));
+    EXPECT_NE(Describe(DateTimeUtils::GetDateCreated(path)), Describe(DateTimeUtils::GetDateModified(path)));
+}
+
 TEST(DateTimeUtilsOfFile, IsInvalidForWhatIsMissing)
 {
     const ScratchFolder scratch;

@@ -56,6 +56,18 @@ TEST(FileListUtils, KnowsWhenAFileWasCreated)
     EXPECT_EQ(Parsed(FileListUtils::GetCreationDateTime(scratch.WriteFile(u"a"))).GetStatus(), COleDateTime::valid);
 }
 
+TEST(FileListUtils, CreationIsNotTheLastChange)
+{
+    const ScratchFolder scratch;
+    const CString file = scratch.WriteFile(u"a");
+    const VyrPlatform::FileTicks changed = TicksOfUnixTime(1'000'000'000);
+    VyrTests::StampFile(file, changed, changed);
+    if (VyrPlatform::FileTimes::GetCreated(file) == changed)
+        GTEST_SKIP() << "this file system tells no creation time of its own";
+    EXPECT_NE(FileListUtils::GetCreationDateTime(file), FileListUtils::GetLastWriteDateTime(file));
+    EXPECT_GE(Parsed(FileListUtils::GetCreationDateTime(file)).GetYear(), 2024);
+}
+
 TEST(FileListUtils, GivesTheMomentAPictureWasTakenInTheSameForm)
 {
     const ScratchFolder scratch;

@@ -1,6 +1,7 @@
 // For tests: prints what a separate program gets from a platform service. The first argument says which.
 #include <VyrHostPlatform/Console.h>
 #include <VyrHostPlatform/Interrupt.h>
+#include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/process/Process.h>
 #include <VyrPlatform/text/CodePage.h>
 #include <VyrPlatform/text/Encoding.h>
@@ -61,6 +62,17 @@ int PrintVersion(const Arguments& /*arguments*/)
 
 int PrintPath(const Arguments& /*arguments*/)
 {
+    return Print(Process::GetProgramPath());
+}
+
+/// Prints the path of this program once its file is gone or another one stands there.
+int PrintPathWhenGone(const Arguments& /*arguments*/)
+{
+    const CString path = Process::GetProgramPath();
+    const std::int64_t size = FileSystem::Query(path).size;
+    Print(u"ready");
+    for (int i = 0; i < 30000 && FileSystem::Query(path).size == size; ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
     return Print(Process::GetProgramPath());
 }
 
@@ -157,6 +169,7 @@ int main(int count, char** argumentBytes)
         {u"environment", PrintEnvironment},
         {u"version", PrintVersion},
         {u"path", PrintPath},
+        {u"path-when-gone", PrintPathWhenGone},
         {u"current-folder", PrintCurrentFolder},
         {u"folders", PrintFolders},
         {u"locale", PrintLocale},

@@ -1,6 +1,7 @@
 // File times as local date-times. The system takes long to tell a moment's offset, so that of whole days is kept.
 #include <VyrPlatform/files/FileTimes.h>
 
+#include <VyrPlatform/common/time/Epochs.h>
 #include <VyrPlatform/common/time/LocalOffset.h>
 
 #include <array>
@@ -10,11 +11,6 @@
 namespace VyrPlatform::FileTimes {
 
 namespace {
-
-constexpr FileTicks ticksPerSecond = 10'000'000;
-/// From 1 January 1601 to 1 January 1970.
-constexpr std::int64_t secondsToUnixEpoch = 11'644'473'600;
-constexpr std::int64_t secondsPerDay = 86'400;
 
 /// The calendar's ends, since 1970.
 constexpr std::int64_t firstSecond =

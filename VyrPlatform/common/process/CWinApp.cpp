@@ -1,11 +1,30 @@
-// The application object's base: it has nothing to do, and says that the module may be used.
+// The application object's base. It counts the objects of the process and says that the module may be used.
+#include <VyrPlatform/common/process/ApplicationCounts.h>
 #include <VyrPlatform/process/CWinApp.h>
 
-CWinApp::CWinApp() = default;
+namespace {
 
-CWinApp::~CWinApp() = default;
+constinit VyrPlatform::ApplicationCounts counts;
+
+} // namespace
+
+CWinApp::CWinApp()
+{
+    ++counts.alive;
+}
+
+CWinApp::~CWinApp()
+{
+    --counts.alive;
+}
 
 int CWinApp::InitInstance()
 {
+    ++counts.initialised;
     return 1;
+}
+
+VyrPlatform::ApplicationCounts VyrPlatform::CountApplications() noexcept
+{
+    return counts;
 }

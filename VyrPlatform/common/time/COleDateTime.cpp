@@ -1,5 +1,6 @@
 // The automation date-time: calendar fields to a count of days and back.
 #include <VyrPlatform/WinTypes.h>
+#include <VyrPlatform/common/time/Epochs.h>
 #include <VyrPlatform/time/COleDateTime.h>
 
 #include <chrono>
@@ -8,11 +9,11 @@
 namespace {
 
 using namespace std::chrono;
+using VyrPlatform::secondsPerDay;
 
 constexpr sys_days epoch = December / 30 / 1899;
 constexpr sys_days firstDay = January / 1 / 100;
 constexpr sys_days lastDay = December / 31 / 9999;
-constexpr int secondsPerDay = 86400;
 
 /// A moment as a whole day and the seconds after its midnight.
 struct Moment

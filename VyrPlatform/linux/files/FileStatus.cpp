@@ -1,6 +1,8 @@
 // Turns the system's file times into ticks.
 #include "FileStatus.h"
 
+#include <VyrPlatform/common/time/Epochs.h>
+
 #include <algorithm>
 #include <limits>
 
@@ -8,10 +10,7 @@ namespace VyrPlatform {
 
 namespace {
 
-constexpr FileTicks ticksPerSecond = 10'000'000;
 constexpr FileTicks nanosecondsPerTick = 100;
-/// From 1 January 1601 to 1 January 1970.
-constexpr FileTicks secondsToUnixEpoch = 11'644'473'600;
 constexpr FileTicks lastSecond = std::numeric_limits<FileTicks>::max() / ticksPerSecond - 1;
 
 } // namespace

@@ -8,6 +8,8 @@
 #include <cstring>
 #include <pwd.h>
 #include <string>
+#include <string_view>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
 
@@ -51,15 +53,30 @@ std::string FolderOf(DataLocation location)
     return {};
 }
 
+constexpr const char* programLink = "/proc/self/exe";
+
+/// Whether the file at `path` is the program's own.
+bool IsProgram(const std::string& path)
+{
+    struct stat file;
+    struct stat program;
+    return ::stat(path.c_str(), &file) == 0 && ::stat(programLink, &program) == 0 && file.st_dev == program.st_dev &&
+           file.st_ino == program.st_ino;
+}
+
 } // namespace
 
 CString GetProgramPath()
 {
+    constexpr std::string_view deletedMark = " (deleted)";
     std::string path(256, '\0');
     ssize_t length = 0;
-    while ((length = ::readlink("/proc/self/exe", path.data(), path.size())) == static_cast<ssize_t>(path.size()))
+    while ((length = ::readlink(programLink, path.data(), path.size())) == static_cast<ssize_t>(path.size()))
         path.resize(path.size() * 2);
     path.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+    // The system marks the path of a file that was removed or replaced while it runs.
+    if (path.ends_with(deletedMark) && !IsProgram(path))
+        path.resize(path.size() - deletedMark.size());
     return Encoding::FromNameBytes(path);
 }
 

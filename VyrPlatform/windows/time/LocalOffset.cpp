@@ -1,4 +1,5 @@
 // Local time on Windows, under the rules that hold in each year.
+#include <VyrPlatform/common/time/Epochs.h>
 #include <VyrPlatform/common/time/LocalOffset.h>
 
 #include "files/FileStatus.h"
@@ -6,14 +7,6 @@
 #include <algorithm>
 
 namespace VyrPlatform {
-
-namespace {
-
-constexpr FileTicks ticksPerSecond = 10'000'000;
-/// From 1 January 1601 to 1 January 1970.
-constexpr std::int64_t secondsToUnixEpoch = 11'644'473'600;
-
-} // namespace
 
 std::optional<int> GetLocalOffset(std::int64_t unixSeconds)
 {

@@ -2,6 +2,7 @@
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <VyrLibraryUtils/DateTimeUtils.h>
+#include <VyrPlatform/files/FileTimes.h>
 
 #include <tests/VyrLibraryFuncs/PrivateOperations.h>
 #include <tests/support/PictureBuilder.h>
@@ -190,6 +191,8 @@ TEST(NameFuncsDateTime, SelectedDateTimeIsTheOneOfItsTarget)
     SetModified(picture, Late(2019, 5, 6, 0).time);
     EXPECT_EQ(PrivateOperations::GetSelectedDateTime(picture, 0), DateTimeUtils::GetDateModified(picture));
     EXPECT_EQ(PrivateOperations::GetSelectedDateTime(picture, 1), DateTimeUtils::GetDateCreated(picture));
+    EXPECT_EQ(VyrPlatform::FileTimes::GetCreated(picture) == VyrPlatform::FileTimes::GetModified(picture),
+              PrivateOperations::GetSelectedDateTime(picture, 1) == PrivateOperations::GetSelectedDateTime(picture, 0));
     EXPECT_EQ(PrivateOperations::GetSelectedDateTime(picture, 2), DateTimeUtils::GetDateAccessed(picture));
     EXPECT_EQ(PrivateOperations::GetSelectedDateTime(picture, 3), COleDateTime(2001, 2, 3, 4, 5, 6));
     for (const int target : {4, 7, -1, std::numeric_limits<int>::min()}) {

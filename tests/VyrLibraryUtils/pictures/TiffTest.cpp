@@ -52,11 +52,32 @@ TEST(Tiff, MissingTagsAreEmptyWhateverStandsBesideThem)
         EXPECT_EQ(FactsOf(BuildTiff(PictureFacts{"", "", "", endian})), NoFacts);
 }
 
-TEST(Tiff, TagsInTheOtherDirectoryDoNotCount)
+TEST(Tiff, DateInTheFirstDirectoryCountsWhereTheExifDirectoryHasNone)
+{
+    constexpr std::uint16_t dateTag = 0x9003;
+    for (const Endian endian : BothOrders) {
+        TiffParts parts = TiffPartsOf({.dateTimeOriginal = "", .endian = endian});
+        parts.image.push_back(AsciiEntry(dateTag, "2001:02:03 04:05:06"));
+        EXPECT_EQ(FactsOf(BuildTiff(parts)).dateTimeOriginal, "2001:02:03 04:05:06");
+        parts.exif.clear();
+        EXPECT_EQ(FactsOf(BuildTiff(parts)).dateTimeOriginal, "2001:02:03 04:05:06") << "no Exif directory at all";
+
+        TiffParts both = TiffPartsOf({.endian = endian});
+        both.image.push_back(AsciiEntry(dateTag, "2001:02:03 04:05:06"));
+        EXPECT_EQ(FactsOf(BuildTiff(both)).dateTimeOriginal, BuiltFacts.dateTimeOriginal);
+
+        TiffParts blank = TiffPartsOf({.dateTimeOriginal = "0000:00:00 00:00:00", .endian = endian});
+        blank.image.push_back(AsciiEntry(dateTag, "2001:02:03 04:05:06"));
+        EXPECT_EQ(FactsOf(BuildTiff(blank)).dateTimeOriginal, "") << "the Exif directory has the tag";
+    }
+}
+
+TEST(Tiff, MakerAndModelInTheExifDirectoryDoNotCount)
 {
     TiffParts parts = TiffPartsOf({});
     std::swap(parts.image, parts.exif);
-    EXPECT_EQ(FactsOf(BuildTiff(parts)), NoFacts);
+    EXPECT_EQ(FactsOf(BuildTiff(parts)).make, "");
+    EXPECT_EQ(FactsOf(BuildTiff(parts)).model, "");
 }
 
 TEST(Tiff, TextsOfUpToFourBytesStandInTheEntry)

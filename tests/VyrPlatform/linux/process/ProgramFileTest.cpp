@@ -22,6 +22,25 @@ TEST(ProgramFileTest, LongPathThatIsNotUtf8IsWhole)
     EXPECT_EQ(result.output, VyrPlatform::Encoding::ToNameBytes(program) + "\n") << result.errors;
 }
 
+TEST(ProgramFileTest, PathStaysWhenTheFileIsReplacedOrRemovedWhileItRuns)
+{
+    namespace fs = std::filesystem;
+    for (const char16_t* const name : {u"probe", u"probe (deleted)", u"probe (deleted) (deleted)"}) {
+        for (const bool isReplaced : {false, true}) {
+            const VyrTests::ScratchFolder scratch;
+            const CString program = scratch.Path(name);
+            fs::copy(VyrTests::ToStdPath(BesideThisProgram(u"PlatformProbe")), VyrTests::ToStdPath(program));
+            VyrTests::ChildProcess child({program, {u"path-when-gone"}});
+            ASSERT_TRUE(child.WaitForOutput("ready\n"));
+            fs::remove(VyrTests::ToStdPath(program));
+            if (isReplaced)
+                scratch.WriteFile(name, "another file");
+            const VyrTests::ProgramResult result = child.Wait();
+            EXPECT_EQ(result.output, "ready\n" + VyrPlatform::Encoding::ToNameBytes(program) + "\n") << result.errors;
+        }
+    }
+}
+
 TEST(ProgramFileTest, DamagedVersionNoteIsNoVersion)
 {
     for (const char16_t* program : {u"UnendedVersionProbe", u"OverlongVersionProbe"}) {

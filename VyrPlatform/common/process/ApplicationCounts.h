@@ -1,0 +1,19 @@
+// How many application objects the process has.
+#pragma once
+
+#include <VyrPlatform/Export.h>
+
+namespace VyrPlatform {
+
+struct ApplicationCounts
+{
+    /// Objects that exist.
+    int alive = 0;
+    /// Calls of InitInstance so far.
+    int initialised = 0;
+};
+
+/// Exported for the test of loading and unloading alone.
+[[nodiscard]] VYR_PLATFORM_API ApplicationCounts CountApplications() noexcept;
+
+} // namespace VyrPlatform
