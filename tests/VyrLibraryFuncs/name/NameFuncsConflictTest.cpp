@@ -2,6 +2,8 @@
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <tests/VyrLibraryFuncs/PrivateOperations.h>
+#include <tests/support/EmptiedQueue.h>
+#include <tests/support/Links.h>
 #include <tests/support/MessagePosting.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
@@ -11,6 +13,7 @@
 
 #include <filesystem>
 #include <limits>
+#include <string>
 
 using VyrLibraryFuncs::NameFuncs;
 using VyrTests::MessagePosting;
@@ -161,4 +164,47 @@ TEST(NameFuncsConflict, SearchGoesOnUntilANameBecomesFree)
     queue.PostWork([&taken] { std::filesystem::remove(VyrTests::ToStdPath(taken)); });
     EXPECT_EQ(Resolve(path, Numbering(u"!", 1)), taken);
     EXPECT_FALSE(scratch.Has(u"a!.txt"));
+}
+
+TEST(NameFuncsConflict, NameTakenByALinkToNothingIsTaken)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    if (const std::string whyNot = VyrTests::MakeLink(scratch.Path(u"missing"), scratch.Path(u"a1")); !whyNot.empty())
+        GTEST_SKIP() << whyNot;
+    EXPECT_EQ(Resolve(path, Numbering(u"?", 1, 1, 1)), scratch.Path(u"a2"));
+}
+
+TEST(NameFuncsConflict, HiddenNameAndPlainNameInADottedFolderGetTheNumberAtTheirEnd)
+{
+    const ScratchFolder scratch;
+    EXPECT_EQ(Resolve(scratch.WriteFile(u".rc"), Numbering(u"?", 1, 1, 1)), scratch.Path(u".rc1"));
+    EXPECT_EQ(Resolve(scratch.WriteFile(u"d.d/plain"), Numbering(u"?", 1, 1, 1)), scratch.Path(u"d.d/plain1"));
+}
+
+TEST(NameFuncsConflict, StopGivesTheLastCandidateTried)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    for (const char16_t* const taken : {u"a1", u"a2", u"a3"})
+        scratch.WriteFile(taken);
+    const MessagePosting queue;
+    const VyrTests::EmptiedQueue emptied;
+    queue.PostStop();
+    EXPECT_EQ(Resolve(path, Numbering(u"?", 1, 1, 1)), path);
+    queue.PostWork([] {});
+    queue.PostWork([] {});
+    queue.PostStop();
+    EXPECT_EQ(Resolve(path, Numbering(u"?", 1, 1, 1)), scratch.Path(u"a2"));
+    EXPECT_EQ(Resolve(path, Numbering(u"?", 1, 1, 1)), scratch.Path(u"a4"));
+}
+
+TEST(NameFuncsConflict, AnEventIsHandledBeforeEachAttempt)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    const MessagePosting queue;
+    const VyrTests::EmptiedQueue emptied;
+    queue.PostWork([&scratch] { scratch.WriteFile(u"a1"); });
+    EXPECT_EQ(Resolve(path, Numbering(u"?", 1, 1, 1)), scratch.Path(u"a2"));
 }

@@ -5,6 +5,7 @@
 #include <VyrPlatform/files/FileTimes.h>
 
 #include <tests/VyrLibraryFuncs/PrivateOperations.h>
+#include <tests/support/FileMoments.h>
 #include <tests/support/PictureBuilder.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
@@ -201,4 +202,13 @@ TEST(NameFuncsDateTime, SelectedDateTimeIsTheOneOfItsTarget)
         EXPECT_EQ(zero.GetStatus(), COleDateTime::valid);
     }
     EXPECT_EQ(PrivateOperations::GetSelectedDateTime(u"", 0).GetStatus(), COleDateTime::invalid);
+}
+
+TEST(NameFuncsDateTime, FolderIsDatedByItsOwnTime)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.MakeFolder(u"d");
+    VyrTests::StampFile(path, VyrTests::TicksOfUnixTime(1'550'000'000), VyrTests::TicksOfUnixTime(1'600'000'000));
+    EXPECT_EQ(NameFuncs::GetDateTimeFilePath(Dated(path, 0, u"yyyy")), u"/d/2019.jpg");
+    EXPECT_EQ(NameFuncs::GetDateTimeFilePath(Dated(path, 2, u"yyyy")), u"/d/2020.jpg");
 }

@@ -2,6 +2,7 @@
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <tests/support/ScratchFolder.h>
+#include <tests/support/UserLocale.h>
 
 #include <gtest/gtest.h>
 #include <tests/support/Describe.h>
@@ -318,4 +319,17 @@ TEST(NameFuncsExtension, UnknownTypeDropsTheExtension)
 {
     for (const int type : {3, -1, smallest, largest})
         EXPECT_EQ(NameFuncs::GetExtensionFilePath(WithExtension(u".jpeg", type)), u"/no such folder/a") << type;
+}
+
+TEST(NameFuncsConvert, CaseIsTheSameInEveryLocale)
+{
+    NameFuncs::ITEM upper = Named(u"scan.tiff");
+    upper.convertType = 1;
+    NameFuncs::ITEM lower = Named(u"SCAN.TIFF");
+    lower.convertType = 2;
+    for (const char16_t* const name : {u"tr_TR", u"az", u"en_US"}) {
+        const VyrTests::UserLocale locale(name);
+        EXPECT_EQ(NameFuncs::GetConvertFilePath(upper), u"SCAN.TIFF");
+        EXPECT_EQ(NameFuncs::GetConvertFilePath(lower), u"scan.tiff");
+    }
 }

@@ -63,11 +63,6 @@ std::set<std::string> FoldersOf(const std::map<std::string, std::string>& tree)
     return folders;
 }
 
-std::string Relative(const CString& path, const CString& root)
-{
-    return std::filesystem::relative(VyrTests::ToStdPath(path), VyrTests::ToStdPath(root)).generic_string();
-}
-
 /// Makes a tree of about `size` entries below the folder `root` of `scratch`.
 void MakeRandomTree(const ScratchFolder& scratch, std::u16string_view root, std::mt19937& random, int size)
 {
@@ -144,27 +139,6 @@ TEST(NameFuncsFolder, MoveTakesEverythingAndRemovesTheSource)
         EXPECT_FALSE(scratch.Has(u"from"));
         EXPECT_EQ(Tree(scratch.Path(u"to")), before);
         EXPECT_EQ(records.size(), FoldersOf(before).size());
-    }
-}
-
-TEST(NameFuncsFolder, EachFolderMadeHasARecordAfterItsParents)
-{
-    for (const Operation operation : operations) {
-        std::mt19937 random(7);
-        const ScratchFolder scratch;
-        MakeRandomTree(scratch, u"from", random, 40);
-        const std::set<std::string> folders = FoldersOf(Tree(scratch.Path(u"from")));
-        Records records;
-        operation(scratch.Path(u"from"), scratch.MakeFolder(u"to"), &records);
-        std::set<std::string> recorded;
-        for (const NameFuncs::RENAMEITEM& record : records) {
-            const std::string path = Relative(record.destinationPath, scratch.Path(u"to"));
-            EXPECT_EQ(path, Relative(record.sourcePath, scratch.Path(u"from")));
-            const std::string parent = path.substr(0, path.find_last_of('/'));
-            EXPECT_TRUE(parent == path || recorded.contains(parent)) << path;
-            EXPECT_TRUE(recorded.insert(path).second) << path;
-        }
-        EXPECT_EQ(recorded, folders);
     }
 }
 

@@ -149,3 +149,14 @@ TEST(NameFuncsFormat, TokensOfAPictureWithoutThemDisappear)
          {bare, scratch.WriteFile(u"text.jpg", "no picture"), scratch.Path(u"missing.jpg"), scratch.Path(), CString()})
         EXPECT_EQ(NameFuncs::GetExifFormat(path, u"a<Make>b<Model>c"), u"abc");
 }
+
+TEST(NameFuncsFormat, MakeIsPutInBeforeModelIsLookedFor)
+{
+    const ScratchFolder scratch;
+    VyrTests::PictureFacts facts;
+    facts.make = "A<Model>B";
+    facts.model = "<Make>";
+    const CString picture = scratch.WriteFile(u"p.jpg", VyrTests::BuildJpeg(facts));
+    EXPECT_EQ(NameFuncs::GetExifFormat(picture, u"<Make>"), u"A<Make>B");
+    EXPECT_EQ(NameFuncs::GetExifFormat(picture, u"<Model>"), u"<Make>");
+}

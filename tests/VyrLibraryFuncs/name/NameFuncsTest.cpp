@@ -7,8 +7,10 @@
 #include <tests/support/Describe.h>
 
 #include <limits>
+#include <vector>
 
 using VyrLibraryFuncs::NameFuncs;
+using VyrTests::ScratchFolder;
 
 namespace {
 
@@ -33,6 +35,42 @@ NameFuncs::ITEM OfKind(int renameType)
     item.replaceText = u"tion";
     return item;
 }
+
+const CString folder = u"/some.folder/";
+
+/// A record in which every field has a value of its own.
+NameFuncs::ITEM FullItem(int kind)
+{
+    NameFuncs::ITEM item;
+    item.filePath = u"/no/such/old.path";
+    item.dirPath = folder;
+    item.fileName = u"oldName";
+    item.extension = u".Ext";
+    item.renameType = kind;
+    item.index = 3;
+    item.numberPosition = 2;
+    item.numberText1 = u"a";
+    item.numberText2 = u"b";
+    item.startNumber = 5;
+    item.digits = 4;
+    item.step = 7;
+    item.dateTimePosition = 1;
+    item.dateTimeTarget = 9;
+    item.dateTimeFormat = u"yyyy";
+    item.addDeleteType = 1;
+    item.position = 2;
+    item.deleteCount = 1;
+    item.addText = u"+";
+    item.convertType = 1;
+    item.findText = u"l";
+    item.replaceText = u"LL";
+    item.extensionType = 2;
+    item.newExtension = u"new";
+    return item;
+}
+
+const std::vector<const char16_t*> fullItemResults = {u"a0026b.Ext",  u"1899oldName.Ext", u"oldNa+me.Ext",
+                                                      u"OLDNAME.Ext", u"oLLdName.Ext",    u"oldName.new"};
 
 } // namespace
 
@@ -95,7 +133,7 @@ TEST(NameFuncs, ClashesAreNumberedForNumbersDatesEditsAndNewExtensions)
 
 TEST(NameFuncs, DottedNameIsCutForAFileAndWholeForAFolder)
 {
-    const VyrTests::ScratchFolder scratch;
+    const ScratchFolder scratch;
     const CString file = scratch.WriteFile(u"b.c", "");
     const CString folder = scratch.MakeFolder(u"f.c");
     EXPECT_EQ(NameFuncs::GetFName(file), u"b");
@@ -114,7 +152,7 @@ TEST(NameFuncs, PathWithoutAnEntryIsSplitAsAFile)
 
 TEST(NameFuncs, NameWithoutADotHasNoExtension)
 {
-    const VyrTests::ScratchFolder scratch;
+    const ScratchFolder scratch;
     const CString file = scratch.WriteFile(u"README", "");
     EXPECT_EQ(NameFuncs::GetFName(file), u"README");
     EXPECT_EQ(NameFuncs::GetExtension(file), u"");
@@ -122,7 +160,7 @@ TEST(NameFuncs, NameWithoutADotHasNoExtension)
 
 TEST(NameFuncs, ExtensionRenameLeavesAFolderUnchanged)
 {
-    const VyrTests::ScratchFolder scratch;
+    const ScratchFolder scratch;
     NameFuncs::ITEM item = OfKind(5);
     item.filePath = scratch.MakeFolder(u"f.c");
     item.extension = u".c";
@@ -181,4 +219,44 @@ TEST(NameFuncs, FieldsStandInTheirPublishedOrder)
     const NameFuncs::RENAMEITEM record{
         .sourcePath = u"1", .destinationPath = u"2", .dateCreated = {}, .dateModified = COleDateTime(4.0)};
     EXPECT_EQ(record.dateModified.m_dt, 4.0);
+}
+
+TEST(NameFuncs, KindReadsNoFieldOfAnotherKind)
+{
+    for (int kind = 0; kind <= 5; ++kind) {
+        NameFuncs::ITEM item = FullItem(kind);
+        if (kind != 0) {
+            item.numberPosition = item.startNumber = item.digits = item.step = smallest;
+            item.index = largest;
+            item.numberText1 = item.numberText2 = u"!";
+        }
+        if (kind != 1) {
+            item.dateTimePosition = item.dateTimeTarget = largest;
+            item.dateTimeFormat = u"!";
+        }
+        if (kind != 2) {
+            item.addDeleteType = item.position = item.deleteCount = largest;
+            item.addText = u"!";
+        }
+        if (kind != 3)
+            item.convertType = smallest;
+        if (kind != 4)
+            item.findText = item.replaceText = u"!";
+        if (kind != 5) {
+            item.extensionType = smallest;
+            item.newExtension = u"!";
+        }
+        EXPECT_EQ(NameFuncs::GetRenameFilePath(item), folder + fullItemResults[static_cast<std::size_t>(kind)]);
+    }
+}
+
+TEST(NameFuncs, KindsBeforeExtensionTreatFoldersAsFiles)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.MakeFolder(u"x.y");
+    for (int kind = 0; kind <= 4; ++kind) {
+        NameFuncs::ITEM item = FullItem(kind);
+        item.filePath = path;
+        EXPECT_EQ(NameFuncs::GetRenameFilePath(item), folder + fullItemResults[static_cast<std::size_t>(kind)]);
+    }
 }

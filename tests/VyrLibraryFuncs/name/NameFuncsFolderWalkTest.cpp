@@ -1,4 +1,4 @@
-// The promises of copying and moving folder trees, each tested by itself.
+// What a walk through a tree answers, records, overwrites and leaves, and when it handles events.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/FileUtils.h>
@@ -63,7 +63,7 @@ void Stamp(const CString& path, std::int64_t unixTime)
 
 } // namespace
 
-TEST(RenameContract, EmptyFolderCopiesAsNothingAndMovesAway)
+TEST(NameFuncsFolderWalk, EmptyFolderCopiesAsNothingAndMovesAway)
 {
     const ScratchFolder scratch;
     const CString source = scratch.MakeFolder(u"s");
@@ -77,7 +77,7 @@ TEST(RenameContract, EmptyFolderCopiesAsNothingAndMovesAway)
     EXPECT_TRUE(records.empty());
 }
 
-TEST(RenameContract, SourceThatIsNoFolderGivesZeroAndNothingElse)
+TEST(NameFuncsFolderWalk, SourceThatIsNoFolderGivesZeroAndNothingElse)
 {
     const ScratchFolder scratch;
     const CString file = scratch.WriteFile(u"file", "kept");
@@ -91,29 +91,7 @@ TEST(RenameContract, SourceThatIsNoFolderGivesZeroAndNothingElse)
         }
 }
 
-TEST(RenameContract, CopyKeepsTheSourceAndMoveTakesIt)
-{
-    for (const Operation operation : operations) {
-        const ScratchFolder scratch;
-        scratch.WriteFile(u"s/a.txt", "a");
-        scratch.WriteFile(u"s/x.y/b", "b");
-        scratch.WriteFile(u"s/.hidden/.c", "c");
-        scratch.MakeFolder(u"s/x.y/empty");
-        scratch.MakeFolder(u"d");
-        Records records;
-        operation(scratch.Path(u"s"), scratch.Path(u"d"), &records);
-        EXPECT_EQ(scratch.ReadFile(u"d/a.txt"), "a");
-        EXPECT_EQ(scratch.ReadFile(u"d/x.y/b"), "b");
-        EXPECT_EQ(scratch.ReadFile(u"d/.hidden/.c"), "c");
-        EXPECT_TRUE(scratch.Has(u"d/x.y/empty"));
-        EXPECT_EQ(records.size(), 3U);
-        const bool isCopy = operation == operations.front();
-        EXPECT_EQ(scratch.Has(u"s"), isCopy);
-        EXPECT_EQ(scratch.Has(u"s/.hidden/.c"), isCopy);
-    }
-}
-
-TEST(RenameContract, RecordsFollowTheWalkEachParentBeforeItsFolders)
+TEST(NameFuncsFolderWalk, RecordsFollowTheWalkEachParentBeforeItsFolders)
 {
     for (const Operation operation : operations) {
         const ScratchFolder scratch;
@@ -136,7 +114,7 @@ TEST(RenameContract, RecordsFollowTheWalkEachParentBeforeItsFolders)
     }
 }
 
-TEST(RenameContract, RecordHoldsTheTimesThatTheSourceFolderHadBefore)
+TEST(NameFuncsFolderWalk, RecordHoldsTheTimesThatTheSourceFolderHadBefore)
 {
     for (const Operation operation : operations) {
         const ScratchFolder scratch;
@@ -161,7 +139,7 @@ TEST(RenameContract, RecordHoldsTheTimesThatTheSourceFolderHadBefore)
     }
 }
 
-TEST(RenameContract, RecordsAreAppendedAndNeverCleared)
+TEST(NameFuncsFolderWalk, RecordsAreAppendedAndNeverCleared)
 {
     for (const Operation operation : operations) {
         const ScratchFolder scratch;
@@ -176,7 +154,7 @@ TEST(RenameContract, RecordsAreAppendedAndNeverCleared)
     }
 }
 
-TEST(RenameContract, NoListMeansNoRecords)
+TEST(NameFuncsFolderWalk, NoListMeansNoRecords)
 {
     for (const Operation operation : operations) {
         const ScratchFolder scratch;
@@ -187,7 +165,7 @@ TEST(RenameContract, NoListMeansNoRecords)
     }
 }
 
-TEST(RenameContract, FolderThatIsThereGetsNoRecordButTheContents)
+TEST(NameFuncsFolderWalk, FolderThatIsThereGetsNoRecordButTheContents)
 {
     for (const Operation operation : operations) {
         const ScratchFolder scratch;
@@ -205,7 +183,7 @@ TEST(RenameContract, FolderThatIsThereGetsNoRecordButTheContents)
     }
 }
 
-TEST(RenameContract, SeparatorAtTheEndOfEitherPathIsNotDoubled)
+TEST(NameFuncsFolderWalk, SeparatorAtTheEndOfEitherPathIsNotDoubled)
 {
     for (const Operation operation : operations) {
         const ScratchFolder scratch;
@@ -220,7 +198,7 @@ TEST(RenameContract, SeparatorAtTheEndOfEitherPathIsNotDoubled)
     }
 }
 
-TEST(RenameContract, MissingDestinationIsMadeForAFolderInTheSourceAlone)
+TEST(NameFuncsFolderWalk, MissingDestinationIsMadeForAFolderInTheSourceAlone)
 {
     for (const Operation operation : operations) {
         const ScratchFolder scratch;
@@ -238,7 +216,7 @@ TEST(RenameContract, MissingDestinationIsMadeForAFolderInTheSourceAlone)
     }
 }
 
-TEST(RenameContract, CopyTellsTheSuccessOfItsLastEntryAlone)
+TEST(NameFuncsFolderWalk, CopyTellsTheSuccessOfItsLastEntryAlone)
 {
     for (const bool isLastBlocked : {false, true}) {
         const ScratchFolder scratch;
@@ -255,7 +233,7 @@ TEST(RenameContract, CopyTellsTheSuccessOfItsLastEntryAlone)
     }
 }
 
-TEST(RenameContract, CopyThatEndsWithAnEmptyFolderTellsZero)
+TEST(NameFuncsFolderWalk, CopyThatEndsWithAnEmptyFolderTellsZero)
 {
     const ScratchFolder scratch;
     scratch.MakeFolder(u"s/a/empty");
@@ -266,7 +244,7 @@ TEST(RenameContract, CopyThatEndsWithAnEmptyFolderTellsZero)
     EXPECT_TRUE(scratch.Has(u"d/a/empty"));
 }
 
-TEST(RenameContract, CopyTellsTheResultOfTheFolderThatItWalkedLast)
+TEST(NameFuncsFolderWalk, CopyTellsTheResultOfTheFolderThatItWalkedLast)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"s/a/in", "x");
@@ -279,7 +257,7 @@ TEST(RenameContract, CopyTellsTheResultOfTheFolderThatItWalkedLast)
     EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"s"), scratch.Path(u"e"), nullptr), 0);
 }
 
-TEST(RenameContract, MoveLeavesWhatItCannotMoveAndTellsZero)
+TEST(NameFuncsFolderWalk, MoveLeavesWhatItCannotMoveAndTellsZero)
 {
     for (const char16_t* const blocked : {u"a", u"b", u"c"}) {
         const ScratchFolder scratch;
@@ -295,7 +273,7 @@ TEST(RenameContract, MoveLeavesWhatItCannotMoveAndTellsZero)
     }
 }
 
-TEST(RenameContract, MoveRemovesTheFoldersThatItEmptiedBesideAnotherThatItCouldNot)
+TEST(NameFuncsFolderWalk, MoveRemovesTheFoldersThatItEmptiedBesideAnotherThatItCouldNot)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"s/a/in", "a");
@@ -307,7 +285,7 @@ TEST(RenameContract, MoveRemovesTheFoldersThatItEmptiedBesideAnotherThatItCouldN
     EXPECT_EQ(scratch.ReadFile(u"d/b/in"), "b");
 }
 
-TEST(RenameContract, FolderThatCannotBeMadeGetsNoRecordAndItsContentsFail)
+TEST(NameFuncsFolderWalk, FolderThatCannotBeMadeGetsNoRecordAndItsContentsFail)
 {
     for (const Operation operation : operations) {
         const ScratchFolder scratch;
@@ -323,7 +301,7 @@ TEST(RenameContract, FolderThatCannotBeMadeGetsNoRecordAndItsContentsFail)
     }
 }
 
-TEST(RenameContract, FolderWhoseMakingFailsIsWalkedAllTheSame)
+TEST(NameFuncsFolderWalk, FolderWhoseMakingFailsIsWalkedAllTheSame)
 {
     for (const Operation operation : operations) {
         const ScratchFolder scratch;
@@ -346,7 +324,7 @@ TEST(RenameContract, FolderWhoseMakingFailsIsWalkedAllTheSame)
     }
 }
 
-TEST(RenameContract, MoveReplacesAnExistingFile)
+TEST(NameFuncsFolderWalk, MoveReplacesAnExistingFile)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"s/file", "new");
@@ -356,7 +334,7 @@ TEST(RenameContract, MoveReplacesAnExistingFile)
     EXPECT_FALSE(scratch.Has(u"s"));
 }
 
-TEST(RenameContract, StopEndsNoWalkAndIsTaken)
+TEST(NameFuncsFolderWalk, StopEndsNoWalkAndIsTaken)
 {
     for (const Operation operation : operations) {
         const ScratchFolder scratch;
@@ -374,7 +352,7 @@ TEST(RenameContract, StopEndsNoWalkAndIsTaken)
     }
 }
 
-TEST(RenameContract, WalkHandlesOneMessageForEachEntryTheDotsIncluded)
+TEST(NameFuncsFolderWalk, WalkHandlesOneMessageForEachEntryTheDotsIncluded)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"s/a", "x");
@@ -392,7 +370,7 @@ TEST(RenameContract, WalkHandlesOneMessageForEachEntryTheDotsIncluded)
     EXPECT_EQ(handled, 14);
 }
 
-TEST(RenameContract, FileThatGoesAwayDuringTheWalkIsLeftOut)
+TEST(NameFuncsFolderWalk, FileThatGoesAwayDuringTheWalkIsLeftOut)
 {
     for (const Operation operation : operations) {
         const ScratchFolder scratch;
@@ -407,7 +385,7 @@ TEST(RenameContract, FileThatGoesAwayDuringTheWalkIsLeftOut)
     }
 }
 
-TEST(RenameContract, FileThatGoesAwayLeavesTheResultOfTheOneBefore)
+TEST(NameFuncsFolderWalk, FileThatGoesAwayLeavesTheResultOfTheOneBefore)
 {
     const ScratchFolder scratch;
     for (const char16_t* const name : {u"s/a", u"s/b", u"s/c"})
