@@ -1,4 +1,3 @@
-// The order of texts.
 #include <VyrLibraryUtils/CompareUtils.h>
 #include <VyrPlatform/text/Locale.h>
 

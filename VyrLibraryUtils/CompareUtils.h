@@ -1,5 +1,5 @@
 /// @file
-/// The order of texts.
+/// Compares texts.
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>

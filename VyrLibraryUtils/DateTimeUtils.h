@@ -1,5 +1,5 @@
 /// @file
-/// Date-times of files, from text and to text.
+/// Reads date-times of files and texts, writes them as text, and computes with them.
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>
@@ -28,7 +28,7 @@ public:
     static COleDateTime GetDateAccessed(CString path);
 
     /// Reads `yyyy:MM:dd HH:mm:ss`, the date-time text of Exif 2.32, 4.6.5 (tag DateTimeOriginal), digits throughout.
-    /// @return invalid for anything else: blanks or zeros in place of the digits, an impossible date, other lengths.
+    /// @return invalid for anything else: blanks or zeros instead of digits, an impossible date, another length.
     static COleDateTime GetExifDateTime(CString text);
     /// Reads `yyyyMMdd`, exactly eight digits; invalid for anything else and for impossible dates.
     static COleDateTime GetInstallDateTime(CString text);
@@ -45,9 +45,11 @@ public:
 
     /// Turns the format of a user, such as `yyyyMMdd_HHmmss`, into the pattern that GetOleDateTimeFormat reads.
     ///
-    /// yyyy yy MMMM MMM MM M dd d EEEE EEE HH H hh h mm m ss s a stand for parts of the date-time, the longest that
-    /// fits first; all else is literal, as is text in apostrophes (two of them are one; an unclosed one makes the rest
-    /// literal). `<Token>` passes through, whatever the token; a `<` without a `>` is itself.
+    /// yyyy yy MMMM MMM MM M dd d EEEE EEE HH H hh h mm m ss s a stand for parts of the date-time; the longest run
+    /// counts. Everything else is literal, and so is text in apostrophes ('' stands for one apostrophe; an unclosed one
+    /// makes the rest literal). `<Token>` passes through, whatever the token; a `<` without a `>` is literal.
+    ///
+    ///     GetDateTimeFormat(u"yyyy-MM-dd 'at' HH", u"") gives "%Y-%m-%d at %H".
     /// @param reserved not read; the system passes an empty text.
     static CString GetDateTimeFormat(CString format, CString reserved);
     /// `dateTime` written with `pattern`: %Y %y %m %d %H %I %M %S, the same without padding as %-m and so on, %B %b %A
@@ -67,7 +69,7 @@ public:
     static COleDateTime CombineDateTime(COleDateTime date, COleDateTime time);
     /// One calendar part, of `dateTime` or of the last-write time of the file at `path`.
     ///
-    /// The file's time is read so that writing it back as a file time gives the same instant.
+    /// The file's time is read so that it stays the same instant when it is written back.
     /// @param mode 1: the time of day is the file's. 2: the date is. 3: both are. Any other value: neither.
     /// @param part 0 year, 1 month, 2 day, 3 hour, 4 minute, 5 second.
     /// @return -1 for another part, and where the date-time asked is not valid or the file is missing.

@@ -1,4 +1,3 @@
-// File date-times as text.
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/FileListUtils.h>
 #include <VyrLibraryUtils/ImageUtils.h>

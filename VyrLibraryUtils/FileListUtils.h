@@ -1,5 +1,5 @@
 /// @file
-/// File date-times as text.
+/// Writes the date-times of files as text.
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>

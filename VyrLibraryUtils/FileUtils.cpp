@@ -1,4 +1,3 @@
-// Paths cut and joined, and questions about files.
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/PathSplit.h>
 #include <VyrLibraryUtils/StringUtils.h>

@@ -1,5 +1,5 @@
 /// @file
-/// Paths cut into their parts and joined, and questions about files.
+/// Splits and joins paths, and answers questions about files.
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>
@@ -15,10 +15,12 @@ namespace VyrLibraryUtils {
 /// drive letter, a colon and a separator, or with two backslashes: then it is split as a Windows path. In a Windows
 /// path `\` and `/` both separate; in a Linux path `/` alone does, and a backslash is an ordinary character.
 ///
-/// How a path is cut: its folder part reaches to the last separator, that one included (in a Windows path such as `C:a`
-/// it is the drive, `C:`). What follows is the file name. The extension starts at the file name's last dot; dots that
-/// the name begins with start none (`.bashrc` has no extension), and a dot at the end is an extension (`a.` has `.`).
-/// Folder part + base name + extension is the path again, for every text.
+/// How a path is split: its folder part reaches to the last separator, that one included (in a Windows path such as
+/// `C:a` it is the drive, `C:`). What follows is the file name. The extension starts at the file name's last dot; dots
+/// that the name begins with start none (`.bashrc` has no extension), and a dot at the end is an extension (`a.` has
+/// `.`). Folder part + base name + extension is the path again, for every text.
+///
+///     "/photos/a.b.jpg" has the folder part "/photos/", the base name "a.b" and the extension ".jpg".
 class VYR_UTILS_API FileUtils
 {
 public:
@@ -58,7 +60,7 @@ public:
     static int DeleteZoneId(CString path);
 
     /// The size in bytes of the file at `path`; for a folder the sum of all files below it, links not followed; -1 when
-    /// nothing stands there. What cannot be read counts nothing; a sum beyond the type's range stays at its largest
+    /// nothing stands there. What cannot be read counts as 0; a sum beyond the type's range becomes its largest
     /// value.
     static std::int64_t GetFileSize(CString path);
     /// A size as text for people, its decimal mark and separators those of the user's locale.

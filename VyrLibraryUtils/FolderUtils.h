@@ -1,5 +1,5 @@
 /// @file
-/// The making of folders.
+/// Creates folders.
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>
@@ -15,9 +15,9 @@ public:
     ~FolderUtils();
     FolderUtils& operator=(const FolderUtils&);
 
-    /// Makes the folder `path` and every parent that is missing.
+    /// Creates the folder `path` and every missing parent.
     /// @return 1 when the folder (or a link to one) stands there afterwards, also when it did before; else 0, as with a
-    ///     file in the way, and for an empty text. Folders that were made before a failure stay.
+    ///     file in the way, and for an empty text. Folders that were created before a failure stay.
     static int CreateFolderPathExists(CString path);
 };
 

@@ -1,5 +1,5 @@
 /// @file
-/// What a picture says about the moment and the camera that took it.
+/// Reads when a picture was taken, and by which camera.
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>

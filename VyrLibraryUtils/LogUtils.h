@@ -1,5 +1,5 @@
 /// @file
-/// Texts for log lines.
+/// Gives texts for log lines.
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>

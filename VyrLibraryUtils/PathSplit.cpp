@@ -1,4 +1,3 @@
-// How a path is cut into its parts.
 #include <VyrLibraryUtils/PathSplit.h>
 #include <VyrPlatform/files/FileSystem.h>
 

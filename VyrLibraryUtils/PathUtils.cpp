@@ -1,7 +1,10 @@
-// Where the program keeps its files.
+// Locates the data of the running program.
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/PathUtils.h>
 #include <VyrPlatform/process/Process.h>
+
+#include <algorithm>
+#include <string>
 
 namespace VyrLibraryUtils {
 
@@ -9,17 +12,35 @@ using VyrPlatform::Process::DataLocation;
 
 namespace {
 
-constexpr std::u16string_view productFolder = u"VyrLibrary";
 constexpr std::u16string_view applicationFileName = u"Application.ini";
 constexpr std::u16string_view updatesFileName = u"Updates.ini";
 constexpr std::u16string_view logFolder = u"Logs";
 
-CString InProductFolder(DataLocation location, std::u16string_view name)
+/// `name` without what no system takes in the name of a folder: signs of paths and controls become underscores, points
+/// and blanks at the end go.
+CString ToFolderName(std::u16string_view name)
+{
+    constexpr std::u16string_view signs = u"<>:\"/\\|?*";
+    std::u16string folder(name);
+    std::replace_if(
+        folder.begin(), folder.end(), [signs](char16_t unit) { return unit < u' ' || signs.find(unit) != signs.npos; },
+        u'_');
+    folder.resize(folder.find_last_not_of(u". ") + 1);
+    return std::u16string_view(folder);
+}
+
+CString ProgramFolder()
+{
+    const CString product = ToFolderName(VyrPlatform::Process::GetProgramVersion().productName);
+    return product.IsEmpty() ? FileUtils::GetSplitFName(FileUtils::GetModuleFilePath()) : product;
+}
+
+CString InProgramFolder(DataLocation location, std::u16string_view name)
 {
     const CString folder = VyrPlatform::Process::GetDataFolder(location);
     if (folder.IsEmpty())
         return {};
-    return FileUtils::GetCombinePath(FileUtils::GetCombinePath(folder, productFolder), name);
+    return FileUtils::GetCombinePath(FileUtils::GetCombinePath(folder, ProgramFolder()), name);
 }
 
 } // namespace
@@ -30,22 +51,22 @@ PathUtils& PathUtils::operator=(const PathUtils&) = default;
 
 CString PathUtils::GetApplicationLogFolderPath()
 {
-    return InProductFolder(DataLocation::State, logFolder);
+    return InProgramFolder(DataLocation::State, logFolder);
 }
 
 CString PathUtils::GetLocalDataApplicationFilePath()
 {
-    return InProductFolder(DataLocation::Local, applicationFileName);
+    return InProgramFolder(DataLocation::Local, applicationFileName);
 }
 
 CString PathUtils::GetUpdatesFilePath()
 {
-    return InProductFolder(DataLocation::Roaming, updatesFileName);
+    return InProgramFolder(DataLocation::Roaming, updatesFileName);
 }
 
 CString PathUtils::GetLocalDataUpdatesFilePath()
 {
-    return InProductFolder(DataLocation::Local, updatesFileName);
+    return InProgramFolder(DataLocation::Local, updatesFileName);
 }
 
 CString PathUtils::GetUpdatesFileName()

@@ -1,4 +1,3 @@
-// What kind of document a file is.
 #include <VyrLibraryUtils/PropertyUtils.h>
 #include <VyrPlatform/files/FileReader.h>
 

@@ -1,5 +1,5 @@
 /// @file
-/// What kind of document a file is.
+/// Tells the kind of a document.
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>

@@ -1,4 +1,3 @@
-// Tests of what characters a text consists of.
 #include <VyrLibraryUtils/RegexUtils.h>
 
 #include <algorithm>

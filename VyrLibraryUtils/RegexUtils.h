@@ -1,5 +1,5 @@
 /// @file
-/// Tests of what characters a text consists of.
+/// Tells which characters a text consists of.
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>

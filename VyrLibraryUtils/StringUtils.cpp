@@ -1,4 +1,3 @@
-// Texts filled in, cut into tokens and quoted, and numbers to and from text.
 #include <VyrLibraryUtils/StringUtils.h>
 #include <VyrPlatform/text/Locale.h>
 

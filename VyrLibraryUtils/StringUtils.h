@@ -1,5 +1,5 @@
 /// @file
-/// Texts filled in, cut into tokens and quoted, and numbers to and from text.
+/// Fills in, splits and quotes texts, and converts numbers to text and back.
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>
@@ -24,9 +24,9 @@ public:
     ~StringUtils();
     StringUtils& operator=(const StringUtils&);
 
-    /// `format` with each "%s" replaced, in order, by the next text. What a text holds is never looked through for "%s"
-    /// again. Texts left over are ignored, a "%s" left over stands as it is, and nothing else in `format` has a
-    /// meaning.
+    /// `format` with each "%s" replaced, in order, by the next text. A "%s" inside a text is not replaced. Texts left
+    /// over are ignored, a "%s" left over stays, and nothing else in `format` has a meaning.
+    ///     GetFormatedText(u"%s of %s", u"1", u"2") gives "1 of 2".
     static CString GetFormatedText(CString format, CString text1);
     static CString GetFormatedText(CString format, CString text1, CString text2);
     static CString GetFormatedText(CString format, CString text1, CString text2, CString text3);

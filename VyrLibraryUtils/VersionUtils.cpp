@@ -1,4 +1,3 @@
-// The version of the running program.
 #include <VyrLibraryUtils/VersionUtils.h>
 #include <VyrPlatform/process/Process.h>
 

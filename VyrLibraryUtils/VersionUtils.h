@@ -1,5 +1,5 @@
 /// @file
-/// The version of the running program.
+/// Reads the version of the running program.
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>

@@ -16,11 +16,14 @@ function(vyr_find_sources result folder)
 endfunction()
 
 # Adds a shared library of the product, Vyr::EXPORT_NAME for others, from all sources in its folder. Headers that match the
-# patterns PUBLIC_HEADERS are installed in the same folders.
+# patterns PUBLIC_HEADERS are installed in the same folders, except the PRIVATE_HEADERS.
 function(vyr_add_component name)
-  cmake_parse_arguments(component "" "EXPORT_NAME" "PUBLIC_HEADERS" ${ARGN})
+  cmake_parse_arguments(component "" "EXPORT_NAME" "PUBLIC_HEADERS;PRIVATE_HEADERS" ${ARGN})
   vyr_find_sources(sources "${CMAKE_CURRENT_SOURCE_DIR}")
   file(GLOB headers CONFIGURE_DEPENDS ${component_PUBLIC_HEADERS})
+  foreach(header IN LISTS component_PRIVATE_HEADERS)
+    list(REMOVE_ITEM headers "${CMAKE_CURRENT_SOURCE_DIR}/${header}")
+  endforeach()
   # The name of a public header for one system begins with the system.
   if(WIN32)
     list(FILTER headers EXCLUDE REGEX "/Linux[^/]*$")

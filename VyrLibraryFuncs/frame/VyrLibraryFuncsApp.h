@@ -5,7 +5,7 @@
 #include <VyrLibraryFuncs/Export.h>
 #include <VyrPlatform/process/CWinApp.h>
 
-/// The one instance is made when the library is loaded, after all static settings, and destroyed before them.
+/// The one instance is created when the library is loaded, after all static settings, and destroyed before them.
 class VYR_FUNCS_API CVyrLibraryFuncsApp : public CWinApp
 {
 public:

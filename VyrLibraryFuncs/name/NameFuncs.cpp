@@ -1,4 +1,4 @@
-// The rename engine's entrance: which computation a rename kind calls, and how the caller splits a path for it.
+// Calls the computation of a rename kind, and splits paths for the record.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <VyrLibraryUtils/FileUtils.h>

@@ -23,11 +23,11 @@ inline constexpr std::u16string_view modelToken = u"<Model>";
     return pattern;
 }
 
-/// Computes new paths from rename rules, numbers names that clash, and copies or moves folder trees.
+/// Computes new paths from rename rules, numbers conflicting names, and copies or moves folder trees.
 ///
-/// The computations rename nothing: they return the path that an entry would get, and the caller does with it what it
-/// likes. All counts of characters are counts of UTF-16 code units. Loops handle one pending event of the calling
-/// thread in each pass (VyrPlatform::MessageQueue), so that a host's window stays alive.
+/// The computations rename nothing: they return the path that an entry would get. All counts of characters are counts
+/// of UTF-16 code units. Loops handle one pending event of the calling thread in each pass (VyrPlatform::MessageQueue),
+/// so that a host's window stays alive.
 class VYR_FUNCS_API NameFuncs
 {
 public:
@@ -182,7 +182,7 @@ public:
         CString newExtension;
     };
 
-    /// How names that clash are numbered.
+    /// How conflicting names are numbered.
     struct CONFLICTITEM
     {
         /// The inserted text; every "?" in it stands for the number.
@@ -219,7 +219,7 @@ public:
     static CString GetFName(CString path);
     /// The extension of `path` with its dot; empty for an existing folder and for a name without a dot.
     static CString GetExtension(CString path);
-    /// Whether a path that clashes under the rule of `item` is to be numbered (GetResolveConflictFilePath): 1 for the
+    /// Whether a conflict under the rule of `item` is to be numbered (GetResolveConflictFilePath): 1 for the
     /// kinds sequence number, date-time and add/delete, and for a new extension (kind 5 with `extensionType` 2), else
     /// 0.
     static int IsResolveConflict(ITEM item);
@@ -231,8 +231,10 @@ public:
     /// such date-time its text is empty.
     static CString GetDateTimeFilePath(ITEM item);
     /// `dirPath` + `fileName` with characters inserted or deleted + `extension`; `filePath` unchanged where `position`
-    /// or `deleteCount` reach beyond the name. A negative `position` or `deleteCount` counts as the formulas of the six
-    /// operations give it, each part of the name clamped to what there is.
+    /// or `deleteCount` reach beyond the name. Negative values follow the formulas of the six operations; each part of
+    /// the name is limited to the characters that exist.
+    ///
+    ///     Type DeleteFromStart, position 2, deleteCount 3: "abcdef" becomes "abf".
     static CString GetAddDeleteFilePath(ITEM item);
     /// `dirPath` + `fileName` with its case converted, one code unit to one and the same in every locale + `extension`.
     static CString GetConvertFilePath(ITEM item);
@@ -244,8 +246,10 @@ public:
 
     /// A path that does not exist: `path` itself, or `path` with the first number whose name is free.
     ///
-    /// The search has no upper bound: a `numberFormat` without "?", a `step` of 0 or a `position` other than 0 and 1 go
-    /// on until a stop is asked for. A stop gives the last path tried, which may exist.
+    /// The search has no upper bound: with a `numberFormat` without "?", a `step` of 0 or an unknown `position` it may
+    /// end only when a stop is asked for. A stop gives the last path tried, which may exist.
+    ///
+    ///     Where "a.txt" exists, the pattern " (?)" after the name gives "a (1).txt".
     static CString GetResolveConflictFilePath(CString path, CONFLICTITEM item);
 
     /// What `format` gives for the current local time, every "<Folder>" as a backslash. Empty for an empty `format`.

@@ -1,4 +1,4 @@
-// The numbering of a name that is taken.
+// Numbers a name that is taken.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <VyrLibraryUtils/FileUtils.h>

@@ -1,4 +1,4 @@
-// The date-time rename: a date-time of the file in the place of its name, or beside it.
+// Renames by a date-time of the file.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <VyrLibraryUtils/DateTimeUtils.h>

@@ -1,4 +1,4 @@
-// The renames that edit the name that is there: add or delete characters, convert case, replace text, the extension.
+// Edits the existing name: adds or deletes characters, converts case, replaces text, changes the extension.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <VyrLibraryUtils/FileUtils.h>

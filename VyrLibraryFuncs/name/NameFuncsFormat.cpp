@@ -1,4 +1,4 @@
-// The text that a user's pattern gives: the sample of a date-time pattern, and the tokens for folder, maker and model.
+// Writes samples of date-time formats, and replaces the tokens for folder, maker and model.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <VyrLibraryUtils/DateTimeUtils.h>

@@ -1,4 +1,4 @@
-// The sequence-number rename: a running number in the place of a name, or beside it.
+// Renames by a running number.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <VyrPlatform/process/MessageQueue.h>

@@ -1,5 +1,5 @@
 /// @file
-/// Unpacking of Brotli data.
+/// Unpacks Brotli data.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -10,7 +10,7 @@
 
 namespace VyrPlatform::Brotli {
 
-/// Whether the system has an unpacker: Linux has, Windows has not.
+/// Whether this system can unpack: Linux can, Windows cannot.
 [[nodiscard]] VYR_PLATFORM_API bool IsAvailable() noexcept;
 
 /// The first `limit` bytes of what `packed` holds; as many as there are when it is damaged or cut short, none where no

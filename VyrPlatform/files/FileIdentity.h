@@ -1,5 +1,5 @@
 /// @file
-/// Which file stands at a path, whatever its name: what tells a file from every other one, and whether it has changed.
+/// Identifies the file at a path, whatever its name, and tells whether it has changed.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -10,7 +10,7 @@
 
 namespace VyrPlatform {
 
-/// What a file keeps through every rename. Two names with the same identity are hard links to one file.
+/// A file keeps its identity when it is renamed. Two names with the same identity are hard links to one file.
 struct FileIdentity
 {
     /// The file system (Linux: the device number; Windows: the volume's serial number). It may change when the file

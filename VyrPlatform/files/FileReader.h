@@ -1,5 +1,5 @@
 /// @file
-/// Reading a file at any place.
+/// Reads a file at any offset.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -11,15 +11,15 @@
 
 namespace VyrPlatform {
 
-/// A file opened for reading; others may meanwhile read, write, rename and delete it. Never blocks on a pipe or a
-/// device: what is not a regular file does not open.
+/// A file opened for reading, which others may read, write, rename and delete. Opens regular files only, and so never
+/// waits for a pipe or a device.
 class VYR_PLATFORM_API FileReader
 {
 public:
     /// Opens the file at `path`; IsOpen tells whether that succeeded, Error why not.
     explicit FileReader(const CString& path);
-    /// Opens the file and at once reads its beginning into `beginning`, as far as it reaches. On Linux that is cheaper
-    /// than one after the other, for no question about the file is asked; a disk device, too, opens in this way.
+    /// Opens the file and reads its first bytes into `beginning`. On Linux this is cheaper than the two steps, because
+    /// it does not ask for the file's kind; a disk device opens in this way too.
     FileReader(const CString& path, std::span<std::byte> beginning);
     FileReader(const FileReader&) = delete;
     FileReader& operator=(const FileReader&) = delete;

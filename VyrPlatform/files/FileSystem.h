@@ -1,5 +1,5 @@
 /// @file
-/// What stands at a path, and the making of folders.
+/// Tells what stands at a path, and creates folders.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -20,7 +20,7 @@ enum class Kind : std::uint8_t
     Other
 };
 
-/// The answer to one question to the system.
+/// What the system tells of a path in one call.
 struct Entry
 {
     Kind kind = Kind::Missing;
@@ -34,8 +34,8 @@ struct Entry
     FileTicks created = 0;
 };
 
-/// What stands at `path`. A link is followed; one that leads nowhere is of kind Other. A path that cannot be looked at
-/// (a missing parent, no permission, a name that the system cannot hold) is Missing.
+/// What stands at `path`. Follows a link; one that leads nowhere is of kind Other. A path that the system cannot
+/// examine (a missing parent, no permission, an invalid name) is Missing.
 [[nodiscard]] VYR_PLATFORM_API Entry Query(const CString& path);
 
 /// Whether anything stands at `path`, a link that leads nowhere included.
@@ -47,8 +47,8 @@ struct Entry
 /// such link.
 [[nodiscard]] VYR_PLATFORM_API std::optional<CString> GetLinkTarget(const CString& path);
 
-/// Makes the folder `path`, whose parent exists.
-/// @return 0 when it was made, else the system's error code (one that exists already is an error).
+/// Creates the folder `path`, whose parent exists.
+/// @return 0 when it was created, else the system's error code (one that exists already is an error).
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t CreateFolder(const CString& path);
 
 /// Whether `unit` separates the parts of a path on this system.

@@ -1,5 +1,5 @@
 /// @file
-/// A file's three times.
+/// Reads and writes the three times of a file, and converts them to local time and back.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -63,9 +63,9 @@ struct NewTimes
 /// @return nothing when `local` is not valid.
 [[nodiscard]] VYR_PLATFORM_API std::optional<FileTicks> FromLocal(const COleDateTime& local);
 
-/// `ticks` as local time by the inverse of the system's own conversion from local calendar fields to a file time: what
-/// is going to be written back is read with it, so that it becomes the same instant again. On Windows that pair uses
-/// today's offset; on Linux this is ToLocal.
+/// `ticks` as local time, by the inverse of the system's own conversion from local calendar fields to a file time: a
+/// time that is read with it and written back stays the same instant. On Windows both conversions use today's offset;
+/// on Linux this is ToLocal.
 [[nodiscard]] VYR_PLATFORM_API COleDateTime ToLocalForWriting(FileTicks ticks);
 
 /// The file time that the system's own conversion makes of local calendar fields: the inverse of ToLocalForWriting, to
@@ -73,7 +73,7 @@ struct NewTimes
 /// @return nothing when `local` is not valid or lies before 1601, also when only UTC does; else more than 0.
 [[nodiscard]] VYR_PLATFORM_API std::optional<FileTicks> FromLocalForWriting(const COleDateTime& local);
 
-/// Makes ToLocal read the time zone anew. For a host that lives on while its user's time zone changes, and for tests.
+/// Makes ToLocal read the time zone again. For hosts whose user changes the time zone while they run, and for tests.
 VYR_PLATFORM_API void FollowTimeZone();
 
 } // namespace VyrPlatform::FileTimes

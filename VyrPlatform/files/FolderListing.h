@@ -1,5 +1,5 @@
 /// @file
-/// The entries of a folder.
+/// Lists the entries of a folder.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -18,7 +18,7 @@ namespace VyrPlatform {
 class VYR_PLATFORM_API FolderListing
 {
 public:
-    /// What becomes of the entries "." and "..".
+    /// Whether the entries "." and ".." are listed.
     enum class Dots : std::uint8_t
     {
         LeftOut,

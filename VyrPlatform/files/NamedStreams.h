@@ -1,5 +1,5 @@
 /// @file
-/// The named streams of a file: the mark of a download.
+/// Removes the mark of a download from a file.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -9,7 +9,7 @@
 
 namespace VyrPlatform::NamedStreams {
 
-/// Removes the mark that tells that the file at `path` was downloaded, in every form in which this system keeps it.
+/// Removes the mark which tells that the file at `path` was downloaded, in every form that this system knows.
 /// @return 0 when a mark was there and none is left, else the system's error code (also when there was none).
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t DeleteZoneMark(const CString& path);
 

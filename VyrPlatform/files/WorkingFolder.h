@@ -1,5 +1,5 @@
 /// @file
-/// A folder whose files are about to be opened.
+/// Speeds up opening many files of one folder.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -9,9 +9,9 @@
 
 namespace VyrPlatform {
 
-/// While it lives, FileReader opens the files that stand in one folder, on the thread that entered it, from there: the
-/// system need not walk down to the folder anew for each of them. It is found once, when its first file is opened; it
-/// is the same folder from then on, also when another takes its name. On Windows it has no effect.
+/// While it lives, FileReader opens files in the entered folder relative to it, on the thread that entered it, so that
+/// the system does not resolve the folder's path for each file. The folder is resolved when its first file is opened,
+/// and stays the same folder even if another takes its name. Has no effect on Windows.
 class VYR_PLATFORM_API WorkingFolder
 {
 public:

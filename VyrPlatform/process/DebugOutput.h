@@ -1,5 +1,5 @@
 /// @file
-/// The debugger output.
+/// Writes to the debugger output.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -11,8 +11,8 @@ namespace VyrPlatform::DebugOutput {
 
 using Sink = std::function<void(const CString&)>;
 
-/// Sends `text` to the sink, if one is set; else to the system's debugger output (which Linux has not: it is
-/// discarded).
+/// Sends `text` to the sink, if one is set, else to the system's debugger output. Linux has none: the text is
+/// discarded.
 VYR_PLATFORM_API void Write(const CString& text);
 
 /// Makes Write hand its texts to `sink`; an empty one ends that. Set it while no other thread writes.

@@ -11,8 +11,8 @@
 
 namespace VyrPlatform::MessageQueue {
 
-/// The queue of one thread, for others to post into. Outlives the thread as long as someone holds it; what waits when
-/// the thread ends, and what is posted afterwards, is dropped.
+/// The queue of one thread, for others to post into. Lives as long as someone holds it, also after its thread; events
+/// that wait when the thread ends, and later ones, are dropped.
 class VYR_PLATFORM_API Poster
 {
 public:

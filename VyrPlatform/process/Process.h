@@ -1,5 +1,5 @@
 /// @file
-/// The running program: its file, its version, its environment, and the system's folders.
+/// Tells of the running program (file, version, environment) and of the system's folders.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -15,7 +15,7 @@ namespace VyrPlatform::Process {
 /// program runs.
 [[nodiscard]] VYR_PLATFORM_API CString GetProgramPath();
 
-/// What the program says of itself: on Windows its version resource, on Linux the note that the build puts in.
+/// The program's version: on Windows its version resource, on Linux the note that the build puts in.
 struct ProgramVersion
 {
     /// Major, minor, revision, build.
@@ -24,7 +24,7 @@ struct ProgramVersion
     CString productVersion;
 };
 
-/// Zeros and empty texts for a program that carries none. Read once.
+/// Zeros and empty texts for a program without version information. Read once.
 [[nodiscard]] VYR_PLATFORM_API const ProgramVersion& GetProgramVersion();
 
 /// The folder of the system's own programs and libraries, without a separator at its end (Windows: the system
@@ -41,7 +41,7 @@ enum class DataLocation : std::uint8_t
     Local,
     /// Settings that follow the user (Windows: roaming application data; Linux: XDG_CONFIG_HOME).
     Roaming,
-    /// What a program keeps of its doings: logs, journals (Windows: local application data; Linux: XDG_STATE_HOME).
+    /// Logs and journals (Windows: local application data; Linux: XDG_STATE_HOME).
     State
 };
 

@@ -1,5 +1,5 @@
 /// @file
-/// Bytes and UTF-16.
+/// Converts bytes to UTF-16 and back.
 #pragma once
 
 #include <VyrPlatform/Export.h>

@@ -29,13 +29,13 @@ VYR_PLATFORM_API void ToLower(char16_t* text, std::size_t length);
 /// that a date written with them can be read back, and their blanks are plain ones.
 struct DateTexts
 {
-    /// As they are called beside a day, which in some languages is not their name in a list.
+    /// In the form that stands beside a day ("5 stycznia"), which in some languages differs from that in a list.
     std::array<CString, 12> months;
     std::array<CString, 12> shortMonths;
     /// From Sunday on.
     std::array<CString, 7> days;
     std::array<CString, 7> shortDays;
-    /// "AM" and "PM" where the language has no words for the halves of a day.
+    /// "AM" and "PM" where the language has no words of its own.
     CString am;
     CString pm;
     CString shortDatePattern;
@@ -43,7 +43,7 @@ struct DateTexts
     CString timePattern;
 };
 
-/// What separates the digits of a number.
+/// The separators of numbers: "." and "," write 1234.5 as "1.234,5" in German.
 struct NumberTexts
 {
     CString thousands;
@@ -53,7 +53,7 @@ struct NumberTexts
     int otherGroups = 3;
 };
 
-/// Read once for each locale and kept; the reference stays good for the life of the process.
+/// Read once for each locale; the reference stays valid for the life of the process.
 [[nodiscard]] VYR_PLATFORM_API const DateTexts& GetDateTexts();
 [[nodiscard]] VYR_PLATFORM_API const NumberTexts& GetNumberTexts();
 

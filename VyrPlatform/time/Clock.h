@@ -1,5 +1,5 @@
 /// @file
-/// The current local time.
+/// Tells the current local time.
 #pragma once
 
 #include <VyrPlatform/Export.h>

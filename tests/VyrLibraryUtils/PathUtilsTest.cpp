@@ -2,7 +2,9 @@
 #include <VyrLibraryUtils/PathUtils.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/process/Process.h>
+#include <VyrPlatform/text/Encoding.h>
 
+#include <tests/support/ChildProcess.h>
 #include <tests/support/Describe.h>
 
 #include <gtest/gtest.h>
@@ -25,13 +27,30 @@ CString Below(DataLocation location, std::initializer_list<std::u16string_view> 
     return path;
 }
 
-TEST(PathUtils, PutsEachFileInTheProductsFolderOfItsLocation)
+TEST(PathUtils, PutsEachFileInTheFolderOfTheProgramsProduct)
 {
-    EXPECT_EQ(PathUtils::GetApplicationLogFolderPath(), Below(DataLocation::State, {u"VyrLibrary", u"Logs"}));
+    EXPECT_EQ(PathUtils::GetApplicationLogFolderPath(), Below(DataLocation::State, {u"Companion t\u00E9sts", u"Logs"}));
     EXPECT_EQ(PathUtils::GetLocalDataApplicationFilePath(),
-              Below(DataLocation::Local, {u"VyrLibrary", u"Application.ini"}));
-    EXPECT_EQ(PathUtils::GetUpdatesFilePath(), Below(DataLocation::Roaming, {u"VyrLibrary", u"Updates.ini"}));
-    EXPECT_EQ(PathUtils::GetLocalDataUpdatesFilePath(), Below(DataLocation::Local, {u"VyrLibrary", u"Updates.ini"}));
+              Below(DataLocation::Local, {u"Companion t\u00E9sts", u"Application.ini"}));
+    EXPECT_EQ(PathUtils::GetUpdatesFilePath(), Below(DataLocation::Roaming, {u"Companion t\u00E9sts", u"Updates.ini"}));
+    EXPECT_EQ(PathUtils::GetLocalDataUpdatesFilePath(),
+              Below(DataLocation::Local, {u"Companion t\u00E9sts", u"Updates.ini"}));
+}
+
+TEST(PathUtils, TakesSignsThatNoFolderMayHoldOutOfTheProductsName)
+{
+    const VyrTests::ProgramResult result =
+        VyrTests::RunProgram({VyrTests::BesideThisProgram(u"VersionedProbe"), {u"log-folder"}});
+    EXPECT_EQ(VyrPlatform::Encoding::FromNameBytes(result.output),
+              Below(DataLocation::State, {u"Pr\u00FCf-_Programm_ _ 日本", u"Logs"}) + u"\n");
+}
+
+TEST(PathUtils, NamesTheFolderOfAProgramWithoutAProductByItsFile)
+{
+    const VyrTests::ProgramResult result =
+        VyrTests::RunProgram({VyrTests::BesideThisProgram(u"PlatformProbe"), {u"log-folder"}});
+    EXPECT_EQ(VyrPlatform::Encoding::FromNameBytes(result.output),
+              Below(DataLocation::State, {u"PlatformProbe", u"Logs"}) + u"\n");
 }
 
 TEST(PathUtils, KeepsTheTwoUpdatesFilesApartUnderOneName)

@@ -1,6 +1,7 @@
 // For tests: prints what a separate program gets from a platform service. The first argument says which.
 #include <VyrHostPlatform/Console.h>
 #include <VyrHostPlatform/Interrupt.h>
+#include <VyrLibraryUtils/PathUtils.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/process/Process.h>
 #include <VyrPlatform/text/CodePage.h>
@@ -86,6 +87,11 @@ int PrintFolders(const Arguments& /*arguments*/)
     Print(Process::GetDataFolder(Process::DataLocation::Local));
     Print(Process::GetDataFolder(Process::DataLocation::Roaming));
     return Print(Process::GetDataFolder(Process::DataLocation::State));
+}
+
+int PrintLogFolder(const Arguments& /*arguments*/)
+{
+    return Print(VyrLibraryUtils::PathUtils::GetApplicationLogFolderPath());
 }
 
 int PrintLocale(const Arguments& /*arguments*/)
@@ -174,6 +180,7 @@ int main(int count, char** argumentBytes)
         {u"folders", PrintFolders},
         {u"locale", PrintLocale},
         {u"ansi-code-page", PrintAnsiCodePage},
+        {u"log-folder", PrintLogFolder},
         {u"terminals", PrintTerminals},
         {u"write", WriteArguments},
         {u"wait-for", WaitForFile},

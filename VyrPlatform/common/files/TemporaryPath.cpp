@@ -1,4 +1,3 @@
-// Names files that exist for the time of an operation alone.
 #include <VyrPlatform/common/files/TemporaryPath.h>
 
 #include <VyrPlatform/files/FileSystem.h>

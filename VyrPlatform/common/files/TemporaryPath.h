@@ -1,4 +1,4 @@
-// Where a file is made before it takes the place of another.
+// Names a file that is written before it replaces another.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -9,7 +9,7 @@ namespace VyrPlatform {
 /// The folder in which `path` stands, with the separator at its end; empty for a bare name.
 [[nodiscard]] VYR_PLATFORM_API CString GetFolderOf(const CString& path);
 
-/// A path in the folder of `path` that nothing has yet, as far as chance can tell.
+/// A random path in the folder of `path`, which almost certainly is free.
 [[nodiscard]] VYR_PLATFORM_API CString MakeTemporaryPath(const CString& path);
 
 } // namespace VyrPlatform

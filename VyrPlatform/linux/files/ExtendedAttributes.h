@@ -1,4 +1,4 @@
-// The extended attributes in which Windows file systems and Samba keep what Linux itself has not.
+// Reads and writes the extended attributes of Windows file systems and Samba, for what Linux itself lacks.
 #pragma once
 
 #include "NativePath.h"

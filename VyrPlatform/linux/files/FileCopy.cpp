@@ -1,4 +1,3 @@
-// Copying and moving files on Linux.
 #include <VyrPlatform/files/FileCopy.h>
 
 #include "Descriptor.h"

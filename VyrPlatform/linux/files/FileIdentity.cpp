@@ -1,4 +1,4 @@
-// Which file stands at a path, asked of Linux with one statx.
+// Asks with one statx.
 #include "FileIdentityAt.h"
 
 #include "FileStatus.h"

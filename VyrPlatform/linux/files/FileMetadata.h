@@ -1,4 +1,4 @@
-// What a file has besides its content: owner, extended attributes, mode, times.
+// Copies owner, extended attributes, mode and times of a file.
 #pragma once
 
 #include "NativePath.h"
@@ -36,8 +36,8 @@ using ExtendedList = std::vector<std::pair<std::string, std::string>>;
 /// @return 0, or the error code.
 [[nodiscard]] VYR_PLATFORM_API int SetExtendedAttributes(int file, const ExtendedList& attributes);
 
-/// Gives the new file `target` what `source` has, whose state before it was read is `status`. What the user may not
-/// give or the file system of `target` cannot keep is left out.
+/// Gives the new file `target` the metadata of `source`, whose state before it was read is `status`. Leaves out what
+/// the user may not set and what the file system of `target` cannot keep.
 /// @return 0, or the error code.
 [[nodiscard]] int CopyMetadata(int source, int target, const struct stat& status);
 

@@ -1,4 +1,3 @@
-// Reading a file at any place, on Linux.
 #include <VyrPlatform/files/FileReader.h>
 
 #include "EnteredFolder.h"

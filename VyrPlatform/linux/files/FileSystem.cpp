@@ -1,4 +1,4 @@
-// What stands at a path, asked of Linux with one statx (two for a link).
+// Asks with one statx, with two for a link.
 #include <VyrPlatform/files/FileSystem.h>
 
 #include "FileStatus.h"

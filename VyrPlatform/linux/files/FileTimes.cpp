@@ -1,4 +1,3 @@
-// A file's three times on Linux.
 #include <VyrPlatform/files/FileTimes.h>
 
 #include "ExtendedAttributes.h"

@@ -1,4 +1,4 @@
-// File times that are going to be written back, on Linux.
+// On Linux a file time is written with the offset of its own date, as it is read.
 #include <VyrPlatform/files/FileTimes.h>
 
 namespace VyrPlatform::FileTimes {

@@ -1,4 +1,4 @@
-// Has what was done in a folder on the disk.
+// Waits for changes of a folder to reach the disk.
 #pragma once
 
 #include <VyrPlatform/Export.h>

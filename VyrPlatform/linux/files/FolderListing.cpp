@@ -1,4 +1,3 @@
-// The entries of a folder on Linux.
 #include <VyrPlatform/files/FolderListing.h>
 
 #include "NativePath.h"

@@ -1,4 +1,4 @@
-// A folder whose files are about to be opened, on Linux: they are opened by their names, beside its descriptor.
+// Opens files relative to a descriptor of their folder.
 #include <VyrPlatform/files/WorkingFolder.h>
 
 #include "Descriptor.h"

@@ -1,4 +1,3 @@
-// The attributes of a file on Windows.
 #include <VyrPlatform/files/FileAttributes.h>
 
 #include "LongPath.h"

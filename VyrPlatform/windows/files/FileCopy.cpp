@@ -1,4 +1,3 @@
-// Copying and moving files on Windows.
 #include <VyrPlatform/files/FileCopy.h>
 
 #include "OpenEntry.h"

@@ -1,4 +1,4 @@
-// Which file stands at a path, asked of Windows through a handle that reads nothing but attributes.
+// Asks through a handle that reads attributes only.
 #include <VyrPlatform/files/FileIdentity.h>
 
 #include "FileStatus.h"

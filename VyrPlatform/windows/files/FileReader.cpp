@@ -1,4 +1,3 @@
-// Reading a file at any place, on Windows.
 #include <VyrPlatform/files/FileReader.h>
 
 #include "LongPath.h"

@@ -1,4 +1,3 @@
-// What stands at a path, asked of Windows.
 #include <VyrPlatform/files/FileSystem.h>
 
 #include "FileStatus.h"

@@ -1,4 +1,3 @@
-// A file's three times on Windows.
 #include <VyrPlatform/files/FileTimes.h>
 
 #include "FileStatus.h"

@@ -1,4 +1,4 @@
-// File times that are going to be written back, on Windows.
+// On Windows a local time is written as a file time with today's offset.
 #include <VyrPlatform/files/FileTimes.h>
 
 #include "FileStatus.h"

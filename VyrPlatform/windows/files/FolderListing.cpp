@@ -1,4 +1,3 @@
-// The entries of a folder on Windows.
 #include <VyrPlatform/files/FolderListing.h>
 
 #include "FileStatus.h"

@@ -1,4 +1,4 @@
-// A folder whose files are about to be opened, on Windows: opening by a full path is all there is.
+// Windows opens files by their full paths: nothing is to be done.
 #include <VyrPlatform/files/WorkingFolder.h>
 
 namespace VyrPlatform {

@@ -43,10 +43,10 @@ TEST(PathUtilsOnLinux, FollowsTheXdgVariables)
     const Environment data("XDG_DATA_HOME", "/x/data");
     const Environment configuration("XDG_CONFIG_HOME", "/x/config/");
     const Environment state("XDG_STATE_HOME", "/x/state");
-    EXPECT_EQ(PathUtils::GetApplicationLogFolderPath(), u"/x/state/VyrLibrary/Logs");
-    EXPECT_EQ(PathUtils::GetLocalDataApplicationFilePath(), u"/x/data/VyrLibrary/Application.ini");
-    EXPECT_EQ(PathUtils::GetUpdatesFilePath(), u"/x/config/VyrLibrary/Updates.ini");
-    EXPECT_EQ(PathUtils::GetLocalDataUpdatesFilePath(), u"/x/data/VyrLibrary/Updates.ini");
+    EXPECT_EQ(PathUtils::GetApplicationLogFolderPath(), u"/x/state/Companion t\u00E9sts/Logs");
+    EXPECT_EQ(PathUtils::GetLocalDataApplicationFilePath(), u"/x/data/Companion t\u00E9sts/Application.ini");
+    EXPECT_EQ(PathUtils::GetUpdatesFilePath(), u"/x/config/Companion t\u00E9sts/Updates.ini");
+    EXPECT_EQ(PathUtils::GetLocalDataUpdatesFilePath(), u"/x/data/Companion t\u00E9sts/Updates.ini");
 }
 
 TEST(PathUtilsOnLinux, FallsBackToTheHomeFolderAndIgnoresRelativeValues)
@@ -54,8 +54,9 @@ TEST(PathUtilsOnLinux, FallsBackToTheHomeFolderAndIgnoresRelativeValues)
     const Environment home("HOME", "/home/someone");
     const Environment data("XDG_DATA_HOME", "");
     const Environment configuration("XDG_CONFIG_HOME", "relative");
-    EXPECT_EQ(PathUtils::GetLocalDataApplicationFilePath(), u"/home/someone/.local/share/VyrLibrary/Application.ini");
-    EXPECT_EQ(PathUtils::GetUpdatesFilePath(), u"/home/someone/.config/VyrLibrary/Updates.ini");
+    EXPECT_EQ(PathUtils::GetLocalDataApplicationFilePath(),
+              u"/home/someone/.local/share/Companion t\u00E9sts/Application.ini");
+    EXPECT_EQ(PathUtils::GetUpdatesFilePath(), u"/home/someone/.config/Companion t\u00E9sts/Updates.ini");
 }
 
 } // namespace
