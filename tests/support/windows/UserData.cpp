@@ -17,12 +17,24 @@ struct UserData::Kept
     std::vector<std::pair<std::filesystem::path, std::filesystem::path>> folders;
 };
 
+namespace {
+
+/// The name of this program's folder in the data folders.
+std::filesystem::path FolderName()
+{
+    const CString product = VyrPlatform::Process::GetProgramVersion().productName;
+    return product.IsEmpty() ? ToStdPath(VyrPlatform::Process::GetProgramPath()).stem() : ToStdPath(product);
+}
+
+} // namespace
+
 UserData::UserData() : m_kept(std::make_unique<Kept>())
 {
+    const std::filesystem::path name = FolderName();
     for (const DataLocation location : {DataLocation::Local, DataLocation::Roaming}) {
         const std::filesystem::path parent = ToStdPath(VyrPlatform::Process::GetDataFolder(location));
-        const std::filesystem::path folder = parent / "VyrLibrary";
-        const std::filesystem::path aside = parent / "VyrLibrary put aside by tests";
+        const std::filesystem::path folder = parent / name;
+        const std::filesystem::path aside = parent / (name.wstring() + L" put aside by tests");
         // A run that was killed may have left it: then what stands there now is that run's.
         if (exists(folder) && !exists(aside))
             rename(folder, aside);
