@@ -4,6 +4,7 @@
 #include <VyrLibraryFuncs/html/OutputFuncs.h>
 #include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>
 #include <VyrLibraryFuncs/programs/RegistryFuncs.h>
+#include <VyrLibraryFuncs/xmlinfo/UpdatesFuncs.h>
 
 namespace VyrLibraryFuncs {
 
@@ -14,6 +15,15 @@ CString ProgramsFeaturesFuncs::m_outputFilePath;
 int ProgramsFeaturesFuncs::m_openOutputFile = 1;
 CString RegistryFuncs::m_productKeyPattern = u"SOFTWARE\\%s\\%s\\%d.0";
 CString RegistryFuncs::m_uninstallKeyPattern = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\%s";
+std::vector<UpdatesFuncs::UPDATEITEM> UpdatesFuncs::m_updateItemsList;
+CString UpdatesFuncs::m_type;
+CString UpdatesFuncs::m_productName;
+CString UpdatesFuncs::m_version;
+CString UpdatesFuncs::m_edition;
+CString UpdatesFuncs::m_platformBit;
+CString UpdatesFuncs::m_detailsUrl;
+CString UpdatesFuncs::m_downloadUrl;
+CString UpdatesFuncs::m_checkedDate;
 
 } // namespace VyrLibraryFuncs
 

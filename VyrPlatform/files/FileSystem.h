@@ -1,5 +1,5 @@
 /// @file
-/// Tells what stands at a path, and creates folders.
+/// Tells what stands at a path, creates folders, and removes files.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -50,6 +50,10 @@ struct Entry
 /// Creates the folder `path`, whose parent exists.
 /// @return 0 when it was created, else the system's error code (one that exists already is an error).
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t CreateFolder(const CString& path);
+
+/// Removes the file `path` (a link itself, not what it leads to).
+/// @return 0 when it was removed, else the system's error code. A folder is not, and on Windows a read-only file.
+[[nodiscard]] VYR_PLATFORM_API std::uint32_t RemoveFile(const CString& path);
 
 /// Whether `unit` separates the parts of a path on this system.
 [[nodiscard]] VYR_PLATFORM_API bool IsSeparator(char16_t unit) noexcept;

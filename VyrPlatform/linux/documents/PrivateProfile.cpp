@@ -4,7 +4,7 @@
 #include <VyrPlatform/files/FileCopy.h>
 #include <VyrPlatform/files/FileReader.h>
 #include <VyrPlatform/files/FileStream.h>
-#include <VyrPlatform/linux/files/NativePath.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include "ProfileText.h"
 
@@ -13,7 +13,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <unistd.h>
 
 namespace VyrPlatform::PrivateProfile {
 
@@ -63,7 +62,7 @@ std::uint32_t ReplaceFile(const CString& path, std::string_view bytes)
     if (!error)
         error = FileCopy::Move(temporary, path);
     if (error)
-        unlink(NativePath(temporary).Get());
+        static_cast<void>(FileSystem::RemoveFile(temporary));
     return error;
 }
 

@@ -72,6 +72,11 @@ std::uint32_t CreateFolder(const CString& path)
     return mkdir(NativePath(path).Get(), 0777) == 0 ? 0 : static_cast<std::uint32_t>(errno);
 }
 
+std::uint32_t RemoveFile(const CString& path)
+{
+    return unlink(NativePath(path).Get()) == 0 ? 0 : static_cast<std::uint32_t>(errno);
+}
+
 bool IsSeparator(char16_t unit) noexcept
 {
     return unit == Separator();

@@ -93,6 +93,11 @@ std::uint32_t CreateFolder(const CString& path)
     return CreateDirectoryW(LongPath(path).Get(), nullptr) ? 0 : GetLastError();
 }
 
+std::uint32_t RemoveFile(const CString& path)
+{
+    return DeleteFileW(LongPath(path).Get()) ? 0 : GetLastError();
+}
+
 bool IsSeparator(char16_t unit) noexcept
 {
     return unit == u'\\' || unit == u'/';

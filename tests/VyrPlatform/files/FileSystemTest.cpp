@@ -244,3 +244,17 @@ TEST(FileSystemSeparator, IsOneOfThoseThatSeparate)
     EXPECT_FALSE(FileSystem::IsSeparator(u':'));
     EXPECT_FALSE(FileSystem::IsSeparator(u'\0'));
 }
+
+TEST(FileSystemRemoveFile, TakesAwayTheFileAlone)
+{
+    const ScratchFolder scratch;
+    EXPECT_EQ(FileSystem::RemoveFile(scratch.WriteFile(u"a", "content")), 0U);
+    EXPECT_FALSE(scratch.Has(u"a"));
+    EXPECT_NE(FileSystem::RemoveFile(scratch.Path(u"a")), 0U);
+    scratch.WriteFile(u"folder/b", "content");
+    EXPECT_NE(FileSystem::RemoveFile(scratch.Path(u"folder")), 0U);
+    EXPECT_NE(FileSystem::RemoveFile(scratch.MakeFolder(u"empty")), 0U);
+    EXPECT_NE(FileSystem::RemoveFile(CString()), 0U);
+    EXPECT_EQ(scratch.ReadFile(u"folder/b"), "content");
+    EXPECT_TRUE(scratch.Has(u"empty"));
+}
