@@ -28,23 +28,23 @@ constexpr unsigned asciiCount = 0x80;
 
 struct KnownPage
 {
-    std::uint32_t number;
     const char* icuName;
+    std::uint32_t number;
     /// What bytes without a character become.
     char16_t defaultUnit = replacementUnit;
 };
 
 constexpr KnownPage knownPages[] = {
-    {437, "ibm-437"},           {850, "ibm-850"},           {852, "ibm-852"},
-    {866, "ibm-866"},           {874, "windows-874"},       {932, "windows-932", u'\u30FB'},
-    {936, "windows-936", u'?'}, {949, "windows-949", u'?'}, {950, "windows-950", u'?'},
-    {1250, "windows-1250"},     {1251, "windows-1251"},     {1252, "windows-1252"},
-    {1253, "windows-1253"},     {1254, "windows-1254"},     {1255, "windows-1255"},
-    {1256, "windows-1256"},     {1257, "windows-1257"},     {1258, "windows-1258"},
-    {20127, "US-ASCII"},        {28591, "ISO-8859-1"},      {28592, "ISO-8859-2"},
-    {28593, "ISO-8859-3"},      {28594, "ISO-8859-4"},      {28595, "ISO-8859-5"},
-    {28596, "ISO-8859-6"},      {28597, "ISO-8859-7"},      {28598, "ISO-8859-8"},
-    {28599, "ISO-8859-9"},      {28603, "ISO-8859-13"},     {28605, "ISO-8859-15"},
+    {"ibm-437", 437},           {"ibm-850", 850},           {"ibm-852", 852},
+    {"ibm-866", 866},           {"windows-874", 874},       {"windows-932", 932, u'\u30FB'},
+    {"windows-936", 936, u'?'}, {"windows-949", 949, u'?'}, {"windows-950", 950, u'?'},
+    {"windows-1250", 1250},     {"windows-1251", 1251},     {"windows-1252", 1252},
+    {"windows-1253", 1253},     {"windows-1254", 1254},     {"windows-1255", 1255},
+    {"windows-1256", 1256},     {"windows-1257", 1257},     {"windows-1258", 1258},
+    {"US-ASCII", 20127},        {"ISO-8859-1", 28591},      {"ISO-8859-2", 28592},
+    {"ISO-8859-3", 28593},      {"ISO-8859-4", 28594},      {"ISO-8859-5", 28595},
+    {"ISO-8859-6", 28596},      {"ISO-8859-7", 28597},      {"ISO-8859-8", 28598},
+    {"ISO-8859-9", 28599},      {"ISO-8859-13", 28603},     {"ISO-8859-15", 28605},
 };
 
 using Converter = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
