@@ -4,6 +4,7 @@
 
 #include <VyrPlatform/text/CString.h>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,10 +30,11 @@ enum class Stream
 
 /// Writes `bytes` (UTF-8, whole characters) as they stand, at once. A closed pipe ends no program: it is refused like
 /// any other failure, and what the caller does then decides the exit code.
-/// @return false when the system refuses them (a closed pipe, a full disk).
-bool Write(Stream stream, std::string_view bytes);
-/// The next piece of the standard input, at most 1 MiB; empty at its end, and once an interrupt was noted
-/// (Interrupt.h).
-[[nodiscard]] std::string ReadInput();
+/// @return 0, or the system's error code when it refuses them (a closed pipe, a full disk).
+std::uint32_t Write(Stream stream, std::string_view bytes);
+/// The next piece of the standard input, at most 1 MiB; empty at its end, once an interrupt was noted (Interrupt.h),
+/// and after an error.
+/// @param error  set to the system's error code where the input cannot be read (a folder, a closed stream), else to 0.
+[[nodiscard]] std::string ReadInput(std::uint32_t& error);
 
 } // namespace VyrHostPlatform::Console

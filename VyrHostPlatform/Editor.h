@@ -4,6 +4,7 @@
 
 #include <VyrPlatform/text/CString.h>
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -17,10 +18,27 @@ struct EditedText
     CString error;
 };
 
-/// Puts `text` into a temporary file, opens that in the program that the environment variable VISUAL or EDITOR names
-/// (a command line, which may have arguments; else the system's own: vi, on Windows notepad), waits for the program's
-/// end and reads the file back. The file is removed. A program that ends with a code other than 0 counts as "do
-/// nothing".
-[[nodiscard]] EditedText EditText(const std::string& text);
+/// A text in a temporary file, for the user to edit. The file is removed at the end of its life, unless it is kept.
+class EditorFile
+{
+public:
+    explicit EditorFile(const std::string& text);
+    EditorFile(const EditorFile&) = delete;
+    EditorFile& operator=(const EditorFile&) = delete;
+    ~EditorFile();
+
+    /// Opens the file in the program that the environment variable VISUAL or EDITOR names (a command line, which may
+    /// have arguments; else the system's own: vi, on Windows notepad), waits for the program's end and reads the file
+    /// back. A program that ends with a code other than 0 counts as "do nothing". May be called again: the file is as
+    /// the user left it.
+    [[nodiscard]] EditedText Edit();
+    /// The file stays.
+    /// @return its path.
+    [[nodiscard]] CString Keep();
+
+private:
+    class TemporaryFile;
+    std::unique_ptr<TemporaryFile> m_file;
+};
 
 } // namespace VyrHostPlatform

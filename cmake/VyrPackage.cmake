@@ -2,6 +2,7 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
+# The component "vyr" is the program with what it needs to run, for a user who installs it alone.
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/VyrLibrary")
 if(NOT WIN32)
   # The installed files may be moved together: each finds its libraries from where it stands itself.
@@ -12,14 +13,18 @@ if(NOT WIN32)
   add_custom_command(OUTPUT "${manual}"
     COMMAND gzip -9nc "${PROJECT_SOURCE_DIR}/docs/vyr.1" > "${manual}" DEPENDS docs/vyr.1)
   add_custom_target(VyrManual ALL DEPENDS "${manual}")
-  install(FILES "${manual}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
-  install(FILES docs/vyr.bash DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME vyr)
+  install(FILES "${manual}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT vyr)
+  install(FILES docs/vyr.bash
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME vyr COMPONENT vyr)
   # The name under which Debian looks for a package's terms.
-  install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/vyrlibrary" RENAME copyright)
+  install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/vyrlibrary" RENAME copyright COMPONENT vyr)
 endif()
 
-install(TARGETS vyr RUNTIME)
-install(TARGETS VyrPlatform VyrLibraryUtils VyrLibraryFuncs EXPORT VyrLibraryTargets FILE_SET HEADERS)
+install(TARGETS vyr RUNTIME COMPONENT vyr)
+install(TARGETS VyrPlatform VyrLibraryUtils VyrLibraryFuncs EXPORT VyrLibraryTargets
+  RUNTIME COMPONENT vyr
+  LIBRARY COMPONENT vyr NAMELINK_COMPONENT Unspecified
+  FILE_SET HEADERS)
 install(EXPORT VyrLibraryTargets NAMESPACE Vyr:: DESTINATION "${package_folder}")
 configure_package_config_file(cmake/VyrLibraryConfig.cmake.in "${CMAKE_BINARY_DIR}/VyrLibraryConfig.cmake"
   INSTALL_DESTINATION "${package_folder}" NO_SET_AND_CHECK_MACRO)

@@ -16,11 +16,11 @@ _vyr()
     local help value=
     help=$("$1" $command --help 2>/dev/null)
     if [[ -z $command && $cur != -* ]]; then
-        COMPREPLY=($(compgen -W "$(sed -n '/^Subcommands:/,$s/^  \([a-z]*\) .*/\1/p' <<<"$help")" -- "$cur"))
+        COMPREPLY=($(compgen -W "$(sed -n '/^Subcommands:/,$s/^  \([a-z][a-z]*\) .*/\1/p' <<<"$help")" -- "$cur"))
         return
     fi
     # What stands behind an option in the help is its value: a choice such as a|b, or what it holds, in capitals.
-    [[ $prev != --* ]] || value=$(sed -nE "s/^ +(-[a-z],)?$prev ([^ ]*).*/\2/p" <<<"$help")
+    [[ $prev != --* ]] || value=$(sed -nE "s/^  (-[a-z],)?$prev ([^ ]*).*/\2/p" <<<"$help")
     case $value in
     *'|'*)
         COMPREPLY=($(compgen -W "${value//|/ }" -- "$cur"))
@@ -30,7 +30,7 @@ _vyr()
     *) return ;;
     esac
     if [[ $cur == -* ]]; then
-        COMPREPLY=($(compgen -W "$(sed -nE 's/^ +(-[a-z],)?(--[a-z0-9-]+).*/\2/p' <<<"$help")" -- "$cur"))
+        COMPREPLY=($(compgen -W "$(sed -nE 's/^  (-[a-z],)?(--[a-z0-9-]+).*/\2/p' <<<"$help")" -- "$cur"))
     elif [[ $value == FILE ]] || grep -qE '^  (PATH|FROM|SOURCE|FOLDER)' <<<"$help"; then
         _filedir
     fi

@@ -27,15 +27,15 @@ std::string Guarded(std::string bytes, std::string_view guardedStarts)
 std::size_t ValuesBehind(const CLI::App& command, const std::string& argument)
 {
     const std::size_t equals = argument.find('=');
-    const CLI::Option* const option =
-        argument.starts_with('-') ? command.get_option_no_throw(argument.substr(0, equals)) : nullptr;
+    const CLI::Option* const option = command.get_option_no_throw(argument.substr(0, equals));
     if (!option)
         return 0;
     const auto values = static_cast<std::size_t>(option->get_items_expected_min());
     return values > 0 && equals != std::string::npos ? values - 1 : values;
 }
 
-/// The command that `arguments` begin with; the program itself where they begin with none.
+} // namespace
+
 const CLI::App& CommandOf(const CLI::App& program, const std::vector<CString>& arguments)
 {
     if (arguments.empty())
@@ -46,27 +46,40 @@ const CLI::App& CommandOf(const CLI::App& program, const std::vector<CString>& a
     return named.empty() ? program : *named.front();
 }
 
-} // namespace
+std::vector<Argument> CutArguments(const CLI::App& program, const std::vector<CString>& arguments)
+{
+    const CLI::App& command = CommandOf(program, arguments);
+    std::vector<Argument> cut;
+    std::size_t values = 0;
+    bool arePlain = false;
+    for (const CString& text : arguments) {
+        Argument argument{VyrPlatform::Encoding::ToNameBytes(text), ArgumentRole::Plain};
+        if (values > 0) {
+            argument.role = ArgumentRole::Value;
+            --values;
+        } else if (!arePlain && argument.bytes == "--") {
+            argument.role = ArgumentRole::EndOfOptions;
+            arePlain = true;
+        } else if (!arePlain && argument.bytes.size() > 1 && argument.bytes.starts_with('-')) {
+            argument.role = ArgumentRole::Option;
+            values = ValuesBehind(command, argument.bytes);
+        }
+        cut.push_back(std::move(argument));
+    }
+    return cut;
+}
 
-std::vector<std::string> ToParser(const CLI::App& program, const std::vector<CString>& arguments)
+std::vector<std::string> ToParser(const std::vector<Argument>& arguments)
 {
     constexpr std::string_view ListStarts = "[\xFF";
     constexpr std::string_view ListAndOptionStarts = "-[\xFF";
-    const CLI::App& command = CommandOf(program, arguments);
     std::vector<std::string> texts;
-    std::size_t values = 0;
     bool arePlain = false;
-    for (const CString& argument : arguments) {
-        std::string bytes = VyrPlatform::Encoding::ToNameBytes(argument);
-        const bool isValue = values > 0;
-        if (isValue)
-            --values;
-        else if (!arePlain)
-            values = ValuesBehind(command, bytes);
-        if (!arePlain && !isValue && bytes == "--")
+    for (const Argument& argument : arguments) {
+        if (argument.role == ArgumentRole::EndOfOptions)
             arePlain = true;
         else
-            texts.push_back(Guarded(std::move(bytes), arePlain ? ListAndOptionStarts : ListStarts));
+            texts.push_back(Guarded(argument.bytes, arePlain ? ListAndOptionStarts : ListStarts));
     }
     std::reverse(texts.begin(), texts.end());
     return texts;

@@ -4,6 +4,7 @@
 
 #include <VyrPlatform/text/CString.h>
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -13,9 +14,30 @@ class App;
 
 namespace VyrHost::Cli {
 
-/// The bytes of `arguments`, the last argument first, as the parser of `program` takes them. Each stays one text (the
-/// parser would read "[a,b]" as two), and "--" makes every one behind it a plain argument.
-[[nodiscard]] std::vector<std::string> ToParser(const CLI::App& program, const std::vector<CString>& arguments);
+enum class ArgumentRole : std::uint8_t
+{
+    /// The command, or what it is about.
+    Plain,
+    /// Begins with "-", and is no value of the option before it.
+    Option,
+    Value,
+    /// "--": every argument behind it is a plain one.
+    EndOfOptions
+};
+
+struct Argument
+{
+    /// As the parser takes texts; see FromParser.
+    std::string bytes;
+    ArgumentRole role;
+};
+
+/// The command that `arguments` begin with; `program` itself where they begin with none.
+[[nodiscard]] const CLI::App& CommandOf(const CLI::App& program, const std::vector<CString>& arguments);
+/// What each of `arguments` is to the command that they begin with.
+[[nodiscard]] std::vector<Argument> CutArguments(const CLI::App& program, const std::vector<CString>& arguments);
+/// `arguments` for the parser, the last one first. Each stays one text (the parser would read "[a,b]" as two).
+[[nodiscard]] std::vector<std::string> ToParser(const std::vector<Argument>& arguments);
 /// The argument that the parser read as `bytes`.
 [[nodiscard]] CString FromParser(const std::string& bytes);
 

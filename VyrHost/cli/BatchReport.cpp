@@ -34,9 +34,11 @@ Batch::BatchEntryReport BatchReport::Collector()
 int BatchReport::Write(const Batch::BatchSummary& summary)
 {
     m_progress.Close();
+    // Entries that were not reached are only counted: they may be very many, and nothing is wrong with them.
     if (m_style.quiet)
         std::erase_if(m_entries, [](const Batch::BatchEntry& entry) {
-            return entry.result.outcome == Model::RenameOutcome::Done;
+            return entry.result.outcome == Model::RenameOutcome::Done ||
+                   entry.result.outcome == Model::RenameOutcome::NotReached;
         });
     Ui::OutputBuffer output;
     if (m_style.json) {
@@ -49,8 +51,11 @@ int BatchReport::Write(const Batch::BatchSummary& summary)
                    << Ui::SummaryOf(summary);
     }
     output.Flush();
-    const int code = JudgeSummary(summary);
-    return output.HasFailed() ? ExitCode::Output : code;
+    if (summary.wasStopped)
+        Complain("interrupted" + (m_style.quiet ? ": " + Ui::SummaryOf(summary) : std::string("; ")) + "\"vyr undo " +
+                 std::to_string(summary.number) +
+                 (m_style.direction == Ui::BatchDirection::Back ? "\" goes on" : "\" takes back what was done"));
+    return Finish(output, JudgeSummary(summary));
 }
 
 int JudgeSummary(const Batch::BatchSummary& summary)

@@ -7,16 +7,17 @@ namespace VyrHost::Cli {
 
 namespace {
 
-constexpr std::size_t LongestLine = 100;
+constexpr std::size_t LongestLine = 80;
 
 void AppendWrapped(std::string& text, std::string line)
 {
+    const std::size_t indent = line.find_first_not_of(" ") > 1 ? HelpColumn : 0;
     while (line.size() > LongestLine) {
         const std::size_t blank = line.rfind(' ', LongestLine);
-        if (blank == std::string::npos || blank <= HelpColumn)
+        if (blank == std::string::npos || blank <= indent)
             break;
         text.append(line, 0, blank) += '\n';
-        line.replace(0, blank + 1, HelpColumn, ' ');
+        line = std::string(indent, ' ').append(line, blank + 1);
     }
     text.append(line) += '\n';
 }

@@ -1,6 +1,8 @@
 // Words messages for the error stream.
 #include <VyrHost/cli/Messages.h>
 
+#include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/text/ErrorText.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHostPlatform/Console.h>
 
@@ -8,7 +10,17 @@ namespace VyrHost::Cli {
 
 void Complain(const std::string& what)
 {
-    VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, "vyr: " + what + "\n");
+    VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error,
+                                    "vyr: " + what + (what.ends_with('\n') ? "" : "\n"));
+}
+
+int Finish(Ui::OutputBuffer& output, int code)
+{
+    output.Flush();
+    if (output.Error() == 0)
+        return code;
+    Complain("the output cannot be written: " + Text::SafeText(Text::ErrorText(output.Error())));
+    return ExitCode::Output;
 }
 
 std::string CutOffNotice(const Batch::BatchInformation& batch)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <VyrHost/batch/Batches.h>
+#include <VyrHost/ui/OutputBuffer.h>
 
 #include <string>
 
@@ -10,6 +11,10 @@ namespace VyrHost::Cli {
 
 /// Writes "vyr: " and `what` (UTF-8, safe to show) as a line.
 void Complain(const std::string& what);
+
+/// Writes the rest of `output`; complains where any of it could not be written.
+/// @return `code`, or ExitCode::Output.
+[[nodiscard]] int Finish(Ui::OutputBuffer& output, int code);
 
 /// That a batch was cut off, and what ends it.
 [[nodiscard]] std::string CutOffNotice(const Batch::BatchInformation& batch);

@@ -9,8 +9,9 @@
 #include <VyrHost/cli/RenameCommand.h>
 #include <VyrHost/cli/TransferCommand.h>
 #include <VyrHost/cli/UndoCommand.h>
+#include <VyrHost/cli/UnknownWords.h>
 #include <VyrHost/text/UsageError.h>
-#include <VyrHostPlatform/Console.h>
+#include <VyrHost/ui/OutputBuffer.h>
 #include <VyrLibraryUtils/VersionUtils.h>
 #include <VyrPlatform/text/Encoding.h>
 
@@ -22,7 +23,6 @@ namespace VyrHost::Cli {
 
 namespace {
 
-using VyrHostPlatform::Console::Stream;
 using VyrLibraryUtils::VersionUtils;
 
 std::string VersionText()
@@ -33,7 +33,9 @@ std::string VersionText()
 
 int WriteOut(const std::string& text)
 {
-    return VyrHostPlatform::Console::Write(Stream::Output, text) ? ExitCode::Success : ExitCode::Output;
+    Ui::OutputBuffer output;
+    output << text;
+    return Finish(output, ExitCode::Success);
 }
 
 int RefuseCall(const std::string& what)
@@ -58,7 +60,9 @@ int RunProgram(const std::vector<CString>& arguments)
     const UndoCommand undo(program);
     const RecoverCommand recover(program);
     try {
-        program.parse(ToParser(program, arguments));
+        const std::vector<Argument> cut = CutArguments(program, arguments);
+        RefuseUnknownWords(program, CommandOf(program, arguments), cut);
+        program.parse(ToParser(cut));
         if (copy.IsChosen())
             return copy.Run();
         if (move.IsChosen())

@@ -20,9 +20,9 @@ namespace VyrHost::Cli {
 RecoverCommand::RecoverCommand(CLI::App& program)
     : m_command(*program.add_subcommand("recover", "Finish a batch that was cut off (power loss, kill), or undo it"))
 {
-    m_command.add_flag("--take-back", m_takeBack,
-                       "Restore what was before the work that was cut off instead of finishing it");
-    m_command.add_flag("--abandon", m_abandon, "Abandon the batch, where neither is possible: files stay as they are");
+    m_command.add_flag("--take-back", m_takeBack, "Restore the names before the batch instead of finishing it");
+    m_command.add_flag("--abandon", m_abandon,
+                       "Abandon the batch where neither is possible; its files stay as they are");
     m_command.add_flag("--json", m_json, "Write one JSON object for each entry");
     m_command.add_flag("-q,--quiet", m_quiet, "Show only what is not done");
     m_command.footer(RecoverExamples() + "\n" + ExitCode::Table);
@@ -44,8 +44,7 @@ int RecoverCommand::Run() const
         Ui::OutputBuffer output;
         if (!m_json && !m_quiet)
             output << "No batch was cut off.\n";
-        output.Flush();
-        return output.HasFailed() ? ExitCode::Output : ExitCode::Success;
+        return Finish(output, ExitCode::Success);
     }
     if (m_abandon)
         return Abandon();
@@ -71,8 +70,7 @@ int RecoverCommand::Abandon() const
         output << "Batch " << std::to_string(journal.number) << " is abandoned; its files stay as they are.\n"
                << "Its journal is kept as " << Text::SafeText(journal.to) << "\n"
                << "and can be recovered under its old name, " << Text::SafeText(journal.from) << "\n";
-    output.Flush();
-    return output.HasFailed() ? ExitCode::Output : ExitCode::Success;
+    return Finish(output, ExitCode::Success);
 }
 
 } // namespace VyrHost::Cli

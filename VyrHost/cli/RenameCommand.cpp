@@ -9,14 +9,28 @@
 
 #include <algorithm>
 #include <memory>
+#include <string>
 
 namespace VyrHost::Cli {
+
+namespace {
+
+/// docs/date-time-formats.md says the same; a test compares them.
+constexpr const char* DateLetters = "Letters of --date (text goes in apostrophes):\n"
+                                    "  yyyy yy        year              HH H  hour, 0 to 23\n"
+                                    "  MMMM MMM MM M  month             hh h  hour, 1 to 12\n"
+                                    "  dd d           day               mm m  minute\n"
+                                    "  EEEE EEE       day of the week   ss s  second\n"
+                                    "                                   a     before or after noon\n\n";
+
+} // namespace
 
 RenameCommand::RenameCommand(CLI::App& program)
     : m_command(*program.add_subcommand("rename", "Rename files and folders by rules; shows the result first")),
       m_rules(m_command), m_options(m_command)
 {
-    m_command.footer("Without --apply nothing is renamed. What --apply renamed, \"vyr undo\" undoes.\n\n" +
+    m_command.footer(std::string(DateLetters) +
+                     "Without --apply nothing is renamed. What --apply renamed, \"vyr undo\" undoes.\n\n" +
                      RenameExamples() + "\n" + ExitCode::Table);
 }
 
@@ -37,8 +51,8 @@ int RenameCommand::Run() const
                                        [](const std::unique_ptr<Rename::Rule>& rule) { return rule->MayNumber(); });
     if (m_options.AsksForNumbering() && !mayNumber)
         throw Text::UsageError(
-            "--conflict-pattern, -position, -start and -step say how names are numbered, which is not "
-            "done to names that are given or come of --replace, --case, --extension-case and "
+            "--conflict-pattern, -digits, -position, -start and -step say how names are numbered, which is "
+            "not done to names that are given or come of --replace, --case, --extension-case and "
             "--drop-extension alone");
     return RunRename(request);
 }

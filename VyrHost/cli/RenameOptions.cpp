@@ -100,7 +100,8 @@ void RenameOptions::AddSources(CLI::App& command)
     AddFlag(command, "--stdin", m_lines, "Read names from the standard input, one a line", Group);
     AddFlag(command, "--stdin0", m_terminated, "Read names from the standard input, each ended by a NUL", Group);
     AddText(command, "--pairs", m_pairs, "FILE",
-            "Read pairs of old and new names from a CSV or tab-separated file; - is the standard input", Group);
+            "Read pairs of old and new names, separated by a comma, a semicolon or a tab; - is the standard input",
+            Group);
     AddFlag(command, "--edit", m_edit, "Look through the new names in your editor ($VISUAL, $EDITOR)", Group);
 }
 
@@ -109,7 +110,7 @@ void RenameOptions::AddOrder(CLI::App& command)
     constexpr const char* Group = "Order and numbers";
     AddText(command, "--sort", m_sort, "given|name|date|picture-date|size",
             "The order of the list; date is that of the last change (given)", Group);
-    AddFlag(command, "--descending", m_isDescending, "Turn the order round", Group);
+    AddFlag(command, "--descending", m_isDescending, "Reverse the order", Group);
     AddFlag(command, "--number-per-folder", m_countsPerFolder, "Start the numbers anew in each folder", Group);
     AddFlag(command, "--together", m_together,
             "Give files that differ in their extensions alone (raw, JPEG, sidecar) one new name, by the first date of "
@@ -121,9 +122,12 @@ void RenameOptions::AddConflicts(CLI::App& command)
 {
     constexpr const char* Group = "When a name is taken";
     AddText(command, "--on-conflict", m_onConflict, "number|skip|fail",
-            "Number the name where the rules allow that (usual), skip the entry, or rename nothing at all", Group);
+            "Number the name where the rules allow that (the default), skip the entry, or rename nothing at all",
+            Group);
     AddText(command, "--conflict-pattern", m_conflictPattern, "TEXT", "What is put in; ? is the number (\" (?)\")",
             Group);
+    AddText(command, "--conflict-digits", m_conflictDigits, "N",
+            "Least width of the number, 0 to 255, filled up with zeros", Group);
     AddText(command, "--conflict-position", m_conflictPosition, "after|before", "Where it goes (after the name)",
             Group);
     AddText(command, "--conflict-start", m_conflictStart, "N", "The first number (1)", Group);
@@ -190,7 +194,7 @@ Collect::SortSettings RenameOptions::ReadOrder() const
 
 bool RenameOptions::AsksForNumbering() const
 {
-    return m_conflictPattern || m_conflictPosition || m_conflictStart || m_conflictStep;
+    return m_conflictPattern || m_conflictDigits || m_conflictPosition || m_conflictStart || m_conflictStep;
 }
 
 Rename::ConflictSettings RenameOptions::ReadConflicts() const
@@ -203,16 +207,19 @@ Rename::ConflictSettings RenameOptions::ReadConflicts() const
     if (AsksForNumbering() && settings.mode != Rename::OnConflict::Number)
         throw Text::UsageError("--on-conflict=" + *m_onConflict +
                                " numbers nothing; no other --conflict option goes with it");
-    ReadNumbering(settings.numbering);
+    ReadNumbering(settings);
     return settings;
 }
 
-void RenameOptions::ReadNumbering(VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering) const
+void RenameOptions::ReadNumbering(Rename::ConflictSettings& settings) const
 {
+    VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering = settings.numbering;
     numbering.numberFormat = m_conflictPattern ? FromParser(*m_conflictPattern) : CString(u" (?)");
     Rename::RequireNameText(numbering.numberFormat, "--conflict-pattern");
     if (numbering.numberFormat.Find(u"?") < 0)
         throw Text::UsageError("--conflict-pattern: it has no ? for the number, so it could never give a free name");
+    if (m_conflictDigits)
+        settings.digits = Rename::ParseDigits(FromParser(*m_conflictDigits), "--conflict-digits");
     numbering.position = ReadWord<int>(m_conflictPosition, "--conflict-position", {{"after", 1}, {"before", 0}});
     numbering.startNumber = ReadNumber(m_conflictStart, 1, "--conflict-start");
     numbering.step = ReadNumber(m_conflictStep, 1, "--conflict-step");

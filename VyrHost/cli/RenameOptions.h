@@ -37,7 +37,7 @@ private:
     [[nodiscard]] Collect::SourceSettings ReadSources() const;
     [[nodiscard]] Collect::SortSettings ReadOrder() const;
     [[nodiscard]] Rename::ConflictSettings ReadConflicts() const;
-    void ReadNumbering(VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering) const;
+    void ReadNumbering(Rename::ConflictSettings& settings) const;
 
     CLI::App& m_command;
     std::vector<std::string> m_paths;
@@ -46,6 +46,7 @@ private:
     std::optional<std::string> m_sort;
     std::optional<std::string> m_onConflict;
     std::optional<std::string> m_conflictPattern;
+    std::optional<std::string> m_conflictDigits;
     std::optional<std::string> m_conflictPosition;
     std::optional<std::string> m_conflictStart;
     std::optional<std::string> m_conflictStep;

@@ -5,15 +5,17 @@
 #include <VyrHost/batch/FileOperations.h>
 #include <VyrHost/batch/SourceLooks.h>
 #include <VyrHost/cli/BatchReport.h>
+#include <VyrHost/cli/EditNames.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
-#include <VyrHost/rename/EditedList.h>
 #include <VyrHost/rename/GivenNames.h>
 #include <VyrHost/rename/Pairs.h>
+#include <VyrHost/rename/PictureAccess.h>
 #include <VyrHost/rename/PlannedRenames.h>
 #include <VyrHost/rename/Planner.h>
 #include <VyrHost/text/ErrorText.h>
 #include <VyrHost/text/SafeText.h>
+#include <VyrHost/text/StandardInput.h>
 #include <VyrHost/text/UsageError.h>
 #include <VyrHost/ui/JsonLines.h>
 #include <VyrHost/ui/OutcomeRows.h>
@@ -22,16 +24,15 @@
 #include <VyrHost/ui/Table.h>
 #include <VyrHost/ui/Words.h>
 #include <VyrHostPlatform/Console.h>
-#include <VyrHostPlatform/Editor.h>
 #include <VyrHostPlatform/Interrupt.h>
 #include <VyrHostPlatform/ReadToEnd.h>
 #include <VyrPlatform/files/FileSystem.h>
-#include <VyrPlatform/process/Process.h>
 
 #include <algorithm>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace VyrHost::Cli {
@@ -49,10 +50,17 @@ std::string ReadPairsFile(const CString& path)
         return std::move(*bytes);
     }
     std::string bytes;
-    for (std::string piece = VyrHostPlatform::Console::ReadInput(); !piece.empty();
-         piece = VyrHostPlatform::Console::ReadInput())
-        bytes += piece;
+    Text::ReadStandardInput([&bytes](std::string_view piece) { bytes += piece; });
     return bytes;
+}
+
+std::vector<Rename::NamePair> ReadPairs(const CString& path)
+{
+    std::vector<Rename::NamePair> pairs = Rename::ParsePairs(ReadPairsFile(path));
+    if (pairs.empty())
+        throw Text::UsageError("there are no pairs of names in " +
+                               (path == u"-" ? std::string("the standard input") : "'" + Text::SafeText(path) + "'"));
+    return pairs;
 }
 
 class RenameRun
@@ -83,7 +91,7 @@ private:
     void TakeEntries()
     {
         if (m_request.pairs) {
-            TakePairs(Rename::ParsePairs(ReadPairsFile(*m_request.pairs)));
+            TakePairs(ReadPairs(*m_request.pairs));
         } else {
             m_collected = Collect::CollectEntries(m_request.sources);
             m_names = std::make_unique<Rename::RuleNames>(m_request.rules, m_request.counting);
@@ -120,9 +128,7 @@ private:
         m_outcome.decisions = Rename::Decide(
             List(), groups, *m_names, m_request.conflicts, [&progress](std::size_t named) { progress.Show(named); },
             onWish);
-        for (std::uint32_t entry = 0; entry < m_outcome.decisions.size(); ++entry)
-            if (m_outcome.decisions[entry].reason == Model::Reason::FolderNotRead)
-                m_outcome.causes.emplace(entry, WhyNotRead(entry));
+        NoteCauses();
         if (MovesAFolder())
             RefuseWhatHasNoPlan();
     }
@@ -150,10 +156,17 @@ private:
                  {.outcome = Model::RenameOutcome::Refused, .error = 0, .reason = refusal.reason});
     }
 
-    [[nodiscard]] CString WhyNotRead(std::uint32_t entry) const
+    /// What the system says about what could not be read.
+    void NoteCauses()
     {
-        const Model::Folder& folder = m_collected.list.folders[m_outcome.decisions[entry].folder];
-        return VyrPlatform::Process::GetErrorMessage(folder.error);
+        for (std::uint32_t entry = 0; entry < m_outcome.decisions.size(); ++entry) {
+            const Model::Decision& decision = m_outcome.decisions[entry];
+            if (decision.reason == Model::Reason::FolderNotRead)
+                m_outcome.causes.emplace(entry, Text::ErrorText(List().folders[decision.folder].error));
+            else if (decision.reason == Model::Reason::PictureNotRead)
+                m_outcome.causes.emplace(
+                    entry, Text::ErrorText(Rename::PictureReadError(List().PathOf(List().entries[entry]))));
+        }
     }
 
     /// Has the user look through the names, and decides again for what comes back.
@@ -162,10 +175,7 @@ private:
         std::vector<CString> names;
         for (std::size_t entry = 0; entry < m_outcome.decisions.size(); ++entry)
             names.push_back(NameForEditing(List().entries[entry], m_outcome.decisions[entry]));
-        const VyrHostPlatform::EditedText edited = VyrHostPlatform::EditText(Rename::TextForEditing(names));
-        if (!edited.text)
-            throw Text::UsageError(Text::SafeText(edited.error));
-        m_names = std::make_unique<Rename::GivenNames>(Rename::ParseEdited(*edited.text, names.size()));
+        m_names = std::make_unique<Rename::GivenNames>(EditNames(names));
         m_outcome = {};
         List().ForgetHolders();
         Decide(Rename::Groups::OfOne(List()), true);
@@ -252,6 +262,8 @@ private:
             VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, Ui::SummaryOf(tally));
         } else if (m_request.quiet) {
             ShowProblems();
+            if (m_summary.wasStopped)
+                Complain("interrupted: " + Ui::SummaryOf(tally) + Ending(isStopped));
         } else {
             const auto rowOf = [this](std::size_t index) {
                 return Ui::RowOf(List(), m_outcome, index);
@@ -259,19 +271,18 @@ private:
             Ui::WriteTable(output, m_outcome.decisions.size(), rowOf, Ui::StyleOfOutput());
             output << Ui::SummaryOf(tally) << Ending(isStopped);
         }
-        output.Flush();
-        if (output.HasFailed())
-            return ExitCode::Output;
         const bool isWhole =
             tally[Model::Status::Refused] + tally[Model::Status::Failed] + tally[Model::Status::NotReached] == 0;
-        return isWhole && m_collected.problems.empty() ? ExitCode::Success : ExitCode::Partly;
+        return Finish(output, isWhole && m_collected.problems.empty() ? ExitCode::Success : ExitCode::Partly);
     }
 
+    /// Entries that were not reached are only counted: they may be very many, and nothing is wrong with them.
     void ShowProblems() const
     {
         for (std::size_t index = 0; index < m_outcome.decisions.size(); ++index) {
             const Model::Decision& decision = m_outcome.decisions[index];
-            if (decision.IsRename() || decision.status == Model::Status::Unchanged)
+            if (decision.IsRename() || decision.status == Model::Status::Unchanged ||
+                decision.status == Model::Status::NotReached)
                 continue;
             const Model::Entry& entry = m_collected.list.entries[index];
             const std::string reason = Ui::ReasonFor(m_outcome, index);

@@ -39,7 +39,7 @@ struct Given
     const RuleOption* option;
     std::vector<CString> values;
     Rename::NumberSettings number;
-    std::optional<std::vector<Rename::DateSource>> dates;
+    std::optional<std::vector<Model::DateSource>> dates;
 };
 
 /// Makes rules of the one value.
@@ -59,8 +59,7 @@ constexpr RuleOption Options[] = {
      "A date of the file: \"yyyy-MM-dd HHmmss\". <Name> keeps the old name, <Make> and <Model> are the camera, "
      "<Folder> ends the name of a folder to move into",
      [](const Given& given) {
-         return Rename::DateRules(given.values.front(),
-                                  given.dates.value_or(std::vector{Rename::DateSource::Modified}));
+         return Rename::DateRules(given.values.front(), given.dates.value_or(std::vector{Model::DateSource::Modified}));
      }},
     {"--replace", "FIND WITH", 2, "Put WITH in place of every FIND (upper and lower case differ)",
      [](const Given& given) {
@@ -82,7 +81,7 @@ constexpr RuleOption Options[] = {
     {"--extension", "NEW", 1, "Change the extension to NEW (files only)", FromValue<Rename::ExtensionRules>},
     {"--extension-case", "upper|lower", 1, "Make the extension's letters capital or small",
      FromValue<Rename::ExtensionCaseRules>},
-    {"--drop-extension", "", 0, "Take the extension away",
+    {"--drop-extension", "", 0, "Remove the extension",
      [](const Given&) {
          return Rename::DropExtensionRules();
      }},

@@ -21,9 +21,9 @@ CLI::App& AddCommand(CLI::App& program, FolderCopy::TransferAction action)
 }
 
 constexpr const char* Terms =
-    "Nothing is overwritten: while anything is in the way, nothing is done at all. A folder of\n"
-    "the same name at the destination takes up the entries. Links are not followed. A folder\n"
-    "that is begun is brought to its end, Ctrl-C or not; \"vyr undo\" does not undo it.\n\n";
+    "Nothing is overwritten: while anything is in the way, nothing is done at all. A folder of the same name at the "
+    "destination takes up the entries. Links are not followed. A folder that is begun is brought to its end, Ctrl-C or "
+    "not; \"vyr undo\" does not undo it.\n\n";
 
 } // namespace
 

@@ -69,7 +69,7 @@ public:
         if (m_batch.CreationError() != 0)
             Complain("warning: folders do not keep their creation times there: " +
                      Text::SafeText(Text::ErrorText(m_batch.CreationError())));
-        return output.HasFailed() ? ExitCode::Output : Judge();
+        return Finish(output, Judge());
     }
 
 private:

@@ -65,8 +65,7 @@ int UndoCommand::Run() const
     if (m_list) {
         Ui::OutputBuffer output;
         m_json ? Ui::WriteBatchJson(output, known) : Ui::WriteBatchLines(output, known);
-        output.Flush();
-        return output.HasFailed() ? ExitCode::Output : ExitCode::Success;
+        return Finish(output, ExitCode::Success);
     }
     if (const auto cutOff = batches.FindCutOff()) {
         Complain(CutOffNotice(*cutOff) + "; nothing was done");

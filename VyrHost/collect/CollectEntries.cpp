@@ -4,9 +4,10 @@
 #include <VyrHost/collect/NameReader.h>
 #include <VyrHost/collect/Wildcard.h>
 #include <VyrHost/text/FolderPart.h>
+#include <VyrHost/text/NormalForm.h>
 #include <VyrHost/text/SafeText.h>
+#include <VyrHost/text/StandardInput.h>
 #include <VyrHost/text/UsageError.h>
-#include <VyrHostPlatform/Console.h>
 #include <VyrHostPlatform/FullPath.h>
 #include <VyrHostPlatform/NameFolding.h>
 #include <VyrLibraryUtils/FileUtils.h>
@@ -109,9 +110,7 @@ private:
         const auto add = [this](const CString& path) {
             Add(path, false);
         };
-        for (std::string piece = VyrHostPlatform::Console::ReadInput(); !piece.empty();
-             piece = VyrHostPlatform::Console::ReadInput())
-            reader.Read(piece, add);
+        Text::ReadStandardInput([&reader, &add](std::string_view piece) { reader.Read(piece, add); });
         reader.Finish(add);
     }
 
@@ -144,7 +143,7 @@ private:
     void AddNamed(std::uint32_t folder, const CString& name, bool mayBePattern)
     {
         m_namedIn.insert(folder);
-        Model::NameRecord* const record = List().folders[folder].names.Find(name);
+        Model::NameRecord* const record = FindNamed(folder, name);
         if (!record) {
             if (mayBePattern && IsPattern(name) && AddMatches(folder, name))
                 return;
@@ -152,6 +151,25 @@ private:
             return;
         }
         AddSource(folder, *record);
+    }
+
+    /// The record of `name` as it is written, else in whatever normal form; null when there is none.
+    Model::NameRecord* FindNamed(std::uint32_t folder, const CString& name)
+    {
+        Model::NameTable& names = List().folders[folder].names;
+        if (Model::NameRecord* const record = names.Find(name))
+            return record;
+        const CString composed = Text::Composed(name);
+        if (Model::NameRecord* const record = names.Find(composed))
+            return record;
+        const auto [known, isNew] = m_decomposed.try_emplace(folder);
+        auto& records = known->second;
+        if (isNew)
+            for (Model::NameRecord& record : names.Records())
+                if (const CString own(record.name.View()); !Text::IsComposed(own))
+                    records.emplace(Text::Composed(own), &record);
+        const auto found = records.find(composed);
+        return found == records.end() ? nullptr : found->second;
     }
 
     /// Adds what stands at a name; with recursion what is below it, where that is a folder.
@@ -178,11 +196,13 @@ private:
     bool AddMatches(std::uint32_t folder, const CString& pattern)
     {
         Model::NameTable& names = List().folders[folder].names;
-        const CString folded = VyrHostPlatform::FoldName(pattern, names.Folding());
+        const auto keyOf = [&names](const CString& name) {
+            return Text::Composed(VyrHostPlatform::FoldName(name, names.Folding()));
+        };
+        const CString folded = keyOf(pattern);
         bool matched = false;
         for (Model::NameRecord& record : names.Records()) {
-            if (IsShown(record) &&
-                MatchesPattern(folded, VyrHostPlatform::FoldName(record.name.View(), names.Folding()))) {
+            if (IsShown(record) && MatchesPattern(folded, keyOf(record.name.View()))) {
                 AddSource(folder, record);
                 matched = true;
             }
@@ -265,6 +285,8 @@ private:
     /// The folder that the last name was in, as the user wrote it: names of one folder mostly follow each other.
     CString m_parentText;
     std::uint32_t m_parent = Model::NoEntry;
+    /// By folder and by their composed forms: the records of names that are not composed.
+    std::unordered_map<std::uint32_t, std::unordered_map<CString, Model::NameRecord*>> m_decomposed;
     /// The folders that entries were named in.
     std::unordered_set<std::uint32_t> m_namedIn;
     /// The folders that were named themselves, as the user named them.

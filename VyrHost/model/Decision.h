@@ -2,6 +2,7 @@
 /// What a preview says of one entry.
 #pragma once
 
+#include <VyrHost/model/DateSource.h>
 #include <VyrHost/model/NamePool.h>
 #include <VyrHostPlatform/NameRules.h>
 #include <VyrPlatform/text/CString.h>
@@ -43,6 +44,8 @@ enum class Reason : std::uint8_t
     /// The entry's folder, or the one that it would move into, cannot be read.
     FolderNotRead,
     NoDate,
+    /// The picture whose date or camera was asked for cannot be read; the cause says why.
+    PictureNotRead,
     /// The rules give a folder to move into no name that a folder can have on any system.
     NamelessFolder,
     /// A folder to move into cannot be made: its name is none for this system, or something else has it.
@@ -80,6 +83,8 @@ struct Decision
     Reason reason = Reason::None;
     /// What the new name would be in trouble for on Windows, on a system that takes it.
     VyrHostPlatform::NameFault warning = VyrHostPlatform::NameFault::None;
+    /// The dates that rules with a choice took for it.
+    DateSourceSet datesTaken = {};
 
     void Refuse(Reason why)
     {

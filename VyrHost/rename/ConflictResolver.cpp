@@ -128,7 +128,7 @@ private:
             bool areFree = true;
             for (std::size_t place = 0; place < m_members.size(); ++place) {
                 const std::uint32_t entry = m_members[place];
-                candidates[place] = names[place].With(m_settings.numbering, attempt);
+                candidates[place] = names[place].With(m_settings.numbering, m_settings.digits, attempt);
                 if (const Model::Reason reason = ValidateName(candidates[place], m_list.entries[entry].name).reason;
                     reason != Model::Reason::None) {
                     Stay(Model::Status::Refused, reason);

@@ -1,6 +1,7 @@
 // Chooses the date, lets the engine write it, and puts in camera and folders.
 #include <VyrHost/rename/DateRule.h>
 
+#include <VyrHost/rename/PictureAccess.h>
 #include <VyrHost/rename/Tokens.h>
 #include <VyrLibraryUtils/ImageUtils.h>
 #include <VyrPlatform/files/FileSystem.h>
@@ -37,9 +38,38 @@ CString AsNamePart(const CString& text)
     return std::u16string_view(part);
 }
 
+/// Whether a name begins or ends where a text does.
+struct Edges
+{
+    bool isStart;
+    bool isEnd;
+};
+
+/// Puts `value` in place of every `token`. Where it is empty, a blank beside the token goes too, unless that would join
+/// two words.
+CString PutIn(const CString& text, std::u16string_view token, std::u16string_view value, Edges edges)
+{
+    std::u16string result;
+    std::u16string_view rest = text;
+    for (std::size_t found = rest.find(token); found != std::u16string_view::npos; found = rest.find(token)) {
+        result.append(rest.substr(0, found)).append(value);
+        rest.remove_prefix(found + token.size());
+        if (!value.empty())
+            continue;
+        const bool isBehindBlank = result.ends_with(u' ');
+        const bool begins = result.empty() ? edges.isStart : result.ends_with(Token::Folder);
+        const bool ends = rest.empty() ? edges.isEnd : rest.starts_with(Token::Folder);
+        if (rest.starts_with(u' ') && (isBehindBlank || begins))
+            rest.remove_prefix(1);
+        else if (isBehindBlank && ends)
+            result.pop_back();
+    }
+    return std::u16string_view(result.append(rest));
+}
+
 } // namespace
 
-DateRule::DateRule(NameFuncs::ITEM settings, std::vector<DateSource> sources)
+DateRule::DateRule(NameFuncs::ITEM settings, std::vector<Model::DateSource> sources)
     : EngineRule(std::move(settings)), m_sources(std::move(sources)),
       m_hasMake(m_item.dateTimeFormat.Find(Token::Make) >= 0),
       m_hasModel(m_item.dateTimeFormat.Find(Token::Model) >= 0),
@@ -49,21 +79,17 @@ DateRule::DateRule(NameFuncs::ITEM settings, std::vector<DateSource> sources)
 RuleFault DateRule::Apply(Subject& subject)
 {
     const CString oldName = subject.name;
-    if (!ComputeDated(subject))
-        return RuleFault::NoDate;
-    if (!m_hasMake && !m_hasModel && !m_hasFolder)
-        return RuleFault::None;
+    RuleFault fault = ComputeDated(subject);
+    if (fault != RuleFault::None || (!m_hasMake && !m_hasModel && !m_hasFolder))
+        return fault;
 
     const int oldLength = m_item.dateTimePosition == 0 ? 0 : oldName.GetLength();
     const int textLength = subject.name.GetLength() - oldLength;
-    CString text =
+    subject.name =
         m_item.dateTimePosition == AfterName ? subject.name.Right(textLength) : subject.name.Left(textLength);
-    if (m_hasMake)
-        text.Replace(Token::Make, AsNamePart(ImageUtils::GetEquipMake(subject.path)));
-    if (m_hasModel)
-        text.Replace(Token::Model, AsNamePart(ImageUtils::GetEquipModel(subject.path)));
-    subject.name = text;
-    const RuleFault fault = m_hasFolder ? TakeFolders(subject) : RuleFault::None;
+    fault = PutInCamera(subject, subject.name);
+    if (fault == RuleFault::None && m_hasFolder)
+        fault = TakeFolders(subject);
     if (m_item.dateTimePosition == BeforeName)
         subject.name += oldName;
     else if (m_item.dateTimePosition == AfterName)
@@ -71,7 +97,7 @@ RuleFault DateRule::Apply(Subject& subject)
     return fault;
 }
 
-bool DateRule::ComputeDated(Subject& subject)
+RuleFault DateRule::ComputeDated(Subject& subject)
 {
     const CString oldName = subject.name;
     const int oldLength = m_item.dateTimePosition == 0 ? 0 : oldName.GetLength();
@@ -81,11 +107,29 @@ bool DateRule::ComputeDated(Subject& subject)
         // The engine writes nothing for a date that is not there.
         if (subject.name.GetLength() > oldLength) {
             subject.dateRank = std::max(subject.dateRank, rank);
-            return true;
+            if (m_sources.size() > 1)
+                subject.datesTaken.Add(m_sources[rank]);
+            return RuleFault::None;
         }
         subject.name = oldName;
+        if (m_sources[rank] == Model::DateSource::Picture && PictureReadError(subject.path) != 0) {
+            subject.dateRank = std::max(subject.dateRank, rank);
+            return RuleFault::PictureNotRead;
+        }
     }
-    return false;
+    return RuleFault::NoDate;
+}
+
+RuleFault DateRule::PutInCamera(const Subject& subject, CString& text) const
+{
+    const CString make = m_hasMake ? AsNamePart(ImageUtils::GetEquipMake(subject.path)) : CString();
+    const CString model = m_hasModel ? AsNamePart(ImageUtils::GetEquipModel(subject.path)) : CString();
+    const bool isSilent = (m_hasMake && make.IsEmpty()) || (m_hasModel && model.IsEmpty());
+    if (isSilent && PictureReadError(subject.path) != 0)
+        return RuleFault::PictureNotRead;
+    const Edges edges{m_item.dateTimePosition != AfterName, m_item.dateTimePosition != BeforeName};
+    text = PutIn(PutIn(text, Token::Make, make, edges), Token::Model, model, edges);
+    return RuleFault::None;
 }
 
 RuleFault DateRule::TakeFolders(Subject& subject)

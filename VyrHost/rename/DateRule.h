@@ -2,38 +2,33 @@
 /// The rule that puts a date of the entry into its name.
 #pragma once
 
+#include <VyrHost/model/DateSource.h>
 #include <VyrHost/rename/EngineRule.h>
 
 #include <vector>
 
 namespace VyrHost::Rename {
 
-/// The dates of an entry, by the numbers of ITEM::dateTimeTarget.
-enum class DateSource : int
-{
-    Modified,
-    Created,
-    Accessed,
-    Picture
-};
-
 /// Writes the first date that an entry has, of those asked for, and puts in what the tokens stand for: "<Make>" and
-/// "<Model>" the camera, "<Folder>" a step down into a folder.
+/// "<Model>" the camera, "<Folder>" a step down into a folder. A blank beside a "<Make>" or "<Model>" that the picture
+/// does not tell goes with it. A picture that cannot be read is a fault, not one without a date.
 class DateRule : public EngineRule
 {
 public:
     /// `settings` is a record of the kind DateTime with its format and position.
-    DateRule(VyrLibraryFuncs::NameFuncs::ITEM settings, std::vector<DateSource> sources);
+    DateRule(VyrLibraryFuncs::NameFuncs::ITEM settings, std::vector<Model::DateSource> sources);
 
     RuleFault Apply(Subject& subject) override;
 
 private:
-    /// False when none of the dates is there.
-    [[nodiscard]] bool ComputeDated(Subject& subject);
+    /// Puts the first date that is there into the name.
+    [[nodiscard]] RuleFault ComputeDated(Subject& subject);
+    /// Puts the camera into `text`, which stands in the new name where the record says.
+    [[nodiscard]] RuleFault PutInCamera(const Subject& subject, CString& text) const;
     /// Moves the subject down the folders that its name begins with.
     static RuleFault TakeFolders(Subject& subject);
 
-    std::vector<DateSource> m_sources;
+    std::vector<Model::DateSource> m_sources;
     bool m_hasMake;
     bool m_hasModel;
     bool m_hasFolder;

@@ -2,6 +2,7 @@
 #include <VyrHost/rename/RuleTexts.h>
 
 #include <VyrHost/rename/LiteralText.h>
+#include <VyrHost/rename/TemplateTokens.h>
 #include <VyrHost/rename/Tokens.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/text/UsageError.h>
@@ -28,7 +29,8 @@ enum class DatePosition : int
     AfterName
 };
 
-void Append(Rules& rules, DatePosition position, std::u16string_view format, const std::vector<DateSource>& sources)
+void Append(Rules& rules, DatePosition position, std::u16string_view format,
+            const std::vector<Model::DateSource>& sources)
 {
     if (NameFuncs::GetRenameToSampleFormated(format).IsEmpty())
         Refuse(format, "the format gives no text");
@@ -52,11 +54,12 @@ void RequireFolderNames(std::u16string_view format)
 
 } // namespace
 
-Rules DateRules(const CString& text, const std::vector<DateSource>& sources)
+Rules DateRules(const CString& text, const std::vector<Model::DateSource>& sources)
 {
     constexpr auto None = std::u16string_view::npos;
     const std::u16string_view all = text;
     RequireNameText(all, "--date");
+    RequireDateFormat(all);
     if (all.ends_with(Token::Folder))
         Refuse(all, "no name follows <Folder>; add <Name> to keep the old one");
     RequireFolderNames(all);

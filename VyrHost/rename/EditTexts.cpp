@@ -3,6 +3,7 @@
 
 #include <VyrHost/rename/EditItems.h>
 #include <VyrHost/rename/LiteralText.h>
+#include <VyrHost/text/NormalForm.h>
 #include <VyrHost/text/UsageError.h>
 
 #include <string>
@@ -29,6 +30,24 @@ Rules One(NameFuncs::ITEM item)
     rules.push_back(std::make_unique<EngineRule>(std::move(item)));
     return rules;
 }
+
+/// Finds the text in whatever normal form the name is written.
+class ReplaceRule final : public EngineRule
+{
+public:
+    explicit ReplaceRule(NameFuncs::ITEM settings) : EngineRule(std::move(settings))
+    {
+        m_item.findText = Text::Composed(m_item.findText);
+    }
+
+    RuleFault Apply(Subject& subject) override
+    {
+        if (Text::IsComposed(subject.name))
+            return EngineRule::Apply(subject);
+        subject.name = Text::ReplaceComposed(subject.name, m_item.findText, m_item.replaceText);
+        return RuleFault::None;
+    }
+};
 
 Rules DeleteRule(DeleteType type, int position, int count)
 {
@@ -154,7 +173,9 @@ Rules ReplaceRules(const CString& find, const CString& replacement)
     NameFuncs::ITEM item = NewItem(RenameKind::Replace);
     item.findText = find;
     item.replaceText = replacement;
-    return One(std::move(item));
+    Rules rules;
+    rules.push_back(std::make_unique<ReplaceRule>(std::move(item)));
+    return rules;
 }
 
 Rules ExtensionRules(const CString& text)

@@ -22,6 +22,8 @@ struct WantedName
     CString name;
     /// Why there is no name.
     Model::Reason reason = Model::Reason::None;
+    /// The dates that rules with a choice took for it.
+    Model::DateSourceSet datesTaken = {};
 };
 
 class NameSource

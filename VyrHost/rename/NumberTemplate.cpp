@@ -3,6 +3,7 @@
 
 #include <VyrHost/rename/EditItems.h>
 #include <VyrHost/rename/LiteralText.h>
+#include <VyrHost/rename/TemplateTokens.h>
 #include <VyrHost/rename/Tokens.h>
 #include <VyrHost/text/UsageError.h>
 
@@ -130,6 +131,7 @@ Rules NumberRules(const CString& text, const NumberSettings& settings)
 {
     const std::u16string_view all = text;
     RequireNameText(all, "--number");
+    RequireNumberTokens(all);
     const NumberSpot spot = FindNumber(all);
     NameFuncs::ITEM number = NewItem(RenameKind::SequenceNumber);
     number.startNumber = settings.start.value_or(1);

@@ -4,12 +4,26 @@
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/StringUtils.h>
 
+#include <algorithm>
 #include <bit>
+#include <string>
 
 namespace VyrHost::Rename {
 
 using VyrLibraryUtils::FileUtils;
 using VyrLibraryUtils::StringUtils;
+
+namespace {
+
+CString NumberText(std::int32_t number, int digits)
+{
+    const CString text = StringUtils::IntNumberToString(number);
+    const int signLength = number < 0 ? 1 : 0;
+    const std::u16string zeros(static_cast<std::size_t>(std::max(digits - text.GetLength() + signLength, 0)), u'0');
+    return CString::Join({text.Left(signLength), zeros, text.Mid(signLength)});
+}
+
+} // namespace
 
 NumberedName::NumberedName(const CString& path, bool isFolder)
     : m_stem(FileUtils::GetSplitFName(path)), m_extension(FileUtils::GetSplitExtension(path, 1))
@@ -20,12 +34,13 @@ NumberedName::NumberedName(const CString& path, bool isFolder)
     }
 }
 
-CString NumberedName::With(const VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering, std::uint64_t attempt) const
+CString NumberedName::With(const VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering, int digits,
+                           std::uint64_t attempt) const
 {
     const std::uint32_t number = static_cast<std::uint32_t>(numbering.startNumber) +
                                  static_cast<std::uint32_t>(attempt) * static_cast<std::uint32_t>(numbering.step);
     CString text = numbering.numberFormat;
-    text.Replace(u"?", StringUtils::IntNumberToString(static_cast<std::int32_t>(number)));
+    text.Replace(u"?", NumberText(static_cast<std::int32_t>(number), digits));
     return numbering.position == 0 ? CString::Join({text, m_stem, m_extension})
                                    : CString::Join({m_stem, text, m_extension});
 }

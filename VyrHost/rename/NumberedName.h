@@ -16,8 +16,10 @@ public:
     /// `path` is the name with its folder; a folder's name is numbered at its end, a file's before its extension.
     NumberedName(const CString& path, bool isFolder);
 
-    /// The name with the number of the attempt `attempt` (from 0).
-    [[nodiscard]] CString With(const VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering, std::uint64_t attempt) const;
+    /// The name with the number of the attempt `attempt` (from 0). The engine has no `digits`: the least number of
+    /// digits, filled up with zeros behind a minus sign.
+    [[nodiscard]] CString With(const VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering, int digits,
+                               std::uint64_t attempt) const;
 
 private:
     CString m_stem;

@@ -18,7 +18,7 @@ public:
     explicit TableReader(std::string_view bytes) : m_rest(Text::SkipByteOrderMark(bytes))
     {
         SkipEmptyLines();
-        m_isTabbed = HasTab(m_rest);
+        m_separator = SeparatorOf(m_rest);
     }
 
     /// The fields of the next line that has any; none at the end.
@@ -42,18 +42,54 @@ public:
     }
 
 private:
-    /// Whether the first line of `rest` has a tab outside the quoted fields of CSV.
-    static bool HasTab(std::string_view rest)
+    /// What separates the fields of the first line of `rest`: a tab where it has one, else a comma, unless only a
+    /// semicolon makes two fields of it.
+    static char SeparatorOf(std::string_view rest)
     {
-        while (rest.starts_with('"')) {
-            std::size_t end = rest.find('"', 1);
-            while (end != std::string_view::npos && rest.substr(end + 1).starts_with('"'))
-                end = rest.find('"', end + 2);
-            if (end == std::string_view::npos || !rest.substr(end + 1).starts_with(','))
-                break;
-            rest.remove_prefix(end + 2);
+        const FirstLine line = CountSeparators(rest);
+        if (line.tabs > 0)
+            return '\t';
+        return line.semicolons == 1 && line.commas != 1 ? ';' : ',';
+    }
+
+    /// How often each separator stands in a line outside the quoted fields of CSV.
+    struct FirstLine
+    {
+        std::size_t tabs = 0;
+        std::size_t commas = 0;
+        std::size_t semicolons = 0;
+    };
+
+    static FirstLine CountSeparators(std::string_view rest)
+    {
+        FirstLine line;
+        bool isFieldStart = true;
+        while (!rest.empty() && rest.front() != '\n') {
+            const std::size_t closed = isFieldStart && rest.starts_with('"') ? QuotedLength(rest) : 0;
+            if (closed > 0) {
+                rest.remove_prefix(closed);
+                isFieldStart = false;
+                continue;
+            }
+            const char byte = rest.front();
+            line.tabs += byte == '\t';
+            line.commas += byte == ',';
+            line.semicolons += byte == ';';
+            isFieldStart = byte == '\t' || byte == ',' || byte == ';';
+            rest.remove_prefix(1);
         }
-        return rest.substr(0, rest.find('\n')).find('\t') != std::string_view::npos;
+        return line;
+    }
+
+    /// How long the quoted field that `rest` begins with is; 0 where it does not end with the field.
+    static std::size_t QuotedLength(std::string_view rest)
+    {
+        std::size_t end = rest.find('"', 1);
+        while (end != std::string_view::npos && rest.substr(end + 1).starts_with('"'))
+            end = rest.find('"', end + 2);
+        const bool isWhole = end != std::string_view::npos &&
+                             (end + 1 == rest.size() || rest.find_first_of(",;\t\r\n", end + 1) == end + 1);
+        return isWhole ? end + 1 : 0;
     }
 
     void SkipEmptyLines()
@@ -62,11 +98,11 @@ private:
             TakeLineEnd();
     }
 
-    std::string TakeField() { return !m_isTabbed && m_rest.starts_with('"') ? TakeQuoted() : TakePlain(); }
+    std::string TakeField() { return m_separator != '\t' && m_rest.starts_with('"') ? TakeQuoted() : TakePlain(); }
 
     std::string TakePlain()
     {
-        const std::size_t end = std::min(m_rest.find_first_of(m_isTabbed ? "\t\n" : ",\n"), m_rest.size());
+        const std::size_t end = std::min(m_rest.find_first_of(std::string{m_separator, '\n'}), m_rest.size());
         std::string_view field = m_rest.substr(0, end);
         m_rest.remove_prefix(end);
         if (m_rest.empty() || m_rest.front() == '\n')
@@ -91,14 +127,14 @@ private:
             field += '"';
             m_rest.remove_prefix(1);
         }
-        if (!m_rest.empty() && m_rest.find_first_of(",\r\n") != 0)
+        if (!m_rest.empty() && m_rest.find_first_of(std::string{m_separator, '\r', '\n'}) != 0)
             Refuse("something follows the end of a field in double quotes");
         return field;
     }
 
     bool TakeSeparator()
     {
-        const bool isThere = m_rest.starts_with(m_isTabbed ? '\t' : ',');
+        const bool isThere = m_rest.starts_with(m_separator);
         m_rest.remove_prefix(isThere ? 1 : 0);
         return isThere;
     }
@@ -111,7 +147,7 @@ private:
     }
 
     std::string_view m_rest;
-    bool m_isTabbed = false;
+    char m_separator = ',';
     std::size_t m_line = 1;
     /// The line that the fields in hand began in.
     std::size_t m_firstLine = 1;
@@ -139,7 +175,9 @@ std::vector<NamePair> ParsePairs(std::string_view bytes)
     std::vector<NamePair> pairs;
     for (std::vector<std::string> fields = table.NextLine(); !fields.empty(); fields = table.NextLine()) {
         if (fields.size() != 2)
-            table.Refuse("two fields are expected, the old and the new name");
+            table.Refuse(
+                "two fields are expected, the old and the new name, separated by a comma, a semicolon or a tab; " +
+                std::string("the first line decides which"));
         if (std::any_of(fields.begin(), fields.end(), IsNameless))
             table.Refuse("a name is empty or holds a NUL");
         pairs.push_back(

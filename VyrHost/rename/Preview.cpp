@@ -68,6 +68,7 @@ private:
             decision.status = Model::Status::Unchanged;
             return;
         }
+        decision.datesTaken = wanted.datesTaken;
         decision.name = m_list.folders.Intern(wanted.name);
         const NameValidity validity = ValidateName(decision.name, entry.name);
         decision.warning = validity.warning;

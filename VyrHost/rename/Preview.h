@@ -30,6 +30,8 @@ struct ConflictSettings
     OnConflict mode = OnConflict::Number;
     /// Its pattern has a "?", its position is 0 or 1 and its step is not 0: else no free name might be found.
     VyrLibraryFuncs::NameFuncs::CONFLICTITEM numbering;
+    /// The least number of digits, 0 to 255.
+    int digits = 0;
 };
 
 /// Told now and then how many entries have their names.

@@ -2,6 +2,7 @@
 /// A rule: what it works on, and what it may answer.
 #pragma once
 
+#include <VyrHost/model/DateSource.h>
 #include <VyrPlatform/text/CString.h>
 
 #include <cstddef>
@@ -27,6 +28,8 @@ struct Subject
 
     /// How late among the dates asked for the one stands that a rule took: 0 for the first, the highest of all rules.
     std::size_t dateRank = 0;
+    /// The dates that rules with a choice took.
+    Model::DateSourceSet datesTaken = {};
 };
 
 /// Why a rule has no name for an entry.
@@ -35,6 +38,8 @@ enum class RuleFault : std::uint8_t
     None,
     /// None of the dates that were asked for exists.
     NoDate,
+    /// The picture whose date or camera was asked for cannot be read.
+    PictureNotRead,
     /// A folder to move into would be named "", "." or "..".
     NamelessFolder
 };

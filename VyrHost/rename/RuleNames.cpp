@@ -2,6 +2,7 @@
 #include <VyrHost/rename/RuleNames.h>
 
 #include <algorithm>
+#include <optional>
 
 namespace VyrHost::Rename {
 
@@ -14,6 +15,8 @@ Model::Reason ReasonOf(RuleFault fault)
     switch (fault) {
     case RuleFault::NoDate:
         return Model::Reason::NoDate;
+    case RuleFault::PictureNotRead:
+        return Model::Reason::PictureNotRead;
     case RuleFault::NamelessFolder:
         return Model::Reason::NamelessFolder;
     case RuleFault::None:
@@ -52,13 +55,23 @@ void RuleNames::NameTogether(const Model::EntryList& list, std::span<const std::
 {
     const Model::Entry* leader = nullptr;
     Subject made;
+    std::optional<std::size_t> rankNotRead;
     for (std::size_t place = 0; place < members.size() && (!leader || made.dateRank > 0); ++place) {
         const Model::Entry& entry = list.entries[members[place]];
         names[place].reason = ReasonOf(Run(list, entry, index, entry));
+        if (names[place].reason == Model::Reason::PictureNotRead)
+            rankNotRead = std::min(rankNotRead.value_or(m_subject.dateRank), m_subject.dateRank);
         if (names[place].reason == Model::Reason::None && (!leader || m_subject.dateRank < made.dateRank)) {
             leader = &entry;
             made = m_subject;
         }
+    }
+    // The picture that cannot be read might have told a better date.
+    if (leader && rankNotRead && *rankNotRead < made.dateRank) {
+        for (WantedName& name : names)
+            if (name.reason != Model::Reason::PictureNotRead)
+                name.reason = Model::Reason::CompanionRefused;
+        return;
     }
     if (!leader)
         return;
@@ -98,6 +111,7 @@ RuleFault RuleNames::Run(const Model::EntryList& list, const Model::Entry& entry
     m_subject.isFolder = entry.kind == Kind::Folder;
     m_subject.index = index;
     m_subject.dateRank = 0;
+    m_subject.datesTaken = {};
     for (const auto& rule : m_rules)
         if (const RuleFault fault = rule->Apply(m_subject); fault != RuleFault::None)
             return fault;
@@ -117,6 +131,7 @@ WantedName RuleNames::Wanted(const Model::EntryList& list, const Model::Entry& e
     if (wanted.folder != now.path)
         wanted.shownFolder = now.shown + m_subject.folder.Mid(now.path.GetLength());
     wanted.name = m_subject.name + m_subject.extension;
+    wanted.datesTaken = m_subject.datesTaken;
     return wanted;
 }
 

@@ -8,9 +8,9 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <limits>
 #include <string>
-#include <utility>
 
 namespace VyrHost::Rename {
 
@@ -38,25 +38,31 @@ int ParseNumber(const CString& text, int least, const char* what)
     return number;
 }
 
-std::vector<DateSource> ParseDateSources(const CString& text)
+int ParseDigits(const CString& text, const char* option)
 {
-    constexpr std::pair<std::u16string_view, DateSource> Names[] = {{u"modified", DateSource::Modified},
-                                                                    {u"created", DateSource::Created},
-                                                                    {u"accessed", DateSource::Accessed},
-                                                                    {u"picture", DateSource::Picture}};
-    std::vector<DateSource> sources;
+    constexpr int most = 255;
+    const int digits = ParseNumber(text, 0, option);
+    if (digits > most)
+        Text::RefuseValue(option, text, "more than 255 digits");
+    return digits;
+}
+
+std::vector<Model::DateSource> ParseDateSources(const CString& text)
+{
+    std::vector<Model::DateSource> sources;
     std::u16string_view rest = text;
     for (bool more = true; more;) {
         const std::size_t end = rest.find(u',');
         const std::u16string_view word = rest.substr(0, end);
         const auto* const found =
-            std::find_if(std::begin(Names), std::end(Names), [word](const auto& name) { return name.first == word; });
-        if (found == std::end(Names))
+            std::find_if(std::begin(Model::DateSourceWords), std::end(Model::DateSourceWords),
+                         [word](const Model::DateSourceWord& known) { return known.word == word; });
+        if (found == std::end(Model::DateSourceWords))
             Text::RefuseValue("--date-from", text,
-                              "a list of picture, modified, created and accessed is expected, parted by commas");
-        if (std::find(sources.begin(), sources.end(), found->second) != sources.end())
+                              "a list of picture, modified, created and accessed is expected, separated by commas");
+        if (std::find(sources.begin(), sources.end(), found->source) != sources.end())
             Text::RefuseValue("--date-from", text, Text::SafeText(word) + " is named twice");
-        sources.push_back(found->second);
+        sources.push_back(found->source);
         more = end != std::u16string_view::npos;
         rest.remove_prefix(more ? end + 1 : rest.size());
     }

@@ -26,7 +26,7 @@ struct NumberSettings
 [[nodiscard]] Rules NumberRules(const CString& text, const NumberSettings& settings);
 
 /// A date format in which "<Name>", the name so far, may stand once.
-[[nodiscard]] Rules DateRules(const CString& text, const std::vector<DateSource>& sources);
+[[nodiscard]] Rules DateRules(const CString& text, const std::vector<Model::DateSource>& sources);
 
 /// "PLACE:TEXT" puts TEXT in: PLACE counts from the start, with a minus sign from the end ("-0" is the end).
 [[nodiscard]] Rules InsertRules(const CString& text);
@@ -51,7 +51,9 @@ struct NumberSettings
 [[nodiscard]] Rules DropExtensionRules();
 
 /// The dates named in "picture,modified" and the like, in that order.
-[[nodiscard]] std::vector<DateSource> ParseDateSources(const CString& text);
+[[nodiscard]] std::vector<Model::DateSource> ParseDateSources(const CString& text);
+/// A number of digits, 0 to 255, given with `option`.
+[[nodiscard]] int ParseDigits(const CString& text, const char* option);
 /// A whole number in decimal, from `least` on. `what` names it in the message.
 [[nodiscard]] int ParseNumber(const CString& text, int least, const char* what);
 

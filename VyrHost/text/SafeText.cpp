@@ -7,13 +7,10 @@
 #include <VyrPlatform/text/Surrogates.h>
 
 #include <algorithm>
-#include <vector>
 
 namespace VyrHost::Text {
 
 namespace {
-
-constexpr char16_t Ellipsis[] = u"…";
 
 /// Whether `text` is printable ASCII throughout.
 bool IsAllPlain(std::u16string_view text)
@@ -77,16 +74,6 @@ void Append(std::string& shown, const Glyph& glyph)
         VyrPlatform::Encoding::AppendUtf8(shown, glyph.units);
 }
 
-/// How many of `glyphs`, taken in order, fit into `width`.
-template <class Iterator>
-std::ptrdiff_t CountFitting(Iterator begin, Iterator end, int width)
-{
-    std::ptrdiff_t count = 0;
-    for (Iterator glyph = begin; glyph != end && glyph->width <= width; ++glyph, ++count)
-        width -= glyph->width;
-    return count;
-}
-
 } // namespace
 
 void AppendSafeText(std::string& line, std::u16string_view text)
@@ -117,31 +104,6 @@ int SafeWidth(std::u16string_view text)
     while (!text.empty())
         width += TakeGlyph(text).width;
     return width;
-}
-
-std::string FittedText(std::u16string_view text, int width)
-{
-    if (const int left = width - SafeWidth(text); left >= 0)
-        return SafeText(text).append(static_cast<std::size_t>(left), ' ');
-    std::vector<Glyph> glyphs;
-    while (!text.empty())
-        glyphs.push_back(TakeGlyph(text));
-    int left = std::max(width - 1, 0);
-    const auto front = glyphs.begin() + CountFitting(glyphs.begin(), glyphs.end(), (left + 1) / 2);
-    auto back = glyphs.end() - CountFitting(glyphs.rbegin(), glyphs.rend(), left / 2);
-    // What is drawn over a character that is cut off goes with it.
-    while (back != glyphs.end() && back->width == 0)
-        ++back;
-    std::string shown;
-    const auto append = [&shown, &left](const Glyph& glyph) {
-        Append(shown, glyph);
-        left -= glyph.width;
-    };
-    std::for_each(glyphs.begin(), front, append);
-    if (width > 0)
-        shown += VyrPlatform::Encoding::ToUtf8(Ellipsis);
-    std::for_each(back, glyphs.end(), append);
-    return shown.append(static_cast<std::size_t>(left), ' ');
 }
 
 } // namespace VyrHost::Text

@@ -17,7 +17,4 @@ void AppendSafeText(std::string& line, std::u16string_view text);
 /// How many columns SafeText(text) takes.
 [[nodiscard]] int SafeWidth(std::u16string_view text);
 
-/// SafeText(text) in exactly `width` columns: blanks behind it, or an ellipsis for its middle where it is longer.
-[[nodiscard]] std::string FittedText(std::u16string_view text, int width);
-
 } // namespace VyrHost::Text

@@ -108,6 +108,7 @@ void WriteJsonLines(OutputBuffer& output, const Model::EntryList& list, const Mo
         line += WordFor(decision.status);
         line += '"';
         AppendField(line, "reason", ReasonFor(outcome, index));
+        AppendField(line, "dateFrom", decision.IsRename() ? WordsFor(decision.datesTaken) : "");
         AppendField(line, "warning", decision.IsRename() ? WarningFor(decision.warning) : "");
         line += "}\n";
         output << line;

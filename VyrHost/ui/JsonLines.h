@@ -19,7 +19,7 @@ void AppendJsonText(std::string& line, std::u16string_view text);
 void AppendJsonField(std::string& line, std::string_view name, std::u16string_view text);
 
 /// Writes one object for each entry: `from` and `to` (full paths; `to` is null where the rules give no name), `status`,
-/// and `reason` or `warning` where there is one.
+/// `reason` or `warning` where there is one, and `dateFrom`, the dates taken, where --date-from gave a choice.
 void WriteJsonLines(OutputBuffer& output, const Model::EntryList& list, const Model::Outcome& outcome);
 
 } // namespace VyrHost::Ui

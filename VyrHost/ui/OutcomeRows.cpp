@@ -5,6 +5,7 @@
 #include <VyrPlatform/text/Encoding.h>
 
 #include <string>
+#include <string_view>
 
 namespace VyrHost::Ui {
 
@@ -19,18 +20,27 @@ ShownName NewName(const Model::EntryList& list, const Model::Entry& entry, const
     return {list.folders[decision.folder].shown, decision.name};
 }
 
+void AppendRemark(std::string& note, std::string_view what, std::string_view words)
+{
+    if (!words.empty())
+        note.append(note.empty() ? "" : "; ").append(what).append(words);
+}
+
 CString NoteFor(const Model::Outcome& outcome, std::size_t index)
 {
     const Model::Decision& decision = outcome.decisions[index];
-    if (decision.status == Model::Status::Renamed && decision.warning == VyrHostPlatform::NameFault::None)
+    const bool hasWarning = decision.warning != VyrHostPlatform::NameFault::None;
+    if (decision.status == Model::Status::Renamed && !hasWarning && decision.datesTaken.IsEmpty())
         return {};
     std::string note;
     if (decision.status != Model::Status::Renamed)
         note = WordFor(decision.status);
     if (const std::string reason = ReasonFor(outcome, index); !reason.empty())
         note.append(": ").append(reason);
-    if (decision.warning != VyrHostPlatform::NameFault::None && decision.IsRename())
-        note.append(note.empty() ? "" : "; ").append("warning: ").append(WarningFor(decision.warning));
+    if (decision.IsRename()) {
+        AppendRemark(note, "date: ", WordsFor(decision.datesTaken));
+        AppendRemark(note, "warning: ", WarningFor(decision.warning));
+    }
     return VyrPlatform::Encoding::FromUtf8(note);
 }
 

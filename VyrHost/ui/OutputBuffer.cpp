@@ -7,8 +7,8 @@ namespace VyrHost::Ui {
 
 void OutputBuffer::Flush()
 {
-    if (!m_text.empty() && !m_hasFailed)
-        m_hasFailed = !VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Output, m_text);
+    if (!m_text.empty() && m_error == 0)
+        m_error = VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Output, m_text);
     m_text.clear();
 }
 

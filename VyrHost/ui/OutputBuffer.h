@@ -2,6 +2,7 @@
 /// The standard output in big pieces.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -25,13 +26,15 @@ public:
     }
     void Flush();
     /// Whether the system refused something (a closed pipe, a full disk); nothing is written from then on.
-    [[nodiscard]] bool HasFailed() const { return m_hasFailed; }
+    [[nodiscard]] bool HasFailed() const { return m_error != 0; }
+    /// Why (the system's code); 0 when nothing was refused.
+    [[nodiscard]] std::uint32_t Error() const { return m_error; }
 
 private:
     static constexpr std::size_t FlushSize = std::size_t{1} << 18;
 
     std::string m_text;
-    bool m_hasFailed = false;
+    std::uint32_t m_error = 0;
 };
 
 } // namespace VyrHost::Ui

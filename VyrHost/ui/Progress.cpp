@@ -1,6 +1,7 @@
 // Draws a bar over itself.
 #include <VyrHost/ui/Progress.h>
 
+#include <VyrHost/ui/Terminal.h>
 #include <VyrHostPlatform/Console.h>
 
 #include <algorithm>
@@ -26,8 +27,8 @@ std::string Bar(std::size_t done, std::size_t total)
 } // namespace
 
 Progress::Progress(std::string what, std::size_t total, bool isSilent)
-    : m_what(std::move(what)), m_total(total),
-      m_isShown(!isSilent && VyrHostPlatform::Console::IsTerminal(Stream::Error)), m_next(Clock::now() + Patience)
+    : m_what(std::move(what)), m_total(total), m_isShown(!isSilent && ObeysEscapes(Stream::Error)),
+      m_next(Clock::now() + Patience)
 {}
 
 Progress::~Progress()

@@ -1,7 +1,8 @@
-// Lays rows out in three columns that fit the terminal.
+// Lays rows out in three columns, and a row that does not fit the terminal in lines.
 #include <VyrHost/ui/Table.h>
 
 #include <VyrHost/text/SafeText.h>
+#include <VyrHost/ui/Terminal.h>
 #include <VyrHostPlatform/Console.h>
 #include <VyrPlatform/process/Process.h>
 
@@ -60,8 +61,9 @@ Widths NaturalWidths(std::size_t count, const RowOfTable& rowOf)
     return widths;
 }
 
-/// Shrinks what does not fit: the note to half the row at most, the names share the rest as they need it.
-Widths FittedWidths(Widths widths, int rowWidth)
+/// How wide the columns are made: where not all fit, the note gets half the row at most, and the names share the rest
+/// as they need it.
+Widths ColumnWidths(Widths widths, int rowWidth)
 {
     if (rowWidth == 0)
         return {std::min(widths.from, MostPadding), std::min(widths.to, MostPadding), 0};
@@ -90,41 +92,80 @@ public:
 
     void Write(const TableRow& row)
     {
-        const std::string_view colour = m_style.inColour ? ColourOf(row.tone) : std::string_view();
-        m_line = colour;
-        AppendName(row.from, m_widths.from);
+        m_colour = m_style.inColour ? ColourOf(row.tone) : std::string_view();
+        const Widths own{WidthOf(row.from), WidthOf(row.to), Text::SafeWidth(row.note)};
+        if (Fits(own, m_widths))
+            WriteLine(row, m_widths);
+        else if (Fits(own, own))
+            WriteLine(row, own);
+        else
+            WriteLines(row);
+    }
+
+private:
+    /// Whether a row of the widths `own` fits into the terminal when its columns are `columns` wide at least.
+    [[nodiscard]] bool Fits(const Widths& own, const Widths& columns) const
+    {
+        const int to = own.note > 0 ? std::max(own.to, columns.to) : own.to;
+        const int note = own.note > 0 ? NoteGap + own.note : 0;
+        return m_style.width == 0 || std::max(own.from, columns.from) + ArrowWidth + to + note <= m_style.width;
+    }
+
+    void WriteLine(const TableRow& row, const Widths& columns)
+    {
+        Begin();
+        AppendName(row.from, columns.from);
         m_line.append(row.to.name.empty() ? NoArrow : Arrow);
-        AppendName(row.to, m_widths.to);
+        AppendName(row.to, columns.to);
         if (!row.note.IsEmpty()) {
             m_line.append(NoteGap, ' ');
-            if (m_style.width > 0)
-                m_line += Text::FittedText(row.note, m_widths.note);
-            else
-                Text::AppendSafeText(m_line, row.note);
+            Text::AppendSafeText(m_line, row.note);
         }
+        End();
+    }
+
+    /// Each part in a line of its own, which the terminal may break, but of which nothing is hidden.
+    void WriteLines(const TableRow& row)
+    {
+        Begin();
+        AppendName(row.from, 0);
+        End();
+        if (!row.to.name.empty()) {
+            Begin();
+            m_line.append(Arrow);
+            AppendName(row.to, 0);
+            End();
+        }
+        if (!row.note.IsEmpty()) {
+            Begin();
+            m_line.append(NoArrow);
+            Text::AppendSafeText(m_line, row.note);
+            End();
+        }
+    }
+
+    void Begin() { m_line = m_colour; }
+
+    void End()
+    {
         m_line.erase(m_line.find_last_not_of(' ') + 1);
-        if (!colour.empty())
+        if (!m_colour.empty())
             m_line += "\x1b[0m";
         m_line += '\n';
         m_output << m_line;
     }
 
-private:
     void AppendName(const ShownName& shown, int width)
     {
-        const int left = width - WidthOf(shown);
-        if (left < 0 && m_style.width > 0) {
-            m_line += Text::FittedText(CString::Join({shown.folder, shown.name}), width);
-            return;
-        }
         Text::AppendSafeText(m_line, shown.folder);
         Text::AppendSafeText(m_line, shown.name);
-        m_line.append(static_cast<std::size_t>(std::max(left, 0)), ' ');
+        m_line.append(static_cast<std::size_t>(std::max(width - WidthOf(shown), 0)), ' ');
     }
 
     OutputBuffer& m_output;
     const Widths m_widths;
     const TableStyle m_style;
+    std::string_view m_colour;
     std::string m_line;
 };
 
@@ -135,13 +176,12 @@ TableStyle StyleOfOutput()
     using VyrHostPlatform::Console::Stream;
     const auto noColour = VyrPlatform::Process::GetEnvironment(u"NO_COLOR");
     const bool wantsColour = !noColour || noColour->IsEmpty();
-    return {VyrHostPlatform::Console::GetWidth(Stream::Output),
-            wantsColour && VyrHostPlatform::Console::IsTerminal(Stream::Output)};
+    return {VyrHostPlatform::Console::GetWidth(Stream::Output), wantsColour && ObeysEscapes(Stream::Output)};
 }
 
 void WriteTable(OutputBuffer& output, std::size_t count, const RowOfTable& rowOf, TableStyle style)
 {
-    TableWriter writer(output, FittedWidths(NaturalWidths(count, rowOf), style.width), style);
+    TableWriter writer(output, ColumnWidths(NaturalWidths(count, rowOf), style.width), style);
     for (std::size_t index = 0; index < count && !output.HasFailed(); ++index)
         writer.Write(rowOf(index));
 }

@@ -44,12 +44,14 @@ using RowOfTable = std::function<TableRow(std::size_t index)>;
 /// How a table is laid out.
 struct TableStyle
 {
-    /// The columns of the terminal, which each row fits; 0: rows are as long as their names.
+    /// The columns of the terminal; 0: rows are as long as their names. A row that does not fit gets lines of its own
+    /// for the new name and the note; no part of a name is ever left out.
     int width = 0;
     bool inColour = false;
 };
 
-/// The style for the standard output: that of the terminal, in colour unless NO_COLOR is set; plain text elsewhere.
+/// The style for the standard output: that of the terminal, in colour unless NO_COLOR is set or TERM
+/// is "dumb"; plain text elsewhere.
 [[nodiscard]] TableStyle StyleOfOutput();
 
 /// Writes `count` rows in three columns. Texts are shown as SafeText makes them.

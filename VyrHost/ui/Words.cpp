@@ -55,6 +55,8 @@ std::string_view WordsFor(Model::Reason reason)
         return "its folder cannot be read";
     case Model::Reason::NoDate:
         return "it has no date of the kind asked for";
+    case Model::Reason::PictureNotRead:
+        return "the picture cannot be read";
     case Model::Reason::NamelessFolder:
         return "the name of its new folder would be empty, . or ..";
     case Model::Reason::BadFolder:
@@ -96,6 +98,15 @@ std::string ReasonFor(const Model::Outcome& outcome, std::size_t index)
     if (cause != outcome.causes.end())
         text.append(text.empty() ? "" : ": ").append(VyrPlatform::Encoding::ToUtf8(cause->second));
     return text;
+}
+
+std::string WordsFor(Model::DateSourceSet dates)
+{
+    std::string words;
+    for (const auto& [source, word] : Model::DateSourceWords)
+        if (dates.Has(source))
+            words.append(words.empty() ? "" : ",").append(VyrPlatform::Encoding::ToUtf8(word));
+    return words;
 }
 
 std::string_view WarningFor(NameFault fault)

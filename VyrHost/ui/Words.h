@@ -20,6 +20,8 @@ namespace VyrHost::Ui {
 /// Why the entry `index` of `outcome` is not what was asked for: the reason and its cause. UTF-8, not
 /// yet made safe to show; empty when there is none.
 [[nodiscard]] std::string ReasonFor(const Model::Outcome& outcome, std::size_t index);
+/// The dates in `dates`, separated by commas as --date-from takes them: "picture,modified"; empty for none.
+[[nodiscard]] std::string WordsFor(Model::DateSourceSet dates);
 /// A few words on what a name would be in trouble for; empty for NameFault::None.
 [[nodiscard]] std::string_view WarningFor(VyrHostPlatform::NameFault fault);
 

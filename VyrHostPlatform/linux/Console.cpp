@@ -108,7 +108,7 @@ int GetWidth(Stream stream)
     return size.ws_col == 0 ? usualWidth : size.ws_col;
 }
 
-bool Write(Stream stream, std::string_view bytes)
+std::uint32_t Write(Stream stream, std::string_view bytes)
 {
     // A closed pipe fails the write with EPIPE; its signal would end the program without a word. Blocking it for the
     // moment, other than ignoring it, changes nothing that child processes inherit.
@@ -119,20 +119,21 @@ bool Write(Stream stream, std::string_view bytes)
             bytes.remove_prefix(static_cast<std::size_t>(written));
         } else if (errno == EPIPE) {
             DiscardPipeSignal(blocked);
-            return false;
+            return EPIPE;
         } else if (errno == EAGAIN) {
             // The terminal or pipe was made non-blocking by a program that shares it.
             pollfd output{Descriptor(stream), POLLOUT, 0};
             ::poll(&output, 1, -1);
         } else if (errno != EINTR) {
-            return false;
+            return static_cast<std::uint32_t>(errno);
         }
     }
-    return true;
+    return 0;
 }
 
-std::string ReadInput()
+std::string ReadInput(std::uint32_t& error)
 {
+    error = 0;
     std::string piece(largestPiece, '\0');
     ssize_t count = -1;
     do {
@@ -140,6 +141,8 @@ std::string ReadInput()
             return {};
         count = ::read(STDIN_FILENO, piece.data(), piece.size());
     } while (count < 0 && (errno == EINTR || errno == EAGAIN));
+    if (count < 0)
+        error = static_cast<std::uint32_t>(errno);
     piece.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
     return piece;
 }

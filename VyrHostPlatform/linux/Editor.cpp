@@ -21,61 +21,6 @@ using namespace VyrPlatform;
 
 namespace {
 
-/// A file of its own in the folder for temporary files, removed at the end.
-class TemporaryFile
-{
-public:
-    TemporaryFile()
-    {
-        const char* const folder = std::getenv("TMPDIR");
-        m_path = std::string(folder && *folder ? folder : "/tmp") + "/vyr-names-XXXXXX.txt";
-        constexpr int suffixLength = 4;
-        m_file = ::mkostemps(m_path.data(), suffixLength, O_CLOEXEC);
-    }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-    ~TemporaryFile()
-    {
-        if (m_file < 0)
-            return;
-        ::close(m_file);
-        ::unlink(m_path.c_str());
-    }
-
-    [[nodiscard]] const std::string& Path() const noexcept { return m_path; }
-
-    [[nodiscard]] bool Write(std::string_view bytes) const
-    {
-        while (m_file >= 0 && !bytes.empty()) {
-            const ssize_t written = ::write(m_file, bytes.data(), bytes.size());
-            if (written < 0 && errno != EINTR)
-                return false;
-            bytes.remove_prefix(written > 0 ? static_cast<std::size_t>(written) : 0);
-        }
-        return m_file >= 0;
-    }
-
-    /// What stands under the path now: an editor may have put a new file there.
-    [[nodiscard]] bool Read(std::string& bytes) const
-    {
-        const int file = ::open(m_path.c_str(), O_RDONLY | O_CLOEXEC);
-        if (file < 0)
-            return false;
-        std::array<char, 65536> piece;
-        ssize_t count = 0;
-        while ((count = ::read(file, piece.data(), piece.size())) > 0 || (count < 0 && errno == EINTR))
-            bytes.append(piece.data(), count > 0 ? static_cast<std::size_t>(count) : 0);
-        const int error = errno;
-        ::close(file);
-        errno = error;
-        return count == 0;
-    }
-
-private:
-    std::string m_path;
-    int m_file;
-};
-
 /// While the editor has the terminal, Ctrl-C is meant for it.
 class TerminalSignalsIgnored
 {
@@ -133,33 +78,105 @@ int RunOnFile(const std::string& command, const std::string& path)
     return WIFEXITED(status) ? WEXITSTATUS(status) : signalBase + WTERMSIG(status);
 }
 
-EditedText Failure(const CString& command)
+EditedText Failure(const CString& what, int error)
 {
-    const CString message = Process::GetErrorMessage(static_cast<std::uint32_t>(errno));
-    return {std::nullopt, CString::Join({command, u": ", message})};
+    const CString message = Process::GetErrorMessage(static_cast<std::uint32_t>(error));
+    return {std::nullopt, CString::Join({what, u": ", message})};
 }
 
 } // namespace
 
-EditedText EditText(const std::string& text)
+/// A file of its own in the folder for temporary files.
+class EditorFile::TemporaryFile
 {
+public:
+    explicit TemporaryFile(std::string_view text)
+    {
+        const char* const folder = std::getenv("TMPDIR");
+        m_path = std::string(folder && *folder ? folder : "/tmp") + "/vyr-names-XXXXXX.txt";
+        constexpr int suffixLength = 4;
+        m_file = ::mkostemps(m_path.data(), suffixLength, O_CLOEXEC);
+        m_error = m_file >= 0 && Write(text) ? 0 : errno;
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile()
+    {
+        if (m_file < 0)
+            return;
+        ::close(m_file);
+        if (!m_isKept)
+            ::unlink(m_path.c_str());
+    }
+
+    void Keep() noexcept { m_isKept = true; }
+    [[nodiscard]] const std::string& Path() const noexcept { return m_path; }
+    /// Why the text is not in the file; 0 when it is.
+    [[nodiscard]] int Error() const noexcept { return m_error; }
+
+    /// What stands under the path now: an editor may have put a new file there.
+    [[nodiscard]] bool Read(std::string& bytes) const
+    {
+        const int file = ::open(m_path.c_str(), O_RDONLY | O_CLOEXEC);
+        if (file < 0)
+            return false;
+        std::array<char, 65536> piece;
+        ssize_t count = 0;
+        while ((count = ::read(file, piece.data(), piece.size())) > 0 || (count < 0 && errno == EINTR))
+            bytes.append(piece.data(), count > 0 ? static_cast<std::size_t>(count) : 0);
+        const int error = errno;
+        ::close(file);
+        errno = error;
+        return count == 0;
+    }
+
+private:
+    [[nodiscard]] bool Write(std::string_view bytes) const
+    {
+        while (!bytes.empty()) {
+            const ssize_t written = ::write(m_file, bytes.data(), bytes.size());
+            if (written < 0 && errno != EINTR)
+                return false;
+            bytes.remove_prefix(written > 0 ? static_cast<std::size_t>(written) : 0);
+        }
+        return true;
+    }
+
+    std::string m_path;
+    int m_file;
+    int m_error = 0;
+    bool m_isKept = false;
+};
+
+EditorFile::EditorFile(const std::string& text) : m_file(std::make_unique<TemporaryFile>(text)) {}
+
+EditorFile::~EditorFile() = default;
+
+EditedText EditorFile::Edit()
+{
+    const CString path = Encoding::FromNameBytes(m_file->Path());
+    if (m_file->Error() != 0)
+        return Failure(path, m_file->Error());
     const CString command = GetEditorCommand(u"vi");
-    const TemporaryFile file;
-    if (!file.Write(text))
-        return Failure(Encoding::FromNameBytes(file.Path()));
     const TerminalSignalsIgnored signals;
-    const int code = RunOnFile(Encoding::ToNameBytes(command), file.Path());
+    const int code = RunOnFile(Encoding::ToNameBytes(command), m_file->Path());
     if (code < 0)
-        return Failure(command);
+        return Failure(command, errno);
     if (code != 0) {
         CString message;
         message.Format(u"the editor (%s) ended with the code %d", command, code);
         return {std::nullopt, message};
     }
     std::string edited;
-    if (!file.Read(edited))
-        return Failure(Encoding::FromNameBytes(file.Path()));
+    if (!m_file->Read(edited))
+        return Failure(path, errno);
     return {std::move(edited), {}};
+}
+
+CString EditorFile::Keep()
+{
+    m_file->Keep();
+    return Encoding::FromNameBytes(m_file->Path());
 }
 
 } // namespace VyrHostPlatform

@@ -29,7 +29,7 @@ bool IsConsole(HANDLE handle) noexcept
     return ::GetConsoleMode(handle, &mode) != 0;
 }
 
-bool WriteText(HANDLE console, std::string_view bytes)
+std::uint32_t WriteText(HANDLE console, std::string_view bytes)
 {
     // The console takes less than 64 KiB at once on older systems.
     constexpr std::size_t largestText = 16384;
@@ -38,33 +38,39 @@ bool WriteText(HANDLE console, std::string_view bytes)
     while (!rest.empty()) {
         DWORD written = 0;
         const auto count = static_cast<DWORD>(std::min(rest.size(), largestText));
-        if (!::WriteConsoleW(console, rest.data(), count, &written, nullptr) || written == 0)
-            return false;
+        if (!::WriteConsoleW(console, rest.data(), count, &written, nullptr))
+            return ::GetLastError();
+        if (written == 0)
+            return ERROR_WRITE_FAULT;
         rest.remove_prefix(written);
     }
-    return true;
+    return ERROR_SUCCESS;
 }
 
-bool WriteBytes(HANDLE file, std::string_view bytes)
+std::uint32_t WriteBytes(HANDLE file, std::string_view bytes)
 {
     while (!bytes.empty()) {
         DWORD written = 0;
         const auto count = static_cast<DWORD>(std::min(bytes.size(), largestPiece));
-        if (!::WriteFile(file, bytes.data(), count, &written, nullptr) || written == 0)
-            return false;
+        if (!::WriteFile(file, bytes.data(), count, &written, nullptr))
+            return ::GetLastError();
+        if (written == 0)
+            return ERROR_WRITE_FAULT;
         bytes.remove_prefix(written);
     }
-    return true;
+    return ERROR_SUCCESS;
 }
 
-std::string ReadText(HANDLE console)
+std::string ReadText(HANDLE console, std::uint32_t& error)
 {
     // One typed line; Ctrl-Z and Enter end the input.
     constexpr char16_t endOfInput = 26;
     std::u16string text(8192, u'\0');
     DWORD count = 0;
-    if (!::ReadConsoleW(console, text.data(), static_cast<DWORD>(text.size()), &count, nullptr))
+    if (!::ReadConsoleW(console, text.data(), static_cast<DWORD>(text.size()), &count, nullptr)) {
+        error = ::GetLastError();
         return {};
+    }
     text.resize(count);
     if (text.starts_with(endOfInput))
         return {};
@@ -108,19 +114,20 @@ int GetWidth(Stream stream)
     return info.srWindow.Right - info.srWindow.Left + 1;
 }
 
-bool Write(Stream stream, std::string_view bytes)
+std::uint32_t Write(Stream stream, std::string_view bytes)
 {
     const HANDLE handle = Handle(stream);
     return IsConsole(handle) ? WriteText(handle, bytes) : WriteBytes(handle, bytes);
 }
 
-std::string ReadInput()
+std::string ReadInput(std::uint32_t& error)
 {
+    error = 0;
     if (Interrupt::WasAsked())
         return {};
     const HANDLE input = ::GetStdHandle(STD_INPUT_HANDLE);
     if (IsConsole(input))
-        return ReadText(input);
+        return ReadText(input, error);
     std::string piece(largestPiece, '\0');
     DWORD count = 0;
     // A pipe whose writer wrote nothing gives a piece of no bytes, which is not its end. A closed pipe fails, but one
@@ -129,6 +136,9 @@ std::string ReadInput()
     do {
         succeeded = ::ReadFile(input, piece.data(), static_cast<DWORD>(piece.size()), &count, nullptr);
     } while (succeeded && count == 0 && ::PeekNamedPipe(input, nullptr, 0, nullptr, nullptr, nullptr));
+    // The other end of a pipe is closed.
+    if (!succeeded && ::GetLastError() != ERROR_BROKEN_PIPE)
+        error = ::GetLastError();
     piece.resize(succeeded ? count : 0);
     return piece;
 }

@@ -1,5 +1,6 @@
 // The standard streams and arguments of a program of its own.
 #include <tests/support/ChildProcess.h>
+#include <tests/support/ScratchFolder.h>
 
 #include <VyrHostPlatform/Console.h>
 #include <VyrPlatform/text/Encoding.h>
@@ -70,6 +71,19 @@ TEST(ConsoleTest, LongInputArrivesWhole)
     const ProgramResult result = RunProgram(ProbeCall({u"copy"}, bytes));
     EXPECT_TRUE(result.output == bytes);
     EXPECT_TRUE(result.errors == bytes);
+}
+
+TEST(ConsoleTest, InputThatCannotBeReadIsAnError)
+{
+    const VyrTests::ScratchFolder folder;
+    ProgramCall call = ProbeCall({u"copy"});
+    call.inputFrom = folder.Path();
+    EXPECT_EQ(RunProgram(call).exitCode, 4);
+    folder.WriteFile(u"file", "content");
+    call.inputFrom = folder.Path(u"file");
+    const ProgramResult result = RunProgram(call);
+    EXPECT_EQ(result.output, "content");
+    EXPECT_EQ(result.exitCode, 0);
 }
 
 TEST(ConsoleTest, EmptyInputIsAtItsEndAtOnce)

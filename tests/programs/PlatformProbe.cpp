@@ -23,10 +23,11 @@ using namespace VyrPlatform;
 using Arguments = std::vector<CString>;
 
 constexpr int refused = 3;
+constexpr int notRead = 4;
 
 int Print(const CString& text)
 {
-    return Console::Write(Console::Stream::Output, Encoding::ToNameBytes(text + u"\n")) ? 0 : refused;
+    return Console::Write(Console::Stream::Output, Encoding::ToNameBytes(text + u"\n")) == 0 ? 0 : refused;
 }
 
 int PrintArguments(const Arguments& arguments)
@@ -39,11 +40,12 @@ int PrintArguments(const Arguments& arguments)
 /// Writes the input to both streams; tests see that neither changes a byte.
 int CopyInput(const Arguments& /*arguments*/)
 {
-    for (std::string piece = Console::ReadInput(); !piece.empty(); piece = Console::ReadInput()) {
-        if (!Console::Write(Console::Stream::Output, piece) || !Console::Write(Console::Stream::Error, piece))
+    std::uint32_t error = 0;
+    for (std::string piece = Console::ReadInput(error); !piece.empty(); piece = Console::ReadInput(error)) {
+        if (Console::Write(Console::Stream::Output, piece) != 0 || Console::Write(Console::Stream::Error, piece) != 0)
             return refused;
     }
-    return 0;
+    return error == 0 ? 0 : notRead;
 }
 
 int PrintEnvironment(const Arguments& arguments)
@@ -161,7 +163,8 @@ int InterruptedInput(const Arguments& /*arguments*/)
 {
     Interrupt::Catch();
     Print(u"ready");
-    const bool isAtEnd = Console::ReadInput().empty();
+    std::uint32_t error = 0;
+    const bool isAtEnd = Console::ReadInput(error).empty() && error == 0;
     return isAtEnd && Interrupt::WasAsked() ? 0 : refused;
 }
 

@@ -24,6 +24,8 @@ struct ProgramCall
     std::map<CString, std::optional<CString>> environment = {};
     /// The folder in which it runs; empty: the test's own.
     CString folder = {};
+    /// The file or folder that its standard input is opened on, in place of `input`.
+    CString inputFrom = {};
     /// Its standard input never ends.
     bool staysInputOpen = false;
     /// Its standard output is a pipe whose reader is gone.

@@ -57,7 +57,9 @@ TEST_F(BadInput, NumbersThatAreNone)
         ExpectRefused({u"--number", u"#", u"--digits", number, u"a"}, "--digits");
         ExpectRefused({u"--keep-first", number, u"a"}, "--keep-first");
         ExpectRefused({u"--suffix", u"!", u"--conflict-start", number, u"a"}, "--conflict-start");
+        ExpectRefused({u"--suffix", u"!", u"--conflict-digits", number, u"a"}, "--conflict-digits");
     }
+    ExpectRefused({u"--suffix", u"!", u"--conflict-digits", u"256", u"a"}, "more than 255 digits");
     ExpectRefused({u"--keep-first", u"99999999999", u"a"}, "from 0 to 2147483647");
     ExpectRefused({u"--delete-last", u"-1", u"a"}, "from 1 to 2147483647");
     for (const char16_t* const batch : {u"", u"0", u"-1", u"x", u"99999999999"}) {
@@ -120,6 +122,62 @@ TEST_F(BadInput, FoldersWithoutANameOfTheirOwn)
     ExpectRefused({u"--date", u"<Name><Folder>yyyy", u"a"}, "<Folder>");
 }
 
+TEST_F(BadInput, LettersAndTokensThatMeanNothing)
+{
+    WriteNamed({u"a"});
+    ExpectRefused({u"--date", u"YYYY-MM-DD", u"a"}, "no part of a date is called Y; yyyy-MM-dd");
+    ExpectRefused({u"--date", u"%Y", u"a"}, "a percent sign is text here");
+    ExpectRefused({u"--date", u"yyyy <Mkae>", u"a"}, "it knows no <Mkae>, only <Name>");
+    ExpectRefused({u"--number", u"<Nmae> #", u"a"}, "it knows no <Nmae>, only <Name>, <Number>");
+}
+
+TEST_F(BadInput, WordsThatAreUnknown)
+{
+    WriteNamed({u"a"});
+    ExpectRefused({u"--sufix", u"!", u"a"}, "vyr rename has no option '--sufix'; did you mean --suffix?");
+    ExpectRefused({u"--recursiv", u"--suffix", u"!", u"."}, "did you mean --recursive?");
+    ExpectRefused({u"--dgiits=3", u"--number", u"#", u"a"}, "'--dgiits'; did you mean --digits?");
+    ExpectRefused({u"--no-such-thing-at-all", u"a"}, "vyr rename has no option '--no-such-thing-at-all'\n");
+    ExpectRefused({u"-x", u"a"}, "vyr rename has no option '-x'\n");
+    // What follows an option is its value, whatever it looks like.
+    EXPECT_EQ(Rename({u"--suffix", u"--sufix", u"a"}).exitCode, 0);
+    const std::vector<std::pair<std::vector<CString>, std::string>> calls = {
+        {{u"renmae", u"a"},
+         "vyr: there is no command 'renmae'; did you mean rename?\nvyr --help lists the commands.\n"},
+        {{u"xyzzy"}, "vyr: there is no command 'xyzzy'\nvyr --help lists the commands.\n"},
+        {{u"--hlep"}, "vyr: vyr has no option '--hlep'; did you mean --help?\nvyr --help lists its options.\n"},
+        {{u"undo", u"--lits"},
+         "vyr: vyr undo has no option '--lits'; did you mean --list?\nvyr undo --help lists its "
+         "options.\n"}};
+    for (const auto& [call, message] : calls) {
+        const ProgramResult result = Run(call);
+        EXPECT_EQ(result.exitCode, 2);
+        EXPECT_EQ(result.errors, message);
+    }
+}
+
+TEST_F(BadInput, AStandardInputThatCannotBeRead)
+{
+    WriteNamed({u"a"});
+    for (const std::vector<CString>& call : {std::vector<CString>{u"rename", u"--suffix", u"!", u"--stdin"},
+                                             {u"rename", u"--suffix", u"!", u"--stdin0", u"a"},
+                                             {u"rename", u"--pairs", u"-"}}) {
+        ProgramCall program = CallOf(call);
+        program.inputFrom = m_folder.Path();
+        const ProgramResult result = RunProgram(program);
+        EXPECT_EQ(result.exitCode, 2);
+        EXPECT_THAT(result.output, IsEmpty());
+        EXPECT_THAT(result.errors, StartsWith("vyr: cannot read the standard input: "));
+    }
+}
+
+TEST_F(BadInput, PairsWithoutAny)
+{
+    m_folder.WriteFile(u"empty.csv", "\n\n");
+    ExpectRefused({u"--pairs", u"empty.csv"}, "there are no pairs of names in 'empty.csv'");
+    ExpectRefused({u"--pairs", u"-"}, "there are no pairs of names in the standard input");
+}
+
 TEST_F(BadInput, ContradictoryOptions)
 {
     WriteNamed({u"a", u"d/e"});
@@ -167,8 +225,9 @@ TEST_F(BadInput, OptionsThatChangeNothingWithoutAnother)
     ExpectRefused({u"--prefix", u"x", u"--hidden", u"a"}, "--hidden changes nothing without --recursive or a wildcard");
     ExpectRefused({u"--prefix", u"x", u"--hidden", u"--stdin"}, "--hidden", "*\n");
     m_folder.WriteFile(u"pairs.csv", "a,b\n");
-    for (const CString& option : {CString(u"--conflict-pattern=_?"), CString(u"--conflict-position=before"),
-                                  CString(u"--conflict-start=2"), CString(u"--conflict-step=2")}) {
+    for (const CString& option :
+         {CString(u"--conflict-pattern=_?"), CString(u"--conflict-position=before"), CString(u"--conflict-start=2"),
+          CString(u"--conflict-step=2"), CString(u"--conflict-digits=2")}) {
         ExpectRefused({u"--pairs", u"pairs.csv", option}, numbering);
         ExpectRefused({u"--edit", option, u"a"}, numbering);
         ExpectRefused({u"--replace", u"a", u"b", u"--case=upper", u"--drop-extension", option, u"a"}, numbering);

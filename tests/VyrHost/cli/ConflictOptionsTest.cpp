@@ -92,6 +92,22 @@ TEST_F(ConflictOptions, NumberAsTheEngineDoesWhereOnlyTheDiskMatters)
     }
 }
 
+TEST_F(ConflictOptions, DigitsFillTheNumberOfThePatternUp)
+{
+    WriteNamed({u"ax.txt", u"ay.txt", u"az.txt"});
+    std::vector<CString> call = {u"--keep-first", u"1", u"--conflict-digits", u"3"};
+    const std::vector<CString> names = {u"ax.txt", u"ay.txt", u"az.txt"};
+    const auto rename = [&](std::vector<CString> more) {
+        more.insert(more.begin(), call.begin(), call.end());
+        more.insert(more.end(), names.begin(), names.end());
+        return Rename(more).output;
+    };
+    EXPECT_THAT(rename({}), HasSubstr("ay.txt  ->  a (001).txt  numbered\naz.txt  ->  a (002).txt  numbered\n"));
+    EXPECT_THAT(rename({u"--conflict-pattern", u"-?-?"}), HasSubstr("ay.txt  ->  a-001-001.txt  numbered\n"));
+    EXPECT_THAT(rename({u"--conflict-start", u"999"}), HasSubstr("a (999).txt   numbered\naz.txt  ->  a (1000).txt"));
+    EXPECT_THAT(rename({u"--conflict-start", u"-5"}), HasSubstr("ay.txt  ->  a (-005).txt  numbered\n"));
+}
+
 TEST_F(ConflictOptions, NumberFoldersAsTheEngineDoes)
 {
     for (const char16_t* const folder : {u"x.yz", u"x.y", u"x.y (1)"})

@@ -37,7 +37,10 @@ protected:
     {
         const std::string output = Rename(call).output;
         const std::size_t arrow = output.find("  ->  ");
-        return arrow == std::string::npos ? output : output.substr(arrow + 6, output.find('\n') - arrow - 6);
+        if (arrow == std::string::npos)
+            return output;
+        const std::string row = output.substr(arrow + 6, output.find('\n') - arrow - 6);
+        return row.substr(0, row.find("  date: "));
     }
 };
 
@@ -112,10 +115,10 @@ TEST_F(DateTokens, OnlyTheTokenInTheFormatIsAStep)
 {
     m_folder.WriteFile(u"p.txt");
     Change(u"p.txt", COleDateTime(2002, 12, 31, 23, 59, 58));
-    // The token's letters are literal elsewhere, and other brackets are text.
+    // The token's letters are literal elsewhere.
     EXPECT_THAT(Named({u"--replace", u"p", u"<Folder>", u"--date", u"yyyy<Name>", u"p.txt"}),
                 StartsWith("2002<Folder>.txt"));
-    EXPECT_THAT(Named({u"--date", u"yyyy<folder><Name>", u"p.txt"}), StartsWith("2002<folder>p.txt"));
+    EXPECT_THAT(Named({u"--date", u"yyyy'<folder>'<Name>", u"p.txt"}), StartsWith("2002<folder>p.txt"));
 }
 
 TEST_F(DateTokens, AFileThatIsInTheWayOfAFolderRefusesTheMove)
@@ -138,18 +141,40 @@ TEST_F(DateTokens, APictureDecidesForItsSidecarWhereItsDateComesFirst)
     }
     const ProgramResult result = Rename({u"--date", u"yyyy <Make>", u"--date-from", u"picture,modified", u"--together",
                                          u"p.aae", u"p.raw", u"p.jpg", u"q.aae"});
-    EXPECT_THAT(result.output, StartsWith("p.aae  ->  2024 Aster.aae\n"
-                                          "p.raw  ->  2024 Aster.raw\n"
-                                          "p.jpg  ->  2024 Aster.jpg\n"
-                                          "q.aae  ->  2002 .aae\n"));
+    EXPECT_THAT(result.output, StartsWith("p.aae  ->  2024 Aster.aae  date: picture\n"
+                                          "p.raw  ->  2024 Aster.raw  date: picture\n"
+                                          "p.jpg  ->  2024 Aster.jpg  date: picture\n"
+                                          "q.aae  ->  2002.aae        date: modified\n"));
     EXPECT_THAT(
         Rename({u"--date", u"yyyy", u"--date-from", u"modified,picture", u"--together", u"p.jpg", u"p.aae"}).output,
-        StartsWith("p.jpg  ->  2001.jpg\np.aae  ->  2001.aae\n"));
+        StartsWith("p.jpg  ->  2001.jpg  date: modified\np.aae  ->  2001.aae  date: modified\n"));
     // The rule that has to take a later date tells, whatever the rules behind it find.
     EXPECT_THAT(Rename({u"--date", u"yyyy", u"--date-from", u"picture,modified", u"--date", u"<Name>-MM",
                         u"--date-from", u"modified", u"--together", u"p.aae", u"p.jpg"})
                     .output,
-                StartsWith("p.aae  ->  2024-02.aae\np.jpg  ->  2024-02.jpg\n"));
+                StartsWith("p.aae  ->  2024-02.aae  date: picture\np.jpg  ->  2024-02.jpg  date: picture\n"));
+}
+
+TEST_F(DateTokens, TheRowSaysWhichDateAChoiceTook)
+{
+    WritePicture(u"p.jpg", "2024:07:19 18:45:03");
+    m_folder.WriteFile(u"t.txt");
+    Change(u"t.txt", COleDateTime(2002, 12, 31, 23, 59, 58));
+    const std::vector<CString> choice = {u"--date", u"yyyy", u"--date-from", u"picture,modified", u"p.jpg", u"t.txt"};
+    EXPECT_THAT(Rename(choice).output, StartsWith("p.jpg  ->  2024.jpg  date: picture\n"
+                                                  "t.txt  ->  2002.txt  date: modified\n"));
+    std::vector<CString> json = choice;
+    json.emplace_back(u"--json");
+    const std::string lines = Rename(json).output;
+    EXPECT_THAT(lines, HasSubstr("\"dateFrom\":\"picture\""));
+    EXPECT_THAT(lines, HasSubstr("\"dateFrom\":\"modified\""));
+    EXPECT_THAT(Rename({u"--date", u"yyyy", u"p.jpg"}).output, StartsWith("p.jpg  ->  2001.jpg\n"));
+}
+
+TEST_F(DateTokens, LiteralRulesTakeTokensAsText)
+{
+    m_folder.WriteFile(u"p.txt");
+    EXPECT_EQ(Named({u"--replace", u"p", u"<Foo><Name>", u"p.txt"}).substr(0, 15), "<Foo><Name>.txt");
 }
 
 TEST_F(DateTokens, AFolderIsDatedByItsLastChange)

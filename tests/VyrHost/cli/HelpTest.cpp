@@ -81,13 +81,47 @@ TEST_F(Help, NamesTheCommandsAndTheExitCodes)
     EXPECT_THAT(Run({u"rename", u"--help"}).output, HasSubstr("Exit codes:"));
 }
 
-TEST_F(Help, KeepsItsLinesWithin100Columns)
+TEST_F(Help, FitsInto80Columns)
 {
-    for (const CString command : {u"rename", u"copy", u"move", u"undo", u"recover"}) {
-        std::istringstream lines(Run({command, u"--help"}).output);
+    const std::string program = Run({u"--help"}).output;
+    std::vector<std::vector<CString>> calls = {{u"--help"}};
+    std::istringstream commands(program.substr(program.find("Subcommands:\n") + 13));
+    for (std::string line; std::getline(commands, line);)
+        if (line.starts_with("  ") && line[2] != ' ')
+            calls.push_back({VyrPlatform::Encoding::FromUtf8(line.substr(2, line.find(' ', 2) - 2)), u"--help"});
+    EXPECT_GE(calls.size(), 6u);
+    for (const std::vector<CString>& call : calls) {
+        const ProgramResult result = Run(call);
+        EXPECT_EQ(result.exitCode, 0);
+        std::istringstream lines(result.output);
         for (std::string line; std::getline(lines, line);)
-            EXPECT_LE(line.size(), 100u) << line;
+            EXPECT_LE(line.size(), 80u) << line;
     }
+}
+
+TEST_F(Help, ListsTheLettersOfDates)
+{
+    const std::string help = Run({u"rename", u"--help"}).output;
+    const std::string letters = help.substr(help.find("Letters of --date"));
+    // The table of docs/date-time-formats.md.
+    for (const char* const letter : {"yyyy", "yy", "MMMM", "MMM", "MM", "M", "dd", "d", "EEEE", "EEE", "HH", "H", "hh",
+                                     "h", "mm", "m", "ss", "s", "a"})
+        EXPECT_THAT(letters, HasSubstr(std::string(" ") + letter + " ")) << letter;
+}
+
+TEST_F(Help, SaysThatNothingToTakeBackIsTheExitCodeFour)
+{
+    EXPECT_THAT(Run({u"undo", u"--help"}).output, HasSubstr("  4    nothing was done: there is nothing to take back,"));
+    EXPECT_EQ(Run({u"undo"}).exitCode, 4);
+}
+
+TEST_F(Help, ThatCannotBeWrittenIsSaid)
+{
+    ProgramCall call = CallOf({u"rename", u"--help"});
+    call.isOutputClosed = true;
+    const ProgramResult result = RunProgram(call);
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_THAT(result.errors, StartsWith("vyr: the output cannot be written: "));
 }
 
 TEST_F(Help, IsAskedForWhenNoCommandIsGiven)

@@ -5,12 +5,14 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
 using namespace VyrTests;
 using testing::AllOf;
 using testing::HasSubstr;
+using testing::StartsWith;
 
 namespace {
 
@@ -50,6 +52,13 @@ protected:
         return child.Wait();
     }
 
+    ProgramResult InterruptRename(const std::vector<CString>& more = {}) const
+    {
+        std::vector<CString> arguments = {u"rename", u"--prefix", u"x", u"--stdin", u"--apply"};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        return InterruptWhenThere(arguments, "xf0", m_names);
+    }
+
     /// How many files have the new name; that each holds its own content is tested on the way.
     [[nodiscard]] int CountRenamed() const
     {
@@ -83,8 +92,7 @@ protected:
 TEST_F(InterruptedBatch, SaysWhatWasDoneAndCanBeUndone)
 {
     Arrange();
-    const ProgramResult result =
-        InterruptWhenThere({u"rename", u"--prefix", u"x", u"--stdin", u"--apply"}, "xf0", m_names);
+    const ProgramResult result = InterruptRename();
     const int renamed = CountRenamed();
     EXPECT_GT(renamed, 0);
     EXPECT_LT(renamed, count);
@@ -94,6 +102,18 @@ TEST_F(InterruptedBatch, SaysWhatWasDoneAndCanBeUndone)
     EXPECT_EQ(Run({u"recover"}).output, "No batch was cut off.\n");
     EXPECT_EQ(Run({u"undo", u"--quiet"}).exitCode, 0);
     EXPECT_EQ(CountRenamed(), 0);
+}
+
+TEST_F(InterruptedBatch, QuietSaysOneSummaryAndTheWayOn)
+{
+    Arrange();
+    const ProgramResult result = InterruptRename({u"--quiet"});
+    const int renamed = CountRenamed();
+    EXPECT_EQ(result.exitCode, 130) << result.errors;
+    EXPECT_EQ(result.output, "");
+    EXPECT_THAT(result.errors, AllOf(StartsWith("vyr: interrupted: " + Counts(renamed) + "This was batch "),
+                                     HasSubstr("; \"vyr undo\" ")));
+    EXPECT_EQ(std::count(result.errors.begin(), result.errors.end(), '\n'), 2) << result.errors;
 }
 
 TEST_F(InterruptedBatch, UndoSaysWhatWasDoneAndCanGoOn)

@@ -109,6 +109,32 @@ TEST_F(NameInput, GivenOneByOneMayNotBeOneNameForTwo)
     EXPECT_EQ(Files(), (FileMap{{"a", "a"}, {"b", "b"}}));
 }
 
+TEST_F(NameInput, TypedTextsFindNamesInWhateverNormalForm)
+{
+    // As file systems keep them that compare names exactly; others find both forms themselves.
+    WriteNamed({u"\u00e9.txt", u"e\u0301te\u0301.txt"});
+    for (const CString& call : {CString(u"\u00e9t\u00e9.txt"), CString(u"e\u0301te\u0301.txt"), CString(u"\u00e9t*"),
+                                CString(u"?t?.*"), CString(u"e\u0301t*")}) {
+        const ProgramResult result = Rename({u"--replace", u"\u00e9", u"e", call});
+        EXPECT_EQ(result.exitCode, 0) << result.output;
+        EXPECT_THAT(result.output, HasSubstr("  ->  ete.txt\n1 entry: 1 renamed.\n"));
+    }
+    EXPECT_THAT(Rename({u"--replace", u"e\u0301", u"x", u"e\u0301.txt"}).output, HasSubstr("  ->  x.txt\n"));
+    EXPECT_THAT(Rename({u"--pairs", u"-"}, "\xC3\xA9t\xC3\xA9.txt,x.txt\n").output,
+                HasSubstr("  ->  x.txt\n1 entry: 1 renamed.\n"));
+}
+
+TEST_F(NameInput, ANameAsItIsWrittenGoesBeforeItsOtherForm)
+{
+    WriteNamed({u"\u00e9"});
+    if (m_folder.Has(u"e\u0301"))
+        GTEST_SKIP() << "the file system takes both forms for one name";
+    WriteNamed({u"e\u0301"});
+    ASSERT_EQ(Rename({u"--suffix", u"2", u"--apply", u"e\u0301"}).exitCode, 0);
+    EXPECT_TRUE(m_folder.Has(u"e\u03012"));
+    EXPECT_TRUE(m_folder.Has(u"\u00e9"));
+}
+
 TEST_F(NameInput, QuietSaysNothingWhereAllGoesWell)
 {
     WriteNamed({u"a", u"b"});

@@ -193,10 +193,30 @@ TEST_F(RenameApply, LetsTheNamesBeEdited)
     EXPECT_EQ(result.exitCode, 2);
     EXPECT_THAT(result.errors, HasSubstr("3"));
     EXPECT_TRUE(m_folder.Has(u"three!.txt"));
+}
 
-    m_environment[u"EDITOR"] = editor + u" 2 7";
-    EXPECT_EQ(Rename({u"--edit", u"--apply", u"*.txt"}).exitCode, 2);
-    EXPECT_TRUE(m_folder.Has(u"two!.txt"));
+TEST_F(RenameApply, KeepsTheEditedTextWhereAMistakeCannotBeMended)
+{
+    const ScratchFolder temporary;
+    for (const char16_t* const name : {u"TMPDIR", u"TMP", u"TEMP"})
+        m_environment[name] = temporary.Path();
+    m_folder.WriteFile(u"one.txt");
+    m_folder.WriteFile(u"two.txt");
+    m_environment[u"VISUAL"] = std::nullopt;
+    m_environment[u"EDITOR"] = CString::Join({u"\"", BesideThisProgram(u"EditorProbe"), u"\" 2 7"});
+    const ProgramResult result = Rename({u"--edit", u"--apply", u"*.txt"});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_THAT(result.errors, StartsWith("vyr: line "));
+    EXPECT_THAT(result.errors, HasSubstr("there is no entry of the number 7\nThe edited text is kept in "));
+    EXPECT_TRUE(m_folder.Has(u"two.txt"));
+    std::vector<std::filesystem::path> kept;
+    for (const auto& entry : std::filesystem::directory_iterator(ToStdPath(temporary.Path())))
+        kept.push_back(entry.path());
+    ASSERT_EQ(kept.size(), 1u);
+    const std::u8string name = kept.front().filename().u8string();
+    const std::string text(name.begin(), name.end());
+    EXPECT_THAT(result.errors, HasSubstr(text + "\n"));
+    EXPECT_THAT(temporary.ReadFile(VyrPlatform::Encoding::FromUtf8(text)), HasSubstr("\n7\ttwo.txt\n"));
 }
 
 TEST_F(RenameApply, NamesAreEditedWithTheirFolders)

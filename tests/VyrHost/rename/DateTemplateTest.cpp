@@ -16,6 +16,7 @@
 
 using namespace VyrHost::Rename;
 using namespace VyrHost::Text;
+using VyrHost::Model::DateSource;
 using namespace VyrTests;
 
 namespace {
@@ -78,7 +79,6 @@ TEST_F(DateFormat, PutsInMakerAndModelOfTheCamera)
 {
     EXPECT_EQ(Dated(u"<Make>_<Model>_yyyy"), u"/d/Testmaker_Model 1_2024.jpg");
     EXPECT_EQ(Dated(u"<Name> <Model>"), u"/d/dated Model 1.jpg");
-    EXPECT_EQ(Dated(u"yyyy <make>"), u"/d/2024 <make>.jpg");
 }
 
 TEST_F(DateFormat, ReplacesWhatNoNameCanHoldInMakerAndModel)
@@ -100,6 +100,46 @@ TEST_F(DateFormat, DropsATokenThatTheCameraDoesNotSay)
     EXPECT_EQ(Dated(u"<Make><Folder><Name>", u"nameless"), u"!");
 }
 
+TEST_F(DateFormat, DropsABlankBesideATokenThatTheCameraDoesNotSay)
+{
+    PictureFacts facts;
+    facts.make.clear();
+    m_folder.WriteFile(u"nameless.jpg", BuildJpeg(facts));
+    facts.model.clear();
+    m_folder.WriteFile(u"silent.jpg", BuildJpeg(facts));
+    EXPECT_EQ(Dated(u"yyyy <Make> dd", u"nameless"), u"/d/2024 19.jpg");
+    EXPECT_EQ(Dated(u"<Make> yyyy", u"nameless"), u"/d/2024.jpg");
+    EXPECT_EQ(Dated(u"yyyy <Make>", u"nameless"), u"/d/2024.jpg");
+    EXPECT_EQ(Dated(u"<Make> <Model> yyyy", u"nameless"), u"/d/Model 1 2024.jpg");
+    EXPECT_EQ(Dated(u"<Make> <Model> yyyy", u"silent"), u"/d/2024.jpg");
+    EXPECT_EQ(Dated(u"yyyy <Make> <Model> <Name>", u"silent"), u"/d/2024 silent.jpg");
+    EXPECT_EQ(Dated(u"<Name> <Model>", u"silent"), u"/d/silent.jpg");
+    EXPECT_EQ(Dated(u"<Model> <Name>", u"silent"), u"/d/silent.jpg");
+    EXPECT_EQ(Dated(u"yyyy<Folder><Make> <Name>", u"silent"), CString(u"/d/2024") + Slash + u"silent.jpg");
+    EXPECT_EQ(Dated(u"yyyy <Make><Folder><Name>", u"silent"), CString(u"/d/2024") + Slash + u"silent.jpg");
+    // A blank that parts two words stays, and so does everything that is no blank.
+    EXPECT_EQ(Dated(u"yyyy <Make><Name>", u"silent"), u"/d/2024 silent.jpg");
+    EXPECT_EQ(Dated(u"yyyy-<Make>-dd", u"silent"), u"/d/2024--19.jpg");
+}
+
+TEST_F(DateFormat, TellsWhichDatesAChoiceTook)
+{
+    Subject subject = SubjectOf(u"plain");
+    EXPECT_EQ(DateRules(u"yyyy", {DateSource::Picture, DateSource::Modified}).front()->Apply(subject), RuleFault::None);
+    EXPECT_TRUE(subject.datesTaken.Has(DateSource::Modified));
+    EXPECT_FALSE(subject.datesTaken.Has(DateSource::Picture));
+    Subject dated = SubjectOf(u"dated");
+    EXPECT_EQ(DateRules(u"yyyy", {DateSource::Picture, DateSource::Modified}).front()->Apply(dated), RuleFault::None);
+    EXPECT_EQ(DateRules(u"MM<Name>", {DateSource::Created, DateSource::Picture}).front()->Apply(dated),
+              RuleFault::None);
+    EXPECT_TRUE(dated.datesTaken.Has(DateSource::Picture));
+    EXPECT_TRUE(dated.datesTaken.Has(DateSource::Created));
+    EXPECT_FALSE(dated.datesTaken.Has(DateSource::Modified));
+    Subject without = SubjectOf(u"dated");
+    EXPECT_EQ(DateRules(u"yyyy", {DateSource::Picture}).front()->Apply(without), RuleFault::None);
+    EXPECT_TRUE(without.datesTaken.IsEmpty());
+}
+
 TEST_F(DateFormat, MovesIntoTheFoldersThatTheFormatNames)
 {
     const CString expected = CString(u"/d/2024") + Slash + u"07" + Slash;
@@ -119,7 +159,7 @@ TEST_F(DateFormat, LeavesWhatLooksLikeATokenInTheOldNameAlone)
 TEST_F(DateFormat, FormatsThatMakeNoSenseAreRefused)
 {
     for (const char16_t* const text :
-         {u"", u"<Name>", u"'", u"yyyy/MM", u"yyyy<Folder>", u"<Name>y<Name>", u"<Name><Folder>yyyy"})
+         {u"", u"<Name>", u"'", u"yyyy/MM", u"yyyy<Folder>", u"<Name>yy<Name>", u"<Name><Folder>yyyy", u"YYYY"})
         EXPECT_THROW((void)DateRules(text, {DateSource::Modified}), UsageError);
     EXPECT_THROW((void)DateRules(std::u16string_view(u"yy\0yy", 5), {DateSource::Modified}), UsageError);
 }

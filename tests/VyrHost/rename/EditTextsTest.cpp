@@ -57,6 +57,18 @@ TEST(EditTexts, ReplacesEveryOccurrence)
     EXPECT_EQ(Apply(ReplaceRules(u"x", u""), FileSubject(u"xoxo", u"")), u"/d/oo");
 }
 
+TEST(EditTexts, ReplacesATextInWhateverNormalFormTheNameIs)
+{
+    const CString composed = u"\u00e9t\u00e9";
+    const CString decomposed = u"e\u0301te\u0301";
+    for (const CString& find : {CString(u"\u00e9"), CString(u"e\u0301")})
+        for (const CString& name : {composed, decomposed})
+            EXPECT_EQ(Apply(ReplaceRules(find, u"e"), FileSubject(name, u".txt")), u"/d/ete.txt");
+    // The letter below an accent is another letter in either form.
+    for (const CString& name : {composed, decomposed})
+        EXPECT_EQ(Apply(ReplaceRules(u"e", u"x"), FileSubject(name, u".txt")), u"/d/" + name + u".txt");
+}
+
 TEST(EditTexts, ChangesTheExtensionOfFilesAlone)
 {
     const Subject file = FileSubject(u"a.b", u".JPEG");

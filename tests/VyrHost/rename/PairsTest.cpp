@@ -51,6 +51,24 @@ TEST(Pairs, AreReadFromTabSeparatedValuesAsTheyStand)
     EXPECT_EQ(Read("a b\tc\\d"), u"a b>c\\d|");
 }
 
+TEST(Pairs, AreReadFromCsvWithSemicolons)
+{
+    EXPECT_EQ(Read("a;b\nc, d;e\r\n"), u"a>b|c, d>e|");
+    EXPECT_EQ(Read("\"a;1\";b\n\"c\nd\";\"e\"\"\"\n"), u"a;1>b|c\nd>e\"|");
+    EXPECT_EQ(Read("x, y, z;b"), u"x, y, z>b|");
+    EXPECT_EQ(Read("\"a,b\";c"), u"a,b>c|");
+    EXPECT_EQ(Read("\"a;b\",c\nd;e,f"), u"a;b>c|d;e>f|");
+    // A comma that makes two fields goes before.
+    EXPECT_EQ(Read("a;1,b"), u"a;1>b|");
+    EXPECT_EQ(Read("a;1\tb,2"), u"a;1>b,2|");
+}
+
+TEST(Pairs, NameTheSeparatorsWhereThereAreNotTwoFields)
+{
+    for (const char* const bytes : {"a\n", "a,b,c\n", "a;b;c\n", "a,b\nc;d\n"})
+        EXPECT_THAT(ErrorOf(bytes), testing::HasSubstr("separated by a comma, a semicolon or a tab"));
+}
+
 TEST(Pairs, KeepBytesThatAreNotUtf8AndSkipTheMarkInFront)
 {
     EXPECT_EQ(Read("\xEF\xBB\xBF\xC3\xA4,\xFF\n"), u"ä>\xDCFF|");

@@ -35,27 +35,3 @@ TEST(SafeText, MeasuresTheColumnsThatATerminalTakes)
     EXPECT_EQ(SafeWidth(u"\n"), 2);
     EXPECT_EQ(SafeWidth(u""), 0);
 }
-
-TEST(SafeText, FillsOrCutsToTheWidthInTheMiddle)
-{
-    EXPECT_EQ(FittedText(u"abc", 5), "abc  ");
-    EXPECT_EQ(FittedText(u"abcdef", 6), "abcdef");
-    EXPECT_EQ(FittedText(u"abcdefgh", 5), "ab\xE2\x80\xA6gh");
-    EXPECT_EQ(FittedText(u"abcdefgh", 4), "ab\xE2\x80\xA6h");
-    EXPECT_EQ(FittedText(u"abcdefgh", 1), "\xE2\x80\xA6");
-    EXPECT_EQ(FittedText(u"abc", 0), "");
-}
-
-TEST(SafeText, CutsBetweenCharactersAndNeverInsideOne)
-{
-    // Two columns each: five fit one and a half on either side, so a blank fills up.
-    EXPECT_EQ(FittedText(u"日本語日本語", 6), "\xE6\x97\xA5\xE2\x80\xA6\xE8\xAA\x9E ");
-    EXPECT_EQ(FittedText(u"\U0001F600\U0001F600\U0001F600", 5), "\xF0\x9F\x98\x80\xE2\x80\xA6\xF0\x9F\x98\x80");
-    // An accent goes with the letter that it is drawn over.
-    EXPECT_EQ(FittedText(u"abcde\u0301", 3), "a\xE2\x80\xA6"
-                                             "e\xCC\x81");
-    EXPECT_EQ(FittedText(u"abcd\u0301e", 3), "a\xE2\x80\xA6"
-                                             "e");
-    // An escape is cut as a whole.
-    EXPECT_EQ(FittedText(u"\x01\x01\x01", 5), "\xE2\x80\xA6    ");
-}

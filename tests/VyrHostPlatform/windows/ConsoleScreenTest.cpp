@@ -89,7 +89,7 @@ TEST_F(ConsoleScreenTest, ConsoleIsATerminalWithItsWidth)
 
 TEST_F(ConsoleScreenTest, Utf8IsShownAsTextWhateverTheConsolesCodePage)
 {
-    ASSERT_TRUE(Console::Write(Console::Stream::Output, "Grüße Ωж\r\nsecond"));
+    ASSERT_EQ(Console::Write(Console::Stream::Output, "Grüße Ωж\r\nsecond"), 0u);
     EXPECT_EQ(ScreenText(0, 9), u"Grüße Ωж ");
     EXPECT_EQ(ScreenText(1, 6), u"second");
 }
@@ -100,18 +100,22 @@ TEST_F(ConsoleScreenTest, LongTextIsWrittenWhole)
     std::string bytes;
     while (bytes.size() < 100000)
         bytes += "abcdefg\r";
-    ASSERT_TRUE(Console::Write(Console::Stream::Output, bytes + "last"));
+    ASSERT_EQ(Console::Write(Console::Stream::Output, bytes + "last"), 0u);
     EXPECT_EQ(ScreenText(0, 8), u"lastefg ");
 }
 
 TEST_F(ConsoleScreenTest, TypedLineIsReadAsUtf8)
 {
     Type(u"Größe 1\r");
-    EXPECT_EQ(Console::ReadInput(), "Größe 1\r\n");
+    std::uint32_t error = 1;
+    EXPECT_EQ(Console::ReadInput(error), "Größe 1\r\n");
+    EXPECT_EQ(error, 0u);
 }
 
 TEST_F(ConsoleScreenTest, CtrlZAtTheStartOfALineEndsTheInput)
 {
     Type(u"\x1A\r");
-    EXPECT_EQ(Console::ReadInput(), "");
+    std::uint32_t error = 1;
+    EXPECT_EQ(Console::ReadInput(error), "");
+    EXPECT_EQ(error, 0u);
 }

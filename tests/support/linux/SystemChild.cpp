@@ -232,6 +232,8 @@ struct SystemChild::Handles
 SystemChild::SystemChild(const ProgramCall& call) : m_handles(std::make_unique<Handles>())
 {
     SpawnActions actions;
+    if (!call.inputFrom.IsEmpty())
+        m_handles->input.reader = Descriptor(::open(ToNameBytes(call.inputFrom).c_str(), O_RDONLY | O_CLOEXEC));
     actions.PassAs(m_handles->input.reader, STDIN_FILENO);
     actions.PassAs(m_handles->output.writer, STDOUT_FILENO);
     actions.PassAs(m_handles->errors.writer, STDERR_FILENO);

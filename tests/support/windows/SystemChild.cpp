@@ -92,6 +92,14 @@ CString CommandLine(const ProgramCall& call)
     return line;
 }
 
+/// The file or folder at `path` for a child to read.
+Handle OpenForChild(const CString& path)
+{
+    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+    return Handle(::CreateFileW(ToWide(path), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited,
+                                OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+}
+
 /// Orders names of variables as Windows does: without regard to case.
 struct NameOrder
 {
@@ -176,6 +184,8 @@ SystemChild::SystemChild(const ProgramCall& call) : m_handles(std::make_unique<H
     STARTUPINFOW start{};
     start.cb = sizeof start;
     start.dwFlags = STARTF_USESTDHANDLES;
+    if (!call.inputFrom.IsEmpty())
+        m_handles->input.reader = OpenForChild(call.inputFrom);
     start.hStdInput = m_handles->input.reader.Get();
     start.hStdOutput = m_handles->output.writer.Get();
     start.hStdError = m_handles->errors.writer.Get();

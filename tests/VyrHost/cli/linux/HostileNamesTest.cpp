@@ -1,5 +1,5 @@
 // Tests of the program: names that only Linux can have.
-#include "../VyrProgram.h"
+#include "UnprivilegedProgram.h"
 
 #include <VyrPlatform/text/Encoding.h>
 
@@ -8,7 +8,6 @@
 
 #include <filesystem>
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace VyrTests;
 using testing::HasSubstr;
@@ -16,21 +15,7 @@ using testing::StartsWith;
 
 namespace {
 
-class HostileNames : public VyrProgram
-{
-protected:
-    /// Runs vyr as an ordinary user, since the system refuses nothing to root.
-    [[nodiscard]] ProgramResult RunUnprivileged(const std::vector<CString>& arguments) const
-    {
-        ProgramCall call = CallOf(arguments);
-        if (geteuid() == 0) {
-            const std::vector<CString> nobody = {u"--reuid=65534", u"--regid=65534", u"--clear-groups", call.program};
-            call.arguments.insert(call.arguments.begin(), nobody.begin(), nobody.end());
-            call.program = u"/usr/bin/setpriv";
-        }
-        return RunProgram(call);
-    }
-};
+using HostileNames = UnprivilegedProgram;
 
 } // namespace
 

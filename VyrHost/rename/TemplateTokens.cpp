@@ -1,0 +1,145 @@
+// Refuses letters and tokens that mean nothing.
+#include <VyrHost/rename/TemplateTokens.h>
+
+#include <VyrHost/rename/Tokens.h>
+#include <VyrHost/text/SafeText.h>
+#include <VyrHost/text/UsageError.h>
+#include <VyrLibraryUtils/DateTimeUtils.h>
+
+#include <algorithm>
+#include <initializer_list>
+#include <string>
+
+namespace VyrHost::Rename {
+
+namespace {
+
+using VyrLibraryUtils::DateTimeUtils;
+
+constexpr std::u16string_view DateTokens[] = {Token::Name, Token::Make, Token::Model, Token::Folder};
+constexpr std::u16string_view NumberTokens[] = {Token::Name, Token::Number};
+constexpr auto None = std::u16string_view::npos;
+constexpr const char* DateLetters =
+    "yyyy-MM-dd HH.mm.ss is a date with its time, and \"vyr rename --help\" has all letters";
+
+bool IsLetter(char16_t unit)
+{
+    return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
+}
+
+bool IsKnown(std::u16string_view token, std::span<const std::u16string_view> known)
+{
+    return std::find(known.begin(), known.end(), token) != known.end();
+}
+
+std::string ListOf(std::span<const std::u16string_view> tokens)
+{
+    std::string list;
+    for (const std::u16string_view token : tokens)
+        list.append(list.empty() ? "" : ", ").append(Text::SafeText(token));
+    return list;
+}
+
+/// Walks a date format from its start to its end.
+class DateFormatCheck
+{
+public:
+    explicit DateFormatCheck(std::u16string_view format) : m_format(format), m_rest(format) {}
+
+    void Run()
+    {
+        while (!m_rest.empty()) {
+            if (m_rest.front() == u'\'')
+                CheckQuoted();
+            else if (m_rest.front() == u'<')
+                CheckToken();
+            else
+                CheckPlain(Take(std::min(m_rest.find_first_of(u"'<"), m_rest.size())));
+        }
+    }
+
+private:
+    [[noreturn]] void Refuse(std::initializer_list<std::string_view> parts) const
+    {
+        std::string reason;
+        for (const std::string_view part : parts)
+            reason += part;
+        Text::RefuseValue("--date", m_format, reason);
+    }
+
+    std::u16string_view Take(std::size_t length)
+    {
+        const std::u16string_view taken = m_rest.substr(0, length);
+        m_rest.remove_prefix(taken.size());
+        return taken;
+    }
+
+    /// Two apostrophes are one, and so begin and end no text that could hold a token.
+    void CheckQuoted()
+    {
+        const std::size_t end = m_rest.find(u'\'', 1);
+        const std::u16string_view quoted = Take(end == None ? m_rest.size() : end + 1);
+        for (const std::u16string_view token : DateTokens)
+            if (quoted.find(token) != None)
+                Refuse({"the apostrophes make text of ", Text::SafeText(token), "; end them before it"});
+    }
+
+    void CheckToken()
+    {
+        const std::size_t end = m_hasEnd ? m_rest.find(u'>') : None;
+        // No later "<" has an end either.
+        m_hasEnd = end != None;
+        const std::u16string_view token = Take(m_hasEnd ? end + 1 : 1);
+        if (m_hasEnd && !IsKnown(token, DateTokens))
+            Refuse({"it knows no ", Text::SafeText(token), ", only ", ListOf(DateTokens),
+                    "; text goes in apostrophes, such as '", Text::SafeText(token), "'"});
+    }
+
+    void CheckPlain(std::u16string_view text) const
+    {
+        for (std::size_t sign = text.find(u'%'); sign != None; sign = text.find(u'%', sign + 1))
+            if (sign + 1 < text.size() && IsLetter(text[sign + 1]))
+                Refuse({"a percent sign is text here; ", DateLetters});
+        // In the pattern that the library makes of it, a letter that means something follows a percent sign.
+        const CString pattern = DateTimeUtils::GetDateTimeFormat(text, {});
+        std::u16string_view rest = pattern;
+        while (!rest.empty()) {
+            if (rest.front() == u'%') {
+                rest.remove_prefix(rest.starts_with(u"%-") ? 3 : 2);
+                continue;
+            }
+            if (IsLetter(rest.front())) {
+                const char letter = static_cast<char>(rest.front());
+                Refuse({"no part of a date is called ", {&letter, 1}, "; ", DateLetters, "; text goes in apostrophes"});
+            }
+            rest.remove_prefix(1);
+        }
+    }
+
+    const std::u16string_view m_format;
+    std::u16string_view m_rest;
+    bool m_hasEnd = true;
+};
+
+} // namespace
+
+void RequireDateFormat(std::u16string_view format)
+{
+    DateFormatCheck(format).Run();
+}
+
+void RequireNumberTokens(std::u16string_view text)
+{
+    for (std::size_t begin = text.find(u'<'); begin != None; begin = text.find(u'<', begin + 1)) {
+        const auto word = text.begin() + static_cast<std::ptrdiff_t>(begin) + 1;
+        const auto end = std::find_if_not(word, text.end(), IsLetter);
+        if (end == word || end == text.end() || *end != u'>')
+            continue;
+        const std::u16string_view token = text.substr(begin, static_cast<std::size_t>(end - word) + 2);
+        if (!IsKnown(token, NumberTokens))
+            Text::RefuseValue("--number", text,
+                              "it knows no " + Text::SafeText(token) + ", only " + ListOf(NumberTokens));
+    }
+}
+
+} // namespace VyrHost::Rename

@@ -1,0 +1,28 @@
+// Tests of the word that was probably meant.
+#include <VyrHost/cli/UnknownWords.h>
+
+#include <gtest/gtest.h>
+
+using namespace VyrHost::Cli;
+
+TEST(NearestWord, IsTheOneWithTheFewestSlips)
+{
+    const std::vector<std::string> words = {"rename", "copy", "move", "undo", "recover"};
+    EXPECT_EQ(NearestWord("renmae", words), "rename");
+    EXPECT_EQ(NearestWord("rname", words), "rename");
+    EXPECT_EQ(NearestWord("renamee", words), "rename");
+    EXPECT_EQ(NearestWord("mvoe", words), "move");
+    EXPECT_EQ(NearestWord("recovr", words), "recover");
+    EXPECT_EQ(NearestWord("rec", words), "recover");
+    EXPECT_EQ(NearestWord("cope", words), "copy");
+}
+
+TEST(NearestWord, IsNoneWhereNoWordIsNear)
+{
+    const std::vector<std::string> words = {"rename", "copy", "move", "undo", "recover"};
+    EXPECT_EQ(NearestWord("delete", words), "");
+    EXPECT_EQ(NearestWord("", words), "");
+    EXPECT_EQ(NearestWord("x", words), "");
+    EXPECT_EQ(NearestWord(std::string(100'000, 'r'), words), "");
+    EXPECT_EQ(NearestWord("rename", {}), "");
+}
