@@ -2,7 +2,7 @@
 #include <VyrHost/batch/Batches.h>
 
 #include <VyrHost/batch/BatchWork.h>
-#include <VyrHost/rename/Planner.h>
+#include <VyrHost/batch/SourceStates.h>
 #include <VyrHost/text/ErrorText.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
@@ -19,7 +19,6 @@ namespace VyrHost::Batch {
 namespace {
 
 using VyrLibraryUtils::FileUtils;
-using VyrPlatform::FileState;
 
 /// What is said of a batch that cannot be recovered.
 constexpr const char16_t* wayOut = u"; \"vyr recover --abandon\" goes on without the batch";
@@ -42,19 +41,24 @@ CString NowAsText()
     return text;
 }
 
-/// The states at `indexes`, which rise.
-std::vector<FileState> Pick(std::vector<FileState> states, const std::vector<std::size_t>& indexes)
-{
-    for (std::size_t place = 0; place < indexes.size(); ++place)
-        states[place] = states[indexes[place]];
-    states.resize(indexes.size());
-    return states;
-}
-
 std::uint64_t MakeToken()
 {
     std::random_device device;
     return static_cast<std::uint64_t>(device()) << 32 | device();
+}
+
+Journal NewJournal(Model::RenamePlan plan, FileOperations& files)
+{
+    Journal journal;
+    journal.states = LookAtSources(plan, files);
+    journal.heading.token = MakeToken();
+    journal.heading.started = NowAsText();
+    journal.heading.entries = plan.entries.size();
+    const PlanProgress before(plan, journal.heading.token);
+    journal.heading.firstFrom = before.PathOf(plan.entries.front().from);
+    journal.heading.firstTo = before.PathOf(plan.entries.front().to);
+    journal.plan = std::move(plan);
+    return journal;
 }
 
 CString DescribeDamage(const JournalFile& file, const CString& problem)
@@ -151,44 +155,21 @@ Batches::Batches() : Batches(SystemFiles(), FindJournalFolder()) {}
 Batches::Batches(FileOperations& files, const CString& journalFolder) : m_files(&files), m_journalFolder(journalFolder)
 {}
 
-BatchSummary Batches::Apply(const Model::RenameList& list, const SourceStates& states,
-                            const Model::RenameReport& report, const StopRequest& isStopAsked)
+BatchSummary Batches::Apply(Model::RenamePlan plan, const RenameReport& report, const StopRequest& isStopAsked)
 {
     BatchSummary summary;
+    summary.notReached = plan.entries.size();
     JournalFolder folder(*m_files, m_journalFolder);
     summary.error = folder.Lock();
     if (summary.error.IsEmpty() && folder.FindOpen())
         summary.error = u"an earlier batch was cut off: \"vyr recover\" finishes it or undoes it";
-    if (!summary.error.IsEmpty()) {
-        summary.notReached = list.renames.size();
+    if (!summary.error.IsEmpty())
         return summary;
-    }
-    Rename::PlannerResult planned =
-        Rename::PlanRenames(list, [this](const CString& path) { return m_files->GetNameFolding(path); });
-    Journal journal;
-    journal.plan = std::move(planned.plan);
-    journal.states = Pick(states(), planned.indexes);
-    journal.heading.token = MakeToken();
-    journal.heading.started = NowAsText();
-    journal.heading.entries = journal.plan.entries.size();
-    if (!planned.indexes.empty()) {
-        journal.heading.firstFrom = list.renames[planned.indexes.front()].from.Path();
-        journal.heading.firstTo = list.renames[planned.indexes.front()].to.Path();
-    }
-    BatchWork work(*m_files, folder, std::move(journal), summary);
-    if (!planned.indexes.empty() && !work.Begin()) {
-        summary.notReached = list.renames.size();
+    BatchWork work(*m_files, folder, NewJournal(std::move(plan), *m_files), summary);
+    if (!work.Begin())
         return summary;
-    }
-    for (const Rename::PlanRefusal& refusal : planned.refused) {
-        ++summary.refused;
-        report(refusal.index, {.outcome = Model::RenameOutcome::Refused, .error = 0, .reason = refusal.reason});
-    }
-    if (!planned.indexes.empty())
-        work.Run(
-            Direction::Forward,
-            [&](Model::PlanIndex entry, const Model::RenameResult& result) { report(planned.indexes[entry], result); },
-            isStopAsked);
+    summary.notReached = 0;
+    work.Run(Direction::Forward, report, isStopAsked);
     return summary;
 }
 

@@ -2,7 +2,8 @@
 /// Applies batches of renames, undoes them, and ends those that were cut off.
 #pragma once
 
-#include <VyrHost/model/RenameList.h>
+#include <VyrHost/model/RenamePlan.h>
+#include <VyrHost/model/RenameResult.h>
 
 #include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/text/CString.h>
@@ -93,8 +94,8 @@ struct BatchSummary
     CString error;
 };
 
-/// Gives what stands at the old path of each rename of a list, seen after the list was made.
-using SourceStates = std::function<std::vector<VyrPlatform::FileState>()>;
+/// Called once for each entry of a plan, as soon as its fate is known.
+using RenameReport = std::function<void(Model::PlanIndex entry, const Model::RenameResult& result)>;
 
 using BatchEntryReport = std::function<void(const BatchEntry& entry)>;
 
@@ -137,12 +138,10 @@ public:
     /// For tests: acts through `files` and keeps the journals in `journalFolder`.
     Batches(FileOperations& files, const CString& journalFolder);
 
-    /// Does `list`: journal on disk first, nothing ever overwritten, afterwards a look at the folders that do not tell
-    /// every two names apart.
-    /// @param states  called once the plan is made.
-    /// @param report  called once for each rename, unless the summary's error says that nothing was begun.
-    BatchSummary Apply(const Model::RenameList& list, const SourceStates& states, const Model::RenameReport& report,
-                       const StopRequest& isStopAsked);
+    /// Does `plan`, which has an entry: journal on disk first, nothing ever overwritten, afterwards a look at the
+    /// folders that do not tell every two names apart.
+    /// @param report  called once for each entry, unless the summary's error says that nothing was begun.
+    BatchSummary Apply(Model::RenamePlan plan, const RenameReport& report, const StopRequest& isStopAsked);
 
     /// The batches in the journal, the latest first.
     [[nodiscard]] std::vector<BatchInformation> List() const;

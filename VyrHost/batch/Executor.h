@@ -4,7 +4,7 @@
 
 #include <VyrHost/batch/FolderCache.h>
 #include <VyrHost/batch/PlanProgress.h>
-#include <VyrHost/model/RenameList.h>
+#include <VyrHost/model/RenameResult.h>
 
 #include <cstddef>
 #include <functional>

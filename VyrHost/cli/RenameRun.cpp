@@ -2,8 +2,6 @@
 #include <VyrHost/cli/RenameRequest.h>
 
 #include <VyrHost/batch/Batches.h>
-#include <VyrHost/batch/FileOperations.h>
-#include <VyrHost/batch/SourceLooks.h>
 #include <VyrHost/cli/BatchReport.h>
 #include <VyrHost/cli/EditNames.h>
 #include <VyrHost/cli/ExitCode.h>
@@ -11,8 +9,6 @@
 #include <VyrHost/rename/GivenNames.h>
 #include <VyrHost/rename/Pairs.h>
 #include <VyrHost/rename/PictureAccess.h>
-#include <VyrHost/rename/PlannedRenames.h>
-#include <VyrHost/rename/Planner.h>
 #include <VyrHost/text/ErrorText.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/text/StandardInput.h>
@@ -75,12 +71,15 @@ public:
         TakeEntries();
         const Rename::Groups groups =
             m_request.together ? Rename::Groups::ByStem(List()) : Rename::Groups::OfOne(List());
-        Decide(groups, !m_request.edit);
+        Decide(groups);
         if (m_request.edit)
             Edit();
-        const bool isStopped = m_request.conflicts.mode == Rename::OnConflict::Refuse && HasConflict();
+        const bool isStopped =
+            m_request.conflicts.mode == Rename::OnConflict::Refuse && Rename::StopAtConflict(m_preview);
         if (isStopped)
-            StopAll();
+            Complain("a name is taken, and --on-conflict=fail was asked for: nothing is renamed");
+        m_outcome.decisions = std::move(m_preview.decisions);
+        NoteCauses();
         const int applied = m_request.apply && !isStopped ? Apply() : ExitCode::Success;
         if (applied == ExitCode::Blocked)
             return applied;
@@ -114,46 +113,11 @@ private:
         m_names = std::make_unique<Rename::GivenNames>(std::move(names));
     }
 
-    /// @param areFinal  the names are those that are applied.
-    void Decide(const Rename::Groups& groups, bool areFinal)
+    void Decide(const Rename::Groups& groups)
     {
         Ui::Progress progress("naming", groups.Count(), IsSilent());
-        Rename::WishReport onWish;
-        if (m_request.apply && areFinal) {
-            m_looks = std::make_unique<Batch::SourceLooks>(List(), Batch::SystemFiles());
-            onWish = [this](std::uint32_t entry) {
-                m_looks->Ask(entry);
-            };
-        }
-        m_outcome.decisions = Rename::Decide(
-            List(), groups, *m_names, m_request.conflicts, [&progress](std::size_t named) { progress.Show(named); },
-            onWish);
-        NoteCauses();
-        if (MovesAFolder())
-            RefuseWhatHasNoPlan();
-    }
-
-    [[nodiscard]] bool MovesAFolder()
-    {
-        const std::vector<Model::Entry>& entries = List().entries;
-        for (std::size_t index = 0; index < entries.size(); ++index) {
-            const Model::Decision& decision = m_outcome.decisions[index];
-            if (decision.IsRename() && decision.folder != entries[index].folder &&
-                entries[index].kind == VyrPlatform::FileSystem::Kind::Folder)
-                return true;
-        }
-        return false;
-    }
-
-    /// A folder that would end up inside itself, and what needs its name: only the plan as a whole shows them.
-    void RefuseWhatHasNoPlan()
-    {
-        const Rename::PlannedRenames planned = Rename::PlanOf(List(), m_outcome.decisions);
-        const Rename::PlannerResult plan = Rename::PlanRenames(
-            planned.list, [](const CString& path) { return Batch::SystemFiles().GetNameFolding(path); });
-        for (const Rename::PlanRefusal& refusal : plan.refused)
-            Note(planned.entries[refusal.index],
-                 {.outcome = Model::RenameOutcome::Refused, .error = 0, .reason = refusal.reason});
+        m_preview = Rename::MakePreview(List(), groups, *m_names, m_request.conflicts,
+                                        [&progress](std::size_t named) { progress.Show(named); });
     }
 
     /// What the system says about what could not be read.
@@ -173,12 +137,11 @@ private:
     void Edit()
     {
         std::vector<CString> names;
-        for (std::size_t entry = 0; entry < m_outcome.decisions.size(); ++entry)
-            names.push_back(NameForEditing(List().entries[entry], m_outcome.decisions[entry]));
+        for (std::size_t entry = 0; entry < m_preview.decisions.size(); ++entry)
+            names.push_back(NameForEditing(List().entries[entry], m_preview.decisions[entry]));
         m_names = std::make_unique<Rename::GivenNames>(EditNames(names));
-        m_outcome = {};
         List().ForgetHolders();
-        Decide(Rename::Groups::OfOne(List()), true);
+        Decide(Rename::Groups::OfOne(List()));
     }
 
     /// With its folder as it is shown: a bare name would leave the entry where it is.
@@ -199,28 +162,11 @@ private:
         return CString(std::u16string_view(text));
     }
 
-    [[nodiscard]] bool HasConflict() const
-    {
-        return std::any_of(m_outcome.decisions.begin(), m_outcome.decisions.end(), [](const Model::Decision& decision) {
-            return decision.reason == Model::Reason::TargetExists || decision.reason == Model::Reason::TwoToOne;
-        });
-    }
-
-    void StopAll()
-    {
-        Complain("a name is taken, and --on-conflict=fail was asked for: nothing is renamed");
-        for (Model::Decision& decision : m_outcome.decisions)
-            if (decision.IsRename()) {
-                decision.status = Model::Status::NotReached;
-                decision.reason = Model::Reason::Stopped;
-            }
-    }
-
     /// Renames, and writes what became of each entry into the outcome.
     int Apply()
     {
-        const Rename::PlannedRenames planned = Rename::PlanOf(List(), m_outcome.decisions);
-        if (planned.list.renames.empty())
+        const std::size_t count = m_preview.entries.size();
+        if (count == 0)
             return ExitCode::Success;
         Batch::Batches batches;
         if (const auto cutOff = batches.FindCutOff()) {
@@ -228,15 +174,13 @@ private:
             return ExitCode::Blocked;
         }
         VyrHostPlatform::Interrupt::Catch();
-        Ui::Progress progress("renaming", planned.list.renames.size(), IsSilent());
+        Ui::Progress progress("renaming", count, IsSilent());
         std::size_t done = 0;
-        const Model::RenameReport report = [&](std::size_t index, const Model::RenameResult& result) {
-            Note(planned.entries[index], result);
+        const Batch::RenameReport report = [&](Model::PlanIndex entry, const Model::RenameResult& result) {
+            Note(m_preview.entries[entry], result);
             progress.Show(++done);
         };
-        m_summary = batches.Apply(
-            planned.list, [this, &planned] { return m_looks->Take(planned.entries); }, report,
-            VyrHostPlatform::Interrupt::WasAsked);
+        m_summary = batches.Apply(std::move(m_preview.plan), report, VyrHostPlatform::Interrupt::WasAsked);
         progress.Close();
         return JudgeSummary(m_summary);
     }
@@ -306,7 +250,7 @@ private:
     RenameRequest& m_request;
     Collect::CollectedEntries m_collected;
     std::unique_ptr<Rename::NameSource> m_names;
-    std::unique_ptr<Batch::SourceLooks> m_looks;
+    Rename::Preview m_preview;
     Model::Outcome m_outcome;
     Batch::BatchSummary m_summary;
 };

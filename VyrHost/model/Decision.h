@@ -67,6 +67,12 @@ enum class Reason : std::uint8_t
     TooLong,
     ReservedWord,
     TrailingDotOrBlank,
+    /// A folder that would stand in itself.
+    InsideItself,
+    /// Who has the name was to get another one, but cannot.
+    PlaceKept,
+    /// A folder that it moves into cannot be created: who has the name was to get another one, but cannot.
+    FolderKept,
     /// Another entry's name is taken, which stops all.
     Stopped,
     /// What applying found; the cause says it.

@@ -3,6 +3,8 @@
 
 #include <VyrHost/model/NaturalOrder.h>
 #include <VyrHost/model/Prefetch.h>
+#include <VyrHost/text/FolderPart.h>
+#include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FolderListing.h>
 
 #include <vector>
@@ -22,28 +24,54 @@ struct Listed
 
 std::uint32_t FolderSet::Open(const CString& path, const CString& shown)
 {
-    if (const auto known = m_byPath.find(path); known != m_byPath.end())
+    if (const auto known = m_byPath.find(path); known != m_byPath.end() && m_folders[known->second].wasOpened)
         return known->second;
     const VyrPlatform::FileState state = VyrPlatform::LookAtFile(path);
-    const std::uint32_t number = Find(state);
-    m_byPath.emplace(path, number);
-    if (number == Count()) {
-        Folder& folder = m_folders.emplace_back();
-        folder.path = path;
-        folder.shown = shown;
-        if (state.kind == VyrPlatform::FileSystem::Kind::Folder)
-            folder.device = state.identity.device;
-        List(folder);
+    const bool isFolder = state.kind == VyrPlatform::FileSystem::Kind::Folder;
+    if (const auto known = m_byIdentity.find(state.identity); isFolder && known != m_byIdentity.end())
+        return m_byPath[path] = known->second;
+    const std::uint32_t number = NumberOf(path);
+    Folder& folder = m_folders[number];
+    folder.shown = shown;
+    folder.wasOpened = true;
+    if (isFolder) {
+        folder.device = state.identity.device;
+        m_byIdentity.emplace(state.identity, number);
     }
+    List(folder);
     return number;
 }
 
-/// The number that the folder in `state` has under another path, else the next number.
-std::uint32_t FolderSet::Find(const VyrPlatform::FileState& state)
+/// The number of the folder at `path`; those of the folders that it stands in are lower.
+std::uint32_t FolderSet::NumberOf(const CString& path)
 {
-    if (state.kind != VyrPlatform::FileSystem::Kind::Folder)
-        return Count();
-    return m_byIdentity.try_emplace(state.identity, Count()).first->second;
+    const std::u16string_view text = path;
+    const auto root = static_cast<std::size_t>(VyrLibraryUtils::FileUtils::GetSplitPath(path, 1).GetLength());
+    // Where the paths of the folders end that are not known yet, the innermost first.
+    std::vector<std::size_t> ends;
+    std::size_t end = text.size();
+    auto known = m_byPath.find(path);
+    while (known == m_byPath.end() && end > root) {
+        ends.push_back(end);
+        end = Text::FolderPart(text.substr(0, end - 1)).size();
+        known = m_byPath.find(text.substr(0, end));
+    }
+    if (known == m_byPath.end())
+        known = Add(text.substr(0, end), NoFolder, text.substr(0, end));
+    for (; !ends.empty(); ends.pop_back()) {
+        known = Add(text.substr(0, ends.back()), known->second, text.substr(end, ends.back() - end - 1));
+        end = ends.back();
+    }
+    return known->second;
+}
+
+FolderSet::Numbers::iterator FolderSet::Add(std::u16string_view path, std::uint32_t parent, std::u16string_view name)
+{
+    Folder& folder = m_folders.emplace_back();
+    folder.path = path;
+    folder.parent = parent;
+    folder.name = Intern(name);
+    return m_byPath.emplace(folder.path, Count() - 1).first;
 }
 
 void FolderSet::List(Folder& folder)

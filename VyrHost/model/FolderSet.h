@@ -15,17 +15,28 @@
 
 namespace VyrHost::Model {
 
+/// Stands for "no folder" where the number of a folder is asked for.
+inline constexpr std::uint32_t NoFolder = UINT32_MAX;
+
 /// A folder and the names in it.
 struct Folder
 {
     /// Absolute, its separator at the end.
     CString path;
+    /// The folder that it stands in; NoFolder for a root.
+    std::uint32_t parent = NoFolder;
+    /// Its name there; the path of a root.
+    InternedName name;
     /// What stands before an entry's name when it is shown: the folder as the user named it.
     CString shown;
     /// What the listing brings stands first, in natural order.
     NameTable names;
+    /// False for a folder that is known only because another one stands in it: then all below says nothing.
+    bool wasOpened = false;
     /// The disk has it: its listing is in `names`.
     bool exists = false;
+    /// The disk does not have it, and the batch can create it.
+    bool isNew = false;
     /// Why it could not be listed (the system's code); 0 when it was.
     std::uint32_t error = 0;
     /// The file system that it is on (FileIdentity); nothing where the system does not tell.
@@ -44,8 +55,9 @@ struct IdentityHash
 class FolderSet
 {
 public:
-    /// The number of the folder `path` (absolute, its separator at the end), listed when it is new here. Two paths to
-    /// one folder give one number; the first path stays. `shown` is taken for a new one.
+    /// The number of the folder `path` (absolute, its separator at the end), listed when it is opened for the first
+    /// time. Two paths to one folder give one number; the first path stays. `shown` is taken for a new one. The folders
+    /// that it stands in get numbers, too.
     std::uint32_t Open(const CString& path, const CString& shown);
 
     [[nodiscard]] Folder& operator[](std::uint32_t folder) { return m_folders[folder]; }
@@ -58,12 +70,15 @@ public:
     [[nodiscard]] const std::shared_ptr<NamePool>& Texts() const { return m_texts; }
 
 private:
-    std::uint32_t Find(const VyrPlatform::FileState& state);
+    using Numbers = std::unordered_map<CString, std::uint32_t>;
+
+    std::uint32_t NumberOf(const CString& path);
+    Numbers::iterator Add(std::u16string_view path, std::uint32_t parent, std::u16string_view name);
     void List(Folder& folder);
 
     std::shared_ptr<NamePool> m_texts = std::make_shared<NamePool>();
     std::deque<Folder> m_folders;
-    std::unordered_map<CString, std::uint32_t> m_byPath;
+    Numbers m_byPath;
     std::unordered_map<VyrPlatform::FileIdentity, std::uint32_t, IdentityHash> m_byIdentity;
 };
 

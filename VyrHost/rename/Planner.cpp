@@ -1,30 +1,35 @@
-// Turns paths into places, finds out who waits for whom, refuses what cannot be done, and has the rest ordered.
+// Finds out who waits for whom, refuses what cannot be done, and has the rest ordered.
 #include <VyrHost/rename/Planner.h>
 
 #include <VyrHost/model/Prefetch.h>
-#include <VyrHost/rename/FolderTree.h>
+#include <VyrHost/model/SlotTable.h>
 #include <VyrHost/rename/StepOrder.h>
 
 #include <algorithm>
+#include <unordered_map>
 #include <utility>
 
 namespace VyrHost::Rename {
 
 namespace {
 
+using Model::none;
+using Model::Place;
+using Model::PlanEntry;
+using Model::PlanFolder;
+using Model::PlanIndex;
+using Model::Reason;
+
 class Planner
 {
 public:
-    Planner(const Model::RenameList& list, const FoldingOfFolder& foldingOf)
-        : m_list(list), m_tree(m_draft, foldingOf), m_isRefused(list.renames.size())
-    {
-        m_draft.texts = list.texts;
-    }
+    explicit Planner(RenameDraft draft)
+        : m_plan(std::move(draft.plan)), m_foldings(std::move(draft.foldings)), m_groups(std::move(draft.groups)),
+          m_isRefused(m_plan.entries.size())
+    {}
 
     PlannerResult Plan()
     {
-        PlaceEntries();
-        PlaceNewFolders();
         FindWhoStandsWhere();
         FindFoldersInTheirPlaces();
         RefuseTangledFolders();
@@ -33,230 +38,198 @@ public:
     }
 
 private:
-    /// A draft entry's places are empty once it is refused for them.
-    void PlaceEntries()
-    {
-        m_draft.entries.reserve(m_list.renames.size());
-        m_occupants.Reserve(2 * m_list.renames.size());
-        for (const Model::PlannedRename& rename : m_list.renames) {
-            const std::optional<Model::Place> from = m_tree.PlaceOf(rename.from);
-            const std::optional<Model::Place> to = m_tree.PlaceOf(rename.to);
-            const auto entry = static_cast<Model::PlanIndex>(m_draft.entries.size());
-            m_draft.entries.push_back(
-                {.kind = rename.kind, .from = from.value_or(Model::Place()), .to = to.value_or(Model::Place())});
-            if (!from)
-                Refuse(entry, u"the path is not a full path of a file or folder");
-            else if (!to)
-                Refuse(entry, u"the new path is not a full path that a file or folder can have");
-            else if (*from == *to)
-                Refuse(entry, u"the new path is the old one");
-        }
-    }
-
-    void PlaceNewFolders()
-    {
-        for (const CString& path : m_list.newFolders) {
-            const std::optional<Model::Place> place = m_tree.PlaceOf(Model::Cut(path, *m_draft.texts));
-            if (place)
-                m_draft.folders[m_tree.Collect(*place, path)].isNew = true;
-        }
-    }
-
     void FindWhoStandsWhere()
     {
-        for (Model::PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
-            Expect(entry + Model::PrefetchDistance, &Model::PlanEntry::from);
-            const Model::Place& from = m_draft.entries[entry].from;
-            if (from.folder != Model::none && m_occupants.Put(m_tree.SlotOf(from), {.before = entry}).before != entry)
-                Refuse(entry, u"the path stands in the list twice");
+        m_occupants.Reserve(2 * m_plan.entries.size());
+        for (PlanIndex entry = 0; entry < m_plan.entries.size(); ++entry) {
+            Expect(entry + Model::PrefetchDistance, &PlanEntry::from);
+            m_occupants.Put(SlotOf(m_plan.entries[entry].from), {.before = entry});
         }
-        for (Model::PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
-            Expect(entry + Model::PrefetchDistance, &Model::PlanEntry::to);
-            if (IsRefused(entry))
-                continue;
-            Model::PlanEntry& rename = m_draft.entries[entry];
-            Occupants& occupants = m_occupants.Put(m_tree.SlotOf(rename.to), {});
-            if (occupants.after != Model::none)
-                Refuse(entry, u"another entry of the list gets the same new path");
+        for (PlanIndex entry = 0; entry < m_plan.entries.size(); ++entry) {
+            Expect(entry + Model::PrefetchDistance, &PlanEntry::to);
+            PlanEntry& rename = m_plan.entries[entry];
+            Occupants& occupants = m_occupants.Put(SlotOf(rename.to), {});
+            if (occupants.after != none)
+                Refuse(entry, Reason::TwoToOne);
             else
                 occupants.after = entry;
             rename.waitsFor = occupants.before;
         }
     }
 
-    void Expect(std::size_t entry, Model::Place Model::PlanEntry::*end) const
+    void Expect(std::size_t entry, Place PlanEntry::*end) const
     {
-        if (entry >= m_draft.entries.size())
+        if (entry >= m_plan.entries.size())
             return;
-        const Model::Place& place = m_draft.entries[entry].*end;
-        if (place.folder != Model::none && m_tree.TakesNamesAsTheyAre(place.folder))
+        const Place& place = m_plan.entries[entry].*end;
+        if (TakesNamesAsTheyAre(place.folder))
             m_occupants.Expect(place);
     }
 
-    /// Tells the folders that the batch renames and makes from those that stay.
+    /// Tells the folders that the batch renames and creates from those that stay.
     void FindFoldersInTheirPlaces()
     {
-        m_standingAt.assign(m_draft.folders.size(), Model::none);
-        for (Model::PlanIndex folder = 0; folder < m_draft.folders.size(); ++folder) {
-            Model::PlanFolder& planned = m_draft.folders[folder];
-            if (planned.place.folder == Model::none)
+        m_standingAt.assign(m_plan.folders.size(), none);
+        for (PlanIndex folder = 0; folder < m_plan.folders.size(); ++folder) {
+            PlanFolder& planned = m_plan.folders[folder];
+            if (planned.place.folder == none)
                 continue;
-            const auto [standing, coming] = OccupantsOf(m_tree.SlotOf(planned.place));
+            const auto [standing, coming] = OccupantsOf(planned.place);
             // Entries move into a folder by its name before the batch, also where the batch gives it another one.
-            if (standing != Model::none && m_draft.entries[standing].kind == VyrPlatform::FileSystem::Kind::Folder)
+            if (standing != none && m_plan.entries[standing].kind == VyrPlatform::FileSystem::Kind::Folder)
                 planned.isNew = false;
             if (planned.isNew) {
                 m_standingAt[folder] = standing;
-                RefuseIfAny(coming, u"a folder is made at the new path");
-            } else if (standing != Model::none && !IsRefused(standing)) {
+                if (coming != none)
+                    Refuse(coming, Reason::TargetExists);
+            } else if (standing != none && !m_isRefused[standing]) {
                 planned.entry = standing;
-                m_draft.entries[standing].folder = folder;
+                m_plan.entries[standing].folder = folder;
             }
         }
     }
 
     void RefuseTangledFolders()
     {
-        const std::vector<Model::PlanIndex> order = Model::OrderFolders(m_draft);
-        if (order.size() == m_draft.folders.size())
+        const std::vector<PlanIndex> order = OrderFolders(m_plan);
+        if (order.size() == m_plan.folders.size())
             return;
-        std::vector<bool> isTangled(m_draft.folders.size(), true);
-        for (const Model::PlanIndex folder : order)
+        std::vector<bool> isTangled(m_plan.folders.size(), true);
+        for (const PlanIndex folder : order)
             isTangled[folder] = false;
-        for (Model::PlanIndex folder = 0; folder < m_draft.folders.size(); ++folder) {
-            const Model::PlanIndex entry = m_draft.folders[folder].entry;
-            if (isTangled[folder] && entry != Model::none && isTangled[m_draft.entries[entry].to.folder])
-                Refuse(entry, u"the folder would end up inside itself");
+        for (PlanIndex folder = 0; folder < m_plan.folders.size(); ++folder) {
+            const PlanIndex entry = m_plan.folders[folder].entry;
+            if (isTangled[folder] && entry != none && isTangled[m_plan.entries[entry].to.folder])
+                Refuse(entry, Reason::InsideItself);
         }
     }
 
-    /// What needs the place of a refused entry is refused too: it is not vacated.
+    /// What needs the place of a refused entry is refused too, since it is not vacated, and what keeps together with
+    /// it.
     void RefuseDependents()
     {
-        const std::vector<std::vector<Model::PlanIndex>> insideNewFolders =
-            m_refused.empty() ? std::vector<std::vector<Model::PlanIndex>>() : ListInsideNewFolders();
+        if (m_refused.empty())
+            return;
+        const std::vector<std::vector<PlanIndex>> waiting = ListWaitingForFolders();
+        std::unordered_multimap<std::uint32_t, PlanIndex> members;
+        for (PlanIndex entry = 0; entry < m_groups.size(); ++entry)
+            members.emplace(m_groups[entry], entry);
         for (std::size_t next = 0; next < m_refused.size(); ++next) {
-            const Model::PlanIndex refused = m_refused[next].entry;
-            const Model::Place& from = m_draft.entries[refused].from;
-            if (from.folder == Model::none)
-                continue;
-            const Model::Place slot = m_tree.SlotOf(from);
-            const auto [standing, coming] = OccupantsOf(slot);
-            if (standing != refused)
-                continue;
-            RefuseIfAny(coming, u"the new path is taken by an entry that keeps it");
-            const Model::PlanIndex folder = m_tree.FolderAt(slot);
-            if (folder != Model::none && m_draft.folders[folder].isNew)
-                for (const Model::PlanIndex entry : insideNewFolders[folder])
-                    Refuse(entry, u"its folder cannot be made: an entry keeps the path");
+            const PlanIndex refused = m_refused[next].entry;
+            if (const PlanIndex coming = OccupantsOf(m_plan.entries[refused].from).after; coming != none)
+                Refuse(coming, Reason::PlaceKept);
+            for (const PlanIndex entry : waiting[refused])
+                Refuse(entry, Reason::FolderKept);
+            const auto [first, end] = members.equal_range(m_groups[refused]);
+            for (auto member = first; member != end; ++member)
+                Refuse(member->second, Reason::CompanionRefused);
         }
     }
 
-    /// For each topmost new folder the entries that move into it and into the new folders below it.
-    [[nodiscard]] std::vector<std::vector<Model::PlanIndex>> ListInsideNewFolders() const
+    /// For each entry at whose place a folder is created the entries that move into that folder and the new folders
+    /// below it.
+    [[nodiscard]] std::vector<std::vector<PlanIndex>> ListWaitingForFolders() const
     {
-        std::vector<Model::PlanIndex> topmost(m_draft.folders.size(), Model::none);
-        for (Model::PlanIndex folder = 0; folder < m_draft.folders.size(); ++folder) {
-            const Model::PlanIndex parent = m_draft.folders[folder].place.folder;
-            if (m_draft.folders[folder].isNew)
-                topmost[folder] = topmost[parent] == Model::none ? folder : topmost[parent];
+        // Whatever stands in the way stands at the topmost of the new folders.
+        std::vector<PlanIndex> inTheWay(m_plan.folders.size(), none);
+        for (PlanIndex folder = 0; folder < m_plan.folders.size(); ++folder) {
+            const PlanFolder& planned = m_plan.folders[folder];
+            if (planned.isNew)
+                inTheWay[folder] =
+                    m_plan.folders[planned.place.folder].isNew ? inTheWay[planned.place.folder] : m_standingAt[folder];
         }
-        std::vector<std::vector<Model::PlanIndex>> inside(m_draft.folders.size());
-        for (Model::PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
-            const Model::PlanIndex folder = m_draft.entries[entry].to.folder;
-            if (folder != Model::none && topmost[folder] != Model::none)
-                inside[topmost[folder]].push_back(entry);
-        }
-        return inside;
+        std::vector<std::vector<PlanIndex>> waiting(m_plan.entries.size());
+        for (PlanIndex entry = 0; entry < m_plan.entries.size(); ++entry)
+            if (const PlanIndex standing = inTheWay[m_plan.entries[entry].to.folder]; standing != none)
+                waiting[standing].push_back(entry);
+        return waiting;
     }
 
     /// Who stands at a place before the batch, and who after it.
     struct Occupants
     {
-        Model::PlanIndex before = Model::none;
-        Model::PlanIndex after = Model::none;
+        PlanIndex before = none;
+        PlanIndex after = none;
     };
 
-    [[nodiscard]] Occupants OccupantsOf(const Model::Place& slot) const
+    [[nodiscard]] Occupants OccupantsOf(const Place& place)
     {
-        const Occupants* const occupants = m_occupants.Find(slot);
+        const Occupants* const occupants = m_occupants.Find(SlotOf(place));
         return occupants ? *occupants : Occupants();
     }
 
-    struct Refused
+    /// `place` as its file system sees it: its name is folded.
+    [[nodiscard]] Place SlotOf(const Place& place)
     {
-        Model::PlanIndex entry;
-        const char16_t* reason;
-    };
+        if (TakesNamesAsTheyAre(place.folder))
+            return place;
+        return {place.folder,
+                m_foldedNames.Intern(VyrHostPlatform::FoldName(place.name.View(), m_foldings[place.folder]))};
+    }
 
-    [[nodiscard]] bool IsRefused(Model::PlanIndex entry) const { return m_isRefused[entry]; }
-
-    void Refuse(Model::PlanIndex entry, const char16_t* reason)
+    [[nodiscard]] bool TakesNamesAsTheyAre(PlanIndex folder) const
     {
-        if (IsRefused(entry))
+        return m_foldings[folder] == VyrHostPlatform::NameFolding::None;
+    }
+
+    void Refuse(PlanIndex entry, Reason reason)
+    {
+        if (m_isRefused[entry])
             return;
         m_isRefused[entry] = true;
         m_refused.push_back({entry, reason});
-    }
-
-    void RefuseIfAny(Model::PlanIndex entry, const char16_t* reason)
-    {
-        if (entry != Model::none)
-            Refuse(entry, reason);
     }
 
     /// Leaves the refused entries out, and has the rest ordered.
     PlannerResult Finish()
     {
         PlannerResult result;
-        std::vector<Model::PlanIndex> newIndexes(m_draft.entries.size(), Model::none);
-        result.indexes.reserve(m_draft.entries.size());
-        for (Model::PlanIndex entry = 0; entry < m_draft.entries.size(); ++entry) {
-            if (IsRefused(entry))
+        std::vector<PlanIndex> newIndexes(m_plan.entries.size(), none);
+        result.entries.reserve(m_plan.entries.size());
+        for (PlanIndex entry = 0; entry < m_plan.entries.size(); ++entry) {
+            if (m_isRefused[entry])
                 continue;
-            const auto kept = static_cast<Model::PlanIndex>(result.indexes.size());
+            const auto kept = static_cast<PlanIndex>(result.entries.size());
             newIndexes[entry] = kept;
-            result.indexes.push_back(entry);
+            result.entries.push_back(entry);
             if (kept != entry)
-                m_draft.entries[kept] = m_draft.entries[entry];
+                m_plan.entries[kept] = m_plan.entries[entry];
         }
-        std::sort(m_refused.begin(), m_refused.end(),
-                  [](const Refused& left, const Refused& right) { return left.entry < right.entry; });
-        for (const auto& [entry, reason] : m_refused)
-            result.refused.push_back({entry, reason});
-        m_draft.entries.resize(result.indexes.size());
-        result.plan.entries = std::move(m_draft.entries);
-        const auto renumber = [&newIndexes](Model::PlanIndex& entry) {
-            entry = entry == Model::none ? Model::none : newIndexes[entry];
+        m_plan.entries.resize(result.entries.size());
+        const auto renumber = [&newIndexes](PlanIndex& entry) {
+            entry = entry == none ? none : newIndexes[entry];
         };
-        result.plan.folders = std::move(m_draft.folders);
-        result.plan.texts = m_draft.texts;
-        for (Model::PlanEntry& entry : result.plan.entries)
+        for (PlanEntry& entry : m_plan.entries)
             renumber(entry.waitsFor);
-        for (Model::PlanFolder& folder : result.plan.folders)
+        for (PlanFolder& folder : m_plan.folders)
             renumber(folder.entry);
-        for (Model::PlanIndex& entry : m_standingAt)
+        for (PlanIndex& entry : m_standingAt)
             renumber(entry);
-        result.plan.steps = OrderSteps(result.plan, m_standingAt);
+        m_plan.steps = OrderSteps(m_plan, m_standingAt);
+        result.plan = std::move(m_plan);
+        result.refused = std::move(m_refused);
+        std::sort(result.refused.begin(), result.refused.end(),
+                  [](const PlanRefusal& left, const PlanRefusal& right) { return left.entry < right.entry; });
         return result;
     }
 
-    const Model::RenameList& m_list;
-    Model::RenamePlan m_draft;
-    FolderTree m_tree;
+    Model::RenamePlan m_plan;
+    const std::vector<VyrHostPlatform::NameFolding> m_foldings;
+    const std::vector<std::uint32_t> m_groups;
     Model::SlotTable<Occupants> m_occupants;
+    Model::NamePool m_foldedNames;
     /// For each new folder the entry at its place.
-    std::vector<Model::PlanIndex> m_standingAt;
+    std::vector<PlanIndex> m_standingAt;
     std::vector<bool> m_isRefused;
     /// In the order in which it was found out.
-    std::vector<Refused> m_refused;
+    std::vector<PlanRefusal> m_refused;
 };
 
 } // namespace
 
-PlannerResult PlanRenames(const Model::RenameList& list, const FoldingOfFolder& foldingOf)
+PlannerResult PlanRenames(RenameDraft draft)
 {
-    return Planner(list, foldingOf).Plan();
+    return Planner(std::move(draft)).Plan();
 }
 
 } // namespace VyrHost::Rename

@@ -1,43 +1,54 @@
 /// @file
-/// From a list of renames to the steps that bring them about.
+/// From renames in a tree of folders to the steps that bring them about.
 #pragma once
 
-#include <VyrHost/model/RenameList.h>
+#include <VyrHost/model/Decision.h>
 #include <VyrHost/model/RenamePlan.h>
-
 #include <VyrHostPlatform/NameFolding.h>
 
-#include <functional>
+#include <cstdint>
+#include <vector>
 
 namespace VyrHost::Rename {
 
-/// Answers how the folder at a path compares names; asked once for each folder.
-using FoldingOfFolder = std::function<VyrHostPlatform::NameFolding(const CString& path)>;
+/// What is to be renamed.
+///
+/// No two entries are one, and each has a new place. Nothing that the batch leaves in place stands where an entry goes.
+/// An entry inside a folder that is itself renamed names that folder as it is before the batch, in `from` and in `to`.
+struct RenameDraft
+{
+    /// Its folders, and of its entries `kind`, `from` and `to`.
+    Model::RenamePlan plan;
+    /// For each folder how it compares names.
+    std::vector<VyrHostPlatform::NameFolding> foldings;
+    /// For each entry the number of its group: entries of one group all get their new names, or none does.
+    std::vector<std::uint32_t> groups;
+};
 
 struct PlanRefusal
 {
-    /// In the list of renames.
-    std::size_t index = 0;
-    CString reason;
+    /// In the draft.
+    Model::PlanIndex entry = 0;
+    Model::Reason reason = Model::Reason::None;
 };
 
 struct PlannerResult
 {
     Model::RenamePlan plan;
-    /// For each entry of the plan its index in the list of renames.
-    std::vector<std::size_t> indexes;
-    /// What cannot be planned, and what depends on it.
+    /// For each entry of the plan its index in the draft, rising.
+    std::vector<Model::PlanIndex> entries;
+    /// What cannot be planned, and what depends on it, in the order of the draft.
     std::vector<PlanRefusal> refused;
 };
 
-/// Plans `list` without looking at the disk.
+/// Plans `draft` without looking at the disk.
 ///
 /// Chains (a to b, b to c) are done from their free end, cycles (a to b, b to a) through one temporary name, as are
 /// changes that the file system takes for the same name. A folder and what stands in it may be renamed together.
 ///
-/// Refused are: a path that is not full or has empty, "." or ".." parts; a source named twice, two entries to one new
-/// path; a folder that would end up inside itself; and whatever needs the place of a refused one. Takes time in
-/// proportion to the list, nearly.
-[[nodiscard]] PlannerResult PlanRenames(const Model::RenameList& list, const FoldingOfFolder& foldingOf);
+/// Refused are: an entry whose new place another one gets, or a folder that is created; a folder that would end up
+/// inside itself; whatever needs the place of a refused one; and the others of its group. Takes time in proportion to
+/// the draft, nearly.
+[[nodiscard]] PlannerResult PlanRenames(RenameDraft draft);
 
 } // namespace VyrHost::Rename

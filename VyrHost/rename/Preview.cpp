@@ -1,8 +1,9 @@
-// Asks for new names, judges them, and has them allotted.
+// Asks for new names, judges them, and has their conflicts resolved and the result planned.
 #include <VyrHost/rename/Preview.h>
 
 #include <VyrHost/rename/ConflictResolver.h>
 #include <VyrHost/rename/NameValidator.h>
+#include <VyrHost/rename/Planner.h>
 #include <VyrHost/rename/TargetFolders.h>
 
 #include <algorithm>
@@ -16,11 +17,14 @@ namespace {
 
 using VyrPlatform::FileSystem::Kind;
 
+/// In code units; more than any of the systems takes.
+constexpr int LongestPath = 32'767;
+
 class Naming
 {
 public:
-    Naming(Model::EntryList& list, NameSource& source, const WishReport& onWish)
-        : m_list(list), m_source(source), m_onWish(onWish), m_targets(list.folders), m_decisions(list.entries.size())
+    Naming(Model::EntryList& list, NameSource& source)
+        : m_list(list), m_source(source), m_targets(list.folders), m_decisions(list.entries.size())
     {}
 
     void NameGroup(std::span<const std::uint32_t> members)
@@ -35,7 +39,6 @@ public:
         for (std::size_t place = 0; place < m_present.size(); ++place)
             Judge(m_present[place], m_names[place]);
         KeepTogether();
-        ReportWishes();
     }
 
     std::vector<Model::Decision> TakeDecisions() { return std::move(m_decisions); }
@@ -74,6 +77,8 @@ private:
         decision.warning = validity.warning;
         if (validity.reason != Model::Reason::None)
             decision.Refuse(validity.reason);
+        else if (moves && wanted.folder.GetLength() + wanted.name.GetLength() > LongestPath)
+            decision.Refuse(Model::Reason::TooLong);
         else if (moves)
             Move(decision, m_list.folders[entry.folder].device, wanted);
     }
@@ -103,40 +108,114 @@ private:
                 m_decisions[entry].Refuse(Model::Reason::CompanionRefused);
     }
 
-    void ReportWishes() const
-    {
-        if (!m_onWish)
-            return;
-        for (const std::uint32_t entry : m_present)
-            if (m_decisions[entry].IsRename())
-                m_onWish(entry);
-    }
-
     Model::EntryList& m_list;
     NameSource& m_source;
-    const WishReport& m_onWish;
     TargetFolders m_targets;
     std::vector<Model::Decision> m_decisions;
     std::vector<std::uint32_t> m_present;
     std::vector<WantedName> m_names;
 };
 
+/// Turns what is decided into a draft for the planner.
+class Drafting
+{
+public:
+    explicit Drafting(const Model::EntryList& list) : m_list(list), m_numbers(list.folders.Count(), Model::none)
+    {
+        m_draft.plan.texts = list.folders.Texts();
+    }
+
+    void Add(const Model::Entry& entry, const Model::Decision& decision, std::uint32_t group)
+    {
+        const Model::Place from{NumberOf(entry.folder), entry.name};
+        const Model::Place to{NumberOf(decision.folder), decision.name};
+        m_draft.plan.entries.push_back({.kind = entry.kind, .from = from, .to = to});
+        m_draft.groups.push_back(group);
+    }
+
+    RenameDraft Take() { return std::move(m_draft); }
+
+private:
+    /// The plan has those folders of the list alone that it needs.
+    Model::PlanIndex NumberOf(std::uint32_t number)
+    {
+        std::vector<std::uint32_t> missing;
+        for (std::uint32_t at = number; at != Model::NoFolder && m_numbers[at] == Model::none;
+             at = m_list.folders[at].parent)
+            missing.push_back(at);
+        for (; !missing.empty(); missing.pop_back()) {
+            const Model::Folder& folder = m_list.folders[missing.back()];
+            const Model::PlanIndex parent = folder.parent == Model::NoFolder ? Model::none : m_numbers[folder.parent];
+            m_numbers[missing.back()] = static_cast<Model::PlanIndex>(m_draft.plan.folders.size());
+            m_draft.plan.folders.push_back({.place = {parent, folder.name}, .isNew = folder.isNew});
+            m_draft.foldings.push_back(folder.names.Folding());
+        }
+        return m_numbers[number];
+    }
+
+    const Model::EntryList& m_list;
+    /// For each folder of the list its number in the plan.
+    std::vector<Model::PlanIndex> m_numbers;
+    RenameDraft m_draft;
+};
+
+void Plan(const Model::EntryList& list, const Groups& groups, Preview& preview)
+{
+    Drafting drafting(list);
+    std::vector<std::uint32_t> drafted;
+    for (std::uint32_t entry = 0; entry < preview.decisions.size(); ++entry) {
+        if (!preview.decisions[entry].IsRename())
+            continue;
+        drafting.Add(list.entries[entry], preview.decisions[entry], groups.Of(entry));
+        drafted.push_back(entry);
+    }
+    PlannerResult result = PlanRenames(drafting.Take());
+    for (const PlanRefusal& refusal : result.refused)
+        preview.decisions[drafted[refusal.entry]].Refuse(refusal.reason);
+    for (const Model::PlanIndex entry : result.entries)
+        preview.entries.push_back(drafted[entry]);
+    preview.plan = std::move(result.plan);
+}
+
+/// Whether a name is taken that was to be given.
+bool HasConflict(const std::vector<Model::Decision>& decisions)
+{
+    return std::any_of(decisions.begin(), decisions.end(), [](const Model::Decision& decision) {
+        return decision.reason == Model::Reason::TargetExists || decision.reason == Model::Reason::TwoToOne;
+    });
+}
+
 } // namespace
 
-std::vector<Model::Decision> Decide(Model::EntryList& list, const Groups& groups, NameSource& names,
-                                    const ConflictSettings& settings, const NamingProgress& progress,
-                                    const WishReport& onWish)
+bool StopAtConflict(Preview& preview)
+{
+    if (!HasConflict(preview.decisions))
+        return false;
+    preview.plan = {};
+    preview.entries.clear();
+    for (Model::Decision& decision : preview.decisions)
+        if (decision.IsRename()) {
+            decision.status = Model::Status::NotReached;
+            decision.reason = Model::Reason::Stopped;
+        }
+    return true;
+}
+
+Preview MakePreview(Model::EntryList& list, const Groups& groups, NameSource& names, const ConflictSettings& settings,
+                    const NamingProgress& progress)
 {
     constexpr std::size_t Often = 32;
-    Naming naming(list, names, onWish);
+    Naming naming(list, names);
     for (std::size_t group = 0; group < groups.Count(); ++group) {
         naming.NameGroup(groups.Members(group));
         if (progress && group % Often == 0)
             progress(group);
     }
-    std::vector<Model::Decision> decisions = naming.TakeDecisions();
-    ResolveConflicts(list, groups, decisions, settings, names.MayNumber());
-    return decisions;
+    Preview preview;
+    preview.decisions = naming.TakeDecisions();
+    ResolveConflicts(list, groups, preview.decisions, settings, names.MayNumber());
+    Plan(list, groups, preview);
+    return preview;
 }
 
 } // namespace VyrHost::Rename

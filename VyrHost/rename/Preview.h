@@ -1,9 +1,10 @@
 /// @file
-/// Decides what becomes of each entry of a list.
+/// What becomes of each entry of a list, and the plan that brings it about.
 #pragma once
 
 #include <VyrHost/model/Decision.h>
 #include <VyrHost/model/EntryList.h>
+#include <VyrHost/model/RenamePlan.h>
 #include <VyrHost/rename/Groups.h>
 #include <VyrHost/rename/NameSource.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
@@ -36,18 +37,29 @@ struct ConflictSettings
 
 /// Told now and then how many entries have their names.
 using NamingProgress = std::function<void(std::size_t named)>;
-/// Told of each entry that wants another name as soon as it does; another entry may still keep it from that.
-using WishReport = std::function<void(std::uint32_t entry)>;
 
-/// One decision for each entry of `list`, in its order. Only the listings that `list` brings are asked what stands on
-/// the disk, and those of the folders that entries move into.
+struct Preview
+{
+    /// One for each entry of the list.
+    std::vector<Model::Decision> decisions;
+    /// What is to be done for them.
+    Model::RenamePlan plan;
+    /// For each entry of the plan its place in the list, rising.
+    std::vector<std::uint32_t> entries;
+};
+
+/// Decides for each entry of `list`, and plans what is decided. Only the listings that `list` brings are asked what
+/// stands on the disk, and those of the folders that entries move into.
 ///
 /// Names are judged as they are after the batch: an entry's own name and the names that the batch vacates are free, the
 /// names given to earlier entries are taken. An entry that is refused keeps its name, and whoever was to get that name
 /// is decided anew. Of entries that keep together either all get their names, with one number where one is needed, or
 /// none does.
-[[nodiscard]] std::vector<Model::Decision> Decide(Model::EntryList& list, const Groups& groups, NameSource& names,
-                                                  const ConflictSettings& settings, const NamingProgress& progress = {},
-                                                  const WishReport& onWish = {});
+[[nodiscard]] Preview MakePreview(Model::EntryList& list, const Groups& groups, NameSource& names,
+                                  const ConflictSettings& settings, const NamingProgress& progress = {});
+
+/// Where a name is taken that was to be given, nothing is to be renamed at all.
+/// @return whether one is.
+bool StopAtConflict(Preview& preview);
 
 } // namespace VyrHost::Rename

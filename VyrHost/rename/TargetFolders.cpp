@@ -2,36 +2,12 @@
 #include <VyrHost/rename/TargetFolders.h>
 
 #include <VyrHost/rename/NameValidator.h>
-#include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FileSystem.h>
-
-#include <unordered_set>
 
 namespace VyrHost::Rename {
 
-namespace {
-
 using VyrHostPlatform::NameFault;
-using VyrLibraryUtils::FileUtils;
 using VyrPlatform::FileSystem::Kind;
-
-CString WithoutSeparator(const CString& folder)
-{
-    return folder.Left(folder.GetLength() - 1);
-}
-
-void AppendMissing(Model::EntryList& list, std::uint32_t number, std::unordered_set<std::uint32_t>& known,
-                   std::vector<CString>& missing)
-{
-    const Model::Folder& folder = list.folders[number];
-    if (folder.exists || !known.insert(number).second)
-        return;
-    const CString path = WithoutSeparator(folder.path);
-    AppendMissing(list, list.folders.Open(FileUtils::GetSplitDirPath(path), {}), known, missing);
-    missing.push_back(path);
-}
-
-} // namespace
 
 TargetFolders::Target TargetFolders::Open(const CString& path, const CString& shown)
 {
@@ -49,35 +25,29 @@ TargetFolders::Target TargetFolders::Open(const CString& path, const CString& sh
 /// Takes the name of a folder that is not there yet, and of those above it.
 TargetFolders::Target TargetFolders::Claim(std::uint32_t number)
 {
-    const Model::Folder& folder = m_folders[number];
-    const CString path = WithoutSeparator(folder.path);
-    const CString above = FileUtils::GetSplitDirPath(path);
-    const CString name = path.Mid(above.GetLength());
+    Model::Folder& folder = m_folders[number];
     if (VyrPlatform::FileSystem::IsFolder(folder.path))
         return {.folder = number, .reason = Model::Reason::FolderNotRead};
-    const NameValidity validity = ValidateName(name, {});
-    if (name.IsEmpty() || validity.reason != Model::Reason::None)
+    const NameValidity validity = ValidateName(folder.name, {});
+    if (folder.parent == Model::NoFolder || validity.reason != Model::Reason::None)
         return {.folder = number, .reason = Model::Reason::BadFolder};
-    const Target parent = Open(above, {});
+    const Target parent = Open(m_folders[folder.parent].path, {});
     if (parent.reason != Model::Reason::None)
         return {.folder = number, .reason = parent.reason};
-    Model::NameRecord& record = m_folders[parent.folder].names.Add(m_folders.Intern(name));
+    Model::NameRecord& record = m_folders[parent.folder].names.Add(folder.name);
     if (record.kind != Kind::Missing)
         return {.folder = number, .reason = Model::Reason::BadFolder};
-    record.holder = Model::NewFolder;
-    return {.folder = number,
-            .warning = validity.warning == NameFault::None ? parent.warning : validity.warning,
-            .device = parent.device};
-}
-
-std::vector<CString> FoldersToMake(Model::EntryList& list, const std::vector<Model::Decision>& decisions)
-{
-    std::vector<CString> missing;
-    std::unordered_set<std::uint32_t> known;
-    for (const Model::Decision& decision : decisions)
-        if (decision.IsRename())
-            AppendMissing(list, decision.folder, known, missing);
-    return missing;
+    // Its file system may take the name for that of a folder which is claimed already.
+    const Target target{.folder = number,
+                        .warning = validity.warning == NameFault::None ? parent.warning : validity.warning,
+                        .device = parent.device};
+    const auto [claimed, isNew] = m_claimed.try_emplace(&record, target);
+    if (isNew) {
+        record.holder = Model::NewFolder;
+        folder.parent = parent.folder;
+        folder.isNew = true;
+    }
+    return claimed->second;
 }
 
 } // namespace VyrHost::Rename

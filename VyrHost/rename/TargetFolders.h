@@ -3,12 +3,11 @@
 #pragma once
 
 #include <VyrHost/model/Decision.h>
-#include <VyrHost/model/EntryList.h>
+#include <VyrHost/model/FolderSet.h>
 
 #include <cstdint>
 #include <optional>
 #include <unordered_map>
-#include <vector>
 
 namespace VyrHost::Rename {
 
@@ -39,9 +38,8 @@ private:
     Model::FolderSet& m_folders;
     /// What was found for each folder.
     std::unordered_map<std::uint32_t, Target> m_targets;
+    /// The folders to be created, by their names' records.
+    std::unordered_map<const Model::NameRecord*, Target> m_claimed;
 };
-
-/// The folders to make, each parent before what stands in it, for what `decisions` move.
-[[nodiscard]] std::vector<CString> FoldersToMake(Model::EntryList& list, const std::vector<Model::Decision>& decisions);
 
 } // namespace VyrHost::Rename

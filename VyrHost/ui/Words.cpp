@@ -83,6 +83,12 @@ std::string_view WordsFor(Model::Reason reason)
         return "the new name would be too long";
     case Model::Reason::ReservedWord:
         return "the new name would be a reserved word";
+    case Model::Reason::InsideItself:
+        return "the folder would end up inside itself";
+    case Model::Reason::PlaceKept:
+        return "the new path is taken by an entry that keeps it";
+    case Model::Reason::FolderKept:
+        return "its folder cannot be made: an entry keeps the path";
     case Model::Reason::Stopped:
         return "another entry's name is taken";
     case Model::Reason::TrailingDotOrBlank:

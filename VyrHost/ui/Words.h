@@ -3,7 +3,7 @@
 #pragma once
 
 #include <VyrHost/model/Decision.h>
-#include <VyrHost/model/RenameList.h>
+#include <VyrHost/model/RenameResult.h>
 
 #include <cstddef>
 #include <string>

@@ -1,7 +1,6 @@
 // Makes trees of files, and reads them again.
 #include <tests/VyrHost/batch/BatchScene.h>
 
-#include <VyrHost/batch/Looker.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <tests/support/StdPath.h>
@@ -50,7 +49,7 @@ void Collect(const fs::path& folder, const std::string& prefix, FolderSnapshot& 
 
 } // namespace
 
-BatchScene::BatchScene(FileOperations& files) : batches(files, m_scratch.Path(u"journal"))
+BatchScene::BatchScene(FileOperations& files) : m_files(files), batches(files, m_scratch.Path(u"journal"))
 {
     m_scratch.MakeFolder(u"files");
 }
@@ -92,32 +91,33 @@ BatchScene& BatchScene::NewFolder(std::u16string_view name)
     return *this;
 }
 
+VyrHost::Rename::PlannerResult BatchScene::Plan() const
+{
+    return PlanRenames(list, [this](const CString& path) { return m_files.GetNameFolding(path); });
+}
+
 BatchSummary BatchScene::Apply(const StopRequest& isStopAsked)
 {
     results.assign(list.renames.size(), {});
-    std::vector<int> calls(list.renames.size());
+    const VyrHost::Rename::PlannerResult planned = Plan();
+    for (const VyrHost::Rename::PlanRefusal& refusal : planned.refused)
+        results[refusal.entry].outcome = RenameOutcome::Refused;
+    if (planned.entries.empty())
+        return {};
+    std::vector<int> calls(planned.entries.size());
     BatchSummary summary = batches.Apply(
-        list, [this] { return LookAtSources(); },
-        [&](std::size_t index, const RenameResult& result) {
-            results[index] = result;
-            ++calls[index];
+        planned.plan,
+        [&](PlanIndex entry, const RenameResult& result) {
+            results[planned.entries[entry]] = result;
+            ++calls[entry];
         },
         isStopAsked);
-    const bool wasBegun = summary.notReached < list.renames.size() || summary.wasStopped;
+    const bool wasBegun = summary.notReached < planned.entries.size() || summary.wasStopped;
     for (const int count : calls)
         EXPECT_EQ(count, wasBegun ? 1 : 0);
-    EXPECT_EQ(summary.done + summary.failed + summary.refused + summary.notReached, list.renames.size());
+    EXPECT_EQ(summary.done + summary.failed + summary.refused + summary.notReached, planned.entries.size());
     EXPECT_TRUE(summary.missing.empty());
     return summary;
-}
-
-std::vector<VyrPlatform::FileState> BatchScene::LookAtSources() const
-{
-    Looker looker(SystemFiles());
-    std::vector<VyrPlatform::FileState> states;
-    for (const PlannedRename& rename : list.renames)
-        states.push_back(looker.Look(rename.from.folder, rename.from.name));
-    return states;
 }
 
 BatchSummary BatchScene::Undo(std::optional<std::uint32_t> number, const StopRequest& isStopAsked)

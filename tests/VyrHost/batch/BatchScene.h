@@ -3,6 +3,7 @@
 
 #include <VyrHost/batch/Batches.h>
 #include <VyrHost/batch/FileOperations.h>
+#include <tests/VyrHost/rename/PathRenames.h>
 
 #include <tests/support/ScratchFolder.h>
 
@@ -21,6 +22,7 @@ class BatchScene
 {
     // The others need it while they are made.
     ScratchFolder m_scratch;
+    VyrHost::Batch::FileOperations& m_files;
 
 public:
     explicit BatchScene(VyrHost::Batch::FileOperations& files = VyrHost::Batch::SystemFiles());
@@ -38,9 +40,9 @@ public:
     BatchScene& RenameFolder(std::u16string_view from, std::u16string_view to);
     BatchScene& NewFolder(std::u16string_view name);
 
-    /// What stands at the old path of each rename of the list.
-    [[nodiscard]] std::vector<VyrPlatform::FileState> LookAtSources() const;
-    /// Applies the list; the results stand in `results`.
+    /// The list as the planner plans it.
+    [[nodiscard]] VyrHost::Rename::PlannerResult Plan() const;
+    /// Applies what the planner makes of the list; the results stand in `results`.
     VyrHost::Batch::BatchSummary Apply(const VyrHost::Batch::StopRequest& isStopAsked = {});
     VyrHost::Batch::BatchSummary Undo(std::optional<std::uint32_t> number = {},
                                       const VyrHost::Batch::StopRequest& isStopAsked = {});
@@ -52,7 +54,7 @@ public:
     /// The names of the files in the journal's folder, without the lock.
     [[nodiscard]] std::vector<std::string> JournalFiles() const;
 
-    VyrHost::Model::RenameList list;
+    PathRenames list;
     VyrHost::Batch::Batches batches;
     /// Of the last Apply, by the renames' indexes.
     std::vector<VyrHost::Model::RenameResult> results;

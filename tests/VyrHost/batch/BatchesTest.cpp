@@ -476,8 +476,7 @@ TEST(Batches, NameWhatItsFolderDoesNotListAfterwards)
         if (change.newName == u"x")
             std::filesystem::rename(ToStdPath(scene.Path(u"x")), ToStdPath(scene.Path(u"kept otherwise")));
     };
-    const BatchSummary summary = scene.batches.Apply(
-        scene.list, [&scene] { return scene.LookAtSources(); }, [](std::size_t, const RenameResult&) {}, {});
+    const BatchSummary summary = scene.batches.Apply(scene.Plan().plan, [](PlanIndex, const RenameResult&) {}, {});
     EXPECT_EQ(summary.done, 2u);
     EXPECT_THAT(summary.missing, ElementsAre(scene.Path(u"x")));
 }

@@ -157,7 +157,7 @@ std::string HandWrittenText()
 /// The journal of the same batch.
 Journal HandMadeJournal()
 {
-    RenameList list;
+    PathRenames list;
     list.Add(Full(u"a"), In(Full(u"n"), u"b"), Kind::File);
     list.Add(Full(u"c"), Full(u"d"), Kind::File);
     list.Add(Full(u"d"), Full(u"e"), Kind::File);
@@ -420,7 +420,7 @@ std::string WithSteps(const std::string& text, const std::string& line)
 
 TEST(JournalText, WritesStepsThatFollowEachOtherAsARange)
 {
-    RenameList list;
+    PathRenames list;
     for (const char16_t* name : {u"a", u"b", u"c", u"d"})
         list.Add(Full(name), Full(CString(name) + u"x"), Kind::File);
     Journal journal = PlannedJournal(list);
@@ -434,7 +434,7 @@ TEST(JournalText, WritesStepsThatFollowEachOtherAsARange)
 
 TEST(JournalText, IsNotReadWhenItsRangesOfStepsCannotBe)
 {
-    RenameList list;
+    PathRenames list;
     list.Add(Full(u"a"), Full(u"b"), Kind::File);
     list.Add(Full(u"c"), Full(u"d"), Kind::File);
     const std::string text = TextOf(PlannedJournal(list));

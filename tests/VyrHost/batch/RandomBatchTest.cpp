@@ -72,7 +72,9 @@ private:
     void AddRename(const std::u16string& from, const std::vector<std::u16string>& folders, Kind kind)
     {
         const std::u16string folder = Below(3) == 0 ? Choose(folders) : from.substr(0, from.rfind(u'/') + 1);
-        m_scene.Rename(from, folder + Name(), kind);
+        const std::u16string to = folder + Name();
+        if (to != from)
+            m_scene.Rename(from, to, kind);
     }
 
     std::mt19937 m_random;

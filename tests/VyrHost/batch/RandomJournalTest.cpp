@@ -38,7 +38,7 @@ public:
     Journal Make()
     {
         Grow();
-        RenameList list = Rename();
+        PathRenames list = Rename();
         const NameFolding folding = Chance(2) ? NameFolding::None : NameFolding::CaseAndForm;
         Journal journal;
         journal.plan = PlanRenames(list, [folding](const CString&) { return folding; }).plan;
@@ -46,8 +46,8 @@ public:
                            .token = Number(),
                            .started = u"1999/12/31 23:59:59",
                            .entries = journal.plan.entries.size(),
-                           .firstFrom = list.renames.front().from.Path(),
-                           .firstTo = list.renames.front().to.Path()};
+                           .firstFrom = list.renames.front().from,
+                           .firstTo = list.renames.front().to};
         for (const PlanEntry& entry : journal.plan.entries)
             journal.states.push_back(State(entry.kind));
         return journal;
@@ -116,9 +116,9 @@ private:
         std::shuffle(m_items.begin(), m_items.end(), m_random);
     }
 
-    RenameList Rename()
+    PathRenames Rename()
     {
-        RenameList list;
+        PathRenames list;
         std::vector<CString> folders = m_folders;
         for (std::size_t count = Below(3); count > 0; --count) {
             list.newFolders.push_back(FreePath(folders));
@@ -212,9 +212,9 @@ TEST(RandomJournal, ComesBackAsItWasWritten)
 }
 
 /// Renames whose names hold each unit that a name can, alone and between others.
-RenameList ListOfEveryUnit()
+PathRenames ListOfEveryUnit()
 {
-    RenameList list;
+    PathRenames list;
     for (unsigned number = 1; number <= 0xFFFF; ++number) {
         const CString unit(static_cast<char16_t>(number), 1);
         if (VyrPlatform::FileSystem::IsSeparator(static_cast<char16_t>(number)))
@@ -226,17 +226,22 @@ RenameList ListOfEveryUnit()
     return list;
 }
 
+std::u16string_view NameIn(std::u16string_view path)
+{
+    return path.substr(path.rfind(VyrPlatform::FileSystem::Separator()) + 1);
+}
+
 TEST(RandomJournal, KeepsNamesOfEveryUnit)
 {
-    const RenameList list = ListOfEveryUnit();
+    const PathRenames list = ListOfEveryUnit();
     const Journal journal = PlannedJournal(list);
     ASSERT_GT(journal.plan.entries.size(), 131'000u);
     const Journal read = MustRead(TextOf(journal));
     ExpectSame(read, journal);
     ASSERT_EQ(read.plan.entries.size(), list.renames.size());
     for (std::size_t entry = 0; entry < list.renames.size(); ++entry) {
-        ASSERT_EQ(read.plan.entries[entry].from.name, list.renames[entry].from.name);
-        ASSERT_EQ(read.plan.entries[entry].to.name, list.renames[entry].to.name);
+        ASSERT_EQ(read.plan.entries[entry].from.name.View(), NameIn(list.renames[entry].from));
+        ASSERT_EQ(read.plan.entries[entry].to.name.View(), NameIn(list.renames[entry].to));
     }
 }
 

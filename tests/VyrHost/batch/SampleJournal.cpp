@@ -19,6 +19,7 @@ using namespace VyrHost::Rename;
 using VyrHostPlatform::NameFolding;
 using VyrPlatform::FileState;
 using VyrPlatform::FileSystem::Kind;
+using VyrTests::PathRenames;
 
 CString Full(const CString& name)
 {
@@ -32,7 +33,7 @@ CString In(const CString& folder, const CString& name)
 
 Journal MakeJournal()
 {
-    RenameList list;
+    PathRenames list;
     list.Add(Full(u"a"), Full(u"b"), Kind::File);
     list.Add(Full(u"b"), Full(u"a"), Kind::File);
     list.Add(Full(u"folder"), Full(u"renamed"), Kind::Folder);
@@ -47,8 +48,8 @@ Journal MakeJournal()
                        .token = 0xFEDCBA9876543210,
                        .started = u"2024/05/06 07:08:09",
                        .entries = result.plan.entries.size(),
-                       .firstFrom = list.renames[0].from.Path(),
-                       .firstTo = list.renames[0].to.Path()};
+                       .firstFrom = list.renames[0].from,
+                       .firstTo = list.renames[0].to};
     for (std::uint32_t entry = 0; entry < result.plan.entries.size(); ++entry) {
         FileState state;
         state.kind = entry == 1 ? Kind::Missing : entry == 2 ? Kind::Folder : entry == 4 ? Kind::Other : Kind::File;
@@ -61,7 +62,7 @@ Journal MakeJournal()
     return journal;
 }
 
-Journal PlannedJournal(const RenameList& list)
+Journal PlannedJournal(const PathRenames& list)
 {
     const PlannerResult result = PlanRenames(list, [](const CString&) { return NameFolding::None; });
     EXPECT_TRUE(result.refused.empty());
@@ -74,7 +75,7 @@ Journal PlannedJournal(const RenameList& list)
 
 Journal LongJournal(std::uint32_t count)
 {
-    RenameList list;
+    PathRenames list;
     for (std::uint32_t index = 0; index < count; ++index) {
         CString name;
         name.Format(u"%u", index);

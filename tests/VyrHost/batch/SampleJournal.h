@@ -2,7 +2,7 @@
 #pragma once
 
 #include <VyrHost/batch/JournalText.h>
-#include <VyrHost/model/RenameList.h>
+#include <tests/VyrHost/rename/PathRenames.h>
 
 #include <cstdint>
 #include <optional>
@@ -20,7 +20,7 @@ namespace VyrTests {
 /// A swap, a renamed folder with one of its files moved to a new folder, and a change of case.
 [[nodiscard]] VyrHost::Batch::Journal MakeJournal();
 /// The journal of `list`, its states empty.
-[[nodiscard]] VyrHost::Batch::Journal PlannedJournal(const VyrHost::Model::RenameList& list);
+[[nodiscard]] VyrHost::Batch::Journal PlannedJournal(const VyrTests::PathRenames& list);
 /// The journal of `count` renames in one folder that do not depend on each other.
 [[nodiscard]] VyrHost::Batch::Journal LongJournal(std::uint32_t count);
 

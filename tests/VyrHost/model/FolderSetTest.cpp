@@ -110,9 +110,10 @@ TEST(FolderSet, ListsAFolderOnceWhateverItsPath)
     const CString path = WithSeparator(scratch.Path(u"inner"));
     const std::uint32_t number = folders.Open(path, u"inner/");
     scratch.WriteFile(u"inner/second");
+    const std::uint32_t count = folders.Count();
     EXPECT_EQ(folders.Open(path, u"other/"), number);
     EXPECT_EQ(folders.Open(WithSeparator(scratch.Path()) + WithSeparator(u".") + WithSeparator(u"inner"), u""), number);
-    EXPECT_EQ(folders.Count(), 1u);
+    EXPECT_EQ(folders.Count(), count);
     EXPECT_EQ(folders[number].path, path);
     EXPECT_EQ(folders[number].shown, u"inner/");
     EXPECT_EQ(NamesIn(folders[number]), std::vector<std::u16string>{u"first"});
@@ -123,15 +124,42 @@ TEST(FolderSet, KeepsFoldersWhereTheyAreWhenMoreAreOpened)
     const ScratchFolder scratch;
     scratch.WriteFile(u"name");
     FolderSet folders;
-    const Folder& first = folders[folders.Open(WithSeparator(scratch.Path()), u"")];
-    for (int number = 0; number < 300; ++number) {
+    const std::uint32_t number = folders.Open(WithSeparator(scratch.Path()), u"");
+    const Folder& first = folders[number];
+    for (std::uint32_t inner = 1; inner <= 300; ++inner) {
         CString name;
-        name.Format(u"%d", number);
-        EXPECT_EQ(folders.Open(WithSeparator(scratch.MakeFolder(name)), u""), static_cast<std::uint32_t>(number) + 1);
+        name.Format(u"%u", inner);
+        EXPECT_EQ(folders.Open(WithSeparator(scratch.MakeFolder(name)), u""), number + inner);
     }
-    EXPECT_EQ(folders.Count(), 301u);
-    EXPECT_EQ(&folders[0], &first);
+    EXPECT_EQ(folders.Count(), number + 301);
+    EXPECT_EQ(&folders[number], &first);
     EXPECT_EQ(NamesIn(first), std::vector<std::u16string>{u"name"});
+}
+
+TEST(FolderSet, KnowsWhereEachFolderStands)
+{
+    const ScratchFolder scratch;
+    scratch.WriteFile(u"outer/inner/file");
+    FolderSet folders;
+    const std::uint32_t inner = folders.Open(WithSeparator(scratch.Path(u"outer/inner")), u"");
+    const std::uint32_t outer = folders[inner].parent;
+    EXPECT_EQ(folders[inner].name.View(), u"inner");
+    EXPECT_EQ(folders[outer].name.View(), u"outer");
+    EXPECT_EQ(folders[outer].path, WithSeparator(scratch.Path(u"outer")));
+    // It is listed once it is asked for.
+    EXPECT_FALSE(folders[outer].wasOpened);
+    EXPECT_TRUE(folders[outer].names.Records().empty());
+    EXPECT_EQ(folders.Open(WithSeparator(scratch.Path(u"outer")), u"shown/"), outer);
+    EXPECT_EQ(NamesIn(folders[outer]), std::vector<std::u16string>{u"inner"});
+    EXPECT_EQ(folders[outer].shown, u"shown/");
+    // Upward there is a root, whose name is its path.
+    std::uint32_t root = outer;
+    for (int steps = 0; folders[root].parent != NoFolder; root = folders[root].parent) {
+        EXPECT_LT(folders[root].parent, root);
+        ASSERT_LT(++steps, 100);
+    }
+    EXPECT_EQ(folders[root].name.View(), folders[root].path.View());
+    EXPECT_FALSE(folders[root].path.IsEmpty());
 }
 
 TEST(FolderSet, TakesAFolderThatIsNotThereForEmpty)

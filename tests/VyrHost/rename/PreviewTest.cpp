@@ -3,7 +3,6 @@
 
 #include <VyrHost/collect/CollectEntries.h>
 #include <VyrHost/rename/GivenNames.h>
-#include <VyrHost/rename/PlannedRenames.h>
 #include <VyrHost/rename/RuleNames.h>
 #include <VyrHost/rename/RuleTexts.h>
 #include <VyrHostPlatform/NameFolding.h>
@@ -42,7 +41,7 @@ std::vector<Decision> DecideByRules(EntryList& list, const Rules& rules, OnConfl
                                     Counting counting = Counting::WholeList)
 {
     RuleNames names(rules, counting);
-    return Decide(list, Groups::OfOne(list), names, Mode(mode));
+    return MakePreview(list, Groups::OfOne(list), names, Mode(mode)).decisions;
 }
 
 /// A decision as "NAME" (renamed), "NAME #" (numbered), "=" (unchanged), "skip" or "no NUMBER-OF-REASON".
@@ -71,7 +70,7 @@ std::string No(Reason reason)
 using Names = std::vector<const char16_t*>;
 using Strings = std::vector<std::string>;
 
-class Preview : public testing::Test
+class PreviewTest : public testing::Test
 {
 protected:
     [[nodiscard]] CollectedEntries GatherNamed(const Names& names) const
@@ -103,8 +102,9 @@ protected:
         CollectedEntries gathered = GatherNamed(names);
         RuleNames source(rules, Counting::WholeList);
         Strings told;
-        for (const Decision& decision :
-             Decide(gathered.list, Groups::ByStem(gathered.list), source, Mode(OnConflict::Number)))
+        const Preview preview =
+            MakePreview(gathered.list, Groups::ByStem(gathered.list), source, Mode(OnConflict::Number));
+        for (const Decision& decision : preview.decisions)
             told.push_back(Told(decision));
         return told;
     }
@@ -114,46 +114,46 @@ protected:
 
 } // namespace
 
-TEST_F(Preview, TellsWhatIsRenamedAndWhatStays)
+TEST_F(PreviewTest, TellsWhatIsRenamedAndWhatStays)
 {
     Write({u"b1", u"a2", u"x"});
     EXPECT_EQ(DecideNamed({u"b1", u"a2"}, NumberRules(u"a#", {})), (Strings{"a1", "="}));
     EXPECT_EQ(DecideNamed({u"x", u"missing"}, PrefixRules(u"y")), (Strings{"yx", No(Reason::NoSuchEntry)}));
 }
 
-TEST_F(Preview, MissingEntriesTakeNoNumber)
+TEST_F(PreviewTest, MissingEntriesTakeNoNumber)
 {
     Write({u"a", u"b"});
     EXPECT_EQ(DecideNamed({u"a", u"missing", u"b"}, NumberRules(u"n#", {})),
               (Strings{"n1", No(Reason::NoSuchEntry), "n2"}));
 }
 
-TEST_F(Preview, RefusesAnEmptyName)
+TEST_F(PreviewTest, RefusesAnEmptyName)
 {
     Write({u"a.txt"});
     EXPECT_EQ(DecideNamed({u"a.txt"}, KeepFirstRules(u"0")), Strings{No(Reason::EmptyName)});
 }
 
-TEST_F(Preview, RefusesAPictureWithoutADate)
+TEST_F(PreviewTest, RefusesAPictureWithoutADate)
 {
     Write({u"a.jpg"});
     EXPECT_EQ(DecideNamed({u"a.jpg"}, DateRules(u"yyyy", {DateSource::Picture})), Strings{No(Reason::NoDate)});
 }
 
-TEST_F(Preview, NumbersTwoEntriesThatWantOneName)
+TEST_F(PreviewTest, NumbersTwoEntriesThatWantOneName)
 {
     Write({u"a1.txt", u"a2.txt", u"a3.txt"});
     EXPECT_EQ(DecideNamed({u"a1.txt", u"a2.txt", u"a3.txt"}, KeepFirstRules(u"1")),
               (Strings{"a.txt", "a (1).txt #", "a (2).txt #"}));
 }
 
-TEST_F(Preview, NumbersPastWhatTheDiskHas)
+TEST_F(PreviewTest, NumbersPastWhatTheDiskHas)
 {
     Write({u"a.txt", u"a (1).txt", u"a1.txt", u"a2.txt"});
     EXPECT_EQ(DecideNamed({u"a1.txt", u"a2.txt"}, KeepFirstRules(u"1")), (Strings{"a (2).txt #", "a (3).txt #"}));
 }
 
-TEST_F(Preview, AgreesWithTheEngineWhereOnlyTheDiskMatters)
+TEST_F(PreviewTest, AgreesWithTheEngineWhereOnlyTheDiskMatters)
 {
     Write({u"new.txt", u"new (1).txt", u"new (3).txt", u"x.txt"});
     m_folder.MakeFolder(u"d.e");
@@ -183,7 +183,7 @@ TEST_F(Preview, AgreesWithTheEngineWhereOnlyTheDiskMatters)
     }
 }
 
-TEST_F(Preview, ANameThatTheBatchVacatesIsFree)
+TEST_F(PreviewTest, ANameThatTheBatchVacatesIsFree)
 {
     Write({u"n1", u"n2", u"n3"});
     EXPECT_EQ(DecideNamed({u"n3", u"n1", u"n2"}, NumberRules(u"n#", {})), (Strings{"n1", "n2", "n3"}));
@@ -191,13 +191,13 @@ TEST_F(Preview, ANameThatTheBatchVacatesIsFree)
     EXPECT_EQ(DecideNamed({u"b1", u"n1"}, ReplaceRules(u"b", u"n")), (Strings{No(Reason::TargetExists), "="}));
 }
 
-TEST_F(Preview, AnEntrysOwnNameIsFree)
+TEST_F(PreviewTest, AnEntrysOwnNameIsFree)
 {
     Write({u"a.txt", u"a (1).txt"});
     EXPECT_EQ(DecideNamed({u"a (1).txt"}, KeepFirstRules(u"1")), Strings{"="});
 }
 
-TEST_F(Preview, RefusesClashesWhereTheRulesAllowNoNumber)
+TEST_F(PreviewTest, RefusesClashesWhereTheRulesAllowNoNumber)
 {
     Write({u"aX", u"aY", u"b"});
     EXPECT_EQ(DecideNamed({u"aX", u"aY"}, ReplaceRules(u"Y", u"X")), (Strings{"=", No(Reason::TargetExists)}));
@@ -209,7 +209,7 @@ TEST_F(Preview, RefusesClashesWhereTheRulesAllowNoNumber)
     EXPECT_EQ(DecideNamed({u"pX", u"pY"}, rules, OnConflict::Skip), (Strings{"p", "skip"}));
 }
 
-TEST_F(Preview, SkipsOrRefusesOnRequest)
+TEST_F(PreviewTest, SkipsOrRefusesOnRequest)
 {
     Write({u"a1", u"a2"});
     EXPECT_EQ(DecideNamed({u"a1", u"a2"}, KeepFirstRules(u"1"), OnConflict::Skip), (Strings{"a", "skip"}));
@@ -217,7 +217,7 @@ TEST_F(Preview, SkipsOrRefusesOnRequest)
               (Strings{"a", No(Reason::TwoToOne)}));
 }
 
-TEST_F(Preview, WhoeverWasToGetTheNameOfARefusedEntryIsDecidedAnew)
+TEST_F(PreviewTest, WhoeverWasToGetTheNameOfARefusedEntryIsDecidedAnew)
 {
     // x1 to x2, x2 to x3, x3 refused: so x2 stays, and so does x1.
     Write({u"x1", u"x2", u"x3", u"x4"});
@@ -236,7 +236,7 @@ TEST_F(Preview, WhoeverWasToGetTheNameOfARefusedEntryIsDecidedAnew)
     EXPECT_EQ(DecideNamed({u"x1", u"x2", u"x3"}, rules), (Strings{"x2!", "x3!", "x4!"}));
 }
 
-TEST_F(Preview, RefusesNamesThatAreTooLong)
+TEST_F(PreviewTest, RefusesNamesThatAreTooLong)
 {
     const CString longest(u'a', 251);
     m_folder.WriteFile(longest + u".txt");
@@ -251,21 +251,21 @@ TEST_F(Preview, RefusesNamesThatAreTooLong)
     EXPECT_EQ(DecideNamed({u"b1.txt"}, rules), Strings{No(Reason::TooLong)});
 }
 
-TEST_F(Preview, RefusesHalfACharacterThatTheOldNameDidNotHave)
+TEST_F(PreviewTest, RefusesHalfACharacterThatTheOldNameDidNotHave)
 {
     m_folder.WriteFile(u"a\U0001F600");
     EXPECT_EQ(DecideNamed({u"a\U0001F600"}, DeleteLastRules(u"1")), Strings{No(Reason::NewLoneSurrogate)});
     EXPECT_EQ(DecideNamed({u"a\U0001F600"}, DeleteLastRules(u"2")), Strings{"a"});
 }
 
-TEST_F(Preview, KeepsFilesOfOneStemTogether)
+TEST_F(PreviewTest, KeepsFilesOfOneStemTogether)
 {
     Write({u"b.jpg", u"a.raf", u"a.jpg", u"a.xmp"});
     EXPECT_EQ(DecideTogether({u"b.jpg", u"a.raf", u"a.jpg", u"a.xmp"}, NumberRules(u"n#", {})),
               (Strings{"n1.jpg", "n2.raf", "n2.jpg", "n2.xmp"}));
 }
 
-TEST_F(Preview, TakesTheDateOfTheFirstThatHasOneForAllThatKeepTogether)
+TEST_F(PreviewTest, TakesTheDateOfTheFirstThatHasOneForAllThatKeepTogether)
 {
     Write({u"a.xmp", u"b.xmp"});
     m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
@@ -273,7 +273,7 @@ TEST_F(Preview, TakesTheDateOfTheFirstThatHasOneForAllThatKeepTogether)
               (Strings{"2024.xmp", "2024.jpg", No(Reason::NoDate)}));
 }
 
-TEST_F(Preview, GivesAllThatKeepTogetherOneNumber)
+TEST_F(PreviewTest, GivesAllThatKeepTogetherOneNumber)
 {
     Write({u"a1.raf", u"a1.jpg", u"a2.jpg", u"a2.raf", u"a (1).raf", u"a.jpg"});
     // a.jpg and a (1).raf are there: the first pair needs 2, the second 3.
@@ -281,7 +281,7 @@ TEST_F(Preview, GivesAllThatKeepTogetherOneNumber)
               (Strings{"a (2).raf #", "a (2).jpg #", "a (3).jpg #", "a (3).raf #"}));
 }
 
-TEST_F(Preview, RefusesAllThatKeepTogetherWhenOneCannotBeNamed)
+TEST_F(PreviewTest, RefusesAllThatKeepTogetherWhenOneCannotBeNamed)
 {
     m_folder.WriteFile(u"a.x");
     m_folder.WriteFile(u"a.longer");
@@ -290,14 +290,14 @@ TEST_F(Preview, RefusesAllThatKeepTogetherWhenOneCannotBeNamed)
               (Strings{No(Reason::CompanionRefused), No(Reason::TooLong)}));
 }
 
-TEST_F(Preview, RefusesThoseThatKeepTogetherWhenTheyWantOneName)
+TEST_F(PreviewTest, RefusesThoseThatKeepTogetherWhenTheyWantOneName)
 {
     Write({u"a.jpeg", u"a.jpg"});
     EXPECT_EQ(DecideTogether({u"a.jpeg", u"a.jpg"}, ExtensionRules(u"png")),
               (Strings{No(Reason::TwoToOne), No(Reason::TwoToOne)}));
 }
 
-TEST_F(Preview, CountsAnewInEachFolder)
+TEST_F(PreviewTest, CountsAnewInEachFolder)
 {
     Write({u"c/a", u"c/b", u"d/a", u"d/b"});
     EXPECT_EQ(
@@ -305,30 +305,35 @@ TEST_F(Preview, CountsAnewInEachFolder)
         (Strings{"1", "1", "2", "2"}));
 }
 
-TEST_F(Preview, MovesIntoFoldersThatAreThereOrAreToBeMade)
+TEST_F(PreviewTest, MovesIntoFoldersThatAreThereOrAreToBeMade)
 {
     m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
     m_folder.WriteFile(u"b.jpg", BuildJpeg(PictureFacts{}));
     m_folder.WriteFile(u"2024/a.jpg");
     CollectedEntries gathered = GatherNamed({u"a.jpg", u"b.jpg"});
     const Rules rules = DateRules(u"yyyy<Folder><Name>", {DateSource::Picture});
-    std::vector<Decision> decisions = DecideByRules(gathered.list, rules, OnConflict::Number);
+    const std::vector<Decision> decisions = DecideByRules(gathered.list, rules, OnConflict::Number);
     // What is in the folder counts.
     EXPECT_EQ(Told(decisions[0]), "a (1).jpg #");
     EXPECT_EQ(Told(decisions[1]), "b.jpg");
-    EXPECT_TRUE(PlanOf(gathered.list, decisions).list.newFolders.empty());
-
     gathered = GatherNamed({u"a.jpg", u"b.jpg"});
     const Rules deep = DateRules(u"MM<Folder>dd<Folder><Name>", {DateSource::Picture});
-    decisions = DecideByRules(gathered.list, deep, OnConflict::Number);
-    const PlannedRenames planned = PlanOf(gathered.list, decisions);
-    EXPECT_EQ(planned.list.newFolders, (std::vector{m_folder.Path(u"07"), m_folder.Path(u"07/19")}));
-    ASSERT_EQ(planned.list.renames.size(), 2u);
-    EXPECT_EQ(planned.list.renames[0].from.Path(), m_folder.Path(u"a.jpg"));
-    EXPECT_EQ(planned.list.renames[0].to.Path(), m_folder.Path(u"07/19/a.jpg"));
+    RuleNames names(deep, Counting::WholeList);
+    const RenamePlan plan =
+        MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number)).plan;
+    std::vector<CString> created;
+    for (PlanIndex folder = 0; folder < plan.folders.size(); ++folder)
+        if (plan.folders[folder].isNew)
+            created.push_back(PathBefore(plan, folder));
+    EXPECT_EQ(created, (std::vector{m_folder.Path(u"07"), m_folder.Path(u"07/19")}));
+    ASSERT_EQ(plan.entries.size(), 2u);
+    EXPECT_EQ(PathBefore(plan, plan.entries[0].from.folder), m_folder.Path());
+    EXPECT_EQ(plan.entries[0].from.name.View(), u"a.jpg");
+    EXPECT_EQ(PathBefore(plan, plan.entries[0].to.folder), m_folder.Path(u"07/19"));
+    EXPECT_EQ(plan.entries[0].to.name.View(), u"a.jpg");
 }
 
-TEST_F(Preview, RefusesToMoveIntoWhatIsNoFolder)
+TEST_F(PreviewTest, RefusesToMoveIntoWhatIsNoFolder)
 {
     m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
     m_folder.WriteFile(u"2024");
@@ -336,7 +341,7 @@ TEST_F(Preview, RefusesToMoveIntoWhatIsNoFolder)
               Strings{No(Reason::BadFolder)});
 }
 
-TEST_F(Preview, RefusesFoldersWithoutAName)
+TEST_F(PreviewTest, RefusesFoldersWithoutAName)
 {
     const auto camera = [](const char* make) {
         PictureFacts facts;
@@ -349,40 +354,42 @@ TEST_F(Preview, RefusesFoldersWithoutAName)
               (Strings{No(Reason::NamelessFolder), No(Reason::NamelessFolder)}));
 }
 
-TEST_F(Preview, AFolderToBeMadeHoldsItsName)
+TEST_F(PreviewTest, AFolderToBeMadeHoldsItsName)
 {
     m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
     Write({u"x2024"});
     CollectedEntries gathered = GatherNamed({u"x2024", u"a.jpg"});
     GivenNames names({{0, u"2024"}, {1, m_folder.Path(u"2024/a.jpg")}});
-    const auto decisions = Decide(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    const auto decisions =
+        MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number)).decisions;
     EXPECT_EQ(Told(decisions[0]), No(Reason::TargetExists));
     EXPECT_EQ(Told(decisions[1]), "a.jpg");
 }
 
-TEST_F(Preview, NamesThatAreGivenOneByOneMaySwap)
+TEST_F(PreviewTest, NamesThatAreGivenOneByOneMaySwap)
 {
     Write({u"a", u"b", u"c"});
     CollectedEntries gathered = GatherNamed({u"a", u"b", u"c"});
     GivenNames names({{0, u"b"}, {1, u"a"}});
     Strings told;
-    for (const Decision& decision :
-         Decide(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number)))
+    const Preview preview = MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    for (const Decision& decision : preview.decisions)
         told.push_back(Told(decision));
     EXPECT_EQ(told, (Strings{"b", "a", "="}));
 }
 
-TEST_F(Preview, NamesThatAreGivenOneByOneAreNotNumbered)
+TEST_F(PreviewTest, NamesThatAreGivenOneByOneAreNotNumbered)
 {
     Write({u"a", u"b", u"c"});
     CollectedEntries gathered = GatherNamed({u"a", u"b"});
     GivenNames names({{0, u"c"}, {1, u".."}});
-    const auto decisions = Decide(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    const auto decisions =
+        MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number)).decisions;
     EXPECT_EQ(Told(decisions[0]), No(Reason::TargetExists));
     EXPECT_EQ(Told(decisions[1]), No(Reason::DotName));
 }
 
-TEST_F(Preview, JudgesNamesAsTheFolderFoldsThem)
+TEST_F(PreviewTest, JudgesNamesAsTheFolderFoldsThem)
 {
     Write({u"a", u"B"});
     const auto folding = VyrHostPlatform::GetNameFolding(m_folder.Path());
@@ -394,7 +401,7 @@ TEST_F(Preview, JudgesNamesAsTheFolderFoldsThem)
     EXPECT_EQ(DecideNamed({u"a", u"B"}, CaseRules(u"upper")), (Strings{"A", "="}));
 }
 
-TEST_F(Preview, NumbersTenThousandEntriesThatWantOneName)
+TEST_F(PreviewTest, NumbersTenThousandEntriesThatWantOneName)
 {
     constexpr int Count = 10000;
     for (int number = 0; number < Count; ++number) {
@@ -416,15 +423,87 @@ TEST_F(Preview, NumbersTenThousandEntriesThatWantOneName)
     EXPECT_TRUE(names.contains(u"a (9999)"));
 }
 
-TEST_F(Preview, TellsOfEachEntryThatWantsAnotherName)
+TEST_F(PreviewTest, PlansWhatItShows)
 {
-    Write({u"a.jpg", u"b.jpg", u"c.jpg", u"d.jpg", u"taken.jpg"});
-    CollectedEntries gathered = GatherNamed({u"a.jpg", u"b.jpg", u"missing.jpg", u"c.jpg", u"d.jpg"});
-    GivenNames names({{0, u"A.jpg"}, {1, u"b.jpg"}, {2, u"m.jpg"}, {3, u"taken.jpg"}, {4, u"a/"}});
-    std::vector<std::uint32_t> told;
-    const auto decisions = Decide(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Skip), {},
-                                  [&told](std::uint32_t entry) { told.push_back(entry); });
-    // The third of them cannot have it in the end.
-    EXPECT_EQ(told, (std::vector<std::uint32_t>{0, 3}));
-    EXPECT_EQ(Told(decisions[3]), "skip");
+    Write({u"a", u"b", u"c", u"taken"});
+    CollectedEntries gathered = GatherNamed({u"a", u"b", u"c"});
+    GivenNames names({{0, u"b"}, {1, u"taken"}, {2, u"x"}});
+    const Preview preview = MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    EXPECT_EQ(Told(preview.decisions[0]), No(Reason::TargetExists));
+    EXPECT_EQ(Told(preview.decisions[1]), No(Reason::TargetExists));
+    EXPECT_EQ(Told(preview.decisions[2]), "x");
+    EXPECT_EQ(preview.entries, std::vector<std::uint32_t>{2});
+    ASSERT_EQ(preview.plan.entries.size(), 1u);
+    EXPECT_EQ(preview.plan.entries[0].from.name.View(), u"c");
+    EXPECT_EQ(preview.plan.entries[0].to.name.View(), u"x");
+    EXPECT_EQ(preview.plan.steps.size(), 1u);
+}
+
+TEST_F(PreviewTest, RefusesAFolderThatWouldEndUpInsideItselfAndWhatNeedsItsPlace)
+{
+    Write({u"folder/inner/file", u"a", u"b"});
+    CollectedEntries gathered = GatherNamed({u"a", u"folder", u"b"});
+    GivenNames names({{0, u"folder"}, {1, m_folder.Path(u"folder/inner/folder")}, {2, u"x"}});
+    const Preview preview = MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    EXPECT_EQ(Told(preview.decisions[0]), No(Reason::PlaceKept));
+    EXPECT_EQ(Told(preview.decisions[1]), No(Reason::InsideItself));
+    EXPECT_EQ(Told(preview.decisions[2]), "x");
+    EXPECT_EQ(preview.entries, std::vector<std::uint32_t>{2});
+}
+
+TEST_F(PreviewTest, WhatKeepsTogetherIsRefusedTogetherByThePlan)
+{
+    Write({u"folder/inner/file", u"a.jpg", u"a.xmp", u"b.jpg"});
+    CollectedEntries gathered = GatherNamed({u"a.jpg", u"a.xmp", u"folder", u"b.jpg"});
+    GivenNames names({{0, u"folder"}, {1, u"folder.xmp"}, {2, m_folder.Path(u"folder/inner/folder")}, {3, u"a.xmp"}});
+    const Preview preview = MakePreview(gathered.list, Groups::ByStem(gathered.list), names, Mode(OnConflict::Number));
+    EXPECT_EQ(Told(preview.decisions[0]), No(Reason::PlaceKept));
+    EXPECT_EQ(Told(preview.decisions[1]), No(Reason::CompanionRefused));
+    EXPECT_EQ(Told(preview.decisions[2]), No(Reason::InsideItself));
+    // The place of the second is not vacated.
+    EXPECT_EQ(Told(preview.decisions[3]), No(Reason::PlaceKept));
+    EXPECT_TRUE(preview.entries.empty());
+}
+
+TEST_F(PreviewTest, StopsAtAConflictAlone)
+{
+    Write({u"a", u"b", u"taken"});
+    CollectedEntries gathered = GatherNamed({u"a", u"b"});
+    GivenNames names({{0, u"taken"}, {1, u"x"}});
+    Preview preview = MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Refuse));
+    EXPECT_TRUE(StopAtConflict(preview));
+    EXPECT_EQ(Told(preview.decisions[0]), No(Reason::TargetExists));
+    EXPECT_EQ(preview.decisions[1].status, Status::NotReached);
+    EXPECT_EQ(preview.decisions[1].reason, Reason::Stopped);
+    EXPECT_TRUE(preview.plan.entries.empty());
+
+    gathered = GatherNamed({u"b"});
+    GivenNames free({{0, u"x"}});
+    preview = MakePreview(gathered.list, Groups::OfOne(gathered.list), free, Mode(OnConflict::Refuse));
+    EXPECT_FALSE(StopAtConflict(preview));
+    EXPECT_EQ(preview.plan.entries.size(), 1u);
+}
+
+TEST_F(PreviewTest, RefusesPathsLongerThanAnySystemTakes)
+{
+    Write({u"a"});
+    CollectedEntries gathered = GatherNamed({u"a"});
+    CString deep;
+    for (int folder = 0; folder < 20'000; ++folder)
+        deep += u"d/";
+    GivenNames names({{0, deep + u"a"}});
+    const Preview preview = MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    EXPECT_EQ(Told(preview.decisions[0]), No(Reason::TooLong));
+}
+
+TEST_F(PreviewTest, CreatesFoldersAsDeepAsPathsGo)
+{
+    Write({u"a"});
+    CollectedEntries gathered = GatherNamed({u"a"});
+    CString deep;
+    for (int folder = 0; folder < 15'000; ++folder)
+        deep += u"d/";
+    GivenNames names({{0, m_folder.Path(deep + u"a")}});
+    const Preview preview = MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    EXPECT_EQ(Told(preview.decisions[0]), "a");
 }
