@@ -120,9 +120,13 @@ private:
 class Drafting
 {
 public:
-    explicit Drafting(const Model::EntryList& list) : m_list(list), m_numbers(list.folders.Count(), Model::none)
+    /// @param count  how many entries will be added.
+    Drafting(const Model::EntryList& list, std::size_t count)
+        : m_list(list), m_numbers(list.folders.Count(), Model::none)
     {
         m_draft.plan.texts = list.folders.Texts();
+        m_draft.plan.entries.reserve(count);
+        m_draft.groups.reserve(count);
     }
 
     void Add(const Model::Entry& entry, const Model::Decision& decision, std::uint32_t group)
@@ -161,8 +165,12 @@ private:
 
 void Plan(const Model::EntryList& list, const Groups& groups, Preview& preview)
 {
-    Drafting drafting(list);
+    const auto count =
+        static_cast<std::size_t>(std::count_if(preview.decisions.begin(), preview.decisions.end(),
+                                               [](const Model::Decision& decision) { return decision.IsRename(); }));
+    Drafting drafting(list, count);
     std::vector<std::uint32_t> drafted;
+    drafted.reserve(count);
     for (std::uint32_t entry = 0; entry < preview.decisions.size(); ++entry) {
         if (!preview.decisions[entry].IsRename())
             continue;
@@ -172,6 +180,7 @@ void Plan(const Model::EntryList& list, const Groups& groups, Preview& preview)
     PlannerResult result = PlanRenames(drafting.Take());
     for (const PlanRefusal& refusal : result.refused)
         preview.decisions[drafted[refusal.entry]].Refuse(refusal.reason);
+    preview.entries.reserve(result.entries.size());
     for (const Model::PlanIndex entry : result.entries)
         preview.entries.push_back(drafted[entry]);
     preview.plan = std::move(result.plan);
