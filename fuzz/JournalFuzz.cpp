@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -54,6 +55,35 @@ std::string WithChecks(std::string_view text)
     return whole;
 }
 
+/// A kind of change that takes any texts but equal ones.
+class AnyChange final : public Change
+{
+public:
+    AnyChange(const CString& before, const CString& after) : m_before(before), m_after(after) {}
+
+    std::string_view Kind() const override { return "any"; }
+    CString Before() const override { return m_before; }
+    CString After() const override { return m_after; }
+    CString ShownBefore() const override { return m_before; }
+    CString ShownAfter() const override { return m_after; }
+    ChangeLook Look(const CString&) const override { return {}; }
+    std::uint32_t Apply(const CString&) const override { return 0; }
+    std::uint32_t TakeBack(const CString&) const override { return 0; }
+
+private:
+    CString m_before;
+    CString m_after;
+};
+
+const ChangeKinds& Kinds()
+{
+    static const ChangeKinds kinds{
+        {"any", [](const CString& before, const CString& after) -> std::shared_ptr<const Change> {
+             return before == after ? nullptr : std::make_shared<AnyChange>(before, after);
+         }}};
+    return kinds;
+}
+
 std::string TextOf(const Journal& journal, std::uint32_t& check)
 {
     std::string text;
@@ -79,6 +109,8 @@ void CheckPlan(const Journal& journal)
         Require(IsPart(entry.from.name) && IsPart(entry.to.name));
         Require(entry.from.folder < plan.folders.size() && entry.to.folder < plan.folders.size());
     }
+    for (const PlannedChange& planned : journal.changes)
+        Require(planned.change && planned.place.folder < plan.folders.size() && IsPart(planned.place.name));
     for (PlanIndex folder = 0; folder < plan.folders.size(); ++folder) {
         Require(!PathBefore(plan, folder).IsEmpty());
         Require(!plan.folders[folder].isNew || IsPart(plan.folders[folder].place.name));
@@ -90,6 +122,8 @@ void CheckPlan(const Journal& journal)
         return;
     for (const PlanIndex entry : journal.checkpoint->entriesBefore)
         Require(entry < plan.entries.size());
+    for (const PlanIndex change : journal.checkpoint->changesBefore)
+        Require(change < journal.changes.size());
     for (const PlanIndex entry : journal.checkpoint->entriesTemporary)
         Require(entry < plan.entries.size());
     for (const PlanIndex folder : journal.checkpoint->foldersMade)
@@ -102,7 +136,7 @@ void CheckRoundTrip(const Journal& journal)
     std::uint32_t check = 0;
     const std::string text = TextOf(journal, check);
     CString problem;
-    const std::optional<Journal> again = ReadJournal(text, problem);
+    const std::optional<Journal> again = ReadJournal(text, problem, Kinds());
     Require(again.has_value());
     std::uint32_t checkAgain = 0;
     Require(TextOf(*again, checkAgain) == text && again->check == check);
@@ -111,21 +145,22 @@ void CheckRoundTrip(const Journal& journal)
 /// What is read from the end alone says the same as the whole.
 void CheckLastMark(const std::optional<Journal>& journal, std::string_view text)
 {
-    const std::size_t entries = journal ? journal->plan.entries.size() : 1000;
+    const std::size_t entries = journal ? journal->plan.entries.size() + journal->changes.size() : 1000;
     const std::optional<CheckpointOutline> checkpoint = ReadLastCheckpoint(FindCheckpoints(text), entries);
     Require(!checkpoint || checkpoint->entriesBefore + checkpoint->entriesTemporary <= entries);
     if (!journal || !checkpoint)
         return;
     Require(journal->checkpoint && journal->checkpoint->isBackward == checkpoint->isBackward &&
             journal->checkpoint->wasStopped == checkpoint->wasStopped);
-    Require(journal->checkpoint->entriesBefore.size() == checkpoint->entriesBefore &&
+    Require(journal->checkpoint->entriesBefore.size() + journal->checkpoint->changesBefore.size() ==
+                checkpoint->entriesBefore &&
             journal->checkpoint->entriesTemporary.size() == checkpoint->entriesTemporary);
 }
 
 void CheckText(std::string_view text)
 {
     CString problem;
-    const std::optional<Journal> journal = ReadJournal(text, problem);
+    const std::optional<Journal> journal = ReadJournal(text, problem, Kinds());
     Require(journal.has_value() == problem.IsEmpty());
     if (journal) {
         CheckPlan(*journal);

@@ -52,8 +52,8 @@ Model::RenameResult NotFound(std::uint32_t error)
 BatchWork::BatchWork(FileOperations& files, JournalFolder& folder, Journal journal, BatchSummary& summary)
     : m_files(files), m_folder(folder), m_journal(std::move(journal)),
       m_progress(m_journal.plan, m_journal.heading.token), m_before(m_progress), m_after(m_progress),
-      m_executor(m_journal.plan, m_progress, files), m_isKept(m_journal.plan.entries.size()),
-      m_hasChanged(m_journal.plan.entries.size()), m_summary(summary)
+      m_executor(m_journal.plan, m_progress, files), m_changes(m_journal, m_progress),
+      m_isKept(m_journal.plan.entries.size()), m_hasChanged(m_journal.plan.entries.size()), m_summary(summary)
 {
     for (Model::PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry)
         m_after.Set(entry, Location::After);
@@ -125,23 +125,33 @@ bool BatchWork::MayGoOn(std::uint32_t journalError)
     return journalError == 0;
 }
 
-bool BatchWork::Locate(const JournalFile& file)
+bool BatchWork::Locate(const JournalFile& file, Direction direction, bool isPreview)
 {
     m_file = file;
-    const bool wasCutOff =
-        file.phase == BatchPhase::Applying || file.phase == BatchPhase::Undoing || !m_journal.checkpoint;
+    const bool isRedo = IsEnded(file.phase) && direction == Direction::Forward;
+    // What the batch did not do when it was applied is not redone.
+    if (isRedo && !m_journal.applied)
+        m_journal.applied.emplace();
+    if (isRedo)
+        m_journal.checkpoint = m_journal.applied;
+    const bool wasCutOff = !IsEnded(file.phase) || !m_journal.checkpoint;
+    LastWork lastWork = wasCutOff ? LastWork::CutOff : LastWork::Applied;
+    if (isRedo || (wasCutOff && isPreview))
+        lastWork = LastWork::Undone;
     Locator locator(m_journal, m_progress, m_files);
     locator.TrustCheckpoint();
-    locator.Locate(wasCutOff);
+    locator.Locate(lastWork);
+    m_changes.TrustCheckpoint();
+    m_changes.Locate();
     // Folders that could not be removed when it was undone.
-    bool isAnyFound = file.phase == BatchPhase::Undone && HasMadeFolder();
+    bool isAnyFound = (file.phase == BatchPhase::Undone && !isRedo && HasMadeFolder()) || m_changes.IsAnyFound();
     for (Model::PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry) {
         m_isKept[entry] = locator.IsKept(entry);
         m_hasChanged[entry] = locator.HasChanged(entry);
         if (m_isKept[entry])
             Keep(entry);
         else if (m_progress.Of(entry) == Location::Unknown)
-            m_executor.SetResult(entry, NotFound(locator.Error(entry)));
+            m_executor.SetResult(entry, m_notFound.emplace(entry, NotFound(locator.Error(entry))).first->second);
         else
             isAnyFound = true;
     }
@@ -150,24 +160,91 @@ bool BatchWork::Locate(const JournalFile& file)
 
 bool BatchWork::BeginUndo()
 {
+    // An undo that goes on with the last one has its number.
+    const bool goesOn = m_journal.checkpoint && m_journal.checkpoint->isBackward;
+    if (m_file.undo == 0 || !goesOn)
+        m_file.undo = m_folder.NextNumber();
     const std::uint32_t error = m_folder.SetPhase(m_file, BatchPhase::Undoing);
     return MayGoOn(error ? error : m_folder.Flush());
 }
 
-void BatchWork::Run(Direction direction, const Executor::Report& report, const StopRequest& isStopAsked)
+/// What the batch did when it was applied becomes the last checkpoint again: if the redo is cut off, or its end cannot
+/// be written, the checkpoint of the undo would say that nothing was done.
+bool BatchWork::BeginRedo()
 {
-    const auto countAndReport = [&](Model::PlanIndex entry, const Model::RenameResult& result) {
-        if (m_isKept[entry])
-            return;
-        Count(m_summary, result.outcome);
-        report(entry, result);
-    };
+    std::uint32_t error = m_folder.Append(m_file, WriteCheckpoint(*m_journal.applied, m_journal.check));
+    if (!error)
+        error = m_folder.SetPhase(m_file, BatchPhase::Applying);
+    return MayGoOn(error ? error : m_folder.Flush());
+}
+
+/// Changes are done to the files where they stand before the renames, and taken back there.
+void BatchWork::Run(Direction direction, const Report& report, const StopRequest& isStopAsked)
+{
     const auto isAsked = [&isStopAsked] {
         return isStopAsked && isStopAsked();
     };
-    m_summary.wasStopped = !m_executor.Run(direction, countAndReport, isAsked);
+    const Report counted = CountAnd(report);
+    bool isWhole = true;
+    const auto runChanges = [&] {
+        const auto reportChange = [&](std::size_t index, const Model::RenameResult& result) {
+            counted(m_journal.plan.entries.size() + index, result);
+        };
+        // Once a stop was asked for, it is not asked again.
+        isWhole &= m_changes.Run(direction, reportChange, [&] { return !isWhole || isAsked(); });
+    };
+    if (direction == Direction::Forward)
+        runChanges();
+    isWhole &= m_executor.Run(direction, counted, [&] { return !isWhole || isAsked(); });
+    if (direction == Direction::Backward)
+        runChanges();
+    m_summary.wasStopped = !isWhole;
     CheckListings(direction == Direction::Forward ? Location::After : Location::Before);
     Close(direction);
+}
+
+BatchWork::Report BatchWork::CountAnd(const Report& report)
+{
+    return [this, report](std::size_t index, const Model::RenameResult& result) {
+        if (index < m_isKept.size() && m_isKept[index])
+            return;
+        Count(m_summary, result.outcome);
+        report(index, result);
+    };
+}
+
+void BatchWork::Foresee(Direction direction, const Report& report)
+{
+    const Report counted = CountAnd(report);
+    const std::vector<Model::PlanEntry>& entries = m_journal.plan.entries;
+    const bool isForward = direction == Direction::Forward;
+    // For each entry the one whose place it gets.
+    std::vector<Model::PlanIndex> inPlace(entries.size(), Model::none);
+    for (Model::PlanIndex entry = 0; entry < entries.size(); ++entry)
+        if (const Model::PlanIndex before = entries[entry].waitsFor; before != Model::none)
+            inPlace[isForward ? entry : before] = isForward ? before : entry;
+    for (Model::PlanIndex entry = 0; entry < entries.size(); ++entry)
+        counted(entry, ForeseeEntry(entry, isForward ? Location::After : Location::Before, inPlace[entry]));
+    for (std::size_t index = 0; index < m_journal.changes.size(); ++index)
+        if (!m_changes.IsKept(index))
+            counted(entries.size() + index, m_changes.Foresee(index, direction));
+}
+
+/// Refuses what is not found, and what finds its place taken by something that is no part of the batch.
+Model::RenameResult BatchWork::ForeseeEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace)
+{
+    const Model::Place place = m_progress.PlaceOf(entry, goal);
+    if (m_notFound.contains(entry))
+        return m_notFound.at(entry);
+    const bool willLeave = inPlace != Model::none && (inPlace == entry || m_progress.Of(inPlace) != Location::Unknown);
+    const bool isFree = m_progress.Of(entry) == goal || willLeave || !m_progress.IsThere(place.folder) ||
+                        VyrPlatform::LookAtFile(m_progress.PathOf(place)).kind == Kind::Missing;
+    if (isFree)
+        return {.outcome = Model::RenameOutcome::Done, .error = 0, .reason = {}};
+    return {.outcome = Model::RenameOutcome::Failed,
+            .error = 0,
+            .reason =
+                goal == Location::Before ? u"something stands at the old path" : u"something stands at the new path"};
 }
 
 void BatchWork::CheckListings(Location location)
@@ -185,18 +262,20 @@ void BatchWork::Close(Direction direction)
     m_summary.number = m_file.number;
     if (!checkpoint.entriesTemporary.empty())
         m_summary.error = u"some entries stand under temporary names: \"vyr recover\" tries again";
-    else if (IsAny(Location::After))
+    else if (IsAnyDone())
         End(checkpoint, BatchPhase::Applied);
-    else if (direction == Direction::Forward && checkpoint.foldersMade.empty())
+    else if (direction == Direction::Forward && checkpoint.foldersMade.empty() && !m_journal.applied)
         Forget();
     else
         End(checkpoint, BatchPhase::Undone);
+    m_summary.undo = m_file.undo;
 }
 
 Checkpoint BatchWork::MakeCheckpoint(Direction direction) const
 {
     Checkpoint checkpoint;
-    checkpoint.isBackward = direction == Direction::Backward;
+    // After a redo that did nothing the batch is as undone as before.
+    checkpoint.isBackward = direction == Direction::Backward || (m_journal.applied && !IsAnyDone());
     checkpoint.wasStopped = m_summary.wasStopped;
     for (Model::PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry) {
         const Location location = m_progress.Of(entry);
@@ -212,6 +291,9 @@ Checkpoint BatchWork::MakeCheckpoint(Direction direction) const
     for (Model::PlanIndex folder = 0; folder < m_journal.plan.folders.size(); ++folder)
         if (m_progress.OfFolder(folder) == NewFolder::Made)
             checkpoint.foldersMade.push_back(folder);
+    for (std::size_t index = 0; index < m_journal.changes.size(); ++index)
+        if (!m_changes.MayBeDone(index, direction))
+            checkpoint.changesBefore.push_back(static_cast<Model::PlanIndex>(index));
     return checkpoint;
 }
 
@@ -223,12 +305,12 @@ bool BatchWork::HasMadeFolder() const
     return false;
 }
 
-bool BatchWork::IsAny(Location location) const
+bool BatchWork::IsAnyDone() const
 {
     for (Model::PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry)
-        if (m_progress.Of(entry) == location)
+        if (m_progress.Of(entry) == Location::After)
             return true;
-    return false;
+    return m_changes.IsAnyDone();
 }
 
 /// The phase first: a checkpoint that is not written any more only means that the next one who works on the batch looks
@@ -265,12 +347,23 @@ void BatchWork::NameKeptFolders(const Checkpoint& checkpoint)
     }
 }
 
-BatchEntry BatchWork::Describe(Model::PlanIndex entry, const Model::RenameResult& result) const
+BatchEntry BatchWork::Describe(std::size_t index, const Model::RenameResult& result) const
 {
+    const std::size_t renames = m_journal.plan.entries.size();
+    if (index >= renames) {
+        const CString path = m_changes.PathOf(index - renames);
+        return {.before = path,
+                .after = path,
+                .result = result,
+                .hasChanged = false,
+                .change = m_journal.changes[index - renames].change};
+    }
+    const auto entry = static_cast<Model::PlanIndex>(index);
     return {.before = m_before.PathOf(m_before.PlaceOf(entry, Location::Before)),
             .after = m_after.PathOf(m_after.PlaceOf(entry, Location::After)),
             .result = result,
-            .hasChanged = m_hasChanged[entry]};
+            .hasChanged = m_hasChanged[entry],
+            .change = nullptr};
 }
 
 } // namespace VyrHost::Batch

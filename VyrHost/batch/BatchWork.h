@@ -3,10 +3,13 @@
 #pragma once
 
 #include <VyrHost/batch/Batches.h>
+#include <VyrHost/batch/ChangeWork.h>
 #include <VyrHost/batch/Executor.h>
 #include <VyrHost/batch/JournalFolder.h>
 #include <VyrHost/batch/PlanProgress.h>
 
+#include <functional>
+#include <unordered_map>
 #include <vector>
 
 namespace VyrHost::Batch {
@@ -25,18 +28,26 @@ public:
     /// @return false when the journal cannot be written.
     [[nodiscard]] bool Begin();
 
-    /// For a batch from the journal: finds out where everything stands.
+    /// For a batch from the journal that is to be undone, redone or recovered: finds out where everything stands.
+    /// @param isPreview  the disk stays as it is, even where the work on the batch was cut off.
     /// @return false when nothing of it is found.
-    [[nodiscard]] bool Locate(const JournalFile& file);
+    [[nodiscard]] bool Locate(const JournalFile& file, Direction direction, bool isPreview = false);
     /// Writes to the disk that the batch is being undone.
     /// @return false when that cannot be written.
     [[nodiscard]] bool BeginUndo();
+    /// Writes to the disk that the batch is being applied again.
+    /// @return false when that cannot be written.
+    [[nodiscard]] bool BeginRedo();
 
+    /// Called with the index of an entry of the plan; changes of other kinds stand behind the entries.
+    using Report = std::function<void(std::size_t index, const Model::RenameResult& result)>;
     /// Does what is left to do in `direction`, looks at the folders, and closes the journal.
-    void Run(Direction direction, const Executor::Report& report, const StopRequest& isStopAsked);
+    void Run(Direction direction, const Report& report, const StopRequest& isStopAsked);
+    /// After Locate: tells what Run would do, as far as it can be seen.
+    void Foresee(Direction direction, const Report& report);
 
-    /// After Locate: what is said of an entry.
-    [[nodiscard]] BatchEntry Describe(Model::PlanIndex entry, const Model::RenameResult& result) const;
+    /// After Locate: what is said of an entry or a change.
+    [[nodiscard]] BatchEntry Describe(std::size_t index, const Model::RenameResult& result) const;
 
 private:
     void CheckSource(Model::PlanIndex entry);
@@ -45,10 +56,12 @@ private:
     void KeepJournalInPlace();
     void KeepInPlace(Model::PlanIndex entry, const CString& reason);
     bool MayGoOn(std::uint32_t journalError);
+    [[nodiscard]] Report CountAnd(const Report& report);
+    [[nodiscard]] Model::RenameResult ForeseeEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace);
     void CheckListings(Location location);
     void Close(Direction direction);
     [[nodiscard]] Checkpoint MakeCheckpoint(Direction direction) const;
-    [[nodiscard]] bool IsAny(Location location) const;
+    [[nodiscard]] bool IsAnyDone() const;
     [[nodiscard]] bool HasMadeFolder() const;
     void End(const Checkpoint& checkpoint, BatchPhase phase);
     void Forget();
@@ -63,6 +76,9 @@ private:
     PlanProgress m_before;
     PlanProgress m_after;
     Executor m_executor;
+    ChangeWork m_changes;
+    /// Why entries were not found.
+    std::unordered_map<Model::PlanIndex, Model::RenameResult> m_notFound;
     /// Entries that the work leaves alone, and does not speak of.
     std::vector<bool> m_isKept;
     std::vector<bool> m_hasChanged;

@@ -4,13 +4,18 @@
 #include <VyrHost/batch/BatchWork.h>
 #include <VyrHost/batch/SourceStates.h>
 #include <VyrHost/text/ErrorText.h>
+#include <VyrHost/text/FolderPart.h>
 
+#include <VyrHostPlatform/FullPath.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/PathUtils.h>
+#include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/process/Process.h>
+#include <VyrPlatform/text/Encoding.h>
 #include <VyrPlatform/time/Clock.h>
 
 #include <algorithm>
+#include <charconv>
 #include <random>
 #include <utility>
 
@@ -47,23 +52,10 @@ std::uint64_t MakeToken()
     return static_cast<std::uint64_t>(device()) << 32 | device();
 }
 
-Journal NewJournal(Model::RenamePlan plan, FileOperations& files)
-{
-    Journal journal;
-    journal.states = LookAtSources(plan, files);
-    journal.heading.token = MakeToken();
-    journal.heading.started = NowAsText();
-    journal.heading.entries = plan.entries.size();
-    const PlanProgress before(plan, journal.heading.token);
-    journal.heading.firstFrom = before.PathOf(plan.entries.front().from);
-    journal.heading.firstTo = before.PathOf(plan.entries.front().to);
-    journal.plan = std::move(plan);
-    return journal;
-}
-
 CString DescribeDamage(const JournalFile& file, const CString& problem)
 {
-    return CString::Join({u"the journal ", file.path, u" is damaged (", problem, u"); nothing was changed"});
+    return CString::Join(
+        {u"the journal ", file.path, u" is damaged, or newer than this program (", problem, u"); nothing was changed"});
 }
 
 BatchState StateOf(BatchPhase phase)
@@ -99,6 +91,7 @@ BatchInformation Describe(const JournalFolder& folder, const JournalFile& file)
 {
     BatchInformation information;
     information.number = file.number;
+    information.undo = file.undo;
     information.state = StateOf(file.phase);
     std::uint32_t error = 0;
     const std::optional<std::string> text = folder.ReadBeginning(file, error);
@@ -111,6 +104,8 @@ BatchInformation Describe(const JournalFolder& folder, const JournalFile& file)
         return information;
     }
     information.started = heading->started;
+    information.command = heading->command;
+    information.folder = heading->folder;
     information.entries = heading->entries;
     information.firstFrom = heading->firstFrom;
     information.firstTo = heading->firstTo;
@@ -119,63 +114,206 @@ BatchInformation Describe(const JournalFolder& folder, const JournalFile& file)
     return information;
 }
 
-std::optional<Journal> ReadWhole(const JournalFolder& folder, const JournalFile& file, BatchSummary& summary)
+/// The batch that is undone by `number`, or whose undo has that number.
+std::optional<JournalFile> Find(const JournalFolder& folder, std::uint32_t number, Direction direction,
+                                BatchSummary& summary)
 {
-    std::uint32_t error = 0;
-    const std::optional<std::string> text = folder.Read(file, error);
-    if (!text) {
-        summary.error = CString::Join({u"the journal ", file.path, u" cannot be read: ", Text::ErrorText(error)});
-        return {};
+    const bool isRedo = direction == Direction::Forward;
+    for (const JournalFile& file : folder.List())
+        if ((isRedo ? file.undo : file.number) == number)
+            return file;
+    summary.error = isRedo ? u"the journal has no undo of this number" : u"the journal has no batch of this number";
+    return {};
+}
+
+/// Whether nothing is left of the last undo.
+bool IsRedone(const JournalFile& file, const Journal& journal)
+{
+    return file.phase == BatchPhase::Applied && journal.checkpoint && !journal.checkpoint->isBackward;
+}
+
+/// Why nothing of `file` is found.
+CString DescribeAbsence(const JournalFile& file, Direction direction)
+{
+    if (direction == Direction::Forward)
+        return u"none of the files is where the undo left it; nothing was changed";
+    if (file.phase != BatchPhase::Undone)
+        return u"none of the batch's files is where the batch left it; nothing was changed";
+    if (file.undo == 0)
+        return u"the batch is undone already";
+    CString text;
+    text.Format(u"the batch is undone already; \"vyr undo %u\" redoes it", file.undo);
+    return text;
+}
+
+/// `path` without the separator at its end, which that of a root keeps.
+CString WithoutSeparator(std::u16string_view path)
+{
+    const bool isRoot = path.empty() || Text::FolderPart(path.substr(0, path.size() - 1)).empty();
+    return isRoot ? path : path.substr(0, path.size() - 1);
+}
+
+/// What the folders `left` and `right`, each with a separator at its end, lie in.
+std::u16string_view CommonPart(std::u16string_view left, std::u16string_view right)
+{
+    const auto [end, other] = std::mismatch(left.begin(), left.end(), right.begin(), right.end());
+    return Text::FolderPart(left.substr(0, static_cast<std::size_t>(end - left.begin())));
+}
+
+/// The folder that all changes lie in, before the batch and after it; empty where there is none.
+CString FindCommonFolder(const Journal& journal)
+{
+    const std::vector<Model::PlanFolder>& folders = journal.plan.folders;
+    std::vector<bool> isUsed(folders.size());
+    for (const Model::PlanEntry& entry : journal.plan.entries)
+        isUsed[entry.from.folder] = isUsed[entry.to.folder] = true;
+    for (const PlannedChange& planned : journal.changes)
+        isUsed[planned.place.folder] = true;
+    std::optional<CString> common;
+    for (Model::PlanIndex folder = 0; folder < folders.size(); ++folder) {
+        if (!isUsed[folder])
+            continue;
+        CString path = Model::PathBefore(journal.plan, folder);
+        if (Text::FolderPart(path).size() != path.View().size())
+            path += VyrPlatform::FileSystem::Separator();
+        common = common ? CString(CommonPart(*common, path)) : path;
     }
-    CString problem;
-    std::optional<Journal> journal = ReadJournal(*text, problem);
-    if (!journal)
-        summary.error = DescribeDamage(file, problem);
+    return common ? WithoutSeparator(*common) : CString();
+}
+
+Journal MakeJournal(NewBatch batch)
+{
+    Journal journal;
+    journal.plan = std::move(batch.plan);
+    journal.states = std::move(batch.states);
+    journal.changes = std::move(batch.changes);
+    journal.heading.token = MakeToken();
+    journal.heading.started = NowAsText();
+    journal.heading.command = batch.command;
+    journal.heading.folder = FindCommonFolder(journal);
+    journal.heading.entries = journal.plan.entries.size() + journal.changes.size();
+    const auto pathOf = [&journal](const Model::Place& place) {
+        return FileUtils::GetCombinePath(Model::PathBefore(journal.plan, place.folder), place.name.View());
+    };
+    if (!journal.plan.entries.empty()) {
+        journal.heading.firstFrom = pathOf(journal.plan.entries.front().from);
+        journal.heading.firstTo = pathOf(journal.plan.entries.front().to);
+    } else if (!journal.changes.empty()) {
+        journal.heading.firstFrom = pathOf(journal.changes.front().place);
+        journal.heading.firstTo = journal.changes.front().change->ShownAfter();
+    }
     return journal;
 }
 
-/// The batch to undo; nothing, with the summary's error set, when there is none.
-std::optional<JournalFile> Choose(const JournalFolder& folder, std::optional<std::uint32_t> number,
-                                  BatchSummary& summary)
+/// The number that the environment variable `name` holds; else `otherwise`.
+template <class Number>
+Number NumberFromEnvironment(const CString& name, Number otherwise)
 {
-    std::vector<JournalFile> journals = folder.List();
-    const auto chosen = std::find_if(journals.rbegin(), journals.rend(), [number](const JournalFile& journal) {
-        return number ? journal.number == *number : journal.phase == BatchPhase::Applied;
-    });
-    if (chosen != journals.rend())
-        return *chosen;
-    summary.error = number ? u"the journal has no batch of this number" : u"there is no batch to undo";
-    return {};
+    const std::string text =
+        VyrPlatform::Encoding::ToUtf8(VyrPlatform::Process::GetEnvironment(name).value_or(CString()));
+    Number number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && end == text.data() + text.size() && number >= 1 ? number : otherwise;
+}
+
+bool LiesIn(const CString& path, const FileState& folder)
+{
+    if (path.IsEmpty() || folder.kind != VyrPlatform::FileSystem::Kind::Folder)
+        return false;
+    const std::vector<VyrPlatform::FileIdentity> way = WayTo(path);
+    return std::find(way.begin(), way.end(), folder.identity) != way.end();
 }
 
 } // namespace
 
-Batches::Batches() : Batches(SystemFiles(), FindJournalFolder()) {}
+UndoCandidates FindUndoCandidates(const std::vector<BatchInformation>& batches, const CString& folder)
+{
+    const FileState current = VyrPlatform::LookAtFile(VyrHostPlatform::GetRealPath(folder));
+    UndoCandidates candidates;
+    for (const BatchInformation& batch : batches) {
+        const bool isDamaged = batch.state == BatchState::Damaged;
+        if (isDamaged || CanBeUndone(batch.state))
+            (isDamaged || LiesIn(batch.folder, current) ? candidates.here : candidates.elsewhere).push_back(batch);
+    }
+    return candidates;
+}
 
-Batches::Batches(FileOperations& files, const CString& journalFolder) : m_files(&files), m_journalFolder(journalFolder)
-{}
+BatchSettings SettingsFromEnvironment()
+{
+    BatchSettings settings;
+    settings.journalFolder = FindJournalFolder();
+    settings.keeping.batches = NumberFromEnvironment(u"VYR_KEEP_BATCHES", settings.keeping.batches);
+    settings.keeping.days = NumberFromEnvironment(u"VYR_KEEP_DAYS", settings.keeping.days);
+    return settings;
+}
 
-BatchSummary Batches::Apply(Model::RenamePlan plan, const RenameReport& report, const StopRequest& isStopAsked)
+Batches::Batches(const LockWait& wait) : Batches(SystemFiles(), SettingsFromEnvironment())
+{
+    m_settings.wait = wait;
+}
+
+Batches::Batches(FileOperations& files, BatchSettings settings) : m_files(&files), m_settings(std::move(settings)) {}
+
+JournalFolder Batches::OpenJournals() const
+{
+    return {*m_files, m_settings.journalFolder, m_settings.keeping};
+}
+
+std::optional<Journal> Batches::ReadWhole(const JournalFolder& folder, const JournalFile& file,
+                                          BatchSummary& summary) const
+{
+    std::uint32_t error = 0;
+    const std::optional<std::string> text = folder.Read(file, error);
+    CString problem;
+    std::optional<Journal> journal = text ? ReadJournal(*text, problem, m_settings.kinds) : std::optional<Journal>();
+    if (!text)
+        summary.error = CString::Join({u"the journal ", file.path, u" cannot be read: ", Text::ErrorText(error)});
+    else if (!journal)
+        summary.error = DescribeDamage(file, problem);
+    summary.obstacle = journal ? Obstacle::None : Obstacle::JournalNotRead;
+    return journal;
+}
+
+BatchSummary Batches::Apply(const std::function<NewBatch()>& make, const RenameReport& report,
+                            const StopRequest& isStopAsked)
 {
     BatchSummary summary;
-    summary.notReached = plan.entries.size();
-    JournalFolder folder(*m_files, m_journalFolder);
-    summary.error = folder.Lock();
+    JournalFolder folder = OpenJournals();
+    summary.error = folder.Lock(m_settings.wait);
     if (summary.error.IsEmpty() && folder.FindOpen())
         summary.error = u"an earlier batch was cut off: \"vyr recover\" finishes it or undoes it";
     if (!summary.error.IsEmpty())
         return summary;
-    BatchWork work(*m_files, folder, NewJournal(std::move(plan), *m_files), summary);
-    if (!work.Begin())
+    Journal journal = MakeJournal(make());
+    const std::size_t count = journal.heading.entries;
+    summary.wasBegun = count == 0;
+    if (count == 0)
         return summary;
-    summary.notReached = 0;
-    work.Run(Direction::Forward, report, isStopAsked);
+    BatchWork work(*m_files, folder, std::move(journal), summary);
+    summary.wasBegun = work.Begin();
+    if (summary.wasBegun)
+        work.Run(Direction::Forward, report, isStopAsked);
+    else
+        summary.notReached = count;
+    return summary;
+}
+
+BatchSummary Batches::Apply(Model::RenamePlan plan, const RenameReport& report, const StopRequest& isStopAsked)
+{
+    const std::size_t count = plan.entries.size();
+    const auto make = [this, &plan]() -> NewBatch {
+        std::vector<FileState> states = LookAtSources(plan, *m_files);
+        return {.command = u"rename", .plan = std::move(plan), .states = std::move(states), .changes = {}};
+    };
+    BatchSummary summary = Apply(make, report, isStopAsked);
+    if (!summary.wasBegun)
+        summary.notReached = count;
     return summary;
 }
 
 std::vector<BatchInformation> Batches::List() const
 {
-    const JournalFolder folder(*m_files, m_journalFolder);
+    const JournalFolder folder = OpenJournals();
     std::vector<BatchInformation> batches;
     for (const JournalFile& file : folder.List()) {
         BatchInformation& batch = batches.emplace_back(Describe(folder, file));
@@ -186,36 +324,87 @@ std::vector<BatchInformation> Batches::List() const
     return batches;
 }
 
-BatchSummary Batches::Undo(std::optional<std::uint32_t> number, const BatchEntryReport& report,
-                           const StopRequest& isStopAsked)
+BatchSummary Batches::Undo(std::uint32_t number, const BatchEntryReport& report, const StopRequest& isStopAsked)
+{
+    return Reverse(number, Direction::Backward, report, isStopAsked);
+}
+
+BatchSummary Batches::Redo(std::uint32_t number, const BatchEntryReport& report, const StopRequest& isStopAsked)
+{
+    return Reverse(number, Direction::Forward, report, isStopAsked);
+}
+
+BatchSummary Batches::PreviewUndo(std::uint32_t number, const BatchEntryReport& report) const
+{
+    return Preview(number, Direction::Backward, report);
+}
+
+BatchSummary Batches::PreviewRedo(std::uint32_t number, const BatchEntryReport& report) const
+{
+    return Preview(number, Direction::Forward, report);
+}
+
+/// Undoes the batch `number`, or redoes the one whose undo has the number.
+BatchSummary Batches::Reverse(std::uint32_t number, Direction direction, const BatchEntryReport& report,
+                              const StopRequest& isStopAsked)
 {
     BatchSummary summary;
-    JournalFolder folder(*m_files, m_journalFolder);
-    summary.error = folder.Lock();
+    JournalFolder folder = OpenJournals();
+    summary.error = folder.Lock(m_settings.wait);
     if (summary.error.IsEmpty() && folder.FindOpen())
         summary.error = u"a batch was cut off: \"vyr recover\" finishes it or undoes it";
     if (!summary.error.IsEmpty())
         return summary;
-    const std::optional<JournalFile> file = Choose(folder, number, summary);
+    const std::optional<JournalFile> file = Find(folder, number, direction, summary);
     std::optional<Journal> journal = file ? ReadWhole(folder, *file, summary) : std::optional<Journal>();
     if (!journal)
         return summary;
+    if (direction == Direction::Forward && IsRedone(*file, *journal)) {
+        summary.error = u"the undo is redone already";
+        return summary;
+    }
     BatchWork work(*m_files, folder, std::move(*journal), summary);
-    if (!work.Locate(*file))
-        summary.error = file->phase == BatchPhase::Undone
-                            ? u"the batch is undone already"
-                            : u"none of the batch's files is where the batch left it; nothing was changed";
-    else if (work.BeginUndo())
+    if (!work.Locate(*file, direction)) {
+        summary.error = DescribeAbsence(*file, direction);
+        summary.obstacle = Obstacle::FilesGone;
+        return summary;
+    }
+    if (direction == Direction::Backward ? work.BeginUndo() : work.BeginRedo())
         work.Run(
-            Direction::Backward,
-            [&](Model::PlanIndex entry, const Model::RenameResult& result) { report(work.Describe(entry, result)); },
+            direction,
+            [&](std::size_t entry, const Model::RenameResult& result) { report(work.Describe(entry, result)); },
             isStopAsked);
+    return summary;
+}
+
+BatchSummary Batches::Preview(std::uint32_t number, Direction direction, const BatchEntryReport& report) const
+{
+    BatchSummary summary;
+    JournalFolder folder = OpenJournals();
+    const std::optional<JournalFile> file = Find(folder, number, direction, summary);
+    std::optional<Journal> journal = file ? ReadWhole(folder, *file, summary) : std::optional<Journal>();
+    if (!journal)
+        return summary;
+    if (direction == Direction::Forward && IsRedone(*file, *journal)) {
+        summary.error = u"the undo is redone already";
+        return summary;
+    }
+    BatchWork work(*m_files, folder, std::move(*journal), summary);
+    if (work.Locate(*file, direction, true)) {
+        summary.number = file->number;
+        work.Foresee(direction, [&](std::size_t entry, const Model::RenameResult& result) {
+            report(work.Describe(entry, result));
+        });
+    } else {
+        summary.error = DescribeAbsence(*file, direction);
+        summary.obstacle = Obstacle::FilesGone;
+    }
     return summary;
 }
 
 std::optional<BatchInformation> Batches::FindCutOff() const
 {
-    const JournalFolder folder(*m_files, m_journalFolder);
+    const JournalFolder folder = OpenJournals();
     if (!folder.FindOpen() || folder.IsLockedByAnother())
         return {};
     // Its program may just have ended it.
@@ -226,8 +415,8 @@ std::optional<BatchInformation> Batches::FindCutOff() const
 BatchSummary Batches::Recover(Recovery recovery, const BatchEntryReport& report, const StopRequest& isStopAsked)
 {
     BatchSummary summary;
-    JournalFolder folder(*m_files, m_journalFolder);
-    summary.error = folder.Lock();
+    JournalFolder folder = OpenJournals();
+    summary.error = folder.Lock(m_settings.wait);
     if (!summary.error.IsEmpty())
         return summary;
     const std::optional<JournalFile> file = folder.FindOpen();
@@ -240,14 +429,15 @@ BatchSummary Batches::Recover(Recovery recovery, const BatchEntryReport& report,
         summary.error = CString::Join({summary.error, wayOut});
         return summary;
     }
+    const Direction direction = DoesRenames(recovery, StateOf(file->phase)) ? Direction::Forward : Direction::Backward;
     BatchWork work(*m_files, folder, std::move(*journal), summary);
-    if (!work.Locate(*file))
+    if (!work.Locate(*file, direction))
         summary.error =
             CString::Join({u"none of the batch's files is at one of its paths; nothing was changed", wayOut});
     else
         work.Run(
-            DoesRenames(recovery, StateOf(file->phase)) ? Direction::Forward : Direction::Backward,
-            [&](Model::PlanIndex entry, const Model::RenameResult& result) { report(work.Describe(entry, result)); },
+            direction,
+            [&](std::size_t entry, const Model::RenameResult& result) { report(work.Describe(entry, result)); },
             isStopAsked);
     return summary;
 }
@@ -255,8 +445,8 @@ BatchSummary Batches::Recover(Recovery recovery, const BatchEntryReport& report,
 AbandonedJournal Batches::AbandonCutOff()
 {
     AbandonedJournal result;
-    JournalFolder folder(*m_files, m_journalFolder);
-    result.error = folder.Lock();
+    JournalFolder folder = OpenJournals();
+    result.error = folder.Lock(m_settings.wait);
     if (!result.error.IsEmpty())
         return result;
     std::optional<JournalFile> file = folder.FindOpen();

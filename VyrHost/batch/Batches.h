@@ -1,7 +1,9 @@
 /// @file
-/// Applies batches of renames, undoes them, and ends those that were cut off.
+/// Applies batches of changes, undoes and redoes them, and ends those that were cut off.
 #pragma once
 
+#include <VyrHost/batch/JournalFolder.h>
+#include <VyrHost/batch/PlanProgress.h>
 #include <VyrHost/model/RenamePlan.h>
 #include <VyrHost/model/RenameResult.h>
 
@@ -15,8 +17,6 @@
 #include <vector>
 
 namespace VyrHost::Batch {
-
-class FileOperations;
 
 enum class BatchState : std::uint8_t
 {
@@ -41,16 +41,22 @@ struct BatchInformation
     /// From 1 on, in the order of time.
     std::uint32_t number = 0;
     BatchState state = BatchState::Applied;
+    /// The number of its last undo, by which it is redone; 0 when it never was undone.
+    std::uint32_t undo = 0;
     /// Local time as yyyy/MM/dd HH:mm:ss.
     CString started;
-    /// How many renames it was to do.
+    /// The command that made it; empty where the journal does not tell.
+    CString command;
+    /// The folder that all of it lies in; empty where there is none, or the journal does not tell.
+    CString folder;
+    /// How many changes it was to do.
     std::size_t entries = 0;
     /// How many of them are done and not undone; when it was undone, those that were not found count, too.
     /// Nothing where the journal does not tell: the batch or the last lines of its journal were cut off.
     std::optional<std::size_t> renamed;
     /// The last work on it ended because it was asked to.
     bool wasStopped = false;
-    /// The first of them.
+    /// The path of the first of them, and its new path, or what it was set to.
     CString firstFrom;
     CString firstTo;
     /// For people; empty unless the batch is damaged.
@@ -63,15 +69,37 @@ struct BatchInformation
     return state == BatchState::Applied || state == BatchState::UndonePartly;
 }
 
-/// What became of one entry of a batch that is undone or recovered.
+/// The latest of `batches` (the latest first) that can be undone or is damaged, and those before it, in the order in
+/// which "vyr undo" tries them.
+struct UndoCandidates
+{
+    /// Those that lie in the folder or below it. A damaged one does not tell where it lies, and counts, too.
+    std::vector<BatchInformation> here;
+    std::vector<BatchInformation> elsewhere;
+};
+
+[[nodiscard]] UndoCandidates FindUndoCandidates(const std::vector<BatchInformation>& batches, const CString& folder);
+
+/// What became of one entry of a batch that is undone, redone or recovered.
 struct BatchEntry
 {
-    /// Its paths before the batch and after it.
+    /// Its paths before the batch and after it; the same path where it is not renamed.
     CString before;
     CString after;
     Model::RenameResult result;
     /// The file was written to, or replaced by another, since the batch.
     bool hasChanged = false;
+    /// What is changed where it is not renamed; else null.
+    std::shared_ptr<const Change> change;
+};
+
+enum class Obstacle : std::uint8_t
+{
+    None,
+    /// Its journal is damaged, or newer than this program.
+    JournalNotRead,
+    /// None of its files is where the batch left it.
+    FilesGone
 };
 
 /// What was done. Every entry counts in one of the four.
@@ -80,6 +108,8 @@ struct BatchSummary
     /// The batch's number in the journal; 0 when nothing was done that could be undone: nothing was begun where
     /// there is an error.
     std::uint32_t number = 0;
+    /// The number by which the batch is redone; 0 when it never was undone.
+    std::uint32_t undo = 0;
     std::size_t done = 0;
     std::size_t failed = 0;
     std::size_t refused = 0;
@@ -90,12 +120,44 @@ struct BatchSummary
     std::vector<CString> keptFolders;
     /// The work ended because it was asked to.
     bool wasStopped = false;
+    /// For a batch that is applied: whether the work on it was begun.
+    bool wasBegun = false;
+    /// What keeps the batch itself from being undone or redone.
+    Obstacle obstacle = Obstacle::None;
     /// Why nothing was begun, or why the batch could not be closed; empty when all is well.
     CString error;
 };
 
-/// Called once for each entry of a plan, as soon as its fate is known.
+/// Called once for each entry of a plan and each other change behind them, as soon as its fate is known.
 using RenameReport = std::function<void(Model::PlanIndex entry, const Model::RenameResult& result)>;
+
+/// A batch that is to be applied.
+struct NewBatch
+{
+    /// The command that makes it, such as "rename".
+    CString command;
+    /// The folders that all changes are in, and the renames.
+    Model::RenamePlan plan;
+    /// What stands at the old path of each rename.
+    std::vector<VyrPlatform::FileState> states;
+    /// The changes of other kinds.
+    std::vector<PlannedChange> changes;
+};
+
+/// Where journals are kept and how long, what a program does while another is at work, and which kinds of change it
+/// knows besides the rename.
+struct BatchSettings
+{
+    CString journalFolder;
+    JournalKeeping keeping;
+    LockWait wait;
+    ChangeKinds kinds;
+};
+
+/// As the environment says it: journals are in the folder that VYR_JOURNAL_DIR names, else in the folder "journal" of
+/// the product's folder for what a program keeps of its doings; VYR_KEEP_BATCHES and VYR_KEEP_DAYS say how long they
+/// are kept (what is no number from 1 on says nothing).
+[[nodiscard]] BatchSettings SettingsFromEnvironment();
 
 using BatchEntryReport = std::function<void(const BatchEntry& entry)>;
 
@@ -132,23 +194,30 @@ struct AbandonedJournal
 class Batches
 {
 public:
-    /// Keeps the journals in the folder that the environment variable VYR_JOURNAL_DIR names, else in the folder
-    /// "journal" of the product's folder for what a program keeps of its doings.
-    Batches();
-    /// For tests: acts through `files` and keeps the journals in `journalFolder`.
-    Batches(FileOperations& files, const CString& journalFolder);
+    /// @param wait  called while another program works on a batch.
+    explicit Batches(const LockWait& wait = {});
+    /// For tests: acts through `files`.
+    Batches(FileOperations& files, BatchSettings settings);
 
-    /// Does `plan`, which has an entry: journal on disk first, nothing ever overwritten, afterwards a look at the
+    /// Does the batch that `make` gives: journal on disk first, nothing ever overwritten, afterwards a look at the
     /// folders that do not tell every two names apart.
-    /// @param report  called once for each entry, unless the summary's error says that nothing was begun.
+    /// @param make    called once no other program works on a batch.
+    /// @param report  called once for each rename of the plan and, by indexes behind those, each other change, unless
+    ///     the summary's error says that nothing was begun; those count as not reached then.
+    BatchSummary Apply(const std::function<NewBatch()>& make, const RenameReport& report,
+                       const StopRequest& isStopAsked);
+    /// Does the renames of `plan`, which has one, likewise.
     BatchSummary Apply(Model::RenamePlan plan, const RenameReport& report, const StopRequest& isStopAsked);
 
     /// The batches in the journal, the latest first.
     [[nodiscard]] std::vector<BatchInformation> List() const;
-    /// Undoes the batch `number`, or the latest one that is not undone, in reverse order. What the batch had
-    /// not done is not reported.
-    BatchSummary Undo(std::optional<std::uint32_t> number, const BatchEntryReport& report,
-                      const StopRequest& isStopAsked);
+    /// Undoes the batch `number`, in reverse order. What the batch had not done is not reported.
+    BatchSummary Undo(std::uint32_t number, const BatchEntryReport& report, const StopRequest& isStopAsked);
+    /// Does again what was undone by the undo `number`.
+    BatchSummary Redo(std::uint32_t number, const BatchEntryReport& report, const StopRequest& isStopAsked);
+    /// Tells what Undo and Redo would do, as far as it can be seen, and changes nothing.
+    BatchSummary PreviewUndo(std::uint32_t number, const BatchEntryReport& report) const;
+    BatchSummary PreviewRedo(std::uint32_t number, const BatchEntryReport& report) const;
 
     /// The batch that was cut off, if there is one that no running program works on.
     [[nodiscard]] std::optional<BatchInformation> FindCutOff() const;
@@ -159,8 +228,15 @@ public:
     AbandonedJournal AbandonCutOff();
 
 private:
+    BatchSummary Reverse(std::uint32_t number, Direction direction, const BatchEntryReport& report,
+                         const StopRequest& isStopAsked);
+    BatchSummary Preview(std::uint32_t number, Direction direction, const BatchEntryReport& report) const;
+    [[nodiscard]] JournalFolder OpenJournals() const;
+    [[nodiscard]] std::optional<Journal> ReadWhole(const JournalFolder& folder, const JournalFile& file,
+                                                   BatchSummary& summary) const;
+
     FileOperations* m_files;
-    CString m_journalFolder;
+    BatchSettings m_settings;
 };
 
 } // namespace VyrHost::Batch

@@ -13,13 +13,6 @@
 
 namespace VyrHost::Batch {
 
-enum class Direction : std::uint8_t
-{
-    /// From the old paths to the new ones.
-    Forward,
-    Backward
-};
-
 class Executor
 {
 public:

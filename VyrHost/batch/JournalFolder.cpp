@@ -8,7 +8,9 @@
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/FolderUtils.h>
 #include <VyrPlatform/files/FileReader.h>
+#include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/files/FolderListing.h>
+#include <VyrPlatform/time/Clock.h>
 
 #include <algorithm>
 #include <array>
@@ -34,10 +36,14 @@ constexpr int digits = 6;
 constexpr std::uint64_t firstPart = 4096;
 constexpr std::uint64_t partGrowth = 4;
 
-CString NameOf(std::uint32_t number, const char16_t* ending)
+/// @param undo  0 for a batch that never was undone.
+CString NameOf(std::uint32_t number, const char16_t* ending, std::uint32_t undo = 0)
 {
     CString name;
-    name.Format(u"%06u%s", number, ending);
+    if (undo == 0)
+        name.Format(u"%06u%s", number, ending);
+    else
+        name.Format(u"%06u%s-%06u", number, ending, undo);
     return name;
 }
 
@@ -47,10 +53,9 @@ const char16_t* EndingOf(BatchPhase phase)
         ->second;
 }
 
-/// The number in front of `name`'s dot; 0 when there is none.
-std::uint32_t NumberOf(std::u16string_view name)
+/// The number that `text` is; 0 when it is none.
+std::uint32_t ParseNumber(std::u16string_view text)
 {
-    const std::u16string_view text = name.substr(0, name.find(u'.'));
     std::uint64_t number = 0;
     if (text.size() < digits || text.size() > digits + 3)
         return 0;
@@ -62,16 +67,37 @@ std::uint32_t NumberOf(std::u16string_view name)
     return static_cast<std::uint32_t>(number);
 }
 
+/// The number in front of `name`'s dot; 0 when there is none.
+std::uint32_t NumberOf(std::u16string_view name)
+{
+    return ParseNumber(name.substr(0, name.find(u'.')));
+}
+
+/// The number behind `name`'s last hyphen; 0 when there is none.
+std::uint32_t UndoOf(std::u16string_view name)
+{
+    const std::size_t hyphen = name.rfind(u'-');
+    return hyphen == name.npos ? 0 : ParseNumber(name.substr(hyphen + 1));
+}
+
 /// The journal with this name; nothing when it is no journal's.
 std::optional<JournalFile> FileOf(std::u16string_view name, const CString& path)
 {
     const std::uint32_t number = NumberOf(name);
+    const std::uint32_t undo = UndoOf(name);
     if (number == 0)
         return {};
     for (const auto& [phase, ending] : endings)
-        if (name == NameOf(number, ending))
-            return JournalFile{number, phase, path};
+        if (name == NameOf(number, ending, undo))
+            return JournalFile{number, phase, undo, path};
     return {};
+}
+
+/// The moment `days` before `now`.
+VyrPlatform::FileTicks OldestKept(VyrPlatform::FileTicks now, std::int64_t days)
+{
+    constexpr VyrPlatform::FileTicks ticksPerDay = VyrPlatform::FileTicks{24} * 60 * 60 * 10'000'000;
+    return days < now / ticksPerDay ? now - days * ticksPerDay : 0;
 }
 
 std::string ReadPart(const VyrPlatform::FileReader& reader, std::uint64_t offset, std::uint64_t count)
@@ -88,13 +114,31 @@ bool IsEnded(BatchPhase phase)
     return phase == BatchPhase::Applied || phase == BatchPhase::Undone;
 }
 
-JournalFolder::JournalFolder(FileOperations& files, const CString& path) : m_files(files), m_path(path) {}
+std::vector<VyrPlatform::FileIdentity> WayTo(const CString& path)
+{
+    std::vector<VyrPlatform::FileIdentity> way;
+    for (const CString& written : {VyrHostPlatform::GetFullPath(path), VyrHostPlatform::GetRealPath(path)}) {
+        // A link is looked at itself without a separator behind it, and followed with one; a root has one in any case.
+        for (std::u16string_view at = written; !Text::FolderPart(at).empty();
+             at = at.substr(0, Text::FolderPart(at).size() - 1))
+            for (const std::u16string_view seen : {at, Text::FolderPart(at)})
+                if (const VyrPlatform::FileState state = VyrPlatform::LookAtFile(seen); state.error == 0)
+                    way.push_back(state.identity);
+    }
+    return way;
+}
 
-CString JournalFolder::Lock()
+JournalFolder::JournalFolder(FileOperations& files, const CString& path, const JournalKeeping& keeping)
+    : m_files(files), m_path(path), m_keeping(keeping)
+{}
+
+CString JournalFolder::Lock(const LockWait& wait)
 {
     if (VyrLibraryUtils::FolderUtils::CreateFolderPathExists(m_path) == 0)
         return CString::Join({u"the folder for the journal cannot be made: ", m_path});
-    m_lock = std::make_unique<VyrHostPlatform::FileLock>(PathOf(lockName));
+    do
+        m_lock = std::make_unique<VyrHostPlatform::FileLock>(PathOf(lockName));
+    while (m_lock->IsTaken() && wait && wait());
     if (m_lock->IsHeld())
         return {};
     if (m_lock->IsTaken())
@@ -109,13 +153,7 @@ bool JournalFolder::IsLockedByAnother() const
 
 std::vector<VyrPlatform::FileIdentity> JournalFolder::Way() const
 {
-    std::vector<VyrPlatform::FileIdentity> way;
-    // As the path is written, and with its links followed.
-    for (const CString& path : {VyrHostPlatform::GetFullPath(m_path), VyrHostPlatform::GetRealPath(m_path)})
-        for (std::u16string_view at = path; !Text::FolderPart(at).empty();
-             at = at.substr(0, Text::FolderPart(at).size() - 1))
-            way.push_back(VyrPlatform::LookAtFile(at).identity);
-    return way;
+    return WayTo(m_path);
 }
 
 bool JournalFolder::Keeps(std::u16string_view name, const VyrPlatform::FileIdentity& identity) const
@@ -216,8 +254,8 @@ std::uint32_t JournalFolder::Append(const JournalFile& file, std::string_view te
 
 std::uint32_t JournalFolder::SetPhase(JournalFile& file, BatchPhase phase)
 {
-    const CString path = PathOf(NameOf(file.number, EndingOf(phase)));
-    const std::uint32_t error = phase == file.phase ? 0 : m_files.RenameFile(file.path, path);
+    const CString path = PathOf(NameOf(file.number, EndingOf(phase), file.undo));
+    const std::uint32_t error = path == file.path ? 0 : m_files.RenameFile(file.path, path);
     if (!error) {
         file.phase = phase;
         file.path = path;
@@ -232,7 +270,7 @@ std::uint32_t JournalFolder::Flush()
 
 std::uint32_t JournalFolder::Abandon(JournalFile& file)
 {
-    const CString path = PathOf(NameOf(file.number, abandonedEnding));
+    const CString path = PathOf(NameOf(file.number, abandonedEnding, file.undo));
     const std::uint32_t error = m_files.RenameFile(file.path, path);
     if (error)
         return error;
@@ -250,24 +288,30 @@ CString JournalFolder::PathOf(const CString& name) const
     return FileUtils::GetCombinePath(m_path, name);
 }
 
-/// Above every number in use, those of abandoned journals too.
+/// Above every number in use, those of undos and of abandoned journals too.
 std::uint32_t JournalFolder::NextNumber() const
 {
     std::uint32_t highest = 0;
     for (VyrPlatform::FolderListing listing(m_path); listing.Next();) {
         const std::uint32_t number = NumberOf(listing.Name());
         if (listing.Name() != NameOf(number, newEnding))
-            highest = std::max(highest, number);
+            highest = std::max({highest, number, UndoOf(listing.Name())});
     }
     return highest + 1;
 }
 
 void JournalFolder::RemoveOld()
 {
-    std::vector<JournalFile> ended = List();
-    std::erase_if(ended, [](const JournalFile& journal) { return !IsEnded(journal.phase); });
-    for (std::size_t index = 0; index + mostKept < ended.size(); ++index)
-        static_cast<void>(Remove(ended[index]));
+    const std::optional<VyrPlatform::FileTicks> now = VyrPlatform::FileTimes::FromLocal(VyrPlatform::Clock::Now());
+    const std::vector<JournalFile> journals = List();
+    for (std::size_t index = 0; index < journals.size(); ++index) {
+        const JournalFile& journal = journals[index];
+        if (!IsEnded(journal.phase))
+            continue;
+        const bool isBeyond = index + m_keeping.batches < journals.size();
+        if (isBeyond || (now && VyrPlatform::LookAtFile(journal.path).modified < OldestKept(*now, m_keeping.days)))
+            static_cast<void>(Remove(journal));
+    }
 }
 
 } // namespace VyrHost::Batch

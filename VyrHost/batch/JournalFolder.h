@@ -7,7 +7,9 @@
 
 #include <VyrHostPlatform/DurableFile.h>
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -33,21 +35,38 @@ struct JournalFile
 {
     std::uint32_t number = 0;
     BatchPhase phase = BatchPhase::Applied;
+    /// The number of the last undo of the batch, by which it is redone; 0 before the first. It stands in the file's
+    /// name, too.
+    std::uint32_t undo = 0;
     CString path;
 };
+
+/// How long the journals of batches are kept whose work has ended.
+struct JournalKeeping
+{
+    /// So many batches at most, the latest.
+    std::size_t batches = 200;
+    /// Days since the last work on the batch.
+    std::int64_t days = 90;
+};
+
+/// Called while another program holds the lock: waits, and tells whether to try again.
+using LockWait = std::function<bool()>;
+
+/// The identities of the folder at `path` and of the folders and links that its path leads through, as it is written
+/// and with its links followed.
+[[nodiscard]] std::vector<VyrPlatform::FileIdentity> WayTo(const CString& path);
 
 class JournalFolder
 {
 public:
-    /// How many journals are kept of batches whose work has ended.
-    static constexpr std::size_t mostKept = 100;
-
     /// The folder at `path`; Lock makes it when it is not there.
-    JournalFolder(FileOperations& files, const CString& path);
+    JournalFolder(FileOperations& files, const CString& path, const JournalKeeping& keeping = {});
 
-    /// Takes the lock that one program has while it works on a batch, for as long as this object lives.
+    /// Takes the lock that one program has while it works on a batch, for as long as this object lives. While another
+    /// program has it, tries again as long as `wait` says so; without `wait` it tries once.
     /// @return why that is not possible, for people; empty when it is held.
-    [[nodiscard]] CString Lock();
+    [[nodiscard]] CString Lock(const LockWait& wait = {});
     /// Whether another program holds the lock.
     [[nodiscard]] bool IsLockedByAnother() const;
 
@@ -72,12 +91,14 @@ public:
     // Under the lock.
 
     /// Gives `journal` the next number, and has it on the disk, for good, before it returns: then the work may begin.
-    /// Journals beyond mostKept are removed, the oldest first.
+    /// Removes the journals that are no longer to be kept, but none of a batch whose work has not ended.
     /// @return the system's error code, 0 when it is there.
     [[nodiscard]] std::uint32_t Begin(Journal& journal, JournalFile& file);
     /// Appends to a journal.
     [[nodiscard]] std::uint32_t Append(const JournalFile& file, std::string_view text);
-    /// Goes over to another phase.
+    /// The next number for a batch or an undo.
+    [[nodiscard]] std::uint32_t NextNumber() const;
+    /// Goes over to another phase, and takes `file.undo` into the file's name.
     [[nodiscard]] std::uint32_t SetPhase(JournalFile& file, BatchPhase phase);
     /// Waits until the phases are on the disk.
     [[nodiscard]] std::uint32_t Flush();
@@ -90,11 +111,11 @@ public:
 
 private:
     [[nodiscard]] CString PathOf(const CString& name) const;
-    [[nodiscard]] std::uint32_t NextNumber() const;
     void RemoveOld();
 
     FileOperations& m_files;
     CString m_path;
+    JournalKeeping m_keeping;
     std::unique_ptr<VyrHostPlatform::FileLock> m_lock;
 };
 

@@ -4,6 +4,7 @@
 #include <VyrHost/batch/Checksum.h>
 #include <VyrHost/batch/JournalName.h>
 #include <VyrHost/model/PlanCheck.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <algorithm>
 #include <array>
@@ -20,7 +21,9 @@ using VyrPlatform::FileState;
 using VyrPlatform::FileSystem::Kind;
 
 constexpr std::string_view format = "vyr-journal";
-constexpr std::uint32_t version = 2;
+constexpr std::uint32_t version = 3;
+constexpr std::uint32_t versionWithoutKinds = 2;
+constexpr std::string_view renameKind = "rename";
 constexpr char noneText = '-';
 constexpr std::size_t checkLength = 8;
 /// Fields, in a line of steps.
@@ -29,7 +32,7 @@ constexpr std::size_t stepsInLine = 1000;
 constexpr std::size_t pieceLength = std::size_t{1} << 16;
 constexpr std::array<std::pair<bool, char>, 2> directions{{{false, 'f'}, {true, 'b'}}};
 constexpr std::array<std::pair<bool, char>, 2> ends{{{false, 'e'}, {true, 's'}}};
-constexpr std::array<std::pair<Kind, char>, 4> kinds{
+constexpr std::array<std::pair<Kind, char>, 4> fileKinds{
     {{Kind::File, 'f'}, {Kind::Folder, 'd'}, {Kind::Other, 'o'}, {Kind::Missing, noneText}}};
 constexpr std::array<std::pair<Model::PlanStep::Action, char>, 3> actions{
     {{Model::PlanStep::Action::MakeFolder, 'm'},
@@ -164,7 +167,8 @@ void WriteHeading(LineWriter& writer, const Journal& journal)
     const JournalHeading& heading = journal.heading;
     writer.Word(format).Number(version).End();
     writer.Word("batch").Number(heading.number).Number(heading.token).Name(heading.started);
-    writer.Number(journal.plan.folders.size()).Number(journal.plan.entries.size());
+    writer.Name(heading.command).Name(heading.folder);
+    writer.Number(journal.plan.folders.size()).Number(journal.plan.entries.size()).Number(journal.changes.size());
     writer.Number(journal.plan.steps.size()).Name(heading.firstFrom).Name(heading.firstTo).Check();
     writer.End();
 }
@@ -176,10 +180,16 @@ void WriteFolder(LineWriter& writer, const Model::PlanFolder& folder)
 
 void WriteEntry(LineWriter& writer, const Model::PlanEntry& entry, const FileState& state)
 {
-    writer.Word("entry").Letter(LetterOf(kinds, state.kind));
+    writer.Word(renameKind).Letter(LetterOf(fileKinds, state.kind));
     writer.Number(state.identity.device).Number(state.identity.number).Number(state.size).Number(state.modified);
     writer.Number(state.links).Index(entry.from.folder).Name(entry.from.name);
     writer.Index(entry.to.folder).Name(entry.to.name).Index(entry.folder).Index(entry.waitsFor).End();
+}
+
+void WriteChange(LineWriter& writer, const PlannedChange& planned)
+{
+    writer.Word(planned.change->Kind()).Index(planned.place.folder).Name(planned.place.name);
+    writer.Name(planned.change->Before()).Name(planned.change->After()).End();
 }
 
 /// Steps of one kind whose subjects follow each other stand together.
@@ -203,7 +213,7 @@ void WriteSteps(LineWriter& writer, const std::vector<Model::PlanStep>& steps)
 struct Damage
 {
     std::size_t line;
-    const char16_t* what;
+    CString what;
 };
 
 /// Hands out lines field by field.
@@ -214,6 +224,14 @@ public:
 
     /// Goes to the next line, whose first field must be `word`.
     void Next(std::string_view word) { Begin(TakeLine(), word); }
+    /// Goes to the next line.
+    /// @return its first field.
+    std::string_view Next()
+    {
+        m_fields = TakeLine();
+        m_isAtEnd = false;
+        return Word();
+    }
     /// Goes to the next line, whose check, the last field, must be right.
     void NextChecked(std::string_view word)
     {
@@ -312,7 +330,7 @@ public:
             Fail(u"it has too many fields");
     }
     [[nodiscard]] std::uint32_t Check() const { return m_check; }
-    [[noreturn]] void Fail(const char16_t* what) const { throw Damage{m_line, what}; }
+    [[noreturn]] void Fail(const CString& what) const { throw Damage{m_line, what}; }
 
 private:
     void Begin(std::string_view content, std::string_view word)
@@ -399,24 +417,35 @@ struct Counts
 {
     std::size_t folders = 0;
     std::size_t entries = 0;
+    std::size_t changes = 0;
     std::size_t steps = 0;
+    /// The version has kinds of changes.
+    bool hasKinds = true;
 };
 
 JournalHeading ReadHeadingLines(LineReader& reader, Counts& counts)
 {
     reader.Next(format);
-    if (reader.Number<std::uint32_t>() != version)
+    const auto found = reader.Number<std::uint32_t>();
+    if (found != version && found != versionWithoutKinds)
         reader.Fail(u"it is of a version that this program does not know");
+    counts.hasKinds = found != versionWithoutKinds;
     reader.End();
     reader.NextChecked("batch");
     JournalHeading heading;
     heading.number = reader.Number<std::uint32_t>();
     heading.token = reader.Number<std::uint64_t>();
     heading.started = reader.Name();
+    if (counts.hasKinds) {
+        heading.command = reader.Name();
+        heading.folder = reader.Name();
+    }
     counts.folders = reader.Number<Model::PlanIndex>();
     counts.entries = reader.Number<Model::PlanIndex>();
+    if (counts.hasKinds)
+        counts.changes = reader.Number<Model::PlanIndex>();
     counts.steps = reader.Number<Model::PlanIndex>();
-    heading.entries = counts.entries;
+    heading.entries = counts.entries + counts.changes;
     heading.firstFrom = reader.Name();
     heading.firstTo = reader.Name();
     reader.End();
@@ -435,11 +464,11 @@ Model::PlanFolder ReadFolder(LineReader& reader, Model::NamePool& texts)
     return folder;
 }
 
-Model::PlanEntry ReadEntry(LineReader& reader, Model::NamePool& texts, FileState& state)
+Model::PlanEntry ReadEntry(LineReader& reader, bool hasKinds, Model::NamePool& texts, FileState& state)
 {
-    reader.Next("entry");
+    reader.Next(hasKinds ? renameKind : "entry");
     Model::PlanEntry entry;
-    state.kind = reader.Letter(kinds);
+    state.kind = reader.Letter(fileKinds);
     entry.kind = state.kind;
     state.identity.device = reader.Number<std::uint64_t>();
     state.identity.number = reader.Number<std::uint64_t>();
@@ -456,6 +485,25 @@ Model::PlanEntry ReadEntry(LineReader& reader, Model::NamePool& texts, FileState
     return entry;
 }
 
+PlannedChange ReadChange(LineReader& reader, const Model::RenamePlan& plan, const ChangeKinds& kinds)
+{
+    const std::string_view kind = reader.Next();
+    const auto known = kinds.find(kind);
+    if (known == kinds.end())
+        reader.Fail(CString::Join(
+            {u"it holds a kind of change that this program does not know: ", VyrPlatform::Encoding::FromUtf8(kind)}));
+    PlannedChange planned;
+    planned.place.folder = reader.Index();
+    planned.place.name = plan.texts->Intern(reader.Name());
+    const CString before = reader.Name();
+    const CString after = reader.Name();
+    reader.End();
+    planned.change = known->second(before, after);
+    if (!planned.change || !Model::IsPlaceSound(plan, planned.place))
+        reader.Fail(u"a change is not as it can be");
+    return planned;
+}
+
 void LinkFolders(LineReader& reader, Model::RenamePlan& plan)
 {
     for (Model::PlanIndex entry = 0; entry < plan.entries.size(); ++entry) {
@@ -468,14 +516,16 @@ void LinkFolders(LineReader& reader, Model::RenamePlan& plan)
     }
 }
 
-void ReadPlan(LineReader& reader, const Counts& counts, Journal& journal)
+void ReadPlan(LineReader& reader, const Counts& counts, const ChangeKinds& kinds, Journal& journal)
 {
     // The counts may be anything: room is made as lines come.
     Model::NamePool& texts = *journal.plan.texts;
     while (journal.plan.folders.size() < counts.folders)
         journal.plan.folders.push_back(ReadFolder(reader, texts));
     while (journal.plan.entries.size() < counts.entries)
-        journal.plan.entries.push_back(ReadEntry(reader, texts, journal.states.emplace_back()));
+        journal.plan.entries.push_back(ReadEntry(reader, counts.hasKinds, texts, journal.states.emplace_back()));
+    while (journal.changes.size() < counts.changes)
+        journal.changes.push_back(ReadChange(reader, journal.plan, kinds));
     // No entry has more steps than two, no folder more than one.
     if (counts.steps > 2 * counts.entries + counts.folders)
         reader.Fail(u"there are too many steps");
@@ -489,30 +539,44 @@ void ReadPlan(LineReader& reader, const Counts& counts, Journal& journal)
     LinkFolders(reader, journal.plan);
 }
 
-/// The last whole checkpoint, read by `read`. Those before it are not: each could name all entries.
-template <class Read>
-auto ReadCheckpoints(LineReader& reader, std::uint32_t check, Read read)
+/// The last whole checkpoints. Those before them are not read: each could name all entries.
+struct LastCheckpoints
 {
     std::optional<LineReader> last;
-    while (reader.HasMore())
-        if (reader.NextMark(check))
-            last = reader;
-    std::optional<decltype(read(reader))> checkpoint;
-    if (last) {
-        checkpoint = read(*last);
-        last->End();
+    /// The last that is not of an undo.
+    std::optional<LineReader> forward;
+};
+
+LastCheckpoints FindLastCheckpoints(LineReader& reader, std::uint32_t check)
+{
+    LastCheckpoints found;
+    while (reader.HasMore()) {
+        if (!reader.NextMark(check))
+            continue;
+        found.last = reader;
+        if (!LineReader(reader).Letter(directions))
+            found.forward = reader;
     }
-    return checkpoint;
+    return found;
 }
 
-Checkpoint ReadCheckpoint(LineReader& reader, const Model::RenamePlan& plan)
+/// The checkpoint that `reader` stands at.
+std::optional<Checkpoint> ReadCheckpoint(std::optional<LineReader> reader, const Journal& journal)
 {
+    if (!reader)
+        return {};
     Checkpoint checkpoint;
-    checkpoint.isBackward = reader.Letter(directions);
-    checkpoint.wasStopped = reader.Letter(ends);
-    checkpoint.entriesBefore = reader.Ranges(plan.entries.size());
-    checkpoint.entriesTemporary = reader.Ranges(plan.entries.size());
-    checkpoint.foldersMade = reader.Ranges(plan.folders.size());
+    checkpoint.isBackward = reader->Letter(directions);
+    checkpoint.wasStopped = reader->Letter(ends);
+    checkpoint.entriesBefore = reader->Ranges(journal.plan.entries.size());
+    checkpoint.entriesTemporary = reader->Ranges(journal.plan.entries.size());
+    checkpoint.foldersMade = reader->Ranges(journal.plan.folders.size());
+    if (reader->HasMoreFields()) {
+        checkpoint.changesBefore = reader->Ranges(journal.changes.size());
+        if (checkpoint.changesBefore.empty())
+            reader->Fail(u"it has too many fields");
+    }
+    reader->End();
     return checkpoint;
 }
 
@@ -523,9 +587,12 @@ CheckpointOutline ReadCheckpointOutline(LineReader& reader, std::size_t entries)
     checkpoint.wasStopped = reader.Letter(ends);
     checkpoint.entriesBefore = reader.CountOfRanges(entries);
     checkpoint.entriesTemporary = reader.CountOfRanges(entries);
-    if (checkpoint.entriesTemporary > entries - checkpoint.entriesBefore)
-        reader.Fail(u"an entry stands at two places");
     reader.CountOfRanges(Model::none);
+    if (reader.HasMoreFields())
+        checkpoint.entriesBefore += reader.CountOfRanges(entries);
+    if (checkpoint.entriesBefore > entries || checkpoint.entriesTemporary > entries - checkpoint.entriesBefore)
+        reader.Fail(u"an entry stands at two places");
+    reader.End();
     return checkpoint;
 }
 
@@ -546,6 +613,8 @@ std::uint32_t WriteJournal(const Journal& journal, const TakePiece& use)
         WriteFolder(writer, folder);
     for (std::size_t entry = 0; entry < journal.plan.entries.size(); ++entry)
         WriteEntry(writer, journal.plan.entries[entry], journal.states[entry]);
+    for (const PlannedChange& planned : journal.changes)
+        WriteChange(writer, planned);
     WriteSteps(writer, journal.plan.steps);
     const std::uint32_t check = writer.Word("end").Check();
     writer.End();
@@ -564,26 +633,30 @@ std::string WriteCheckpoint(const Checkpoint& checkpoint, std::uint32_t check)
     writer.Word("mark")
         .Letter(LetterOf(directions, checkpoint.isBackward))
         .Letter(LetterOf(ends, checkpoint.wasStopped));
-    writer.Ranges(checkpoint.entriesBefore).Ranges(checkpoint.entriesTemporary).Ranges(checkpoint.foldersMade).Check();
+    writer.Ranges(checkpoint.entriesBefore).Ranges(checkpoint.entriesTemporary).Ranges(checkpoint.foldersMade);
+    if (!checkpoint.changesBefore.empty())
+        writer.Ranges(checkpoint.changesBefore);
+    writer.Check();
     writer.End();
     writer.HandOn();
     return text;
 }
 
-std::optional<Journal> ReadJournal(std::string_view text, CString& problem)
+std::optional<Journal> ReadJournal(std::string_view text, CString& problem, const ChangeKinds& kinds)
 {
     try {
         LineReader reader(text);
         Journal journal;
         Counts counts;
         journal.heading = ReadHeadingLines(reader, counts);
-        ReadPlan(reader, counts, journal);
+        ReadPlan(reader, counts, kinds, journal);
         journal.check = reader.Check();
         problem = Model::FindPlanFault(journal.plan);
         if (!problem.IsEmpty())
             return {};
-        journal.checkpoint = ReadCheckpoints(
-            reader, journal.check, [&journal](LineReader& last) { return ReadCheckpoint(last, journal.plan); });
+        const LastCheckpoints checkpoints = FindLastCheckpoints(reader, journal.check);
+        journal.checkpoint = ReadCheckpoint(checkpoints.last, journal);
+        journal.applied = ReadCheckpoint(checkpoints.forward, journal);
         return journal;
     } catch (const Damage& damage) {
         problem = Describe(damage);
@@ -619,8 +692,8 @@ std::optional<CheckpointOutline> ReadLastCheckpoint(std::string_view checkpoints
     try {
         LineReader reader(checkpoints);
         const std::uint32_t check = reader.Skip();
-        return ReadCheckpoints(reader, check,
-                               [entries](LineReader& last) { return ReadCheckpointOutline(last, entries); });
+        std::optional<LineReader> last = FindLastCheckpoints(reader, check).last;
+        return last ? ReadCheckpointOutline(*last, entries) : std::optional<CheckpointOutline>();
     } catch (const Damage&) {
         return {};
     }

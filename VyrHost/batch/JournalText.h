@@ -3,22 +3,31 @@
 ///
 /// The text is UTF-8, a line for each record, its fields separated by tabs:
 ///
-///     vyr-journal  2
-///     batch        number  token  started  folders  entries  steps  first path  its new path  check
+///     vyr-journal  3
+///     batch        number  token  started  command  folder  folders  renames  changes  steps  first path
+///                  its new path or value  check
 ///     folder       parent  n(ew) or o(ld)  name
-///     entry        kind  device  number  size  modified  links  folder  name  new folder  new name  itself  waits for
+///     rename       kind  device  number  size  modified  links  folder  name  new folder  new name  itself  waits for
+///     KIND         folder  name  before  after
 ///     steps        m(ake), a(side) or r(ename) with the number of the folder or entry, in order;
 ///                  r3-7 stands for r3, r4 and so on to r7
 ///     end          check
 ///     mark         f(orward) or b(ackward)  e(nded) or s(topped)  entries that stand at their old paths
-///                  entries under temporary names  folders that the batch has made  check
+///                  entries under temporary names  folders that the batch has made  changes that are not done  check
 ///
-/// Numbers are decimal; folders and entries are numbered from 0 in the order of their lines, "-" stands for none. A
-/// check is the CRC-32, in eight hexadecimal digits, of all the text before its tab; of a checkpoint, of its own line
-/// alone, started from the check of "end". A checkpoint is appended, behind an empty line, whenever work on the batch
-/// has ended; the last whole one counts.
+/// A change other than a rename has the name of its kind as its first word, and a before and after that only its kind
+/// can read (batch/Change.h). The last field of a mark is missing where all changes are done.
+///
+/// Version 2 had "entry" for "rename", no changes, and in its heading neither the command nor the folder nor the number
+/// of changes. It is still read, and marks are appended to it.
+///
+/// Numbers are decimal; folders, entries and changes are numbered from 0 in the order of their lines, "-" stands for
+/// none. A check is the CRC-32, in eight hexadecimal digits, of all the text before its tab; of a checkpoint, of its
+/// own line alone, started from the check of "end". A checkpoint is appended, behind an empty line, whenever work on
+/// the batch has ended; the last whole one counts.
 #pragma once
 
+#include <VyrHost/batch/Change.h>
 #include <VyrHost/model/RenamePlan.h>
 
 #include <VyrHostPlatform/DurableFile.h>
@@ -39,6 +48,12 @@ struct JournalHeading
     std::uint64_t token = 0;
     /// Local time as yyyy/MM/dd HH:mm:ss.
     CString started;
+    /// The command that made it, such as "rename"; empty in a journal of version 2.
+    CString command;
+    /// The folder that all of it lies in, before the batch and after it; empty where there is none, and in a journal of
+    /// version 2.
+    CString folder;
+    /// Renames, and changes of other kinds.
     std::size_t entries = 0;
     CString firstFrom;
     CString firstTo;
@@ -55,6 +70,7 @@ struct Checkpoint
     std::vector<Model::PlanIndex> entriesBefore;
     std::vector<Model::PlanIndex> entriesTemporary;
     std::vector<Model::PlanIndex> foldersMade;
+    std::vector<Model::PlanIndex> changesBefore;
 };
 
 /// What a checkpoint says, in numbers.
@@ -62,8 +78,16 @@ struct CheckpointOutline
 {
     bool isBackward = false;
     bool wasStopped = false;
+    /// With the changes that are not done.
     std::size_t entriesBefore = 0;
     std::size_t entriesTemporary = 0;
+};
+
+/// A change that is no rename, and the file it is done to: its place before the batch.
+struct PlannedChange
+{
+    Model::Place place;
+    std::shared_ptr<const Change> change;
 };
 
 struct Journal
@@ -72,7 +96,12 @@ struct Journal
     Model::RenamePlan plan;
     /// For each entry what stood at its old path before the batch; Missing where nothing did.
     std::vector<VyrPlatform::FileState> states;
+    /// The changes of other kinds.
+    std::vector<PlannedChange> changes;
+    /// The last one.
     std::optional<Checkpoint> checkpoint;
+    /// The last one that is not of an undo: what the batch did. A redo does that again.
+    std::optional<Checkpoint> applied;
     /// The check of all lines up to "end"; checkpoints start from it.
     std::uint32_t check = 0;
 };
@@ -85,8 +114,11 @@ std::uint32_t WriteJournal(const Journal& journal, const VyrHostPlatform::Durabl
 
 /// Reads a journal that may be anything: what it gives is a plan that can be worked with, every index in it in range,
 /// every name a single part of a path.
-/// @return nothing, with `problem` saying why and where, when it is damaged.
-[[nodiscard]] std::optional<Journal> ReadJournal(std::string_view text, CString& problem);
+/// @param kinds  the kinds of change that are known besides the rename.
+/// @return nothing, with `problem` saying why and where, when it is damaged, or of a version or with a kind of change
+/// that is not known.
+[[nodiscard]] std::optional<Journal> ReadJournal(std::string_view text, CString& problem,
+                                                 const ChangeKinds& kinds = {});
 /// Whether the first part of a journal reaches to the end of the heading.
 [[nodiscard]] bool HasHeading(std::string_view text);
 /// The heading alone, from the first part of a journal.

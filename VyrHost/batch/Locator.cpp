@@ -40,7 +40,7 @@ void Locator::TrustCheckpoint()
     }
 }
 
-void Locator::Locate(bool wasCutOff)
+void Locator::Locate(LastWork lastWork)
 {
     // Folders first, from the outside in, since the rest is looked for in them.
     for (const Model::PlanIndex folder : Model::OrderFolders(m_journal.plan)) {
@@ -48,12 +48,12 @@ void Locator::Locate(bool wasCutOff)
         if (planned.isNew)
             LocateNewFolder(folder);
         else if (planned.entry != Model::none)
-            LocateEntry(planned.entry, wasCutOff);
+            LocateEntry(planned.entry, lastWork);
     }
     // In the order of the steps a place has been left before another entry is looked for there.
     for (const Model::PlanStep& step : m_journal.plan.steps)
         if (step.action == Action::Rename && m_journal.plan.entries[step.subject].folder == Model::none)
-            LocateEntry(step.subject, wasCutOff);
+            LocateEntry(step.subject, lastWork);
 }
 
 void Locator::LocateNewFolder(Model::PlanIndex folder)
@@ -62,7 +62,7 @@ void Locator::LocateNewFolder(Model::PlanIndex folder)
         m_progress.SetFolder(folder, m_isMade[folder] ? NewFolder::Made : NewFolder::Found);
 }
 
-void Locator::LocateEntry(Model::PlanIndex entry, bool wasCutOff)
+void Locator::LocateEntry(Model::PlanIndex entry, LastWork lastWork)
 {
     if (m_isKept[entry])
         return;
@@ -78,9 +78,9 @@ void Locator::LocateEntry(Model::PlanIndex entry, bool wasCutOff)
     }
     const Sight before = LookAt(entry, Location::Before);
     const Sight after = isOneSlot ? Sight() : LookAt(entry, Location::After);
-    const Sight chosen = aside.likeness != Likeness::None ? aside : Choose(before, after, wasCutOff);
+    const Sight chosen = aside.likeness != Likeness::None ? aside : Choose(before, after, lastWork);
     for (const Sight& other : {before, aside, after})
-        if (wasCutOff && IsHalfRenamed(entry, chosen, other) && !EndHalfRename(entry, chosen, other))
+        if (lastWork == LastWork::CutOff && IsHalfRenamed(entry, chosen, other) && !EndHalfRename(entry, chosen, other))
             return;
     Settle(entry, chosen);
 }
@@ -128,11 +128,12 @@ Locator::Likeness Locator::Compare(Model::PlanIndex entry, const FileState& stat
 }
 
 /// The likelier of the two; where both are equally likely, the new path, if that may be.
-Locator::Sight Locator::Choose(const Sight& before, const Sight& after, bool wasCutOff)
+Locator::Sight Locator::Choose(const Sight& before, const Sight& after, LastWork lastWork)
 {
     if (before.likeness > after.likeness)
         return before;
-    const bool isClear = after.likeness > before.likeness || after.likeness == Likeness::All || !wasCutOff;
+    const bool isClear =
+        after.likeness > before.likeness || after.likeness == Likeness::All || lastWork == LastWork::Applied;
     if (isClear && after.likeness != Likeness::None)
         return after;
     Sight unknown;

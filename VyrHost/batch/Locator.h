@@ -13,6 +13,17 @@
 
 namespace VyrHost::Batch {
 
+/// What was last done with a batch.
+enum class LastWork : std::uint8_t
+{
+    /// An entry that could be either stands at its new path.
+    Applied,
+    /// Where an entry could be either, it is not known where it stands.
+    Undone,
+    /// The same, and a rename may be half done.
+    CutOff
+};
+
 /// Looks for every entry at its old, its temporary and its new path, and tells it by its number in the file system, its
 /// size and its time; where those have changed (another mount, a program that replaces files when it saves), by what
 /// stands at one of the paths alone.
@@ -26,9 +37,7 @@ public:
     /// them.
     void TrustCheckpoint();
     /// Finds the entries that are not kept, and the new folders.
-    /// @param wasCutOff the batch may have been cut off at any point. Otherwise an entry that could be either stands at
-    ///     its new path.
-    void Locate(bool wasCutOff);
+    void Locate(LastWork lastWork);
 
     [[nodiscard]] bool IsKept(Model::PlanIndex entry) const { return m_isKept[entry]; }
     /// Whether the file was written to, or replaced by another, since the batch.
@@ -56,11 +65,11 @@ private:
     };
 
     void LocateNewFolder(Model::PlanIndex folder);
-    void LocateEntry(Model::PlanIndex entry, bool wasCutOff);
+    void LocateEntry(Model::PlanIndex entry, LastWork lastWork);
     void LocateByName(Model::PlanIndex entry);
     [[nodiscard]] Sight LookAt(Model::PlanIndex entry, Location location);
     [[nodiscard]] Likeness Compare(Model::PlanIndex entry, const VyrPlatform::FileState& state) const;
-    [[nodiscard]] static Sight Choose(const Sight& before, const Sight& after, bool wasCutOff);
+    [[nodiscard]] static Sight Choose(const Sight& before, const Sight& after, LastWork lastWork);
     [[nodiscard]] bool IsHalfRenamed(Model::PlanIndex entry, const Sight& kept, const Sight& left) const;
     [[nodiscard]] bool EndHalfRename(Model::PlanIndex entry, const Sight& kept, const Sight& left);
     void Settle(Model::PlanIndex entry, const Sight& sight);

@@ -10,6 +10,14 @@
 
 namespace VyrHost::Batch {
 
+/// Which way a batch is worked on.
+enum class Direction : std::uint8_t
+{
+    /// From what was before it to what it makes.
+    Forward,
+    Backward
+};
+
 enum class Location : std::uint8_t
 {
     /// At its old path.

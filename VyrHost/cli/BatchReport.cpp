@@ -48,7 +48,7 @@ int BatchReport::Write(const Batch::BatchSummary& summary)
         Ui::WriteEntryTable(output, m_entries, m_style.direction);
         if (!m_style.quiet && !WasBlocked(summary))
             output << (summary.number != 0 ? "Batch " + std::to_string(summary.number) + ": " : "")
-                   << Ui::SummaryOf(summary);
+                   << Ui::SummaryOf(summary) << Ending(summary);
     }
     output.Flush();
     if (summary.wasStopped)
@@ -56,6 +56,15 @@ int BatchReport::Write(const Batch::BatchSummary& summary)
                  std::to_string(summary.number) +
                  (m_style.direction == Ui::BatchDirection::Back ? "\" goes on" : "\" takes back what was done"));
     return Finish(output, JudgeSummary(summary));
+}
+
+std::string BatchReport::Ending(const Batch::BatchSummary& summary) const
+{
+    if (m_style.isPreview)
+        return "This is a preview: nothing was changed.\n";
+    if (m_style.direction == Batch::Direction::Backward && summary.undo != 0 && summary.done > 0)
+        return "\"vyr undo " + std::to_string(summary.undo) + "\" redoes it.\n";
+    return {};
 }
 
 int JudgeSummary(const Batch::BatchSummary& summary)

@@ -6,6 +6,7 @@
 #include <VyrHost/ui/BatchOutput.h>
 #include <VyrHost/ui/Progress.h>
 
+#include <string>
 #include <vector>
 
 namespace VyrHost::Cli {
@@ -13,10 +14,12 @@ namespace VyrHost::Cli {
 /// How the user wants to read it.
 struct BatchReportStyle
 {
-    Ui::BatchDirection direction = Ui::BatchDirection::Back;
+    Batch::Direction direction = Batch::Direction::Backward;
     bool json = false;
     /// Only what was not done.
     bool quiet = false;
+    /// What is shown was not done.
+    bool isPreview = false;
 };
 
 class BatchReport
@@ -31,6 +34,8 @@ public:
     [[nodiscard]] int Write(const Batch::BatchSummary& summary);
 
 private:
+    [[nodiscard]] std::string Ending(const Batch::BatchSummary& summary) const;
+
     const BatchReportStyle m_style;
     Ui::Progress m_progress;
     std::vector<Batch::BatchEntry> m_entries;

@@ -37,7 +37,7 @@ constexpr Example OfMove[] = {
 
 constexpr Example OfUndo[] = {
     {"vyr undo --list", "the batches with their numbers"},
-    {"vyr undo", "undo the latest batch"},
+    {"vyr undo", "undo the latest batch of this folder"},
     {"vyr undo 1 --quiet", "undo batch 1, and show only what stays renamed"},
 };
 

@@ -5,6 +5,10 @@
 #include <VyrHost/text/ErrorText.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHostPlatform/Console.h>
+#include <VyrHostPlatform/Interrupt.h>
+
+#include <chrono>
+#include <thread>
 
 namespace VyrHost::Cli {
 
@@ -34,6 +38,21 @@ void OfferRecovery()
 {
     if (const auto cutOff = Batch::Batches().FindCutOff())
         Complain(CutOffNotice(*cutOff));
+}
+
+Batch::LockWait WaitTenSeconds()
+{
+    return [waits = 0]() mutable {
+        constexpr std::chrono::milliseconds pause(100);
+        constexpr int mostWaits = 100;
+        if (waits == 0)
+            Complain("another vyr is at work; waiting up to ten seconds for its end");
+        if (waits == mostWaits || VyrHostPlatform::Interrupt::WasAsked())
+            return false;
+        ++waits;
+        std::this_thread::sleep_for(pause);
+        return true;
+    };
 }
 
 } // namespace VyrHost::Cli

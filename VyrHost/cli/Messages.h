@@ -23,4 +23,7 @@ void Complain(const std::string& what);
 /// command finds on the disk may be half of the batch.
 void OfferRecovery();
 
+/// What a command does while another vyr is at work: says so once, and waits up to ten seconds, or until Ctrl-C.
+[[nodiscard]] Batch::LockWait WaitTenSeconds();
+
 } // namespace VyrHost::Cli

@@ -38,7 +38,7 @@ int RecoverCommand::Run() const
     constexpr ExclusivePair Exclusive[] = {{"--abandon", "--take-back"},
                                            {"--abandon", "--json", "--abandon does nothing to the entries"}};
     CheckOptionPairs(m_command, Exclusive);
-    Batch::Batches batches;
+    Batch::Batches batches(WaitTenSeconds());
     const auto cutOff = batches.FindCutOff();
     if (!cutOff) {
         Ui::OutputBuffer output;
@@ -50,8 +50,8 @@ int RecoverCommand::Run() const
         return Abandon();
     VyrHostPlatform::Interrupt::Catch();
     const Batch::Recovery recovery = m_takeBack ? Batch::Recovery::Undo : Batch::Recovery::Finish;
-    const Ui::BatchDirection direction =
-        Batch::DoesRenames(recovery, cutOff->state) ? Ui::BatchDirection::Forward : Ui::BatchDirection::Back;
+    const Batch::Direction direction =
+        Batch::DoesRenames(recovery, cutOff->state) ? Batch::Direction::Forward : Batch::Direction::Backward;
     BatchReport report("recovering", cutOff->entries, {direction, m_json, m_quiet});
     const Batch::BatchSummary summary =
         batches.Recover(recovery, report.Collector(), VyrHostPlatform::Interrupt::WasAsked);
@@ -60,7 +60,7 @@ int RecoverCommand::Run() const
 
 int RecoverCommand::Abandon() const
 {
-    const Batch::AbandonedJournal journal = Batch::Batches().AbandonCutOff();
+    const Batch::AbandonedJournal journal = Batch::Batches(WaitTenSeconds()).AbandonCutOff();
     if (!journal.error.IsEmpty()) {
         Complain(Text::SafeText(journal.error));
         return ExitCode::Blocked;

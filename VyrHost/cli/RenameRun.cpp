@@ -168,7 +168,7 @@ private:
         const std::size_t count = m_preview.entries.size();
         if (count == 0)
             return ExitCode::Success;
-        Batch::Batches batches;
+        Batch::Batches batches(WaitTenSeconds());
         if (const auto cutOff = batches.FindCutOff()) {
             Complain(CutOffNotice(*cutOff) + "; nothing was done");
             return ExitCode::Blocked;

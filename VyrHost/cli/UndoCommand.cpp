@@ -9,39 +9,102 @@
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/OptionPairs.h>
 #include <VyrHost/rename/RuleTexts.h>
+#include <VyrHost/text/SafeText.h>
 #include <VyrHost/ui/BatchOutput.h>
 #include <VyrHost/ui/OutputBuffer.h>
+#include <VyrHostPlatform/Console.h>
 #include <VyrHostPlatform/Interrupt.h>
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <memory>
+#include <string>
 #include <vector>
 
 namespace VyrHost::Cli {
 
 namespace {
 
-/// How many entries the batch `number`, or the latest that is not undone, has to undo.
-std::size_t CountEntries(const std::vector<Batch::BatchInformation>& batches, std::optional<std::uint32_t> number)
+/// How many batches elsewhere are named.
+constexpr std::size_t mostNamed = 5;
+
+/// Undoes or redoes a batch, or shows what that would do.
+class Reversal
 {
-    const auto found = std::find_if(batches.begin(), batches.end(), [number](const Batch::BatchInformation& batch) {
-        return number ? batch.number == *number : Batch::CanBeUndone(batch.state);
-    });
-    return found == batches.end() ? 0 : found->renamed.value_or(found->entries);
+public:
+    explicit Reversal(BatchReportStyle style) : m_style(style), m_batches(WaitTenSeconds()) {}
+
+    /// Names `batch` and works on it.
+    /// @param number  its own, or that of its undo for a redo.
+    Batch::BatchSummary Run(const Batch::BatchInformation& batch, std::uint32_t number)
+    {
+        Announce(batch);
+        const bool isUndo = m_style.direction == Batch::Direction::Backward;
+        const char* const what = isUndo ? "undoing" : "redoing";
+        m_report = std::make_unique<BatchReport>(what, batch.renamed.value_or(batch.entries), m_style);
+        const Batch::BatchEntryReport collector = m_report->Collector();
+        if (m_style.isPreview)
+            return isUndo ? m_batches.PreviewUndo(number, collector) : m_batches.PreviewRedo(number, collector);
+        const auto isStopAsked = VyrHostPlatform::Interrupt::WasAsked;
+        return isUndo ? m_batches.Undo(number, collector, isStopAsked) : m_batches.Redo(number, collector, isStopAsked);
+    }
+
+    /// @return the exit code.
+    int Write(const Batch::BatchSummary& summary) { return m_report->Write(summary); }
+
+private:
+    void Announce(const Batch::BatchInformation& batch) const
+    {
+        const bool isUndo = m_style.direction == Batch::Direction::Backward;
+        const std::string line = (isUndo ? "Undoing " : "Redoing ") + Text::SafeText(Ui::NameOf(batch)) + ".\n";
+        if (!m_style.quiet)
+            VyrHostPlatform::Console::Write(m_style.json ? VyrHostPlatform::Console::Stream::Error
+                                                         : VyrHostPlatform::Console::Stream::Output,
+                                            line);
+    }
+
+    const BatchReportStyle m_style;
+    Batch::Batches m_batches;
+    std::unique_ptr<BatchReport> m_report;
+};
+
+/// Says why a batch was passed over, and what can be done about it.
+void NamePassedOver(const Batch::BatchInformation& batch, const Batch::BatchSummary& summary)
+{
+    const std::string number = std::to_string(batch.number);
+    const std::string way = summary.obstacle == Batch::Obstacle::FilesGone
+                                ? "once they are back, \"vyr undo " + number + "\" undoes it"
+                                : "an intact copy of it can be undone, or it can be deleted";
+    Complain(Text::SafeText(Ui::NameOf(batch)) + " is passed over: " + Text::SafeText(summary.error) + "; " + way);
+}
+
+int NameBatchesElsewhere(const std::vector<Batch::BatchInformation>& batches)
+{
+    if (batches.empty()) {
+        Complain("there is no batch to undo");
+        return ExitCode::Blocked;
+    }
+    Complain("no batch to undo lies in this folder or below; \"vyr undo NUMBER\" undoes one of the latest elsewhere:");
+    for (std::size_t index = 0; index < std::min(mostNamed, batches.size()); ++index)
+        Complain(Text::SafeText(Ui::NameOf(batches[index])));
+    return ExitCode::Blocked;
 }
 
 } // namespace
 
 UndoCommand::UndoCommand(CLI::App& program)
-    : m_command(*program.add_subcommand("undo", "Take the last batch of renames back"))
+    : m_command(*program.add_subcommand("undo", "Undo a batch, the latest of this folder when no number is given"))
 {
     m_command
         .add_option_function<std::string>(
             "BATCH", [this](const std::string& text) { m_batch = text; },
-            "The number of a batch; the latest that is not undone when not given")
+            "The number of a batch, or of an undo, which is redone; without it the latest batch that lies in the "
+            "current "
+            "folder or below and is not undone")
         ->type_name("");
     m_command.add_flag("--list", m_list, "List the batches instead, the latest first");
+    m_command.add_flag("--preview", m_preview, "Show what would be undone, and change nothing");
     m_command.add_flag("--json", m_json, "Write one JSON object a line");
     m_command.add_flag("-q,--quiet", m_quiet, "Show only what is not undone");
     m_command.footer(UndoExamples() + "\n" + ExitCode::Table);
@@ -55,26 +118,56 @@ bool UndoCommand::IsChosen() const
 int UndoCommand::Run() const
 {
     constexpr ExclusivePair Exclusive[] = {{"--list", "BATCH", "--list lists every batch"},
+                                           {"--list", "--preview", "--list lists every batch"},
                                            {"--list", "--quiet", "--list lists every batch"}};
     CheckOptionPairs(m_command, Exclusive);
     std::optional<std::uint32_t> number;
     if (m_batch)
         number = static_cast<std::uint32_t>(Rename::ParseNumber(FromParser(*m_batch), 1, "BATCH"));
-    Batch::Batches batches;
-    const std::vector<Batch::BatchInformation> known = batches.List();
-    if (m_list) {
-        Ui::OutputBuffer output;
-        m_json ? Ui::WriteBatchJson(output, known) : Ui::WriteBatchLines(output, known);
-        return Finish(output, ExitCode::Success);
-    }
-    if (const auto cutOff = batches.FindCutOff()) {
+    if (m_list)
+        return List();
+    if (const auto cutOff = Batch::Batches().FindCutOff()) {
         Complain(CutOffNotice(*cutOff) + "; nothing was done");
         return ExitCode::Blocked;
     }
     VyrHostPlatform::Interrupt::Catch();
-    BatchReport report("undoing", CountEntries(known, number), {Ui::BatchDirection::Back, m_json, m_quiet});
-    const Batch::BatchSummary summary = batches.Undo(number, report.Collector(), VyrHostPlatform::Interrupt::WasAsked);
-    return report.Write(summary);
+    return number ? ReverseNumber(*number) : UndoLatest();
+}
+
+int UndoCommand::List() const
+{
+    const std::vector<Batch::BatchInformation> batches = Batch::Batches().List();
+    Ui::OutputBuffer output;
+    m_json ? Ui::WriteBatchJson(output, batches) : Ui::WriteBatchLines(output, batches);
+    output.Flush();
+    return output.HasFailed() ? ExitCode::Output : ExitCode::Success;
+}
+
+int UndoCommand::ReverseNumber(std::uint32_t number) const
+{
+    BatchReportStyle style{Batch::Direction::Backward, m_json, m_quiet, m_preview};
+    for (const Batch::BatchInformation& batch : Batch::Batches().List()) {
+        if (batch.number != number && batch.undo != number)
+            continue;
+        style.direction = batch.number == number ? Batch::Direction::Backward : Batch::Direction::Forward;
+        Reversal reversal(style);
+        return reversal.Write(reversal.Run(batch, number));
+    }
+    Complain("the journal has no batch of this number");
+    return ExitCode::Blocked;
+}
+
+int UndoCommand::UndoLatest() const
+{
+    const Batch::UndoCandidates candidates = Batch::FindUndoCandidates(Batch::Batches().List(), u".");
+    for (const Batch::BatchInformation& batch : candidates.here) {
+        Reversal reversal({Batch::Direction::Backward, m_json, m_quiet, m_preview});
+        const Batch::BatchSummary summary = reversal.Run(batch, batch.number);
+        if (summary.obstacle == Batch::Obstacle::None)
+            return reversal.Write(summary);
+        NamePassedOver(batch, summary);
+    }
+    return NameBatchesElsewhere(candidates.elsewhere);
 }
 
 } // namespace VyrHost::Cli

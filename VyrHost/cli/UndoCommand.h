@@ -2,6 +2,7 @@
 /// The command "vyr undo".
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -11,7 +12,7 @@ class App;
 
 namespace VyrHost::Cli {
 
-/// Takes a batch of renames back, or lists the batches.
+/// Undoes a batch, redoes one that was undone, or lists the batches.
 class UndoCommand
 {
 public:
@@ -26,9 +27,14 @@ public:
     [[nodiscard]] int Run() const;
 
 private:
+    [[nodiscard]] int List() const;
+    [[nodiscard]] int ReverseNumber(std::uint32_t number) const;
+    [[nodiscard]] int UndoLatest() const;
+
     CLI::App& m_command;
     std::optional<std::string> m_batch;
     bool m_list = false;
+    bool m_preview = false;
     bool m_json = false;
     bool m_quiet = false;
 };

@@ -39,9 +39,8 @@ bool IsFolderSound(const RenamePlan& plan, PlanIndex index)
 bool IsEntrySound(const RenamePlan& plan, const PlanEntry& entry)
 {
     const std::size_t folders = plan.folders.size();
-    if (entry.from.folder >= folders || entry.to.folder >= folders || plan.folders[entry.from.folder].isNew)
-        return false;
-    if (!IsPart(entry.from.name, false) || !IsPart(entry.to.name, false) || entry.from == entry.to)
+    if (!IsPlaceSound(plan, entry.from) || entry.to.folder >= folders || !IsPart(entry.to.name, false) ||
+        entry.from == entry.to)
         return false;
     if (entry.waitsFor != none && entry.waitsFor >= plan.entries.size())
         return false;
@@ -100,6 +99,11 @@ private:
 };
 
 } // namespace
+
+bool IsPlaceSound(const RenamePlan& plan, const Place& place)
+{
+    return place.folder < plan.folders.size() && !plan.folders[place.folder].isNew && IsPart(place.name, false);
+}
 
 CString FindPlanFault(const RenamePlan& plan)
 {

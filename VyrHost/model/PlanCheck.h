@@ -10,4 +10,7 @@ namespace VyrHost::Model {
 /// range, its names are single parts of a path, its steps are complete and no folder ends up inside itself.
 [[nodiscard]] CString FindPlanFault(const RenamePlan& plan);
 
+/// Whether `place` is in a folder of `plan` that is there before the batch, and its name a single part of a path.
+[[nodiscard]] bool IsPlaceSound(const RenamePlan& plan, const Place& place);
+
 } // namespace VyrHost::Model

@@ -10,6 +10,7 @@
 #include <VyrPlatform/text/Encoding.h>
 
 #include <string_view>
+#include <utility>
 
 namespace VyrHost::Ui {
 
@@ -48,9 +49,9 @@ struct Way
     const CString& to;
 };
 
-Way WayOf(const Batch::BatchEntry& entry, BatchDirection direction)
+Way WayOf(const Batch::BatchEntry& entry, Batch::Direction direction)
 {
-    return direction == BatchDirection::Forward ? Way{entry.before, entry.after} : Way{entry.after, entry.before};
+    return direction == Batch::Direction::Forward ? Way{entry.before, entry.after} : Way{entry.after, entry.before};
 }
 
 CString NoteFor(const Batch::BatchEntry& entry)
@@ -72,8 +73,26 @@ Tone ToneOf(const Batch::BatchEntry& entry)
     return entry.hasChanged || entry.result.outcome == Model::RenameOutcome::NotReached ? Tone::Notable : Tone::Plain;
 }
 
-TableRow RowOf(const Batch::BatchEntry& entry, BatchDirection direction)
+/// What a change that is no rename has made of what.
+std::pair<CString, CString> ValuesOf(const Batch::Change& change, Batch::Direction direction)
 {
+    std::pair<CString, CString> values(change.ShownBefore(), change.ShownAfter());
+    if (direction == Batch::Direction::Backward)
+        std::swap(values.first, values.second);
+    return values;
+}
+
+TableRow RowOf(const Batch::BatchEntry& entry, Batch::Direction direction)
+{
+    if (entry.change) {
+        const std::u16string_view folder = Text::FolderPart(entry.before);
+        const auto [from, to] = ValuesOf(*entry.change, direction);
+        const CString note = NoteFor(entry);
+        return {{folder, entry.before.View().substr(folder.size())},
+                {{}, {}},
+                CString::Join({from, u" -> ", to, note.IsEmpty() ? u"" : u"; ", note}),
+                ToneOf(entry)};
+    }
     const Way way = WayOf(entry, direction);
     const std::u16string_view from = Text::FolderPart(way.from);
     const std::u16string_view to = Text::FolderPart(way.to);
@@ -116,11 +135,26 @@ CString LineOf(const Batch::BatchInformation& batch)
     line.Format(u"%u  %s  ", batch.number, batch.started);
     if (batch.state == Batch::BatchState::Damaged)
         return CString::Join({line, WordFor(batch.state), u"  ", batch.problem});
+    CString undo;
+    if (batch.state == Batch::BatchState::Undone && batch.undo != 0)
+        undo.Format(u" (undo %u)", batch.undo);
     return CString::Join(
-        {line, StateOf(batch), u", ", ExtentOf(batch), u"  ", batch.firstFrom, u" -> ", batch.firstTo});
+        {line, StateOf(batch), undo, u", ", ExtentOf(batch), u"  ", batch.firstFrom, u" -> ", batch.firstTo});
 }
 
 } // namespace
+
+CString NameOf(const Batch::BatchInformation& batch)
+{
+    CString number;
+    number.Format(u"batch %u", batch.number);
+    if (batch.state == Batch::BatchState::Damaged)
+        return number;
+    CString entries;
+    entries.Format(u"%u %s", batch.entries, std::u16string_view(batch.entries == 1 ? u"entry" : u"entries"));
+    return CString::Join({number, u" of ", batch.started, batch.command.IsEmpty() ? u"" : u", ", batch.command,
+                          batch.folder.IsEmpty() ? u"" : u" in ", batch.folder, u", ", entries});
+}
 
 void WriteBatchLines(OutputBuffer& output, const std::vector<Batch::BatchInformation>& batches)
 {
@@ -133,7 +167,13 @@ void WriteBatchJson(OutputBuffer& output, const std::vector<Batch::BatchInformat
     for (const Batch::BatchInformation& batch : batches) {
         std::string line = "{\"number\":" + std::to_string(batch.number);
         AppendJsonField(line, "started", batch.started);
+        if (!batch.command.IsEmpty())
+            AppendJsonField(line, "command", batch.command);
+        if (!batch.folder.IsEmpty())
+            AppendJsonField(line, "folder", batch.folder);
         AppendJsonField(line, "state", WordFor(batch.state));
+        if (batch.undo != 0)
+            line += ",\"undo\":" + std::to_string(batch.undo);
         line += ",\"entries\":" + std::to_string(batch.entries);
         if (batch.renamed)
             line += ",\"renamed\":" + std::to_string(*batch.renamed);
@@ -146,19 +186,27 @@ void WriteBatchJson(OutputBuffer& output, const std::vector<Batch::BatchInformat
     }
 }
 
-void WriteEntryTable(OutputBuffer& output, const std::vector<Batch::BatchEntry>& entries, BatchDirection direction)
+void WriteEntryTable(OutputBuffer& output, const std::vector<Batch::BatchEntry>& entries, Batch::Direction direction)
 {
     WriteTable(
         output, entries.size(), [&](std::size_t index) { return RowOf(entries[index], direction); }, StyleOfOutput());
 }
 
-void WriteEntryJson(OutputBuffer& output, const std::vector<Batch::BatchEntry>& entries, BatchDirection direction)
+void WriteEntryJson(OutputBuffer& output, const std::vector<Batch::BatchEntry>& entries, Batch::Direction direction)
 {
     for (const Batch::BatchEntry& entry : entries) {
-        const auto [from, to] = WayOf(entry, direction);
         std::string line;
-        AppendJsonField(line, "from", from);
-        AppendJsonField(line, "to", to);
+        if (entry.change) {
+            const auto [from, to] = ValuesOf(*entry.change, direction);
+            AppendJsonField(line, "kind", VyrPlatform::Encoding::FromUtf8(entry.change->Kind()));
+            AppendJsonField(line, "path", entry.before);
+            AppendJsonField(line, "from", from);
+            AppendJsonField(line, "to", to);
+        } else {
+            const auto [from, to] = WayOf(entry, direction);
+            AppendJsonField(line, "from", from);
+            AppendJsonField(line, "to", to);
+        }
         AppendJsonField(line, "status", WordFor(entry.result.outcome));
         if (!entry.result.reason.IsEmpty())
             AppendJsonField(line, "reason", entry.result.reason);

@@ -10,25 +10,22 @@
 
 namespace VyrHost::Ui {
 
-/// Which way the renames of a batch went.
-enum class BatchDirection : std::uint8_t
-{
-    /// From the names before it to those after it.
-    Forward,
-    Back
-};
+/// Such as "batch 2 of 2024/05/06 07:08:09, rename in /home/eva/pictures, 3 entries".
+[[nodiscard]] CString NameOf(const Batch::BatchInformation& batch);
 
 /// A line for each batch: its number, when it began, what has become of it, of how many of its entries, and its first
 /// rename.
 void WriteBatchLines(OutputBuffer& output, const std::vector<Batch::BatchInformation>& batches);
-/// A JSON object for each: `number`, `started`, `state`, `entries`, `renamed` (where it is known), `stopped`, `from`,
-/// `to` (those of its first entry), `problem`.
+/// A JSON object for each: `number`, `started`, `command`, `folder` (both where they are known), `state`, `undo` (the
+/// number of its last undo), `entries`, `renamed` (where it is known), `stopped`, `from`, `to` (those of its first
+/// entry), `problem`.
 void WriteBatchJson(OutputBuffer& output, const std::vector<Batch::BatchInformation>& batches);
 
 /// A row for each entry: where it was, where it is now, and what there is to say.
-void WriteEntryTable(OutputBuffer& output, const std::vector<Batch::BatchEntry>& entries, BatchDirection direction);
-/// A JSON object for each: `from`, `to`, `status`, `reason`, `changed`.
-void WriteEntryJson(OutputBuffer& output, const std::vector<Batch::BatchEntry>& entries, BatchDirection direction);
+void WriteEntryTable(OutputBuffer& output, const std::vector<Batch::BatchEntry>& entries, Batch::Direction direction);
+/// A JSON object for each: `from`, `to`, `status`, `reason`, `changed`; for a change that is no rename also its `kind`
+/// and `path`, with `from` and `to` being what was there and what is there now.
+void WriteEntryJson(OutputBuffer& output, const std::vector<Batch::BatchEntry>& entries, Batch::Direction direction);
 
 /// Such as "5 entries: 4 renamed, 1 refused." with a line end.
 [[nodiscard]] std::string SummaryOf(const Batch::BatchSummary& summary);

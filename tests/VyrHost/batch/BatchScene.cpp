@@ -49,7 +49,15 @@ void Collect(const fs::path& folder, const std::string& prefix, FolderSnapshot& 
 
 } // namespace
 
-BatchScene::BatchScene(FileOperations& files) : m_files(files), batches(files, m_scratch.Path(u"journal"))
+BatchSettings SettingsIn(const CString& journalFolder)
+{
+    BatchSettings settings;
+    settings.journalFolder = journalFolder;
+    return settings;
+}
+
+BatchScene::BatchScene(FileOperations& files, const ChangeKinds& kinds)
+    : batches(files, {.journalFolder = m_scratch.Path(u"journal"), .keeping = {}, .wait = {}, .kinds = kinds})
 {
     m_scratch.MakeFolder(u"files");
 }
@@ -123,10 +131,24 @@ BatchSummary BatchScene::Apply(const StopRequest& isStopAsked)
 BatchSummary BatchScene::Undo(std::optional<std::uint32_t> number, const StopRequest& isStopAsked)
 {
     entries.clear();
+    if (!number) {
+        const std::vector<BatchInformation> known = batches.List();
+        const auto latest = std::find_if(known.begin(), known.end(),
+                                         [](const BatchInformation& batch) { return CanBeUndone(batch.state); });
+        number = latest == known.end() ? 0 : latest->number;
+    }
     BatchSummary summary = batches.Undo(
-        number, [this](const BatchEntry& entry) { entries.push_back(entry); }, isStopAsked);
+        *number, [this](const BatchEntry& entry) { entries.push_back(entry); }, isStopAsked);
     EXPECT_EQ(summary.done + summary.failed + summary.refused + summary.notReached, entries.size());
     EXPECT_TRUE(summary.missing.empty());
+    return summary;
+}
+
+BatchSummary BatchScene::Redo(std::uint32_t number)
+{
+    entries.clear();
+    BatchSummary summary = batches.Redo(number, [this](const BatchEntry& entry) { entries.push_back(entry); }, {});
+    EXPECT_EQ(summary.done + summary.failed + summary.refused + summary.notReached, entries.size());
     return summary;
 }
 

@@ -18,6 +18,9 @@ namespace VyrTests {
 /// What stands at each path below a folder, written with slashes: a file's content, or "<folder>".
 using FolderSnapshot = std::map<std::string, std::string>;
 
+/// Journals in `journalFolder`, no waiting, the rename as the only kind of change.
+[[nodiscard]] VyrHost::Batch::BatchSettings SettingsIn(const CString& journalFolder);
+
 class BatchScene
 {
     // The others need it while they are made.
@@ -25,7 +28,8 @@ class BatchScene
     VyrHost::Batch::FileOperations& m_files;
 
 public:
-    explicit BatchScene(VyrHost::Batch::FileOperations& files = VyrHost::Batch::SystemFiles());
+    explicit BatchScene(VyrHost::Batch::FileOperations& files = VyrHost::Batch::SystemFiles(),
+                        const VyrHost::Batch::ChangeKinds& kinds = {});
 
     /// The full path of `name` (with slashes) among the files.
     [[nodiscard]] CString Path(std::u16string_view name) const;
@@ -44,8 +48,11 @@ public:
     [[nodiscard]] VyrHost::Rename::PlannerResult Plan() const;
     /// Applies what the planner makes of the list; the results stand in `results`.
     VyrHost::Batch::BatchSummary Apply(const VyrHost::Batch::StopRequest& isStopAsked = {});
+    /// @param number  the latest that can be undone when it is not given.
     VyrHost::Batch::BatchSummary Undo(std::optional<std::uint32_t> number = {},
                                       const VyrHost::Batch::StopRequest& isStopAsked = {});
+    /// Does again what the undo `number` has undone.
+    VyrHost::Batch::BatchSummary Redo(std::uint32_t number);
     VyrHost::Batch::BatchSummary Recover(VyrHost::Batch::Recovery recovery);
 
     /// All files and folders as they are now.

@@ -128,7 +128,7 @@ TEST(JournalDamage, IsNoticedWhereALineIsMissingOrTwice)
 TEST(JournalDamage, IsNoticedWhereTwoLinesAreSwapped)
 {
     const std::vector<std::string> lines = LinesOf(TextOf(MakeJournal()));
-    ASSERT_EQ(std::count_if(lines.begin(), lines.end(), [](const auto& line) { return line.starts_with("entry\t"); }),
+    ASSERT_EQ(std::count_if(lines.begin(), lines.end(), [](const auto& line) { return line.starts_with("rename\t"); }),
               5);
     for (std::size_t first = 0; first < lines.size(); ++first)
         for (std::size_t second = first + 1; second < lines.size(); ++second) {

@@ -5,7 +5,12 @@
 #include <tests/support/Describe.h>
 #include <tests/support/ScratchFolder.h>
 
+#include <VyrPlatform/files/FileTimes.h>
+#include <VyrPlatform/time/Clock.h>
+
+#include <memory>
 #include <string>
+#include <vector>
 
 using namespace VyrHost::Batch;
 using namespace VyrHost::Model;
@@ -79,4 +84,111 @@ TEST_F(JournalEnds, AreEmptyWhereThereIsNoJournal)
     EXPECT_EQ(m_folder.ReadBeginning(file, error), std::nullopt);
     EXPECT_NE(error, 0u);
     EXPECT_EQ(m_folder.ReadCheckpoints(file), "");
+}
+
+namespace {
+
+/// A folder of journals of which each is kept as long as it is said.
+class JournalKept : public testing::Test
+{
+protected:
+    void Begin(BatchPhase phase, const JournalKeeping& keeping) const
+    {
+        JournalFolder folder(SystemFiles(), m_scratch.Path(u"journal"), keeping);
+        ASSERT_EQ(folder.Lock(), u"");
+        Journal journal;
+        JournalFile file;
+        ASSERT_EQ(folder.Begin(journal, file), 0u);
+        ASSERT_EQ(folder.SetPhase(file, phase), 0u);
+    }
+
+    /// Says that the last work on a batch was so many days ago.
+    void Age(std::uint32_t number, int days) const
+    {
+        constexpr VyrPlatform::FileTicks ticksPerDay = VyrPlatform::FileTicks{24} * 60 * 60 * 10'000'000;
+        const auto now = VyrPlatform::FileTimes::FromLocal(VyrPlatform::Clock::Now());
+        for (const JournalFile& file : JournalFolder(SystemFiles(), m_scratch.Path(u"journal")).List())
+            if (file.number == number) {
+                ASSERT_EQ(VyrPlatform::FileTimes::SetModified(file.path, now.value_or(0) - days * ticksPerDay), 0u);
+            }
+    }
+
+    [[nodiscard]] std::vector<std::uint32_t> Numbers() const
+    {
+        std::vector<std::uint32_t> numbers;
+        for (const JournalFile& file : JournalFolder(SystemFiles(), m_scratch.Path(u"journal")).List())
+            numbers.push_back(file.number);
+        return numbers;
+    }
+
+    const VyrTests::ScratchFolder m_scratch;
+};
+
+} // namespace
+
+TEST_F(JournalKept, AreTheLatest)
+{
+    for (int round = 0; round < 6; ++round)
+        Begin(round % 2 ? BatchPhase::Applied : BatchPhase::Undone, {.batches = 3, .days = 90});
+    EXPECT_EQ(Numbers(), (std::vector<std::uint32_t>{4, 5, 6}));
+}
+
+TEST_F(JournalKept, AreTheLastTwoHundredOfNinetyDaysUnlessToldOtherwise)
+{
+    EXPECT_EQ(JournalKeeping().batches, 200u);
+    EXPECT_EQ(JournalKeeping().days, 90);
+    for (int round = 0; round < 202; ++round)
+        Begin(BatchPhase::Applied, {});
+    EXPECT_EQ(Numbers().size(), 200u);
+    EXPECT_EQ(Numbers().front(), 3u);
+}
+
+TEST_F(JournalKept, AreThoseOfTheLastDays)
+{
+    for (int round = 0; round < 4; ++round)
+        Begin(BatchPhase::Applied, {});
+    Age(1, 91);
+    Age(2, 29);
+    Age(3, 31);
+    Begin(BatchPhase::Applied, {.batches = 200, .days = 30});
+    EXPECT_EQ(Numbers(), (std::vector<std::uint32_t>{2, 4, 5}));
+}
+
+TEST_F(JournalKept, AreThoseThatAreNotFinishedHoweverOld)
+{
+    Begin(BatchPhase::Applying, {});
+    Begin(BatchPhase::Undoing, {});
+    Begin(BatchPhase::Applied, {});
+    for (const std::uint32_t number : {1u, 2u, 3u})
+        Age(number, 1000);
+    Begin(BatchPhase::Applied, {.batches = 1, .days = 1});
+    EXPECT_EQ(Numbers(), (std::vector<std::uint32_t>{1, 2, 4}));
+}
+
+TEST(JournalLock, IsTakenOnceTheOtherProgramHasReleasedIt)
+{
+    const VyrTests::ScratchFolder scratch;
+    auto other = std::make_unique<JournalFolder>(SystemFiles(), scratch.Path(u"journal"));
+    ASSERT_EQ(other->Lock(), u"");
+    JournalFolder folder(SystemFiles(), scratch.Path(u"journal"));
+    int waits = 0;
+    EXPECT_EQ(folder.Lock([&] {
+        if (++waits == 3)
+            other.reset();
+        return true;
+    }),
+              u"");
+    EXPECT_EQ(waits, 3);
+}
+
+TEST(JournalLock, IsGivenUpWhenTheWaitEnds)
+{
+    const VyrTests::ScratchFolder scratch;
+    JournalFolder other(SystemFiles(), scratch.Path(u"journal"));
+    ASSERT_EQ(other.Lock(), u"");
+    JournalFolder folder(SystemFiles(), scratch.Path(u"journal"));
+    int waits = 0;
+    EXPECT_EQ(folder.Lock([&waits] { return ++waits < 3; }), u"another batch of renames is being worked on");
+    EXPECT_EQ(waits, 3);
+    EXPECT_EQ(folder.Lock(), u"another batch of renames is being worked on");
 }

@@ -141,17 +141,29 @@ std::string SeparatorText()
     return VyrPlatform::FileSystem::Separator() == u'/' ? "/" : "\\u005c";
 }
 
+/// What stands behind the heading of a journal written by hand, `rename` being the first word of its renames.
+std::string HandWrittenPlan(const std::string& rename)
+{
+    return "folder\t-\to\t" + RootText() + "\nfolder\t0\tn\tn\n" + rename + "\tf\t1\t2\t3\t4\t5\t0\ta\t1\tb\t-\t-\n" +
+           rename + "\tf\t6\t7\t8\t-9\t10\t0\tc\t0\td\t-\t2\n" + rename +
+           "\tf\t11\t12\t13\t14\t15\t0\td\t0\te\t-\t-\nsteps\tm1\tr0\tr2\tr1\nend";
+}
+
 /// A journal written by hand: "a" goes to the new folder "n" as "b", "c" becomes "d", "d" becomes "e".
 std::string HandWrittenText()
 {
+    const std::string heading = "vyr-journal\t3\nbatch\t7\t18364758544493064720\t2024/05/06 07:08:09\trename\t" +
+                                RootText() + "\t2\t3\t0\t4\t" + RootText() + "a\t" + RootText() + "n" +
+                                SeparatorText() + "b";
+    return WithCheck(WithCheck(heading) + HandWrittenPlan("rename"));
+}
+
+/// The same as version 2 has it.
+std::string HandWrittenTextOfVersionTwo()
+{
     const std::string heading = "vyr-journal\t2\nbatch\t7\t18364758544493064720\t2024/05/06 07:08:09\t2\t3\t4\t" +
                                 RootText() + "a\t" + RootText() + "n" + SeparatorText() + "b";
-    return WithCheck(WithCheck(heading) + "folder\t-\to\t" + RootText() +
-                     "\nfolder\t0\tn\tn\n"
-                     "entry\tf\t1\t2\t3\t4\t5\t0\ta\t1\tb\t-\t-\n"
-                     "entry\tf\t6\t7\t8\t-9\t10\t0\tc\t0\td\t-\t2\n"
-                     "entry\tf\t11\t12\t13\t14\t15\t0\td\t0\te\t-\t-\n"
-                     "steps\tm1\tr0\tr2\tr1\nend");
+    return WithCheck(WithCheck(heading) + HandWrittenPlan("entry"));
 }
 
 /// The journal of the same batch.
@@ -166,6 +178,8 @@ Journal HandMadeJournal()
     journal.heading = {.number = 7,
                        .token = 0xFEDCBA9876543210,
                        .started = u"2024/05/06 07:08:09",
+                       .command = u"rename",
+                       .folder = Full(u""),
                        .entries = 3,
                        .firstFrom = Full(u"a"),
                        .firstTo = In(Full(u"n"), u"b")};
@@ -192,6 +206,30 @@ TEST(JournalText, IsReadAsItsFormatSays)
     EXPECT_EQ(journal.plan.entries[0].to.folder, 1u);
     EXPECT_EQ(journal.plan.entries[1].waitsFor, 2u);
     EXPECT_EQ(journal.states[1].modified, -9);
+}
+
+TEST(JournalText, IsReadInVersionTwo)
+{
+    Journal expected = HandMadeJournal();
+    expected.heading.command = expected.heading.folder = u"";
+    const std::string text = HandWrittenTextOfVersionTwo();
+    const Journal journal = MustRead(text);
+    ExpectSame(journal, expected);
+    Checkpoint undone = CheckpointAt({0, 1, 2});
+    undone.isBackward = true;
+    ExpectSame(MustRead(text + WriteCheckpoint(CheckpointAt({1}), journal.check)).checkpoint, CheckpointAt({1}));
+    const Journal both =
+        MustRead(text + WriteCheckpoint(CheckpointAt({1}), journal.check) + WriteCheckpoint(undone, journal.check));
+    ExpectSame(both.checkpoint, undone);
+    ExpectSame(both.applied, CheckpointAt({1}));
+}
+
+TEST(JournalText, IsRefusedWhereItsLinesAreOfAnotherVersion)
+{
+    std::string text = HandWrittenTextOfVersionTwo();
+    EXPECT_TRUE(IsRefused(WithCheck(text.substr(0, text.find("folder\t-")) + HandWrittenPlan("rename"))));
+    text = HandWrittenText();
+    EXPECT_TRUE(IsRefused(WithCheck(text.substr(0, text.find("folder\t-")) + HandWrittenPlan("entry"))));
 }
 
 TEST(JournalText, ContinuesTheChecksOfMarksFromThatOfItsEnd)
@@ -403,7 +441,7 @@ TEST(JournalText, RefusesAFolderThatWouldEndUpInsideItself)
 
 TEST(JournalText, SaysWhatAnUnknownVersionIs)
 {
-    for (const char* text : {"vyr-journal\t1\t12345678\n", "vyr-journal\t3\n"}) {
+    for (const char* text : {"vyr-journal\t1\t12345678\n", "vyr-journal\t4\n"}) {
         CString problem;
         EXPECT_FALSE(ReadJournal(text, problem));
         EXPECT_GE(problem.Find(u"version"), 0);

@@ -45,6 +45,8 @@ public:
         journal.heading = {.number = static_cast<std::uint32_t>(Number()),
                            .token = Number(),
                            .started = u"1999/12/31 23:59:59",
+                           .command = u"rename",
+                           .folder = u"/a\tb",
                            .entries = journal.plan.entries.size(),
                            .firstFrom = list.renames.front().from,
                            .firstTo = list.renames.front().to};

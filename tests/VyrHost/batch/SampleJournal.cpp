@@ -47,6 +47,8 @@ Journal MakeJournal()
     journal.heading = {.number = 7,
                        .token = 0xFEDCBA9876543210,
                        .started = u"2024/05/06 07:08:09",
+                       .command = u"rename",
+                       .folder = Full(u""),
                        .entries = result.plan.entries.size(),
                        .firstFrom = list.renames[0].from,
                        .firstTo = list.renames[0].to};
@@ -127,6 +129,8 @@ void ExpectSame(const Journal& journal, const Journal& expected)
     EXPECT_EQ(journal.heading.number, expected.heading.number);
     EXPECT_EQ(journal.heading.token, expected.heading.token);
     EXPECT_EQ(journal.heading.started, expected.heading.started);
+    EXPECT_EQ(journal.heading.command, expected.heading.command);
+    EXPECT_EQ(journal.heading.folder, expected.heading.folder);
     EXPECT_EQ(journal.heading.entries, expected.heading.entries);
     EXPECT_EQ(journal.heading.firstFrom, expected.heading.firstFrom);
     EXPECT_EQ(journal.heading.firstTo, expected.heading.firstTo);
@@ -165,6 +169,7 @@ void ExpectSame(const std::optional<Checkpoint>& checkpoint, const std::optional
     EXPECT_EQ(checkpoint->entriesBefore, expected->entriesBefore);
     EXPECT_EQ(checkpoint->entriesTemporary, expected->entriesTemporary);
     EXPECT_EQ(checkpoint->foldersMade, expected->foldersMade);
+    EXPECT_EQ(checkpoint->changesBefore, expected->changesBefore);
 }
 
 std::uint32_t BitwiseCrc(std::uint32_t before, std::string_view text)

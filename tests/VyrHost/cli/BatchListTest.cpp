@@ -76,8 +76,8 @@ TEST_F(BatchList, CountsTheEntriesOfOneThatWasDone)
     EXPECT_EQ(Listed(), "applied, 3 entries");
     EXPECT_EQ(ListedAsJson(), R"("state":"applied","entries":3,"renamed":3,"stopped":false)");
     m_scene.Undo();
-    EXPECT_EQ(Listed(), "undone, 3 entries");
-    EXPECT_EQ(ListedAsJson(), R"("state":"undone","entries":3,"renamed":0,"stopped":false)");
+    EXPECT_EQ(Listed(), "undone (undo 2), 3 entries");
+    EXPECT_EQ(ListedAsJson(), R"("state":"undone","undo":2,"entries":3,"renamed":0,"stopped":false)");
 }
 
 TEST_F(BatchList, SaysHowFarOneCameThatWasInterrupted)
@@ -87,10 +87,10 @@ TEST_F(BatchList, SaysHowFarOneCameThatWasInterrupted)
     EXPECT_EQ(ListedAsJson(), R"("state":"applied","entries":3,"renamed":2,"stopped":true)");
     m_scene.Undo({}, StopAfter(1));
     EXPECT_EQ(Listed(), "stopped while it was undone, 1 of 3 entries left");
-    EXPECT_EQ(ListedAsJson(), R"("state":"undone in part","entries":3,"renamed":1,"stopped":true)");
-    // It is the one that is undone next.
-    EXPECT_EQ(Run({u"undo", u"--quiet"}).exitCode, 0);
-    EXPECT_EQ(Listed(), "undone, 3 entries");
+    EXPECT_EQ(ListedAsJson(), R"("state":"undone in part","undo":2,"entries":3,"renamed":1,"stopped":true)");
+    // The rest is undone under the same number.
+    EXPECT_EQ(Run({u"undo", u"1", u"--quiet"}).exitCode, 0);
+    EXPECT_EQ(Listed(), "undone (undo 2), 3 entries");
 }
 
 TEST_F(BatchList, CountsWithoutTheEntriesThatFailed)
@@ -101,7 +101,7 @@ TEST_F(BatchList, CountsWithoutTheEntriesThatFailed)
     m_scene.Write(u"a", "in the way");
     m_scene.Undo();
     EXPECT_EQ(Listed(), "undone in part, 1 of 3 entries left");
-    EXPECT_EQ(ListedAsJson(), R"("state":"undone in part","entries":3,"renamed":1,"stopped":false)");
+    EXPECT_EQ(ListedAsJson(), R"("state":"undone in part","undo":2,"entries":3,"renamed":1,"stopped":false)");
 }
 
 TEST_F(BatchList, CountsWhatWasNotFoundWhenItWasUndone)
@@ -109,8 +109,8 @@ TEST_F(BatchList, CountsWhatWasNotFoundWhenItWasUndone)
     m_scene.Apply();
     std::filesystem::remove(ToStdPath(m_scene.Path(u"b2")));
     m_scene.Undo();
-    EXPECT_EQ(Listed(), "undone, 1 of 3 entries not found");
-    EXPECT_EQ(ListedAsJson(), R"("state":"undone","entries":3,"renamed":1,"stopped":false)");
+    EXPECT_EQ(Listed(), "undone (undo 2), 1 of 3 entries not found");
+    EXPECT_EQ(ListedAsJson(), R"("state":"undone","undo":2,"entries":3,"renamed":1,"stopped":false)");
 }
 
 TEST_F(BatchList, DoesNotGuessHowFarOneCameThatWasCutOff)
@@ -147,7 +147,7 @@ TEST_F(BatchList, RecoveringSaysWhichWayTheEntriesGo)
     m_scene.Undo();
     const std::string before = VyrPlatform::Encoding::ToUtf8(m_scene.Path(u"a"));
     EXPECT_THAT(Run({u"recover"}).output, HasSubstr(before + "2  ->  a\n"));
-    EXPECT_EQ(Listed(), "undone, 3 entries");
+    EXPECT_EQ(Listed(), "undone (undo 2), 3 entries");
     FailWhen(FileChange::Kind::RenameFile, u".applied");
     m_scene.Apply();
     EXPECT_THAT(Run({u"recover", u"--take-back"}).output, HasSubstr(before + "2  ->  a\n"));

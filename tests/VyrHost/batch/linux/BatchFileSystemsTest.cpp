@@ -115,7 +115,7 @@ TEST(BatchesOnLinux, DoNothingWhenTheDiskOfTheJournalIsFull)
     if (!disk.WhyNot().empty())
         GTEST_SKIP() << disk.WhyNot();
     BatchScene scene;
-    scene.batches = Batches(SystemFiles(), disk.Path(u"journal"));
+    scene.batches = Batches(SystemFiles(), SettingsIn(disk.Path(u"journal")));
     scene.Write(u"a");
     scene.Rename(u"a", u"b");
     std::ofstream(ToStdPath(disk.Path(u"filler"))) << std::string(1 << 17, 'x');

@@ -1,0 +1,73 @@
+/// @file
+/// The seam for changes that are no renames: what a kind of change brings so that it can be journalled, undone and
+/// recovered.
+#pragma once
+
+#include <VyrPlatform/text/CString.h>
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace VyrHost::Batch {
+
+/// What a file has of a change.
+enum class ChangeState : std::uint8_t
+{
+    /// All that the change sets is as it was before.
+    Before,
+    /// A part is as it was before, the rest as the change sets it: the work on it was cut off.
+    Partly,
+    /// All is as the change sets it.
+    After,
+    /// Something is neither: another program has changed it.
+    Other,
+    /// It cannot be looked at.
+    Unknown
+};
+
+struct ChangeLook
+{
+    ChangeState state = ChangeState::Unknown;
+    /// The system's error code; 0 unless the state is Unknown.
+    std::uint32_t error = 0;
+};
+
+/// One change of one file or folder, with what it sets and what was there before. It holds no path: the batch knows
+/// where the file stands. The error codes are the system's, 0 for success.
+class Change
+{
+public:
+    Change() = default;
+    Change(const Change&) = delete;
+    Change& operator=(const Change&) = delete;
+    virtual ~Change() = default;
+
+    /// The name of its kind in the journal: lower-case ASCII letters, and not "rename".
+    [[nodiscard]] virtual std::string_view Kind() const = 0;
+
+    /// What was there before and what the change sets, as the journal keeps them. The kind's reader takes both.
+    [[nodiscard]] virtual CString Before() const = 0;
+    [[nodiscard]] virtual CString After() const = 0;
+    /// The same for people.
+    [[nodiscard]] virtual CString ShownBefore() const = 0;
+    [[nodiscard]] virtual CString ShownAfter() const = 0;
+
+    /// Whether the file at `path` is still as it was set.
+    [[nodiscard]] virtual ChangeLook Look(const CString& path) const = 0;
+    /// Sets what the change is to set. Asked for a file whose state is Before or Partly.
+    [[nodiscard]] virtual std::uint32_t Apply(const CString& path) const = 0;
+    /// Restores what was there before. Asked for a file whose state is After or Partly.
+    [[nodiscard]] virtual std::uint32_t TakeBack(const CString& path) const = 0;
+};
+
+/// Makes a change again of what the journal keeps of it; null when its kind never writes such texts.
+using ChangeReader = std::function<std::shared_ptr<const Change>(const CString& before, const CString& after)>;
+
+/// The kinds of change that a program knows besides the rename, by their names.
+using ChangeKinds = std::map<std::string, ChangeReader, std::less<>>;
+
+} // namespace VyrHost::Batch

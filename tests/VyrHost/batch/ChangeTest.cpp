@@ -1,0 +1,307 @@
+// Changes that are no renames, proved by a small kind: the content of a file.
+#include <VyrHost/batch/Change.h>
+
+#include <gmock/gmock.h>
+#include <tests/VyrHost/batch/BatchScene.h>
+#include <tests/VyrHost/batch/CutOffScene.h>
+#include <tests/VyrHost/batch/SampleJournal.h>
+#include <tests/support/Describe.h>
+#include <tests/support/StdPath.h>
+
+#include <VyrHost/text/FolderPart.h>
+#include <VyrPlatform/files/FileReader.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/text/Encoding.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <memory>
+#include <span>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace VyrHost::Batch;
+using namespace VyrHost::Model;
+using namespace VyrTests;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+constexpr std::uint32_t missingFile = 2;
+constexpr const char* half = "half";
+
+/// Called before and after a file's content is set; may throw, as if the program ended there.
+std::function<void(Moment moment)> onWrite;
+
+/// Sets the content of a file, in two steps.
+class ContentChange final : public Change
+{
+public:
+    ContentChange(const CString& before, const CString& after) : m_before(before), m_after(after) {}
+
+    std::string_view Kind() const override { return "content"; }
+    CString Before() const override { return m_before; }
+    CString After() const override { return m_after; }
+    CString ShownBefore() const override { return CString::Join({u"\"", m_before, u"\""}); }
+    CString ShownAfter() const override { return CString::Join({u"\"", m_after, u"\""}); }
+
+    ChangeLook Look(const CString& path) const override
+    {
+        const VyrPlatform::FileReader reader(path);
+        if (!reader.IsOpen())
+            return {ChangeState::Unknown, missingFile};
+        std::string text(static_cast<std::size_t>(reader.Size()), '\0');
+        text.resize(reader.ReadAt(0, std::as_writable_bytes(std::span(text))));
+        const CString content = VyrPlatform::Encoding::FromUtf8(text);
+        if (content == m_before || content == m_after)
+            return {content == m_before ? ChangeState::Before : ChangeState::After, 0};
+        return {text == half ? ChangeState::Partly : ChangeState::Other, 0};
+    }
+    std::uint32_t Apply(const CString& path) const override { return Write(path, m_after); }
+    std::uint32_t TakeBack(const CString& path) const override { return Write(path, m_before); }
+
+private:
+    static std::uint32_t Write(const CString& path, const CString& content)
+    {
+        std::ofstream(ToStdPath(path)) << half;
+        if (onWrite)
+            onWrite(Moment::Before);
+        std::ofstream(ToStdPath(path)) << VyrPlatform::Encoding::ToUtf8(content);
+        if (onWrite)
+            onWrite(Moment::After);
+        return 0;
+    }
+
+    CString m_before;
+    CString m_after;
+};
+
+ChangeKinds KindsOfTest()
+{
+    return {{"content", [](const CString& before, const CString& after) -> std::shared_ptr<const Change> {
+                 if (before == after)
+                     return nullptr;
+                 return std::make_shared<ContentChange>(before, after);
+             }}};
+}
+
+/// Three files whose contents are to be changed in one batch.
+class Changes : public testing::Test
+{
+protected:
+    Changes()
+    {
+        onWrite = {};
+        for (const char16_t* name : {u"a", u"b", u"c"})
+            m_scene.Write(name, "old");
+    }
+    ~Changes() override { onWrite = {}; }
+
+    /// The folders down to the files, and changes of the contents of `names`.
+    [[nodiscard]] NewBatch Make(const std::vector<std::u16string_view>& names) const
+    {
+        NewBatch batch;
+        batch.command = u"contents";
+        const CString folder = VyrHost::Text::FolderPart(m_scene.Path(u"a"));
+        std::u16string_view rest = folder;
+        while (!rest.empty()) {
+            std::size_t end = 0;
+            while (!VyrPlatform::FileSystem::IsSeparator(rest[end]))
+                ++end;
+            const bool isRoot = batch.plan.folders.empty();
+            PlanFolder& added = batch.plan.folders.emplace_back();
+            added.place.folder = isRoot ? none : static_cast<PlanIndex>(batch.plan.folders.size() - 2);
+            added.place.name = batch.plan.texts->Intern(rest.substr(0, isRoot ? end + 1 : end));
+            rest.remove_prefix(end + 1);
+        }
+        for (const std::u16string_view name : names)
+            batch.changes.push_back(
+                {{static_cast<PlanIndex>(batch.plan.folders.size() - 1), batch.plan.texts->Intern(name)},
+                 std::make_shared<ContentChange>(u"old", u"new")});
+        return batch;
+    }
+
+    BatchSummary Apply(const StopRequest& isStopAsked = {})
+    {
+        m_results.clear();
+        return m_scene.batches.Apply(
+            [this] {
+                return Make({u"a", u"b", u"c"});
+            },
+            [this](std::size_t index, const RenameResult& result) {
+                m_results.resize(std::max(m_results.size(), index + 1));
+                m_results[index] = result;
+            },
+            isStopAsked);
+    }
+
+    static FolderSnapshot AllAre(const std::string& content)
+    {
+        return {{"a", content}, {"b", content}, {"c", content}};
+    }
+
+    BatchScene m_scene{SystemFiles(), KindsOfTest()};
+    std::vector<RenameResult> m_results;
+};
+
+TEST_F(Changes, AreAppliedUndoneAndRedone)
+{
+    const BatchSummary applied = Apply();
+    EXPECT_EQ(applied.error, u"");
+    EXPECT_EQ(applied.number, 1u);
+    EXPECT_EQ(applied.done, 3u);
+    EXPECT_EQ(m_scene.Now(), AllAre("new"));
+    EXPECT_THAT(m_scene.JournalFiles(), ElementsAre("000001.applied"));
+
+    const BatchSummary undone = m_scene.Undo();
+    EXPECT_EQ(undone.error, u"");
+    EXPECT_EQ(undone.done, 3u);
+    EXPECT_EQ(m_scene.Now(), AllAre("old"));
+    EXPECT_THAT(m_scene.JournalFiles(), ElementsAre("000001.taken-back-000002"));
+    ASSERT_EQ(m_scene.entries.size(), 3u);
+    EXPECT_EQ(m_scene.entries[0].before, m_scene.Path(u"c"));
+    ASSERT_TRUE(m_scene.entries[0].change);
+    EXPECT_EQ(m_scene.entries[0].change->ShownAfter(), u"\"new\"");
+
+    EXPECT_EQ(m_scene.Redo(2).done, 3u);
+    EXPECT_EQ(m_scene.Now(), AllAre("new"));
+    EXPECT_EQ(m_scene.Undo().done, 3u);
+    EXPECT_EQ(m_scene.Now(), AllAre("old"));
+}
+
+TEST_F(Changes, AreListedWithTheirCommandAndFolder)
+{
+    Apply();
+    const std::vector<BatchInformation> batches = m_scene.batches.List();
+    ASSERT_EQ(batches.size(), 1u);
+    EXPECT_EQ(batches[0].command, u"contents");
+    EXPECT_EQ(batches[0].folder + CString(VyrPlatform::FileSystem::Separator(), 1),
+              CString(VyrHost::Text::FolderPart(m_scene.Path(u"a"))));
+    EXPECT_EQ(batches[0].entries, 3u);
+    EXPECT_EQ(batches[0].renamed, 3u);
+    EXPECT_EQ(batches[0].firstFrom, m_scene.Path(u"a"));
+    EXPECT_EQ(batches[0].firstTo, u"\"new\"");
+}
+
+TEST_F(Changes, KeepWhatAnotherProgramHasChangedSince)
+{
+    Apply();
+    m_scene.Write(u"b", "mine");
+    const BatchSummary undone = m_scene.Undo();
+    EXPECT_EQ(undone.done, 2u);
+    EXPECT_EQ(undone.refused, 1u);
+    EXPECT_EQ(m_scene.Now(), (FolderSnapshot{{"a", "old"}, {"b", "mine"}, {"c", "old"}}));
+    EXPECT_EQ(m_scene.entries[1].result.reason, u"another program has changed it since");
+}
+
+TEST_F(Changes, AreNotAppliedToWhatIsNoLongerAsItWasListed)
+{
+    m_scene.Write(u"a", "mine");
+    std::filesystem::remove(ToStdPath(m_scene.Path(u"c")));
+    const BatchSummary applied = Apply();
+    EXPECT_EQ(applied.done, 1u);
+    EXPECT_EQ(applied.refused, 1u);
+    EXPECT_EQ(applied.failed, 1u);
+    ASSERT_EQ(m_results.size(), 3u);
+    EXPECT_EQ(m_results[2].error, missingFile);
+    // What was not done is not undone either, whatever the files hold by now.
+    m_scene.Write(u"a", "new");
+    EXPECT_EQ(m_scene.Undo().done, 1u);
+    EXPECT_EQ(m_scene.Now(), (FolderSnapshot{{"a", "new"}, {"b", "old"}}));
+}
+
+TEST_F(Changes, AreLeftWhereTheWorkWasStopped)
+{
+    const BatchSummary applied = Apply([left = 1]() mutable { return left-- == 0; });
+    EXPECT_TRUE(applied.wasStopped);
+    EXPECT_EQ(applied.done, 1u);
+    EXPECT_EQ(applied.notReached, 2u);
+    EXPECT_EQ(m_scene.Now(), (FolderSnapshot{{"a", "new"}, {"b", "old"}, {"c", "old"}}));
+    EXPECT_EQ(m_scene.Undo().done, 1u);
+    EXPECT_EQ(m_scene.Now(), AllAre("old"));
+}
+
+TEST_F(Changes, AreRecoveredFromWhereverTheyWereCutOff)
+{
+    for (const Recovery recovery : {Recovery::Finish, Recovery::Undo})
+        for (int write = 0; write < 6; ++write) {
+            for (const char16_t* name : {u"a", u"b", u"c"})
+                m_scene.Write(name, "old");
+            onWrite = [left = write](Moment) mutable {
+                if (left-- == 0)
+                    throw CutOff();
+            };
+            ASSERT_TRUE(IsCutOff([this] { Apply(); })) << write;
+            onWrite = {};
+            ASSERT_TRUE(m_scene.batches.FindCutOff()) << write;
+            EXPECT_EQ(m_scene.Recover(recovery).error, u"");
+            EXPECT_EQ(m_scene.Now(), AllAre(recovery == Recovery::Finish ? "new" : "old")) << write;
+            EXPECT_FALSE(m_scene.batches.FindCutOff());
+        }
+}
+
+TEST_F(Changes, OfAKindThatIsNotKnownAreRefusedAndTheirJournalIsLeft)
+{
+    Apply();
+    const std::filesystem::path journal = ToStdPath(m_scene.JournalFolder()) / "000001.applied";
+    std::ostringstream before;
+    before << std::ifstream(journal, std::ios::binary).rdbuf();
+    EXPECT_THAT(before.str(), HasSubstr("\ncontent\t"));
+    m_scene.batches = Batches(SystemFiles(), SettingsIn(m_scene.JournalFolder()));
+    const BatchSummary undone = m_scene.Undo(1);
+    EXPECT_GE(undone.error.Find(u"it holds a kind of change that this program does not know: content"), 0);
+    EXPECT_EQ(undone.obstacle, Obstacle::JournalNotRead);
+    EXPECT_EQ(m_scene.Now(), AllAre("new"));
+    std::ostringstream after;
+    after << std::ifstream(journal, std::ios::binary).rdbuf();
+    EXPECT_EQ(after.str(), before.str());
+}
+
+TEST_F(Changes, AreRefusedWhereTheirKindNeverWritesSuchTexts)
+{
+    Journal journal;
+    NewBatch batch = Make({u"a"});
+    journal.plan = std::move(batch.plan);
+    journal.changes = std::move(batch.changes);
+    const std::string text = TextOf(journal);
+    CString problem;
+    ASSERT_TRUE(ReadJournal(text, problem, KindsOfTest()));
+    journal.changes[0].change = std::make_shared<ContentChange>(u"same", u"same");
+    EXPECT_FALSE(ReadJournal(TextOf(journal), problem, KindsOfTest()));
+    EXPECT_GE(problem.Find(u"a change is not as it can be"), 0);
+    journal.changes[0] = {{0, journal.plan.texts->Intern(u"..")}, std::make_shared<ContentChange>(u"old", u"new")};
+    EXPECT_FALSE(ReadJournal(TextOf(journal), problem, KindsOfTest()));
+}
+
+TEST_F(Changes, GoTogetherWithRenamesOfTheSameFiles)
+{
+    m_scene.Rename(u"a", u"x").Rename(u"b", u"a");
+    const auto make = [this] {
+        NewBatch batch = Make({u"a", u"b"});
+        const PlanIndex folder = batch.changes[0].place.folder;
+        const auto place = [&](std::u16string_view name) {
+            return Place{folder, batch.plan.texts->Intern(name)};
+        };
+        batch.plan.entries.resize(2);
+        batch.plan.entries[0].from = place(u"a");
+        batch.plan.entries[0].to = place(u"x");
+        batch.plan.entries[1].from = place(u"b");
+        batch.plan.entries[1].to = place(u"a");
+        batch.plan.entries[1].waitsFor = 0;
+        batch.plan.steps = {{PlanStep::Action::Rename, 0}, {PlanStep::Action::Rename, 1}};
+        batch.states = m_scene.LookAtSources();
+        return batch;
+    };
+    const BatchSummary applied = m_scene.batches.Apply(make, [](std::size_t, const RenameResult&) {}, {});
+    EXPECT_EQ(applied.error, u"");
+    EXPECT_EQ(applied.done, 4u);
+    EXPECT_EQ(m_scene.Now(), (FolderSnapshot{{"a", "new"}, {"c", "old"}, {"x", "new"}}));
+    EXPECT_EQ(m_scene.Undo().done, 4u);
+    EXPECT_EQ(m_scene.Now(), AllAre("old"));
+}
+
+} // namespace
