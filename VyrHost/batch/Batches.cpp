@@ -24,6 +24,7 @@ namespace VyrHost::Batch {
 namespace {
 
 using VyrLibraryUtils::FileUtils;
+using VyrPlatform::FileState;
 
 /// What is said of a batch that cannot be recovered.
 constexpr const char16_t* wayOut = u"; \"vyr recover --abandon\" goes on without the batch";

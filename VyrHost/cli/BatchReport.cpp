@@ -54,7 +54,7 @@ int BatchReport::Write(const Batch::BatchSummary& summary)
     if (summary.wasStopped)
         Complain("interrupted" + (m_style.quiet ? ": " + Ui::SummaryOf(summary) : std::string("; ")) + "\"vyr undo " +
                  std::to_string(summary.number) +
-                 (m_style.direction == Ui::BatchDirection::Back ? "\" goes on" : "\" takes back what was done"));
+                 (m_style.direction == Batch::Direction::Backward ? "\" goes on" : "\" undoes what was done"));
     return Finish(output, JudgeSummary(summary));
 }
 
