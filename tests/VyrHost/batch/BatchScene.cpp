@@ -57,7 +57,8 @@ BatchSettings SettingsIn(const CString& journalFolder)
 }
 
 BatchScene::BatchScene(FileOperations& files, const ChangeKinds& kinds)
-    : batches(files, {.journalFolder = m_scratch.Path(u"journal"), .keeping = {}, .wait = {}, .kinds = kinds})
+    : m_files(files),
+      batches(files, {.journalFolder = m_scratch.Path(u"journal"), .keeping = {}, .wait = {}, .kinds = kinds})
 {
     m_scratch.MakeFolder(u"files");
 }

@@ -1,6 +1,7 @@
 // Changes that are no renames, proved by a small kind: the content of a file.
 #include <VyrHost/batch/Change.h>
 
+#include <VyrHost/batch/SourceStates.h>
 #include <gmock/gmock.h>
 #include <tests/VyrHost/batch/BatchScene.h>
 #include <tests/VyrHost/batch/CutOffScene.h>
@@ -293,7 +294,7 @@ TEST_F(Changes, GoTogetherWithRenamesOfTheSameFiles)
         batch.plan.entries[1].to = place(u"a");
         batch.plan.entries[1].waitsFor = 0;
         batch.plan.steps = {{PlanStep::Action::Rename, 0}, {PlanStep::Action::Rename, 1}};
-        batch.states = m_scene.LookAtSources();
+        batch.states = LookAtSources(batch.plan, SystemFiles());
         return batch;
     };
     const BatchSummary applied = m_scene.batches.Apply(make, [](std::size_t, const RenameResult&) {}, {});
