@@ -29,7 +29,8 @@ struct FolderTraits
 [[nodiscard]] std::optional<FolderTraits> GetFolderTraits(const CString& path);
 
 /// Gives the folder at `path` the owner and the extended attributes of `traits`. What the user may not give, or the
-/// file system cannot keep, is left out.
+/// file system cannot keep, is left out. On Linux a folder that its owner may not read becomes one that the owner may:
+/// SetFolderMode comes afterwards.
 /// @return 0, or the system's error code.
 [[nodiscard]] std::uint32_t SetFolderExtras(const CString& path, const FolderTraits& traits);
 

@@ -83,7 +83,8 @@ void FolderSet::List(Folder& folder)
         listed.push_back({texts.Intern(listing.Name()), listing.Kind(), listing.IsLink()});
     folder.error = listing.Error();
     folder.exists = folder.error == 0;
-    folder.names.SetFolding(VyrHostPlatform::GetNameFolding(folder.path));
+    if (folder.exists)
+        folder.names.SetFolding(VyrHostPlatform::GetNameFolding(folder.path));
     folder.names.Reserve(listed.size());
     // Whoever goes through them in this order finds the texts side by side.
     SortNaturally(listed);

@@ -4,6 +4,8 @@
 #include <VyrHost/rename/NameValidator.h>
 #include <VyrPlatform/files/FileSystem.h>
 
+#include <vector>
+
 namespace VyrHost::Rename {
 
 using VyrHostPlatform::NameFault;
@@ -11,36 +13,52 @@ using VyrPlatform::FileSystem::Kind;
 
 TargetFolders::Target TargetFolders::Open(const CString& path, const CString& shown)
 {
-    const std::uint32_t number = m_folders.Open(path, shown);
-    if (m_folders[number].exists)
-        return {.folder = number, .device = m_folders[number].device};
-    const auto known = m_targets.find(number);
-    if (known != m_targets.end())
-        return known->second;
-    const Target target = Claim(number);
-    m_targets.emplace(number, target);
-    return target;
+    // The folders that are not there yet, the innermost first.
+    std::vector<std::uint32_t> missing;
+    std::uint32_t number = m_folders.Open(path, shown);
+    std::optional<Target> target = Find(number);
+    while (!target) {
+        missing.push_back(number);
+        number = m_folders.Open(m_folders[m_folders[number].parent].path, {});
+        target = Find(number);
+    }
+    for (; !missing.empty(); missing.pop_back()) {
+        target = Claim(missing.back(), *target);
+        m_targets.emplace(missing.back(), *target);
+    }
+    return *target;
 }
 
-/// Takes the name of a folder that is not there yet, and of those above it.
-TargetFolders::Target TargetFolders::Claim(std::uint32_t number)
+/// What is known of a folder; nothing for one that has to be claimed.
+std::optional<TargetFolders::Target> TargetFolders::Find(std::uint32_t number) const
 {
-    Model::Folder& folder = m_folders[number];
+    const Model::Folder& folder = m_folders[number];
+    if (folder.exists)
+        return Target{.folder = number, .device = folder.device};
+    if (const auto known = m_targets.find(number); known != m_targets.end())
+        return known->second;
     if (VyrPlatform::FileSystem::IsFolder(folder.path))
-        return {.folder = number, .reason = Model::Reason::FolderNotRead};
-    const NameValidity validity = ValidateName(folder.name, {});
-    if (folder.parent == Model::NoFolder || validity.reason != Model::Reason::None)
-        return {.folder = number, .reason = Model::Reason::BadFolder};
-    const Target parent = Open(m_folders[folder.parent].path, {});
+        return Target{.folder = number, .reason = Model::Reason::FolderNotRead};
+    if (folder.parent == Model::NoFolder || ValidateName(folder.name, {}).reason != Model::Reason::None)
+        return Target{.folder = number, .reason = Model::Reason::BadFolder};
+    return std::nullopt;
+}
+
+/// Takes the name of a folder that is not there yet in the folder `parent`.
+TargetFolders::Target TargetFolders::Claim(std::uint32_t number, const Target& parent)
+{
     if (parent.reason != Model::Reason::None)
         return {.folder = number, .reason = parent.reason};
-    Model::NameRecord& record = m_folders[parent.folder].names.Add(folder.name);
+    Model::Folder& folder = m_folders[number];
+    Model::NameTable& siblings = m_folders[parent.folder].names;
+    folder.names.SetFolding(siblings.Folding());
+    Model::NameRecord& record = siblings.Add(folder.name);
     if (record.kind != Kind::Missing)
         return {.folder = number, .reason = Model::Reason::BadFolder};
+    const NameFault warning = ValidateName(folder.name, {}).warning;
     // Its file system may take the name for that of a folder which is claimed already.
-    const Target target{.folder = number,
-                        .warning = validity.warning == NameFault::None ? parent.warning : validity.warning,
-                        .device = parent.device};
+    const Target target{
+        .folder = number, .warning = warning == NameFault::None ? parent.warning : warning, .device = parent.device};
     const auto [claimed, isNew] = m_claimed.try_emplace(&record, target);
     if (isNew) {
         record.holder = Model::NewFolder;

@@ -33,7 +33,8 @@ public:
     Target Open(const CString& path, const CString& shown);
 
 private:
-    [[nodiscard]] Target Claim(std::uint32_t number);
+    [[nodiscard]] std::optional<Target> Find(std::uint32_t number) const;
+    [[nodiscard]] Target Claim(std::uint32_t number, const Target& parent);
 
     Model::FolderSet& m_folders;
     /// What was found for each folder.

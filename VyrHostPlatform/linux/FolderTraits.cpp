@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 
 namespace VyrHostPlatform {
 
@@ -14,9 +15,17 @@ using namespace VyrPlatform;
 
 namespace {
 
-Descriptor OpenFolder(const CString& path)
+/// Opens the folder at `path`. Where its mode forbids that to its owner, the owner gets access before.
+int OpenFolder(const CString& path)
 {
-    return Descriptor(open(NativePath(path).Get(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    constexpr int how = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+    const NativePath native(path);
+    const int folder = open(native.Get(), how);
+    struct stat status;
+    if (folder >= 0 || errno != EACCES || lstat(native.Get(), &status) != 0 || !S_ISDIR(status.st_mode) ||
+        chmod(native.Get(), PermissionsOf(status) | S_IRWXU) != 0)
+        return folder;
+    return open(native.Get(), how);
 }
 
 } // namespace
@@ -36,7 +45,7 @@ std::optional<FolderTraits> GetFolderTraits(const CString& path)
 
 std::uint32_t SetFolderExtras(const CString& path, const FolderTraits& traits)
 {
-    const Descriptor folder = OpenFolder(path);
+    const Descriptor folder(OpenFolder(path));
     if (!folder.IsOpen())
         return static_cast<std::uint32_t>(errno);
     static_cast<void>(SetOwner(folder.Get(), traits.owner, traits.group));
@@ -45,7 +54,7 @@ std::uint32_t SetFolderExtras(const CString& path, const FolderTraits& traits)
 
 std::uint32_t SetFolderMode(const CString& path, const FolderTraits& traits)
 {
-    const Descriptor folder = OpenFolder(path);
+    const Descriptor folder(OpenFolder(path));
     if (!folder.IsOpen())
         return static_cast<std::uint32_t>(errno);
     const bool hasOwner = SetOwner(folder.Get(), traits.owner, traits.group);

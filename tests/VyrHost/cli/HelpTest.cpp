@@ -109,9 +109,9 @@ TEST_F(Help, ListsTheLettersOfDates)
         EXPECT_THAT(letters, HasSubstr(std::string(" ") + letter + " ")) << letter;
 }
 
-TEST_F(Help, SaysThatNothingToTakeBackIsTheExitCodeFour)
+TEST_F(Help, SaysThatNothingToUndoIsTheExitCodeFour)
 {
-    EXPECT_THAT(Run({u"undo", u"--help"}).output, HasSubstr("  4    nothing was done: there is nothing to take back,"));
+    EXPECT_THAT(Run({u"undo", u"--help"}).output, HasSubstr("  4    nothing was done: there is nothing to undo,"));
     EXPECT_EQ(Run({u"undo"}).exitCode, 4);
 }
 
