@@ -82,7 +82,9 @@ void Gather(Node& node, const std::string& path, bool isPlainPath, Facts& facts)
         }
         if (value.type == 1 && value.data.size() % 2 == 0) {
             std::u16string units(value.data.size() / 2, u'\0');
-            std::memcpy(units.data(), value.data.data(), units.size() * 2);
+            // An empty value has no bytes to point to.
+            if (!units.empty())
+                std::memcpy(units.data(), value.data.data(), units.size() * 2);
             units.resize(std::min(units.find(u'\0'), units.size()));
             const std::string text = Encoding::ToUtf8(units);
             // The other reader says "(null)" for a text without even a terminator.
