@@ -1,6 +1,5 @@
 // A host outside the library's tree. It shows the numbered names that the files of a folder would get, and its own
 // version; it renames nothing.
-#include <VyrHostPlatform/Console.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/VersionUtils.h>
@@ -8,18 +7,18 @@
 #include <VyrPlatform/text/Encoding.h>
 
 #include <algorithm>
+#include <iostream>
 #include <vector>
 
-using VyrHostPlatform::Console::Stream;
 using VyrLibraryFuncs::NameFuncs;
 using VyrLibraryUtils::FileUtils;
 using VyrLibraryUtils::VersionUtils;
 
 namespace {
 
-void PrintLine(Stream stream, const CString& line)
+void PrintLine(std::ostream& stream, const CString& line)
 {
-    VyrHostPlatform::Console::Write(stream, VyrPlatform::Encoding::ToUtf8(line + u"\n"));
+    stream << VyrPlatform::Encoding::ToUtf8(line) << '\n';
 }
 
 /// The host's product name, product version and the four numbers of its file version.
@@ -61,20 +60,20 @@ NameFuncs::ITEM MakeRule()
 
 int main(int count, char** arguments)
 {
-    const std::vector<CString> paths = VyrHostPlatform::Console::GetArguments(count, arguments);
-    if (paths.size() != 1) {
-        PrintLine(Stream::Error, u"usage: PreviewHost FOLDER");
+    if (count != 2) {
+        PrintLine(std::cerr, u"usage: PreviewHost FOLDER");
         return 2;
     }
-    PrintLine(Stream::Output, GetVersionLine());
+    PrintLine(std::cout, GetVersionLine());
+    const CString folder = VyrPlatform::Encoding::FromUtf8(arguments[1]);
     NameFuncs::ITEM item = MakeRule();
-    for (const CString& name : GetFileNames(paths.front())) {
-        item.filePath = FileUtils::GetCombinePath(paths.front(), name);
+    for (const CString& name : GetFileNames(folder)) {
+        item.filePath = FileUtils::GetCombinePath(folder, name);
         item.dirPath = FileUtils::GetSplitDirPath(item.filePath);
         item.fileName = NameFuncs::GetFName(item.filePath);
         item.extension = NameFuncs::GetExtension(item.filePath);
         const CString renamed = NameFuncs::GetRenameFilePath(item);
-        PrintLine(Stream::Output, name + u" -> " + FileUtils::GetSplitFileName(renamed));
+        PrintLine(std::cout, name + u" -> " + FileUtils::GetSplitFileName(renamed));
         ++item.index;
     }
     return 0;
