@@ -2,9 +2,15 @@
 // source because only within one source is that order certain; no other source has a dynamic initialiser.
 #include <VyrLibraryFuncs/frame/VyrLibraryFuncsApp.h>
 #include <VyrLibraryFuncs/html/OutputFuncs.h>
+#include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
 #include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>
 #include <VyrLibraryFuncs/programs/RegistryFuncs.h>
+#include <VyrLibraryFuncs/select/SearchFuncs.h>
 #include <VyrLibraryFuncs/xmlinfo/UpdatesFuncs.h>
+#include <VyrLibraryUtils/DateTimeUtils.h>
+#include <VyrPlatform/time/Clock.h>
+
+using VyrLibraryUtils::DateTimeUtils;
 
 namespace VyrLibraryFuncs {
 
@@ -15,6 +21,18 @@ CString ProgramsFeaturesFuncs::m_outputFilePath;
 int ProgramsFeaturesFuncs::m_openOutputFile = 1;
 CString RegistryFuncs::m_productKeyPattern = u"SOFTWARE\\%s\\%s\\%d.0";
 CString RegistryFuncs::m_uninstallKeyPattern = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\%s";
+int SearchFuncs::m_searchClosed = 0;
+int SearchFuncs::m_dateTimeSearch = 0;
+int SearchFuncs::m_dateTimeTarget = 0;
+int SearchFuncs::m_dateTimeRange = 0;
+COleDateTime SearchFuncs::m_dateTimeFromDateTime =
+    DateTimeFuncs::GetCalDateTime(DateTimeUtils::GetBeginDateTime(VyrPlatform::Clock::Now()), 0, 0, -7);
+COleDateTime SearchFuncs::m_dateTimeToDateTime = DateTimeUtils::GetEndDateTime(VyrPlatform::Clock::Now());
+int SearchFuncs::m_sizeSearch = 0;
+int SearchFuncs::m_sizeTarget = 0;
+int SearchFuncs::m_sizeRange = 0;
+std::int64_t SearchFuncs::m_sizeFromSize = 0;
+std::int64_t SearchFuncs::m_sizeToSize = 1024;
 std::vector<UpdatesFuncs::UPDATEITEM> UpdatesFuncs::m_updateItemsList;
 CString UpdatesFuncs::m_type;
 CString UpdatesFuncs::m_productName;

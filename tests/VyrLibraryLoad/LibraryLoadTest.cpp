@@ -4,7 +4,9 @@
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrPlatform/common/process/ApplicationCounts.h>
 
+#include <tests/support/Describe.h>
 #include <tests/support/DynamicLibrary.h>
+#include <tests/support/FixedClock.h>
 
 #include "PublishedClasses.h"
 
@@ -18,7 +20,9 @@
 #include <set>
 
 using VyrLibraryFuncs::NameFuncs;
+using VyrTests::Describe;
 using VyrTests::DynamicLibrary;
+using VyrTests::FixedClock;
 
 namespace {
 
@@ -89,8 +93,8 @@ TEST(LibraryLoad, HeadersPublishTheClassesThatTheTestsKnow)
          {"VyrLibraryFuncs::NameFuncs", "VyrLibraryFuncs::DateTimeFuncs", "VyrLibraryFuncs::AttributesFuncs",
           "VyrLibraryFuncs::UnblockFuncs", "VyrLibraryFuncs::LogFuncs", "VyrLibraryFuncs::ProgramsFeaturesFuncs",
           "VyrLibraryFuncs::RegistryFuncs", "VyrLibraryFuncs::BrowserFuncs", "VyrLibraryFuncs::FeatureControlFuncs",
-          "VyrLibraryFuncs::ControlPanelFuncs", "VyrLibraryUtils::FileUtils", "VyrLibraryUtils::FolderUtils",
-          "VyrLibraryUtils::StringUtils", "VyrLibraryUtils::DateTimeUtils"})
+          "VyrLibraryFuncs::ControlPanelFuncs", "VyrLibraryFuncs::SearchFuncs", "VyrLibraryUtils::FileUtils",
+          "VyrLibraryUtils::FolderUtils", "VyrLibraryUtils::StringUtils", "VyrLibraryUtils::DateTimeUtils"})
         EXPECT_TRUE(names.contains(name)) << name;
 }
 
@@ -172,6 +176,10 @@ TEST(LibraryLoad, OperationsAreCalledByName)
     ASSERT_TRUE(isNumbered);
     EXPECT_EQ(isNumbered(item), 1);
 
+    auto* const sizeTo = Get<std::int64_t()>(library, "VyrLibraryFuncs::SearchFuncs::GetSizeToSize()");
+    ASSERT_TRUE(sizeTo);
+    EXPECT_EQ(sizeTo(), 1024);
+
     auto* const write = Get<int(CString)>(library, "VyrLibraryFuncs::LogFuncs::Write(CString)");
     ASSERT_TRUE(write);
     EXPECT_EQ(write(u"a line of the log"), 0);
@@ -189,6 +197,27 @@ TEST(LibraryLoad, ApplicationObjectSaysThatTheLibraryMayBeUsed)
     construct(application);
     EXPECT_EQ(initialise(application), 1);
     destroy(application);
+}
+
+TEST(LibraryLoad, SearchDatesReachFromSevenDaysBeforeTheDayOfLoadingToItsEnd)
+{
+    struct Load
+    {
+        COleDateTime now;
+        const char* from;
+        const char* to;
+    };
+    for (const Load& load : {Load{{2024, 3, 3, 14, 30, 15}, "2024-02-25 00:00:00", "2024-03-03 23:59:59"},
+                             Load{{2023, 1, 7, 0, 0, 0}, "2022-12-31 00:00:00", "2023-01-07 23:59:59"}}) {
+        const FixedClock clock(load.now);
+        const DynamicLibrary library("VyrLibraryFuncs");
+        ASSERT_TRUE(library.IsLoaded());
+        auto* const from = Get<COleDateTime()>(library, "VyrLibraryFuncs::SearchFuncs::GetDateTimeFromDateTime()");
+        auto* const to = Get<COleDateTime()>(library, "VyrLibraryFuncs::SearchFuncs::GetDateTimeToDateTime()");
+        ASSERT_TRUE(from && to);
+        EXPECT_EQ(Describe(from()), load.from);
+        EXPECT_EQ(Describe(to()), load.to);
+    }
 }
 
 TEST(LibraryLoad, LoadingMakesAndInitialisesOneApplicationObjectAndUnloadingDestroysIt)
