@@ -39,7 +39,7 @@ CString ToText(std::string_view bytes)
 
 CString ReadTag(const CString& path, PictureTag tag)
 {
-    std::array<char, Pictures::FileSource::BeginningSize> beginning;
+    std::array<char, Pictures::FileSource::beginningSize> beginning;
     const VyrPlatform::FileReader file(path, std::as_writable_bytes(std::span(beginning)));
     Pictures::FileSource source(file, std::string_view(beginning.data(), file.BeginningSize()));
     return ToText(Pictures::ReadPicture(source, tag));

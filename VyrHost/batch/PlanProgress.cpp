@@ -5,16 +5,7 @@
 
 namespace VyrHost::Batch {
 
-namespace {
-
-CString JoinPath(const CString& folder, std::u16string_view name)
-{
-    const char16_t separator = VyrPlatform::FileSystem::Separator();
-    const bool hasSeparator = folder.IsEmpty() || VyrPlatform::FileSystem::IsSeparator(folder[folder.GetLength() - 1]);
-    return CString::Join({folder, hasSeparator ? std::u16string_view() : std::u16string_view(&separator, 1), name});
-}
-
-} // namespace
+using VyrPlatform::FileSystem::JoinPath;
 
 PlanProgress::PlanProgress(const Model::RenamePlan& plan, std::uint64_t token)
     : m_plan(plan), m_token(token), m_locations(plan.entries.size(), Location::Before),

@@ -28,16 +28,16 @@ bool IsPortDigit(char16_t unit)
 
 bool IsReserved(std::u16string_view name)
 {
-    constexpr std::array<std::u16string_view, 6> Words = {u"CON", u"PRN", u"AUX", u"NUL", u"CONIN$", u"CONOUT$"};
+    constexpr std::array<std::u16string_view, 6> words = {u"CON", u"PRN", u"AUX", u"NUL", u"CONIN$", u"CONOUT$"};
     std::u16string_view stem = name.substr(0, name.find(u'.'));
     stem = stem.substr(0, stem.find_last_not_of(u' ') + 1);
     if (stem.size() == 4 && IsPortDigit(stem[3]))
         return EqualsWord(stem.substr(0, 3), u"COM") || EqualsWord(stem.substr(0, 3), u"LPT");
-    return std::any_of(Words.begin(), Words.end(), [stem](auto word) { return EqualsWord(stem, word); });
+    return std::any_of(words.begin(), words.end(), [stem](auto word) { return EqualsWord(stem, word); });
 }
 
 /// The characters that Windows forbids, by their code (all are ASCII).
-constexpr auto WindowsForbidden = [] {
+constexpr auto windowsForbidden = [] {
     std::array<bool, 0x80> forbidden{};
     std::fill_n(forbidden.begin(), 0x20, true);
     for (const char16_t unit : std::u16string_view(u"<>:\"/\\|?*"))
@@ -48,7 +48,7 @@ constexpr auto WindowsForbidden = [] {
 bool HasForbiddenOnWindows(std::u16string_view name)
 {
     return std::any_of(name.begin(), name.end(),
-                       [](char16_t unit) { return unit < WindowsForbidden.size() && WindowsForbidden[unit]; });
+                       [](char16_t unit) { return unit < windowsForbidden.size() && windowsForbidden[unit]; });
 }
 
 /// The first fault that this system itself does not take.

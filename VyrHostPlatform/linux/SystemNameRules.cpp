@@ -19,9 +19,9 @@ bool IsForbidden(char16_t unit) noexcept
 
 bool IsTooLong(std::u16string_view name)
 {
-    constexpr std::size_t MostBytes = 255;
-    constexpr std::size_t MostBytesOfUnit = 3;
-    return name.size() * MostBytesOfUnit > MostBytes && Encoding::ToNameBytes(name).size() > MostBytes;
+    constexpr std::size_t mostBytes = 255;
+    constexpr std::size_t mostBytesOfUnit = 3;
+    return name.size() * mostBytesOfUnit > mostBytes && Encoding::ToNameBytes(name).size() > mostBytes;
 }
 
 } // namespace VyrHostPlatform::SystemNameRules

@@ -15,8 +15,8 @@ bool IsForbidden(char16_t unit) noexcept
 
 bool IsTooLong(std::u16string_view name)
 {
-    constexpr std::size_t MostUnits = 255;
-    return name.size() > MostUnits;
+    constexpr std::size_t mostUnits = 255;
+    return name.size() > mostUnits;
 }
 
 } // namespace VyrHostPlatform::SystemNameRules

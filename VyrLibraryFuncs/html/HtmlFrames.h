@@ -7,24 +7,24 @@
 
 namespace VyrLibraryFuncs {
 
-inline constexpr std::u16string_view LineEnd = u"\r\n";
+inline constexpr std::u16string_view lineEnd = u"\r\n";
 
 /// `tag` on a line of its own.
 [[nodiscard]] inline CString OnLine(std::u16string_view tag)
 {
-    return CString::Join({tag, LineEnd});
+    return CString::Join({tag, lineEnd});
 }
 
 /// `tag` with an empty line behind it.
 [[nodiscard]] inline CString BeforeEmptyLine(std::u16string_view tag)
 {
-    return CString::Join({tag, LineEnd, LineEnd});
+    return CString::Join({tag, lineEnd, lineEnd});
 }
 
 /// `tag` on an indented line.
 [[nodiscard]] inline CString OnIndentedLine(std::u16string_view tag)
 {
-    return CString::Join({u"\t", tag, LineEnd});
+    return CString::Join({u"\t", tag, lineEnd});
 }
 
 /// `tag`, and the end of the line unless `newLine` is 0.

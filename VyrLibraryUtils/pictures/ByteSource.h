@@ -17,14 +17,14 @@ class ByteSource
 {
 public:
     /// The most bytes that one Fetch may ask for.
-    static constexpr std::size_t MaximumFetch = 1024;
+    static constexpr std::size_t maximumFetch = 1024;
 
     ByteSource(const ByteSource&) = delete;
     ByteSource& operator=(const ByteSource&) = delete;
     virtual ~ByteSource() = default;
 
     [[nodiscard]] std::uint64_t Size() const noexcept { return m_size; }
-    /// The `count` bytes at `offset`, 1 to MaximumFetch of them, valid until the next Fetch; an empty view unless all
+    /// The `count` bytes at `offset`, 1 to maximumFetch of them, valid until the next Fetch; an empty view unless all
     /// of them are there.
     [[nodiscard]] virtual std::string_view Fetch(std::uint64_t offset, std::size_t count) = 0;
 
@@ -45,7 +45,7 @@ class FileSource final : public ByteSource
 {
 public:
     /// How much of a file's beginning is worth reading at once: enough for the tags of almost every JPEG.
-    static constexpr std::size_t BeginningSize = 2048;
+    static constexpr std::size_t beginningSize = 2048;
 
     /// `beginning` is what was read of `file` when it was opened. Both must outlive this source.
     FileSource(const VyrPlatform::FileReader& file, std::string_view beginning)
@@ -58,7 +58,7 @@ private:
     std::string_view m_beginning;
     std::size_t m_windowSize = 0;
     std::uint64_t m_windowOffset = 0;
-    std::array<char, MaximumFetch> m_window;
+    std::array<char, maximumFetch> m_window;
 };
 
 /// Bytes in memory.

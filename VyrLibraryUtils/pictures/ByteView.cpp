@@ -32,7 +32,7 @@ std::string ByteView::Copy(std::size_t limit) const
     std::string copy;
     copy.reserve(size);
     while (copy.size() < size) {
-        const std::string_view piece = Fetch(copy.size(), std::min(size - copy.size(), ByteSource::MaximumFetch));
+        const std::string_view piece = Fetch(copy.size(), std::min(size - copy.size(), ByteSource::maximumFetch));
         if (piece.empty())
             break;
         copy += piece;

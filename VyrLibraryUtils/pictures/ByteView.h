@@ -30,7 +30,7 @@ public:
     [[nodiscard]] ByteView From(std::uint64_t offset) const { return Part(offset, m_size); }
     /// At most `size` bytes from `offset` on: fewer when the view ends before.
     [[nodiscard]] ByteView Part(std::uint64_t offset, std::uint64_t size) const;
-    /// The `count` bytes at `offset` (1 to ByteSource::MaximumFetch), valid until the next read; an empty view unless
+    /// The `count` bytes at `offset` (1 to ByteSource::maximumFetch), valid until the next read; an empty view unless
     /// all of them are there.
     [[nodiscard]] std::string_view Fetch(std::uint64_t offset, std::size_t count) const;
     [[nodiscard]] bool StartsWith(std::string_view bytes) const;
@@ -65,7 +65,7 @@ public:
     [[nodiscard]] std::uint8_t U8() { return static_cast<std::uint8_t>(Unsigned(1)); }
     [[nodiscard]] std::uint16_t U16() { return static_cast<std::uint16_t>(Unsigned(2)); }
     [[nodiscard]] std::uint32_t U32() { return static_cast<std::uint32_t>(Unsigned(4)); }
-    /// The next `count` bytes (1 to ByteSource::MaximumFetch), valid until the next read; empty when not all are there.
+    /// The next `count` bytes (1 to ByteSource::maximumFetch), valid until the next read; empty when not all are there.
     [[nodiscard]] std::string_view Bytes(std::size_t count);
     /// Passes over `count` bytes.
     void Skip(std::uint64_t count);

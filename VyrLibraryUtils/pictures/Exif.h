@@ -12,7 +12,7 @@ namespace VyrLibraryUtils::Pictures {
 
 /// The most of an Exif block that is copied or unpacked where it cannot be read in place. Cameras write less than 64
 /// KiB; the rest is for what was converted from other formats.
-constexpr std::size_t LongestExif = 1 << 20;
+constexpr std::size_t longestExif = 1 << 20;
 
 /// The text of `tag` in `block`: a TIFF structure, with or without JPEG's identifier "Exif" and two NULs before it.
 [[nodiscard]] std::string ReadExif(const ByteView& block, PictureTag tag);

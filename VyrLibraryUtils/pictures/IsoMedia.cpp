@@ -118,11 +118,11 @@ std::optional<ByteView> ItemLocations::NextExtent(const ByteView& origin)
 std::string ItemLocations::Join(const Item& item, const ByteView& origin)
 {
     std::string joined;
-    for (std::uint16_t left = item.extentCount; left > 0 && joined.size() < LongestExif; --left) {
+    for (std::uint16_t left = item.extentCount; left > 0 && joined.size() < longestExif; --left) {
         const std::optional<ByteView> extent = NextExtent(origin);
         if (!extent)
             return {};
-        joined += extent->Copy(LongestExif - joined.size());
+        joined += extent->Copy(longestExif - joined.size());
     }
     return joined;
 }

@@ -6,41 +6,41 @@
 namespace VyrLibraryUtils::Pictures {
 namespace {
 
-constexpr std::uint8_t MarkerPrefix = 0xFF;
-constexpr std::uint8_t Temporary = 0x01;
-constexpr std::uint8_t FirstRestart = 0xD0;
-constexpr std::uint8_t StartOfImage = 0xD8;
-constexpr std::uint8_t EndOfImage = 0xD9;
-constexpr std::uint8_t StartOfScan = 0xDA;
-constexpr std::uint8_t ExifSegment = 0xE1;
-constexpr std::string_view ExifIdentifier("Exif\0", 5);
+constexpr std::uint8_t markerPrefix = 0xFF;
+constexpr std::uint8_t temporary = 0x01;
+constexpr std::uint8_t firstRestart = 0xD0;
+constexpr std::uint8_t startOfImage = 0xD8;
+constexpr std::uint8_t endOfImage = 0xD9;
+constexpr std::uint8_t startOfScan = 0xDA;
+constexpr std::uint8_t exifSegment = 0xE1;
+constexpr std::string_view exifIdentifier("Exif\0", 5);
 /// The identifier and one more byte, which writers leave at will.
-constexpr std::uint64_t ExifHeaderSize = 6;
+constexpr std::uint64_t exifHeaderSize = 6;
 /// More than any writer leaves; a rescued file that is nothing but fill bytes ends here.
-constexpr int MostBytesBetweenSegments = 4096;
+constexpr int mostBytesBetweenSegments = 4096;
 
 bool StandsAlone(std::uint8_t marker)
 {
-    return marker == Temporary || (marker >= FirstRestart && marker <= StartOfImage);
+    return marker == temporary || (marker >= firstRestart && marker <= startOfImage);
 }
 
 bool EndsHeader(std::uint8_t marker)
 {
-    return marker == StartOfScan || marker == EndOfImage;
+    return marker == startOfScan || marker == endOfImage;
 }
 
-/// The next marker; EndOfImage where there is none. Fill bytes before it are passed over, and so is what a careless
+/// The next marker; endOfImage where there is none. Fill bytes before it are passed over, and so is what a careless
 /// writer left between two segments.
 std::uint8_t NextMarker(ByteCursor& jpeg)
 {
     bool isPrefixed = false;
-    for (int left = MostBytesBetweenSegments; left > 0 && !jpeg.Failed(); --left) {
+    for (int left = mostBytesBetweenSegments; left > 0 && !jpeg.Failed(); --left) {
         const std::uint8_t byte = jpeg.U8();
-        if (isPrefixed && byte != MarkerPrefix && byte != 0)
+        if (isPrefixed && byte != markerPrefix && byte != 0)
             return byte;
-        isPrefixed = byte == MarkerPrefix;
+        isPrefixed = byte == markerPrefix;
     }
-    return EndOfImage;
+    return endOfImage;
 }
 
 } // namespace
@@ -60,9 +60,9 @@ std::string ReadJpeg(const ByteView& jpeg, PictureTag tag)
         if (length < 2)
             break;
         const ByteView segment = cursor.Take(length - 2u);
-        if (marker != ExifSegment || !segment.StartsWith(ExifIdentifier))
+        if (marker != exifSegment || !segment.StartsWith(exifIdentifier))
             continue;
-        std::string text = ReadTiff(segment.From(ExifHeaderSize), tag);
+        std::string text = ReadTiff(segment.From(exifHeaderSize), tag);
         if (!text.empty())
             return text;
     }

@@ -12,7 +12,7 @@ namespace VyrLibraryUtils::Pictures {
 namespace {
 
 /// A few bytes can unpack to a megabyte, so a hostile file gets only so many tries.
-constexpr int MostPackedBoxes = 4;
+constexpr int mostPackedBoxes = 4;
 
 /// A packed box begins with the type of what it holds.
 bool IsPackedExif(const IsoBox& box)
@@ -23,7 +23,7 @@ bool IsPackedExif(const IsoBox& box)
 std::string ReadPackedBox(const ByteView& box, PictureTag tag)
 {
     constexpr std::uint64_t typeSize = 4;
-    const std::string unpacked = VyrPlatform::Brotli::Unpack(box.From(typeSize).Copy(LongestExif), LongestExif);
+    const std::string unpacked = VyrPlatform::Brotli::Unpack(box.From(typeSize).Copy(longestExif), longestExif);
     MemorySource source(unpacked);
     return ReadExifItem(ByteView(source), tag);
 }
@@ -33,7 +33,7 @@ std::string ReadPackedBox(const ByteView& box, PictureTag tag)
 std::string ReadJpegXl(const ByteView& jpegXl, PictureTag tag)
 {
     ByteCursor cursor(jpegXl, ByteOrder::Big);
-    int packedLeft = MostPackedBoxes;
+    int packedLeft = mostPackedBoxes;
     while (const std::optional<IsoBox> box = NextBox(cursor)) {
         std::string text;
         if (box->type == FourCc("Exif"))

@@ -13,12 +13,12 @@ namespace VyrLibraryUtils::Pictures {
 namespace {
 
 /// JPEG's segments, kept without a picture.
-constexpr std::string_view BareSegments = "\xFF\x01"
+constexpr std::string_view bareSegments = "\xFF\x01"
                                           "Exiv2";
-constexpr std::string_view PngSignature = "\x89PNG\r\n\x1A\n";
+constexpr std::string_view pngSignature = "\x89PNG\r\n\x1A\n";
 constexpr std::string_view JpegXlSignature("\0\0\0\x0CJXL \r\n\x87\n", 12);
-constexpr std::string_view RafSignature = "FUJIFILMCCD-RAW ";
-constexpr std::uint64_t FirstBoxType = 4;
+constexpr std::string_view rafSignature = "FUJIFILMCCD-RAW ";
+constexpr std::uint64_t firstBoxType = 4;
 
 } // namespace
 
@@ -29,18 +29,18 @@ std::string ReadPicture(ByteSource& source, PictureTag tag)
         return ReadJpeg(picture, tag);
     if (IsTiff(picture))
         return ReadTiff(picture, tag);
-    if (picture.From(FirstBoxType).StartsWith("ftyp"))
+    if (picture.From(firstBoxType).StartsWith("ftyp"))
         return ReadIsoMedia(picture, tag);
-    if (picture.StartsWith(PngSignature))
+    if (picture.StartsWith(pngSignature))
         return ReadPng(picture, tag);
     if (IsWebP(picture))
         return ReadWebP(picture, tag);
-    if (picture.StartsWith(RafSignature))
+    if (picture.StartsWith(rafSignature))
         return ReadRaf(picture, tag);
     if (picture.StartsWith(JpegXlSignature))
         return ReadJpegXl(picture, tag);
-    if (picture.StartsWith(BareSegments))
-        return ReadJpeg(picture.From(BareSegments.size()), tag);
+    if (picture.StartsWith(bareSegments))
+        return ReadJpeg(picture.From(bareSegments.size()), tag);
     return {};
 }
 

@@ -8,16 +8,16 @@
 namespace VyrLibraryUtils::Pictures {
 namespace {
 
-constexpr std::uint64_t SignatureSize = 8;
-constexpr std::uint64_t ChecksumSize = 4;
+constexpr std::uint64_t signatureSize = 8;
+constexpr std::uint64_t checksumSize = 4;
 /// The keywords, with the NUL that ends them.
-constexpr std::string_view ExifKeyword("Raw profile type exif\0", 22);
-constexpr std::string_view AppKeyword("Raw profile type APP1\0", 22);
-static_assert(ExifKeyword.size() == AppKeyword.size());
+constexpr std::string_view exifKeyword("Raw profile type exif\0", 22);
+constexpr std::string_view appKeyword("Raw profile type APP1\0", 22);
+static_assert(exifKeyword.size() == appKeyword.size());
 /// Two digits make one byte.
-constexpr std::size_t LongestProfile = 2 * LongestExif;
+constexpr std::size_t longestProfile = 2 * longestExif;
 /// A few kilobytes can unpack to megabytes, so a hostile file gets only so many tries.
-constexpr int MostPackedProfiles = 4;
+constexpr int mostPackedProfiles = 4;
 
 int HexDigit(char digit)
 {
@@ -55,7 +55,7 @@ std::string RawProfile(std::string_view text)
 /// Whether a text chunk is a profile that may be Exif, told by its keyword.
 bool IsProfile(const ByteView& chunk)
 {
-    return chunk.StartsWith(ExifKeyword) || chunk.StartsWith(AppKeyword);
+    return chunk.StartsWith(exifKeyword) || chunk.StartsWith(appKeyword);
 }
 
 std::string ReadProfile(std::string_view text, PictureTag tag)
@@ -69,7 +69,7 @@ std::string ReadProfile(std::string_view text, PictureTag tag)
 class PngReader
 {
 public:
-    PngReader(const ByteView& png, PictureTag tag) : m_cursor(png.From(SignatureSize), ByteOrder::Big), m_tag(tag) {}
+    PngReader(const ByteView& png, PictureTag tag) : m_cursor(png.From(signatureSize), ByteOrder::Big), m_tag(tag) {}
 
     std::string Read()
     {
@@ -80,7 +80,7 @@ public:
             if (!IsFourCc(type) || type == FourCc("IEND"))
                 break;
             text = ReadChunk(type, m_cursor.Take(length));
-            m_cursor.Skip(ChecksumSize);
+            m_cursor.Skip(checksumSize);
         }
         return text;
     }
@@ -91,15 +91,15 @@ private:
         if (type == FourCc("eXIf"))
             return ReadExif(chunk, m_tag);
         if (type == FourCc("tEXt") && IsProfile(chunk))
-            return ReadProfile(chunk.From(ExifKeyword.size()).Copy(LongestProfile), m_tag);
+            return ReadProfile(chunk.From(exifKeyword.size()).Copy(longestProfile), m_tag);
         if (type == FourCc("zTXt") && IsProfile(chunk) && m_packedLeft-- > 0)
-            return ReadProfile(Inflate(chunk.From(ExifKeyword.size() + 1).Copy(LongestProfile), LongestProfile), m_tag);
+            return ReadProfile(Inflate(chunk.From(exifKeyword.size() + 1).Copy(longestProfile), longestProfile), m_tag);
         return {};
     }
 
     ByteCursor m_cursor;
     PictureTag m_tag;
-    int m_packedLeft = MostPackedProfiles;
+    int m_packedLeft = mostPackedProfiles;
 };
 
 } // namespace

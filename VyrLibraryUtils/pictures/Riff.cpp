@@ -6,23 +6,23 @@
 namespace VyrLibraryUtils::Pictures {
 namespace {
 
-constexpr std::uint64_t HeaderSize = 12;
-constexpr std::uint64_t FormOffset = 8;
+constexpr std::uint64_t headerSize = 12;
+constexpr std::uint64_t formOffset = 8;
 /// More than any film has frames. Damaged files go on behind gaps of zeros, which look like empty chunks; this ends one
 /// that is nothing but a gap.
-constexpr int MostChunks = 100000;
+constexpr int mostChunks = 100000;
 
 } // namespace
 
 bool IsWebP(const ByteView& bytes)
 {
-    return bytes.StartsWith("RIFF") && bytes.From(FormOffset).StartsWith("WEBP");
+    return bytes.StartsWith("RIFF") && bytes.From(formOffset).StartsWith("WEBP");
 }
 
 std::string ReadWebP(const ByteView& webp, PictureTag tag)
 {
-    ByteCursor cursor(webp.From(HeaderSize), ByteOrder::Little);
-    for (int left = MostChunks; left > 0 && !cursor.Failed(); --left) {
+    ByteCursor cursor(webp.From(headerSize), ByteOrder::Little);
+    for (int left = mostChunks; left > 0 && !cursor.Failed(); --left) {
         const bool isExif = cursor.Bytes(4) == "EXIF";
         const std::uint32_t size = cursor.U32();
         const ByteView chunk = cursor.Take(size);

@@ -7,10 +7,10 @@
 namespace VyrLibraryUtils::Pictures {
 namespace {
 
-constexpr std::uint16_t ExifDirectoryLink = 0x8769;
-constexpr std::size_t EntrySize = 12;
+constexpr std::uint16_t exifDirectoryLink = 0x8769;
+constexpr std::size_t entrySize = 12;
 /// Far more than any text names, and little enough to copy from a hostile file.
-constexpr std::size_t LongestText = 65535;
+constexpr std::size_t longestText = 65535;
 
 enum class ValueType : std::uint16_t
 {
@@ -65,20 +65,20 @@ std::optional<Entry> TiffReader::Find(std::uint32_t offset, std::uint16_t tag) c
     const std::uint64_t first = std::uint64_t{offset} + 2;
     const std::uint64_t count = ToUnsigned(m_tiff.Fetch(offset, 2), m_order);
     // A directory that is not all there is damaged: an offset into other data mostly looks like that.
-    if (m_tiff.From(first).Size() < count * EntrySize)
+    if (m_tiff.From(first).Size() < count * entrySize)
         return std::nullopt;
     const auto high = static_cast<char>(tag >> 8);
     const auto low = static_cast<char>(tag & 0xFF);
     const bool isBig = m_order == ByteOrder::Big;
     const char wanted[] = {isBig ? high : low, isBig ? low : high};
-    constexpr std::size_t most = ByteSource::MaximumFetch / EntrySize;
+    constexpr std::size_t most = ByteSource::maximumFetch / entrySize;
     for (std::uint64_t done = 0; done < count; done += most) {
-        const auto size = static_cast<std::size_t>(std::min<std::uint64_t>(count - done, most) * EntrySize);
-        const std::string_view entries = m_tiff.Fetch(first + done * EntrySize, size);
-        for (std::size_t place = 0; place < entries.size(); place += EntrySize)
+        const auto size = static_cast<std::size_t>(std::min<std::uint64_t>(count - done, most) * entrySize);
+        const std::string_view entries = m_tiff.Fetch(first + done * entrySize, size);
+        for (std::size_t place = 0; place < entries.size(); place += entrySize)
             if (entries[place] == wanted[0] && entries[place + 1] == wanted[1])
                 return Entry{static_cast<ValueType>(Number(entries, place + 2, 2)), Number(entries, place + 4, 4),
-                             Number(entries, place + 8, 4), first + done * EntrySize + place + 8};
+                             Number(entries, place + 8, 4), first + done * entrySize + place + 8};
     }
     return std::nullopt;
 }
@@ -91,7 +91,7 @@ std::uint32_t TiffReader::LinkedDirectory(const Entry& entry) const
 
 std::optional<Entry> TiffReader::FindInExifDirectory(std::uint32_t offset, std::uint16_t tag) const
 {
-    const std::optional<Entry> link = Find(offset, ExifDirectoryLink);
+    const std::optional<Entry> link = Find(offset, exifDirectoryLink);
     const std::uint32_t linked = link ? LinkedDirectory(*link) : 0;
     return linked == 0 || linked == offset ? std::nullopt : Find(linked, tag);
 }
@@ -100,7 +100,7 @@ std::string TiffReader::Bytes(const Entry& entry) const
 {
     const std::uint64_t offset = entry.count <= 4 ? entry.valueField : entry.valueOrOffset;
     const ByteView value = m_tiff.Part(offset, entry.count);
-    return value.Size() == entry.count ? value.Copy(LongestText) : std::string();
+    return value.Size() == entry.count ? value.Copy(longestText) : std::string();
 }
 
 std::string TiffReader::Text(const Entry& entry) const

@@ -59,5 +59,10 @@ struct Entry
 [[nodiscard]] VYR_PLATFORM_API bool IsSeparator(char16_t unit) noexcept;
 /// The separator that this system writes.
 [[nodiscard]] VYR_PLATFORM_API char16_t Separator() noexcept;
+/// Whether the last unit of `path` separates; false for an empty one.
+[[nodiscard]] VYR_PLATFORM_API bool EndsWithSeparator(std::u16string_view path) noexcept;
+/// The path of `name` in `folder`, with one separator between them: `a/b` for `a` and `b`, and for `a/` and `b`. An
+/// empty `folder` gives `name`.
+[[nodiscard]] VYR_PLATFORM_API CString JoinPath(const CString& folder, std::u16string_view name);
 
 } // namespace VyrPlatform::FileSystem

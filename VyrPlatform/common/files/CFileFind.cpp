@@ -19,11 +19,6 @@ std::size_t FindLastPart(std::u16string_view pattern) noexcept
     return start;
 }
 
-bool EndsWithSeparator(std::u16string_view folder) noexcept
-{
-    return !folder.empty() && FileSystem::IsSeparator(folder.back());
-}
-
 /// Whether `folder`, which ends with a separator, is a root folder: without the separator it would be another one.
 bool IsRootFolder(std::u16string_view folder) noexcept
 {
@@ -32,7 +27,7 @@ bool IsRootFolder(std::u16string_view folder) noexcept
 
 CString WithoutSeparatorAtEnd(std::u16string_view folder)
 {
-    while (EndsWithSeparator(folder) && !IsRootFolder(folder))
+    while (FileSystem::EndsWithSeparator(folder) && !IsRootFolder(folder))
         folder.remove_suffix(1);
     return folder;
 }
@@ -98,11 +93,7 @@ CString CFileFind::GetRoot() const
 
 CString CFileFind::GetFilePath() const
 {
-    const CString root = GetRoot();
-    if (root.IsEmpty() || EndsWithSeparator(root))
-        return root + GetFileName();
-    const char16_t separator = FileSystem::Separator();
-    return CString::Join({root, {&separator, 1}, GetFileName()});
+    return FileSystem::JoinPath(GetRoot(), GetFileName());
 }
 
 bool CFileFind::IsDots() const

@@ -14,9 +14,9 @@ namespace VyrPlatform::ExtendedAttributes {
 
 namespace {
 
-constexpr const char* SambaName = "user.DOSATTRIB";
-constexpr const char* NtfsAttributesName = "system.ntfs_attrib_be";
-constexpr const char* NtfsCreatedName = "system.ntfs_crtime_be";
+constexpr const char* sambaName = "user.DOSATTRIB";
+constexpr const char* ntfsAttributesName = "system.ntfs_attrib_be";
+constexpr const char* ntfsCreatedName = "system.ntfs_crtime_be";
 
 /// The value of one extended attribute; longer than any that is read here, so that a longer one is none of them.
 class Value
@@ -76,16 +76,16 @@ int SetBigEndian(const NativePath& path, const char* name, Number number) noexce
 template <class Change>
 int ChangeSamba(const NativePath& path, Change change)
 {
-    const Value before(path, SambaName);
+    const Value before(path, sambaName);
     if (const int error = before.WhyUnread())
         return error;
     const std::vector<std::byte> value = change(before.Bytes());
-    return value.empty() ? EINVAL : Set(path, SambaName, value);
+    return value.empty() ? EINVAL : Set(path, sambaName, value);
 }
 
 std::optional<std::uint32_t> GetNtfsAttributes(const NativePath& path)
 {
-    const auto attributes = Value(path, NtfsAttributesName).BigEndian(sizeof(std::uint32_t));
+    const auto attributes = Value(path, ntfsAttributesName).BigEndian(sizeof(std::uint32_t));
     return attributes ? std::optional(static_cast<std::uint32_t>(*attributes)) : std::nullopt;
 }
 
@@ -93,19 +93,19 @@ std::optional<std::uint32_t> GetNtfsAttributes(const NativePath& path)
 
 std::optional<std::uint32_t> GetAttributes(const NativePath& path)
 {
-    if (const DosAttribute samba = ParseDosAttribute(Value(path, SambaName).Bytes()); samba.attributes)
+    if (const DosAttribute samba = ParseDosAttribute(Value(path, sambaName).Bytes()); samba.attributes)
         return samba.attributes;
     return GetNtfsAttributes(path);
 }
 
 std::optional<FileTicks> GetSambaCreated(const NativePath& path)
 {
-    return ParseDosAttribute(Value(path, SambaName).Bytes()).created;
+    return ParseDosAttribute(Value(path, sambaName).Bytes()).created;
 }
 
 std::optional<FileTicks> GetNtfsCreated(const NativePath& path)
 {
-    const Value creationTime(path, NtfsCreatedName);
+    const Value creationTime(path, ntfsCreatedName);
     if (creationTime.IsUnsupported())
         return std::nullopt;
     if (const auto created = ToSetTime(creationTime.BigEndian(sizeof(FileTicks))))
@@ -121,7 +121,7 @@ int SetSambaCreated(const NativePath& path, FileTicks created)
 
 int SetNtfsCreated(const NativePath& path, FileTicks created)
 {
-    return SetBigEndian(path, NtfsCreatedName, created);
+    return SetBigEndian(path, ntfsCreatedName, created);
 }
 
 int SetCreated(const NativePath& path, FileTicks created)
@@ -134,9 +134,9 @@ int SetCreated(const NativePath& path, FileTicks created)
 
 int SetAttributes(const NativePath& path, std::uint32_t attributes, bool isWorthKeeping)
 {
-    if (!ParseDosAttribute(Value(path, SambaName).Bytes()).attributes) {
+    if (!ParseDosAttribute(Value(path, sambaName).Bytes()).attributes) {
         if (GetNtfsAttributes(path))
-            return SetBigEndian(path, NtfsAttributesName, attributes);
+            return SetBigEndian(path, ntfsAttributesName, attributes);
         if (!isWorthKeeping)
             return 0;
     }
@@ -146,7 +146,7 @@ int SetAttributes(const NativePath& path, std::uint32_t attributes, bool isWorth
 
 Snapshot::Snapshot(const NativePath& path)
 {
-    for (const char* const name : {SambaName, NtfsAttributesName, NtfsCreatedName}) {
+    for (const char* const name : {sambaName, ntfsAttributesName, ntfsCreatedName}) {
         const Value value(path, name);
         const auto bytes = value.Bytes();
         if (!value.IsUnsupported() && value.WhyUnread() == 0)

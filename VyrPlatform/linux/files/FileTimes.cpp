@@ -3,6 +3,7 @@
 #include "ExtendedAttributes.h"
 #include "FileStatus.h"
 
+#include <VyrPlatform/common/time/Epochs.h>
 #include <VyrPlatform/files/FileAttributes.h>
 
 #include <cerrno>
@@ -27,7 +28,7 @@ struct timespec NewTime(FileTicks wanted, const struct statx_timestamp& before) 
 /// which may be off by centuries, and FAT keeps of the last access only the day.
 bool IsFarOff(const struct statx_timestamp& now, FileTicks wanted) noexcept
 {
-    constexpr FileTicks twoDays = 2 * 86'400 * FileTicks{10'000'000};
+    constexpr FileTicks twoDays = 2 * secondsPerDay * ticksPerSecond;
     const FileTicks ticks = ToTicks(now);
     return wanted != 0 && (ticks > wanted ? ticks - wanted : wanted - ticks) > twoDays;
 }

@@ -1,6 +1,8 @@
 // Keys that are kept in memory.
 #include "MemoryNode.h"
 
+#include <VyrPlatform/common/time/Epochs.h>
+
 #include <chrono>
 #include <utility>
 
@@ -64,10 +66,9 @@ void MemoryNode::MarkDeleted() noexcept
 
 FileTicks CurrentTicks() noexcept
 {
-    using Ticks = std::chrono::duration<FileTicks, std::ratio<1, 10'000'000>>;
-    constexpr std::chrono::seconds from1601To1970(11'644'473'600);
+    using Ticks = std::chrono::duration<FileTicks, std::ratio<1, ticksPerSecond>>;
     const auto sinceUnixEpoch = std::chrono::system_clock::now().time_since_epoch();
-    return (std::chrono::duration_cast<Ticks>(sinceUnixEpoch) + from1601To1970).count();
+    return std::chrono::duration_cast<Ticks>(sinceUnixEpoch).count() + secondsToUnixEpoch * ticksPerSecond;
 }
 
 std::shared_ptr<MemoryNode> AddNode(std::shared_ptr<MemoryNode> start, std::u16string_view path, FileTicks now)

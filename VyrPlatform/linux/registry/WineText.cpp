@@ -1,6 +1,7 @@
 // Reads the text form in which Wine keeps a registry.
 #include "WineText.h"
 
+#include <VyrPlatform/common/time/Epochs.h>
 #include <VyrPlatform/registry/Registry.h>
 
 #include <charconv>
@@ -14,8 +15,6 @@ namespace VyrPlatform::Registry {
 namespace {
 
 constexpr std::string_view head = "WINE REGISTRY Version 2";
-constexpr FileTicks ticksPerSecond = 10'000'000;
-constexpr FileTicks secondsFrom1601To1970 = 11'644'473'600;
 constexpr std::u16string_view linkValue = u"SymbolicLinkValue";
 
 bool IsBlank(char byte) noexcept
@@ -127,7 +126,7 @@ private:
         while (!line.empty() && IsBlank(line.front()))
             line.remove_prefix(1);
         const auto seconds = TakeNumber<std::uint32_t>(line, 10, line.size());
-        const FileTicks moment = seconds ? (*seconds + secondsFrom1601To1970) * ticksPerSecond : 0;
+        const FileTicks moment = seconds ? (*seconds + secondsToUnixEpoch) * ticksPerSecond : 0;
         m_key = AddNode(m_top, m_units, moment);
         if (m_key)
             m_key->SetLastWrite(moment);

@@ -4,7 +4,10 @@
 
 #include "LongPath.h"
 
+#include <VyrPlatform/windows/Handle.h>
+
 #include <algorithm>
+#include <utility>
 #include <windows.h>
 
 namespace VyrPlatform {
@@ -61,24 +64,21 @@ std::uint32_t FileStream::Open(const CString& path, Access access, Creation crea
     if (access != Access::Read && FileAttributes::IsReadOnly(path))
         return ERROR_ACCESS_DENIED;
     const DWORD shared = (sharing.read ? FILE_SHARE_READ : 0U) | (sharing.write ? FILE_SHARE_WRITE : 0U);
-    const HANDLE file = CreateFileW(LongPath(path).Get(), WantedAccess(access), shared, nullptr,
-                                    Disposition(access, creation), FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
+    Handle file(CreateFileW(LongPath(path).Get(), WantedAccess(access), shared, nullptr, Disposition(access, creation),
+                            FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file.IsOpen())
         return GetLastError();
-    m_handle = reinterpret_cast<std::intptr_t>(file);
-    if (GetFileType(file) == FILE_TYPE_DISK)
-        return ERROR_SUCCESS;
-    static_cast<void>(Close());
-    return ERROR_BAD_FILE_TYPE;
+    if (GetFileType(file.Get()) != FILE_TYPE_DISK)
+        return ERROR_BAD_FILE_TYPE;
+    m_handle = reinterpret_cast<std::intptr_t>(file.Release());
+    return ERROR_SUCCESS;
 }
 
 std::uint32_t FileStream::Close() noexcept
 {
     if (!IsOpen())
         return ERROR_SUCCESS;
-    const HANDLE file = ToHandle(m_handle);
-    m_handle = notOpen;
-    return CloseHandle(file) ? ERROR_SUCCESS : GetLastError();
+    return Handle(ToHandle(std::exchange(m_handle, notOpen))).Close();
 }
 
 std::uint32_t FileStream::Read(std::span<std::byte> buffer, std::size_t& count) noexcept

@@ -62,19 +62,17 @@ std::uint32_t Write(const CString& path, const NewTimes& times)
     if (!isFolder && FileAttributes::IsReadOnly(path))
         return ERROR_ACCESS_DENIED;
     const DWORD flags = isFolder ? FILE_ATTRIBUTE_NORMAL | FILE_FLAG_BACKUP_SEMANTICS : FILE_ATTRIBUTE_NORMAL;
-    const HANDLE file = CreateFileW(LongPath(path).Get(), GENERIC_READ | GENERIC_WRITE,
-                                    FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, flags, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
+    const Handle file(CreateFileW(LongPath(path).Get(), GENERIC_READ | GENERIC_WRITE,
+                                  FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, flags, nullptr));
+    if (!file.IsOpen())
         return GetLastError();
     const FILETIME created = ToFileTime(times.created);
     const FILETIME modified = ToFileTime(times.modified);
     const FILETIME accessed = ToFileTime(times.accessed);
     const BOOL isSet =
-        SetFileTime(file, times.created != 0 ? &created : nullptr, times.accessed != 0 ? &accessed : nullptr,
+        SetFileTime(file.Get(), times.created != 0 ? &created : nullptr, times.accessed != 0 ? &accessed : nullptr,
                     times.modified != 0 ? &modified : nullptr);
-    const DWORD error = isSet ? ERROR_SUCCESS : GetLastError();
-    CloseHandle(file);
-    return error;
+    return isSet ? ERROR_SUCCESS : GetLastError();
 }
 
 } // namespace VyrPlatform::FileTimes

@@ -33,23 +33,13 @@ bool IsDots(const wchar_t* name) noexcept
     return std::wcscmp(name, L".") == 0 || std::wcscmp(name, L"..") == 0;
 }
 
-bool EndsWithSeparator(const CString& path) noexcept
-{
-    return !path.IsEmpty() && FileSystem::IsSeparator(path[path.GetLength() - 1]);
-}
-
-CString JoinPath(const CString& folder, const CString& name)
-{
-    return CString::Join({folder, EndsWithSeparator(folder) ? u"" : uR"(\)", name});
-}
-
 } // namespace
 
 FolderListing::FolderListing(const CString& path, Dots dots) : m_state(std::make_unique<State>())
 {
     m_state->dots = dots;
     m_state->folder = path;
-    const LongPath pattern(path, EndsWithSeparator(path) ? u"*" : uR"(\*)");
+    const LongPath pattern(path, FileSystem::EndsWithSeparator(path) ? u"*" : uR"(\*)");
     m_state->search = SearchHandle(FindFirstFileExW(pattern.Get(), FindExInfoBasic, &m_state->found,
                                                     FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH));
     m_state->isPending = m_state->search.IsOpen();
@@ -78,7 +68,7 @@ bool FolderListing::Next()
     m_state->name = FromWide(m_state->found.cFileName);
     m_state->isLink = VyrPlatform::IsLink(m_state->found);
     if (m_state->isLink)
-        m_state->kind = FileSystem::Query(JoinPath(m_state->folder, m_state->name)).kind;
+        m_state->kind = FileSystem::Query(FileSystem::JoinPath(m_state->folder, m_state->name)).kind;
     else
         m_state->kind = m_state->found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY ? Kind::Folder : Kind::File;
     return true;

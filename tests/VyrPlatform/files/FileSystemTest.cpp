@@ -245,6 +245,20 @@ TEST(FileSystemSeparator, IsOneOfThoseThatSeparate)
     EXPECT_FALSE(FileSystem::IsSeparator(u'\0'));
 }
 
+TEST(FileSystemJoinPath, PutsOneSeparatorBetweenFolderAndName)
+{
+    const CString separator(FileSystem::Separator(), 1);
+    const CString joined = u"folder" + separator + u"name";
+    EXPECT_EQ(FileSystem::JoinPath(u"folder", u"name"), joined);
+    EXPECT_EQ(FileSystem::JoinPath(u"folder" + separator, u"name"), joined);
+    EXPECT_EQ(FileSystem::JoinPath(separator, u"name"), separator + u"name");
+}
+
+TEST(FileSystemJoinPath, NameInNoFolderIsTheNameAlone)
+{
+    EXPECT_EQ(FileSystem::JoinPath(u"", u"name"), u"name");
+}
+
 TEST(FileSystemRemoveFile, TakesAwayTheFileAlone)
 {
     const ScratchFolder scratch;

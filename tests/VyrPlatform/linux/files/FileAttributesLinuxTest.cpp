@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <fstream>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
