@@ -11,7 +11,6 @@
 #include <VyrHost/rename/RuleTexts.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/ui/BatchOutput.h>
-#include <VyrHost/ui/OutputBuffer.h>
 #include <VyrHostPlatform/Console.h>
 #include <VyrHostPlatform/Interrupt.h>
 
@@ -94,7 +93,8 @@ int NameBatchesElsewhere(const std::vector<Batch::BatchInformation>& batches)
 } // namespace
 
 UndoCommand::UndoCommand(CLI::App& program)
-    : m_command(*program.add_subcommand("undo", "Undo a batch, the latest of this folder when no number is given"))
+    : m_command(*program.add_subcommand("undo", "Undo a batch, the latest of this folder when no number is given")),
+      m_records(m_command, Ui::BatchColumns())
 {
     m_command
         .add_option_function<std::string>(
@@ -105,8 +105,7 @@ UndoCommand::UndoCommand(CLI::App& program)
         ->type_name("");
     m_command.add_flag("--list", m_list, "List the batches instead, the latest first");
     m_command.add_flag("--preview", m_preview, "Show what would be undone, and change nothing");
-    m_command.add_flag("--json", m_json, "Write one JSON object a line");
-    m_command.add_flag("-q,--quiet", m_quiet, "Show only what is not undone");
+    m_command.get_option("--quiet")->description("Show only what is not undone; with --list no headings and no total");
     m_command.footer(UndoExamples() + "\n" + ExitCode::Table);
 }
 
@@ -118,9 +117,11 @@ bool UndoCommand::IsChosen() const
 int UndoCommand::Run() const
 {
     constexpr ExclusivePair Exclusive[] = {{"--list", "BATCH", "--list lists every batch"},
-                                           {"--list", "--preview", "--list lists every batch"},
-                                           {"--list", "--quiet", "--list lists every batch"}};
-    CheckOptionPairs(m_command, Exclusive);
+                                           {"--list", "--preview", "--list lists every batch"}};
+    constexpr DependentOption Dependent[] = {
+        {"--columns", "--list"}, {"--sort", "--list"}, {"--descending", "--list"}, {"--csv", "--list"}};
+    CheckOptionPairs(m_command, Exclusive, Dependent);
+    m_records.Check();
     std::optional<std::uint32_t> number;
     if (m_batch)
         number = static_cast<std::uint32_t>(Rename::ParseNumber(FromParser(*m_batch), 1, "BATCH"));
@@ -137,15 +138,13 @@ int UndoCommand::Run() const
 int UndoCommand::List() const
 {
     const std::vector<Batch::BatchInformation> batches = Batch::Batches().List();
-    Ui::OutputBuffer output;
-    m_json ? Ui::WriteBatchJson(output, batches) : Ui::WriteBatchLines(output, batches);
-    output.Flush();
-    return output.HasFailed() ? ExitCode::Output : ExitCode::Success;
+    return m_records.Write(Ui::TableOfBatches(batches), CountedNoun(batches.size(), "batch", "batches") + ".",
+                           ExitCode::Success);
 }
 
 int UndoCommand::ReverseNumber(std::uint32_t number) const
 {
-    BatchReportStyle style{Batch::Direction::Backward, m_json, m_quiet, m_preview};
+    BatchReportStyle style{Batch::Direction::Backward, m_records.IsJson(), m_records.IsQuiet(), m_preview};
     for (const Batch::BatchInformation& batch : Batch::Batches().List()) {
         if (batch.number != number && batch.undo != number)
             continue;
@@ -161,7 +160,7 @@ int UndoCommand::UndoLatest() const
 {
     const Batch::UndoCandidates candidates = Batch::FindUndoCandidates(Batch::Batches().List(), u".");
     for (const Batch::BatchInformation& batch : candidates.here) {
-        Reversal reversal({Batch::Direction::Backward, m_json, m_quiet, m_preview});
+        Reversal reversal({Batch::Direction::Backward, m_records.IsJson(), m_records.IsQuiet(), m_preview});
         const Batch::BatchSummary summary = reversal.Run(batch, batch.number);
         if (summary.obstacle == Batch::Obstacle::None)
             return reversal.Write(summary);

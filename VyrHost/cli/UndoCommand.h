@@ -2,6 +2,8 @@
 /// The command "vyr undo".
 #pragma once
 
+#include <VyrHost/cli/RecordOptions.h>
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -32,11 +34,10 @@ private:
     [[nodiscard]] int UndoLatest() const;
 
     CLI::App& m_command;
+    RecordOptions m_records;
     std::optional<std::string> m_batch;
     bool m_list = false;
     bool m_preview = false;
-    bool m_json = false;
-    bool m_quiet = false;
 };
 
 } // namespace VyrHost::Cli

@@ -8,7 +8,9 @@
 #include <VyrHost/ui/Table.h>
 #include <VyrHost/ui/Words.h>
 #include <VyrPlatform/text/Encoding.h>
+#include <VyrPlatform/time/DateTimePattern.h>
 
+#include <span>
 #include <string_view>
 #include <utility>
 
@@ -129,17 +131,90 @@ CString ExtentOf(const Batch::BatchInformation& batch)
     return text;
 }
 
-CString LineOf(const Batch::BatchInformation& batch)
+CString SummaryTextOf(const Batch::BatchInformation& batch)
 {
-    CString line;
-    line.Format(u"%u  %s  ", batch.number, batch.started);
     if (batch.state == Batch::BatchState::Damaged)
-        return CString::Join({line, WordFor(batch.state), u"  ", batch.problem});
+        return CString::Join({WordFor(batch.state), u": ", batch.problem});
     CString undo;
     if (batch.state == Batch::BatchState::Undone && batch.undo != 0)
         undo.Format(u" (undo %u)", batch.undo);
-    return CString::Join(
-        {line, StateOf(batch), undo, u", ", ExtentOf(batch), u"  ", batch.firstFrom, u" -> ", batch.firstTo});
+    return CString::Join({StateOf(batch), undo, u", ", ExtentOf(batch)});
+}
+
+RecordValue StartOf(const Batch::BatchInformation& batch)
+{
+    const COleDateTime started =
+        VyrPlatform::DateTimePattern::Read(batch.started, VyrPlatform::DateTimePattern::stored);
+    return started.GetStatus() == COleDateTime::valid ? RecordValue(RecordDate{started}) : RecordValue();
+}
+
+RecordValue CountOf(std::size_t count)
+{
+    return static_cast<std::int64_t>(count);
+}
+
+using Information = Batch::BatchInformation;
+
+const RecordField<Information> batchFields[] = {{{"number", "Batch", RecordKind::Number, true},
+                                                 [](const Information& batch) {
+                                                     return CountOf(batch.number);
+                                                 }},
+                                                {{"started", "Started", RecordKind::Date, true}, StartOf},
+                                                {{"command", "Command"},
+                                                 [](const Information& batch) {
+                                                     return ValueOf(batch.command);
+                                                 }},
+                                                {{"folder", "Folder"},
+                                                 [](const Information& batch) {
+                                                     return ValueOf(batch.folder);
+                                                 }},
+                                                {{"state", "State"},
+                                                 [](const Information& batch) {
+                                                     return RecordValue(CString(WordFor(batch.state)));
+                                                 }},
+                                                {{"undo", "Undo", RecordKind::Number},
+                                                 [](const Information& batch) {
+                                                     return batch.undo == 0 ? RecordValue() : CountOf(batch.undo);
+                                                 }},
+                                                {{"entries", "Entries", RecordKind::Number},
+                                                 [](const Information& batch) {
+                                                     return CountOf(batch.entries);
+                                                 }},
+                                                {{"renamed", "Renamed", RecordKind::Number},
+                                                 [](const Information& batch) {
+                                                     return batch.renamed ? CountOf(*batch.renamed) : RecordValue();
+                                                 }},
+                                                {{"stopped", "Stopped", RecordKind::Flag},
+                                                 [](const Information& batch) {
+                                                     return RecordValue(batch.wasStopped);
+                                                 }},
+                                                {{"summary", "What has become of it", RecordKind::Text, true},
+                                                 [](const Information& batch) {
+                                                     return RecordValue(SummaryTextOf(batch));
+                                                 }},
+                                                {{"from", "First entry", RecordKind::Text, true},
+                                                 [](const Information& batch) {
+                                                     return ValueOf(batch.firstFrom);
+                                                 }},
+                                                {{"to", "To", RecordKind::Text, true},
+                                                 [](const Information& batch) {
+                                                     return ValueOf(batch.firstTo);
+                                                 }},
+                                                {{"problem", "Problem"}, [](const Information& batch) {
+                                                     return ValueOf(batch.problem);
+                                                 }}};
+
+Tone ToneOf(const Information& batch)
+{
+    switch (batch.state) {
+    case Batch::BatchState::Damaged:
+        return Tone::Bad;
+    case Batch::BatchState::CutOff:
+    case Batch::BatchState::CutOffUndoing:
+        return Tone::Notable;
+    default:
+        return Tone::Plain;
+    }
 }
 
 } // namespace
@@ -156,34 +231,18 @@ CString NameOf(const Batch::BatchInformation& batch)
                           batch.folder.IsEmpty() ? u"" : u" in ", batch.folder, u", ", entries});
 }
 
-void WriteBatchLines(OutputBuffer& output, const std::vector<Batch::BatchInformation>& batches)
+std::vector<RecordColumn> BatchColumns()
 {
-    for (const Batch::BatchInformation& batch : batches)
-        output << Text::SafeText(LineOf(batch)) << "\n";
+    return ColumnsOf(std::span<const RecordField<Information>>(batchFields));
 }
 
-void WriteBatchJson(OutputBuffer& output, const std::vector<Batch::BatchInformation>& batches)
+RecordTable TableOfBatches(const std::vector<Batch::BatchInformation>& batches)
 {
-    for (const Batch::BatchInformation& batch : batches) {
-        std::string line = "{\"number\":" + std::to_string(batch.number);
-        AppendJsonField(line, "started", batch.started);
-        if (!batch.command.IsEmpty())
-            AppendJsonField(line, "command", batch.command);
-        if (!batch.folder.IsEmpty())
-            AppendJsonField(line, "folder", batch.folder);
-        AppendJsonField(line, "state", WordFor(batch.state));
-        if (batch.undo != 0)
-            line += ",\"undo\":" + std::to_string(batch.undo);
-        line += ",\"entries\":" + std::to_string(batch.entries);
-        if (batch.renamed)
-            line += ",\"renamed\":" + std::to_string(*batch.renamed);
-        line += batch.wasStopped ? ",\"stopped\":true" : ",\"stopped\":false";
-        AppendJsonField(line, "from", batch.firstFrom);
-        AppendJsonField(line, "to", batch.firstTo);
-        if (!batch.problem.IsEmpty())
-            AppendJsonField(line, "problem", batch.problem);
-        output << line << "}\n";
-    }
+    RecordTable table = TableOf(batches, std::span<const RecordField<Information>>(batchFields));
+    table.toneOf = [&batches](std::size_t row) {
+        return ToneOf(batches[row]);
+    };
+    return table;
 }
 
 void WriteEntryTable(OutputBuffer& output, const std::vector<Batch::BatchEntry>& entries, Batch::Direction direction)

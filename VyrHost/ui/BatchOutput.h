@@ -4,6 +4,7 @@
 
 #include <VyrHost/batch/Batches.h>
 #include <VyrHost/ui/OutputBuffer.h>
+#include <VyrHost/ui/RecordTable.h>
 
 #include <string>
 #include <vector>
@@ -13,13 +14,12 @@ namespace VyrHost::Ui {
 /// Such as "batch 2 of 2024/05/06 07:08:09, rename in /home/eva/pictures, 3 entries".
 [[nodiscard]] CString NameOf(const Batch::BatchInformation& batch);
 
-/// A line for each batch: its number, when it began, what has become of it, of how many of its entries, and its first
-/// rename.
-void WriteBatchLines(OutputBuffer& output, const std::vector<Batch::BatchInformation>& batches);
-/// A JSON object for each: `number`, `started`, `command`, `folder` (both where they are known), `state`, `undo` (the
-/// number of its last undo), `entries`, `renamed` (where it is known), `stopped`, `from`, `to` (those of its first
-/// entry), `problem`.
-void WriteBatchJson(OutputBuffer& output, const std::vector<Batch::BatchInformation>& batches);
+/// The columns of a list of batches: `number`, `started`, `command`, `folder` (both where they are known), `state`,
+/// `undo` (the number of its last undo), `entries`, `renamed` (where it is known), `stopped`, `from`, `to` (those of
+/// its first entry), `problem`, and `summary`, what has become of it and of how many of its entries.
+[[nodiscard]] std::vector<RecordColumn> BatchColumns();
+/// A list of `batches`, which must outlive it.
+[[nodiscard]] RecordTable TableOfBatches(const std::vector<Batch::BatchInformation>& batches);
 
 /// A row for each entry: where it was, where it is now, and what there is to say.
 void WriteEntryTable(OutputBuffer& output, const std::vector<Batch::BatchEntry>& entries, Batch::Direction direction);

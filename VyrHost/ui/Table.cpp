@@ -29,21 +29,6 @@ struct Widths
     int note = 0;
 };
 
-std::string_view ColourOf(Tone tone)
-{
-    switch (tone) {
-    case Tone::Faint:
-        return "\x1b[2m";
-    case Tone::Notable:
-        return "\x1b[33m";
-    case Tone::Bad:
-        return "\x1b[31m";
-    case Tone::Plain:
-        break;
-    }
-    return {};
-}
-
 int WidthOf(const ShownName& shown)
 {
     return Text::SafeWidth(shown.folder) + Text::SafeWidth(shown.name);
@@ -170,6 +155,21 @@ private:
 };
 
 } // namespace
+
+std::string_view ColourOf(Tone tone)
+{
+    switch (tone) {
+    case Tone::Faint:
+        return "\x1b[2m";
+    case Tone::Notable:
+        return "\x1b[33m";
+    case Tone::Bad:
+        return "\x1b[31m";
+    case Tone::Plain:
+        break;
+    }
+    return {};
+}
 
 TableStyle StyleOfOutput()
 {

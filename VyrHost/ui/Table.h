@@ -21,6 +21,9 @@ enum class Tone : std::uint8_t
     Bad
 };
 
+/// The escape sequence that begins the colour of `tone`; empty for a plain one.
+[[nodiscard]] std::string_view ColourOf(Tone tone);
+
 /// A name and what stands before it. The texts live elsewhere.
 struct ShownName
 {

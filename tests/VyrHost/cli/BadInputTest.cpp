@@ -200,7 +200,7 @@ TEST_F(BadInput, ContradictoryOptions)
         ExpectRefused({u"--suffix", u"!", u"--on-conflict", mode, u"--conflict-position=before", u"a"},
                       "numbers nothing");
     const std::vector<std::vector<CString>> calls = {{u"undo", u"--list", u"1"},
-                                                     {u"undo", u"--list", u"-q"},
+                                                     {u"undo", u"--list", u"--csv", u"--json"},
                                                      {u"recover", u"--abandon", u"--take-back"},
                                                      {u"recover", u"--abandon", u"--json"},
                                                      {u"copy", u"d", u"to", u"--json", u"-q"}};

@@ -48,7 +48,7 @@ TEST_F(RenameApply, NothingToRenameMakesNoBatch)
     const ProgramResult result = Rename({u"--replace", u"x", u"y", u"--apply", u"a"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_THAT(result.output, HasSubstr("1 entry: 1 unchanged.\nNothing was renamed.\n"));
-    EXPECT_EQ(Run({u"undo", u"--list"}).output, "");
+    EXPECT_EQ(Run({u"undo", u"--list", u"--quiet"}).output, "");
 }
 
 TEST_F(RenameApply, ABatchOfWhichNothingCanBeDoneSaysWhyOfEachEntry)
@@ -68,7 +68,7 @@ TEST_F(RenameApply, ABatchOfWhichNothingCanBeDoneSaysWhyOfEachEntry)
     EXPECT_THAT(result.output, HasSubstr("1 entry: 1 failed.\nNothing was renamed.\n"));
     m_folder.WriteFile(u"gone", "2");
     EXPECT_EQ(Rename({u"--edit", u"--suffix", u"!", u"--apply", u"--quiet", u"gone"}).exitCode, 1);
-    EXPECT_EQ(Run({u"undo", u"--list"}).output, "");
+    EXPECT_EQ(Run({u"undo", u"--list", u"--quiet"}).output, "");
 }
 
 TEST_F(RenameApply, FailsAsAWholeOnRequest)
@@ -98,7 +98,7 @@ TEST_F(RenameApply, FailsAsAWholeForANameOnTheDiskToo)
     EXPECT_EQ(m_folder.ReadFile(u"a1"), "1");
     EXPECT_EQ(m_folder.ReadFile(u"b1"), "2");
     EXPECT_EQ(m_folder.ReadFile(u"b2"), "3");
-    EXPECT_EQ(Run({u"undo", u"--list"}).output, "");
+    EXPECT_EQ(Run({u"undo", u"--list", u"--quiet"}).output, "");
 }
 
 TEST_F(RenameApply, SkipsOnRequest)
@@ -249,7 +249,7 @@ TEST_F(RenameApply, UndoWorksOnTheLastBatchOrOneByItsNumber)
     m_folder.WriteFile(u"a", "1");
     ASSERT_EQ(Rename({u"--suffix", u"1", u"--apply", u"a"}).exitCode, 0);
     ASSERT_EQ(Rename({u"--suffix", u"2", u"--apply", u"a1"}).exitCode, 0);
-    EXPECT_THAT(Run({u"undo", u"--list"}).output, StartsWith("2  "));
+    EXPECT_THAT(Run({u"undo", u"--list", u"--quiet"}).output, StartsWith("    2  "));
     ProgramResult result = Run({u"undo"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_THAT(result.output, HasSubstr("Batch 2: 1 entry: 1 renamed.\n"));

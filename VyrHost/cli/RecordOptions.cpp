@@ -1,0 +1,92 @@
+// Declares the options of lists, and writes a list as they say.
+#include <VyrHost/cli/RecordOptions.h>
+
+#include <VyrHost/cli/ArgumentText.h>
+#include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/Messages.h>
+#include <VyrHost/cli/OptionPairs.h>
+#include <VyrHost/text/UsageError.h>
+#include <VyrHost/ui/OutputBuffer.h>
+#include <VyrHost/ui/RecordWriters.h>
+#include <VyrHostPlatform/Console.h>
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <utility>
+
+namespace VyrHost::Cli {
+
+namespace {
+
+constexpr const char* Group = "How the list is shown";
+
+} // namespace
+
+RecordOptions::RecordOptions(CLI::App& command, std::vector<Ui::RecordColumn> columns)
+    : m_command(command), m_columns(std::move(columns))
+{
+    command
+        .add_option_function<std::string>(
+            "--columns", [this](const std::string& text) { m_chosen = text; },
+            "The columns, separated by commas, or all; they are " + Ui::NamesOf(m_columns))
+        ->type_name("LIST")
+        ->group(Group);
+    command
+        .add_option_function<std::string>(
+            "--sort", [this](const std::string& text) { m_sort = text; },
+            "Sort by a column; what has no value there comes last")
+        ->type_name("COLUMN")
+        ->group(Group);
+    command.add_flag("--descending", m_descending, "Reverse the order")->group(Group);
+    command.add_flag("--csv", m_csv, "Write a table for spreadsheets (CSV), with all columns unless some are chosen")
+        ->group(Group);
+    command.add_flag("--json", m_json, "Write one JSON object a line, with all columns unless some are chosen")
+        ->group(Group);
+    command.add_flag("-q,--quiet", m_quiet, "Show no headings and no total")->group(Group);
+}
+
+void RecordOptions::Check() const
+{
+    constexpr ExclusivePair Exclusive[] = {{"--csv", "--json"}};
+    CheckOptionPairs(m_command, Exclusive);
+    (void)ShownColumns();
+    if (m_sort && Ui::FindColumns(m_columns, FromParser(*m_sort), "--sort").size() != 1)
+        Text::RefuseValue("--sort", FromParser(*m_sort), "one column is expected");
+}
+
+int RecordOptions::Write(Ui::RecordTable table, const std::string& total, int code) const
+{
+    table.shown = ShownColumns();
+    if (m_sort)
+        Ui::SortRows(table, Ui::FindColumns(m_columns, FromParser(*m_sort), "--sort").front(), m_descending);
+    else if (m_descending)
+        std::reverse(table.rows.begin(), table.rows.end());
+    Ui::OutputBuffer output;
+    if (m_csv)
+        Ui::WriteRecordCsv(output, table);
+    else if (m_json)
+        Ui::WriteRecordJson(output, table);
+    else
+        Ui::WriteRecords(output, table, Ui::StyleOfOutput(), !m_quiet);
+    if (!m_quiet && !m_csv && !m_json)
+        output << total << "\n";
+    output.Flush();
+    if (!m_quiet && (m_csv || m_json))
+        VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, total + "\n");
+    return Finish(output, code);
+}
+
+std::vector<std::size_t> RecordOptions::ShownColumns() const
+{
+    if (m_chosen)
+        return Ui::FindColumns(m_columns, FromParser(*m_chosen), "--columns");
+    return m_csv || m_json ? Ui::FindColumns(m_columns, u"all", "--columns") : Ui::UsualColumns(m_columns);
+}
+
+std::string CountedNoun(std::size_t count, const std::string& one, const std::string& many)
+{
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+} // namespace VyrHost::Cli

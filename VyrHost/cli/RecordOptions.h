@@ -1,0 +1,55 @@
+/// @file
+/// The options that all commands have which list records.
+#pragma once
+
+#include <VyrHost/ui/RecordTable.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace CLI {
+class App;
+}
+
+namespace VyrHost::Cli {
+
+/// --csv, --json, --columns, --sort, --descending and --quiet. A command makes one, runs, and hands its records over.
+class RecordOptions
+{
+public:
+    /// Adds the options to `command`; `columns` are those of its lists.
+    RecordOptions(CLI::App& command, std::vector<Ui::RecordColumn> columns);
+    RecordOptions(const RecordOptions&) = delete;
+    RecordOptions& operator=(const RecordOptions&) = delete;
+
+    /// Looks at what was given, before the command does anything.
+    /// @throws UsageError
+    void Check() const;
+    [[nodiscard]] bool IsJson() const { return m_json; }
+    [[nodiscard]] bool IsQuiet() const { return m_quiet; }
+
+    /// Sorts `table`, whose columns are those that were told, and writes it as asked for. People get the usual columns,
+    /// programs all, unless some are chosen.
+    /// @param total  a line such as "3 programs." (UTF-8, safe to show, without a line end), for people behind the
+    ///     table, else on the error stream.
+    /// @return `code`, or ExitCode::Output.
+    [[nodiscard]] int Write(Ui::RecordTable table, const std::string& total, int code) const;
+
+private:
+    [[nodiscard]] std::vector<std::size_t> ShownColumns() const;
+
+    CLI::App& m_command;
+    const std::vector<Ui::RecordColumn> m_columns;
+    bool m_csv = false;
+    bool m_json = false;
+    bool m_descending = false;
+    bool m_quiet = false;
+    std::optional<std::string> m_chosen;
+    std::optional<std::string> m_sort;
+};
+
+/// Such as "1 program" or "3 programs".
+[[nodiscard]] std::string CountedNoun(std::size_t count, const std::string& one, const std::string& many);
+
+} // namespace VyrHost::Cli
