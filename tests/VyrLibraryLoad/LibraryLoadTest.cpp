@@ -76,6 +76,14 @@ Function* Get(const DynamicLibrary& library, const std::string& name)
     return found == exports.end() ? nullptr : reinterpret_cast<Function*>(library.Find(found->second));
 }
 
+/// `operation` without the one type that is published by reference.
+std::string WithoutListControl(std::string operation)
+{
+    const std::string listControl = "CListCtrl&";
+    const std::size_t found = operation.find(listControl);
+    return found == std::string::npos ? operation : operation.erase(found, listControl.size());
+}
+
 std::vector<PublishedClass> ClassesOf(const std::string& library)
 {
     return ReadPublishedClasses(std::filesystem::path(VYR_SOURCE_FOLDER) / library);
@@ -122,7 +130,7 @@ TEST(LibraryLoad, TextsAndRecordsAreTakenByValue)
                 const std::string start = published.name + "::" + operation + '(';
                 for (auto found = exports.lower_bound(start); found != exports.end() && found->first.starts_with(start);
                      ++found)
-                    EXPECT_EQ(found->first.find('&'), std::string::npos) << found->first;
+                    EXPECT_EQ(WithoutListControl(found->first).find('&'), std::string::npos) << found->first;
             }
     }
 }
