@@ -2,6 +2,7 @@
 // operation.
 #pragma once
 
+#include <VyrLibraryFuncs/html/MSHTMLImgFuncs.h>
 #include <VyrLibraryFuncs/metadata/AttributesFuncs.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>
@@ -59,6 +60,18 @@ struct PrivateOperations
     static int GetSelectedAttributes(CString text, CString letter)
     {
         return AttributesFuncs::GetSelectedAttributes(text, letter);
+    }
+
+    // MSHTMLImgFuncs
+
+    static int IsImageBiggerThanClient(CRect client, std::int32_t imageWidth, std::int32_t imageHeight)
+    {
+        return MSHTMLImgFuncs::IsImageBiggerThanClient(client, imageWidth, imageHeight);
+    }
+    static double GetClientRatio(CRect client) { return MSHTMLImgFuncs::GetClientRatio(client); }
+    static double GetImageRatio(std::int32_t imageWidth, std::int32_t imageHeight)
+    {
+        return MSHTMLImgFuncs::GetImageRatio(imageWidth, imageHeight);
     }
 
     // NameFuncs

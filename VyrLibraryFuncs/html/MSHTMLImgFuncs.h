@@ -1,0 +1,45 @@
+/// @file
+/// The pictures of a page that a web control shows.
+#pragma once
+
+#include <VyrLibraryFuncs/Export.h>
+#include <VyrPlatform/controls/CRect.h>
+
+#include <cstdint>
+
+struct IDispatch;
+
+namespace VyrLibraryFuncs {
+
+/// Fits the pictures of a page into the window that shows it, through the page's document object
+/// (VyrPlatform/documents/HtmlTypes.h).
+class VYR_FUNCS_API MSHTMLImgFuncs
+{
+public:
+    MSHTMLImgFuncs();
+    ~MSHTMLImgFuncs();
+    MSHTMLImgFuncs& operator=(const MSHTMLImgFuncs&);
+
+    /// Gives each picture that is shown larger than `client` a style by which it fits. One that is wider in proportion
+    /// than `client` gets the width "100%" and the height "auto", any other the width "auto" and the height "100%".
+    ///
+    /// Pictures that fit, that have no address, or that the page does not tell about, stay as they are, and so does
+    /// what is no page. The attributes of a picture are never changed. Call it when the page has been loaded, and again
+    /// when its window has changed its size.
+    ///
+    /// Example: in a window of 800 x 600, a picture of 2000 x 100 gets the width "100%", and one of 100 x 2000 the
+    /// height "100%".
+    /// @param document the page, or a null pointer. COM must be initialised on this thread.
+    /// @param client the part of the window that shows the page. With an empty one every picture gets the width "100%".
+    /// @throws _com_error with E_OUTOFMEMORY where there is no memory for the text of a style.
+    static void SetResizeImgStyle(IDispatch* document, CRect client);
+
+private:
+    friend struct PrivateOperations;
+
+    static int IsImageBiggerThanClient(CRect client, std::int32_t imageWidth, std::int32_t imageHeight);
+    static double GetClientRatio(CRect client);
+    static double GetImageRatio(std::int32_t imageWidth, std::int32_t imageHeight);
+};
+
+} // namespace VyrLibraryFuncs

@@ -1,0 +1,240 @@
+/// @file
+/// The names of Windows' component object model, for Linux: those that the library and its hosts use, with the values
+/// and the rules that they have there. Include ComPointer.h instead.
+#pragma once
+
+#include <VyrPlatform/Export.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <utility>
+
+// NOLINTBEGIN(bugprone-reserved-identifier): they are the system's names
+
+using LONG = std::int32_t;
+using ULONG = std::uint32_t;
+using VARTYPE = std::uint16_t;
+using OLECHAR = char16_t;
+/// A text in an allocation of its own, which SysAllocString makes and SysFreeString frees. Null is the empty text.
+using BSTR = OLECHAR*;
+/// What a call gives: negative values are failures.
+using HRESULT = std::int32_t;
+
+inline constexpr HRESULT S_OK = 0;
+inline constexpr HRESULT S_FALSE = 1;
+inline constexpr HRESULT E_NOTIMPL = static_cast<HRESULT>(0x80004001);
+inline constexpr HRESULT E_NOINTERFACE = static_cast<HRESULT>(0x80004002);
+inline constexpr HRESULT E_POINTER = static_cast<HRESULT>(0x80004003);
+inline constexpr HRESULT E_FAIL = static_cast<HRESULT>(0x80004005);
+inline constexpr HRESULT E_OUTOFMEMORY = static_cast<HRESULT>(0x8007000E);
+inline constexpr HRESULT E_INVALIDARG = static_cast<HRESULT>(0x80070057);
+
+constexpr bool SUCCEEDED(HRESULT result) noexcept
+{
+    return result >= 0;
+}
+constexpr bool FAILED(HRESULT result) noexcept
+{
+    return result < 0;
+}
+
+/// A text constant of the units that a BSTR has.
+#define OLESTR(text) u##text
+
+/// What names an interface or a class.
+struct _GUID
+{
+    std::uint32_t Data1;
+    std::uint16_t Data2;
+    std::uint16_t Data3;
+    std::uint8_t Data4[8];
+
+    friend constexpr bool operator==(const _GUID&, const _GUID&) = default;
+};
+using GUID = _GUID;
+using IID = GUID;
+using REFIID = const IID&;
+
+/// The name of `Interface`.
+#define __uuidof(Interface) (Interface::interfaceId)
+
+/// What every object can be asked: for its other interfaces, and to live on. Each pointer that a call hands out is one
+/// more owner, who releases it.
+struct IUnknown
+{
+    static constexpr IID interfaceId = {0x00000000, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
+
+    /// Sets `object` to the interface `id` of this object.
+    /// @return S_OK; E_NOINTERFACE with a null pointer where it has none of that name.
+    virtual HRESULT QueryInterface(REFIID id, void** object) = 0;
+    virtual ULONG AddRef() = 0;
+    virtual ULONG Release() = 0;
+
+protected:
+    ~IUnknown() = default;
+};
+
+/// The interface by which documents and their elements are handed round. Nobody calls its members, so it has none.
+struct IDispatch : IUnknown
+{
+    static constexpr IID interfaceId = {0x00020400, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
+
+protected:
+    ~IDispatch() = default;
+};
+
+/// A copy of `text`; null for a null pointer, and where there is no memory for it.
+[[nodiscard]] VYR_PLATFORM_API BSTR SysAllocString(const OLECHAR* text) noexcept;
+VYR_PLATFORM_API void SysFreeString(BSTR text) noexcept;
+/// In code units, without the NUL behind the text.
+[[nodiscard]] VYR_PLATFORM_API unsigned SysStringLen(BSTR text) noexcept;
+
+/// VARIANT::vt.
+enum VARENUM : VARTYPE
+{
+    VT_EMPTY = 0,
+    VT_I4 = 3,
+    VT_BSTR = 8
+};
+
+/// A value that tells its own type.
+struct tagVARIANT
+{
+    VARTYPE vt = VT_EMPTY;
+    union {
+        LONG lVal;
+        BSTR bstrVal = nullptr;
+    };
+};
+using VARIANT = tagVARIANT;
+
+/// A failing call.
+class VYR_PLATFORM_API _com_error
+{
+public:
+    explicit _com_error(HRESULT result) noexcept;
+    _com_error(const _com_error& other) noexcept;
+    _com_error& operator=(const _com_error& other) noexcept;
+    virtual ~_com_error();
+
+    [[nodiscard]] HRESULT Error() const noexcept { return m_result; }
+
+private:
+    HRESULT m_result;
+};
+
+/// Throws `result` as a _com_error.
+[[noreturn]] VYR_PLATFORM_API void _com_issue_error(HRESULT result);
+
+/// A BSTR that frees itself.
+class _bstr_t
+{
+public:
+    _bstr_t() noexcept = default;
+    _bstr_t(const _bstr_t&) = delete;
+    _bstr_t& operator=(const _bstr_t&) = delete;
+    ~_bstr_t() { SysFreeString(m_text); }
+
+    /// Frees the text, and gives the place for another.
+    [[nodiscard]] BSTR* GetAddress() noexcept
+    {
+        SysFreeString(std::exchange(m_text, nullptr));
+        return &m_text;
+    }
+    [[nodiscard]] unsigned length() const noexcept { return SysStringLen(m_text); }
+
+private:
+    BSTR m_text = nullptr;
+};
+
+/// A VARIANT that frees its text.
+class _variant_t : public tagVARIANT
+{
+public:
+    _variant_t() noexcept = default;
+    explicit _variant_t(LONG value) noexcept
+    {
+        vt = VT_I4;
+        lVal = value;
+    }
+    /// A copy of `text`; throws a _com_error of E_OUTOFMEMORY where there is no memory for it.
+    explicit _variant_t(const OLECHAR* text)
+    {
+        vt = VT_BSTR;
+        bstrVal = SysAllocString(text);
+        if (!bstrVal && text)
+            _com_issue_error(E_OUTOFMEMORY);
+    }
+    _variant_t(const _variant_t&) = delete;
+    _variant_t& operator=(const _variant_t&) = delete;
+    ~_variant_t()
+    {
+        if (vt == VT_BSTR)
+            SysFreeString(bstrVal);
+    }
+};
+
+/// An interface with its name.
+template <class InterfaceType, const IID* id>
+struct _com_IIID
+{
+    using Interface = InterfaceType;
+    [[nodiscard]] static const IID& GetIID() noexcept { return *id; }
+};
+
+/// An owner of the object behind an interface.
+template <class NamedInterface>
+class _com_ptr_t
+{
+public:
+    using Interface = typename NamedInterface::Interface;
+
+    _com_ptr_t() noexcept = default;
+    _com_ptr_t(std::nullptr_t) noexcept {}
+    /// One more owner of `object`, unless `isAnother` is false: then it takes over from one that there is.
+    _com_ptr_t(Interface* object, bool isAnother = true) noexcept : m_object(object)
+    {
+        if (m_object && isAnother)
+            m_object->AddRef();
+    }
+    _com_ptr_t(const _com_ptr_t& other) noexcept : _com_ptr_t(other.m_object) {}
+    _com_ptr_t(_com_ptr_t&& other) noexcept : m_object(std::exchange(other.m_object, nullptr)) {}
+    _com_ptr_t& operator=(_com_ptr_t other) noexcept
+    {
+        std::swap(m_object, other.m_object);
+        return *this;
+    }
+    ~_com_ptr_t()
+    {
+        if (m_object)
+            m_object->Release();
+    }
+
+    [[nodiscard]] static const IID& GetIID() noexcept { return NamedInterface::GetIID(); }
+
+    /// Lets the object go, and gives the place for another.
+    [[nodiscard]] Interface** operator&() noexcept
+    {
+        *this = _com_ptr_t();
+        return &m_object;
+    }
+    /// Throws a _com_error of E_POINTER where there is no object.
+    Interface* operator->() const
+    {
+        if (!m_object)
+            _com_issue_error(E_POINTER);
+        return m_object;
+    }
+    [[nodiscard]] Interface* GetInterfacePtr() const noexcept { return m_object; }
+    operator Interface*() const noexcept { return m_object; }
+    explicit operator bool() const noexcept { return m_object != nullptr; }
+
+private:
+    Interface* m_object = nullptr;
+};
+
+/// Names the owner of an `Interface` after it.
+// NOLINTNEXTLINE(bugprone-macro-parentheses): the name of a variable
+#define _COM_SMARTPTR_TYPEDEF(Interface, id) using Interface##Ptr = _com_ptr_t<_com_IIID<Interface, &id>>
+
+// NOLINTEND(bugprone-reserved-identifier)

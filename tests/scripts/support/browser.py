@@ -1,0 +1,96 @@
+"""Chromium without a window, driven through its debugging protocol on two pipes."""
+import fcntl
+import itertools
+import json
+import os
+import shutil
+import subprocess
+import tempfile
+
+
+class Browser:
+    """One browser with one page. Use it in a with statement."""
+
+    name = "chromium"
+
+    @classmethod
+    def is_installed(cls):
+        return shutil.which(cls.name) is not None
+
+    def __enter__(self):
+        self._numbers = itertools.count(1)
+        self._buffer = b""
+        self._events = []
+        self._folder = tempfile.TemporaryDirectory(ignore_cleanup_errors=True)
+        commands_out, self._commands = os.pipe()
+        self._answers, answers_in = os.pipe()
+        # The browser reads from 3 and writes to 4; out of their way first.
+        commands_out = fcntl.fcntl(commands_out, fcntl.F_DUPFD, 10)
+        answers_in = fcntl.fcntl(answers_in, fcntl.F_DUPFD, 10)
+
+        def put_pipes():
+            os.dup2(commands_out, 3)
+            os.dup2(answers_in, 4)
+
+        self._process = subprocess.Popen(
+            [self.name, "--headless=new", "--no-sandbox", "--disable-gpu", "--remote-debugging-pipe",
+             "--user-data-dir=" + self._folder.name, "about:blank"],
+            preexec_fn=put_pipes, pass_fds=(3, 4), stdin=subprocess.DEVNULL,
+            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        os.close(commands_out)
+        os.close(answers_in)
+        self._session = None
+        target = self.call("Target.createTarget", url="about:blank")["targetId"]
+        self._session = self.call("Target.attachToTarget", targetId=target, flatten=True)["sessionId"]
+        self.call("Page.enable")
+        return self
+
+    def __exit__(self, *_):
+        self._process.terminate()
+        self._process.wait()
+        os.close(self._commands)
+        os.close(self._answers)
+        self._folder.cleanup()
+
+    def call(self, method, **parameters):
+        """The result of a command of the protocol."""
+        number = next(self._numbers)
+        message = {"id": number, "method": method, "params": parameters}
+        if self._session:
+            message["sessionId"] = self._session
+        data = json.dumps(message).encode() + b"\0"
+        while data:
+            data = data[os.write(self._commands, data):]
+        while True:
+            answer = self._read()
+            if answer.get("id") == number:
+                if "error" in answer:
+                    raise RuntimeError(f"{method}: {answer['error']}")
+                return answer["result"]
+            self._events.append(answer.get("method"))
+
+    def open(self, address):
+        """Opens a page and waits until it and its pictures are loaded."""
+        self._events.clear()
+        self.call("Page.navigate", url=address)
+        while "Page.loadEventFired" not in self._events:
+            self._events.append(self._read().get("method"))
+
+    def set_window(self, width, height):
+        self.call("Emulation.setDeviceMetricsOverride", width=width, height=height, deviceScaleFactor=1, mobile=False)
+
+    def evaluate(self, script):
+        """The value of a script in the page, as JSON can carry it."""
+        result = self.call("Runtime.evaluate", expression=script, awaitPromise=True, returnByValue=True)
+        if "exceptionDetails" in result:
+            raise RuntimeError(result["exceptionDetails"])
+        return result["result"].get("value")
+
+    def _read(self):
+        while b"\0" not in self._buffer:
+            piece = os.read(self._answers, 1 << 16)
+            if not piece:
+                raise RuntimeError("the browser has ended")
+            self._buffer += piece
+        message, self._buffer = self._buffer.split(b"\0", 1)
+        return json.loads(message)
