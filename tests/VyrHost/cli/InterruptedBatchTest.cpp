@@ -1,7 +1,6 @@
 // Tests of the program: Ctrl-C while a batch of renames is applied and while it is undone.
 #include "VyrProgram.h"
 
-#include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <gmock/gmock.h>
@@ -119,9 +118,6 @@ TEST_F(InterruptedBatch, QuietSaysOneSummaryAndTheWayOn)
 
 TEST_F(InterruptedBatch, UndoSaysWhatWasDoneAndCanGoOn)
 {
-    if (VyrPlatform::FileSystem::Separator() == u'\\')
-        GTEST_SKIP()
-            << "under the tests' debugger of Windows, vyr undo ends with an access violation, not yet explained";
     Arrange();
     ASSERT_EQ(Rename({u"--prefix", u"x", u"--apply", u"--quiet", u"f*"}).exitCode, 0);
     // The last one is undone first.

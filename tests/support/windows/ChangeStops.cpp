@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -81,14 +82,20 @@ void ChangeStops::Handle(const DEBUG_EVENT& event)
 
 DWORD ChangeStops::HandleException(DWORD thread, const EXCEPTION_RECORD& exception)
 {
-    if (exception.ExceptionCode != EXCEPTION_BREAKPOINT)
+    if (exception.ExceptionCode != EXCEPTION_BREAKPOINT) {
+        WriteByte(m_dispatcher, breakpoint);
         return DBG_EXCEPTION_NOT_HANDLED;
+    }
     // The system's own, before the program's first step.
     if (m_stops.empty()) {
         SetStops();
         return DBG_CONTINUE;
     }
     const auto address = reinterpret_cast<DWORD64>(exception.ExceptionAddress);
+    if (address == m_dispatcher) {
+        BeginDispatch(thread);
+        return DBG_CONTINUE;
+    }
     if (!m_stops.contains(address))
         return DBG_EXCEPTION_NOT_HANDLED;
     Stop stop{.thread = thread};
@@ -118,9 +125,33 @@ void ChangeStops::PassStop(Stop stop)
     ::SetThreadContext(m_threads.at(stop.thread), &stop.registers);
 }
 
+void ChangeStops::BeginDispatch(DWORD thread)
+{
+    // Wine loses Rbp when a debugger has seen the exception, and the handlers would run with a wrong one. The record of
+    // the registers, which lies at the top of the stack, still has it.
+    CONTEXT registers{};
+    registers.ContextFlags = CONTEXT_FULL;
+    Require(::GetThreadContext(m_threads.at(thread), &registers), "GetThreadContext");
+    const auto* const kept = reinterpret_cast<const void*>(registers.Rsp + offsetof(CONTEXT, Rbp));
+    Require(::ReadProcessMemory(m_process, kept, &registers.Rbp, sizeof registers.Rbp, nullptr), "ReadProcessMemory");
+    registers.Rip = m_dispatcher;
+    Require(::SetThreadContext(m_threads.at(thread), &registers), "SetThreadContext");
+    WriteByte(m_dispatcher, m_dispatcherBegin);
+}
+
+void ChangeStops::WriteByte(DWORD64 address, unsigned char byte)
+{
+    void* const place = reinterpret_cast<void*>(address);
+    Require(::WriteProcessMemory(m_process, place, &byte, sizeof byte, nullptr), "WriteProcessMemory");
+    ::FlushInstructionCache(m_process, place, sizeof byte);
+}
+
 void ChangeStops::SetStops()
 {
     const HMODULE systemCalls = ::GetModuleHandleW(L"ntdll.dll");
+    m_dispatcher = reinterpret_cast<DWORD64>(::GetProcAddress(systemCalls, "KiUserExceptionDispatcher"));
+    const auto* const dispatcher = reinterpret_cast<const void*>(m_dispatcher);
+    Require(m_dispatcher && ::ReadProcessMemory(m_process, dispatcher, &m_dispatcherBegin, 1, nullptr), "dispatcher");
     const std::pair<const char*, Call> calls[] = {{"NtCreateFile", Call::Create},
                                                   {"NtOpenFile", Call::Open},
                                                   {"NtSetInformationFile", Call::SetInformation},
@@ -129,13 +160,13 @@ void ChangeStops::SetStops()
                                                   {"NtDeleteFile", Call::Delete}};
     for (const auto& [name, call] : calls) {
         // It stands at the same address in every process.
-        void* const address = reinterpret_cast<void*>(::GetProcAddress(systemCalls, name));
+        const auto address = reinterpret_cast<DWORD64>(::GetProcAddress(systemCalls, name));
+        const auto* const place = reinterpret_cast<const void*>(address);
         std::array<unsigned char, firstInstruction.size()> bytes{};
-        Require(address && ::ReadProcessMemory(m_process, address, bytes.data(), bytes.size(), nullptr), name);
+        Require(address && ::ReadProcessMemory(m_process, place, bytes.data(), bytes.size(), nullptr), name);
         Require(bytes == firstInstruction, name);
-        Require(::WriteProcessMemory(m_process, address, &breakpoint, sizeof breakpoint, nullptr), name);
-        ::FlushInstructionCache(m_process, address, sizeof breakpoint);
-        m_stops[reinterpret_cast<DWORD64>(address)] = call;
+        WriteByte(address, breakpoint);
+        m_stops[address] = call;
     }
 }
 

@@ -41,6 +41,9 @@ private:
     void Handle(const DEBUG_EVENT& event);
     /// @return what the program is answered.
     DWORD HandleException(DWORD thread, const EXCEPTION_RECORD& exception);
+    /// The thread stops where the system begins to look for a handler of an exception.
+    void BeginDispatch(DWORD thread);
+    void WriteByte(DWORD64 address, unsigned char byte);
     /// Lets the thread go on from its breakpoint.
     void PassStop(Stop stop);
     [[nodiscard]] bool IsChange(const CONTEXT& registers) const;
@@ -49,6 +52,9 @@ private:
     HANDLE m_process;
     std::set<HANDLE> m_streams;
     std::map<DWORD64, Call> m_stops;
+    /// Where the system begins to look for a handler, and the byte that stands there.
+    DWORD64 m_dispatcher = 0;
+    unsigned char m_dispatcherBegin = 0;
     std::map<DWORD, HANDLE> m_threads;
     std::optional<Stop> m_held;
     /// The event that holds the program.
