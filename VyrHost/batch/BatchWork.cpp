@@ -21,30 +21,20 @@ bool IsOtherKind(Kind listed, Kind found)
     return (listed == Kind::File && found == Kind::Folder) || (listed == Kind::Folder && found == Kind::File);
 }
 
-void Count(BatchSummary& summary, Model::RenameOutcome outcome)
+void Count(BatchSummary& summary, Model::Status status)
 {
-    switch (outcome) {
-    case Model::RenameOutcome::Done:
-        ++summary.done;
-        break;
-    case Model::RenameOutcome::Failed:
-        ++summary.failed;
-        break;
-    case Model::RenameOutcome::Refused:
-        ++summary.refused;
-        break;
-    case Model::RenameOutcome::NotReached:
-        ++summary.notReached;
-        break;
-    }
+    ++(status == Model::Status::Done      ? summary.done
+       : status == Model::Status::Failed  ? summary.failed
+       : status == Model::Status::Refused ? summary.refused
+                                          : summary.notReached);
 }
 
-Model::RenameResult NotFound(std::uint32_t error)
+Model::Outcome NotFound(std::uint32_t error)
 {
     CString reason = u"it is at none of its paths";
     if (error)
         reason = CString::Join({reason, u": ", Text::ErrorText(error)});
-    return {.outcome = Model::RenameOutcome::Failed, .error = error, .reason = reason};
+    return {.status = Model::Status::Failed, .error = error, .reason = reason};
 }
 
 } // namespace
@@ -71,18 +61,17 @@ void BatchWork::CheckSource(Model::PlanIndex entry)
 {
     FileState& state = m_journal.states[entry];
     if (state.kind == Kind::Missing) {
-        LeaveOut(
-            entry,
-            {.outcome = Model::RenameOutcome::Failed, .error = state.error, .reason = Text::ErrorText(state.error)});
+        LeaveOut(entry,
+                 {.status = Model::Status::Failed, .error = state.error, .reason = Text::ErrorText(state.error)});
     } else if (IsOtherKind(m_journal.plan.entries[entry].kind, state.kind)) {
-        LeaveOut(entry, {.outcome = Model::RenameOutcome::Refused,
+        LeaveOut(entry, {.status = Model::Status::Refused,
                          .error = 0,
                          .reason = u"it is no longer what it was when it was listed"});
         state = {};
     }
 }
 
-void BatchWork::LeaveOut(Model::PlanIndex entry, const Model::RenameResult& result)
+void BatchWork::LeaveOut(Model::PlanIndex entry, const Model::Outcome& result)
 {
     m_progress.Set(entry, Location::Unknown);
     m_executor.SetResult(entry, result);
@@ -114,7 +103,7 @@ void BatchWork::KeepJournalInPlace()
 void BatchWork::KeepInPlace(Model::PlanIndex entry, const CString& reason)
 {
     m_executor.LeaveAlone(entry);
-    m_executor.SetResult(entry, {.outcome = Model::RenameOutcome::Refused, .error = 0, .reason = reason});
+    m_executor.SetResult(entry, {.status = Model::Status::Refused, .error = 0, .reason = reason});
 }
 
 bool BatchWork::MayGoOn(std::uint32_t journalError)
@@ -187,7 +176,7 @@ void BatchWork::Run(Direction direction, const Report& report, const StopRequest
     const Report counted = CountAnd(report);
     bool isWhole = true;
     const auto runChanges = [&] {
-        const auto reportChange = [&](std::size_t index, const Model::RenameResult& result) {
+        const auto reportChange = [&](std::size_t index, const Model::Outcome& result) {
             counted(m_journal.plan.entries.size() + index, result);
         };
         // Once a stop was asked for, it is not asked again.
@@ -205,10 +194,10 @@ void BatchWork::Run(Direction direction, const Report& report, const StopRequest
 
 BatchWork::Report BatchWork::CountAnd(const Report& report)
 {
-    return [this, report](std::size_t index, const Model::RenameResult& result) {
+    return [this, report](std::size_t index, const Model::Outcome& result) {
         if (index < m_isKept.size() && m_isKept[index])
             return;
-        Count(m_summary, result.outcome);
+        Count(m_summary, result.status);
         report(index, result);
     };
 }
@@ -231,7 +220,7 @@ void BatchWork::Foresee(Direction direction, const Report& report)
 }
 
 /// Refuses what is not found, and what finds its place taken by something that is no part of the batch.
-Model::RenameResult BatchWork::ForeseeEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace)
+Model::Outcome BatchWork::ForeseeEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace)
 {
     const Model::Place place = m_progress.PlaceOf(entry, goal);
     if (m_notFound.contains(entry))
@@ -240,8 +229,8 @@ Model::RenameResult BatchWork::ForeseeEntry(Model::PlanIndex entry, Location goa
     const bool isFree = m_progress.Of(entry) == goal || willLeave || !m_progress.IsThere(place.folder) ||
                         VyrPlatform::LookAtFile(m_progress.PathOf(place)).kind == Kind::Missing;
     if (isFree)
-        return {.outcome = Model::RenameOutcome::Done, .error = 0, .reason = {}};
-    return {.outcome = Model::RenameOutcome::Failed,
+        return {.status = Model::Status::Done, .error = 0, .reason = {}};
+    return {.status = Model::Status::Failed,
             .error = 0,
             .reason =
                 goal == Location::Before ? u"something stands at the old path" : u"something stands at the new path"};
@@ -347,7 +336,7 @@ void BatchWork::NameKeptFolders(const Checkpoint& checkpoint)
     }
 }
 
-BatchEntry BatchWork::Describe(std::size_t index, const Model::RenameResult& result) const
+BatchEntry BatchWork::Describe(std::size_t index, const Model::Outcome& result) const
 {
     const std::size_t renames = m_journal.plan.entries.size();
     if (index >= renames) {

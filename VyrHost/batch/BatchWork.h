@@ -40,24 +40,24 @@ public:
     [[nodiscard]] bool BeginRedo();
 
     /// Called with the index of an entry of the plan; changes of other kinds stand behind the entries.
-    using Report = std::function<void(std::size_t index, const Model::RenameResult& result)>;
+    using Report = std::function<void(std::size_t index, const Model::Outcome& result)>;
     /// Does what is left to do in `direction`, looks at the folders, and closes the journal.
     void Run(Direction direction, const Report& report, const StopRequest& isStopAsked);
     /// After Locate: tells what Run would do, as far as it can be seen.
     void Foresee(Direction direction, const Report& report);
 
     /// After Locate: what is said of an entry or a change.
-    [[nodiscard]] BatchEntry Describe(std::size_t index, const Model::RenameResult& result) const;
+    [[nodiscard]] BatchEntry Describe(std::size_t index, const Model::Outcome& result) const;
 
 private:
     void CheckSource(Model::PlanIndex entry);
-    void LeaveOut(Model::PlanIndex entry, const Model::RenameResult& result);
+    void LeaveOut(Model::PlanIndex entry, const Model::Outcome& result);
     void Keep(Model::PlanIndex entry);
     void KeepJournalInPlace();
     void KeepInPlace(Model::PlanIndex entry, const CString& reason);
     bool MayGoOn(std::uint32_t journalError);
     [[nodiscard]] Report CountAnd(const Report& report);
-    [[nodiscard]] Model::RenameResult ForeseeEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace);
+    [[nodiscard]] Model::Outcome ForeseeEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace);
     void CheckListings(Location location);
     void Close(Direction direction);
     [[nodiscard]] Checkpoint MakeCheckpoint(Direction direction) const;
@@ -78,7 +78,7 @@ private:
     Executor m_executor;
     ChangeWork m_changes;
     /// Why entries were not found.
-    std::unordered_map<Model::PlanIndex, Model::RenameResult> m_notFound;
+    std::unordered_map<Model::PlanIndex, Model::Outcome> m_notFound;
     /// Entries that the work leaves alone, and does not speak of.
     std::vector<bool> m_isKept;
     std::vector<bool> m_hasChanged;

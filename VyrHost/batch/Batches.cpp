@@ -225,7 +225,32 @@ bool LiesIn(const CString& path, const FileState& folder)
     return std::find(way.begin(), way.end(), folder.identity) != way.end();
 }
 
+Model::ResultPath PathOf(const CString& path)
+{
+    const std::u16string_view folder = Text::FolderPart(path);
+    return {folder, folder, path.View().substr(folder.size())};
+}
+
 } // namespace
+
+Model::Result BatchResults::At(std::size_t index) const
+{
+    const BatchEntry& entry = m_entries[index];
+    const bool isForward = m_direction == Direction::Forward;
+    Model::Result result;
+    result.kind = entry.change ? entry.change->Kind() : "rename";
+    result.from = PathOf(entry.change || isForward ? entry.before : entry.after);
+    if (!entry.change)
+        result.to = PathOf(isForward ? entry.after : entry.before);
+    else if (isForward)
+        result.values = {entry.change->ShownBefore(), entry.change->ShownAfter()};
+    else
+        result.values = {entry.change->ShownAfter(), entry.change->ShownBefore()};
+    result.status = entry.result.status;
+    result.reason = entry.result.reason;
+    result.hasChanged = entry.hasChanged;
+    return result;
+}
 
 UndoCandidates FindUndoCandidates(const std::vector<BatchInformation>& batches, const CString& folder)
 {
@@ -372,8 +397,7 @@ BatchSummary Batches::Reverse(std::uint32_t number, Direction direction, const B
     }
     if (direction == Direction::Backward ? work.BeginUndo() : work.BeginRedo())
         work.Run(
-            direction,
-            [&](std::size_t entry, const Model::RenameResult& result) { report(work.Describe(entry, result)); },
+            direction, [&](std::size_t entry, const Model::Outcome& result) { report(work.Describe(entry, result)); },
             isStopAsked);
     return summary;
 }
@@ -393,9 +417,8 @@ BatchSummary Batches::Preview(std::uint32_t number, Direction direction, const B
     BatchWork work(*m_files, folder, std::move(*journal), summary);
     if (work.Locate(*file, direction, true)) {
         summary.number = file->number;
-        work.Foresee(direction, [&](std::size_t entry, const Model::RenameResult& result) {
-            report(work.Describe(entry, result));
-        });
+        work.Foresee(direction,
+                     [&](std::size_t entry, const Model::Outcome& result) { report(work.Describe(entry, result)); });
     } else {
         summary.error = DescribeAbsence(*file, direction);
         summary.obstacle = Obstacle::FilesGone;
@@ -437,8 +460,7 @@ BatchSummary Batches::Recover(Recovery recovery, const BatchEntryReport& report,
             CString::Join({u"none of the batch's files is at one of its paths; nothing was changed", wayOut});
     else
         work.Run(
-            direction,
-            [&](std::size_t entry, const Model::RenameResult& result) { report(work.Describe(entry, result)); },
+            direction, [&](std::size_t entry, const Model::Outcome& result) { report(work.Describe(entry, result)); },
             isStopAsked);
     return summary;
 }

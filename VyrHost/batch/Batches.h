@@ -5,7 +5,7 @@
 #include <VyrHost/batch/JournalFolder.h>
 #include <VyrHost/batch/PlanProgress.h>
 #include <VyrHost/model/RenamePlan.h>
-#include <VyrHost/model/RenameResult.h>
+#include <VyrHost/model/Result.h>
 
 #include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/text/CString.h>
@@ -86,11 +86,27 @@ struct BatchEntry
     /// Its paths before the batch and after it; the same path where it is not renamed.
     CString before;
     CString after;
-    Model::RenameResult result;
+    Model::Outcome result;
     /// The file was written to, or replaced by another, since the batch.
     bool hasChanged = false;
     /// What is changed where it is not renamed; else null.
-    std::shared_ptr<const Change> change;
+    std::shared_ptr<const Model::Change> change;
+};
+
+/// The results of a batch that is undone, redone or recovered.
+class BatchResults final : public Model::Results
+{
+public:
+    explicit BatchResults(Direction direction) : m_direction(direction) {}
+
+    void Add(const BatchEntry& entry) { m_entries.push_back(entry); }
+
+    [[nodiscard]] std::size_t Count() const override { return m_entries.size(); }
+    [[nodiscard]] Model::Result At(std::size_t index) const override;
+
+private:
+    const Direction m_direction;
+    std::vector<BatchEntry> m_entries;
 };
 
 enum class Obstacle : std::uint8_t
@@ -129,7 +145,7 @@ struct BatchSummary
 };
 
 /// Called once for each entry of a plan and each other change behind them, as soon as its fate is known.
-using RenameReport = std::function<void(Model::PlanIndex entry, const Model::RenameResult& result)>;
+using RenameReport = std::function<void(Model::PlanIndex entry, const Model::Outcome& result)>;
 
 /// A batch that is to be applied.
 struct NewBatch
@@ -151,7 +167,7 @@ struct BatchSettings
     CString journalFolder;
     JournalKeeping keeping;
     LockWait wait;
-    ChangeKinds kinds;
+    Model::ChangeKinds kinds;
 };
 
 /// As the environment says it: journals are in the folder that VYR_JOURNAL_DIR names, else in the folder "journal" of

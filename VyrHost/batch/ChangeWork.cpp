@@ -8,23 +8,23 @@ namespace VyrHost::Batch {
 
 namespace {
 
-using Model::RenameOutcome;
-using Model::RenameResult;
+using Model::Outcome;
+using Model::Status;
 
-ChangeState GoalOf(Direction direction)
+Model::ChangeState GoalOf(Direction direction)
 {
-    return direction == Direction::Forward ? ChangeState::After : ChangeState::Before;
+    return direction == Direction::Forward ? Model::ChangeState::After : Model::ChangeState::Before;
 }
 
-RenameResult Failure(std::uint32_t error)
+Outcome Failure(std::uint32_t error)
 {
-    return {.outcome = RenameOutcome::Failed, .error = error, .reason = Text::ErrorText(error)};
+    return {.status = Status::Failed, .error = error, .reason = Text::ErrorText(error)};
 }
 
 } // namespace
 
 ChangeWork::ChangeWork(const Journal& journal, const PlanProgress& progress)
-    : m_journal(journal), m_progress(progress), m_looks(journal.changes.size(), {ChangeState::Before, 0}),
+    : m_journal(journal), m_progress(progress), m_looks(journal.changes.size(), {Model::ChangeState::Before, 0}),
       m_isKept(journal.changes.size()), m_renames(journal.changes.size(), Model::none)
 {
     if (journal.changes.empty())
@@ -54,7 +54,7 @@ void ChangeWork::Locate()
 bool ChangeWork::IsAnyFound() const
 {
     for (std::size_t index = 0; index < m_looks.size(); ++index)
-        if (!m_isKept[index] && m_looks[index].state != ChangeState::Unknown)
+        if (!m_isKept[index] && m_looks[index].state != Model::ChangeState::Unknown)
             return true;
     return false;
 }
@@ -67,46 +67,47 @@ bool ChangeWork::Run(Direction direction, const Report& report, const Executor::
         if (m_isKept[index])
             continue;
         isStopped = isStopped || isStopAsked();
-        report(index, isStopped ? RenameResult() : Perform(index, direction));
+        report(index, isStopped ? Outcome() : Perform(index, direction));
     }
     return !isStopped;
 }
 
-RenameResult ChangeWork::Perform(std::size_t index, Direction direction)
+Outcome ChangeWork::Perform(std::size_t index, Direction direction)
 {
-    const Change& change = *m_journal.changes[index].change;
+    const Model::Change& change = *m_journal.changes[index].change;
     const CString path = PathOf(index);
     m_looks[index] = change.Look(path);
-    const RenameResult foreseen = Foresee(index, direction);
-    if (foreseen.outcome != RenameOutcome::Done || m_looks[index].state == GoalOf(direction))
+    const Outcome foreseen = Foresee(index, direction);
+    if (foreseen.status != Status::Done || m_looks[index].state == GoalOf(direction))
         return foreseen;
     const std::uint32_t error = direction == Direction::Forward ? change.Apply(path) : change.TakeBack(path);
-    m_looks[index] = error ? change.Look(path) : ChangeLook{GoalOf(direction), 0};
+    m_looks[index] = error ? change.Look(path) : Model::ChangeLook{GoalOf(direction), 0};
     return error ? Failure(error) : foreseen;
 }
 
-RenameResult ChangeWork::Foresee(std::size_t index, Direction direction) const
+Outcome ChangeWork::Foresee(std::size_t index, Direction direction) const
 {
-    const ChangeLook& look = m_looks[index];
-    if (look.state == ChangeState::Unknown)
+    const Model::ChangeLook& look = m_looks[index];
+    if (look.state == Model::ChangeState::Unknown)
         return Failure(look.error);
-    if (look.state == ChangeState::Other)
-        return {.outcome = RenameOutcome::Refused,
+    if (look.state == Model::ChangeState::Other)
+        return {.status = Status::Refused,
                 .error = 0,
                 .reason = direction == Direction::Forward ? u"it is no longer what it was when it was listed"
                                                           : u"another program has changed it since"};
-    return {.outcome = RenameOutcome::Done, .error = 0, .reason = {}};
+    return {.status = Status::Done, .error = 0, .reason = {}};
 }
 
 bool ChangeWork::IsDone(std::size_t index) const
 {
     return !m_isKept[index] &&
-           (m_looks[index].state == ChangeState::After || m_looks[index].state == ChangeState::Partly);
+           (m_looks[index].state == Model::ChangeState::After || m_looks[index].state == Model::ChangeState::Partly);
 }
 
 bool ChangeWork::MayBeDone(std::size_t index, Direction direction) const
 {
-    const bool isUnclear = m_looks[index].state == ChangeState::Other || m_looks[index].state == ChangeState::Unknown;
+    const bool isUnclear =
+        m_looks[index].state == Model::ChangeState::Other || m_looks[index].state == Model::ChangeState::Unknown;
     return IsDone(index) || (!m_isKept[index] && isUnclear && direction == Direction::Backward);
 }
 

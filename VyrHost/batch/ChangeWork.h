@@ -16,7 +16,7 @@ namespace VyrHost::Batch {
 class ChangeWork
 {
 public:
-    using Report = std::function<void(std::size_t index, const Model::RenameResult& result)>;
+    using Report = std::function<void(std::size_t index, const Model::Outcome& result)>;
 
     /// @param progress tells where the files stand while the same batch renames them.
     ChangeWork(const Journal& journal, const PlanProgress& progress);
@@ -33,7 +33,7 @@ public:
     /// @return false when it was stopped before the end.
     bool Run(Direction direction, const Report& report, const Executor::StopRequest& isStopAsked);
     /// After Locate: what Run would report of a change.
-    [[nodiscard]] Model::RenameResult Foresee(std::size_t index, Direction direction) const;
+    [[nodiscard]] Model::Outcome Foresee(std::size_t index, Direction direction) const;
 
     [[nodiscard]] bool IsKept(std::size_t index) const { return m_isKept[index]; }
     /// Whether it is done, or may turn out to be at the next attempt to take it back.
@@ -44,11 +44,11 @@ public:
 
 private:
     [[nodiscard]] bool IsDone(std::size_t index) const;
-    [[nodiscard]] Model::RenameResult Perform(std::size_t index, Direction direction);
+    [[nodiscard]] Model::Outcome Perform(std::size_t index, Direction direction);
 
     const Journal& m_journal;
     const PlanProgress& m_progress;
-    std::vector<ChangeLook> m_looks;
+    std::vector<Model::ChangeLook> m_looks;
     std::vector<bool> m_isKept;
     /// For each change the rename of the same file.
     std::vector<Model::PlanIndex> m_renames;

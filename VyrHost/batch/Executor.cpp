@@ -273,9 +273,9 @@ void Executor::RemoveFoldersWithoutUse()
 
 Executor::StepResult Executor::Refuse(Model::PlanIndex entry, const CString& reason)
 {
-    Model::RenameResult& result = m_results[entry];
-    if (result.outcome == Model::RenameOutcome::NotReached)
-        result = {.outcome = Model::RenameOutcome::Refused, .error = 0, .reason = reason};
+    Model::Outcome& result = m_results[entry];
+    if (result.status == Model::Status::NotReached)
+        result = {.status = Model::Status::Refused, .error = 0, .reason = reason};
     return StepResult::Failed;
 }
 
@@ -284,7 +284,7 @@ Executor::StepResult Executor::Fail(Model::PlanIndex entry, std::uint32_t error,
     if (VyrHostPlatform::IsOtherFileSystem(error))
         return Refuse(entry, u"the new path is on another file system");
     const bool isTaken = VyrHostPlatform::IsTargetTaken(error);
-    m_results[entry] = {.outcome = Model::RenameOutcome::Failed,
+    m_results[entry] = {.status = Model::Status::Failed,
                         .error = error,
                         .reason = !isTaken                     ? Text::ErrorText(error)
                                   : target == Location::Before ? CString(u"something stands at the old path")
@@ -292,16 +292,16 @@ Executor::StepResult Executor::Fail(Model::PlanIndex entry, std::uint32_t error,
     return StepResult::Failed;
 }
 
-Model::RenameResult Executor::ResultOf(Model::PlanIndex entry, Direction direction) const
+Model::Outcome Executor::ResultOf(Model::PlanIndex entry, Direction direction) const
 {
     const Location goal = direction == Direction::Forward ? Location::After : Location::Before;
     const Location location = m_progress.Of(entry);
     if (location == goal)
-        return {.outcome = Model::RenameOutcome::Done, .error = 0, .reason = {}};
+        return {.status = Model::Status::Done, .error = 0, .reason = {}};
     const auto found = m_results.find(entry);
-    Model::RenameResult result = found == m_results.end() ? Model::RenameResult() : found->second;
+    Model::Outcome result = found == m_results.end() ? Model::Outcome() : found->second;
     if (location == Location::Temporary) {
-        result.outcome = Model::RenameOutcome::Failed;
+        result.status = Model::Status::Failed;
         result.reason = CString::Join({u"it stands under a temporary name now, ",
                                        m_progress.PathOf(m_progress.PlaceOf(entry, Location::Temporary)),
                                        result.reason.IsEmpty() ? u"" : u": ", result.reason});

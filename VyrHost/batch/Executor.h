@@ -4,7 +4,7 @@
 
 #include <VyrHost/batch/FolderCache.h>
 #include <VyrHost/batch/PlanProgress.h>
-#include <VyrHost/model/RenameResult.h>
+#include <VyrHost/model/Result.h>
 
 #include <cstddef>
 #include <functional>
@@ -16,7 +16,7 @@ namespace VyrHost::Batch {
 class Executor
 {
 public:
-    using Report = std::function<void(Model::PlanIndex entry, const Model::RenameResult& result)>;
+    using Report = std::function<void(Model::PlanIndex entry, const Model::Outcome& result)>;
     using StopRequest = std::function<bool()>;
 
     /// Starts from `progress`, which must tell what is on the disk, and keeps it true.
@@ -25,10 +25,7 @@ public:
     /// Leaves `entry` where it is, whatever the direction.
     void LeaveAlone(Model::PlanIndex entry) { m_isLeftAlone[entry] = true; }
     /// Says beforehand what the result is for an entry that was not found.
-    void SetResult(Model::PlanIndex entry, const Model::RenameResult& result)
-    {
-        m_results.insert_or_assign(entry, result);
-    }
+    void SetResult(Model::PlanIndex entry, const Model::Outcome& result) { m_results.insert_or_assign(entry, result); }
 
     /// Does every step that is not done yet in `direction`; backward in reverse order. Nothing is overwritten. A
     /// failure ends only what depends on it: entries that need its place are refused, a cycle that cannot be closed is
@@ -80,7 +77,7 @@ private:
     [[nodiscard]] Model::PlanIndex FindInTheWay(Model::PlanIndex entry, Location target) const;
     StepResult Refuse(Model::PlanIndex entry, const CString& reason);
     StepResult Fail(Model::PlanIndex entry, std::uint32_t error, Location target);
-    [[nodiscard]] Model::RenameResult ResultOf(Model::PlanIndex entry, Direction direction) const;
+    [[nodiscard]] Model::Outcome ResultOf(Model::PlanIndex entry, Direction direction) const;
 
     const Model::RenamePlan& m_plan;
     PlanProgress& m_progress;
@@ -92,7 +89,7 @@ private:
     /// For each entry the one that gets its old place.
     std::vector<Model::PlanIndex> m_successors;
     /// Why entries are not where they are to be. Nothing is said of one that is, or that the work did not come to.
-    std::unordered_map<Model::PlanIndex, Model::RenameResult> m_results;
+    std::unordered_map<Model::PlanIndex, Model::Outcome> m_results;
     /// For each new folder why it was not made.
     std::vector<std::uint32_t> m_folderErrors;
 };

@@ -485,7 +485,7 @@ Model::PlanEntry ReadEntry(LineReader& reader, bool hasKinds, Model::NamePool& t
     return entry;
 }
 
-PlannedChange ReadChange(LineReader& reader, const Model::RenamePlan& plan, const ChangeKinds& kinds)
+PlannedChange ReadChange(LineReader& reader, const Model::RenamePlan& plan, const Model::ChangeKinds& kinds)
 {
     const std::string_view kind = reader.Next();
     const auto known = kinds.find(kind);
@@ -516,7 +516,7 @@ void LinkFolders(LineReader& reader, Model::RenamePlan& plan)
     }
 }
 
-void ReadPlan(LineReader& reader, const Counts& counts, const ChangeKinds& kinds, Journal& journal)
+void ReadPlan(LineReader& reader, const Counts& counts, const Model::ChangeKinds& kinds, Journal& journal)
 {
     // The counts may be anything: room is made as lines come.
     Model::NamePool& texts = *journal.plan.texts;
@@ -642,7 +642,7 @@ std::string WriteCheckpoint(const Checkpoint& checkpoint, std::uint32_t check)
     return text;
 }
 
-std::optional<Journal> ReadJournal(std::string_view text, CString& problem, const ChangeKinds& kinds)
+std::optional<Journal> ReadJournal(std::string_view text, CString& problem, const Model::ChangeKinds& kinds)
 {
     try {
         LineReader reader(text);

@@ -16,7 +16,7 @@
 ///                  entries under temporary names  folders that the batch has made  changes that are not done  check
 ///
 /// A change other than a rename has the name of its kind as its first word, and a before and after that only its kind
-/// can read (batch/Change.h). The last field of a mark is missing where all changes are done.
+/// can read (model/Change.h). The last field of a mark is missing where all changes are done.
 ///
 /// Version 2 had "entry" for "rename", no changes, and in its heading neither the command nor the folder nor the number
 /// of changes. It is still read, and marks are appended to it.
@@ -27,7 +27,7 @@
 /// the batch has ended; the last whole one counts.
 #pragma once
 
-#include <VyrHost/batch/Change.h>
+#include <VyrHost/model/Change.h>
 #include <VyrHost/model/RenamePlan.h>
 
 #include <VyrHostPlatform/DurableFile.h>
@@ -87,7 +87,7 @@ struct CheckpointOutline
 struct PlannedChange
 {
     Model::Place place;
-    std::shared_ptr<const Change> change;
+    std::shared_ptr<const Model::Change> change;
 };
 
 struct Journal
@@ -118,7 +118,7 @@ std::uint32_t WriteJournal(const Journal& journal, const VyrHostPlatform::Durabl
 /// @return nothing, with `problem` saying why and where, when it is damaged, or of a version or with a kind of change
 /// that is not known.
 [[nodiscard]] std::optional<Journal> ReadJournal(std::string_view text, CString& problem,
-                                                 const ChangeKinds& kinds = {});
+                                                 const Model::ChangeKinds& kinds = {});
 /// Whether the first part of a journal reaches to the end of the heading.
 [[nodiscard]] bool HasHeading(std::string_view text);
 /// The heading alone, from the first part of a journal.

@@ -2,11 +2,11 @@
 #include <VyrHost/cli/RecoverCommand.h>
 
 #include <VyrHost/batch/Batches.h>
-#include <VyrHost/cli/BatchReport.h>
 #include <VyrHost/cli/Examples.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/OptionPairs.h>
+#include <VyrHost/cli/Report.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/ui/OutputBuffer.h>
 #include <VyrHostPlatform/Interrupt.h>
@@ -52,7 +52,7 @@ int RecoverCommand::Run() const
     const Batch::Recovery recovery = m_takeBack ? Batch::Recovery::Undo : Batch::Recovery::Finish;
     const Batch::Direction direction =
         Batch::DoesRenames(recovery, cutOff->state) ? Batch::Direction::Forward : Batch::Direction::Backward;
-    BatchReport report("recovering", cutOff->entries, {direction, m_json, m_quiet});
+    BatchReport report("recovering", cutOff->entries, direction, {m_json, m_quiet});
     const Batch::BatchSummary summary =
         batches.Recover(recovery, report.Collector(), VyrHostPlatform::Interrupt::WasAsked);
     return report.Write(summary);

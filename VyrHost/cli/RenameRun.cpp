@@ -2,24 +2,18 @@
 #include <VyrHost/cli/RenameRequest.h>
 
 #include <VyrHost/batch/Batches.h>
-#include <VyrHost/cli/BatchReport.h>
 #include <VyrHost/cli/EditNames.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
+#include <VyrHost/cli/Report.h>
 #include <VyrHost/rename/GivenNames.h>
 #include <VyrHost/rename/Pairs.h>
-#include <VyrHost/rename/PictureAccess.h>
 #include <VyrHost/text/ErrorText.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/text/StandardInput.h>
 #include <VyrHost/text/UsageError.h>
-#include <VyrHost/ui/JsonLines.h>
-#include <VyrHost/ui/OutcomeRows.h>
 #include <VyrHost/ui/Progress.h>
-#include <VyrHost/ui/Summary.h>
-#include <VyrHost/ui/Table.h>
-#include <VyrHost/ui/Words.h>
-#include <VyrHostPlatform/Console.h>
+#include <VyrHost/ui/ResultOutput.h>
 #include <VyrHostPlatform/Interrupt.h>
 #include <VyrHostPlatform/ReadToEnd.h>
 #include <VyrPlatform/files/FileSystem.h>
@@ -78,8 +72,7 @@ public:
             m_request.conflicts.mode == Rename::OnConflict::Refuse && Rename::StopAtConflict(m_preview);
         if (isStopped)
             Complain("a name is taken, and --on-conflict=fail was asked for: nothing is renamed");
-        m_outcome.decisions = std::move(m_preview.decisions);
-        NoteCauses();
+        m_results.emplace(List(), std::move(m_preview.decisions));
         const int applied = m_request.apply && !isStopped ? Apply() : ExitCode::Success;
         if (applied == ExitCode::Blocked)
             return applied;
@@ -120,19 +113,6 @@ private:
                                         [&progress](std::size_t named) { progress.Show(named); });
     }
 
-    /// What the system says about what could not be read.
-    void NoteCauses()
-    {
-        for (std::uint32_t entry = 0; entry < m_outcome.decisions.size(); ++entry) {
-            const Model::Decision& decision = m_outcome.decisions[entry];
-            if (decision.reason == Model::Reason::FolderNotRead)
-                m_outcome.causes.emplace(entry, Text::ErrorText(List().folders[decision.folder].error));
-            else if (decision.reason == Model::Reason::PictureNotRead)
-                m_outcome.causes.emplace(
-                    entry, Text::ErrorText(Rename::PictureReadError(List().PathOf(List().entries[entry]))));
-        }
-    }
-
     /// Has the user look through the names, and decides again for what comes back.
     void Edit()
     {
@@ -145,7 +125,7 @@ private:
     }
 
     /// With its folder as it is shown: a bare name would leave the entry where it is.
-    [[nodiscard]] CString NameForEditing(const Model::Entry& entry, const Model::Decision& decision)
+    [[nodiscard]] CString NameForEditing(const Model::Entry& entry, const Rename::Decision& decision)
     {
         if (!decision.IsRename())
             return CString::Join({FolderForEditing(entry.folder), entry.name});
@@ -162,7 +142,7 @@ private:
         return CString(std::u16string_view(text));
     }
 
-    /// Renames, and writes what became of each entry into the outcome.
+    /// Renames, and notes what became of each entry.
     int Apply()
     {
         const std::size_t count = m_preview.entries.size();
@@ -176,8 +156,8 @@ private:
         VyrHostPlatform::Interrupt::Catch();
         Ui::Progress progress("renaming", count, IsSilent());
         std::size_t done = 0;
-        const Batch::RenameReport report = [&](Model::PlanIndex entry, const Model::RenameResult& result) {
-            Note(m_preview.entries[entry], result);
+        const Batch::RenameReport report = [&](Model::PlanIndex entry, const Model::Outcome& outcome) {
+            m_results->Set(m_preview.entries[entry], outcome);
             progress.Show(++done);
         };
         m_summary = batches.Apply(std::move(m_preview.plan), report, VyrHostPlatform::Interrupt::WasAsked);
@@ -185,54 +165,14 @@ private:
         return JudgeSummary(m_summary);
     }
 
-    void Note(std::uint32_t entry, const Model::RenameResult& result)
-    {
-        Model::Decision& decision = m_outcome.decisions[entry];
-        if (result.outcome == Model::RenameOutcome::Done)
-            return;
-        decision.status = Ui::StatusOf(result.outcome);
-        decision.reason = Model::Reason::Applying;
-        if (!result.reason.IsEmpty())
-            m_outcome.causes.insert_or_assign(entry, result.reason);
-    }
-
-    /// Writes the outcome; what is not renamed decides the exit code.
+    /// Writes the results; what is not renamed decides the exit code.
     int Show(bool isStopped)
     {
-        Ui::OutputBuffer output;
-        const Model::Tally tally(m_outcome.decisions);
-        if (m_request.json) {
-            Ui::WriteJsonLines(output, List(), m_outcome);
-            VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, Ui::SummaryOf(tally));
-        } else if (m_request.quiet) {
-            ShowProblems();
-            if (m_summary.wasStopped)
-                Complain("interrupted: " + Ui::SummaryOf(tally) + Ending(isStopped));
-        } else {
-            const auto rowOf = [this](std::size_t index) {
-                return Ui::RowOf(List(), m_outcome, index);
-            };
-            Ui::WriteTable(output, m_outcome.decisions.size(), rowOf, Ui::StyleOfOutput());
-            output << Ui::SummaryOf(tally) << Ending(isStopped);
-        }
-        const bool isWhole =
-            tally[Model::Status::Refused] + tally[Model::Status::Failed] + tally[Model::Status::NotReached] == 0;
-        return Finish(output, isWhole && m_collected.problems.empty() ? ExitCode::Success : ExitCode::Partly);
-    }
-
-    /// Entries that were not reached are only counted: they may be very many, and nothing is wrong with them.
-    void ShowProblems() const
-    {
-        for (std::size_t index = 0; index < m_outcome.decisions.size(); ++index) {
-            const Model::Decision& decision = m_outcome.decisions[index];
-            if (decision.IsRename() || decision.status == Model::Status::Unchanged ||
-                decision.status == Model::Status::NotReached)
-                continue;
-            const Model::Entry& entry = m_collected.list.entries[index];
-            const std::string reason = Ui::ReasonFor(m_outcome, index);
-            Complain("'" + Text::SafeText(CString::Join({m_collected.list.folders[entry.folder].shown, entry.name})) +
-                     "' " + std::string(Ui::WordFor(decision.status)) + (reason.empty() ? "" : ": " + reason));
-        }
+        const int code =
+            WriteReport(*m_results, {m_request.json, m_request.quiet, !m_request.apply}, {}, Ending(isStopped));
+        if (m_request.quiet && m_summary.wasStopped)
+            Complain("interrupted: " + Ui::SummaryOf(Model::Tally(*m_results)) + Ending(isStopped));
+        return std::max(code, m_collected.problems.empty() ? ExitCode::Success : ExitCode::Partly);
     }
 
     [[nodiscard]] std::string Ending(bool isStopped) const
@@ -251,7 +191,7 @@ private:
     Collect::CollectedEntries m_collected;
     std::unique_ptr<Rename::NameSource> m_names;
     Rename::Preview m_preview;
-    Model::Outcome m_outcome;
+    std::optional<Rename::RenameResults> m_results;
     Batch::BatchSummary m_summary;
 };
 

@@ -3,15 +3,13 @@
 
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
+#include <VyrHost/cli/Report.h>
 #include <VyrHost/foldercopy/TransferBatch.h>
 #include <VyrHost/text/ErrorText.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/ui/Progress.h>
-#include <VyrHost/ui/TransferOutput.h>
-#include <VyrHostPlatform/Console.h>
 #include <VyrHostPlatform/Interrupt.h>
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -63,13 +61,12 @@ public:
     {
         if (m_request.apply && !m_batch.IsRefused())
             Apply();
-        Ui::OutputBuffer output;
-        Show(output);
-        output.Flush();
+        const int code = WriteReport(FolderCopy::TransferResults(m_batch.Reports(), m_request.action),
+                                     {m_request.json, m_request.quiet, !m_request.apply}, {}, Ending());
         if (m_batch.CreationError() != 0)
             Complain("warning: folders do not keep their creation times there: " +
                      Text::SafeText(Text::ErrorText(m_batch.CreationError())));
-        return Finish(output, Judge());
+        return m_batch.WasStopped() ? ExitCode::Interrupted : code;
     }
 
 private:
@@ -81,21 +78,6 @@ private:
         m_batch.Apply(watch);
     }
 
-    void Show(Ui::OutputBuffer& output) const
-    {
-        const std::string summary = Ui::SummaryOf(m_batch.Reports(), m_request.action);
-        if (m_request.json) {
-            Ui::WriteTransferJson(output, m_batch.Reports(), m_request.action);
-            VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, summary);
-        } else if (m_request.quiet) {
-            for (const std::string& line : Ui::ProblemLines(m_batch.Reports(), m_request.action))
-                Complain(line);
-        } else {
-            Ui::WriteTransferTable(output, m_batch.Reports(), m_request.action);
-            output << summary << Ending();
-        }
-    }
-
     [[nodiscard]] const char* Ending() const
     {
         if (!m_request.apply)
@@ -105,16 +87,6 @@ private:
         if (!m_batch.IsRefused())
             return "";
         return m_request.action == FolderCopy::TransferAction::Copy ? "Nothing was copied.\n" : "Nothing was moved.\n";
-    }
-
-    [[nodiscard]] int Judge() const
-    {
-        if (m_batch.WasStopped())
-            return ExitCode::Interrupted;
-        const bool isWhole = std::all_of(
-            m_batch.Reports().begin(), m_batch.Reports().end(),
-            [](const FolderCopy::TransferReport& report) { return report.status == FolderCopy::TransferStatus::Done; });
-        return isWhole ? ExitCode::Success : ExitCode::Partly;
     }
 
     const TransferRequest& m_request;

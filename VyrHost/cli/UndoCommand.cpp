@@ -3,14 +3,14 @@
 
 #include <VyrHost/batch/Batches.h>
 #include <VyrHost/cli/ArgumentText.h>
-#include <VyrHost/cli/BatchReport.h>
 #include <VyrHost/cli/Examples.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/OptionPairs.h>
+#include <VyrHost/cli/Report.h>
 #include <VyrHost/rename/RuleTexts.h>
 #include <VyrHost/text/SafeText.h>
-#include <VyrHost/ui/BatchOutput.h>
+#include <VyrHost/ui/BatchList.h>
 #include <VyrHostPlatform/Console.h>
 #include <VyrHostPlatform/Interrupt.h>
 
@@ -32,16 +32,18 @@ constexpr std::size_t mostNamed = 5;
 class Reversal
 {
 public:
-    explicit Reversal(BatchReportStyle style) : m_style(style), m_batches(WaitTenSeconds()) {}
+    Reversal(Batch::Direction direction, const ReportStyle& style)
+        : m_direction(direction), m_style(style), m_batches(WaitTenSeconds())
+    {}
 
     /// Names `batch` and works on it.
     /// @param number  its own, or that of its undo for a redo.
     Batch::BatchSummary Run(const Batch::BatchInformation& batch, std::uint32_t number)
     {
         Announce(batch);
-        const bool isUndo = m_style.direction == Batch::Direction::Backward;
+        const bool isUndo = m_direction == Batch::Direction::Backward;
         const char* const what = isUndo ? "undoing" : "redoing";
-        m_report = std::make_unique<BatchReport>(what, batch.renamed.value_or(batch.entries), m_style);
+        m_report = std::make_unique<BatchReport>(what, batch.renamed.value_or(batch.entries), m_direction, m_style);
         const Batch::BatchEntryReport collector = m_report->Collector();
         if (m_style.isPreview)
             return isUndo ? m_batches.PreviewUndo(number, collector) : m_batches.PreviewRedo(number, collector);
@@ -55,7 +57,7 @@ public:
 private:
     void Announce(const Batch::BatchInformation& batch) const
     {
-        const bool isUndo = m_style.direction == Batch::Direction::Backward;
+        const bool isUndo = m_direction == Batch::Direction::Backward;
         const std::string line = (isUndo ? "Undoing " : "Redoing ") + Text::SafeText(Ui::NameOf(batch)) + ".\n";
         if (!m_style.quiet)
             VyrHostPlatform::Console::Write(m_style.json ? VyrHostPlatform::Console::Stream::Error
@@ -63,7 +65,8 @@ private:
                                             line);
     }
 
-    const BatchReportStyle m_style;
+    const Batch::Direction m_direction;
+    const ReportStyle m_style;
     Batch::Batches m_batches;
     std::unique_ptr<BatchReport> m_report;
 };
@@ -144,12 +147,12 @@ int UndoCommand::List() const
 
 int UndoCommand::ReverseNumber(std::uint32_t number) const
 {
-    BatchReportStyle style{Batch::Direction::Backward, m_records.IsJson(), m_records.IsQuiet(), m_preview};
     for (const Batch::BatchInformation& batch : Batch::Batches().List()) {
         if (batch.number != number && batch.undo != number)
             continue;
-        style.direction = batch.number == number ? Batch::Direction::Backward : Batch::Direction::Forward;
-        Reversal reversal(style);
+        const bool isUndo = batch.number == number;
+        Reversal reversal(isUndo ? Batch::Direction::Backward : Batch::Direction::Forward,
+                          {m_records.IsJson(), m_records.IsQuiet(), m_preview});
         return reversal.Write(reversal.Run(batch, number));
     }
     Complain("the journal has no batch of this number");
@@ -160,7 +163,7 @@ int UndoCommand::UndoLatest() const
 {
     const Batch::UndoCandidates candidates = Batch::FindUndoCandidates(Batch::Batches().List(), u".");
     for (const Batch::BatchInformation& batch : candidates.here) {
-        Reversal reversal({Batch::Direction::Backward, m_records.IsJson(), m_records.IsQuiet(), m_preview});
+        Reversal reversal(Batch::Direction::Backward, {m_records.IsJson(), m_records.IsQuiet(), m_preview});
         const Batch::BatchSummary summary = reversal.Run(batch, batch.number);
         if (summary.obstacle == Batch::Obstacle::None)
             return reversal.Write(summary);

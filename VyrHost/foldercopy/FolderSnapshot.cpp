@@ -84,9 +84,9 @@ FolderSnapshot TakeSnapshot(const CString& root)
     return tree;
 }
 
-SnapshotSize SizeOf(const FolderSnapshot& tree)
+Model::TreeSize SizeOf(const FolderSnapshot& tree)
 {
-    SnapshotSize size;
+    Model::TreeSize size;
     size.folders = tree.folders.size();
     size.files = tree.entries.size() - (tree.folders.size() - 1);
     for (const SnapshotEntry& entry : tree.entries)

@@ -2,6 +2,7 @@
 /// What stands in a folder and below it, taken down before it is copied or moved.
 #pragma once
 
+#include <VyrHost/model/Result.h>
 #include <VyrHostPlatform/FolderTraits.h>
 #include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/text/CString.h>
@@ -60,20 +61,9 @@ struct FolderSnapshot
     std::vector<SnapshotEntry> entries;
 };
 
-/// How much there is in a tree.
-struct SnapshotSize
-{
-    /// The root included.
-    std::size_t folders = 0;
-    /// Whatever is no folder.
-    std::size_t files = 0;
-    /// Of all files together.
-    std::int64_t bytes = 0;
-};
-
 /// Takes down the folder at the full path `root`, hidden entries included.
 [[nodiscard]] FolderSnapshot TakeSnapshot(const CString& root);
 
-[[nodiscard]] SnapshotSize SizeOf(const FolderSnapshot& tree);
+[[nodiscard]] Model::TreeSize SizeOf(const FolderSnapshot& tree);
 
 } // namespace VyrHost::FolderCopy

@@ -3,12 +3,49 @@
 
 #include <VyrHost/foldercopy/CreatedFolders.h>
 #include <VyrHost/foldercopy/TransferFinish.h>
+#include <VyrLibraryUtils/FileUtils.h>
 
 #include <algorithm>
 #include <iterator>
 #include <utility>
 
 namespace VyrHost::FolderCopy {
+
+TransferResults::TransferResults(const std::vector<TransferReport>& reports, TransferAction action)
+{
+    for (const TransferReport& report : reports) {
+        Model::Result whole;
+        whole.kind = action == TransferAction::Copy ? "copy" : "move";
+        whole.status = report.status;
+        whole.size = report.size;
+        Add(report.task, {}, whole);
+        TransferProblems problems = report.problems;
+        std::stable_sort(problems.begin(), problems.end(),
+                         [](const TransferProblem& left, const TransferProblem& right) {
+                             return left.path.View() < right.path.View();
+                         });
+        Model::Result part;
+        part.kind = whole.kind;
+        part.isPart = true;
+        // Clashes, found before anything is touched, are all that a refused tree has.
+        part.status = report.status == Model::Status::Refused ? Model::Status::Refused : Model::Status::Failed;
+        for (const TransferProblem& problem : problems) {
+            part.reason = ReasonOf(problem);
+            Add(report.task, problem.path, part);
+        }
+    }
+}
+
+void TransferResults::Add(const TransferTask& task, const CString& path, Model::Result result)
+{
+    const auto below = [&path](const CString& folder) {
+        return path.IsEmpty() ? folder : VyrLibraryUtils::FileUtils::GetCombinePath(folder, path);
+    };
+    Row& row = m_rows.emplace_back(Row{
+        {below(task.source), below(task.shownSource), below(task.target), below(task.shownTarget)}, std::move(result)});
+    row.result.from = {row.texts[0], row.texts[1], {}};
+    row.result.to = {row.texts[2], row.texts[3], {}};
+}
 
 TransferBatch::TransferBatch(const std::vector<CString>& sources, const CString& destination, TransferAction action,
                              Trial trial)
@@ -23,7 +60,7 @@ TransferBatch::TransferBatch(const std::vector<CString>& sources, const CString&
 bool TransferBatch::IsRefused() const
 {
     return std::any_of(m_reports.begin(), m_reports.end(),
-                       [](const TransferReport& report) { return report.status == TransferStatus::Refused; });
+                       [](const TransferReport& report) { return report.status == Model::Status::Refused; });
 }
 
 void TransferBatch::Check(TransferTask task, Trial trial)
@@ -33,11 +70,11 @@ void TransferBatch::Check(TransferTask task, Trial trial)
     TransferReport report;
     report.size = SizeOf(tree);
     if (!check.clashes.empty()) {
-        report.status = TransferStatus::Refused;
+        report.status = Model::Status::Refused;
         report.problems = std::move(check.clashes);
     } else {
         report.problems = ForeseeProblems(tree, task.target, m_action);
-        report.status = report.problems.empty() ? TransferStatus::Done : TransferStatus::Incomplete;
+        report.status = report.problems.empty() ? Model::Status::Done : Model::Status::Incomplete;
     }
     report.task = std::move(task);
     m_reports.push_back(std::move(report));
@@ -49,8 +86,8 @@ void TransferBatch::Check(TransferTask task, Trial trial)
 void TransferBatch::StopAll()
 {
     for (TransferReport& report : m_reports)
-        if (report.status != TransferStatus::Refused) {
-            report.status = TransferStatus::NotReached;
+        if (report.status != Model::Status::Refused) {
+            report.status = Model::Status::NotReached;
             report.problems.clear();
         }
 }
@@ -63,7 +100,7 @@ void TransferBatch::Apply(TransferWatch& watch)
         m_reports[index].problems.clear();
         m_wasStopped = watch.IsStopAsked();
         if (m_wasStopped)
-            m_reports[index].status = TransferStatus::NotReached;
+            m_reports[index].status = Model::Status::NotReached;
         else
             Transfer(index, watch);
     }
@@ -79,14 +116,14 @@ void TransferBatch::Transfer(std::size_t index, TransferWatch& watch)
         TransferFolder(tree, report.task.target, m_action, records, [&watch](std::size_t made) { watch.Show(made); });
     watch.End();
     if (error != 0) {
-        report.status = TransferStatus::Failed;
+        report.status = Model::Status::Failed;
         report.problems.push_back({CString(), TransferFault::System, error});
         return;
     }
     report.problems = FinishTransfer(tree, report.task.target, m_action, records);
     CreatedFoldersResult made = CompleteFolders(tree, records);
     std::move(made.problems.begin(), made.problems.end(), std::back_inserter(report.problems));
-    report.status = report.problems.empty() ? TransferStatus::Done : TransferStatus::Incomplete;
+    report.status = report.problems.empty() ? Model::Status::Done : Model::Status::Incomplete;
     if (made.creationError != 0)
         m_creationError = made.creationError;
 }

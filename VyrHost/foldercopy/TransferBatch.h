@@ -7,6 +7,7 @@
 #include <VyrHost/foldercopy/Transfer.h>
 #include <VyrHost/foldercopy/TransferProblem.h>
 #include <VyrHost/foldercopy/TransferTasks.h>
+#include <VyrHost/model/Result.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -14,27 +15,34 @@
 
 namespace VyrHost::FolderCopy {
 
-/// What becomes of a tree.
-enum class TransferStatus : std::uint8_t
-{
-    /// It is copied or moved, or can be.
-    Done,
-    /// Likewise, but not all that is in it.
-    Incomplete,
-    /// Something is in its way.
-    Refused,
-    /// Nothing of it, since its root could not be made.
-    Failed,
-    /// Nothing was begun.
-    NotReached
-};
-
+/// What becomes of a tree. Failed: nothing of it, since its root could not be made.
 struct TransferReport
 {
     TransferTask task;
-    TransferStatus status = TransferStatus::Done;
-    SnapshotSize size;
+    Model::Status status = Model::Status::Done;
+    Model::TreeSize size;
     TransferProblems problems;
+};
+
+/// The results of a call: one for each tree, and behind it, as its parts, one for each problem, by path.
+class TransferResults final : public Model::Results
+{
+public:
+    TransferResults(const std::vector<TransferReport>& reports, TransferAction action);
+
+    [[nodiscard]] std::size_t Count() const override { return m_rows.size(); }
+    [[nodiscard]] Model::Result At(std::size_t index) const override { return m_rows[index].result; }
+
+private:
+    /// A result, and the texts of its paths.
+    struct Row
+    {
+        CString texts[4];
+        Model::Result result;
+    };
+    void Add(const TransferTask& task, const CString& path, Model::Result result);
+
+    std::vector<Row> m_rows;
 };
 
 /// Looks on while trees are copied or moved.

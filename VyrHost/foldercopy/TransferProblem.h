@@ -49,6 +49,9 @@ struct TransferProblem
     std::uint32_t error = 0;
 };
 
+/// Why, for people.
+[[nodiscard]] CString ReasonOf(const TransferProblem& problem);
+
 using TransferProblems = std::vector<TransferProblem>;
 
 } // namespace VyrHost::FolderCopy

@@ -18,7 +18,7 @@ using VyrPlatform::FileSystem::Kind;
 class ConflictResolver
 {
 public:
-    ConflictResolver(Model::EntryList& list, const Groups& groups, std::vector<Model::Decision>& decisions,
+    ConflictResolver(Model::EntryList& list, const Groups& groups, std::vector<Decision>& decisions,
                      const ConflictSettings& settings, bool mayNumber)
         : m_list(list), m_groups(groups), m_decisions(decisions), m_settings(settings), m_mayNumber(mayNumber)
     {}
@@ -91,7 +91,7 @@ private:
 
     struct Clash
     {
-        Model::Reason reason;
+        Reason reason;
         /// The name is taken by another member of the group, which no number changes.
         bool isWithin;
     };
@@ -103,7 +103,7 @@ private:
             const std::uint32_t entry = m_members[place];
             Model::NameRecord& record = Names(entry).Add(WantedName(entry));
             if (IsFree(record)) {
-                Give(entry, record, WantedName(entry), Model::Status::Renamed);
+                Give(entry, record, WantedName(entry), Model::Status::Done);
                 continue;
             }
             const bool isWithin = record.holder < Model::NewFolder && m_groups.Of(record.holder) == group;
@@ -129,8 +129,8 @@ private:
             for (std::size_t place = 0; place < m_members.size(); ++place) {
                 const std::uint32_t entry = m_members[place];
                 candidates[place] = names[place].With(m_settings.numbering, m_settings.digits, attempt);
-                if (const Model::Reason reason = ValidateName(candidates[place], m_list.entries[entry].name).reason;
-                    reason != Model::Reason::None) {
+                if (const Reason reason = ValidateName(candidates[place], m_list.entries[entry].name).reason;
+                    reason != Reason::None) {
                     Stay(Model::Status::Refused, reason);
                     return;
                 }
@@ -143,7 +143,7 @@ private:
                 return;
             }
         }
-        Stay(Model::Status::Refused, Model::Reason::NoFreeNumber);
+        Stay(Model::Status::Refused, Reason::NoFreeNumber);
     }
 
     void GiveNumbered(const std::vector<CString>& candidates)
@@ -159,7 +159,7 @@ private:
     /// @param record  of `name`, which it may write in another way.
     void Give(std::uint32_t entry, Model::NameRecord& record, Model::InternedName name, Model::Status status)
     {
-        Model::Decision& decision = m_decisions[entry];
+        Decision& decision = m_decisions[entry];
         const Model::Entry& own = m_list.entries[entry];
         record.holder = entry;
         decision.name = name;
@@ -167,10 +167,10 @@ private:
     }
 
     /// The members keep the names that they have, whoever was to get those.
-    void Stay(Model::Status status, Model::Reason reason)
+    void Stay(Model::Status status, Reason reason)
     {
         for (const std::uint32_t entry : m_members) {
-            Model::Decision& decision = m_decisions[entry];
+            Decision& decision = m_decisions[entry];
             decision.name = WantedName(entry);
             decision.status = status;
             decision.reason = reason;
@@ -225,10 +225,10 @@ private:
         return record.holder == Model::NoEntry && (record.kind == Kind::Missing || record.owner != Model::NoEntry);
     }
 
-    [[nodiscard]] Model::Reason ClashOf(const Model::NameRecord& record) const
+    [[nodiscard]] Reason ClashOf(const Model::NameRecord& record) const
     {
         const bool goesToOther = record.holder < Model::NewFolder && m_decisions[record.holder].IsRename();
-        return goesToOther ? Model::Reason::TwoToOne : Model::Reason::TargetExists;
+        return goesToOther ? Reason::TwoToOne : Reason::TargetExists;
     }
 
     [[nodiscard]] Model::NameTable& Names(std::uint32_t entry)
@@ -238,7 +238,7 @@ private:
 
     Model::EntryList& m_list;
     const Groups& m_groups;
-    std::vector<Model::Decision>& m_decisions;
+    std::vector<Decision>& m_decisions;
     const ConflictSettings& m_settings;
     const bool m_mayNumber;
     /// Groups to settle.
@@ -253,7 +253,7 @@ private:
 
 } // namespace
 
-void ResolveConflicts(Model::EntryList& list, const Groups& groups, std::vector<Model::Decision>& decisions,
+void ResolveConflicts(Model::EntryList& list, const Groups& groups, std::vector<Decision>& decisions,
                       const ConflictSettings& settings, bool mayNumber)
 {
     ConflictResolver(list, groups, decisions, settings, mayNumber).Run();

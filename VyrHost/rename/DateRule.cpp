@@ -76,11 +76,11 @@ DateRule::DateRule(NameFuncs::ITEM settings, std::vector<Model::DateSource> sour
       m_hasFolder(m_item.dateTimeFormat.Find(Token::Folder) >= 0)
 {}
 
-RuleFault DateRule::Apply(Subject& subject)
+Reason DateRule::Apply(Subject& subject)
 {
     const CString oldName = subject.name;
-    RuleFault fault = ComputeDated(subject);
-    if (fault != RuleFault::None || (!m_hasMake && !m_hasModel && !m_hasFolder))
+    Reason fault = ComputeDated(subject);
+    if (fault != Reason::None || (!m_hasMake && !m_hasModel && !m_hasFolder))
         return fault;
 
     const int oldLength = m_item.dateTimePosition == 0 ? 0 : oldName.GetLength();
@@ -88,7 +88,7 @@ RuleFault DateRule::Apply(Subject& subject)
     subject.name =
         m_item.dateTimePosition == AfterName ? subject.name.Right(textLength) : subject.name.Left(textLength);
     fault = PutInCamera(subject, subject.name);
-    if (fault == RuleFault::None && m_hasFolder)
+    if (fault == Reason::None && m_hasFolder)
         fault = TakeFolders(subject);
     if (m_item.dateTimePosition == BeforeName)
         subject.name += oldName;
@@ -97,7 +97,7 @@ RuleFault DateRule::Apply(Subject& subject)
     return fault;
 }
 
-RuleFault DateRule::ComputeDated(Subject& subject)
+Reason DateRule::ComputeDated(Subject& subject)
 {
     const CString oldName = subject.name;
     const int oldLength = m_item.dateTimePosition == 0 ? 0 : oldName.GetLength();
@@ -109,42 +109,42 @@ RuleFault DateRule::ComputeDated(Subject& subject)
             subject.dateRank = std::max(subject.dateRank, rank);
             if (m_sources.size() > 1)
                 subject.datesTaken.Add(m_sources[rank]);
-            return RuleFault::None;
+            return Reason::None;
         }
         subject.name = oldName;
         if (m_sources[rank] == Model::DateSource::Picture && PictureReadError(subject.path) != 0) {
             subject.dateRank = std::max(subject.dateRank, rank);
-            return RuleFault::PictureNotRead;
+            return Reason::PictureNotRead;
         }
     }
-    return RuleFault::NoDate;
+    return Reason::NoDate;
 }
 
-RuleFault DateRule::PutInCamera(const Subject& subject, CString& text) const
+Reason DateRule::PutInCamera(const Subject& subject, CString& text) const
 {
     const CString make = m_hasMake ? AsNamePart(ImageUtils::GetEquipMake(subject.path)) : CString();
     const CString model = m_hasModel ? AsNamePart(ImageUtils::GetEquipModel(subject.path)) : CString();
     const bool isSilent = (m_hasMake && make.IsEmpty()) || (m_hasModel && model.IsEmpty());
     if (isSilent && PictureReadError(subject.path) != 0)
-        return RuleFault::PictureNotRead;
+        return Reason::PictureNotRead;
     const Edges edges{m_item.dateTimePosition != AfterName, m_item.dateTimePosition != BeforeName};
     text = PutIn(PutIn(text, Token::Make, make, edges), Token::Model, model, edges);
-    return RuleFault::None;
+    return Reason::None;
 }
 
-RuleFault DateRule::TakeFolders(Subject& subject)
+Reason DateRule::TakeFolders(Subject& subject)
 {
     const char16_t separator = VyrPlatform::FileSystem::Separator();
     CString rest = subject.name;
     for (int end = rest.Find(Token::Folder); end >= 0; end = rest.Find(Token::Folder)) {
         const CString step = rest.Left(end);
         if (step.IsEmpty() || step == u"." || step == u"..")
-            return RuleFault::NamelessFolder;
+            return Reason::NamelessFolder;
         subject.folder = CString::Join({subject.folder, step, std::u16string_view(&separator, 1)});
         rest = rest.Mid(end + static_cast<int>(Token::Folder.size()));
     }
     subject.name = rest;
-    return RuleFault::None;
+    return Reason::None;
 }
 
 } // namespace VyrHost::Rename

@@ -18,15 +18,15 @@ public:
     /// `settings` is a record of the kind DateTime with its format and position.
     DateRule(VyrLibraryFuncs::NameFuncs::ITEM settings, std::vector<Model::DateSource> sources);
 
-    RuleFault Apply(Subject& subject) override;
+    Reason Apply(Subject& subject) override;
 
 private:
     /// Puts the first date that is there into the name.
-    [[nodiscard]] RuleFault ComputeDated(Subject& subject);
+    [[nodiscard]] Reason ComputeDated(Subject& subject);
     /// Puts the camera into `text`, which stands in the new name where the record says.
-    [[nodiscard]] RuleFault PutInCamera(const Subject& subject, CString& text) const;
+    [[nodiscard]] Reason PutInCamera(const Subject& subject, CString& text) const;
     /// Moves the subject down the folders that its name begins with.
-    static RuleFault TakeFolders(Subject& subject);
+    static Reason TakeFolders(Subject& subject);
 
     std::vector<Model::DateSource> m_sources;
     bool m_hasMake;

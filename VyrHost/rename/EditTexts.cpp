@@ -40,12 +40,12 @@ public:
         m_item.findText = Text::Composed(m_item.findText);
     }
 
-    RuleFault Apply(Subject& subject) override
+    Reason Apply(Subject& subject) override
     {
         if (Text::IsComposed(subject.name))
             return EngineRule::Apply(subject);
         subject.name = Text::ReplaceComposed(subject.name, m_item.findText, m_item.replaceText);
-        return RuleFault::None;
+        return Reason::None;
     }
 };
 

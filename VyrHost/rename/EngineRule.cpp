@@ -21,10 +21,10 @@ bool EngineRule::MayNumber() const
     return NameFuncs::IsResolveConflict(m_item) == 1;
 }
 
-RuleFault EngineRule::Apply(Subject& subject)
+Reason EngineRule::Apply(Subject& subject)
 {
     Compute(subject);
-    return RuleFault::None;
+    return Reason::None;
 }
 
 void EngineRule::Compute(Subject& subject)

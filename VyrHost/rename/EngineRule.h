@@ -27,7 +27,7 @@ class EngineRule : public Rule
 public:
     explicit EngineRule(VyrLibraryFuncs::NameFuncs::ITEM settings);
 
-    RuleFault Apply(Subject& subject) override;
+    Reason Apply(Subject& subject) override;
     [[nodiscard]] bool MayNumber() const override;
 
 protected:

@@ -25,7 +25,7 @@ WantedName NameFor(const Model::Folder& now, const CString& given)
     wanted.shownFolder = folder;
     wanted.name = given.View().substr(folder.size());
     if (wanted.name.IsEmpty())
-        wanted.reason = Model::Reason::EmptyName;
+        wanted.reason = Reason::EmptyName;
     return wanted;
 }
 

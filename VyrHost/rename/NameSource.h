@@ -2,8 +2,8 @@
 /// Where new names come from.
 #pragma once
 
-#include <VyrHost/model/Decision.h>
 #include <VyrHost/model/EntryList.h>
+#include <VyrHost/rename/Decision.h>
 #include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
@@ -21,7 +21,7 @@ struct WantedName
     /// With its extension.
     CString name;
     /// Why there is no name.
-    Model::Reason reason = Model::Reason::None;
+    Reason reason = Reason::None;
     /// The dates that rules with a choice took for it.
     Model::DateSourceSet datesTaken = {};
 };

@@ -40,23 +40,23 @@ bool HasNewLoneSurrogate(std::u16string_view newName, std::u16string_view oldNam
     return false;
 }
 
-Model::Reason ReasonOf(NameFault fault)
+Reason ReasonOf(NameFault fault)
 {
     switch (fault) {
     case NameFault::NoName:
-        return Model::Reason::DotName;
+        return Reason::DotName;
     case NameFault::ForbiddenCharacter:
-        return Model::Reason::ForbiddenCharacter;
+        return Reason::ForbiddenCharacter;
     case NameFault::TooLong:
-        return Model::Reason::TooLong;
+        return Reason::TooLong;
     case NameFault::ReservedWord:
-        return Model::Reason::ReservedWord;
+        return Reason::ReservedWord;
     case NameFault::TrailingDotOrBlank:
-        return Model::Reason::TrailingDotOrBlank;
+        return Reason::TrailingDotOrBlank;
     case NameFault::None:
         break;
     }
-    return Model::Reason::None;
+    return Reason::None;
 }
 
 } // namespace
@@ -67,9 +67,9 @@ NameValidity ValidateName(std::u16string_view newName, std::u16string_view oldNa
     if (verdict.isError)
         return {ReasonOf(verdict.fault), NameFault::None};
     if (HasNewLoneSurrogate(newName, oldName))
-        return {Model::Reason::NewLoneSurrogate, NameFault::None};
+        return {Reason::NewLoneSurrogate, NameFault::None};
     const bool isNew = verdict.fault != NameFault::None && VyrHostPlatform::CheckName(oldName).fault != verdict.fault;
-    return {Model::Reason::None, isNew ? verdict.fault : NameFault::None};
+    return {Reason::None, isNew ? verdict.fault : NameFault::None};
 }
 
 } // namespace VyrHost::Rename

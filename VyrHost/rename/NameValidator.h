@@ -2,7 +2,7 @@
 /// Whether a new name can be given at all, whatever else is in the folder.
 #pragma once
 
-#include <VyrHost/model/Decision.h>
+#include <VyrHost/rename/Decision.h>
 
 #include <string_view>
 
@@ -10,7 +10,7 @@ namespace VyrHost::Rename {
 
 struct NameValidity
 {
-    Model::Reason reason = Model::Reason::None;
+    Reason reason = Reason::None;
     /// A fault that the old name did not have and this system does not mind.
     VyrHostPlatform::NameFault warning = VyrHostPlatform::NameFault::None;
 };

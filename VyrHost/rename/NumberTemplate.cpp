@@ -32,7 +32,7 @@ class SequenceRule final : public EngineRule
 public:
     using EngineRule::EngineRule;
 
-    RuleFault Apply(Subject& subject) override
+    Reason Apply(Subject& subject) override
     {
         const std::int64_t number = m_item.startNumber + std::int64_t{m_item.step} * subject.index;
         using Limits = std::numeric_limits<int>;

@@ -18,7 +18,6 @@ using Model::Place;
 using Model::PlanEntry;
 using Model::PlanFolder;
 using Model::PlanIndex;
-using Model::Reason;
 
 class Planner
 {

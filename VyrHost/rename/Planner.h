@@ -2,8 +2,8 @@
 /// From renames in a tree of folders to the steps that bring them about.
 #pragma once
 
-#include <VyrHost/model/Decision.h>
 #include <VyrHost/model/RenamePlan.h>
+#include <VyrHost/rename/Decision.h>
 #include <VyrHostPlatform/NameFolding.h>
 
 #include <cstdint>
@@ -29,7 +29,7 @@ struct PlanRefusal
 {
     /// In the draft.
     Model::PlanIndex entry = 0;
-    Model::Reason reason = Model::Reason::None;
+    Reason reason = Reason::None;
 };
 
 struct PlannerResult

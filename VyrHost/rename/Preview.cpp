@@ -41,27 +41,27 @@ public:
         KeepTogether();
     }
 
-    std::vector<Model::Decision> TakeDecisions() { return std::move(m_decisions); }
+    std::vector<Decision> TakeDecisions() { return std::move(m_decisions); }
 
 private:
     /// Refuses an entry that is not there.
     bool LookFor(std::uint32_t index)
     {
         const Model::Entry& entry = m_list.entries[index];
-        Model::Decision& decision = m_decisions[index];
+        Decision& decision = m_decisions[index];
         decision.folder = entry.folder;
         if (!m_list.folders[entry.folder].exists)
-            decision.Refuse(Model::Reason::FolderNotRead);
+            decision.Refuse(Reason::FolderNotRead);
         else if (entry.kind == Kind::Missing)
-            decision.Refuse(Model::Reason::NoSuchEntry);
+            decision.Refuse(Reason::NoSuchEntry);
         return decision.status != Model::Status::Refused;
     }
 
     void Judge(std::uint32_t index, const WantedName& wanted)
     {
         const Model::Entry& entry = m_list.entries[index];
-        Model::Decision& decision = m_decisions[index];
-        if (wanted.reason != Model::Reason::None) {
+        Decision& decision = m_decisions[index];
+        if (wanted.reason != Reason::None) {
             decision.Refuse(wanted.reason);
             return;
         }
@@ -75,22 +75,22 @@ private:
         decision.name = m_list.folders.Intern(wanted.name);
         const NameValidity validity = ValidateName(decision.name, entry.name);
         decision.warning = validity.warning;
-        if (validity.reason != Model::Reason::None)
+        if (validity.reason != Reason::None)
             decision.Refuse(validity.reason);
         else if (moves && wanted.folder.GetLength() + wanted.name.GetLength() > LongestPath)
-            decision.Refuse(Model::Reason::TooLong);
+            decision.Refuse(Reason::TooLong);
         else if (moves)
             Move(decision, m_list.folders[entry.folder].device, wanted);
     }
 
-    void Move(Model::Decision& decision, std::optional<std::uint64_t> device, const WantedName& wanted)
+    void Move(Decision& decision, std::optional<std::uint64_t> device, const WantedName& wanted)
     {
         const TargetFolders::Target target = m_targets.Open(wanted.folder, wanted.shownFolder);
         decision.folder = target.folder;
-        if (target.reason != Model::Reason::None)
+        if (target.reason != Reason::None)
             decision.Refuse(target.reason);
         else if (device && target.device && *device != *target.device)
-            decision.Refuse(Model::Reason::OtherFileSystem);
+            decision.Refuse(Reason::OtherFileSystem);
         else if (decision.warning == VyrHostPlatform::NameFault::None)
             decision.warning = target.warning;
     }
@@ -105,13 +105,13 @@ private:
             return;
         for (const std::uint32_t entry : m_present)
             if (!isRefused(entry))
-                m_decisions[entry].Refuse(Model::Reason::CompanionRefused);
+                m_decisions[entry].Refuse(Reason::CompanionRefused);
     }
 
     Model::EntryList& m_list;
     NameSource& m_source;
     TargetFolders m_targets;
-    std::vector<Model::Decision> m_decisions;
+    std::vector<Decision> m_decisions;
     std::vector<std::uint32_t> m_present;
     std::vector<WantedName> m_names;
 };
@@ -129,7 +129,7 @@ public:
         m_draft.groups.reserve(count);
     }
 
-    void Add(const Model::Entry& entry, const Model::Decision& decision, std::uint32_t group)
+    void Add(const Model::Entry& entry, const Decision& decision, std::uint32_t group)
     {
         const Model::Place from{NumberOf(entry.folder), entry.name};
         const Model::Place to{NumberOf(decision.folder), decision.name};
@@ -167,7 +167,7 @@ void Plan(const Model::EntryList& list, const Groups& groups, Preview& preview)
 {
     const auto count =
         static_cast<std::size_t>(std::count_if(preview.decisions.begin(), preview.decisions.end(),
-                                               [](const Model::Decision& decision) { return decision.IsRename(); }));
+                                               [](const Decision& decision) { return decision.IsRename(); }));
     Drafting drafting(list, count);
     std::vector<std::uint32_t> drafted;
     drafted.reserve(count);
@@ -187,10 +187,10 @@ void Plan(const Model::EntryList& list, const Groups& groups, Preview& preview)
 }
 
 /// Whether a name is taken that was to be given.
-bool HasConflict(const std::vector<Model::Decision>& decisions)
+bool HasConflict(const std::vector<Decision>& decisions)
 {
-    return std::any_of(decisions.begin(), decisions.end(), [](const Model::Decision& decision) {
-        return decision.reason == Model::Reason::TargetExists || decision.reason == Model::Reason::TwoToOne;
+    return std::any_of(decisions.begin(), decisions.end(), [](const Decision& decision) {
+        return decision.reason == Reason::TargetExists || decision.reason == Reason::TwoToOne;
     });
 }
 
@@ -202,10 +202,10 @@ bool StopAtConflict(Preview& preview)
         return false;
     preview.plan = {};
     preview.entries.clear();
-    for (Model::Decision& decision : preview.decisions)
+    for (Decision& decision : preview.decisions)
         if (decision.IsRename()) {
             decision.status = Model::Status::NotReached;
-            decision.reason = Model::Reason::Stopped;
+            decision.reason = Reason::Stopped;
         }
     return true;
 }

@@ -2,9 +2,9 @@
 /// What becomes of each entry of a list, and the plan that brings it about.
 #pragma once
 
-#include <VyrHost/model/Decision.h>
 #include <VyrHost/model/EntryList.h>
 #include <VyrHost/model/RenamePlan.h>
+#include <VyrHost/rename/Decision.h>
 #include <VyrHost/rename/Groups.h>
 #include <VyrHost/rename/NameSource.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
@@ -41,7 +41,7 @@ using NamingProgress = std::function<void(std::size_t named)>;
 struct Preview
 {
     /// One for each entry of the list.
-    std::vector<Model::Decision> decisions;
+    std::vector<Decision> decisions;
     /// What is to be done for them.
     Model::RenamePlan plan;
     /// For each entry of the plan its place in the list, rising.

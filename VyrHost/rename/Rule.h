@@ -2,7 +2,7 @@
 /// A rule: what it works on, and what it may answer.
 #pragma once
 
-#include <VyrHost/model/DateSource.h>
+#include <VyrHost/rename/Decision.h>
 #include <VyrPlatform/text/CString.h>
 
 #include <cstddef>
@@ -32,24 +32,13 @@ struct Subject
     Model::DateSourceSet datesTaken = {};
 };
 
-/// Why a rule has no name for an entry.
-enum class RuleFault : std::uint8_t
-{
-    None,
-    /// None of the dates that were asked for exists.
-    NoDate,
-    /// The picture whose date or camera was asked for cannot be read.
-    PictureNotRead,
-    /// A folder to move into would be named "", "." or "..".
-    NamelessFolder
-};
-
 class Rule
 {
 public:
     virtual ~Rule() = default;
-    /// Changes the subject's folder, name and extension. After a fault they are not to be used.
-    virtual RuleFault Apply(Subject& subject) = 0;
+    /// Changes the subject's folder, name and extension.
+    /// @return why there is no name; the subject is not to be used then.
+    virtual Reason Apply(Subject& subject) = 0;
     /// Whether names that clash under this rule are to be numbered.
     [[nodiscard]] virtual bool MayNumber() const = 0;
 };

@@ -6,26 +6,7 @@
 
 namespace VyrHost::Rename {
 
-namespace {
-
 using VyrPlatform::FileSystem::Kind;
-
-Model::Reason ReasonOf(RuleFault fault)
-{
-    switch (fault) {
-    case RuleFault::NoDate:
-        return Model::Reason::NoDate;
-    case RuleFault::PictureNotRead:
-        return Model::Reason::PictureNotRead;
-    case RuleFault::NamelessFolder:
-        return Model::Reason::NamelessFolder;
-    case RuleFault::None:
-        break;
-    }
-    return Model::Reason::None;
-}
-
-} // namespace
 
 bool RuleNames::MayNumber() const
 {
@@ -45,8 +26,8 @@ void RuleNames::Name(const Model::EntryList& list, std::span<const std::uint32_t
 
 void RuleNames::NameOne(const Model::EntryList& list, const Model::Entry& entry, int index, WantedName& name)
 {
-    name.reason = ReasonOf(Run(list, entry, index, entry));
-    if (name.reason == Model::Reason::None)
+    name.reason = Run(list, entry, index, entry);
+    if (name.reason == Reason::None)
         name = Wanted(list, entry);
 }
 
@@ -58,10 +39,10 @@ void RuleNames::NameTogether(const Model::EntryList& list, std::span<const std::
     std::optional<std::size_t> rankNotRead;
     for (std::size_t place = 0; place < members.size() && (!leader || made.dateRank > 0); ++place) {
         const Model::Entry& entry = list.entries[members[place]];
-        names[place].reason = ReasonOf(Run(list, entry, index, entry));
-        if (names[place].reason == Model::Reason::PictureNotRead)
+        names[place].reason = Run(list, entry, index, entry);
+        if (names[place].reason == Reason::PictureNotRead)
             rankNotRead = std::min(rankNotRead.value_or(m_subject.dateRank), m_subject.dateRank);
-        if (names[place].reason == Model::Reason::None && (!leader || m_subject.dateRank < made.dateRank)) {
+        if (names[place].reason == Reason::None && (!leader || m_subject.dateRank < made.dateRank)) {
             leader = &entry;
             made = m_subject;
         }
@@ -69,8 +50,8 @@ void RuleNames::NameTogether(const Model::EntryList& list, std::span<const std::
     // The picture that cannot be read might have told a better date.
     if (leader && rankNotRead && *rankNotRead < made.dateRank) {
         for (WantedName& name : names)
-            if (name.reason != Model::Reason::PictureNotRead)
-                name.reason = Model::Reason::CompanionRefused;
+            if (name.reason != Reason::PictureNotRead)
+                name.reason = Reason::CompanionRefused;
         return;
     }
     if (!leader)
@@ -98,7 +79,7 @@ int RuleNames::TakeIndex(std::uint32_t folder)
 }
 
 /// @param dated  whose dates and picture data count.
-RuleFault RuleNames::Run(const Model::EntryList& list, const Model::Entry& entry, int index, const Model::Entry& dated)
+Reason RuleNames::Run(const Model::EntryList& list, const Model::Entry& entry, int index, const Model::Entry& dated)
 {
     m_subject.folder = list.folders[entry.folder].path;
     m_subject.path = list.PathOf(entry);
@@ -113,16 +94,16 @@ RuleFault RuleNames::Run(const Model::EntryList& list, const Model::Entry& entry
     m_subject.dateRank = 0;
     m_subject.datesTaken = {};
     for (const auto& rule : m_rules)
-        if (const RuleFault fault = rule->Apply(m_subject); fault != RuleFault::None)
+        if (const Reason fault = rule->Apply(m_subject); fault != Reason::None)
             return fault;
-    return RuleFault::None;
+    return Reason::None;
 }
 
 WantedName RuleNames::Wanted(const Model::EntryList& list, const Model::Entry& entry) const
 {
     WantedName wanted;
     if (m_subject.name.IsEmpty()) {
-        wanted.reason = Model::Reason::EmptyName;
+        wanted.reason = Reason::EmptyName;
         return wanted;
     }
     const Model::Folder& now = list.folders[entry.folder];

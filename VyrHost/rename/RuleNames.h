@@ -36,7 +36,7 @@ private:
     /// One stem for all, from the first that has a date of the best source.
     void NameTogether(const Model::EntryList& list, std::span<const std::uint32_t> members, int index,
                       std::vector<WantedName>& names);
-    RuleFault Run(const Model::EntryList& list, const Model::Entry& entry, int index, const Model::Entry& dated);
+    Reason Run(const Model::EntryList& list, const Model::Entry& entry, int index, const Model::Entry& dated);
     WantedName Wanted(const Model::EntryList& list, const Model::Entry& entry) const;
 
     const Rules& m_rules;

@@ -38,23 +38,23 @@ std::optional<TargetFolders::Target> TargetFolders::Find(std::uint32_t number) c
     if (const auto known = m_targets.find(number); known != m_targets.end())
         return known->second;
     if (VyrPlatform::FileSystem::IsFolder(folder.path))
-        return Target{.folder = number, .reason = Model::Reason::FolderNotRead};
-    if (folder.parent == Model::NoFolder || ValidateName(folder.name, {}).reason != Model::Reason::None)
-        return Target{.folder = number, .reason = Model::Reason::BadFolder};
+        return Target{.folder = number, .reason = Reason::FolderNotRead};
+    if (folder.parent == Model::NoFolder || ValidateName(folder.name, {}).reason != Reason::None)
+        return Target{.folder = number, .reason = Reason::BadFolder};
     return std::nullopt;
 }
 
 /// Takes the name of a folder that is not there yet in the folder `parent`.
 TargetFolders::Target TargetFolders::Claim(std::uint32_t number, const Target& parent)
 {
-    if (parent.reason != Model::Reason::None)
+    if (parent.reason != Reason::None)
         return {.folder = number, .reason = parent.reason};
     Model::Folder& folder = m_folders[number];
     Model::NameTable& siblings = m_folders[parent.folder].names;
     folder.names.SetFolding(siblings.Folding());
     Model::NameRecord& record = siblings.Add(folder.name);
     if (record.kind != Kind::Missing)
-        return {.folder = number, .reason = Model::Reason::BadFolder};
+        return {.folder = number, .reason = Reason::BadFolder};
     const NameFault warning = ValidateName(folder.name, {}).warning;
     // Its file system may take the name for that of a folder which is claimed already.
     const Target target{

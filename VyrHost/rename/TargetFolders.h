@@ -2,8 +2,8 @@
 /// The folders that entries move into.
 #pragma once
 
-#include <VyrHost/model/Decision.h>
 #include <VyrHost/model/FolderSet.h>
+#include <VyrHost/rename/Decision.h>
 
 #include <cstdint>
 #include <optional>
@@ -22,7 +22,7 @@ public:
     {
         std::uint32_t folder = 0;
         /// Why nothing can be moved there.
-        Model::Reason reason = Model::Reason::None;
+        Reason reason = Reason::None;
         /// What a folder that is to be made would be in trouble for on Windows.
         VyrHostPlatform::NameFault warning = VyrHostPlatform::NameFault::None;
         /// The file system that the folder is on, or will be.

@@ -1,8 +1,7 @@
-// Writes a preview as JSON lines.
+// Builds JSON objects.
 #include <VyrHost/ui/JsonLines.h>
 
 #include <VyrHost/text/UnitEscape.h>
-#include <VyrHost/ui/Words.h>
 #include <VyrPlatform/text/Encoding.h>
 #include <VyrPlatform/text/Surrogates.h>
 
@@ -58,20 +57,10 @@ void AppendInside(std::string& line, std::u16string_view text)
     }
 }
 
-/// Appends the path of what is called `name` in `folder`.
-void AppendPath(std::string& line, const Model::Folder& folder, std::u16string_view name)
+void AppendKey(std::string& line, std::string_view key)
 {
-    line += '"';
-    AppendInside(line, folder.path);
-    AppendInside(line, name);
-    line += '"';
-}
-
-/// Nothing where there are no words.
-void AppendField(std::string& line, std::string_view name, std::string_view words)
-{
-    if (!words.empty())
-        AppendJsonField(line, name, VyrPlatform::Encoding::FromUtf8(words));
+    line += line.empty() ? "{\"" : ",\"";
+    line.append(key).append("\":");
 }
 
 } // namespace
@@ -83,36 +72,31 @@ void AppendJsonText(std::string& line, std::u16string_view text)
     line += '"';
 }
 
-void AppendJsonField(std::string& line, std::string_view name, std::u16string_view text)
+void AppendJsonField(std::string& line, std::string_view key, std::u16string_view text, std::u16string_view more)
 {
-    line += line.empty() ? "{\"" : ",\"";
-    line.append(name).append("\":");
-    AppendJsonText(line, text);
+    AppendKey(line, key);
+    line += '"';
+    AppendInside(line, text);
+    AppendInside(line, more);
+    line += '"';
 }
 
-void WriteJsonLines(OutputBuffer& output, const Model::EntryList& list, const Model::Outcome& outcome)
+void AppendJsonNumber(std::string& line, std::string_view key, std::int64_t number)
 {
-    std::string line;
-    for (std::size_t index = 0; index < outcome.decisions.size() && !output.HasFailed(); ++index) {
-        const Model::Decision& decision = outcome.decisions[index];
-        line = "{\"from\":";
-        const Model::Entry& entry = list.entries[index];
-        AppendPath(line, list.folders[entry.folder], entry.name);
-        line += ",\"to\":";
-        if (decision.name.IsEmpty())
-            line += "null";
-        else
-            AppendPath(line, list.folders[decision.folder], decision.name);
-        // Its letters and blanks stand as they are.
-        line += ",\"status\":\"";
-        line += WordFor(decision.status);
-        line += '"';
-        AppendField(line, "reason", ReasonFor(outcome, index));
-        AppendField(line, "dateFrom", decision.IsRename() ? WordsFor(decision.datesTaken) : "");
-        AppendField(line, "warning", decision.IsRename() ? WarningFor(decision.warning) : "");
-        line += "}\n";
-        output << line;
-    }
+    AppendKey(line, key);
+    line += std::to_string(number);
+}
+
+void AppendJsonFlag(std::string& line, std::string_view key, bool flag)
+{
+    AppendKey(line, key);
+    line += flag ? "true" : "false";
+}
+
+void AppendJsonNull(std::string& line, std::string_view key)
+{
+    AppendKey(line, key);
+    line += "null";
 }
 
 } // namespace VyrHost::Ui

@@ -2,10 +2,7 @@
 /// Output for programs: one JSON object a line.
 #pragma once
 
-#include <VyrHost/model/Decision.h>
-#include <VyrHost/model/EntryList.h>
-#include <VyrHost/ui/OutputBuffer.h>
-
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -15,11 +12,11 @@ namespace VyrHost::Ui {
 /// that is not UTF-8) as its `\ud...` escape.
 void AppendJsonText(std::string& line, std::u16string_view text);
 
-/// Appends a field to the object that `line` holds so far, or begins the object where it is empty.
-void AppendJsonField(std::string& line, std::string_view name, std::u16string_view text);
-
-/// Writes one object for each entry: `from` and `to` (full paths; `to` is null where the rules give no name), `status`,
-/// `reason` or `warning` where there is one, and `dateFrom`, the dates taken, where --date-from gave a choice.
-void WriteJsonLines(OutputBuffer& output, const Model::EntryList& list, const Model::Outcome& outcome);
+/// Each of these appends a field to the object that `line` holds so far, or begins the object where it is empty.
+/// @param more  goes on with `text`. The text must not be cut inside a surrogate pair.
+void AppendJsonField(std::string& line, std::string_view key, std::u16string_view text, std::u16string_view more = {});
+void AppendJsonNumber(std::string& line, std::string_view key, std::int64_t number);
+void AppendJsonFlag(std::string& line, std::string_view key, bool flag);
+void AppendJsonNull(std::string& line, std::string_view key);
 
 } // namespace VyrHost::Ui

@@ -110,13 +110,13 @@ BatchSummary BatchScene::Apply(const StopRequest& isStopAsked)
     results.assign(list.renames.size(), {});
     const VyrHost::Rename::PlannerResult planned = Plan();
     for (const VyrHost::Rename::PlanRefusal& refusal : planned.refused)
-        results[refusal.entry].outcome = RenameOutcome::Refused;
+        results[refusal.entry].status = Status::Refused;
     if (planned.entries.empty())
         return {};
     std::vector<int> calls(planned.entries.size());
     BatchSummary summary = batches.Apply(
         planned.plan,
-        [&](PlanIndex entry, const RenameResult& result) {
+        [&](PlanIndex entry, const Outcome& result) {
             results[planned.entries[entry]] = result;
             ++calls[entry];
         },

@@ -29,7 +29,7 @@ class BatchScene
 
 public:
     explicit BatchScene(VyrHost::Batch::FileOperations& files = VyrHost::Batch::SystemFiles(),
-                        const VyrHost::Batch::ChangeKinds& kinds = {});
+                        const VyrHost::Model::ChangeKinds& kinds = {});
 
     /// The full path of `name` (with slashes) among the files.
     [[nodiscard]] CString Path(std::u16string_view name) const;
@@ -64,7 +64,7 @@ public:
     PathRenames list;
     VyrHost::Batch::Batches batches;
     /// Of the last Apply, by the renames' indexes.
-    std::vector<VyrHost::Model::RenameResult> results;
+    std::vector<VyrHost::Model::Outcome> results;
     /// Of the last Undo or Recover.
     std::vector<VyrHost::Batch::BatchEntry> entries;
 };

@@ -221,11 +221,11 @@ TEST(Batches, NeverReplaceWhatAppearedSinceThePreview)
     const BatchSummary summary = scene.Apply();
     EXPECT_EQ(summary.done, 1u);
     EXPECT_EQ(summary.failed, 2u);
-    EXPECT_EQ(scene.results[0].outcome, RenameOutcome::Failed);
+    EXPECT_EQ(scene.results[0].status, Status::Failed);
     EXPECT_TRUE(VyrHostPlatform::IsTargetTaken(scene.results[0].error));
     EXPECT_EQ(scene.results[0].reason, u"something stands at the new path");
-    EXPECT_EQ(scene.results[1].outcome, RenameOutcome::Done);
-    EXPECT_EQ(scene.results[2].outcome, RenameOutcome::Failed);
+    EXPECT_EQ(scene.results[1].status, Status::Done);
+    EXPECT_EQ(scene.results[2].status, Status::Failed);
     EXPECT_EQ(scene.Now(),
               (FolderSnapshot{
                   {"a", "a"}, {"c", "c"}, {"folder", "<folder>"}, {"x", "came later"}, {"y", "b"}, {"z", "<folder>"}}));
@@ -242,7 +242,7 @@ TEST(Batches, LeaveTheFolderOfTheirJournalWhereItIs)
     scene.Rename(u"a", u"b");
     const BatchSummary summary = scene.Apply();
     EXPECT_EQ(summary.refused, 1u);
-    EXPECT_EQ(scene.results[0].outcome, RenameOutcome::Refused);
+    EXPECT_EQ(scene.results[0].status, Status::Refused);
     EXPECT_EQ(scene.results[0].reason, u"the journal that \"vyr undo\" needs is kept in it");
     EXPECT_EQ(summary.done, 1u);
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"b", "a"}}));
@@ -284,7 +284,7 @@ TEST(Batches, LeaveTheFoldersAboveTheirJournalWhereTheyAre)
     scene.batches = Batches(SystemFiles(), SettingsIn(scene.Path(u"state/deep/journal")));
     scene.RenameFolder(u"state", u"other state").Rename(u"state/deep/a", u"state/deep/b").RenameFolder(u"other", u"x");
     const BatchSummary summary = scene.Apply();
-    EXPECT_EQ(scene.results[0].outcome, RenameOutcome::Refused);
+    EXPECT_EQ(scene.results[0].status, Status::Refused);
     EXPECT_EQ(summary.done, 2u);
     EXPECT_EQ(scene.Now().at("state/deep/b"), "state/deep/a");
     EXPECT_EQ(scene.Undo().done, 2u);
@@ -314,9 +314,9 @@ TEST(Batches, RefuseWhatDependsOnARenameThatFailed)
     scene.Write(u"4", "in the way");
     const FolderSnapshot before = scene.Now();
     EXPECT_EQ(scene.Apply().number, 0u);
-    EXPECT_EQ(scene.results[2].outcome, RenameOutcome::Failed);
-    EXPECT_EQ(scene.results[1].outcome, RenameOutcome::Refused);
-    EXPECT_EQ(scene.results[0].outcome, RenameOutcome::Refused);
+    EXPECT_EQ(scene.results[2].status, Status::Failed);
+    EXPECT_EQ(scene.results[1].status, Status::Refused);
+    EXPECT_EQ(scene.results[0].status, Status::Refused);
     EXPECT_GE(scene.results[0].reason.Find(scene.Path(u"2")), 0);
     EXPECT_EQ(scene.Now(), before);
     EXPECT_THAT(scene.JournalFiles(), IsEmpty());
@@ -374,7 +374,7 @@ TEST(Batches, GoOnWithoutASourceThatIsGone)
     scene.Rename(u"a", u"x").Rename(u"b", u"y").Rename(u"c", u"z");
     const BatchSummary summary = scene.Apply();
     EXPECT_EQ(summary.done, 2u);
-    EXPECT_EQ(scene.results[1].outcome, RenameOutcome::Failed);
+    EXPECT_EQ(scene.results[1].status, Status::Failed);
     EXPECT_NE(scene.results[1].error, 0u);
     EXPECT_FALSE(scene.results[1].reason.IsEmpty());
     EXPECT_EQ(scene.Undo().done, 2u);
@@ -476,7 +476,7 @@ TEST(Batches, NameWhatItsFolderDoesNotListAfterwards)
         if (change.newName == u"x")
             std::filesystem::rename(ToStdPath(scene.Path(u"x")), ToStdPath(scene.Path(u"kept otherwise")));
     };
-    const BatchSummary summary = scene.batches.Apply(scene.Plan().plan, [](PlanIndex, const RenameResult&) {}, {});
+    const BatchSummary summary = scene.batches.Apply(scene.Plan().plan, [](PlanIndex, const Outcome&) {}, {});
     EXPECT_EQ(summary.done, 2u);
     EXPECT_THAT(summary.missing, ElementsAre(scene.Path(u"x")));
 }
@@ -494,7 +494,7 @@ TEST(Batches, EndBetweenRenamesWhenAskedTo)
     EXPECT_TRUE(summary.wasStopped);
     EXPECT_EQ(summary.done, 3u);
     EXPECT_EQ(summary.notReached, 1u);
-    EXPECT_EQ(scene.results[3].outcome, RenameOutcome::NotReached);
+    EXPECT_EQ(scene.results[3].status, Status::NotReached);
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"b", "c"}, {"c", "b"}, {"d", "d"}, {"x", "a"}}));
     EXPECT_EQ(scene.batches.FindCutOff(), std::nullopt);
     EXPECT_EQ(scene.Undo().done, 3u);
@@ -865,7 +865,7 @@ TEST(Batches, CanBeClosedLaterWhenTheJournalCannotBe)
         return std::uint32_t{isClosing ? 28u : 0u};
     };
     EXPECT_GE(scene.Apply().error.Find(u"could not be closed"), 0);
-    EXPECT_EQ(scene.results[0].outcome, RenameOutcome::Done);
+    EXPECT_EQ(scene.results[0].status, Status::Done);
     files.before = {};
     EXPECT_NE(scene.Apply().error, u"");
     EXPECT_NE(scene.Undo().error, u"");

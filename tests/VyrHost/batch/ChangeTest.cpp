@@ -1,5 +1,5 @@
 // Changes that are no renames, proved by a small kind: the content of a file.
-#include <VyrHost/batch/Change.h>
+#include <VyrHost/model/Change.h>
 
 #include <VyrHost/batch/SourceStates.h>
 #include <gmock/gmock.h>
@@ -133,7 +133,7 @@ protected:
             [this] {
                 return Make({u"a", u"b", u"c"});
             },
-            [this](std::size_t index, const RenameResult& result) {
+            [this](std::size_t index, const Outcome& result) {
                 m_results.resize(std::max(m_results.size(), index + 1));
                 m_results[index] = result;
             },
@@ -146,7 +146,7 @@ protected:
     }
 
     BatchScene m_scene{SystemFiles(), KindsOfTest()};
-    std::vector<RenameResult> m_results;
+    std::vector<Outcome> m_results;
 };
 
 TEST_F(Changes, AreAppliedUndoneAndRedone)
@@ -297,7 +297,7 @@ TEST_F(Changes, GoTogetherWithRenamesOfTheSameFiles)
         batch.states = LookAtSources(batch.plan, SystemFiles());
         return batch;
     };
-    const BatchSummary applied = m_scene.batches.Apply(make, [](std::size_t, const RenameResult&) {}, {});
+    const BatchSummary applied = m_scene.batches.Apply(make, [](std::size_t, const Outcome&) {}, {});
     EXPECT_EQ(applied.error, u"");
     EXPECT_EQ(applied.done, 4u);
     EXPECT_EQ(m_scene.Now(), (FolderSnapshot{{"a", "new"}, {"c", "old"}, {"x", "new"}}));

@@ -13,6 +13,7 @@
 #include <random>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 using namespace VyrTests;
@@ -136,6 +137,15 @@ std::string Shown(const std::vector<CString>& call)
     return text;
 }
 
+/// What is written of a preview, without what marks it as one.
+std::string WithoutMarks(std::string json)
+{
+    constexpr std::string_view mark = ",\"preview\":true";
+    for (std::size_t at = json.find(mark); at != json.npos; at = json.find(mark, at))
+        json.erase(at, mark.size());
+    return json;
+}
+
 } // namespace
 
 TEST_F(RandomRules, AreAppliedAsShownAndUndoneWithoutATrace)
@@ -170,7 +180,7 @@ TEST_F(RandomRules, AreAppliedAsShownAndUndoneWithoutATrace)
         call.emplace_back(u"--apply");
         const ProgramResult result = Rename(call);
         EXPECT_EQ(result.exitCode, preview.exitCode) << result.errors;
-        EXPECT_EQ(result.output, preview.output);
+        EXPECT_EQ(result.output, WithoutMarks(preview.output));
         EXPECT_EQ(ContentsOf(Now()), ContentsOf(before));
         if (Now() == before)
             continue;

@@ -51,11 +51,13 @@ TEST_F(RenamePreview, WritesAJsonObjectALine)
     const auto path = [this](std::u16string_view name) {
         return Json(m_folder.Path(name));
     };
-    EXPECT_EQ(result.output, "{\"from\":" + path(u"b.txt") + ",\"to\":" + path(u"b.txt") +
-                                 ",\"status\":\"unchanged\"}\n" + "{\"from\":" + path(u"none") +
-                                 ",\"to\":null,\"status\":\"refused\",\"reason\":\"nothing of that name is there\"}\n" +
-                                 "{\"from\":" + path(u"a é.txt") + ",\"to\":" + path(u"b é.txt") +
-                                 ",\"status\":\"renamed\"}\n");
+    EXPECT_EQ(
+        result.output,
+        "{\"from\":" + path(u"b.txt") + ",\"to\":" + path(u"b.txt") + ",\"status\":\"unchanged\",\"preview\":true}\n" +
+            "{\"from\":" + path(u"none") +
+            ",\"to\":null,\"status\":\"refused\",\"reason\":\"nothing of that name is there\",\"preview\":true}\n" +
+            "{\"from\":" + path(u"a é.txt") + ",\"to\":" + path(u"b é.txt") +
+            ",\"status\":\"renamed\",\"preview\":true}\n");
     EXPECT_EQ(result.errors, "3 entries: 1 renamed, 1 unchanged, 1 refused.\n");
 }
 

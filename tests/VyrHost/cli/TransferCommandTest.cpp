@@ -92,13 +92,15 @@ TEST_F(TransferCommand, JsonTellsOfEachFolderAndEachProblem)
     ProgramResult result = Run({u"copy", u"from", u"to", u"--json"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_THAT(result.output, StartsWith("{\"from\":\""));
-    EXPECT_THAT(result.output, HasSubstr("\",\"status\":\"copied\",\"folders\":1,\"files\":1,\"bytes\":3}\n"));
+    EXPECT_THAT(result.output,
+                HasSubstr("\",\"status\":\"copied\",\"folders\":1,\"files\":1,\"bytes\":3,\"preview\":true}\n"));
     EXPECT_EQ(result.errors, "1 folder: 1 copied.\n");
     m_folder.WriteFile(u"to/from/a", "456");
     result = Run({u"copy", u"from", u"to", u"--json"});
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_THAT(result.output, HasSubstr("\"status\":\"refused\",\"folders\":1,"));
-    EXPECT_THAT(result.output, HasSubstr("\"status\":\"refused\",\"reason\":\"the new path is there already\"}\n"));
+    EXPECT_THAT(result.output,
+                HasSubstr("\"status\":\"refused\",\"reason\":\"the new path is there already\",\"preview\":true}\n"));
 }
 
 TEST_F(TransferCommand, WrongCallsAreRefusedBeforeAnythingIsTouched)

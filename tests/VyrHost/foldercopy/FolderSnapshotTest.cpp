@@ -41,7 +41,7 @@ TEST(FolderSnapshot, HoldsEveryEntryHiddenOnesIncluded)
     EXPECT_EQ(entries.at(u".hidden").size, 5);
     EXPECT_EQ(entries.at(u"deep").kind, SnapshotKind::Folder);
     EXPECT_EQ(entries.at(u"empty").kind, SnapshotKind::Folder);
-    const SnapshotSize size = SizeOf(tree);
+    const VyrHost::Model::TreeSize size = SizeOf(tree);
     EXPECT_EQ(size.folders, 4u);
     EXPECT_EQ(size.files, 3u);
     EXPECT_EQ(size.bytes, 8);

@@ -15,6 +15,7 @@
 using namespace VyrHost::FolderCopy;
 using testing::ElementsAre;
 using testing::Field;
+using VyrHost::Model::Status;
 using VyrTests::SnapshotOf;
 using VyrTests::TreeSnapshot;
 
@@ -91,9 +92,9 @@ protected:
 
 const TreeSnapshot Missing = {{"missing", ""}};
 
-std::vector<TransferStatus> StatusesOf(const TransferBatch& batch)
+std::vector<Status> StatusesOf(const TransferBatch& batch)
 {
-    std::vector<TransferStatus> statuses;
+    std::vector<Status> statuses;
     for (const TransferReport& report : batch.Reports()) {
         EXPECT_TRUE(report.problems.empty());
         statuses.push_back(report.status);
@@ -113,8 +114,7 @@ TEST_P(TransferBatchTest, StopInAFolderBringsItToItsEndAndBeginsNoOther)
     batch.Apply(watch);
 
     EXPECT_TRUE(batch.WasStopped());
-    EXPECT_THAT(StatusesOf(batch),
-                ElementsAre(TransferStatus::Done, TransferStatus::NotReached, TransferStatus::NotReached));
+    EXPECT_THAT(StatusesOf(batch), ElementsAre(Status::Done, Status::NotReached, Status::NotReached));
     EXPECT_THAT(watch.begun, ElementsAre(m_scratch.Path(u"one")));
     EXPECT_EQ(watch.ended, 1u);
     EXPECT_GE(watch.shownAfterStop, 1u);
@@ -136,7 +136,7 @@ TEST_P(TransferBatchTest, StopInTheLastFolderLeavesNothingUndone)
     batch.Apply(watch);
     EXPECT_TRUE(watch.IsStopAsked());
     EXPECT_FALSE(batch.WasStopped());
-    EXPECT_THAT(StatusesOf(batch), ElementsAre(TransferStatus::Done, TransferStatus::Done));
+    EXPECT_THAT(StatusesOf(batch), ElementsAre(Status::Done, Status::Done));
     EXPECT_EQ(At(u"to/one"), one);
     EXPECT_EQ(watch.ended, 2u);
 }
@@ -153,7 +153,7 @@ TEST_P(TransferBatchTest, WhatWasNotReachedIsDoneByTheNextCall)
     TransferBatch rest(Paths({u"two", u"three"}), m_scratch.Path(u"to"), GetParam(), Trial::Allowed);
     StoppingWatch never(m_scratch.Path(u"nowhere"), 1);
     rest.Apply(never);
-    EXPECT_THAT(StatusesOf(rest), ElementsAre(TransferStatus::Done, TransferStatus::Done));
+    EXPECT_THAT(StatusesOf(rest), ElementsAre(Status::Done, Status::Done));
     EXPECT_EQ(At(u"to/two"), two);
     EXPECT_EQ(At(u"to/three").size(), 1u);
 }
@@ -163,8 +163,8 @@ TEST_P(TransferBatchTest, RefusesAllForOneClashAndTouchesNothing)
     m_scratch.WriteFile(u"to/two/f", "old");
     TransferBatch batch(Paths({u"one", u"two"}), m_scratch.Path(u"to"), GetParam(), Trial::Allowed);
     EXPECT_TRUE(batch.IsRefused());
-    EXPECT_THAT(batch.Reports(), ElementsAre(Field(&TransferReport::status, TransferStatus::NotReached),
-                                             Field(&TransferReport::status, TransferStatus::Refused)));
+    EXPECT_THAT(batch.Reports(), ElementsAre(Field(&TransferReport::status, Status::NotReached),
+                                             Field(&TransferReport::status, Status::Refused)));
     StoppingWatch watch(m_scratch.Path(u"nowhere"), 1);
     batch.Apply(watch);
     EXPECT_TRUE(watch.begun.empty());

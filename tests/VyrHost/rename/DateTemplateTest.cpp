@@ -125,18 +125,17 @@ TEST_F(DateFormat, DropsABlankBesideATokenThatTheCameraDoesNotSay)
 TEST_F(DateFormat, TellsWhichDatesAChoiceTook)
 {
     Subject subject = SubjectOf(u"plain");
-    EXPECT_EQ(DateRules(u"yyyy", {DateSource::Picture, DateSource::Modified}).front()->Apply(subject), RuleFault::None);
+    EXPECT_EQ(DateRules(u"yyyy", {DateSource::Picture, DateSource::Modified}).front()->Apply(subject), Reason::None);
     EXPECT_TRUE(subject.datesTaken.Has(DateSource::Modified));
     EXPECT_FALSE(subject.datesTaken.Has(DateSource::Picture));
     Subject dated = SubjectOf(u"dated");
-    EXPECT_EQ(DateRules(u"yyyy", {DateSource::Picture, DateSource::Modified}).front()->Apply(dated), RuleFault::None);
-    EXPECT_EQ(DateRules(u"MM<Name>", {DateSource::Created, DateSource::Picture}).front()->Apply(dated),
-              RuleFault::None);
+    EXPECT_EQ(DateRules(u"yyyy", {DateSource::Picture, DateSource::Modified}).front()->Apply(dated), Reason::None);
+    EXPECT_EQ(DateRules(u"MM<Name>", {DateSource::Created, DateSource::Picture}).front()->Apply(dated), Reason::None);
     EXPECT_TRUE(dated.datesTaken.Has(DateSource::Picture));
     EXPECT_TRUE(dated.datesTaken.Has(DateSource::Created));
     EXPECT_FALSE(dated.datesTaken.Has(DateSource::Modified));
     Subject without = SubjectOf(u"dated");
-    EXPECT_EQ(DateRules(u"yyyy", {DateSource::Picture}).front()->Apply(without), RuleFault::None);
+    EXPECT_EQ(DateRules(u"yyyy", {DateSource::Picture}).front()->Apply(without), Reason::None);
     EXPECT_TRUE(without.datesTaken.IsEmpty());
 }
 

@@ -48,7 +48,7 @@ std::vector<Decision> DecideByRules(EntryList& list, const Rules& rules, OnConfl
 std::string Told(const Decision& decision)
 {
     switch (decision.status) {
-    case Status::Renamed:
+    case Status::Done:
         return VyrPlatform::Encoding::ToUtf8(decision.name);
     case Status::Numbered:
         return VyrPlatform::Encoding::ToUtf8(decision.name) + " #";

@@ -23,7 +23,7 @@ inline VyrHost::Rename::Subject FileSubject(const CString& name, const CString& 
 inline CString Apply(const VyrHost::Rename::Rules& rules, VyrHost::Rename::Subject subject)
 {
     for (const auto& rule : rules)
-        if (rule->Apply(subject) != VyrHost::Rename::RuleFault::None)
+        if (rule->Apply(subject) != VyrHost::Rename::Reason::None)
             return u"!";
     return subject.folder + subject.name + subject.extension;
 }

@@ -80,7 +80,7 @@ TEST(BatchesOnLinux, FailInAFolderThatMayNotBeWritten)
         GTEST_SKIP() << protection.WhyNot();
     const BatchSummary summary = scene.Apply();
     EXPECT_EQ(summary.done, 1u);
-    EXPECT_EQ(scene.results[0].outcome, RenameOutcome::Failed);
+    EXPECT_EQ(scene.results[0].status, Status::Failed);
     EXPECT_TRUE(scene.results[0].error == EACCES || scene.results[0].error == EPERM);
     EXPECT_EQ(
         scene.Now(),
@@ -139,7 +139,7 @@ TEST(BatchesOnLinux, RefuseOnlyWhatAFullDiskHasNoRoomFor)
     scene.NewFolder(u"first").NewFolder(u"second");
     scene.Rename(u"a", u"first/a").Rename(u"b", u"second/b");
     EXPECT_EQ(scene.Apply().done, 1u);
-    EXPECT_EQ(scene.results[1].outcome, RenameOutcome::Refused);
+    EXPECT_EQ(scene.results[1].status, Status::Refused);
     EXPECT_GE(scene.results[1].reason.Find(u"No space left"), 0);
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"b", "b"}, {"first", "<folder>"}, {"first/a", "a"}}));
     EXPECT_EQ(scene.Undo().done, 1u);

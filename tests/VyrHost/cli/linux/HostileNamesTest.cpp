@@ -42,7 +42,7 @@ TEST_F(HostileNames, BytesThatAreNotUtf8AreKept)
     m_folder.WriteFile(u"a\xDCFF\xDC80");
     const ProgramResult result = Rename({u"--json", u"--suffix", u"é", u"--stdin0"}, std::string("a\xff\x80\0", 4));
     EXPECT_THAT(result.output, HasSubstr("/a\\udcff\\udc80\",\"to\""));
-    EXPECT_THAT(result.output, HasSubstr("/a\\udcff\\udc80\xC3\xA9\",\"status\":\"renamed\"}"));
+    EXPECT_THAT(result.output, HasSubstr("/a\\udcff\\udc80\xC3\xA9\",\"status\":\"renamed\",\"preview\":true}"));
     EXPECT_EQ(Rename({u"--suffix", u"é", u"--apply", u"a\xDCFF\xDC80"}).exitCode, 0);
     EXPECT_TRUE(m_folder.Has(u"a\xDCFF\xDC80é"));
 }

@@ -1,18 +1,10 @@
-// Words batches and their entries as rows and as JSON.
-#include <VyrHost/ui/BatchOutput.h>
+// Words batches.
+#include <VyrHost/ui/BatchList.h>
 
-#include <VyrHost/text/FolderPart.h>
-#include <VyrHost/text/SafeText.h>
-#include <VyrHost/ui/JsonLines.h>
-#include <VyrHost/ui/Summary.h>
-#include <VyrHost/ui/Table.h>
-#include <VyrHost/ui/Words.h>
-#include <VyrPlatform/text/Encoding.h>
 #include <VyrPlatform/time/DateTimePattern.h>
 
 #include <span>
 #include <string_view>
-#include <utility>
 
 namespace VyrHost::Ui {
 
@@ -37,71 +29,6 @@ std::u16string_view WordFor(Batch::BatchState state)
         break;
     }
     return u"damaged";
-}
-
-CString WordFor(Model::RenameOutcome outcome)
-{
-    return VyrPlatform::Encoding::FromUtf8(Ui::WordFor(StatusOf(outcome)));
-}
-
-/// A rename as it went.
-struct Way
-{
-    const CString& from;
-    const CString& to;
-};
-
-Way WayOf(const Batch::BatchEntry& entry, Batch::Direction direction)
-{
-    return direction == Batch::Direction::Forward ? Way{entry.before, entry.after} : Way{entry.after, entry.before};
-}
-
-CString NoteFor(const Batch::BatchEntry& entry)
-{
-    CString note;
-    if (entry.result.outcome != Model::RenameOutcome::Done)
-        note = WordFor(entry.result.outcome);
-    if (!entry.result.reason.IsEmpty())
-        note = CString::Join({note, note.IsEmpty() ? u"" : u": ", entry.result.reason});
-    if (entry.hasChanged)
-        note = CString::Join({note, note.IsEmpty() ? u"" : u"; ", u"it has changed since"});
-    return note;
-}
-
-Tone ToneOf(const Batch::BatchEntry& entry)
-{
-    if (entry.result.outcome == Model::RenameOutcome::Failed || entry.result.outcome == Model::RenameOutcome::Refused)
-        return Tone::Bad;
-    return entry.hasChanged || entry.result.outcome == Model::RenameOutcome::NotReached ? Tone::Notable : Tone::Plain;
-}
-
-/// What a change that is no rename has made of what.
-std::pair<CString, CString> ValuesOf(const Batch::Change& change, Batch::Direction direction)
-{
-    std::pair<CString, CString> values(change.ShownBefore(), change.ShownAfter());
-    if (direction == Batch::Direction::Backward)
-        std::swap(values.first, values.second);
-    return values;
-}
-
-TableRow RowOf(const Batch::BatchEntry& entry, Batch::Direction direction)
-{
-    if (entry.change) {
-        const std::u16string_view folder = Text::FolderPart(entry.before);
-        const auto [from, to] = ValuesOf(*entry.change, direction);
-        const CString note = NoteFor(entry);
-        return {{folder, entry.before.View().substr(folder.size())},
-                {{}, {}},
-                CString::Join({from, u" -> ", to, note.IsEmpty() ? u"" : u"; ", note}),
-                ToneOf(entry)};
-    }
-    const Way way = WayOf(entry, direction);
-    const std::u16string_view from = Text::FolderPart(way.from);
-    const std::u16string_view to = Text::FolderPart(way.to);
-    return {{from, way.from.View().substr(from.size())},
-            {from == to ? std::u16string_view() : to, way.to.View().substr(to.size())},
-            NoteFor(entry),
-            ToneOf(entry)};
 }
 
 /// The state, for people.
@@ -243,43 +170,6 @@ RecordTable TableOfBatches(const std::vector<Batch::BatchInformation>& batches)
         return ToneOf(batches[row]);
     };
     return table;
-}
-
-void WriteEntryTable(OutputBuffer& output, const std::vector<Batch::BatchEntry>& entries, Batch::Direction direction)
-{
-    WriteTable(
-        output, entries.size(), [&](std::size_t index) { return RowOf(entries[index], direction); }, StyleOfOutput());
-}
-
-void WriteEntryJson(OutputBuffer& output, const std::vector<Batch::BatchEntry>& entries, Batch::Direction direction)
-{
-    for (const Batch::BatchEntry& entry : entries) {
-        std::string line;
-        if (entry.change) {
-            const auto [from, to] = ValuesOf(*entry.change, direction);
-            AppendJsonField(line, "kind", VyrPlatform::Encoding::FromUtf8(entry.change->Kind()));
-            AppendJsonField(line, "path", entry.before);
-            AppendJsonField(line, "from", from);
-            AppendJsonField(line, "to", to);
-        } else {
-            const auto [from, to] = WayOf(entry, direction);
-            AppendJsonField(line, "from", from);
-            AppendJsonField(line, "to", to);
-        }
-        AppendJsonField(line, "status", WordFor(entry.result.outcome));
-        if (!entry.result.reason.IsEmpty())
-            AppendJsonField(line, "reason", entry.result.reason);
-        line += entry.hasChanged ? ",\"changed\":true}\n" : ",\"changed\":false}\n";
-        output << line;
-    }
-}
-
-std::string SummaryOf(const Batch::BatchSummary& summary)
-{
-    return SummaryOf({{summary.done, WordFor(Model::Status::Renamed)},
-                      {summary.refused, WordFor(Model::Status::Refused)},
-                      {summary.failed, WordFor(Model::Status::Failed)},
-                      {summary.notReached, WordFor(Model::Status::NotReached)}});
 }
 
 } // namespace VyrHost::Ui

@@ -12,7 +12,7 @@
 #include <string>
 #include <string_view>
 
-namespace VyrHost::Batch {
+namespace VyrHost::Model {
 
 /// What a file has of a change.
 enum class ChangeState : std::uint8_t
@@ -70,4 +70,4 @@ using ChangeReader = std::function<std::shared_ptr<const Change>(const CString& 
 /// The kinds of change that a program knows besides the rename, by their names.
 using ChangeKinds = std::map<std::string, ChangeReader, std::less<>>;
 
-} // namespace VyrHost::Batch
+} // namespace VyrHost::Model

@@ -1,9 +1,10 @@
 /// @file
-/// What a preview says of one entry.
+/// What is decided about an entry, and the results made of it.
 #pragma once
 
 #include <VyrHost/model/DateSource.h>
-#include <VyrHost/model/NamePool.h>
+#include <VyrHost/model/EntryList.h>
+#include <VyrHost/model/Result.h>
 #include <VyrHostPlatform/NameRules.h>
 #include <VyrPlatform/text/CString.h>
 
@@ -13,29 +14,9 @@
 #include <unordered_map>
 #include <vector>
 
-namespace VyrHost::Model {
+namespace VyrHost::Rename {
 
-enum class Status : std::uint8_t
-{
-    /// Gets the name that the rules made.
-    Renamed,
-    /// Gets that name with a number, since the name itself is taken.
-    Numbered,
-    /// The rules make the name that it has.
-    Unchanged,
-    /// Its new name is taken, and the user asked to leave such entries alone.
-    Skipped,
-    /// Cannot get its new name; the reason says why.
-    Refused,
-    /// Was to get its new name, but the system did not do it.
-    Failed,
-    /// Was to get its new name, but the work was ended before.
-    NotReached
-};
-
-/// The number of statuses.
-inline constexpr std::size_t StatusCount = static_cast<std::size_t>(Status::NotReached) + 1;
-
+/// Why an entry does not get a name.
 enum class Reason : std::uint8_t
 {
     None,
@@ -74,39 +55,55 @@ enum class Reason : std::uint8_t
     /// A folder that it moves into cannot be created: who has the name was to get another one, but cannot.
     FolderKept,
     /// Another entry's name is taken, which stops all.
-    Stopped,
-    /// What applying found; the cause says it.
-    Applying
+    Stopped
 };
+
+/// A few words for people; empty for Reason::None.
+[[nodiscard]] std::u16string_view WordsFor(Reason reason);
+/// What the name would be in trouble for on Windows; empty for NameFault::None.
+[[nodiscard]] std::u16string_view WarningFor(VyrHostPlatform::NameFault fault);
 
 struct Decision
 {
     /// The new name; for an entry that is not renamed, the one that it would have had. Empty when there is none.
-    InternedName name;
+    Model::InternedName name;
     /// The folder that the name is in.
     std::uint32_t folder = 0;
-    Status status = Status::Renamed;
+    Model::Status status = Model::Status::Done;
     Reason reason = Reason::None;
     /// What the new name would be in trouble for on Windows, on a system that takes it.
     VyrHostPlatform::NameFault warning = VyrHostPlatform::NameFault::None;
     /// The dates that rules with a choice took for it.
-    DateSourceSet datesTaken = {};
+    Model::DateSourceSet datesTaken = {};
 
     void Refuse(Reason why)
     {
-        status = Status::Refused;
+        status = Model::Status::Refused;
         reason = why;
     }
-    [[nodiscard]] bool IsRename() const { return status == Status::Renamed || status == Status::Numbered; }
+    [[nodiscard]] bool IsRename() const { return status == Model::Status::Done || status == Model::Status::Numbered; }
 };
 
-/// A preview, or what became of it.
-struct Outcome
+/// The results of a preview, or of the batch that was made of it.
+class RenameResults final : public Model::Results
 {
-    /// One for each entry of the list.
-    std::vector<Decision> decisions;
-    /// What there is to say beyond the reason, by entry.
-    std::unordered_map<std::uint32_t, CString> causes;
+public:
+    /// @param list  what is decided about; must outlive the results.
+    RenameResults(const Model::EntryList& list, std::vector<Decision> decisions);
+
+    [[nodiscard]] std::size_t Count() const override { return m_decisions.size(); }
+    [[nodiscard]] Model::Result At(std::size_t index) const override;
+
+    /// What the batch made of an entry that was to be renamed.
+    void Set(std::uint32_t entry, const Model::Outcome& outcome);
+
+private:
+    [[nodiscard]] std::uint32_t CauseOf(std::uint32_t entry) const;
+
+    const Model::EntryList& m_list;
+    std::vector<Decision> m_decisions;
+    /// What there is to say beyond the reasons, by entry.
+    std::unordered_map<std::uint32_t, CString> m_causes;
 };
 
-} // namespace VyrHost::Model
+} // namespace VyrHost::Rename

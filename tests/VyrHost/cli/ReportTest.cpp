@@ -1,5 +1,5 @@
 // The exit code that the end of a batch asks for.
-#include <VyrHost/cli/BatchReport.h>
+#include <VyrHost/cli/Report.h>
 
 #include <VyrHost/cli/ExitCode.h>
 

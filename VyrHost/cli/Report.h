@@ -1,0 +1,59 @@
+/// @file
+/// Writes what becomes of a call, the same way for all commands.
+#pragma once
+
+#include <VyrHost/batch/Batches.h>
+#include <VyrHost/model/Result.h>
+#include <VyrHost/ui/Progress.h>
+
+#include <string>
+
+namespace VyrHost::Cli {
+
+/// How the user wants to read it.
+struct ReportStyle
+{
+    /// JSON lines; the summary goes to the error stream.
+    bool json = false;
+    /// Only what is wrong, as messages; with `json` all but the summary.
+    bool quiet = false;
+    /// Nothing was changed.
+    bool isPreview = false;
+
+    [[nodiscard]] bool IsSilent() const { return json || quiet; }
+};
+
+/// Writes `results` and their summary to the standard output.
+/// @param heading  stands before the summary of a table.
+/// @param ending   stands behind it: what was done, or how it goes on. With a line end, or empty.
+/// @return the exit code.
+[[nodiscard]] int WriteReport(const Model::Results& results, const ReportStyle& style, const std::string& heading,
+                              const std::string& ending);
+
+/// Collects and writes what becomes of the entries of a batch that is undone, redone or recovered.
+class BatchReport
+{
+public:
+    /// @param what  is done with `total` entries, for the progress: "undoing".
+    BatchReport(const char* what, std::size_t total, Batch::Direction direction, const ReportStyle& style);
+
+    /// To be handed to the work.
+    [[nodiscard]] Batch::BatchEntryReport Collector();
+    /// Writes all that was collected, and what the summary says.
+    /// @return the exit code.
+    [[nodiscard]] int Write(const Batch::BatchSummary& summary);
+
+private:
+    [[nodiscard]] std::string Ending(const Batch::BatchSummary& summary) const;
+
+    const Batch::Direction m_direction;
+    const ReportStyle m_style;
+    Ui::Progress m_progress;
+    Batch::BatchResults m_results;
+};
+
+/// Complains of what `summary` brings up.
+/// @return the exit code that it asks for, entries that were not done included.
+[[nodiscard]] int JudgeSummary(const Batch::BatchSummary& summary);
+
+} // namespace VyrHost::Cli

@@ -1,0 +1,142 @@
+/// @file
+/// What was to be done, what became of it, and why: the same for all commands.
+#pragma once
+
+#include <VyrPlatform/text/CString.h>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace VyrHost::Model {
+
+enum class Status : std::uint8_t
+{
+    /// It is done; in a preview: it can be done.
+    Done,
+    /// Likewise, but with a number in the name, since the name itself is taken.
+    Numbered,
+    /// There is nothing to do.
+    Unchanged,
+    /// The new name is taken, and the user asked to leave such entries alone.
+    Skipped,
+    /// Done for the folder, but not for all that is in it.
+    Incomplete,
+    /// It was not tried; the reason says why.
+    Refused,
+    /// The system refused it; the reason says why.
+    Failed,
+    /// The work ended before it.
+    NotReached
+};
+
+inline constexpr std::size_t statusCount = static_cast<std::size_t>(Status::NotReached) + 1;
+
+/// What became of one change.
+struct Outcome
+{
+    Status status = Status::NotReached;
+    /// The system's error code; 0 where none tells more.
+    std::uint32_t error = 0;
+    /// For people; empty when there is nothing to say.
+    CString reason;
+};
+
+/// A path in two parts, so that a list of a million names need not join them. The texts belong to the list.
+struct ResultPath
+{
+    /// What stands before the name, with the separator at its end: the absolute path, and as the user named it.
+    std::u16string_view folder;
+    std::u16string_view shownFolder;
+    /// Empty where the folders are the whole paths.
+    std::u16string_view name;
+
+    [[nodiscard]] bool IsEmpty() const { return folder.empty() && name.empty(); }
+};
+
+/// What a change in place sets, and what was there before, for people.
+struct ResultValues
+{
+    CString before;
+    CString after;
+};
+
+/// How much there is in a folder.
+struct TreeSize
+{
+    /// The folder itself included.
+    std::size_t folders = 0;
+    /// Whatever is no folder.
+    std::size_t files = 0;
+    /// Of all files together.
+    std::int64_t bytes = 0;
+};
+
+/// A change and what became of it. In a preview: what would.
+struct Result
+{
+    /// "rename", "copy" or "move", or the kind of a change in place, such as "times" (Change::Kind).
+    std::string_view kind;
+    /// What it is done to.
+    ResultPath from;
+    /// The new path; empty for a change in place, and where there is none.
+    ResultPath to;
+    /// Of a change in place.
+    std::optional<ResultValues> values;
+
+    Status status = Status::NotReached;
+    /// Why; empty when there is nothing to say.
+    CString reason;
+
+    /// It tells of something in the folder that the result before it is about, and is not counted.
+    bool isPart = false;
+    /// The dates that rules with a choice took, such as "picture"; empty for none.
+    CString dateFrom;
+    /// What a new name would be in trouble for elsewhere; empty for nothing.
+    std::u16string_view warning;
+    /// Whether the file was written to, or replaced by another, since the batch that is undone; nothing elsewhere.
+    std::optional<bool> hasChanged;
+    /// Of a folder that is copied or moved.
+    std::optional<TreeSize> size;
+};
+
+/// The results of a command. Each feature keeps what it needs and makes its results when they are asked for.
+class Results
+{
+public:
+    Results() = default;
+    Results(const Results&) = delete;
+    Results& operator=(const Results&) = delete;
+    virtual ~Results() = default;
+
+    [[nodiscard]] virtual std::size_t Count() const = 0;
+    /// The result at `index`, good until the next one is asked for.
+    [[nodiscard]] virtual Result At(std::size_t index) const = 0;
+};
+
+/// How many results have which status.
+class Tally
+{
+public:
+    explicit Tally(const Results& results);
+
+    [[nodiscard]] std::size_t operator[](Status status) const { return m_counts[static_cast<std::size_t>(status)]; }
+    [[nodiscard]] std::size_t All() const;
+    /// Whether nothing is incomplete, refused, failed or not reached.
+    [[nodiscard]] bool IsWhole() const;
+    /// Those that are done, by their kinds.
+    [[nodiscard]] const std::vector<std::pair<std::string_view, std::size_t>>& Done() const { return m_done; }
+    /// The kind of the first result; empty where there is none.
+    [[nodiscard]] std::string_view Kind() const { return m_kind; }
+
+private:
+    std::array<std::size_t, statusCount> m_counts{};
+    std::vector<std::pair<std::string_view, std::size_t>> m_done;
+    std::string_view m_kind;
+};
+
+} // namespace VyrHost::Model

@@ -1,0 +1,154 @@
+// Words what is decided about entries.
+#include <VyrHost/rename/Decision.h>
+
+#include <VyrHost/rename/PictureAccess.h>
+#include <VyrHost/text/ErrorText.h>
+
+#include <utility>
+
+namespace VyrHost::Rename {
+
+using VyrHostPlatform::NameFault;
+
+namespace {
+
+/// Separated by commas, as --date-from takes them: "picture,modified"; empty for none.
+CString WordsFor(Model::DateSourceSet dates)
+{
+    CString words;
+    for (const auto& [source, word] : Model::DateSourceWords)
+        if (dates.Has(source))
+            words = CString::Join({words, words.IsEmpty() ? u"" : u",", word});
+    return words;
+}
+
+CString ReasonAndCause(std::u16string_view reason, std::u16string_view cause)
+{
+    return CString::Join({reason, reason.empty() || cause.empty() ? u"" : u": ", cause});
+}
+
+} // namespace
+
+std::u16string_view WordsFor(Reason reason)
+{
+    switch (reason) {
+    case Reason::None:
+        break;
+    case Reason::NoSuchEntry:
+        return u"nothing of that name is there";
+    case Reason::FolderNotRead:
+        return u"its folder cannot be read";
+    case Reason::NoDate:
+        return u"it has no date of the kind asked for";
+    case Reason::PictureNotRead:
+        return u"the picture cannot be read";
+    case Reason::NamelessFolder:
+        return u"the name of its new folder would be empty, . or ..";
+    case Reason::BadFolder:
+        return u"a folder of that name cannot be made";
+    case Reason::OtherFileSystem:
+        return u"the new path is on another file system";
+    case Reason::EmptyName:
+        return u"the new name would be empty";
+    case Reason::TargetExists:
+        return u"the new name is there already";
+    case Reason::TwoToOne:
+        return u"another entry gets the same name";
+    case Reason::NoFreeNumber:
+        return u"every number is taken";
+    case Reason::CompanionRefused:
+        return u"a file that it belongs to cannot get its name";
+    case Reason::NewLoneSurrogate:
+        return u"the new name would hold half a character";
+    case Reason::DotName:
+        return u"the new name would be . or ..";
+    case Reason::ForbiddenCharacter:
+        return u"the new name would hold a forbidden character";
+    case Reason::TooLong:
+        return u"the new name would be too long";
+    case Reason::ReservedWord:
+        return u"the new name would be a reserved word";
+    case Reason::InsideItself:
+        return u"the folder would end up inside itself";
+    case Reason::PlaceKept:
+        return u"the new path is taken by an entry that keeps it";
+    case Reason::FolderKept:
+        return u"its folder cannot be made: an entry keeps the path";
+    case Reason::Stopped:
+        return u"another entry's name is taken";
+    case Reason::TrailingDotOrBlank:
+        return u"the new name would end in a dot or a blank";
+    }
+    return {};
+}
+
+std::u16string_view WarningFor(NameFault fault)
+{
+    switch (fault) {
+    case NameFault::ForbiddenCharacter:
+        return u"Windows forbids a character of the new name";
+    case NameFault::ReservedWord:
+        return u"the new name is reserved on Windows";
+    case NameFault::TrailingDotOrBlank:
+        return u"on Windows no name ends in a dot or a blank";
+    case NameFault::None:
+    case NameFault::NoName:
+    case NameFault::TooLong:
+        break;
+    }
+    return {};
+}
+
+RenameResults::RenameResults(const Model::EntryList& list, std::vector<Decision> decisions)
+    : m_list(list), m_decisions(std::move(decisions))
+{
+    for (std::uint32_t entry = 0; entry < m_decisions.size(); ++entry)
+        if (const std::uint32_t error = CauseOf(entry))
+            m_causes.emplace(entry, Text::ErrorText(error));
+}
+
+/// Why something could not be read: the system's error code; 0 where that is not what keeps the entry from its name.
+std::uint32_t RenameResults::CauseOf(std::uint32_t entry) const
+{
+    const Decision& decision = m_decisions[entry];
+    if (decision.reason == Reason::FolderNotRead)
+        return m_list.folders[decision.folder].error;
+    if (decision.reason == Reason::PictureNotRead)
+        return PictureReadError(m_list.PathOf(m_list.entries[entry]));
+    return 0;
+}
+
+void RenameResults::Set(std::uint32_t entry, const Model::Outcome& outcome)
+{
+    if (outcome.status == Model::Status::Done)
+        return;
+    m_decisions[entry].status = outcome.status;
+    m_decisions[entry].reason = Reason::None;
+    if (!outcome.reason.IsEmpty())
+        m_causes.insert_or_assign(entry, outcome.reason);
+}
+
+Model::Result RenameResults::At(std::size_t index) const
+{
+    const Model::Entry& entry = m_list.entries[index];
+    const Decision& decision = m_decisions[index];
+    const auto pathOf = [this](std::uint32_t folder, std::u16string_view name) {
+        return Model::ResultPath{m_list.folders[folder].path, m_list.folders[folder].shown, name};
+    };
+    Model::Result result;
+    result.kind = "rename";
+    result.from = pathOf(entry.folder, entry.name);
+    if (!decision.name.IsEmpty())
+        result.to = pathOf(decision.folder, decision.name);
+    result.status = decision.status;
+    result.reason = WordsFor(decision.reason);
+    if (const auto cause = m_causes.find(static_cast<std::uint32_t>(index)); cause != m_causes.end())
+        result.reason = ReasonAndCause(result.reason, cause->second);
+    if (decision.IsRename()) {
+        result.dateFrom = WordsFor(decision.datesTaken);
+        result.warning = WarningFor(decision.warning);
+    }
+    return result;
+}
+
+} // namespace VyrHost::Rename
