@@ -9,6 +9,8 @@
 #if defined(_WIN32)
 #include <windows.h>
 
+#include <objidl.h>
+#include <propidl.h>
 #include <urlmon.h>
 #else
 #include <cstdint>
@@ -37,6 +39,96 @@ struct _FILETIME // NOLINT(bugprone-reserved-identifier): the system's own tag
     DWORD dwHighDateTime;
 };
 using FILETIME = _FILETIME;
+
+/// A number that is unique in the world: of a class, an interface, a property set.
+struct _GUID // NOLINT(bugprone-reserved-identifier): the system's own tag
+{
+    std::uint32_t Data1;
+    std::uint16_t Data2;
+    std::uint16_t Data3;
+    std::uint8_t Data4[8];
+
+    friend constexpr bool operator==(const _GUID&, const _GUID&) = default;
+};
+using GUID = _GUID;
+
+/// The type of a value: PROPVARIANT::vt, VARIANT::vt.
+using VARTYPE = std::uint16_t;
+enum VARENUM : VARTYPE
+{
+    VT_EMPTY = 0,
+    VT_NULL = 1,
+    VT_I2 = 2,
+    VT_I4 = 3,
+    VT_R4 = 4,
+    VT_R8 = 5,
+    VT_CY = 6,
+    VT_DATE = 7,
+    VT_BSTR = 8,
+    VT_ERROR = 10,
+    VT_BOOL = 11,
+    VT_I1 = 16,
+    VT_UI1 = 17,
+    VT_UI2 = 18,
+    VT_UI4 = 19,
+    VT_I8 = 20,
+    VT_UI8 = 21,
+    VT_INT = 22,
+    VT_UINT = 23,
+    VT_LPSTR = 30,
+    VT_LPWSTR = 31,
+    VT_FILETIME = 64,
+    VT_BLOB = 65,
+    VT_CF = 71,
+    VT_CLSID = 72
+};
+
+/// A count of bytes and where they stand.
+struct tagBLOB
+{
+    std::uint32_t cbSize;
+    std::uint8_t* pBlobData;
+};
+using BLOB = tagBLOB;
+
+/// A value of the type `vt`, which tells the member of the union that holds it. Of the system's members these are the
+/// ones that a document property can have.
+struct tagPROPVARIANT
+{
+    VARTYPE vt;
+    WORD wReserved1;
+    WORD wReserved2;
+    WORD wReserved3;
+    union {
+        char cVal;
+        std::uint8_t bVal;
+        std::int16_t iVal;
+        WORD uiVal;
+        std::int32_t lVal;
+        std::uint32_t ulVal;
+        std::int32_t intVal;
+        std::uint32_t uintVal;
+        union {
+            std::int64_t QuadPart;
+        } hVal;
+        union {
+            std::uint64_t QuadPart;
+        } uhVal;
+        float fltVal;
+        double dblVal;
+        /// 0 or -1.
+        std::int16_t boolVal;
+        std::int32_t scode;
+        double date;
+        FILETIME filetime;
+        GUID* puuid;
+        BLOB blob;
+        char16_t* bstrVal;
+        char* pszVal;
+        char16_t* pwszVal;
+    };
+};
+using PROPVARIANT = tagPROPVARIANT;
 
 /// A key of the registry: a root key, or one that Registry opened.
 using HKEY = struct HKEY__*; // NOLINT(bugprone-reserved-identifier): the system's own tag

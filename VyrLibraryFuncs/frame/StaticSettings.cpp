@@ -3,6 +3,7 @@
 #include <VyrLibraryFuncs/frame/VyrLibraryFuncsApp.h>
 #include <VyrLibraryFuncs/html/OutputFuncs.h>
 #include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
+#include <VyrLibraryFuncs/metadata/OfficePropertyFuncs.h>
 #include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>
 #include <VyrLibraryFuncs/programs/RegistryFuncs.h>
 #include <VyrLibraryFuncs/select/SearchFuncs.h>
@@ -14,6 +15,7 @@ using VyrLibraryUtils::DateTimeUtils;
 
 namespace VyrLibraryFuncs {
 
+CString OfficePropertyFuncs::m_propertyHandlerPattern = u"%s\\ShellEx\\PropertyHandler";
 CString OutputFuncs::m_outputFilePath;
 int OutputFuncs::m_outputFilterIndex = 0;
 CString ProgramsFeaturesFuncs::m_iconFolderName = u"icons";

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <VyrPlatform/Export.h>
+#include <VyrPlatform/WinTypes.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -13,7 +14,6 @@
 
 using LONG = std::int32_t;
 using ULONG = std::uint32_t;
-using VARTYPE = std::uint16_t;
 using OLECHAR = char16_t;
 /// A text in an allocation of its own, which SysAllocString makes and SysFreeString frees. Null is the empty text.
 using BSTR = OLECHAR*;
@@ -41,17 +41,7 @@ constexpr bool FAILED(HRESULT result) noexcept
 /// A text constant of the units that a BSTR has.
 #define OLESTR(text) u##text
 
-/// What names an interface or a class.
-struct _GUID
-{
-    std::uint32_t Data1;
-    std::uint16_t Data2;
-    std::uint16_t Data3;
-    std::uint8_t Data4[8];
-
-    friend constexpr bool operator==(const _GUID&, const _GUID&) = default;
-};
-using GUID = _GUID;
+/// The name of an interface.
 using IID = GUID;
 using REFIID = const IID&;
 
@@ -88,14 +78,6 @@ protected:
 VYR_PLATFORM_API void SysFreeString(BSTR text) noexcept;
 /// In code units, without the NUL behind the text.
 [[nodiscard]] VYR_PLATFORM_API unsigned SysStringLen(BSTR text) noexcept;
-
-/// VARIANT::vt.
-enum VARENUM : VARTYPE
-{
-    VT_EMPTY = 0,
-    VT_I4 = 3,
-    VT_BSTR = 8
-};
 
 /// A value that tells its own type.
 struct tagVARIANT

@@ -4,6 +4,7 @@
 
 #include <VyrLibraryFuncs/html/MSHTMLImgFuncs.h>
 #include <VyrLibraryFuncs/metadata/AttributesFuncs.h>
+#include <VyrLibraryFuncs/metadata/OfficePropertyFuncs.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>
 #include <VyrLibraryFuncs/select/FilterFuncs.h>
@@ -92,6 +93,13 @@ struct PrivateOperations
     static int IsMatchCondition(CString name, FilterFuncs::FILTERITEM item)
     {
         return FilterFuncs::IsMatchCondition(name, item);
+    }
+
+    // OfficePropertyFuncs
+
+    static int SetDumpBuiltInProps(IPropertySetStorage* storage, std::uint32_t propertyId, PROPVARIANT* value)
+    {
+        return OfficePropertyFuncs::SetDumpBuiltInProps(storage, propertyId, value);
     }
 
     // ProgramsFeaturesFuncs

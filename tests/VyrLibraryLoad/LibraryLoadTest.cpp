@@ -101,8 +101,9 @@ TEST(LibraryLoad, HeadersPublishTheClassesThatTheTestsKnow)
          {"VyrLibraryFuncs::NameFuncs", "VyrLibraryFuncs::DateTimeFuncs", "VyrLibraryFuncs::AttributesFuncs",
           "VyrLibraryFuncs::UnblockFuncs", "VyrLibraryFuncs::LogFuncs", "VyrLibraryFuncs::ProgramsFeaturesFuncs",
           "VyrLibraryFuncs::RegistryFuncs", "VyrLibraryFuncs::BrowserFuncs", "VyrLibraryFuncs::FeatureControlFuncs",
-          "VyrLibraryFuncs::ControlPanelFuncs", "VyrLibraryFuncs::SearchFuncs", "VyrLibraryUtils::FileUtils",
-          "VyrLibraryUtils::FolderUtils", "VyrLibraryUtils::StringUtils", "VyrLibraryUtils::DateTimeUtils"})
+          "VyrLibraryFuncs::ControlPanelFuncs", "VyrLibraryFuncs::SearchFuncs", "VyrLibraryFuncs::OfficePropertyFuncs",
+          "VyrLibraryUtils::FileUtils", "VyrLibraryUtils::FolderUtils", "VyrLibraryUtils::StringUtils",
+          "VyrLibraryUtils::DateTimeUtils"})
         EXPECT_TRUE(names.contains(name)) << name;
 }
 

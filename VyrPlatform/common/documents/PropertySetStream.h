@@ -1,0 +1,100 @@
+// A property set as the bytes that stand in a document: [MS-OLEPS].
+#pragma once
+
+#include <VyrPlatform/Export.h>
+#include <VyrPlatform/text/CString.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct tagPROPVARIANT;
+
+namespace VyrPlatform {
+
+/// The number of a property set's format, as its 16 bytes in the stream.
+using FormatId = std::string_view;
+
+/// {F29F85E0-4FF9-1068-AB91-08002B27B3D9}
+inline constexpr FormatId summaryFormat("\xE0\x85\x9F\xF2\xF9\x4F\x68\x10\xAB\x91\x08\x00\x2B\x27\xB3\xD9", 16);
+/// {D5CDD502-2E9C-101B-9397-08002B2CF9AE}
+inline constexpr FormatId documentFormat("\x02\xD5\xCD\xD5\x9C\x2E\x1B\x10\x93\x97\x08\x00\x2B\x2C\xF9\xAE", 16);
+/// {D5CDD505-2E9C-101B-9397-08002B2CF9AE}: the properties that the user has made.
+inline constexpr FormatId userFormat("\x05\xD5\xCD\xD5\x9C\x2E\x1B\x10\x93\x97\x08\x00\x2B\x2C\xF9\xAE", 16);
+
+/// Ids of properties that describe the set itself.
+namespace PropertyId {
+inline constexpr std::uint32_t dictionary = 0;
+inline constexpr std::uint32_t codePage = 1;
+inline constexpr std::uint32_t firstReserved = 0x80000000;
+} // namespace PropertyId
+
+/// UTF-16 as the code page of a set.
+inline constexpr std::uint32_t utf16CodePage = 1200;
+/// In which the texts of a set without a code page are read.
+inline constexpr std::uint32_t defaultCodePage = 1252;
+
+struct StoredProperty
+{
+    std::uint32_t id;
+    /// The value as it stands in the set: its type, its data, and whatever stands there up to the next value.
+    std::string bytes;
+};
+
+/// The properties of one format.
+class VYR_PLATFORM_API PropertySection
+{
+public:
+    std::string format;
+    /// In the order of the section's table.
+    std::vector<StoredProperty> properties;
+
+    /// The value of the property `id`; a null pointer when there is none.
+    [[nodiscard]] const std::string* Find(std::uint32_t id) const noexcept;
+    /// The number of the code page in which its byte texts are; nothing when it has none.
+    [[nodiscard]] std::optional<std::uint32_t> CodePage() const noexcept;
+    /// Replaces or adds a property.
+    void Set(std::uint32_t id, std::string bytes);
+    void Remove(std::uint32_t id);
+};
+
+/// One or two sections.
+class VYR_PLATFORM_API PropertySetStream
+{
+public:
+    /// Takes the bytes of a stream apart. A value is what stands from its offset up to the next one, so that types and
+    /// data that are not understood stay as they are.
+    /// @return nothing when an offset or a count reaches beyond the bytes, or the head is no property set's.
+    [[nodiscard]] static std::optional<PropertySetStream> Parse(std::string_view bytes);
+    /// The inverse, with values at multiples of four bytes.
+    [[nodiscard]] std::string Serialise() const;
+
+    /// The section of this format; a null pointer when there is none.
+    [[nodiscard]] PropertySection* Find(FormatId format) noexcept;
+    [[nodiscard]] const PropertySection* Find(FormatId format) const noexcept;
+
+private:
+    /// Byte order, version, system and class id, as they stand.
+    std::string m_head;
+    std::vector<PropertySection> m_sections;
+};
+
+/// A value as it stands in a section whose texts are in `codePage`. A byte text is taken from the process's ANSI code
+/// page; where `codePage` lacks one of its characters, it is stored as a UTF-16 text.
+/// @return nothing when the type cannot be stored.
+[[nodiscard]] VYR_PLATFORM_API std::optional<std::string> StorePropertyValue(const tagPROPVARIANT& value,
+                                                                             std::uint32_t codePage);
+
+/// The text that a stored value is, up to its first NUL; nothing when it is of another type or damaged.
+[[nodiscard]] VYR_PLATFORM_API std::optional<CString> ReadStoredText(std::string_view stored, std::uint32_t codePage);
+/// The whole number that a stored value is, also of one bit or a flag; nothing when it is of another type or damaged.
+[[nodiscard]] VYR_PLATFORM_API std::optional<std::int64_t> ReadStoredNumber(std::string_view stored);
+/// The ticks since 1601 of a stored file time; nothing when it is of another type or damaged.
+[[nodiscard]] VYR_PLATFORM_API std::optional<std::int64_t> ReadStoredTime(std::string_view stored);
+
+/// Whether every character of `text` has its own bytes in `codePage`.
+[[nodiscard]] VYR_PLATFORM_API bool CodePageHolds(std::uint32_t codePage, const CString& text);
+
+} // namespace VyrPlatform

@@ -1,0 +1,62 @@
+// A document that is replaced by a new one which was written beside it.
+#pragma once
+
+#include <VyrPlatform/Export.h>
+#include <VyrPlatform/linux/files/Descriptor.h>
+#include <VyrPlatform/text/CString.h>
+
+#include <optional>
+#include <string>
+#include <sys/stat.h>
+
+namespace VyrPlatform {
+
+/// How a new document is made of the old one; both are open files.
+class DocumentEdit
+{
+public:
+    DocumentEdit() = default;
+    DocumentEdit(const DocumentEdit&) = delete;
+    DocumentEdit& operator=(const DocumentEdit&) = delete;
+    virtual ~DocumentEdit() = default;
+
+    /// Fills the empty file `target`.
+    /// @return 0, or the error code: EILSEQ when the document is damaged.
+    [[nodiscard]] virtual int Write(int source, int target) = 0;
+    /// Whether `target`, read back, has the new values and all else of `source`.
+    [[nodiscard]] virtual bool IsWritten(int source, int target) = 0;
+};
+
+/// A document that nobody else changes. Other programs that open it for writing wait until this object is gone, where
+/// the file system has leases.
+class VYR_PLATFORM_API DocumentFile
+{
+public:
+    /// Opens the file at `path`; a link is followed. Error tells why it did not.
+    explicit DocumentFile(const CString& path);
+    DocumentFile(const DocumentFile&) = delete;
+    DocumentFile& operator=(const DocumentFile&) = delete;
+    ~DocumentFile() = default;
+
+    /// 0 when the document may be replaced, else the error code: EBUSY when it is open for writing elsewhere, EDEADLK
+    /// when it is locked, EMLINK when it has several hard links.
+    [[nodiscard]] int Error() const noexcept { return m_error; }
+    [[nodiscard]] int Get() const noexcept { return m_file ? m_file->Get() : -1; }
+
+    /// Puts the document that `edit` makes in the place of this one, flushed to the disk, with owner, mode, times and
+    /// extended attributes kept, and opens it.
+    /// @return 0, or the error code; the old document then stands there unchanged.
+    [[nodiscard]] int Replace(DocumentEdit& edit);
+
+private:
+    [[nodiscard]] int Open();
+    [[nodiscard]] int WriteNew(DocumentEdit& edit, int target) const;
+
+    /// Without links.
+    CString m_path;
+    std::optional<Descriptor> m_file;
+    struct stat m_status = {};
+    int m_error;
+};
+
+} // namespace VyrPlatform
