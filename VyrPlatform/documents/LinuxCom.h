@@ -27,6 +27,7 @@ inline constexpr HRESULT E_NOINTERFACE = static_cast<HRESULT>(0x80004002);
 inline constexpr HRESULT E_POINTER = static_cast<HRESULT>(0x80004003);
 inline constexpr HRESULT E_FAIL = static_cast<HRESULT>(0x80004005);
 inline constexpr HRESULT E_OUTOFMEMORY = static_cast<HRESULT>(0x8007000E);
+inline constexpr HRESULT REGDB_E_CLASSNOTREG = static_cast<HRESULT>(0x80040154);
 inline constexpr HRESULT E_INVALIDARG = static_cast<HRESULT>(0x80070057);
 
 constexpr bool SUCCEEDED(HRESULT result) noexcept
@@ -44,6 +45,8 @@ constexpr bool FAILED(HRESULT result) noexcept
 /// The name of an interface.
 using IID = GUID;
 using REFIID = const IID&;
+using CLSID = GUID;
+using REFCLSID = const CLSID&;
 
 /// The name of `Interface`.
 #define __uuidof(Interface) (Interface::interfaceId)
@@ -72,6 +75,13 @@ struct IDispatch : IUnknown
 protected:
     ~IDispatch() = default;
 };
+
+/// A new object of the class `classId`, as its interface `id`.
+/// @param outer not read.
+/// @param context not read.
+/// @return REGDB_E_CLASSNOTREG for all classes but the documents of MSXML 3.0.
+[[nodiscard]] VYR_PLATFORM_API HRESULT CoCreateInstance(REFCLSID classId, IUnknown* outer, std::uint32_t context,
+                                                        REFIID id, void** object);
 
 /// A copy of `text`; null for a null pointer, and where there is no memory for it.
 [[nodiscard]] VYR_PLATFORM_API BSTR SysAllocString(const OLECHAR* text) noexcept;
@@ -108,14 +118,34 @@ private:
 /// Throws `result` as a _com_error.
 [[noreturn]] VYR_PLATFORM_API void _com_issue_error(HRESULT result);
 
+namespace _com_util {
+
+/// Throws `result` as a _com_error when it is a failure.
+inline void CheckError(HRESULT result)
+{
+    if (FAILED(result))
+        _com_issue_error(result);
+}
+
+} // namespace _com_util
+
 /// A BSTR that frees itself.
 class _bstr_t
 {
 public:
     _bstr_t() noexcept = default;
+    /// A copy of `text`; throws a _com_error of E_OUTOFMEMORY where there is no memory for it.
+    _bstr_t(const OLECHAR* text) : m_text(SysAllocString(text))
+    {
+        if (!m_text && text)
+            _com_issue_error(E_OUTOFMEMORY);
+    }
+    _bstr_t(_bstr_t&& other) noexcept : m_text(std::exchange(other.m_text, nullptr)) {}
     _bstr_t(const _bstr_t&) = delete;
     _bstr_t& operator=(const _bstr_t&) = delete;
     ~_bstr_t() { SysFreeString(m_text); }
+
+    operator OLECHAR*() const noexcept { return m_text; }
 
     /// Frees the text, and gives the place for another.
     [[nodiscard]] BSTR* GetAddress() noexcept
@@ -173,6 +203,14 @@ public:
 
     _com_ptr_t() noexcept = default;
     _com_ptr_t(std::nullptr_t) noexcept {}
+    /// A new object of the class `classId`; null when that has no such interface. Throws a _com_error for any other
+    /// failure.
+    explicit _com_ptr_t(REFCLSID classId)
+    {
+        const HRESULT result = CoCreateInstance(classId, nullptr, 0, GetIID(), reinterpret_cast<void**>(&m_object));
+        if (result != E_NOINTERFACE)
+            _com_util::CheckError(result);
+    }
     /// One more owner of `object`, unless `isAnother` is false: then it takes over from one that there is.
     _com_ptr_t(Interface* object, bool isAnother = true) noexcept : m_object(object)
     {

@@ -1,0 +1,192 @@
+// XML through libxml2. What its own guards leave open is bounded here: attributes of one element (it compares each with
+// all before it), different names (its table of them stays small), the memory of the tree, and what a document type
+// declares.
+#include "XmlTree.h"
+
+#include <libxml/SAX2.h>
+#include <libxml/parser.h>
+#include <libxml/parserInternals.h>
+#include <libxml/xmlversion.h>
+
+#include <algorithm>
+
+namespace VyrPlatform {
+
+namespace {
+
+/// With a document type, entities and defaults of attributes make more of each byte.
+constexpr std::size_t sizeLimitWithDocumentType = 512 << 10;
+constexpr std::size_t documentTypeLimit = 64 << 10;
+constexpr int attributeLimit = 1000;
+/// How many words of the parser's arrays an attribute and a namespace take.
+constexpr int wordsPerAttribute = 5;
+constexpr int wordsPerNamespace = 2;
+/// The parser's arrays grow by halves or doubling, beyond what they hold.
+constexpr int growth = 3;
+constexpr int nameLimit = 50000;
+constexpr std::size_t memoryLimit = 128 << 20;
+/// What a node of the tree takes beside its text, with a text node below it.
+constexpr std::size_t nodeMemory = 256;
+
+/// One parse: what has been read, and what the tree takes.
+class Parse
+{
+public:
+    explicit Parse(const XmlBytes& bytes);
+    Parse(const Parse&) = delete;
+    Parse& operator=(const Parse&) = delete;
+
+    [[nodiscard]] XmlTree Run();
+
+private:
+    static Parse& Of(void* context) { return *static_cast<Parse*>(static_cast<xmlParserCtxt*>(context)->_private); }
+    static int Read(void* parse, char* buffer, int size);
+    static void OnElement(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri,
+                          int namespaceCount, const xmlChar** namespaces, int attributeCount, int defaultCount,
+                          const xmlChar** attributes);
+    static void OnCdata(void* context, const xmlChar* text, int length);
+    static void OnEntity(void* context, const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId,
+                         xmlChar* content);
+
+    [[nodiscard]] bool IsWithinBounds() const;
+    /// Counts what a node takes; ends the parse when that is too much.
+    void Count(std::size_t memory);
+    void Refuse();
+
+    struct FreeContext
+    {
+        void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
+    };
+
+    const XmlBytes& m_bytes;
+    std::unique_ptr<xmlParserCtxt, FreeContext> m_context;
+    std::size_t m_read = 0;
+    std::size_t m_memory = 0;
+    bool m_isRefused = false;
+};
+
+Parse::Parse(const XmlBytes& bytes) : m_bytes(bytes), m_context(xmlNewParserCtxt())
+{
+    if (!m_context)
+        return;
+    m_context->_private = this;
+    xmlSAXHandler& handler = *m_context->sax;
+    handler.startElementNs = &Parse::OnElement;
+    handler.cdataBlock = &Parse::OnCdata;
+    handler.entityDecl = &Parse::OnEntity;
+    // Nobody sees them, and text on both sides of them is one text.
+    handler.comment = nullptr;
+    handler.processingInstruction = nullptr;
+    // Or messages would go to the error stream.
+    handler.serror = [](void*, xmlError*) {
+    };
+}
+
+XmlTree Parse::Run()
+{
+    if (!m_context)
+        return nullptr;
+    constexpr int options = XML_PARSE_NOENT | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
+    xmlDoc* const tree = xmlCtxtReadIO(m_context.get(), &Parse::Read, nullptr, this, nullptr, nullptr, options);
+    XmlTree shared(tree, [](xmlDoc* document) {
+        if (document)
+            xmlFreeDoc(document);
+    });
+    return m_isRefused ? nullptr : shared;
+}
+
+/// Small pieces: between two of them the parser's state is looked at.
+int Parse::Read(void* parse, char* buffer, int size)
+{
+    constexpr int pieceSize = 4096;
+    Parse& self = *static_cast<Parse*>(parse);
+    if (self.m_isRefused || !self.IsWithinBounds()) {
+        self.m_isRefused = true;
+        return -1;
+    }
+    const int count = self.m_bytes({buffer, static_cast<std::size_t>(std::min(size, pieceSize))});
+    if (count > 0)
+        self.m_read += static_cast<std::size_t>(count);
+    else if (count < 0)
+        self.m_isRefused = true;
+    return count;
+}
+
+bool Parse::IsWithinBounds() const
+{
+    const xmlDoc* const tree = m_context->myDoc;
+    const bool hasDocumentType = tree && tree->intSubset;
+    const bool isInDocumentType = m_context->inSubset != 0;
+    return m_read <= (hasDocumentType ? sizeLimitWithDocumentType : xmlSizeLimit) &&
+           (!isInDocumentType || m_read <= documentTypeLimit) &&
+           m_context->maxatts <= growth * attributeLimit * wordsPerAttribute &&
+           m_context->nsMax <= growth * attributeLimit * wordsPerNamespace && xmlDictSize(m_context->dict) <= nameLimit;
+}
+
+void Parse::Count(std::size_t memory)
+{
+    m_memory += memory;
+    if (m_memory > memoryLimit)
+        Refuse();
+}
+
+void Parse::Refuse()
+{
+    m_isRefused = true;
+    xmlStopParser(m_context.get());
+}
+
+void Parse::OnElement(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri, int namespaceCount,
+                      const xmlChar** namespaces, int attributeCount, int defaultCount, const xmlChar** attributes)
+{
+    // An attribute is its name, its prefix, its address, and the two ends of its value.
+    std::size_t memory = nodeMemory * static_cast<std::size_t>(1 + namespaceCount + attributeCount);
+    for (int i = 0; i < attributeCount; ++i) {
+        const xmlChar* const* const attribute = attributes + i * wordsPerAttribute;
+        memory += static_cast<std::size_t>(attribute[4] - attribute[3]);
+    }
+    Of(context).Count(memory);
+    if (attributeCount - defaultCount > attributeLimit)
+        Of(context).Refuse();
+    // Defaults are attributes like any other.
+    if (!Of(context).m_isRefused)
+        xmlSAX2StartElementNs(context, name, prefix, uri, namespaceCount, namespaces, attributeCount, 0, attributes);
+}
+
+void Parse::OnCdata(void* context, const xmlChar* text, int length)
+{
+    Of(context).Count(nodeMemory + static_cast<std::size_t>(length));
+    xmlSAX2CDataBlock(context, text, length);
+}
+
+/// An entity whose text stands elsewhere is empty; declarations that stand elsewhere cannot be left out.
+void Parse::OnEntity(void* context, const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId,
+                     xmlChar* content)
+{
+    xmlChar nothing[] = "";
+    if (type == XML_EXTERNAL_PARAMETER_ENTITY)
+        Of(context).Refuse();
+    else if (type == XML_EXTERNAL_GENERAL_PARSED_ENTITY)
+        xmlSAX2EntityDecl(context, name, XML_INTERNAL_GENERAL_ENTITY, nullptr, nullptr, nothing);
+    else
+        xmlSAX2EntityDecl(context, name, type, publicId, systemId, content);
+}
+
+} // namespace
+
+XmlTree ParseXml(const XmlBytes& bytes)
+{
+    xmlInitParser();
+    return Parse(bytes).Run();
+}
+
+xmlNode* NextBelow(xmlNode* node, const xmlNode* top) noexcept
+{
+    if (node->type == XML_ELEMENT_NODE && node->children)
+        return node->children;
+    while (node != top && !node->next)
+        node = node->parent;
+    return node == top ? nullptr : node->next;
+}
+
+} // namespace VyrPlatform

@@ -1,0 +1,19 @@
+// COM on the calling thread, on Windows.
+#include <VyrPlatform/process/ComApartment.h>
+
+#include <windows.h>
+
+#include <objbase.h>
+
+namespace VyrPlatform {
+
+// A thread that has COM in another mode keeps that.
+ComApartment::ComApartment() : m_isInitialised(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
+
+ComApartment::~ComApartment()
+{
+    if (m_isInitialised)
+        CoUninitialize();
+}
+
+} // namespace VyrPlatform
