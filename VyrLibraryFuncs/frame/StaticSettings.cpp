@@ -7,6 +7,7 @@
 #include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>
 #include <VyrLibraryFuncs/programs/RegistryFuncs.h>
 #include <VyrLibraryFuncs/select/SearchFuncs.h>
+#include <VyrLibraryFuncs/xmlinfo/StyleFuncs.h>
 #include <VyrLibraryFuncs/xmlinfo/UpdatesFuncs.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrPlatform/time/Clock.h>
@@ -35,6 +36,7 @@ int SearchFuncs::m_sizeTarget = 0;
 int SearchFuncs::m_sizeRange = 0;
 std::int64_t SearchFuncs::m_sizeFromSize = 0;
 std::int64_t SearchFuncs::m_sizeToSize = 1024;
+std::vector<StyleFuncs::DESIGNITEM> StyleFuncs::m_designItemsList;
 std::vector<UpdatesFuncs::UPDATEITEM> UpdatesFuncs::m_updateItemsList;
 CString UpdatesFuncs::m_type;
 CString UpdatesFuncs::m_productName;

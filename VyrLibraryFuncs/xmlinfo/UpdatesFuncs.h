@@ -3,6 +3,7 @@
 #pragma once
 
 #include <VyrLibraryFuncs/Export.h>
+#include <VyrPlatform/documents/XmlTypes.h>
 #include <VyrPlatform/text/CString.h>
 
 #include <vector>
@@ -34,6 +35,25 @@ public:
     /// Empties the type, the product name, the version, the edition, both addresses and the list. The platform's bits
     /// and the checked date stay.
     static void InitializeUpdatesInformation();
+    /// Reads an update document into the settings, after InitializeUpdatesInformation:
+    ///
+    ///     <updates>
+    ///       <update type="release" name="Product" version="1.2.3.4" edition="Standard" platformbit="64"
+    ///               detailsURL="https://example.org/details" downloadURL="https://example.org/download">
+    ///         <moreinfo>
+    ///           <item><category>1</category><description>A line to show</description></item>
+    ///         </moreinfo>
+    ///       </update>
+    ///     </updates>
+    ///
+    /// Names are matched with their case, at any depth, without a prefix; the root may have any name. Of several
+    /// `update` elements the first one gives the attributes and the last one the items. An absent attribute leaves its
+    /// setting as it is, an empty one empties it. An item without a category has that of the item before it, the first
+    /// one 0. A stop that the host's thread asks for ends the reading: the settings then have what was read.
+    /// @param path  a path, or an address that the parser can load from.
+    /// @return 1 when an `update` element was read; 0 when there is none, and when the document does not load.
+    /// @throws _com_error  as MSXMLFuncs::LoadXmlFile does.
+    static int GetUpdatesInformation(CString path);
 
     /// The settings, each with its setter: what the update document says, as texts.
     static void SetType(CString type);
@@ -85,6 +105,11 @@ public:
     static int IsDateIntervalCheckForUpdates(int days);
 
 private:
+    friend struct PrivateOperations;
+
+    static int SetUpdatesAttributes(MSXML2::IXMLDOMDocumentPtr document);
+    static std::vector<UPDATEITEM> GetMoreInfoElementItems(MSXML2::IXMLDOMNodeListPtr moreInfos);
+
     static std::vector<UPDATEITEM> m_updateItemsList;
     static CString m_type;
     static CString m_productName;

@@ -11,6 +11,8 @@
 #include <VyrLibraryFuncs/shell/ControlPanelFuncs.h>
 #include <VyrLibraryFuncs/shell/FeatureControlFuncs.h>
 #include <VyrLibraryFuncs/xmlinfo/ApplicationFuncs.h>
+#include <VyrLibraryFuncs/xmlinfo/StyleFuncs.h>
+#include <VyrLibraryFuncs/xmlinfo/UpdatesFuncs.h>
 #include <utility>
 #include <vector>
 
@@ -152,6 +154,28 @@ struct PrivateOperations
     // ControlPanelFuncs
 
     static int ExecuteItems(HWND owner, CString arguments) { return ControlPanelFuncs::ExecuteItems(owner, arguments); }
+
+    // UpdatesFuncs
+
+    static int SetUpdatesAttributes(MSXML2::IXMLDOMDocumentPtr document)
+    {
+        return UpdatesFuncs::SetUpdatesAttributes(std::move(document));
+    }
+    static std::vector<UpdatesFuncs::UPDATEITEM> GetMoreInfoElementItems(MSXML2::IXMLDOMNodeListPtr moreInfos)
+    {
+        return UpdatesFuncs::GetMoreInfoElementItems(std::move(moreInfos));
+    }
+
+    // StyleFuncs
+
+    static int SetStylesAttributes(MSXML2::IXMLDOMDocumentPtr document)
+    {
+        return StyleFuncs::SetStylesAttributes(std::move(document));
+    }
+    static std::vector<StyleFuncs::DESIGNITEM> GetDesignMoreInfoElementItems(MSXML2::IXMLDOMNodeListPtr moreInfos)
+    {
+        return StyleFuncs::GetDesignMoreInfoElementItems(std::move(moreInfos));
+    }
 };
 
 } // namespace VyrLibraryFuncs

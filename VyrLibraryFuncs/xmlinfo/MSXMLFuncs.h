@@ -1,0 +1,32 @@
+/// @file
+/// XML documents.
+#pragma once
+
+#include <VyrLibraryFuncs/Export.h>
+#include <VyrPlatform/documents/XmlTypes.h>
+#include <VyrPlatform/text/CString.h>
+
+namespace VyrLibraryFuncs {
+
+/// Loads XML documents: the one place where the library does.
+///
+/// The parser is the system's (VyrPlatform/documents/XmlTypes.h), with its defaults. On Windows COM must be initialised
+/// on the calling thread, and an address of a server that never answers, or that leads on in a circle, is waited for
+/// without an end; on Linux there are bounds.
+class VYR_FUNCS_API MSXMLFuncs
+{
+public:
+    MSXMLFuncs();
+    ~MSXMLFuncs();
+    MSXMLFuncs& operator=(const MSXMLFuncs& other);
+
+    /// The document in a file.
+    /// @param path  a path, or an address that the parser can load from.
+    /// @return null when it cannot be read, and when it is not well-formed.
+    /// @throws _com_error  COM is not initialised, or the system has no such parser.
+    static MSXML2::IXMLDOMDocumentPtr LoadXmlFile(CString path);
+    /// The same, as a document that may be used by several threads: what an XSLT processor takes as a style sheet.
+    static MSXML2::IXMLDOMDocumentPtr LoadXsltFile(CString path);
+};
+
+} // namespace VyrLibraryFuncs
