@@ -4,15 +4,20 @@
 #include <VyrHost/model/Prefetch.h>
 #include <VyrHost/rename/NameValidator.h>
 #include <VyrHost/rename/NumberedName.h>
+#include <VyrHostPlatform/NameFolding.h>
+#include <VyrLibraryUtils/FileUtils.h>
 
 #include <algorithm>
+#include <map>
 #include <optional>
 #include <unordered_map>
+#include <utility>
 
 namespace VyrHost::Rename {
 
 namespace {
 
+using VyrLibraryUtils::FileUtils;
 using VyrPlatform::FileSystem::Kind;
 
 class ConflictResolver
@@ -96,18 +101,19 @@ private:
         bool isWithin;
     };
 
-    /// Gives each member the name that it wants; where one of those is taken, none of them.
+    /// Gives each member the name that it wants; where one of those or its stem is taken, none of them.
     std::optional<Clash> GiveWanted(std::uint32_t group)
     {
         for (std::size_t place = 0; place < m_members.size(); ++place) {
             const std::uint32_t entry = m_members[place];
             Model::NameRecord& record = Names(entry).Add(WantedName(entry));
-            if (IsFree(record)) {
+            const bool isStemFree = IsStemFree(entry, WantedName(entry));
+            if (isStemFree && IsFree(record)) {
                 Give(entry, record, WantedName(entry), Model::Status::Done);
                 continue;
             }
             const bool isWithin = record.holder < Model::NewFolder && m_groups.Of(record.holder) == group;
-            const Clash clash{ClashOf(record), isWithin};
+            const Clash clash{isStemFree ? ClashOf(record) : Reason::StemTaken, isWithin};
             for (std::size_t given = 0; given < place; ++given)
                 Release(m_members[given]);
             return clash;
@@ -135,7 +141,7 @@ private:
                     return;
                 }
                 const Model::NameRecord* const record = Names(entry).Find(candidates[place]);
-                areFree = areFree && (!record || IsFree(*record));
+                areFree = areFree && (!record || IsFree(*record)) && IsStemFree(entry, candidates[place]);
             }
             if (areFree) {
                 ++attempt;
@@ -162,6 +168,8 @@ private:
         Decision& decision = m_decisions[entry];
         const Model::Entry& own = m_list.entries[entry];
         record.holder = entry;
+        if (HasStem(entry))
+            m_stems[StemOf(entry, decision.folder, name)] = m_groups.Of(entry);
         decision.name = name;
         decision.status = decision.folder == own.folder && name == own.name ? Model::Status::Unchanged : status;
     }
@@ -187,14 +195,31 @@ private:
         if (record.holder < Model::NewFolder && record.holder != entry)
             m_pending.push_back(m_groups.Of(record.holder));
         record.holder = entry;
+        if (HasStem(entry))
+            HoldOwnStem(entry);
+    }
+
+    void HoldOwnStem(std::uint32_t entry)
+    {
+        const Model::Entry& own = m_list.entries[entry];
+        const std::uint32_t group = m_groups.Of(entry);
+        const auto [held, isNew] = m_stems.try_emplace(StemOf(entry, own.folder, own.name), group);
+        if (held->second != group)
+            m_pending.push_back(std::exchange(held->second, group));
     }
 
     /// Lets go of what the entry holds.
     void Release(std::uint32_t entry)
     {
         Model::NameRecord* const record = Names(entry).Find(m_decisions[entry].name);
-        if (record && record->holder == entry)
-            record->holder = Model::NoEntry;
+        if (!record || record->holder != entry)
+            return;
+        record->holder = Model::NoEntry;
+        if (!HasStem(entry))
+            return;
+        const auto held = m_stems.find(StemOf(entry, m_decisions[entry].folder, m_decisions[entry].name));
+        if (held != m_stems.end() && held->second == m_groups.Of(entry))
+            m_stems.erase(held);
     }
 
     /// What was wanted before any number.
@@ -207,6 +232,9 @@ private:
     [[nodiscard]] NumberedName NumberedNameOf(std::uint32_t entry)
     {
         const Model::InternedName wanted = WantedName(entry);
+        const std::uint32_t main = HasStem(entry) ? MainFileOf(m_list, m_list.entries[entry]) : Model::NoEntry;
+        if (main != Model::NoEntry && wanted.View().starts_with(WantedName(main).View()))
+            return NumberedNameOf(main).OfSidecar(wanted.View().substr(WantedName(main).View().size()));
         const Model::NameRecord* const record = Names(entry).Find(wanted);
         // As the engine splits: by what stands there, where something does.
         const bool isThere = record && record->kind != Kind::Missing;
@@ -215,8 +243,40 @@ private:
         return {CString::Join({folder, wanted}), kind == Kind::Folder};
     }
 
-    /// Where the last entry that wanted the same name left off.
-    std::uint64_t& AttemptOf(std::uint32_t entry) { return m_attempts[&Names(entry).Add(WantedName(entry))]; }
+    /// Where the last entry that wanted the same name, or the same stem, left off.
+    std::uint64_t& AttemptOf(std::uint32_t entry)
+    {
+        return HasStem(entry) ? m_stemAttempts[StemOf(entry, m_decisions[entry].folder, WantedName(entry))]
+                              : m_attempts[&Names(entry).Add(WantedName(entry))];
+    }
+
+    /// A folder, and a name in it without its extension; that of a sidecar also without the extension of its file.
+    using Stem = std::pair<std::uint32_t, CString>;
+
+    /// Whether the entry shares its stem with its group alone.
+    [[nodiscard]] bool HasStem(std::uint32_t entry) const
+    {
+        return m_groups.AreByStem() && m_list.entries[entry].kind == Kind::File;
+    }
+
+    [[nodiscard]] Stem StemOf(std::uint32_t entry, std::uint32_t folder, std::u16string_view name) const
+    {
+        const Model::Folder& in = m_list.folders[folder];
+        CString stem = FileUtils::GetSplitFName(in.path + name);
+        for (auto main = MainFileOf(m_list, m_list.entries[entry]); main != Model::NoEntry;
+             main = MainFileOf(m_list, m_list.entries[main]))
+            stem = FileUtils::GetSplitFName(in.path + stem);
+        return {folder, VyrHostPlatform::FoldName(stem, in.names.Folding())};
+    }
+
+    /// Whether no other group gets the stem of `name`, so that files of two groups never look like one.
+    [[nodiscard]] bool IsStemFree(std::uint32_t entry, std::u16string_view name) const
+    {
+        if (!HasStem(entry))
+            return true;
+        const auto held = m_stems.find(StemOf(entry, m_decisions[entry].folder, name));
+        return held == m_stems.end() || held->second == m_groups.Of(entry);
+    }
 
     /// Whether nobody has the name after the batch. An entry that stays holds its own name, so an owner without a
     /// holder leaves.
@@ -249,6 +309,9 @@ private:
     std::unordered_map<std::uint32_t, Model::InternedName> m_wanted;
     /// The next attempt at a number, by the wanted name's record.
     std::unordered_map<const Model::NameRecord*, std::uint64_t> m_attempts;
+    /// Where groups are by stem: the group that gets each stem, and the next attempt at a number.
+    std::map<Stem, std::uint32_t> m_stems;
+    std::map<Stem, std::uint64_t> m_stemAttempts;
 };
 
 } // namespace

@@ -54,6 +54,8 @@ std::u16string_view WordsFor(Reason reason)
         return u"the new name is there already";
     case Reason::TwoToOne:
         return u"another entry gets the same name";
+    case Reason::StemTaken:
+        return u"files that do not belong to it get the same name";
     case Reason::NoFreeNumber:
         return u"every number is taken";
     case Reason::CompanionRefused:

@@ -38,6 +38,8 @@ enum class Reason : std::uint8_t
     TargetExists,
     /// Another entry of the list gets the name.
     TwoToOne,
+    /// Under --together another group of files gets the name before the extension.
+    StemTaken,
     NoFreeNumber,
     /// An entry that keeps together with this one cannot get its name.
     CompanionRefused,

@@ -2,6 +2,7 @@
 #include <VyrHost/rename/Groups.h>
 
 #include <VyrHostPlatform/NameFolding.h>
+#include <VyrLibraryUtils/FileUtils.h>
 
 #include <numeric>
 #include <string>
@@ -10,7 +11,35 @@
 
 namespace VyrHost::Rename {
 
+using VyrLibraryUtils::FileUtils;
 using VyrPlatform::FileSystem::Kind;
+
+namespace {
+
+/// The name before the extension of `entry`, or of the file whose sidecar it is.
+CString StemOf(const Model::EntryList& list, const Model::Entry& entry)
+{
+    const Model::Entry* file = &entry;
+    // Each step takes an extension away, so that it ends.
+    for (auto main = MainFileOf(list, *file); main != Model::NoEntry; main = MainFileOf(list, *file))
+        file = &list.entries[main];
+    return Model::Split(list.PathOf(*file), *file).name;
+}
+
+} // namespace
+
+std::uint32_t MainFileOf(const Model::EntryList& list, const Model::Entry& entry)
+{
+    if (entry.kind != Kind::File)
+        return Model::NoEntry;
+    const Model::Folder& folder = list.folders[entry.folder];
+    const CString mainName = Model::Split(list.PathOf(entry), entry).name;
+    if (mainName == entry.name || FileUtils::GetSplitExtension(folder.path + mainName, 1).IsEmpty())
+        return Model::NoEntry;
+    const Model::NameRecord* const record = folder.names.Find(mainName);
+    const bool isListed = record && record->owner != Model::NoEntry;
+    return isListed && list.entries[record->owner].kind == Kind::File ? record->owner : Model::NoEntry;
+}
 
 Groups Groups::OfOne(const Model::EntryList& list)
 {
@@ -28,15 +57,17 @@ Groups Groups::ByStem(const Model::EntryList& list)
     for (const Model::Entry& entry : list.entries) {
         std::uint32_t group = count;
         if (entry.kind == Kind::File) {
-            const CString stem = Model::Split(list.PathOf(entry), entry).name;
             const VyrHostPlatform::NameFolding folding = list.folders[entry.folder].names.Folding();
-            group = stems[entry.folder].try_emplace(VyrHostPlatform::FoldName(stem, folding), count).first->second;
+            const CString stem = VyrHostPlatform::FoldName(StemOf(list, entry), folding);
+            group = stems[entry.folder].try_emplace(stem, count).first->second;
         }
         if (group == count)
             ++count;
         groups.push_back(group);
     }
-    return {std::move(groups), count};
+    Groups byStem(std::move(groups), count);
+    byStem.m_areByStem = true;
+    return byStem;
 }
 
 Groups::Groups(std::vector<std::uint32_t> groups, std::uint32_t count)

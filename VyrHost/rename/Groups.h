@@ -17,8 +17,11 @@ class Groups
 public:
     /// Each entry is a group of its own.
     [[nodiscard]] static Groups OfOne(const Model::EntryList& list);
-    /// The files of one folder whose names differ in their extensions alone are a group.
+    /// The files of one folder whose names differ in their extensions alone are a group, with the sidecars of each
+    /// (MainFileOf): `X.CR2`, `X.xmp`, `X.JPG` and `X.JPG.xmp`.
     [[nodiscard]] static Groups ByStem(const Model::EntryList& list);
+    /// Whether the groups are those of ByStem, no two of which may get one stem.
+    [[nodiscard]] bool AreByStem() const { return m_areByStem; }
 
     [[nodiscard]] std::size_t Count() const { return m_begins.size() - 1; }
     [[nodiscard]] std::span<const std::uint32_t> Members(std::size_t group) const
@@ -36,6 +39,11 @@ private:
     std::vector<std::uint32_t> m_members;
     /// Where the members of each group begin, and the end.
     std::vector<std::uint32_t> m_begins;
+    bool m_areByStem = false;
 };
+
+/// The file of `list` whose sidecar `entry` is: the one that has the name of `entry` without its last extension, as
+/// `X.JPG` for `X.JPG.xmp`. NoEntry for a name with fewer than two extensions, and where the list has no such file.
+[[nodiscard]] std::uint32_t MainFileOf(const Model::EntryList& list, const Model::Entry& entry);
 
 } // namespace VyrHost::Rename

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <bit>
 #include <string>
+#include <utility>
 
 namespace VyrHost::Rename {
 
@@ -32,6 +33,14 @@ NumberedName::NumberedName(const CString& path, bool isFolder)
         m_stem = m_stem + m_extension;
         m_extension.Empty();
     }
+}
+
+NumberedName::NumberedName(CString stem, CString extension) : m_stem(std::move(stem)), m_extension(std::move(extension))
+{}
+
+NumberedName NumberedName::OfSidecar(std::u16string_view extension) const
+{
+    return {m_stem, m_extension + extension};
 }
 
 CString NumberedName::With(const VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering, int digits,

@@ -16,12 +16,17 @@ public:
     /// `path` is the name with its folder; a folder's name is numbered at its end, a file's before its extension.
     NumberedName(const CString& path, bool isFolder);
 
+    /// The name of a sidecar: this one, and `extension` behind it (MainFileOf).
+    [[nodiscard]] NumberedName OfSidecar(std::u16string_view extension) const;
+
     /// The name with the number of the attempt `attempt` (from 0). The engine has no `digits`: the least number of
     /// digits, filled up with zeros behind a minus sign.
     [[nodiscard]] CString With(const VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering, int digits,
                                std::uint64_t attempt) const;
 
 private:
+    NumberedName(CString stem, CString extension);
+
     CString m_stem;
     CString m_extension;
 };

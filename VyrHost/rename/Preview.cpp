@@ -190,7 +190,8 @@ void Plan(const Model::EntryList& list, const Groups& groups, Preview& preview)
 bool HasConflict(const std::vector<Decision>& decisions)
 {
     return std::any_of(decisions.begin(), decisions.end(), [](const Decision& decision) {
-        return decision.reason == Reason::TargetExists || decision.reason == Reason::TwoToOne;
+        return decision.reason == Reason::TargetExists || decision.reason == Reason::TwoToOne ||
+               decision.reason == Reason::StemTaken;
     });
 }
 

@@ -1,7 +1,10 @@
 // Runs the rules over one group of entries after the other.
 #include <VyrHost/rename/RuleNames.h>
 
+#include <VyrHost/rename/Groups.h>
+
 #include <algorithm>
+#include <numeric>
 #include <optional>
 
 namespace VyrHost::Rename {
@@ -17,7 +20,7 @@ void RuleNames::Name(const Model::EntryList& list, std::span<const std::uint32_t
                      std::vector<WantedName>& names)
 {
     const int index = TakeIndex(list.entries[members.front()].folder);
-    names.resize(members.size());
+    names.assign(members.size(), {});
     if (members.size() == 1)
         NameOne(list, list.entries[members.front()], index, names.front());
     else
@@ -39,6 +42,9 @@ void RuleNames::NameTogether(const Model::EntryList& list, std::span<const std::
     std::optional<std::size_t> rankNotRead;
     for (std::size_t place = 0; place < members.size() && (!leader || made.dateRank > 0); ++place) {
         const Model::Entry& entry = list.entries[members[place]];
+        // A sidecar has no stem of its own.
+        if (MainFileOf(list, entry) != Model::NoEntry)
+            continue;
         names[place].reason = Run(list, entry, index, entry);
         if (names[place].reason == Reason::PictureNotRead)
             rankNotRead = std::min(rankNotRead.value_or(m_subject.dateRank), m_subject.dateRank);
@@ -48,24 +54,37 @@ void RuleNames::NameTogether(const Model::EntryList& list, std::span<const std::
         }
     }
     // The picture that cannot be read might have told a better date.
-    if (leader && rankNotRead && *rankNotRead < made.dateRank) {
-        for (WantedName& name : names)
-            if (name.reason != Reason::PictureNotRead)
-                name.reason = Reason::CompanionRefused;
+    const bool isUncertain = leader && rankNotRead && *rankNotRead < made.dateRank;
+    if (leader && !isUncertain) {
+        FollowLeader(list, members, index, *leader, made, names);
         return;
     }
-    if (!leader)
-        return;
-    for (std::size_t place = 0; place < members.size(); ++place) {
+    for (WantedName& name : names)
+        if (name.reason == Reason::None || (isUncertain && name.reason != Reason::PictureNotRead))
+            name.reason = Reason::CompanionRefused;
+}
+
+void RuleNames::FollowLeader(const Model::EntryList& list, std::span<const std::uint32_t> members, int index,
+                             const Model::Entry& leader, const Subject& made, std::vector<WantedName>& names)
+{
+    // A file has a shorter name than its sidecars, and so comes before them.
+    std::vector<std::size_t> places(members.size());
+    std::iota(places.begin(), places.end(), std::size_t{0});
+    std::ranges::stable_sort(places, {},
+                             [&](std::size_t place) { return list.entries[members[place]].name.View().size(); });
+    for (const std::size_t place : places) {
         const Model::Entry& entry = list.entries[members[place]];
-        if (&entry != leader) {
-            // Its own extension under the rules, all else from the first.
-            (void)Run(list, entry, index, *leader);
+        if (&entry != &leader) {
+            // The extension under the rules is its own.
+            (void)Run(list, entry, index, leader);
             m_subject.folder = made.folder;
             m_subject.name = made.name;
         } else {
             m_subject = made;
         }
+        if (const std::uint32_t main = MainFileOf(list, entry); main != Model::NoEntry)
+            m_subject.name =
+                names[static_cast<std::size_t>(std::ranges::lower_bound(members, main) - members.begin())].name;
         names[place] = Wanted(list, entry);
     }
 }

@@ -20,7 +20,8 @@ enum class Counting : std::uint8_t
 
 /// Runs rules over entries. Entries that keep together get one number and one new name before the extension: that of
 /// the first of them for which the rules have one, whose dates and picture data count for all. Where several dates may
-/// serve, one that has an earlier of them goes before it, so that a picture decides for its sidecar.
+/// serve, one that has an earlier of them goes before it, so that a picture decides for its sidecar. A sidecar that has
+/// the whole name of its file before its own extension keeps that form: `X.JPG.xmp` follows `X.JPG`.
 class RuleNames : public NameSource
 {
 public:
@@ -36,6 +37,10 @@ private:
     /// One stem for all, from the first that has a date of the best source.
     void NameTogether(const Model::EntryList& list, std::span<const std::uint32_t> members, int index,
                       std::vector<WantedName>& names);
+    /// Gives the members the stem and the folder of `made`, which the rules made for `leader`; the extensions stay
+    /// theirs.
+    void FollowLeader(const Model::EntryList& list, std::span<const std::uint32_t> members, int index,
+                      const Model::Entry& leader, const Subject& made, std::vector<WantedName>& names);
     Reason Run(const Model::EntryList& list, const Model::Entry& entry, int index, const Model::Entry& dated);
     WantedName Wanted(const Model::EntryList& list, const Model::Entry& entry) const;
 

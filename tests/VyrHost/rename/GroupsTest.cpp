@@ -55,6 +55,24 @@ TEST_F(KeepingTogether, FilesOfOneStemAndFolderAreAGroup)
     EXPECT_EQ(MembersOf(Groups::OfOne(gathered.list)), (Members{{0}, {1}, {2}, {3}, {4}, {5}, {6}}));
 }
 
+TEST_F(KeepingTogether, SidecarsBelongToTheFileWhoseWholeNameTheyHave)
+{
+    const auto names = {u"x.JPG.xmp", u"x.JPG", u"x.CR2", u"x.CR2.xmp", u"x.CR2.xmp.bak", u"x.png.xmp", u"a.b"};
+    for (const char16_t* const name : names)
+        m_folder.WriteFile(name);
+    const CollectedEntries gathered = GatherNamed(names);
+    // x.png is not there, so x.png.xmp is a file of its own.
+    EXPECT_EQ(MembersOf(Groups::ByStem(gathered.list)), (Members{{0, 1, 2, 3, 4}, {5}, {6}}));
+    const auto mainOf = [&](std::size_t entry) {
+        return MainFileOf(gathered.list, gathered.list.entries[entry]);
+    };
+    EXPECT_EQ(mainOf(0), 1u);
+    EXPECT_EQ(mainOf(3), 2u);
+    EXPECT_EQ(mainOf(4), 3u);
+    for (const std::size_t entry : {1u, 2u, 5u, 6u})
+        EXPECT_EQ(mainOf(entry), NoEntry) << entry;
+}
+
 TEST_F(KeepingTogether, MissingEntriesStandAlone)
 {
     m_folder.WriteFile(u"a.jpg");

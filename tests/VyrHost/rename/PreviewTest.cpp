@@ -281,6 +281,35 @@ TEST_F(PreviewTest, GivesAllThatKeepTogetherOneNumber)
               (Strings{"a (2).raf #", "a (2).jpg #", "a (3).jpg #", "a (3).raf #"}));
 }
 
+TEST_F(PreviewTest, SidecarsKeepTheWholeNameOfTheirFile)
+{
+    const Names names = {u"x.JPG.xmp", u"x.JPG", u"x.CR2.xmp", u"x.CR2"};
+    Write(names);
+    EXPECT_EQ(DecideTogether(names, NumberRules(u"n#", {})), (Strings{"n1.JPG.xmp", "n1.JPG", "n1.CR2.xmp", "n1.CR2"}));
+    EXPECT_EQ(DecideTogether({u"x.JPG.xmp", u"x.JPG"}, PrefixRules(u"y")), (Strings{"yx.JPG.xmp", "yx.JPG"}));
+}
+
+TEST_F(PreviewTest, SidecarsGetTheNumberOfTheirFileBeforeBothExtensions)
+{
+    Write({u"a1.JPG", u"a1.JPG.xmp", u"a2.JPG", u"a2.JPG.xmp"});
+    EXPECT_EQ(DecideTogether({u"a1.JPG", u"a1.JPG.xmp", u"a2.JPG.xmp", u"a2.JPG"}, KeepFirstRules(u"1")),
+              (Strings{"a.JPG", "a.JPG.xmp", "a (1).JPG.xmp #", "a (1).JPG #"}));
+}
+
+TEST_F(PreviewTest, NumbersTheSecondGroupThatWantsTheStemOfAnother)
+{
+    Write({u"a1.cr2", u"a1.xmp", u"a2.jpg", u"a3.png", u"a4"});
+    m_folder.MakeFolder(u"a5");
+    EXPECT_EQ(DecideTogether({u"a1.cr2", u"a1.xmp", u"a2.jpg", u"a3.png", u"a4", u"a5"}, KeepFirstRules(u"1")),
+              (Strings{"a.cr2", "a.xmp", "a (1).jpg #", "a (2).png #", "a (3) #", "a"}));
+}
+
+TEST_F(PreviewTest, NumbersAGroupThatWantsTheStemOfFilesThatStay)
+{
+    Write({u"a2.jpg", u"a.cr2"});
+    EXPECT_EQ(DecideTogether({u"a2.jpg", u"a.cr2"}, KeepFirstRules(u"1")), (Strings{"a (1).jpg #", "="}));
+}
+
 TEST_F(PreviewTest, RefusesAllThatKeepTogetherWhenOneCannotBeNamed)
 {
     m_folder.WriteFile(u"a.x");
