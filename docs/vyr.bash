@@ -26,12 +26,13 @@ _vyr()
         COMPREPLY=($(compgen -W "${value//|/ }" -- "$cur"))
         return
         ;;
-    FILE | '') ;;
+    FILE | FOLDER | '') ;;
     *) return ;;
     esac
     if [[ $cur == -* ]]; then
         COMPREPLY=($(compgen -W "$(sed -nE 's/^  (-[a-z],)?(--[a-z0-9-]+).*/\2/p' <<<"$help")" -- "$cur"))
-    elif [[ $value == FILE ]] || grep -qE '^  (PATH|FROM|SOURCE|FOLDER)' <<<"$help"; then
+    elif [[ $value == FILE || $value == FOLDER ]] ||
+        grep -qE '^  (PATH|FROM|SOURCE|FOLDER|WHERE)' <<<"$help"; then
         _filedir
     fi
 } && complete -F _vyr vyr

@@ -47,6 +47,18 @@ constexpr Example OfRecover[] = {
     {"vyr recover --abandon", "go on without a batch that can be neither finished nor undone"},
 };
 
+constexpr Example OfPrograms[] = {
+    {"vyr programs", "of this machine, or of your Wine prefix"},
+    {"vyr programs /mnt/windows --sort size --descending", "of a mounted Windows disk, the largest first"},
+    {"vyr programs --wine prefix --columns name,version,key", "of a Wine prefix, with the keys of the registry"},
+    {"vyr programs /mnt/windows --installer --json", "products of Windows Installer, one object a line"},
+};
+
+constexpr Example OfBrowsers[] = {
+    {"vyr browsers", "of this machine, or of your Wine prefix"},
+    {"vyr browsers /mnt/windows --csv", "of a mounted Windows disk, for a spreadsheet"},
+};
+
 std::string TextOf(std::span<const Example> examples)
 {
     std::string text = "Examples:\n";
@@ -80,6 +92,16 @@ std::string UndoExamples()
 std::string RecoverExamples()
 {
     return TextOf(OfRecover);
+}
+
+std::string ProgramsExamples()
+{
+    return TextOf(OfPrograms);
+}
+
+std::string BrowsersExamples()
+{
+    return TextOf(OfBrowsers);
 }
 
 } // namespace VyrHost::Cli

@@ -14,5 +14,8 @@ namespace VyrHost::Cli {
 /// Likewise for "vyr undo" and "vyr recover".
 [[nodiscard]] std::string UndoExamples();
 [[nodiscard]] std::string RecoverExamples();
+/// Likewise for "vyr programs" and "vyr browsers".
+[[nodiscard]] std::string ProgramsExamples();
+[[nodiscard]] std::string BrowsersExamples();
 
 } // namespace VyrHost::Cli

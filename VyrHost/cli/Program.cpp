@@ -4,6 +4,7 @@
 #include <VyrHost/cli/ArgumentText.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/HelpText.h>
+#include <VyrHost/cli/InventoryCommands.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/RecoverCommand.h>
 #include <VyrHost/cli/RenameCommand.h>
@@ -59,6 +60,8 @@ int RunProgram(const std::vector<CString>& arguments)
     const TransferCommand move(program, FolderCopy::TransferAction::Move);
     const UndoCommand undo(program);
     const RecoverCommand recover(program);
+    const ProgramsCommand programs(program);
+    const BrowsersCommand browsers(program);
     try {
         const std::vector<Argument> cut = CutArguments(program, arguments);
         RefuseUnknownWords(program, CommandOf(program, arguments), cut);
@@ -71,6 +74,10 @@ int RunProgram(const std::vector<CString>& arguments)
             return undo.Run();
         if (recover.IsChosen())
             return recover.Run();
+        if (programs.IsChosen())
+            return programs.Run();
+        if (browsers.IsChosen())
+            return browsers.Run();
         return rename.Run();
     } catch (const CLI::CallForVersion&) {
         return WriteOut(VersionText() + "\n");

@@ -46,20 +46,20 @@ RecordOptions::RecordOptions(CLI::App& command, std::vector<Ui::RecordColumn> co
     command.add_flag("-q,--quiet", m_quiet, "Show no headings and no total")->group(Group);
 }
 
-void RecordOptions::Check() const
+void RecordOptions::Check(std::span<const Ui::RecordColumn> columns) const
 {
     constexpr ExclusivePair Exclusive[] = {{"--csv", "--json"}};
     CheckOptionPairs(m_command, Exclusive);
-    (void)ShownColumns();
-    if (m_sort && Ui::FindColumns(m_columns, FromParser(*m_sort), "--sort").size() != 1)
+    static_cast<void>(ShownColumns(columns));
+    if (m_sort && Ui::FindColumns(columns, FromParser(*m_sort), "--sort").size() != 1)
         Text::RefuseValue("--sort", FromParser(*m_sort), "one column is expected");
 }
 
 int RecordOptions::Write(Ui::RecordTable table, const std::string& total, int code) const
 {
-    table.shown = ShownColumns();
+    table.shown = ShownColumns(table.columns);
     if (m_sort)
-        Ui::SortRows(table, Ui::FindColumns(m_columns, FromParser(*m_sort), "--sort").front(), m_descending);
+        Ui::SortRows(table, Ui::FindColumns(table.columns, FromParser(*m_sort), "--sort").front(), m_descending);
     else if (m_descending)
         std::reverse(table.rows.begin(), table.rows.end());
     Ui::OutputBuffer output;
@@ -77,11 +77,11 @@ int RecordOptions::Write(Ui::RecordTable table, const std::string& total, int co
     return Finish(output, code);
 }
 
-std::vector<std::size_t> RecordOptions::ShownColumns() const
+std::vector<std::size_t> RecordOptions::ShownColumns(std::span<const Ui::RecordColumn> columns) const
 {
     if (m_chosen)
-        return Ui::FindColumns(m_columns, FromParser(*m_chosen), "--columns");
-    return m_csv || m_json ? Ui::FindColumns(m_columns, u"all", "--columns") : Ui::UsualColumns(m_columns);
+        return Ui::FindColumns(columns, FromParser(*m_chosen), "--columns");
+    return m_csv || m_json ? Ui::FindColumns(columns, u"all", "--columns") : Ui::UsualColumns(columns);
 }
 
 std::string CountedNoun(std::size_t count, const std::string& one, const std::string& many)

@@ -5,6 +5,7 @@
 #include <VyrHost/ui/RecordTable.h>
 
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -25,19 +26,21 @@ public:
 
     /// Looks at what was given, before the command does anything.
     /// @throws UsageError
-    void Check() const;
+    void Check() const { Check(m_columns); }
+    /// The same for a list that has other columns, and is written instead.
+    void Check(std::span<const Ui::RecordColumn> columns) const;
     [[nodiscard]] bool IsJson() const { return m_json; }
     [[nodiscard]] bool IsQuiet() const { return m_quiet; }
 
-    /// Sorts `table`, whose columns are those that were told, and writes it as asked for. People get the usual columns,
-    /// programs all, unless some are chosen.
+    /// Sorts `table`, whose columns were checked, and writes it as asked for. People get its usual columns, programs
+    /// all, unless some are chosen.
     /// @param total  a line such as "3 programs." (UTF-8, safe to show, without a line end), for people behind the
     ///     table, else on the error stream.
     /// @return `code`, or ExitCode::Output.
     [[nodiscard]] int Write(Ui::RecordTable table, const std::string& total, int code) const;
 
 private:
-    [[nodiscard]] std::vector<std::size_t> ShownColumns() const;
+    [[nodiscard]] std::vector<std::size_t> ShownColumns(std::span<const Ui::RecordColumn> columns) const;
 
     CLI::App& m_command;
     const std::vector<Ui::RecordColumn> m_columns;

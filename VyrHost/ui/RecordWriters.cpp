@@ -38,8 +38,8 @@ int WidestColumn(std::vector<int> natural, int rowWidth)
 class RecordWriter
 {
 public:
-    RecordWriter(OutputBuffer& output, const RecordTable& table, TableStyle style)
-        : m_output(output), m_table(table), m_style(style), m_widths(NaturalWidths())
+    RecordWriter(OutputBuffer& output, const RecordTable& table, TableStyle style, bool hasHeadings)
+        : m_output(output), m_table(table), m_style(style), m_hasHeadings(hasHeadings), m_widths(NaturalWidths())
     {
         const int widest = style.width == 0 ? MostPadding : WidestColumn(m_widths, style.width);
         const int widestAsked = m_widths.empty() ? 0 : *std::max_element(m_widths.begin(), m_widths.end());
@@ -48,11 +48,11 @@ public:
             width = std::min(width, widest);
     }
 
-    void Write(bool hasHeadings)
+    void Write()
     {
         if (m_table.rows.empty())
             return;
-        if (hasHeadings && !m_isInBlocks)
+        if (m_hasHeadings && !m_isInBlocks)
             WriteHeadings();
         for (std::size_t index = 0; index < m_table.rows.size() && !m_output.HasFailed(); ++index) {
             const std::size_t row = m_table.rows[index];
@@ -94,7 +94,7 @@ private:
     {
         std::vector<int> widths;
         for (const CString& heading : Headings())
-            widths.push_back(Text::SafeWidth(heading));
+            widths.push_back(m_hasHeadings ? Text::SafeWidth(heading) : 0);
         for (const std::size_t row : m_table.rows)
             for (std::size_t place = 0; place < widths.size(); ++place)
                 widths[place] = std::max(widths[place], Text::SafeWidth(TextAt(row, place)));
@@ -189,6 +189,7 @@ private:
     OutputBuffer& m_output;
     const RecordTable& m_table;
     const TableStyle m_style;
+    const bool m_hasHeadings;
     std::vector<int> m_widths;
     bool m_isInBlocks = false;
     std::string_view m_colour;
@@ -221,7 +222,7 @@ void AppendJsonValue(std::string& line, const RecordValue& value)
 
 void WriteRecords(OutputBuffer& output, const RecordTable& table, TableStyle style, bool hasHeadings)
 {
-    RecordWriter(output, table, style).Write(hasHeadings);
+    RecordWriter(output, table, style, hasHeadings).Write();
 }
 
 void WriteRecordCsv(OutputBuffer& output, const RecordTable& table)

@@ -23,6 +23,10 @@ struct OpenResult
         Unreadable,
         /// A file is something else, or damaged from its beginning.
         NoRegistry,
+        /// A file has no bytes.
+        Empty,
+        /// A hive has fewer bytes than its head tells.
+        CutShort,
         /// This system does not open such files.
         NotSupported
     };
@@ -54,6 +58,9 @@ struct HiveFiles
 /// Shows the registry of a Windows that does not run. Its files are opened for reading and held; keys that are damaged
 /// are missing. Where one file cannot be opened, nothing changes.
 [[nodiscard]] VYR_PLATFORM_API OpenResult ShowHives(const HiveFiles& files);
+/// Shows another user beside the machine that is shown, so that the machine's hives are opened once for all its users.
+/// @param user,userClasses  as of HiveFiles.
+[[nodiscard]] VYR_PLATFORM_API OpenResult ShowUserHives(const CString& user, const CString& userClasses);
 
 /// Makes the root keys show nothing of files any more.
 VYR_PLATFORM_API void CloseRegistryFiles();

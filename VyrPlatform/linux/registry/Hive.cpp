@@ -142,21 +142,32 @@ Values HiveNode::ReadValues() const
     return values;
 }
 
-/// Whether the head of the file tells that it is a hive, and whether all that Windows began to write was written.
+/// What the head of a file tells.
 struct HiveHead
 {
-    bool isHive = false;
+    Outcome outcome = Outcome::NoRegistry;
+    /// All that Windows began to write was written.
     bool isClosed = false;
 };
 
 HiveHead ReadHead(const FileReader& reader)
 {
-    // A signature and two numbers, of which the second is made equal to the first when a change is complete.
-    std::array<char, 12> head{};
-    if (reader.ReadAt(0, std::as_writable_bytes(std::span(head))) != head.size())
-        return {};
-    const std::string_view bytes(head.data(), head.size());
-    return {bytes.starts_with("regf"), bytes.substr(4, 4) == bytes.substr(8, 4)};
+    if (reader.Size() == 0)
+        return {Outcome::Empty};
+    // A signature, two numbers, of which the second is made equal to the first when a change is complete, and at 40 the
+    // count of bytes behind the head's page.
+    constexpr std::size_t pageSize = 4096;
+    std::array<char, 44> head{};
+    const std::size_t length = reader.ReadAt(0, std::as_writable_bytes(std::span(head)));
+    const std::string_view bytes(head.data(), length);
+    if (!bytes.starts_with("regf"))
+        return {Outcome::NoRegistry};
+    std::uint32_t rest = 0;
+    if (length == head.size())
+        std::memcpy(&rest, &head[40], sizeof rest);
+    if (reader.Size() < pageSize + std::uint64_t{rest})
+        return {Outcome::CutShort};
+    return {Outcome::Shown, bytes.substr(4, 4) == bytes.substr(8, 4)};
 }
 
 } // namespace
@@ -167,8 +178,8 @@ OpenedHive OpenHive(const CString& path)
     if (!reader.IsOpen())
         return {nullptr, {Outcome::Unreadable, reader.Error(), path, {}}};
     const HiveHead head = ReadHead(reader);
-    if (!head.isHive)
-        return {nullptr, {Outcome::NoRegistry, 0, path, {}}};
+    if (head.outcome != Outcome::Shown)
+        return {nullptr, {head.outcome, 0, path, {}}};
     // Opened so the library reads the whole file at once and never writes to it; otherwise it maps the file, and a disk
     // that is taken away would end the process.
     hive_h* const hive = hivex_open(Encoding::ToNameBytes(path).c_str(), HIVEX_OPEN_WRITE);

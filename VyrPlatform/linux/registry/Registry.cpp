@@ -145,6 +145,12 @@ void SetRootNode(Handle root, std::shared_ptr<Node> node)
         RootKeys().emplace(root, HKEY__{std::move(node)});
 }
 
+std::shared_ptr<Node> GetRootNode(Handle root)
+{
+    const auto found = RootKeys().find(root);
+    return found == RootKeys().end() ? nullptr : found->second.node;
+}
+
 Key::Key(Key&& other) noexcept : m_handle(std::exchange(other.m_handle, nullptr)), m_error(other.m_error) {}
 
 Key& Key::operator=(Key&& other) noexcept

@@ -29,6 +29,8 @@ OpenResult ReadWhole(const CString& path, std::string& text)
     const FileReader reader(path);
     if (!reader.IsOpen())
         return {Outcome::Unreadable, reader.Error(), path, {}};
+    if (reader.Size() == 0)
+        return {Outcome::Empty, 0, path, {}};
     if (reader.Size() > mostBytes)
         return {Outcome::NoRegistry, 0, path, {}};
     text.resize(reader.Size());
@@ -45,15 +47,46 @@ void ShowRoots(const std::shared_ptr<Node>& machine, const std::shared_ptr<Node>
     SetRootNode(HKEY_CLASSES_ROOT, Merge(FindNode(user, classes), FindNode(machine, classes)));
 }
 
-/// The user's hive, with that of the classes in its place.
-std::shared_ptr<Node> WithClasses(std::shared_ptr<Node> user, const std::shared_ptr<Node>& classes)
+/// Opens hives one after the other, up to the first that fails.
+class HiveOpener
 {
-    if (!classes)
-        return user;
-    const auto above = std::make_shared<MemoryNode>(false, 0);
-    AddNode(above, u"Software", 0)->Attach(u"Classes", classes);
-    return Merge(std::move(user), above);
-}
+public:
+    /// Null for the empty path, and when one has failed.
+    std::shared_ptr<Node> Open(const CString& path)
+    {
+        if (path.IsEmpty() || HasFailed())
+            return nullptr;
+        OpenedHive hive = OpenHive(path);
+        m_unclosedFiles.insert(m_unclosedFiles.end(), hive.result.unclosedFiles.begin(),
+                               hive.result.unclosedFiles.end());
+        if (hive.result.outcome != Outcome::Shown)
+            m_failure = std::move(hive.result);
+        return hive.top;
+    }
+
+    /// The user's hive, with that of the classes in its place.
+    std::shared_ptr<Node> OpenUser(const CString& path, const CString& classesPath)
+    {
+        std::shared_ptr<Node> user = Open(path);
+        const std::shared_ptr<Node> classes = Open(classesPath);
+        if (!classes)
+            return user;
+        const auto above = std::make_shared<MemoryNode>(false, 0);
+        AddNode(above, u"Software", 0)->Attach(u"Classes", classes);
+        return Merge(std::move(user), above);
+    }
+
+    [[nodiscard]] bool HasFailed() const noexcept { return m_failure.outcome != Outcome::Shown; }
+
+    [[nodiscard]] OpenResult Result() const
+    {
+        return HasFailed() ? m_failure : OpenResult{Outcome::Shown, 0, {}, m_unclosedFiles};
+    }
+
+private:
+    OpenResult m_failure;
+    std::vector<CString> m_unclosedFiles;
+};
 
 } // namespace
 
@@ -79,31 +112,28 @@ OpenResult ShowWinePrefix(const CString& folder)
 
 OpenResult ShowHives(const HiveFiles& files)
 {
-    OpenResult result;
-    const auto open = [&result](const CString& path) -> std::shared_ptr<Node> {
-        if (path.IsEmpty() || result.outcome != Outcome::Shown)
-            return nullptr;
-        OpenedHive hive = OpenHive(path);
-        hive.result.unclosedFiles.insert(hive.result.unclosedFiles.begin(), result.unclosedFiles.begin(),
-                                         result.unclosedFiles.end());
-        result = std::move(hive.result);
-        return hive.top;
-    };
-    const std::shared_ptr<Node> software = open(files.software);
-    const std::shared_ptr<Node> system = open(files.system);
-    const std::shared_ptr<Node> userHive = open(files.user);
-    const std::shared_ptr<Node> userClasses = open(files.userClasses);
-    if (result.outcome != Outcome::Shown)
-        return result;
-
+    HiveOpener opener;
+    const std::shared_ptr<Node> software = opener.Open(files.software);
+    const std::shared_ptr<Node> system = opener.Open(files.system);
+    const std::shared_ptr<Node> user = opener.OpenUser(files.user, files.userClasses);
+    if (opener.HasFailed())
+        return opener.Result();
     const auto machine = std::make_shared<MemoryNode>(false, 0);
     if (software)
         machine->Attach(u"SOFTWARE", software);
     if (system)
         machine->Attach(u"SYSTEM", system);
-    ShowRoots(machine, WithClasses(userHive, userClasses));
-    result.file.Empty();
-    return result;
+    ShowRoots(machine, user);
+    return opener.Result();
+}
+
+OpenResult ShowUserHives(const CString& user, const CString& userClasses)
+{
+    HiveOpener opener;
+    const std::shared_ptr<Node> node = opener.OpenUser(user, userClasses);
+    if (!opener.HasFailed())
+        ShowRoots(GetRootNode(HKEY_LOCAL_MACHINE), node);
+    return opener.Result();
 }
 
 void CloseRegistryFiles()

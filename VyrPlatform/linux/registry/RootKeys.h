@@ -9,5 +9,7 @@ namespace VyrPlatform::Registry {
 
 /// Makes the root key `root` show `node`; null: nothing.
 void SetRootNode(Handle root, std::shared_ptr<Node> node);
+/// What the root key `root` shows; null: nothing.
+[[nodiscard]] std::shared_ptr<Node> GetRootNode(Handle root);
 
 } // namespace VyrPlatform::Registry

@@ -13,6 +13,11 @@ OpenResult ShowHives(const HiveFiles& files)
     return {OpenResult::Outcome::NotSupported, 0, files.software, {}};
 }
 
+OpenResult ShowUserHives(const CString& user, const CString&)
+{
+    return {OpenResult::Outcome::NotSupported, 0, user, {}};
+}
+
 void CloseRegistryFiles() {}
 
 } // namespace VyrPlatform::Registry

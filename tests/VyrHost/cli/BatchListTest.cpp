@@ -107,10 +107,10 @@ TEST_F(BatchList, IsSortedAsAskedFor)
         call.insert(call.end(), options.begin(), options.end());
         return Run(std::move(call)).output;
     };
-    EXPECT_EQ(numbers({}), "    2\n    1\n");
-    EXPECT_EQ(numbers({u"--descending"}), "    1\n    2\n");
-    EXPECT_EQ(numbers({u"--sort", u"entries"}), "    2\n    1\n");
-    EXPECT_EQ(numbers({u"--sort", u"Entries", u"--descending"}), "    1\n    2\n");
+    EXPECT_EQ(numbers({}), "2\n1\n");
+    EXPECT_EQ(numbers({u"--descending"}), "1\n2\n");
+    EXPECT_EQ(numbers({u"--sort", u"entries"}), "2\n1\n");
+    EXPECT_EQ(numbers({u"--sort", u"Entries", u"--descending"}), "1\n2\n");
 }
 
 TEST_F(BatchList, IsATableForSpreadsheets)

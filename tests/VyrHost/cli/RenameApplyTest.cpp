@@ -249,7 +249,7 @@ TEST_F(RenameApply, UndoWorksOnTheLastBatchOrOneByItsNumber)
     m_folder.WriteFile(u"a", "1");
     ASSERT_EQ(Rename({u"--suffix", u"1", u"--apply", u"a"}).exitCode, 0);
     ASSERT_EQ(Rename({u"--suffix", u"2", u"--apply", u"a1"}).exitCode, 0);
-    EXPECT_THAT(Run({u"undo", u"--list", u"--quiet"}).output, StartsWith("    2  "));
+    EXPECT_THAT(Run({u"undo", u"--list", u"--quiet"}).output, StartsWith("2  "));
     ProgramResult result = Run({u"undo"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_THAT(result.output, HasSubstr("Batch 2: 1 entry: 1 renamed.\n"));

@@ -16,7 +16,7 @@ struct BuiltHive
 };
 
 /// The time of every key of a built hive: 5 January 2024 10:30:00 UTC.
-inline constexpr VyrPlatform::FileTicks hiveTime = 0x1DA3FC3D7E8E400;
+inline constexpr VyrPlatform::FileTicks hiveTime = 0x1DA3FC222BF0400;
 
 /// A hive with the keys and values of `tree`, as Windows writes it (format 1.3, one bin). A key holds at most 65,535
 /// others.

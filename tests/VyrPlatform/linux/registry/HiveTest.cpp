@@ -133,15 +133,46 @@ TEST_F(Hives, HiveThatWasNotClosedIsReadAndNamed)
     EXPECT_TRUE(Key::Open(HKEY_CURRENT_USER, u"Key\\Below", Access::Read).IsOpen());
 }
 
+TEST_F(Hives, UsersFollowEachOtherBesideTheMachine)
+{
+    const RegistryTree machine = {{u"Classes\\.x\\Machine"}, {}};
+    ASSERT_EQ(ShowHives({Write(u"SOFTWARE", machine), {}, {}, {}}).outcome, Outcome::Shown);
+    using Names = std::vector<CString>;
+    const auto classes = [] {
+        return KeyNames(Key::Open(HKEY_CLASSES_ROOT, u".x", Access::Read).Get());
+    };
+    EXPECT_FALSE(Key::Open(HKEY_CURRENT_USER, u"", Access::Read).IsOpen());
+    EXPECT_EQ(classes(), (Names{u"Machine"}));
+    const OpenResult first = ShowUserHives(Write(u"one", RegistryTree{{u"Software\\One"}, {}}),
+                                           Write(u"classes", RegistryTree{{u".x\\User"}, {}}));
+    EXPECT_EQ(first.outcome, Outcome::Shown);
+    EXPECT_EQ(KeyNames(Key::Open(HKEY_CURRENT_USER, u"Software", Access::Read).Get()), (Names{u"Classes", u"One"}));
+    EXPECT_EQ(classes(), (Names{u"Machine", u"User"}));
+    // One that cannot be opened leaves the one before it.
+    EXPECT_EQ(ShowUserHives(folder.Path(u"missing"), {}).outcome, Outcome::Unreadable);
+    EXPECT_EQ(classes(), (Names{u"Machine", u"User"}));
+    EXPECT_EQ(ShowUserHives(Write(u"two", RegistryTree{{u"Software\\Two"}, {}}), {}).outcome, Outcome::Shown);
+    EXPECT_EQ(KeyNames(Key::Open(HKEY_CURRENT_USER, u"Software", Access::Read).Get()), (Names{u"Two"}));
+    EXPECT_EQ(classes(), (Names{u"Machine"}));
+    EXPECT_EQ(KeyNames(HKEY_LOCAL_MACHINE), (Names{u"SOFTWARE"}));
+}
+
 TEST_F(Hives, WhatIsNoHiveIsNotShown)
 {
     const std::string whole = BuildHive(sample).bytes;
-    for (const std::string& bytes :
-         {std::string(), std::string("regf"), std::string(10'000, 'x'), std::string("WINE REGISTRY Version 2\n"),
-          whole.substr(0, 4096), whole.substr(0, 6000), std::string(whole).replace(600, 1, "x").replace(20, 1, "\7")}) {
+    const std::pair<std::string, Outcome> files[] = {
+        {std::string(), Outcome::Empty},
+        {"regf", Outcome::CutShort},
+        {whole.substr(0, 43), Outcome::CutShort},
+        {whole.substr(0, 4096), Outcome::CutShort},
+        {whole.substr(0, whole.size() - 1), Outcome::CutShort},
+        {std::string(10'000, 'x'), Outcome::NoRegistry},
+        {"WINE REGISTRY Version 2\n", Outcome::NoRegistry},
+        {std::string(whole).replace(600, 1, "x").replace(20, 1, "\7"), Outcome::NoRegistry}};
+    for (const auto& [bytes, outcome] : files) {
         const CString path = Write(u"bad", bytes);
         const OpenResult result = ShowHives({Write(u"SOFTWARE", sample), {}, path, {}});
-        EXPECT_EQ(result.outcome, Outcome::NoRegistry) << bytes.size();
+        EXPECT_EQ(result.outcome, outcome) << bytes.size();
         EXPECT_EQ(result.file, path);
         EXPECT_FALSE(Key::Open(HKEY_LOCAL_MACHINE, u"", Access::Read).IsOpen()) << "nothing is shown by halves";
     }

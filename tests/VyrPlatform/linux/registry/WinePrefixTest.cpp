@@ -205,7 +205,7 @@ TEST_F(WinePrefix, WhatIsNoPrefixIsNotShown)
     EXPECT_EQ(result.error, static_cast<std::uint32_t>(ENOENT));
     EXPECT_EQ(result.file, prefix.Path(u"system.reg"));
     EXPECT_EQ(Show("REGEDIT4\n").outcome, Outcome::NoRegistry);
-    EXPECT_EQ(Show("").outcome, Outcome::NoRegistry);
+    EXPECT_EQ(Show("").outcome, Outcome::Empty);
     result = Show(head, "no registry");
     EXPECT_EQ(result.outcome, Outcome::NoRegistry);
     EXPECT_EQ(result.file, prefix.Path(u"user.reg"));
