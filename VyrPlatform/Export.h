@@ -2,7 +2,11 @@
 /// The export macros: the one place besides WinTypes.h where a public header asks which system it is compiled for.
 #pragma once
 
-#if defined(_WIN32)
+#if defined(VYR_STATIC)
+// All parts are linked into one library, which exports others' names.
+#define VYR_EXPORT
+#define VYR_IMPORT
+#elif defined(_WIN32)
 #define VYR_EXPORT __declspec(dllexport)
 #define VYR_IMPORT __declspec(dllimport)
 #else

@@ -18,7 +18,7 @@ add_library(VyrCompileRules INTERFACE)
 target_include_directories(VyrCompileRules INTERFACE "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
 target_compile_options(VyrCompileRules INTERFACE
   -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion -Wsign-conversion -Wcast-qual -Wformat=2
-  -Wundef -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference
+  -Wundef "$<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor;-Woverloaded-virtual>" -Wnull-dereference
   "$<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond;-Wlogical-op>")
 target_compile_definitions(VyrCompileRules INTERFACE "$<$<BOOL:${WIN32}>:UNICODE;_UNICODE;NOMINMAX;WIN32_LEAN_AND_MEAN;_WIN32_WINNT=0x0A00>")
 

@@ -7,7 +7,7 @@ set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/VyrLibrary")
 if(NOT WIN32)
   # The installed files may be moved together: each finds its libraries from where it stands itself.
   set_target_properties(vyr PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
-  set_target_properties(VyrPlatform VyrLibraryUtils VyrLibraryFuncs PROPERTIES INSTALL_RPATH "$ORIGIN")
+  set_target_properties(VyrPlatform VyrLibraryUtils VyrLibraryFuncs VyrC PROPERTIES INSTALL_RPATH "$ORIGIN")
 
   set(manual "${CMAKE_BINARY_DIR}/vyr.1.gz")
   add_custom_command(OUTPUT "${manual}"
@@ -25,6 +25,9 @@ install(TARGETS VyrPlatform VyrLibraryUtils VyrLibraryFuncs EXPORT VyrLibraryTar
   RUNTIME COMPONENT vyr
   LIBRARY COMPONENT vyr NAMELINK_COMPONENT Unspecified
   FILE_SET HEADERS)
+# The library for C with its one header.
+install(TARGETS VyrC EXPORT VyrLibraryTargets)
+install(FILES VyrC/vyr.h DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
 install(EXPORT VyrLibraryTargets NAMESPACE Vyr:: DESTINATION "${package_folder}")
 configure_package_config_file(cmake/VyrLibraryConfig.cmake.in "${CMAKE_BINARY_DIR}/VyrLibraryConfig.cmake"
   INSTALL_DESTINATION "${package_folder}" NO_SET_AND_CHECK_MACRO)
@@ -44,9 +47,12 @@ endfunction()
 vyr_install_pkg_config(vyr-platform "The platform class library and the system's services" VyrPlatform "")
 vyr_install_pkg_config(vyr-utils "Paths, files, texts, dates and pictures" VyrLibraryUtils vyr-platform)
 vyr_install_pkg_config(vyr-funcs "Bulk renaming and editing of file metadata" VyrLibraryFuncs vyr-utils)
+vyr_install_pkg_config(vyr-c "VyrLibrary's operations for C" VyrLibraryC "")
 
 if(WIN32)
   install(FILES LICENSE DESTINATION .)
+  # From this other compilers' tools make an import library.
+  install(FILES VyrC/vyr.def DESTINATION "${CMAKE_INSTALL_LIBDIR}" RENAME VyrLibraryC.def)
   # The compiler's run-time DLLs, and the terms of all that is not this project's own and is in the package.
   install(FILES ${VYR_RUNTIME_DLLS} DESTINATION "${CMAKE_INSTALL_BINDIR}")
   install(FILES licences/README.txt /usr/share/common-licenses/GPL-3 DESTINATION licences)

@@ -1,0 +1,228 @@
+#include <VyrC/Marshal.h>
+
+#include <VyrPlatform/documents/ComPointer.h>
+#include <VyrPlatform/files/CFileException.h>
+#include <VyrPlatform/text/Encoding.h>
+
+#include <algorithm>
+#include <climits>
+#include <cmath>
+#include <exception>
+#include <map>
+#include <mutex>
+#include <new>
+#include <string_view>
+
+namespace VyrC {
+
+namespace {
+
+struct WrongArgument
+{
+    std::string name;
+};
+
+thread_local CString lastError;
+
+vyr_status Fail(vyr_status status, const CString& text)
+{
+    lastError = text;
+    return status;
+}
+
+/// The lists that the host holds.
+struct Lists
+{
+    std::mutex mutex;
+    std::map<vyr_list, std::shared_ptr<const List>> byHandle;
+    vyr_list last = 0;
+};
+
+Lists& AllLists()
+{
+    static Lists lists;
+    return lists;
+}
+
+void Release(vyr_list handle)
+{
+    // It dies outside the lock.
+    std::shared_ptr<const List> released = Held(handle);
+    Lists& lists = AllLists();
+    const std::lock_guard lock(lists.mutex);
+    lists.byHandle.erase(handle);
+}
+
+/// The status for the exception that is being handled, whose text may be more than there is memory for.
+vyr_status DescribeException()
+{
+    try {
+        throw;
+    } catch (const WrongArgument& wrong) {
+        return Fail(VYR_WRONG_ARGUMENT, u"wrong argument: " + VyrPlatform::Encoding::FromUtf8(wrong.name));
+    } catch (const std::bad_alloc&) {
+        lastError.Empty();
+        return VYR_OUT_OF_MEMORY;
+    } catch (const _com_error& error) {
+        CString text;
+        text.Format(u"a call of COM failed: %08x", static_cast<std::uint32_t>(error.Error()));
+        return Fail(VYR_FAILED, text);
+    } catch (const CFileException&) {
+        return Fail(VYR_FAILED, u"a file could not be used");
+    } catch (const std::exception& error) {
+        return Fail(VYR_FAILED, VyrPlatform::Encoding::FromUtf8(error.what()));
+    } catch (...) {
+        return Fail(VYR_FAILED, u"unknown failure");
+    }
+}
+
+} // namespace
+
+void Refuse(const std::string& argument)
+{
+    throw WrongArgument{argument};
+}
+
+vyr_status StatusOfException() noexcept
+{
+    try {
+        return DescribeException();
+    } catch (...) {
+        return VYR_OUT_OF_MEMORY;
+    }
+}
+
+CString ToText(const std::uint16_t* units, std::ptrdiff_t length, const char* argument)
+{
+    if (!units && length == 0)
+        return {};
+    RequireAddress(units, argument);
+    const auto* const text = reinterpret_cast<const char16_t*>(units);
+    const std::u16string_view view =
+        length < 0 ? std::u16string_view(text) : std::u16string_view(text, static_cast<std::size_t>(length));
+    if (view.size() > INT_MAX)
+        Refuse(argument);
+    return view;
+}
+
+COleDateTime ToDateTime(double days, std::int32_t status, const char* argument)
+{
+    if (!std::isfinite(days) || status < COleDateTime::valid || status > COleDateTime::null)
+        Refuse(argument);
+    COleDateTime moment(days);
+    if (status != COleDateTime::valid)
+        moment.SetStatus(static_cast<COleDateTime::DateTimeStatus>(status));
+    return moment;
+}
+
+FILETIME ToFileTime(std::uint64_t ticks)
+{
+    return {static_cast<DWORD>(ticks & 0xFFFFFFFF), static_cast<DWORD>(ticks >> 32)};
+}
+
+std::optional<FILETIME> ToOptionalFileTime(const std::uint64_t* ticks, const char* argument)
+{
+    RequireAligned(ticks, argument);
+    return ticks ? std::optional<FILETIME>(ToFileTime(*ticks)) : std::nullopt;
+}
+
+CRect ToRect(const vyr_rect* rectangle, const char* argument)
+{
+    RequireAddress(rectangle, argument);
+    return {rectangle->left, rectangle->top, rectangle->right, rectangle->bottom};
+}
+
+CListCtrl ToListControl(std::intptr_t window)
+{
+    CListCtrl list;
+    list.Attach(ToHandle<HWND>(window));
+    return list;
+}
+
+TextResult::TextResult(std::uint16_t* buffer, std::size_t capacity, std::size_t* length)
+    : m_buffer(buffer), m_capacity(capacity), m_length(length)
+{
+    if (capacity > 0)
+        RequireAddress(buffer, "buffer");
+    RequireAddress(length, "length");
+}
+
+vyr_status TextResult::Give(const CString& text) const
+{
+    const std::u16string_view view = text;
+    *m_length = view.size();
+    if (view.size() >= m_capacity)
+        return Fail(VYR_BUFFER_TOO_SMALL, u"the buffer is too small");
+    std::ranges::copy(view, m_buffer);
+    m_buffer[view.size()] = 0;
+    return VYR_OK;
+}
+
+std::uint64_t ToTicks(const FILETIME& moment)
+{
+    return std::uint64_t{moment.dwHighDateTime} << 32 | moment.dwLowDateTime;
+}
+
+vyr_date_time ToC(const COleDateTime& moment)
+{
+    return {moment, moment.GetStatus()};
+}
+
+vyr_text ToC(const CString& text)
+{
+    return {reinterpret_cast<const std::uint16_t*>(text.GetString()), text.GetLength()};
+}
+
+vyr_list Hold(std::shared_ptr<const List> list)
+{
+    Lists& lists = AllLists();
+    const std::lock_guard lock(lists.mutex);
+    lists.byHandle.emplace(lists.last + 1, std::move(list));
+    return ++lists.last;
+}
+
+std::shared_ptr<const List> Held(vyr_list handle)
+{
+    Lists& lists = AllLists();
+    const std::lock_guard lock(lists.mutex);
+    const auto found = lists.byHandle.find(handle);
+    if (found == lists.byHandle.end())
+        Refuse("list");
+    return found->second;
+}
+
+} // namespace VyrC
+
+using namespace VyrC;
+
+std::uint32_t vyr_version()
+{
+    return VYR_VERSION;
+}
+
+vyr_status vyr_get_last_error(std::uint16_t* buffer, std::size_t capacity, std::size_t* length)
+{
+    return Guard([&] {
+        // A copy: a buffer that is too small is an error of its own, which must not take the place of this one.
+        const CString text = lastError;
+        const vyr_status status = TextResult(buffer, capacity, length).Give(text);
+        lastError = text;
+        return status;
+    });
+}
+
+vyr_status vyr_list_get_count(vyr_list list, std::size_t* count)
+{
+    return Guard([&] {
+        const NumberResult result(count);
+        return result.Give(Held(list)->Count());
+    });
+}
+
+vyr_status vyr_list_release(vyr_list list)
+{
+    return Guard([&] {
+        Release(list);
+        return VYR_OK;
+    });
+}

@@ -1,0 +1,196 @@
+// What crosses the C interface, in both directions. Whatever is wrong with an argument is found before an operation is
+// called.
+#pragma once
+
+#include <VyrC/vyr.h>
+#include <VyrPlatform/WinTypes.h>
+#include <VyrPlatform/controls/CListCtrl.h>
+#include <VyrPlatform/controls/CRect.h>
+#include <VyrPlatform/text/CString.h>
+#include <VyrPlatform/time/COleDateTime.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace VyrC {
+
+/// Ends the call with VYR_WRONG_ARGUMENT; `argument` names what is wrong.
+[[noreturn]] void Refuse(const std::string& argument);
+/// The status for the exception that is being handled.
+[[nodiscard]] vyr_status StatusOfException() noexcept;
+/// The status of a call that does `work`. No exception leaves it.
+template <class Work>
+[[nodiscard]] vyr_status Guard(const Work& work) noexcept
+{
+    try {
+        return work();
+    } catch (...) {
+        return StatusOfException();
+    }
+}
+
+/// Refuses what cannot be the address of a `Type`.
+template <class Type>
+void RequireAligned(const Type* pointer, const char* argument)
+{
+    if (reinterpret_cast<std::uintptr_t>(pointer) % alignof(Type) != 0)
+        Refuse(argument);
+}
+
+template <class Type>
+void RequireAddress(const Type* pointer, const char* argument)
+{
+    if (!pointer)
+        Refuse(argument);
+    RequireAligned(pointer, argument);
+}
+
+/// Refuses what cannot be the address of an object; a null pointer is taken.
+inline void RequireObject(const void* object, const char* argument)
+{
+    RequireAligned(static_cast<void* const*>(object), argument);
+}
+
+/// Refuses a record that is not there, or has another size than its structure.
+template <class Record>
+void RequireRecord(const Record* record, const char* argument)
+{
+    RequireAddress(record, argument);
+    if (record->struct_size != sizeof(Record))
+        Refuse(argument);
+}
+
+// From the host.
+
+[[nodiscard]] CString ToText(const std::uint16_t* units, std::ptrdiff_t length, const char* argument);
+[[nodiscard]] inline CString ToText(const vyr_text& text, const char* argument)
+{
+    return ToText(text.units, text.length, argument);
+}
+[[nodiscard]] COleDateTime ToDateTime(double days, std::int32_t status, const char* argument);
+[[nodiscard]] inline COleDateTime ToDateTime(const vyr_date_time& moment, const char* argument)
+{
+    return ToDateTime(moment.days, moment.status, argument);
+}
+[[nodiscard]] FILETIME ToFileTime(std::uint64_t ticks);
+/// Nothing for a null pointer.
+[[nodiscard]] std::optional<FILETIME> ToOptionalFileTime(const std::uint64_t* ticks, const char* argument);
+[[nodiscard]] CRect ToRect(const vyr_rect* rectangle, const char* argument);
+/// A handle of the system.
+template <class Handle>
+[[nodiscard]] Handle ToHandle(std::intptr_t number)
+{
+    return reinterpret_cast<Handle>(number); // NOLINT(performance-no-int-to-ptr): that is what a handle is in C
+}
+[[nodiscard]] CListCtrl ToListControl(std::intptr_t window);
+
+/// The values that `convert` makes of `count` elements.
+template <class Element, class Convert>
+[[nodiscard]] auto ToVector(const Element* first, std::size_t count, const char* argument, Convert convert)
+{
+    std::vector<decltype(convert(*first, argument))> values;
+    if (count == 0)
+        return values;
+    RequireAddress(first, argument);
+    if (count > PTRDIFF_MAX / sizeof(Element))
+        Refuse(argument);
+    for (std::size_t index = 0; index < count; ++index)
+        values.push_back(convert(first[index], argument));
+    return values;
+}
+
+// To the host. Each takes the place that the host named and refuses it where it is none.
+
+class TextResult
+{
+public:
+    TextResult(std::uint16_t* buffer, std::size_t capacity, std::size_t* length);
+    [[nodiscard]] vyr_status Give(const CString& text) const;
+
+private:
+    std::uint16_t* m_buffer;
+    std::size_t m_capacity;
+    std::size_t* m_length;
+};
+
+template <class Number>
+class NumberResult
+{
+public:
+    explicit NumberResult(Number* place) : m_place(place) { RequireAddress(place, "result"); }
+    [[nodiscard]] vyr_status Give(Number value) const
+    {
+        *m_place = value;
+        return VYR_OK;
+    }
+
+private:
+    Number* m_place;
+};
+
+[[nodiscard]] std::uint64_t ToTicks(const FILETIME& moment);
+[[nodiscard]] vyr_date_time ToC(const COleDateTime& moment);
+/// Good as long as `text` lives.
+[[nodiscard]] vyr_text ToC(const CString& text);
+
+/// A list that the host holds.
+class List
+{
+public:
+    List() = default;
+    List(const List&) = delete;
+    List& operator=(const List&) = delete;
+    virtual ~List() = default;
+    [[nodiscard]] virtual std::size_t Count() const = 0;
+};
+
+template <class Record>
+class RecordList : public List
+{
+public:
+    explicit RecordList(std::vector<Record> records) : m_records(std::move(records)) {}
+    [[nodiscard]] std::size_t Count() const override { return m_records.size(); }
+    [[nodiscard]] const std::vector<Record>& Records() const { return m_records; }
+
+private:
+    std::vector<Record> m_records;
+};
+
+/// The handle under which `list` is held from now on.
+[[nodiscard]] vyr_list Hold(std::shared_ptr<const List> list);
+/// Refuses a handle that is none.
+[[nodiscard]] std::shared_ptr<const List> Held(vyr_list handle);
+
+/// The record at `index` of a list of `Record`.
+template <class Record>
+[[nodiscard]] const Record& RecordAt(const std::shared_ptr<const List>& list, std::size_t index)
+{
+    const auto* const records = dynamic_cast<const RecordList<Record>*>(list.get());
+    if (!records)
+        Refuse("list");
+    if (index >= records->Count())
+        Refuse("index");
+    return records->Records()[index];
+}
+
+class ListResult
+{
+public:
+    explicit ListResult(vyr_list* place) : m_place(place) { RequireAddress(place, "result"); }
+    template <class Record>
+    [[nodiscard]] vyr_status Give(std::vector<Record> records) const
+    {
+        *m_place = Hold(std::make_shared<RecordList<Record>>(std::move(records)));
+        return VYR_OK;
+    }
+
+private:
+    vyr_list* m_place;
+};
+
+} // namespace VyrC
