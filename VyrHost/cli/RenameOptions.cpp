@@ -66,6 +66,12 @@ constexpr ExclusivePair Exclusive[] = {
     {"--pairs", "--stdin", NamesItself},
     {"--pairs", "--stdin0", NamesItself},
     {"--pairs", "--recursive", NamesItself},
+    {"--pairs", "--include", NamesItself},
+    {"--pairs", "--exclude", NamesItself},
+    {"--pairs", "--modified", NamesItself},
+    {"--pairs", "--created", NamesItself},
+    {"--pairs", "--taken", NamesItself},
+    {"--pairs", "--size", NamesItself},
     {"--pairs", "--edit", GivesNames},
     {"--pairs", "--together", GivesNames},
     {"--pairs", "--number-per-folder", GivesNames},
@@ -80,7 +86,7 @@ constexpr DependentOption Dependent[] = {
 
 } // namespace
 
-RenameOptions::RenameOptions(CLI::App& command) : m_command(command)
+RenameOptions::RenameOptions(CLI::App& command) : m_command(command), m_choice(command)
 {
     AddSources(command);
     AddOrder(command);
@@ -174,6 +180,7 @@ Collect::SourceSettings RenameOptions::ReadSources() const
         m_pick, "--only",
         {{"files", Collect::Pick::Files}, {"folders", Collect::Pick::Folders}, {"all", Collect::Pick::All}});
     settings.hidden = m_hidden;
+    settings.choice = m_choice.Read();
     if (m_lines || m_terminated)
         settings.input = m_lines ? Collect::InputNames::Lines : Collect::InputNames::Terminated;
     return settings;

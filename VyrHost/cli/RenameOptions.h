@@ -2,6 +2,7 @@
 /// The options of "vyr rename" beside the rules.
 #pragma once
 
+#include <VyrHost/cli/ChoiceOptions.h>
 #include <VyrHost/cli/RenameRequest.h>
 
 #include <optional>
@@ -40,6 +41,7 @@ private:
     void ReadNumbering(Rename::ConflictSettings& settings) const;
 
     CLI::App& m_command;
+    ChoiceOptions m_choice;
     std::vector<std::string> m_paths;
     std::optional<std::string> m_pick;
     std::optional<std::string> m_pairs;

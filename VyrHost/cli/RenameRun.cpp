@@ -2,6 +2,7 @@
 #include <VyrHost/cli/RenameRequest.h>
 
 #include <VyrHost/batch/Batches.h>
+#include <VyrHost/cli/ChoiceOptions.h>
 #include <VyrHost/cli/EditNames.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
@@ -169,7 +170,8 @@ private:
     int Show(bool isStopped)
     {
         const int code =
-            WriteReport(*m_results, {m_request.json, m_request.quiet, !m_request.apply}, {}, Ending(isStopped));
+            WriteReport(*m_results, {m_request.json, m_request.quiet, !m_request.apply, LeftOutNotice(m_collected)}, {},
+                        Ending(isStopped));
         if (m_request.quiet && m_summary.wasStopped)
             Complain("interrupted: " + Ui::SummaryOf(Model::Tally(*m_results)) + Ending(isStopped));
         return std::max(code, m_collected.problems.empty() ? ExitCode::Success : ExitCode::Partly);

@@ -29,14 +29,15 @@ int WriteReport(const Model::Results& results, const ReportStyle& style, const s
     if (style.json) {
         Ui::WriteResultJson(output, results, style.isPreview);
         if (!style.quiet)
-            VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, Ui::SummaryOf(tally));
+            VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error,
+                                            Ui::SummaryOf(tally) + style.remark);
     } else if (style.quiet) {
         for (std::size_t index = 0; index < results.Count(); ++index)
             if (const Model::Result result = results.At(index); Ui::IsProblem(result))
                 Complain(Ui::MessageFor(result));
     } else {
         Ui::WriteResultTable(output, results);
-        output << heading << Ui::SummaryOf(tally) << ending;
+        output << heading << Ui::SummaryOf(tally) << style.remark << ending;
     }
     return Finish(output, tally.IsWhole() ? ExitCode::Success : ExitCode::Partly);
 }

@@ -19,6 +19,8 @@ struct ReportStyle
     bool quiet = false;
     /// Nothing was changed.
     bool isPreview = false;
+    /// Stands behind the summary, wherever that goes; with a line end, or empty.
+    std::string remark = {};
 
     [[nodiscard]] bool IsSilent() const { return json || quiet; }
 };

@@ -88,6 +88,15 @@ CString Shown(const CString& folder)
     return folder.IsEmpty() || isHere ? CString() : WithSeparator(folder);
 }
 
+/// The name that `path` itself ends in; empty where it ends in no name.
+std::u16string_view OwnName(std::u16string_view path)
+{
+    while (!path.empty() && IsSeparator(path.back()))
+        path.remove_suffix(1);
+    const std::u16string_view name = LastStep(path);
+    return name == u"." || name == u".." ? std::u16string_view() : name;
+}
+
 class EntryCollector
 {
 public:
@@ -117,6 +126,8 @@ private:
     void Add(const CString& path, bool mayBePattern)
     {
         if (m_settings.recursive && VyrPlatform::FileSystem::IsFolder(path)) {
+            if (!MayEnter(OwnName(path)))
+                return;
             const CString full = WithSeparator(VyrHostPlatform::GetFullPath(path));
             NoteSourceFolder(full, path);
             Walk(full, Shown(path));
@@ -179,6 +190,8 @@ private:
         const CString path =
             isFolder ? WithSeparator(CString::Join({List().folders[folder].path, record.name})) : CString();
         const CString shown = CString::Join({List().folders[folder].shown, record.name});
+        if (isFolder && m_settings.recursive && !MayEnter(record.name))
+            return;
         if (isFolder)
             NoteSourceFolder(path, shown);
         if (isFolder && m_settings.recursive)
@@ -210,8 +223,21 @@ private:
         return matched;
     }
 
+    /// Whether recursion goes into a folder of this name.
+    bool MayEnter(std::u16string_view name)
+    {
+        if (!m_settings.choice.Excludes(name))
+            return true;
+        ++m_result.notEntered;
+        return false;
+    }
+
     void AddListed(std::uint32_t folder, Model::NameRecord& record)
     {
+        if (!m_settings.choice.Keeps(List().folders[folder].path, record.name)) {
+            ++m_result.leftOut;
+            return;
+        }
         if (record.owner != Model::NoEntry)
             throw Text::UsageError("'" + Text::SafeText(CString::Join({List().folders[folder].shown, record.name})) +
                                    "' is named twice");
@@ -235,7 +261,7 @@ private:
                 continue;
             if (IsPicked(record))
                 AddListed(number, record);
-            if (record.kind == Kind::Folder && !record.isLink)
+            if (record.kind == Kind::Folder && !record.isLink && MayEnter(record.name))
                 below.push_back(record.name);
         }
         for (const std::u16string_view name : below)

@@ -2,8 +2,10 @@
 /// Turns what the user names into the list of entries.
 #pragma once
 
+#include <VyrHost/collect/Choice.h>
 #include <VyrHost/model/EntryList.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -39,6 +41,8 @@ struct SourceSettings
     bool areNames = false;
     /// Recursion takes and goes into what begins with a dot, too.
     bool hidden = false;
+    /// Holds for named entries, too, but not for a path that leads nowhere.
+    Choice choice;
 };
 
 struct CollectedEntries
@@ -46,6 +50,10 @@ struct CollectedEntries
     Model::EntryList list;
     /// What could not be read, for people.
     std::vector<CString> problems;
+    /// How many entries the choice left out, those in folders that were not entered uncounted.
+    std::size_t leftOut = 0;
+    /// How many folders were not entered because their names are excluded.
+    std::size_t notEntered = 0;
 };
 
 /// The entries in the order given; in a folder that is gone through, its own first and then its folders', each by name
