@@ -3,9 +3,11 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstddef>
 #include <iterator>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 namespace VyrPlatform {
 
@@ -152,6 +154,31 @@ std::vector<std::byte> WithNumber(std::span<const std::byte> value, std::size_t 
     return changed;
 }
 
+/// `value` without a valid `field`; nothing when it is no record.
+std::optional<std::vector<std::byte>> WithoutField(std::span<const std::byte> value, std::size_t Layout::*place,
+                                                   std::size_t size, std::uint32_t field)
+{
+    const auto layout = FindLayout(value, TextLength(value) + 1);
+    if (!layout)
+        return std::nullopt;
+    std::vector<std::byte> changed(value.begin(), value.end());
+    std::fill_n(changed.begin() + static_cast<std::ptrdiff_t>((*layout).*place), size, std::byte(0));
+    if (layout->fields)
+        PutNumber(changed, *layout->fields, NumberAt<std::uint32_t>(value, *layout->fields) & ~field);
+    return changed;
+}
+
+bool IsEqual(std::span<const std::byte> left, std::span<const std::byte> right)
+{
+    return std::equal(left.begin(), left.end(), right.begin(), right.end());
+}
+
+/// Nothing for no bytes, which stand for a failure there.
+std::optional<std::vector<std::byte>> UnlessEmpty(std::vector<std::byte> value)
+{
+    return value.empty() ? std::nullopt : std::optional(std::move(value));
+}
+
 } // namespace
 
 DosAttribute ParseDosAttribute(std::span<const std::byte> value)
@@ -180,6 +207,34 @@ std::vector<std::byte> WithAttributes(std::span<const std::byte> value, std::uin
         return WithNumber(value, &Layout::attributes, attributes, hasAttributes);
     const bool isEnded = value.back() == std::byte(0);
     return ParseDosAttribute(value).attributes ? MakeText(attributes, isEnded) : std::vector<std::byte>();
+}
+
+std::optional<std::vector<std::byte>> WithCreatedOf(std::span<const std::byte> value, std::span<const std::byte> kept)
+{
+    const std::optional<FileTicks> now = ParseDosAttribute(value).created;
+    if (IsEqual(value, kept) || (now && IsEqual(value, WithCreated(kept, *now))))
+        return std::vector(kept.begin(), kept.end());
+    if (const auto before = ParseDosAttribute(kept).created)
+        return UnlessEmpty(WithCreated(value, *before));
+    if (!now)
+        return std::vector(value.begin(), value.end());
+    return WithoutField(value, &Layout::created, sizeof(FileTicks), hasCreated);
+}
+
+std::optional<std::vector<std::byte>> WithAttributesOf(std::span<const std::byte> value,
+                                                       std::span<const std::byte> kept)
+{
+    const std::optional<std::uint32_t> now = ParseDosAttribute(value).attributes;
+    if (IsEqual(value, kept) || (now && IsEqual(value, WithAttributes(kept, *now))))
+        return std::vector(kept.begin(), kept.end());
+    if (const auto before = ParseDosAttribute(kept).attributes)
+        return UnlessEmpty(WithAttributes(value, *before));
+    if (!now)
+        return std::vector(value.begin(), value.end());
+    // A text holds nothing else.
+    if (IsTextAlone(value))
+        return std::vector<std::byte>();
+    return WithoutField(value, &Layout::attributes, sizeof(std::uint32_t), hasAttributes);
 }
 
 } // namespace VyrPlatform

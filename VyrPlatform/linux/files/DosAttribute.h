@@ -34,4 +34,13 @@ struct DosAttribute
 [[nodiscard]] VYR_PLATFORM_API std::vector<std::byte> WithAttributes(std::span<const std::byte> value,
                                                                      std::uint32_t attributes);
 
+/// `value` with the creation time of `kept`, or without one where that has none, whatever else it holds unchanged. What
+/// WithCreated made of `kept` becomes `kept` again, to the byte. No bytes stand for no value.
+/// @return nothing when `value` is none that ParseDosAttribute reads.
+[[nodiscard]] VYR_PLATFORM_API std::optional<std::vector<std::byte>> WithCreatedOf(std::span<const std::byte> value,
+                                                                                   std::span<const std::byte> kept);
+/// The same for the attributes.
+[[nodiscard]] VYR_PLATFORM_API std::optional<std::vector<std::byte>> WithAttributesOf(std::span<const std::byte> value,
+                                                                                      std::span<const std::byte> kept);
+
 } // namespace VyrPlatform

@@ -14,10 +14,6 @@ namespace VyrPlatform::ExtendedAttributes {
 
 namespace {
 
-constexpr const char* sambaName = "user.DOSATTRIB";
-constexpr const char* ntfsAttributesName = "system.ntfs_attrib_be";
-constexpr const char* ntfsCreatedName = "system.ntfs_crtime_be";
-
 /// The value of one extended attribute; longer than any that is read here, so that a longer one is none of them.
 class Value
 {
@@ -144,27 +140,35 @@ int SetAttributes(const NativePath& path, std::uint32_t attributes, bool isWorth
                        [attributes](std::span<const std::byte> value) { return WithAttributes(value, attributes); });
 }
 
+std::optional<std::string> ReadRaw(const NativePath& path, const char* name)
+{
+    const Value value(path, name);
+    const auto bytes = value.Bytes();
+    if (bytes.empty())
+        return std::nullopt;
+    return std::string(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+}
+
+int WriteRaw(const NativePath& path, const char* name, const std::optional<std::string>& value) noexcept
+{
+    const int result =
+        value ? setxattr(path.Get(), name, value->data(), value->size(), 0) : removexattr(path.Get(), name);
+    return result == 0 || (!value && errno == ENODATA) ? 0 : errno;
+}
+
 Snapshot::Snapshot(const NativePath& path)
 {
     for (const char* const name : {sambaName, ntfsAttributesName, ntfsCreatedName}) {
         const Value value(path, name);
-        const auto bytes = value.Bytes();
         if (!value.IsUnsupported() && value.WhyUnread() == 0)
-            m_values.emplace_back(
-                name, bytes.empty() ? std::nullopt
-                                    : std::optional<std::string>(
-                                          std::in_place, reinterpret_cast<const char*>(bytes.data()), bytes.size()));
+            m_values.emplace_back(name, ReadRaw(path, name));
     }
 }
 
 void Snapshot::PutBack(const NativePath& path) const noexcept
 {
-    for (const auto& [name, value] : m_values) {
-        if (value)
-            setxattr(path.Get(), name, value->data(), value->size(), 0);
-        else
-            removexattr(path.Get(), name);
-    }
+    for (const auto& [name, value] : m_values)
+        static_cast<void>(WriteRaw(path, name, value));
 }
 
 } // namespace VyrPlatform::ExtendedAttributes

@@ -36,6 +36,17 @@ namespace VyrPlatform::ExtendedAttributes {
 /// @return 0, or the error code.
 [[nodiscard]] int SetAttributes(const NativePath& path, std::uint32_t attributes, bool isWorthKeeping);
 
+/// The attributes that hold what these operations read.
+inline constexpr const char* sambaName = "user.DOSATTRIB";
+inline constexpr const char* ntfsAttributesName = "system.ntfs_attrib_be";
+inline constexpr const char* ntfsCreatedName = "system.ntfs_crtime_be";
+
+/// The value of an attribute as it stands; nothing where there is none, or more than 1023 bytes.
+[[nodiscard]] std::optional<std::string> ReadRaw(const NativePath& path, const char* name);
+/// Sets the value of an attribute, or removes it where there is none in `value`.
+/// @return 0, or the error code.
+[[nodiscard]] int WriteRaw(const NativePath& path, const char* name, const std::optional<std::string>& value) noexcept;
+
 /// What the extended attributes of a file hold that these operations write, to be put back when a later step fails.
 class Snapshot
 {

@@ -1,13 +1,21 @@
 // The mark of a download on Linux: a sibling file or an extended attribute, as the programs that mark files write it.
 #include <VyrPlatform/files/NamedStreams.h>
 
+#include "Descriptor.h"
 #include "NativePath.h"
 
 #include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/text/Encoding.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cstddef>
+#include <fcntl.h>
+#include <iterator>
+#include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
+#include <utility>
 
 namespace VyrPlatform::NamedStreams {
 
@@ -21,6 +29,12 @@ constexpr const char* attributeNames[] = {
     "user.xdg.referrer.url",
 };
 
+/// Whether a form that could not be read or removed is just not there. A name too long for a file has none beside it.
+bool MeansNone(int error) noexcept
+{
+    return error == ENOENT || error == ENODATA || error == ENOTSUP || error == ENAMETOOLONG;
+}
+
 /// What became of a mark, gathered over its forms.
 class Outcome
 {
@@ -29,7 +43,7 @@ public:
     {
         if (result == 0)
             m_removed = true;
-        else if (errno != ENOENT && errno != ENODATA && errno != ENOTSUP)
+        else if (!MeansNone(errno))
             m_error = errno;
     }
     [[nodiscard]] std::uint32_t Code() const noexcept
@@ -49,7 +63,112 @@ std::u16string_view WithoutSeparatorsAtEnd(std::u16string_view path) noexcept
     return path;
 }
 
+constexpr std::string_view siblingSuffix = ":Zone.Identifier";
+constexpr std::size_t mostBytes = 64 * 1024;
+
+/// A form, or why there is none.
+struct FoundForm
+{
+    std::optional<std::string> bytes;
+    /// 0 where the file simply has no such form.
+    int error = 0;
+};
+
+FoundForm NotFound(int error)
+{
+    return {std::nullopt, MeansNone(error) ? 0 : error};
+}
+
+FoundForm ReadSibling(std::u16string_view path)
+{
+    const NativePath sibling(WithoutSeparatorsAtEnd(path), siblingSuffix);
+    const Descriptor file(open(sibling.Get(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW));
+    struct stat status;
+    if (!file.IsOpen() || fstat(file.Get(), &status) != 0)
+        return NotFound(errno);
+    if (!S_ISREG(status.st_mode))
+        return NotFound(EINVAL);
+    std::string bytes(mostBytes + 1, '\0');
+    std::size_t size = 0;
+    for (ssize_t count = 1; count > 0 && size < bytes.size(); size += static_cast<std::size_t>(count)) {
+        count = read(file.Get(), bytes.data() + size, bytes.size() - size);
+        if (count < 0)
+            return NotFound(errno);
+    }
+    if (size > mostBytes)
+        return NotFound(EFBIG);
+    bytes.resize(size);
+    return {std::move(bytes)};
+}
+
+FoundForm ReadAttribute(const NativePath& path, const char* name)
+{
+    // Most files have none.
+    const ssize_t expected = getxattr(path.Get(), name, nullptr, 0);
+    if (expected < 0)
+        return NotFound(errno);
+    std::string bytes(static_cast<std::size_t>(expected), '\0');
+    const ssize_t size = getxattr(path.Get(), name, bytes.data(), bytes.size());
+    if (size < 0)
+        return NotFound(errno);
+    bytes.resize(static_cast<std::size_t>(size));
+    return {std::move(bytes)};
+}
+
+int WriteSibling(std::u16string_view path, const std::string& bytes)
+{
+    constexpr mode_t usual = 0666;
+    const NativePath sibling(WithoutSeparatorsAtEnd(path), siblingSuffix);
+    Descriptor file(open(sibling.Get(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW, usual));
+    if (!file.IsOpen())
+        return errno;
+    for (std::size_t written = 0; written < bytes.size();) {
+        const ssize_t count = write(file.Get(), bytes.data() + written, bytes.size() - written);
+        if (count < 0)
+            return errno;
+        written += static_cast<std::size_t>(count);
+    }
+    return file.Close();
+}
+
 } // namespace
+
+std::optional<std::vector<ZoneForm>> ReadZoneMark(const CString& path, std::uint32_t& error)
+{
+    const NativePath nativePath(path);
+    if (access(nativePath.Get(), F_OK) != 0) {
+        error = static_cast<std::uint32_t>(errno);
+        return std::nullopt;
+    }
+    std::vector<ZoneForm> forms;
+    const auto take = [&forms, &error](const CString& name, FoundForm found) {
+        if (found.bytes)
+            forms.push_back({name, std::move(*found.bytes)});
+        error = static_cast<std::uint32_t>(found.error);
+        return found.error == 0;
+    };
+    if (!take(zoneStream, ReadSibling(path)))
+        return std::nullopt;
+    for (const char* const name : attributeNames)
+        if (!take(Encoding::FromUtf8(name), ReadAttribute(nativePath, name)))
+            return std::nullopt;
+    return forms;
+}
+
+std::uint32_t WriteZoneForm(const CString& path, const ZoneForm& form)
+{
+    const NativePath nativePath(path);
+    if (access(nativePath.Get(), F_OK) != 0)
+        return static_cast<std::uint32_t>(errno);
+    if (form.name == zoneStream)
+        return static_cast<std::uint32_t>(WriteSibling(path, form.bytes));
+    const std::string wanted = Encoding::ToUtf8(form.name);
+    const auto* const name = std::find(std::begin(attributeNames), std::end(attributeNames), wanted);
+    if (name == std::end(attributeNames))
+        return EINVAL;
+    const int result = setxattr(nativePath.Get(), *name, form.bytes.data(), form.bytes.size(), 0);
+    return static_cast<std::uint32_t>(result == 0 ? 0 : errno);
+}
 
 std::uint32_t DeleteZoneMark(const CString& path)
 {
@@ -57,7 +176,7 @@ std::uint32_t DeleteZoneMark(const CString& path)
     if (access(nativePath.Get(), F_OK) != 0)
         return static_cast<std::uint32_t>(errno);
     Outcome outcome;
-    outcome.Add(unlink(NativePath(WithoutSeparatorsAtEnd(path), ":Zone.Identifier").Get()));
+    outcome.Add(unlink(NativePath(WithoutSeparatorsAtEnd(path), siblingSuffix).Get()));
     for (const char* const name : attributeNames)
         outcome.Add(removexattr(nativePath.Get(), name));
     return outcome.Code();

@@ -2,14 +2,71 @@
 #include <VyrPlatform/files/NamedStreams.h>
 
 #include "LongPath.h"
+#include "OpenEntry.h"
+
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <windows.h>
 
+#include <cstddef>
+#include <utility>
+
 namespace VyrPlatform::NamedStreams {
+
+namespace {
+
+constexpr std::size_t mostBytes = 64 * 1024;
+
+/// Reads to the end of an open stream. @return 0, or the error code.
+DWORD ReadAll(HANDLE stream, std::string& bytes)
+{
+    bytes.resize(mostBytes + 1);
+    std::size_t size = 0;
+    for (DWORD count = 1; count > 0 && size < bytes.size(); size += count)
+        if (!ReadFile(stream, bytes.data() + size, static_cast<DWORD>(bytes.size() - size), &count, nullptr))
+            return GetLastError();
+    bytes.resize(size);
+    return size > mostBytes ? ERROR_FILE_TOO_LARGE : ERROR_SUCCESS;
+}
+
+} // namespace
+
+std::optional<std::vector<ZoneForm>> ReadZoneMark(const CString& path, std::uint32_t& error)
+{
+    error = ERROR_SUCCESS;
+    const Handle stream = OpenEntry(LongPath(path, zoneStream), GENERIC_READ, Links::Follow);
+    if (!stream.IsOpen()) {
+        error = GetLastError();
+        // A path with a stream says that nothing is there for the one as for the other.
+        if (error != ERROR_FILE_NOT_FOUND || !FileSystem::Exists(path))
+            return std::nullopt;
+        error = ERROR_SUCCESS;
+        return std::vector<ZoneForm>();
+    }
+    ZoneForm form{zoneStream, {}};
+    error = ReadAll(stream.Get(), form.bytes);
+    if (error != ERROR_SUCCESS)
+        return std::nullopt;
+    return std::vector{std::move(form)};
+}
+
+std::uint32_t WriteZoneForm(const CString& path, const ZoneForm& form)
+{
+    if (form.name != zoneStream)
+        return ERROR_INVALID_PARAMETER;
+    if (!FileSystem::Exists(path))
+        return ERROR_FILE_NOT_FOUND;
+    const Handle stream(CreateFileW(LongPath(path, zoneStream).Get(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                    CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+    DWORD written = 0;
+    const bool isWritten = stream.IsOpen() && WriteFile(stream.Get(), form.bytes.data(),
+                                                        static_cast<DWORD>(form.bytes.size()), &written, nullptr);
+    return isWritten ? ERROR_SUCCESS : GetLastError();
+}
 
 std::uint32_t DeleteZoneMark(const CString& path)
 {
-    return DeleteFileW(LongPath(path, u":Zone.Identifier").Get()) ? 0 : GetLastError();
+    return DeleteFileW(LongPath(path, zoneStream).Get()) ? 0 : GetLastError();
 }
 
 } // namespace VyrPlatform::NamedStreams

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 namespace NamedStreams = VyrPlatform::NamedStreams;
 using VyrTests::ScratchFolder;
 
@@ -52,4 +55,63 @@ TEST(NamedStreams, ZoneMarkOfANeighbourStays)
     VyrTests::MarkAsDownloaded(neighbour);
     EXPECT_EQ(NamedStreams::DeleteZoneMark(path), 0U);
     EXPECT_TRUE(VyrTests::IsMarkedAsDownloaded(neighbour));
+}
+
+TEST(NamedStreams, ZoneMarkThatWasReadIsWrittenBack)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a.zip", "content");
+    std::uint32_t error = 0;
+    EXPECT_EQ(NamedStreams::ReadZoneMark(path, error), std::vector<NamedStreams::ZoneForm>());
+    VyrTests::MarkAsDownloaded(path);
+    const auto forms = NamedStreams::ReadZoneMark(path, error);
+    ASSERT_TRUE(forms);
+    ASSERT_EQ(forms->size(), 1U);
+    EXPECT_NE(forms->front().bytes.find("ZoneId=3"), std::string::npos);
+    ASSERT_EQ(NamedStreams::DeleteZoneMark(path), 0U);
+    EXPECT_EQ(NamedStreams::WriteZoneForm(path, forms->front()), 0U);
+    EXPECT_TRUE(VyrTests::IsMarkedAsDownloaded(path));
+    EXPECT_EQ(NamedStreams::ReadZoneMark(path, error), forms);
+    EXPECT_EQ(scratch.ReadFile(u"a.zip"), "content");
+}
+
+TEST(NamedStreams, StreamKeepsEveryByte)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte)
+        bytes += static_cast<char>(byte);
+    for (const std::string& content : {bytes, std::string(), std::string(64 * 1024, 'x')}) {
+        EXPECT_EQ(NamedStreams::WriteZoneForm(path, {CString(NamedStreams::zoneStream), content}), 0U);
+        std::uint32_t error = 0;
+        const auto forms = NamedStreams::ReadZoneMark(path, error);
+        ASSERT_TRUE(forms);
+        ASSERT_EQ(forms->size(), 1U);
+        EXPECT_EQ(forms->front().bytes, content);
+    }
+}
+
+TEST(NamedStreams, StreamThatIsLargerThanAMarkIsNotRead)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    ASSERT_EQ(NamedStreams::WriteZoneForm(path, {CString(NamedStreams::zoneStream), std::string(64 * 1024 + 1, 'x')}),
+              0U);
+    std::uint32_t error = 0;
+    EXPECT_FALSE(NamedStreams::ReadZoneMark(path, error));
+    EXPECT_NE(error, 0U);
+}
+
+TEST(NamedStreams, ZoneMarkOfNothingIsNeitherReadNorWritten)
+{
+    const ScratchFolder scratch;
+    std::uint32_t error = 0;
+    EXPECT_FALSE(NamedStreams::ReadZoneMark(scratch.Path(u"missing"), error));
+    EXPECT_NE(error, 0U);
+    EXPECT_NE(NamedStreams::WriteZoneForm(scratch.Path(u"missing"), {CString(NamedStreams::zoneStream), "x"}), 0U);
+    EXPECT_FALSE(scratch.Has(u"missing"));
+    const CString path = scratch.WriteFile(u"a");
+    EXPECT_NE(NamedStreams::WriteZoneForm(path, {u"user.other", "x"}), 0U);
+    EXPECT_NE(NamedStreams::WriteZoneForm(path, {u":other", "x"}), 0U);
 }

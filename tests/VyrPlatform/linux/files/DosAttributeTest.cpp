@@ -8,15 +8,20 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <sys/xattr.h>
+#include <vector>
 
 namespace FileAttributes = VyrPlatform::FileAttributes;
 namespace FileTimes = VyrPlatform::FileTimes;
 using VyrPlatform::DosAttribute;
 using VyrPlatform::FileTicks;
 using VyrTests::ScratchFolder;
+using namespace std::string_literals;
 using namespace std::string_view_literals;
 
 namespace {
@@ -378,4 +383,56 @@ TEST(DosAttributeOfFile, ReadOnlyBitMakesAFileReadOnly)
     EXPECT_TRUE(FileAttributes::IsReadOnly(path));
     SetValue(path, "user.DOSATTRIB", Version5());
     EXPECT_TRUE(FileAttributes::IsReadOnly(path));
+}
+
+namespace {
+
+using Merge = std::optional<std::vector<std::byte>> (*)(std::span<const std::byte>, std::span<const std::byte>);
+
+/// The merged value; "refused" where there is none.
+std::string Merged(Merge merge, std::string_view value, std::string_view kept)
+{
+    const auto merged = merge(std::as_bytes(std::span(value)), std::as_bytes(std::span(kept)));
+    return merged ? std::string(reinterpret_cast<const char*>(merged->data()), merged->size()) : "refused";
+}
+
+} // namespace
+
+TEST(DosAttribute, WhatWasMadeOfAValueBecomesThatValueAgain)
+{
+    const std::string values[] = {
+        {},
+        "0x22",
+        "0x22\0"s,
+        Version5(),
+        Join({"\0\0\3\0\3\0\0\0"sv, "\x01\0\0\0"sv, "\x21\0\0\0"sv, fourBytes, eightBytes, eightBytes, createdBytes,
+              eightBytes}),
+        Join({"\0\0\1\0\1\0\0\0"sv, "\x21\0\0\0"sv, fourBytes, eightBytes, eightBytes, createdBytes, eightBytes})};
+    for (const std::string& value : values) {
+        EXPECT_EQ(Merged(VyrPlatform::WithCreatedOf, Changed(value, created + 5), value), value);
+        EXPECT_EQ(Merged(VyrPlatform::WithAttributesOf, Attributed(value, 0x2007), value), value);
+        EXPECT_EQ(Merged(VyrPlatform::WithCreatedOf, value, value), value);
+    }
+}
+
+TEST(DosAttribute, OtherFieldThatWasChangedSinceStays)
+{
+    // The attributes were set first, then a creation time; the attributes go back.
+    const std::string both = Changed(Attributed({}, 0x22), created);
+    const DosAttribute withoutAttributes = Parse(Merged(VyrPlatform::WithAttributesOf, both, {}));
+    EXPECT_EQ(withoutAttributes.attributes, std::nullopt);
+    EXPECT_EQ(withoutAttributes.created, created);
+    const DosAttribute withoutCreated = Parse(Merged(VyrPlatform::WithCreatedOf, both, {}));
+    EXPECT_EQ(withoutCreated.attributes, 0x22U);
+    EXPECT_EQ(withoutCreated.created, std::nullopt);
+    const DosAttribute before = Parse(Merged(VyrPlatform::WithAttributesOf, both, Attributed({}, 0x4)));
+    EXPECT_EQ(before.attributes, 0x4U);
+    EXPECT_EQ(before.created, created);
+}
+
+TEST(DosAttribute, ValueOfAnotherProgramIsNotMerged)
+{
+    EXPECT_EQ(Merged(VyrPlatform::WithCreatedOf, "garbage", Version5()), "refused");
+    EXPECT_EQ(Merged(VyrPlatform::WithAttributesOf, "garbage", "0x22"), "refused");
+    EXPECT_EQ(Merged(VyrPlatform::WithAttributesOf, "garbage", {}), "garbage") << "it holds no attributes";
 }
