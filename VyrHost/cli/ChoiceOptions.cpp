@@ -3,6 +3,7 @@
 
 #include <VyrHost/cli/ArgumentText.h>
 #include <VyrHost/cli/OptionPairs.h>
+#include <VyrHost/cli/TextOptions.h>
 #include <VyrHost/text/UsageError.h>
 
 #include <CLI/CLI.hpp>
@@ -31,14 +32,6 @@ void AddNames(CLI::App& command, const char* name, const std::string& help)
         ->group(group);
 }
 
-void AddRange(CLI::App& command, const char* name, std::optional<std::string>& value, const char* help)
-{
-    const auto take = [&value](const std::string& given) {
-        value = given;
-    };
-    command.add_option_function<std::string>(name, take, help)->type_name("RANGE")->group(group);
-}
-
 std::vector<CString> TextsOf(const CLI::App& command, const char* option)
 {
     std::vector<CString> texts;
@@ -62,15 +55,16 @@ ChoiceOptions::ChoiceOptions(CLI::App& command) : m_command(command)
     AddNames(command, "--exclude", "Leave these out, in the same forms, and do not enter such folders");
     command.add_flag("--match-case", m_matchCase, "Tell upper and lower case apart in --include and --exclude")
         ->group(group);
-    AddRange(
-        command, "--modified", m_modified,
-        "By the last change: today, yesterday, this-week, last-week, this-month, last-month, this-year, last-year, "
-        "or FROM..TO, such as 2024-01-05..2024-02-29; either may be left out");
-    AddRange(command, "--created", m_created, "Likewise by the creation time");
-    AddRange(command, "--taken", m_taken, "Likewise by the moment a picture was taken");
-    AddRange(command, "--size", m_size,
-             "By size: empty, tiny (to 16 KB), small (to 1 MB), medium (to 128 MB), large (to 1 GB), huge (to 4 GB), "
-             "giant, or FROM..TO, such as 1MB.. or 500..16KB");
+    AddText(command, "--modified", m_modified, "RANGE",
+            "Only what was last changed then: today, yesterday, this-week, last-week, this-month, last-month, "
+            "this-year, last-year, or FROM..TO, such as 2024-01-05..2024-02-29; either may be left out",
+            group);
+    AddText(command, "--created", m_created, "RANGE", "Only what was created then", group);
+    AddText(command, "--taken", m_taken, "RANGE", "Only pictures that were taken then", group);
+    AddText(command, "--size", m_size, "RANGE",
+            "Only what is so large: empty, tiny (to 16 KB), small (to 1 MB), medium (to 128 MB), large (to 1 GB), huge "
+            "(to 4 GB), giant, or FROM..TO, such as 1.5MB.. or 500..16KB",
+            group);
 }
 
 Collect::Choice ChoiceOptions::Read() const

@@ -24,6 +24,13 @@ constexpr Example OfRename[] = {
     {"vyr rename --date \"yyyy<Folder><Name>\" --together --apply *", "move into a folder for each year, now"},
 };
 
+constexpr Example OfList[] = {
+    {"vyr list -r .", "every file below with its size and the time of its last change"},
+    {"vyr list -r Pictures --size 100MB.. --sort size --descending", "the largest first"},
+    {"vyr list --columns name,zone,from Downloads/*", "where downloads came from"},
+    {"vyr list -r . --taken last-year --csv --columns path,taken,maker,model", "for a spreadsheet"},
+};
+
 constexpr Example OfCopy[] = {
     {"vyr copy Pictures Backup", "into Backup where that is a folder, else as Backup"},
     {"vyr copy Pictures Scans Backup --apply", "both into the folder Backup, now"},
@@ -72,6 +79,11 @@ std::string TextOf(std::span<const Example> examples)
 std::string RenameExamples()
 {
     return TextOf(OfRename);
+}
+
+std::string ListExamples()
+{
+    return TextOf(OfList);
 }
 
 std::string CopyExamples()

@@ -9,6 +9,7 @@ namespace VyrHost::Cli {
 /// For the help of "vyr rename": a line for each example and one that says what it does.
 [[nodiscard]] std::string RenameExamples();
 /// Likewise for "vyr copy" and "vyr move".
+[[nodiscard]] std::string ListExamples();
 [[nodiscard]] std::string CopyExamples();
 [[nodiscard]] std::string MoveExamples();
 /// Likewise for "vyr undo" and "vyr recover".

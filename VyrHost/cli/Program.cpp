@@ -5,6 +5,7 @@
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/HelpText.h>
 #include <VyrHost/cli/InventoryCommands.h>
+#include <VyrHost/cli/ListCommand.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/RecoverCommand.h>
 #include <VyrHost/cli/RenameCommand.h>
@@ -56,6 +57,7 @@ int RunProgram(const std::vector<CString>& arguments)
     program.require_subcommand(1);
     program.get_formatter()->column_width(HelpColumn);
     const RenameCommand rename(program);
+    const ListCommand list(program);
     const TransferCommand copy(program, FolderCopy::TransferAction::Copy);
     const TransferCommand move(program, FolderCopy::TransferAction::Move);
     const UndoCommand undo(program);
@@ -66,6 +68,8 @@ int RunProgram(const std::vector<CString>& arguments)
         const std::vector<Argument> cut = CutArguments(program, arguments);
         RefuseUnknownWords(program, CommandOf(program, arguments), cut);
         program.parse(ToParser(cut));
+        if (list.IsChosen())
+            return list.Run();
         if (copy.IsChosen())
             return copy.Run();
         if (move.IsChosen())

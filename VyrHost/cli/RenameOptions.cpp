@@ -3,7 +3,7 @@
 
 #include <VyrHost/cli/ArgumentText.h>
 #include <VyrHost/cli/OptionPairs.h>
-#include <VyrHost/collect/Wildcard.h>
+#include <VyrHost/cli/TextOptions.h>
 #include <VyrHost/rename/LiteralText.h>
 #include <VyrHost/rename/RuleTexts.h>
 #include <VyrHost/text/UsageError.h>
@@ -18,50 +18,17 @@ namespace VyrHost::Cli {
 
 namespace {
 
-/// A word of an option and what it stands for.
-template <class Value>
-using Words = std::vector<std::pair<std::string, Value>>;
-
-/// What the word `text` stands for; the first of `words` when the option is not given.
-template <class Value>
-Value ReadWord(const std::optional<std::string>& text, const char* option, const Words<Value>& words)
-{
-    if (!text)
-        return words.front().second;
-    std::string expected;
-    for (const auto& [word, value] : words) {
-        if (*text == word)
-            return value;
-        expected.append(expected.empty() ? "" : ", ").append(word);
-    }
-    Text::RefuseValue(option, FromParser(*text), "one of " + expected + " is expected");
-}
-
 int ReadNumber(const std::optional<std::string>& text, int usual, const char* option)
 {
     return text ? Rename::ParseNumber(FromParser(*text), std::numeric_limits<int>::min(), option) : usual;
 }
 
-void AddText(CLI::App& command, const char* name, std::optional<std::string>& text, const char* value, const char* help,
-             const char* group)
-{
-    const auto take = [&text](const std::string& given) {
-        text = given;
-    };
-    command.add_option_function<std::string>(name, take, help)->type_name(value)->group(group);
-}
-
-void AddFlag(CLI::App& command, const char* name, bool& flag, const char* help, const char* group)
-{
-    command.add_flag(name, flag, help)->group(group);
-}
-
+constexpr const char* OrderGroup = "Order and numbers";
 constexpr const char* NamesItself = "--pairs names the entries itself";
 constexpr const char* GivesNames = "--pairs gives each new name itself";
 
 constexpr ExclusivePair Exclusive[] = {
     {"--json", "--quiet"},
-    {"--stdin", "--stdin0"},
     {"--pairs", "PATH", NamesItself},
     {"--pairs", "--stdin", NamesItself},
     {"--pairs", "--stdin0", NamesItself},
@@ -80,13 +47,13 @@ constexpr ExclusivePair Exclusive[] = {
 };
 
 constexpr DependentOption Dependent[] = {
-    {"--only", "--recursive"},
     {"--number-per-folder", "--number"},
 };
 
 } // namespace
 
-RenameOptions::RenameOptions(CLI::App& command) : m_command(command), m_choice(command)
+RenameOptions::RenameOptions(CLI::App& command)
+    : m_command(command), m_sources(command, "rename"), m_order(command, OrderGroup)
 {
     AddSources(command);
     AddOrder(command);
@@ -97,14 +64,6 @@ RenameOptions::RenameOptions(CLI::App& command) : m_command(command), m_choice(c
 void RenameOptions::AddSources(CLI::App& command)
 {
     constexpr const char* Group = "What to rename";
-    command.add_option("PATH", m_paths, "Files and folders to rename; * and ? match names where the shell leaves them")
-        ->type_name("");
-    AddFlag(command, "-r,--recursive", m_recursive, "Rename what is below a folder instead of the folder itself",
-            Group);
-    AddText(command, "--only", m_pick, "files|folders|all", "With --recursive: what is renamed (files)", Group);
-    AddFlag(command, "--hidden", m_hidden, "With --recursive and wildcards: names that begin with a dot, too", Group);
-    AddFlag(command, "--stdin", m_lines, "Read names from the standard input, one a line", Group);
-    AddFlag(command, "--stdin0", m_terminated, "Read names from the standard input, each ended by a NUL", Group);
     AddText(command, "--pairs", m_pairs, "FILE",
             "Read pairs of old and new names, separated by a comma, a semicolon or a tab; - is the standard input",
             Group);
@@ -113,15 +72,11 @@ void RenameOptions::AddSources(CLI::App& command)
 
 void RenameOptions::AddOrder(CLI::App& command)
 {
-    constexpr const char* Group = "Order and numbers";
-    AddText(command, "--sort", m_sort, "given|name|date|picture-date|size",
-            "The order of the list; date is that of the last change (given)", Group);
-    AddFlag(command, "--descending", m_isDescending, "Reverse the order", Group);
-    AddFlag(command, "--number-per-folder", m_countsPerFolder, "Start the numbers anew in each folder", Group);
+    AddFlag(command, "--number-per-folder", m_countsPerFolder, "Start the numbers anew in each folder", OrderGroup);
     AddFlag(command, "--together", m_together,
             "Give files that differ in their extensions alone (raw, JPEG, sidecar) one new name, by the first date of "
             "--date-from that one of them has",
-            Group);
+            OrderGroup);
 }
 
 void RenameOptions::AddConflicts(CLI::App& command)
@@ -152,10 +107,12 @@ RenameRequest RenameOptions::Read() const
 {
     CheckOptionPairs(m_command, Exclusive, Dependent);
     RenameRequest request;
-    request.sources = ReadSources();
+    if (!m_pairs && !m_sources.NamesAny())
+        throw Text::UsageError("nothing to rename is named");
+    request.sources = m_sources.Read();
     if (m_pairs)
         request.pairs = FromParser(*m_pairs);
-    request.order = ReadOrder();
+    request.order = m_order.Read();
     request.counting = m_countsPerFolder ? Rename::Counting::EachFolder : Rename::Counting::WholeList;
     request.together = m_together;
     request.conflicts = ReadConflicts();
@@ -164,39 +121,6 @@ RenameRequest RenameOptions::Read() const
     request.json = m_json;
     request.quiet = m_quiet;
     return request;
-}
-
-Collect::SourceSettings RenameOptions::ReadSources() const
-{
-    Collect::SourceSettings settings;
-    for (const std::string& path : m_paths)
-        settings.paths.push_back(FromParser(path));
-    if (!m_pairs && m_paths.empty() && !m_lines && !m_terminated)
-        throw Text::UsageError("nothing to rename is named");
-    if (m_hidden && !m_recursive && std::none_of(settings.paths.begin(), settings.paths.end(), Collect::IsPattern))
-        throw Text::UsageError(WithoutEffect("--hidden", "--recursive or a wildcard"));
-    settings.recursive = m_recursive;
-    settings.pick = ReadWord<Collect::Pick>(
-        m_pick, "--only",
-        {{"files", Collect::Pick::Files}, {"folders", Collect::Pick::Folders}, {"all", Collect::Pick::All}});
-    settings.hidden = m_hidden;
-    settings.choice = m_choice.Read();
-    if (m_lines || m_terminated)
-        settings.input = m_lines ? Collect::InputNames::Lines : Collect::InputNames::Terminated;
-    return settings;
-}
-
-Collect::SortSettings RenameOptions::ReadOrder() const
-{
-    Collect::SortSettings order;
-    order.key = ReadWord<Collect::SortKey>(m_sort, "--sort",
-                                           {{"given", Collect::SortKey::Given},
-                                            {"name", Collect::SortKey::Name},
-                                            {"date", Collect::SortKey::Modified},
-                                            {"picture-date", Collect::SortKey::Taken},
-                                            {"size", Collect::SortKey::Size}});
-    order.isDescending = m_isDescending;
-    return order;
 }
 
 bool RenameOptions::AsksForNumbering() const

@@ -2,12 +2,11 @@
 /// The options of "vyr rename" beside the rules.
 #pragma once
 
-#include <VyrHost/cli/ChoiceOptions.h>
 #include <VyrHost/cli/RenameRequest.h>
+#include <VyrHost/cli/SourceOptions.h>
 
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace CLI {
 class App;
@@ -35,28 +34,19 @@ private:
     void AddOrder(CLI::App& command);
     void AddConflicts(CLI::App& command);
     void AddOutput(CLI::App& command);
-    [[nodiscard]] Collect::SourceSettings ReadSources() const;
-    [[nodiscard]] Collect::SortSettings ReadOrder() const;
     [[nodiscard]] Rename::ConflictSettings ReadConflicts() const;
     void ReadNumbering(Rename::ConflictSettings& settings) const;
 
     CLI::App& m_command;
-    ChoiceOptions m_choice;
-    std::vector<std::string> m_paths;
-    std::optional<std::string> m_pick;
+    SourceOptions m_sources;
+    OrderOptions m_order;
     std::optional<std::string> m_pairs;
-    std::optional<std::string> m_sort;
     std::optional<std::string> m_onConflict;
     std::optional<std::string> m_conflictPattern;
     std::optional<std::string> m_conflictDigits;
     std::optional<std::string> m_conflictPosition;
     std::optional<std::string> m_conflictStart;
     std::optional<std::string> m_conflictStep;
-    bool m_recursive = false;
-    bool m_hidden = false;
-    bool m_lines = false;
-    bool m_terminated = false;
-    bool m_isDescending = false;
     bool m_countsPerFolder = false;
     bool m_together = false;
     bool m_edit = false;

@@ -1,0 +1,173 @@
+// Describes the columns of files, and lists files.
+#include <VyrHost/cli/FileRecords.h>
+
+#include <VyrHost/cli/ChoiceOptions.h>
+#include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/Messages.h>
+#include <VyrHost/cli/RecordOptions.h>
+#include <VyrHost/metadata/AttributesChange.h>
+#include <VyrHost/text/ErrorText.h>
+#include <VyrHost/text/SafeText.h>
+#include <VyrPlatform/files/FileAttributes.h>
+#include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/files/FileTimes.h>
+
+#include <cmath>
+#include <cstddef>
+#include <optional>
+
+namespace VyrHost::Cli {
+
+namespace {
+
+using Metadata::ListedFile;
+using Ui::RecordKind;
+using Ui::RecordValue;
+using VyrPlatform::FileTicks;
+using VyrPlatform::FileSystem::Kind;
+
+RecordValue SizeOf(const std::optional<std::int64_t>& size)
+{
+    return size ? RecordValue(*size) : RecordValue();
+}
+
+/// With the offset from UTC, where the count of days runs evenly.
+RecordValue DateOf(const std::optional<FileTicks>& ticks)
+{
+    constexpr double ticksPerDay = 864e9;
+    constexpr double daysTo1899 = 109'205;
+    constexpr double minutesPerDay = 1440;
+    const COleDateTime local = ticks ? VyrPlatform::FileTimes::ToLocal(*ticks) : COleDateTime();
+    if (!ticks || local.GetStatus() != COleDateTime::valid)
+        return {};
+    Ui::RecordDate date{local};
+    if (local.m_dt > 1)
+        date.minutesAheadOfUtc = static_cast<int>(
+            std::lround((local.m_dt - (static_cast<double>(*ticks) / ticksPerDay - daysTo1899)) * minutesPerDay));
+    return date;
+}
+
+RecordValue KindOf(const ListedFile& file)
+{
+    switch (file.Kind()) {
+    case Kind::File:
+        return CString(u"file");
+    case Kind::Folder:
+        return CString(u"folder");
+    case Kind::Missing:
+    case Kind::Other:
+        break;
+    }
+    return CString(u"other");
+}
+
+RecordValue TakenOf(const ListedFile& file)
+{
+    const COleDateTime taken = file.Taken();
+    return taken.GetStatus() == COleDateTime::valid ? RecordValue(Ui::RecordDate{taken}) : RecordValue();
+}
+
+RecordValue AttributesOf(const ListedFile& file)
+{
+    const std::uint32_t attributes = file.Attributes();
+    if (attributes == VyrPlatform::FileAttributes::unknown)
+        return {};
+    return Metadata::AttributeLetters(attributes);
+}
+
+} // namespace
+
+std::span<const Ui::RecordField<ListedFile>> FileFields()
+{
+    static const Ui::RecordField<ListedFile> fields[] = {
+        {{"name", "Name", RecordKind::Text, true},
+         [](const ListedFile& file) {
+             return RecordValue(file.ShownPath());
+         }},
+        {{"path", "Path", RecordKind::Text},
+         [](const ListedFile& file) {
+             return RecordValue(file.Path());
+         }},
+        {{"kind", "Kind", RecordKind::Text}, KindOf},
+        {{"size", "Size", RecordKind::Size, true},
+         [](const ListedFile& file) {
+             return SizeOf(file.Size());
+         }},
+        {{"modified", "Modified", RecordKind::Date, true},
+         [](const ListedFile& file) {
+             return DateOf(file.Modified());
+         }},
+        {{"created", "Created", RecordKind::Date},
+         [](const ListedFile& file) {
+             return DateOf(file.Created());
+         }},
+        {{"accessed", "Accessed", RecordKind::Date},
+         [](const ListedFile& file) {
+             return DateOf(file.Accessed());
+         }},
+        {{"taken", "Taken", RecordKind::Date}, TakenOf},
+        {{"attributes", "Attributes", RecordKind::Text}, AttributesOf},
+        {{"downloaded", "Downloaded", RecordKind::Flag},
+         [](const ListedFile& file) {
+             return RecordValue(file.IsMarked());
+         }},
+        {{"zone", "Zone", RecordKind::Text},
+         [](const ListedFile& file) {
+             return Ui::ValueOf(file.Mark().zone);
+         }},
+        {{"from", "From", RecordKind::Text},
+         [](const ListedFile& file) {
+             return Ui::ValueOf(file.Mark().from);
+         }},
+        {{"referrer", "Referrer", RecordKind::Text},
+         [](const ListedFile& file) {
+             return Ui::ValueOf(file.Mark().referrer);
+         }},
+        {{"maker", "Maker", RecordKind::Text},
+         [](const ListedFile& file) {
+             return Ui::ValueOf(file.Make());
+         }},
+        {{"model", "Model", RecordKind::Text},
+         [](const ListedFile& file) {
+             return Ui::ValueOf(file.Model());
+         }},
+    };
+    return fields;
+}
+
+FileRecords::FileRecords(const Collect::SourceSettings& sources)
+    : m_collected(Collect::CollectEntries(sources)),
+      m_code(m_collected.problems.empty() ? ExitCode::Success : ExitCode::Partly)
+{
+    for (const CString& problem : m_collected.problems)
+        Cli::Complain(Text::SafeText(problem));
+    const Model::EntryList& list = m_collected.list;
+    m_files.reserve(list.entries.size());
+    for (std::size_t index = 0; index < list.entries.size(); ++index) {
+        ListedFile file(list, index);
+        if (list.entries[index].kind != Kind::Missing) {
+            m_files.push_back(std::move(file));
+            continue;
+        }
+        m_code = ExitCode::Partly;
+        Cli::Complain("'" + Text::SafeText(file.ShownPath()) +
+                      "': " + Text::SafeText(Text::ErrorText(VyrPlatform::LookAtFile(file.Path()).error)));
+    }
+}
+
+Ui::RecordTable FileRecords::Table() const
+{
+    return Ui::TableOf(m_files, FileFields());
+}
+
+std::string FileRecords::Total() const
+{
+    std::string total = CountedNoun(m_files.size(), "entry", "entries") + ".";
+    if (std::string leftOut = LeftOutNotice(m_collected); !leftOut.empty()) {
+        leftOut.pop_back();
+        total += " " + leftOut;
+    }
+    return total;
+}
+
+} // namespace VyrHost::Cli

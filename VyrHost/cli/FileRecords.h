@@ -1,0 +1,39 @@
+/// @file
+/// Files as records: their columns, and how they are gathered.
+#pragma once
+
+#include <VyrHost/collect/CollectEntries.h>
+#include <VyrHost/metadata/ListedFile.h>
+#include <VyrHost/ui/RecordTable.h>
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace VyrHost::Cli {
+
+/// All that can be told of a file.
+[[nodiscard]] std::span<const Ui::RecordField<Metadata::ListedFile>> FileFields();
+
+/// The files of a list, without those that are missing, of which it complains.
+class FileRecords
+{
+public:
+    explicit FileRecords(const Collect::SourceSettings& sources);
+    FileRecords(const FileRecords&) = delete;
+    FileRecords& operator=(const FileRecords&) = delete;
+
+    /// Good as long as the records live.
+    [[nodiscard]] Ui::RecordTable Table() const;
+    /// Such as "3 entries. 1 entry was left out."
+    [[nodiscard]] std::string Total() const;
+    /// What the complaints ask for.
+    [[nodiscard]] int Code() const { return m_code; }
+
+private:
+    Collect::CollectedEntries m_collected;
+    std::vector<Metadata::ListedFile> m_files;
+    int m_code;
+};
+
+} // namespace VyrHost::Cli

@@ -1,0 +1,60 @@
+/// @file
+/// The options that say which files a command is about, the same for every command that takes files.
+#pragma once
+
+#include <VyrHost/cli/ChoiceOptions.h>
+#include <VyrHost/collect/CollectEntries.h>
+#include <VyrHost/collect/Sorting.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace CLI {
+class App;
+}
+
+namespace VyrHost::Cli {
+
+/// Adds the options to a command, and reads what was given. Not to be moved once it has added them.
+class SourceOptions
+{
+public:
+    /// @param verb  what the command does to the files, such as "rename".
+    SourceOptions(CLI::App& command, const std::string& verb);
+    SourceOptions(const SourceOptions&) = delete;
+    SourceOptions& operator=(const SourceOptions&) = delete;
+
+    /// Whether any path or the standard input is named.
+    [[nodiscard]] bool NamesAny() const;
+    /// @throws UsageError for options that contradict each other, change nothing or make no sense.
+    [[nodiscard]] Collect::SourceSettings Read() const;
+
+private:
+    CLI::App& m_command;
+    ChoiceOptions m_choice;
+    std::vector<std::string> m_paths;
+    std::optional<std::string> m_pick;
+    bool m_recursive = false;
+    bool m_hidden = false;
+    bool m_lines = false;
+    bool m_terminated = false;
+};
+
+/// The options of the order of a list, --sort and --descending, for commands that list no records.
+class OrderOptions
+{
+public:
+    OrderOptions(CLI::App& command, const char* group);
+    OrderOptions(const OrderOptions&) = delete;
+    OrderOptions& operator=(const OrderOptions&) = delete;
+
+    /// @throws UsageError
+    [[nodiscard]] Collect::SortSettings Read() const;
+
+private:
+    std::optional<std::string> m_sort;
+    bool m_isDescending = false;
+};
+
+} // namespace VyrHost::Cli

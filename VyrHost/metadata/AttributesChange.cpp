@@ -1,0 +1,141 @@
+// Sets and restores attributes, and writes them for the journal: "BITS STATE" before, "MASK VALUE" after, bits in
+// hexadecimal.
+#include <VyrHost/metadata/AttributesChange.h>
+
+#include <VyrHost/metadata/ChangeText.h>
+#include <VyrLibraryFuncs/metadata/AttributesFuncs.h>
+#include <VyrPlatform/files/ExactState.h>
+#include <VyrPlatform/files/FileAttributes.h>
+#include <VyrPlatform/files/FileIdentity.h>
+
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace VyrHost::Metadata {
+
+namespace {
+
+using Batch::ChangeLook;
+using Batch::ChangeState;
+using VyrLibraryFuncs::AttributesFuncs;
+using VyrPlatform::ExactState::Part;
+
+/// Every letter of an attribute, also of those that cannot be set here.
+constexpr std::pair<char16_t, std::uint32_t> letters[] = {
+    {u'R', 0x1},   {u'H', 0x2},   {u'S', 0x4},    {u'D', 0x10},   {u'A', 0x20},   {u'T', 0x100},   {u'P', 0x200},
+    {u'L', 0x400}, {u'C', 0x800}, {u'O', 0x1000}, {u'I', 0x2000}, {u'E', 0x4000}, {u'X', 0x20000}, {u'V', 0x8000},
+};
+
+std::uint32_t SettableBits()
+{
+    std::uint32_t bits = 0;
+    for (const AttributeWord& attribute : attributeWords)
+        bits |= attribute.bit;
+    return bits;
+}
+
+std::optional<std::uint32_t> ReadBits(std::u16string_view text)
+{
+    const auto number = ReadWhole(text, 16);
+    if (!number || *number < 0 || *number >= VyrPlatform::FileAttributes::unknown)
+        return std::nullopt;
+    return static_cast<std::uint32_t>(*number);
+}
+
+CString HexText(std::uint32_t first)
+{
+    CString text;
+    text.Format(u"%x", first);
+    return text;
+}
+
+} // namespace
+
+CString AttributeLetters(std::uint32_t bits)
+{
+    std::vector<std::pair<int, char16_t>> found;
+    for (const auto& [letter, bit] : letters)
+        if (bits & bit)
+            found.emplace_back(AttributesFuncs::GetArrtibutesPriority(CString(letter, 1)), letter);
+    std::sort(found.begin(), found.end());
+    CString text;
+    for (const auto& [priority, letter] : found)
+        text += letter;
+    return text.IsEmpty() ? CString(u"-") : text;
+}
+
+std::shared_ptr<const Batch::Change> AttributesChange::Read(const CString& before, const CString& after)
+{
+    std::u16string_view restBefore = before;
+    std::u16string_view restAfter = after;
+    const auto bits = ReadBits(TakeUpTo(restBefore, u' '));
+    const auto mask = ReadBits(TakeUpTo(restAfter, u' '));
+    const auto value = ReadBits(restAfter);
+    if (!bits || !mask || !value || restBefore.empty() || *mask == 0 || (*mask & ~SettableBits()) || (*value & ~*mask))
+        return nullptr;
+    return std::make_shared<AttributesChange>(Bits{*bits, restBefore, *mask, *value});
+}
+
+CString AttributesChange::Before() const
+{
+    return CString::Join({HexText(m_bits.before), u" ", m_bits.beforeState});
+}
+
+CString AttributesChange::After() const
+{
+    return CString::Join({HexText(m_bits.mask), u" ", HexText(m_bits.value)});
+}
+
+CString AttributesChange::ShownBefore() const
+{
+    return AttributeLetters(m_bits.before);
+}
+
+CString AttributesChange::ShownAfter() const
+{
+    return AttributeLetters((m_bits.before & ~m_bits.mask) | m_bits.value);
+}
+
+ChangeLook AttributesChange::Look(const CString& path) const
+{
+    const std::uint32_t now = VyrPlatform::FileAttributes::Get(path);
+    if (now == VyrPlatform::FileAttributes::unknown) {
+        constexpr std::uint32_t missingFile = 2;
+        const std::uint32_t error = VyrPlatform::LookAtFile(path).error;
+        return {ChangeState::Unknown, error != 0 ? error : missingFile};
+    }
+    if ((now & m_bits.mask) == m_bits.value)
+        return {ChangeState::After, 0};
+    return {((now ^ m_bits.before) & m_bits.mask) == 0 ? ChangeState::Before : ChangeState::Partly, 0};
+}
+
+std::uint32_t AttributesChange::Apply(const CString& path) const
+{
+    const auto choice = [this](std::uint32_t bit) {
+        constexpr int keep = 0;
+        constexpr int set = 1;
+        constexpr int clear = 2;
+        return !(m_bits.mask & bit) ? keep : m_bits.value & bit ? set : clear;
+    };
+    AttributesFuncs::ATTRIBUTESITEM item;
+    item.readOnly = choice(0x1);
+    item.hidden = choice(0x2);
+    item.system = choice(0x4);
+    item.archive = choice(0x20);
+    item.temporary = choice(0x100);
+    item.notContentIndexed = choice(0x2000);
+    if (AttributesFuncs::SetModifiedFileAttributes(path, item))
+        return 0;
+    // The library tells that it failed; the service beneath it also why.
+    const std::uint32_t now = VyrPlatform::FileAttributes::Get(path);
+    return VyrPlatform::FileAttributes::Set(path, (now & ~m_bits.mask) | m_bits.value);
+}
+
+std::uint32_t AttributesChange::TakeBack(const CString& path) const
+{
+    return VyrPlatform::ExactState::Restore(path, Part::Attributes, m_bits.beforeState);
+}
+
+} // namespace VyrHost::Metadata

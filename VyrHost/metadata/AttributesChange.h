@@ -1,0 +1,66 @@
+/// @file
+/// The change of a file's attributes: the kind "attributes".
+#pragma once
+
+#include <VyrHost/batch/Change.h>
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace VyrHost::Metadata {
+
+/// An attribute that can be set and cleared.
+struct AttributeWord
+{
+    std::u16string_view word;
+    char16_t letter;
+    /// As VyrPlatform::FileAttributes has it.
+    std::uint32_t bit;
+};
+
+/// In the order in which they are shown.
+inline constexpr AttributeWord attributeWords[] = {
+    {u"read-only", u'R', 0x1}, {u"hidden", u'H', 0x2},      {u"system", u'S', 0x4},
+    {u"archive", u'A', 0x20},  {u"temporary", u'T', 0x100}, {u"not-indexed", u'I', 0x2000},
+};
+
+/// The letters of the attributes that `bits` has, in the order of GetArrtibutesPriority; "-" for none.
+[[nodiscard]] CString AttributeLetters(std::uint32_t bits);
+
+/// Sets and clears attributes by AttributesFuncs::SetModifiedFileAttributes, and takes that back exactly: the
+/// permissions to write and the extended attributes, too.
+class AttributesChange final : public Batch::Change
+{
+public:
+    struct Bits
+    {
+        /// All attributes of the file before, and exactly, as ExactState keeps them.
+        std::uint32_t before = 0;
+        CString beforeState;
+        /// Which attributes are changed, and those of them that are set.
+        std::uint32_t mask = 0;
+        std::uint32_t value = 0;
+    };
+
+    explicit AttributesChange(Bits bits) : m_bits(std::move(bits)) {}
+
+    static constexpr std::string_view kind = "attributes";
+    /// What the journal keeps; null for texts that are none of this kind.
+    [[nodiscard]] static std::shared_ptr<const Batch::Change> Read(const CString& before, const CString& after);
+
+    [[nodiscard]] std::string_view Kind() const override { return kind; }
+    [[nodiscard]] CString Before() const override;
+    [[nodiscard]] CString After() const override;
+    [[nodiscard]] CString ShownBefore() const override;
+    [[nodiscard]] CString ShownAfter() const override;
+    /// An attribute has two states, so what another program has changed looks like a part of the change not done.
+    [[nodiscard]] Batch::ChangeLook Look(const CString& path) const override;
+    [[nodiscard]] std::uint32_t Apply(const CString& path) const override;
+    [[nodiscard]] std::uint32_t TakeBack(const CString& path) const override;
+
+private:
+    Bits m_bits;
+};
+
+} // namespace VyrHost::Metadata

@@ -1,0 +1,73 @@
+/// @file
+/// What can be told of a file of a list.
+#pragma once
+
+#include <VyrHost/metadata/MarkChange.h>
+#include <VyrHost/model/EntryList.h>
+#include <VyrPlatform/files/FileSystem.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+namespace VyrHost::Metadata {
+
+/// An entry of a list. Each thing is read from the disk when it is first asked for, and kept.
+class ListedFile
+{
+public:
+    /// @param list  must outlive it.
+    ListedFile(const Model::EntryList& list, std::size_t index) : m_list(&list), m_index(index) {}
+
+    /// As the user named it, and absolute.
+    [[nodiscard]] CString ShownPath() const;
+    [[nodiscard]] CString Path() const;
+    [[nodiscard]] VyrPlatform::FileSystem::Kind Kind() const;
+
+    /// Nothing for what is no file.
+    [[nodiscard]] std::optional<std::int64_t> Size() const;
+    /// Nothing where it cannot be asked.
+    [[nodiscard]] std::optional<VyrPlatform::FileTicks> Modified() const;
+    [[nodiscard]] std::optional<VyrPlatform::FileTicks> Accessed() const;
+    [[nodiscard]] std::optional<VyrPlatform::FileTicks> Created() const;
+    /// FileAttributes::unknown where they cannot be asked.
+    [[nodiscard]] std::uint32_t Attributes() const;
+    /// Whether the file has the mark of a download, and what that tells.
+    [[nodiscard]] bool IsMarked() const;
+    [[nodiscard]] const ZoneMark& Mark() const;
+
+    /// The moment at which a picture was taken; invalid where it tells none.
+    [[nodiscard]] COleDateTime Taken() const;
+    /// Empty where a picture tells none.
+    [[nodiscard]] CString Make() const;
+    [[nodiscard]] CString Model() const;
+
+private:
+    struct KnownMark
+    {
+        bool isMarked = false;
+        ZoneMark mark;
+    };
+    struct Picture
+    {
+        COleDateTime taken;
+        CString make;
+        CString model;
+    };
+
+    [[nodiscard]] const Model::Entry& Entry() const { return m_list->entries[m_index]; }
+    [[nodiscard]] const VyrPlatform::FileSystem::Entry& State() const;
+    [[nodiscard]] const KnownMark& ReadMark() const;
+    [[nodiscard]] const Picture& ReadPicture() const;
+
+    const Model::EntryList* m_list;
+    std::size_t m_index;
+    mutable std::optional<VyrPlatform::FileSystem::Entry> m_state;
+    mutable std::optional<std::optional<VyrPlatform::FileTicks>> m_created;
+    mutable std::optional<std::uint32_t> m_attributes;
+    mutable std::unique_ptr<KnownMark> m_mark;
+    mutable std::unique_ptr<Picture> m_picture;
+};
+
+} // namespace VyrHost::Metadata

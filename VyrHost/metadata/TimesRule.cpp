@@ -1,0 +1,295 @@
+// Finds the new times of a file: where they come from, and by how much they move.
+#include <VyrHost/metadata/TimesRule.h>
+
+#include <VyrHost/metadata/NameDate.h>
+#include <VyrHost/metadata/TimesChange.h>
+#include <VyrHost/text/ErrorText.h>
+#include <VyrHost/text/UsageError.h>
+#include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
+#include <VyrLibraryUtils/DateTimeUtils.h>
+#include <VyrLibraryUtils/ImageUtils.h>
+#include <VyrPlatform/WinTypes.h>
+#include <VyrPlatform/files/ExactState.h>
+#include <VyrPlatform/files/FileIdentity.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <initializer_list>
+#include <iterator>
+#include <utility>
+#include <vector>
+
+namespace VyrHost::Metadata {
+
+namespace {
+
+namespace FileTimes = VyrPlatform::FileTimes;
+using VyrLibraryFuncs::DateTimeFuncs;
+using VyrLibraryUtils::DateTimeUtils;
+using VyrPlatform::FileTicks;
+using VyrPlatform::ExactState::Part;
+
+constexpr FileTicks ticksPerSecond = 10'000'000;
+constexpr const char16_t* outOfCalendar = u"the new time lies out of the calendar's range";
+
+/// Why a file gets no new time.
+struct Refusal
+{
+    CString reason;
+};
+
+/// A moment as clocks show it.
+struct LocalTime
+{
+    COleDateTime value;
+    /// Below a second.
+    FileTicks fraction = 0;
+    /// The instant, where it came from a time of a file and was not moved.
+    FileTicks exact = 0;
+};
+
+bool IsValid(const COleDateTime& dateTime)
+{
+    return dateTime.GetStatus() == COleDateTime::valid;
+}
+
+CString ErrorOf(const CString& path)
+{
+    constexpr std::uint32_t missingFile = 2;
+    const std::uint32_t error = VyrPlatform::LookAtFile(path).error;
+    return Text::ErrorText(error != 0 ? error : missingFile);
+}
+
+FileTicks RequireTicks(const CString& path, FileDate date)
+{
+    const auto ticks = TicksOf(path, date);
+    if (!ticks)
+        throw Refusal{ErrorOf(path)};
+    return *ticks;
+}
+
+LocalTime FromTicks(FileTicks ticks)
+{
+    const COleDateTime value = FileTimes::ToLocal(ticks);
+    if (!IsValid(value))
+        throw Refusal{u"its time lies out of the calendar's range"};
+    return {value, ((ticks % ticksPerSecond) + ticksPerSecond) % ticksPerSecond, ticks};
+}
+
+/// What was typed; what is missing of it comes from `own`.
+COleDateTime Completed(const Text::TypedDateTime& typed, const COleDateTime& own)
+{
+    return DateTimeUtils::CombineDateTime(typed.hasDate ? typed.value : own, typed.hasTime ? typed.value : own);
+}
+
+Text::TypedDateTime DateOfPicture(const CString& path)
+{
+    const COleDateTime taken =
+        DateTimeUtils::GetExifDateTime(VyrLibraryUtils::ImageUtils::GetPropertyTagExifDTOrig(path));
+    if (!IsValid(taken))
+        throw Refusal{u"it tells no date at which a picture was taken"};
+    return {taken, true, true};
+}
+
+Text::TypedDateTime DateOfName(std::u16string_view name)
+{
+    NameDateProblem problem = NameDateProblem::None;
+    const auto found = FindNameDate(name, problem);
+    if (!found)
+        throw Refusal{problem == NameDateProblem::NoSuchDay ? u"the date in its name does not exist"
+                                                            : u"its name holds no date"};
+    return *found;
+}
+
+LocalTime FromSource(const TimeSource& source, const CString& path, const Model::Entry& entry, FileDate date)
+{
+    switch (source.kind) {
+    case TimeSource::Kind::Modified:
+        return FromTicks(RequireTicks(path, FileDate::Modified));
+    case TimeSource::Kind::Created:
+        return FromTicks(RequireTicks(path, FileDate::Created));
+    case TimeSource::Kind::Accessed:
+        return FromTicks(RequireTicks(path, FileDate::Accessed));
+    case TimeSource::Kind::Typed:
+    case TimeSource::Kind::Picture:
+    case TimeSource::Kind::Name:
+        break;
+    }
+    const Text::TypedDateTime typed = source.kind == TimeSource::Kind::Typed     ? source.typed
+                                      : source.kind == TimeSource::Kind::Picture ? DateOfPicture(path)
+                                                                                 : DateOfName(entry.name);
+    if (typed.hasDate && typed.hasTime)
+        return {typed.value, 0, 0};
+    return {Completed(typed, FromTicks(RequireTicks(path, date)).value), 0, 0};
+}
+
+constexpr int Amounts::*allAmounts[] = {&Amounts::years, &Amounts::months,  &Amounts::days,
+                                        &Amounts::hours, &Amounts::minutes, &Amounts::seconds};
+
+/// `amounts` `count` times.
+Amounts Times(const Amounts& amounts, std::size_t count)
+{
+    Amounts product;
+    for (int Amounts::*const amount : allAmounts) {
+        const std::int64_t value = static_cast<std::int64_t>(count) * (amounts.*amount);
+        if (value != static_cast<int>(value))
+            throw Refusal{outOfCalendar};
+        product.*amount = static_cast<int>(value);
+    }
+    return product;
+}
+
+/// `local` moved by `amounts`, which are not all 0, by the library. It leaves a date as it is that would leave the
+/// calendar.
+COleDateTime Moved(const COleDateTime& local, const Amounts& amounts)
+{
+    constexpr int sameForAll = 1;
+    DateTimeFuncs::STAGGERITEM item;
+    item.numberingMode = sameForAll;
+    item.years = amounts.years;
+    item.months = amounts.months;
+    item.days = amounts.days;
+    item.hours = amounts.hours;
+    item.minutes = amounts.minutes;
+    item.seconds = amounts.seconds;
+    const FILETIME time = DateTimeFuncs::GetStaggerFileDateTime(0, 1, local, item);
+    const auto ticks =
+        static_cast<FileTicks>(std::uint64_t{time.dwHighDateTime} << 32 | std::uint64_t{time.dwLowDateTime});
+    // The library turns local time into an instant by the system's conversion; this is the way back.
+    const COleDateTime moved = FileTimes::ToLocalForWriting(ticks);
+    if (ticks == 0 || !IsValid(moved) || moved == local)
+        throw Refusal{outOfCalendar};
+    return moved;
+}
+
+/// Moves `local` on the clock, and then by the calendar.
+void Move(LocalTime& local, const Amounts& amounts)
+{
+    const Amounts onTheClock{0, 0, 0, amounts.hours, amounts.minutes, amounts.seconds};
+    const Amounts byTheCalendar{amounts.years, amounts.months, amounts.days, 0, 0, 0};
+    for (const Amounts& part : {onTheClock, byTheCalendar})
+        if (part != Amounts()) {
+            local.value = Moved(local.value, part);
+            local.exact = 0;
+        }
+}
+
+/// The instant at which clocks show `local`.
+FileTicks ToInstant(const LocalTime& local)
+{
+    if (local.exact > 0)
+        return local.exact;
+    const auto ticks = FileTimes::FromLocal(local.value);
+    if (!ticks || *ticks <= 0)
+        throw Refusal{u"a file's time begins in 1601"};
+    if (FileTimes::ToLocal(*ticks) != local.value)
+        throw Refusal{CString::Join({u"clocks leave ", Shown(local.value), u" out"})};
+    return *ticks + local.fraction;
+}
+
+Part PartOf(FileDate date)
+{
+    return date == FileDate::Modified ? Part::Modified : date == FileDate::Created ? Part::Created : Part::Accessed;
+}
+
+} // namespace
+
+TimesRule::TimesRule(const TimesSettings& settings) : m_settings(settings)
+{
+    for (const auto& source : m_settings.sources)
+        if (source)
+            return;
+    m_settings.sources[static_cast<std::size_t>(FileDate::Modified)] = TimeSource{TimeSource::Kind::Modified};
+}
+
+Proposal TimesRule::Propose(const CString& path, const Model::Entry& entry, std::size_t index) const
+{
+    std::vector<TimeStep> steps;
+    try {
+        for (const FileDate date : fileDates) {
+            const auto& source = m_settings.sources[static_cast<std::size_t>(date)];
+            if (!source)
+                continue;
+            LocalTime local =
+                m_settings.start ? LocalTime{*m_settings.start, 0, 0} : FromSource(*source, path, entry, date);
+            if (m_settings.stagger)
+                Move(local, Times(*m_settings.stagger, index));
+            if (m_settings.shift)
+                Move(local, *m_settings.shift);
+            steps.push_back({date, 0, {}, ToInstant(local)});
+        }
+        // What was there before is read last: to read a picture may change when it was accessed.
+        for (TimeStep& step : steps) {
+            step.before = RequireTicks(path, step.date);
+            std::uint32_t error = 0;
+            const auto state = VyrPlatform::ExactState::Read(path, PartOf(step.date), error);
+            if (!state)
+                throw Refusal{Text::ErrorText(error)};
+            step.beforeState = *state;
+        }
+    } catch (const Refusal& refusal) {
+        return {nullptr, refusal.reason};
+    }
+    std::erase_if(steps, [](const TimeStep& step) { return step.before == step.after; });
+    if (steps.empty())
+        return {};
+    return {std::make_shared<TimesChange>(std::move(steps)), {}};
+}
+
+TimeSource ParseTimeSource(std::u16string_view text, const char* option)
+{
+    constexpr std::pair<std::u16string_view, TimeSource::Kind> words[] = {
+        {u"from:modified", TimeSource::Kind::Modified}, {u"from:created", TimeSource::Kind::Created},
+        {u"from:accessed", TimeSource::Kind::Accessed}, {u"from:picture", TimeSource::Kind::Picture},
+        {u"from:name", TimeSource::Kind::Name},
+    };
+    for (const auto& [word, kind] : words)
+        if (text == word)
+            return {kind};
+    const auto typed = Text::ReadTypedDateTime(text);
+    if (!typed)
+        Text::RefuseValue(option, text,
+                          "a date-time (\"2024-01-05 10:30\"), a date, a time of day, from:modified, from:created, "
+                          "from:accessed, from:picture or from:name is expected");
+    return {TimeSource::Kind::Typed, *typed};
+}
+
+Amounts ParseAmounts(std::u16string_view text, const char* option)
+{
+    constexpr std::pair<std::u16string_view, int Amounts::*> units[] = {
+        {u"mo", &Amounts::months}, {u"y", &Amounts::years},   {u"d", &Amounts::days},
+        {u"h", &Amounts::hours},   {u"m", &Amounts::minutes}, {u"s", &Amounts::seconds},
+    };
+    constexpr const char* expected = "numbers with units are expected, such as 1h30m, -1y, 6mo or 2d (y, mo, d, h, m, "
+                                     "s), each unit once and not all 0";
+    constexpr int most = 1'000'000;
+    std::u16string_view rest = text;
+    const bool isNegative = rest.starts_with(u'-');
+    if (isNegative || rest.starts_with(u'+'))
+        rest.remove_prefix(1);
+    Amounts amounts;
+    std::vector<int Amounts::*> given;
+    while (!rest.empty()) {
+        int number = 0;
+        std::size_t count = 0;
+        for (; count < rest.size() && rest[count] >= u'0' && rest[count] <= u'9' && number <= most; ++count)
+            number = number * 10 + (rest[count] - u'0');
+        if (count == 0 || number > most)
+            Text::RefuseValue(option, text, expected);
+        rest.remove_prefix(count);
+        const auto* const unit = std::find_if(std::begin(units), std::end(units),
+                                              [rest](const auto& known) { return rest.starts_with(known.first); });
+        if (unit == std::end(units) || std::find(given.begin(), given.end(), unit->second) != given.end())
+            Text::RefuseValue(option, text, expected);
+        given.push_back(unit->second);
+        amounts.*unit->second = isNegative ? -number : number;
+        rest.remove_prefix(unit->first.size());
+        if (rest.size() > 1 && rest.front() == u' ')
+            rest.remove_prefix(1);
+    }
+    if (amounts == Amounts())
+        Text::RefuseValue(option, text, expected);
+    return amounts;
+}
+
+} // namespace VyrHost::Metadata

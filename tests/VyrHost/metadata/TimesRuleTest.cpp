@@ -1,0 +1,266 @@
+// New times of files: from what is typed, from the file, and moved.
+#include <VyrHost/metadata/TimesRule.h>
+
+#include <VyrHost/metadata/TimesChange.h>
+#include <VyrHost/text/UsageError.h>
+#include <VyrPlatform/text/Encoding.h>
+
+#include <tests/support/Describe.h>
+#include <tests/support/FileMoments.h>
+#include <tests/support/PictureBuilder.h>
+#include <tests/support/ScratchFolder.h>
+#include <tests/support/TimeZone.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using namespace VyrHost::Metadata;
+using namespace VyrTests;
+using VyrHost::Text::UsageError;
+using VyrPlatform::FileTicks;
+
+namespace FileTimes = VyrPlatform::FileTimes;
+
+namespace {
+
+Amounts Step(const char16_t* text)
+{
+    return ParseAmounts(text, "--shift");
+}
+
+class Times : public testing::Test
+{
+protected:
+    Times() { Stamp(COleDateTime(2020, 5, 6, 7, 8, 9), 1'234'567); }
+
+    void Stamp(const COleDateTime& modified, FileTicks fraction = 0) const
+    {
+        StampFile(m_path, FileTimes::FromLocal(modified).value_or(0) + fraction,
+                  FileTimes::FromLocal(COleDateTime(2021, 1, 2, 3, 4, 5)).value_or(0));
+    }
+
+    void Set(FileDate date, const char16_t* source)
+    {
+        m_settings.sources[static_cast<std::size_t>(date)] = ParseTimeSource(source, "--set-modified");
+    }
+
+    /// What becomes of the file, as "old => new", or why nothing does; then the change is applied, and taken back.
+    std::string Propose(std::size_t index = 0) const
+    {
+        VyrHost::Model::Entry entry;
+        entry.kind = VyrPlatform::FileSystem::Kind::File;
+        entry.name = m_names.Intern(m_name);
+        const Proposal proposal = TimesRule(m_settings).Propose(m_path, entry, index);
+        if (!proposal.change)
+            return VyrPlatform::Encoding::ToUtf8(proposal.refusal);
+        ExpectRoundTrip(*proposal.change);
+        return VyrPlatform::Encoding::ToUtf8(
+            CString::Join({proposal.change->ShownBefore(), u" => ", proposal.change->ShownAfter()}));
+    }
+
+    void ExpectRoundTrip(const VyrHost::Batch::Change& change) const
+    {
+        using VyrHost::Batch::ChangeState;
+        const auto again = TimesChange::Read(change.Before(), change.After());
+        ASSERT_TRUE(again);
+        EXPECT_EQ(again->Before(), change.Before());
+        EXPECT_EQ(again->After(), change.After());
+        const auto before = FileTimes::GetModified(m_path);
+        EXPECT_EQ(again->Look(m_path).state, ChangeState::Before);
+        EXPECT_EQ(again->Apply(m_path), 0U);
+        EXPECT_EQ(again->Look(m_path).state, ChangeState::After);
+        EXPECT_EQ(again->TakeBack(m_path), 0U);
+        EXPECT_EQ(again->Look(m_path).state, ChangeState::Before);
+        EXPECT_EQ(FileTimes::GetModified(m_path), before);
+    }
+
+    ScratchFolder m_folder;
+    CString m_name = u"a.txt";
+    CString m_path = m_folder.WriteFile(u"a.txt", "x");
+    TimesSettings m_settings;
+    mutable VyrHost::Model::NamePool m_names;
+};
+
+} // namespace
+
+TEST_F(Times, WhatIsTypedIsSet)
+{
+    Set(FileDate::Modified, u"2024-01-05 10:30");
+    EXPECT_EQ(Propose(), "modified 2020-05-06 07:08:09 => modified 2024-01-05 10:30:00");
+}
+
+TEST_F(Times, OtherPartOfADateOrATimeStaysTheFiles)
+{
+    Set(FileDate::Modified, u"2024-01-05");
+    EXPECT_EQ(Propose(), "modified 2020-05-06 07:08:09 => modified 2024-01-05 07:08:09");
+    Set(FileDate::Modified, u"10:30");
+    EXPECT_EQ(Propose(), "modified 2020-05-06 07:08:09 => modified 2020-05-06 10:30:00");
+    m_settings = {};
+    Set(FileDate::Accessed, u"10:30");
+    EXPECT_EQ(Propose(), "accessed 2021-01-02 03:04:05 => accessed 2021-01-02 10:30:00");
+}
+
+TEST_F(Times, AnotherTimeOfTheFileIsTakenWithItsFraction)
+{
+    Set(FileDate::Accessed, u"from:modified");
+    EXPECT_EQ(Propose(), "accessed 2021-01-02 03:04:05 => accessed 2020-05-06 07:08:09");
+    const auto steps =
+        dynamic_cast<const TimesChange&>(*TimesRule(m_settings).Propose(m_path, VyrHost::Model::Entry(), 0).change)
+            .Steps();
+    ASSERT_EQ(steps.size(), 1U);
+    EXPECT_EQ(steps.front().after, FileTimes::GetModified(m_path));
+}
+
+TEST_F(Times, WhatIsSoAlreadyStays)
+{
+    Set(FileDate::Modified, u"from:modified");
+    EXPECT_EQ(Propose(), "");
+}
+
+TEST_F(Times, DateInTheNameIsTaken)
+{
+    Set(FileDate::Modified, u"from:name");
+    EXPECT_EQ(Propose(), "its name holds no date");
+    m_name = u"IMG_20240105_103000.jpg";
+    EXPECT_EQ(Propose(), "modified 2020-05-06 07:08:09 => modified 2024-01-05 10:30:00");
+    m_name = u"IMG-20240105-WA0001.jpg";
+    EXPECT_EQ(Propose(), "modified 2020-05-06 07:08:09 => modified 2024-01-05 07:08:09");
+    m_name = u"2024-02-30.jpg";
+    EXPECT_EQ(Propose(), "the date in its name does not exist");
+}
+
+TEST_F(Times, MomentOfThePictureIsTaken)
+{
+    Set(FileDate::Modified, u"from:picture");
+    EXPECT_EQ(Propose(), "it tells no date at which a picture was taken");
+    PictureFacts facts;
+    facts.dateTimeOriginal = "2019:03:04 05:06:07";
+    m_path = m_folder.WriteFile(u"b.jpg", BuildJpeg(facts));
+    Stamp(COleDateTime(2020, 5, 6, 7, 8, 9));
+    EXPECT_EQ(Propose(), "modified 2020-05-06 07:08:09 => modified 2019-03-04 05:06:07");
+}
+
+TEST_F(Times, ShiftMovesTheLastChangeWhereNoTimeIsNamed)
+{
+    m_settings.shift = Step(u"1h30m");
+    EXPECT_EQ(Propose(), "modified 2020-05-06 07:08:09 => modified 2020-05-06 08:38:09");
+    m_settings.shift = Step(u"-1y2mo3d4h5m6s");
+    EXPECT_EQ(Propose(), "modified 2020-05-06 07:08:09 => modified 2019-03-03 03:03:03");
+    Set(FileDate::Accessed, u"from:accessed");
+    m_settings.shift = Step(u"+1d");
+    EXPECT_EQ(Propose(), "accessed 2021-01-02 03:04:05 => accessed 2021-01-03 03:04:05");
+}
+
+TEST_F(Times, StepsCountByThePlaceInTheList)
+{
+    Set(FileDate::Modified, u"2024-01-31 23:59:00");
+    m_settings.stagger = Step(u"1m");
+    EXPECT_EQ(Propose(0), "modified 2020-05-06 07:08:09 => modified 2024-01-31 23:59:00");
+    EXPECT_EQ(Propose(3), "modified 2020-05-06 07:08:09 => modified 2024-02-01 00:02:00");
+    m_settings.start = COleDateTime(2000, 1, 1, 0, 0, 0);
+    m_settings.shift = Step(u"1d");
+    EXPECT_EQ(Propose(2), "modified 2020-05-06 07:08:09 => modified 2000-01-02 00:02:00");
+}
+
+TEST_F(Times, TimesOutOfTheCalendarAreRefused)
+{
+    const std::string refusal = "the new time lies out of the calendar's range";
+    for (const char16_t* const shift : {u"9000y", u"9000y1h", u"-500y"}) {
+        m_settings.shift = Step(shift);
+        EXPECT_EQ(Propose(), refusal) << VyrPlatform::Encoding::ToUtf8(shift);
+    }
+    m_settings = {};
+    m_settings.stagger = Step(u"1000000s");
+    EXPECT_EQ(Propose(1'000'000), refusal) << "no number wraps";
+}
+
+TEST_F(Times, TypedTimesStandAsTypedInSummerAndInWinter)
+{
+    for (const char* const name : {"Europe/Berlin", "America/New_York", "Australia/Lord_Howe"}) {
+        const TimeZone zone(name);
+        if (!zone.IsSet())
+            GTEST_SKIP() << zone.WhyNot();
+        for (const char16_t* const typed : {u"2024-01-15 12:00:01", u"2024-07-15 12:00:01", u"1990-07-15 23:59:59"}) {
+            m_settings = {};
+            Set(FileDate::Modified, typed);
+            VyrHost::Model::Entry entry;
+            const Proposal proposal = TimesRule(m_settings).Propose(m_path, entry, 0);
+            ASSERT_TRUE(proposal.change);
+            EXPECT_EQ(proposal.change->Apply(m_path), 0U);
+            const auto ticks = FileTimes::GetModified(m_path);
+            ASSERT_TRUE(ticks);
+            EXPECT_EQ(Shown(*ticks), typed) << name;
+            EXPECT_EQ(proposal.change->TakeBack(m_path), 0U);
+        }
+    }
+}
+
+TEST_F(Times, HourThatClocksLeaveOutIsRefused)
+{
+    const TimeZone zone("Europe/Berlin");
+    if (!zone.IsSet())
+        GTEST_SKIP() << zone.WhyNot();
+    Set(FileDate::Modified, u"2024-03-31 02:30");
+    EXPECT_EQ(Propose(), "clocks leave 2024-03-31 02:30:00 out");
+}
+
+TEST_F(Times, MissingFileIsRefusedWithTheSystemsReason)
+{
+    m_path = m_folder.Path(u"missing");
+    Set(FileDate::Modified, u"2024-01-05 10:30");
+    EXPECT_NE(Propose(), "");
+}
+
+TEST_F(Times, TimesOfAnotherProgramAreOther)
+{
+    using VyrHost::Batch::ChangeState;
+    Set(FileDate::Modified, u"2024-01-05 10:30");
+    Set(FileDate::Accessed, u"2024-01-05 10:30");
+    VyrHost::Model::Entry entry;
+    const Proposal proposal = TimesRule(m_settings).Propose(m_path, entry, 0);
+    ASSERT_TRUE(proposal.change);
+    const FileTicks before = FileTimes::GetModified(m_path).value_or(0);
+    const FileTicks after = FileTimes::FromLocal(COleDateTime(2024, 1, 5, 10, 30, 0)).value_or(0);
+    const FileTicks accessed = FileTimes::GetAccessed(m_path).value_or(0);
+    EXPECT_EQ(proposal.change->Look(m_path).state, ChangeState::Before);
+    StampFile(m_path, after, accessed);
+    EXPECT_EQ(proposal.change->Look(m_path).state, ChangeState::Partly);
+    EXPECT_EQ(proposal.change->TakeBack(m_path), 0U);
+    EXPECT_EQ(FileTimes::GetModified(m_path), before);
+    StampFile(m_path, after + 100 * FileTicks{10'000'000}, accessed);
+    EXPECT_EQ(proposal.change->Look(m_path).state, ChangeState::Other);
+    // A file system may keep times to two seconds.
+    StampFile(m_path, after + FileTicks{10'000'000}, after);
+    EXPECT_EQ(proposal.change->Look(m_path).state, ChangeState::After);
+}
+
+TEST(TimesTexts, SourcesAreReadOrRefused)
+{
+    EXPECT_EQ(ParseTimeSource(u"from:picture", "--set-created").kind, TimeSource::Kind::Picture);
+    for (const char16_t* const text : {u"", u"from:", u"from:Modified", u"yesterday", u"2024-02-30", u"24:00"})
+        EXPECT_THROW(static_cast<void>(ParseTimeSource(text, "--set-created")), UsageError);
+}
+
+TEST(TimesTexts, AmountsAreReadOrRefused)
+{
+    EXPECT_EQ(ParseAmounts(u"1y2mo3d4h5m6s", "--shift"), (Amounts{1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(ParseAmounts(u"-6mo 1d", "--shift"), (Amounts{0, -6, -1, 0, 0, 0}));
+    EXPECT_EQ(ParseAmounts(u"+90s", "--shift"), (Amounts{0, 0, 0, 0, 0, 90}));
+    for (const char16_t* const text :
+         {u"", u"-", u"1", u"h", u"1x", u"1h1h", u"0s", u"1h ", u"--1h", u"1.5h", u"9999999999s", u"1h-1m"})
+        EXPECT_THROW(static_cast<void>(ParseAmounts(text, "--shift")), UsageError)
+            << VyrPlatform::Encoding::ToUtf8(text);
+}
+
+TEST(TimesTexts, JournalTextsThatAreNoneAreRefused)
+{
+    const CString before = u"modified 132331234567890000 1588741689.123";
+    const CString after = u"modified 132331234567890001";
+    EXPECT_TRUE(TimesChange::Read(before, after));
+    for (const char16_t* const text :
+         {u"", u"modified", u"modified 1", u"modified x 1", u"taken 1 1", u";", u"modified 1 1;modified 1 1"})
+        EXPECT_FALSE(TimesChange::Read(text, after)) << VyrPlatform::Encoding::ToUtf8(text);
+    for (const char16_t* const text : {u"", u"modified", u"created 5", u"modified 0", u"modified -1", u"modified 1 1"})
+        EXPECT_FALSE(TimesChange::Read(before, text)) << VyrPlatform::Encoding::ToUtf8(text);
+}
