@@ -273,11 +273,6 @@ BatchSettings SettingsFromEnvironment()
     return settings;
 }
 
-Batches::Batches(const LockWait& wait) : Batches(SystemFiles(), SettingsFromEnvironment())
-{
-    m_settings.wait = wait;
-}
-
 Batches::Batches(FileOperations& files, BatchSettings settings) : m_files(&files), m_settings(std::move(settings)) {}
 
 JournalFolder Batches::OpenJournals() const

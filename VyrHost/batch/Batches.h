@@ -210,9 +210,7 @@ struct AbandonedJournal
 class Batches
 {
 public:
-    /// @param wait  called while another program works on a batch.
-    explicit Batches(const LockWait& wait = {});
-    /// For tests: acts through `files`.
+    /// @param files  what it acts through: SystemFiles, but for tests.
     Batches(FileOperations& files, BatchSettings settings);
 
     /// Does the batch that `make` gives: journal on disk first, nothing ever overwritten, afterwards a look at the

@@ -31,6 +31,25 @@ constexpr Example OfList[] = {
     {"vyr list -r . --taken last-year --csv --columns path,taken,maker,model", "for a spreadsheet"},
 };
 
+constexpr Example OfTimes[] = {
+    {"vyr times *.jpg", "what they are"},
+    {"vyr times --set-modified from:picture *.jpg", "when the pictures were taken"},
+    {"vyr times --set-modified from:name -r . --include \"IMG*\"", "IMG_20240105_103000.jpg: 5 January 2024 10:30"},
+    {"vyr times --shift -1h *.jpg --apply", "a camera whose clock was an hour ahead, now"},
+    {"vyr times --sort name --stagger 1m --start \"2024-01-05 10:00\" *.jpg", "a minute from one to the next"},
+};
+
+constexpr Example OfAttributes[] = {
+    {"vyr attributes *.pdf", "what they are"},
+    {"vyr attributes --set read-only *.pdf", "protect files"},
+    {"vyr attributes --clear RH -r . --apply", "read-only and hidden, by their letters, now"},
+};
+
+constexpr Example OfUnblock[] = {
+    {"vyr unblock -r .", "which files have the mark, and where they came from"},
+    {"vyr unblock *.pdf --apply", "take it off, now"},
+};
+
 constexpr Example OfCopy[] = {
     {"vyr copy Pictures Backup", "into Backup where that is a folder, else as Backup"},
     {"vyr copy Pictures Scans Backup --apply", "both into the folder Backup, now"},
@@ -84,6 +103,21 @@ std::string RenameExamples()
 std::string ListExamples()
 {
     return TextOf(OfList);
+}
+
+std::string TimesExamples()
+{
+    return TextOf(OfTimes);
+}
+
+std::string AttributesExamples()
+{
+    return TextOf(OfAttributes);
+}
+
+std::string UnblockExamples()
+{
+    return TextOf(OfUnblock);
 }
 
 std::string CopyExamples()

@@ -8,8 +8,12 @@ namespace VyrHost::Cli {
 
 /// For the help of "vyr rename": a line for each example and one that says what it does.
 [[nodiscard]] std::string RenameExamples();
-/// Likewise for "vyr copy" and "vyr move".
+/// Likewise for "vyr list" and the commands that change files in place.
 [[nodiscard]] std::string ListExamples();
+[[nodiscard]] std::string TimesExamples();
+[[nodiscard]] std::string AttributesExamples();
+[[nodiscard]] std::string UnblockExamples();
+/// Likewise for "vyr copy" and "vyr move".
 [[nodiscard]] std::string CopyExamples();
 [[nodiscard]] std::string MoveExamples();
 /// Likewise for "vyr undo" and "vyr recover".

@@ -2,6 +2,7 @@
 #include <VyrHost/cli/Messages.h>
 
 #include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/OpenBatches.h>
 #include <VyrHost/text/ErrorText.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHostPlatform/Console.h>
@@ -36,7 +37,7 @@ std::string CutOffNotice(const Batch::BatchInformation& batch)
 
 void OfferRecovery()
 {
-    if (const auto cutOff = Batch::Batches().FindCutOff())
+    if (const auto cutOff = OpenBatches().FindCutOff())
         Complain(CutOffNotice(*cutOff));
 }
 

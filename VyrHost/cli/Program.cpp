@@ -2,6 +2,7 @@
 #include <VyrHost/cli/Program.h>
 
 #include <VyrHost/cli/ArgumentText.h>
+#include <VyrHost/cli/AttributesCommand.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/HelpText.h>
 #include <VyrHost/cli/InventoryCommands.h>
@@ -9,7 +10,9 @@
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/RecoverCommand.h>
 #include <VyrHost/cli/RenameCommand.h>
+#include <VyrHost/cli/TimesCommand.h>
 #include <VyrHost/cli/TransferCommand.h>
+#include <VyrHost/cli/UnblockCommand.h>
 #include <VyrHost/cli/UndoCommand.h>
 #include <VyrHost/cli/UnknownWords.h>
 #include <VyrHost/text/UsageError.h>
@@ -58,6 +61,9 @@ int RunProgram(const std::vector<CString>& arguments)
     program.get_formatter()->column_width(HelpColumn);
     const RenameCommand rename(program);
     const ListCommand list(program);
+    const TimesCommand times(program);
+    const AttributesCommand attributes(program);
+    const UnblockCommand unblock(program);
     const TransferCommand copy(program, FolderCopy::TransferAction::Copy);
     const TransferCommand move(program, FolderCopy::TransferAction::Move);
     const UndoCommand undo(program);
@@ -70,6 +76,12 @@ int RunProgram(const std::vector<CString>& arguments)
         program.parse(ToParser(cut));
         if (list.IsChosen())
             return list.Run();
+        if (times.IsChosen())
+            return times.Run();
+        if (attributes.IsChosen())
+            return attributes.Run();
+        if (unblock.IsChosen())
+            return unblock.Run();
         if (copy.IsChosen())
             return copy.Run();
         if (move.IsChosen())

@@ -5,6 +5,7 @@
 #include <VyrHost/cli/Examples.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
+#include <VyrHost/cli/OpenBatches.h>
 #include <VyrHost/cli/OptionPairs.h>
 #include <VyrHost/cli/Report.h>
 #include <VyrHost/text/SafeText.h>
@@ -38,7 +39,7 @@ int RecoverCommand::Run() const
     constexpr ExclusivePair Exclusive[] = {{"--abandon", "--take-back"},
                                            {"--abandon", "--json", "--abandon does nothing to the entries"}};
     CheckOptionPairs(m_command, Exclusive);
-    Batch::Batches batches(WaitTenSeconds());
+    Batch::Batches batches = OpenBatches(WaitTenSeconds());
     const auto cutOff = batches.FindCutOff();
     if (!cutOff) {
         Ui::OutputBuffer output;
@@ -60,7 +61,7 @@ int RecoverCommand::Run() const
 
 int RecoverCommand::Abandon() const
 {
-    const Batch::AbandonedJournal journal = Batch::Batches(WaitTenSeconds()).AbandonCutOff();
+    const Batch::AbandonedJournal journal = OpenBatches(WaitTenSeconds()).AbandonCutOff();
     if (!journal.error.IsEmpty()) {
         Complain(Text::SafeText(journal.error));
         return ExitCode::Blocked;

@@ -6,6 +6,7 @@
 #include <VyrHost/cli/EditNames.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
+#include <VyrHost/cli/OpenBatches.h>
 #include <VyrHost/cli/Report.h>
 #include <VyrHost/rename/GivenNames.h>
 #include <VyrHost/rename/Pairs.h>
@@ -149,7 +150,7 @@ private:
         const std::size_t count = m_preview.entries.size();
         if (count == 0)
             return ExitCode::Success;
-        Batch::Batches batches(WaitTenSeconds());
+        Batch::Batches batches = OpenBatches(WaitTenSeconds());
         if (const auto cutOff = batches.FindCutOff()) {
             Complain(CutOffNotice(*cutOff) + "; nothing was done");
             return ExitCode::Blocked;

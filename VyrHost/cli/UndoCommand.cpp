@@ -6,6 +6,7 @@
 #include <VyrHost/cli/Examples.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
+#include <VyrHost/cli/OpenBatches.h>
 #include <VyrHost/cli/OptionPairs.h>
 #include <VyrHost/cli/Report.h>
 #include <VyrHost/rename/RuleTexts.h>
@@ -33,7 +34,7 @@ class Reversal
 {
 public:
     Reversal(Batch::Direction direction, const ReportStyle& style)
-        : m_direction(direction), m_style(style), m_batches(WaitTenSeconds())
+        : m_direction(direction), m_style(style), m_batches(OpenBatches(WaitTenSeconds()))
     {}
 
     /// Names `batch` and works on it.
@@ -130,7 +131,7 @@ int UndoCommand::Run() const
         number = static_cast<std::uint32_t>(Rename::ParseNumber(FromParser(*m_batch), 1, "BATCH"));
     if (m_list)
         return List();
-    if (const auto cutOff = Batch::Batches().FindCutOff()) {
+    if (const auto cutOff = OpenBatches().FindCutOff()) {
         Complain(CutOffNotice(*cutOff) + "; nothing was done");
         return ExitCode::Blocked;
     }
@@ -140,14 +141,14 @@ int UndoCommand::Run() const
 
 int UndoCommand::List() const
 {
-    const std::vector<Batch::BatchInformation> batches = Batch::Batches().List();
+    const std::vector<Batch::BatchInformation> batches = OpenBatches().List();
     return m_records.Write(Ui::TableOfBatches(batches), CountedNoun(batches.size(), "batch", "batches") + ".",
                            ExitCode::Success);
 }
 
 int UndoCommand::ReverseNumber(std::uint32_t number) const
 {
-    for (const Batch::BatchInformation& batch : Batch::Batches().List()) {
+    for (const Batch::BatchInformation& batch : OpenBatches().List()) {
         if (batch.number != number && batch.undo != number)
             continue;
         const bool isUndo = batch.number == number;
@@ -161,7 +162,7 @@ int UndoCommand::ReverseNumber(std::uint32_t number) const
 
 int UndoCommand::UndoLatest() const
 {
-    const Batch::UndoCandidates candidates = Batch::FindUndoCandidates(Batch::Batches().List(), u".");
+    const Batch::UndoCandidates candidates = Batch::FindUndoCandidates(OpenBatches().List(), u".");
     for (const Batch::BatchInformation& batch : candidates.here) {
         Reversal reversal(Batch::Direction::Backward, {m_records.IsJson(), m_records.IsQuiet(), m_preview});
         const Batch::BatchSummary summary = reversal.Run(batch, batch.number);

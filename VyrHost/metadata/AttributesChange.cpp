@@ -17,8 +17,8 @@ namespace VyrHost::Metadata {
 
 namespace {
 
-using Batch::ChangeLook;
-using Batch::ChangeState;
+using Model::ChangeLook;
+using Model::ChangeState;
 using VyrLibraryFuncs::AttributesFuncs;
 using VyrPlatform::ExactState::Part;
 
@@ -66,7 +66,7 @@ CString AttributeLetters(std::uint32_t bits)
     return text.IsEmpty() ? CString(u"-") : text;
 }
 
-std::shared_ptr<const Batch::Change> AttributesChange::Read(const CString& before, const CString& after)
+std::shared_ptr<const Model::Change> AttributesChange::Read(const CString& before, const CString& after)
 {
     std::u16string_view restBefore = before;
     std::u16string_view restAfter = after;

@@ -2,7 +2,7 @@
 /// The change of a file's attributes: the kind "attributes".
 #pragma once
 
-#include <VyrHost/batch/Change.h>
+#include <VyrHost/model/Change.h>
 
 #include <cstdint>
 #include <optional>
@@ -30,7 +30,7 @@ inline constexpr AttributeWord attributeWords[] = {
 
 /// Sets and clears attributes by AttributesFuncs::SetModifiedFileAttributes, and takes that back exactly: the
 /// permissions to write and the extended attributes, too.
-class AttributesChange final : public Batch::Change
+class AttributesChange final : public Model::Change
 {
 public:
     struct Bits
@@ -47,7 +47,7 @@ public:
 
     static constexpr std::string_view kind = "attributes";
     /// What the journal keeps; null for texts that are none of this kind.
-    [[nodiscard]] static std::shared_ptr<const Batch::Change> Read(const CString& before, const CString& after);
+    [[nodiscard]] static std::shared_ptr<const Model::Change> Read(const CString& before, const CString& after);
 
     [[nodiscard]] std::string_view Kind() const override { return kind; }
     [[nodiscard]] CString Before() const override;
@@ -55,7 +55,7 @@ public:
     [[nodiscard]] CString ShownBefore() const override;
     [[nodiscard]] CString ShownAfter() const override;
     /// An attribute has two states, so what another program has changed looks like a part of the change not done.
-    [[nodiscard]] Batch::ChangeLook Look(const CString& path) const override;
+    [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;
     [[nodiscard]] std::uint32_t Apply(const CString& path) const override;
     [[nodiscard]] std::uint32_t TakeBack(const CString& path) const override;
 

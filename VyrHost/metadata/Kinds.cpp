@@ -9,7 +9,7 @@
 
 namespace VyrHost::Metadata {
 
-Batch::ChangeKinds Kinds()
+Model::ChangeKinds Kinds()
 {
     return {{std::string(TimesChange::kind), TimesChange::Read},
             {std::string(AttributesChange::kind), AttributesChange::Read},

@@ -2,11 +2,11 @@
 /// The kinds of change that this program knows besides the rename.
 #pragma once
 
-#include <VyrHost/batch/Change.h>
+#include <VyrHost/model/Change.h>
 
 namespace VyrHost::Metadata {
 
 /// Times, attributes and marks.
-[[nodiscard]] Batch::ChangeKinds Kinds();
+[[nodiscard]] Model::ChangeKinds Kinds();
 
 } // namespace VyrHost::Metadata

@@ -15,8 +15,8 @@ namespace VyrHost::Metadata {
 
 namespace {
 
-using Batch::ChangeLook;
-using Batch::ChangeState;
+using Model::ChangeLook;
+using Model::ChangeState;
 using VyrPlatform::NamedStreams::ZoneForm;
 
 constexpr std::u16string_view noMark = u"none";
@@ -78,7 +78,7 @@ CString Shown(const ZoneForms& forms)
     return CString::Join({mark.zone, mark.zone.IsEmpty() || origin.IsEmpty() ? u"" : u", ", origin});
 }
 
-std::shared_ptr<const Batch::Change> MarkChange::Read(const CString& before, const CString& after)
+std::shared_ptr<const Model::Change> MarkChange::Read(const CString& before, const CString& after)
 {
     ZoneForms forms;
     for (std::u16string_view rest = before; !rest.empty();) {

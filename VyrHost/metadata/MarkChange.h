@@ -2,7 +2,7 @@
 /// The removal of a download mark: the kind "mark". And what a mark tells.
 #pragma once
 
-#include <VyrHost/batch/Change.h>
+#include <VyrHost/model/Change.h>
 #include <VyrPlatform/files/NamedStreams.h>
 
 #include <vector>
@@ -29,7 +29,7 @@ struct ZoneMark
 [[nodiscard]] CString Shown(const ZoneForms& forms);
 
 /// Removes a mark by UnblockFuncs::DeleteZoneId, and restores every form of it with its bytes.
-class MarkChange final : public Batch::Change
+class MarkChange final : public Model::Change
 {
 public:
     /// @param forms  one or more.
@@ -37,14 +37,14 @@ public:
 
     static constexpr std::string_view kind = "mark";
     /// What the journal keeps; null for texts that are none of this kind.
-    [[nodiscard]] static std::shared_ptr<const Batch::Change> Read(const CString& before, const CString& after);
+    [[nodiscard]] static std::shared_ptr<const Model::Change> Read(const CString& before, const CString& after);
 
     [[nodiscard]] std::string_view Kind() const override { return kind; }
     [[nodiscard]] CString Before() const override;
     [[nodiscard]] CString After() const override;
     [[nodiscard]] CString ShownBefore() const override;
     [[nodiscard]] CString ShownAfter() const override;
-    [[nodiscard]] Batch::ChangeLook Look(const CString& path) const override;
+    [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;
     [[nodiscard]] std::uint32_t Apply(const CString& path) const override;
     [[nodiscard]] std::uint32_t TakeBack(const CString& path) const override;
 

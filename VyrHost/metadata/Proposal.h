@@ -3,7 +3,7 @@
 #pragma once
 
 #include <VyrHost/batch/Batches.h>
-#include <VyrHost/batch/Change.h>
+#include <VyrHost/model/Change.h>
 #include <VyrHost/model/EntryList.h>
 #include <VyrPlatform/text/CString.h>
 
@@ -17,7 +17,7 @@ namespace VyrHost::Metadata {
 /// What becomes of one entry. Without a change and a refusal it stays as it is, since it is so already.
 struct Proposal
 {
-    std::shared_ptr<const Batch::Change> change;
+    std::shared_ptr<const Model::Change> change;
     /// Why it is not changed, for people.
     CString refusal;
 };

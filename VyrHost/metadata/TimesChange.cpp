@@ -16,8 +16,8 @@ namespace VyrHost::Metadata {
 
 namespace {
 
-using Batch::ChangeLook;
-using Batch::ChangeState;
+using Model::ChangeLook;
+using Model::ChangeState;
 using VyrPlatform::FileTicks;
 using VyrPlatform::ExactState::Part;
 
@@ -109,7 +109,7 @@ CString Joined(const std::vector<TimeStep>& steps, std::u16string_view separator
 
 } // namespace
 
-std::shared_ptr<const Batch::Change> TimesChange::Read(const CString& before, const CString& after)
+std::shared_ptr<const Model::Change> TimesChange::Read(const CString& before, const CString& after)
 {
     std::vector<TimeStep> steps;
     std::u16string_view restBefore = before;

@@ -2,8 +2,8 @@
 /// The change of a file's times: the kind "times".
 #pragma once
 
-#include <VyrHost/batch/Change.h>
 #include <VyrHost/metadata/FileDate.h>
+#include <VyrHost/model/Change.h>
 
 #include <vector>
 
@@ -23,7 +23,7 @@ struct TimeStep
 /// Sets times by DateTimeFuncs::SetModifiedFileDateTime, and takes them back to the file system's precision.
 ///
 /// A time counts as set where the file system has kept it within two seconds.
-class TimesChange final : public Batch::Change
+class TimesChange final : public Model::Change
 {
 public:
     /// @param steps  one or more, each of another date.
@@ -31,14 +31,14 @@ public:
 
     static constexpr std::string_view kind = "times";
     /// What the journal keeps; null for texts that are none of this kind.
-    [[nodiscard]] static std::shared_ptr<const Batch::Change> Read(const CString& before, const CString& after);
+    [[nodiscard]] static std::shared_ptr<const Model::Change> Read(const CString& before, const CString& after);
 
     [[nodiscard]] std::string_view Kind() const override { return kind; }
     [[nodiscard]] CString Before() const override;
     [[nodiscard]] CString After() const override;
     [[nodiscard]] CString ShownBefore() const override;
     [[nodiscard]] CString ShownAfter() const override;
-    [[nodiscard]] Batch::ChangeLook Look(const CString& path) const override;
+    [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;
     [[nodiscard]] std::uint32_t Apply(const CString& path) const override;
     [[nodiscard]] std::uint32_t TakeBack(const CString& path) const override;
 

@@ -116,13 +116,21 @@ void AppendPath(std::string& line, std::string_view key, const Model::ResultPath
     AppendJsonField(line, key, path.folder, path.name);
 }
 
+/// Whether a change of this kind leaves the file where it is.
+bool IsInPlace(std::string_view kind)
+{
+    return kind != "rename" && kind != "copy" && kind != "move";
+}
+
 void AppendChange(std::string& line, const Model::Result& result)
 {
-    if (result.values) {
+    if (IsInPlace(result.kind)) {
         AppendJsonField(line, "kind", VyrPlatform::Encoding::FromUtf8(result.kind));
         AppendPath(line, "path", result.from);
-        AppendJsonField(line, "from", result.values->before);
-        AppendJsonField(line, "to", result.values->after);
+        if (result.values) {
+            AppendJsonField(line, "from", result.values->before);
+            AppendJsonField(line, "to", result.values->after);
+        }
         return;
     }
     AppendPath(line, "from", result.from);

@@ -25,7 +25,7 @@ namespace {
 using Range = VyrLibraryFuncs::SearchFuncs::DateTimeRange;
 using Sizes = VyrLibraryFuncs::SearchFuncs::SizeRange;
 
-constexpr std::int64_t open = std::numeric_limits<std::int64_t>::max();
+constexpr std::int64_t unlimited = std::numeric_limits<std::int64_t>::max();
 
 /// "from .. to" of a custom range; the number of any other.
 std::string DatesOf(std::u16string_view text)
@@ -147,7 +147,7 @@ TEST(ChoosingSizes, UnitsCountBy1024)
     ExpectSizes(u"1 k .. 2 MiB", 1024, 2 << 20);
     ExpectSizes(u"1.5GB..2tb", 1610612736, std::int64_t{2} << 40);
     ExpectSizes(u"0.5..0.5KB", 0, 512);
-    ExpectSizes(u"3B..", 3, open);
+    ExpectSizes(u"3B..", 3, unlimited);
     ExpectSizes(u"..3G", 0, std::int64_t{3} << 30);
 }
 

@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 
 using namespace VyrHost::Metadata;
-using VyrHost::Batch::ChangeState;
+using VyrHost::Model::ChangeState;
 using VyrTests::ScratchFolder;
 
 namespace FileAttributes = VyrPlatform::FileAttributes;

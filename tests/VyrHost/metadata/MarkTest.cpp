@@ -13,7 +13,7 @@
 #include <string>
 
 using namespace VyrHost::Metadata;
-using VyrHost::Batch::ChangeState;
+using VyrHost::Model::ChangeState;
 using VyrPlatform::NamedStreams::ReadZoneMark;
 using VyrPlatform::NamedStreams::ZoneForm;
 using VyrTests::ScratchFolder;

@@ -59,9 +59,9 @@ protected:
             CString::Join({proposal.change->ShownBefore(), u" => ", proposal.change->ShownAfter()}));
     }
 
-    void ExpectRoundTrip(const VyrHost::Batch::Change& change) const
+    void ExpectRoundTrip(const VyrHost::Model::Change& change) const
     {
-        using VyrHost::Batch::ChangeState;
+        using VyrHost::Model::ChangeState;
         const auto again = TimesChange::Read(change.Before(), change.After());
         ASSERT_TRUE(again);
         EXPECT_EQ(again->Before(), change.Before());
@@ -214,7 +214,7 @@ TEST_F(Times, MissingFileIsRefusedWithTheSystemsReason)
 
 TEST_F(Times, TimesOfAnotherProgramAreOther)
 {
-    using VyrHost::Batch::ChangeState;
+    using VyrHost::Model::ChangeState;
     Set(FileDate::Modified, u"2024-01-05 10:30");
     Set(FileDate::Accessed, u"2024-01-05 10:30");
     VyrHost::Model::Entry entry;

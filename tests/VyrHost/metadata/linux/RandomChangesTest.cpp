@@ -166,7 +166,7 @@ protected:
     std::mt19937 m_random{20240105};
 };
 
-void Ignore(std::size_t /*index*/, const Model::RenameResult& /*result*/) {}
+void Ignore(std::size_t /*index*/, const Model::Outcome& /*result*/) {}
 void IgnoreEntry(const Batch::BatchEntry& /*entry*/) {}
 bool Never()
 {

@@ -1,0 +1,93 @@
+// Declares and runs "vyr times".
+#include <VyrHost/cli/TimesCommand.h>
+
+#include <VyrHost/cli/Examples.h>
+#include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/OptionPairs.h>
+#include <VyrHost/cli/TextOptions.h>
+#include <VyrHost/metadata/TimesChange.h>
+#include <VyrHost/text/UsageError.h>
+
+#include <CLI/CLI.hpp>
+
+namespace VyrHost::Cli {
+
+namespace {
+
+constexpr const char* group = "Which times they get";
+constexpr const char* orderGroup = "Order of the list";
+constexpr const char* timeForms = "DATE TIME";
+
+COleDateTime ReadStart(const std::string& text)
+{
+    const auto typed = Text::ReadTypedDateTime(FromParser(text));
+    if (!typed || !typed->hasDate)
+        Text::RefuseValue("--start", FromParser(text), "a date or a date-time is expected, such as 2024-01-05");
+    return typed->value;
+}
+
+} // namespace
+
+TimesCommand::TimesCommand(CLI::App& program)
+    : m_command(*program.add_subcommand("times", "Show the times of files, or set and move them")),
+      m_sources(m_command, "change"), m_order(m_command, orderGroup), m_change(m_command)
+{
+    AddText(m_command, "--set-modified", m_modified, timeForms,
+            "Set the time of the last change: \"2024-01-05 10:30\", a date or a time of day alone (the other part "
+            "stays), or from:modified, from:created, from:accessed, from:picture, from:name",
+            group);
+    AddText(m_command, "--set-created", m_created, timeForms, "Set the creation time likewise", group);
+    AddText(m_command, "--set-accessed", m_accessed, timeForms, "Set the time of the last access likewise", group);
+    AddText(m_command, "--shift", m_shift, "AMOUNT",
+            "Move the times that are set, or the time of the last change, by 1h30m, -1y, 6mo, 2d and the like", group);
+    AddText(m_command, "--stagger", m_stagger, "AMOUNT",
+            "Move each file one step more than the one before it in the list", group);
+    AddText(m_command, "--start", m_start, "DATE TIME", "The time of the first file of --stagger", group);
+    m_command.footer("Without an option that sets or moves a time the times are shown. Without --apply nothing is "
+                     "changed. What --apply changed, \"vyr undo\" undoes.\n\n" +
+                     TimesExamples() + "\n" + ExitCode::Table);
+}
+
+bool TimesCommand::IsChosen() const
+{
+    return m_command.parsed();
+}
+
+int TimesCommand::Run() const
+{
+    m_change.Check();
+    constexpr DependentOption dependent[] = {{"--start", "--stagger"}};
+    CheckOptionPairs(m_command, {}, dependent);
+    ChangeRequest request{"times", Metadata::TimesChange::kind, m_sources.Read(), m_order.Read()};
+    if (!m_sources.NamesAny())
+        throw Text::UsageError("no file is named");
+    const auto settings = ReadSettings();
+    if (!settings)
+        return ShowFiles(request.sources, u"name,modified,created,accessed,taken", m_change);
+    return RunChanges(request, Metadata::TimesRule(*settings), m_change);
+}
+
+std::optional<Metadata::TimesSettings> TimesCommand::ReadSettings() const
+{
+    Metadata::TimesSettings settings;
+    bool isAny = false;
+    const auto take = [&settings, &isAny](const std::optional<std::string>& text, Metadata::FileDate date,
+                                          const char* option) {
+        if (!text)
+            return;
+        settings.sources[static_cast<std::size_t>(date)] = Metadata::ParseTimeSource(FromParser(*text), option);
+        isAny = true;
+    };
+    take(m_modified, Metadata::FileDate::Modified, "--set-modified");
+    take(m_created, Metadata::FileDate::Created, "--set-created");
+    take(m_accessed, Metadata::FileDate::Accessed, "--set-accessed");
+    if (m_shift)
+        settings.shift = Metadata::ParseAmounts(FromParser(*m_shift), "--shift");
+    if (m_stagger)
+        settings.stagger = Metadata::ParseAmounts(FromParser(*m_stagger), "--stagger");
+    if (m_start)
+        settings.start = ReadStart(*m_start);
+    return isAny || m_shift || m_stagger ? std::optional(settings) : std::nullopt;
+}
+
+} // namespace VyrHost::Cli
