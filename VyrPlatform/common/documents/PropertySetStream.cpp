@@ -85,7 +85,8 @@ std::string SerialiseSection(const PropertySection& section)
     for (const StoredProperty& property : section.properties) {
         Append(table, property.id);
         Append(table, static_cast<std::uint32_t>(first + values.size()));
-        values += property.bytes;
+        // A value without bytes would share its place with the next one; that of type VT_EMPTY says the same.
+        values += property.bytes.empty() ? std::string(4, '\0') : property.bytes;
         Pad(values);
     }
     std::string bytes;

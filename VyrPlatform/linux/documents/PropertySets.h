@@ -44,4 +44,9 @@ namespace VyrPlatform {
 /// @return a result code.
 [[nodiscard]] std::uint32_t OpenCompoundDocument(const CString& path, std::unique_ptr<IPropertySetStorage>& opened);
 
+/// Opens a document by one of the handlers of Linux.
+/// @return a result code.
+[[nodiscard]] std::uint32_t OpenByOwnHandler(const CString& path, const _GUID& handler,
+                                             std::unique_ptr<IPropertySetStorage>& opened);
+
 } // namespace VyrPlatform

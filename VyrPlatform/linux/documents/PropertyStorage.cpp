@@ -141,9 +141,11 @@ Document Document::OpenCompound(const CString& path)
     return {opened.release(), result};
 }
 
-Document Document::OpenByHandler(const CString&, const _GUID&)
+Document Document::OpenByHandler(const CString& path, const _GUID& handler)
 {
-    return {nullptr, Result::classNotRegistered};
+    std::unique_ptr<IPropertySetStorage> opened;
+    const std::uint32_t result = OpenByOwnHandler(path, handler, opened);
+    return {opened.release(), result};
 }
 
 PropertySet::PropertySet(PropertySet&& other) noexcept

@@ -123,6 +123,19 @@ TEST_F(ReplacedDocument, ValuesThatAreNotUnderstoodAreMovedUnchanged)
     EXPECT_EQ(summary.at(0), LittleEndian(0U));
 }
 
+TEST_F(ReplacedDocument, SetWithAValueWithoutBytesIsWrittenAgainAndAgain)
+{
+    CompoundDocument document;
+    document.streams[summaryName] =
+        BuildSummary({{1, StoredCodePage(1252)}, {title, StoredByteText("Old")}, {99, std::string()}});
+    scratch.WriteFile(u"a.doc", document.Bytes());
+    PROPVARIANT number{};
+    number.vt = VT_I4;
+    EXPECT_EQ(Write(100, number), Result::ok);
+    EXPECT_EQ(WriteBytes("New"), Result::ok);
+    EXPECT_EQ(Summary()[title], StoredByteText("New"));
+}
+
 TEST_F(ReplacedDocument, FlagsAndRealNumbersAreStored)
 {
     PROPVARIANT flag{};
