@@ -74,7 +74,7 @@ public:
             m_request.conflicts.mode == Rename::OnConflict::Refuse && Rename::StopAtConflict(m_preview);
         if (isStopped)
             Complain("a name is taken, and --on-conflict=fail was asked for: nothing is renamed");
-        m_results.emplace(List(), std::move(m_preview.decisions));
+        m_results.emplace(List(), std::move(m_preview.decisions), std::move(m_preview.causes));
         const int applied = m_request.apply && !isStopped ? Apply() : ExitCode::Success;
         if (applied == ExitCode::Blocked)
             return applied;

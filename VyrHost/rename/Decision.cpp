@@ -48,6 +48,12 @@ std::u16string_view WordsFor(Reason reason)
         return u"a folder of that name cannot be made";
     case Reason::OtherFileSystem:
         return u"the new path is on another file system";
+    case Reason::FolderLocked:
+        return u"its folder may not be changed";
+    case Reason::NotOwnEntry:
+        return u"in this folder only its owner may rename it";
+    case Reason::BeyondName:
+        return u"the place or count is beyond the name";
     case Reason::EmptyName:
         return u"the new name would be empty";
     case Reason::TargetExists:
@@ -101,8 +107,8 @@ std::u16string_view WarningFor(NameFault fault)
     return {};
 }
 
-RenameResults::RenameResults(const Model::EntryList& list, std::vector<Decision> decisions)
-    : m_list(list), m_decisions(std::move(decisions))
+RenameResults::RenameResults(const Model::EntryList& list, std::vector<Decision> decisions, Causes causes)
+    : m_list(list), m_decisions(std::move(decisions)), m_causes(std::move(causes))
 {
     for (std::uint32_t entry = 0; entry < m_decisions.size(); ++entry)
         if (const std::uint32_t error = CauseOf(entry))

@@ -33,6 +33,12 @@ enum class Reason : std::uint8_t
     BadFolder,
     /// The folder to move into is on another file system.
     OtherFileSystem,
+    /// The user may not change the names in its folder, or in the one that it would move into; the cause says why.
+    FolderLocked,
+    /// Its folder is sticky: only the owner of an entry may rename it.
+    NotOwnEntry,
+    /// A rule inserts or deletes behind the end of the name; the cause tells how long it is.
+    BeyondName,
     EmptyName,
     /// Something that the batch leaves in place has the name.
     TargetExists,
@@ -86,12 +92,16 @@ struct Decision
     [[nodiscard]] bool IsRename() const { return status == Model::Status::Done || status == Model::Status::Numbered; }
 };
 
+/// What there is to say beyond the reason why an entry does not get a name, by the place of the entry in its list.
+using Causes = std::unordered_map<std::uint32_t, CString>;
+
 /// The results of a preview, or of the batch that was made of it.
 class RenameResults final : public Model::Results
 {
 public:
     /// @param list  what is decided about; must outlive the results.
-    RenameResults(const Model::EntryList& list, std::vector<Decision> decisions);
+    /// @param causes  what there is to say beyond the reasons, by entry.
+    RenameResults(const Model::EntryList& list, std::vector<Decision> decisions, Causes causes);
 
     [[nodiscard]] std::size_t Count() const override { return m_decisions.size(); }
     [[nodiscard]] Model::Result At(std::size_t index) const override;
@@ -104,8 +114,7 @@ private:
 
     const Model::EntryList& m_list;
     std::vector<Decision> m_decisions;
-    /// What there is to say beyond the reasons, by entry.
-    std::unordered_map<std::uint32_t, CString> m_causes;
+    Causes m_causes;
 };
 
 } // namespace VyrHost::Rename

@@ -49,13 +49,37 @@ public:
     }
 };
 
+/// Inserts or deletes at a place that a short name does not have: the engine would leave such a name as it is.
+class PlacedRule final : public EngineRule
+{
+public:
+    explicit PlacedRule(NameFuncs::ITEM settings) : EngineRule(std::move(settings)) {}
+
+    Reason Apply(Subject& subject) override
+    {
+        const int length = subject.name.GetLength();
+        if (length >= m_item.position && length - m_item.position >= m_item.deleteCount)
+            return EngineRule::Apply(subject);
+        subject.cause.Format(length == 1 ? u"the name has %d character" : u"the name has %d characters", length);
+        return Reason::BeyondName;
+    }
+};
+
+Rules Placed(NameFuncs::ITEM item)
+{
+    Rules rules;
+    rules.push_back(std::make_unique<PlacedRule>(std::move(item)));
+    return rules;
+}
+
 Rules DeleteRule(DeleteType type, int position, int count)
 {
     NameFuncs::ITEM item = NewItem(RenameKind::AddDelete);
     item.addDeleteType = static_cast<int>(type);
     item.position = position;
     item.deleteCount = count;
-    return One(std::move(item));
+    return type == DeleteType::KeepFirst || type == DeleteType::KeepLast ? One(std::move(item))
+                                                                         : Placed(std::move(item));
 }
 
 Rules InsertRule(InsertType type, int position, const CString& text, const char* option)
@@ -63,7 +87,7 @@ Rules InsertRule(InsertType type, int position, const CString& text, const char*
     RequireNameText(text, option);
     if (text.IsEmpty())
         throw Text::UsageError(std::string(option) + ": there is no text to put in");
-    return One(InsertItem(type, position, text));
+    return Placed(InsertItem(type, position, text));
 }
 
 /// A place in a name, counted from its start or, with a minus sign, from its end; and what stands behind the colon.

@@ -22,6 +22,8 @@ struct WantedName
     CString name;
     /// Why there is no name.
     Reason reason = Reason::None;
+    /// What there is to say beyond the reason; empty for nothing.
+    CString cause = {};
     /// The dates that rules with a choice took for it.
     Model::DateSourceSet datesTaken = {};
 };

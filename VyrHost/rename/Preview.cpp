@@ -5,6 +5,8 @@
 #include <VyrHost/rename/NameValidator.h>
 #include <VyrHost/rename/Planner.h>
 #include <VyrHost/rename/TargetFolders.h>
+#include <VyrHost/text/ErrorText.h>
+#include <VyrHostPlatform/FolderPermission.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -15,6 +17,7 @@ namespace VyrHost::Rename {
 
 namespace {
 
+using VyrHostPlatform::FolderPermission;
 using VyrPlatform::FileSystem::Kind;
 
 /// In code units; more than any of the systems takes.
@@ -38,10 +41,14 @@ public:
         m_source.Name(m_list, m_present, m_names);
         for (std::size_t place = 0; place < m_present.size(); ++place)
             Judge(m_present[place], m_names[place]);
+        for (const std::uint32_t entry : m_present)
+            if (m_decisions[entry].IsRename())
+                CheckPermissions(entry);
         KeepTogether();
     }
 
     std::vector<Decision> TakeDecisions() { return std::move(m_decisions); }
+    Causes TakeCauses() { return std::move(m_causes); }
 
 private:
     /// Refuses an entry that is not there.
@@ -63,6 +70,8 @@ private:
         Decision& decision = m_decisions[index];
         if (wanted.reason != Reason::None) {
             decision.Refuse(wanted.reason);
+            if (!wanted.cause.IsEmpty())
+                m_causes[index] = wanted.cause;
             return;
         }
         const bool moves = wanted.folder != m_list.folders[entry.folder].path;
@@ -95,6 +104,34 @@ private:
             decision.warning = target.warning;
     }
 
+    /// Refuses what the system would refuse when it is applied.
+    void CheckPermissions(std::uint32_t index)
+    {
+        Decision& decision = m_decisions[index];
+        const Model::Entry& entry = m_list.entries[index];
+        const FolderPermission from = PermissionOf(entry.folder);
+        const FolderPermission to = PermissionOf(decision.folder);
+        if (const std::uint32_t error = from.error != 0 ? from.error : to.error) {
+            decision.Refuse(Reason::FolderLocked);
+            m_causes[index] = Text::ErrorText(error);
+        } else if (from.ownEntriesOnly && !VyrHostPlatform::IsOwnEntry(m_list.PathOf(entry))) {
+            decision.Refuse(Reason::NotOwnEntry);
+        }
+    }
+
+    /// Of a folder that is not there yet, that of the folder which it will be made in.
+    FolderPermission PermissionOf(std::uint32_t folder)
+    {
+        while (m_list.folders[folder].isNew)
+            folder = m_list.folders[folder].parent;
+        if (folder >= m_permissions.size())
+            m_permissions.resize(m_list.folders.Count());
+        std::optional<FolderPermission>& permission = m_permissions[folder];
+        if (!permission)
+            permission = VyrHostPlatform::GetFolderPermission(m_list.folders[folder].path);
+        return *permission;
+    }
+
     /// Where one of those that keep together is refused, all are.
     void KeepTogether()
     {
@@ -112,6 +149,9 @@ private:
     NameSource& m_source;
     TargetFolders m_targets;
     std::vector<Decision> m_decisions;
+    Causes m_causes;
+    /// By folder; asked for once.
+    std::vector<std::optional<FolderPermission>> m_permissions;
     std::vector<std::uint32_t> m_present;
     std::vector<WantedName> m_names;
 };
@@ -223,6 +263,7 @@ Preview MakePreview(Model::EntryList& list, const Groups& groups, NameSource& na
     }
     Preview preview;
     preview.decisions = naming.TakeDecisions();
+    preview.causes = naming.TakeCauses();
     ResolveConflicts(list, groups, preview.decisions, settings, names.MayNumber());
     Plan(list, groups, preview);
     return preview;

@@ -42,6 +42,7 @@ struct Preview
 {
     /// One for each entry of the list.
     std::vector<Decision> decisions;
+    Causes causes;
     /// What is to be done for them.
     Model::RenamePlan plan;
     /// For each entry of the plan its place in the list, rising.

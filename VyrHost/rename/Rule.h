@@ -26,6 +26,9 @@ struct Subject
     CString name;
     CString extension;
 
+    /// Set by a rule that gives no name: what there is to say beyond the reason.
+    CString cause = {};
+
     /// How late among the dates asked for the one stands that a rule took: 0 for the first, the highest of all rules.
     std::size_t dateRank = 0;
     /// The dates that rules with a choice took.

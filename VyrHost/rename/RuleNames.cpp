@@ -30,6 +30,7 @@ void RuleNames::Name(const Model::EntryList& list, std::span<const std::uint32_t
 void RuleNames::NameOne(const Model::EntryList& list, const Model::Entry& entry, int index, WantedName& name)
 {
     name.reason = Run(list, entry, index, entry);
+    name.cause = m_subject.cause;
     if (name.reason == Reason::None)
         name = Wanted(list, entry);
 }
@@ -46,6 +47,7 @@ void RuleNames::NameTogether(const Model::EntryList& list, std::span<const std::
         if (MainFileOf(list, entry) != Model::NoEntry)
             continue;
         names[place].reason = Run(list, entry, index, entry);
+        names[place].cause = m_subject.cause;
         if (names[place].reason == Reason::PictureNotRead)
             rankNotRead = std::min(rankNotRead.value_or(m_subject.dateRank), m_subject.dateRank);
         if (names[place].reason == Reason::None && (!leader || m_subject.dateRank < made.dateRank)) {
@@ -110,6 +112,7 @@ Reason RuleNames::Run(const Model::EntryList& list, const Model::Entry& entry, i
     m_workingFolder.Enter(list.folders[dated.folder].path);
     m_subject.isFolder = entry.kind == Kind::Folder;
     m_subject.index = index;
+    m_subject.cause.Empty();
     m_subject.dateRank = 0;
     m_subject.datesTaken = {};
     for (const auto& rule : m_rules)

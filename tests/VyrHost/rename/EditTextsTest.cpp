@@ -26,7 +26,7 @@ TEST(EditTexts, InsertsCountedFromEitherEnd)
     EXPECT_EQ(OnAbcdef(InsertRules(u"-2:XY")), u"/d/abcdXYef.txt");
     EXPECT_EQ(OnAbcdef(InsertRules(u"-0:XY")), u"/d/abcdefXY.txt");
     EXPECT_EQ(OnAbcdef(InsertRules(u"6::")), u"/d/abcdef:.txt");
-    EXPECT_EQ(OnAbcdef(InsertRules(u"7:XY")), u"/d/abcdef.txt");
+    EXPECT_EQ(OnAbcdef(InsertRules(u"7:XY")), u"!");
     EXPECT_EQ(OnAbcdef(PrefixRules(u"2:")), u"/d/2:abcdef.txt");
     EXPECT_EQ(OnAbcdef(SuffixRules(u" x")), u"/d/abcdef x.txt");
 }
@@ -34,7 +34,7 @@ TEST(EditTexts, InsertsCountedFromEitherEnd)
 TEST(EditTexts, DeletesAndKeepsCountedFromEitherEnd)
 {
     EXPECT_EQ(OnAbcdef(DeleteRules(u"2:3")), u"/d/abf.txt");
-    EXPECT_EQ(OnAbcdef(DeleteRules(u"2:5")), u"/d/abcdef.txt");
+    EXPECT_EQ(OnAbcdef(DeleteRules(u"2:5")), u"!");
     EXPECT_EQ(OnAbcdef(DeleteRules(u"-1:2")), u"/d/abcf.txt");
     EXPECT_EQ(OnAbcdef(DeleteFirstRules(u"2")), u"/d/cdef.txt");
     EXPECT_EQ(OnAbcdef(DeleteLastRules(u"2")), u"/d/abcd.txt");
@@ -89,8 +89,8 @@ TEST(EditTexts, RulesWorkOnTheResultOfTheRuleBefore)
 {
     EXPECT_EQ(OnAbcdef(Chain(KeepFirstRules(u"3"), CaseRules(u"upper"))), u"/d/ABC.txt");
     EXPECT_EQ(OnAbcdef(Chain(ExtensionRules(u"md"), ExtensionCaseRules(u"upper"))), u"/d/abcdef.MD");
-    // A deletion that reaches beyond the name leaves what the rule before made, not the file's own name.
-    EXPECT_EQ(OnAbcdef(Chain(KeepFirstRules(u"3"), DeleteRules(u"2:3"))), u"/d/abc.txt");
+    EXPECT_EQ(OnAbcdef(Chain(KeepFirstRules(u"3"), DeleteRules(u"2:1"))), u"/d/ab.txt");
+    EXPECT_EQ(OnAbcdef(Chain(KeepFirstRules(u"3"), DeleteRules(u"2:3"))), u"!");
     EXPECT_EQ(OnAbcdef(Chain(KeepFirstRules(u"0"), NumberRules(u"<Name>#", {}))), u"/d/1.txt");
 }
 

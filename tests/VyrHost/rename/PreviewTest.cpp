@@ -281,6 +281,22 @@ TEST_F(PreviewTest, GivesAllThatKeepTogetherOneNumber)
               (Strings{"a (2).raf #", "a (2).jpg #", "a (3).jpg #", "a (3).raf #"}));
 }
 
+TEST_F(PreviewTest, RefusesAPlaceOrCountBeyondTheNameAndTellsItsLength)
+{
+    Write({u"abc.txt", u"abcd.txt"});
+    const Strings beyond{No(Reason::BeyondName), "abcdx.txt"};
+    EXPECT_EQ(DecideNamed({u"abc.txt", u"abcd.txt"}, InsertRules(u"4:x")), beyond);
+    EXPECT_EQ(DecideNamed({u"abc.txt", u"abcd.txt"}, DeleteRules(u"2:2")), (Strings{No(Reason::BeyondName), "ab.txt"}));
+    EXPECT_EQ(DecideNamed({u"abc.txt", u"abcd.txt"}, DeleteLastRules(u"4")),
+              (Strings{No(Reason::BeyondName), No(Reason::EmptyName)}));
+    EXPECT_EQ(DecideNamed({u"abc.txt", u"abcd.txt"}, KeepFirstRules(u"4")), (Strings{"=", "="}));
+    CollectedEntries gathered = GatherNamed({u"abc.txt"});
+    const Rules rules = DeleteFirstRules(u"4");
+    RuleNames names(rules, Counting::WholeList);
+    const Preview preview = MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    EXPECT_EQ(preview.causes.at(0), u"the name has 3 characters");
+}
+
 TEST_F(PreviewTest, SidecarsKeepTheWholeNameOfTheirFile)
 {
     const Names names = {u"x.JPG.xmp", u"x.JPG", u"x.CR2.xmp", u"x.CR2"};

@@ -99,7 +99,7 @@ TEST_F(HostileNames, AFolderThatCannotBeReadIsSaid)
     m_folder.WriteFile(u"d/a");
     m_folder.WriteFile(u"b");
     const std::string folder = VyrPlatform::Encoding::ToNameBytes(m_folder.Path());
-    chmod(folder.c_str(), 0755);
+    chmod(folder.c_str(), 0777);
     chmod((folder + "/d").c_str(), 0);
     const ProgramResult walk = RunUnprivileged({u"rename", u"--prefix", u"x", u"-r", u"."});
     EXPECT_EQ(walk.exitCode, 1);

@@ -21,7 +21,7 @@ protected:
         for (const char16_t* const name : {u"p.jpg", u"locked.jpg"})
             m_folder.WriteFile(name, BuildJpeg(PictureFacts{}));
         m_folder.WriteFile(u"locked.xmp");
-        chmod(Bytes(m_folder.Path()).c_str(), 0755);
+        chmod(Bytes(m_folder.Path()).c_str(), 0777);
         chmod(Bytes(m_folder.Path(u"locked.jpg")).c_str(), 0);
         return RunUnprivileged({u"--version"}).exitCode == 0;
     }
