@@ -91,6 +91,15 @@ struct tagBLOB
 };
 using BLOB = tagBLOB;
 
+union LARGE_INTEGER
+{
+    std::int64_t QuadPart;
+};
+union ULARGE_INTEGER
+{
+    std::uint64_t QuadPart;
+};
+
 /// A value of the type `vt`, which tells the member of the union that holds it. Of the system's members these are the
 /// ones that a document property can have.
 struct tagPROPVARIANT
@@ -108,12 +117,8 @@ struct tagPROPVARIANT
         std::uint32_t ulVal;
         std::int32_t intVal;
         std::uint32_t uintVal;
-        union {
-            std::int64_t QuadPart;
-        } hVal;
-        union {
-            std::uint64_t QuadPart;
-        } uhVal;
+        LARGE_INTEGER hVal;
+        ULARGE_INTEGER uhVal;
         float fltVal;
         double dblVal;
         /// 0 or -1.

@@ -54,7 +54,7 @@ void CheckRules(std::uint8_t choice, const CString& text)
         ExtensionRules,
         ExtensionCaseRules,
         [](const CString& pattern) { return NumberRules(pattern, {}); },
-        [](const CString& format) { return DateRules(format, {DateSource::Modified}); },
+        [](const CString& format) { return DateRules(format, {VyrHost::Model::DateSource::Modified}); },
         [](const CString& either) {
             return ReplaceRules(either, either);
         }};

@@ -53,7 +53,7 @@ IHTMLImgElementPtr PictureAt(const IHTMLElementCollectionPtr& elements, LONG ind
 {
     IDispatch* element = nullptr;
     const _variant_t position(index);
-    const _variant_t none;
+    const _variant_t none{};
     if (FAILED(elements->item(position, none, &element)) || !element)
         return nullptr;
     auto picture = As<IHTMLImgElementPtr>(element);
