@@ -21,6 +21,11 @@ if(NOT WIN32)
 endif()
 
 install(TARGETS vyr RUNTIME COMPONENT vyr)
+if(WIN32)
+  install(FILES VyrHost/reports/designs.xml DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT vyr)
+else()
+  install(FILES VyrHost/reports/designs.xml DESTINATION "${CMAKE_INSTALL_DATADIR}/vyrlibrary" COMPONENT vyr)
+endif()
 install(TARGETS VyrPlatform VyrLibraryUtils VyrLibraryFuncs EXPORT VyrLibraryTargets
   RUNTIME COMPONENT vyr
   LIBRARY COMPONENT vyr NAMELINK_COMPONENT Unspecified

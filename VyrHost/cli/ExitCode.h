@@ -13,7 +13,7 @@ inline constexpr int Usage = 2;
 /// The result could not be written (a full disk, a closed pipe).
 inline constexpr int Output = 3;
 /// Nothing was done: there is no batch to undo, a batch that was cut off is to be recovered first, another program is
-/// at work on a batch, or the journal cannot be kept.
+/// at work on a batch, the journal cannot be kept, or update information is not known or cannot be read.
 inline constexpr int Blocked = 4;
 /// The work was ended by an interrupt (Ctrl-C).
 inline constexpr int Interrupted = 130;
@@ -25,8 +25,8 @@ inline constexpr const char* Table = "Exit codes:\n"
                                      "  2    the call is wrong; nothing was done\n"
                                      "  3    the result could not be written\n"
                                      "  4    nothing was done: there is nothing to undo, a batch that was cut off\n"
-                                     "       waits for \"vyr recover\", another vyr is at work, or the journal cannot\n"
-                                     "       be kept\n"
+                                     "       waits for \"vyr recover\", another vyr is at work, the journal cannot be\n"
+                                     "       kept, or update information cannot be read\n"
                                      "  130  interrupted (Ctrl-C); what was done was said\n";
 
 } // namespace VyrHost::Cli::ExitCode

@@ -15,13 +15,19 @@
 #include <VyrHost/cli/UnblockCommand.h>
 #include <VyrHost/cli/UndoCommand.h>
 #include <VyrHost/cli/UnknownWords.h>
+#include <VyrHost/cli/UpdatesCommand.h>
+#include <VyrHost/text/SafeText.h>
 #include <VyrHost/text/UsageError.h>
 #include <VyrHost/ui/OutputBuffer.h>
+#include <VyrLibraryFuncs/xmlinfo/ApplicationFuncs.h>
 #include <VyrLibraryUtils/VersionUtils.h>
+#include <VyrPlatform/documents/ComPointer.h>
+#include <VyrPlatform/process/ComApartment.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <CLI/CLI.hpp>
 
+#include <stdexcept>
 #include <string>
 
 namespace VyrHost::Cli {
@@ -30,10 +36,13 @@ namespace {
 
 using VyrLibraryUtils::VersionUtils;
 
+/// Such as "vyr (VyrLibrary) 1.2.3", with the release stage behind it where the application file has one.
 std::string VersionText()
 {
-    return VyrPlatform::Encoding::ToUtf8(
-        CString::Join({u"vyr (", VersionUtils::GetProductName(), u") ", VersionUtils::GetStringProductVersion()}));
+    const CString stage = VyrLibraryFuncs::ApplicationFuncs::GetLocalDataApplicationVersion();
+    return Text::SafeText(
+        CString::Join({u"vyr (", VersionUtils::GetProductName(), u") ", VersionUtils::GetStringProductVersion(),
+                       stage.IsEmpty() ? u"" : u" ", stage}));
 }
 
 int WriteOut(const std::string& text)
@@ -47,6 +56,12 @@ int RefuseCall(const std::string& what)
 {
     Complain(what);
     return ExitCode::Usage;
+}
+
+int Fail(const std::string& what)
+{
+    Complain(what);
+    return ExitCode::Blocked;
 }
 
 } // namespace
@@ -70,6 +85,8 @@ int RunProgram(const std::vector<CString>& arguments)
     const RecoverCommand recover(program);
     const ProgramsCommand programs(program);
     const BrowsersCommand browsers(program);
+    const UpdatesCommand updates(program);
+    const VyrPlatform::ComApartment apartment;
     try {
         const std::vector<Argument> cut = CutArguments(program, arguments);
         RefuseUnknownWords(program, CommandOf(program, arguments), cut);
@@ -94,6 +111,8 @@ int RunProgram(const std::vector<CString>& arguments)
             return programs.Run();
         if (browsers.IsChosen())
             return browsers.Run();
+        if (updates.IsChosen())
+            return updates.Run();
         return rename.Run();
     } catch (const CLI::CallForVersion&) {
         return WriteOut(VersionText() + "\n");
@@ -103,6 +122,13 @@ int RunProgram(const std::vector<CString>& arguments)
         return RefuseCall(std::string(error.what()) + "\nvyr --help and vyr COMMAND --help say more.");
     } catch (const Text::UsageError& error) {
         return RefuseCall(error.what());
+    } catch (const _com_error& error) {
+        CString text;
+        text.Format(u"the system's reader of documents failed (0x%08x)", static_cast<std::uint32_t>(error.Error()));
+        return Fail(Text::SafeText(text));
+    } catch (const std::out_of_range& error) {
+        // What the calendar's dates throw.
+        return Fail(std::string("a date is outside the calendar: ") + error.what());
     }
 }
 

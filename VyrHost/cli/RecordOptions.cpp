@@ -24,7 +24,7 @@ constexpr const char* Group = "How the list is shown";
 } // namespace
 
 RecordOptions::RecordOptions(CLI::App& command, std::vector<Ui::RecordColumn> columns)
-    : m_command(command), m_columns(std::move(columns))
+    : m_command(command), m_columns(std::move(columns)), m_report(command)
 {
     command
         .add_option_function<std::string>(
@@ -48,8 +48,9 @@ RecordOptions::RecordOptions(CLI::App& command, std::vector<Ui::RecordColumn> co
 
 void RecordOptions::Check(std::span<const Ui::RecordColumn> columns) const
 {
-    constexpr ExclusivePair Exclusive[] = {{"--csv", "--json"}};
+    constexpr ExclusivePair Exclusive[] = {{"--csv", "--json"}, {"--html", "--csv"}, {"--html", "--json"}};
     CheckOptionPairs(m_command, Exclusive);
+    m_report.Check();
     static_cast<void>(ShownColumns(columns));
     if (m_sort && Ui::FindColumns(columns, FromParser(*m_sort), "--sort").size() != 1)
         Text::RefuseValue("--sort", FromParser(*m_sort), "one column is expected");
@@ -62,12 +63,14 @@ int RecordOptions::Write(Ui::RecordTable table, const std::string& total, int co
         Ui::SortRows(table, Ui::FindColumns(table.columns, FromParser(*m_sort), "--sort").front(), m_descending);
     else if (m_descending)
         std::reverse(table.rows.begin(), table.rows.end());
+    if (m_report.IsAskedFor())
+        code = m_report.Write(table, total, code);
     Ui::OutputBuffer output;
     if (m_csv)
         Ui::WriteRecordCsv(output, table);
     else if (m_json)
         Ui::WriteRecordJson(output, table);
-    else
+    else if (!m_report.IsAskedFor())
         Ui::WriteRecords(output, table, Ui::StyleOfOutput(), !m_quiet);
     if (!m_quiet && !m_csv && !m_json)
         output << total << "\n";

@@ -2,6 +2,7 @@
 /// The options that all commands have which list records.
 #pragma once
 
+#include <VyrHost/cli/ReportOptions.h>
 #include <VyrHost/ui/RecordTable.h>
 
 #include <optional>
@@ -15,7 +16,8 @@ class App;
 
 namespace VyrHost::Cli {
 
-/// --csv, --json, --columns, --sort, --descending and --quiet. A command makes one, runs, and hands its records over.
+/// --csv, --json, --columns, --sort, --descending, --quiet and those of ReportOptions. A command makes one, runs, and
+/// hands its records over.
 class RecordOptions
 {
 public:
@@ -36,6 +38,7 @@ public:
     /// all, unless some are chosen.
     /// @param total  a line such as "3 programs." (UTF-8, safe to show, without a line end), for people behind the
     ///     table, else on the error stream.
+    /// With --html the list goes into a page, and people get the total alone.
     /// @return `code`, or ExitCode::Output.
     [[nodiscard]] int Write(Ui::RecordTable table, const std::string& total, int code) const;
 
@@ -44,6 +47,7 @@ private:
 
     CLI::App& m_command;
     const std::vector<Ui::RecordColumn> m_columns;
+    ReportOptions m_report;
     bool m_csv = false;
     bool m_json = false;
     bool m_descending = false;

@@ -122,8 +122,11 @@ int UndoCommand::Run() const
 {
     constexpr ExclusivePair Exclusive[] = {{"--list", "BATCH", "--list lists every batch"},
                                            {"--list", "--preview", "--list lists every batch"}};
-    constexpr DependentOption Dependent[] = {
-        {"--columns", "--list"}, {"--sort", "--list"}, {"--descending", "--list"}, {"--csv", "--list"}};
+    constexpr DependentOption Dependent[] = {{"--columns", "--list"},
+                                             {"--sort", "--list"},
+                                             {"--descending", "--list"},
+                                             {"--csv", "--list"},
+                                             {"--html", "--list"}};
     CheckOptionPairs(m_command, Exclusive, Dependent);
     m_records.Check();
     std::optional<std::uint32_t> number;

@@ -1,0 +1,48 @@
+/// @file
+/// The options of commands that can write what they show as a page for a browser.
+#pragma once
+
+#include <VyrHost/reports/Design.h>
+#include <VyrHost/ui/RecordTable.h>
+
+#include <optional>
+#include <string>
+
+namespace CLI {
+class App;
+}
+
+namespace VyrHost::Cli {
+
+/// --html, --overwrite, --design and --designs.
+class ReportOptions
+{
+public:
+    /// Adds the options to `command`.
+    explicit ReportOptions(CLI::App& command);
+    ReportOptions(const ReportOptions&) = delete;
+    ReportOptions& operator=(const ReportOptions&) = delete;
+
+    /// Whether a page was asked for.
+    [[nodiscard]] bool IsAskedFor() const { return m_file.has_value(); }
+    /// Looks at what was given, before the command does anything.
+    /// @throws UsageError
+    void Check() const;
+
+    /// Writes `table` as a page.
+    /// @param total  such as "3 programs." (UTF-8).
+    /// @return `code`, or ExitCode::Output after a complaint.
+    [[nodiscard]] int Write(const Ui::RecordTable& table, const std::string& total, int code) const;
+
+private:
+    [[nodiscard]] CString Path() const;
+    [[nodiscard]] Reports::Design ChosenDesign() const;
+
+    CLI::App& m_command;
+    std::optional<std::string> m_file;
+    std::optional<std::string> m_design;
+    std::optional<std::string> m_designs;
+    bool m_mayReplace = false;
+};
+
+} // namespace VyrHost::Cli

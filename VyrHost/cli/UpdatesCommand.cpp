@@ -1,0 +1,98 @@
+// Declares and runs "vyr updates".
+#include <VyrHost/cli/UpdatesCommand.h>
+
+#include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/Messages.h>
+#include <VyrHost/text/SafeText.h>
+#include <VyrHost/ui/OutputBuffer.h>
+#include <VyrLibraryFuncs/xmlinfo/UpdatesFuncs.h>
+#include <VyrLibraryUtils/DateTimeUtils.h>
+#include <VyrLibraryUtils/PathUtils.h>
+#include <VyrPlatform/time/COleDateTime.h>
+
+#include <CLI/CLI.hpp>
+
+#include <limits>
+#include <string>
+#include <utility>
+
+namespace VyrHost::Cli {
+
+namespace {
+
+using VyrLibraryFuncs::UpdatesFuncs;
+using VyrLibraryUtils::DateTimeUtils;
+using VyrLibraryUtils::PathUtils;
+
+/// When the update information was last read, as people see it.
+std::string LastLook()
+{
+    const CString date = UpdatesFuncs::GetCheckedDate();
+    return date.IsEmpty() ? std::string("never") : Text::SafeText(date);
+}
+
+/// Whether `days` have passed since the last look. One that is not known counts as long ago.
+bool IsDue(int days)
+{
+    constexpr int mode = 1;
+    constexpr std::uint32_t userLocale = 1024;
+    const COleDateTime last = DateTimeUtils::GetParseDateTime(UpdatesFuncs::GetCheckedDate(), mode, 0, userLocale);
+    return last.GetStatus() != COleDateTime::valid || UpdatesFuncs::IsDateIntervalCheckForUpdates(days) == 1;
+}
+
+void WriteRelease(Ui::OutputBuffer& output)
+{
+    const std::pair<const char*, CString> lines[] = {
+        {"Product:  ", UpdatesFuncs::GetProductName()}, {"Version:  ", UpdatesFuncs::GetVersion()},
+        {"Edition:  ", UpdatesFuncs::GetEdition()},     {"Type:     ", UpdatesFuncs::GetType()},
+        {"Bits:     ", UpdatesFuncs::GetPlatformBit()}, {"Details:  ", UpdatesFuncs::GetDetailsURL()},
+        {"Download: ", UpdatesFuncs::GetDownloadURL()}};
+    for (const auto& [name, value] : lines)
+        if (!value.IsEmpty())
+            output << name << Text::SafeText(value) << "\n";
+    for (const UpdatesFuncs::UPDATEITEM& item : UpdatesFuncs::GetUpdateItemsList())
+        output << "- " << Text::SafeText(item.description) << "\n";
+}
+
+} // namespace
+
+UpdatesCommand::UpdatesCommand(CLI::App& program)
+    : m_command(*program.add_subcommand("updates", "Tell whether a newer release is offered"))
+{
+    m_command.add_option("--every", m_days, "Look only if the last look was so many days ago or more, or never")
+        ->type_name("DAYS")
+        ->check(CLI::Range(0, std::numeric_limits<int>::max()).description(""));
+    m_command.footer(ExitCode::Table);
+}
+
+bool UpdatesCommand::IsChosen() const
+{
+    return m_command.parsed();
+}
+
+int UpdatesCommand::Run() const
+{
+    const CString address = UpdatesFuncs::GetCheckForUpdatesUrl();
+    if (address.IsEmpty()) {
+        Complain("no address of update information is known; it is \"Url\" in the section \"Updates\" of " +
+                 Text::SafeText(PathUtils::GetLocalDataUpdatesFilePath()));
+        return ExitCode::Blocked;
+    }
+    UpdatesFuncs::LoadCheckForUpdatesDate();
+    Ui::OutputBuffer output;
+    output << "Last look: " << LastLook() << "\n";
+    if (!IsDue(m_days))
+        return Finish(output, ExitCode::Success);
+    if (UpdatesFuncs::GetUpdatesInformation(address) == 0) {
+        output.Flush();
+        Complain("the update information at " + Text::SafeText(address) + " cannot be read");
+        return ExitCode::Blocked;
+    }
+    UpdatesFuncs::SaveCheckForUpdatesDate();
+    WriteRelease(output);
+    const bool isNewer = UpdatesFuncs::CheckForUpdates(UpdatesFuncs::GetVersion()) == 1;
+    output << (isNewer ? "This is newer than this program.\n" : "This is not newer than this program.\n");
+    return Finish(output, ExitCode::Success);
+}
+
+} // namespace VyrHost::Cli

@@ -1,0 +1,246 @@
+// Lists of records as pages for a browser.
+#include <VyrHost/reports/RecordReport.h>
+
+#include <VyrHost/reports/HtmlText.h>
+#include <VyrHost/reports/PageParts.h>
+#include <VyrLibraryFuncs/html/HtmlFuncs.h>
+#include <VyrLibraryFuncs/html/OutputFuncs.h>
+#include <VyrLibraryUtils/DateTimeUtils.h>
+#include <VyrPlatform/text/Encoding.h>
+
+#include <utility>
+
+namespace VyrHost::Reports {
+
+namespace {
+
+using VyrLibraryFuncs::HtmlFuncs;
+using VyrLibraryFuncs::OutputFuncs;
+using VyrPlatform::Encoding::ToUtf8;
+
+constexpr const char16_t* slot = u"%s";
+constexpr std::size_t pieceSize = 1 << 16;
+
+std::string Escaped(std::u16string_view text)
+{
+    std::string html;
+    AppendEscaped(html, text);
+    return html;
+}
+
+/// `text` escaped, as the tags of HtmlFuncs take it.
+CString EscapedArgument(std::u16string_view text)
+{
+    return VyrPlatform::Encoding::FromUtf8(Escaped(text));
+}
+
+std::u16string_view ClassOf(Ui::RecordKind kind)
+{
+    switch (kind) {
+    case Ui::RecordKind::Number:
+        return u"number";
+    case Ui::RecordKind::Size:
+        return u"size";
+    case Ui::RecordKind::Date:
+        return u"date";
+    case Ui::RecordKind::Flag:
+        return u"flag";
+    default:
+        return u"text";
+    }
+}
+
+std::u16string_view ClassOf(Ui::Tone tone)
+{
+    switch (tone) {
+    case Ui::Tone::Faint:
+        return u"faint";
+    case Ui::Tone::Notable:
+        return u"notable";
+    case Ui::Tone::Bad:
+        return u"bad";
+    default:
+        return {};
+    }
+}
+
+/// A tag made once with slots in it, which are filled for each cell.
+class TagWithSlots
+{
+public:
+    explicit TagWithSlots(const CString& tag)
+    {
+        std::string rest = ToUtf8(tag);
+        for (std::size_t found; (found = rest.find("%s")) != std::string::npos; rest.erase(0, found + 2))
+            m_parts.push_back(rest.substr(0, found));
+        m_parts.push_back(rest);
+    }
+
+    void Append(std::string& html, std::initializer_list<std::string_view> values) const
+    {
+        auto part = m_parts.begin();
+        html += *part;
+        for (const std::string_view value : values)
+            html.append(value).append(*++part);
+    }
+
+private:
+    std::vector<std::string> m_parts;
+};
+
+/// The tags of a column's cells.
+struct CellTags
+{
+    std::string plain;
+    /// With an id and the value to sort by.
+    TagWithSlots valued;
+};
+
+class RecordReport
+{
+public:
+    RecordReport(const TakePiece& take, const Ui::RecordTable& table) : m_take(take), m_table(table)
+    {
+        for (const std::size_t column : table.shown) {
+            const CString name = ClassOf(table.columns[column].kind);
+            m_cells.push_back({ToUtf8(HtmlFuncs::GetTdTag(name)),
+                               TagWithSlots(HtmlFuncs::GetTdTag(name, slot, u"data-value=\"%s\""))});
+        }
+    }
+
+    void Write(const ReportText& text, const Design& design)
+    {
+        WriteHead(text, design);
+        Tag(HtmlFuncs::GetBodyTag());
+        WriteHeading(text);
+        m_html += PageParts::mainBeginning;
+        WriteList();
+        m_html += PageParts::mainEnd;
+        WriteFooter();
+        m_html += PageParts::script;
+        Tag(HtmlFuncs::GetBodyClosingTag());
+        Tag(HtmlFuncs::GetHtmlClosingTag());
+        m_take(m_html);
+    }
+
+private:
+    void Tag(const CString& tag) { VyrPlatform::Encoding::AppendUtf8(m_html, tag); }
+
+    void WriteHead(const ReportText& text, const Design& design)
+    {
+        Tag(HtmlFuncs::GetDoctypeTag());
+        Tag(HtmlFuncs::GetHtmlTag(u"en"));
+        Tag(HtmlFuncs::GetHeadTag());
+        Tag(HtmlFuncs::GetMetaContentTypeTag(u"utf-8"));
+        m_html += PageParts::headElements;
+        Tag(HtmlFuncs::GetMetaGeneratorTag(EscapedArgument(OutputFuncs::GetGeneratorOutputString(u"vyr"))));
+        Tag(HtmlFuncs::GetTitleTag(EscapedArgument(text.title)));
+        m_html += PageParts::styleBeginning;
+        m_html += PageParts::style;
+        Tag(design.style);
+        m_html += PageParts::styleEnd;
+        Tag(HtmlFuncs::GetHeadClosingTag());
+    }
+
+    void WriteHeading(const ReportText& text)
+    {
+        Tag(HtmlFuncs::GetHeaderTag(u"heading", u"heading"));
+        Tag(HtmlFuncs::GetH1PairTag(u"title", EscapedArgument(text.title)));
+        Tag(HtmlFuncs::GetPTag(u"total"));
+        AppendEscaped(m_html, text.total);
+        Tag(HtmlFuncs::GetPClosingTag());
+        Tag(HtmlFuncs::GetDivPairTag(u"tools", u"tools", {}, 1));
+        Tag(HtmlFuncs::GetHeaderClosingTag());
+    }
+
+    void WriteList()
+    {
+        Tag(HtmlFuncs::GetDivTag(u"list", u"list", u"role=\"region\" aria-label=\"List\" tabindex=\"0\""));
+        Tag(HtmlFuncs::GetTableTag(u"records", u"records"));
+        Tag(HtmlFuncs::GetTheadTag());
+        Tag(HtmlFuncs::GetTrTag());
+        for (const std::size_t column : m_table.shown)
+            Tag(HtmlFuncs::GetThPairTag(
+                ClassOf(m_table.columns[column].kind),
+                EscapedArgument(VyrPlatform::Encoding::FromUtf8(m_table.columns[column].heading))));
+        Tag(HtmlFuncs::GetTrClosingTag());
+        Tag(HtmlFuncs::GetTheadClosingTag());
+        Tag(HtmlFuncs::GetTbodyTag());
+        for (const std::size_t row : m_table.rows)
+            WriteRow(row);
+        Tag(HtmlFuncs::GetTbodyClosingTag());
+        Tag(HtmlFuncs::GetTableClosingTag());
+        Tag(HtmlFuncs::GetDivClosingTag(1));
+    }
+
+    void WriteRow(std::size_t row)
+    {
+        const std::u16string_view tone = m_table.toneOf ? ClassOf(m_table.toneOf(row)) : std::u16string_view();
+        if (tone.empty())
+            m_html += m_rowTag;
+        else
+            Tag(HtmlFuncs::GetTrTag(tone));
+        for (std::size_t place = 0; place < m_table.shown.size(); ++place)
+            WriteCell(row, place);
+        m_html.append(m_rowEnd).append("\r\n");
+        if (m_html.size() >= pieceSize) {
+            m_take(m_html);
+            m_html.clear();
+        }
+    }
+
+    void WriteCell(std::size_t row, std::size_t place)
+    {
+        const Ui::RecordKind kind = m_table.columns[m_table.shown[place]].kind;
+        const Ui::RecordValue value = m_table.valueAt(row, m_table.shown[place]);
+        const CString shown = Ui::ShownText(value, kind);
+        if (kind == Ui::RecordKind::Text || std::holds_alternative<std::monostate>(value)) {
+            m_html += m_cells[place].plain;
+            WriteText(shown);
+        } else {
+            const std::string id = "r" + std::to_string(row) + "c" + std::to_string(place);
+            m_cells[place].valued.Append(m_html, {id, Escaped(Ui::PlainText(value))});
+            AppendEscaped(m_html, shown);
+        }
+        m_html += m_cellEnd;
+    }
+
+    void WriteText(const CString& text)
+    {
+        const std::optional<std::string> link = LinkTo(text);
+        if (link)
+            m_linkTag.Append(m_html, {*link});
+        AppendEscaped(m_html, text);
+        if (link)
+            m_html += m_linkEnd;
+    }
+
+    void WriteFooter()
+    {
+        Tag(HtmlFuncs::GetFooterTag(u"footer", u"footer"));
+        AppendEscaped(m_html, OutputFuncs::GetGeneratorOutputString(u"vyr"));
+        m_html += ", ";
+        AppendEscaped(m_html, VyrLibraryUtils::DateTimeUtils::GetCurrentDateTime());
+        Tag(HtmlFuncs::GetFooterClosingTag());
+    }
+
+    const TakePiece& m_take;
+    const Ui::RecordTable& m_table;
+    std::string m_html;
+    std::vector<CellTags> m_cells;
+    const std::string m_rowTag = ToUtf8(HtmlFuncs::GetTrTag());
+    const std::string m_rowEnd = ToUtf8(HtmlFuncs::GetTrClosingTag());
+    const std::string m_cellEnd = ToUtf8(HtmlFuncs::GetTdClosingTag());
+    const TagWithSlots m_linkTag{HtmlFuncs::GetATag(slot)};
+    const std::string m_linkEnd = ToUtf8(HtmlFuncs::GetAClosingTag());
+};
+
+} // namespace
+
+void WriteRecordReport(const TakePiece& take, const Ui::RecordTable& table, const ReportText& text,
+                       const Design& design)
+{
+    RecordReport(take, table).Write(text, design);
+}
+
+} // namespace VyrHost::Reports

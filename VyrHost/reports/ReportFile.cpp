@@ -1,0 +1,53 @@
+// The file of a report, which is there whole or not at all.
+#include <VyrHost/reports/ReportFile.h>
+
+#include <VyrHost/text/UsageError.h>
+#include <VyrHostPlatform/DurableFile.h>
+#include <VyrHostPlatform/RenameFile.h>
+#include <VyrPlatform/files/FileSystem.h>
+
+namespace VyrHost::Reports {
+
+namespace {
+
+using VyrHostPlatform::RenameNoReplace;
+namespace DurableFile = VyrHostPlatform::DurableFile;
+namespace FileSystem = VyrPlatform::FileSystem;
+
+/// Gives the file `part` the name `path`, in place of the file that has it.
+std::uint32_t Replace(const CString& part, const CString& path)
+{
+    const CString former = path + u".former";
+    if (const std::uint32_t error = RenameNoReplace(path, former))
+        return error;
+    if (const std::uint32_t error = RenameNoReplace(part, path)) {
+        static_cast<void>(RenameNoReplace(former, path));
+        return error;
+    }
+    return DurableFile::Remove(former);
+}
+
+} // namespace
+
+void CheckReportFile(const CString& path, bool mayReplace)
+{
+    if (FileSystem::IsFolder(path))
+        Text::RefuseValue("--html", path, "it is a folder");
+    if (!mayReplace && FileSystem::Exists(path))
+        Text::RefuseValue("--html", path, "it exists; --overwrite replaces it");
+}
+
+std::uint32_t WriteReportFile(const CString& path, bool mayReplace,
+                              const std::function<void(const TakePiece& take)>& content)
+{
+    const CString part = path + u".part";
+    if (const std::uint32_t error = DurableFile::WriteNew(part, content))
+        return error;
+    const bool isReplaced = mayReplace && FileSystem::Exists(path);
+    const std::uint32_t error = isReplaced ? Replace(part, path) : RenameNoReplace(part, path);
+    if (error != 0)
+        static_cast<void>(DurableFile::Remove(part));
+    return error;
+}
+
+} // namespace VyrHost::Reports

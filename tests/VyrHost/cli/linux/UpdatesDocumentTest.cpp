@@ -1,0 +1,83 @@
+// Tests of the program: update information that is known, read from the data folders that a test gives it.
+#include "../VyrProgram.h"
+
+#include <gmock/gmock.h>
+
+using namespace VyrTests;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+class UpdateInformation : public VyrProgram
+{
+protected:
+    UpdateInformation()
+    {
+        m_environment[u"XDG_DATA_HOME"] = m_data.Path(u"data");
+        m_environment[u"XDG_CONFIG_HOME"] = m_data.Path(u"config");
+        Say("<r><update name='Product' version='99.0.0.0' detailsURL='https://example.org'><moreinfo><item>"
+            "<description>A line</description></item></moreinfo></update></r>");
+        m_data.MakeFolder(u"data");
+        m_data.MakeFolder(u"data/VyrLibrary");
+        m_data.WriteFile(u"data/VyrLibrary/Updates.ini",
+                         "[Updates]\nUrl=" + VyrPlatform::Encoding::ToUtf8(m_data.Path(u"u.xml")) + "\n");
+    }
+
+    void Say(const std::string& document) const { m_data.WriteFile(u"u.xml", document); }
+
+    ScratchFolder m_data;
+};
+
+} // namespace
+
+TEST_F(UpdateInformation, NewerReleaseIsTold)
+{
+    const ProgramResult result = Run({u"updates"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    EXPECT_THAT(result.output, HasSubstr("Last look: never\n"));
+    EXPECT_THAT(result.output, HasSubstr("Product:  Product\nVersion:  99.0.0.0\nDetails:  https://example.org\n"
+                                         "- A line\nThis is newer than this program.\n"));
+}
+
+TEST_F(UpdateInformation, OldReleaseIsNotNewer)
+{
+    Say("<r><update version='0.0.0.1'/></r>");
+    EXPECT_THAT(Run({u"updates"}).output, HasSubstr("This is not newer than this program.\n"));
+}
+
+TEST_F(UpdateInformation, LookIsLeftOutUntilItIsDue)
+{
+    EXPECT_THAT(Run({u"updates", u"--every", u"7"}).output, HasSubstr("99.0.0.0")) << "never looked";
+    const ProgramResult again = Run({u"updates", u"--every", u"7"});
+    EXPECT_EQ(again.exitCode, 0);
+    EXPECT_THAT(again.output, Not(HasSubstr("99.0.0.0")));
+    EXPECT_THAT(again.output, Not(HasSubstr("never")));
+    EXPECT_THAT(Run({u"updates", u"--every", u"0"}).output, HasSubstr("99.0.0.0"));
+}
+
+TEST_F(UpdateInformation, DocumentThatCannotBeReadIsAMessage)
+{
+    for (const char* const document : {"", "not XML", "<r/>"}) {
+        Say(document);
+        const ProgramResult result = Run({u"updates"});
+        EXPECT_EQ(result.exitCode, 4) << document;
+        EXPECT_THAT(result.errors, HasSubstr("cannot be read"));
+    }
+}
+
+TEST_F(UpdateInformation, DateOutsideTheCalendarIsAMessage)
+{
+    m_data.MakeFolder(u"config");
+    m_data.MakeFolder(u"config/VyrLibrary");
+    m_data.WriteFile(u"config/VyrLibrary/Updates.ini", "[Updates]\nCheckedDate=1200/01/01 00:00:00\n");
+    const ProgramResult result = Run({u"updates", u"--every", u"1"});
+    EXPECT_EQ(result.exitCode, 4);
+    EXPECT_THAT(result.errors, HasSubstr("outside the calendar"));
+}
+
+TEST_F(UpdateInformation, VersionTellsTheReleaseStage)
+{
+    m_data.WriteFile(u"data/VyrLibrary/Application.ini", "[Application]\nVersion=RC1\n");
+    EXPECT_THAT(Run({u"--version"}).output, testing::EndsWith(" RC1\n"));
+}
