@@ -1,5 +1,5 @@
 /// @file
-/// Writing that is known to be on the disk, and the lock that only one program holds at a time.
+/// Files that are flushed to the disk, and a lock that one program at a time can hold.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -10,27 +10,26 @@
 
 namespace VyrHostPlatform::DurableFile {
 
-/// Takes a piece of a file's content.
+/// Receives a piece of a file's content.
 using TakePiece = std::function<void(std::string_view piece)>;
-/// Gives the content of a file to `take`, piece by piece: a long one need not stand in memory as a whole.
+/// Gives the content of a file to `take`, piece by piece, so that long content need not be in memory as a whole.
 using Content = std::function<void(const TakePiece& take)>;
 
-/// Makes the file `path`, for its owner's eyes alone, with `content`, and waits until that is on the disk. The name is
-/// there for good only after FlushFolder.
-/// @param content called once at most; what it throws is passed on, and a part of the file is left.
-/// @return 0, else the system's error code (a file that exists already is an error), and then no file of this call is
-/// left.
+/// Creates the file `path`, which only its owner may read, with `content`, and flushes it to the disk. The name itself
+/// is safe only after FlushFolder.
+/// @param content called at most once; an exception from it is passed on, and leaves an incomplete file.
+/// @return 0, else the system's error code (a file that exists already is an error), and then the file is removed.
 [[nodiscard]] std::uint32_t WriteNew(const CString& path, const Content& content);
 
-/// Writes `content` behind what the file `path` holds. It comes to the disk in the system's own time.
+/// Appends `content` to the file `path`, without flushing it.
 /// @return 0, else the system's error code; a part of `content` may then have been written.
 [[nodiscard]] std::uint32_t Append(const CString& path, std::string_view content);
 
-/// Takes the file `path` away.
+/// Removes the file `path`.
 /// @return 0, else the system's error code.
 [[nodiscard]] std::uint32_t Remove(const CString& path);
 
-/// Waits until the names in the folder `path` are on the disk (on Windows the file system sees to that by itself).
+/// Flushes the names in the folder `path` to the disk (on Windows the file system does so by itself).
 /// @return 0, else the system's error code.
 [[nodiscard]] std::uint32_t FlushFolder(const CString& path);
 
@@ -38,11 +37,11 @@ using Content = std::function<void(const TakePiece& take)>;
 
 namespace VyrHostPlatform {
 
-/// A lock between programs: held until the object ends, or the program in whatever way.
+/// A lock between programs. It is held until the object is destroyed or the program ends, however it ends.
 class FileLock
 {
 public:
-    /// Takes the lock that the file at `path` stands for, without waiting; the file is made when it is not there.
+    /// Takes the lock of the file at `path`, without waiting; creates the file when it is missing.
     explicit FileLock(const CString& path);
     FileLock(const FileLock&) = delete;
     FileLock& operator=(const FileLock&) = delete;
@@ -51,7 +50,7 @@ public:
     [[nodiscard]] bool IsHeld() const noexcept { return m_error == 0; }
     /// Why the lock is not held: the system's error code, else 0.
     [[nodiscard]] std::uint32_t Error() const noexcept { return m_error; }
-    /// Whether it is not held because another holds it.
+    /// Whether another program holds the lock.
     [[nodiscard]] bool IsTaken() const noexcept { return m_isTaken; }
 
 private:

@@ -12,13 +12,13 @@ namespace VyrHostPlatform {
 
 struct EditedText
 {
-    /// What the user left behind; nothing when that did not work.
+    /// The text as the user saved it; nothing when editing failed.
     std::optional<std::string> text;
-    /// Why not, for people.
+    /// Why editing failed, for people.
     CString error;
 };
 
-/// A text in a temporary file, for the user to edit. The file is removed at the end of its life, unless it is kept.
+/// A text in a temporary file, for the user to edit. The destructor removes the file unless Keep was called.
 class EditorFile
 {
 public:

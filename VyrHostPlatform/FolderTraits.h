@@ -1,5 +1,5 @@
 /// @file
-/// What a folder has besides its entries and times.
+/// Owner, permissions and extended attributes of a folder.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -12,7 +12,7 @@
 
 namespace VyrHostPlatform {
 
-/// Taken of one folder to be given to another one.
+/// Read from one folder, to be given to another.
 struct FolderTraits
 {
     /// On Linux the permissions (the low twelve bits of the mode), on Windows the attributes.
@@ -24,18 +24,18 @@ struct FolderTraits
     std::vector<std::pair<std::string, std::string>> extended;
 };
 
-/// The traits of the folder at `path`; nothing where there is none. On Linux those of a folder that may not
-/// be read, too, without the extended attributes that are kept from the user with it.
+/// The traits of the folder at `path`; nothing when there is no folder. On Linux also those of a folder that the user
+/// may not read, without the extended attributes that need that permission.
 [[nodiscard]] std::optional<FolderTraits> GetFolderTraits(const CString& path);
 
-/// Gives the folder at `path` the owner and the extended attributes of `traits`. What the user may not give, or the
-/// file system cannot keep, is left out. On Linux a folder that its owner may not read becomes one that the owner may:
-/// SetFolderMode comes afterwards.
+/// Gives the folder at `path` the owner and the extended attributes of `traits`. Leaves out those that the user may not
+/// set or the file system cannot keep. On Linux it makes the folder readable for its owner: call SetFolderMode
+/// afterwards.
 /// @return 0, or the system's error code.
 [[nodiscard]] std::uint32_t SetFolderExtras(const CString& path, const FolderTraits& traits);
 
-/// Gives the folder at `path` the permissions or attributes of `traits`; on Linux without the set-id bits unless it has
-/// the owner and group, too. It comes last, since a folder that may not be written takes no extended attributes.
+/// Gives the folder at `path` the permissions or attributes of `traits`; on Linux without the set-id bits unless owner
+/// and group are the same. Call it last: a read-only folder takes no extended attributes.
 /// @return 0, or the system's error code.
 [[nodiscard]] std::uint32_t SetFolderMode(const CString& path, const FolderTraits& traits);
 

@@ -1,10 +1,10 @@
 /// @file
-/// The user's wish to end a long work (Ctrl-C), or the end of the terminal.
+/// The user interrupts the program (Ctrl-C), or the terminal is closed.
 #pragma once
 
 namespace VyrHostPlatform::Interrupt {
 
-/// From now on an interrupt is noted instead of ending the program; a second one ends it.
+/// From now on the first interrupt is noted and does not end the program; the second one ends it.
 void Catch();
 /// Whether an interrupt was noted.
 [[nodiscard]] bool WasAsked() noexcept;

@@ -1,5 +1,5 @@
 /// @file
-/// Which names a folder takes for one and the same.
+/// Which names are equal in a folder.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -8,10 +8,10 @@
 
 namespace VyrHostPlatform {
 
-/// What a folder's file system overlooks when it compares names.
+/// What a file system ignores when it compares the names of a folder.
 enum class NameFolding : std::uint8_t
 {
-    /// Nothing: every name that differs is another name.
+    /// Nothing: names that differ in one byte are different names.
     None = 0,
     /// Upper and lower case.
     Case = 1,
@@ -20,17 +20,17 @@ enum class NameFolding : std::uint8_t
     CaseAndForm = 3
 };
 
-/// How the folder at `path` compares names. Where that folder is not there yet, its nearest parent that is answers for
-/// it. A file system that does not tell is tried, without changing anything, on a name that the folder has.
+/// How the folder at `path` compares names. A folder that does not exist yet counts as its nearest existing parent.
+/// Where the file system does not tell, it is tried on a name that the folder has, without changing anything.
 [[nodiscard]] NameFolding GetNameFolding(const CString& path);
 
-/// The key of `name`: two names of a folder are one to its file system when their keys are equal. The name itself (no
-/// copy is made) under NameFolding::None.
+/// The key of `name`: two names are equal in a folder when their keys are equal. `A.JPG` and `a.jpg` have one key under
+/// NameFolding::Case. Under NameFolding::None the key is the name itself, without a copy.
 [[nodiscard]] CString FoldName(const CString& name, NameFolding folding);
 
-/// Whether the folder at `path`, which is there, takes the names `left` and `right` for one. This is tried with empty
-/// folders in a new one, which is removed again: for names of which much depends, since an empty folder may be one of
-/// those whose file system tells nothing. False, too, where nothing can be made there.
+/// Whether `left` and `right` are equal names in the existing folder `path`. Tries it with empty folders in a new
+/// subfolder, and removes them: use it where much depends on the answer, since NameFolding of an empty folder may be
+/// unknown. False also when the user may not create folders there.
 [[nodiscard]] bool TryIsOneName(const CString& path, const CString& left, const CString& right);
 
 } // namespace VyrHostPlatform

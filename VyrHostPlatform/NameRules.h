@@ -1,5 +1,5 @@
 /// @file
-/// What a name of a file or folder may be.
+/// Which names of files and folders are valid.
 #pragma once
 
 #include <cstdint>
@@ -26,12 +26,12 @@ enum class NameFault : std::uint8_t
 struct NameVerdict
 {
     NameFault fault = NameFault::None;
-    /// This system takes no such name. When false, the name is a bad one on Windows alone.
+    /// Whether the name is invalid on this system; false when it is invalid on Windows only.
     bool isError = false;
 };
 
-/// Judges `name` (without a folder) by the rules of both systems; an error of this system comes before a fault that
-/// matters elsewhere. (Windows: "Naming Files, Paths, and Namespaces" in the Win32 documentation.)
+/// Checks `name` (without a folder) by the rules of both systems. A fault on this system is reported before one on the
+/// other. (Windows: "Naming Files, Paths, and Namespaces" in the Win32 documentation.)
 [[nodiscard]] NameVerdict CheckName(std::u16string_view name);
 
 } // namespace VyrHostPlatform

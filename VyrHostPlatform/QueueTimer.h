@@ -1,5 +1,5 @@
 /// @file
-/// Work that comes up from time to time while a thread drains its queue.
+/// Calls a function at intervals while a thread drains its queue.
 #pragma once
 
 #include <chrono>
@@ -7,9 +7,9 @@
 
 namespace VyrHostPlatform {
 
-/// Has the drains of the thread that made it (MessageQueue.h) call a function from time to time, as long as it lives: a
-/// host's way to show how far a library's long operation is. A thread has one at a time; on Linux it takes the place of
-/// a main loop that is plugged in (LinuxMessageQueue.h). Threads without one pay nothing for it.
+/// While it exists, the drains (MessageQueue.h) of the thread that created it call a function at intervals: a host
+/// shows the progress of a long operation so. A thread has one at a time; on Linux it replaces a main loop that is
+/// plugged in (LinuxMessageQueue.h). Threads without one pay nothing for it.
 class QueueTimer
 {
 public:

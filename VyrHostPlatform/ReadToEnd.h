@@ -1,5 +1,5 @@
 /// @file
-/// Reading what a user names, once, from its beginning to its end.
+/// Reads a file or pipe that the user names, from beginning to end.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -10,8 +10,8 @@
 
 namespace VyrHostPlatform {
 
-/// All that a file holds, or that comes through a pipe or is typed at a terminal: it waits for those to end. Other
-/// devices, which may never end, are an error.
+/// The whole content of a file, a pipe or a terminal; waits for the end of the last two. Other devices may never end
+/// and are an error.
 /// @param error  set to the system's error code where it cannot be opened or read to its end, else to 0.
 /// @return nothing after an error.
 [[nodiscard]] std::optional<std::string> ReadToEnd(const CString& path, std::uint32_t& error);

@@ -1,5 +1,5 @@
 /// @file
-/// The rename that never replaces anything.
+/// Renames that never replace anything.
 #pragma once
 
 #include <VyrPlatform/files/FileIdentity.h>
@@ -9,12 +9,12 @@
 
 namespace VyrHostPlatform {
 
-/// Gives what stands at `from` (a file, a folder, a link itself) the path `to` on the same file system. The system
-/// itself refuses when anything stands at `to`, without a moment between the look and the rename.
+/// Renames the file, the folder or the link itself at `from` to `to` on the same file system. When anything exists at
+/// `to`, the system itself refuses, so that no other program can create it between check and rename.
 ///
-/// Where a Linux file system lacks such a rename, a file gets its new name as a second link before the old one is taken
-/// away, and a folder is renamed after a look (a rename onto a folder that holds something is refused by every system).
-/// What can be renamed safely in neither way is refused.
+/// Some Linux file systems lack such a rename. There a file gets the new name as a second link before the old name is
+/// removed, and a folder is renamed after a check (every system refuses to replace a folder that is not empty).
+/// Anything else is refused.
 /// @return 0 when it was renamed, else the system's error code, and nothing has changed.
 [[nodiscard]] std::uint32_t RenameNoReplace(const CString& from, const CString& to);
 
@@ -23,10 +23,9 @@ namespace VyrHostPlatform {
 /// Whether RenameNoReplace answers `error` because the new path is on another file system.
 [[nodiscard]] bool IsOtherFileSystem(std::uint32_t error) noexcept;
 
-/// One folder whose entries are looked at and renamed by their names alone, which is quicker than by their paths.
+/// A folder whose entries are examined and renamed by name, which is quicker than by path.
 ///
-/// The names are single parts of a path, never empty, "." or "..". When the folder or one above it has been renamed,
-/// make the object anew.
+/// A name is one part of a path, never empty, "." or "..". After a rename of the folder or of a parent, open it again.
 class OpenFolder
 {
 public:
@@ -45,16 +44,16 @@ public:
     /// RenameNoReplace from the entry `name` to `newName` in `target`, which may be this folder. Both are open.
     [[nodiscard]] std::uint32_t RenameNoReplace(std::u16string_view name, const OpenFolder& target,
                                                 std::u16string_view newName) const;
-    /// Ends a rename that was cut off between its two halves (see RenameNoReplace): takes the name `name` away from a
-    /// file that has the name `keptName` in `kept` too.
-    /// @return 0 when it was taken away, else the system's error code (also when the two are not names of one file).
+    /// Completes a rename that was killed between linking and unlinking (see RenameNoReplace): removes the name `name`
+    /// of a file that also has the name `keptName` in `kept`.
+    /// @return 0 when it was removed, else the system's error code (also when the two are not names of one file).
     [[nodiscard]] std::uint32_t DropSecondName(std::u16string_view name, const OpenFolder& kept,
                                                std::u16string_view keptName) const;
-    /// Makes the folder `name` in this one.
-    /// @return 0 when it was made, else the system's error code (one that exists already is an error).
+    /// Creates the folder `name` in this folder.
+    /// @return 0 when it was created, else the system's error code (one that exists already is an error).
     [[nodiscard]] std::uint32_t MakeFolder(std::u16string_view name) const;
-    /// Takes the folder `name` away when it is empty.
-    /// @return 0 when it is gone, else the system's error code.
+    /// Removes the folder `name` when it is empty.
+    /// @return 0 when it was removed, else the system's error code.
     [[nodiscard]] std::uint32_t RemoveEmptyFolder(std::u16string_view name) const;
 
 private:

@@ -1,4 +1,4 @@
-// Looks the user's editor up.
+// Finds the command of the user's editor.
 #include <VyrHostPlatform/common/EditorCommand.h>
 
 #include <VyrPlatform/process/Process.h>

@@ -1,4 +1,4 @@
-// Tries whether two names are one.
+// Tries whether two names are equal.
 #include <VyrHostPlatform/NameFolding.h>
 
 #include <VyrPlatform/common/files/TemporaryPath.h>

@@ -1,4 +1,4 @@
-// Judges names: the rules of Windows stand here for both systems, since files travel.
+// Checks names. The rules of Windows stand here for both systems, since files travel.
 #include <VyrHostPlatform/NameRules.h>
 
 #include <VyrHostPlatform/common/SystemNameRules.h>
@@ -51,7 +51,7 @@ bool HasForbiddenOnWindows(std::u16string_view name)
                        [](char16_t unit) { return unit < windowsForbidden.size() && windowsForbidden[unit]; });
 }
 
-/// The first fault that this system itself does not take.
+/// The first fault for which this system refuses a name.
 NameFault FindError(std::u16string_view name)
 {
     if (name.empty() || name == u"." || name == u"..")

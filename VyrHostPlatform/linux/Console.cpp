@@ -33,7 +33,7 @@ sigset_t SetOf(std::initializer_list<int> signals) noexcept
     return set;
 }
 
-/// Makes signals to the calling thread wait for the end of its life.
+/// Blocks signals to the calling thread while it exists.
 class SignalsBlocked
 {
 public:
@@ -53,8 +53,7 @@ private:
     sigset_t m_before;
 };
 
-/// Takes back the SIGPIPE that a failed write has left waiting, unless someone means to look at it, having blocked it
-/// before.
+/// Removes the SIGPIPE that a failed write has left pending, unless the caller had blocked it to handle it later.
 void DiscardPipeSignal(const SignalsBlocked& blocked) noexcept
 {
     if (::sigismember(&blocked.Before(), SIGPIPE))
@@ -68,7 +67,7 @@ void DiscardPipeSignal(const SignalsBlocked& blocked) noexcept
 /// Waits until there is input; false when an interrupt was noted before or comes meanwhile.
 bool WaitForInput()
 {
-    // Delivered only while waiting, so that none slips in between the look and the wait.
+    // Delivered only during the wait, so that none is missed between check and wait.
     const SignalsBlocked blocked({SIGINT, SIGTERM, SIGHUP});
     pollfd input{STDIN_FILENO, POLLIN, 0};
     while (!Interrupt::WasAsked()) {
@@ -110,8 +109,8 @@ int GetWidth(Stream stream)
 
 std::uint32_t Write(Stream stream, std::string_view bytes)
 {
-    // A closed pipe fails the write with EPIPE; its signal would end the program without a word. Blocking it for the
-    // moment, other than ignoring it, changes nothing that child processes inherit.
+    // A write to a closed pipe fails with EPIPE, but its signal would end the program silently. The signal is blocked
+    // and not ignored, because child processes inherit ignored signals.
     const SignalsBlocked blocked({SIGPIPE});
     while (!bytes.empty()) {
         const ssize_t written = ::write(Descriptor(stream), bytes.data(), bytes.size());

@@ -1,4 +1,4 @@
-// What a folder has besides its entries and times, on Linux: owner, mode, extended attributes.
+// The traits of a folder on Linux: owner, mode, extended attributes.
 #include <VyrHostPlatform/FolderTraits.h>
 
 #include <VyrPlatform/linux/files/Descriptor.h>
@@ -15,7 +15,7 @@ using namespace VyrPlatform;
 
 namespace {
 
-/// Opens the folder at `path`. Where its mode forbids that to its owner, the owner gets access before.
+/// Opens the folder at `path`. When its mode forbids that, its owner gets access first.
 int OpenFolder(const CString& path)
 {
     constexpr int how = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
@@ -32,7 +32,7 @@ int OpenFolder(const CString& path)
 
 std::optional<FolderTraits> GetFolderTraits(const CString& path)
 {
-    // By path: a folder that may not be read cannot be opened, but has its traits all the same.
+    // By path: a folder without read permission cannot be opened.
     const NativePath native(path);
     struct stat status;
     if (lstat(native.Get(), &status) != 0 || !S_ISDIR(status.st_mode))

@@ -13,7 +13,7 @@ static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler may not 
 
 void Note(int signal)
 {
-    // That the terminal is closed is told by the system and by the shell, so that the second time says nothing new.
+    // The system and the shell both send it when the terminal is closed: the second one is no second wish.
     if (!wasAsked.exchange(true) || signal == SIGHUP)
         return;
     // It is blocked while this handler runs, and ends the program when it returns.

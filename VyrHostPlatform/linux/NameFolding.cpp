@@ -1,4 +1,4 @@
-// Which names a folder takes for one, on Linux.
+// Which names are equal in a folder, on Linux.
 #include <VyrHostPlatform/NameFolding.h>
 
 #include <VyrPlatform/linux/files/Descriptor.h>
@@ -49,7 +49,7 @@ CString ParentOf(const CString& path)
     return separator > 0 ? path.Left(separator) : CString(u"/");
 }
 
-/// Opens the folder at `path`, or the nearest one above it that is there.
+/// Opens the folder at `path`, or its nearest existing parent.
 int OpenNearest(CString path) noexcept
 {
     for (;;) {
@@ -66,7 +66,7 @@ bool HasFoldingFlag(int folder) noexcept
     return ioctl(folder, FS_IOC_GETFLAGS, &flags) == 0 && (flags & FS_CASEFOLD_FL);
 }
 
-/// `name` with the case of its ASCII letters turned round.
+/// `name` with the case of its ASCII letters swapped.
 std::string TurnCase(std::string name)
 {
     for (char& letter : name)
@@ -104,7 +104,7 @@ std::u16string Compose(std::u16string_view text)
     return U_SUCCESS(error) ? Normalize(text, normalizer) : std::u16string(text);
 }
 
-/// `name` in the other one of the two normal forms.
+/// `name` in the other normal form.
 std::string TurnForm(const std::string& name)
 {
     const CString text = Encoding::FromNameBytes(name);
@@ -140,7 +140,7 @@ std::optional<bool> IsFoundAs(int folder, const std::string& name, const std::st
     return found.error == ENOENT ? std::optional(false) : std::nullopt;
 }
 
-/// Tries the folder on its own entries.
+/// Tries it on the entries of the folder.
 NameFolding TryFolding(int folder)
 {
     constexpr int mostEntries = 10'000;
@@ -183,7 +183,7 @@ void Append(std::u16string& text, UChar32 point)
     text += static_cast<char16_t>(point);
 }
 
-/// Folds the case of each letter to one letter, as file systems with a table of capitals do.
+/// Folds each letter to one letter, as file systems with a table of capitals do.
 std::u16string FoldLetters(std::u16string_view text)
 {
     std::u16string folded;
@@ -192,7 +192,7 @@ std::u16string FoldLetters(std::u16string_view text)
     return folded;
 }
 
-/// Full case folding, without the code points that no one sees, as ext4 compares (utf8_nfdicf of the kernel).
+/// Full case folding without invisible code points, as ext4 compares (utf8_nfdicf of the kernel).
 std::u16string FoldFully(std::u16string_view text)
 {
     std::u16string visible;

@@ -1,4 +1,4 @@
-// Timed work as a main loop whose only event is the passing of time.
+// A main loop whose only event is the timer.
 #include <VyrHostPlatform/QueueTimer.h>
 
 #include <VyrPlatform/process/LinuxMessageQueue.h>

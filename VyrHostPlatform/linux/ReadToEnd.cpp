@@ -15,7 +15,7 @@ using namespace VyrPlatform;
 
 namespace {
 
-/// @return 0 where `descriptor` comes to an end some time, else the error code.
+/// @return 0 when `descriptor` has an end (no endless device), else the error code.
 int CheckKind(int descriptor) noexcept
 {
     struct stat status;

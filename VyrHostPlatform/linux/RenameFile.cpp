@@ -28,8 +28,8 @@ std::uint32_t LastError() noexcept
     return static_cast<std::uint32_t>(errno);
 }
 
-/// For folders, which can have no second name. What comes to stand at `to` after the look is safe all the same: the
-/// system puts a folder in the place of an empty folder alone.
+/// For folders, which cannot have a second link. Anything created at `to` after the check is still safe: the system
+/// replaces only an empty folder.
 std::uint32_t LookAndRename(Place from, Place to) noexcept
 {
     const FileState target = LookAtFile(to.folder, to.name);
@@ -63,7 +63,7 @@ std::uint32_t Rename(Place from, Place to) noexcept
 {
     if (renameat2(from.folder, from.name, to.folder, to.name, RENAME_NOREPLACE) == 0)
         return 0;
-    // A file system that lacks the call answers EINVAL; so does one that has it, for a folder moved into itself, which
+    // A file system without this call answers EINVAL. One that has it answers so for a folder moved into itself, which
     // the other ways refuse too.
     const std::uint32_t error = LastError();
     return error == EINVAL || error == ENOSYS ? RenameInTwoCalls(from, to) : error;

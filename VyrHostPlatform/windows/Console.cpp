@@ -96,7 +96,7 @@ bool IsTerminal(Stream stream)
     DWORD mode = 0;
     if (!::GetConsoleMode(handle, &mode))
         return false;
-    // Whoever asks is about to send colours.
+    // The caller is about to send colours.
     ::SetConsoleMode(handle, mode | ENABLE_PROCESSED_OUTPUT | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
     return true;
 }
@@ -130,8 +130,8 @@ std::string ReadInput(std::uint32_t& error)
         return ReadText(input, error);
     std::string piece(largestPiece, '\0');
     DWORD count = 0;
-    // A pipe whose writer wrote nothing gives a piece of no bytes, which is not its end. A closed pipe fails, but one
-    // of the system below Wine gives no bytes either, time and again; nobody can look into it.
+    // A write of no bytes to a pipe reads as an empty piece, which is not the end. A closed pipe fails; under Wine a
+    // pipe of the Linux side gives empty pieces without end, and cannot be examined.
     BOOL succeeded = FALSE;
     do {
         succeeded = ::ReadFile(input, piece.data(), static_cast<DWORD>(piece.size()), &count, nullptr);

@@ -25,7 +25,7 @@ DWORD WriteAll(HANDLE file, std::string_view content) noexcept
     return ERROR_SUCCESS;
 }
 
-/// Closes `file` and answers `error`, or why closing failed.
+/// Closes `file`. @return `error`, or the error of closing.
 DWORD Close(Handle& file, DWORD error) noexcept
 {
     const DWORD closeError = file.Close();

@@ -1,4 +1,4 @@
-// What a folder has besides its entries and times, on Windows: its attributes.
+// The traits of a folder on Windows: its attributes.
 #include <VyrHostPlatform/FolderTraits.h>
 
 #include <VyrPlatform/windows/files/LongPath.h>
@@ -26,7 +26,7 @@ std::uint32_t SetFolderExtras(const CString&, const FolderTraits&)
 
 std::uint32_t SetFolderMode(const CString& path, const FolderTraits& traits)
 {
-    // The other bits tell of the disk, not of the folder, and are not taken.
+    // The other bits belong to the storage, not to the folder.
     constexpr DWORD settable = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |
                                FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
     const DWORD attributes = traits.mode & settable;

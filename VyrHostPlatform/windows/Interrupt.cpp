@@ -15,8 +15,8 @@ BOOL WINAPI Note(DWORD event)
     const bool askedBefore = wasAsked.exchange(true);
     if (event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT)
         return askedBefore ? FALSE : TRUE;
-    // The console is closing or the user logs off: Windows ends the program when this handler returns, at the latest
-    // some seconds from now. Until then the work may come to its end, which ends this thread too.
+    // The console is closed or the user logs off: Windows ends the program when this handler returns, at the latest
+    // after some seconds. Until then the work may finish, which ends this thread too.
     ::Sleep(INFINITE);
     return TRUE;
 }

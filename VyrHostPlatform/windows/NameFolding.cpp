@@ -1,4 +1,4 @@
-// Which names a folder takes for one, on Windows.
+// Which names are equal in a folder, on Windows.
 #include <VyrHostPlatform/NameFolding.h>
 
 #include <VyrPlatform/windows/files/OpenEntry.h>
@@ -27,7 +27,7 @@ CString ParentOf(const CString& path)
     return path.Left(std::max(path.ReverseFind(u'\\'), path.ReverseFind(u'/')));
 }
 
-/// Opens the folder at `path`, or the nearest one above it that is there.
+/// Opens the folder at `path`, or its nearest existing parent.
 Handle OpenNearest(CString path) noexcept
 {
     Handle folder;

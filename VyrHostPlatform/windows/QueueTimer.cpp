@@ -8,7 +8,7 @@ namespace VyrHostPlatform {
 
 namespace {
 
-/// What the timer of the calling thread calls: the system hands nothing but the timer's number on.
+/// The function of the calling thread's timer: the system passes only the number of the timer.
 thread_local std::function<void()> threadWork;
 thread_local UINT_PTR threadTimer = 0;
 

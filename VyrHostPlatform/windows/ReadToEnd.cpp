@@ -10,7 +10,7 @@ using namespace VyrPlatform;
 
 namespace {
 
-/// @return 0 where `file` comes to an end some time, else the error code.
+/// @return 0 when `file` has an end (no endless device), else the error code.
 DWORD CheckKind(HANDLE file) noexcept
 {
     DWORD mode = 0;

@@ -13,11 +13,11 @@ using namespace VyrPlatform;
 
 namespace {
 
-/// A folder held open could not be renamed, nor one above it, so that only its path is kept.
+/// Keeps only the path: an open folder and its parents could not be renamed.
 constexpr std::intptr_t noHandle = -1;
 
-/// The form in which the system changes nothing in a path: it would otherwise drop dots and blanks at the end of a
-/// name, and take some names for devices.
+/// The form of a path that the system does not change. In others it removes dots and blanks at the end of a name, and
+/// takes some names for devices.
 CString ToExactPath(const CString& fullPath)
 {
     CString path = fullPath;

@@ -13,7 +13,7 @@ std::string_view FileSource::Fetch(std::uint64_t offset, std::size_t count)
     if (offset + count <= m_beginning.size())
         return m_beginning.substr(static_cast<std::size_t>(offset), count);
     if (offset < m_windowOffset || offset + count > m_windowOffset + m_windowSize) {
-        // To ask for more than there is would cost one more call.
+        // A read past the end would cost one more call.
         const auto size = static_cast<std::size_t>(std::min<std::uint64_t>(m_window.size(), Size() - offset));
         m_windowOffset = offset;
         m_windowSize = m_file.ReadAt(offset, std::as_writable_bytes(std::span(m_window).first(size)));

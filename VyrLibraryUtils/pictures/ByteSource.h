@@ -24,8 +24,8 @@ public:
     virtual ~ByteSource() = default;
 
     [[nodiscard]] std::uint64_t Size() const noexcept { return m_size; }
-    /// The `count` bytes at `offset`, 1 to maximumFetch of them, valid until the next Fetch; an empty view unless all
-    /// of them are there.
+    /// The `count` bytes (1 to maximumFetch) at `offset`, valid until the next Fetch. An empty view when the source
+    /// ends before.
     [[nodiscard]] virtual std::string_view Fetch(std::uint64_t offset, std::size_t count) = 0;
 
 protected:
@@ -39,12 +39,12 @@ private:
     std::uint64_t m_size;
 };
 
-/// A file's bytes. What a picture says about itself mostly stands at its beginning, which has been read already; beyond
-/// it, one small window moves to where it is wanted.
+/// The bytes of a file. Most pictures keep their tags at the beginning, which the caller has read already; the rest is
+/// read through one small window.
 class FileSource final : public ByteSource
 {
 public:
-    /// How much of a file's beginning is worth reading at once: enough for the tags of almost every JPEG.
+    /// The size of the beginning that is read at once, in bytes: it holds the tags of almost every JPEG.
     static constexpr std::size_t beginningSize = 2048;
 
     /// `beginning` is what was read of `file` when it was opened. Both must outlive this source.

@@ -1,4 +1,4 @@
-// Every bound of the picture readers is kept here: no view reaches outside its source.
+// All bounds checks of the picture readers stand here: no view reaches outside its source.
 #include <VyrLibraryUtils/pictures/ByteView.h>
 
 #include <algorithm>

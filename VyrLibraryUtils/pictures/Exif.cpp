@@ -1,4 +1,4 @@
-// Takes off what stands before an Exif block's TIFF structure.
+// Removes the identifiers before an Exif block's TIFF structure.
 #include <VyrLibraryUtils/pictures/Exif.h>
 
 #include <VyrLibraryUtils/pictures/Tiff.h>

@@ -10,15 +10,16 @@
 
 namespace VyrLibraryUtils::Pictures {
 
-/// The most of an Exif block that is copied or unpacked where it cannot be read in place. Cameras write less than 64
-/// KiB; the rest is for what was converted from other formats.
+/// The largest Exif block, in bytes, that is copied or unpacked where it cannot be read in place. Cameras write less
+/// than 64 KiB; converters from other formats write more.
 constexpr std::size_t longestExif = 1 << 20;
 
 /// The text of `tag` in `block`: a TIFF structure, with or without JPEG's identifier "Exif" and two NULs before it.
 [[nodiscard]] std::string ReadExif(const ByteView& block, PictureTag tag);
 
-/// The text of `tag` in `item`: a 32-bit big-endian distance, then, that far behind it, the block. A writer that leaves
-/// the distance out is understood too. Source: ISO/IEC 23008-12, annex A.2.1; ISO/IEC 18181-2, section 9.4.
+/// The text of `tag` in `item`: a 32-bit big-endian distance, and the block at that distance behind it. Items of
+/// writers that leave out the distance are read too. Source: ISO/IEC 23008-12, annex A.2.1; ISO/IEC 18181-2,
+/// section 9.4.
 [[nodiscard]] std::string ReadExifItem(const ByteView& item, PictureTag tag);
 
 } // namespace VyrLibraryUtils::Pictures

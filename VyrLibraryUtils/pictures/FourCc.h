@@ -1,12 +1,12 @@
 /// @file
-/// Names of four characters, by which several formats call their parts.
+/// The names of four characters that several formats give to their parts.
 #pragma once
 
 #include <cstdint>
 
 namespace VyrLibraryUtils::Pictures {
 
-/// `name` as the 32-bit big-endian number that it is in a file.
+/// The 32-bit big-endian number that stands for `name` in a file: `"ftyp"` is 0x66747970.
 consteval std::uint32_t FourCc(const char (&name)[5])
 {
     std::uint32_t number = 0;
@@ -15,7 +15,7 @@ consteval std::uint32_t FourCc(const char (&name)[5])
     return number;
 }
 
-/// Whether `number` is such a name: four printable ASCII characters. Anything else at the place of a name is damage.
+/// Whether `number` is such a name: four printable ASCII characters. Anything else means that the file is damaged.
 constexpr bool IsFourCc(std::uint32_t number)
 {
     for (int shift = 0; shift < 32; shift += 8)

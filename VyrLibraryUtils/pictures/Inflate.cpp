@@ -1,11 +1,11 @@
-// Unpacks by zlib, a piece at a time, so that no more is held than is wanted.
+// Unpacks with zlib, piece by piece, so that a bomb ends at the limit.
 #include <VyrLibraryUtils/pictures/Inflate.h>
 
 #include <algorithm>
 #include <array>
 #include <limits>
 
-// Lets zlib read from what may not be written.
+// Makes zlib's input pointer const.
 #define ZLIB_CONST
 #include <zlib.h>
 
@@ -26,7 +26,7 @@ public:
     Inflater& operator=(const Inflater&) = delete;
     ~Inflater() { inflateEnd(&m_stream); }
 
-    /// The next bytes, at most `limit` of them; none at the end, and none behind what is damaged.
+    /// The next bytes, at most `limit`; none at the end and behind damage.
     std::string_view Next(std::size_t limit)
     {
         if (m_status != Z_OK)

@@ -1,5 +1,5 @@
 /// @file
-/// Unpacking of zlib data, in which PNG keeps its compressed texts.
+/// Unpacks zlib data, the form of PNG's compressed texts.
 #pragma once
 
 #include <cstddef>
@@ -8,8 +8,8 @@
 
 namespace VyrLibraryUtils::Pictures {
 
-/// The first `limit` bytes of what the zlib stream `packed` holds; as many as there are when it is damaged or cut
-/// short. A wrong checksum at its end does not matter. Source: RFC 1950 and RFC 1951.
+/// The first `limit` bytes that the zlib stream `packed` holds; fewer when it is damaged or cut short. The checksum at
+/// its end is not checked. Source: RFC 1950 and RFC 1951.
 [[nodiscard]] std::string Inflate(std::string_view packed, std::size_t limit);
 
 } // namespace VyrLibraryUtils::Pictures

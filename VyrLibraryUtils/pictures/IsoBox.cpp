@@ -1,4 +1,4 @@
-// One rule for a box's size, wherever boxes occur.
+// The one rule for the size of a box.
 #include <VyrLibraryUtils/pictures/IsoBox.h>
 
 namespace VyrLibraryUtils::Pictures {

@@ -15,8 +15,8 @@ struct IsoBox
     ByteView content;
 };
 
-/// The box at the cursor, which it passes over; nothing at the end, and where a size is impossible. A size of 0 reaches
-/// to the end, a size of 1 stands for the 64-bit one that follows. Source: ISO/IEC 14496-12, section 4.2.
+/// Reads the box at the cursor and skips it. Nothing at the end of the view, and where the size is impossible. A size
+/// of 0 means "to the end"; a size of 1 means that the 64-bit size follows. Source: ISO/IEC 14496-12, section 4.2.
 [[nodiscard]] std::optional<IsoBox> NextBox(ByteCursor& cursor);
 
 } // namespace VyrLibraryUtils::Pictures

@@ -48,7 +48,7 @@ std::optional<std::uint32_t> FindExifItem(const ByteView& itemInfo)
     return std::nullopt;
 }
 
-/// Where an item's pieces stand, as the item-location box tells it.
+/// The pieces of items, as the item-location box names them.
 class ItemLocations
 {
 public:
@@ -102,8 +102,8 @@ ItemLocations::Item ItemLocations::NextItem()
     return item;
 }
 
-/// The piece of `origin` that the extent at the cursor names; a length of 0 is all the rest. Nothing unless all of it
-/// is there: what follows would otherwise be joined to the wrong bytes.
+/// The piece of `origin` that the extent at the cursor names; a length of 0 means "to the end". Nothing when the piece
+/// is not complete: the next piece would be joined to the wrong bytes.
 std::optional<ByteView> ItemLocations::NextExtent(const ByteView& origin)
 {
     m_cursor.Skip(IndexWidth());
@@ -200,7 +200,7 @@ std::string ReadIsoMedia(const ByteView& media, PictureTag tag)
 {
     ByteCursor cursor(media, ByteOrder::Big);
     std::string text;
-    // A file has one meta box at most. Many of them could all name the same large item.
+    // A file has at most one meta box. A hostile file could name one large item in many.
     bool isMetaLeft = true;
     while (const std::optional<IsoBox> box = NextBox(cursor)) {
         if (box->type == FourCc("meta") && std::exchange(isMetaLeft, false))

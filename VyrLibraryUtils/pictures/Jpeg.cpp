@@ -1,4 +1,4 @@
-// Steps over the segments of a JPEG until one holds the Exif tags.
+// Skips the segments of a JPEG up to the one with the Exif tags.
 #include <VyrLibraryUtils/pictures/Jpeg.h>
 
 #include <VyrLibraryUtils/pictures/Tiff.h>
@@ -14,9 +14,9 @@ constexpr std::uint8_t endOfImage = 0xD9;
 constexpr std::uint8_t startOfScan = 0xDA;
 constexpr std::uint8_t exifSegment = 0xE1;
 constexpr std::string_view exifIdentifier("Exif\0", 5);
-/// The identifier and one more byte, which writers leave at will.
+/// The identifier and one byte of padding, whose value varies.
 constexpr std::uint64_t exifHeaderSize = 6;
-/// More than any writer leaves; a rescued file that is nothing but fill bytes ends here.
+/// More than any writer leaves. It bounds the search in a recovered file that holds only fill bytes.
 constexpr int mostBytesBetweenSegments = 4096;
 
 bool StandsAlone(std::uint8_t marker)
@@ -29,8 +29,8 @@ bool EndsHeader(std::uint8_t marker)
     return marker == startOfScan || marker == endOfImage;
 }
 
-/// The next marker; endOfImage where there is none. Fill bytes before it are passed over, and so is what a careless
-/// writer left between two segments.
+/// The next marker; endOfImage where there is none. Skips fill bytes, and stray bytes that some writers leave between
+/// two segments.
 std::uint8_t NextMarker(ByteCursor& jpeg)
 {
     bool isPrefixed = false;

@@ -12,8 +12,8 @@ namespace VyrLibraryUtils::Pictures {
 /// Whether `bytes` begin as a JPEG does.
 [[nodiscard]] bool IsJpeg(const ByteView& bytes);
 
-/// The text of `tag` in the first Exif segment of `jpeg` that has one. Segments are stepped over by their lengths, up
-/// to where the picture's data begins. Source: ITU-T T.81, annex B; Exif 2.32, section 4.7.
+/// The text of `tag` in the first Exif segment of `jpeg` that has one. Segments are skipped by their lengths, up to
+/// the picture's data. Source: ITU-T T.81, annex B; Exif 2.32, section 4.7.
 [[nodiscard]] std::string ReadJpeg(const ByteView& jpeg, PictureTag tag);
 
 } // namespace VyrLibraryUtils::Pictures

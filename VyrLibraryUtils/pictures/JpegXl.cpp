@@ -1,4 +1,4 @@
-// Steps over the boxes of a JPEG XL container until one holds the Exif tags.
+// Skips the boxes of a JPEG XL container up to the one with the Exif tags.
 #include <VyrLibraryUtils/pictures/JpegXl.h>
 
 #include <VyrLibraryUtils/pictures/Exif.h>
@@ -11,10 +11,10 @@
 namespace VyrLibraryUtils::Pictures {
 namespace {
 
-/// A few bytes can unpack to a megabyte, so a hostile file gets only so many tries.
+/// A few bytes can unpack to a megabyte: this bounds the work on a hostile file.
 constexpr int mostPackedBoxes = 4;
 
-/// A packed box begins with the type of what it holds.
+/// A packed box begins with the type of the box that it packs.
 bool IsPackedExif(const IsoBox& box)
 {
     return box.type == FourCc("brob") && box.content.StartsWith("Exif");

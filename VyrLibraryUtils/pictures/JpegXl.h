@@ -9,8 +9,8 @@
 
 namespace VyrLibraryUtils::Pictures {
 
-/// The text of `tag` in the first Exif box of `jpegXl` that has one. A box that is packed with Brotli is read where the
-/// system has an unpacker (Linux) and passed over elsewhere (Windows). A bare codestream has no boxes and so no tags.
+/// The text of `tag` in the first Exif box of `jpegXl` that has one. A box that is packed with Brotli is read on
+/// Linux and skipped on Windows, which has no unpacker. A bare codestream has no boxes and so no tags.
 /// Source: ISO/IEC 18181-2, section 9.
 [[nodiscard]] std::string ReadJpegXl(const ByteView& jpegXl, PictureTag tag);
 

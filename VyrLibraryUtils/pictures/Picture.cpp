@@ -1,4 +1,4 @@
-// Tells a picture's format by its first bytes and hands it to that format's reader.
+// Finds the format of a picture by its first bytes and calls the reader of that format.
 #include <VyrLibraryUtils/pictures/Picture.h>
 
 #include <VyrLibraryUtils/pictures/IsoMedia.h>

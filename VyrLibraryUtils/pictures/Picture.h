@@ -11,8 +11,8 @@
 
 namespace VyrLibraryUtils::Pictures {
 
-/// The text of `tag` in the picture that `source` holds, in the bytes in which it stands there; empty when it has no
-/// such tag or is of no known format. The format is told by the first bytes, never by a file's name.
+/// The text of `tag` in the picture that `source` holds, byte for byte as it stands there. Empty when the picture has
+/// no such tag or its format is not known. The first bytes tell the format; the file's name does not matter.
 [[nodiscard]] VYR_UTILS_API std::string ReadPicture(ByteSource& source, PictureTag tag);
 
 /// ReadPicture of a picture in memory.

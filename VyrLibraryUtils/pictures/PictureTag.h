@@ -1,5 +1,5 @@
 /// @file
-/// The facts that the picture readers can be asked for.
+/// The tags that the picture readers find.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// Steps over the chunks of a PNG until one holds the Exif tags.
+// Skips the chunks of a PNG up to the one with the Exif tags.
 #include <VyrLibraryUtils/pictures/Png.h>
 
 #include <VyrLibraryUtils/pictures/Exif.h>
@@ -16,7 +16,7 @@ constexpr std::string_view appKeyword("Raw profile type APP1\0", 22);
 static_assert(exifKeyword.size() == appKeyword.size());
 /// Two digits make one byte.
 constexpr std::size_t longestProfile = 2 * longestExif;
-/// A few kilobytes can unpack to megabytes, so a hostile file gets only so many tries.
+/// A few kilobytes can unpack to megabytes: this bounds the work on a hostile file.
 constexpr int mostPackedProfiles = 4;
 
 int HexDigit(char digit)
@@ -52,7 +52,7 @@ std::string RawProfile(std::string_view text)
     return bytes;
 }
 
-/// Whether a text chunk is a profile that may be Exif, told by its keyword.
+/// Whether the keyword of a text chunk tells that it is a profile which may hold Exif.
 bool IsProfile(const ByteView& chunk)
 {
     return chunk.StartsWith(exifKeyword) || chunk.StartsWith(appKeyword);

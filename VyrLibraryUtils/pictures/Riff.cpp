@@ -1,4 +1,4 @@
-// Steps over the chunks of a RIFF file until one holds the Exif tags.
+// Skips the chunks of a RIFF file up to the one with the Exif tags.
 #include <VyrLibraryUtils/pictures/Riff.h>
 
 #include <VyrLibraryUtils/pictures/Exif.h>
@@ -8,8 +8,8 @@ namespace {
 
 constexpr std::uint64_t headerSize = 12;
 constexpr std::uint64_t formOffset = 8;
-/// More than any film has frames. Damaged files go on behind gaps of zeros, which look like empty chunks; this ends one
-/// that is nothing but a gap.
+/// More chunks than any animation has frames. A gap of zeros in a damaged file looks like empty chunks; this bounds the
+/// search in a file of zeros.
 constexpr int mostChunks = 100000;
 
 } // namespace

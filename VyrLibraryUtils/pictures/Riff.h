@@ -12,8 +12,8 @@ namespace VyrLibraryUtils::Pictures {
 /// Whether `bytes` begin as a WebP picture does; other RIFF files are sounds and films.
 [[nodiscard]] bool IsWebP(const ByteView& bytes);
 
-/// The text of `tag` in the first EXIF chunk of `webp` that has one. The size in the file's own header is not looked
-/// at: the real one bounds everything. Source: RFC 9649, section 2.
+/// The text of `tag` in the first EXIF chunk of `webp` that has one. The size in the file's header is ignored; the
+/// real size is the bound. Source: RFC 9649, section 2.
 [[nodiscard]] std::string ReadWebP(const ByteView& webp, PictureTag tag);
 
 } // namespace VyrLibraryUtils::Pictures

@@ -1,4 +1,4 @@
-// Finds one tag in a TIFF structure, trusting none of its counts and offsets.
+// Finds one tag in a TIFF structure. Every count and offset is checked before it is used.
 #include <VyrLibraryUtils/pictures/Tiff.h>
 
 #include <algorithm>
@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::uint16_t exifDirectoryLink = 0x8769;
 constexpr std::size_t entrySize = 12;
-/// Far more than any text names, and little enough to copy from a hostile file.
+/// The longest text that is copied, in bytes: longer than real ones, and harmless from a hostile file.
 constexpr std::size_t longestText = 65535;
 
 enum class ValueType : std::uint16_t
@@ -26,7 +26,7 @@ struct Entry
 {
     ValueType type;
     std::uint32_t count;
-    /// The value itself when it takes at most four bytes, else its offset.
+    /// The value itself when it has at most four bytes, else its offset.
     std::uint32_t valueOrOffset;
     /// Where those four bytes stand.
     std::uint64_t valueField;
@@ -45,7 +45,7 @@ public:
     [[nodiscard]] std::optional<Entry> Find(std::uint32_t offset, std::uint16_t tag) const;
     /// The first entry of `tag` in the Exif directory that the directory at `offset` links to.
     [[nodiscard]] std::optional<Entry> FindInExifDirectory(std::uint32_t offset, std::uint16_t tag) const;
-    /// The directory that `entry` links to; 0, where no directory can be, when it links to none.
+    /// The offset of the directory that `entry` links to; 0 when there is none.
     [[nodiscard]] std::uint32_t LinkedDirectory(const Entry& entry) const;
     [[nodiscard]] std::string Text(const Entry& entry) const;
 
@@ -64,7 +64,7 @@ std::optional<Entry> TiffReader::Find(std::uint32_t offset, std::uint16_t tag) c
 {
     const std::uint64_t first = std::uint64_t{offset} + 2;
     const std::uint64_t count = ToUnsigned(m_tiff.Fetch(offset, 2), m_order);
-    // A directory that is not all there is damaged: an offset into other data mostly looks like that.
+    // An incomplete directory is damaged; a wrong offset into other data usually looks like one.
     if (m_tiff.From(first).Size() < count * entrySize)
         return std::nullopt;
     const auto high = static_cast<char>(tag >> 8);
@@ -110,7 +110,7 @@ std::string TiffReader::Text(const Entry& entry) const
     case ValueType::Undefined:
     case ValueType::Utf8:
         return Bytes(entry);
-    // A writer that took the wrong type: the number is all that the tag says.
+    // The writer took the wrong type; the tag holds a number only.
     case ValueType::Short:
         return entry.count == 1 ? std::to_string(ToUnsigned(m_tiff.Fetch(entry.valueField, 2), m_order)) : "";
     case ValueType::Long:
@@ -127,7 +127,7 @@ std::string TrimmedText(std::string text)
     return text;
 }
 
-/// Cameras whose clock was never set write a date of zeros, or of blanks between the colons.
+/// A camera whose clock was never set writes zeros, or blanks between the colons.
 bool IsBlankDate(const std::string& date)
 {
     return date.find_first_of("123456789") == std::string::npos;

@@ -14,7 +14,7 @@
 #include <string_view>
 #include <utility>
 
-/// One argument of CString::Format, with its type kept: a text or an integer of any width.
+/// An argument of CString::Format with its type: a text or an integer of any width.
 class FormatArgument
 {
 public:
@@ -39,11 +39,11 @@ private:
     Kind m_kind;
 };
 
-/// A UTF-16 text that costs next to nothing to pass by value.
+/// A UTF-16 text that is cheap to pass by value.
 ///
-/// It is one pointer wide (null for the empty string). Copies share one allocation and a writer takes its own copy
-/// first. Every count and index is in UTF-16 code units. Copies of one string may be used by several threads at once;
-/// one and the same object may not.
+/// It is one pointer wide (null for the empty string). Copies share one allocation; a change makes its own copy first.
+/// All counts and indices are in UTF-16 code units. Several threads may use copies of one string at the same time, but
+/// not the same object.
 class VYR_PLATFORM_API CString
 {
 public:
@@ -55,7 +55,7 @@ public:
     CString(const char16_t* text) : CString(text ? std::u16string_view(text) : std::u16string_view()) {}
     /// A copy of `text`, which may hold NULs.
     CString(std::u16string_view text);
-    /// `count` times `unit`; a count below 1 gives the empty string.
+    /// `unit` repeated `count` times; a count below 1 gives the empty string.
     CString(char16_t unit, int count);
     ~CString() { Release(); }
 
@@ -70,7 +70,7 @@ public:
         return *this;
     }
 
-    /// All `parts` one after the other, in one allocation.
+    /// All `parts` in order, in one allocation: `{u"a", u"/", u"b"}` gives `a/b`.
     [[nodiscard]] static CString Join(std::initializer_list<std::u16string_view> parts);
 
     [[nodiscard]] int GetLength() const noexcept { return m_buffer ? static_cast<int>(m_buffer->length) : 0; }
@@ -94,8 +94,7 @@ public:
         other.m_buffer = mine;
     }
 
-    /// Appends `text`, which may be a part of this very string. A run of appends costs time in proportion to its
-    /// result.
+    /// Appends `text`, which may be a part of this string. Repeated appends take linear time.
     CString& operator+=(std::u16string_view text);
     CString& operator+=(char16_t unit) { return *this += std::u16string_view(&unit, 1); }
 
@@ -117,20 +116,21 @@ public:
     /// @return how many were replaced; 0 for an empty `find`.
     int Replace(std::u16string_view find, std::u16string_view replacement);
 
-    /// Upper-cases the text, one code unit to one, the same in every locale (VyrPlatform::Locale::ToUpper).
+    /// Maps each code unit to upper case, the same in every locale (VyrPlatform::Locale::ToUpper).
     CString& MakeUpper();
-    /// Lower-cases the text in the same way.
+    /// Maps each code unit to lower case in the same way.
     CString& MakeLower();
-    /// Compares under lower case, as MakeLower gives it: negative, zero or positive.
+    /// Compares the lower-case forms (MakeLower). @return negative, zero or positive.
     [[nodiscard]] int CompareNoCase(std::u16string_view other) const;
 
-    /// Writes `format` with its conversions filled in by `arguments`, in order, and makes the result this string.
+    /// Sets this string to `format` with its conversions replaced by `arguments` in order: `Format(u"%s (%d)", name,
+    /// 2)` gives `a (2)` for the name `a`.
     ///
     /// A conversion is `%`, optionally `0` and a minimum width, optionally `h`, `l`, `ll` or `I64` (which change
     /// nothing: the width is the argument's own), and one of `s` (a text), `d` or `i` (an integer in decimal), `u` (the
     /// argument's bits as unsigned), `x`, `X` (in hexadecimal). `%%` is a percent sign. A conversion without an
-    /// argument, or whose argument is of the other kind, or that is not listed here, stands in the result as it is
-    /// written. The arguments may refer to this very string.
+    /// argument, with an argument of the wrong type, or not listed here is copied as it is written. The arguments may
+    /// refer to this string.
     template <class... Arguments>
     void Format(std::u16string_view format, const Arguments&... arguments)
     {
@@ -155,7 +155,7 @@ public:
     friend CString operator+(const char16_t* left, const CString& right) { return Join({left, right}); }
 
 private:
-    /// What stands in front of the text in its allocation.
+    /// The head of the allocation, before the text.
     struct Buffer
     {
         _Atomic_word owners;
@@ -172,7 +172,7 @@ private:
     }
     void Release() noexcept
     {
-        // The sole owner needs no locked count: nobody else can take a copy meanwhile.
+        // The only owner needs no locked count: nobody else can copy it at the same time.
         if (m_buffer && (__atomic_load_n(&m_buffer->owners, __ATOMIC_ACQUIRE) == 1 ||
                          __gnu_cxx::__exchange_and_add_dispatch(&m_buffer->owners, -1) == 1))
             Free(m_buffer);
