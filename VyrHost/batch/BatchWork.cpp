@@ -15,7 +15,7 @@ namespace {
 using VyrPlatform::FileState;
 using VyrPlatform::FileSystem::Kind;
 
-/// Whether a file stands where a folder was listed, or the other way round.
+/// Whether a file is found where a folder was listed, or a folder where a file was.
 bool IsOtherKind(Kind listed, Kind found)
 {
     return (listed == Kind::File && found == Kind::Folder) || (listed == Kind::Folder && found == Kind::File);

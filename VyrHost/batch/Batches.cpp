@@ -6,10 +6,10 @@
 #include <VyrHost/text/ErrorText.h>
 #include <VyrHost/text/FolderPart.h>
 
-#include <VyrHostPlatform/FullPath.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/PathUtils.h>
 #include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/files/FullPath.h>
 #include <VyrPlatform/process/Process.h>
 #include <VyrPlatform/text/Encoding.h>
 #include <VyrPlatform/time/Clock.h>
@@ -254,7 +254,7 @@ Model::Result BatchResults::At(std::size_t index) const
 
 UndoCandidates FindUndoCandidates(const std::vector<BatchInformation>& batches, const CString& folder)
 {
-    const FileState current = VyrPlatform::LookAtFile(VyrHostPlatform::GetRealPath(folder));
+    const FileState current = VyrPlatform::LookAtFile(VyrPlatform::GetRealPath(folder));
     UndoCandidates candidates;
     for (const BatchInformation& batch : batches) {
         const bool isDamaged = batch.state == BatchState::Damaged;

@@ -1,5 +1,5 @@
 /// @file
-/// Does the steps of a plan, or undoes them, without ever losing a file.
+/// Performs the steps of a plan, or undoes them, and never loses a file.
 #pragma once
 
 #include <VyrHost/batch/FolderCache.h>
@@ -19,12 +19,12 @@ public:
     using Report = std::function<void(Model::PlanIndex entry, const Model::Outcome& result)>;
     using StopRequest = std::function<bool()>;
 
-    /// Starts from `progress`, which must tell what is on the disk, and keeps it true.
+    /// Starts from `progress`, which must match the disk, and keeps it up to date.
     Executor(const Model::RenamePlan& plan, PlanProgress& progress, FileOperations& files);
 
     /// Leaves `entry` where it is, whatever the direction.
     void LeaveAlone(Model::PlanIndex entry) { m_isLeftAlone[entry] = true; }
-    /// Says beforehand what the result is for an entry that was not found.
+    /// Sets the result of an entry that was not found.
     void SetResult(Model::PlanIndex entry, const Model::Outcome& result) { m_results.insert_or_assign(entry, result); }
 
     /// Does every step that is not done yet in `direction`; backward in reverse order. Nothing is overwritten. A
@@ -88,7 +88,7 @@ private:
     std::vector<bool> m_isLeftAlone;
     /// For each entry the one that gets its old place.
     std::vector<Model::PlanIndex> m_successors;
-    /// Why entries are not where they are to be. Nothing is said of one that is, or that the work did not come to.
+    /// Why entries did not reach their places. Entries that did, and those that were not tried, are not in it.
     std::unordered_map<Model::PlanIndex, Model::Outcome> m_results;
     /// For each new folder why it was not made.
     std::vector<std::uint32_t> m_folderErrors;

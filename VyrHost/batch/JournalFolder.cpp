@@ -4,12 +4,12 @@
 #include <VyrHost/text/ErrorText.h>
 #include <VyrHost/text/FolderPart.h>
 
-#include <VyrHostPlatform/FullPath.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/FolderUtils.h>
 #include <VyrPlatform/files/FileReader.h>
 #include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/files/FolderListing.h>
+#include <VyrPlatform/files/FullPath.h>
 #include <VyrPlatform/time/Clock.h>
 
 #include <algorithm>
@@ -117,7 +117,7 @@ bool IsEnded(BatchPhase phase)
 std::vector<VyrPlatform::FileIdentity> WayTo(const CString& path)
 {
     std::vector<VyrPlatform::FileIdentity> way;
-    for (const CString& written : {VyrHostPlatform::GetFullPath(path), VyrHostPlatform::GetRealPath(path)}) {
+    for (const CString& written : {VyrPlatform::GetFullPath(path), VyrPlatform::GetRealPath(path)}) {
         // A link is looked at itself without a separator behind it, and followed with one; a root has one in any case.
         for (std::u16string_view at = written; !Text::FolderPart(at).empty();
              at = at.substr(0, Text::FolderPart(at).size() - 1))

@@ -85,7 +85,7 @@ void Locator::LocateEntry(Model::PlanIndex entry, LastWork lastWork)
     Settle(entry, chosen);
 }
 
-/// Whether a rename in two calls had given the file its one name and not yet taken the other away.
+/// Whether a rename in two calls has added the new name but not yet removed the old one.
 bool Locator::IsHalfRenamed(Model::PlanIndex entry, const Sight& kept, const Sight& left) const
 {
     return left.location != kept.location && left.likeness == Likeness::All && kept.likeness == Likeness::All &&

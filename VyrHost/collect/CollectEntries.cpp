@@ -8,11 +8,11 @@
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/text/StandardInput.h>
 #include <VyrHost/text/UsageError.h>
-#include <VyrHostPlatform/FullPath.h>
 #include <VyrHostPlatform/NameFolding.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/files/FullPath.h>
 #include <VyrPlatform/process/Process.h>
 
 #include <algorithm>
@@ -68,7 +68,7 @@ CutPath Cut(const CString& path)
     const std::u16string_view name = text.substr(before.size());
     if (IsPlain(text, name))
         return {before, name};
-    const CString full = VyrHostPlatform::GetFullPath(path);
+    const CString full = VyrPlatform::GetFullPath(path);
     const CString folder = FileUtils::GetSplitDirPath(full);
     return {folder, full.Mid(folder.GetLength())};
 }
@@ -128,7 +128,7 @@ private:
         if (m_settings.recursive && VyrPlatform::FileSystem::IsFolder(path)) {
             if (!MayEnter(OwnName(path)))
                 return;
-            const CString full = WithSeparator(VyrHostPlatform::GetFullPath(path));
+            const CString full = WithSeparator(VyrPlatform::GetFullPath(path));
             NoteSourceFolder(full, path);
             Walk(full, Shown(path));
             return;
@@ -144,7 +144,7 @@ private:
     {
         if (m_parent == Model::NoEntry || m_parentText != folder) {
             const CString path =
-                folder.IsEmpty() ? VyrPlatform::Process::GetCurrentFolder() : VyrHostPlatform::GetFullPath(folder);
+                folder.IsEmpty() ? VyrPlatform::Process::GetCurrentFolder() : VyrPlatform::GetFullPath(folder);
             m_parent = List().folders.Open(WithSeparator(path), Shown(folder));
             m_parentText = folder;
         }

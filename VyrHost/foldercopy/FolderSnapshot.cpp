@@ -1,4 +1,4 @@
-// Takes trees down, folder by folder, without recursion: a tree may be deeper than the stack.
+// Takes snapshots folder by folder, without recursion: a tree may be deeper than the stack.
 #include <VyrHost/foldercopy/FolderSnapshot.h>
 
 #include <VyrLibraryUtils/FileUtils.h>

@@ -1,5 +1,5 @@
 /// @file
-/// What stands in a folder and below it, taken down before it is copied or moved.
+/// A snapshot of a folder and all that is in it, taken before it is copied or moved.
 #pragma once
 
 #include <VyrHost/model/Result.h>
@@ -20,7 +20,7 @@ enum class SnapshotKind : std::uint8_t
     File,
     /// A symbolic link, wherever it leads: no link is followed.
     Link,
-    /// A pipe, a device: nothing that has a content.
+    /// A pipe or a device: it has no content.
     Other
 };
 
@@ -32,19 +32,19 @@ struct SnapshotEntry
     std::size_t folder = 0;
     /// In bytes; of a link that of the file it leads to, -1 where it leads to none.
     std::int64_t size = 0;
-    /// Of a link: where it leads, as it holds it.
+    /// Of a link: its target, as stored in the link.
     CString linkTarget;
 };
 
 struct SnapshotFolder
 {
-    /// From the root on; empty for the root itself.
+    /// Relative to the root; empty for the root itself.
     CString path;
     VyrPlatform::FileTicks created = 0;
     VyrPlatform::FileTicks modified = 0;
     /// Nothing where they may not be read.
     std::optional<VyrHostPlatform::FolderTraits> traits;
-    /// Why its entries could not be read to their end: the system's error code, else 0.
+    /// The system's error code if not all entries could be read; else 0.
     std::uint32_t error = 0;
     /// Its entries stand together in FolderSnapshot::entries.
     std::size_t firstEntry = 0;
@@ -61,7 +61,7 @@ struct FolderSnapshot
     std::vector<SnapshotEntry> entries;
 };
 
-/// Takes down the folder at the full path `root`, hidden entries included.
+/// Takes a snapshot of the folder at the full path `root`, hidden entries included.
 [[nodiscard]] FolderSnapshot TakeSnapshot(const CString& root);
 
 [[nodiscard]] Model::TreeSize SizeOf(const FolderSnapshot& tree);

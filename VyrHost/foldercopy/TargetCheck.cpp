@@ -1,11 +1,11 @@
 // Looks through the folders that a tree shares with its target.
 #include <VyrHost/foldercopy/TargetCheck.h>
 
-#include <VyrHostPlatform/FullPath.h>
 #include <VyrHostPlatform/NameFolding.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/files/FolderListing.h>
+#include <VyrPlatform/files/FullPath.h>
 
 #include <unordered_map>
 #include <utility>
@@ -115,7 +115,7 @@ private:
     [[nodiscard]] static CString NearestFolder(CString path)
     {
         while (!VyrPlatform::FileSystem::IsFolder(path))
-            path = VyrHostPlatform::GetFullPath(FileUtils::GetSplitDirPath(path));
+            path = VyrPlatform::GetFullPath(FileUtils::GetSplitDirPath(path));
         return path;
     }
 

@@ -1,14 +1,14 @@
-// Finds sources and targets, and refuses what could never end well.
+// Finds sources and targets, and refuses impossible tasks.
 #include <VyrHost/foldercopy/TransferTasks.h>
 
 #include <VyrHost/text/ErrorText.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/text/UsageError.h>
-#include <VyrHostPlatform/FullPath.h>
 #include <VyrHostPlatform/NameFolding.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/files/FullPath.h>
 
 #include <map>
 #include <optional>
@@ -40,17 +40,17 @@ std::string Quoted(const CString& path)
 
 CString FolderOf(const CString& fullPath)
 {
-    return VyrHostPlatform::GetFullPath(FileUtils::GetSplitDirPath(fullPath));
+    return VyrPlatform::GetFullPath(FileUtils::GetSplitDirPath(fullPath));
 }
 
 /// The identities of the folder at `path` and of each one above it.
 std::vector<Identity> UpFrom(const CString& path)
 {
     std::vector<Identity> identities;
-    CString above = VyrHostPlatform::GetRealPath(path);
+    CString above = VyrPlatform::GetRealPath(path);
     // Some volumes of Windows have no path to tell.
     if (above.IsEmpty())
-        above = VyrHostPlatform::GetFullPath(path);
+        above = VyrPlatform::GetFullPath(path);
     for (CString folder; above != folder; above = FolderOf(folder)) {
         folder = above;
         const FileState state = LookAtFile(folder);
@@ -64,7 +64,7 @@ class TaskMaker
 {
 public:
     TaskMaker(const std::vector<CString>& sources, const CString& destination)
-        : m_destination(destination), m_folder(VyrHostPlatform::GetFullPath(destination))
+        : m_destination(destination), m_folder(VyrPlatform::GetFullPath(destination))
     {
         for (const CString& source : sources)
             AddSource(source);
@@ -85,7 +85,7 @@ private:
     {
         TransferTask task;
         task.shownSource = given;
-        task.source = VyrHostPlatform::GetFullPath(given);
+        task.source = VyrPlatform::GetFullPath(given);
         const FileState state = LookAtFile(task.source);
         if (state.kind == FileSystem::Kind::Missing)
             throw Text::UsageError(Quoted(given) + " cannot be found: " + Text::SafeText(Text::ErrorText(state.error)));
@@ -95,9 +95,9 @@ private:
             throw Text::UsageError(Quoted(given) + " is no folder");
         if (!m_sources.emplace(IdentityOf(state), m_tasks.size()).second)
             throw Text::UsageError(Quoted(given) + " is named twice");
-        // Only a name can be given on.
+        // The source must have a name to pass on.
         if (FileUtils::GetSplitFileName(task.source) == u"..")
-            task.source = VyrHostPlatform::GetRealPath(task.source);
+            task.source = VyrPlatform::GetRealPath(task.source);
         m_tasks.push_back(std::move(task));
     }
 
@@ -117,7 +117,7 @@ private:
                                            ", which is named, too");
     }
 
-    /// Finds out whether the folders go into the destination, or the one gets its name.
+    /// Finds out whether the folders go into the destination, or the only source gets its name.
     void FindDestination()
     {
         m_goesInto = FileSystem::IsFolder(m_folder);

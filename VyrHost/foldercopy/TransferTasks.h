@@ -1,5 +1,5 @@
 /// @file
-/// From where to where each folder goes.
+/// The source and the target of each folder.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -23,7 +23,7 @@ struct TransferTask
 /// Where the folders `sources` go. Into the folder `destination` under their own names where that is there; else the
 /// one source gets `destination` for its new path, whose folder must be there.
 ///
-/// Which folder is which is judged by identity, so that links and other spellings deceive nobody.
+/// Folders are compared by identity, so that links and other spellings of a path make no difference.
 /// @throws UsageError when a source is no folder, is named twice, or stands inside another one; when `destination` is
 /// no folder that it could be, stands inside a source, or makes a source go onto itself or onto a folder that it stands
 /// in; when two sources would get one path.

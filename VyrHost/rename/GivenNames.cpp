@@ -2,8 +2,8 @@
 #include <VyrHost/rename/GivenNames.h>
 
 #include <VyrHost/text/FolderPart.h>
-#include <VyrHostPlatform/FullPath.h>
 #include <VyrLibraryUtils/FileUtils.h>
+#include <VyrPlatform/files/FullPath.h>
 
 namespace VyrHost::Rename {
 
@@ -20,7 +20,7 @@ WantedName NameFor(const Model::Folder& now, const CString& given)
     const std::u16string_view folder = Text::FolderPart(given);
     if (folder.empty())
         return wanted;
-    const CString full = VyrHostPlatform::GetFullPath(given);
+    const CString full = VyrPlatform::GetFullPath(given);
     wanted.folder = FileUtils::GetSplitDirPath(full);
     wanted.shownFolder = folder;
     wanted.name = given.View().substr(folder.size());

@@ -48,10 +48,11 @@ CString NumberedName::With(const VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbe
 {
     const std::uint32_t number = static_cast<std::uint32_t>(numbering.startNumber) +
                                  static_cast<std::uint32_t>(attempt) * static_cast<std::uint32_t>(numbering.step);
-    CString text = numbering.numberFormat;
-    text.Replace(u"?", NumberText(static_cast<std::int32_t>(number), digits));
-    return numbering.position == 0 ? CString::Join({text, m_stem, m_extension})
-                                   : CString::Join({m_stem, text, m_extension});
+    const CString text = VyrLibraryFuncs::FillConflictPattern(numbering.numberFormat,
+                                                              NumberText(static_cast<std::int32_t>(number), digits));
+    return numbering.position == static_cast<int>(VyrLibraryFuncs::NameFuncs::ConflictPosition::BeforeName)
+               ? CString::Join({text, m_stem, m_extension})
+               : CString::Join({m_stem, text, m_extension});
 }
 
 std::uint64_t CountNumbers(int step)

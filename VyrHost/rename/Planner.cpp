@@ -2,10 +2,14 @@
 #include <VyrHost/rename/Planner.h>
 
 #include <VyrHost/model/Prefetch.h>
-#include <VyrHost/model/SlotTable.h>
 #include <VyrHost/rename/StepOrder.h>
 
 #include <algorithm>
+#include <array>
+#include <bit>
+#include <functional>
+#include <optional>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 
@@ -18,6 +22,101 @@ using Model::Place;
 using Model::PlanEntry;
 using Model::PlanFolder;
 using Model::PlanIndex;
+using VyrHostPlatform::NameFolding;
+
+/// Finds renames by one of their ends, names as their file systems see them. The first of those that share it counts.
+class RenamesByPlace
+{
+public:
+    using Foldings = std::vector<NameFolding>;
+    using End = Place PlanEntry::*;
+
+    /// @param foldings  for each folder of `plan`. Both must outlive this, and the ends stay as they are.
+    RenamesByPlace(const Model::RenamePlan& plan, const Foldings& foldings, End end)
+        : m_plan(plan), m_foldings(foldings), m_end(end), m_buckets(std::bit_ceil(plan.entries.size() * 2 + 1))
+    {
+        ForEachBucket(end, [](PlanIndex entry, std::uint32_t tag, Bucket& bucket) {
+            if (bucket.entry == none)
+                bucket = {tag, entry};
+        });
+    }
+
+    /// The rename whose end is `place`; `none` where there is none.
+    [[nodiscard]] PlanIndex Find(const Place& place) const { return m_buckets[BucketOf(place, HashOf(place))].entry; }
+
+    /// Calls `use` for each rename of the plan with what Find finds for its `end`.
+    template <class Use>
+    void FindEach(End end, Use use)
+    {
+        ForEachBucket(end, [&use](PlanIndex entry, std::uint32_t, const Bucket& bucket) { use(entry, bucket.entry); });
+    }
+
+private:
+    /// The upper half of the hash of an end, and whose it is.
+    struct Bucket
+    {
+        std::uint32_t tag = 0;
+        PlanIndex entry = none;
+    };
+
+    /// The hashes of a few ends are known in advance, so that their buckets come from memory meanwhile.
+    template <class Use>
+    void ForEachBucket(End end, Use use)
+    {
+        std::array<std::uint64_t, Model::PrefetchDistance> hashes{};
+        const std::size_t count = m_plan.entries.size();
+        for (std::size_t index = 0; index < count + hashes.size(); ++index) {
+            std::uint64_t& hash = hashes[index % hashes.size()];
+            if (index >= hashes.size()) {
+                const auto entry = static_cast<PlanIndex>(index - hashes.size());
+                use(entry, TagOf(hash), m_buckets[BucketOf(m_plan.entries[entry].*end, hash)]);
+            }
+            if (index < count) {
+                hash = HashOf(m_plan.entries[index].*end);
+                Model::Prefetch(&m_buckets[StartOf(hash)]);
+            }
+        }
+    }
+
+    [[nodiscard]] static std::uint32_t TagOf(std::uint64_t hash) { return static_cast<std::uint32_t>(hash >> 32); }
+    [[nodiscard]] std::size_t StartOf(std::uint64_t hash) const { return (hash >> 20) & (m_buckets.size() - 1); }
+
+    [[nodiscard]] std::uint64_t HashOf(const Place& place) const
+    {
+        const NameFolding folding = m_foldings[place.folder];
+        const std::hash<std::u16string_view> hash;
+        const std::size_t name = folding == NameFolding::None
+                                     ? hash(place.name.View())
+                                     : hash(VyrHostPlatform::FoldName(place.name.View(), folding));
+        return (name ^ place.folder) * std::uint64_t{0x9E3779B97F4A7C15};
+    }
+
+    [[nodiscard]] bool IsSame(const Place& left, const Place& right) const
+    {
+        if (left == right)
+            return true;
+        const NameFolding folding = m_foldings[left.folder];
+        return left.folder == right.folder && folding != NameFolding::None &&
+               VyrHostPlatform::FoldName(left.name.View(), folding) ==
+                   VyrHostPlatform::FoldName(right.name.View(), folding);
+    }
+
+    /// The bucket of `place`, or the free one where it belongs. Half of the buckets are free.
+    [[nodiscard]] std::size_t BucketOf(const Place& place, std::uint64_t hash) const
+    {
+        const std::size_t mask = m_buckets.size() - 1;
+        std::size_t at = StartOf(hash);
+        while (m_buckets[at].entry != none &&
+               (m_buckets[at].tag != TagOf(hash) || !IsSame(m_plan.entries[m_buckets[at].entry].*m_end, place)))
+            at = (at + 1) & mask;
+        return at;
+    }
+
+    const Model::RenamePlan& m_plan;
+    const Foldings& m_foldings;
+    const End m_end;
+    std::vector<Bucket> m_buckets;
+};
 
 class Planner
 {
@@ -33,47 +132,42 @@ public:
         FindFoldersInTheirPlaces();
         RefuseTangledFolders();
         RefuseDependents();
+        m_coming.reset();
         return Finish();
     }
 
 private:
     void FindWhoStandsWhere()
     {
-        m_occupants.Reserve(2 * m_plan.entries.size());
-        for (PlanIndex entry = 0; entry < m_plan.entries.size(); ++entry) {
-            Expect(entry + Model::PrefetchDistance, &PlanEntry::from);
-            m_occupants.Put(SlotOf(m_plan.entries[entry].from), {.before = entry});
-        }
-        for (PlanIndex entry = 0; entry < m_plan.entries.size(); ++entry) {
-            Expect(entry + Model::PrefetchDistance, &PlanEntry::to);
-            PlanEntry& rename = m_plan.entries[entry];
-            Occupants& occupants = m_occupants.Put(SlotOf(rename.to), {});
-            if (occupants.after != none)
+        m_standingAt.assign(m_plan.folders.size(), none);
+        FindWhoLeaves();
+        m_coming.emplace(m_plan, m_foldings, &PlanEntry::to);
+        m_coming->FindEach(&PlanEntry::to, [this](PlanIndex entry, PlanIndex first) {
+            if (first != entry)
                 Refuse(entry, Reason::TwoToOne);
-            else
-                occupants.after = entry;
-            rename.waitsFor = occupants.before;
-        }
+        });
     }
 
-    void Expect(std::size_t entry, Place PlanEntry::*end) const
+    /// Finds for each entry and each folder the entry that stands at its place before the batch.
+    void FindWhoLeaves()
     {
-        if (entry >= m_plan.entries.size())
-            return;
-        const Place& place = m_plan.entries[entry].*end;
-        if (TakesNamesAsTheyAre(place.folder))
-            m_occupants.Expect(place);
+        RenamesByPlace leaving(m_plan, m_foldings, &PlanEntry::from);
+        leaving.FindEach(&PlanEntry::to,
+                         [this](PlanIndex entry, PlanIndex standing) { m_plan.entries[entry].waitsFor = standing; });
+        for (PlanIndex folder = 0; folder < m_plan.folders.size(); ++folder)
+            if (m_plan.folders[folder].place.folder != none)
+                m_standingAt[folder] = leaving.Find(m_plan.folders[folder].place);
     }
 
     /// Tells the folders that the batch renames and creates from those that stay.
     void FindFoldersInTheirPlaces()
     {
-        m_standingAt.assign(m_plan.folders.size(), none);
         for (PlanIndex folder = 0; folder < m_plan.folders.size(); ++folder) {
             PlanFolder& planned = m_plan.folders[folder];
             if (planned.place.folder == none)
                 continue;
-            const auto [standing, coming] = OccupantsOf(planned.place);
+            const PlanIndex standing = std::exchange(m_standingAt[folder], none);
+            const PlanIndex coming = m_coming->Find(planned.place);
             // Entries move into a folder by its name before the batch, also where the batch gives it another one.
             if (standing != none && m_plan.entries[standing].kind == VyrPlatform::FileSystem::Kind::Folder)
                 planned.isNew = false;
@@ -115,7 +209,7 @@ private:
             members.emplace(m_groups[entry], entry);
         for (std::size_t next = 0; next < m_refused.size(); ++next) {
             const PlanIndex refused = m_refused[next].entry;
-            if (const PlanIndex coming = OccupantsOf(m_plan.entries[refused].from).after; coming != none)
+            if (const PlanIndex coming = m_coming->Find(m_plan.entries[refused].from); coming != none)
                 Refuse(coming, Reason::PlaceKept);
             for (const PlanIndex entry : waiting[refused])
                 Refuse(entry, Reason::FolderKept);
@@ -142,33 +236,6 @@ private:
             if (const PlanIndex standing = inTheWay[m_plan.entries[entry].to.folder]; standing != none)
                 waiting[standing].push_back(entry);
         return waiting;
-    }
-
-    /// Who stands at a place before the batch, and who after it.
-    struct Occupants
-    {
-        PlanIndex before = none;
-        PlanIndex after = none;
-    };
-
-    [[nodiscard]] Occupants OccupantsOf(const Place& place)
-    {
-        const Occupants* const occupants = m_occupants.Find(SlotOf(place));
-        return occupants ? *occupants : Occupants();
-    }
-
-    /// `place` as its file system sees it: its name is folded.
-    [[nodiscard]] Place SlotOf(const Place& place)
-    {
-        if (TakesNamesAsTheyAre(place.folder))
-            return place;
-        return {place.folder,
-                m_foldedNames.Intern(VyrHostPlatform::FoldName(place.name.View(), m_foldings[place.folder]))};
-    }
-
-    [[nodiscard]] bool TakesNamesAsTheyAre(PlanIndex folder) const
-    {
-        return m_foldings[folder] == VyrHostPlatform::NameFolding::None;
     }
 
     void Refuse(PlanIndex entry, Reason reason)
@@ -215,8 +282,8 @@ private:
     Model::RenamePlan m_plan;
     const std::vector<VyrHostPlatform::NameFolding> m_foldings;
     const std::vector<std::uint32_t> m_groups;
-    Model::SlotTable<Occupants> m_occupants;
-    Model::NamePool m_foldedNames;
+    /// By their new places.
+    std::optional<RenamesByPlace> m_coming;
     /// For each new folder the entry at its place.
     std::vector<PlanIndex> m_standingAt;
     std::vector<bool> m_isRefused;
