@@ -91,12 +91,10 @@ struct tagBLOB
 };
 using BLOB = tagBLOB;
 
-union LARGE_INTEGER
-{
+union LARGE_INTEGER {
     std::int64_t QuadPart;
 };
-union ULARGE_INTEGER
-{
+union ULARGE_INTEGER {
     std::uint64_t QuadPart;
 };
 
