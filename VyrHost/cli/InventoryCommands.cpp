@@ -6,6 +6,7 @@
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/OptionPairs.h>
+#include <VyrHost/cli/SettingsPage.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/text/UsageError.h>
 #include <VyrHost/ui/InventoryOutput.h>
@@ -100,7 +101,7 @@ ProgramsCommand::ProgramsCommand(CLI::App& program)
                   "List the products of Windows Installer instead; their columns are " +
                       Ui::NamesOf(Ui::ProductColumns()))
         ->group(Group);
-    m_command.add_flag("--open-settings", m_openSettings, "Open the system's own list of programs, and list nothing");
+    AddOpenSettings(m_command, "Open the system's own list of programs (on Windows), and list nothing", m_openSettings);
     m_command.footer(ProgramsExamples() + "\n" + ExitCode::Table);
 }
 
@@ -112,7 +113,8 @@ bool ProgramsCommand::IsChosen() const
 int ProgramsCommand::Run() const
 {
     if (m_openSettings)
-        return OpenSettings();
+        return OpenSettings(
+            m_command, {"this system's list of programs", VyrLibraryFuncs::ControlPanelFuncs::ExecProgramsAndFeatures});
     CheckOptionPairs(m_command, Exclusive);
     m_records.Check(m_installer ? Ui::ProductColumns() : Ui::ProgramColumns());
     Inventory::PlaceRequest request = m_place.Read();
@@ -123,18 +125,6 @@ int ProgramsCommand::Run() const
         throw Text::UsageError("--user and --scope machine exclude each other: the machine is no user's");
     const Inventory::Place place = Inventory::FindPlace(request);
     return m_installer ? WriteProducts(place, scope) : WritePrograms(place, scope);
-}
-
-int ProgramsCommand::OpenSettings() const
-{
-    for (const CLI::Option* const option : m_command.get_options())
-        if (option->count() > 0 && option->get_name() != "--open-settings")
-            throw Text::UsageError("--open-settings and " + option->get_name() +
-                                   " exclude each other: --open-settings lists nothing");
-    if (VyrLibraryFuncs::ControlPanelFuncs::ExecProgramsAndFeatures(nullptr) != 0)
-        return ExitCode::Success;
-    Complain("this system's list of programs cannot be opened");
-    return ExitCode::Blocked;
 }
 
 Scope ProgramsCommand::ReadScope() const

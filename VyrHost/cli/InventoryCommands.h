@@ -30,7 +30,6 @@ public:
     [[nodiscard]] int Run() const;
 
 private:
-    [[nodiscard]] int OpenSettings() const;
     [[nodiscard]] Inventory::Scope ReadScope() const;
     [[nodiscard]] int WritePrograms(const Inventory::Place& place, Inventory::Scope scope) const;
     [[nodiscard]] int WriteProducts(const Inventory::Place& place, Inventory::Scope scope) const;
@@ -44,7 +43,7 @@ private:
     bool m_no32Bit = false;
     bool m_showHidden = false;
     bool m_openSettings = false;
-    const RecordOptions m_records;
+    RecordOptions m_records;
 };
 
 /// Lists the browsers that are installed.
@@ -64,7 +63,7 @@ private:
     CLI::App& m_command;
     const PlaceOptions m_place;
     std::optional<std::string> m_find;
-    const RecordOptions m_records;
+    RecordOptions m_records;
 };
 
 } // namespace VyrHost::Cli

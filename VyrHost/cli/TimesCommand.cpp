@@ -4,9 +4,11 @@
 #include <VyrHost/cli/Examples.h>
 #include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/OptionPairs.h>
+#include <VyrHost/cli/SettingsPage.h>
 #include <VyrHost/cli/TextOptions.h>
 #include <VyrHost/metadata/TimesChange.h>
 #include <VyrHost/text/UsageError.h>
+#include <VyrLibraryFuncs/shell/ControlPanelFuncs.h>
 
 #include <CLI/CLI.hpp>
 
@@ -43,6 +45,8 @@ TimesCommand::TimesCommand(CLI::App& program)
     AddText(m_command, "--stagger", m_stagger, "AMOUNT",
             "Move each file one step more than the one before it in the list", group);
     AddText(m_command, "--start", m_start, "DATE TIME", "The time of the first file of --stagger", group);
+    AddOpenSettings(m_command, "Open the system's own page of date and time (on Windows), and show nothing",
+                    m_openSettings);
     m_command.footer("Without an option that sets or moves a time the times are shown. Without --apply nothing is "
                      "changed. What --apply changed, \"vyr undo\" undoes.\n\n" +
                      TimesExamples() + "\n" + ExitCode::Table);
@@ -55,6 +59,9 @@ bool TimesCommand::IsChosen() const
 
 int TimesCommand::Run() const
 {
+    if (m_openSettings)
+        return OpenSettings(
+            m_command, {"this system's page of date and time", VyrLibraryFuncs::ControlPanelFuncs::ExecDateAndTime});
     m_change.Check();
     constexpr DependentOption dependent[] = {{"--start", "--stagger"}};
     CheckOptionPairs(m_command, {}, dependent);

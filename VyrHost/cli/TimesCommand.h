@@ -41,6 +41,7 @@ private:
     std::optional<std::string> m_shift;
     std::optional<std::string> m_stagger;
     std::optional<std::string> m_start;
+    bool m_openSettings = false;
 };
 
 } // namespace VyrHost::Cli

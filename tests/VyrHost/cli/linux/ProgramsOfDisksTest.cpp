@@ -225,13 +225,6 @@ TEST_F(ProgramsOfDisks, AreReadWithAWarningWhereWindowsDidNotCloseThem)
     EXPECT_EQ(m_disk.Folder().ReadFile(u"SOFTWARE"), bytes) << "nothing is written";
 }
 
-TEST_F(ProgramsOfDisks, CannotOpenPagesThatTheSystemDoesNotHave)
-{
-    const ProgramResult result = Programs({u"--open-settings"});
-    EXPECT_EQ(result.exitCode, 4);
-    EXPECT_THAT(result.errors, StartsWith("vyr: "));
-}
-
 TEST_F(ProgramsOfDisks, AreListedByEveryExampleOfTheHelp)
 {
     WriteSampleDisk();
