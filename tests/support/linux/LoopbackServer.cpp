@@ -89,8 +89,10 @@ void LoopbackServer::Serve()
                 break;
             question.append(piece.data(), static_cast<std::size_t>(count));
         }
-        const std::size_t start = question.find(' ') + 1;
-        if (start > 0) {
+        // The greeting of a client that wants TLS is no question, whatever its random bytes look like.
+        constexpr std::string_view verb = "GET ";
+        if (question.starts_with(verb)) {
+            const std::size_t start = verb.size();
             ++m_questions;
             m_handler(question.substr(start, question.find(' ', start) - start), Answer(connection, m_isEnding));
         }
