@@ -15,11 +15,19 @@ using TakePiece = std::function<void(std::string_view piece)>;
 /// Gives the content of a file to `take`, piece by piece, so that long content need not be in memory as a whole.
 using Content = std::function<void(const TakePiece& take)>;
 
-/// Creates the file `path`, which only its owner may read, with `content`, and flushes it to the disk. The name itself
-/// is safe only after FlushFolder.
+/// Who may read a new file, on Linux; on Windows the folder decides.
+enum class Readers : std::uint8_t
+{
+    /// Its owner alone.
+    Owner,
+    /// Whoever the user's mask of permissions (umask) lets read new files.
+    ByMask
+};
+
+/// Creates the file `path` with `content`, and flushes it to the disk. The name itself is safe only after FlushFolder.
 /// @param content called at most once; an exception from it is passed on, and leaves an incomplete file.
 /// @return 0, else the system's error code (a file that exists already is an error), and then the file is removed.
-[[nodiscard]] std::uint32_t WriteNew(const CString& path, const Content& content);
+[[nodiscard]] std::uint32_t WriteNew(const CString& path, const Content& content, Readers readers = Readers::Owner);
 
 /// Appends `content` to the file `path`, without flushing it.
 /// @return 0, else the system's error code; a part of `content` may then have been written.

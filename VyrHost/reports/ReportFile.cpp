@@ -41,7 +41,7 @@ std::uint32_t WriteReportFile(const CString& path, bool mayReplace,
                               const std::function<void(const TakePiece& take)>& content)
 {
     const CString part = path + u".part";
-    if (const std::uint32_t error = DurableFile::WriteNew(part, content))
+    if (const std::uint32_t error = DurableFile::WriteNew(part, content, DurableFile::Readers::ByMask))
         return error;
     const bool isReplaced = mayReplace && FileSystem::Exists(path);
     const std::uint32_t error = isReplaced ? Replace(part, path) : RenameNoReplace(part, path);

@@ -39,10 +39,11 @@ std::uint32_t Close(Descriptor& file, std::uint32_t error) noexcept
 
 } // namespace
 
-std::uint32_t DurableFile::WriteNew(const CString& path, const Content& content)
+std::uint32_t DurableFile::WriteNew(const CString& path, const Content& content, Readers readers)
 {
     const NativePath nativePath(path);
-    Descriptor file(open(nativePath.Get(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    const mode_t mode = readers == Readers::Owner ? 0600 : 0666;
+    Descriptor file(open(nativePath.Get(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
     if (!file.IsOpen())
         return LastError();
     std::uint32_t error = 0;

@@ -34,7 +34,7 @@ DWORD Close(Handle& file, DWORD error) noexcept
 
 } // namespace
 
-std::uint32_t DurableFile::WriteNew(const CString& path, const Content& content)
+std::uint32_t DurableFile::WriteNew(const CString& path, const Content& content, Readers /*readers*/)
 {
     const LongPath longPath(path);
     Handle file(CreateFileW(longPath.Get(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL,

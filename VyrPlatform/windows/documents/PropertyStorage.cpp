@@ -126,9 +126,9 @@ std::uint32_t PropertySet::Write(std::span<const PropertyWrite> properties) cons
     for (const PropertyWrite& property : properties) {
         if (!property.value)
             return Result::invalidParameter;
-        PROPSPEC& spec = ids.emplace_back();
-        spec.ulKind = PRSPEC_PROPID;
-        spec.propid = property.id;
+        PROPSPEC& member = ids.emplace_back();
+        member.ulKind = PRSPEC_PROPID;
+        member.propid = property.id;
         values.push_back(*property.value);
     }
     if (ids.empty())
