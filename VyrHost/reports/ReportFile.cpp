@@ -5,6 +5,7 @@
 #include <VyrHostPlatform/DurableFile.h>
 #include <VyrHostPlatform/RenameFile.h>
 #include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/files/FullPath.h>
 
 namespace VyrHost::Reports {
 
@@ -40,11 +41,13 @@ void CheckReportFile(const CString& path, bool mayReplace)
 std::uint32_t WriteReportFile(const CString& path, bool mayReplace,
                               const std::function<void(const TakePiece& take)>& content)
 {
-    const CString part = path + u".part";
+    // Windows takes the path for a rename as it stands, so that it must not depend on the current folder.
+    const CString full = VyrPlatform::GetFullPath(path);
+    const CString part = full + u".part";
     if (const std::uint32_t error = DurableFile::WriteNew(part, content, DurableFile::Readers::ByMask))
         return error;
-    const bool isReplaced = mayReplace && FileSystem::Exists(path);
-    const std::uint32_t error = isReplaced ? Replace(part, path) : RenameNoReplace(part, path);
+    const bool isReplaced = mayReplace && FileSystem::Exists(full);
+    const std::uint32_t error = isReplaced ? Replace(part, full) : RenameNoReplace(part, full);
     if (error != 0)
         static_cast<void>(DurableFile::Remove(part));
     return error;

@@ -14,7 +14,7 @@ protected:
     Reports()
     {
         WriteNamed({u"a&b"});
-        EXPECT_EQ(Rename({u"--prefix", u"<i>", u"--apply", u"a&b"}).exitCode, 0);
+        EXPECT_EQ(Rename({u"--prefix", u"&lt;", u"--apply", u"a&b"}).exitCode, 0);
     }
     [[nodiscard]] ProgramResult List(std::vector<CString> more) const
     {
