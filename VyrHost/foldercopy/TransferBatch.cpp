@@ -14,37 +14,35 @@ namespace VyrHost::FolderCopy {
 TransferResults::TransferResults(const std::vector<TransferReport>& reports, TransferAction action)
 {
     for (const TransferReport& report : reports) {
-        Model::Result whole;
-        whole.kind = action == TransferAction::Copy ? "copy" : "move";
+        Model::Result& whole = Add(report.task, {}, action);
         whole.status = report.status;
         whole.size = report.size;
-        Add(report.task, {}, whole);
         TransferProblems problems = report.problems;
         std::stable_sort(problems.begin(), problems.end(),
                          [](const TransferProblem& left, const TransferProblem& right) {
                              return left.path.View() < right.path.View();
                          });
-        Model::Result part;
-        part.kind = whole.kind;
-        part.isPart = true;
-        // Clashes, found before anything is touched, are all that a refused tree has.
-        part.status = report.status == Model::Status::Refused ? Model::Status::Refused : Model::Status::Failed;
         for (const TransferProblem& problem : problems) {
+            Model::Result& part = Add(report.task, problem.path, action);
+            part.isPart = true;
+            // Clashes, found before anything is touched, are all that a refused tree has.
+            part.status = report.status == Model::Status::Refused ? Model::Status::Refused : Model::Status::Failed;
             part.reason = ReasonOf(problem);
-            Add(report.task, problem.path, part);
         }
     }
 }
 
-void TransferResults::Add(const TransferTask& task, const CString& path, Model::Result result)
+Model::Result& TransferResults::Add(const TransferTask& task, const CString& path, TransferAction action)
 {
     const auto below = [&path](const CString& folder) {
         return path.IsEmpty() ? folder : VyrLibraryUtils::FileUtils::GetCombinePath(folder, path);
     };
-    Row& row = m_rows.emplace_back(Row{
-        {below(task.source), below(task.shownSource), below(task.target), below(task.shownTarget)}, std::move(result)});
+    Row& row = m_rows.emplace_back();
+    row.texts = {below(task.source), below(task.shownSource), below(task.target), below(task.shownTarget)};
+    row.result.kind = action == TransferAction::Copy ? "copy" : "move";
     row.result.from = {row.texts[0], row.texts[1], {}};
     row.result.to = {row.texts[2], row.texts[3], {}};
+    return row.result;
 }
 
 TransferBatch::TransferBatch(const std::vector<CString>& sources, const CString& destination, TransferAction action,

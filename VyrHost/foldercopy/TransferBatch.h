@@ -9,6 +9,7 @@
 #include <VyrHost/foldercopy/TransferTasks.h>
 #include <VyrHost/model/Result.h>
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -37,10 +38,11 @@ private:
     /// A result, and the texts of its paths.
     struct Row
     {
-        CString texts[4];
+        std::array<CString, 4> texts;
         Model::Result result;
     };
-    void Add(const TransferTask& task, const CString& path, Model::Result result);
+    /// The result of the task, or of the entry at `path` in its folder; good until the next one is added.
+    Model::Result& Add(const TransferTask& task, const CString& path, TransferAction action);
 
     std::vector<Row> m_rows;
 };
