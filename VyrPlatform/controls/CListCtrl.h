@@ -1,9 +1,9 @@
 /// @file
 /// The list control of the platform class library, for lists in report style: rows with columns below a header.
 ///
-/// Neither class owns a window: each asks a window that a host made. On Linux the host describes its list to the
-/// library (LinuxListView.h) and gets a handle that stands for the window. What is asked of a window that is gone gives
-/// what an empty list gives.
+/// Neither class owns a window: both query a window of the host. On Linux the host describes its list to the library
+/// (LinuxListView.h) and gets a handle in place of a window. A destroyed window gives the same results as an empty
+/// list.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -19,7 +19,7 @@ class VYR_PLATFORM_API CHeaderCtrl
 public:
     /// The header's window; a null pointer when there is none.
     [[nodiscard]] HWND GetSafeHwnd() const noexcept { return m_window; }
-    /// How many columns the header has.
+    /// The number of columns of the header.
     [[nodiscard]] int GetItemCount() const;
 
 private:
@@ -33,17 +33,17 @@ private:
 class VYR_PLATFORM_API CListCtrl
 {
 public:
-    /// Makes this object ask `window`.
+    /// Makes this object use `window`.
     void Attach(HWND window) noexcept { m_window = window; }
 
-    /// The header, good until the next call and as long as this object lives; a null pointer when the list has none.
+    /// The header, valid until the next call and as long as this object lives; a null pointer when the list has none.
     [[nodiscard]] CHeaderCtrl* GetHeaderCtrl();
-    /// Writes the heading of the column at `index` with a NUL into `heading`, cut where it does not fit.
+    /// Writes the heading of the column at `index` with a NUL into `heading`, truncated where it does not fit.
     /// @param heading at least one code unit.
     /// @return whether there is such a column. Without one `heading` is empty.
     [[nodiscard]] bool GetColumn(int index, std::span<char16_t> heading) const;
     /// Writes the index of the column at each position into `order`.
-    /// @return whether that was done; it is not when `order` has another length than the list has columns.
+    /// @return false when the size of `order` is not the number of columns.
     [[nodiscard]] bool GetColumnOrderArray(std::span<int> order) const;
 
 private:

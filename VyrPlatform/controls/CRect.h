@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-/// A rectangle in pixels; its right and bottom edges are no longer part of it. It is laid out as the system's own.
+/// A rectangle in pixels; its right and bottom edges are not part of it. Same layout as the system's own.
 struct CRect
 {
     CRect() noexcept = default;

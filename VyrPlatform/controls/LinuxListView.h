@@ -1,8 +1,7 @@
 /// @file
-/// For hosts on Linux: a list of a toolkit's own, as CListCtrl sees it.
+/// For hosts on Linux: describes a list of their toolkit to CListCtrl.
 ///
-/// A Windows host has its system's list control and needs none of this. Lists are described and asked on one thread at
-/// a time.
+/// A Windows host uses its system's list control and needs none of this. Use lists on one thread at a time.
 #pragma once
 
 #include <VyrPlatform/controls/CListCtrl.h>
@@ -12,7 +11,7 @@
 
 namespace VyrPlatform {
 
-/// The columns of a list in report style. The host keeps them as its toolkit's list has them.
+/// The columns of a list in report style. The host keeps them in step with its toolkit's list.
 class VYR_PLATFORM_API ListView
 {
 public:
@@ -20,23 +19,23 @@ public:
     ListView();
     ListView(const ListView&) = delete;
     ListView& operator=(const ListView&) = delete;
-    /// From now on its handle is that of a window that is gone.
+    /// The handle then acts like that of a destroyed window.
     ~ListView();
 
-    /// What CListCtrl::Attach takes; no other list ever gets the same.
+    /// The argument for CListCtrl::Attach. No other list ever has the same handle.
     [[nodiscard]] HWND GetHandle() const noexcept;
 
-    /// Inserts a column with `heading` at `index`, and at the position of that number; columns there and behind move on
-    /// by one. One past the last index, or further, appends it.
-    /// @return whether it was inserted; it is not for a negative `index`.
+    /// Inserts a column with `heading` at `index`, and at the position of the same number; columns at and behind it
+    /// move by one. An index past the end appends it.
+    /// @return whether it was inserted: false for a negative `index`.
     bool InsertColumn(int index, const CString& heading);
     /// Removes the column at `index`.
     /// @return whether there was one.
     bool DeleteColumn(int index);
-    /// Puts the column at `index` to `position`, as the user does who drags its heading there.
-    /// @return whether there are such a column and such a position.
+    /// Moves the column at `index` to `position`, like a user who drags its heading there.
+    /// @return false when there is no such column or position.
     bool MoveColumn(int index, int position);
-    /// Says whether the list has a header. It keeps its columns without one.
+    /// Sets whether the list has a header. Without one it keeps its columns.
     void SetHasHeader(bool hasHeader);
 
 private:

@@ -7,8 +7,7 @@
 
 #include <cstdint>
 
-/// What the operations of a file throw. It is thrown by value: catch it as `const CFileException&`, there is nothing to
-/// delete.
+/// Thrown by the operations of a file, by value: catch it as `const CFileException&`; there is nothing to delete.
 class VYR_PLATFORM_API CFileException
 {
 public:
@@ -40,7 +39,7 @@ public:
     CFileException& operator=(const CFileException& other);
     ~CFileException();
 
-    /// The cause that belongs to one of the system's error codes: `none` for 0, `genericException` where no other fits.
+    /// The cause for a system error code: `none` for 0, `genericException` where no other fits.
     [[nodiscard]] static int OsErrorToException(std::int32_t osError) noexcept;
 
     int m_cause;

@@ -7,12 +7,12 @@
 
 #include <memory>
 
-// The Windows headers take this name as a macro, which would rename the member. A source that includes them undefines
+// The Windows headers define this name as a macro, which would rename the member. A source that includes them undefines
 // it before it calls the member.
 #pragma push_macro("FindNextFile")
 #undef FindNextFile
 
-/// Walks the entries of a folder, "." and ".." included, in the order in which the system gives them.
+/// Walks the entries of a folder, including "." and "..", in the system's order.
 ///
 ///     CFileFind finder;
 ///     for (bool more = finder.FindFile(folder + u"/*.*"); more;) {
@@ -27,7 +27,7 @@ public:
     CFileFind& operator=(const CFileFind&) = delete;
     ~CFileFind();
 
-    /// Begins a search; one that is under way is closed.
+    /// Begins a search, after closing one in progress.
     /// @param pattern a folder, a separator and "*.*" or "*", which both match every name. Without a folder the current
     ///        one is searched. Any other pattern matches nothing.
     /// @return whether there is an entry; the first FindNextFile goes to it.
@@ -46,7 +46,7 @@ public:
     [[nodiscard]] CString GetFilePath() const;
     /// Whether the entry is "." or "..".
     [[nodiscard]] bool IsDots() const;
-    /// Whether the entry is a folder. A link to one is not: who walks into folders must not leave the tree.
+    /// Whether the entry is a folder. A link to one is not: a walk into folders must not leave the tree.
     [[nodiscard]] bool IsDirectory() const;
 
 private:

@@ -4,7 +4,7 @@
 
 #include <VyrPlatform/Export.h>
 
-/// What is thrown for an argument that no caller may pass, such as a null pointer for a text. It is thrown by value.
+/// Thrown by value for an argument that is never allowed, such as a null pointer for a text.
 class VYR_PLATFORM_API CInvalidArgException
 {
 public:

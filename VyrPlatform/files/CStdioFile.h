@@ -10,11 +10,11 @@
 #include <cstdint>
 #include <memory>
 
-/// A file behind a buffer, with lines of UTF-16 text. It reads and writes bytes as they are: line ends are not
-/// translated, and the texts are UTF-16 in little-endian order without a mark.
+/// A file with a buffer, and with lines of UTF-16 text. Bytes are read and written unchanged: line ends are not
+/// translated, and texts are UTF-16 in little-endian order without a byte order mark.
 ///
-/// What was written is in the file for certain only after Close; an error may be told by a later call than the one that
-/// wrote. Reading and writing may alternate as they like.
+/// Data is certain to be in the file only after Close; an error may be reported by a later call than the one that
+/// wrote. Reading and writing may alternate freely.
 class VYR_PLATFORM_API CStdioFile : public CFile
 {
 public:
@@ -31,27 +31,27 @@ public:
     void Close() override;
     void Abort() noexcept override;
 
-    /// Writes the text up to its NUL, which is left out.
+    /// Writes the text up to its NUL, without the NUL.
     /// @throws CInvalidArgException  `text` is null.
     virtual void WriteString(const char16_t* text);
     /// Reads a line.
-    /// @param line  gets it without its line feed; empty at the end of the file.
+    /// @param line  gets the line without its line feed; empty at the end of the file.
     /// @return nonzero when there was a line, 0 at the end of the file.
     virtual int ReadString(CString& line);
-    /// Reads a line, or its beginning where it has `capacity` units or more.
-    /// @param buffer  gets it with its line feed and a NUL.
-    /// @param capacity  the size of `buffer` in units, the NUL included.
+    /// Reads a line, or its first part where it has `capacity` code units or more.
+    /// @param buffer  gets the line with its line feed and a NUL.
+    /// @param capacity  the size of `buffer` in code units, including the NUL.
     /// @return `buffer`, null at the end of the file.
     /// @throws CInvalidArgException  `buffer` is null or `capacity` is 0.
     virtual char16_t* ReadString(char16_t* buffer, std::uint32_t capacity);
 
 protected:
-    /// Whether there is a buffer, which is while the file is open.
+    /// Whether there is a buffer, as while the file is open.
     [[nodiscard]] bool HasStream() const noexcept { return m_stream != nullptr; }
-    /// Reads bytes up to the next line feed, and that as well; at most `capacity`.
-    /// @return how many were read: fewer than `capacity` only where a line feed is the last, or the file ends.
+    /// Reads bytes up to and including the next line feed; at most `capacity`.
+    /// @return the number of bytes read: less than `capacity` only after a line feed or at the end of the file.
     std::size_t ReadLine(char* target, std::size_t capacity);
-    /// Reads code units of two bytes likewise. A single byte before the end of the file is read and dropped.
+    /// Reads code units of two bytes in the same way. A single byte before the end of the file is read and discarded.
     std::size_t ReadLine(char16_t* target, std::size_t capacity);
 
 private:

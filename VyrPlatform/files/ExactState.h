@@ -1,5 +1,5 @@
 /// @file
-/// What a file has besides its content, kept so exactly that it can be put back.
+/// Reads times and attributes of a file so exactly that they can be restored.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -10,7 +10,7 @@
 
 namespace VyrPlatform::ExactState {
 
-/// What is read and put back for itself.
+/// A value that is read and restored separately.
 enum class Part : std::uint8_t
 {
     /// The time of the last change, to the file system's precision.
@@ -22,14 +22,14 @@ enum class Part : std::uint8_t
     Attributes
 };
 
-/// How the file or folder at `path` has `part` (a link is followed): printable ASCII, which Restore reads on this
+/// The value of `part` of the file or folder at `path` (a link is followed): printable ASCII, for Restore on this
 /// system.
-/// @param error  gets the system's error code where nothing is returned.
+/// @param error  gets the system's error code where there is no result.
 [[nodiscard]] VYR_PLATFORM_API std::optional<CString> Read(const CString& path, Part part, std::uint32_t& error);
 
-/// Puts `part` back as Read gave it, also where the file is read-only. On Linux what others have put into the same
-/// extended attribute since, and the permissions to read, stay.
-/// @return 0, else the system's error code: that of an invalid argument where `state` is none that Read gives.
+/// Restores `part` from the text that Read gave, also where the file is read-only. On Linux the other fields of the
+/// same extended attribute, and the read permissions, keep their present values.
+/// @return 0, else the system's error code: invalid argument where `state` is not a result of Read.
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t Restore(const CString& path, Part part, const CString& state);
 
 } // namespace VyrPlatform::ExactState

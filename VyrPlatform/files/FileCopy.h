@@ -9,40 +9,40 @@
 
 namespace VyrPlatform::FileCopy {
 
-/// Copies the file `source` to `destination` and replaces a file that stands there.
+/// Copies the file `source` to `destination` and replaces an existing file.
 ///
 /// The copy has the content (holes stay holes on Linux), the mode or attributes, the modification time and the extended
-/// attributes or streams; on Linux also the owner, as far as the user may give files away. What the destination's file
-/// system cannot keep of them is left out. A link (on Windows a junction too) is copied as a link, where the system
-/// allows the user to make one.
+/// attributes or streams; on Linux also the owner, where the user may set it. What the destination's file system cannot
+/// keep of these is left out. A link (on Windows also a junction) is copied as a link, where the system allows the user
+/// to create one.
 ///
-/// A file at `destination` is replaced once its copy is whole. Only where its folder may not be written, but the file
-/// may, is it overwritten in place: a failure can then leave it incomplete.
+/// A file at `destination` is replaced once its copy is complete. Only where the file is writable but its folder is
+/// not, it is overwritten in place: then a failure can leave it incomplete.
 ///
-/// The copy fails, and nothing has changed, when `source` is anything else (a folder, a pipe, a device: it never waits
-/// for one), when a folder or a read-only file stands at `destination`, and when both are one file.
+/// The copy fails, and nothing has changed, when `source` is not a file or link (a folder, a pipe, a device: it never
+/// waits for one), when `destination` is a folder or a read-only file, and when both are the same file.
 /// @return 0 when it was copied, else the system's error code.
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t Copy(const CString& source, const CString& destination);
 
-/// Moves the file `source` (a link itself, not what it leads to) to `destination` and replaces a file that stands
-/// there; to another volume, and into a folder that may not be written, by Copy, after which `source` is removed. Where
+/// Moves the file `source` (a link itself, not its target) to `destination` and replaces an existing file. To another
+/// volume, and into a folder without write permission, it copies with Copy and then removes `source`. Where
 /// `destination` is another hard link of the same file, `source` is removed.
 ///
-/// It fails as Copy does. A file that is moved onto itself stays as it is.
-/// @return 0 when it was moved, else the system's error code; `source` still stands then.
+/// It fails as Copy does. A file that is moved to its own path is not changed.
+/// @return 0 when it was moved, else the system's error code; `source` then still exists.
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t Move(const CString& source, const CString& destination);
 
-/// What the owner may do with a folder.
+/// The owner's permissions for a folder.
 enum class OwnerAccess : std::uint8_t
 {
     AsInSource,
-    /// Read, write and enter it, whatever the source says. On Windows the same as AsInSource.
+    /// Read, write and enter it, whatever the source allows. On Windows the same as AsInSource.
     Full
 };
 
-/// Gives the folder `destination` the permissions of the folder `source` (on Linux without the bit that hands on the
-/// group, unless both have the same group), on Windows the attributes.
-/// @return 0 when it has them, else the system's error code.
+/// Gives the folder `destination` the permissions of the folder `source` (on Linux without the set-group-ID bit, unless
+/// both have the same group); on Windows the attributes.
+/// @return 0 when they were set, else the system's error code.
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t CopyFolderMode(const CString& source, const CString& destination,
                                                             OwnerAccess access);
 

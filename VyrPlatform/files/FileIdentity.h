@@ -1,5 +1,5 @@
 /// @file
-/// Identifies the file at a path, whatever its name, and tells whether it has changed.
+/// Identifies a file independently of its name, and tells whether it has changed.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -22,22 +22,22 @@ struct FileIdentity
     friend bool operator==(const FileIdentity&, const FileIdentity&) noexcept = default;
 };
 
-/// The answer to one question about an entry itself: a link is not followed.
+/// The result of one query of an entry itself: a link is not followed.
 struct FileState
 {
-    /// File, Folder, or Other (a symbolic link, a device); Missing when nothing could be looked at.
+    /// File, Folder, or Other (a symbolic link, a device); Missing when the query failed.
     FileSystem::Kind kind = FileSystem::Kind::Missing;
     FileIdentity identity;
-    /// In bytes; 0 for what is not a file.
+    /// In bytes; 0 unless it is a file.
     std::int64_t size = 0;
     FileTicks modified = 0;
-    /// How many names the file has.
+    /// The number of names of the file.
     std::uint32_t links = 0;
-    /// Why the kind is Missing: the system's error code, else 0.
+    /// The system's error code when the kind is Missing, else 0.
     std::uint32_t error = 0;
 };
 
-/// What stands at `path`.
+/// The state of the entry at `path`.
 [[nodiscard]] VYR_PLATFORM_API FileState LookAtFile(const CString& path);
 
 } // namespace VyrPlatform

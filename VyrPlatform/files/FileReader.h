@@ -11,15 +11,15 @@
 
 namespace VyrPlatform {
 
-/// A file opened for reading, which others may read, write, rename and delete. Opens regular files only, and so never
+/// A file opened for reading, which others may read, write, rename and delete. Opens only regular files, and so never
 /// waits for a pipe or a device.
 class VYR_PLATFORM_API FileReader
 {
 public:
-    /// Opens the file at `path`; IsOpen tells whether that succeeded, Error why not.
+    /// Opens the file at `path`; IsOpen tells whether that succeeded, and Error the reason if not.
     explicit FileReader(const CString& path);
     /// Opens the file and reads its first bytes into `beginning`. On Linux this is cheaper than the two steps, because
-    /// it does not ask for the file's kind; a disk device opens in this way too.
+    /// it does not query the file's kind; so it also opens a disk device.
     FileReader(const CString& path, std::span<std::byte> beginning);
     FileReader(const FileReader&) = delete;
     FileReader& operator=(const FileReader&) = delete;
@@ -30,10 +30,10 @@ public:
     [[nodiscard]] std::uint32_t Error() const noexcept;
     /// The size in bytes when it was opened; 0 when it is not open.
     [[nodiscard]] std::uint64_t Size() const noexcept { return m_size; }
-    /// How many bytes of the beginning were read when it was opened.
+    /// The number of bytes of the beginning that were read when it was opened.
     [[nodiscard]] std::size_t BeginningSize() const noexcept { return m_beginningSize; }
     /// Reads from `offset` on into `buffer`.
-    /// @return how many bytes were read: fewer than asked for only at the end of the file or when the system fails.
+    /// @return the number of bytes read: fewer than requested only at the end of the file or when the system fails.
     [[nodiscard]] std::size_t ReadAt(std::uint64_t offset, std::span<std::byte> buffer) const;
 
 private:

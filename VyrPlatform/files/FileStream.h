@@ -1,5 +1,5 @@
 /// @file
-/// An open file that is read and written from a place that moves along.
+/// An open file with a position at which it is read and written.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -11,7 +11,7 @@
 
 namespace VyrPlatform {
 
-/// A regular file, opened for reading, writing or both. Without a buffer: every call asks the system.
+/// A regular file, opened for reading, writing or both. Unbuffered: every call is a call of the system.
 class VYR_PLATFORM_API FileStream
 {
 public:
@@ -22,18 +22,18 @@ public:
         ReadWrite
     };
 
-    /// What becomes of a file that is there, and of one that is not.
+    /// How existing and missing files are treated.
     enum class Creation : std::uint8_t
     {
-        /// It must be there.
+        /// The file must exist.
         Open,
-        /// It is made where it is missing.
+        /// A missing file is created.
         OpenOrCreate,
-        /// It is made where it is missing, and emptied where it is there.
+        /// A missing file is created, and an existing one emptied.
         CreateEmpty
     };
 
-    /// What others may do with the file meanwhile. Linux has no such limits: there every value allows everything.
+    /// What others may do with the file meanwhile. Linux has no such limits: every value allows everything.
     struct Sharing
     {
         bool read = true;
@@ -52,26 +52,26 @@ public:
     FileStream& operator=(const FileStream&) = delete;
     ~FileStream();
 
-    /// Opens the file at `path`; one that is open is closed first. What is not a regular file (a folder, a pipe, a
-    /// device) does not open, and is never waited for; a read-only file does not open for writing, whoever asks, and
-    /// keeps its content.
+    /// Opens the file at `path`, after closing an open one. Anything but a regular file (a folder, a pipe, a device)
+    /// does not open, and is never waited for. A read-only file does not open for writing, for any user, and keeps its
+    /// content.
     /// @return 0, else the system's error code.
     [[nodiscard]] std::uint32_t Open(const CString& path, Access access, Creation creation, Sharing sharing);
     [[nodiscard]] bool IsOpen() const noexcept;
-    /// Closes the file. A file system may tell only here that it could not write everything.
+    /// Closes the file. Some file systems report only here that they could not write everything.
     /// @return 0, also when none is open, else the system's error code.
     [[nodiscard]] std::uint32_t Close() noexcept;
 
     /// Reads into `buffer` until it is full or the file ends.
-    /// @param count  gets the number of bytes that were read, also when the system fails.
+    /// @param count  gets the number of bytes read, also when the system fails.
     /// @return 0, else the system's error code.
     [[nodiscard]] std::uint32_t Read(std::span<std::byte> buffer, std::size_t& count) noexcept;
     /// Writes all of `bytes`.
     /// @return 0, else the system's error code; a part may then have been written.
     [[nodiscard]] std::uint32_t Write(std::span<const std::byte> bytes) noexcept;
-    /// Moves the place to `offset` bytes from `origin`; it may lie behind the end.
-    /// @param place  gets the new place, from the beginning; unchanged when the system fails.
-    /// @return 0, else the system's error code, also for a place before the beginning.
+    /// Moves the position to `offset` bytes from `origin`; it may be behind the end.
+    /// @param place  gets the new position, from the beginning; unchanged when the system fails.
+    /// @return 0, else the system's error code, also for a position before the beginning.
     [[nodiscard]] std::uint32_t Seek(std::int64_t offset, Origin origin, std::uint64_t& place) noexcept;
 
 private:

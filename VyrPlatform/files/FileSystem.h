@@ -1,5 +1,5 @@
 /// @file
-/// Tells what stands at a path, creates folders, and removes files.
+/// Queries what is at a path, creates folders, and removes files.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -20,46 +20,46 @@ enum class Kind : std::uint8_t
     Other
 };
 
-/// What the system tells of a path in one call.
+/// The result of one query of a path.
 struct Entry
 {
     Kind kind = Kind::Missing;
-    /// The path itself names a symbolic link (a reparse point that stands for another path).
+    /// The path itself is a symbolic link (a reparse point that leads to another path).
     bool isLink = false;
-    /// In bytes; 0 for what is not a file.
+    /// In bytes; 0 unless it is a file.
     std::int64_t size = 0;
     FileTicks modified = 0;
     FileTicks accessed = 0;
-    /// As the file system tells it (0 when it does not); FileTimes::GetCreated knows the conventions beyond.
+    /// As the file system reports it (0 when it does not); FileTimes::GetCreated also follows other conventions.
     FileTicks created = 0;
 };
 
-/// What stands at `path`. Follows a link; one that leads nowhere is of kind Other. A path that the system cannot
-/// examine (a missing parent, no permission, an invalid name) is Missing.
+/// The entry at `path`. Follows a link; one that leads nowhere is of kind Other. A path that the system cannot examine
+/// (a missing parent, no permission, an invalid name) is Missing.
 [[nodiscard]] VYR_PLATFORM_API Entry Query(const CString& path);
 
-/// Whether anything stands at `path`, a link that leads nowhere included.
+/// Whether there is an entry at `path`, including a link that leads nowhere.
 [[nodiscard]] VYR_PLATFORM_API bool Exists(const CString& path);
-/// Whether a folder, or a link to one, stands at `path`.
+/// Whether there is a folder, or a link to one, at `path`.
 [[nodiscard]] VYR_PLATFORM_API bool IsFolder(const CString& path);
 
-/// Where the symbolic link (on Windows also the junction) at `path` leads to, as it holds it; nothing when there is no
+/// The target of the symbolic link (on Windows also the junction) at `path`, as stored in it; nothing when there is no
 /// such link.
 [[nodiscard]] VYR_PLATFORM_API std::optional<CString> GetLinkTarget(const CString& path);
 
 /// Creates the folder `path`, whose parent exists.
-/// @return 0 when it was created, else the system's error code (one that exists already is an error).
+/// @return 0 when it was created, else the system's error code (also where it exists already).
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t CreateFolder(const CString& path);
 
-/// Removes the file `path` (a link itself, not what it leads to).
-/// @return 0 when it was removed, else the system's error code. A folder is not, and on Windows a read-only file.
+/// Removes the file `path` (a link itself, not its target).
+/// @return 0 when it was removed, else the system's error code. Folders are refused, and on Windows read-only files.
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t RemoveFile(const CString& path);
 
 /// Whether `unit` separates the parts of a path on this system.
 [[nodiscard]] VYR_PLATFORM_API bool IsSeparator(char16_t unit) noexcept;
-/// The separator that this system writes.
+/// The separator that this system uses in its own paths.
 [[nodiscard]] VYR_PLATFORM_API char16_t Separator() noexcept;
-/// Whether the last unit of `path` separates; false for an empty one.
+/// Whether the last code unit of `path` is a separator; false for an empty path.
 [[nodiscard]] VYR_PLATFORM_API bool EndsWithSeparator(std::u16string_view path) noexcept;
 /// The path of `name` in `folder`, with one separator between them: `a/b` for `a` and `b`, and for `a/` and `b`. An
 /// empty `folder` gives `name`.

@@ -11,7 +11,7 @@
 
 namespace VyrPlatform {
 
-/// Walks the entries of one folder in the order in which the system gives them.
+/// Walks the entries of one folder in the system's order.
 ///
 ///     for (FolderListing listing(path); listing.Next();)
 ///         use(listing.Name(), listing.Kind());
@@ -22,11 +22,11 @@ public:
     enum class Dots : std::uint8_t
     {
         LeftOut,
-        /// Given where the system gives them (the root folder of a Windows drive has none).
+        /// Given where the system has them (the root folder of a Windows drive has none).
         Given
     };
 
-    /// Opens the folder at `path`. Where that fails, Next answers false at once and Error says why.
+    /// Opens the folder at `path`. Where that fails, Next returns false at once and Error gives the reason.
     explicit FolderListing(const CString& path, Dots dots = Dots::LeftOut);
     FolderListing(const FolderListing&) = delete;
     FolderListing& operator=(const FolderListing&) = delete;
@@ -34,9 +34,9 @@ public:
 
     /// Goes to the next entry; false at the end, and when the system fails.
     [[nodiscard]] bool Next();
-    /// The entry's name. A Linux name that is not UTF-8 is mapped as Encoding.h says.
+    /// The entry's name. A Linux name that is not UTF-8 is converted as Encoding.h describes.
     [[nodiscard]] const CString& Name() const noexcept;
-    /// The entry's kind as the listing itself tells it; for a link, what it leads to (which asks the system once more).
+    /// The entry's kind from the listing itself; for a link, that of its target (which needs a query).
     [[nodiscard]] FileSystem::Kind Kind() const noexcept;
     [[nodiscard]] bool IsLink() const noexcept;
     /// The system's error code of the last failure, 0 when there was none.

@@ -8,14 +8,14 @@
 namespace VyrPlatform {
 
 /// `path` as a full path from the current folder, without "." steps, doubled separators and separators at its end (that
-/// of a root stays). The disk is not asked: on Linux ".." steps stay, since links decide where they lead; on Windows
-/// they are resolved in the text, as the system itself does. An empty path stays empty.
+/// of a root is kept). The disk is not read: on Linux ".." steps are kept, since links decide where they lead; on
+/// Windows they are resolved in the text, as the system itself does. An empty path stays empty.
 ///
 ///     In the folder /home/me, "a//./b/" gives "/home/me/a/b".
 [[nodiscard]] VYR_PLATFORM_API CString GetFullPath(const CString& path);
 
-/// The full path, without any link and ".." step, of what stands at `path`; empty when nothing does, or the system
-/// cannot tell.
+/// The full path, without links and ".." steps, of the entry at `path`; empty when there is none, or the system cannot
+/// tell.
 [[nodiscard]] VYR_PLATFORM_API CString GetRealPath(const CString& path);
 
 } // namespace VyrPlatform

@@ -14,6 +14,6 @@ public:
     virtual ~CWinApp();
 
     /// Called once when the module is loaded, after its static settings exist.
-    /// @return 1 when the module may be used.
+    /// @return 1 when the module can be used.
     virtual int InitInstance();
 };

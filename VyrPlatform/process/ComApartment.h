@@ -6,8 +6,8 @@
 
 namespace VyrPlatform {
 
-/// Initialises COM on the calling thread, for its interface, and ends that when it is destroyed; on Linux there is
-/// nothing to initialise. Create it on the stack, and let no object of COM outlive it.
+/// Initialises COM on the calling thread (single-threaded apartment), and uninitialises it when destroyed; on Linux it
+/// does nothing. Create it on the stack, and let no COM object outlive it.
 class VYR_PLATFORM_API ComApartment
 {
 public:

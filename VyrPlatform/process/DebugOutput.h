@@ -15,7 +15,7 @@ using Sink = std::function<void(const CString&)>;
 /// discarded.
 VYR_PLATFORM_API void Write(const CString& text);
 
-/// Makes Write hand its texts to `sink`; an empty one ends that. Set it while no other thread writes.
+/// Makes Write pass its texts to `sink`; an empty one ends that. Set it while no other thread writes.
 VYR_PLATFORM_API void SetSink(Sink sink);
 
 } // namespace VyrPlatform::DebugOutput

@@ -1,5 +1,5 @@
 /// @file
-/// For hosts on Linux: how events come into the queue that MessageQueue::DrainOne handles.
+/// For hosts on Linux: puts events into the queue that MessageQueue::DrainOne handles.
 ///
 /// A Windows host uses its system's own message functions and needs none of this.
 #pragma once
@@ -11,19 +11,19 @@
 
 namespace VyrPlatform::MessageQueue {
 
-/// The queue of one thread, for others to post into. Lives as long as someone holds it, also after its thread; events
-/// that wait when the thread ends, and later ones, are dropped.
+/// The queue of one thread, into which other threads post. It lives as long as an object refers to it, also after its
+/// thread. Events that wait when the thread ends, and later ones, are dropped.
 class VYR_PLATFORM_API Poster
 {
 public:
     /// The calling thread's queue.
     [[nodiscard]] static Poster ForCallingThread();
 
-    /// Adds `work`, to be run by a drain on the queue's own thread; an empty one does nothing there. Any thread may
-    /// call this. The work may post and drain. An exception of it leaves the drain that runs it; the work behind it
-    /// stays.
+    /// Adds `work`, to be run by a drain on the queue's own thread; an empty function does nothing there. Any thread
+    /// may call this. The work may post and drain. An exception of the work leaves the drain that runs it; the work
+    /// behind it stays in the queue.
     void Post(std::function<void()> work) const;
-    /// Asks the queue's thread to stop, after the work posted before.
+    /// Requests the queue's thread to stop, after the work posted before.
     void PostStop() const;
 
 private:
@@ -33,11 +33,11 @@ private:
     std::shared_ptr<Queue> m_queue;
 };
 
-/// One pass of a host's own main loop that does not wait: handles at most one of its pending events, and returns true
-/// when that event asks for a stop. The work of its events may drain, the pass itself may not.
+/// One pass of a host's own main loop that does not wait: handles at most one pending event, and returns true when that
+/// event requests a stop. The work of its events may drain, the pass itself may not.
 using MainLoopPass = std::function<bool()>;
 
-/// Makes the drains of the calling thread run `pass` whenever nothing posted is waiting; an empty one ends that.
+/// Makes the drains of the calling thread run `pass` whenever no posted work is waiting; an empty function ends that.
 VYR_PLATFORM_API void PlugMainLoop(MainLoopPass pass);
 
 } // namespace VyrPlatform::MessageQueue

@@ -10,7 +10,7 @@ namespace VyrPlatform::MessageQueue {
 ///
 /// On Windows this is the thread's message queue: one message is removed, translated and dispatched. On Linux it is the
 /// queue that LinuxMessageQueue.h fills. Costs a few nanoseconds there when nothing is pending.
-/// @return true when a stop was asked for (the quit message): told once, after all work that was posted before it.
+/// @return true when a stop was requested (the quit message): once, after all work that was posted before it.
 [[nodiscard]] VYR_PLATFORM_API bool DrainOne();
 
 } // namespace VyrPlatform::MessageQueue

@@ -1,5 +1,5 @@
 /// @file
-/// Tells of the running program (file, version, environment) and of the system's folders.
+/// The running program (file, version, environment) and the system's folders.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -15,7 +15,7 @@ namespace VyrPlatform::Process {
 /// program runs.
 [[nodiscard]] VYR_PLATFORM_API CString GetProgramPath();
 
-/// The program's version: on Windows its version resource, on Linux the note that the build puts in.
+/// The program's version: on Windows its version resource, on Linux the note that the build adds.
 struct ProgramVersion
 {
     /// Major, minor, revision, build.
@@ -45,13 +45,13 @@ enum class DataLocation : std::uint8_t
     State
 };
 
-/// The folder of `location`, without a separator at its end; empty when the system names none.
+/// The folder of `location`, without a separator at its end; empty when the system has none.
 [[nodiscard]] VYR_PLATFORM_API CString GetDataFolder(DataLocation location);
 
-/// An environment variable; nothing when it is not set.
+/// The value of an environment variable; nothing when it is not set.
 [[nodiscard]] VYR_PLATFORM_API std::optional<CString> GetEnvironment(const CString& name);
 
-/// `text` with each `%NAME%` replaced by the environment variable NAME; what names none stays as it is.
+/// `text` with each `%NAME%` replaced by the value of the environment variable NAME; other text is kept.
 ///
 /// On Linux the variables SystemRoot, windir, SystemDrive, ProgramFiles, ProgramFiles(x86), CommonProgramFiles and
 /// ProgramData, which its processes do not have, are taken from the registry that is open (Registry.h), in any case.

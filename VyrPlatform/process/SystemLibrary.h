@@ -1,5 +1,5 @@
 /// @file
-/// Libraries of the system that are loaded while the program runs.
+/// Libraries of the system, loaded at run time.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -11,12 +11,11 @@ namespace VyrPlatform {
 class VYR_PLATFORM_API SystemLibrary
 {
 public:
-    /// Loads the library at the full path `path`, or finds it loaded.
+    /// Loads the library at the full path `path` unless it is loaded already.
     explicit SystemLibrary(const CString& path);
 
     [[nodiscard]] bool IsLoaded() const noexcept { return m_handle != nullptr; }
-    /// Its function `name`, of the type that the caller knows it to have; a null pointer when it has none, or is not
-    /// loaded.
+    /// Its function `name`, cast to the type `Function`; a null pointer when the library has none or is not loaded.
     template <class Function>
     [[nodiscard]] Function* Find(const char* name) const
     {

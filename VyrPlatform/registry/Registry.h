@@ -2,10 +2,10 @@
 /// The registry: a tree of keys, each with values.
 ///
 /// On Windows it is the system's. On Linux a root key shows what the host has opened for it (LinuxRegistry.h,
-/// RegistryFiles.h), and nothing before; an operation below a root key without anything answers Error::notFound.
+/// RegistryFiles.h), and is empty before; below an empty root key operations return Error::notFound.
 ///
-/// A path names keys below another one, separated by backslashes, without regard to case; one at its end is ignored.
-/// The empty path is the key itself. A path or a name ends at its first NUL.
+/// A path names keys below another key, separated by backslashes, without regard to case; a backslash at its end is
+/// ignored. The empty path is the key itself. A path or a name ends at its first NUL.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -21,10 +21,10 @@ struct HKEY__; // NOLINT(bugprone-reserved-identifier): the system's own tag
 
 namespace VyrPlatform::Registry {
 
-/// A root key (WinTypes.h has their names) or a key that is open.
+/// A root key (see WinTypes.h) or an open key.
 using Handle = HKEY__*;
 
-/// The error codes that callers tell apart, numbered on both systems as Windows does. An operation may give others.
+/// The error codes that callers distinguish, with Windows' numbers on both systems. Other codes are possible.
 namespace Error {
 inline constexpr std::uint32_t none = 0;
 inline constexpr std::uint32_t notFound = 2;
@@ -35,7 +35,7 @@ inline constexpr std::uint32_t invalidParameter = 87;
 inline constexpr std::uint32_t badPathName = 161;
 /// The buffer is too small.
 inline constexpr std::uint32_t moreData = 234;
-/// There is nothing at this index or behind it.
+/// There is no item at this index.
 inline constexpr std::uint32_t noMoreItems = 259;
 /// The key was deleted after it had been opened.
 inline constexpr std::uint32_t keyDeleted = 1018;
@@ -72,14 +72,14 @@ public:
 
     /// Opens the key at `path` below `parent`.
     [[nodiscard]] static Key Open(Handle parent, const CString& path, Access access);
-    /// Opens the key at `path` below `parent` for reading and writing. A key that is missing is made, with those above
-    /// it, and stays when the system is restarted.
+    /// Opens the key at `path` below `parent` for reading and writing. A missing key is created, with those above it,
+    /// and is kept when the system restarts.
     [[nodiscard]] static Key Create(Handle parent, const CString& path);
 
     [[nodiscard]] bool IsOpen() const noexcept { return m_handle != nullptr; }
-    /// Good as long as this object lives; a null pointer when it is not open.
+    /// Valid as long as this object lives; a null pointer when it is not open.
     [[nodiscard]] Handle Get() const noexcept { return m_handle; }
-    /// Why it is not open; Error::none for one that is and for no key.
+    /// The reason why it is not open; Error::none for an open key and for no key.
     [[nodiscard]] std::uint32_t GetError() const noexcept { return m_error; }
 
 private:
@@ -96,36 +96,36 @@ struct NameAtIndex
     CString name;
 };
 
-/// The name of the key at `index` (from 0) directly below `key`. Keys stand in the order of their upper-cased names.
-/// Going through all of them upward takes time in proportion to their number.
-/// @param capacity the length of the name's buffer in code units, its NUL included: a longer name gives
-///     Error::moreData.
+/// The name of the key at `index` (from 0) directly below `key`. Keys are in the order of their upper-cased names.
+/// Enumerating all of them upward takes linear time.
+/// @param capacity the length of the name's buffer in code units, including the NUL: a longer name gives
+/// Error::moreData.
 [[nodiscard]] VYR_PLATFORM_API NameAtIndex EnumerateKey(Handle key, std::uint32_t index, std::uint32_t capacity);
-/// The name of the value at `index` of `key`, in no certain order. The default value has an empty name.
+/// The name of the value at `index` of `key`, in no particular order. The default value has an empty name.
 [[nodiscard]] VYR_PLATFORM_API NameAtIndex EnumerateValue(Handle key, std::uint32_t index, std::uint32_t capacity);
 
 struct ReadResult
 {
     std::uint32_t error = Error::none;
-    /// See ValueType; good also with Error::moreData, as is the count.
+    /// See ValueType; also set with Error::moreData, as is the count.
     std::uint32_t type = ValueType::none;
-    /// How many bytes the value has.
+    /// The size of the value in bytes.
     std::uint32_t byteCount = 0;
 };
 
-/// Reads the value `name` (empty: the default value) of `key` into `buffer`, of which what stands behind the value may
+/// Reads the value `name` (empty: the default value) of `key` into `buffer`. The bytes of `buffer` behind the value may
 /// change.
 /// @param buffer at least one byte.
-/// @return Error::moreData when the value does not fit: the content of `buffer` is then unknown.
+/// @return Error::moreData when the value does not fit: `buffer` then has unspecified content.
 [[nodiscard]] VYR_PLATFORM_API ReadResult ReadValue(Handle key, const CString& name, std::span<std::byte> buffer);
 
 /// The text that the value `name` refers to: `@FILE,-NUMBER` is a text in the resources of a program file.
 /// @param capacity as of EnumerateKey.
-/// @return nothing when it cannot be had: for any other text, and always on Linux, where such files are not loaded.
+/// @return nothing for any other text, and always on Linux, where such files are not loaded.
 [[nodiscard]] VYR_PLATFORM_API std::optional<CString> LoadIndirectText(Handle key, const CString& name,
                                                                        std::uint32_t capacity);
 
-/// When `key` was last written to; nothing when it cannot be told.
+/// The time when `key` was last written; nothing when it is unknown.
 [[nodiscard]] VYR_PLATFORM_API std::optional<FileTicks> GetLastWrite(Handle key);
 
 /// Sets the value `name` of `key` to a number.

@@ -14,7 +14,7 @@
 #include <string_view>
 #include <utility>
 
-/// An argument of CString::Format with its type: a text or an integer of any width.
+/// A typed argument of CString::Format: a text or an integer of any width.
 class FormatArgument
 {
 public:
@@ -41,9 +41,9 @@ private:
 
 /// A UTF-16 text that is cheap to pass by value.
 ///
-/// It is one pointer wide (null for the empty string). Copies share one allocation; a change makes its own copy first.
-/// All counts and indices are in UTF-16 code units. Several threads may use copies of one string at the same time, but
-/// not the same object.
+/// It is one pointer wide (null for the empty string). Copies share one allocation; a change copies it first. All
+/// counts and indices are in UTF-16 code units. Several threads may use copies of one string at the same time, but not
+/// the same object.
 class VYR_PLATFORM_API CString
 {
 public:
@@ -53,7 +53,7 @@ public:
     CString(CString&& other) noexcept : m_buffer(other.m_buffer) { other.m_buffer = nullptr; }
     /// A copy of `text`; a null pointer gives the empty string.
     CString(const char16_t* text) : CString(text ? std::u16string_view(text) : std::u16string_view()) {}
-    /// A copy of `text`, which may hold NULs.
+    /// A copy of `text`, which may contain NULs.
     CString(std::u16string_view text);
     /// `unit` repeated `count` times; a count below 1 gives the empty string.
     CString(char16_t unit, int count);
@@ -98,13 +98,13 @@ public:
     CString& operator+=(std::u16string_view text);
     CString& operator+=(char16_t unit) { return *this += std::u16string_view(&unit, 1); }
 
-    /// The first `count` units; all of them when there are fewer, none when `count` is negative.
+    /// The first `count` code units; all when there are fewer, none when `count` is negative.
     [[nodiscard]] CString Left(int count) const;
     /// The last `count` units, with the bounds of Left.
     [[nodiscard]] CString Right(int count) const;
-    /// The units from `first` on; a negative `first` counts as 0, one past the end gives the empty string.
+    /// The code units from `first` on; a negative `first` counts as 0, one past the end gives the empty string.
     [[nodiscard]] CString Mid(int first) const;
-    /// At most `count` units from `first` on, with the bounds of Left and Mid.
+    /// At most `count` code units from `first` on, with the bounds of Left and Mid.
     [[nodiscard]] CString Mid(int first, int count) const;
 
     /// The index of the first `text` at or after `start`, else -1. An empty `text` is found at `start`.
@@ -113,7 +113,7 @@ public:
     [[nodiscard]] int ReverseFind(char16_t unit) const noexcept;
 
     /// Replaces every `find`, searched from the start without overlap, by `replacement`.
-    /// @return how many were replaced; 0 for an empty `find`.
+    /// @return the number of replacements; 0 for an empty `find`.
     int Replace(std::u16string_view find, std::u16string_view replacement);
 
     /// Maps each code unit to upper case, the same in every locale (VyrPlatform::Locale::ToUpper).
@@ -155,7 +155,7 @@ public:
     friend CString operator+(const char16_t* left, const CString& right) { return Join({left, right}); }
 
 private:
-    /// The head of the allocation, before the text.
+    /// The header of the allocation, before the text.
     struct Buffer
     {
         _Atomic_word owners;
@@ -172,7 +172,7 @@ private:
     }
     void Release() noexcept
     {
-        // The only owner needs no locked count: nobody else can copy it at the same time.
+        // A single owner needs no atomic count: nobody else can copy it at the same time.
         if (m_buffer && (__atomic_load_n(&m_buffer->owners, __ATOMIC_ACQUIRE) == 1 ||
                          __gnu_cxx::__exchange_and_add_dispatch(&m_buffer->owners, -1) == 1))
             Free(m_buffer);

@@ -18,10 +18,10 @@ namespace VyrPlatform::Encoding {
 VYR_PLATFORM_API void AppendUtf8(std::string& bytes, std::u16string_view text);
 
 /// The name of a file from its bytes, reversibly: a byte that is not UTF-8 becomes the lone surrogate U+DC00 plus the
-/// byte (U+DC80 to U+DCFF). For names and paths alone, never for content.
+/// byte (U+DC80 to U+DCFF). Only for names and paths, never for content.
 [[nodiscard]] VYR_PLATFORM_API CString FromNameBytes(std::string_view bytes);
-/// The bytes of a file's name. What FromNameBytes made comes back exactly; any other lone surrogate is written as the
-/// three bytes that UTF-8's scheme gives it.
+/// The bytes of a file's name. Results of FromNameBytes give exactly the same bytes again; any other lone surrogate is
+/// written as the three bytes of UTF-8's scheme.
 [[nodiscard]] VYR_PLATFORM_API std::string ToNameBytes(std::u16string_view name);
 /// Appends ToNameBytes(name) to `bytes`.
 VYR_PLATFORM_API void AppendNameBytes(std::string& bytes, std::u16string_view name);

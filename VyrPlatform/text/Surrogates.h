@@ -1,5 +1,5 @@
 /// @file
-/// The halves of the characters that take two code units of UTF-16. In a name a half may stand alone (Encoding.h).
+/// Surrogates: the halves of characters that take two UTF-16 code units. Names may contain lone ones (Encoding.h).
 #pragma once
 
 #include <cstddef>
@@ -7,13 +7,13 @@
 
 namespace VyrPlatform {
 
-/// Whether `unit` is the first half of a character.
+/// Whether `unit` is the first half of a pair.
 [[nodiscard]] constexpr bool IsHighSurrogate(char16_t unit) noexcept
 {
     return (unit & 0xFC00) == 0xD800;
 }
 
-/// Whether `unit` is the second half of a character.
+/// Whether `unit` is the second half of a pair.
 [[nodiscard]] constexpr bool IsLowSurrogate(char16_t unit) noexcept
 {
     return (unit & 0xFC00) == 0xDC00;
@@ -25,19 +25,19 @@ namespace VyrPlatform {
     return (unit & 0xF800) == 0xD800;
 }
 
-/// Whether `text` begins with both halves of a character.
+/// Whether `text` begins with a surrogate pair.
 [[nodiscard]] constexpr bool BeginsWithPair(std::u16string_view text) noexcept
 {
     return text.size() >= 2 && IsHighSurrogate(text[0]) && IsLowSurrogate(text[1]);
 }
 
-/// Whether `text` begins with a half that is not one of a pair that begins there.
+/// Whether `text` begins with a surrogate that is not part of a pair beginning there.
 [[nodiscard]] constexpr bool BeginsWithLoneSurrogate(std::u16string_view text) noexcept
 {
     return !text.empty() && IsSurrogate(text[0]) && !BeginsWithPair(text);
 }
 
-/// Takes the first character off `text`, which is not empty. A lone surrogate is one of its own.
+/// Removes and returns the first character of `text`, which is not empty. A lone surrogate counts as a character.
 [[nodiscard]] constexpr char32_t TakeCharacter(std::u16string_view& text) noexcept
 {
     const bool isPair = BeginsWithPair(text);

@@ -1,5 +1,5 @@
 /// @file
-/// For Windows code, hosts included: CString and the system's wide characters.
+/// For Windows code, including hosts: converts between CString and the system's wide characters.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -8,7 +8,7 @@
 
 namespace VyrPlatform {
 
-/// The text as the system's functions take it; costs nothing. Good as long as `text` lives unchanged.
+/// The text as the system's functions take it, without a copy. Valid as long as `text` lives unchanged.
 [[nodiscard]] inline const wchar_t* ToWide(const CString& text) noexcept
 {
     static_assert(sizeof(wchar_t) == sizeof(char16_t), "for Windows only");

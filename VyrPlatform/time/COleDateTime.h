@@ -9,9 +9,9 @@ struct _SYSTEMTIME; // NOLINT(bugprone-reserved-identifier): the system's own ta
 /// A date-time as a count of days since 30 December 1899 00:00, with a status.
 ///
 /// The fraction is the time of day. It counts forward for negative days too: -1.25 is 29 December 1899 06:00, so that
-/// the values from -1 to 0 exclusive name times of 30 December 1899, as those from 0 to 1 do. Calendar fields are read
-/// to the nearest second. The range is 1 January 100 00:00:00 to 31 December 9999 23:59:59, proleptic Gregorian. (The
-/// rules of OLE automation's DATE type.)
+/// the values between -1 and 0 are times of 30 December 1899, as those from 0 to 1 are. Calendar fields are read to the
+/// nearest second. The range is 1 January 100 00:00:00 to 31 December 9999 23:59:59, proleptic Gregorian. (The rules of
+/// OLE automation's DATE type.)
 class VYR_PLATFORM_API COleDateTime
 {
 public:
@@ -47,7 +47,7 @@ public:
     /// 1 = Sunday to 7 = Saturday; -1 when the date-time is not valid.
     [[nodiscard]] int GetDayOfWeek() const noexcept;
     /// All fields at once, milliseconds 0.
-    /// @return false, with `fields` untouched, when the date-time is not valid.
+    /// @return false, with `fields` unchanged, when the date-time is not valid.
     [[nodiscard]] bool GetAsSystemTime(_SYSTEMTIME& fields) const noexcept;
 
     double m_dt = 0.0;

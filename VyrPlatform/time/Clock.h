@@ -1,5 +1,5 @@
 /// @file
-/// Tells the current local time.
+/// The current local time.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -12,7 +12,7 @@ namespace VyrPlatform::Clock {
 /// The current local date and time; fractions of a second are dropped.
 [[nodiscard]] VYR_PLATFORM_API COleDateTime Now();
 
-/// Makes Now answer `moment` until it is called with nothing. For tests, while no other thread asks.
+/// Makes Now return `moment`; without one Now returns the real time again. For tests, while no other thread calls Now.
 VYR_PLATFORM_API void SetNow(std::optional<COleDateTime> moment);
 
 } // namespace VyrPlatform::Clock

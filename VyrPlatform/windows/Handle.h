@@ -6,13 +6,13 @@
 
 namespace VyrPlatform {
 
-/// Owns what a call of the system has opened; `close` is the call that closes it.
+/// Owns a handle that the system has opened; `close` is the function that closes it.
 template <auto close>
 class UniqueHandle
 {
 public:
     UniqueHandle() noexcept = default;
-    /// Takes over what an opening call returned: null and INVALID_HANDLE_VALUE stand for none.
+    /// Takes over the result of an opening call: null and INVALID_HANDLE_VALUE mean none.
     explicit UniqueHandle(HANDLE handle) noexcept : m_handle(handle) {}
     UniqueHandle(UniqueHandle&& other) noexcept : m_handle(other.Release()) {}
     UniqueHandle& operator=(UniqueHandle&& other) noexcept
@@ -28,9 +28,9 @@ public:
 
     [[nodiscard]] bool IsOpen() const noexcept { return m_handle && m_handle != INVALID_HANDLE_VALUE; }
     [[nodiscard]] HANDLE Get() const noexcept { return m_handle; }
-    /// Gives the handle away, to be closed by the caller.
+    /// Releases the handle, which the caller must close.
     [[nodiscard]] HANDLE Release() noexcept { return std::exchange(m_handle, INVALID_HANDLE_VALUE); }
-    /// Closes it now. A file system may tell only here that it could not write everything.
+    /// Closes it now. Some file systems report only here that they could not write everything.
     /// @return 0, or the error code.
     [[nodiscard]] DWORD Close() noexcept { return close(Release()) ? ERROR_SUCCESS : GetLastError(); }
 

@@ -36,13 +36,13 @@ void Append(std::string& bytes, Number number)
     bytes.append(reinterpret_cast<const char*>(&number), sizeof number);
 }
 
-/// Fills with zeros up to a multiple of four.
+/// Appends zeros up to a multiple of four.
 void Pad(std::string& bytes)
 {
     bytes.append((4 - bytes.size() % 4) % 4, '\0');
 }
 
-/// The section whose first byte stands at `start`.
+/// The section that begins at `start`.
 std::optional<PropertySection> ParseSection(std::string_view format, std::string_view bytes, std::size_t start)
 {
     const auto size = NumberAt<std::uint32_t>(bytes, start);
@@ -67,7 +67,7 @@ std::optional<PropertySection> ParseSection(std::string_view format, std::string
     PropertySection parsed{std::string(format), {}};
     std::set<std::size_t> starts;
     for (const auto& [id, offset] : table) {
-        // Values that share their bytes would let a small section grow without bound.
+        // Values that share bytes could let a small section grow without bound.
         if (!starts.insert(offset).second && offset != section.size())
             return std::nullopt;
         const auto end = ends.upper_bound(offset);
@@ -85,7 +85,7 @@ std::string SerialiseSection(const PropertySection& section)
     for (const StoredProperty& property : section.properties) {
         Append(table, property.id);
         Append(table, static_cast<std::uint32_t>(first + values.size()));
-        // A value without bytes would share its place with the next one; that of type VT_EMPTY says the same.
+        // A value without bytes would have the offset of the next one; the type VT_EMPTY means the same.
         values += property.bytes.empty() ? std::string(4, '\0') : property.bytes;
         Pad(values);
     }
@@ -100,7 +100,7 @@ CString DecodeBytes(std::uint32_t codePage, std::string_view bytes)
     const std::string ended(bytes.substr(0, bytes.find('\0')));
     std::u16string text(ended.size() + 1, u'\0');
     const std::size_t length = CodePage::ToText(codePage, ended.c_str(), text);
-    // A code page that nobody knows is read as the one that most documents have.
+    // An unknown code page is read as the most common one.
     if (length == 0)
         return codePage == defaultCodePage ? CString() : DecodeBytes(defaultCodePage, bytes);
     return std::u16string_view(text).substr(0, length - 1);
@@ -114,7 +114,7 @@ CString DecodeUnits(std::string_view bytes)
     return std::u16string_view(units).substr(0, units.find(u'\0'));
 }
 
-/// The bytes of `text` without a NUL; nothing when the code page is not known.
+/// The bytes of `text` without a NUL; nothing when the code page is unknown.
 std::optional<std::string> EncodeBytes(std::uint32_t codePage, const CString& text)
 {
     std::string bytes(static_cast<std::size_t>(text.GetLength()) * 4 + 1, '\0');
@@ -142,7 +142,7 @@ std::string StoreUtf16(std::u16string_view text)
     return stored;
 }
 
-/// A text whose length is counted in bytes: in the set's code page, or in UTF-16 where that is the set's.
+/// A text with its length in bytes: in the set's code page, also where that is UTF-16.
 std::string StoreBytes(std::uint32_t type, const CString& text, std::uint32_t codePage)
 {
     std::string bytes;
@@ -165,7 +165,7 @@ CString FromUnits(const Unit* text)
     return reinterpret_cast<const char16_t*>(text);
 }
 
-/// The data of a value of fixed size; nothing when the type is another.
+/// The data of a value of fixed size; nothing for other types.
 std::optional<std::string> FixedData(const PROPVARIANT& value)
 {
     std::string data;

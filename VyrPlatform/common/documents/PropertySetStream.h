@@ -1,4 +1,4 @@
-// A property set as the bytes that stand in a document: [MS-OLEPS].
+// A property set as bytes in a document: [MS-OLEPS].
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -21,7 +21,7 @@ using FormatId = std::string_view;
 inline constexpr FormatId summaryFormat("\xE0\x85\x9F\xF2\xF9\x4F\x68\x10\xAB\x91\x08\x00\x2B\x27\xB3\xD9", 16);
 /// {D5CDD502-2E9C-101B-9397-08002B2CF9AE}
 inline constexpr FormatId documentFormat("\x02\xD5\xCD\xD5\x9C\x2E\x1B\x10\x93\x97\x08\x00\x2B\x2C\xF9\xAE", 16);
-/// {D5CDD505-2E9C-101B-9397-08002B2CF9AE}: the properties that the user has made.
+/// {D5CDD505-2E9C-101B-9397-08002B2CF9AE}: properties that users have defined.
 inline constexpr FormatId userFormat("\x05\xD5\xCD\xD5\x9C\x2E\x1B\x10\x93\x97\x08\x00\x2B\x2C\xF9\xAE", 16);
 
 /// Ids of properties that describe the set itself.
@@ -33,13 +33,13 @@ inline constexpr std::uint32_t firstReserved = 0x80000000;
 
 /// UTF-16 as the code page of a set.
 inline constexpr std::uint32_t utf16CodePage = 1200;
-/// In which the texts of a set without a code page are read.
+/// The code page of the texts in a set that names none.
 inline constexpr std::uint32_t defaultCodePage = 1252;
 
 struct StoredProperty
 {
     std::uint32_t id;
-    /// The value as it stands in the set: its type, its data, and whatever stands there up to the next value.
+    /// The stored value: its type, its data, and all bytes up to the next value.
     std::string bytes;
 };
 
@@ -51,9 +51,9 @@ public:
     /// In the order of the section's table.
     std::vector<StoredProperty> properties;
 
-    /// The value of the property `id`; a null pointer when there is none.
+    /// The stored value of the property `id`; a null pointer when there is none.
     [[nodiscard]] const std::string* Find(std::uint32_t id) const noexcept;
-    /// The number of the code page in which its byte texts are; nothing when it has none.
+    /// The code page of its byte texts; nothing when it names none.
     [[nodiscard]] std::optional<std::uint32_t> CodePage() const noexcept;
     /// Replaces or adds a property.
     void Set(std::uint32_t id, std::string bytes);
@@ -64,9 +64,9 @@ public:
 class VYR_PLATFORM_API PropertySetStream
 {
 public:
-    /// Takes the bytes of a stream apart. A value is what stands from its offset up to the next one, so that types and
-    /// data that are not understood stay as they are.
-    /// @return nothing when an offset or a count reaches beyond the bytes, or the head is no property set's.
+    /// Parses the bytes of a stream. A value extends from its offset to the next one, so that unknown types and data
+    /// are kept.
+    /// @return nothing when an offset or a count reaches beyond the bytes, or the header is not that of a property set.
     [[nodiscard]] static std::optional<PropertySetStream> Parse(std::string_view bytes);
     /// The inverse, with values at multiples of four bytes.
     [[nodiscard]] std::string Serialise() const;
@@ -76,25 +76,25 @@ public:
     [[nodiscard]] const PropertySection* Find(FormatId format) const noexcept;
 
 private:
-    /// Byte order, version, system and class id, as they stand.
+    /// Byte order, version, system and class id, unchanged.
     std::string m_head;
     std::vector<PropertySection> m_sections;
 };
 
-/// A value as it stands in a section whose texts are in `codePage`. A byte text is taken from the process's ANSI code
+/// The stored form of a value in a section whose texts are in `codePage`. A byte text is in the process's ANSI code
 /// page; where `codePage` lacks one of its characters, it is stored as a UTF-16 text.
 /// @return nothing when the type cannot be stored.
 [[nodiscard]] VYR_PLATFORM_API std::optional<std::string> StorePropertyValue(const tagPROPVARIANT& value,
                                                                              std::uint32_t codePage);
 
-/// The text that a stored value is, up to its first NUL; nothing when it is of another type or damaged.
+/// The text of a stored value, up to its first NUL; nothing when it has another type or is damaged.
 [[nodiscard]] VYR_PLATFORM_API std::optional<CString> ReadStoredText(std::string_view stored, std::uint32_t codePage);
-/// The whole number that a stored value is, also of one bit or a flag; nothing when it is of another type or damaged.
+/// The integer of a stored value, also a Boolean or a flag; nothing when it has another type or is damaged.
 [[nodiscard]] VYR_PLATFORM_API std::optional<std::int64_t> ReadStoredNumber(std::string_view stored);
-/// The ticks since 1601 of a stored file time; nothing when it is of another type or damaged.
+/// The ticks since 1601 of a stored file time; nothing when it has another type or is damaged.
 [[nodiscard]] VYR_PLATFORM_API std::optional<std::int64_t> ReadStoredTime(std::string_view stored);
 
-/// Whether every character of `text` has its own bytes in `codePage`.
+/// Whether `codePage` has every character of `text`.
 [[nodiscard]] VYR_PLATFORM_API bool CodePageHolds(std::uint32_t codePage, const CString& text);
 
 } // namespace VyrPlatform

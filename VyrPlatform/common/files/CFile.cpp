@@ -1,4 +1,3 @@
-// The file of bytes over the service that opens files.
 #include <VyrPlatform/files/CFile.h>
 #include <VyrPlatform/files/CInvalidArgException.h>
 

@@ -1,4 +1,3 @@
-// The file exception: what it carries.
 #include <VyrPlatform/files/CFileException.h>
 
 #include <utility>

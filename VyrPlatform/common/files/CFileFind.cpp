@@ -1,4 +1,4 @@
-// The file finder: a folder listing that is always one entry ahead, to tell whether another one follows.
+// The listing is always one entry ahead, to tell whether another one follows.
 #include <VyrPlatform/files/CFileFind.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/files/FolderListing.h>
@@ -10,7 +10,7 @@ namespace FileSystem = VyrPlatform::FileSystem;
 
 namespace {
 
-/// How many units of `pattern` stand in front of its last part.
+/// The number of code units in front of the last part of `pattern`.
 std::size_t FindLastPart(std::u16string_view pattern) noexcept
 {
     std::size_t start = pattern.size();
@@ -19,7 +19,7 @@ std::size_t FindLastPart(std::u16string_view pattern) noexcept
     return start;
 }
 
-/// Whether `folder`, which ends with a separator, is a root folder: without the separator it would be another one.
+/// Whether `folder`, which ends with a separator, is a root folder: without the separator it would be another folder.
 bool IsRootFolder(std::u16string_view folder) noexcept
 {
     return folder.size() == 1 || folder[folder.size() - 2] == u':';
@@ -43,7 +43,7 @@ struct CFileFind::Search
 
     CString root;
     FolderListing listing;
-    /// Whether the listing stands at an entry that FindNextFile has not gone to.
+    /// Whether the listing is at an entry that FindNextFile has not reached yet.
     bool hasNext;
     CString name;
     bool isFolder = false;

@@ -1,4 +1,3 @@
-// The invalid-argument exception carries nothing.
 #include <VyrPlatform/files/CInvalidArgException.h>
 
 CInvalidArgException::CInvalidArgException() = default;

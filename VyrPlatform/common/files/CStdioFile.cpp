@@ -1,4 +1,4 @@
-// The buffered file: one buffer, which at any time holds either bytes not yet read or bytes not yet written.
+// One buffer, which at any time contains either bytes not yet read or bytes not yet written.
 #include <VyrPlatform/files/CInvalidArgException.h>
 #include <VyrPlatform/files/CStdioFile.h>
 
@@ -11,12 +11,12 @@
 struct CStdioFile::Stream
 {
     std::array<char, 16384> bytes;
-    /// The bytes that were read and not yet taken: from `next` to `end`.
+    /// The unread bytes are those from `next` to `end`.
     std::size_t next = 0;
     std::size_t end = 0;
-    /// How many bytes, from the first on, wait to be written.
+    /// The number of bytes, from the first on, that are not written yet.
     std::size_t waiting = 0;
-    /// Where the system stands in the file: behind what was read, before what waits.
+    /// The system's position in the file: behind the bytes that were read, before those that are not written yet.
     std::uint64_t place = 0;
 
     [[nodiscard]] std::size_t Unread() const noexcept { return end - next; }
@@ -24,7 +24,7 @@ struct CStdioFile::Stream
 
 namespace {
 
-/// The number of units before the first line feed among `count` that begin at `bytes`, which may stand anywhere.
+/// The number of code units before the first line feed among `count` at `bytes`, which need not be aligned.
 template <class Unit>
 std::size_t CountToLineFeed(const char* bytes, std::size_t count) noexcept
 {
@@ -50,7 +50,7 @@ CStdioFile::~CStdioFile()
     try {
         CStdioFile::Close();
     } catch (const CFileException&) {
-        // Nobody is there to be told.
+        // A destructor cannot report it.
     }
 }
 
@@ -66,7 +66,7 @@ std::uint64_t CStdioFile::Seek(std::int64_t offset, std::uint32_t origin)
 {
     RequireOpen();
     FlushWritten();
-    // The system stands behind the bytes that are still to be taken.
+    // The system's position is behind the unread bytes.
     if (origin == current && __builtin_sub_overflow(offset, m_stream->Unread(), &offset))
         throw CFileException(CFileException::badSeek, -1, GetFilePath());
     m_stream->place = CFile::Seek(offset, origin);
@@ -191,8 +191,8 @@ std::size_t CStdioFile::ReadUnits(Unit* target, std::size_t capacity)
     return done;
 }
 
-/// Sees to it that `wanted` bytes or more are there to be taken.
-/// @return false when the file ends before; what is left of it is dropped.
+/// Makes at least `wanted` unread bytes available.
+/// @return false when the file ends before; its last bytes are then discarded.
 bool CStdioFile::Fill(std::size_t wanted)
 {
     if (m_stream->Unread() >= wanted)
@@ -214,7 +214,7 @@ bool CStdioFile::Fill(std::size_t wanted)
 
 void CStdioFile::FlushWritten()
 {
-    // What cannot be written is dropped: it is told once.
+    // Bytes that cannot be written are discarded: the error is reported once.
     const std::size_t waiting = std::exchange(m_stream->waiting, 0);
     if (waiting == 0)
         return;
@@ -222,7 +222,7 @@ void CStdioFile::FlushWritten()
     m_stream->place += waiting;
 }
 
-/// Takes the system back to where the reader stands.
+/// Moves the system's position back to the reader's.
 void CStdioFile::DropUnread()
 {
     if (m_stream->Unread() > 0)

@@ -7,9 +7,9 @@
 
 namespace VyrPlatform {
 
-/// While it lives, the calling thread opens each folder above a path of 4,096 bytes or more once, and not again for
-/// each question about such a path. They stay the same folders, even if others take their names. Has no effect on
-/// Windows. At most one object of a thread may live at a time.
+/// While it lives, the calling thread opens each folder above a path of 4,096 bytes or more only once, and not again
+/// for each use of such a path. They stay the same folders, even if others get their names. Has no effect on Windows.
+/// Only one object of a thread may live at a time.
 class VYR_PLATFORM_API DeepWalk
 {
 public:

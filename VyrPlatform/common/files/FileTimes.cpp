@@ -1,4 +1,4 @@
-// File times as local date-times. The system takes long to tell a moment's offset, so that of whole days is kept.
+// The system's look-up of an offset is slow, so the offsets of whole days are cached.
 #include <VyrPlatform/files/FileTimes.h>
 
 #include <VyrPlatform/common/time/Epochs.h>
@@ -12,7 +12,7 @@ namespace VyrPlatform::FileTimes {
 
 namespace {
 
-/// The calendar's ends, since 1970.
+/// The limits of the calendar, in seconds since 1970.
 constexpr std::int64_t firstSecond =
     std::chrono::sys_seconds(std::chrono::sys_days(std::chrono::January / 1 / 100)).time_since_epoch().count();
 constexpr std::int64_t lastSecond =
@@ -26,7 +26,7 @@ constexpr std::int64_t FloorDivide(std::int64_t value, std::int64_t divisor) noe
 /// Counts the time zones that the process has had.
 std::atomic<unsigned> timeZoneNumber = 1;
 
-/// The one offset that holds all through a day (UTC).
+/// The offset of a day that has only one (in UTC).
 struct DayOffset
 {
     std::int64_t day = 0;
@@ -34,8 +34,8 @@ struct DayOffset
     int offset = 0;
 };
 
-/// Keeps `known` for `day` if its offset is one: no zone changes its offset twice within a day, so that it is when it
-/// is the same at both ends.
+/// Caches in `known` the offset of `day` if it has only one. No zone changes its offset twice within a day, so it has
+/// only one if both its ends have the same.
 std::optional<int> LookUpOffset(DayOffset& known, std::int64_t day, unsigned timeZone, std::int64_t unixSeconds)
 {
     const std::optional<int> atStart = GetLocalOffset(day * secondsPerDay);
@@ -94,7 +94,7 @@ std::optional<FileTicks> FromLocal(const COleDateTime& local)
         (sys_seconds(sys_days(date)) + hours(local.GetHour()) + minutes(local.GetMinute()) + seconds(local.GetSecond()))
             .time_since_epoch()
             .count();
-    // Clocks are not turned twice within two days.
+    // Clocks are not changed twice within two days.
     const std::optional<int> before = FindOffset(shown - secondsPerDay);
     const std::optional<int> after = FindOffset(shown + secondsPerDay);
     if (!before || !after)

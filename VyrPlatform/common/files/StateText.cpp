@@ -1,4 +1,3 @@
-// Writes and reads the pieces of a state.
 #include <VyrPlatform/common/files/StateText.h>
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// The texts of ExactState: numbers, and bytes in hexadecimal, separated by blanks.
+// The parts of ExactState's texts: numbers, and bytes in hexadecimal, separated by blanks.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -12,13 +12,13 @@
 namespace VyrPlatform {
 
 [[nodiscard]] std::string ToHex(std::string_view bytes);
-/// The inverse; nothing for a text that ToHex does not give.
+/// The inverse; nothing for a text that is not a result of ToHex.
 [[nodiscard]] std::optional<std::string> FromHex(std::string_view text);
 
-/// All of `text` as a number in `base`; nothing when it is none.
+/// The number in `base` that is all of `text`; nothing when it is not a number.
 [[nodiscard]] std::optional<std::int64_t> ReadWhole(std::string_view text, int base = 10);
 
-/// Cuts the text before the next blank off the front of `text`.
+/// Removes and returns the text before the next blank.
 [[nodiscard]] std::string_view TakeWord(std::string_view& text) noexcept;
 
 /// The bytes of a state; empty for one that is not ASCII.

@@ -1,4 +1,4 @@
-// Names a file that is written before it replaces another.
+// Paths of temporary files that replace another file when complete.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -6,10 +6,10 @@
 
 namespace VyrPlatform {
 
-/// The folder in which `path` stands, with the separator at its end; empty for a bare name.
+/// The folder of `path`, with the separator at its end; empty for a bare name.
 [[nodiscard]] VYR_PLATFORM_API CString GetFolderOf(const CString& path);
 
-/// A random path in the folder of `path`, which almost certainly is free.
+/// A random path in the folder of `path`, which is almost certainly free.
 [[nodiscard]] VYR_PLATFORM_API CString MakeTemporaryPath(const CString& path);
 
 } // namespace VyrPlatform

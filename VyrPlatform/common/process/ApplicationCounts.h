@@ -1,4 +1,4 @@
-// How many application objects the process has.
+// The number of application objects of the process.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -13,7 +13,7 @@ struct ApplicationCounts
     int initialised = 0;
 };
 
-/// Exported for the test of loading and unloading alone.
+/// Exported only for the test of loading and unloading.
 [[nodiscard]] VYR_PLATFORM_API ApplicationCounts CountApplications() noexcept;
 
 } // namespace VyrPlatform

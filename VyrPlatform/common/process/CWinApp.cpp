@@ -1,4 +1,4 @@
-// The application object's base. It counts the objects of the process and says that the module may be used.
+// Counts the objects of the process, and allows the module to be used.
 #include <VyrPlatform/common/process/ApplicationCounts.h>
 #include <VyrPlatform/process/CWinApp.h>
 

@@ -1,4 +1,4 @@
-// The debugger output's sink, which stands before the system's own output.
+// Passes debugger output to the sink, else to the system.
 #include <VyrPlatform/common/process/SystemDebugOutput.h>
 #include <VyrPlatform/process/DebugOutput.h>
 

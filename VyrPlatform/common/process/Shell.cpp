@@ -1,4 +1,4 @@
-// Who starts programs: the system, or what was set in its place.
+// Programs are started by the system, or by the starter that was set.
 #include <VyrPlatform/common/process/SystemShell.h>
 #include <VyrPlatform/process/Shell.h>
 

@@ -1,5 +1,5 @@
 /// @file
-/// What each system does with debugger output that no sink takes.
+/// The system's debugger output, for texts without a sink.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>

@@ -1,4 +1,4 @@
-// What each system knows about starting programs.
+// The system's way to start programs.
 #pragma once
 
 #include <VyrPlatform/process/Shell.h>

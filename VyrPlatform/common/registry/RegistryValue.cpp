@@ -1,4 +1,3 @@
-// The checks on texts and numbers of the registry.
 #include <VyrPlatform/registry/RegistryValue.h>
 
 #include <array>

@@ -1,4 +1,4 @@
-// The wide string: its allocation, and the operations that are too large to be inline.
+// The string's allocation, and the operations that are too large to be inline.
 #include <VyrPlatform/text/CString.h>
 #include <VyrPlatform/text/Locale.h>
 
@@ -11,7 +11,7 @@
 
 namespace {
 
-// Lengths are handed out as int.
+// Lengths are returned as int.
 constexpr std::size_t maximumLength = static_cast<std::size_t>(std::numeric_limits<int>::max()) - 1;
 
 char16_t* AppendTo(char16_t* target, std::u16string_view text) noexcept
@@ -42,7 +42,7 @@ std::size_t SkipLengthModifier(std::u16string_view format, std::size_t at) noexc
     return at;
 }
 
-/// Reads the conversion whose percent sign stands at `percent`; its letter is 0 where the format ends within it.
+/// Reads the conversion whose percent sign is at `percent`; its letter is 0 where the format ends within it.
 Conversion ReadConversion(std::u16string_view format, std::size_t percent) noexcept
 {
     constexpr std::size_t maximumWidth = 1024;
@@ -61,7 +61,7 @@ Conversion ReadConversion(std::u16string_view format, std::size_t percent) noexc
     return conversion;
 }
 
-/// A number as the letter asks for it.
+/// A number in the form of the letter.
 std::string WriteNumber(char16_t letter, std::uint64_t bits, std::size_t size, bool isSigned)
 {
     char digits[24];
@@ -82,7 +82,7 @@ void AppendPadded(std::u16string& result, std::u16string_view text, const Conver
 {
     const std::size_t padding = conversion.width > text.size() ? conversion.width - text.size() : 0;
     if (isNumber && conversion.padWithZeros) {
-        // Zeros go between the sign and the digits.
+        // Zeros are inserted between the sign and the digits.
         const bool negative = text.starts_with(u'-');
         result.append(negative ? u"-" : u"");
         result.append(padding, u'0');

@@ -1,4 +1,3 @@
-// The letter runs of date patterns, their years and their blanks.
 #include <VyrPlatform/common/text/DatePattern.h>
 
 namespace VyrPlatform::Locale {
@@ -10,7 +9,7 @@ bool IsAsciiLetter(char16_t unit) noexcept
     return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
 }
 
-/// The end of what starts at `start`: a text in apostrophes, a run of one letter, or a single unit.
+/// The end of the piece that begins at `start`: a text in apostrophes, a run of one letter, or a single code unit.
 std::size_t EndOfPiece(std::u16string_view pattern, std::size_t start) noexcept
 {
     std::size_t end = start + 1;
@@ -18,7 +17,7 @@ std::size_t EndOfPiece(std::u16string_view pattern, std::size_t start) noexcept
         end = pattern.find(u'\'', start + 1) + 1;
     else if (IsAsciiLetter(pattern[start]))
         end = pattern.find_first_not_of(pattern[start], start);
-    // Both searches may have come to nothing.
+    // Both searches may have failed.
     return end == 0 || end == std::u16string_view::npos ? pattern.size() : end;
 }
 

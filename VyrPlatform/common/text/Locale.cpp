@@ -1,4 +1,4 @@
-// Keeps the locale in force and what has been read of it.
+// Keeps the locale in force and its data.
 #include <VyrPlatform/common/text/DatePattern.h>
 #include <VyrPlatform/common/text/SystemLocale.h>
 #include <VyrPlatform/text/Locale.h>
@@ -14,7 +14,7 @@ namespace VyrPlatform::Locale {
 
 namespace {
 
-/// A value that is read when it is first wanted.
+/// A value that is read on first use.
 template <class Value>
 class Lazy
 {
@@ -44,10 +44,10 @@ struct LocaleData
 /// The locale in force, by Category.
 constinit std::array<std::atomic<const LocaleData*>, categoryCount> currentLocales{};
 
-/// The data of the locale `name`, made at the first call and kept for the life of the process.
+/// The data of the locale `name`, read at the first call and kept for the life of the process.
 const LocaleData& Load(const CString& name)
 {
-    // Never destroyed: other threads and late destructors may still use what they were given.
+    // Never destroyed: other threads and late destructors may still use its data.
     static auto& mutex = *new std::mutex;
     static auto& loaded = *new std::map<CString, LocaleData>;
     const std::lock_guard lock(mutex);

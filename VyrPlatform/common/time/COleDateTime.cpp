@@ -1,4 +1,4 @@
-// The automation date-time: calendar fields to a count of days and back.
+// Converts calendar fields to a count of days and back.
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/common/time/Epochs.h>
 #include <VyrPlatform/time/COleDateTime.h>
@@ -15,7 +15,7 @@ constexpr sys_days epoch = December / 30 / 1899;
 constexpr sys_days firstDay = January / 1 / 100;
 constexpr sys_days lastDay = December / 31 / 9999;
 
-/// A moment as a whole day and the seconds after its midnight.
+/// A date-time as a whole day and the seconds after its midnight.
 struct Moment
 {
     sys_days day;
@@ -27,10 +27,10 @@ bool IsInRange(sys_days day) noexcept
     return day >= firstDay && day <= lastDay;
 }
 
-/// The moment that `days` names, to the nearest second; false when it is out of range.
+/// Converts `days`, to the nearest second; false when it is out of range.
 bool ToMoment(double days, Moment& moment) noexcept
 {
-    // Also refuses what is not a number.
+    // Also refuses NaN.
     if (!(days > -700000.0 && days < 3000000.0))
         return false;
     const double wholeDays = std::trunc(days);

@@ -1,4 +1,3 @@
-// The current local time: the system's, or the moment that a test has set.
 #include <VyrPlatform/common/time/SystemClock.h>
 #include <VyrPlatform/time/Clock.h>
 

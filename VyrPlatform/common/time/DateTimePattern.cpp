@@ -1,4 +1,3 @@
-// The patterns in which date-times are written.
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/text/Locale.h>
 #include <VyrPlatform/time/DateTimePattern.h>
@@ -13,7 +12,7 @@ namespace VyrPlatform::DateTimePattern {
 
 namespace {
 
-/// A text that is put together on the stack; only one that outgrows it takes memory elsewhere.
+/// Builds a text on the stack; only a long one takes memory from the heap.
 class Builder
 {
 public:
@@ -36,7 +35,8 @@ private:
     }
 };
 
-/// The conversions of one letter of a format by the length of its run, from 1 on; empty where no such run is listed.
+/// The conversions of one letter of a format by the length of its run, from 1 on; empty where the table lists no such
+/// run.
 struct Letter
 {
     char16_t letter;
@@ -75,7 +75,7 @@ public:
     }
 
 private:
-    /// Moves the next `length` units to the pattern as text that stands for itself.
+    /// Appends the next `length` code units to the pattern as literal text.
     void AppendLiteral(std::size_t length)
     {
         for (const char16_t unit : m_rest.substr(0, length)) {
@@ -107,12 +107,12 @@ private:
     void CompileToken()
     {
         const std::size_t end = m_isTokenLeft ? m_rest.find(u'>') : m_rest.npos;
-        // No later `<` has an end either: looking for it each time would take quadratic time.
+        // No later `<` has an end either: searching for it each time would take quadratic time.
         m_isTokenLeft = end != m_rest.npos;
         AppendLiteral(m_isTokenLeft ? end + 1 : 1);
     }
 
-    /// Compiles the longest listed run that stands here; false when there is none.
+    /// Compiles the longest listed run at this position; false when there is none.
     bool CompileRun()
     {
         const auto letter = std::find_if(letters.begin(), letters.end(),

@@ -1,4 +1,3 @@
-// Date-times read by a pattern.
 #include <VyrPlatform/common/time/DateTimePatternReader.h>
 #include <VyrPlatform/text/CString.h>
 #include <VyrPlatform/text/Locale.h>
@@ -18,7 +17,7 @@ bool IsDigit(char16_t unit) noexcept
     return unit >= u'0' && unit <= u'9';
 }
 
-/// The blank, the tab, and the blanks that do not break a line, which the patterns of some locales hold.
+/// The blank, the tab, and the no-break spaces, which the patterns of some locales contain.
 bool IsBlank(char16_t unit) noexcept
 {
     return unit == u' ' || unit == u'\t' || unit == u'\u00A0' || unit == u'\u202F';
@@ -138,8 +137,7 @@ bool Reader::TakeYear(bool isLong, Reading reading) noexcept
     return true;
 }
 
-/// Looks for the longest of `names` that the rest begins with, in either case; one no longer than `length` does not
-/// count.
+/// Finds the longest of `names` with which the rest begins, in either case; it must be longer than `length`.
 template <class Names>
 void Reader::FindLongest(const Names& names, int& index, std::size_t& length) const
 {

@@ -1,4 +1,4 @@
-// The reading of date-times by a pattern, piece by piece.
+// Reads date-times by a pattern, piece by piece.
 #pragma once
 
 #include <VyrPlatform/time/COleDateTime.h>
@@ -9,13 +9,13 @@
 
 namespace VyrPlatform::DateTimePattern {
 
-/// How closely a text must follow a pattern. Names count in either case, and a two-digit year below 30 is of the 21st
-/// century, any other of the 20th.
+/// How closely a text must match a pattern. Names match in either case, and a two-digit year below 30 is in the 21st
+/// century, any other in the 20th.
 enum class Reading : std::uint8_t
 {
-    /// Unit for unit.
+    /// Each code unit must match.
     Exact,
-    /// Numbers may have one digit or two, a year two or four; a blank stands for any run of blanks.
+    /// Numbers may have one digit or two, a year two or four; a blank matches any run of blanks.
     Lenient
 };
 
@@ -25,14 +25,14 @@ class Reader
 public:
     explicit Reader(std::u16string_view text) noexcept : m_rest(text) {}
 
-    /// Takes what `pattern` describes off the front.
-    /// @return false when something else stands there; the reader is then of no more use.
+    /// Reads the part that `pattern` describes.
+    /// @return false when the text does not match; the reader cannot be used afterwards.
     [[nodiscard]] bool Take(std::u16string_view pattern, Reading reading);
-    /// Takes blanks off the front.
+    /// Skips blanks.
     /// @return whether there was one.
     bool TakeBlanks() noexcept;
     [[nodiscard]] bool IsAtEnd() const noexcept { return m_rest.empty(); }
-    /// What was read; invalid when that is no date. Parts that no pattern named count as midnight.
+    /// The date-time that was read; invalid when it is not a date. Parts that no pattern named are those of midnight.
     [[nodiscard]] COleDateTime Value() const noexcept;
 
 private:

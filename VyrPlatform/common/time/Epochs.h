@@ -1,4 +1,4 @@
-// Where the clocks of the systems begin, and how they count.
+// The epochs of the systems' clocks, and their units.
 #pragma once
 
 #include <cstdint>

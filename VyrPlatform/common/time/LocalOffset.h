@@ -1,4 +1,4 @@
-// The distance of local time from UTC, as each system's folder tells it.
+// The offset of local time from UTC.
 #pragma once
 
 #include <cstdint>
@@ -6,7 +6,8 @@
 
 namespace VyrPlatform {
 
-/// How many seconds local time is ahead of UTC at `unixSeconds` (since 1970, UTC); nothing when the system cannot tell.
+/// The number of seconds that local time is ahead of UTC at `unixSeconds` (since 1970, UTC); nothing when the system
+/// cannot tell.
 [[nodiscard]] std::optional<int> GetLocalOffset(std::int64_t unixSeconds);
 
 /// Makes GetLocalOffset read the system's time zone again.

@@ -6,7 +6,7 @@
 
 namespace VyrPlatform::Clock {
 
-/// The local date and time, fractions of a second dropped.
+/// The local date and time without fractions of a second.
 [[nodiscard]] COleDateTime SystemNow();
 
 } // namespace VyrPlatform::Clock

@@ -1,4 +1,4 @@
-// A list control over what a host has described.
+// Queries the lists that hosts have described.
 #include "ListViews.h"
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// Lists of toolkits, as hosts describe them.
 #include "ListViews.h"
 
 #include <algorithm>

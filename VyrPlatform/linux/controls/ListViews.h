@@ -1,4 +1,4 @@
-// The lists that hosts have described, by their handles.
+// The lists of hosts, by their handles.
 #pragma once
 
 #include <VyrPlatform/controls/LinuxListView.h>
@@ -16,10 +16,10 @@ struct ListView::Columns
     std::vector<int> order;
 };
 
-/// Reaches the columns behind a handle.
+/// Finds the columns of a handle.
 struct ListViews
 {
-    /// A null pointer for a list that is gone, and for what never was one.
+    /// A null pointer for a destroyed list and for any other handle.
     [[nodiscard]] static const ListView::Columns* Find(HWND handle);
 };
 

@@ -1,4 +1,4 @@
-// Reads and writes Samba's extended attribute for DOS attributes, which may hold any bytes at all.
+// Samba's extended attribute for DOS attributes may contain any bytes.
 #include "DosAttribute.h"
 
 #include <algorithm>
@@ -16,7 +16,7 @@ namespace {
 constexpr std::uint32_t hasAttributes = 0x1;
 constexpr std::uint32_t hasCreated = 0x10;
 
-/// The little-endian number at `offset`; 0 when too few bytes are there.
+/// The little-endian number at `offset`; 0 beyond the end.
 template <class Number>
 Number NumberAt(std::span<const std::byte> value, std::size_t offset) noexcept
 {
@@ -40,19 +40,19 @@ constexpr std::size_t Aligned(std::size_t offset, std::size_t alignment) noexcep
     return (offset + alignment - 1) / alignment * alignment;
 }
 
-/// Where the numbers of a record stand.
+/// The positions of the numbers in a record.
 struct Layout
 {
-    /// Which of the others are valid; nothing where the version says that all are.
+    /// The field that tells which of the others are valid; nothing where the version implies that all are.
     std::optional<std::size_t> fields;
     std::size_t attributes = 0;
     std::size_t created = 0;
 };
 
-/// The layout of the record that begins at `offset`; nothing when there is no whole one.
+/// The layout of the record at `offset`; nothing when it is incomplete.
 std::optional<Layout> FindLayout(std::span<const std::byte> value, std::size_t offset) noexcept
 {
-    // The 64-bit numbers stand at multiples of 4.
+    // The 64-bit numbers are at multiples of 4.
     constexpr std::size_t alignment = 4;
     constexpr std::size_t sizes = 3 * sizeof(std::uint32_t) + 2 * sizeof(std::uint32_t);
 
@@ -75,7 +75,7 @@ std::optional<Layout> FindLayout(std::span<const std::byte> value, std::size_t o
     return layout;
 }
 
-/// "0x20" and the like.
+/// Reads "0x20" and the like.
 DosAttribute ParseText(std::string_view text)
 {
     constexpr std::string_view prefix = "0x";
@@ -117,7 +117,7 @@ std::vector<std::byte> MakeRecord(std::optional<std::uint32_t> attributes, std::
     return value;
 }
 
-/// "0x20" and the like, with a NUL behind it where asked.
+/// "0x20" and the like, with a NUL at its end on request.
 std::vector<std::byte> MakeText(std::uint32_t attributes, bool isEnded)
 {
     char text[] = "0x00000000";
@@ -127,7 +127,7 @@ std::vector<std::byte> MakeText(std::uint32_t attributes, bool isEnded)
     return {bytes.begin(), bytes.end()};
 }
 
-/// The length of the text that a value begins with.
+/// The length of the text at the beginning of a value.
 std::size_t TextLength(std::span<const std::byte> value)
 {
     return static_cast<std::size_t>(std::find(value.begin(), value.end(), std::byte(0)) - value.begin());
@@ -138,7 +138,7 @@ bool IsTextAlone(std::span<const std::byte> value)
     return TextLength(value) + 1 >= value.size();
 }
 
-/// `value` with the `number` at that place of its record, and `field` among those that are valid; empty when it is no
+/// `value` with `number` at that position of its record, and `field` among the valid ones; empty when it is not a
 /// record.
 template <class Number>
 std::vector<std::byte> WithNumber(std::span<const std::byte> value, std::size_t Layout::*place, Number number,
@@ -154,7 +154,7 @@ std::vector<std::byte> WithNumber(std::span<const std::byte> value, std::size_t 
     return changed;
 }
 
-/// `value` without a valid `field`; nothing when it is no record.
+/// `value` with `field` not valid; nothing when it is not a record.
 std::optional<std::vector<std::byte>> WithoutField(std::span<const std::byte> value, std::size_t Layout::*place,
                                                    std::size_t size, std::uint32_t field)
 {
@@ -173,7 +173,7 @@ bool IsEqual(std::span<const std::byte> left, std::span<const std::byte> right)
     return std::equal(left.begin(), left.end(), right.begin(), right.end());
 }
 
-/// Nothing for no bytes, which stand for a failure there.
+/// Nothing for an empty value, which means a failure.
 std::optional<std::vector<std::byte>> UnlessEmpty(std::vector<std::byte> value)
 {
     return value.empty() ? std::nullopt : std::optional(std::move(value));
@@ -231,7 +231,7 @@ std::optional<std::vector<std::byte>> WithAttributesOf(std::span<const std::byte
         return UnlessEmpty(WithAttributes(value, *before));
     if (!now)
         return std::vector(value.begin(), value.end());
-    // A text holds nothing else.
+    // A text has no other fields.
     if (IsTextAlone(value))
         return std::vector<std::byte>();
     return WithoutField(value, &Layout::attributes, sizeof(std::uint32_t), hasAttributes);

@@ -1,4 +1,4 @@
-// Exact states on Linux: times as seconds and nanoseconds, all else as the bytes of extended attributes and the mode.
+// Exact states on Linux: times as seconds and nanoseconds, the rest as the bytes of extended attributes and the mode.
 #include <VyrPlatform/files/ExactState.h>
 
 #include "DosAttribute.h"
@@ -92,8 +92,8 @@ std::optional<Kept> ToKept(std::string_view text)
 
 using Merge = std::optional<std::vector<std::byte>> (*)(std::span<const std::byte>, std::span<const std::byte>);
 
-/// Puts back what `merge` takes of Samba's value, and the value of an NTFS driver. What is right already is not
-/// written.
+/// Restores the part of Samba's value that `merge` selects, and the value of an NTFS driver. Writes only values that
+/// differ.
 int RestoreKept(const NativePath& path, const Kept& kept, const char* ntfsName, Merge merge)
 {
     const Kept now = ReadKept(path, ntfsName);
@@ -117,7 +117,7 @@ int RestoreTime(const NativePath& path, Part part, std::string_view text)
         return EINVAL;
     if (!AskStatus(path, 0, STATX_MTIME | STATX_ATIME, now))
         return errno;
-    // Some FUSE file systems set nothing when one of the two is left out.
+    // Some FUSE file systems set nothing when one of the two is omitted.
     struct timespec times[] = {{now.stx_atime.tv_sec, now.stx_atime.tv_nsec},
                                {now.stx_mtime.tv_sec, now.stx_mtime.tv_nsec}};
     times[part == Part::Accessed ? 0 : 1] = *time;

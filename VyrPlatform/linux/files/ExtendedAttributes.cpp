@@ -1,4 +1,4 @@
-// Reads and writes attributes and creation times in extended attributes, in the order in which one takes precedence.
+// Each value is read from the first attribute, in order of precedence, that has it.
 #include "ExtendedAttributes.h"
 
 #include "DosAttribute.h"
@@ -14,7 +14,7 @@ namespace VyrPlatform::ExtendedAttributes {
 
 namespace {
 
-/// The value of one extended attribute; longer than any that is read here, so that a longer one is none of them.
+/// The value of one extended attribute. The buffer is larger than any valid value here, so a longer one is not valid.
 class Value
 {
 public:
@@ -26,9 +26,9 @@ public:
     {
         return {m_bytes.data(), m_size > 0 ? static_cast<std::size_t>(m_size) : 0};
     }
-    /// Whether this file system has no attributes of this family at all.
+    /// Whether this file system has no attributes of this namespace.
     [[nodiscard]] bool IsUnsupported() const noexcept { return m_error == ENOTSUP; }
-    /// Why it could not be read though it may be there, as an error code; 0 when it was read or is not there.
+    /// The error code where the attribute may exist but could not be read; else 0.
     [[nodiscard]] int WhyUnread() const noexcept { return m_error == ENODATA || m_error == ENOTSUP ? 0 : m_error; }
 
     /// The first `count` bytes as a number, most significant first; nothing when there are fewer.
@@ -58,7 +58,7 @@ int Set(const NativePath& path, const char* name, std::span<const std::byte> val
     return setxattr(path.Get(), name, value.data(), value.size(), 0) == 0 ? 0 : errno;
 }
 
-/// Sets a number as its bytes, most significant first.
+/// Writes a number as bytes, most significant first.
 template <class Number>
 int SetBigEndian(const NativePath& path, const char* name, Number number) noexcept
 {
@@ -68,7 +68,7 @@ int SetBigEndian(const NativePath& path, const char* name, Number number) noexce
     return Set(path, name, value);
 }
 
-/// Sets Samba's attribute to what `change` makes of its value.
+/// Sets Samba's attribute to the result of `change` for its value.
 template <class Change>
 int ChangeSamba(const NativePath& path, Change change)
 {
@@ -106,7 +106,7 @@ std::optional<FileTicks> GetNtfsCreated(const NativePath& path)
         return std::nullopt;
     if (const auto created = ToSetTime(creationTime.BigEndian(sizeof(FileTicks))))
         return created;
-    // The creation time is the first of its times.
+    // The creation time is the first of the times.
     return ToSetTime(Value(path, "system.ntfs_times_be").BigEndian(sizeof(FileTicks)));
 }
 
@@ -122,7 +122,7 @@ int SetNtfsCreated(const NativePath& path, FileTicks created)
 
 int SetCreated(const NativePath& path, FileTicks created)
 {
-    // What is read first is written, too.
+    // Samba's attribute is read first, so it is written where it exists.
     if (GetSambaCreated(path) || SetNtfsCreated(path, created) != 0)
         return SetSambaCreated(path, created);
     return 0;

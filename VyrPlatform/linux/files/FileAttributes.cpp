@@ -1,4 +1,4 @@
-// The attributes of a file on Linux: what Samba and Windows disks keep in extended attributes, and the mode.
+// Attributes on Linux: those that Samba and Windows file systems keep in extended attributes, and the mode.
 #include <VyrPlatform/files/FileAttributes.h>
 
 #include "ExtendedAttributes.h"
@@ -20,7 +20,7 @@ constexpr std::uint32_t noAttribute = 0x80000000;
 constexpr mode_t allWrite = S_IWUSR | S_IWGRP | S_IWOTH;
 constexpr mode_t permissions = 07777;
 
-/// What takes part in the attributes of a file.
+/// The sources of the attributes of a file.
 struct State
 {
     bool isFolder = false;
@@ -28,7 +28,7 @@ struct State
     std::uint32_t attributes = unknown;
 };
 
-/// @return false, with errno set, when nothing can be told.
+/// @return false, with errno set, on failure.
 bool Ask(const NativePath& path, State& state)
 {
     struct statx status;
@@ -46,8 +46,7 @@ bool Ask(const NativePath& path, State& state)
     return true;
 }
 
-/// The permissions that the process withholds from files that it makes. (umask itself could only be asked by changing
-/// it, for other threads, too.)
+/// The process's umask. (umask() can only be read by changing it, also for other threads.)
 mode_t GetUmask()
 {
     constexpr mode_t allOfOthers = 077;
@@ -66,7 +65,7 @@ mode_t MadeWritable(mode_t mode)
     return mode | S_IWUSR | (readers & ~GetUmask());
 }
 
-/// The mode that goes with the new attributes.
+/// The mode for the new attributes.
 mode_t NewMode(const State& state, std::uint32_t attributes)
 {
     const bool isWanted = attributes & readOnly;
@@ -82,10 +81,10 @@ int SetMode(const NativePath& path, mode_t mode) noexcept
     return chmod(path.Get(), mode) == 0 ? 0 : errno;
 }
 
-/// Sets what is kept in extended attributes; those of the kind "user" need the permission to write.
+/// Sets the extended attributes; those of the namespace "user" need write permission.
 int SetKept(const NativePath& path, const State& state, std::uint32_t attributes)
 {
-    // The mode alone keeps the read-only state of a file of which nothing else is kept.
+    // The mode alone is enough for the read-only state of a file without other attributes.
     const bool isWorthKeeping = (attributes & ~(folder | normal | (state.isFolder ? 0 : readOnly))) != 0;
     const std::uint32_t kept = (attributes & ~(folder | normal)) | (state.isFolder ? folder : 0);
     const int error = ExtendedAttributes::SetAttributes(path, kept, isWorthKeeping);
@@ -130,7 +129,7 @@ bool IsReadOnly(const CString& path)
 
 LiftedReadOnly::LiftedReadOnly(const CString& path) : m_path(path)
 {
-    // What Samba keeps of the read-only state hinders nobody here.
+    // Samba's own read-only bit does not prevent writing on Linux.
     const NativePath nativePath(path);
     State state;
     if (Ask(nativePath, state) && !(state.mode & S_IWUSR) && SetMode(nativePath, state.mode | S_IWUSR) == 0)

@@ -39,7 +39,7 @@ int CopyThroughBuffer(int source, int target, off_t offset, off_t end)
     std::unique_ptr<std::byte[]> buffer;
     std::byte firstBytes[4096];
     while (offset < end) {
-        // A file that has been copied already ends here, and so is asked for with little.
+        // A file that has been copied completely ends here, so a small buffer is enough to find out.
         const off_t room = buffer ? bufferSize : static_cast<off_t>(sizeof firstBytes);
         std::byte* const bytes = buffer ? buffer.get() : firstBytes;
         const ssize_t count = pread(source, bytes, static_cast<std::size_t>(std::min(room, end - offset)), offset);
@@ -56,9 +56,9 @@ int CopyThroughBuffer(int source, int target, off_t offset, off_t end)
     return 0;
 }
 
-/// Like CopyThroughBuffer, within the kernel as far as it can. What it cannot, and files that tell no size but have
-/// content (those of /proc), go through the buffer, which also tells a true error.
-/// @param size  what the file tells.
+/// Like CopyThroughBuffer, but in the kernel as far as possible. The rest, and files with content but no size (in
+/// /proc), go through the buffer, which also gives a true error.
+/// @param size  the size that the system reports.
 int CopyRange(int source, int target, off_t offset, off_t end, off_t size)
 {
     constexpr off_t longestCall = 1 << 30;
@@ -76,7 +76,7 @@ int CopyRange(int source, int target, off_t offset, off_t end, off_t size)
     return CopyThroughBuffer(source, target, offset, end);
 }
 
-/// Copies what lies between the holes of a file of `size` bytes.
+/// Copies the data between the holes of a file of `size` bytes.
 int CopyData(int source, int target, off_t size)
 {
     off_t position = 0;

@@ -1,4 +1,3 @@
-// The content of a file, copied as quickly as the system can.
 #pragma once
 
 #include <sys/stat.h>
@@ -6,7 +5,7 @@
 namespace VyrPlatform {
 
 /// Copies the content of `source`, whose state is `status`, to the new file `target`: by sharing its blocks where the
-/// file system can, else within the kernel, else piece by piece. Holes stay holes.
+/// file system can, else within the kernel, else through a buffer. Holes stay holes.
 /// @return 0, or the error code.
 [[nodiscard]] int CopyContent(int source, int target, const struct stat& status);
 

@@ -27,13 +27,13 @@ enum class Flush : bool
     Yes
 };
 
-/// The error code of a call that has just answered `result`.
+/// The error code of a call that has just returned `result`.
 int ErrorOf(int result) noexcept
 {
     return result == 0 ? 0 : errno;
 }
 
-/// What stands at `path` itself.
+/// The state of the entry at `path` itself.
 int AskSource(const NativePath& path, struct statx& status) noexcept
 {
     constexpr unsigned mask =
@@ -47,10 +47,10 @@ bool IsSameFile(const struct statx& left, const struct statx& right) noexcept
            left.stx_dev_minor == right.stx_dev_minor;
 }
 
-/// What MayReplace answers for two names of one file, as the system does not.
+/// The result of MayReplace for two names of one file; the system never gives it there.
 constexpr int isSameFile = EINVAL;
 
-/// Whether `source` may take the place of what stands at `destination`: 0 (also when nothing does), or the error code.
+/// Whether `source` may replace the entry at `destination`: 0 (also when there is none), or the error code.
 int MayReplace(const struct statx& source, const CString& destination)
 {
     struct statx status;
@@ -77,13 +77,13 @@ int FillCopy(int source, int target, Flush flush)
     return flush == Flush::Yes ? ErrorOf(fsync(target)) : 0;
 }
 
-/// Makes the new file `destination`, or nothing.
+/// Creates the new file `destination` completely, or not at all.
 int CopyRegularFile(const NativePath& source, const NativePath& destination, Flush flush)
 {
     const Descriptor from(open(source.Get(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
     if (!from.IsOpen())
         return errno;
-    // Nobody else reads the copy before it has its own mode.
+    // Nobody else may read the copy before it has its own mode.
     Descriptor to(open(destination.Get(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (!to.IsOpen())
         return errno;
@@ -95,7 +95,7 @@ int CopyRegularFile(const NativePath& source, const NativePath& destination, Flu
     return error;
 }
 
-/// Makes the new link `destination`, or nothing.
+/// Creates the new link `destination` completely, or not at all.
 int CopyLink(const NativePath& source, const struct statx& status, const NativePath& destination)
 {
     char target[PATH_MAX];
@@ -109,13 +109,13 @@ int CopyLink(const NativePath& source, const struct statx& status, const NativeP
         return timespec{time.tv_sec, static_cast<long>(time.tv_nsec)};
     };
     const struct timespec times[] = {toTime(status.stx_atime), toTime(status.stx_mtime)};
-    // A link serves as well without its owner and times.
+    // A link is as good without its owner and times.
     static_cast<void>(lchown(destination.Get(), status.stx_uid, status.stx_gid) == 0 &&
                       utimensat(AT_FDCWD, destination.Get(), times, AT_SYMLINK_NOFOLLOW) == 0);
     return 0;
 }
 
-/// Makes the new entry `destination`, or nothing.
+/// Creates the new entry `destination` completely, or not at all.
 int CopyEntry(const NativePath& source, const struct statx& status, const NativePath& destination, Flush flush)
 {
     if (S_ISREG(status.stx_mode))
@@ -125,14 +125,14 @@ int CopyEntry(const NativePath& source, const struct statx& status, const Native
     return S_ISDIR(status.stx_mode) ? EISDIR : ENOTSUP;
 }
 
-/// Whether a call failed because the folder may not be written.
+/// Whether a call failed because the folder is not writable.
 bool IsFolderLocked(int error) noexcept
 {
     return error == EACCES || error == EPERM || error == EROFS;
 }
 
 /// Overwrites the file `destination` with the file `source`.
-/// @return 0, or the error code; `folderError` when either is no regular file or the second may not be written.
+/// @return 0, or the error code; `folderError` when either is not a regular file or the second is not writable.
 int CopyInPlace(const NativePath& source, const NativePath& destination, Flush flush, int folderError)
 {
     const Descriptor from(open(source.Get(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
@@ -169,7 +169,7 @@ int Copy(const CString& source, const CString& destination, Flush flush)
     return error == EEXIST ? CopyOver(from, status, destination, flush) : error;
 }
 
-/// Whether `source` is still the file of `status`: one that somebody writes meanwhile is more than its copy.
+/// Whether `source` is still the file of `status`: if somebody has written to it, its copy is incomplete.
 bool IsUnchanged(const NativePath& source, const struct statx& status) noexcept
 {
     struct statx now;
@@ -196,8 +196,8 @@ bool IsSameEntry(const CString& left, const CString& right)
            LookAtFile(leftFolder + u".").identity == LookAtFile(rightFolder + u".").identity;
 }
 
-/// Removes `source`, which names the same file as `destination`. The two may be one entry even where their names
-/// differ, in a folder that takes upper and lower case for the same.
+/// Removes `source`, another name of the file `destination`. The two may be one entry even where their names differ, in
+/// a folder that ignores case.
 int RemoveSecondName(const CString& source, const CString& destination)
 {
     if (IsSameEntry(source, destination))

@@ -1,4 +1,4 @@
-// The causes of file exceptions behind Linux's error codes.
+// The causes of file exceptions for Linux's error codes.
 #include <VyrPlatform/files/CFileException.h>
 
 #include <cerrno>

@@ -1,4 +1,3 @@
-// Asks with one statx.
 #include "FileIdentityAt.h"
 
 #include "FileStatus.h"

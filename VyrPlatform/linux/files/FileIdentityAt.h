@@ -1,4 +1,4 @@
-// Looks at an entry by its name in an open folder.
+// Queries an entry by its name in an open folder.
 #pragma once
 
 #include <VyrPlatform/Export.h>

@@ -1,4 +1,3 @@
-// Copies what a file has besides its content.
 #include "FileMetadata.h"
 
 #include <cerrno>
@@ -14,21 +13,21 @@ namespace VyrPlatform {
 
 namespace {
 
-/// Whether a call failed since the file system has no such thing or the user may not set it, which spoils no copy.
+/// Whether a call failed because the file system lacks the feature or the user lacks permission. The copy is good all
+/// the same.
 bool IsRefused(int error) noexcept
 {
     return error == EPERM || error == EACCES || error == ENOTSUP || error == EINVAL || error == ENOSYS ||
            error == E2BIG || error == ERANGE;
 }
 
-/// The error code that a call's `result` stands for; 0 when it was refused.
+/// The error code for the `result` of a call; 0 when it was refused.
 int ErrorOf(int result) noexcept
 {
     return result == 0 || IsRefused(errno) ? 0 : errno;
 }
 
-/// The answer of one of the system's calls that fill a buffer, which is asked with a bigger one until it fits; nothing
-/// when it fails.
+/// The output of a system call that fills a buffer, which grows until it is large enough; nothing on failure.
 template <class Call>
 std::optional<std::string> AskForBytes(Call call)
 {
@@ -44,7 +43,7 @@ std::optional<std::string> AskForBytes(Call call)
     return bytes;
 }
 
-/// The attributes that `list` names, with the values that `get` gives for a name.
+/// The attributes that `list` names, with their values from `get`.
 template <class List, class Get>
 ExtendedList ReadAttributes(List list, Get get)
 {
@@ -102,7 +101,7 @@ int SetExtendedAttributes(int file, const ExtendedList& attributes)
 
 int CopyMetadata(int source, int target, const struct stat& status)
 {
-    // A change of the owner takes capabilities and the set-id bits away, and the mode may forbid to set attributes.
+    // A change of the owner clears capabilities and the set-id bits, and the mode may forbid setting attributes.
     const bool hasOwner = SetOwner(target, status.st_uid, status.st_gid);
     if (const int error = SetExtendedAttributes(target, GetExtendedAttributes(source)))
         return error;

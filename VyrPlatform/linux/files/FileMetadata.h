@@ -18,11 +18,11 @@ namespace VyrPlatform {
     return status.st_mode & 07777;
 }
 
-/// Makes owner and group those, as far as the user may.
+/// Sets owner and group, where the user may.
 /// @return whether the open file has both now.
 [[nodiscard]] VYR_PLATFORM_API bool SetOwner(int file, uid_t owner, gid_t group) noexcept;
 
-/// Gives the open file these permissions, the set-id bits only where it has the owner that they are of.
+/// Sets the permissions of the open file, the set-id bits only where the file has their owner.
 /// @return 0, or the error code; 0 where the user may not.
 [[nodiscard]] VYR_PLATFORM_API int SetPermissions(int file, mode_t permissions, bool hasOwner) noexcept;
 
@@ -30,9 +30,9 @@ namespace VyrPlatform {
 using ExtendedList = std::vector<std::pair<std::string, std::string>>;
 
 [[nodiscard]] ExtendedList GetExtendedAttributes(int file);
-/// Those of what stands at `path` itself, be it a link.
+/// The attributes of the entry at `path` itself, even if it is a link.
 [[nodiscard]] VYR_PLATFORM_API ExtendedList GetExtendedAttributes(const NativePath& path);
-/// What the user may not set, or the file system cannot keep, is left out.
+/// Leaves out attributes that the user may not set, or that the file system cannot keep.
 /// @return 0, or the error code.
 [[nodiscard]] VYR_PLATFORM_API int SetExtendedAttributes(int file, const ExtendedList& attributes);
 

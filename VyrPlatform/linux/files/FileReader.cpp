@@ -17,8 +17,8 @@ constexpr int notOpen = -1;
 /// Opening a pipe without O_NONBLOCK would wait for its other end.
 constexpr int howToOpen = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
 
-/// Takes the size of the regular file behind `descriptor`.
-/// @return 0, or the error code when it is something else.
+/// Reads the size of the regular file `descriptor`.
+/// @return 0, or the error code when it is not a regular file.
 int TakeSize(int descriptor, std::uint64_t& size) noexcept
 {
     struct stat status;
@@ -33,7 +33,7 @@ int TakeSize(int descriptor, std::uint64_t& size) noexcept
 }
 
 /// Reads from `offset` on until `buffer` is full, the file ends or the system fails.
-/// @return how many bytes were read; where they are none, `errno` tells why when the system failed.
+/// @return the number of bytes read; when that is 0 after a failure, `errno` gives the reason.
 std::size_t Read(int descriptor, std::uint64_t offset, std::span<std::byte> buffer) noexcept
 {
     std::size_t count = 0;
@@ -49,12 +49,12 @@ std::size_t Read(int descriptor, std::uint64_t offset, std::span<std::byte> buff
     return count;
 }
 
-/// Takes the size of what is behind `descriptor` and reads its beginning.
-/// @return 0, or the error code when it cannot be read at a place.
+/// Reads the size and the beginning of `descriptor`.
+/// @return 0, or the error code when it has no positions to read at.
 int TakeBeginning(int descriptor, std::uint64_t& size, std::span<std::byte> beginning, std::size_t& count) noexcept
 {
-    // A pipe has no end to go to, and a folder gives itself away when it is read. Both tell so in less time than the
-    // kind of a file takes to ask for; only what seems empty may be anything.
+    // Seeking fails for a pipe, and reading fails for a folder. Both take less time than querying the kind of a file,
+    // which is needed only for one that seems empty.
     const off_t end = lseek(descriptor, 0, SEEK_END);
     if (end < 0)
         return errno;
@@ -69,7 +69,7 @@ int TakeBeginning(int descriptor, std::uint64_t& size, std::span<std::byte> begi
     return 0;
 }
 
-/// Keeps `descriptor`, or closes it where `error` says so.
+/// Keeps `descriptor`, or closes it when `error` is not 0.
 std::intptr_t KeepUnless(int error, int descriptor) noexcept
 {
     if (error == 0)

@@ -1,4 +1,3 @@
-// Turns the system's file times into ticks.
 #include "FileStatus.h"
 
 #include <VyrPlatform/common/time/Epochs.h>
@@ -23,7 +22,7 @@ FileTicks ToTicks(const struct statx_timestamp& time) noexcept
 
 struct timespec ToTimespec(FileTicks ticks) noexcept
 {
-    // The fraction counts forward before 1601, too.
+    // The fraction also counts forward before 1601.
     const FileTicks fraction = (ticks % ticksPerSecond + ticksPerSecond) % ticksPerSecond;
     return {(ticks - fraction) / ticksPerSecond - secondsToUnixEpoch, fraction * nanosecondsPerTick};
 }

@@ -1,4 +1,4 @@
-// What statx tells, in the words of the file services.
+// The results of statx as the file services need them.
 #pragma once
 
 #include "NativePath.h"
@@ -10,15 +10,14 @@
 
 namespace VyrPlatform {
 
-/// Asks the system once about `path`, whose links are followed unless `flags` has AT_SYMLINK_NOFOLLOW, for the fields
-/// of `mask` (STATX_...).
-/// @return false, with errno set, when there is no answer.
+/// Queries the fields of `mask` (STATX_...) of `path`, whose links are followed unless `flags` has AT_SYMLINK_NOFOLLOW.
+/// @return false, with errno set, on failure.
 [[nodiscard]] inline bool AskStatus(const NativePath& path, int flags, unsigned mask, struct statx& status) noexcept
 {
     return statx(AT_FDCWD, path.Get(), flags, mask, &status) == 0;
 }
 
-/// A time of the system as ticks, fractions rounded down; one beyond them gives the nearest.
+/// A time of the system as ticks, fractions rounded down; the nearest value for one out of range.
 [[nodiscard]] FileTicks ToTicks(const struct statx_timestamp& time) noexcept;
 /// The inverse.
 [[nodiscard]] struct timespec ToTimespec(FileTicks ticks) noexcept;

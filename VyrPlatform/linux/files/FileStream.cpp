@@ -1,4 +1,3 @@
-// An open file that is read and written from a place that moves along, on Linux.
 #include <VyrPlatform/files/FileAttributes.h>
 #include <VyrPlatform/files/FileStream.h>
 
@@ -36,7 +35,7 @@ int HowToOpen(FileStream::Access access, FileStream::Creation creation) noexcept
     }
 }
 
-/// 0 for a regular file, else the error code that tells why it is none.
+/// 0 for a regular file, else the error code for its kind.
 std::uint32_t CheckKind(int descriptor) noexcept
 {
     struct stat status;
@@ -64,14 +63,14 @@ bool FileStream::IsOpen() const noexcept
 std::uint32_t FileStream::Open(const CString& path, Access access, Creation creation, Sharing)
 {
     static_cast<void>(Close());
-    // The system itself lets root write to such a file.
+    // The system itself would let root write to such a file.
     if (access != Access::Read && FileAttributes::IsReadOnly(path))
         return EACCES;
     m_handle = open(NativePath(path).Get(), HowToOpen(access, creation), 0666);
     if (!IsOpen())
         return LastError();
     std::uint32_t error = CheckKind(static_cast<int>(m_handle));
-    // Not by O_TRUNC, which would come before the look at the kind, and which is undefined for reading alone.
+    // O_TRUNC would empty the file before its kind is checked, and is undefined for read-only access.
     if (!error && creation == Creation::CreateEmpty && access != Access::Read &&
         ftruncate(static_cast<int>(m_handle), 0) != 0)
         error = LastError();

@@ -1,4 +1,4 @@
-// Asks with one statx, with two for a link.
+// One statx for an entry, two for a link.
 #include <VyrPlatform/files/FileSystem.h>
 
 #include "FileStatus.h"

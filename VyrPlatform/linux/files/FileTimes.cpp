@@ -17,15 +17,15 @@ struct timespec AsItWas(const struct statx_timestamp& time) noexcept
     return {time.tv_sec, time.tv_nsec};
 }
 
-/// The time to be set: one that is left alone is given as it was, since some FUSE file systems (exfat-fuse) set nothing
-/// when it is left out.
+/// The time to be set. One that is to be kept is given with its present value, since some FUSE file systems
+/// (exfat-fuse) set nothing when a time is omitted.
 struct timespec NewTime(FileTicks wanted, const struct statx_timestamp& before) noexcept
 {
     return wanted == 0 ? AsItWas(before) : ToTimespec(wanted);
 }
 
-/// Whether a time that was set to `wanted` stands at something else: file systems take the nearest that they can hold,
-/// which may be off by centuries, and FAT keeps of the last access only the day.
+/// Whether the time that was stored for `wanted` is too far off: file systems store the nearest value that they can
+/// represent, which may be off by centuries, and FAT stores only the day of the last access.
 bool IsFarOff(const struct statx_timestamp& now, FileTicks wanted) noexcept
 {
     constexpr FileTicks twoDays = 2 * secondsPerDay * ticksPerSecond;
@@ -79,7 +79,7 @@ std::optional<FileTicks> GetCreated(const CString& path)
         return std::nullopt;
     if (const auto kept = ExtendedAttributes::GetSambaCreated(nativePath))
         return kept;
-    // A file system of Windows that tells a birth time tells the same as in its attributes.
+    // A Windows file system that has a birth time has the same time in its attributes.
     if (status.stx_mask & STATX_BTIME)
         return ToTicks(status.stx_btime);
     if (const auto kept = ExtendedAttributes::GetNtfsCreated(nativePath))

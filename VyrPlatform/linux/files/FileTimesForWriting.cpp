@@ -1,4 +1,4 @@
-// On Linux a file time is written with the offset of its own date, as it is read.
+// On Linux file times are written with the offset of their own date, as they are read.
 #include <VyrPlatform/files/FileTimes.h>
 
 namespace VyrPlatform::FileTimes {

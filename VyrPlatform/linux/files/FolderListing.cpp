@@ -31,7 +31,7 @@ bool IsDots(const char* name) noexcept
     return std::strcmp(name, ".") == 0 || std::strcmp(name, "..") == 0;
 }
 
-/// The type bits of what stands at `name` in `folder`; 0 when the system does not tell.
+/// The type bits of the entry `name` in `folder`; 0 when the system does not tell.
 mode_t AskType(DIR* folder, const char* name, int flags) noexcept
 {
     struct statx status;

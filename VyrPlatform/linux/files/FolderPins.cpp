@@ -7,9 +7,10 @@ namespace VyrPlatform {
 
 namespace {
 
-/// How far one folder on the way is from the next, at most. Names have 255 bytes at most, so that there is always one.
+/// The largest distance between one pinned folder and the next. Names have at most 255 bytes, so that there is always
+/// one.
 constexpr std::size_t stepLength = 300;
-/// More are not kept open: the system allows 1,024 files to a process.
+/// The maximum of open folders: the system allows 1,024 files to a process.
 constexpr std::size_t mostFolders = 256;
 
 } // namespace

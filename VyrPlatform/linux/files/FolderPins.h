@@ -1,4 +1,4 @@
-// Reaches files whose paths are too long for the system, by way of the folders above them.
+// Reaches files whose paths are too long for the system, through the folders above them.
 #pragma once
 
 #include "Descriptor.h"
@@ -10,17 +10,17 @@
 
 namespace VyrPlatform {
 
-/// Keeps the folders open that it has found on its way.
+/// Keeps the folders on the way open.
 class FolderPins
 {
 public:
-    /// A short path to what stands at `path`, good as long as this lives and until it is asked again; empty when a
-    /// folder on the way cannot be opened.
+    /// A short path to the entry at `path`, valid until the next call and as long as this lives; empty when a folder on
+    /// the way cannot be opened.
     [[nodiscard]] std::string Shorten(std::string_view path);
 
 private:
-    /// A descriptor of the folder at the first `end` bytes of `path`, whose first `start` bytes name `parent`; negative
-    /// when it cannot be opened.
+    /// A descriptor of the folder at the first `end` bytes of `path`, whose first `start` bytes are the path of
+    /// `parent`; negative when it cannot be opened.
     [[nodiscard]] int Open(std::string_view path, int parent, std::size_t start, std::size_t end);
 
     std::map<std::string, Descriptor, std::less<>> m_folders;

@@ -1,4 +1,3 @@
-// Full paths of Linux: the current folder in front, and no empty steps.
 #include <VyrPlatform/files/FullPath.h>
 
 #include "NativePath.h"

@@ -1,4 +1,4 @@
-// The mark of a download on Linux: a sibling file or an extended attribute, as the programs that mark files write it.
+// The mark of a download on Linux: a file beside the marked one, or an extended attribute, as other programs write it.
 #include <VyrPlatform/files/NamedStreams.h>
 
 #include "Descriptor.h"
@@ -29,13 +29,14 @@ constexpr const char* attributeNames[] = {
     "user.xdg.referrer.url",
 };
 
-/// Whether a form that could not be read or removed is just not there. A name too long for a file has none beside it.
+/// Whether a form that could not be read or removed does not exist. With a name that is too long for a file there is
+/// none.
 bool MeansNone(int error) noexcept
 {
     return error == ENOENT || error == ENODATA || error == ENOTSUP || error == ENAMETOOLONG;
 }
 
-/// What became of a mark, gathered over its forms.
+/// The result for a mark, collected over its forms.
 class Outcome
 {
 public:
@@ -70,7 +71,7 @@ constexpr std::size_t mostBytes = 64 * 1024;
 struct FoundForm
 {
     std::optional<std::string> bytes;
-    /// 0 where the file simply has no such form.
+    /// 0 where the file has no such form.
     int error = 0;
 };
 
@@ -103,7 +104,7 @@ FoundForm ReadSibling(std::u16string_view path)
 
 FoundForm ReadAttribute(const NativePath& path, const char* name)
 {
-    // Most files have none.
+    // Most files have no mark.
     const ssize_t expected = getxattr(path.Get(), name, nullptr, 0);
     if (expected < 0)
         return NotFound(errno);

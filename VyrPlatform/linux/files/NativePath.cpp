@@ -1,4 +1,4 @@
-// Turns paths into the bytes of Linux, quickly for those in ASCII.
+// Converts paths to the bytes of Linux, quickly for ASCII paths.
 #include "NativePath.h"
 
 #include "FolderPins.h"
@@ -18,7 +18,7 @@ bool StandsForByte(char16_t unit) noexcept
     return unit >= 0xDC80 && unit <= 0xDCFF;
 }
 
-/// Whether a file can have this path at all.
+/// Whether a file can have this path.
 bool CanName(std::u16string_view path) noexcept
 {
     while (!path.empty()) {
@@ -60,8 +60,7 @@ bool NativePath::TakeShortAscii(std::u16string_view path, std::string_view suffi
 {
     if (path.size() + suffix.size() >= shortLength)
         return false;
-    // Without an early way out the loop is done many units at a time. A NUL and what is not ASCII wrap round to 0x7F
-    // up.
+    // A loop without an early exit is vectorised. A NUL and units beyond ASCII wrap round to 0x7F and above.
     unsigned highest = 0;
     for (std::size_t index = 0; index < path.size(); ++index) {
         highest = std::max(highest, static_cast<unsigned>(static_cast<char16_t>(path[index] - 1)));

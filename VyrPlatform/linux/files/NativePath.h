@@ -1,4 +1,4 @@
-// A path in the form in which Linux takes it: bytes with a NUL behind them.
+// A path as Linux takes it: bytes with a NUL at the end.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -11,19 +11,19 @@ namespace VyrPlatform {
 
 class FolderPins;
 
-/// Holds the bytes itself, so that an ASCII path of usual length costs no allocation.
+/// Contains the bytes itself, so that an ASCII path of usual length costs no allocation.
 class VYR_PLATFORM_API NativePath
 {
 public:
-    /// The bytes of `path`, with those of the ASCII text `suffix` behind them.
+    /// The bytes of `path`, followed by the ASCII text `suffix`.
     explicit NativePath(std::u16string_view path, std::string_view suffix = {});
     NativePath(const NativePath&) = delete;
     NativePath& operator=(const NativePath&) = delete;
     ~NativePath();
 
-    /// The bytes; of a path that is longer than the system takes, a short one to the same file. A path that no file can
-    /// have (one with a NUL in it, or with a lone surrogate that stands for no byte) gives the empty text, which the
-    /// system answers with "no such file".
+    /// The bytes. A path that is longer than the system allows is replaced by a short path to the same file. A path
+    /// that no file can have (with a NUL, or a lone surrogate that encodes no byte) gives the empty text, for which the
+    /// system reports "no such file".
     [[nodiscard]] const char* Get() const noexcept { return m_bytes; }
 
 private:
@@ -34,7 +34,7 @@ private:
     const char* m_bytes;
     char m_short[shortLength];
     std::string m_long;
-    /// What keeps a short path good.
+    /// Keeps the short path valid.
     std::unique_ptr<FolderPins> m_pins;
 };
 

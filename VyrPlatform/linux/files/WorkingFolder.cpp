@@ -21,12 +21,12 @@ class EnteredFolder
 public:
     explicit EnteredFolder(const CString& path) : m_path(NativePath(path).Get())
     {
-        // A folder whose path is too long for the system is not entered: the short one to it is not good for long.
+        // A folder whose path is too long for the system is not entered: the short path to it is not valid for long.
         if (Encoding::ToNameBytes(path) != m_path)
             m_path.clear();
     }
 
-    /// The name of the file at `path` when it stands in this folder itself, else a null pointer.
+    /// The name of the file at `path` when it is directly in this folder, else a null pointer.
     [[nodiscard]] const char* NameOf(const char* path) const noexcept
     {
         if (m_path.empty() || std::strncmp(path, m_path.c_str(), m_path.size()) != 0)
@@ -35,7 +35,7 @@ public:
         return *name == '\0' || std::strchr(name, '/') ? nullptr : name;
     }
 
-    /// A descriptor of the folder, opened when it is first asked for; negative when it cannot be opened.
+    /// A descriptor of the folder, opened on first use; negative when it cannot be opened.
     [[nodiscard]] int Get()
     {
         if (!m_folder)

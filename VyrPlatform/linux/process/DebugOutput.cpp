@@ -1,4 +1,4 @@
-// Linux has no debugger output: what no sink takes is discarded.
+// Linux has no debugger output: texts without a sink are discarded.
 #include <VyrPlatform/common/process/SystemDebugOutput.h>
 
 namespace VyrPlatform::DebugOutput {

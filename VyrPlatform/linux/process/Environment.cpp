@@ -1,4 +1,4 @@
-// Environment variables in texts that come from a Windows: the process's own, and those that its registry tells.
+// Replaces environment variables in texts from a Windows: by the process's own, and by values of its registry.
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/linux/registry/Node.h>
 #include <VyrPlatform/process/Process.h>
@@ -13,7 +13,7 @@ using Registry::Key;
 
 constexpr std::u16string_view systemDrive = u"%SystemDrive%";
 
-/// A variable that stands in the registry, below HKEY_LOCAL_MACHINE\SOFTWARE\Microsoft.
+/// A variable whose value is in the registry, below HKEY_LOCAL_MACHINE\SOFTWARE\Microsoft.
 struct RegistryVariable
 {
     const char16_t* name;
@@ -74,7 +74,7 @@ std::optional<CString> ExpandEnvironment(const CString& text, std::uint32_t capa
     rest = rest.substr(0, rest.find(u'\0'));
     CString result;
     while (!rest.empty() && static_cast<std::uint32_t>(result.GetLength()) < capacity) {
-        // Up to a percent sign, or from one to the next, that one included.
+        // The text up to a percent sign, or from one to the next, including that.
         const bool isName = rest.front() == u'%';
         const std::size_t next = rest.find(u'%', isName ? 1 : 0);
         const std::u16string_view part = isName && next != rest.npos ? rest.substr(0, next + 1) : rest.substr(0, next);

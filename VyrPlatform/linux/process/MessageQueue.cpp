@@ -1,4 +1,4 @@
-// The per-thread queue that stands on Linux for a thread's message queue.
+// The queue of a thread on Linux, in place of a Windows message queue.
 #include <VyrPlatform/process/LinuxMessageQueue.h>
 #include <VyrPlatform/process/MessageQueue.h>
 
@@ -23,15 +23,15 @@ struct Poster::Queue
 {
     /// Adds `event`; one for a thread that has ended is dropped.
     void Add(Event event);
-    /// Takes the oldest event and does what it asks; true for a stop. Call it only while something is waiting.
+    /// Removes and handles the oldest event; true for a stop. Call it only while an event is waiting.
     bool HandleOldest();
     bool RunMainLoop() const;
-    /// Drops what is waiting and what is still to come.
+    /// Drops all waiting and later events.
     void Close();
 
-    /// Lets a drain find out without the lock that there is nothing to do.
+    /// Tells a drain without the lock that there is nothing to do.
     std::atomic<bool> isWaiting = false;
-    /// Used by the queue's own thread alone.
+    /// Used only by the queue's own thread.
     std::shared_ptr<const MainLoopPass> mainLoop;
 
 private:
@@ -80,7 +80,7 @@ void Poster::Queue::Close()
     m_events.swap(dropped);
 }
 
-/// Reaches the parts of a Poster that are its own business.
+/// Gives access to the private parts of a Poster.
 struct QueueAccess
 {
     using Queue = Poster::Queue;
@@ -92,8 +92,8 @@ namespace {
 
 using Queue = QueueAccess::Queue;
 
-/// The calling thread's queue; null until it has one, and again while the thread ends. In the initial-exec model one
-/// load from the thread's own block answers a drain of a thread that has no queue, even from a shared library.
+/// The calling thread's queue; null until it has one, and again while the thread ends. In the initial-exec model a
+/// drain of a thread without a queue costs one load, even from a shared library.
 [[gnu::tls_model("initial-exec")]] constinit thread_local Queue* threadQueue = nullptr;
 [[gnu::tls_model("initial-exec")]] constinit thread_local bool hasThreadEnded = false;
 

@@ -1,4 +1,4 @@
-// The running program and the system's folders, by Linux's own conventions.
+// The running program and the system's folders, by the conventions of Linux.
 #include <VyrPlatform/linux/process/VersionNote.h>
 #include <VyrPlatform/process/Process.h>
 #include <VyrPlatform/text/Encoding.h>
@@ -17,7 +17,7 @@ namespace VyrPlatform::Process {
 
 namespace {
 
-/// The user's home folder: what the environment says, else what the user database knows. Empty when neither does.
+/// The user's home folder: from the environment, else from the user database. Empty when neither has it.
 std::string HomeFolder()
 {
     if (const char* const home = std::getenv("HOME"); home && *home)
@@ -30,8 +30,8 @@ std::string HomeFolder()
     return found && found->pw_dir ? found->pw_dir : std::string();
 }
 
-/// An XDG base directory: the variable `name`, or `fallback` in the home folder where it is unset,
-/// empty or (such values are to be ignored) relative.
+/// An XDG base directory: the variable `name`, or `fallback` in the home folder where it is unset, empty or relative
+/// (relative values are to be ignored).
 std::string BaseFolder(const char* name, const char* fallback)
 {
     if (const char* const folder = std::getenv(name); folder && *folder == '/')
@@ -74,7 +74,7 @@ CString GetProgramPath()
     while ((length = ::readlink(programLink, path.data(), path.size())) == static_cast<ssize_t>(path.size()))
         path.resize(path.size() * 2);
     path.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
-    // The system marks the path of a file that was removed or replaced while it runs.
+    // The system appends this mark to the path of a file that was removed or replaced while it runs.
     if (path.ends_with(deletedMark) && !IsProgram(path))
         path.resize(path.size() - deletedMark.size());
     return Encoding::FromNameBytes(path);

@@ -1,4 +1,4 @@
-// Programs started on Linux: in a session of their own, and nobody's children afterwards.
+// Starts programs in a session of their own, without leaving zombies.
 #include <VyrPlatform/common/process/SystemShell.h>
 #include <VyrPlatform/text/Encoding.h>
 
@@ -42,7 +42,7 @@ std::vector<std::string> TakeApart(std::u16string_view arguments)
     return parts;
 }
 
-/// The shell's number for why a program does not start.
+/// The shell's number for the reason why a program did not start.
 std::uintptr_t NumberOf(int error) noexcept
 {
     switch (error) {
@@ -60,7 +60,7 @@ std::uintptr_t NumberOf(int error) noexcept
     }
 }
 
-/// Becomes the program, or writes to `report` why it cannot. Calls nothing but what is allowed behind fork.
+/// Becomes the program, or writes the error code to `report`. Calls only functions that are allowed after fork.
 [[noreturn]] void Become(const char* path, char* const* arguments, int report) noexcept
 {
     ::setsid();
@@ -87,7 +87,7 @@ std::uintptr_t StartBySystem(Window /*owner*/, const CString& path, const CStrin
         pointers.push_back(text.data());
     pointers.push_back(nullptr);
 
-    // The writing end closes when the program begins; what is written before tells why it does not.
+    // The writing end closes when the program begins; bytes before that give the error.
     int ends[2];
     if (::pipe2(ends, O_CLOEXEC) != 0)
         return NumberOf(errno);

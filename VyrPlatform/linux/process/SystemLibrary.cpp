@@ -1,4 +1,3 @@
-// Libraries loaded at run time, on Linux.
 #include <VyrPlatform/process/SystemLibrary.h>
 #include <VyrPlatform/text/Encoding.h>
 
@@ -7,7 +6,7 @@
 namespace VyrPlatform {
 
 SystemLibrary::SystemLibrary(const CString& path)
-    // The empty path would be the program itself.
+    // An empty path would load the program itself.
     : m_handle(path.IsEmpty() ? nullptr
                               : ::dlopen(Encoding::ToNameBytes(path).c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE))
 {}

@@ -1,4 +1,4 @@
-// Finds the version note among the program's own notes and reads it, whatever its bytes are.
+// Finds the version note among the program's notes and reads it; its bytes may be invalid.
 #include <VyrPlatform/linux/process/VersionNote.h>
 #include <VyrPlatform/text/Encoding.h>
 
@@ -16,7 +16,7 @@ namespace {
 constexpr std::string_view ownerName("Vyr\0", 4);
 constexpr ElfW(Word) versionType = 1;
 
-/// Takes the first `count` bytes off `bytes`; nothing, and `bytes` stays, when it has fewer.
+/// Removes and returns the first `count` bytes; nothing, with `bytes` unchanged, when there are fewer.
 std::optional<std::string_view> Take(std::string_view& bytes, std::size_t count)
 {
     if (count > bytes.size())
@@ -66,7 +66,7 @@ std::optional<ProgramVersion> ReadContent(std::string_view content)
     return version;
 }
 
-/// Takes a note's owner or content, which is padded to a multiple of `alignment` (the last one may lack its padding).
+/// Reads a note's owner or content, which is padded to a multiple of `alignment` (the last one may lack its padding).
 std::optional<std::string_view> TakePadded(std::string_view& bytes, std::size_t size, std::size_t alignment)
 {
     const auto taken = Take(bytes, size);
@@ -75,7 +75,7 @@ std::optional<std::string_view> TakePadded(std::string_view& bytes, std::size_t 
     return taken;
 }
 
-/// Looks through a segment of notes, one behind the other.
+/// Searches a segment of consecutive notes.
 std::optional<ProgramVersion> ReadNotes(std::string_view notes, std::size_t alignment)
 {
     while (const auto header = TakeValue<ElfW(Nhdr)>(notes)) {
@@ -95,8 +95,8 @@ std::optional<ProgramVersion> ReadNotes(const dl_phdr_info& module)
         const ElfW(Phdr)& segment = module.dlpi_phdr[i];
         if (segment.p_type != PT_NOTE)
             continue;
-        // The loader has mapped the segment at this address, all p_memsz bytes of it.
-        // NOLINTNEXTLINE(performance-no-int-to-ptr): the loader tells addresses as numbers
+        // The loader has mapped all p_memsz bytes of the segment at this address.
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): the loader gives addresses as numbers
         const auto* const bytes = reinterpret_cast<const char*>(module.dlpi_addr + segment.p_vaddr);
         const std::size_t alignment = segment.p_align == 8 ? 8 : 4;
         if (auto version = ReadNotes(std::string_view(bytes, segment.p_memsz), alignment))

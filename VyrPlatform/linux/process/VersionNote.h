@@ -1,5 +1,5 @@
 /// @file
-/// The note in which a Linux program carries its version, as cmake/VyrVersionInfo.cmake writes it.
+/// The note with the version of a Linux program, as cmake/VyrVersionInfo.cmake writes it.
 #pragma once
 
 #include <VyrPlatform/process/Process.h>
@@ -8,7 +8,7 @@
 
 namespace VyrPlatform::Process {
 
-/// The note of the program itself (not of a library that it has loaded); nothing when it carries none.
+/// The note of the program itself (not of a library that it has loaded); nothing when it has none.
 [[nodiscard]] std::optional<ProgramVersion> ReadVersionNote();
 
 } // namespace VyrPlatform::Process

@@ -1,4 +1,3 @@
-// Hives, read by hivex.
 #include "Hive.h"
 
 #include "MemoryNode.h"
@@ -27,7 +26,7 @@ using Outcome = OpenResult::Outcome;
 constexpr std::size_t longestKeyName = 3 * std::size_t{255};
 constexpr std::size_t longestValueName = 3 * std::size_t{16'383};
 
-/// Memory that the library hands out.
+/// Memory that the library allocates.
 template <class Content>
 using Handed = std::unique_ptr<Content, decltype(&std::free)>;
 
@@ -37,7 +36,7 @@ Handed<Content> Take(Content* content)
     return {content, &std::free};
 }
 
-/// The number of a type, which need not be one that the library has a name for.
+/// The number of a type, which the library may not have a name for.
 std::uint32_t NumberOf(const hive_type& type) noexcept
 {
     std::uint32_t number = 0;
@@ -86,7 +85,7 @@ const Subkeys& HiveNode::GetSubkeys()
 
 void HiveNode::LoadSubkeys()
 {
-    // A damaged hive may have keys below themselves.
+    // In a damaged hive a key may be below itself.
     if (m_level >= MemoryNode::mostLevels)
         return;
     hive_h* const hive = m_file.handle.get();
@@ -119,7 +118,7 @@ Values HiveNode::ReadValues() const
 {
     Values values;
     hive_h* const hive = m_file.handle.get();
-    // The values of a sound key do not have more bytes than the file; in a damaged one many may share theirs.
+    // The values of an intact key have fewer bytes than the file; in a damaged one many may share theirs.
     std::uint64_t rest = m_file.size;
     const auto list = Take(hivex_node_values(hive, m_node));
     for (const hive_value_h* entry = list.get(); entry && *entry; ++entry) {
@@ -142,11 +141,11 @@ Values HiveNode::ReadValues() const
     return values;
 }
 
-/// What the head of a file tells.
+/// The header of a file.
 struct HiveHead
 {
     Outcome outcome = Outcome::NoRegistry;
-    /// All that Windows began to write was written.
+    /// Windows completed its last write.
     bool isClosed = false;
 };
 
@@ -154,8 +153,8 @@ HiveHead ReadHead(const FileReader& reader)
 {
     if (reader.Size() == 0)
         return {Outcome::Empty};
-    // A signature, two numbers, of which the second is made equal to the first when a change is complete, and at 40 the
-    // count of bytes behind the head's page.
+    // A signature, two sequence numbers, of which the second is set to the first when a change is complete, and at 40
+    // the number of bytes behind the header's page.
     constexpr std::size_t pageSize = 4096;
     std::array<char, 44> head{};
     const std::size_t length = reader.ReadAt(0, std::as_writable_bytes(std::span(head)));
@@ -180,8 +179,8 @@ OpenedHive OpenHive(const CString& path)
     const HiveHead head = ReadHead(reader);
     if (head.outcome != Outcome::Shown)
         return {nullptr, {head.outcome, 0, path, {}}};
-    // Opened so the library reads the whole file at once and never writes to it; otherwise it maps the file, and a disk
-    // that is taken away would end the process.
+    // In this mode the library reads the whole file at once and never writes to it. Otherwise it would map the file,
+    // and removing the disk would end the process.
     hive_h* const hive = hivex_open(Encoding::ToNameBytes(path).c_str(), HIVEX_OPEN_WRITE);
     if (!hive) {
         const bool isDamaged = errno == EINVAL || errno == ENOTSUP;

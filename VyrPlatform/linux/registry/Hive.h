@@ -1,4 +1,4 @@
-// A hive: the file in which Windows keeps a part of the registry.
+// A hive: a file with a part of a Windows registry.
 #pragma once
 
 #include "Node.h"
@@ -9,13 +9,13 @@ namespace VyrPlatform::Registry {
 
 struct OpenedHive
 {
-    /// Null when it was not opened.
+    /// Null when the hive could not be opened.
     std::shared_ptr<Node> top;
     OpenResult result;
 };
 
-/// Opens the hive at `path` for reading. Its keys are read when they are asked for, their values kept only while
-/// somebody uses them. What is damaged is missing; a name that is not Unicode is.
+/// Opens the hive at `path` for reading. Its keys are read on demand; values are kept only while somebody uses them.
+/// Damaged parts, and names that are not Unicode, are left out.
 [[nodiscard]] VYR_PLATFORM_API OpenedHive OpenHive(const CString& path);
 
 } // namespace VyrPlatform::Registry

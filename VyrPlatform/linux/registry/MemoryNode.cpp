@@ -1,4 +1,3 @@
-// Keys that are kept in memory.
 #include "MemoryNode.h"
 
 #include <VyrPlatform/common/time/Epochs.h>

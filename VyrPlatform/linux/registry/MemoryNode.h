@@ -1,4 +1,4 @@
-// A key that is kept in memory.
+// A key in memory.
 #pragma once
 
 #include "Node.h"
@@ -11,10 +11,10 @@ namespace VyrPlatform::Registry {
 class VYR_PLATFORM_API MemoryNode final : public Node
 {
 public:
-    /// Windows allows no more levels below a root.
+    /// The limit of Windows.
     static constexpr int mostLevels = 512;
 
-    /// A key without anything in it.
+    /// An empty key.
     MemoryNode(bool isWritable, FileTicks lastWrite) : m_isWritable(isWritable), m_lastWrite(lastWrite) {}
 
     [[nodiscard]] const Subkeys& GetSubkeys() override { return m_subkeys; }
@@ -25,11 +25,11 @@ public:
     [[nodiscard]] std::uint64_t GetGeneration() const noexcept override { return m_generation; }
     [[nodiscard]] bool IsDeleted() const noexcept override { return m_isDeleted; }
 
-    /// The subkey `name`, made at the moment `now` where it is missing. Null when it would be a level too many.
+    /// The subkey `name`, created with the time `now` where it is missing. Null when it would be too deep.
     [[nodiscard]] std::shared_ptr<MemoryNode> AddSubkey(std::u16string_view name, FileTicks now);
-    /// Puts the node of another tree below this one.
+    /// Adds the node of another tree as a subkey.
     void Attach(const CString& name, std::shared_ptr<Node> node);
-    /// Adds the value, or replaces the one of its name.
+    /// Adds the value, or replaces the value of the same name.
     void SetValue(Value value);
     void SetLastWrite(FileTicks moment) noexcept { m_lastWrite = moment; }
 
@@ -38,7 +38,7 @@ public:
 
     /// @return false when there is no such value.
     [[nodiscard]] bool RemoveValue(std::u16string_view name);
-    /// Takes the subkey away with all below it, which counts as deleted from then on.
+    /// Removes the subkey with all below it; they then count as deleted.
     void RemoveSubkey(std::u16string_view name);
 
 private:
@@ -54,11 +54,11 @@ private:
     std::uint64_t m_generation = 0;
 };
 
-/// The current moment.
+/// The current time.
 [[nodiscard]] FileTicks CurrentTicks() noexcept;
 
-/// The key at `path` below `start`, made where it is missing, with those above it. Null when a name is longer than 255
-/// or the path goes too deep.
+/// The key at `path` below `start`, created where it is missing, with those above it. Null when a name is longer than
+/// 255 or the path is too deep.
 [[nodiscard]] std::shared_ptr<MemoryNode> AddNode(std::shared_ptr<MemoryNode> start, std::u16string_view path,
                                                   FileTicks now);
 

@@ -1,4 +1,3 @@
-// Trees of keys in memory, as hosts make them.
 #include "MemoryNode.h"
 #include "RootKeys.h"
 

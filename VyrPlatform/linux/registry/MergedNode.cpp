@@ -1,4 +1,3 @@
-// Two keys as one.
 #include "MergedNode.h"
 
 #include <utility>

@@ -1,11 +1,12 @@
-// Two keys as one.
+// Two keys shown as one.
 #pragma once
 
 #include "Node.h"
 
 namespace VyrPlatform::Registry {
 
-/// What the key `upper` has, and what `lower` has beside it. For keys that do not change.
+/// The content of the key `upper`, and that of `lower` where `upper` has nothing of the same name. For keys that do not
+/// change.
 class MergedNode final : public Node
 {
 public:
@@ -22,7 +23,7 @@ private:
     Subkeys m_subkeys;
 };
 
-/// Both as one; the other where one is null.
+/// Both as one; where one is null, the other.
 [[nodiscard]] std::shared_ptr<Node> Merge(std::shared_ptr<Node> upper, std::shared_ptr<Node> lower);
 
 } // namespace VyrPlatform::Registry

@@ -1,4 +1,3 @@
-// Names and paths of keys.
 #include "Node.h"
 
 #include <algorithm>
@@ -19,7 +18,7 @@ char16_t Fold(char16_t unit) noexcept
 {
     if (IsAscii(unit))
         return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - (u'a' - u'A')) : unit;
-    // No letter beyond ASCII meets one of ASCII: the long s and the dotless i stay themselves.
+    // No letter beyond ASCII becomes an ASCII letter: the long s and the dotless i are not mapped.
     const auto upper = static_cast<char32_t>(u_toupper(unit));
     return upper > 0xFFFF || upper < 0x80 ? unit : static_cast<char16_t>(upper);
 }
@@ -43,11 +42,11 @@ std::u16string_view TakeName(std::u16string_view& path) noexcept
 
 std::shared_ptr<Node> FindNode(std::shared_ptr<Node> start, std::u16string_view path)
 {
-    // More links than any registry has on one path; links may lead in a circle.
+    // More links than any registry has on one path; links may form a cycle.
     constexpr int mostLinks = 32;
     int links = 0;
     std::shared_ptr<Node> node = std::move(start);
-    // What is still to be gone after the current path: the rest behind each link.
+    // The paths still to be followed after the current one: the rest behind each link.
     std::vector<std::u16string_view> rests;
     std::vector<std::shared_ptr<Node>> linkNodes;
     while (node) {
@@ -67,7 +66,7 @@ std::shared_ptr<Node> FindNode(std::shared_ptr<Node> start, std::u16string_view 
             continue;
         if (++links > mostLinks)
             return nullptr;
-        // The link's own text lives as long as the link.
+        // The text of the link lives as long as the link.
         linkNodes.push_back(node);
         rests.push_back(path);
         path = link->path;

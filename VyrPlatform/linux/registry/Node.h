@@ -1,4 +1,4 @@
-// A key of one of the trees that a root key can show, whatever it is kept in.
+// A key of any of the trees that a root key can show.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -14,7 +14,7 @@
 
 namespace VyrPlatform::Registry {
 
-/// The form of a name in which names are compared and ordered: upper-cased, one unit to one, the same in every locale.
+/// The form of a name for comparisons and order: upper-cased, one code unit to one, the same in every locale.
 [[nodiscard]] VYR_PLATFORM_API CString FoldName(std::u16string_view name);
 
 struct NameOrder
@@ -23,7 +23,7 @@ struct NameOrder
     bool operator()(std::u16string_view left, std::u16string_view right) const noexcept { return left < right; }
 };
 
-/// What is found by a name; the map's own keys are folded names.
+/// Content by name; the keys of the map are folded names.
 template <class Content>
 using ByName = std::map<CString, Content, NameOrder>;
 
@@ -38,10 +38,10 @@ using Values = ByName<Value>;
 class Node;
 class MemoryNode;
 
-/// Where a key that is a link leads.
+/// The target of a key that is a link.
 struct Link
 {
-    /// What the path starts from; nothing when that is gone.
+    /// The start of the path; expired when that tree is gone.
     std::weak_ptr<Node> start;
     CString path;
 };
@@ -61,17 +61,17 @@ public:
     Node& operator=(const Node&) = delete;
     virtual ~Node() = default;
 
-    /// Good as long as the node lives and is not changed.
+    /// Valid as long as the node lives and is not changed.
     [[nodiscard]] virtual const Subkeys& GetSubkeys() = 0;
-    /// Never null. What is read from a file is kept only as long as somebody holds it.
+    /// Never null. Values from a file are kept only as long as somebody uses them.
     [[nodiscard]] virtual std::shared_ptr<const Values> GetValues() = 0;
     [[nodiscard]] virtual FileTicks GetLastWrite() const = 0;
 
-    /// Where the key leads; a null pointer for one that is no link.
+    /// The link's target; a null pointer for a key that is not a link.
     [[nodiscard]] virtual const Link* GetLink() const noexcept { return nullptr; }
-    /// The node as one that can be written to; null for any other.
+    /// The node as a writable one; null for a read-only one.
     [[nodiscard]] virtual MemoryNode* AsWritable() noexcept { return nullptr; }
-    /// Changes whenever the names of subkeys or values do.
+    /// Changes whenever the names of subkeys or values change.
     [[nodiscard]] virtual std::uint64_t GetGeneration() const noexcept { return 0; }
     [[nodiscard]] virtual bool IsDeleted() const noexcept { return false; }
 };
@@ -79,7 +79,7 @@ public:
 /// The node at `path` below `start`; null when there is none. Links are followed.
 [[nodiscard]] VYR_PLATFORM_API std::shared_ptr<Node> FindNode(std::shared_ptr<Node> start, std::u16string_view path);
 
-/// Takes the first name off the front of `path`, and the separators around it; empty when there is none.
+/// Removes and returns the first name of `path` with the separators around it; empty when there is none.
 [[nodiscard]] std::u16string_view TakeName(std::u16string_view& path) noexcept;
 
 } // namespace VyrPlatform::Registry

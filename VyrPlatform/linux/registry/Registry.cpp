@@ -1,4 +1,4 @@
-// The registry on Linux: the trees that hosts open, read and changed as Windows does.
+// The registry on Linux: trees that hosts have opened, read and changed by the rules of Windows.
 #include "MemoryNode.h"
 #include "RootKeys.h"
 
@@ -14,7 +14,7 @@ namespace VyrPlatform::Registry {
 
 namespace {
 
-/// Where the last question by index was answered, so that the next one goes on from there.
+/// The position of the last query by index, from which the next one continues.
 template <class Map>
 class Cursor
 {
@@ -51,7 +51,7 @@ struct HKEY__ // NOLINT(bugprone-reserved-identifier): the system's own tag
 {
     std::shared_ptr<VyrPlatform::Registry::Node> node;
     VyrPlatform::Registry::Access access = VyrPlatform::Registry::Access::ReadWrite;
-    /// Read when they are first asked for.
+    /// Read on first use.
     std::shared_ptr<const VyrPlatform::Registry::Values> values = {};
     VyrPlatform::Registry::Cursor<VyrPlatform::Registry::Subkeys> subkeyCursor = {};
     VyrPlatform::Registry::Cursor<VyrPlatform::Registry::Values> valueCursor = {};
@@ -72,7 +72,7 @@ bool IsRoot(Handle handle) noexcept
     return reinterpret_cast<std::uintptr_t>(handle) >= reinterpret_cast<std::uintptr_t>(HKEY_CLASSES_ROOT);
 }
 
-/// The key that a handle stands for, or why there is none.
+/// The key of a handle, or the reason why there is none.
 struct FoundKey
 {
     HKEY__* key = nullptr;
@@ -95,7 +95,7 @@ FoundKey Find(Handle handle)
     return {key};
 }
 
-/// Likewise a key that may be written to.
+/// The same for a writable key.
 struct FoundForWriting
 {
     MemoryNode* node = nullptr;
@@ -123,7 +123,7 @@ std::u16string_view UpToNul(std::u16string_view text) noexcept
     return text.substr(0, text.find(u'\0'));
 }
 
-/// What the system refuses to take for a path.
+/// Whether the system refuses the path.
 bool IsBadPath(std::u16string_view path) noexcept
 {
     return path.starts_with(u'\\');

@@ -1,4 +1,3 @@
-// Registries that lie in files, shown below the root keys.
 #include "Hive.h"
 #include "MemoryNode.h"
 #include "MergedNode.h"
@@ -20,7 +19,7 @@ namespace {
 
 using Outcome = OpenResult::Outcome;
 
-/// More than any prefix holds: a file that lies about itself shall not fill the memory.
+/// More than any prefix has, so that a damaged file cannot fill the memory.
 constexpr std::uint64_t mostBytes = std::uint64_t{1} << 30;
 
 /// Reads the whole text of a registry into `text`.
@@ -38,7 +37,7 @@ OpenResult ReadWhole(const CString& path, std::string& text)
     return {IsWineText(text) ? Outcome::Shown : Outcome::NoRegistry, 0, path, {}};
 }
 
-/// Shows the two trees, and the classes of both.
+/// Shows the two trees, and the merged classes of both.
 void ShowRoots(const std::shared_ptr<Node>& machine, const std::shared_ptr<Node>& user)
 {
     const char16_t classes[] = u"Software\\Classes";
@@ -51,7 +50,7 @@ void ShowRoots(const std::shared_ptr<Node>& machine, const std::shared_ptr<Node>
 class HiveOpener
 {
 public:
-    /// Null for the empty path, and when one has failed.
+    /// Null for the empty path, and after a failure.
     std::shared_ptr<Node> Open(const CString& path)
     {
         if (path.IsEmpty() || HasFailed())
@@ -64,7 +63,7 @@ public:
         return hive.top;
     }
 
-    /// The user's hive, with that of the classes in its place.
+    /// The user's hive, with the hive of the classes attached.
     std::shared_ptr<Node> OpenUser(const CString& path, const CString& classesPath)
     {
         std::shared_ptr<Node> user = Open(path);

@@ -1,4 +1,4 @@
-// What the root keys show.
+// The trees that the root keys show.
 #pragma once
 
 #include "Node.h"

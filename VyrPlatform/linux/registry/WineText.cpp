@@ -1,4 +1,3 @@
-// Reads the text form in which Wine keeps a registry.
 #include "WineText.h"
 
 #include <VyrPlatform/common/time/Epochs.h>
@@ -22,7 +21,7 @@ bool IsBlank(char byte) noexcept
     return byte == ' ' || byte == '\t';
 }
 
-/// Takes the next line off the front of `text`, without its end.
+/// Removes and returns the next line of `text`, without its end.
 std::string_view TakeLine(std::string_view& text) noexcept
 {
     const std::size_t end = text.find('\n');
@@ -41,7 +40,7 @@ bool TakePrefix(std::string_view& text, std::string_view prefix) noexcept
     return true;
 }
 
-/// Takes digits of `base` off the front of `text`, `most` of them at most.
+/// Reads at most `most` digits of `base` from the front of `text`.
 template <class Number>
 std::optional<Number> TakeNumber(std::string_view& text, int base, std::size_t most) noexcept
 {
@@ -54,7 +53,7 @@ std::optional<Number> TakeNumber(std::string_view& text, int base, std::size_t m
     return number;
 }
 
-/// The unit that the escape at the front of `text`, behind its backslash, stands for; takes it off.
+/// The code unit of the escape at the front of `text`, behind its backslash; removes it.
 char16_t TakeEscape(std::string_view& text) noexcept
 {
     constexpr std::string_view names = "abefnrtv";
@@ -70,7 +69,7 @@ char16_t TakeEscape(std::string_view& text) noexcept
     return static_cast<unsigned char>(name);
 }
 
-/// Goes through the lines.
+/// Reads the lines.
 class Reader
 {
 public:
@@ -94,7 +93,7 @@ public:
     }
 
 private:
-    /// Takes a text off the front of `line` up to `end`, which goes as well, into m_units.
+    /// Reads a text up to `end` from the front of `line` into m_units, and removes both.
     /// @return false when there is no `end`.
     bool TakeText(std::string_view& line, char end)
     {
@@ -177,7 +176,7 @@ private:
         return TakePrefix(line, "hex") && TakeType(line, value.type) && ReadBytes(line, value.data);
     }
 
-    /// Takes a type in parentheses, where there is one, and the colon.
+    /// Reads the type in parentheses, if there is one, and the colon.
     static bool TakeType(std::string_view& line, std::uint32_t& type) noexcept
     {
         if (TakePrefix(line, "(")) {
@@ -237,7 +236,7 @@ private:
     std::string_view m_text;
     std::shared_ptr<MemoryNode> m_top;
     LinkTargets m_links;
-    /// The key whose section is at hand; null before the first one and in one that is damaged.
+    /// The key of the current section; null before the first one and in a damaged one.
     std::shared_ptr<MemoryNode> m_key;
     bool m_isLink = false;
     /// The text that was read last.

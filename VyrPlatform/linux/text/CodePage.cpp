@@ -1,4 +1,4 @@
-// Code pages through ICU: each one's tables are made when it is first used, and kept.
+// Code pages through ICU; the tables of each are made on first use and kept.
 #include <VyrPlatform/text/CodePage.h>
 
 #include <algorithm>
@@ -30,7 +30,7 @@ struct KnownPage
 {
     const char* icuName;
     std::uint32_t number;
-    /// What bytes without a character become.
+    /// The result for bytes without a character.
     char16_t defaultUnit = replacementUnit;
 };
 
@@ -49,7 +49,7 @@ constexpr KnownPage knownPages[] = {
 
 using Converter = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
 
-/// A converter that stops at what it cannot convert; null for a name that ICU does not know.
+/// A converter that stops at input that it cannot convert; null for a name that ICU does not know.
 Converter OpenConverter(const char* icuName)
 {
     UErrorCode error = U_ZERO_ERROR;
@@ -112,7 +112,7 @@ public:
     }
 
 private:
-    /// The letter of `base` and the mark behind it, where the code page has it; else 0.
+    /// The composed letter of `base` and `mark`, where the code page has it; else 0.
     [[nodiscard]] char16_t ComposedHere(char16_t base, char16_t mark) const noexcept
     {
         // Below U+0300 there are no marks.
@@ -135,7 +135,7 @@ private:
             UErrorCode error = U_ZERO_ERROR;
             m_single[byte] = ReadCharacter(converter, bytes, error);
             m_isLead[byte] = error == U_TRUNCATED_CHAR_FOUND;
-            // Some tables of IBM exchange control characters.
+            // Some tables of IBM swap control characters.
             if (byte < asciiCount)
                 m_single[byte] = static_cast<char16_t>(byte);
             else if (m_isLead[byte])
@@ -153,7 +153,7 @@ private:
         }
     }
 
-    /// The one unit that `bytes` stand for; the default unit where they stand for none, or for more.
+    /// The one code unit of `bytes`; the default unit where they encode none or several.
     char16_t ReadCharacter(UConverter* converter, std::span<const char> bytes, UErrorCode& error) const
     {
         char16_t units[8];
@@ -180,7 +180,7 @@ private:
         const auto first = static_cast<unsigned char>(bytes[0]);
         if (count == 2)
             return first * 0x100U + static_cast<unsigned char>(bytes[1]);
-        // IBM's tables show control characters as the signs that its screens had for them.
+        // IBM's tables map control characters to the signs on its screens.
         return first < 0x20 || first == 0x7F ? 0 : first;
     }
 
@@ -189,14 +189,14 @@ private:
     std::array<bool, 0x100> m_isLead{};
     /// By lead and trail byte; empty in a code page of single bytes.
     std::vector<char16_t> m_pairs;
-    /// By code unit, as BytesOf gives them.
+    /// By code unit, in the form of BytesOf.
     std::vector<std::uint16_t> m_bytes;
 };
 
 /// The code page `number`, made at the first call and kept for the life of the process; null for an unknown one.
 const Page* FindPage(std::uint32_t number)
 {
-    // Never destroyed: other threads and late destructors may still use what they were given.
+    // Never destroyed: other threads and late destructors may still use it.
     static auto& mutex = *new std::mutex;
     static auto& pages = *new std::map<std::uint32_t, Page>;
     const std::lock_guard lock(mutex);
@@ -208,7 +208,7 @@ const Page* FindPage(std::uint32_t number)
     return nullptr;
 }
 
-/// Takes units into a buffer as far as it reaches, and counts them all.
+/// Writes code units into a buffer as far as they fit, and counts all of them.
 template <class Unit>
 class Collector
 {
@@ -222,7 +222,7 @@ public:
         ++m_count;
     }
     /// Adds the NUL.
-    /// @return how many units there were, the NUL included.
+    /// @return the number of code units, including the NUL.
     std::size_t End() noexcept
     {
         (*this)(Unit());
@@ -234,14 +234,14 @@ private:
     std::size_t m_count = 0;
 };
 
-/// The room in `target` as ICU takes it.
+/// The size of `target` in ICU's type.
 template <class Unit>
 int32_t RoomIn(std::span<Unit> target) noexcept
 {
     return static_cast<int32_t>(std::min<std::size_t>(target.size(), std::numeric_limits<int32_t>::max()));
 }
 
-/// The size that ICU's conversions of UTF-8 have told, with the NUL; 0 when they failed.
+/// The size that ICU's UTF-8 conversions report, with the NUL; 0 on failure.
 std::size_t SizeWithNul(int length, UErrorCode error) noexcept
 {
     return U_SUCCESS(error) || error == U_BUFFER_OVERFLOW_ERROR ? static_cast<std::size_t>(length) + 1 : 0;
@@ -255,8 +255,8 @@ std::string EnvironmentLocale()
     return "C";
 }
 
-/// The code set of the locale that the environment names; that of the system's own table of locales where its name
-/// tells none, empty where it is not in that table.
+/// The code set of the locale in the environment; that of the system's own table of locales where the name has none,
+/// empty where that table does not have it.
 std::string LocaleCodeSet()
 {
     const std::string locale = EnvironmentLocale();

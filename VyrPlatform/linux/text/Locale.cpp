@@ -1,4 +1,3 @@
-// The locale through ICU.
 #include <VyrPlatform/common/text/DatePattern.h>
 #include <VyrPlatform/common/text/SystemLocale.h>
 #include <VyrPlatform/text/Encoding.h>
@@ -53,13 +52,13 @@ using DateFormat = std::unique_ptr<UDateFormat, decltype(&udat_close)>;
 
 DateFormat OpenDateFormat(UDateFormatStyle timeStyle, UDateFormatStyle dateStyle, const CString& localeName)
 {
-    // File dates are Gregorian, also where another calendar is in use.
+    // Dates of files are Gregorian, even where another calendar is in use.
     const std::string name = Encoding::ToUtf8(localeName + u"@calendar=gregorian");
     UErrorCode error = U_ZERO_ERROR;
     return {udat_open(timeStyle, dateStyle, name.c_str(), nullptr, 0, nullptr, 0, &error), udat_close};
 }
 
-/// A run of a letter that few languages use, as the nearest of those that Locale promises.
+/// A run of a rare letter as the nearest one of those that Locale documents.
 CString UsualLetters(std::u16string_view run)
 {
     switch (run.front()) {
@@ -114,7 +113,7 @@ CString UserLocaleName(Category category)
 
 CString SystemLocaleName(const CString& name)
 {
-    // Without its keywords: ICU's date formats crash on some broken ones.
+    // Without its keywords: ICU's date formats crash on some invalid ones.
     char canonical[ULOC_FULLNAME_CAPACITY] = "";
     char baseName[ULOC_FULLNAME_CAPACITY] = "";
     UErrorCode error = U_ZERO_ERROR;

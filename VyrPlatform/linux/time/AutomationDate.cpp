@@ -1,4 +1,3 @@
-// Automation dates on Linux: the usual forms of date-times.
 #include <VyrPlatform/time/AutomationDate.h>
 
 #include <VyrPlatform/time/DateTimePattern.h>

@@ -1,4 +1,4 @@
-// Local time on Linux: the C library's, under TZ or the system's own time zone.
+// Local time by the C library, in the time zone of TZ or of the system.
 #include <VyrPlatform/common/time/LocalOffset.h>
 
 #include <ctime>

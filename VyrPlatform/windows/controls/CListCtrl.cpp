@@ -1,4 +1,4 @@
-// A list control over a window of the system.
+// Queries a list control of the system.
 #include <VyrPlatform/controls/CListCtrl.h>
 
 #include <windows.h>
@@ -28,7 +28,7 @@ bool CListCtrl::GetColumn(int index, std::span<char16_t> heading) const
 
 bool CListCtrl::GetColumnOrderArray(std::span<int> order) const
 {
-    // The list itself fills what it can of an array of another length.
+    // For an array of another length the system's list would fill what it can.
     const auto header = reinterpret_cast<HWND>(::SendMessageW(m_window, LVM_GETHEADER, 0, 0));
     const auto count = static_cast<std::size_t>(::SendMessageW(header, HDM_GETITEMCOUNT, 0, 0));
     return header && count == order.size() &&

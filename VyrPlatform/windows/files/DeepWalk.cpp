@@ -1,4 +1,4 @@
-// Windows takes paths of 32,767 code units, which is all that a path may have.
+// Windows takes paths of 32,767 code units, the longest that there are.
 #include <VyrPlatform/common/files/DeepWalk.h>
 
 namespace VyrPlatform {

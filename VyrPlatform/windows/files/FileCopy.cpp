@@ -12,13 +12,13 @@ namespace VyrPlatform::FileCopy {
 
 namespace {
 
-/// The error code of a call that has just answered `result`.
+/// The error code of a call that has just returned `result`.
 DWORD ErrorOf(BOOL result) noexcept
 {
     return result ? ERROR_SUCCESS : GetLastError();
 }
 
-/// Whether `path` names a symbolic link or a junction, of which neither Copy nor Move asks where it leads.
+/// Whether `path` is a symbolic link or a junction; Copy and Move follow neither.
 bool IsLink(const LongPath& path)
 {
     const DWORD attributes = GetFileAttributesW(path.Get());
@@ -39,14 +39,14 @@ void Remove(const LongPath& path) noexcept
         RemoveDirectoryW(path.Get());
 }
 
-/// Makes the new entry `destination`, or nothing.
+/// Creates the new entry `destination` completely, or not at all.
 DWORD CopyEntry(const LongPath& source, const LongPath& destination)
 {
     return IsLink(source) ? CopyReparsePoint(source, destination)
                           : ErrorOf(CopyFileW(source.Get(), destination.Get(), TRUE));
 }
 
-/// Copies in the place of a file that stands at `destination`. The system's own call would empty that file first.
+/// Copies over the file `destination`. The system's own call would empty that file first.
 DWORD CopyOver(const CString& source, const CString& destination)
 {
     if (FileAttributes::IsReadOnly(destination))
@@ -57,7 +57,7 @@ DWORD CopyOver(const CString& source, const CString& destination)
     const LongPath to(destination);
     const LongPath temporary(MakeTemporaryPath(destination));
     if (const DWORD error = CopyEntry(from, temporary)) {
-        // The folder may not be written, but the file may.
+        // The folder is not writable, but the file may be.
         const bool isOverwritten =
             error == ERROR_ACCESS_DENIED && !IsLink(from) && !IsLink(to) && CopyFileW(from.Get(), to.Get(), FALSE);
         return isOverwritten ? ERROR_SUCCESS : error;
@@ -73,7 +73,7 @@ DWORD MoveByCopy(const CString& source, const CString& destination)
 {
     const LongPath from(source);
     const bool isFolder = GetFileAttributesW(from.Get()) & FILE_ATTRIBUTE_DIRECTORY;
-    // What may not be removed is not copied.
+    // A file that may not be removed is not copied.
     if (const Handle removable = OpenEntry(from, DELETE, Links::Keep); !removable.IsOpen())
         return GetLastError();
     if (const DWORD error = Copy(source, destination))
@@ -81,7 +81,7 @@ DWORD MoveByCopy(const CString& source, const CString& destination)
     return ErrorOf(isFolder ? RemoveDirectoryW(from.Get()) : DeleteFileW(from.Get()));
 }
 
-/// Removes `source`, which names the same file as `destination`, unless both are one entry.
+/// Removes `source`, another name of the file `destination`, unless both are one entry.
 DWORD RemoveSecondName(const CString& source, const CString& destination)
 {
     const LongPath from(source);
@@ -113,7 +113,7 @@ std::uint32_t Move(const CString& source, const CString& destination)
         return ERROR_ACCESS_DENIED;
     if (const FileState state = LookAtFile(source); state.links > 1 && IsSameFile(source, destination))
         return RemoveSecondName(source, destination);
-    // The system copies files to another volume, but no link to a folder.
+    // The system copies files to another volume, but not links to folders.
     const DWORD flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH | (isFolder ? 0 : MOVEFILE_COPY_ALLOWED);
     const DWORD error = ErrorOf(MoveFileExW(from.Get(), to.Get(), flags));
     const bool isLocked = error == ERROR_ACCESS_DENIED && FileSystem::Query(destination).kind == FileSystem::Kind::File;
@@ -122,7 +122,7 @@ std::uint32_t Move(const CString& source, const CString& destination)
 
 std::uint32_t CopyFolderMode(const CString& source, const CString& destination, OwnerAccess /*access*/)
 {
-    // The other bits tell of the disk, not of the folder.
+    // The other bits describe the disk, not the folder.
     constexpr DWORD settable = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |
                                FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
     const DWORD attributes = GetFileAttributesW(LongPath(source).Get());

@@ -1,4 +1,4 @@
-// The causes of file exceptions behind Windows's error codes.
+// The causes of file exceptions for Windows's error codes.
 #include <VyrPlatform/files/CFileException.h>
 
 #include <windows.h>

@@ -1,4 +1,3 @@
-// Asks through a handle that reads attributes only.
 #include <VyrPlatform/files/FileIdentity.h>
 
 #include "FileStatus.h"
@@ -15,7 +14,7 @@ FileSystem::Kind KindOf(DWORD attributes) noexcept
     return FileSystem::Kind::File;
 }
 
-/// Whether the opened reparse point stands for another path.
+/// Whether the opened reparse point leads to another path.
 bool IsLink(HANDLE file) noexcept
 {
     FILE_ATTRIBUTE_TAG_INFO information;

@@ -17,8 +17,8 @@ HANDLE ToHandle(std::intptr_t handle) noexcept
     return reinterpret_cast<HANDLE>(handle);
 }
 
-/// Takes the size of the file on a disk behind `file`.
-/// @return 0, or the error code when it is something else.
+/// Reads the size of the file on a disk.
+/// @return 0, or the error code when it is not one.
 DWORD TakeSize(HANDLE file, std::uint64_t& size) noexcept
 {
     if (GetFileType(file) != FILE_TYPE_DISK)

@@ -1,4 +1,4 @@
-// What the system's structures tell of a file, in the words of the file services.
+// Values of the system's structures as the file services need them.
 #pragma once
 
 #include <VyrPlatform/files/FileTimes.h>
@@ -24,8 +24,8 @@ namespace VyrPlatform {
     return {static_cast<DWORD>(ticks & 0xFFFF'FFFF), static_cast<DWORD>(ticks >> 32)};
 }
 
-/// Whether a found entry stands for another path (a symbolic link, a junction), as against other reparse points (files
-/// that are compressed or kept online).
+/// Whether a found entry leads to another path (a symbolic link, a junction), in contrast to other reparse points
+/// (files that are compressed or kept online).
 [[nodiscard]] inline bool IsLink(const WIN32_FIND_DATAW& found) noexcept
 {
     return (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) && IsReparseTagNameSurrogate(found.dwReserved0);

@@ -1,4 +1,3 @@
-// An open file that is read and written from a place that moves along, on Windows.
 #include <VyrPlatform/files/FileAttributes.h>
 #include <VyrPlatform/files/FileStream.h>
 
@@ -38,7 +37,7 @@ DWORD Disposition(FileStream::Access access, FileStream::Creation creation) noex
 {
     if (creation == FileStream::Creation::Open)
         return OPEN_EXISTING;
-    // What is only read is not emptied, on either system.
+    // A file that is only read is never emptied, on both systems.
     return creation == FileStream::Creation::CreateEmpty && access != FileStream::Access::Read ? CREATE_ALWAYS
                                                                                                : OPEN_ALWAYS;
 }

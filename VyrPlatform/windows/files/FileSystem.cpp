@@ -21,13 +21,13 @@ void Describe(const Information& information, Entry& entry) noexcept
     entry.created = ToTicks(information.ftCreationTime);
 }
 
-/// What the parent folder tells of `path`, which is known to exist.
+/// The entry of `path`, which is known to exist, in its parent folder.
 bool Find(const LongPath& path, WIN32_FIND_DATAW& found) noexcept
 {
     return SearchHandle(FindFirstFileW(path.Get(), &found)).IsOpen();
 }
 
-/// Describes what the link at `path` leads to; leaves `entry` as it is when that is nothing.
+/// Describes the target of the link at `path`; leaves `entry` unchanged when there is none.
 void DescribeTarget(const LongPath& path, Entry& entry) noexcept
 {
     const Handle target = OpenEntry(path, FILE_READ_ATTRIBUTES, Links::Follow);
@@ -36,7 +36,7 @@ void DescribeTarget(const LongPath& path, Entry& entry) noexcept
         Describe(information, entry);
 }
 
-/// For a path that does not tell its attributes by itself: a file that is locked (its folder still does) or a device.
+/// For a path whose attributes cannot be read: a locked file (its folder still has them) or a device.
 Entry QueryUncommon(const LongPath& path, DWORD error) noexcept
 {
     Entry entry;

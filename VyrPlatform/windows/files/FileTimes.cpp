@@ -18,7 +18,7 @@ std::optional<FileTicks> Get(const CString& path, FileTicks FileSystem::Entry::*
     return entry.*time;
 }
 
-/// Sets those times that are given.
+/// Sets the times that are given.
 std::uint32_t Set(const CString& path, const FILETIME* created, const FILETIME* modified)
 {
     const Handle file = OpenEntry(LongPath(path), FILE_WRITE_ATTRIBUTES, Links::Follow);
@@ -58,7 +58,7 @@ std::uint32_t SetCreated(const CString& path, FileTicks created)
 std::uint32_t Write(const CString& path, const NewTimes& times)
 {
     const bool isFolder = FileSystem::IsFolder(path);
-    // The system refuses to open it for writing; Wine does not refuse root.
+    // The system refuses to open such a file for writing, but Wine does not refuse root.
     if (!isFolder && FileAttributes::IsReadOnly(path))
         return ERROR_ACCESS_DENIED;
     const DWORD flags = isFolder ? FILE_ATTRIBUTE_NORMAL | FILE_FLAG_BACKUP_SEMANTICS : FILE_ATTRIBUTE_NORMAL;

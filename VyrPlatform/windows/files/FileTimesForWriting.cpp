@@ -10,7 +10,7 @@ COleDateTime ToLocalForWriting(FileTicks ticks)
     const FILETIME time = ToFileTime(ticks);
     FILETIME local;
     SYSTEMTIME fields;
-    // The pair of these is SystemTimeToFileTime and LocalFileTimeToFileTime, which use today's offset too.
+    // These are the inverses of SystemTimeToFileTime and LocalFileTimeToFileTime, which use today's offset, too.
     if (::FileTimeToLocalFileTime(&time, &local) && ::FileTimeToSystemTime(&local, &fields))
         return COleDateTime(fields);
     COleDateTime invalid;

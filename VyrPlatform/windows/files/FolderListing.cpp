@@ -17,7 +17,7 @@ struct FolderListing::State
     CString folder;
     SearchHandle search;
     WIN32_FIND_DATAW found{};
-    /// The system gave `found` with the opening, and Next has not handed it out.
+    /// `found` came with the opening, and Next has not returned it yet.
     bool isPending = false;
     Dots dots = Dots::LeftOut;
     CString name;

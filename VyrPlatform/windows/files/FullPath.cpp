@@ -1,4 +1,3 @@
-// Full paths of Windows, as the system words them.
 #include <VyrPlatform/files/FullPath.h>
 
 #include "OpenEntry.h"
@@ -9,7 +8,7 @@ namespace VyrPlatform {
 
 namespace {
 
-/// A path as the system answers it, in the form in which people write it.
+/// The system's form of a path without its prefix, as people write it.
 CString WithoutPrefix(const CString& path)
 {
     constexpr std::u16string_view share = uR"(\\?\UNC\)";

@@ -8,7 +8,7 @@ namespace VyrPlatform {
 
 namespace {
 
-/// Folders are limited more than files are: a file's short name must still fit into them.
+/// The limit for folders is lower than for files: there must be room for a short file name.
 constexpr int longestPlainPath = MAX_PATH - 12 - 1;
 
 bool IsSeparator(char16_t unit) noexcept
@@ -52,14 +52,14 @@ CString ToSystemPath(const CString& path, std::u16string_view suffix)
 {
     if (path.IsEmpty() || path.Find(std::u16string_view(u"\0", 1)) >= 0)
         return {};
-    // A suffix that begins with a colon must not meet a relative path: "a:stream" would name a drive.
+    // A suffix with a colon must not follow a relative path: "a:stream" would name a drive.
     const CString full = IsFull(path) ? path : MakeFullPath(path);
     const bool isPrefixed = HasSystemPrefix(full);
-    // The name of a device becomes one with a prefix, by which not every function of the system knows it.
+    // With a prefix, the name of a device becomes a path that not all functions of the system recognise.
     CString whole = (isPrefixed ? path : full) + suffix;
     if (isPrefixed || whole.GetLength() <= longestPlainPath)
         return whole;
-    // The prefix ends all reading of the path, so that it must be plain before.
+    // The prefix turns off all parsing of the path, so it must be normalised before.
     return AddLongPathPrefix(MakeFullPath(whole));
 }
 

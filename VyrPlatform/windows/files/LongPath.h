@@ -1,4 +1,4 @@
-// A path in the form in which Windows takes it whatever its length.
+// A path of any length as Windows takes it.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -10,23 +10,23 @@
 namespace VyrPlatform {
 
 /// `fullPath` (a drive, or two backslashes, and no "." or ".." parts) with the prefix that lifts the limit of 260 code
-/// units; unchanged when it has one of the system's prefixes already. Exported for its tests alone.
+/// units; unchanged when it already has one of the system's prefixes. Exported only for its tests.
 [[nodiscard]] VYR_PLATFORM_API CString AddLongPathPrefix(const CString& fullPath);
 
-/// `path` from the current folder and drive, with backslashes and without "." and ".." parts; empty when the system
-/// cannot tell it.
+/// `path` as a full path from the current folder and drive, with backslashes and without "." and ".." parts; empty when
+/// the system fails.
 [[nodiscard]] VYR_PLATFORM_API CString MakeFullPath(const CString& path);
 
-/// `path`, with `suffix` (the name of a stream, a pattern) behind it, as the system's functions take it: as it stands
-/// when it is full and short, else made full and prefixed as its length needs. Empty for a path that no file can have
-/// (with a NUL in it, or empty), which the system refuses. Exported for its tests alone.
+/// `path`, followed by `suffix` (the name of a stream, a pattern), as the system's functions take it: unchanged when it
+/// is full and short, else made full and prefixed if its length requires it. Empty for a path that no file can have
+/// (empty, or with a NUL), which the system refuses. Exported only for its tests.
 [[nodiscard]] VYR_PLATFORM_API CString ToSystemPath(const CString& path, std::u16string_view suffix = {});
 
-/// A path for the length of a call of the system.
+/// A path for the duration of a system call.
 class LongPath
 {
 public:
-    /// The path as ToSystemPath makes it.
+    /// The result of ToSystemPath.
     explicit LongPath(const CString& path, std::u16string_view suffix = {}) : m_path(ToSystemPath(path, suffix)) {}
 
     [[nodiscard]] const wchar_t* Get() const noexcept { return ToWide(m_path); }

@@ -37,7 +37,7 @@ std::optional<std::vector<ZoneForm>> ReadZoneMark(const CString& path, std::uint
     const Handle stream = OpenEntry(LongPath(path, zoneStream), GENERIC_READ, Links::Follow);
     if (!stream.IsOpen()) {
         error = GetLastError();
-        // A path with a stream says that nothing is there for the one as for the other.
+        // For a path with a stream the error is the same whether the file or the stream is missing.
         if (error != ERROR_FILE_NOT_FOUND || !FileSystem::Exists(path))
             return std::nullopt;
         error = ERROR_SUCCESS;

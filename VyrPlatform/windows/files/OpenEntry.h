@@ -1,4 +1,4 @@
-// Opens what stands at a path and leaves it to others, too.
+// Opens entries without locking others out.
 #pragma once
 
 #include "LongPath.h"
@@ -7,7 +7,7 @@
 
 namespace VyrPlatform {
 
-/// What CreateFileW takes for its flags.
+/// The flags for CreateFileW.
 enum class Links : DWORD
 {
     Follow = FILE_FLAG_BACKUP_SEMANTICS,

@@ -10,7 +10,7 @@ namespace VyrPlatform {
 
 namespace {
 
-/// A number of a reparse point's data, 0 where that is too short.
+/// A number in a reparse point's data; 0 beyond the end.
 template <class Number>
 Number NumberAt(std::span<const std::byte> data, std::size_t offset) noexcept
 {
@@ -20,7 +20,7 @@ Number NumberAt(std::span<const std::byte> data, std::size_t offset) noexcept
     return number;
 }
 
-/// The name whose offset among the names, which begin at `names`, and size in bytes stand at `place`.
+/// The name whose offset (from `names` on) and size in bytes are at `place`.
 std::optional<CString> NameAt(std::span<const std::byte> data, std::size_t names, std::size_t place)
 {
     const std::size_t start = names + NumberAt<std::uint16_t>(data, place);

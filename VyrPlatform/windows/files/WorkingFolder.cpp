@@ -1,4 +1,4 @@
-// Windows opens files by their full paths: nothing is to be done.
+// Windows opens files by their full paths: there is nothing to do.
 #include <VyrPlatform/files/WorkingFolder.h>
 
 namespace VyrPlatform {

@@ -1,4 +1,3 @@
-// COM on the calling thread, on Windows.
 #include <VyrPlatform/process/ComApartment.h>
 
 #include <windows.h>
@@ -7,7 +6,7 @@
 
 namespace VyrPlatform {
 
-// A thread that has COM in another mode keeps that.
+// A thread that has COM in another mode keeps that mode.
 ComApartment::ComApartment() : m_isInitialised(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
 
 ComApartment::~ComApartment()

@@ -1,4 +1,3 @@
-// Hands the debugger output to an attached debugger.
 #include <VyrPlatform/common/process/SystemDebugOutput.h>
 #include <VyrPlatform/text/WindowsCString.h>
 

@@ -1,4 +1,3 @@
-// Environment variables in texts, by Windows.
 #include <VyrPlatform/process/Process.h>
 #include <VyrPlatform/text/WindowsCString.h>
 

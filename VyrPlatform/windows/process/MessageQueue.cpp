@@ -1,4 +1,3 @@
-// One message of the calling thread's message queue.
 #include <VyrPlatform/process/MessageQueue.h>
 
 #include <windows.h>

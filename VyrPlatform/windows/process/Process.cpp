@@ -1,4 +1,3 @@
-// The running program and the system's folders, as Windows names them.
 #include <VyrPlatform/process/Process.h>
 #include <VyrPlatform/text/WindowsCString.h>
 
@@ -14,7 +13,7 @@ namespace VyrPlatform::Process {
 
 namespace {
 
-/// The text that `ask(buffer, size)` writes: it answers the length, or, where the buffer is too small, what it needs.
+/// The text that `ask(buffer, size)` writes; it returns the length, or the required size where the buffer is too small.
 template <class Ask>
 CString AskForText(Ask ask)
 {
@@ -38,7 +37,7 @@ std::vector<std::byte> ReadVersionResource()
     return resource;
 }
 
-/// What stands in `resource` under `key`; a null pointer and 0 when nothing does. The size is in the key's own unit.
+/// The value of `key` in `resource`; a null pointer and 0 when there is none. The unit of the size depends on the key.
 template <class Value>
 std::pair<const Value*, UINT> Look(const std::vector<std::byte>& resource, const wchar_t* key)
 {
@@ -55,7 +54,7 @@ struct Translation
     WORD codePage;
 };
 
-/// The text `name` in the resource's first language (US English in Unicode where it does not say which it has).
+/// The text `name` in the resource's first language (US English in Unicode where it names none).
 CString LookText(const std::vector<std::byte>& resource, const char16_t* name)
 {
     const auto [listed, size] = Look<Translation>(resource, L"\\VarFileInfo\\Translation");
@@ -85,7 +84,7 @@ ProgramVersion ReadProgramVersion()
 
 CString GetProgramPath()
 {
-    // A path that is too long comes back cut, with the buffer's own size as its length.
+    // A path that is too long is returned truncated, with the buffer's size as its length.
     return AskForText([](wchar_t* buffer, DWORD size) { return ::GetModuleFileNameW(nullptr, buffer, size); });
 }
 

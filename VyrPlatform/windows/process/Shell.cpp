@@ -1,4 +1,3 @@
-// Programs started by the shell of Windows.
 #include <VyrPlatform/common/process/SystemShell.h>
 #include <VyrPlatform/text/WindowsCString.h>
 

@@ -1,4 +1,3 @@
-// Libraries loaded at run time, on Windows.
 #include <VyrPlatform/process/SystemLibrary.h>
 #include <VyrPlatform/text/WindowsCString.h>
 

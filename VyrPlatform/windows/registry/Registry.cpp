@@ -1,4 +1,3 @@
-// The registry of Windows.
 #include <VyrPlatform/registry/Registry.h>
 #include <VyrPlatform/text/WindowsCString.h>
 
@@ -19,7 +18,7 @@ std::uint32_t Code(LSTATUS status) noexcept
     return static_cast<std::uint32_t>(status);
 }
 
-/// The name that `ask(buffer, length)` writes into a buffer of `capacity` units.
+/// The name that `ask(buffer, length)` writes into a buffer of `capacity` code units.
 template <class Ask>
 NameAtIndex AskForName(std::uint32_t capacity, Ask ask)
 {
@@ -121,7 +120,7 @@ std::uint32_t RemoveValue(Handle key, const CString& name)
 
 std::uint32_t RemoveTree(Handle parent, const CString& path)
 {
-    // The system would empty the parent.
+    // For an empty path the system would empty the parent.
     if (path.IsEmpty())
         return Error::invalidParameter;
     return Code(::RegDeleteTreeW(parent, ToWide(path)));

@@ -1,4 +1,4 @@
-// Windows has its own registry, and no other beside it.
+// Windows has its own registry and opens no other.
 #include <VyrPlatform/registry/RegistryFiles.h>
 
 namespace VyrPlatform::Registry {

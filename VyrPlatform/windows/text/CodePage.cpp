@@ -9,7 +9,7 @@ namespace VyrPlatform::CodePage {
 
 namespace {
 
-/// The size of `target` as the system takes it. Never 0, which would ask for the needed size.
+/// The size of `target` in the system's type. Never 0, which would request the needed size.
 template <class Unit>
 int SizeFor(std::span<Unit> target) noexcept
 {
@@ -36,7 +36,7 @@ std::size_t ToText(std::uint32_t codePage, const char* bytes, std::span<char16_t
 std::size_t ToBytes(std::uint32_t codePage, const char16_t* text, char defaultCharacter, std::span<char> target)
 {
     const DWORD flags = codePage == utf8 ? 0 : WC_COMPOSITECHECK | WC_SEPCHARS;
-    // In a code page of two bytes the system takes a second byte, too, unless it is a NUL.
+    // In a code page of two bytes the system also reads a second byte, unless it is a NUL.
     const char character[] = {defaultCharacter, '\0'};
     const char* const replacement = codePage == utf8 ? nullptr : character;
     const auto* const wide = reinterpret_cast<const wchar_t*>(text);

@@ -22,7 +22,7 @@ CString Info(const CString& localeName, LCTYPE type)
     return FromWide(std::wstring_view(text).substr(0, written > 0 ? static_cast<std::size_t>(written) - 1 : 0));
 }
 
-/// The texts of `Count` types that follow one another from `first` on.
+/// The texts of `Count` consecutive types from `first` on.
 template <std::size_t Count>
 std::array<CString, Count> Infos(const CString& localeName, LCTYPE first)
 {
@@ -42,7 +42,7 @@ std::array<CString, 7> DaysFromSunday(const CString& localeName, LCTYPE monday)
     return days;
 }
 
-/// A run of one letter of a Windows date or time picture in Unicode's letters.
+/// A run of one letter of a Windows date or time picture as Unicode's letters.
 CString UnicodeLetters(std::u16string_view run)
 {
     switch (run.front()) {
@@ -63,11 +63,11 @@ CString Pattern(const CString& localeName, LCTYPE type)
     return ReplaceLetterRuns(Info(localeName, type), UnicodeLetters);
 }
 
-/// What one kind of case mapping makes of each code unit.
+/// The result of one kind of case mapping for each code unit.
 class CaseTable
 {
 public:
-    /// `letterI` is what `dottedOrDotlessI` becomes: linguistic casing keeps it apart.
+    /// `letterI` is the mapping of `dottedOrDotlessI`: linguistic casing treats it differently.
     CaseTable(DWORD mapping, char16_t dottedOrDotlessI, char16_t letterI)
     {
         std::wstring all(unitCount, L'\0');
@@ -108,7 +108,7 @@ CString SystemLocaleName(const CString& name)
 {
     CString plain = name.View().substr(0, name.View().find_first_of(u".@"));
     plain.Replace(u"_", u"-");
-    // Finds the full name of what is named in part (az-AZ is az-Latn-AZ); empty for C, POSIX and the unknown.
+    // Finds the full name of a shorter one (az-AZ is az-Latn-AZ); empty for C, POSIX and unknown names.
     wchar_t resolved[LOCALE_NAME_MAX_LENGTH];
     const int length = ::ResolveLocaleName(ToWide(plain), resolved, LOCALE_NAME_MAX_LENGTH);
     return length > 1 ? FromWide({resolved, static_cast<std::size_t>(length) - 1}) : CString(u"en-US");
@@ -138,7 +138,7 @@ Collation MakeCollation(const CString& localeName)
 DateTexts ReadDateTexts(const CString& localeName)
 {
     DateTexts texts;
-    // The form that stands beside a day, where a language has two.
+    // The form for use with a day, where a language has two.
     texts.months = Infos<12>(localeName, LOCALE_SMONTHNAME1 | LOCALE_RETURN_GENITIVE_NAMES);
     texts.shortMonths = Infos<12>(localeName, LOCALE_SABBREVMONTHNAME1 | LOCALE_RETURN_GENITIVE_NAMES);
     texts.days = DaysFromSunday(localeName, LOCALE_SDAYNAME1);
@@ -155,7 +155,7 @@ NumberTexts ReadNumberTexts(const CString& localeName)
     NumberTexts texts;
     texts.thousands = Info(localeName, LOCALE_STHOUSAND);
     texts.decimal = Info(localeName, LOCALE_SDECIMAL);
-    // Digits with semicolons between: "3;0" repeats the 3, "3;2;0" repeats the 2, "3" stands for one group alone.
+    // Digits separated by semicolons: "3;0" repeats the 3, "3;2;0" repeats the 2, "3" is a single group.
     const CString grouping = Info(localeName, LOCALE_SGROUPING);
     texts.lastGroup = GroupSize(grouping, 0);
     texts.otherGroups = grouping == u"3;0" ? 3 : GroupSize(grouping, 2);

@@ -13,10 +13,10 @@ namespace VyrPlatform::AutomationDate {
 std::optional<COleDateTime> Parse(const CString& text)
 {
     DATE days = 0;
-    // Some headers declare the text, which is only read, as one that may be changed.
+    // Some headers declare the text as non-const, but it is only read.
     if (SUCCEEDED(VarDateFromStr(const_cast<OLECHAR*>(ToWide(text)), LOCALE_USER_DEFAULT, 0, &days)))
         return COleDateTime(days);
-    // It may not know the English names of months under another language.
+    // The system's parser may not know English month names under another language.
     const COleDateTime read = DateTimePattern::ReadUsual(text);
     if (read.GetStatus() != COleDateTime::valid)
         return std::nullopt;

@@ -1,4 +1,3 @@
-// The local time as the system gives it.
 #include <VyrPlatform/common/time/SystemClock.h>
 
 #include <windows.h>

@@ -1,4 +1,4 @@
-// Local time on Windows, under the rules that hold in each year.
+// Local time on Windows, by the rules of each year.
 #include <VyrPlatform/common/time/Epochs.h>
 #include <VyrPlatform/common/time/LocalOffset.h>
 
@@ -25,7 +25,7 @@ std::optional<int> GetLocalOffset(std::int64_t unixSeconds)
 
 void ReadTimeZone()
 {
-    // The system is asked anew each time.
+    // The system is queried each time.
 }
 
 } // namespace VyrPlatform
