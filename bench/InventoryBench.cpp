@@ -1,9 +1,6 @@
 // What it costs to list the programs of a hive with 50,000 uninstall keys of ten values each: the library's inventory,
 // and, as the reference, the bare look-ups of the 30 values of each key by their names. Beside them the inventory of
 // half as many keys, and the reading of a Wine prefix.
-#include <tests/support/linux/HiveBuilder.h>
-#include <tests/support/linux/WinePrefixText.h>
-
 #include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>
 #include <VyrPlatform/linux/registry/MemoryNode.h>
 #include <VyrPlatform/linux/registry/WineText.h>
@@ -18,6 +15,7 @@
 #include <fstream>
 #include <iostream>
 
+#include "SamplePrograms.h"
 #include "TemporaryFolder.h"
 
 using namespace VyrPlatform;
@@ -26,7 +24,6 @@ using VyrLibraryFuncs::ProgramsFeaturesFuncs;
 namespace {
 
 constexpr int manyKeys = 50'000;
-const CString uninstall = u"Microsoft\\Windows\\CurrentVersion\\Uninstall";
 
 const char* const names[] = {
     "DisplayIcon",     "DisplayName",       "DisplayName_Localized",
@@ -40,22 +37,6 @@ const char* const names[] = {
     "VersionMinor",    "Language",          "NoModify",
     "NoRepair",        "NoRemove",          "NoElevateOnModify",
 };
-
-/// Keys of ten values each.
-VyrTests::RegistryTree Programs(int count, const CString& above)
-{
-    VyrTests::RegistryTree tree;
-    for (int i = 0; i < count; ++i) {
-        CString path;
-        path.Format(u"%s\\{%08x-0000-0000-0000-000000000000}", above, i);
-        for (const int name : {1, 3, 4, 5, 6, 7, 11, 15})
-            tree.values.push_back(
-                {path, Encoding::FromUtf8(names[name]), 1, VyrTests::TextBytes(u"C:\\Program Files\\A")});
-        tree.values.push_back({path, u"EstimatedSize", 4, VyrTests::NumberBytes(12'345)});
-        tree.values.push_back({path, u"Language", 4, VyrTests::NumberBytes(1033)});
-    }
-    return tree;
-}
 
 std::string hivePath;
 std::string smallHivePath;
@@ -125,9 +106,9 @@ int main(int argc, char** argv)
     const TemporaryFolder folder;
     hivePath = folder.Path() / "SOFTWARE";
     smallHivePath = folder.Path() / "HALF";
-    std::ofstream(hivePath, std::ios::binary) << VyrTests::BuildHive(Programs(manyKeys, uninstall)).bytes;
-    std::ofstream(smallHivePath, std::ios::binary) << VyrTests::BuildHive(Programs(manyKeys / 2, uninstall)).bytes;
-    wineText = VyrTests::WineText(Programs(manyKeys / 2, CString(u"Software\\") + uninstall));
+    std::ofstream(hivePath, std::ios::binary) << SampleHive(manyKeys);
+    std::ofstream(smallHivePath, std::ios::binary) << SampleHive(manyKeys / 2);
+    wineText = SampleWineText(manyKeys / 2);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

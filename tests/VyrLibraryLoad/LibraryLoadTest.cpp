@@ -97,14 +97,31 @@ TEST(LibraryLoad, HeadersPublishTheClassesThatTheTestsKnow)
     for (const std::string& library : libraryNames)
         for (const PublishedClass& published : ClassesOf(library))
             names.insert(published.name);
-    for (const char* const name :
-         {"VyrLibraryFuncs::NameFuncs", "VyrLibraryFuncs::DateTimeFuncs", "VyrLibraryFuncs::AttributesFuncs",
-          "VyrLibraryFuncs::UnblockFuncs", "VyrLibraryFuncs::LogFuncs", "VyrLibraryFuncs::ProgramsFeaturesFuncs",
-          "VyrLibraryFuncs::RegistryFuncs", "VyrLibraryFuncs::BrowserFuncs", "VyrLibraryFuncs::FeatureControlFuncs",
-          "VyrLibraryFuncs::ControlPanelFuncs", "VyrLibraryFuncs::SearchFuncs", "VyrLibraryFuncs::OfficePropertyFuncs",
-          "VyrLibraryFuncs::MSXMLFuncs", "VyrLibraryFuncs::UpdatesFuncs", "VyrLibraryFuncs::StyleFuncs",
-          "VyrLibraryUtils::FileUtils", "VyrLibraryUtils::FolderUtils", "VyrLibraryUtils::StringUtils",
-          "VyrLibraryUtils::DateTimeUtils"})
+    for (const char* const name : {"VyrLibraryFuncs::NameFuncs",
+                                   "VyrLibraryFuncs::DateTimeFuncs",
+                                   "VyrLibraryFuncs::AttributesFuncs",
+                                   "VyrLibraryFuncs::UnblockFuncs",
+                                   "VyrLibraryFuncs::OfficePropertyFuncs",
+                                   "VyrLibraryFuncs::FilterFuncs",
+                                   "VyrLibraryFuncs::SearchFuncs",
+                                   "VyrLibraryFuncs::ColumnFuncs",
+                                   "VyrLibraryFuncs::LogFuncs",
+                                   "VyrLibraryFuncs::ProgramsFeaturesFuncs",
+                                   "VyrLibraryFuncs::RegistryFuncs",
+                                   "VyrLibraryFuncs::BrowserFuncs",
+                                   "VyrLibraryFuncs::FeatureControlFuncs",
+                                   "VyrLibraryFuncs::ControlPanelFuncs",
+                                   "VyrLibraryFuncs::MSXMLFuncs",
+                                   "VyrLibraryFuncs::UpdatesFuncs",
+                                   "VyrLibraryFuncs::StyleFuncs",
+                                   "VyrLibraryFuncs::ApplicationFuncs",
+                                   "VyrLibraryFuncs::HtmlFuncs",
+                                   "VyrLibraryFuncs::MSHTMLImgFuncs",
+                                   "VyrLibraryFuncs::OutputFuncs",
+                                   "VyrLibraryUtils::FileUtils",
+                                   "VyrLibraryUtils::FolderUtils",
+                                   "VyrLibraryUtils::StringUtils",
+                                   "VyrLibraryUtils::DateTimeUtils"})
         EXPECT_TRUE(names.contains(name)) << name;
 }
 
