@@ -1,5 +1,5 @@
 /// @file
-/// The export macro of this library, and the tests' way past `private`.
+/// The export macro of this library, and the tests' access to private operations.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -12,8 +12,8 @@
 
 namespace VyrLibraryFuncs {
 
-/// Defined by the tests alone, which reach the private operations of the classes through it. Every class with private
-/// operations names it as its friend.
+/// Defined only by the tests, which call private operations of the classes through it. Every class with private
+/// operations declares it as a friend.
 struct PrivateOperations;
 
 } // namespace VyrLibraryFuncs

@@ -1,5 +1,5 @@
-// Everything that exists from the library's load to its unload, in the order in which it is created. It stands in one
-// source because only within one source is that order certain; no other source has a dynamic initialiser.
+// All objects that exist from the library's load to its unload, in the order of their creation. They are in one source
+// because only then the order is certain; no other source has a dynamic initialiser.
 #include <VyrLibraryFuncs/frame/VyrLibraryFuncsApp.h>
 #include <VyrLibraryFuncs/html/OutputFuncs.h>
 #include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
@@ -58,7 +58,7 @@ public:
     explicit ModuleState(CWinApp& application) { application.InitInstance(); }
 };
 
-// Comes last: the static settings of the classes stand above.
+// Last, after the static settings of the classes.
 CVyrLibraryFuncsApp application;
 const ModuleState moduleState(application);
 

@@ -1,4 +1,3 @@
-// The library's application object: it adds nothing to the platform's.
 #include <VyrLibraryFuncs/frame/VyrLibraryFuncsApp.h>
 
 CVyrLibraryFuncsApp::CVyrLibraryFuncsApp() = default;

@@ -13,6 +13,6 @@ public:
     ~CVyrLibraryFuncsApp() override;
 
     /// Called once when the library is loaded.
-    /// @return 1: the library may be used.
+    /// @return 1: the library can be used.
     int InitInstance() override;
 };

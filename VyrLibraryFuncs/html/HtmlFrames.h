@@ -1,4 +1,4 @@
-// What stands around a tag: the indentation before it and the end of its line.
+// The line around a tag: its indentation and its end.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -15,7 +15,7 @@ inline constexpr std::u16string_view lineEnd = u"\r\n";
     return CString::Join({tag, lineEnd});
 }
 
-/// `tag` with an empty line behind it.
+/// `tag` followed by an empty line.
 [[nodiscard]] inline CString BeforeEmptyLine(std::u16string_view tag)
 {
     return CString::Join({tag, lineEnd, lineEnd});
@@ -27,7 +27,7 @@ inline constexpr std::u16string_view lineEnd = u"\r\n";
     return CString::Join({u"\t", tag, lineEnd});
 }
 
-/// `tag`, and the end of the line unless `newLine` is 0.
+/// `tag`, followed by the end of the line unless `newLine` is 0.
 [[nodiscard]] inline CString WithNewLine(std::u16string_view tag, int newLine)
 {
     return newLine == 0 ? CString(tag) : OnLine(tag);

@@ -1,4 +1,4 @@
-// The document: head, body and what stands in the head.
+// Tags of the document, the head and the body.
 #include <VyrLibraryFuncs/html/HtmlFuncs.h>
 
 #include "HtmlFrames.h"

@@ -9,13 +9,12 @@ namespace VyrLibraryFuncs {
 
 /// Gives the pieces of an HTML5 page; a host joins them in the order of the document and writes the page.
 ///
-/// - Nothing is escaped and nothing is checked: every text stands in the result exactly as it was given, also one that
-///   holds `"`, `<` or `%s`. An empty text gives an empty value: the attribute stays.
-/// - Lines end in CR LF. What stands in the head is indented by one tab. Each operation says whether its piece ends a
-///   line.
+/// - Nothing is escaped or checked: every text is in the result exactly as given, also one with `"`, `<` or `%s`. An
+/// empty text gives an empty value: the attribute is kept.
+/// - Lines end in CR LF. Tags of the head are indented by one tab. Each operation says whether its piece ends a line.
 /// - `newLine`: any value but 0 appends one CR LF.
 /// - `attributes`: further attributes as they stand in a tag, such as `colspan="2" title="x"`.
-/// - A pair is the opening tag, the content and the closing tag, with nothing between.
+/// - A pair is the opening tag, the content and the closing tag, with nothing between them.
 ///
 /// Example: `GetTrPairTag(GetTdPairTag(u"a") + GetTdPairTag(u"b"))` gives `<tr><td>a</td><td>b</td></tr>`.
 class VYR_FUNCS_API HtmlFuncs
@@ -27,9 +26,9 @@ public:
 
     // The document.
 
-    /// The document type, with an empty line behind it.
+    /// The document type, followed by an empty line.
     static CString GetDoctypeTag();
-    /// The comment that lets the old browser engine run the scripts of a local page, with an empty line behind it.
+    /// The comment that lets the old browser engine run the scripts of a local page, followed by an empty line.
     static CString GetSavedFromUrlTag();
     /// `<html>` on a line of its own.
     /// @param lang  the language of the page, such as "en".
@@ -160,7 +159,7 @@ public:
     /// `width` and `height` as in GetImgTag.
     static CString GetTdTag(CString className, CString id, int width, int height);
     /// `<td>` of a cell that spans columns.
-    /// @param colspan  how many columns, as text.
+    /// @param colspan  the number of columns, as text.
     static CString GetTdColTag(CString className, CString colspan);
     static CString GetTdColTag(CString className, CString colspan, CString attributes);
     /// `</td>`.

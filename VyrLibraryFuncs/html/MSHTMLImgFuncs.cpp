@@ -8,7 +8,7 @@ namespace VyrLibraryFuncs {
 
 namespace {
 
-/// In 64 bits: the edges may be as far apart as 32 bits allow.
+/// In 64 bits, since the edges may be as far apart as 32 bits allow.
 std::int64_t Width(const CRect& rectangle)
 {
     return std::int64_t{rectangle.right} - rectangle.left;
@@ -19,13 +19,13 @@ std::int64_t Height(const CRect& rectangle)
     return std::int64_t{rectangle.bottom} - rectangle.top;
 }
 
-/// Width to height; 0 for what has no area.
+/// Width to height; 0 without an area.
 double Ratio(std::int64_t width, std::int64_t height)
 {
     return width <= 0 || height <= 0 ? 0.0 : static_cast<double>(width) / static_cast<double>(height);
 }
 
-/// The interface of `object` that `Pointer` owns; none for a null pointer and for what has no such interface.
+/// The interface of `object` that `Pointer` owns; null for a null pointer and for objects without that interface.
 template <class Pointer>
 Pointer As(IUnknown* object)
 {
@@ -73,7 +73,7 @@ struct Size
     LONG height = 0;
 };
 
-/// The size in which `picture` is shown.
+/// The size at which `picture` is shown.
 std::optional<Size> ShownSize(const IHTMLImgElementPtr& picture)
 {
     Size size;
@@ -88,7 +88,7 @@ void SetStyle(const IHTMLImgElementPtr& picture, const OLECHAR* width, const OLE
     const auto element = As<IHTMLElementPtr>(picture);
     if (!element || FAILED(element->get_style(&style)) || !style)
         return;
-    // Both texts come first: without memory for one, neither is set.
+    // Both texts are created first: without memory for one, neither is set.
     const _variant_t widthValue(width);
     const _variant_t heightValue(height);
     style->put_width(widthValue);

@@ -20,18 +20,18 @@ public:
     ~MSHTMLImgFuncs();
     MSHTMLImgFuncs& operator=(const MSHTMLImgFuncs&);
 
-    /// Gives each picture that is shown larger than `client` a style by which it fits. One that is wider in proportion
+    /// Gives each picture that is shown larger than `client` a style that makes it fit. One that is wider in proportion
     /// than `client` gets the width "100%" and the height "auto", any other the width "auto" and the height "100%".
     ///
-    /// Pictures that fit, that have no address, or that the page does not tell about, stay as they are, and so does
-    /// what is no page. The attributes of a picture are never changed. Call it when the page has been loaded, and again
-    /// when its window has changed its size.
+    /// Pictures that fit, that have no address, or that the page gives no data about, are not changed, nor is a
+    /// document that is not a page. The attributes of a picture are never changed. Call it when the page has been
+    /// loaded, and again when the size of its window has changed.
     ///
     /// Example: in a window of 800 x 600, a picture of 2000 x 100 gets the width "100%", and one of 100 x 2000 the
     /// height "100%".
     /// @param document the page, or a null pointer. COM must be initialised on this thread.
     /// @param client the part of the window that shows the page. With an empty one every picture gets the width "100%".
-    /// @throws _com_error with E_OUTOFMEMORY where there is no memory for the text of a style.
+    /// @throws _com_error with E_OUTOFMEMORY when there is no memory for the text of a style.
     static void SetResizeImgStyle(IDispatch* document, CRect client);
 
 private:

@@ -1,4 +1,4 @@
-// Attributes are read, one bit is changed, and they are written back.
+// Reads the attributes, changes one bit, and writes them.
 #include <VyrLibraryFuncs/metadata/AttributesFuncs.h>
 
 #include <VyrPlatform/files/FileAttributes.h>
@@ -13,7 +13,7 @@ namespace {
 
 namespace FileAttributes = VyrPlatform::FileAttributes;
 
-/// The places of the six in the order of display.
+/// The indexes of the six in the order of display.
 enum Index : int
 {
     readOnly = 0,
@@ -48,7 +48,7 @@ std::uint32_t BitOf(int index) noexcept
 
 int SetOne(const CString& path, bool isSet, int index)
 {
-    // Where they cannot be read, writing is refused as well.
+    // Where they cannot be read, they cannot be written either.
     const std::uint32_t current = FileAttributes::Get(path);
     const std::uint32_t bit = BitOf(index);
     return FileAttributes::Set(path, isSet ? current | bit : current & ~bit) == 0;

@@ -10,8 +10,8 @@ namespace VyrLibraryFuncs {
 /// Sets and clears six attributes: read-only (letter R), hidden (H), system (S), archive (A), temporary (T) and not
 /// content indexed (I).
 ///
-/// A choice is an int: 0 keeps the attribute as it is, 1 sets it, any other value (2 by custom) clears it. What is told
-/// here of a file holds for a folder, too. How Linux keeps attributes is told in VyrPlatform::FileAttributes.
+/// A choice is an int: 0 keeps the attribute, 1 sets it, any other value (2 by custom) clears it. All operations work
+/// on folders, too. VyrPlatform::FileAttributes describes how Linux stores attributes.
 class VYR_FUNCS_API AttributesFuncs
 {
 public:
@@ -30,11 +30,12 @@ public:
     ~AttributesFuncs();
     AttributesFuncs& operator=(const AttributesFuncs& other);
 
-    /// Carries out all six choices, in the order of the record; a failing one does not keep the others back.
-    /// @return 1 when all succeeded (one that keeps its attribute does), else 0.
+    /// Applies all six choices, in the order of the record; a failure does not stop the others.
+    /// @return 1 when all succeeded (keeping an attribute succeeds), else 0.
     static int SetModifiedFileAttributes(CString path, ATTRIBUTESITEM item);
 
-    /// 1 (set) when the upper-case "R" occurs in `text`, else 2 (clear); so are the following, each with its letter.
+    /// 1 (set) when the upper-case "R" occurs in `text`, else 2 (clear). The next operations do the same for their
+    /// letters.
     static int GetSelectedReadOnlyAttributes(CString text);
     static int GetSelectedHiddenAttributes(CString text);
     static int GetSelectedSystemAttributes(CString text);
@@ -42,8 +43,9 @@ public:
     static int GetSelectedTemporaryAttributes(CString text);
     static int GetSelectedNotContentIndexedAttributes(CString text);
 
-    /// Sets the read-only attribute of the file at `path`, or clears it; so do the following, each with its attribute.
-    /// @param isOn  nonzero: set.
+    /// Sets or clears the read-only attribute of the file at `path`. The next operations do the same for their
+    /// attributes.
+    /// @param isOn  nonzero sets it, 0 clears it.
     /// @return nonzero on success, else 0 (no file, no permission, a file system that keeps no attributes).
     static int SetReadOnlyAttributes(CString path, int isOn);
     static int SetHiddenAttributes(CString path, int isOn);
@@ -52,7 +54,7 @@ public:
     static int SetTemporaryAttributes(CString path, int isOn);
     static int SetNotContentIndexedAttributes(CString path, int isOn);
 
-    /// The place of an attribute letter in the order of display, R H S D A T P L C O I E X V: 0 to 13, in either case.
+    /// The index of an attribute letter in the order of display, R H S D A T P L C O I E X V: 0 to 13, in either case.
     /// @return -1 for any other text.
     static int GetArrtibutesPriority(CString letter);
 
@@ -65,9 +67,9 @@ private:
     static int SetModifiedArchiveAttributes(CString path, int state);
     static int SetModifiedTemporaryAttributes(CString path, int state);
     static int SetModifiedNotContentIndexedAttributes(CString path, int state);
-    /// Carries out one choice for the attribute with that place in the order of display.
+    /// Applies one choice to the attribute with that index in the order of display.
     static int SetModifiedAttributes(CString path, int state, int index);
-    /// Sets or clears the attribute with that place; a place of none of the six changes no attribute.
+    /// Sets or clears the attribute with that index; an index of none of the six changes nothing.
     static int SetAttributes(CString path, int isSet, int index);
     /// 1 when `letter` occurs in `text`, else 2.
     static int GetSelectedAttributes(CString text, CString letter);

@@ -1,4 +1,4 @@
-// A file's date-times: chosen, put together and written.
+// Reads, combines and writes a file's date-times.
 #include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
 
 #include <VyrLibraryFuncs/metadata/LocalFileTime.h>
@@ -35,7 +35,7 @@ CString OtherDateTime(const CString& path, int target)
     }
 }
 
-/// The ticks of `time`, or 0 for a null pointer: both leave a file's time alone.
+/// The ticks of `time`, or 0 for a null pointer; both keep the file's time.
 VyrPlatform::FileTicks ToTicks(const FILETIME* time) noexcept
 {
     if (!time)

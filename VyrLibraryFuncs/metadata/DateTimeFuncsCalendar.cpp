@@ -1,4 +1,4 @@
-// Calendar arithmetic, and the comparisons of dates.
+// Calendar arithmetic, and comparisons of dates.
 #include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
 
 #include <VyrLibraryFuncs/textfile/LogFuncs.h>
@@ -15,8 +15,8 @@ namespace {
 
 namespace calendar = boost::gregorian;
 
-// The calendar library sees only the lowest 16 bits of a year, so that one far out of its range could pass its check.
-// It takes as long for a step of nothing as for any other, and most of three are of nothing.
+// The calendar library checks only the lowest 16 bits of a year, so a year far out of range could pass. A step of zero
+// takes as long as any other, and most of the three are zero.
 
 calendar::date AddMonths(const calendar::date& date, std::int64_t count)
 {
@@ -51,7 +51,7 @@ calendar::date AddDays(const calendar::date& date, int count)
     return date + calendar::days(count);
 }
 
-/// The calendar fields of `dateTime`; zeros, which are none, when it has none.
+/// The calendar fields of `dateTime`; zeros, which are invalid, when it has none.
 SYSTEMTIME FieldsOf(const COleDateTime& dateTime) noexcept
 {
     SYSTEMTIME fields{};
@@ -95,7 +95,7 @@ COleDateTime DateTimeFuncs::GetCalDateTime(COleDateTime dateTime, int years, int
     try {
         return Move(dateTime, years, months, days);
     } catch (const std::out_of_range& error) {
-        // What the calendar library throws for a wrong year, month or day.
+        // Thrown by the calendar library for a wrong year, month or day.
         LogFuncs::Write(VyrPlatform::Encoding::FromUtf8(error.what()));
     } catch (...) {
     }

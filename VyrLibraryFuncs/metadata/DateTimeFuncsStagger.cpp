@@ -1,4 +1,4 @@
-// Staggered date-times, and date-times moved by hours.
+// Staggered date-times, and shifts by hours.
 #include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
 
 #include <VyrLibraryFuncs/metadata/LocalFileTime.h>
@@ -42,7 +42,7 @@ int Multiplier(int index, const DateTimeFuncs::STAGGERITEM& item) noexcept
     }
 }
 
-/// Throws when the year is none of the calendar's.
+/// Throws when the year is not in the calendar.
 clock_time::ptime ToTime(const COleDateTime& dateTime)
 {
     SYSTEMTIME fields;
@@ -52,8 +52,8 @@ clock_time::ptime ToTime(const COleDateTime& dateTime)
             clock_time::time_duration(fields.wHour, fields.wMinute, fields.wSecond)};
 }
 
-/// The calendar library's own form, "2024-Jan-05 10:30:00" (its writer would bring a dynamic initialiser). Throws when
-/// the time has left the calendar, whose own check sees only the lowest 16 bits of the year.
+/// The calendar library's own format, "2024-Jan-05 10:30:00" (its writer would add a dynamic initialiser). Throws when
+/// the time has left the calendar, whose own check reads only the lowest 16 bits of the year.
 CString ToText(const clock_time::ptime& time)
 {
     if (time < clock_time::ptime(boost::date_time::min_date_time) ||

@@ -1,4 +1,3 @@
-// Local date-times become file times by the system's conversion.
 #include <VyrLibraryFuncs/metadata/LocalFileTime.h>
 
 #include <VyrPlatform/files/FileTimes.h>

@@ -1,4 +1,4 @@
-// File times from local date-times.
+// File times from local date-times, by the system's conversion.
 #pragma once
 
 #include <VyrPlatform/WinTypes.h>
@@ -6,7 +6,7 @@
 
 namespace VyrLibraryFuncs {
 
-/// The file time that `local` is written to a file as; zero when it is not valid or lies before 1601.
+/// The file time for writing `local` to a file; zero when it is invalid or before 1601.
 [[nodiscard]] FILETIME ToFileTime(const COleDateTime& local);
 
 } // namespace VyrLibraryFuncs

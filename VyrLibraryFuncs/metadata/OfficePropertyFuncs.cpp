@@ -1,4 +1,3 @@
-// Properties of documents.
 #include <VyrLibraryFuncs/metadata/OfficePropertyFuncs.h>
 
 #include <VyrLibraryUtils/PropertyUtils.h>
@@ -19,13 +18,13 @@ namespace VyrLibraryFuncs {
 
 namespace {
 
-/// Handles one pending event; being asked to stop stops nothing here.
+/// Handles one pending event; a requested stop has no effect here.
 void HandleOneEvent()
 {
     static_cast<void>(VyrPlatform::MessageQueue::DrainOne());
 }
 
-/// The class id that the key at `path` has as its default value.
+/// The class id in the default value of the key at `path`.
 std::optional<GUID> ReadHandler(const CString& path)
 {
     const Key found = Key::Open(HKEY_CLASSES_ROOT, path, Access::Read);

@@ -1,4 +1,4 @@
-// The mark of a download goes, also from read-only files.
+// Removes the mark also from read-only files.
 #include <VyrLibraryFuncs/metadata/UnblockFuncs.h>
 
 #include <VyrLibraryUtils/FileUtils.h>

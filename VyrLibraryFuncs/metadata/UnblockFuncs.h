@@ -7,7 +7,7 @@
 
 namespace VyrLibraryFuncs {
 
-/// Removes the mark that files from the internet carry.
+/// Removes the mark of files that were downloaded from the internet.
 class VYR_FUNCS_API UnblockFuncs
 {
 public:
@@ -15,9 +15,9 @@ public:
     ~UnblockFuncs();
     UnblockFuncs& operator=(const UnblockFuncs& other);
 
-    /// Removes the mark from the file at `path`, also when the file is read-only: then its read-only state is taken
-    /// away for the removal and put back, whatever came of it. All other attributes and permissions stay.
-    /// @return what FileUtils::DeleteZoneId gives: 1 when a mark was there and none is left, else 0.
+    /// Removes the mark from the file at `path`, also when the file is read-only: then it is made writable for the
+    /// removal and read-only again afterwards, even after a failure. Other attributes and permissions are kept.
+    /// @return the result of FileUtils::DeleteZoneId: 1 when there was a mark and none is left, else 0.
     static int DeleteZoneId(CString path);
 };
 

@@ -1,4 +1,4 @@
-// Calls the computation of a rename kind, and splits paths for the record.
+// Calls the computation for a rename kind, and splits paths for the record.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
@@ -9,7 +9,7 @@ using VyrLibraryUtils::FileUtils;
 
 namespace {
 
-// What GetSplitExtension takes to give the extension with its dot.
+// The argument of GetSplitExtension for the extension with its dot.
 constexpr int withDot = 1;
 
 } // namespace

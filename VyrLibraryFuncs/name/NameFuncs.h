@@ -1,5 +1,5 @@
 /// @file
-/// The rename engine: the path that a file or folder would get under a rename rule.
+/// The rename engine: the new path of a file or folder under a rename rule.
 #pragma once
 
 #include <VyrLibraryFuncs/Export.h>
@@ -11,7 +11,7 @@
 
 namespace VyrLibraryFuncs {
 
-/// The tokens of a name pattern: a step down into a folder, the camera's maker, the camera's model.
+/// The tokens of a name pattern: the end of a folder's name, the camera's maker, the camera's model.
 inline constexpr std::u16string_view folderToken = u"<Folder>";
 inline constexpr std::u16string_view makeToken = u"<Make>";
 inline constexpr std::u16string_view modelToken = u"<Model>";
@@ -25,9 +25,9 @@ inline constexpr std::u16string_view modelToken = u"<Model>";
 
 /// Computes new paths from rename rules, numbers conflicting names, and copies or moves folder trees.
 ///
-/// The computations rename nothing: they return the path that an entry would get. All counts of characters are counts
-/// of UTF-16 code units. Loops handle one pending event of the calling thread in each pass (VyrPlatform::MessageQueue),
-/// so that a host's window stays alive.
+/// The computations rename nothing: they return the new path of an entry. All counts of characters are in UTF-16 code
+/// units. Loops handle one pending event of the calling thread in each pass (VyrPlatform::MessageQueue), so that a
+/// host's window stays responsive.
 class VYR_FUNCS_API NameFuncs
 {
 public:
@@ -42,7 +42,7 @@ public:
         Extension = 5
     };
 
-    /// ITEM::numberPosition: what the new name consists of. Any other value gives an empty name.
+    /// ITEM::numberPosition: the parts of the new name. Any other value gives an empty name.
     enum class NumberPosition : int
     {
         /// `numberText1`, the number.
@@ -57,7 +57,7 @@ public:
         AfterName = 4
     };
 
-    /// ITEM::dateTimePosition: where the date-time's text goes. Any other value gives an empty name.
+    /// ITEM::dateTimePosition: the position of the date-time's text. Any other value gives an empty name.
     enum class DateTimePosition : int
     {
         /// The text is the whole name.
@@ -75,8 +75,8 @@ public:
         PictureTaken = 3
     };
 
-    /// ITEM::addDeleteType: the operation, with p = `position`, c = `deleteCount`, n = the length of `fileName`. Where
-    /// p is greater than n, or p + c for the last two, and for any other value, the path stays unchanged.
+    /// ITEM::addDeleteType: the operation, with p = `position`, c = `deleteCount`, n = the length of `fileName`. The
+    /// path is unchanged where p is greater than n (for the last two, p + c), and for any other value.
     enum class AddDeleteType : int
     {
         /// Inserts `addText` behind the first p characters.
@@ -96,13 +96,13 @@ public:
     /// ITEM::convertType: the case conversion. Any other value gives an empty name.
     enum class ConvertType : int
     {
-        /// The first character in upper case, the others as they are.
+        /// The first character in upper case, the others unchanged.
         FirstUpper = 0,
         Upper = 1,
         Lower = 2
     };
 
-    /// ITEM::extensionType: what becomes of the extension. Any other value removes it.
+    /// ITEM::extensionType: the change of the extension. Any other value removes it.
     enum class ExtensionType : int
     {
         Upper = 0,
@@ -111,7 +111,7 @@ public:
         Replace = 2
     };
 
-    /// CONFLICTITEM::position: where the number goes. Any other value finds no free path.
+    /// CONFLICTITEM::position: the position of the number. Any other value finds no free path.
     enum class ConflictPosition : int
     {
         BeforeName = 0,
@@ -119,7 +119,7 @@ public:
         AfterName = 1
     };
 
-    /// One rename request: an entry, its place in the list, and the rule.
+    /// One rename request: an entry, its index in the list, and the rule.
     ///
     /// The caller fills `dirPath`, `fileName` and `extension` by FileUtils::GetSplitDirPath, GetFName and GetExtension
     /// of `filePath` (or carries over the result of an earlier rule); the engine trusts them and never splits
@@ -127,20 +127,20 @@ public:
     /// its own kind.
     struct ITEM
     {
-        /// Full path of the file or folder as it is now.
+        /// The present full path of the file or folder.
         CString filePath;
         /// Texts of the caller; the engine does not read them.
         CString auxText1;
         CString auxText2;
         CString auxText3;
         CString auxText4;
-        /// Folder part of `filePath`, its separator at the end.
+        /// Folder part of `filePath`, with the separator at its end.
         CString dirPath;
         /// Name part: without the extension for a file, the whole name for a folder.
         CString fileName;
         /// Extension with its dot; empty for a folder.
         CString extension;
-        /// Place in the list of entries, from 0.
+        /// Index in the list of entries, from 0.
         int index = 0;
         /// A RenameType.
         int renameType = 0;
@@ -152,7 +152,7 @@ public:
         CString numberText2;
         /// Sequence number: the number of the entry with `index` 0.
         int startNumber = 0;
-        /// Sequence number: the least width, reached by zeros in front; below 2: none.
+        /// Sequence number: the least width, padded with zeros; below 2: no padding.
         int digits = 0;
         /// Sequence number: increment from one entry to the next.
         int step = 0;
@@ -164,17 +164,17 @@ public:
         CString dateTimeFormat;
         /// Add/delete: an AddDeleteType.
         int addDeleteType = 0;
-        /// Add/delete: a place in `fileName`, or how many characters stay.
+        /// Add/delete: a position in `fileName`, or the number of characters to keep.
         int position = 0;
-        /// Add/delete: how many characters go.
+        /// Add/delete: the number of characters to delete.
         int deleteCount = 0;
         /// Add/delete: the text to insert.
         CString addText;
         /// Convert: a ConvertType.
         int convertType = 0;
-        /// Replace: the text to look for; empty: nothing is replaced.
+        /// Replace: the text to find; empty: nothing is replaced.
         CString findText;
-        /// Replace: the text to put in its place.
+        /// Replace: the replacement.
         CString replaceText;
         /// Extension: an ExtensionType.
         int extensionType = 0;
@@ -185,7 +185,7 @@ public:
     /// How conflicting names are numbered.
     struct CONFLICTITEM
     {
-        /// The inserted text; every "?" in it stands for the number.
+        /// The inserted text; the number replaces every "?" in it.
         CString numberFormat;
         /// A ConflictPosition.
         int position = 0;
@@ -195,7 +195,7 @@ public:
         int step = 0;
     };
 
-    /// A folder that CopyFolder or MoveFolder created, with the times of the folder that it was created for.
+    /// A folder that CopyFolder or MoveFolder created, with the times of its source folder.
     struct RENAMEITEM
     {
         /// Full path of the source folder.
@@ -219,20 +219,19 @@ public:
     static CString GetFName(CString path);
     /// The extension of `path` with its dot; empty for an existing folder and for a name without a dot.
     static CString GetExtension(CString path);
-    /// Whether a conflict under the rule of `item` is to be numbered (GetResolveConflictFilePath): 1 for the
-    /// kinds sequence number, date-time and add/delete, and for a new extension (kind 5 with `extensionType` 2), else
-    /// 0.
+    /// Whether conflicts under the rule of `item` are numbered (GetResolveConflictFilePath): 1 for the kinds sequence
+    /// number, date-time and add/delete, and for a new extension (kind 5 with `extensionType` 2), else 0.
     static int IsResolveConflict(ITEM item);
 
     /// `dirPath` + the name that `numberPosition` makes of `step` x `index` + `startNumber` + `extension`. The number
-    /// is a signed 32-bit one and wraps.
+    /// is a signed 32-bit integer and wraps.
     static CString GetSequenceNumberFilePath(ITEM item);
     /// `dirPath` + the name that `dateTimePosition` makes of the file's date-time + `extension`. Where the file has no
     /// such date-time its text is empty.
     static CString GetDateTimeFilePath(ITEM item);
     /// `dirPath` + `fileName` with characters inserted or deleted + `extension`; `filePath` unchanged where `position`
-    /// or `deleteCount` reach beyond the name. Negative values follow the formulas of the six operations; each part of
-    /// the name is limited to the characters that exist.
+    /// or `deleteCount` reaches beyond the name. Negative values follow the formulas of the six operations; each part
+    /// of the name is limited to the existing characters.
     ///
     ///     Type DeleteFromStart, position 2, deleteCount 3: "abcdef" becomes "abf".
     static CString GetAddDeleteFilePath(ITEM item);
@@ -244,47 +243,47 @@ public:
     /// `dirPath` + `fileName` + the changed extension; `filePath` unchanged when it is an existing folder.
     static CString GetExtensionFilePath(ITEM item);
 
-    /// A path that does not exist: `path` itself, or `path` with the first number whose name is free.
+    /// A path that does not exist: `path` itself, or `path` with the first number that gives a free name.
     ///
     /// The search has no upper bound: with a `numberFormat` without "?", a `step` of 0 or an unknown `position` it may
-    /// end only when a stop is asked for. A stop gives the last path tried, which may exist.
+    /// end only by a stop. A stop gives the last path tried, which may exist.
     ///
     ///     Where "a.txt" exists, the pattern " (?)" after the name gives "a (1).txt".
     static CString GetResolveConflictFilePath(CString path, CONFLICTITEM item);
 
-    /// What `format` gives for the current local time, every "<Folder>" as a backslash. Empty for an empty `format`.
+    /// The current local time written with `format`, every "<Folder>" as a backslash. Empty for an empty `format`.
     static CString GetRenameToSampleFormated(CString format);
     /// The date-time `target` (as ITEM::dateTimeTarget) of the file at `path`, written with `format`. Empty for an
     /// empty `format`.
     static CString GetDateTimeFormat(CString path, CString format, int target);
     /// `format` with every "<Folder>" replaced by a backslash.
     static CString GetFolderFormat(CString format);
-    /// `format` with every "<Make>" and "<Model>" replaced by the camera's maker and model as the picture at `path`
-    /// tells them, by nothing where it tells none. The picture is read only for a token that is there.
+    /// `format` with every "<Make>" and "<Model>" replaced by the camera's maker and model in the picture at `path`, by
+    /// nothing where it has none. The picture is read only when a token is there.
     static CString GetExifFormat(CString path, CString format);
 
-    /// Copies what stands in the folder `source` into the folder `destination`, folders with their contents, and
-    /// overwrites existing files. A folder that is created gets the mode (on Windows the attributes) of its source.
+    /// Copies the entries of the folder `source` into the folder `destination`, folders with their contents, and
+    /// overwrites existing files. A created folder gets the mode (on Windows the attributes) of its source.
     ///
-    /// Two rules keep files safe: a link to a folder (on Windows a junction too) is copied as a link, is never entered
-    /// and gets no record; and nothing is copied when `destination` is `source` itself or lies in it.
-    /// @param source  an empty path, or one without a folder, gives 0.
-    /// @param destination  has to exist where files stand directly in `source`: it is created for folders alone.
-    /// @param records  gets a record for each folder that was created, a parent before its children. Never cleared.
-    ///        Null: nothing is recorded.
-    /// @return 1 when the last copy succeeded, else 0; 0 when there was nothing to copy. A stop does not end the walk.
+    /// Two rules keep files safe: a link to a folder (on Windows also a junction) is copied as a link, is never entered
+    /// and gets no record; and nothing is copied when `destination` is `source` itself or inside it.
+    /// @param source  an empty path, or the path of no folder, gives 0.
+    /// @param destination  must exist when `source` directly contains files: it is created only for folders.
+    /// @param records  gets a record for each created folder, parents first. Never cleared. Null: nothing is recorded.
+    /// @return 1 when the last copy succeeded, else 0; also 0 when there was nothing to copy. A stop does not end the
+    /// walk.
     static int CopyFolder(CString source, CString destination, std::list<RENAMEITEM>* records);
-    /// Moves what stands in the folder `source` into the folder `destination` by the rules of CopyFolder, and removes
-    /// `source`. A file whose other hard link stands at its new place is removed.
-    /// @return 1 when `source` is gone; 0 when something in it could not be moved.
+    /// Moves the entries of the folder `source` into the folder `destination` by the rules of CopyFolder, and removes
+    /// `source`. A file whose new path is another hard link of the same file is removed.
+    /// @return 1 when `source` is gone; 0 when an entry could not be moved.
     static int MoveFolder(CString source, CString destination, std::list<RENAMEITEM>* records);
 
 private:
     friend struct PrivateOperations;
 
-    /// The decimal text of `number`, with zeros before it (and before its minus sign) up to `digits`.
+    /// The decimal text of `number`, padded with zeros (before its minus sign) up to `digits`.
     static CString GetSequenceNumber(int digits, int number);
-    /// One zero for each of the powers 10 to 10^(digits - 1) that is above `number`; fewer when a stop is asked for.
+    /// One zero for each of the powers 10 to 10^(digits - 1) that is greater than `number`; fewer after a stop.
     static CString GetScaleString(int digits, int number);
     /// The date-time `target` of the file at `path`.
     static COleDateTime GetSelectedDateTime(CString path, int target);

@@ -1,4 +1,4 @@
-// Numbers a name that is taken.
+// Numbers names that are taken.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
@@ -19,7 +19,7 @@ CString NameFuncs::GetResolveConflictFilePath(CString path, CONFLICTITEM item)
     const CString folder = FileUtils::GetSplitDirPath(path);
     const CString name = GetFName(path);
     const CString extension = GetExtension(path);
-    // Unsigned, so that a search that never ends wraps round instead of overflowing.
+    // Unsigned, so that an endless search wraps round instead of overflowing.
     auto number = static_cast<std::uint32_t>(item.startNumber);
     for (; !VyrPlatform::MessageQueue::DrainOne(); number += static_cast<std::uint32_t>(item.step)) {
         const CString text = GetResolveConflictNumber(item.numberFormat, static_cast<int>(number));

@@ -1,4 +1,3 @@
-// Renames by a date-time of the file.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <VyrLibraryUtils/DateTimeUtils.h>

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// How many of the units of `text` a count asks for. Counts are 64-bit, since the differences of two ints need 33.
+/// `count` limited to the length of `text`. Counts are 64-bit, since the difference of two ints needs 33 bits.
 std::size_t Clamp(std::u16string_view text, std::int64_t count) noexcept
 {
     return static_cast<std::size_t>(std::clamp<std::int64_t>(count, 0, static_cast<std::int64_t>(text.size())));

@@ -1,4 +1,4 @@
-// Copies and moves folder trees, and records every folder that it creates.
+// Copies and moves folder trees, and records every created folder.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <VyrLibraryUtils/DateTimeUtils.h>
@@ -39,7 +39,7 @@ struct Entry
     bool isDots = false;
 };
 
-/// The entries of `folder` in the order in which the system gives them; none when it cannot be searched.
+/// The entries of `folder` in the system's order; none when it cannot be searched.
 std::vector<Entry> ReadEntries(const CString& folder)
 {
     std::vector<Entry> entries;
@@ -60,7 +60,7 @@ CString ParentOf(const CString& path)
     return folder.GetLength() == path.GetLength() ? CString() : VyrPlatform::GetFullPath(folder);
 }
 
-/// Whether `path`, of which the last parts may be missing, is the folder `folder` or lies in it.
+/// Whether `path`, whose last parts may not exist, is the folder `folder` or inside it.
 bool IsInside(const CString& path, const CString& folder)
 {
     const VyrPlatform::FileState wanted = VyrPlatform::LookAtFile(FileUtils::GetCombinePath(folder, u"."));
@@ -69,7 +69,7 @@ bool IsInside(const CString& path, const CString& folder)
     CString above = VyrPlatform::GetFullPath(path);
     while (!above.IsEmpty() && !FileUtils::IsFileExist(above))
         above = ParentOf(above);
-    // In a real path the folder above a name is the one in front of it, whatever links led there.
+    // In a real path the parent of a name is the folder in front of it, without regard to links.
     if (const CString real = VyrPlatform::GetRealPath(above); !real.IsEmpty())
         above = real;
     while (!above.IsEmpty() && VyrPlatform::LookAtFile(above).identity != wanted.identity)
@@ -77,13 +77,13 @@ bool IsInside(const CString& path, const CString& folder)
     return !above.IsEmpty();
 }
 
-/// Creates the folder `destination` unless something stands there, and records it with the times of `source`.
+/// Creates the folder `destination` unless it exists, and records it with the times of `source`.
 /// @return whether it was created.
 bool CreateFolderFor(const CString& source, const CString& destination, Records* records)
 {
     if (FileUtils::IsFileExist(destination) || !FolderUtils::CreateFolderPathExists(destination))
         return false;
-    // What is to come into it can be written, and nobody else sees more of it than of the source.
+    // Entries can be created in it, and others may not read more of it than of the source.
     static_cast<void>(FileCopy::CopyFolderMode(source, destination, OwnerAccess::Full));
     if (records)
         records->push_back(
@@ -97,13 +97,13 @@ CString WithSeparator(const CString& folder)
     return FileUtils::GetSplitDirPath(FileUtils::GetCombinePath(folder, u"*"));
 }
 
-/// Walks a tree without recursion: its depth is limited neither by the stack nor by the files that may be open at once.
+/// Walks a tree without recursion: neither the stack nor the limit of open files bounds its depth.
 class TreeWalk
 {
 public:
     TreeWalk(Operation operation, Records* records) : m_operation(operation), m_records(records) {}
 
-    /// Copies or moves what stands in `source` into `destination`.
+    /// Copies or moves the entries of `source` into `destination`.
     /// @return the result of CopyFolder or MoveFolder.
     int Run(const CString& source, const CString& destination)
     {
@@ -115,7 +115,7 @@ public:
     }
 
 private:
-    /// A folder whose entries are being handled. Its paths are the beginnings of those of the innermost folder.
+    /// A folder whose entries are being handled. Its paths are beginnings of those of the innermost folder.
     struct Folder
     {
         int sourceLength = 0;
@@ -123,7 +123,7 @@ private:
         std::vector<Entry> entries;
         std::size_t next = 0;
         bool wasCreated = false;
-        /// Of the last copy in it.
+        /// The result of the last copy in it.
         int result = 0;
     };
 
@@ -143,7 +143,7 @@ private:
             return;
         }
         const Entry entry = folder.entries[folder.next++];
-        // A tree is not left half done: here a stop ends nothing.
+        // A stop has no effect here, so that no tree is left half done.
         static_cast<void>(VyrPlatform::MessageQueue::DrainOne());
         if (entry.isDots)
             return;
@@ -158,7 +158,7 @@ private:
     void TransferFile(const CString& from, const CString& to, int& result) const
     {
         if (m_operation == Operation::Move)
-            // What cannot be moved stays, and its folder cannot be removed.
+            // An entry that cannot be moved stays, so its folder cannot be removed.
             static_cast<void>(FileCopy::Move(from, to));
         else if (FileCopy::Copy(from, to) == 0)
             result = 1;
@@ -184,10 +184,10 @@ private:
 
     Operation m_operation;
     Records* m_records;
-    /// Of the innermost folder.
+    /// The paths of the innermost folder.
     CString m_source;
     CString m_destination;
-    /// The folder that is walked, behind those above it.
+    /// The present folder is the last, after its parents.
     std::vector<Folder> m_folders;
     int m_result = 0;
 };

@@ -1,4 +1,3 @@
-// Renames by a running number.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <VyrPlatform/process/MessageQueue.h>
@@ -25,7 +24,7 @@ std::int64_t NextScale(std::int64_t scale) noexcept
     return scale > largest / 10 ? largest : scale * 10;
 }
 
-/// One zero for each of the powers 10 to 10^(digits - 1) that is above `number`; fewer when a stop is asked for.
+/// One zero for each of the powers 10 to 10^(digits - 1) that is greater than `number`; fewer after a stop.
 std::u16string Padding(int digits, int number)
 {
     std::size_t zeros = 0;
@@ -38,7 +37,7 @@ std::u16string Padding(int digits, int number)
     return std::u16string(zeros, u'0');
 }
 
-/// The padded number. Most are so short that std::u16string needs no allocation, which a CString would.
+/// The padded number. Most are so short that std::u16string needs no allocation, unlike a CString.
 std::u16string PaddedNumber(int digits, int number)
 {
     char decimal[std::numeric_limits<int>::digits10 + 2];

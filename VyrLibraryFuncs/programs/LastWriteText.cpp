@@ -1,4 +1,3 @@
-// When a key was last written to, as the function classes tell it.
 #include <VyrLibraryFuncs/programs/LastWriteText.h>
 
 #include <VyrLibraryUtils/DateTimeUtils.h>
@@ -11,7 +10,7 @@ std::optional<CString> GetLastWriteText(VyrPlatform::Registry::Handle key)
     const std::optional<VyrPlatform::FileTicks> moment = VyrPlatform::Registry::GetLastWrite(key);
     if (!moment)
         return std::nullopt;
-    // The system's pair of conversions, with today's offset: not that of the moment's own date.
+    // The system's conversions use today's offset, not the one of the date itself.
     return VyrLibraryUtils::DateTimeUtils::GetFormatedDateTime(VyrPlatform::FileTimes::ToLocalForWriting(*moment));
 }
 

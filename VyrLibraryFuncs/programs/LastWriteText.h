@@ -1,4 +1,4 @@
-// When a key was last written to, as the function classes tell it.
+// The last write of a key as text for the function classes.
 #pragma once
 
 #include <VyrPlatform/registry/Registry.h>
@@ -8,7 +8,7 @@
 
 namespace VyrLibraryFuncs {
 
-/// The moment as display text in local time; empty when it is no date-time, nothing when the key does not tell it.
+/// The last write as display text in local time; empty when it is no date-time, nothing when it is unknown.
 [[nodiscard]] std::optional<CString> GetLastWriteText(VyrPlatform::Registry::Handle key);
 
 } // namespace VyrLibraryFuncs

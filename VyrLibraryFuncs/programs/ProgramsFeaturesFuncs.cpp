@@ -42,7 +42,7 @@ int SignOf(int verdict) noexcept
     return (verdict > 0) - (verdict < 0);
 }
 
-/// `verdict`, which is ascending, in the order asked for.
+/// `verdict`, which is ascending, in the requested order.
 int Directed(int verdict, int descending) noexcept
 {
     return descending ? -verdict : verdict;
@@ -67,7 +67,7 @@ int ComparePlainNames(const CString& name1, const CString& name2, int descending
     return CompareTexts(name1, name2, descending);
 }
 
-/// How a name that begins with another sign than a brace stands to a product code, ascending.
+/// The order of a name that begins with a sign other than a brace and a product code, ascending.
 int CompareWithProductCode(const CString& plainName)
 {
     const CString first = plainName.Left(1);

@@ -1,5 +1,5 @@
 /// @file
-/// The programs that are installed.
+/// The installed programs.
 #pragma once
 
 #include <VyrLibraryFuncs/Export.h>
@@ -14,13 +14,13 @@ using HKEY = HKEY__*;
 
 namespace VyrLibraryFuncs {
 
-/// Lists installed programs and installer products from the registry, and helps to show and to sort them.
+/// Lists installed programs and installer products from the registry, and helps to show and sort them.
 ///
-/// The lists read and never write; nothing in them is sorted, merged or left out. A key that cannot be opened gives no
-/// record. A value that is missing, of another type, not terminated or longer than 259 code units leaves its field
-/// empty or 0. One pending event of the calling thread is handled before each value (VyrPlatform::MessageQueue), so
-/// that a host's window stays alive; a stop ends the reading of the values of the key that is at hand, and the list
-/// goes on. Progress is written to the debugger output.
+/// The lists only read; they do not sort, merge or filter. A key that cannot be opened gives no record. A value that is
+/// missing, of another type, not terminated or longer than 259 code units leaves its field empty or 0. Before each
+/// value one pending event of the calling thread is handled (VyrPlatform::MessageQueue), so that a host's window stays
+/// responsive; a stop ends the reading of the current key's values, and the list continues. Progress is written to the
+/// debugger output.
 class VYR_FUNCS_API ProgramsFeaturesFuncs
 {
 public:
@@ -34,8 +34,8 @@ public:
         std::int32_t Field = 0;
     };
 
-    /// An installed program: an entry of an uninstall key. Each text is the registry value of its own name where
-    /// nothing else is said; an absent value leaves it empty or 0.
+    /// An installed program: an entry of an uninstall key. Each text is the registry value of the same name unless
+    /// stated otherwise; a missing value leaves it empty or 0.
     struct ITEM
     {
         /// Path of the entry below its root key.
@@ -45,8 +45,8 @@ public:
         /// Without double quotes. See GetApplicationIcon.
         CString DisplayIcon;
         CString DisplayName;
-        /// Value "DisplayName_Localized", the text in the resources of a file that it refers to; empty when that cannot
-        /// be had.
+        /// Value "DisplayName_Localized", resolved to the text in the resources of a file; empty when that is not
+        /// available.
         CString DisplayNameLocalized;
         CString DisplayVersion;
         CString InstallLocation;
@@ -57,7 +57,7 @@ public:
         CString Contact;
         CString HelpLink;
         CString HelpTelephone;
-        /// As DateTimeUtils::GetFormatedDate writes it.
+        /// In the form of DateTimeUtils::GetFormatedDate.
         CString InstallDate;
         CString InstallSource;
         CString Readme;
@@ -69,7 +69,7 @@ public:
         CString RegOwner;
         /// Always empty; column 12 of a list view.
         CString Unused22;
-        /// When the entry was last written to, local time, as DateTimeUtils::GetFormatedDateTime writes it.
+        /// The last write of the entry, local time, in the form of DateTimeUtils::GetFormatedDateTime.
         CString LastWriteTime;
         CString ParentDisplayName;
         CString ParentKeyName;
@@ -94,7 +94,7 @@ public:
         std::uint32_t NoElevateOnModify = 0;
         /// Name of the root key (GetKeyParentName), a backslash and `KeyName`.
         CString FullKeyName;
-        /// `EstimatedSizeBytes` as FileUtils::GetFileSize writes it; empty when it is 0.
+        /// `EstimatedSizeBytes` in the form of FileUtils::GetFileSize; empty when it is 0.
         CString FormattedSize;
         /// Always empty.
         CString Unused42;
@@ -121,12 +121,13 @@ public:
     ~ProgramsFeaturesFuncs();
     ProgramsFeaturesFuncs& operator=(const ProgramsFeaturesFuncs&);
 
-    /// The entries of the uninstall keys: those of this machine, then those of the user; in each key in its own order.
-    /// @param scope 0: both. 1: the user's alone. 2: this machine's alone. Any other value gives an empty list.
-    /// @param includeWow6432Node non-zero: behind each key that of 32-bit programs.
+    /// The entries of the uninstall keys: first those of this machine, then those of the user; each key in its own
+    /// order.
+    /// @param scope 0: both. 1: only the user's. 2: only this machine's. Any other value gives an empty list.
+    /// @param includeWow6432Node non-zero: each key is followed by that of 32-bit programs.
     static std::vector<ITEM> GetProgramsFeaturesItemsList(int scope, int includeWow6432Node);
-    /// The products that Windows Installer keeps for the whole machine, as records of the same form. Their values are
-    /// looked for in the products' own keys, where installers leave little.
+    /// The machine-wide products of Windows Installer, as the same records. Their values are read from the products'
+    /// own keys, where installers store little.
     /// @param scope 0 or 2; any other value gives an empty list.
     static std::vector<ITEM> GetProgramsFeaturesWindowsInstallerItemsList(int scope);
     /// The text of a column of a list view: 0 name, 1 publisher,
@@ -135,45 +136,44 @@ public:
     /// @return empty for any other column.
     static CString GetListViewItemText(int column, ITEM item);
 
-    /// The products of Windows Installer: those of the machine, then those of the user.
+    /// The products of Windows Installer: first those of the machine, then those of the user.
     static std::vector<INSTALLER_PRODUCTS_ITEM> GetProgramsFeaturesInstallerProductsItemsList();
-    /// The icon of the first product whose name is `productName`, letter for letter, and whose icon holds `iconFilter`
-    /// (an empty one is in every icon).
-    /// @return empty when there is none, for an empty `productName`, and when a stop is asked for meanwhile.
+    /// The icon of the first product whose name is exactly `productName` and whose icon contains `iconFilter` (an empty
+    /// one is in every icon).
+    /// @return empty when there is none, for an empty `productName`, and after a stop.
     static CString GetProductIcon(CString iconFilter, CString productName,
                                   std::vector<INSTALLER_PRODUCTS_ITEM> products);
 
-    /// Takes an icon reference apart: a path, in double quotes or not, optionally a comma and an index.
-    /// `"C:\a b.exe",-101` gives `C:\a b.exe` and -101. A path is cut at its first comma.
-    /// @return the path without double quotes, and the index, 0 where there is none; an empty path and 0 for a text
-    ///     without anything but commas.
+    /// Splits an icon reference: a path, optionally in double quotes, optionally followed by a comma and an index.
+    /// `"C:\a b.exe",-101` gives `C:\a b.exe` and -101. A path ends at its first comma.
+    /// @return the path without double quotes, and the index, 0 where there is none; an empty path and 0 for a text of
+    /// nothing but commas.
     static std::pair<CString, int> GetApplicationIcon(CString iconText);
-    /// `installDate` where it is not empty, else the date of `fallbackDate`, a text that
-    /// DateTimeUtils::GetParseDateTime reads, as DateTimeUtils::GetFormatedDate writes it.
+    /// `installDate` where it is not empty, else the date of `fallbackDate` (a text for
+    /// DateTimeUtils::GetParseDateTime) in the form of DateTimeUtils::GetFormatedDate.
     static CString GetInstallDate(CString installDate, CString fallbackDate);
-    /// `size` as FileUtils::GetFileSize writes it; empty where `text` is empty, whose content is not read.
+    /// `size` in the form of FileUtils::GetFileSize; empty where `text` is empty. `text` is not used otherwise.
     /// @param size in bytes.
     /// @param format as of FileUtils::GetFileSize.
     static CString GetFormatedSize(CString text, std::uint64_t size, int format);
-    /// Compares two registry keys for a list that is sorted by them.
+    /// Compares two registry keys for sorting.
     ///
-    /// A key with a flag sorts behind one without. Then the last parts of the paths count: those that begin with a
-    /// letter, digit or sign of ASCII come first, product codes in braces next, all others last. Product codes compare
-    /// as texts of the user's locale. Other names compare by their numbers, where a name of hexadecimal digits is read
-    /// as a decimal number up to its first letter (`1F` is 1) and any other name is 0; equal ones as texts.
+    /// Keys with a flag come after those without. Then the last parts of the paths are compared: first those that begin
+    /// with an ASCII letter, digit or sign, then product codes in braces, then all others. Product codes compare as
+    /// texts of the user's locale. Other names compare by their numbers: a name of hexadecimal digits is read as a
+    /// decimal number up to its first letter (`1F` is 1), and any other name is 0; equal ones compare as texts.
     ///
-    /// This is no consistent order over all keys: `a`, `{1}` and `é` make a circle. Sort with what does not rely on
-    /// one.
-    /// @param flag1,flag2 only whether each is 0 counts.
-    /// @param descending non-zero turns every result around.
-    /// @return -1, 0 or 1; 0 when the flags are equal and a key is empty or nothing but backslashes.
+    /// This is not a consistent order of all keys: `a`, `{1}` and `é` form a cycle. Use a sort that tolerates this.
+    /// @param flag1,flag2 only whether each is 0 matters.
+    /// @param descending non-zero reverses every result.
+    /// @return -1, 0 or 1; 0 when the flags are equal and a key is empty or consists of backslashes.
     static int CompareRegKey(CString key1, CString key2, int flag1, int flag2, int descending);
     /// The name of a root key, such as "HKEY_LOCAL_MACHINE"; empty for HKEY_PERFORMANCE_DATA and any other key.
     static CString GetKeyParentName(HKEY root);
-    /// 1 when `keyPath` holds "Wow6432Node", written so.
+    /// 1 when `keyPath` contains "Wow6432Node" in exactly this case.
     static int IsWow6432Node(CString keyPath);
 
-    // Settings of a report, kept for the life of the process. They are for one thread.
+    // Settings of a report, kept for the life of the process. Use them on one thread.
 
     /// "icons".
     static CString GetIconFolderName();

@@ -1,4 +1,4 @@
-// The products of Windows Installer as records.
+// Reads the products of Windows Installer.
 #include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>
 
 #include <VyrLibraryFuncs/programs/SubkeyWalk.h>
@@ -33,8 +33,8 @@ constexpr std::int32_t language = 33;
 constexpr std::int32_t deploymentFlags = 34;
 } // namespace Code
 
-/// Puts a text into the field of `code`.
-/// @return false when there is none.
+/// Stores a text in the field of `code`.
+/// @return false when there is no such field.
 bool StoreText(Product& product, std::int32_t code, const CString& content)
 {
     switch (code) {

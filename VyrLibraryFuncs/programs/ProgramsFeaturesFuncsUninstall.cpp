@@ -1,4 +1,4 @@
-// The entries of the uninstall keys as records.
+// Reads the entries of the uninstall keys.
 #include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>
 
 #include <VyrLibraryFuncs/programs/LastWriteText.h>
@@ -35,7 +35,7 @@ constexpr std::uint32_t text = 1;
 constexpr std::uint32_t expandedText = 2;
 constexpr std::uint32_t number = 4;
 
-// The codes of fields that take more than a copy of their value.
+// The codes of fields that need more than a copy of their value.
 constexpr std::int32_t displayIcon = 5;
 constexpr std::int32_t displayNameLocalized = 7;
 constexpr std::int32_t installDate = 9;
@@ -103,8 +103,8 @@ constexpr Field<std::uint32_t> numberFields[] = {
     {36, &Item::NoRepair},        {37, &Item::NoRemove},         {38, &Item::NoElevateOnModify},
 };
 
-/// Puts `content` into the field of `code`, where there is one.
-/// @return whether there is.
+/// Stores `content` in the field of `code`, if there is one.
+/// @return whether there is one.
 template <class Content, std::size_t count>
 bool Store(const Field<Content> (&fields)[count], std::int32_t code, const Content& content, Item& item)
 {
@@ -195,7 +195,7 @@ void ReadValues(Item& item, Handle key, const std::vector<RegValue>& values)
 }
 
 /// Appends a record for each key below the one at `path`.
-/// @param isWow6432Node what the records say of the view.
+/// @param isWow6432Node the view that the records name.
 std::vector<Item> Walk(HKEY root, const CString& path, const std::vector<RegValue>& values, std::vector<Item> items,
                        int isWow6432Node)
 {

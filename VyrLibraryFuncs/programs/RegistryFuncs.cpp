@@ -1,4 +1,3 @@
-// Where a product stands in the registry.
 #include <VyrLibraryFuncs/programs/RegistryFuncs.h>
 
 #include <VyrLibraryFuncs/programs/LastWriteText.h>

@@ -1,5 +1,5 @@
 /// @file
-/// Where a product stands in the registry.
+/// The registry keys of a product.
 #pragma once
 
 #include <VyrLibraryFuncs/Export.h>
@@ -15,17 +15,16 @@ public:
     ~RegistryFuncs();
     RegistryFuncs& operator=(const RegistryFuncs&);
 
-    /// The path of a product's settings below a root key of the caller's choice: "Maker", "Tool" and 3 give
+    /// The path of a product's settings below a root key that the caller chooses: "Maker", "Tool" and 3 give
     /// `SOFTWARE\Maker\Tool\3.0`.
     /// @param version the major version; a negative one is written with its sign.
     static CString GetProductRegKey(CString vendorName, CString productName, int version);
     /// The path of a product's uninstall entry, below the key of this machine or of the user.
     /// @param uninstallKeyName the entry's own name; an empty one gives the path of all entries and a backslash.
     static CString GetUninstallProductRegKey(CString uninstallKeyName);
-    /// When the product's uninstall entry was last written to, which is when it was installed: local time, as
-    /// DateTimeUtils::GetFormatedDateTime writes it. The text also goes to the debugger output.
-    /// @return empty when this machine has no such entry. Neither the entries of 32-bit programs nor those of the user
-    ///     are looked at.
+    /// The last write of the product's uninstall entry, which is the time of its installation: local time, in the form
+    /// of DateTimeUtils::GetFormatedDateTime. The text is also written to the debugger output.
+    /// @return empty when this machine has no such entry. The entries of 32-bit programs and of the user are not read.
     static CString GetProductInstallDate(CString uninstallKeyName);
 
 private:

@@ -1,4 +1,4 @@
-// What the lists of programs and of installer products share: the way through the keys below one key, and the trace.
+// The walk through the keys below one key, and the trace, for the lists of programs and of installer products.
 #pragma once
 
 #include <VyrPlatform/process/DebugOutput.h>
@@ -13,8 +13,8 @@ inline void TraceValue(const CString& name, const CString& text)
     VyrPlatform::DebugOutput::Write(CString::Join({u"\t", name, u":", text, u"\r\n"}));
 }
 
-/// Calls `visit(name, key)` for each key that can be opened below the one at `path`, in their order, until the first
-/// failure of the enumeration. Each name goes to the debugger output.
+/// Calls `visit(name, key)` for each key below the one at `path` that can be opened, in their order, until the
+/// enumeration fails. Each name is written to the debugger output.
 template <class Visit>
 void ForEachSubkey(VyrPlatform::Registry::Handle root, const CString& path, Visit visit)
 {

@@ -15,7 +15,7 @@ namespace VyrLibraryFuncs {
 
 namespace {
 
-/// In code units, with the NUL.
+/// In code units, including the NUL.
 constexpr std::size_t headingCapacity = 260;
 constexpr int noColumn = -1;
 
@@ -36,7 +36,7 @@ std::optional<CString> Heading(const CListCtrl& list, int index)
 /// The index of the first column called `name`, or noColumn.
 int FindColumn(CListCtrl& list, const CString& name)
 {
-    // The columns are counted anew each time: a drain may have changed them.
+    // The columns are counted in each pass: a drain may have changed them.
     for (int index = 0; index < CountColumns(list); ++index) {
         if (DrainOne())
             return noColumn;

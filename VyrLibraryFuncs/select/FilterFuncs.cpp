@@ -33,7 +33,7 @@ CString Lowered(CString text)
     return text.MakeLower();
 }
 
-/// A name that conditions are held against. It is lower-cased once, when the first condition asks for that.
+/// A name that is compared with conditions. It is lower-cased once, for the first condition that needs it.
 class ComparedName
 {
 public:

@@ -1,4 +1,3 @@
-// Which files match the search criteria.
 #include <VyrLibraryFuncs/select/SearchFuncs.h>
 
 #include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>

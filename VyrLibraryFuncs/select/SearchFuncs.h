@@ -10,32 +10,32 @@
 
 namespace VyrLibraryFuncs {
 
-/// Holds the search criteria of a host and tells which files meet them.
+/// Keeps the search criteria of a host and tells which files meet them.
 ///
-/// The settings live as long as the process and are for one thread. At first neither criterion is in force, and the
-/// bounds of the custom range reach from the start of the day seven days before the library was loaded to the end of
-/// the day on which it was.
+/// The settings live as long as the process and are for one thread. At first neither criterion is active, and the
+/// custom range extends from the start of the day seven days before the library was loaded to the end of the day of
+/// loading.
 ///
 /// Example: after `SetSizeSearch(1)` and `SetSizeRange(2)`, IsMatch is 1 for files of 1 to 16,384 bytes.
 class VYR_FUNCS_API SearchFuncs
 {
 public:
     /// The setting DateTimeTarget: which date-time of a file is tested. Any other value is the zero date-time, 30
-    /// December 1899. (The rename engine numbers them otherwise.)
+    /// December 1899. (The rename engine has other numbers.)
     enum class DateTimeTarget : int
     {
         Modified = 0,
         Created = 1,
-        /// The moment a picture was taken, as its Exif data tells it.
+        /// The time when a picture was taken, from its Exif data.
         PictureTaken = 2
     };
 
-    /// The setting DateTimeRange, seen from the current local time. Weeks begin on Sunday. Any other value matches no
+    /// The setting DateTimeRange, relative to the current local time. Weeks begin on Sunday. Any other value matches no
     /// date-time.
     enum class DateTimeRange : int
     {
-        /// From DateTimeFromDateTime to DateTimeToDateTime, both included; a bound that is null is open, and where both
-        /// are, nothing matches.
+        /// From DateTimeFromDateTime to DateTimeToDateTime, both included; a null bound is open, and with two null
+        /// bounds nothing matches.
         Custom = 0,
         Today = 1,
         Yesterday = 2,
@@ -66,11 +66,11 @@ public:
         Huge = 6,
         /// More.
         Giant = 7,
-        /// -1, the size that was not computed.
+        /// -1, which means that the size was not computed.
         Folder = 8
     };
 
-    /// What is known of a file already.
+    /// Known values of a file.
     struct ITEM
     {
         /// The date-time to test.
@@ -83,31 +83,31 @@ public:
     ~SearchFuncs();
     SearchFuncs& operator=(const SearchFuncs&);
 
-    /// Whether the file or folder at `path` meets the criteria that are in force (1 or 0). A path at which nothing
-    /// stands meets them. A folder counts with the size -1.
+    /// Whether the file or folder at `path` meets the active criteria (1 or 0). A path that does not exist meets them.
+    /// A folder has the size -1.
     /// @param reserved  not read.
     static int IsMatch(CString path, int reserved);
-    /// Whether `item` meets the criteria that are in force (1 or 0). No file is looked at.
+    /// Whether `item` meets the active criteria (1 or 0). No file is read.
     static int IsMatch(ITEM item);
 
-    /// Whether the date-time of the file at `path` that DateTimeTarget names is in the range (1 or 0); 0 where nothing
-    /// stands.
+    /// Whether the date-time of the file at `path`, chosen by DateTimeTarget, is in the range (1 or 0); 0 where there
+    /// is no file.
     static int IsMatchDateTime(CString path);
-    /// Whether `value`, local time, is in the range DateTimeRange (1 or 0). An invalid one is in none.
+    /// Whether `value`, local time, is in the range DateTimeRange (1 or 0). An invalid one never is.
     static int IsMatchDateTime(COleDateTime value);
 
-    /// Whether the size of the file at `path` is in the range (1 or 0); 0 where nothing stands. Writes a line about
+    /// Whether the size of the file at `path` is in the range (1 or 0); 0 where there is no file. Writes a line about
     /// each file to the debugger output.
-    /// @param withFolders  not 0: a folder counts with the sum of the files below it; 0: with -1.
+    /// @param withFolders  not 0: the size of a folder is the sum of the files below it; 0: it is -1.
     static int IsMatchSize(CString path, int withFolders);
     /// Whether `size`, in bytes, is in the range SizeRange (1 or 0).
     static int IsMatchSize(std::int64_t size);
 
-    /// A flag of the host's own; 0 at first.
+    /// A flag for the host; 0 at first.
     static int GetSearchClosed();
     static void SetSearchClosed(int closed);
 
-    /// Not 0: the date-time criterion is in force; 0 at first.
+    /// Not 0: the date-time criterion is active; 0 at first.
     static int GetDateTimeSearch();
     static void SetDateTimeSearch(int search);
     /// A value of DateTimeTarget; 0 at first.
@@ -123,10 +123,10 @@ public:
     static COleDateTime GetDateTimeToDateTime();
     static void SetDateTimeToDateTime(COleDateTime to);
 
-    /// Not 0: the size criterion is in force; 0 at first.
+    /// Not 0: the size criterion is active; 0 at first.
     static int GetSizeSearch();
     static void SetSizeSearch(int search);
-    /// A choice of the host's own; 0 at first.
+    /// A choice for the host; 0 at first.
     static int GetSizeTarget();
     static void SetSizeTarget(int target);
     /// A value of SizeRange; 0 at first.

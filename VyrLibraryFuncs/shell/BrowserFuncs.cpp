@@ -1,4 +1,3 @@
-// The web browsers that are installed.
 #include <VyrLibraryFuncs/shell/BrowserFuncs.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
@@ -18,7 +17,7 @@ namespace VyrLibraryFuncs {
 
 namespace {
 
-/// The browser of one key; nothing when it does not tell its name and its command.
+/// The browser of one key; nothing when its name or command is missing.
 std::optional<BrowserFuncs::APPITEM> ReadBrowser(const Key& clients, const CString& name)
 {
     const Key key = Key::Open(clients.Get(), name, Access::Read);

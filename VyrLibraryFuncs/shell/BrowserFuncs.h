@@ -1,5 +1,5 @@
 /// @file
-/// The web browsers that are installed.
+/// The installed web browsers.
 #pragma once
 
 #include <VyrLibraryFuncs/Export.h>
@@ -23,7 +23,7 @@ public:
         CString AppKey;
         /// The name to show.
         CString DisplayName;
-        /// What is started.
+        /// The command that starts it.
         CString Command;
         /// The program file.
         CString ExecutablePath;
@@ -33,15 +33,15 @@ public:
     ~BrowserFuncs();
     BrowserFuncs& operator=(const BrowserFuncs&);
 
-    /// The browsers that this machine registers for the start menu, in the registry's order. `Command` and
-    /// `ExecutablePath` are the same: the command without double quotes, its arguments included.
+    /// The browsers that are registered for this machine's start menu, in the registry's order. `Command` and
+    /// `ExecutablePath` are the same: the command without double quotes, including its arguments.
     ///
     /// A browser without a name or a command, or with one of more than 259 code units, is left out.
     static std::vector<APPITEM> GetBrowserItemsList();
-    /// The packaged Microsoft Edge of early Windows 10, whether it is there or not.
+    /// The packaged Microsoft Edge of early Windows 10, whether it is installed or not.
     static APPITEM GetMicrosoftEdgeAppItem();
-    /// 1 when this machine's list of 32-bit programs has an entry "Microsoft Edge" that can be uninstalled, else 0.
-    /// The list of other programs is not looked at.
+    /// 1 when this machine's list of 32-bit programs has an entry "Microsoft Edge" that can be uninstalled, else 0. The
+    /// list of other programs is not read.
     static int IsInstalledMicrosoftEdgeChromium();
 };
 

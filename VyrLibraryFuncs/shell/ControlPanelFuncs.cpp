@@ -1,4 +1,3 @@
-// Pages of the Control Panel.
 #include <VyrLibraryFuncs/shell/ControlPanelFuncs.h>
 
 #include <VyrLibraryUtils/FileUtils.h>

@@ -10,8 +10,8 @@ using HWND = HWND__*;
 
 namespace VyrLibraryFuncs {
 
-/// Opens pages of the Control Panel, without waiting until they are closed. Linux has no Control Panel: there each
-/// gives 0.
+/// Opens pages of the Control Panel without waiting until they are closed. Linux has no Control Panel: there both
+/// return 0.
 class VYR_FUNCS_API ControlPanelFuncs
 {
 public:
@@ -23,7 +23,7 @@ public:
     /// @param owner the window that messages of the system belong to, or a null pointer.
     /// @return 1 when it was started, else 0.
     static int ExecDateAndTime(HWND owner);
-    /// Opens the list of installed programs, likewise.
+    /// Opens the list of installed programs, with the same argument and result.
     static int ExecProgramsAndFeatures(HWND owner);
 
 private:

@@ -1,4 +1,3 @@
-// Features of the web-browser control.
 #include <VyrLibraryFuncs/shell/FeatureControlFuncs.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
@@ -15,7 +14,7 @@ namespace VyrLibraryFuncs {
 
 namespace {
 
-/// The backslash at its end is a part of it: names of features follow directly.
+/// Ends in a backslash: the names of features follow directly.
 const char16_t featureControl[] = u"Software\\Microsoft\\Internet Explorer\\Main\\FeatureControl\\";
 
 // As the system's URL library declares them; a negative result is a failure.
@@ -28,7 +27,7 @@ CString FeaturePath(const CString& featureName)
     return featureControl + featureName;
 }
 
-/// Whether this machine has feature controls, and the user's key for them is there, made where it was missing.
+/// Whether this machine has feature controls and the user's key for them exists, created if necessary.
 bool PrepareFeatureControl()
 {
     return Key::Open(HKEY_LOCAL_MACHINE, featureControl, Access::Read).IsOpen() &&

@@ -10,13 +10,12 @@
 
 namespace VyrLibraryFuncs {
 
-/// Switches features of the web-browser controls that the host's process shows: some for the running process, by the
-/// system's URL library; others for good, by values of the user's registry that are named after the host's executable
-/// file. What fails does nothing and tells nothing; what was done before stays.
+/// Switches features of the web-browser controls in the host's process: some for the running process, through the
+/// system's URL library; others permanently, by values in the user's registry under the name of the host's executable
+/// file. A failure changes nothing and is not reported; earlier changes stay.
 ///
-/// The values are only written where this machine's registry has the key
-/// `Software\Microsoft\Internet Explorer\Main\FeatureControl`. Linux has no URL library: there the switches of the
-/// process do nothing.
+/// The values are written only where this machine's registry has the key `Software\Microsoft\Internet
+/// Explorer\Main\FeatureControl`. Linux has no URL library: there the switches of the process have no effect.
 class VYR_FUNCS_API FeatureControlFuncs
 {
 public:
@@ -26,25 +25,25 @@ public:
 
     // For the running process, from now on.
 
-    /// Feature 9: the bar that tells of what was blocked.
+    /// Feature 9: the bar that reports blocked content.
     /// @param enable non-zero switches it on, as in those below.
     static void SetFeatureSecurityBand(int enable);
     /// Feature 5: pop-up windows are managed.
     static void SetFeatureWebocPopupManagement(int enable);
     /// Feature 8: pages of this machine are locked down.
     static void SetFeatureLocalMachineLockDown(int enable);
-    /// Feature 12: downloads that nobody asked for are blocked.
+    /// Feature 12: downloads that the user did not request are blocked.
     static void SetFeatureRestrictFileDownload(int enable);
     /// Feature 10: installing ActiveX controls is blocked.
     static void SetFeatureRestrictActiveXInstall(int enable);
     /// Feature 19: pages open in tabs.
     static void SetFeatureTabbedBrowsing(int enable);
-    /// Feature 21: going to a page makes no sound.
+    /// Feature 21: navigation makes no sound.
     static void SetFeatureDisableNavigationSounds(int enable);
     /// Feature 26: feeds are shown.
     static void SetFeatureFeeds(int enable);
 
-    // For the host's executable file, for good.
+    // For the host's executable file, permanently.
 
     /// Sets FEATURE_BLOCK_LMZ_IMG to `value`.
     static void SetFeatureBlockLMZImg(std::uint32_t value);

@@ -1,4 +1,4 @@
-// Text files: marks, lines and code pages on top of the buffered file, which is always a binary one.
+// Text files: byte order marks, lines and code pages on top of the buffered file, which is always binary.
 #include <VyrLibraryFuncs/textfile/CStdioFileEx.h>
 
 #include <VyrPlatform/files/CInvalidArgException.h>
@@ -15,7 +15,7 @@ using namespace std::string_view_literals;
 constexpr std::uint32_t systemCodePage = 0xFFFFFFFF;
 constexpr std::string_view utf16Mark = "\xFF\xFE"sv;
 constexpr std::string_view utf8Mark = "\xEF\xBB\xBF"sv;
-/// How many units are read at once of a line that is longer than the buffer.
+/// The number of code units that are read at once of a line that is longer than the buffer.
 constexpr std::size_t growth = 128;
 
 std::u16string_view WithoutCarriageReturn(std::u16string_view text) noexcept
@@ -114,7 +114,7 @@ std::uint32_t CStdioFileEx::CodePage() const
     return m_nCodePage == systemCodePage ? VyrPlatform::CodePage::GetAnsi() : m_nCodePage;
 }
 
-/// Reads over the mark. That of UTF-8 is not looked at: whatever stands there is taken for it.
+/// Skips the mark. That of UTF-8 is not checked: the first bytes are skipped in any case.
 void CStdioFileEx::DropMark()
 {
     char mark[std::max(utf16Mark.size(), utf8Mark.size())];
@@ -132,8 +132,7 @@ void CStdioFileEx::WriteMark()
         Write(utf8Mark.data(), utf8Mark.size());
 }
 
-/// Reads a line into `line`, which holds a buffer of bufferSize units, and ends it with a NUL in place of its line
-/// feed.
+/// Reads a line into `line`, which has a buffer of bufferSize code units, and replaces its line feed by a NUL.
 /// @return false at the end of the file.
 template <class Unit>
 bool CStdioFileEx::ReadWholeLine(CTemplateSmartPtrArray<Unit>& line)
@@ -142,7 +141,7 @@ bool CStdioFileEx::ReadWholeLine(CTemplateSmartPtrArray<Unit>& line)
     std::size_t length = ReadLine(line.Get(), capacity - 1);
     const bool isAnyRead = length > 0;
     for (std::size_t count = length; count > 0 && line.Get()[length - 1] != Unit('\n'); length += count) {
-        // Room is made ahead, so that a line of any length is copied but a few times.
+        // Capacity grows ahead, so that a line of any length is copied only a few times.
         if (capacity <= length + growth) {
             capacity *= 2;
             line.Allocate(capacity, length);

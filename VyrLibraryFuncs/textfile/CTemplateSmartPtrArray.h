@@ -5,21 +5,20 @@
 #include <algorithm>
 #include <cstddef>
 
-/// Holds a buffer: one that belongs to somebody else, or one from the heap, which it frees. For texts that mostly fit
-/// into a buffer that is there already.
+/// Refers to a buffer: a foreign one, or one from the heap, which it frees. For texts that usually fit into an existing
+/// buffer.
 /// @tparam Unit  char or char16_t.
 template <class Unit>
 class CTemplateSmartPtrArray
 {
 public:
-    /// Holds `buffer`, which outlives this object.
+    /// Refers to `buffer`, which must outlive this object.
     explicit CTemplateSmartPtrArray(Unit* buffer) noexcept : m_buffer(buffer) {}
     CTemplateSmartPtrArray(const CTemplateSmartPtrArray&) = delete;
     CTemplateSmartPtrArray& operator=(const CTemplateSmartPtrArray&) = delete;
     virtual ~CTemplateSmartPtrArray() { Free(); }
 
-    /// Holds a buffer of `size` units from the heap in place of the former one, whose first `kept` units it begins
-    /// with.
+    /// Replaces the buffer by one of `size` units from the heap, and copies the first `kept` units of the former one.
     /// @throws std::bad_alloc  and keeps the former buffer.
     void Allocate(std::size_t size, std::size_t kept = 0)
     {

@@ -1,4 +1,4 @@
-// Log lines: their form, and the name of the file that a host may keep them in.
+// The form of log lines, and the name of the file for them.
 #include <VyrLibraryFuncs/textfile/LogFuncs.h>
 
 #include <VyrLibraryUtils/DateTimeUtils.h>
@@ -21,7 +21,7 @@ namespace VyrLibraryFuncs {
 namespace {
 
 constexpr int usualLevel = 2;
-/// What GetSplitPath takes to give the base name.
+/// The argument of GetSplitPath for the base name.
 constexpr int baseName = 5;
 
 CString MakeLine(CString message, int level)

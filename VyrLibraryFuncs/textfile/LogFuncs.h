@@ -9,14 +9,14 @@ namespace VyrLibraryFuncs {
 
 /// Reports failures as lines of a log.
 ///
-/// A line is a record of three fields in double quotes with commas between, ended by CR LF: the current local date-time
-/// (`yyyy/MM/dd HH:mm:ss`), the level, the message. What stands in the message goes out as it is; a double quote in it
-/// is not doubled.
+/// A line is a record of three fields in double quotes, separated by commas and ended by CR LF: the current local
+/// date-time (`yyyy/MM/dd HH:mm:ss`), the level, the message. The message is written unchanged; a double quote in it is
+/// not doubled.
 ///
 ///     "2024/01/05 10:30:00","2","File not found"
 ///
-/// Lines go to the debugger output (VyrPlatform::DebugOutput). The path of the day's log file is there for a host that
-/// keeps one; nothing here opens it. May be called by several threads at once.
+/// Lines are written to the debugger output (VyrPlatform::DebugOutput). The path of the day's log file is for hosts
+/// that keep one; nothing here opens it. Several threads may write at once.
 class VYR_FUNCS_API LogFuncs
 {
 public:
@@ -27,14 +27,14 @@ public:
     /// The name of the log file of the current local day: `2024-01-05_program.log`, with the base name of the running
     /// program's file.
     static CString GetLogFileName();
-    /// The full path of that file in the program's log folder (PathUtils::GetApplicationLogFolderPath); the bare name
-    /// where the system names no such folder.
+    /// The full path of that file in the program's log folder (PathUtils::GetApplicationLogFolderPath); the name alone
+    /// where the system has no such folder.
     static CString GetApplicationLogFilePath();
 
     /// Writes a line.
     ///
-    /// A file exception that is thrown on the way (by the debugger output's sink) ends here: the number of its cause,
-    /// in decimal, is sent to the debugger output instead. Every other exception passes to the caller.
+    /// A file exception that the sink of the debugger output throws is caught: the number of its cause, in decimal, is
+    /// written to the debugger output instead. Other exceptions pass to the caller.
     /// @param path  the log file; not used.
     /// @param message  the line's text, of any length.
     /// @param level  any number; the library itself uses 2.

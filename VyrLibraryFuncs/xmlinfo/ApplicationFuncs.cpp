@@ -1,4 +1,3 @@
-// The application information file: one read for each question.
 #include <VyrLibraryFuncs/xmlinfo/ApplicationFuncs.h>
 
 #include <VyrLibraryUtils/FileUtils.h>

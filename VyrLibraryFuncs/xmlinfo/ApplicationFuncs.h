@@ -7,8 +7,8 @@
 
 namespace VyrLibraryFuncs {
 
-/// Reads what a host ships in its application information file (PathUtils::GetLocalDataApplicationFilePath): the
-/// release stage of the installed build, and the addresses of three pages.
+/// Reads the application information file of a host (PathUtils::GetLocalDataApplicationFilePath): the release stage of
+/// the installed build, and the addresses of three pages.
 ///
 ///     [Application]
 ///     Version=RC1
@@ -19,8 +19,8 @@ namespace VyrLibraryFuncs {
 ///     [Send Questionnaire]
 ///     Url=https://example.org/questions
 ///
-/// It is a private-profile file (VyrPlatform::PrivateProfile), read anew in each call. A missing file or key reads as
-/// an empty text; a value of more than 259 code units is cut there.
+/// It is a private-profile file (VyrPlatform::PrivateProfile), read in each call. A missing file or key gives an empty
+/// text; a value of more than 259 code units is truncated.
 class VYR_FUNCS_API ApplicationFuncs
 {
 public:
@@ -28,19 +28,19 @@ public:
     ~ApplicationFuncs();
     ApplicationFuncs& operator=(const ApplicationFuncs& other);
 
-    /// The release stage, as it stands in the file.
+    /// The release stage, unchanged.
     static CString GetLocalDataApplicationVersion();
-    /// 1 when the stage begins with "Alpha", whatever the case, else 0. "Alphabet" does.
+    /// 1 when the stage begins with "Alpha" in any case, also "Alphabet", else 0.
     static int IsAlphaVersion();
-    /// 1 when the stage begins with "Beta", whatever the case, else 0.
+    /// 1 when the stage begins with "Beta" in any case, else 0.
     static int IsBetaVersion();
-    /// 1 when the stage begins with "RC", whatever the case, else 0.
+    /// 1 when the stage begins with "RC" in any case, else 0.
     static int IsReleaseCandidateVersion();
-    /// 1 when the whole stage is "RTM", whatever the case, else 0.
+    /// 1 when the stage is "RTM" in any case, else 0.
     static int IsReleaseToManufacturingVersion();
-    /// 1 when the whole stage is "Release", whatever the case, else 0. "Release 2" is not.
+    /// 1 when the stage is "Release" in any case, else 0. "Release 2" is not.
     static int IsReleaseVersion();
-    /// 1 when the whole stage is "RTM" or "Release", whatever the case, else 0.
+    /// 1 when the stage is "RTM" or "Release" in any case, else 0.
     static int IsProductReleaseVersion();
     /// The address of the online support page.
     static CString GetOnlineSupportUrl();

@@ -1,4 +1,3 @@
-// The way through an XML document.
 #include "ElementWalk.h"
 
 #include <VyrPlatform/documents/ComText.h>

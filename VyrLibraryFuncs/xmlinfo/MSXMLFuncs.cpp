@@ -1,4 +1,3 @@
-// XML documents: the steps from a path to a parsed document.
 #include <VyrLibraryFuncs/xmlinfo/MSXMLFuncs.h>
 
 #include <VyrPlatform/documents/ComText.h>

@@ -1,4 +1,3 @@
-// The designs that a host offers for its reports.
 #include <VyrLibraryFuncs/xmlinfo/StyleFuncs.h>
 
 #include "ElementWalk.h"

@@ -11,7 +11,7 @@
 namespace VyrLibraryFuncs {
 
 /// Reads design documents, and keeps the list of their items for the life of the process, without a lock: for the
-/// host's one thread of its interface.
+/// host's interface thread.
 class VYR_FUNCS_API StyleFuncs
 {
 public:
@@ -20,9 +20,9 @@ public:
     {
         /// Its number.
         int id = 0;
-        /// What it stands for: the host knows.
+        /// Its meaning is up to the host.
         CString value;
-        /// What people call it.
+        /// Its name for people.
         CString name;
     };
 
@@ -43,12 +43,11 @@ public:
     ///       </design>
     ///     </designs>
     ///
-    /// Names are matched with their case, at any depth, without a prefix; the root may have any name. Of several
-    /// `design` elements the last one counts. An item without one of the attributes has that of the item before it in
-    /// the same `moreinfo`, or 0 and empty texts. A stop that the host's thread asks for ends the reading: the list
-    /// then has what was read.
+    /// Names match with their case, at any depth, without a prefix; the root may have any name. Of several `design`
+    /// elements the last one counts. An item without an attribute has the value of the item before it in the same
+    /// `moreinfo`; at first 0 and empty texts. A stop ends the reading: the list then has the items read so far.
     /// @return 1 when a `design` element was read; 0 when there is none, when the document does not load (the list is
-    /// empty then), and when there is no file at `path` (the list stays).
+    /// then empty), and when there is no file at `path` (the list is kept).
     /// @throws _com_error  as MSXMLFuncs::LoadXmlFile does.
     static int GetStylesInformation(CString path);
 

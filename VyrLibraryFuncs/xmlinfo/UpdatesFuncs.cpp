@@ -1,4 +1,4 @@
-// What is known of the newest release: the settings, and the comparison with the running program.
+// The settings, and the comparison with the running program.
 #include <VyrLibraryFuncs/xmlinfo/UpdatesFuncs.h>
 
 #include <VyrLibraryUtils/StringUtils.h>

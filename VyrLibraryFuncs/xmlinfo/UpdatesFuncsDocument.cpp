@@ -1,4 +1,3 @@
-// The update document: the newest release, and the list of further information on it.
 #include "ElementWalk.h"
 
 #include <VyrLibraryFuncs/xmlinfo/MSXMLFuncs.h>
@@ -41,7 +40,7 @@ int UpdatesFuncs::SetUpdatesAttributes(IXMLDOMDocumentPtr document)
     int isRead = 0;
     ForEachElement(updates, [&](const IXMLDOMElementPtr& update) {
         m_updateItemsList = GetMoreInfoElementItems(GetElements(update, u"moreinfo"));
-        // The attributes are those of the first element, while the items are those of the last.
+        // The attributes are those of the first element, the items those of the last.
         const IXMLDOMElementPtr first = GetElement(updates, 0);
         for (const auto& [name, setting] : settings)
             *setting = GetAttribute(first, name).value_or(*setting);

@@ -1,4 +1,4 @@
-// When to ask for the newest release, and where: the two updates files.
+// The two updates files: when and where to check.
 #include <VyrLibraryFuncs/textfile/CStdioFileEx.h>
 #include <VyrLibraryFuncs/xmlinfo/UpdatesFuncs.h>
 
@@ -26,11 +26,11 @@ namespace {
 constexpr const char16_t* section = u"Updates";
 constexpr const char16_t* checkedDateKey = u"CheckedDate";
 constexpr int capacity = 260;
-/// What GetParseDateTime is asked with: its mode and the user's locale.
+/// The mode of GetParseDateTime, and the user's locale.
 constexpr int parseMode = 1;
 constexpr std::uint32_t userLocale = 1024;
 
-/// Makes the file at `path` with a comment line and nothing else.
+/// Creates the file at `path` with only a comment line.
 void MakeUpdatesFile(const CString& path)
 {
     FolderUtils::CreateFolderPathExists(FileUtils::GetSplitDirPath(path));
@@ -45,7 +45,7 @@ void MakeUpdatesFile(const CString& path)
             file.Close();
         }
     } catch (const CFileException&) {
-        // Only a full disk comes to this; the date is kept in memory.
+        // Happens only on a full disk; the date is kept in memory.
     }
 }
 
