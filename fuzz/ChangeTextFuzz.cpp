@@ -1,11 +1,11 @@
 // Any texts as what the journal keeps of a change, and any texts that say what is to be changed: they are read or
 // refused, and what is read is written again as it is read.
-#include <VyrHost/metadata/AttributesRule.h>
-#include <VyrHost/metadata/Kinds.h>
-#include <VyrHost/metadata/MarkChange.h>
-#include <VyrHost/metadata/NameDate.h>
-#include <VyrHost/metadata/TimesRule.h>
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/metadata/Attributes.h>
+#include <VyrHost/metadata/Changes.h>
+#include <VyrHost/metadata/Dates.h>
+#include <VyrHost/metadata/Marks.h>
+#include <VyrHost/metadata/Times.h>
+#include <VyrHost/text/Errors.h>
 
 #include <VyrPlatform/text/Encoding.h>
 

@@ -1,8 +1,8 @@
 // Any text that chooses files: ranges of dates and sizes and conditions on names are read or refused with a reason, and
 // what is read can be asked.
 #include <VyrHost/collect/Choice.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrHost/text/TypedDateTime.h>
-#include <VyrHost/text/UsageError.h>
 
 #include <VyrPlatform/text/Encoding.h>
 

@@ -1,9 +1,8 @@
 // Any text that users hand to the program: rules, formats, tables of pairs and edited lists are read or refused with a
 // reason, and no rule makes a name out of bounds.
-#include <VyrHost/rename/EditedList.h>
-#include <VyrHost/rename/Pairs.h>
+#include <VyrHost/rename/NameLists.h>
 #include <VyrHost/rename/RuleTexts.h>
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/text/Errors.h>
 
 #include <VyrPlatform/text/Encoding.h>
 

@@ -1,8 +1,7 @@
 // Any bytes as a journal: what is read can be worked with, stays in its folders, and is written again as it was.
-#include <VyrHost/batch/Checksum.h>
-#include <VyrHost/batch/JournalName.h>
+#include <VyrHost/batch/JournalLines.h>
 #include <VyrHost/batch/JournalText.h>
-#include <VyrHost/model/PlanCheck.h>
+#include <VyrHost/model/RenamePlan.h>
 
 #include <VyrPlatform/files/FileSystem.h>
 

@@ -1,9 +1,9 @@
 // Begins, locates, runs and closes a batch.
 #include <VyrHost/batch/BatchWork.h>
 
-#include <VyrHost/batch/ListingCheck.h>
+#include <VyrHost/batch/DiskLooks.h>
 #include <VyrHost/batch/Locator.h>
-#include <VyrHost/text/ErrorText.h>
+#include <VyrHost/text/Errors.h>
 
 #include <algorithm>
 #include <utility>

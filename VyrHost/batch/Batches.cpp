@@ -2,14 +2,13 @@
 #include <VyrHost/batch/Batches.h>
 
 #include <VyrHost/batch/BatchWork.h>
-#include <VyrHost/batch/SourceStates.h>
-#include <VyrHost/text/ErrorText.h>
-#include <VyrHost/text/FolderPart.h>
+#include <VyrHost/batch/DiskLooks.h>
+#include <VyrHost/model/FolderSet.h>
+#include <VyrHost/text/Errors.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/PathUtils.h>
 #include <VyrPlatform/files/FileSystem.h>
-#include <VyrPlatform/files/FullPath.h>
 #include <VyrPlatform/process/Process.h>
 #include <VyrPlatform/text/Encoding.h>
 #include <VyrPlatform/time/Clock.h>
@@ -59,62 +58,6 @@ CString DescribeDamage(const JournalFile& file, const CString& problem)
         {u"the journal ", file.path, u" is damaged, or newer than this program (", problem, u"); nothing was changed"});
 }
 
-BatchState StateOf(BatchPhase phase)
-{
-    switch (phase) {
-    case BatchPhase::Applying:
-        return BatchState::CutOff;
-    case BatchPhase::Undoing:
-        return BatchState::CutOffUndoing;
-    case BatchPhase::Undone:
-        return BatchState::Undone;
-    case BatchPhase::Applied:
-        break;
-    }
-    return BatchState::Applied;
-}
-
-/// What the journal's last checkpoint tells. It may be of the work before, where that of the last one is missing.
-void AddProgress(BatchInformation& information, const std::optional<CheckpointOutline>& checkpoint)
-{
-    if (!checkpoint)
-        return;
-    const std::size_t renamed = information.entries - checkpoint->entriesBefore - checkpoint->entriesTemporary;
-    if (information.state == BatchState::Undone && !checkpoint->isBackward && renamed > 0)
-        return;
-    information.renamed = renamed;
-    information.wasStopped = checkpoint->wasStopped;
-    if (information.state == BatchState::Applied && checkpoint->isBackward)
-        information.state = BatchState::UndonePartly;
-}
-
-BatchInformation Describe(const JournalFolder& folder, const JournalFile& file)
-{
-    BatchInformation information;
-    information.number = file.number;
-    information.undo = file.undo;
-    information.state = StateOf(file.phase);
-    std::uint32_t error = 0;
-    const std::optional<std::string> text = folder.ReadBeginning(file, error);
-    const std::optional<JournalHeading> heading =
-        text ? ReadHeading(*text, information.problem) : std::optional<JournalHeading>();
-    if (!heading) {
-        information.state = BatchState::Damaged;
-        if (!text)
-            information.problem = Text::ErrorText(error);
-        return information;
-    }
-    information.started = heading->started;
-    information.command = heading->command;
-    information.folder = heading->folder;
-    information.entries = heading->entries;
-    information.firstFrom = heading->firstFrom;
-    information.firstTo = heading->firstTo;
-    if (IsEnded(file.phase))
-        AddProgress(information, ReadLastCheckpoint(folder.ReadCheckpoints(file), information.entries));
-    return information;
-}
-
 /// The batch that is undone by `number`, or whose undo has that number.
 std::optional<JournalFile> Find(const JournalFolder& folder, std::uint32_t number, Direction direction,
                                 BatchSummary& summary)
@@ -150,7 +93,7 @@ CString DescribeAbsence(const JournalFile& file, Direction direction)
 /// `path` without the separator at its end, which that of a root keeps.
 CString WithoutSeparator(std::u16string_view path)
 {
-    const bool isRoot = path.empty() || Text::FolderPart(path.substr(0, path.size() - 1)).empty();
+    const bool isRoot = path.empty() || Model::FolderPart(path.substr(0, path.size() - 1)).empty();
     return isRoot ? path : path.substr(0, path.size() - 1);
 }
 
@@ -158,7 +101,7 @@ CString WithoutSeparator(std::u16string_view path)
 std::u16string_view CommonPart(std::u16string_view left, std::u16string_view right)
 {
     const auto [end, other] = std::mismatch(left.begin(), left.end(), right.begin(), right.end());
-    return Text::FolderPart(left.substr(0, static_cast<std::size_t>(end - left.begin())));
+    return Model::FolderPart(left.substr(0, static_cast<std::size_t>(end - left.begin())));
 }
 
 /// The folder that all changes lie in, before the batch and after it; empty where there is none.
@@ -175,7 +118,7 @@ CString FindCommonFolder(const Journal& journal)
         if (!isUsed[folder])
             continue;
         CString path = Model::PathBefore(journal.plan, folder);
-        if (Text::FolderPart(path).size() != path.View().size())
+        if (Model::FolderPart(path).size() != path.View().size())
             path += VyrPlatform::FileSystem::Separator();
         common = common ? CString(CommonPart(*common, path)) : path;
     }
@@ -217,52 +160,7 @@ Number NumberFromEnvironment(const CString& name, Number otherwise)
     return error == std::errc() && end == text.data() + text.size() && number >= 1 ? number : otherwise;
 }
 
-bool LiesIn(const CString& path, const FileState& folder)
-{
-    if (path.IsEmpty() || folder.kind != VyrPlatform::FileSystem::Kind::Folder)
-        return false;
-    const std::vector<VyrPlatform::FileIdentity> way = WayTo(path);
-    return std::find(way.begin(), way.end(), folder.identity) != way.end();
-}
-
-Model::ResultPath PathOf(const CString& path)
-{
-    const std::u16string_view folder = Text::FolderPart(path);
-    return {folder, folder, path.View().substr(folder.size())};
-}
-
 } // namespace
-
-Model::Result BatchResults::At(std::size_t index) const
-{
-    const BatchEntry& entry = m_entries[index];
-    const bool isForward = m_direction == Direction::Forward;
-    Model::Result result;
-    result.kind = entry.change ? entry.change->Kind() : "rename";
-    result.from = PathOf(entry.change || isForward ? entry.before : entry.after);
-    if (!entry.change)
-        result.to = PathOf(isForward ? entry.after : entry.before);
-    else if (isForward)
-        result.values = {entry.change->ShownBefore(), entry.change->ShownAfter()};
-    else
-        result.values = {entry.change->ShownAfter(), entry.change->ShownBefore()};
-    result.status = entry.result.status;
-    result.reason = entry.result.reason;
-    result.hasChanged = entry.hasChanged;
-    return result;
-}
-
-UndoCandidates FindUndoCandidates(const std::vector<BatchInformation>& batches, const CString& folder)
-{
-    const FileState current = VyrPlatform::LookAtFile(VyrPlatform::GetRealPath(folder));
-    UndoCandidates candidates;
-    for (const BatchInformation& batch : batches) {
-        const bool isDamaged = batch.state == BatchState::Damaged;
-        if (isDamaged || CanBeUndone(batch.state))
-            (isDamaged || LiesIn(batch.folder, current) ? candidates.here : candidates.elsewhere).push_back(batch);
-    }
-    return candidates;
-}
 
 BatchSettings SettingsFromEnvironment()
 {
@@ -330,19 +228,6 @@ BatchSummary Batches::Apply(Model::RenamePlan plan, const RenameReport& report, 
     if (!summary.wasBegun)
         summary.notReached = count;
     return summary;
-}
-
-std::vector<BatchInformation> Batches::List() const
-{
-    const JournalFolder folder = OpenJournals();
-    std::vector<BatchInformation> batches;
-    for (const JournalFile& file : folder.List()) {
-        BatchInformation& batch = batches.emplace_back(Describe(folder, file));
-        if (!IsEnded(file.phase) && folder.IsLockedByAnother())
-            batch.state = BatchState::BeingWorkedOn;
-    }
-    std::reverse(batches.begin(), batches.end());
-    return batches;
 }
 
 BatchSummary Batches::Undo(std::uint32_t number, const BatchEntryReport& report, const StopRequest& isStopAsked)
@@ -421,16 +306,6 @@ BatchSummary Batches::Preview(std::uint32_t number, Direction direction, const B
     return summary;
 }
 
-std::optional<BatchInformation> Batches::FindCutOff() const
-{
-    const JournalFolder folder = OpenJournals();
-    if (!folder.FindOpen() || folder.IsLockedByAnother())
-        return {};
-    // Its program may just have ended it.
-    const std::optional<JournalFile> file = folder.FindOpen();
-    return file ? Describe(folder, *file) : std::optional<BatchInformation>();
-}
-
 BatchSummary Batches::Recover(Recovery recovery, const BatchEntryReport& report, const StopRequest& isStopAsked)
 {
     BatchSummary summary;
@@ -448,7 +323,8 @@ BatchSummary Batches::Recover(Recovery recovery, const BatchEntryReport& report,
         summary.error = CString::Join({summary.error, wayOut});
         return summary;
     }
-    const Direction direction = DoesRenames(recovery, StateOf(file->phase)) ? Direction::Forward : Direction::Backward;
+    const BatchState state = file->phase == BatchPhase::Applying ? BatchState::CutOff : BatchState::CutOffUndoing;
+    const Direction direction = DoesRenames(recovery, state) ? Direction::Forward : Direction::Backward;
     BatchWork work(*m_files, folder, std::move(*journal), summary);
     if (!work.Locate(*file, direction))
         summary.error =

@@ -2,7 +2,7 @@
 #include <VyrHost/batch/Executor.h>
 
 #include <VyrHost/model/Prefetch.h>
-#include <VyrHost/text/ErrorText.h>
+#include <VyrHost/text/Errors.h>
 
 #include <VyrHostPlatform/RenameFile.h>
 

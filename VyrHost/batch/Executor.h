@@ -2,7 +2,7 @@
 /// Performs the steps of a plan, or undoes them, and never loses a file.
 #pragma once
 
-#include <VyrHost/batch/FolderCache.h>
+#include <VyrHost/batch/FileOperations.h>
 #include <VyrHost/batch/PlanProgress.h>
 #include <VyrHost/model/Result.h>
 

@@ -1,8 +1,8 @@
 // Journal files: their names, their order, their ends.
 #include <VyrHost/batch/JournalFolder.h>
 
-#include <VyrHost/text/ErrorText.h>
-#include <VyrHost/text/FolderPart.h>
+#include <VyrHost/model/FolderSet.h>
+#include <VyrHost/text/Errors.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/FolderUtils.h>
@@ -119,9 +119,9 @@ std::vector<VyrPlatform::FileIdentity> WayTo(const CString& path)
     std::vector<VyrPlatform::FileIdentity> way;
     for (const CString& written : {VyrPlatform::GetFullPath(path), VyrPlatform::GetRealPath(path)}) {
         // A link is looked at itself without a separator behind it, and followed with one; a root has one in any case.
-        for (std::u16string_view at = written; !Text::FolderPart(at).empty();
-             at = at.substr(0, Text::FolderPart(at).size() - 1))
-            for (const std::u16string_view seen : {at, Text::FolderPart(at)})
+        for (std::u16string_view at = written; !Model::FolderPart(at).empty();
+             at = at.substr(0, Model::FolderPart(at).size() - 1))
+            for (const std::u16string_view seen : {at, Model::FolderPart(at)})
                 if (const VyrPlatform::FileState state = VyrPlatform::LookAtFile(seen); state.error == 0)
                     way.push_back(state.identity);
     }

@@ -29,10 +29,11 @@
 
 #include <VyrHost/model/Change.h>
 #include <VyrHost/model/RenamePlan.h>
-
 #include <VyrHostPlatform/DurableFile.h>
 #include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/text/CString.h>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>

@@ -2,7 +2,7 @@
 /// Finds out from the disk how far the work on a batch came.
 #pragma once
 
-#include <VyrHost/batch/FolderCache.h>
+#include <VyrHost/batch/FileOperations.h>
 #include <VyrHost/batch/JournalText.h>
 #include <VyrHost/batch/PlanProgress.h>
 #include <VyrHost/model/SlotTable.h>

@@ -1,17 +1,19 @@
 // Declares and runs "vyr attributes".
-#include <VyrHost/cli/AttributesCommand.h>
+#include <VyrHost/cli/Commands.h>
 
-#include <VyrHost/cli/ArgumentText.h>
-#include <VyrHost/cli/Examples.h>
-#include <VyrHost/cli/ExitCode.h>
-#include <VyrHost/cli/OptionPairs.h>
-#include <VyrHost/cli/TextOptions.h>
-#include <VyrHost/metadata/AttributesChange.h>
-#include <VyrHost/metadata/AttributesRule.h>
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/cli/Arguments.h>
+#include <VyrHost/cli/ChangeRun.h>
+#include <VyrHost/cli/Help.h>
+#include <VyrHost/cli/Messages.h>
+#include <VyrHost/cli/Options.h>
+#include <VyrHost/cli/SourceOptions.h>
+#include <VyrHost/metadata/Attributes.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <CLI/CLI.hpp>
+
+#include <memory>
 
 namespace VyrHost::Cli {
 
@@ -38,10 +40,25 @@ std::uint32_t ReadAttributes(const CLI::App& command, const char* option)
     return bits;
 }
 
+/// Shows the attributes of files, or sets and clears them.
+class AttributesCommand final : public Command
+{
+public:
+    explicit AttributesCommand(CLI::App& program);
+
+    [[nodiscard]] int Run() const override;
+
+private:
+    SourceOptions m_sources;
+    OrderOptions m_order;
+    ChangeOptions m_change;
+    bool m_clearsAll = false;
+};
+
 } // namespace
 
 AttributesCommand::AttributesCommand(CLI::App& program)
-    : m_command(*program.add_subcommand("attributes", "Show the attributes of files, or set and clear them")),
+    : Command(*program.add_subcommand("attributes", "Show the attributes of files, or set and clear them")),
       m_sources(m_command, "change"), m_order(m_command, "Order of the list"), m_change(m_command)
 {
     AddAttributes(m_command, "--set",
@@ -51,12 +68,7 @@ AttributesCommand::AttributesCommand(CLI::App& program)
     AddFlag(m_command, "--clear-all", m_clearsAll, "Clear all six but those that --set names", group);
     m_command.footer("Without an option that sets or clears an attribute they are shown. All others stay. Without "
                      "--apply nothing is changed. What --apply changed, \"vyr undo\" undoes.\n\n" +
-                     AttributesExamples() + "\n" + ExitCode::Table);
-}
-
-bool AttributesCommand::IsChosen() const
-{
-    return m_command.parsed();
+                     AttributesExamples() + "\n" + ExitCode::table);
 }
 
 int AttributesCommand::Run() const
@@ -75,6 +87,11 @@ int AttributesCommand::Run() const
     if (set == 0 && clear == 0)
         return ShowFiles(request.sources, u"name,attributes", m_change);
     return RunChanges(request, Metadata::AttributesRule(set, clear), m_change);
+}
+
+std::unique_ptr<Command> AddAttributesCommand(CLI::App& program)
+{
+    return std::make_unique<AttributesCommand>(program);
 }
 
 } // namespace VyrHost::Cli

@@ -1,19 +1,16 @@
 // Carries out a call that changes files in place: gathers, proposes, shows, and applies.
 #include <VyrHost/cli/ChangeRun.h>
 
-#include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/BatchRun.h>
 #include <VyrHost/cli/FileRecords.h>
 #include <VyrHost/cli/Messages.h>
-#include <VyrHost/cli/OpenBatches.h>
-#include <VyrHost/cli/OptionPairs.h>
-#include <VyrHost/cli/Report.h>
-#include <VyrHost/cli/TextOptions.h>
-#include <VyrHost/metadata/ChangeResults.h>
+#include <VyrHost/cli/Options.h>
+#include <VyrHost/metadata/Changes.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
-#include <VyrHost/text/UsageError.h>
-#include <VyrHost/ui/Progress.h>
 #include <VyrHost/ui/RecordWriters.h>
 #include <VyrHost/ui/ResultOutput.h>
+#include <VyrHost/ui/Terminal.h>
 #include <VyrHostPlatform/Console.h>
 #include <VyrHostPlatform/Interrupt.h>
 #include <VyrPlatform/text/Encoding.h>
@@ -41,8 +38,8 @@ public:
         if (m_style.isPreview)
             OfferRecovery();
         TakeEntries();
-        const int applied = m_style.isPreview ? ExitCode::Success : Apply();
-        return applied == ExitCode::Blocked ? applied : std::max(applied, Show());
+        const int applied = m_style.isPreview ? ExitCode::success : Apply();
+        return applied == ExitCode::blocked ? applied : std::max(applied, Show());
     }
 
 private:
@@ -63,11 +60,11 @@ private:
     int Apply()
     {
         if (m_entries.empty())
-            return ExitCode::Success;
+            return ExitCode::success;
         Batch::Batches batches = OpenBatches(WaitTenSeconds());
         if (const auto cutOff = batches.FindCutOff()) {
             Complain(CutOffNotice(*cutOff) + "; nothing was done");
-            return ExitCode::Blocked;
+            return ExitCode::blocked;
         }
         VyrHostPlatform::Interrupt::Catch();
         Ui::Progress progress("changing", m_entries.size(), m_style.IsSilent());
@@ -87,7 +84,7 @@ private:
         const int code = WriteReport(*m_results, m_style, {}, Ending());
         if (m_style.quiet && m_summary.wasStopped)
             Complain("interrupted: " + Ui::SummaryOf(Model::Tally(*m_results)) + Ending());
-        return std::max(code, m_collected.problems.empty() ? ExitCode::Success : ExitCode::Partly);
+        return std::max(code, m_collected.problems.empty() ? ExitCode::success : ExitCode::partly);
     }
 
     [[nodiscard]] std::string Ending() const

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <VyrHost/cli/SourceOptions.h>
-#include <VyrHost/metadata/Proposal.h>
+#include <VyrHost/metadata/Changes.h>
 
 #include <string>
 #include <string_view>

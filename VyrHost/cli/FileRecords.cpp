@@ -1,12 +1,11 @@
 // Describes the columns of files, and lists files.
 #include <VyrHost/cli/FileRecords.h>
 
-#include <VyrHost/cli/ChoiceOptions.h>
-#include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/RecordOptions.h>
-#include <VyrHost/metadata/AttributesChange.h>
-#include <VyrHost/text/ErrorText.h>
+#include <VyrHost/cli/SourceOptions.h>
+#include <VyrHost/metadata/Attributes.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrPlatform/files/FileAttributes.h>
 #include <VyrPlatform/files/FileIdentity.h>
@@ -137,7 +136,7 @@ std::span<const Ui::RecordField<ListedFile>> FileFields()
 
 FileRecords::FileRecords(const Collect::SourceSettings& sources)
     : m_collected(Collect::CollectEntries(sources)),
-      m_code(m_collected.problems.empty() ? ExitCode::Success : ExitCode::Partly)
+      m_code(m_collected.problems.empty() ? ExitCode::success : ExitCode::partly)
 {
     for (const CString& problem : m_collected.problems)
         Cli::Complain(Text::SafeText(problem));
@@ -149,7 +148,7 @@ FileRecords::FileRecords(const Collect::SourceSettings& sources)
             m_files.push_back(std::move(file));
             continue;
         }
-        m_code = ExitCode::Partly;
+        m_code = ExitCode::partly;
         Cli::Complain("'" + Text::SafeText(file.ShownPath()) +
                       "': " + Text::SafeText(Text::ErrorText(VyrPlatform::LookAtFile(file.Path()).error)));
     }

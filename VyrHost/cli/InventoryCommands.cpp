@@ -1,14 +1,16 @@
 // Declares and runs "vyr programs" and "vyr browsers".
-#include <VyrHost/cli/InventoryCommands.h>
+#include <VyrHost/cli/Commands.h>
 
-#include <VyrHost/cli/ArgumentText.h>
-#include <VyrHost/cli/Examples.h>
-#include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/Arguments.h>
+#include <VyrHost/cli/Help.h>
 #include <VyrHost/cli/Messages.h>
-#include <VyrHost/cli/OptionPairs.h>
+#include <VyrHost/cli/Options.h>
+#include <VyrHost/cli/RecordOptions.h>
 #include <VyrHost/cli/SettingsPage.h>
+#include <VyrHost/inventory/Inventory.h>
+#include <VyrHost/inventory/Place.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
-#include <VyrHost/text/UsageError.h>
 #include <VyrHost/ui/InventoryOutput.h>
 #include <VyrLibraryFuncs/shell/ControlPanelFuncs.h>
 #include <VyrLibraryUtils/FileUtils.h>
@@ -18,6 +20,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <memory>
+#include <optional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -28,9 +33,86 @@ namespace {
 using Inventory::PlaceKind;
 using Inventory::Scope;
 
-constexpr const char* Group = "What to list";
+constexpr const char* placeGroup = "Where to look";
+constexpr const char* whyOne = "one place is looked at";
 
-constexpr ExclusivePair Exclusive[] = {
+constexpr ExclusivePair onePlace[] = {
+    {"WHERE", "--disk", whyOne},   {"WHERE", "--hives", whyOne}, {"WHERE", "--wine", whyOne},
+    {"--disk", "--hives", whyOne}, {"--disk", "--wine", whyOne}, {"--hives", "--wine", whyOne},
+};
+
+void AddFolder(CLI::App& command, const char* name, std::optional<std::string>& folder, const char* help)
+{
+    const auto take = [&folder](const std::string& given) {
+        folder = given;
+    };
+    command.add_option_function<std::string>(name, take, help)->type_name("FOLDER")->group(placeGroup);
+}
+
+/// The options that say whose registry is looked at: WHERE, --disk, --hives and --wine.
+class PlaceOptions
+{
+public:
+    explicit PlaceOptions(CLI::App& command);
+    PlaceOptions(const PlaceOptions&) = delete;
+    PlaceOptions& operator=(const PlaceOptions&) = delete;
+
+    /// @throws UsageError
+    [[nodiscard]] Inventory::PlaceRequest Read() const;
+
+private:
+    CLI::App& m_command;
+    std::optional<std::string> m_where;
+    std::optional<std::string> m_disk;
+    std::optional<std::string> m_hives;
+    std::optional<std::string> m_wine;
+};
+
+PlaceOptions::PlaceOptions(CLI::App& command) : m_command(command)
+{
+    command
+        .add_option_function<std::string>(
+            "WHERE", [this](const std::string& text) { m_where = text; },
+            "A mounted Windows disk, a folder of hives, or a Wine prefix; without it this machine on Windows, "
+            "elsewhere "
+            "the prefix $WINEPREFIX or ~/.wine")
+        ->type_name("");
+    AddFolder(command, "--disk", m_disk, "The folder is a mounted Windows disk, or its Windows folder");
+    AddFolder(command, "--hives", m_hives, "The folder holds hives (SOFTWARE, SYSTEM, NTUSER.DAT, UsrClass.dat)");
+    AddFolder(command, "--wine", m_wine, "The folder is a Wine prefix");
+}
+
+Inventory::PlaceRequest PlaceOptions::Read() const
+{
+    CheckOptionPairs(m_command, onePlace);
+    const std::pair<const std::optional<std::string>&, std::optional<PlaceKind>> given[] = {
+        {m_where, std::nullopt},
+        {m_disk, PlaceKind::Disk},
+        {m_hives, PlaceKind::Hives},
+        {m_wine, PlaceKind::WinePrefix}};
+    Inventory::PlaceRequest request;
+    for (const auto& [folder, kind] : given)
+        if (folder) {
+            request.path = FromParser(*folder);
+            request.kind = kind;
+        }
+    return request;
+}
+
+/// Says what could not be read, and what may be missing.
+/// @return the exit code that tells it.
+int Complain(const Inventory::Notes& notes)
+{
+    for (const std::string& warning : notes.warnings)
+        Cli::Complain(warning);
+    for (const std::string& failure : notes.failures)
+        Cli::Complain(failure);
+    return notes.failures.empty() ? ExitCode::success : ExitCode::partly;
+}
+
+constexpr const char* group = "What to list";
+
+constexpr ExclusivePair exclusive[] = {
     {"--installer", "--show-hidden", "no installer product is hidden"},
     {"--installer", "--no-32-bit", "installer products are kept in one list"},
 };
@@ -40,7 +122,7 @@ void AddText(CLI::App& command, const char* name, const char* value, std::option
     const auto take = [&text](const std::string& given) {
         text = given;
     };
-    command.add_option_function<std::string>(name, take, help)->type_name(value)->group(Group);
+    command.add_option_function<std::string>(name, take, help)->type_name(value)->group(group);
 }
 
 /// Leaves out the rows of records that do not hold the text that was asked for.
@@ -80,34 +162,67 @@ std::string TotalOf(const std::vector<Inventory::Program>& programs, std::size_t
     return total + ".";
 }
 
+/// Lists the programs, or the installer products, that are installed.
+class ProgramsCommand final : public Command
+{
+public:
+    explicit ProgramsCommand(CLI::App& program);
+
+    [[nodiscard]] int Run() const override;
+
+private:
+    [[nodiscard]] Inventory::Scope ReadScope() const;
+    [[nodiscard]] int WritePrograms(const Inventory::Place& place, Inventory::Scope scope) const;
+    [[nodiscard]] int WriteProducts(const Inventory::Place& place, Inventory::Scope scope) const;
+
+    const PlaceOptions m_place;
+    std::optional<std::string> m_user;
+    std::optional<std::string> m_scope;
+    std::optional<std::string> m_find;
+    bool m_installer = false;
+    bool m_no32Bit = false;
+    bool m_showHidden = false;
+    bool m_openSettings = false;
+    RecordOptions m_records;
+};
+
+/// Lists the browsers that are installed.
+class BrowsersCommand final : public Command
+{
+public:
+    explicit BrowsersCommand(CLI::App& program);
+
+    [[nodiscard]] int Run() const override;
+
+private:
+    const PlaceOptions m_place;
+    std::optional<std::string> m_find;
+    RecordOptions m_records;
+};
+
 } // namespace
 
 ProgramsCommand::ProgramsCommand(CLI::App& program)
-    : m_command(*program.add_subcommand("programs", "List the programs that are installed in a Windows")),
+    : Command(*program.add_subcommand("programs", "List the programs that are installed in a Windows")),
       m_place(m_command), m_records(m_command, Ui::ProgramColumns())
 {
     AddText(m_command, "--user", "NAME", m_user, "Of a disk: list what this user has, beside what all have");
     AddText(m_command, "--scope", "all|user|machine", m_scope,
             "Whose programs: those of users, those of the machine, or all (the default)");
     AddText(m_command, "--find", "TEXT", m_find, "Only those whose name or publisher holds the text, in any case");
-    m_command.add_flag("--no-32-bit", m_no32Bit, "Leave out those in the keys of 32-bit programs")->group(Group);
+    m_command.add_flag("--no-32-bit", m_no32Bit, "Leave out those in the keys of 32-bit programs")->group(group);
     m_command
         .add_flag("--show-hidden", m_showHidden,
                   "Also those that the system's own list hides: without a name, components of the system, parts of "
                   "other programs")
-        ->group(Group);
+        ->group(group);
     m_command
         .add_flag("--installer", m_installer,
                   "List the products of Windows Installer instead; their columns are " +
                       Ui::NamesOf(Ui::ProductColumns()))
-        ->group(Group);
+        ->group(group);
     AddOpenSettings(m_command, "Open the system's own list of programs (on Windows), and list nothing", m_openSettings);
-    m_command.footer(ProgramsExamples() + "\n" + ExitCode::Table);
-}
-
-bool ProgramsCommand::IsChosen() const
-{
-    return m_command.parsed();
+    m_command.footer(ProgramsExamples() + "\n" + ExitCode::table);
 }
 
 int ProgramsCommand::Run() const
@@ -115,7 +230,7 @@ int ProgramsCommand::Run() const
     if (m_openSettings)
         return OpenSettings(
             m_command, {"this system's list of programs", VyrLibraryFuncs::ControlPanelFuncs::ExecProgramsAndFeatures});
-    CheckOptionPairs(m_command, Exclusive);
+    CheckOptionPairs(m_command, exclusive);
     m_records.Check(m_installer ? Ui::ProductColumns() : Ui::ProgramColumns());
     Inventory::PlaceRequest request = m_place.Read();
     if (m_user)
@@ -164,16 +279,11 @@ int ProgramsCommand::WriteProducts(const Inventory::Place& place, Scope scope) c
 }
 
 BrowsersCommand::BrowsersCommand(CLI::App& program)
-    : m_command(*program.add_subcommand("browsers", "List the browsers that are installed in a Windows")),
+    : Command(*program.add_subcommand("browsers", "List the browsers that are installed in a Windows")),
       m_place(m_command), m_records(m_command, Ui::BrowserColumns())
 {
     AddText(m_command, "--find", "TEXT", m_find, "Only those whose name holds the text, in any case");
-    m_command.footer(BrowsersExamples() + "\n" + ExitCode::Table);
-}
-
-bool BrowsersCommand::IsChosen() const
-{
-    return m_command.parsed();
+    m_command.footer(BrowsersExamples() + "\n" + ExitCode::table);
 }
 
 int BrowsersCommand::Run() const
@@ -186,6 +296,16 @@ int BrowsersCommand::Run() const
     Filter(browsers, m_find);
     return m_records.Write(Ui::TableOfBrowsers(browsers), CountedNoun(browsers.size(), "browser", "browsers") + ".",
                            code);
+}
+
+std::unique_ptr<Command> AddProgramsCommand(CLI::App& program)
+{
+    return std::make_unique<ProgramsCommand>(program);
+}
+
+std::unique_ptr<Command> AddBrowsersCommand(CLI::App& program)
+{
+    return std::make_unique<BrowsersCommand>(program);
 }
 
 } // namespace VyrHost::Cli

@@ -1,25 +1,41 @@
 // Declares and runs "vyr list".
-#include <VyrHost/cli/ListCommand.h>
+#include <VyrHost/cli/Commands.h>
 
-#include <VyrHost/cli/Examples.h>
-#include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/FileRecords.h>
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/cli/Help.h>
+#include <VyrHost/cli/Messages.h>
+#include <VyrHost/cli/RecordOptions.h>
+#include <VyrHost/cli/SourceOptions.h>
+#include <VyrHost/text/Errors.h>
 
 #include <CLI/CLI.hpp>
 
+#include <memory>
+
 namespace VyrHost::Cli {
 
+namespace {
+
+/// Lists files with what can be told of them.
+class ListCommand final : public Command
+{
+public:
+    explicit ListCommand(CLI::App& program);
+
+    [[nodiscard]] int Run() const override;
+
+private:
+    SourceOptions m_sources;
+    RecordOptions m_records;
+};
+
+} // namespace
+
 ListCommand::ListCommand(CLI::App& program)
-    : m_command(*program.add_subcommand("list", "List files with their sizes, times, attributes and marks")),
+    : Command(*program.add_subcommand("list", "List files with their sizes, times, attributes and marks")),
       m_sources(m_command, "list"), m_records(m_command, Ui::ColumnsOf(FileFields()))
 {
-    m_command.footer(ListExamples() + "\n" + ExitCode::Table);
-}
-
-bool ListCommand::IsChosen() const
-{
-    return m_command.parsed();
+    m_command.footer(ListExamples() + "\n" + ExitCode::table);
 }
 
 int ListCommand::Run() const
@@ -30,6 +46,11 @@ int ListCommand::Run() const
         throw Text::UsageError("nothing to list is named; \"vyr list -r .\" lists what is in this folder and below");
     const FileRecords files(sources);
     return m_records.Write(files.Table(), files.Total(), files.Code());
+}
+
+std::unique_ptr<Command> AddListCommand(CLI::App& program)
+{
+    return std::make_unique<ListCommand>(program);
 }
 
 } // namespace VyrHost::Cli

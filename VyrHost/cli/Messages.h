@@ -1,29 +1,48 @@
 /// @file
-/// What the program says on the error stream.
+/// What the program tells its caller: messages on the error stream, and the exit code.
 #pragma once
 
-#include <VyrHost/batch/Batches.h>
-#include <VyrHost/ui/OutputBuffer.h>
+#include <VyrHost/ui/Output.h>
 
 #include <string>
 
 namespace VyrHost::Cli {
 
+/// What the program ends with. docs/vyr.1 says the same.
+namespace ExitCode {
+
+/// Everything that was asked for was done, or can be.
+inline constexpr int success = 0;
+/// Some entries were refused or failed, or a folder could not be read; the rest was done, or can be.
+inline constexpr int partly = 1;
+/// The call itself is wrong; nothing was done.
+inline constexpr int usage = 2;
+/// The result could not be written (a full disk, a closed pipe).
+inline constexpr int output = 3;
+/// Nothing was done: there is no batch to undo, a batch that was cut off is to be recovered first, another program is
+/// at work on a batch, the journal cannot be kept, or update information is not known or cannot be read.
+inline constexpr int blocked = 4;
+/// The work was ended by an interrupt (Ctrl-C).
+inline constexpr int interrupted = 130;
+
+/// The same for the help texts.
+inline constexpr const char* table = "Exit codes:\n"
+                                     "  0    all is done, or can be done\n"
+                                     "  1    some entries were refused or failed, or a folder could not be read\n"
+                                     "  2    the call is wrong; nothing was done\n"
+                                     "  3    the result could not be written\n"
+                                     "  4    nothing was done: there is nothing to undo, a batch that was cut off\n"
+                                     "       waits for \"vyr recover\", another vyr is at work, the journal cannot be\n"
+                                     "       kept, or update information cannot be read\n"
+                                     "  130  interrupted (Ctrl-C); what was done was said\n";
+
+} // namespace ExitCode
+
 /// Writes "vyr: " and `what` (UTF-8, safe to show) as a line.
 void Complain(const std::string& what);
 
 /// Writes the rest of `output`; complains where any of it could not be written.
-/// @return `code`, or ExitCode::Output.
+/// @return `code`, or ExitCode::output.
 [[nodiscard]] int Finish(Ui::OutputBuffer& output, int code);
-
-/// That a batch was cut off, and what ends it.
-[[nodiscard]] std::string CutOffNotice(const Batch::BatchInformation& batch);
-
-/// Complains of a batch that was cut off, if there is one, for a command that need not wait for its end: what such a
-/// command finds on the disk may be half of the batch.
-void OfferRecovery();
-
-/// What a command does while another vyr is at work: says so once, and waits up to ten seconds, or until Ctrl-C.
-[[nodiscard]] Batch::LockWait WaitTenSeconds();
 
 } // namespace VyrHost::Cli

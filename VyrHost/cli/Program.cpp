@@ -1,24 +1,13 @@
 // Finds the command in the arguments, runs it, and says what is wrong with the call.
 #include <VyrHost/cli/Program.h>
 
-#include <VyrHost/cli/ArgumentText.h>
-#include <VyrHost/cli/AttributesCommand.h>
-#include <VyrHost/cli/ExitCode.h>
-#include <VyrHost/cli/HelpText.h>
-#include <VyrHost/cli/InventoryCommands.h>
-#include <VyrHost/cli/ListCommand.h>
+#include <VyrHost/cli/Arguments.h>
+#include <VyrHost/cli/Commands.h>
+#include <VyrHost/cli/Help.h>
 #include <VyrHost/cli/Messages.h>
-#include <VyrHost/cli/RecoverCommand.h>
-#include <VyrHost/cli/RenameCommand.h>
-#include <VyrHost/cli/TimesCommand.h>
-#include <VyrHost/cli/TransferCommand.h>
-#include <VyrHost/cli/UnblockCommand.h>
-#include <VyrHost/cli/UndoCommand.h>
-#include <VyrHost/cli/UnknownWords.h>
-#include <VyrHost/cli/UpdatesCommand.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
-#include <VyrHost/text/UsageError.h>
-#include <VyrHost/ui/OutputBuffer.h>
+#include <VyrHost/ui/Output.h>
 #include <VyrLibraryFuncs/xmlinfo/ApplicationFuncs.h>
 #include <VyrLibraryUtils/VersionUtils.h>
 #include <VyrPlatform/documents/ComPointer.h>
@@ -27,6 +16,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
+#include <memory>
 #include <stdexcept>
 #include <string>
 
@@ -49,19 +40,19 @@ int WriteOut(const std::string& text)
 {
     Ui::OutputBuffer output;
     output << text;
-    return Finish(output, ExitCode::Success);
+    return Finish(output, ExitCode::success);
 }
 
 int RefuseCall(const std::string& what)
 {
     Complain(what);
-    return ExitCode::Usage;
+    return ExitCode::usage;
 }
 
 int Fail(const std::string& what)
 {
     Complain(what);
-    return ExitCode::Blocked;
+    return ExitCode::blocked;
 }
 
 } // namespace
@@ -73,47 +64,16 @@ int RunProgram(const std::vector<CString>& arguments)
     program.set_version_flag("--version", VersionText);
     program.allow_windows_style_options(false);
     program.require_subcommand(1);
-    program.get_formatter()->column_width(HelpColumn);
-    const RenameCommand rename(program);
-    const ListCommand list(program);
-    const TimesCommand times(program);
-    const AttributesCommand attributes(program);
-    const UnblockCommand unblock(program);
-    const TransferCommand copy(program, FolderCopy::TransferAction::Copy);
-    const TransferCommand move(program, FolderCopy::TransferAction::Move);
-    const UndoCommand undo(program);
-    const RecoverCommand recover(program);
-    const ProgramsCommand programs(program);
-    const BrowsersCommand browsers(program);
-    const UpdatesCommand updates(program);
+    program.get_formatter()->column_width(helpColumn);
+    const std::vector<std::unique_ptr<Command>> commands = AddCommands(program);
     const VyrPlatform::ComApartment apartment;
     try {
         const std::vector<Argument> cut = CutArguments(program, arguments);
         RefuseUnknownWords(program, CommandOf(program, arguments), cut);
         program.parse(ToParser(cut));
-        if (list.IsChosen())
-            return list.Run();
-        if (times.IsChosen())
-            return times.Run();
-        if (attributes.IsChosen())
-            return attributes.Run();
-        if (unblock.IsChosen())
-            return unblock.Run();
-        if (copy.IsChosen())
-            return copy.Run();
-        if (move.IsChosen())
-            return move.Run();
-        if (undo.IsChosen())
-            return undo.Run();
-        if (recover.IsChosen())
-            return recover.Run();
-        if (programs.IsChosen())
-            return programs.Run();
-        if (browsers.IsChosen())
-            return browsers.Run();
-        if (updates.IsChosen())
-            return updates.Run();
-        return rename.Run();
+        const auto chosen = std::find_if(commands.begin(), commands.end(),
+                                         [](const std::unique_ptr<Command>& command) { return command->IsChosen(); });
+        return (*chosen)->Run();
     } catch (const CLI::CallForVersion&) {
         return WriteOut(VersionText() + "\n");
     } catch (const CLI::CallForHelp&) {

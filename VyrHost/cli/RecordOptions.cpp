@@ -1,12 +1,11 @@
 // Declares the options of lists, and writes a list as they say.
 #include <VyrHost/cli/RecordOptions.h>
 
-#include <VyrHost/cli/ArgumentText.h>
-#include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/Arguments.h>
 #include <VyrHost/cli/Messages.h>
-#include <VyrHost/cli/OptionPairs.h>
-#include <VyrHost/text/UsageError.h>
-#include <VyrHost/ui/OutputBuffer.h>
+#include <VyrHost/cli/Options.h>
+#include <VyrHost/text/Errors.h>
+#include <VyrHost/ui/Output.h>
 #include <VyrHost/ui/RecordWriters.h>
 #include <VyrHostPlatform/Console.h>
 
@@ -19,7 +18,7 @@ namespace VyrHost::Cli {
 
 namespace {
 
-constexpr const char* Group = "How the list is shown";
+constexpr const char* group = "How the list is shown";
 
 } // namespace
 
@@ -31,25 +30,25 @@ RecordOptions::RecordOptions(CLI::App& command, std::vector<Ui::RecordColumn> co
             "--columns", [this](const std::string& text) { m_chosen = text; },
             "The columns, separated by commas, or all; they are " + Ui::NamesOf(m_columns))
         ->type_name("LIST")
-        ->group(Group);
+        ->group(group);
     command
         .add_option_function<std::string>(
             "--sort", [this](const std::string& text) { m_sort = text; },
             "Sort by a column; what has no value there comes last")
         ->type_name("COLUMN")
-        ->group(Group);
-    command.add_flag("--descending", m_descending, "Reverse the order")->group(Group);
+        ->group(group);
+    command.add_flag("--descending", m_descending, "Reverse the order")->group(group);
     command.add_flag("--csv", m_csv, "Write a table for spreadsheets (CSV), with all columns unless some are chosen")
-        ->group(Group);
+        ->group(group);
     command.add_flag("--json", m_json, "Write one JSON object a line, with all columns unless some are chosen")
-        ->group(Group);
-    command.add_flag("-q,--quiet", m_quiet, "Show no headings and no total")->group(Group);
+        ->group(group);
+    command.add_flag("-q,--quiet", m_quiet, "Show no headings and no total")->group(group);
 }
 
 void RecordOptions::Check(std::span<const Ui::RecordColumn> columns) const
 {
-    constexpr ExclusivePair Exclusive[] = {{"--csv", "--json"}, {"--html", "--csv"}, {"--html", "--json"}};
-    CheckOptionPairs(m_command, Exclusive);
+    constexpr ExclusivePair exclusive[] = {{"--csv", "--json"}, {"--html", "--csv"}, {"--html", "--json"}};
+    CheckOptionPairs(m_command, exclusive);
     m_report.Check();
     static_cast<void>(ShownColumns(columns));
     if (m_sort && Ui::FindColumns(columns, FromParser(*m_sort), "--sort").size() != 1)

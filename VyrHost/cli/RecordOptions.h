@@ -39,7 +39,7 @@ public:
     /// @param total  a line such as "3 programs." (UTF-8, safe to show, without a line end), for people behind the
     ///     table, else on the error stream.
     /// With --html the list goes into a page, and people get the total alone.
-    /// @return `code`, or ExitCode::Output.
+    /// @return `code`, or ExitCode::output.
     [[nodiscard]] int Write(Ui::RecordTable table, const std::string& total, int code) const;
 
 private:

@@ -1,35 +1,72 @@
 // Carries out a call of "vyr rename": gathers, names, shows, and applies.
-#include <VyrHost/cli/RenameRequest.h>
+#include <VyrHost/cli/RenameRun.h>
 
 #include <VyrHost/batch/Batches.h>
-#include <VyrHost/cli/ChoiceOptions.h>
-#include <VyrHost/cli/EditNames.h>
-#include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/BatchRun.h>
 #include <VyrHost/cli/Messages.h>
-#include <VyrHost/cli/OpenBatches.h>
-#include <VyrHost/cli/Report.h>
-#include <VyrHost/rename/GivenNames.h>
-#include <VyrHost/rename/Pairs.h>
-#include <VyrHost/text/ErrorText.h>
+#include <VyrHost/cli/SourceOptions.h>
+#include <VyrHost/rename/NameLists.h>
+#include <VyrHost/rename/NameSources.h>
+#include <VyrHost/text/Errors.h>
+#include <VyrHost/text/Input.h>
 #include <VyrHost/text/SafeText.h>
-#include <VyrHost/text/StandardInput.h>
-#include <VyrHost/text/UsageError.h>
-#include <VyrHost/ui/Progress.h>
 #include <VyrHost/ui/ResultOutput.h>
+#include <VyrHost/ui/Terminal.h>
+#include <VyrHostPlatform/Console.h>
+#include <VyrHostPlatform/Editor.h>
 #include <VyrHostPlatform/Interrupt.h>
 #include <VyrHostPlatform/ReadToEnd.h>
 #include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
+#include <vector>
 
 namespace VyrHost::Cli {
 
 namespace {
+
+namespace Console = VyrHostPlatform::Console;
+
+/// Shows the mistake; false where nobody is there to mend it, or does not want to.
+bool IsToBeMended(const std::string& mistake)
+{
+    if (!Console::IsInputTerminal())
+        return false;
+    Complain(mistake);
+    // An interrupt must not end the program before it has named the file of the text.
+    VyrHostPlatform::Interrupt::Catch();
+    Console::Write(Console::Stream::Error, "Press Enter to edit the text again, or Ctrl-C to stop. ");
+    std::uint32_t error = 0;
+    return !Console::ReadInput(error).empty();
+}
+
+/// Has the user edit `names` and answers what came of them, by their places (ParseEdited). A mistake is shown; on a
+/// terminal the editor opens again with the text as it was left, elsewhere the text is kept in its file.
+/// @throws UsageError where the editor fails, and for a mistake that is not mended; it names the file of the text.
+std::unordered_map<std::uint32_t, CString> EditNames(const std::vector<CString>& names)
+{
+    VyrHostPlatform::EditorFile file(Rename::TextForEditing(names));
+    for (;;) {
+        const VyrHostPlatform::EditedText edited = file.Edit();
+        if (!edited.text)
+            throw Text::UsageError(Text::SafeText(edited.error));
+        try {
+            return Rename::ParseEdited(*edited.text, names.size());
+        } catch (const Text::UsageError& mistake) {
+            if (!IsToBeMended(mistake.what()))
+                throw Text::UsageError(std::string(mistake.what()) + "\nThe edited text is kept in " +
+                                       Text::SafeText(file.Keep()));
+        }
+    }
+}
 
 std::string ReadPairsFile(const CString& path)
 {
@@ -75,8 +112,8 @@ public:
         if (isStopped)
             Complain("a name is taken, and --on-conflict=fail was asked for: nothing is renamed");
         m_results.emplace(List(), std::move(m_preview.decisions), std::move(m_preview.causes));
-        const int applied = m_request.apply && !isStopped ? Apply() : ExitCode::Success;
-        if (applied == ExitCode::Blocked)
+        const int applied = m_request.apply && !isStopped ? Apply() : ExitCode::success;
+        if (applied == ExitCode::blocked)
             return applied;
         return std::max({applied, Show(isStopped)});
     }
@@ -149,11 +186,11 @@ private:
     {
         const std::size_t count = m_preview.entries.size();
         if (count == 0)
-            return ExitCode::Success;
+            return ExitCode::success;
         Batch::Batches batches = OpenBatches(WaitTenSeconds());
         if (const auto cutOff = batches.FindCutOff()) {
             Complain(CutOffNotice(*cutOff) + "; nothing was done");
-            return ExitCode::Blocked;
+            return ExitCode::blocked;
         }
         VyrHostPlatform::Interrupt::Catch();
         Ui::Progress progress("renaming", count, IsSilent());
@@ -175,7 +212,7 @@ private:
                         Ending(isStopped));
         if (m_request.quiet && m_summary.wasStopped)
             Complain("interrupted: " + Ui::SummaryOf(Model::Tally(*m_results)) + Ending(isStopped));
-        return std::max(code, m_collected.problems.empty() ? ExitCode::Success : ExitCode::Partly);
+        return std::max(code, m_collected.problems.empty() ? ExitCode::success : ExitCode::partly);
     }
 
     [[nodiscard]] std::string Ending(bool isStopped) const

@@ -1,13 +1,12 @@
 // Declares the options of pages for a browser, and writes a page as they say.
 #include <VyrHost/cli/ReportOptions.h>
 
-#include <VyrHost/cli/ArgumentText.h>
-#include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/Arguments.h>
 #include <VyrHost/cli/Messages.h>
-#include <VyrHost/cli/OptionPairs.h>
+#include <VyrHost/cli/Options.h>
 #include <VyrHost/reports/RecordReport.h>
 #include <VyrHost/reports/ReportFile.h>
-#include <VyrHost/text/ErrorText.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrPlatform/text/Encoding.h>
 
@@ -17,7 +16,7 @@ namespace VyrHost::Cli {
 
 namespace {
 
-constexpr const char* Group = "A page for a browser";
+constexpr const char* group = "A page for a browser";
 
 } // namespace
 
@@ -28,19 +27,19 @@ ReportOptions::ReportOptions(CLI::App& command) : m_command(command)
             .add_option_function<std::string>(
                 name, [&place](const std::string& text) { place = text; }, help)
             ->type_name(type)
-            ->group(Group);
+            ->group(group);
     };
     add("--html", m_file, "FILE", "Write the list as a page for a browser, which sorts and searches it");
-    command.add_flag("--overwrite", m_mayReplace, "Replace a page that exists already")->group(Group);
+    command.add_flag("--overwrite", m_mayReplace, "Replace a page that exists already")->group(group);
     add("--design", m_design, "NAME", "The page's design: plain (the usual one), cards or print");
     add("--designs", m_designs, "FILE", "Take designs from a design document of your own");
 }
 
 void ReportOptions::Check() const
 {
-    constexpr DependentOption Dependent[] = {
+    constexpr DependentOption dependent[] = {
         {"--overwrite", "--html"}, {"--design", "--html"}, {"--designs", "--html"}};
-    CheckOptionPairs(m_command, {}, Dependent);
+    CheckOptionPairs(m_command, {}, dependent);
     if (!m_file)
         return;
     Reports::CheckReportFile(Path(), m_mayReplace);
@@ -58,7 +57,7 @@ int ReportOptions::Write(const Ui::RecordTable& table, const std::string& total,
     if (error == 0)
         return code;
     Complain("the page " + Text::SafeText(Path()) + " cannot be written: " + Text::SafeText(Text::ErrorText(error)));
-    return ExitCode::Output;
+    return ExitCode::output;
 }
 
 CString ReportOptions::Path() const

@@ -31,7 +31,7 @@ public:
 
     /// Writes `table` as a page.
     /// @param total  such as "3 programs." (UTF-8).
-    /// @return `code`, or ExitCode::Output after a complaint.
+    /// @return `code`, or ExitCode::output after a complaint.
     [[nodiscard]] int Write(const Ui::RecordTable& table, const std::string& total, int code) const;
 
 private:

@@ -1,10 +1,10 @@
 // Reads rules off the command line, in the order given.
 #include <VyrHost/cli/RuleOptions.h>
 
-#include <VyrHost/cli/ArgumentText.h>
-#include <VyrHost/cli/OptionPairs.h>
+#include <VyrHost/cli/Arguments.h>
+#include <VyrHost/cli/Options.h>
 #include <VyrHost/rename/RuleTexts.h>
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/text/Errors.h>
 
 #include <CLI/CLI.hpp>
 
@@ -19,7 +19,7 @@ namespace VyrHost::Cli {
 
 namespace {
 
-constexpr int AnyNumber = std::numeric_limits<int>::min();
+constexpr int anyNumber = std::numeric_limits<int>::min();
 
 /// An option as it was given, with its settings.
 struct Given;
@@ -49,7 +49,7 @@ Rename::Rules FromValue(const Given& given)
     return Make(given.values.front());
 }
 
-constexpr RuleOption Options[] = {
+constexpr RuleOption ruleOptions[] = {
     {"--number", "TEMPLATE", 1,
      "A sequence number: \"Trip ###\", \"<Name>-#\". Each # is a digit at least; <Name> keeps the old name",
      [](const Given& given) {
@@ -107,14 +107,14 @@ bool SetNumber(std::optional<int>& setting, const CString& value, int least, con
     return true;
 }
 
-constexpr SettingOption Settings[] = {
+constexpr SettingOption settingOptions[] = {
     {"--start", "N", "First number of --number (1)", "--number",
      [](Given& given, const CString& value) {
-         return SetNumber(given.number.start, value, AnyNumber, "--start");
+         return SetNumber(given.number.start, value, anyNumber, "--start");
      }},
     {"--step", "N", "From one number to the next (1)", "--number",
      [](Given& given, const CString& value) {
-         return SetNumber(given.number.step, value, AnyNumber, "--step");
+         return SetNumber(given.number.step, value, anyNumber, "--step");
      }},
     {"--digits", "N", "Least width of the number, 0 to 255, for a TEMPLATE with a single # or <Number>", "--number",
      [](Given& given, const CString& value) {
@@ -168,10 +168,10 @@ public:
             const CLI::Option& option = *order[index];
             // The parser notes an option once for each of its values.
             std::size_t noted = 1;
-            if (const RuleOption* const rule = FindByName(Options, option)) {
+            if (const RuleOption* const rule = FindByName(ruleOptions, option)) {
                 noted = std::max<std::size_t>(rule->count, 1);
                 AddRule(*rule, TakeValues(option, noted));
-            } else if (const SettingOption* const setting = FindByName(Settings, option)) {
+            } else if (const SettingOption* const setting = FindByName(settingOptions, option)) {
                 AddSetting(*setting, TakeValues(option, 1).front());
             }
             index += noted;
@@ -234,7 +234,7 @@ private:
 
 RuleOptions::RuleOptions(CLI::App& command) : m_command(command)
 {
-    for (const RuleOption& option : Options) {
+    for (const RuleOption& option : ruleOptions) {
         if (option.count == 0)
             AddFlag(command, option)
                 ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
@@ -243,7 +243,7 @@ RuleOptions::RuleOptions(CLI::App& command) : m_command(command)
             AddTexts(command, option.name, option.values, option.count, option.help)
                 ->group("Rules, applied in the order given");
     }
-    for (const SettingOption& setting : Settings)
+    for (const SettingOption& setting : settingOptions)
         AddTexts(command, setting.name, setting.value, 1, setting.help)->group("Settings of the rule before them");
 }
 

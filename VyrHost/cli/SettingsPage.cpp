@@ -1,9 +1,8 @@
 // Opens pages of the system's settings.
 #include <VyrHost/cli/SettingsPage.h>
 
-#include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/text/Errors.h>
 
 #include <CLI/CLI.hpp>
 
@@ -29,9 +28,9 @@ int OpenSettings(const CLI::App& command, const SettingsPage& page)
             throw Text::UsageError("--open-settings and " + option->get_name() +
                                    " exclude each other: --open-settings only opens a page of the system");
     if (page.open(nullptr) != 0)
-        return ExitCode::Success;
+        return ExitCode::success;
     Complain(page.name + std::string(" cannot be opened"));
-    return ExitCode::Blocked;
+    return ExitCode::blocked;
 }
 
 } // namespace VyrHost::Cli

@@ -1,16 +1,106 @@
-// Declares and reads the options that name files.
+// Declares and reads the options that choose files.
 #include <VyrHost/cli/SourceOptions.h>
 
-#include <VyrHost/cli/OptionPairs.h>
-#include <VyrHost/cli/TextOptions.h>
-#include <VyrHost/collect/Wildcard.h>
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/cli/Arguments.h>
+#include <VyrHost/cli/Options.h>
+#include <VyrHost/collect/Choice.h>
+#include <VyrHost/text/Errors.h>
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cstddef>
+#include <vector>
 
 namespace VyrHost::Cli {
+
+namespace {
+
+constexpr const char* group = "Which of them";
+constexpr const char* oneDate = "one date in a call";
+
+constexpr ExclusivePair exclusive[] = {
+    {"--modified", "--created", oneDate}, {"--modified", "--taken", oneDate}, {"--created", "--taken", oneDate}};
+
+void AddNames(CLI::App& command, const char* name, const std::string& help)
+{
+    command.add_option(name, help)
+        ->type_name("NAMES")
+        ->type_size(1)
+        ->expected(1)
+        ->allow_extra_args(false)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+        ->group(group);
+}
+
+std::vector<CString> TextsOf(const CLI::App& command, const char* option)
+{
+    std::vector<CString> texts;
+    for (const std::string& value : command.get_option(option)->results())
+        texts.push_back(FromParser(value));
+    return texts;
+}
+
+std::string Counted(std::size_t count, const char* one, const char* many)
+{
+    return std::to_string(count) + ' ' + (count == 1 ? one : many);
+}
+
+} // namespace
+
+ChoiceOptions::ChoiceOptions(CLI::App& command) : m_command(command)
+{
+    AddNames(command, "--include",
+             "Take only these: \"*.jpg\", contains:TEXT, begins:TEXT, ends:TEXT, equals:TEXT; may be given again for "
+             "others");
+    AddNames(command, "--exclude", "Leave these out, in the same forms, and do not enter such folders");
+    command.add_flag("--match-case", m_matchCase, "Tell upper and lower case apart in --include and --exclude")
+        ->group(group);
+    AddText(command, "--modified", m_modified, "RANGE",
+            "Only what was last changed then: today, yesterday, this-week, last-week, this-month, last-month, "
+            "this-year, last-year, or FROM..TO, such as 2024-01-05..2024-02-29; either may be left out",
+            group);
+    AddText(command, "--created", m_created, "RANGE", "Only what was created then", group);
+    AddText(command, "--taken", m_taken, "RANGE", "Only pictures that were taken then", group);
+    AddText(command, "--size", m_size, "RANGE",
+            "Only what is so large: empty, tiny (to 16 KB), small (to 1 MB), medium (to 128 MB), large (to 1 GB), huge "
+            "(to 4 GB), giant, or FROM..TO, such as 1.5MB.. or 500..16KB",
+            group);
+}
+
+Collect::Choice ChoiceOptions::Read() const
+{
+    CheckOptionPairs(m_command, exclusive);
+    Collect::ChoiceTexts texts;
+    texts.include = TextsOf(m_command, "--include");
+    texts.exclude = TextsOf(m_command, "--exclude");
+    texts.matchCase = m_matchCase;
+    if (m_matchCase && texts.include.empty() && texts.exclude.empty())
+        throw Text::UsageError(WithoutEffect("--match-case", "--include or --exclude"));
+    const auto takeDates = [&texts](const std::optional<std::string>& dates, Collect::ChoiceDate target) {
+        if (dates) {
+            texts.dateTarget = target;
+            texts.dates = FromParser(*dates);
+        }
+    };
+    takeDates(m_modified, Collect::ChoiceDate::Modified);
+    takeDates(m_created, Collect::ChoiceDate::Created);
+    takeDates(m_taken, Collect::ChoiceDate::PictureTaken);
+    if (m_size)
+        texts.sizes = FromParser(*m_size);
+    return Collect::Choice(texts);
+}
+
+std::string LeftOutNotice(const Collect::CollectedEntries& collected)
+{
+    std::string text;
+    if (collected.leftOut > 0)
+        text = Counted(collected.leftOut, "entry was", "entries were") + " left out";
+    if (collected.notEntered > 0)
+        text +=
+            (text.empty() ? "" : "; ") + Counted(collected.notEntered, "folder was", "folders were") + " not entered";
+    return text.empty() ? text : text + ".\n";
+}
 
 SourceOptions::SourceOptions(CLI::App& command, const std::string& verb) : m_command(command), m_choice(command)
 {

@@ -1,16 +1,21 @@
 // Declares and runs "vyr times".
-#include <VyrHost/cli/TimesCommand.h>
+#include <VyrHost/cli/Commands.h>
 
-#include <VyrHost/cli/Examples.h>
-#include <VyrHost/cli/ExitCode.h>
-#include <VyrHost/cli/OptionPairs.h>
+#include <VyrHost/cli/ChangeRun.h>
+#include <VyrHost/cli/Help.h>
+#include <VyrHost/cli/Messages.h>
+#include <VyrHost/cli/Options.h>
 #include <VyrHost/cli/SettingsPage.h>
-#include <VyrHost/cli/TextOptions.h>
-#include <VyrHost/metadata/TimesChange.h>
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/cli/SourceOptions.h>
+#include <VyrHost/metadata/Times.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrLibraryFuncs/shell/ControlPanelFuncs.h>
 
 #include <CLI/CLI.hpp>
+
+#include <memory>
+#include <optional>
+#include <string>
 
 namespace VyrHost::Cli {
 
@@ -28,10 +33,34 @@ COleDateTime ReadStart(const std::string& text)
     return typed->value;
 }
 
+/// Shows the times of files, or sets them.
+class TimesCommand final : public Command
+{
+public:
+    explicit TimesCommand(CLI::App& program);
+
+    [[nodiscard]] int Run() const override;
+
+private:
+    /// Nothing when no time is to be changed.
+    [[nodiscard]] std::optional<Metadata::TimesSettings> ReadSettings() const;
+
+    SourceOptions m_sources;
+    OrderOptions m_order;
+    ChangeOptions m_change;
+    std::optional<std::string> m_modified;
+    std::optional<std::string> m_created;
+    std::optional<std::string> m_accessed;
+    std::optional<std::string> m_shift;
+    std::optional<std::string> m_stagger;
+    std::optional<std::string> m_start;
+    bool m_openSettings = false;
+};
+
 } // namespace
 
 TimesCommand::TimesCommand(CLI::App& program)
-    : m_command(*program.add_subcommand("times", "Show the times of files, or set and move them")),
+    : Command(*program.add_subcommand("times", "Show the times of files, or set and move them")),
       m_sources(m_command, "change"), m_order(m_command, orderGroup), m_change(m_command)
 {
     AddText(m_command, "--set-modified", m_modified, timeForms,
@@ -49,12 +78,7 @@ TimesCommand::TimesCommand(CLI::App& program)
                     m_openSettings);
     m_command.footer("Without an option that sets or moves a time the times are shown. Without --apply nothing is "
                      "changed. What --apply changed, \"vyr undo\" undoes.\n\n" +
-                     TimesExamples() + "\n" + ExitCode::Table);
-}
-
-bool TimesCommand::IsChosen() const
-{
-    return m_command.parsed();
+                     TimesExamples() + "\n" + ExitCode::table);
 }
 
 int TimesCommand::Run() const
@@ -95,6 +119,11 @@ std::optional<Metadata::TimesSettings> TimesCommand::ReadSettings() const
     if (m_start)
         settings.start = ReadStart(*m_start);
     return isAny || m_shift || m_stagger ? std::optional(settings) : std::nullopt;
+}
+
+std::unique_ptr<Command> AddTimesCommand(CLI::App& program)
+{
+    return std::make_unique<TimesCommand>(program);
 }
 
 } // namespace VyrHost::Cli

@@ -1,14 +1,13 @@
 // Declares and runs "vyr undo".
-#include <VyrHost/cli/UndoCommand.h>
+#include <VyrHost/cli/Commands.h>
 
 #include <VyrHost/batch/Batches.h>
-#include <VyrHost/cli/ArgumentText.h>
-#include <VyrHost/cli/Examples.h>
-#include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/Arguments.h>
+#include <VyrHost/cli/BatchRun.h>
+#include <VyrHost/cli/Help.h>
 #include <VyrHost/cli/Messages.h>
-#include <VyrHost/cli/OpenBatches.h>
-#include <VyrHost/cli/OptionPairs.h>
-#include <VyrHost/cli/Report.h>
+#include <VyrHost/cli/Options.h>
+#include <VyrHost/cli/RecordOptions.h>
 #include <VyrHost/rename/RuleTexts.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/ui/BatchList.h>
@@ -18,7 +17,9 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -86,18 +87,37 @@ int NameBatchesElsewhere(const std::vector<Batch::BatchInformation>& batches)
 {
     if (batches.empty()) {
         Complain("there is no batch to undo");
-        return ExitCode::Blocked;
+        return ExitCode::blocked;
     }
     Complain("no batch to undo lies in this folder or below; \"vyr undo NUMBER\" undoes one of the latest elsewhere:");
     for (std::size_t index = 0; index < std::min(mostNamed, batches.size()); ++index)
         Complain(Text::SafeText(Ui::NameOf(batches[index])));
-    return ExitCode::Blocked;
+    return ExitCode::blocked;
 }
+
+/// Undoes a batch, redoes one that was undone, or lists the batches.
+class UndoCommand final : public Command
+{
+public:
+    explicit UndoCommand(CLI::App& program);
+
+    [[nodiscard]] int Run() const override;
+
+private:
+    [[nodiscard]] int List() const;
+    [[nodiscard]] int ReverseNumber(std::uint32_t number) const;
+    [[nodiscard]] int UndoLatest() const;
+
+    RecordOptions m_records;
+    std::optional<std::string> m_batch;
+    bool m_list = false;
+    bool m_preview = false;
+};
 
 } // namespace
 
 UndoCommand::UndoCommand(CLI::App& program)
-    : m_command(*program.add_subcommand("undo", "Undo a batch, the latest of this folder when no number is given")),
+    : Command(*program.add_subcommand("undo", "Undo a batch, the latest of this folder when no number is given")),
       m_records(m_command, Ui::BatchColumns())
 {
     m_command
@@ -110,24 +130,19 @@ UndoCommand::UndoCommand(CLI::App& program)
     m_command.add_flag("--list", m_list, "List the batches instead, the latest first");
     m_command.add_flag("--preview", m_preview, "Show what would be undone, and change nothing");
     m_command.get_option("--quiet")->description("Show only what is not undone; with --list no headings and no total");
-    m_command.footer(UndoExamples() + "\n" + ExitCode::Table);
-}
-
-bool UndoCommand::IsChosen() const
-{
-    return m_command.parsed();
+    m_command.footer(UndoExamples() + "\n" + ExitCode::table);
 }
 
 int UndoCommand::Run() const
 {
-    constexpr ExclusivePair Exclusive[] = {{"--list", "BATCH", "--list lists every batch"},
+    constexpr ExclusivePair exclusive[] = {{"--list", "BATCH", "--list lists every batch"},
                                            {"--list", "--preview", "--list lists every batch"}};
-    constexpr DependentOption Dependent[] = {{"--columns", "--list"},
+    constexpr DependentOption dependent[] = {{"--columns", "--list"},
                                              {"--sort", "--list"},
                                              {"--descending", "--list"},
                                              {"--csv", "--list"},
                                              {"--html", "--list"}};
-    CheckOptionPairs(m_command, Exclusive, Dependent);
+    CheckOptionPairs(m_command, exclusive, dependent);
     m_records.Check();
     std::optional<std::uint32_t> number;
     if (m_batch)
@@ -136,7 +151,7 @@ int UndoCommand::Run() const
         return List();
     if (const auto cutOff = OpenBatches().FindCutOff()) {
         Complain(CutOffNotice(*cutOff) + "; nothing was done");
-        return ExitCode::Blocked;
+        return ExitCode::blocked;
     }
     VyrHostPlatform::Interrupt::Catch();
     return number ? ReverseNumber(*number) : UndoLatest();
@@ -146,7 +161,7 @@ int UndoCommand::List() const
 {
     const std::vector<Batch::BatchInformation> batches = OpenBatches().List();
     return m_records.Write(Ui::TableOfBatches(batches), CountedNoun(batches.size(), "batch", "batches") + ".",
-                           ExitCode::Success);
+                           ExitCode::success);
 }
 
 int UndoCommand::ReverseNumber(std::uint32_t number) const
@@ -160,7 +175,7 @@ int UndoCommand::ReverseNumber(std::uint32_t number) const
         return reversal.Write(reversal.Run(batch, number));
     }
     Complain("the journal has no batch of this number");
-    return ExitCode::Blocked;
+    return ExitCode::blocked;
 }
 
 int UndoCommand::UndoLatest() const
@@ -174,6 +189,11 @@ int UndoCommand::UndoLatest() const
         NamePassedOver(batch, summary);
     }
     return NameBatchesElsewhere(candidates.elsewhere);
+}
+
+std::unique_ptr<Command> AddUndoCommand(CLI::App& program)
+{
+    return std::make_unique<UndoCommand>(program);
 }
 
 } // namespace VyrHost::Cli

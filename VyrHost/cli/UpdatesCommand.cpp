@@ -1,10 +1,9 @@
 // Declares and runs "vyr updates".
-#include <VyrHost/cli/UpdatesCommand.h>
+#include <VyrHost/cli/Commands.h>
 
-#include <VyrHost/cli/ExitCode.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/text/SafeText.h>
-#include <VyrHost/ui/OutputBuffer.h>
+#include <VyrHost/ui/Output.h>
 #include <VyrLibraryFuncs/xmlinfo/UpdatesFuncs.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/PathUtils.h>
@@ -13,6 +12,7 @@
 #include <CLI/CLI.hpp>
 
 #include <limits>
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -54,20 +54,27 @@ void WriteRelease(Ui::OutputBuffer& output)
         output << "- " << Text::SafeText(item.description) << "\n";
 }
 
+/// Tells whether a newer release is offered.
+class UpdatesCommand final : public Command
+{
+public:
+    explicit UpdatesCommand(CLI::App& program);
+
+    [[nodiscard]] int Run() const override;
+
+private:
+    int m_days = 0;
+};
+
 } // namespace
 
 UpdatesCommand::UpdatesCommand(CLI::App& program)
-    : m_command(*program.add_subcommand("updates", "Tell whether a newer release is offered"))
+    : Command(*program.add_subcommand("updates", "Tell whether a newer release is offered"))
 {
     m_command.add_option("--every", m_days, "Look only if the last look was so many days ago or more, or never")
         ->type_name("DAYS")
         ->check(CLI::Range(0, std::numeric_limits<int>::max()).description(""));
-    m_command.footer(ExitCode::Table);
-}
-
-bool UpdatesCommand::IsChosen() const
-{
-    return m_command.parsed();
+    m_command.footer(ExitCode::table);
 }
 
 int UpdatesCommand::Run() const
@@ -76,23 +83,28 @@ int UpdatesCommand::Run() const
     if (address.IsEmpty()) {
         Complain("no address of update information is known; it is \"Url\" in the section \"Updates\" of " +
                  Text::SafeText(PathUtils::GetLocalDataUpdatesFilePath()));
-        return ExitCode::Blocked;
+        return ExitCode::blocked;
     }
     UpdatesFuncs::LoadCheckForUpdatesDate();
     Ui::OutputBuffer output;
     output << "Last look: " << LastLook() << "\n";
     if (!IsDue(m_days))
-        return Finish(output, ExitCode::Success);
+        return Finish(output, ExitCode::success);
     if (UpdatesFuncs::GetUpdatesInformation(address) == 0) {
         output.Flush();
         Complain("the update information at " + Text::SafeText(address) + " cannot be read");
-        return ExitCode::Blocked;
+        return ExitCode::blocked;
     }
     UpdatesFuncs::SaveCheckForUpdatesDate();
     WriteRelease(output);
     const bool isNewer = UpdatesFuncs::CheckForUpdates(UpdatesFuncs::GetVersion()) == 1;
     output << (isNewer ? "This is newer than this program.\n" : "This is not newer than this program.\n");
-    return Finish(output, ExitCode::Success);
+    return Finish(output, ExitCode::success);
+}
+
+std::unique_ptr<Command> AddUpdatesCommand(CLI::App& program)
+{
+    return std::make_unique<UpdatesCommand>(program);
 }
 
 } // namespace VyrHost::Cli

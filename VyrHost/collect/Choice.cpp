@@ -1,9 +1,8 @@
-// Holds files against what was asked for.
+// Matches names against wildcards, in time bounded by the product of both lengths.
 #include <VyrHost/collect/Choice.h>
 
-#include <VyrHost/collect/Wildcard.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrHost/text/NormalForm.h>
-#include <VyrHost/text/UsageError.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/ImageUtils.h>
 #include <VyrPlatform/files/FileTimes.h>
@@ -12,6 +11,36 @@
 #include <utility>
 
 namespace VyrHost::Collect {
+
+bool IsPattern(std::u16string_view pattern)
+{
+    return pattern.find_first_of(u"*?") != std::u16string_view::npos;
+}
+
+bool MatchesPattern(std::u16string_view pattern, std::u16string_view name)
+{
+    constexpr auto none = std::u16string_view::npos;
+    std::size_t atPattern = 0;
+    std::size_t atName = 0;
+    // Where to go on when what follows the last "*" does not fit: that "*" takes one unit more.
+    std::size_t behindStar = none;
+    std::size_t retry = 0;
+    while (atName < name.size()) {
+        if (atPattern < pattern.size() && pattern[atPattern] == u'*') {
+            behindStar = ++atPattern;
+            retry = atName;
+        } else if (atPattern < pattern.size() && (pattern[atPattern] == u'?' || pattern[atPattern] == name[atName])) {
+            ++atPattern;
+            ++atName;
+        } else if (behindStar != none) {
+            atPattern = behindStar;
+            atName = ++retry;
+        } else {
+            return false;
+        }
+    }
+    return pattern.find_first_not_of(u'*', atPattern) == none;
+}
 
 using VyrLibraryFuncs::FilterFuncs;
 using VyrLibraryFuncs::SearchFuncs;

@@ -2,11 +2,10 @@
 /// Which of the files that a call comes upon it is about: by their names, one of their dates and their size.
 #pragma once
 
-#include <VyrPlatform/files/FileSystem.h>
-#include <VyrPlatform/text/CString.h>
-
 #include <VyrLibraryFuncs/select/FilterFuncs.h>
 #include <VyrLibraryFuncs/select/SearchFuncs.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
 #include <optional>
@@ -14,6 +13,12 @@
 #include <vector>
 
 namespace VyrHost::Collect {
+
+/// Whether `pattern` has a "*" or a "?".
+[[nodiscard]] bool IsPattern(std::u16string_view pattern);
+
+/// Whether the whole of `name` is matched by `pattern`: "*" stands for any text, "?" for any one code unit.
+[[nodiscard]] bool MatchesPattern(std::u16string_view pattern, std::u16string_view name);
 
 /// Which date a criterion is about.
 using ChoiceDate = VyrLibraryFuncs::SearchFuncs::DateTimeTarget;

@@ -1,8 +1,8 @@
 // Reads ranges of dates and of sizes.
 #include <VyrHost/collect/Choice.h>
 
+#include <VyrHost/text/Errors.h>
 #include <VyrHost/text/TypedDateTime.h>
-#include <VyrHost/text/UsageError.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
 
 #include <cstddef>

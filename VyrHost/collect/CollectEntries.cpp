@@ -1,13 +1,12 @@
 // Gathers entries from arguments, from the standard input and from folders.
 #include <VyrHost/collect/CollectEntries.h>
 
-#include <VyrHost/collect/NameReader.h>
-#include <VyrHost/collect/Wildcard.h>
-#include <VyrHost/text/FolderPart.h>
+#include <VyrHost/collect/Choice.h>
+#include <VyrHost/model/FolderSet.h>
+#include <VyrHost/text/Errors.h>
+#include <VyrHost/text/Input.h>
 #include <VyrHost/text/NormalForm.h>
 #include <VyrHost/text/SafeText.h>
-#include <VyrHost/text/StandardInput.h>
-#include <VyrHost/text/UsageError.h>
 #include <VyrHostPlatform/NameFolding.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FileIdentity.h>
@@ -45,7 +44,7 @@ bool IsPlain(std::u16string_view path, std::u16string_view name)
 
 std::u16string_view LastStep(std::u16string_view path)
 {
-    const std::u16string_view step = path.substr(Text::FolderPart(path).size());
+    const std::u16string_view step = path.substr(Model::FolderPart(path).size());
     const std::size_t drive = IsSeparator(u'\\') ? step.find(u':') : std::u16string_view::npos;
     return drive == std::u16string_view::npos ? step : step.substr(drive + 1);
 }
@@ -64,7 +63,7 @@ bool LeadsUp(std::u16string_view path)
 CutPath Cut(const CString& path)
 {
     const std::u16string_view text = path;
-    const std::u16string_view before = Text::FolderPart(text);
+    const std::u16string_view before = Model::FolderPart(text);
     const std::u16string_view name = text.substr(before.size());
     if (IsPlain(text, name))
         return {before, name};
@@ -115,7 +114,7 @@ public:
 private:
     void AddInput()
     {
-        NameReader reader(m_settings.input == InputNames::Lines ? '\n' : '\0');
+        Text::NameReader reader(m_settings.input == InputNames::Lines ? '\n' : '\0');
         const auto add = [this](const CString& path) {
             Add(path, false);
         };
@@ -142,7 +141,7 @@ private:
 
     std::uint32_t OpenParent(const CString& folder)
     {
-        if (m_parent == Model::NoEntry || m_parentText != folder) {
+        if (m_parent == Model::noEntry || m_parentText != folder) {
             const CString path =
                 folder.IsEmpty() ? VyrPlatform::Process::GetCurrentFolder() : VyrPlatform::GetFullPath(folder);
             m_parent = List().folders.Open(WithSeparator(path), Shown(folder));
@@ -238,7 +237,7 @@ private:
             ++m_result.leftOut;
             return;
         }
-        if (record.owner != Model::NoEntry)
+        if (record.owner != Model::noEntry)
             throw Text::UsageError("'" + Text::SafeText(CString::Join({List().folders[folder].shown, record.name})) +
                                    "' is named twice");
         record.owner = static_cast<std::uint32_t>(List().entries.size());
@@ -310,7 +309,7 @@ private:
     CollectedEntries m_result;
     /// The folder that the last name was in, as the user wrote it: names of one folder mostly follow each other.
     CString m_parentText;
-    std::uint32_t m_parent = Model::NoEntry;
+    std::uint32_t m_parent = Model::noEntry;
     /// By folder and by their composed forms: the records of names that are not composed.
     std::unordered_map<std::uint32_t, std::unordered_map<CString, Model::NameRecord*>> m_decomposed;
     /// The folders that entries were named in.

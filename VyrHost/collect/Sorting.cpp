@@ -26,8 +26,8 @@ Key KeyOf(const CString& path, SortKey key)
 {
     if (key == SortKey::Taken) {
         const COleDateTime taken = DateTimeUtils::GetExifDateTime(ImageUtils::GetPropertyTagExifDTOrig(path));
-        constexpr double SecondsOfDay = 86400;
-        return taken.GetStatus() == COleDateTime::valid ? Key(std::llround(taken * SecondsOfDay)) : Key();
+        constexpr double secondsOfDay = 86400;
+        return taken.GetStatus() == COleDateTime::valid ? Key(std::llround(taken * secondsOfDay)) : Key();
     }
     const VyrPlatform::FileSystem::Entry entry = VyrPlatform::FileSystem::Query(path);
     if (entry.kind == VyrPlatform::FileSystem::Kind::Missing)

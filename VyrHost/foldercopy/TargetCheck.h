@@ -3,7 +3,7 @@
 #pragma once
 
 #include <VyrHost/foldercopy/FolderSnapshot.h>
-#include <VyrHost/foldercopy/TransferProblem.h>
+#include <VyrHost/foldercopy/Transfer.h>
 
 namespace VyrHost::FolderCopy {
 

@@ -1,8 +1,7 @@
 // Takes trees down, checks, transfers and compares them.
 #include <VyrHost/foldercopy/TransferBatch.h>
 
-#include <VyrHost/foldercopy/CreatedFolders.h>
-#include <VyrHost/foldercopy/TransferFinish.h>
+#include <VyrHost/foldercopy/Transfer.h>
 #include <VyrLibraryUtils/FileUtils.h>
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 // Compares trees, and tries again what is missing: the library keeps no reasons, the second attempt tells them.
-#include <VyrHost/foldercopy/TransferFinish.h>
+#include <VyrHost/foldercopy/Transfer.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FileCopy.h>
@@ -103,7 +103,7 @@ private:
             if (isThere)
                 FinishEntry(entry, path);
             else
-                Report(path, TransferFault::NoFolder);
+                Report(path, TransferFault::noFolder);
         }
     }
 

@@ -1,9 +1,8 @@
 // Tells registries on a disk apart by what is in their folders, and shows them.
 #include <VyrHost/inventory/Place.h>
 
-#include <VyrHost/text/ErrorText.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
-#include <VyrHost/text/UsageError.h>
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/files/FolderListing.h>

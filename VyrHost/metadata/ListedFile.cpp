@@ -11,7 +11,7 @@ namespace VyrHost::Metadata {
 using VyrLibraryUtils::DateTimeUtils;
 using VyrLibraryUtils::ImageUtils;
 using VyrPlatform::FileTicks;
-using Kinds = VyrPlatform::FileSystem::Kind;
+using FileKind = VyrPlatform::FileSystem::Kind;
 
 CString ListedFile::ShownPath() const
 {
@@ -23,7 +23,7 @@ CString ListedFile::Path() const
     return m_list->PathOf(Entry());
 }
 
-Kinds ListedFile::Kind() const
+FileKind ListedFile::Kind() const
 {
     return Entry().kind;
 }
@@ -37,17 +37,17 @@ const VyrPlatform::FileSystem::Entry& ListedFile::State() const
 
 std::optional<std::int64_t> ListedFile::Size() const
 {
-    return State().kind == Kinds::File ? std::optional(State().size) : std::nullopt;
+    return State().kind == FileKind::File ? std::optional(State().size) : std::nullopt;
 }
 
 std::optional<FileTicks> ListedFile::Modified() const
 {
-    return State().kind != Kinds::Missing ? std::optional(State().modified) : std::nullopt;
+    return State().kind != FileKind::Missing ? std::optional(State().modified) : std::nullopt;
 }
 
 std::optional<FileTicks> ListedFile::Accessed() const
 {
-    return State().kind != Kinds::Missing ? std::optional(State().accessed) : std::nullopt;
+    return State().kind != FileKind::Missing ? std::optional(State().accessed) : std::nullopt;
 }
 
 std::optional<FileTicks> ListedFile::Created() const

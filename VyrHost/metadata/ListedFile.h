@@ -2,7 +2,7 @@
 /// What can be told of a file of a list.
 #pragma once
 
-#include <VyrHost/metadata/MarkChange.h>
+#include <VyrHost/metadata/Marks.h>
 #include <VyrHost/model/EntryList.h>
 #include <VyrPlatform/files/FileSystem.h>
 

@@ -1,10 +1,8 @@
 // Finds the new times of a file: where they come from, and by how much they move.
-#include <VyrHost/metadata/TimesRule.h>
+#include <VyrHost/metadata/Times.h>
 
-#include <VyrHost/metadata/NameDate.h>
-#include <VyrHost/metadata/TimesChange.h>
-#include <VyrHost/text/ErrorText.h>
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/metadata/Dates.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/ImageUtils.h>

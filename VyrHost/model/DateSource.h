@@ -1,20 +1,16 @@
 /// @file
-/// The dates of an entry that a rule may take.
+/// The dates of an entry that a rule may take, and whether its picture can be asked for them.
 #pragma once
+
+#include <VyrLibraryFuncs/name/NameFuncs.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
 #include <string_view>
 
 namespace VyrHost::Model {
 
-/// By the numbers of ITEM::dateTimeTarget.
-enum class DateSource : int
-{
-    Modified,
-    Created,
-    Accessed,
-    Picture
-};
+using DateSource = VyrLibraryFuncs::NameFuncs::DateTimeTarget;
 
 /// Every date source and the word for it, the same in options and in the output.
 struct DateSourceWord
@@ -23,7 +19,7 @@ struct DateSourceWord
     std::u16string_view word;
 };
 
-inline constexpr DateSourceWord DateSourceWords[] = {{DateSource::Picture, u"picture"},
+inline constexpr DateSourceWord dateSourceWords[] = {{DateSource::PictureTaken, u"picture"},
                                                      {DateSource::Modified, u"modified"},
                                                      {DateSource::Created, u"created"},
                                                      {DateSource::Accessed, u"accessed"}};
@@ -41,5 +37,9 @@ private:
 
     std::uint8_t m_bits = 0;
 };
+
+/// Why the file at `path` cannot be read (the system's code): no permission, a bad sector at its beginning. 0 where it
+/// can be read, and for folders, pipes and devices, which are no pictures.
+[[nodiscard]] std::uint32_t PictureReadError(const CString& path);
 
 } // namespace VyrHost::Model

@@ -26,7 +26,7 @@ void EntryList::ForgetHolders()
 {
     for (std::uint32_t folder = 0; folder < folders.Count(); ++folder)
         for (NameRecord& record : folders[folder].names.Records())
-            record.holder = NoEntry;
+            record.holder = noEntry;
 }
 
 } // namespace VyrHost::Model

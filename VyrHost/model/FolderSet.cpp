@@ -3,7 +3,6 @@
 
 #include <VyrHost/model/NaturalOrder.h>
 #include <VyrHost/model/Prefetch.h>
-#include <VyrHost/text/FolderPart.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FolderListing.h>
 
@@ -21,6 +20,12 @@ struct Listed
 };
 
 } // namespace
+
+std::u16string_view FolderPart(std::u16string_view path)
+{
+    const auto behind = std::find_if(path.rbegin(), path.rend(), VyrPlatform::FileSystem::IsSeparator);
+    return path.substr(0, static_cast<std::size_t>(path.rend() - behind));
+}
 
 std::uint32_t FolderSet::Open(const CString& path, const CString& shown)
 {
@@ -53,11 +58,11 @@ std::uint32_t FolderSet::NumberOf(const CString& path)
     auto known = m_byPath.find(path);
     while (known == m_byPath.end() && end > root) {
         ends.push_back(end);
-        end = Text::FolderPart(text.substr(0, end - 1)).size();
+        end = FolderPart(text.substr(0, end - 1)).size();
         known = m_byPath.find(text.substr(0, end));
     }
     if (known == m_byPath.end())
-        known = Add(text.substr(0, end), NoFolder, text.substr(0, end));
+        known = Add(text.substr(0, end), noFolder, text.substr(0, end));
     for (; !ends.empty(); ends.pop_back()) {
         known = Add(text.substr(0, ends.back()), known->second, text.substr(end, ends.back() - end - 1));
         end = ends.back();
@@ -89,14 +94,14 @@ void FolderSet::List(Folder& folder)
     // Whoever goes through them in this order finds the texts side by side.
     SortNaturally(listed);
     for (std::size_t index = 0; index < listed.size(); ++index) {
-        if (index + PrefetchDistance < listed.size())
-            listed[index + PrefetchDistance].name.Expect();
+        if (index + prefetchDistance < listed.size())
+            listed[index + prefetchDistance].name.Expect();
         Listed& one = listed[index];
         one.name = m_texts->Intern(one.name);
     }
     for (std::size_t index = 0; index < listed.size(); ++index) {
-        if (index + PrefetchDistance < listed.size())
-            folder.names.Expect(listed[index + PrefetchDistance].name);
+        if (index + prefetchDistance < listed.size())
+            folder.names.Expect(listed[index + prefetchDistance].name);
         NameRecord& record = folder.names.Add(listed[index].name);
         record.kind = listed[index].kind;
         record.isLink = listed[index].isLink;

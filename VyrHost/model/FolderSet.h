@@ -1,5 +1,5 @@
 /// @file
-/// The folders that a list of entries touches, each listed once.
+/// The folders that a list of entries touches, each listed once; and the folder in the text of a path.
 #pragma once
 
 #include <VyrHost/model/NamePool.h>
@@ -11,20 +11,24 @@
 #include <deque>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <unordered_map>
 
 namespace VyrHost::Model {
 
+/// All of `path` up to its last separator, which is part of it; empty when there is none. The text alone counts.
+[[nodiscard]] std::u16string_view FolderPart(std::u16string_view path);
+
 /// Stands for "no folder" where the number of a folder is asked for.
-inline constexpr std::uint32_t NoFolder = UINT32_MAX;
+inline constexpr std::uint32_t noFolder = UINT32_MAX;
 
 /// A folder and the names in it.
 struct Folder
 {
     /// Absolute, its separator at the end.
     CString path;
-    /// The folder that it stands in; NoFolder for a root.
-    std::uint32_t parent = NoFolder;
+    /// The folder that it stands in; noFolder for a root.
+    std::uint32_t parent = noFolder;
     /// Its name there; the path of a root.
     InternedName name;
     /// What stands before an entry's name when it is shown: the folder as the user named it.

@@ -23,7 +23,7 @@ public:
     [[nodiscard]] std::u16string_view View() const noexcept
     {
         std::uint32_t length = 0;
-        std::memcpy(&length, m_text - LengthUnits, sizeof(length));
+        std::memcpy(&length, m_text - lengthUnits, sizeof(length));
         return {m_text, length};
     }
     operator std::u16string_view() const noexcept { return View(); }
@@ -39,9 +39,9 @@ private:
     explicit InternedName(const char16_t* text) noexcept : m_text(text) {}
 
     /// The length stands before the text.
-    static constexpr std::size_t LengthUnits = sizeof(std::uint32_t) / sizeof(char16_t);
-    static constexpr char16_t NoText[LengthUnits + 1] = {};
-    const char16_t* m_text = NoText + LengthUnits;
+    static constexpr std::size_t lengthUnits = sizeof(std::uint32_t) / sizeof(char16_t);
+    static constexpr char16_t noText[lengthUnits + 1] = {};
+    const char16_t* m_text = noText + lengthUnits;
 };
 
 /// Texts one behind another in large blocks. Those that are kept may be read on one thread while another keeps more.

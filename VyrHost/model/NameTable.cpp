@@ -14,7 +14,7 @@ using VyrHostPlatform::NameFolding;
 
 namespace {
 
-constexpr std::size_t FirstSlots = 16;
+constexpr std::size_t firstSlots = 16;
 
 std::uint32_t HashOf(std::u16string_view name)
 {
@@ -85,7 +85,7 @@ void NameTable::Reserve(std::size_t count)
     // A third of the slots stays free, so that runs stay short.
     const std::size_t slots = count + count / 2;
     if (slots > m_slots.size())
-        Grow(std::max(FirstSlots, std::bit_ceil(slots)));
+        Grow(std::max(firstSlots, std::bit_ceil(slots)));
 }
 
 void NameTable::Grow(std::size_t count)

@@ -16,18 +16,18 @@
 namespace VyrHost::Model {
 
 /// Stands for "no entry" where the index of an entry is asked for.
-inline constexpr std::uint32_t NoEntry = UINT32_MAX;
+inline constexpr std::uint32_t noEntry = UINT32_MAX;
 /// Stands for a folder that the batch makes where the holder of a name is asked for.
-inline constexpr std::uint32_t NewFolder = NoEntry - 1;
+inline constexpr std::uint32_t newFolder = noEntry - 1;
 
 /// A name in a folder.
 struct NameRecord
 {
     InternedName name;
     /// The entry of the list whose name it is now.
-    std::uint32_t owner = NoEntry;
+    std::uint32_t owner = noEntry;
     /// The entry of the list whose name it is after the batch.
-    std::uint32_t holder = NoEntry;
+    std::uint32_t holder = noEntry;
     /// What the disk has under this name.
     VyrPlatform::FileSystem::Kind kind = VyrPlatform::FileSystem::Kind::Missing;
     bool isLink = false;

@@ -116,9 +116,9 @@ private:
         while (length < text.size() && IsDigit(text[length]))
             ++length;
         Push(u'0');
-        constexpr std::size_t MostDigits = 0xFF;
-        Push(static_cast<unsigned>(std::min(length, MostDigits)));
-        if (length >= MostDigits) {
+        constexpr std::size_t mostDigits = 0xFF;
+        Push(static_cast<unsigned>(std::min(length, mostDigits)));
+        if (length >= mostDigits) {
             text = {};
             return;
         }

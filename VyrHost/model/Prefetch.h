@@ -7,7 +7,7 @@
 namespace VyrHost::Model {
 
 /// How many turns before its use a loop asks for what does not stand behind what it used last.
-inline constexpr std::size_t PrefetchDistance = 8;
+inline constexpr std::size_t prefetchDistance = 8;
 
 inline void Prefetch(const void* place) noexcept
 {

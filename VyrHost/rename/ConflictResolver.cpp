@@ -2,8 +2,7 @@
 #include <VyrHost/rename/ConflictResolver.h>
 
 #include <VyrHost/model/Prefetch.h>
-#include <VyrHost/rename/NameValidator.h>
-#include <VyrHost/rename/NumberedName.h>
+#include <VyrHost/rename/NewPlace.h>
 #include <VyrHostPlatform/NameFolding.h>
 #include <VyrLibraryUtils/FileUtils.h>
 
@@ -36,8 +35,8 @@ public:
             HoldOwnName(entry);
         }
         for (std::size_t group = 0; group < m_groups.Count(); ++group) {
-            if (group + Model::PrefetchDistance < m_groups.Count())
-                ExpectWishes(group + Model::PrefetchDistance);
+            if (group + Model::prefetchDistance < m_groups.Count())
+                ExpectWishes(group + Model::prefetchDistance);
             if (IsToSettle(group))
                 Place(static_cast<std::uint32_t>(group));
         }
@@ -112,7 +111,7 @@ private:
                 Give(entry, record, WantedName(entry), Model::Status::Done);
                 continue;
             }
-            const bool isWithin = record.holder < Model::NewFolder && m_groups.Of(record.holder) == group;
+            const bool isWithin = record.holder < Model::newFolder && m_groups.Of(record.holder) == group;
             const Clash clash{isStemFree ? ClashOf(record) : Reason::StemTaken, isWithin};
             for (std::size_t given = 0; given < place; ++given)
                 Release(m_members[given]);
@@ -192,7 +191,7 @@ private:
         if (own.kind == Kind::Missing)
             return;
         Model::NameRecord& record = m_list.folders[own.folder].names.Add(own.name);
-        if (record.holder < Model::NewFolder && record.holder != entry)
+        if (record.holder < Model::newFolder && record.holder != entry)
             m_pending.push_back(m_groups.Of(record.holder));
         record.holder = entry;
         if (HasStem(entry))
@@ -214,7 +213,7 @@ private:
         Model::NameRecord* const record = Names(entry).Find(m_decisions[entry].name);
         if (!record || record->holder != entry)
             return;
-        record->holder = Model::NoEntry;
+        record->holder = Model::noEntry;
         if (!HasStem(entry))
             return;
         const auto held = m_stems.find(StemOf(entry, m_decisions[entry].folder, m_decisions[entry].name));
@@ -232,8 +231,8 @@ private:
     [[nodiscard]] NumberedName NumberedNameOf(std::uint32_t entry)
     {
         const Model::InternedName wanted = WantedName(entry);
-        const std::uint32_t main = HasStem(entry) ? MainFileOf(m_list, m_list.entries[entry]) : Model::NoEntry;
-        if (main != Model::NoEntry && wanted.View().starts_with(WantedName(main).View()))
+        const std::uint32_t main = HasStem(entry) ? MainFileOf(m_list, m_list.entries[entry]) : Model::noEntry;
+        if (main != Model::noEntry && wanted.View().starts_with(WantedName(main).View()))
             return NumberedNameOf(main).OfSidecar(wanted.View().substr(WantedName(main).View().size()));
         const Model::NameRecord* const record = Names(entry).Find(wanted);
         // As the engine splits: by what stands there, where something does.
@@ -263,7 +262,7 @@ private:
     {
         const Model::Folder& in = m_list.folders[folder];
         CString stem = FileUtils::GetSplitFName(in.path + name);
-        for (auto main = MainFileOf(m_list, m_list.entries[entry]); main != Model::NoEntry;
+        for (auto main = MainFileOf(m_list, m_list.entries[entry]); main != Model::noEntry;
              main = MainFileOf(m_list, m_list.entries[main]))
             stem = FileUtils::GetSplitFName(in.path + stem);
         return {folder, VyrHostPlatform::FoldName(stem, in.names.Folding())};
@@ -282,12 +281,12 @@ private:
     /// holder leaves.
     static bool IsFree(const Model::NameRecord& record)
     {
-        return record.holder == Model::NoEntry && (record.kind == Kind::Missing || record.owner != Model::NoEntry);
+        return record.holder == Model::noEntry && (record.kind == Kind::Missing || record.owner != Model::noEntry);
     }
 
     [[nodiscard]] Reason ClashOf(const Model::NameRecord& record) const
     {
-        const bool goesToOther = record.holder < Model::NewFolder && m_decisions[record.holder].IsRename();
+        const bool goesToOther = record.holder < Model::newFolder && m_decisions[record.holder].IsRename();
         return goesToOther ? Reason::TwoToOne : Reason::TargetExists;
     }
 

@@ -1,8 +1,8 @@
 // Words what is decided about entries.
 #include <VyrHost/rename/Decision.h>
 
-#include <VyrHost/rename/PictureAccess.h>
-#include <VyrHost/text/ErrorText.h>
+#include <VyrHost/model/DateSource.h>
+#include <VyrHost/text/Errors.h>
 
 #include <utility>
 
@@ -16,7 +16,7 @@ namespace {
 CString WordsFor(Model::DateSourceSet dates)
 {
     CString words;
-    for (const auto& [source, word] : Model::DateSourceWords)
+    for (const auto& [source, word] : Model::dateSourceWords)
         if (dates.Has(source))
             words = CString::Join({words, words.IsEmpty() ? u"" : u",", word});
     return words;
@@ -122,7 +122,7 @@ std::uint32_t RenameResults::CauseOf(std::uint32_t entry) const
     if (decision.reason == Reason::FolderNotRead)
         return m_list.folders[decision.folder].error;
     if (decision.reason == Reason::PictureNotRead)
-        return PictureReadError(m_list.PathOf(m_list.entries[entry]));
+        return Model::PictureReadError(m_list.PathOf(m_list.entries[entry]));
     return 0;
 }
 

@@ -21,7 +21,7 @@ CString StemOf(const Model::EntryList& list, const Model::Entry& entry)
 {
     const Model::Entry* file = &entry;
     // Each step takes an extension away, so that it ends.
-    for (auto main = MainFileOf(list, *file); main != Model::NoEntry; main = MainFileOf(list, *file))
+    for (auto main = MainFileOf(list, *file); main != Model::noEntry; main = MainFileOf(list, *file))
         file = &list.entries[main];
     return Model::Split(list.PathOf(*file), *file).name;
 }
@@ -31,14 +31,14 @@ CString StemOf(const Model::EntryList& list, const Model::Entry& entry)
 std::uint32_t MainFileOf(const Model::EntryList& list, const Model::Entry& entry)
 {
     if (entry.kind != Kind::File)
-        return Model::NoEntry;
+        return Model::noEntry;
     const Model::Folder& folder = list.folders[entry.folder];
     const CString mainName = Model::Split(list.PathOf(entry), entry).name;
     if (mainName == entry.name || FileUtils::GetSplitExtension(folder.path + mainName, 1).IsEmpty())
-        return Model::NoEntry;
+        return Model::noEntry;
     const Model::NameRecord* const record = folder.names.Find(mainName);
-    const bool isListed = record && record->owner != Model::NoEntry;
-    return isListed && list.entries[record->owner].kind == Kind::File ? record->owner : Model::NoEntry;
+    const bool isListed = record && record->owner != Model::noEntry;
+    return isListed && list.entries[record->owner].kind == Kind::File ? record->owner : Model::noEntry;
 }
 
 Groups Groups::OfOne(const Model::EntryList& list)

@@ -43,7 +43,7 @@ private:
 };
 
 /// The file of `list` whose sidecar `entry` is: the one that has the name of `entry` without its last extension, as
-/// `X.JPG` for `X.JPG.xmp`. NoEntry for a name with fewer than two extensions, and where the list has no such file.
+/// `X.JPG` for `X.JPG.xmp`. noEntry for a name with fewer than two extensions, and where the list has no such file.
 [[nodiscard]] std::uint32_t MainFileOf(const Model::EntryList& list, const Model::Entry& entry);
 
 } // namespace VyrHost::Rename

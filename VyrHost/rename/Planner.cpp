@@ -2,7 +2,6 @@
 #include <VyrHost/rename/Planner.h>
 
 #include <VyrHost/model/Prefetch.h>
-#include <VyrHost/rename/StepOrder.h>
 
 #include <algorithm>
 #include <array>
@@ -63,7 +62,7 @@ private:
     template <class Use>
     void ForEachBucket(End end, Use use)
     {
-        std::array<std::uint64_t, Model::PrefetchDistance> hashes{};
+        std::array<std::uint64_t, Model::prefetchDistance> hashes{};
         const std::size_t count = m_plan.entries.size();
         for (std::size_t index = 0; index < count + hashes.size(); ++index) {
             std::uint64_t& hash = hashes[index % hashes.size()];

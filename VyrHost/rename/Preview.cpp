@@ -2,10 +2,9 @@
 #include <VyrHost/rename/Preview.h>
 
 #include <VyrHost/rename/ConflictResolver.h>
-#include <VyrHost/rename/NameValidator.h>
+#include <VyrHost/rename/NewPlace.h>
 #include <VyrHost/rename/Planner.h>
-#include <VyrHost/rename/TargetFolders.h>
-#include <VyrHost/text/ErrorText.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrHostPlatform/FolderPermission.h>
 
 #include <algorithm>
@@ -21,7 +20,7 @@ using VyrHostPlatform::FolderPermission;
 using VyrPlatform::FileSystem::Kind;
 
 /// In code units; more than any of the systems takes.
-constexpr int LongestPath = 32'767;
+constexpr int longestPath = 32'767;
 
 class Naming
 {
@@ -86,7 +85,7 @@ private:
         decision.warning = validity.warning;
         if (validity.reason != Reason::None)
             decision.Refuse(validity.reason);
-        else if (moves && wanted.folder.GetLength() + wanted.name.GetLength() > LongestPath)
+        else if (moves && wanted.folder.GetLength() + wanted.name.GetLength() > longestPath)
             decision.Refuse(Reason::TooLong);
         else if (moves)
             Move(decision, m_list.folders[entry.folder].device, wanted);
@@ -184,12 +183,12 @@ private:
     Model::PlanIndex NumberOf(std::uint32_t number)
     {
         std::vector<std::uint32_t> missing;
-        for (std::uint32_t at = number; at != Model::NoFolder && m_numbers[at] == Model::none;
+        for (std::uint32_t at = number; at != Model::noFolder && m_numbers[at] == Model::none;
              at = m_list.folders[at].parent)
             missing.push_back(at);
         for (; !missing.empty(); missing.pop_back()) {
             const Model::Folder& folder = m_list.folders[missing.back()];
-            const Model::PlanIndex parent = folder.parent == Model::NoFolder ? Model::none : m_numbers[folder.parent];
+            const Model::PlanIndex parent = folder.parent == Model::noFolder ? Model::none : m_numbers[folder.parent];
             m_numbers[missing.back()] = static_cast<Model::PlanIndex>(m_draft.plan.folders.size());
             m_draft.plan.folders.push_back({.place = {parent, folder.name}, .isNew = folder.isNew});
             m_draft.foldings.push_back(folder.names.Folding());
@@ -254,11 +253,11 @@ bool StopAtConflict(Preview& preview)
 Preview MakePreview(Model::EntryList& list, const Groups& groups, NameSource& names, const ConflictSettings& settings,
                     const NamingProgress& progress)
 {
-    constexpr std::size_t Often = 32;
+    constexpr std::size_t often = 32;
     Naming naming(list, names);
     for (std::size_t group = 0; group < groups.Count(); ++group) {
         naming.NameGroup(groups.Members(group));
-        if (progress && group % Often == 0)
+        if (progress && group % often == 0)
             progress(group);
     }
     Preview preview;

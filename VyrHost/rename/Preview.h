@@ -6,7 +6,7 @@
 #include <VyrHost/model/RenamePlan.h>
 #include <VyrHost/rename/Decision.h>
 #include <VyrHost/rename/Groups.h>
-#include <VyrHost/rename/NameSource.h>
+#include <VyrHost/rename/NameSources.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <cstdint>

@@ -1,13 +1,16 @@
 /// @file
-/// A rule: what it works on, and what it may answer.
+/// Rules: what they work on, what they may answer, and those that the engine carries out.
 #pragma once
 
+#include <VyrHost/model/DateSource.h>
 #include <VyrHost/rename/Decision.h>
+#include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrPlatform/text/CString.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 namespace VyrHost::Rename {
@@ -47,5 +50,54 @@ public:
 };
 
 using Rules = std::vector<std::unique_ptr<Rule>>;
+
+/// A record of the engine for `kind` without any settings yet.
+[[nodiscard]] VyrLibraryFuncs::NameFuncs::ITEM NewItem(VyrLibraryFuncs::NameFuncs::RenameType kind);
+/// A record that inserts `text` at `position` (in code units, 0 or more).
+/// @param type  InsertFromStart or InsertFromEnd: where the position is counted from.
+[[nodiscard]] VyrLibraryFuncs::NameFuncs::ITEM InsertItem(VyrLibraryFuncs::NameFuncs::AddDeleteType type, int position,
+                                                          std::u16string_view text);
+
+/// Applies one record of the engine to entry after entry.
+class EngineRule : public Rule
+{
+public:
+    explicit EngineRule(VyrLibraryFuncs::NameFuncs::ITEM settings);
+
+    Reason Apply(Subject& subject) override;
+    [[nodiscard]] bool MayNumber() const override;
+
+protected:
+    /// The engine's answer for `subject`, cut into the subject's folder, the name and the extension.
+    void Compute(Subject& subject);
+
+    /// The one record that serves all entries.
+    VyrLibraryFuncs::NameFuncs::ITEM m_item;
+};
+
+/// Writes the first date that an entry has, of those asked for, and puts in what the tokens stand for: "<Make>" and
+/// "<Model>" the camera, "<Folder>" a step down into a folder. A blank beside a "<Make>" or "<Model>" that the picture
+/// does not tell goes with it. A picture that cannot be read is a fault, not one without a date.
+class DateRule : public EngineRule
+{
+public:
+    /// `settings` is a record of the kind DateTime with its format and position.
+    DateRule(VyrLibraryFuncs::NameFuncs::ITEM settings, std::vector<Model::DateSource> sources);
+
+    Reason Apply(Subject& subject) override;
+
+private:
+    /// Puts the first date that is there into the name.
+    [[nodiscard]] Reason ComputeDated(Subject& subject);
+    /// Puts the camera into `text`, which stands in the new name where the record says.
+    [[nodiscard]] Reason PutInCamera(const Subject& subject, CString& text) const;
+    /// Moves the subject down the folders that its name begins with.
+    static Reason TakeFolders(Subject& subject);
+
+    std::vector<Model::DateSource> m_sources;
+    bool m_hasMake;
+    bool m_hasModel;
+    bool m_hasFolder;
+};
 
 } // namespace VyrHost::Rename

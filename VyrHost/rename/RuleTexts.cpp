@@ -1,10 +1,8 @@
-// What the texts of all rules have in common: numbers, places, and what a name can hold.
+// What the texts of all rules have in common: numbers and dates.
 #include <VyrHost/rename/RuleTexts.h>
 
-#include <VyrHost/rename/LiteralText.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
-#include <VyrHost/text/UsageError.h>
-#include <VyrPlatform/files/FileSystem.h>
 
 #include <algorithm>
 #include <charconv>
@@ -13,15 +11,6 @@
 #include <string>
 
 namespace VyrHost::Rename {
-
-void RequireNameText(std::u16string_view text, const char* option)
-{
-    const auto isBad = [](char16_t unit) {
-        return unit == 0 || VyrPlatform::FileSystem::IsSeparator(unit);
-    };
-    if (std::any_of(text.begin(), text.end(), isBad))
-        Text::RefuseValue(option, text, "a name cannot hold a folder separator or a NUL");
-}
 
 int ParseNumber(const CString& text, int least, const char* what)
 {
@@ -55,9 +44,9 @@ std::vector<Model::DateSource> ParseDateSources(const CString& text)
         const std::size_t end = rest.find(u',');
         const std::u16string_view word = rest.substr(0, end);
         const auto* const found =
-            std::find_if(std::begin(Model::DateSourceWords), std::end(Model::DateSourceWords),
+            std::find_if(std::begin(Model::dateSourceWords), std::end(Model::dateSourceWords),
                          [word](const Model::DateSourceWord& known) { return known.word == word; });
-        if (found == std::end(Model::DateSourceWords))
+        if (found == std::end(Model::dateSourceWords))
             Text::RefuseValue("--date-from", text,
                               "a list of picture, modified, created and accessed is expected, separated by commas");
         if (std::find(sources.begin(), sources.end(), found->source) != sources.end())

@@ -2,7 +2,6 @@
 /// Makes rules of the texts in which users write them. Each throws UsageError for a text that makes no sense.
 #pragma once
 
-#include <VyrHost/rename/DateRule.h>
 #include <VyrHost/rename/Rule.h>
 
 #include <optional>

@@ -1,10 +1,10 @@
 // Refuses letters and tokens that mean nothing.
 #include <VyrHost/rename/TemplateTokens.h>
 
-#include <VyrHost/rename/Tokens.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
-#include <VyrHost/text/UsageError.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
+#include <VyrPlatform/files/FileSystem.h>
 
 #include <algorithm>
 #include <initializer_list>
@@ -16,10 +16,10 @@ namespace {
 
 using VyrLibraryUtils::DateTimeUtils;
 
-constexpr std::u16string_view DateTokens[] = {Token::Name, Token::Make, Token::Model, Token::Folder};
-constexpr std::u16string_view NumberTokens[] = {Token::Name, Token::Number};
-constexpr auto None = std::u16string_view::npos;
-constexpr const char* DateLetters =
+constexpr std::u16string_view dateTokens[] = {Token::name, Token::make, Token::model, Token::folder};
+constexpr std::u16string_view numberTokens[] = {Token::name, Token::number};
+constexpr auto none = std::u16string_view::npos;
+constexpr const char* dateLetters =
     "yyyy-MM-dd HH.mm.ss is a date with its time, and \"vyr rename --help\" has all letters";
 
 bool IsLetter(char16_t unit)
@@ -78,28 +78,28 @@ private:
     void CheckQuoted()
     {
         const std::size_t end = m_rest.find(u'\'', 1);
-        const std::u16string_view quoted = Take(end == None ? m_rest.size() : end + 1);
-        for (const std::u16string_view token : DateTokens)
-            if (quoted.find(token) != None)
+        const std::u16string_view quoted = Take(end == none ? m_rest.size() : end + 1);
+        for (const std::u16string_view token : dateTokens)
+            if (quoted.find(token) != none)
                 Refuse({"the apostrophes make text of ", Text::SafeText(token), "; end them before it"});
     }
 
     void CheckToken()
     {
-        const std::size_t end = m_hasEnd ? m_rest.find(u'>') : None;
+        const std::size_t end = m_hasEnd ? m_rest.find(u'>') : none;
         // No later "<" has an end either.
-        m_hasEnd = end != None;
+        m_hasEnd = end != none;
         const std::u16string_view token = Take(m_hasEnd ? end + 1 : 1);
-        if (m_hasEnd && !IsKnown(token, DateTokens))
-            Refuse({"it knows no ", Text::SafeText(token), ", only ", ListOf(DateTokens),
+        if (m_hasEnd && !IsKnown(token, dateTokens))
+            Refuse({"it knows no ", Text::SafeText(token), ", only ", ListOf(dateTokens),
                     "; text goes in apostrophes, such as '", Text::SafeText(token), "'"});
     }
 
     void CheckPlain(std::u16string_view text) const
     {
-        for (std::size_t sign = text.find(u'%'); sign != None; sign = text.find(u'%', sign + 1))
+        for (std::size_t sign = text.find(u'%'); sign != none; sign = text.find(u'%', sign + 1))
             if (sign + 1 < text.size() && IsLetter(text[sign + 1]))
-                Refuse({"a percent sign is text here; ", DateLetters});
+                Refuse({"a percent sign is text here; ", dateLetters});
         // In the pattern that the library makes of it, a letter that means something follows a percent sign.
         const CString pattern = DateTimeUtils::GetDateTimeFormat(text, {});
         std::u16string_view rest = pattern;
@@ -110,7 +110,7 @@ private:
             }
             if (IsLetter(rest.front())) {
                 const char letter = static_cast<char>(rest.front());
-                Refuse({"no part of a date is called ", {&letter, 1}, "; ", DateLetters, "; text goes in apostrophes"});
+                Refuse({"no part of a date is called ", {&letter, 1}, "; ", dateLetters, "; text goes in apostrophes"});
             }
             rest.remove_prefix(1);
         }
@@ -130,16 +130,25 @@ void RequireDateFormat(std::u16string_view format)
 
 void RequireNumberTokens(std::u16string_view text)
 {
-    for (std::size_t begin = text.find(u'<'); begin != None; begin = text.find(u'<', begin + 1)) {
+    for (std::size_t begin = text.find(u'<'); begin != none; begin = text.find(u'<', begin + 1)) {
         const auto word = text.begin() + static_cast<std::ptrdiff_t>(begin) + 1;
         const auto end = std::find_if_not(word, text.end(), IsLetter);
         if (end == word || end == text.end() || *end != u'>')
             continue;
         const std::u16string_view token = text.substr(begin, static_cast<std::size_t>(end - word) + 2);
-        if (!IsKnown(token, NumberTokens))
+        if (!IsKnown(token, numberTokens))
             Text::RefuseValue("--number", text,
-                              "it knows no " + Text::SafeText(token) + ", only " + ListOf(NumberTokens));
+                              "it knows no " + Text::SafeText(token) + ", only " + ListOf(numberTokens));
     }
+}
+
+void RequireNameText(std::u16string_view text, const char* option)
+{
+    const auto isBad = [](char16_t unit) {
+        return unit == 0 || VyrPlatform::FileSystem::IsSeparator(unit);
+    };
+    if (std::any_of(text.begin(), text.end(), isBad))
+        Text::RefuseValue(option, text, "a name cannot hold a folder separator or a NUL");
 }
 
 } // namespace VyrHost::Rename

@@ -1,11 +1,25 @@
 /// @file
-/// Finds what a template says that nobody would understand.
+/// What the texts of rules may hold: the words in angle brackets, the letters of dates, the characters of names.
 #pragma once
 
 #include <span>
 #include <string_view>
 
 namespace VyrHost::Rename {
+
+namespace Token {
+
+/// The name so far.
+inline constexpr std::u16string_view name = u"<Name>";
+/// The sequence number.
+inline constexpr std::u16string_view number = u"<Number>";
+/// A step down into a folder.
+inline constexpr std::u16string_view folder = u"<Folder>";
+/// The camera's maker and model.
+inline constexpr std::u16string_view make = u"<Make>";
+inline constexpr std::u16string_view model = u"<Model>";
+
+} // namespace Token
 
 /// Refuses a date format (RefuseValue for "--date") with letters that stand for no part of a date outside apostrophes,
 /// with a percent sign before a letter, with a word in angle brackets that is no token, or with a token in
@@ -17,5 +31,8 @@ void RequireDateFormat(std::u16string_view format);
 /// Refuses a sequence number's template with a word in angle brackets that is no token: "<Nmae> ###". "<", and "<" with
 /// anything but ASCII letters up to the ">", is text.
 void RequireNumberTokens(std::u16string_view text);
+
+/// Throws UsageError when `text`, given with `option`, could not be a part of a name.
+void RequireNameText(std::u16string_view text, const char* option);
 
 } // namespace VyrHost::Rename

@@ -1,7 +1,7 @@
 // The designs of reports, from design documents.
 #include <VyrHost/reports/Design.h>
 
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrLibraryFuncs/xmlinfo/StyleFuncs.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FileSystem.h>

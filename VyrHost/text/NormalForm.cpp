@@ -13,7 +13,7 @@ namespace VyrHost::Text {
 namespace {
 
 /// The first accent that composes: what is below it is composed, and no letter before it composes with it.
-constexpr char16_t FirstAccent = 0x0300;
+constexpr char16_t firstAccent = 0x0300;
 
 std::vector<CString> ComposedPieces(std::u16string_view text)
 {
@@ -33,7 +33,7 @@ CString Composed(const CString& text)
 bool IsComposed(const CString& text)
 {
     const std::u16string_view units = text;
-    return std::all_of(units.begin(), units.end(), [](char16_t unit) { return unit < FirstAccent; }) ||
+    return std::all_of(units.begin(), units.end(), [](char16_t unit) { return unit < firstAccent; }) ||
            Composed(text) == text;
 }
 
@@ -43,7 +43,7 @@ std::vector<std::u16string_view> CutForComposing(std::u16string_view text)
     std::size_t begin = 0;
     for (std::u16string_view rest = text; !rest.empty();) {
         const std::size_t place = text.size() - rest.size();
-        const bool mayCompose = VyrPlatform::TakeCharacter(rest) >= FirstAccent;
+        const bool mayCompose = VyrPlatform::TakeCharacter(rest) >= firstAccent;
         if (place == begin)
             continue;
         const std::u16string_view before = text.substr(begin, place - begin);

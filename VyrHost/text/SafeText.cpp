@@ -1,14 +1,39 @@
-// Escapes and measures names character by character.
+// Writes and reads escapes.
 #include <VyrHost/text/SafeText.h>
 
-#include <VyrHost/text/CharacterWidth.h>
-#include <VyrHost/text/UnitEscape.h>
 #include <VyrPlatform/text/Encoding.h>
 #include <VyrPlatform/text/Surrogates.h>
 
 #include <algorithm>
+#include <charconv>
 
 namespace VyrHost::Text {
+
+namespace {
+
+constexpr std::string_view start = "\\u";
+
+} // namespace
+
+void AppendUnitEscape(std::string& text, char16_t unit)
+{
+    constexpr const char* digits = "0123456789abcdef";
+    text += start;
+    for (int shift = 12; shift >= 0; shift -= 4)
+        text += digits[unit >> shift & 0xF];
+}
+
+std::optional<char16_t> ReadUnitEscape(std::string_view text) noexcept
+{
+    if (text.size() < unitEscapeLength || !text.starts_with(start))
+        return {};
+    unsigned unit = 0;
+    const char* const end = text.data() + unitEscapeLength;
+    const auto [stop, error] = std::from_chars(text.data() + start.size(), end, unit, 16);
+    if (error != std::errc() || stop != end)
+        return {};
+    return static_cast<char16_t>(unit);
+}
 
 namespace {
 
@@ -46,7 +71,7 @@ std::string Escape(char32_t character)
     }
     std::string escape;
     AppendUnitEscape(escape, static_cast<char16_t>(character));
-    return character < 0x100 ? "\\x" + escape.substr(UnitEscapeLength - 2) : escape;
+    return character < 0x100 ? "\\x" + escape.substr(unitEscapeLength - 2) : escape;
 }
 
 /// A character as it is shown.

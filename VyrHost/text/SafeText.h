@@ -1,7 +1,9 @@
 /// @file
-/// Names made safe to show: a name may hold anything, a terminal obeys some of it.
+/// Names made safe to show: a name may hold anything, a terminal obeys some of it. And the escape for one code unit.
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,5 +18,17 @@ void AppendSafeText(std::string& line, std::u16string_view text);
 
 /// How many columns SafeText(text) takes.
 [[nodiscard]] int SafeWidth(std::u16string_view text);
+
+/// 0 for a character that is drawn over the one before it, 2 for a wide one (East Asian Width W and F), else 1.
+[[nodiscard]] int CharacterWidth(char32_t character);
+
+/// How many bytes an escape has.
+inline constexpr std::size_t unitEscapeLength = 6;
+
+/// Appends a backslash, "u" and the four hexadecimal digits of `unit`.
+void AppendUnitEscape(std::string& text, char16_t unit);
+
+/// The unit whose escape `text` begins with; nothing when it begins with none.
+[[nodiscard]] std::optional<char16_t> ReadUnitEscape(std::string_view text) noexcept;
 
 } // namespace VyrHost::Text

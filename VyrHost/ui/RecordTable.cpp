@@ -2,7 +2,7 @@
 #include <VyrHost/ui/RecordTable.h>
 
 #include <VyrHost/model/NaturalOrder.h>
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/text/Encoding.h>

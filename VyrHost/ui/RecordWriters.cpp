@@ -2,7 +2,7 @@
 #include <VyrHost/ui/RecordWriters.h>
 
 #include <VyrHost/text/SafeText.h>
-#include <VyrHost/ui/JsonLines.h>
+#include <VyrHost/ui/Output.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <algorithm>
@@ -13,19 +13,19 @@ namespace VyrHost::Ui {
 
 namespace {
 
-constexpr int ColumnGap = 2;
+constexpr int columnGap = 2;
 /// A column that would be narrower than this, though its values are wider, makes a table that nobody can read.
-constexpr int LeastWidth = 8;
+constexpr int leastWidth = 8;
 /// Where rows may be as long as they like, columns are lined up to this width.
-constexpr int MostPadding = 60;
-constexpr std::string_view Indent = "    ";
+constexpr int mostPadding = 60;
+constexpr std::string_view indent = "    ";
 
 /// The widest that a column may be, where columns of the widths `natural` stand in a row of `rowWidth`: the narrow ones
 /// keep their width, and the others share what is left.
 int WidestColumn(std::vector<int> natural, int rowWidth)
 {
     std::sort(natural.begin(), natural.end());
-    int left = rowWidth - ColumnGap * (static_cast<int>(natural.size()) - 1);
+    int left = rowWidth - columnGap * (static_cast<int>(natural.size()) - 1);
     for (std::size_t index = 0; index < natural.size(); ++index) {
         const int share = left / static_cast<int>(natural.size() - index);
         if (natural[index] > share)
@@ -41,9 +41,9 @@ public:
     RecordWriter(OutputBuffer& output, const RecordTable& table, TableStyle style, bool hasHeadings)
         : m_output(output), m_table(table), m_style(style), m_hasHeadings(hasHeadings), m_widths(NaturalWidths())
     {
-        const int widest = style.width == 0 ? MostPadding : WidestColumn(m_widths, style.width);
+        const int widest = style.width == 0 ? mostPadding : WidestColumn(m_widths, style.width);
         const int widestAsked = m_widths.empty() ? 0 : *std::max_element(m_widths.begin(), m_widths.end());
-        m_isInBlocks = style.width != 0 && widest < std::min(LeastWidth, widestAsked);
+        m_isInBlocks = style.width != 0 && widest < std::min(leastWidth, widestAsked);
         for (int& width : m_widths)
             width = std::min(width, widest);
     }
@@ -157,7 +157,7 @@ private:
     void WriteNamed(std::size_t place, const CString& text)
     {
         Begin();
-        m_line.append(Indent).append(ColumnAt(place).heading).append(": ");
+        m_line.append(indent).append(ColumnAt(place).heading).append(": ");
         Text::AppendSafeText(m_line, text);
         End();
     }
@@ -166,7 +166,7 @@ private:
     {
         for (std::size_t place = 0; place < texts.size(); ++place) {
             if (place > 0)
-                m_line.append(ColumnGap, ' ');
+                m_line.append(columnGap, ' ');
             const auto padding = static_cast<std::size_t>(std::max(m_widths[place] - Text::SafeWidth(texts[place]), 0));
             const bool isRight = ColumnAt(place).IsRightAligned();
             m_line.append(isRight ? padding : 0, ' ');

@@ -2,7 +2,7 @@
 /// Writes lists of records: as a table for people, as CSV and as JSON lines for programs.
 #pragma once
 
-#include <VyrHost/ui/OutputBuffer.h>
+#include <VyrHost/ui/Output.h>
 #include <VyrHost/ui/RecordTable.h>
 
 namespace VyrHost::Ui {

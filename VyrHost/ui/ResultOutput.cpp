@@ -2,7 +2,7 @@
 #include <VyrHost/ui/ResultOutput.h>
 
 #include <VyrHost/text/SafeText.h>
-#include <VyrHost/ui/JsonLines.h>
+#include <VyrHost/ui/Output.h>
 #include <VyrHost/ui/Table.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/text/Encoding.h>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <VyrHost/model/Result.h>
-#include <VyrHost/ui/OutputBuffer.h>
+#include <VyrHost/ui/Output.h>
 
 #include <functional>
 #include <string>

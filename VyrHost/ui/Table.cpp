@@ -14,13 +14,13 @@ namespace VyrHost::Ui {
 
 namespace {
 
-constexpr std::string_view Arrow = "  ->  ";
-constexpr std::string_view NoArrow = "      ";
-static_assert(Arrow.size() == NoArrow.size());
-constexpr int ArrowWidth = static_cast<int>(Arrow.size());
-constexpr int NoteGap = 2;
+constexpr std::string_view arrow = "  ->  ";
+constexpr std::string_view noArrow = "      ";
+static_assert(arrow.size() == noArrow.size());
+constexpr int arrowWidth = static_cast<int>(arrow.size());
+constexpr int noteGap = 2;
 /// Where rows may be as long as they like, names are lined up to this width.
-constexpr int MostPadding = 60;
+constexpr int mostPadding = 60;
 
 struct Widths
 {
@@ -51,9 +51,9 @@ Widths NaturalWidths(std::size_t count, const RowOfTable& rowOf)
 Widths ColumnWidths(Widths widths, int rowWidth)
 {
     if (rowWidth == 0)
-        return {std::min(widths.from, MostPadding), std::min(widths.to, MostPadding), 0};
-    const int gap = widths.note > 0 ? NoteGap : 0;
-    const int all = rowWidth - ArrowWidth - gap;
+        return {std::min(widths.from, mostPadding), std::min(widths.to, mostPadding), 0};
+    const int gap = widths.note > 0 ? noteGap : 0;
+    const int all = rowWidth - arrowWidth - gap;
     if (widths.from + widths.to + widths.note <= all)
         return widths;
     widths.note = std::min(widths.note, std::max(all / 2, all - widths.from - widths.to));
@@ -92,18 +92,18 @@ private:
     [[nodiscard]] bool Fits(const Widths& own, const Widths& columns) const
     {
         const int to = own.note > 0 ? std::max(own.to, columns.to) : own.to;
-        const int note = own.note > 0 ? NoteGap + own.note : 0;
-        return m_style.width == 0 || std::max(own.from, columns.from) + ArrowWidth + to + note <= m_style.width;
+        const int note = own.note > 0 ? noteGap + own.note : 0;
+        return m_style.width == 0 || std::max(own.from, columns.from) + arrowWidth + to + note <= m_style.width;
     }
 
     void WriteLine(const TableRow& row, const Widths& columns)
     {
         Begin();
         AppendName(row.from, columns.from);
-        m_line.append(row.to.name.empty() ? NoArrow : Arrow);
+        m_line.append(row.to.name.empty() ? noArrow : arrow);
         AppendName(row.to, columns.to);
         if (!row.note.IsEmpty()) {
-            m_line.append(NoteGap, ' ');
+            m_line.append(noteGap, ' ');
             Text::AppendSafeText(m_line, row.note);
         }
         End();
@@ -117,13 +117,13 @@ private:
         End();
         if (!row.to.name.empty()) {
             Begin();
-            m_line.append(Arrow);
+            m_line.append(arrow);
             AppendName(row.to, 0);
             End();
         }
         if (!row.note.IsEmpty()) {
             Begin();
-            m_line.append(NoArrow);
+            m_line.append(noArrow);
             Text::AppendSafeText(m_line, row.note);
             End();
         }

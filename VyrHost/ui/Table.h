@@ -2,7 +2,7 @@
 /// A table of old and new names for people.
 #pragma once
 
-#include <VyrHost/ui/OutputBuffer.h>
+#include <VyrHost/ui/Output.h>
 #include <VyrPlatform/text/CString.h>
 
 #include <cstddef>

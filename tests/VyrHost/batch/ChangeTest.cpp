@@ -1,7 +1,7 @@
 // Changes that are no renames, proved by a small kind: the content of a file.
 #include <VyrHost/model/Change.h>
 
-#include <VyrHost/batch/SourceStates.h>
+#include <VyrHost/batch/DiskLooks.h>
 #include <gmock/gmock.h>
 #include <tests/VyrHost/batch/BatchScene.h>
 #include <tests/VyrHost/batch/CutOffScene.h>
@@ -9,7 +9,7 @@
 #include <tests/support/Describe.h>
 #include <tests/support/StdPath.h>
 
-#include <VyrHost/text/FolderPart.h>
+#include <VyrHost/model/FolderSet.h>
 #include <VyrPlatform/files/FileReader.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/text/Encoding.h>
@@ -107,7 +107,7 @@ protected:
     {
         NewBatch batch;
         batch.command = u"contents";
-        const CString folder = VyrHost::Text::FolderPart(m_scene.Path(u"a"));
+        const CString folder = VyrHost::Model::FolderPart(m_scene.Path(u"a"));
         std::u16string_view rest = folder;
         while (!rest.empty()) {
             std::size_t end = 0;
@@ -181,7 +181,7 @@ TEST_F(Changes, AreListedWithTheirCommandAndFolder)
     ASSERT_EQ(batches.size(), 1u);
     EXPECT_EQ(batches[0].command, u"contents");
     EXPECT_EQ(batches[0].folder + CString(VyrPlatform::FileSystem::Separator(), 1),
-              CString(VyrHost::Text::FolderPart(m_scene.Path(u"a"))));
+              CString(VyrHost::Model::FolderPart(m_scene.Path(u"a"))));
     EXPECT_EQ(batches[0].entries, 3u);
     EXPECT_EQ(batches[0].renamed, 3u);
     EXPECT_EQ(batches[0].firstFrom, m_scene.Path(u"a"));

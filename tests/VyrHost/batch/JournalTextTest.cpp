@@ -1,8 +1,7 @@
 // Journals as text: everything comes back, and nothing that is damaged is taken for whole.
+#include <VyrHost/batch/JournalLines.h>
 #include <VyrHost/batch/JournalText.h>
 
-#include <VyrHost/batch/Checksum.h>
-#include <VyrHost/batch/JournalName.h>
 #include <VyrPlatform/files/FileSystem.h>
 
 #include <gmock/gmock.h>

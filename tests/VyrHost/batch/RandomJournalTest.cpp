@@ -1,7 +1,7 @@
 // Journals of batches by chance, with names of all kinds: what is written is what is read.
 #include <VyrHost/batch/JournalText.h>
 
-#include <VyrHost/model/PlanCheck.h>
+#include <VyrHost/model/RenamePlan.h>
 #include <VyrHost/rename/Planner.h>
 
 #include <VyrPlatform/files/FileSystem.h>

@@ -7,7 +7,8 @@
 #include <tests/support/Describe.h>
 #include <tests/support/StdPath.h>
 
-#include <VyrHost/batch/JournalName.h>
+#include <VyrHost/batch/JournalLines.h>
+#include <VyrHost/batch/JournalText.h>
 #include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/files/FileSystem.h>
 

@@ -1,7 +1,7 @@
 // Tests of the program: "vyr rename" as a preview.
 #include "VyrProgram.h"
 
-#include <VyrHost/ui/JsonLines.h>
+#include <VyrHost/ui/Output.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <gmock/gmock.h>

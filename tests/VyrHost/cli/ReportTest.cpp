@@ -1,7 +1,7 @@
 // The exit code that the end of a batch asks for.
-#include <VyrHost/cli/Report.h>
+#include <VyrHost/cli/BatchRun.h>
 
-#include <VyrHost/cli/ExitCode.h>
+#include <VyrHost/cli/Messages.h>
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,7 @@ BatchSummary SummaryOfBatch(std::uint32_t number, std::size_t done)
 
 TEST(JudgeSummary, IsSuccessWhereAllIsDone)
 {
-    EXPECT_EQ(JudgeSummary(SummaryOfBatch(1, 3)), ExitCode::Success);
+    EXPECT_EQ(JudgeSummary(SummaryOfBatch(1, 3)), ExitCode::success);
 }
 
 TEST(JudgeSummary, IsBlockedWhereNothingWasBegun)
@@ -30,14 +30,14 @@ TEST(JudgeSummary, IsBlockedWhereNothingWasBegun)
     BatchSummary summary = SummaryOfBatch(0, 0);
     summary.notReached = 3;
     summary.error = u"another batch of renames is being worked on";
-    EXPECT_EQ(JudgeSummary(summary), ExitCode::Blocked);
+    EXPECT_EQ(JudgeSummary(summary), ExitCode::blocked);
 }
 
 TEST(JudgeSummary, IsPartlyWhereEveryEntryFailsThoughNoBatchIsLeft)
 {
     BatchSummary summary = SummaryOfBatch(0, 0);
     summary.failed = 3;
-    EXPECT_EQ(JudgeSummary(summary), ExitCode::Partly);
+    EXPECT_EQ(JudgeSummary(summary), ExitCode::partly);
 }
 
 TEST(JudgeSummary, IsInterruptedWhereItWasStoppedBeforeTheFirstEntry)
@@ -45,5 +45,5 @@ TEST(JudgeSummary, IsInterruptedWhereItWasStoppedBeforeTheFirstEntry)
     BatchSummary summary = SummaryOfBatch(0, 0);
     summary.notReached = 3;
     summary.wasStopped = true;
-    EXPECT_EQ(JudgeSummary(summary), ExitCode::Interrupted);
+    EXPECT_EQ(JudgeSummary(summary), ExitCode::interrupted);
 }

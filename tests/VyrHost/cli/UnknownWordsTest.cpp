@@ -1,5 +1,5 @@
 // Tests of the word that was probably meant.
-#include <VyrHost/cli/UnknownWords.h>
+#include <VyrHost/cli/Arguments.h>
 
 #include <gtest/gtest.h>
 

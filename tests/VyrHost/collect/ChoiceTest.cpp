@@ -2,7 +2,7 @@
 #include <VyrHost/collect/Choice.h>
 
 #include <VyrHost/collect/CollectEntries.h>
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/text/Errors.h>
 
 #include <tests/support/Describe.h>
 #include <tests/support/FileMoments.h>

@@ -1,7 +1,7 @@
 // Tests of gathering entries.
 #include <VyrHost/collect/CollectEntries.h>
 
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrPlatform/files/FileSystem.h>
 

@@ -1,8 +1,7 @@
 // Trees are copied and moved, compared, and their folders get their times.
 #include "Snapshot.h"
 
-#include <VyrHost/foldercopy/CreatedFolders.h>
-#include <VyrHost/foldercopy/TransferFinish.h>
+#include <VyrHost/foldercopy/Transfer.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FileTimes.h>
 #include <tests/support/FileMoments.h>
@@ -239,7 +238,7 @@ TEST_F(FolderTransfer, WhatDiffersIsReportedAndLeftAlone)
     const TransferProblems problems = Finish(TransferAction::Copy);
     ASSERT_EQ(problems.size(), 3u);
     for (const TransferProblem& problem : problems)
-        EXPECT_EQ(problem.fault, problem.path.GetLength() == 1 ? TransferFault::Differs : TransferFault::NoFolder);
+        EXPECT_EQ(problem.fault, problem.path.GetLength() == 1 ? TransferFault::Differs : TransferFault::noFolder);
     EXPECT_EQ(To(), (TreeSnapshot{{"a", "cut off"}, {"b", "no folder"}, {"c", "3"}}));
 }
 

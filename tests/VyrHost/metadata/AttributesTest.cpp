@@ -1,7 +1,6 @@
 // Attributes that are set, cleared and taken back.
-#include <VyrHost/metadata/AttributesChange.h>
-#include <VyrHost/metadata/AttributesRule.h>
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/metadata/Attributes.h>
+#include <VyrHost/text/Errors.h>
 
 #include <VyrPlatform/files/FileAttributes.h>
 #include <VyrPlatform/text/Encoding.h>

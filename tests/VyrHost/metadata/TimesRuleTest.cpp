@@ -1,8 +1,7 @@
 // New times of files: from what is typed, from the file, and moved.
-#include <VyrHost/metadata/TimesRule.h>
+#include <VyrHost/metadata/Times.h>
 
-#include <VyrHost/metadata/TimesChange.h>
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <tests/support/Describe.h>

@@ -93,8 +93,8 @@ TEST(FolderSet, TellsWhatStandsUnderEachName)
     EXPECT_EQ(folder.error, 0u);
     ASSERT_NE(folder.names.Find(u"file"), nullptr);
     EXPECT_EQ(folder.names.Find(u"file")->kind, Kind::File);
-    EXPECT_EQ(folder.names.Find(u"file")->owner, NoEntry);
-    EXPECT_EQ(folder.names.Find(u"file")->holder, NoEntry);
+    EXPECT_EQ(folder.names.Find(u"file")->owner, noEntry);
+    EXPECT_EQ(folder.names.Find(u"file")->holder, noEntry);
     ASSERT_NE(folder.names.Find(u"folder"), nullptr);
     EXPECT_EQ(folder.names.Find(u"folder")->kind, Kind::Folder);
     // What is added stands behind.
@@ -154,7 +154,7 @@ TEST(FolderSet, KnowsWhereEachFolderStands)
     EXPECT_EQ(folders[outer].shown, u"shown/");
     // Upward there is a root, whose name is its path.
     std::uint32_t root = outer;
-    for (int steps = 0; folders[root].parent != NoFolder; root = folders[root].parent) {
+    for (int steps = 0; folders[root].parent != noFolder; root = folders[root].parent) {
         EXPECT_LT(folders[root].parent, root);
         ASSERT_LT(++steps, 100);
     }

@@ -1,7 +1,7 @@
 // Tests of the list that people edit.
-#include <VyrHost/rename/EditedList.h>
+#include <VyrHost/rename/NameLists.h>
 
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/text/Errors.h>
 
 #include <gtest/gtest.h>
 #include <tests/support/Describe.h>

@@ -70,7 +70,7 @@ TEST_F(KeepingTogether, SidecarsBelongToTheFileWhoseWholeNameTheyHave)
     EXPECT_EQ(mainOf(3), 2u);
     EXPECT_EQ(mainOf(4), 3u);
     for (const std::size_t entry : {1u, 2u, 5u, 6u})
-        EXPECT_EQ(mainOf(entry), NoEntry) << entry;
+        EXPECT_EQ(mainOf(entry), noEntry) << entry;
 }
 
 TEST_F(KeepingTogether, MissingEntriesStandAlone)

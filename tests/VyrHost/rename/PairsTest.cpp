@@ -1,7 +1,7 @@
 // Tests of pairs of names from tables.
-#include <VyrHost/rename/Pairs.h>
+#include <VyrHost/rename/NameLists.h>
 
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/text/Errors.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -2,8 +2,7 @@
 #include <VyrHost/rename/Preview.h>
 
 #include <VyrHost/collect/CollectEntries.h>
-#include <VyrHost/rename/GivenNames.h>
-#include <VyrHost/rename/RuleNames.h>
+#include <VyrHost/rename/NameSources.h>
 #include <VyrHost/rename/RuleTexts.h>
 #include <VyrHostPlatform/NameFolding.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
@@ -137,7 +136,7 @@ TEST_F(PreviewTest, RefusesAnEmptyName)
 TEST_F(PreviewTest, RefusesAPictureWithoutADate)
 {
     Write({u"a.jpg"});
-    EXPECT_EQ(DecideNamed({u"a.jpg"}, DateRules(u"yyyy", {DateSource::Picture})), Strings{No(Reason::NoDate)});
+    EXPECT_EQ(DecideNamed({u"a.jpg"}, DateRules(u"yyyy", {DateSource::PictureTaken})), Strings{No(Reason::NoDate)});
 }
 
 TEST_F(PreviewTest, NumbersTwoEntriesThatWantOneName)
@@ -269,7 +268,7 @@ TEST_F(PreviewTest, TakesTheDateOfTheFirstThatHasOneForAllThatKeepTogether)
 {
     Write({u"a.xmp", u"b.xmp"});
     m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
-    EXPECT_EQ(DecideTogether({u"a.xmp", u"a.jpg", u"b.xmp"}, DateRules(u"yyyy", {DateSource::Picture})),
+    EXPECT_EQ(DecideTogether({u"a.xmp", u"a.jpg", u"b.xmp"}, DateRules(u"yyyy", {DateSource::PictureTaken})),
               (Strings{"2024.xmp", "2024.jpg", No(Reason::NoDate)}));
 }
 
@@ -356,13 +355,13 @@ TEST_F(PreviewTest, MovesIntoFoldersThatAreThereOrAreToBeMade)
     m_folder.WriteFile(u"b.jpg", BuildJpeg(PictureFacts{}));
     m_folder.WriteFile(u"2024/a.jpg");
     CollectedEntries gathered = GatherNamed({u"a.jpg", u"b.jpg"});
-    const Rules rules = DateRules(u"yyyy<Folder><Name>", {DateSource::Picture});
+    const Rules rules = DateRules(u"yyyy<Folder><Name>", {DateSource::PictureTaken});
     const std::vector<Decision> decisions = DecideByRules(gathered.list, rules, OnConflict::Number);
     // What is in the folder counts.
     EXPECT_EQ(Told(decisions[0]), "a (1).jpg #");
     EXPECT_EQ(Told(decisions[1]), "b.jpg");
     gathered = GatherNamed({u"a.jpg", u"b.jpg"});
-    const Rules deep = DateRules(u"MM<Folder>dd<Folder><Name>", {DateSource::Picture});
+    const Rules deep = DateRules(u"MM<Folder>dd<Folder><Name>", {DateSource::PictureTaken});
     RuleNames names(deep, Counting::WholeList);
     const RenamePlan plan =
         MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number)).plan;
@@ -382,7 +381,7 @@ TEST_F(PreviewTest, RefusesToMoveIntoWhatIsNoFolder)
 {
     m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
     m_folder.WriteFile(u"2024");
-    EXPECT_EQ(DecideNamed({u"a.jpg"}, DateRules(u"yyyy<Folder><Name>", {DateSource::Picture})),
+    EXPECT_EQ(DecideNamed({u"a.jpg"}, DateRules(u"yyyy<Folder><Name>", {DateSource::PictureTaken})),
               Strings{No(Reason::BadFolder)});
 }
 
@@ -395,7 +394,7 @@ TEST_F(PreviewTest, RefusesFoldersWithoutAName)
     };
     m_folder.WriteFile(u"a.jpg", camera(".."));
     m_folder.WriteFile(u"b.jpg", camera(" "));
-    EXPECT_EQ(DecideNamed({u"a.jpg", u"b.jpg"}, DateRules(u"<Make><Folder><Name>", {DateSource::Picture})),
+    EXPECT_EQ(DecideNamed({u"a.jpg", u"b.jpg"}, DateRules(u"<Make><Folder><Name>", {DateSource::PictureTaken})),
               (Strings{No(Reason::NamelessFolder), No(Reason::NamelessFolder)}));
 }
 

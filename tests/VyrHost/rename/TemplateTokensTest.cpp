@@ -1,7 +1,7 @@
 // Tests of what templates may not hold.
 #include <VyrHost/rename/TemplateTokens.h>
 
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/text/Errors.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

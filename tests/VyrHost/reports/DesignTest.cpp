@@ -1,7 +1,7 @@
 // The designs of reports.
 #include <VyrHost/reports/Design.h>
 
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrPlatform/process/ComApartment.h>
 
 #include <tests/support/Describe.h>

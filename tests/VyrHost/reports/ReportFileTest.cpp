@@ -1,7 +1,7 @@
 // The file of a report, which is there whole or not at all.
 #include <VyrHost/reports/ReportFile.h>
 
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/text/Errors.h>
 
 #include <tests/support/ScratchFolder.h>
 

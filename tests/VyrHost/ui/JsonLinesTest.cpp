@@ -1,5 +1,5 @@
 // Tests of a preview as JSON lines.
-#include <VyrHost/ui/JsonLines.h>
+#include <VyrHost/ui/Output.h>
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Tests of lists of records as data: their columns, their order, and the words for their values.
 #include <VyrHost/ui/RecordTable.h>
 
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/text/Errors.h>
 
 #include <gtest/gtest.h>
 

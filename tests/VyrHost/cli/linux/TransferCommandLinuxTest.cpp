@@ -1,7 +1,7 @@
 // Tests of the program: folders with odd names, behind links, and interrupts before a folder is begun and in it.
 #include "../VyrProgram.h"
 
-#include <VyrHost/cli/TransferRequest.h>
+#include <VyrHost/cli/Program.h>
 #include <VyrHostPlatform/Interrupt.h>
 
 #include <gmock/gmock.h>
@@ -13,6 +13,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <thread>
+#include <vector>
 
 using namespace VyrTests;
 using testing::HasSubstr;
@@ -27,16 +28,11 @@ using TransferCommandLinux = VyrProgram;
 TEST_F(TransferCommandLinux, InterruptBeginsNoFurtherFolder)
 {
     m_folder.WriteFile(u"from/a", "1");
-    VyrHost::Cli::TransferRequest request;
-    request.action = VyrHost::FolderCopy::TransferAction::Move;
-    request.sources = {m_folder.Path(u"from")};
-    request.destination = m_folder.Path(u"to");
-    request.apply = true;
-    request.quiet = true;
-    const auto runInterrupted = [&request] {
+    const std::vector<CString> call = {u"move", m_folder.Path(u"from"), m_folder.Path(u"to"), u"--apply", u"--quiet"};
+    const auto runInterrupted = [&call] {
         VyrHostPlatform::Interrupt::Catch();
         std::raise(SIGINT);
-        std::exit(VyrHost::Cli::RunTransfer(request));
+        std::exit(VyrHost::Cli::RunProgram(call));
     };
     EXPECT_EXIT(runInterrupted(), testing::ExitedWithCode(130), "from' not reached");
     EXPECT_EQ(m_folder.ReadFile(u"from/a"), "1");
@@ -49,20 +45,16 @@ TEST_F(TransferCommandLinux, InterruptInAFolderIsToldAndTheFolderBroughtToItsEnd
     m_folder.WriteFile(u"one/b/c", "2");
     m_folder.WriteFile(u"two/d", "3");
     m_folder.MakeFolder(u"to");
-    VyrHost::Cli::TransferRequest request;
-    request.action = VyrHost::FolderCopy::TransferAction::Move;
-    request.sources = {m_folder.Path(u"one"), m_folder.Path(u"two")};
-    request.destination = m_folder.Path(u"to");
-    request.apply = true;
-    request.quiet = true;
-    const auto runInterrupted = [&request] {
+    const std::vector<CString> call = {
+        u"move", m_folder.Path(u"one"), m_folder.Path(u"two"), m_folder.Path(u"to"), u"--apply", u"--quiet"};
+    const auto runInterrupted = [&call] {
         const MessagePosting posting;
         // The walk through the first folder runs it, and shows how far it is when this is over.
         posting.PostWork([] {
             std::raise(SIGINT);
             std::this_thread::sleep_for(std::chrono::milliseconds(250));
         });
-        std::exit(VyrHost::Cli::RunTransfer(request));
+        std::exit(VyrHost::Cli::RunProgram(call));
     };
     EXPECT_EXIT(runInterrupted(), testing::ExitedWithCode(130),
                 "vyr: interrupted; '.*one' is brought to its end first .*\n.*vyr: '.*two' not reached\n$");

@@ -1,11 +1,10 @@
 // Trees with what only Linux has, and file systems that lack something.
 #include "../Snapshot.h"
 
-#include <VyrHost/foldercopy/CreatedFolders.h>
 #include <VyrHost/foldercopy/TargetCheck.h>
-#include <VyrHost/foldercopy/TransferFinish.h>
-#include <VyrHost/foldercopy/TransferTasks.h>
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/foldercopy/Transfer.h>
+#include <VyrHost/foldercopy/TransferBatch.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrPlatform/files/FileTimes.h>
 #include <tests/support/FileMoments.h>
 #include <tests/support/linux/MountedFolder.h>

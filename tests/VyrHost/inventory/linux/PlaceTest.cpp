@@ -6,7 +6,7 @@
 #include <tests/support/linux/Unprivileged.h>
 #include <tests/support/linux/WindowsDisk.h>
 
-#include <VyrHost/text/UsageError.h>
+#include <VyrHost/text/Errors.h>
 
 #include <gmock/gmock.h>
 

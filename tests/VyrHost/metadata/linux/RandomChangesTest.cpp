@@ -2,11 +2,10 @@
 // it was, by the system's own calls.
 #include <VyrHost/batch/Batches.h>
 #include <VyrHost/collect/CollectEntries.h>
-#include <VyrHost/metadata/AttributesRule.h>
-#include <VyrHost/metadata/Kinds.h>
-#include <VyrHost/metadata/MarkRule.h>
-#include <VyrHost/metadata/Proposal.h>
-#include <VyrHost/metadata/TimesRule.h>
+#include <VyrHost/metadata/Attributes.h>
+#include <VyrHost/metadata/Changes.h>
+#include <VyrHost/metadata/Marks.h>
+#include <VyrHost/metadata/Times.h>
 
 #include <tests/VyrHost/batch/BatchScene.h>
 #include <tests/VyrHost/batch/CutOffScene.h>

@@ -2,9 +2,9 @@
 #include <VyrHost/rename/Preview.h>
 
 #include <VyrHost/collect/CollectEntries.h>
-#include <VyrHost/rename/RuleNames.h>
+#include <VyrHost/rename/NameSources.h>
 #include <VyrHost/rename/RuleTexts.h>
-#include <VyrHost/text/ErrorText.h>
+#include <VyrHost/text/Errors.h>
 
 #include <gtest/gtest.h>
 #include <tests/support/ScratchFolder.h>

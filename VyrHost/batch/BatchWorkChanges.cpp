@@ -1,0 +1,130 @@
+// Goes through the changes of a batch, one file after the other.
+#include <VyrHost/batch/BatchWork.h>
+
+#include <VyrHost/model/SlotTable.h>
+#include <VyrHost/text/Errors.h>
+
+namespace VyrHost::Batch {
+
+namespace {
+
+using Model::Outcome;
+using Model::Status;
+
+Model::ChangeState GoalOf(Direction direction)
+{
+    return direction == Direction::Forward ? Model::ChangeState::After : Model::ChangeState::Before;
+}
+
+Outcome Failure(std::uint32_t error)
+{
+    return {.status = Status::Failed, .error = error, .reason = Text::ErrorText(error)};
+}
+
+} // namespace
+
+ChangeWork::ChangeWork(const Journal& journal, const PlanProgress& progress)
+    : m_journal(journal), m_progress(progress), m_looks(journal.changes.size(), {Model::ChangeState::Before, 0}),
+      m_isKept(journal.changes.size()), m_renames(journal.changes.size(), Model::none)
+{
+    if (journal.changes.empty())
+        return;
+    Model::SlotTable<Model::PlanIndex> renames;
+    for (Model::PlanIndex entry = 0; entry < journal.plan.entries.size(); ++entry)
+        renames.Put(journal.plan.entries[entry].from, entry);
+    for (std::size_t index = 0; index < journal.changes.size(); ++index)
+        if (const auto rename = renames.Find(journal.changes[index].place))
+            m_renames[index] = *rename;
+}
+
+void ChangeWork::TrustCheckpoint()
+{
+    if (m_journal.checkpoint)
+        for (const Model::PlanIndex index : m_journal.checkpoint->changesBefore)
+            m_isKept[index] = true;
+}
+
+void ChangeWork::Locate()
+{
+    for (std::size_t index = 0; index < m_looks.size(); ++index)
+        if (!m_isKept[index])
+            m_looks[index] = m_journal.changes[index].change->Look(PathOf(index));
+}
+
+bool ChangeWork::IsAnyFound() const
+{
+    for (std::size_t index = 0; index < m_looks.size(); ++index)
+        if (!m_isKept[index] && m_looks[index].state != Model::ChangeState::Unknown)
+            return true;
+    return false;
+}
+
+bool ChangeWork::Run(Direction direction, const Report& report, const Executor::StopRequest& isStopAsked)
+{
+    bool isStopped = false;
+    for (std::size_t count = 0; count < m_looks.size(); ++count) {
+        const std::size_t index = direction == Direction::Forward ? count : m_looks.size() - 1 - count;
+        if (m_isKept[index])
+            continue;
+        isStopped = isStopped || isStopAsked();
+        report(index, isStopped ? Outcome() : Perform(index, direction));
+    }
+    return !isStopped;
+}
+
+Outcome ChangeWork::Perform(std::size_t index, Direction direction)
+{
+    const Model::Change& change = *m_journal.changes[index].change;
+    const CString path = PathOf(index);
+    m_looks[index] = change.Look(path);
+    const Outcome foreseen = Foresee(index, direction);
+    if (foreseen.status != Status::Done || m_looks[index].state == GoalOf(direction))
+        return foreseen;
+    const std::uint32_t error = direction == Direction::Forward ? change.Apply(path) : change.TakeBack(path);
+    m_looks[index] = error ? change.Look(path) : Model::ChangeLook{GoalOf(direction), 0};
+    return error ? Failure(error) : foreseen;
+}
+
+Outcome ChangeWork::Foresee(std::size_t index, Direction direction) const
+{
+    const Model::ChangeLook& look = m_looks[index];
+    if (look.state == Model::ChangeState::Unknown)
+        return Failure(look.error);
+    if (look.state == Model::ChangeState::Other)
+        return {.status = Status::Refused,
+                .error = 0,
+                .reason = direction == Direction::Forward ? u"it is no longer what it was when it was listed"
+                                                          : u"another program has changed it since"};
+    return {.status = Status::Done, .error = 0, .reason = {}};
+}
+
+bool ChangeWork::IsDone(std::size_t index) const
+{
+    return !m_isKept[index] &&
+           (m_looks[index].state == Model::ChangeState::After || m_looks[index].state == Model::ChangeState::Partly);
+}
+
+bool ChangeWork::MayBeDone(std::size_t index, Direction direction) const
+{
+    const bool isUnclear =
+        m_looks[index].state == Model::ChangeState::Other || m_looks[index].state == Model::ChangeState::Unknown;
+    return IsDone(index) || (!m_isKept[index] && isUnclear && direction == Direction::Backward);
+}
+
+bool ChangeWork::IsAnyDone() const
+{
+    for (std::size_t index = 0; index < m_looks.size(); ++index)
+        if (IsDone(index))
+            return true;
+    return false;
+}
+
+CString ChangeWork::PathOf(std::size_t index) const
+{
+    const Model::PlanIndex entry = m_renames[index];
+    if (entry == Model::none || m_progress.Of(entry) == Location::Unknown)
+        return m_progress.PathOf(m_journal.changes[index].place);
+    return m_progress.PathOf(m_progress.PlaceOf(entry, m_progress.Of(entry)));
+}
+
+} // namespace VyrHost::Batch

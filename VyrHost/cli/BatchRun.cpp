@@ -1,0 +1,139 @@
+// Joins the batches with the kinds of change.
+#include <VyrHost/cli/BatchRun.h>
+
+#include <VyrHost/batch/FileOperations.h>
+#include <VyrHost/cli/Messages.h>
+#include <VyrHost/metadata/Changes.h>
+#include <VyrHost/text/SafeText.h>
+#include <VyrHost/ui/ResultOutput.h>
+#include <VyrHostPlatform/Console.h>
+#include <VyrHostPlatform/Interrupt.h>
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
+#include <utility>
+
+namespace VyrHost::Cli {
+
+Batch::Batches OpenBatches(const Batch::LockWait& wait)
+{
+    Batch::BatchSettings settings = Batch::SettingsFromEnvironment();
+    settings.wait = wait;
+    settings.kinds = Metadata::Kinds();
+    return {Batch::SystemFiles(), std::move(settings)};
+}
+
+std::string CutOffNotice(const Batch::BatchInformation& batch)
+{
+    // A damaged journal does not tell when it began.
+    const std::string time = batch.started.IsEmpty() ? "" : " of " + Text::SafeText(batch.started);
+    return "batch " + std::to_string(batch.number) + time + " was cut off; \"vyr recover\" ends it";
+}
+
+void OfferRecovery()
+{
+    if (const auto cutOff = OpenBatches().FindCutOff())
+        Complain(CutOffNotice(*cutOff));
+}
+
+Batch::LockWait WaitTenSeconds()
+{
+    return [waits = 0]() mutable {
+        constexpr std::chrono::milliseconds pause(100);
+        constexpr int mostWaits = 100;
+        if (waits == 0)
+            Complain("another vyr is at work; waiting up to ten seconds for its end");
+        if (waits == mostWaits || VyrHostPlatform::Interrupt::WasAsked())
+            return false;
+        ++waits;
+        std::this_thread::sleep_for(pause);
+        return true;
+    };
+}
+
+namespace {
+
+/// A batch of which no entry could be renamed has no number either, but then each entry says why.
+bool WasBlocked(const Batch::BatchSummary& summary)
+{
+    return summary.number == 0 && !summary.error.IsEmpty();
+}
+
+} // namespace
+
+int WriteReport(const Model::Results& results, const ReportStyle& style, const std::string& heading,
+                const std::string& ending)
+{
+    const Model::Tally tally(results);
+    Ui::OutputBuffer output;
+    if (style.json) {
+        Ui::WriteResultJson(output, results, style.isPreview);
+        if (!style.quiet)
+            VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error,
+                                            Ui::SummaryOf(tally) + style.remark);
+    } else if (style.quiet) {
+        for (std::size_t index = 0; index < results.Count(); ++index)
+            if (const Model::Result result = results.At(index); Ui::IsProblem(result))
+                Complain(Ui::MessageFor(result));
+    } else {
+        Ui::WriteResultTable(output, results);
+        output << heading << Ui::SummaryOf(tally) << style.remark << ending;
+    }
+    return Finish(output, tally.IsWhole() ? ExitCode::success : ExitCode::partly);
+}
+
+BatchReport::BatchReport(const char* what, std::size_t total, Batch::Direction direction, const ReportStyle& style)
+    : m_direction(direction), m_style(style), m_progress(what, total, style.IsSilent()), m_results(direction)
+{}
+
+Batch::BatchEntryReport BatchReport::Collector()
+{
+    return [this](const Batch::BatchEntry& entry) {
+        m_results.Add(entry);
+        m_progress.Show(m_results.Count());
+    };
+}
+
+int BatchReport::Write(const Batch::BatchSummary& summary)
+{
+    m_progress.Close();
+    const std::string number = std::to_string(summary.number);
+    int code = ExitCode::success;
+    if (!WasBlocked(summary))
+        code = WriteReport(m_results, m_style, summary.number != 0 ? "Batch " + number + ": " : "", Ending(summary));
+    if (summary.wasStopped)
+        Complain("interrupted" + (m_style.quiet ? ": " + Ui::SummaryOf(Model::Tally(m_results)) : std::string("; ")) +
+                 "\"vyr undo " + number +
+                 (m_direction == Batch::Direction::Backward ? "\" goes on" : "\" undoes what was done"));
+    return std::max(code, JudgeSummary(summary));
+}
+
+std::string BatchReport::Ending(const Batch::BatchSummary& summary) const
+{
+    if (m_style.isPreview)
+        return "This is a preview: nothing was changed.\n";
+    if (m_direction == Batch::Direction::Backward && summary.undo != 0 && summary.done > 0)
+        return "\"vyr undo " + std::to_string(summary.undo) + "\" redoes it.\n";
+    return {};
+}
+
+int JudgeSummary(const Batch::BatchSummary& summary)
+{
+    for (const CString& path : summary.missing)
+        Complain("'" + Text::SafeText(path) + "' is not listed by its folder after its rename");
+    for (const CString& path : summary.keptFolders)
+        Complain("the folder '" + Text::SafeText(path) +
+                 "', which the batch made, stays: it is not empty, or cannot be removed; " + "\"vyr undo " +
+                 std::to_string(summary.number) + "\" tries again");
+    if (!summary.error.IsEmpty())
+        Complain(Text::SafeText(summary.error));
+    if (WasBlocked(summary))
+        return ExitCode::blocked;
+    if (summary.wasStopped)
+        return ExitCode::interrupted;
+    const bool isWhole = summary.failed + summary.refused + summary.notReached == 0;
+    return isWhole && summary.error.IsEmpty() && summary.missing.empty() ? ExitCode::success : ExitCode::partly;
+}
+
+} // namespace VyrHost::Cli

@@ -1,0 +1,60 @@
+/// @file
+/// The commands of vyr. Each declares its options, and runs where the command line asks for it.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+namespace CLI {
+class App;
+}
+
+namespace VyrHost::Cli {
+
+class Command
+{
+public:
+    /// @param command  of the parser.
+    explicit Command(CLI::App& command) : m_command(command) {}
+    Command(const Command&) = delete;
+    Command& operator=(const Command&) = delete;
+    virtual ~Command() = default;
+
+    /// Whether the parsed command line asks for it.
+    [[nodiscard]] bool IsChosen() const;
+    /// @return the program's exit code.
+    /// @throws UsageError
+    [[nodiscard]] virtual int Run() const = 0;
+
+protected:
+    CLI::App& m_command;
+};
+
+/// Adds all commands to `program`, in the order of its help.
+[[nodiscard]] std::vector<std::unique_ptr<Command>> AddCommands(CLI::App& program);
+
+/// Previews a rename, or does it.
+[[nodiscard]] std::unique_ptr<Command> AddRenameCommand(CLI::App& program);
+/// Lists files with what can be told of them.
+[[nodiscard]] std::unique_ptr<Command> AddListCommand(CLI::App& program);
+/// Shows the times of files, or sets them.
+[[nodiscard]] std::unique_ptr<Command> AddTimesCommand(CLI::App& program);
+/// Shows the attributes of files, or sets and clears them.
+[[nodiscard]] std::unique_ptr<Command> AddAttributesCommand(CLI::App& program);
+/// Takes the marks of downloads off files.
+[[nodiscard]] std::unique_ptr<Command> AddUnblockCommand(CLI::App& program);
+/// Previews the copying or moving of folders, or does it.
+[[nodiscard]] std::unique_ptr<Command> AddCopyCommand(CLI::App& program);
+[[nodiscard]] std::unique_ptr<Command> AddMoveCommand(CLI::App& program);
+/// Undoes a batch, redoes one that was undone, or lists the batches.
+[[nodiscard]] std::unique_ptr<Command> AddUndoCommand(CLI::App& program);
+/// Ends a batch that was cut off: finishes it, or undoes it.
+[[nodiscard]] std::unique_ptr<Command> AddRecoverCommand(CLI::App& program);
+/// Lists the programs, or the installer products, that are installed.
+[[nodiscard]] std::unique_ptr<Command> AddProgramsCommand(CLI::App& program);
+/// Lists the browsers that are installed.
+[[nodiscard]] std::unique_ptr<Command> AddBrowsersCommand(CLI::App& program);
+/// Tells whether a newer release is offered.
+[[nodiscard]] std::unique_ptr<Command> AddUpdatesCommand(CLI::App& program);
+
+} // namespace VyrHost::Cli

@@ -1,0 +1,71 @@
+/// @file
+/// Options: how they are declared and read, and which go together.
+#pragma once
+
+#include <VyrHost/cli/Arguments.h>
+#include <VyrHost/text/Errors.h>
+
+#include <optional>
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace CLI {
+class App;
+}
+
+namespace VyrHost::Cli {
+
+/// Adds the option `name` to `command`. `text` gets its value, and must live as long.
+/// @param value  what the value is called in the help.
+void AddText(CLI::App& command, const char* name, std::optional<std::string>& text, const char* value, const char* help,
+             const char* group);
+/// Adds an option without a value likewise.
+void AddFlag(CLI::App& command, const char* name, bool& flag, const char* help, const char* group);
+
+/// A word of an option and what it stands for.
+template <class Value>
+using Words = std::vector<std::pair<const char*, Value>>;
+
+/// What the word `text` stands for; the first of `words` when the option is not given.
+/// @throws UsageError for any other text.
+template <class Value>
+[[nodiscard]] Value ReadWord(const std::optional<std::string>& text, const char* option, const Words<Value>& words)
+{
+    if (!text)
+        return words.front().second;
+    std::string expected;
+    for (const auto& [word, value] : words) {
+        if (*text == word)
+            return value;
+        expected.append(expected.empty() ? "" : ", ").append(word);
+    }
+    Text::RefuseValue(option, FromParser(*text), "one of " + expected + " is expected");
+}
+
+/// Two options, or an option and an argument, that contradict each other.
+struct ExclusivePair
+{
+    const char* option;
+    const char* other;
+    /// Why, where the two do not tell; else null.
+    const char* why = nullptr;
+};
+
+/// An option that changes nothing without another one.
+struct DependentOption
+{
+    const char* option;
+    const char* needed;
+};
+
+/// Looks at what was given of the options of `command`.
+/// @throws UsageError for the first pair that does not go together, and the first option that changes nothing.
+void CheckOptionPairs(const CLI::App& command, std::span<const ExclusivePair> exclusive,
+                      std::span<const DependentOption> dependent = {});
+
+/// What is said of an option that changes nothing without `needed`.
+[[nodiscard]] std::string WithoutEffect(const std::string& option, const std::string& needed);
+
+} // namespace VyrHost::Cli

@@ -1,0 +1,38 @@
+/// @file
+/// A call of "vyr rename": what it asks for, and how that is carried out.
+#pragma once
+
+#include <VyrHost/collect/CollectEntries.h>
+#include <VyrHost/collect/Sorting.h>
+#include <VyrHost/rename/NameSources.h>
+#include <VyrHost/rename/Preview.h>
+#include <VyrHost/rename/Rule.h>
+
+#include <optional>
+
+namespace VyrHost::Cli {
+
+struct RenameRequest
+{
+    Rename::Rules rules;
+    Collect::SourceSettings sources;
+    /// The file with pairs of old and new names, instead of rules and sources; "-" is the standard input.
+    std::optional<CString> pairs;
+    Collect::SortSettings order;
+    Rename::Counting counting = Rename::Counting::WholeList;
+    bool together = false;
+    /// With OnConflict::Refuse any name that is taken stops the whole.
+    Rename::ConflictSettings conflicts;
+    /// The user looks through the new names in an editor.
+    bool edit = false;
+    bool apply = false;
+    bool json = false;
+    bool quiet = false;
+};
+
+/// Carries `request` out and writes what became of it.
+/// @return the program's exit code.
+/// @throws UsageError
+[[nodiscard]] int RunRename(RenameRequest& request);
+
+} // namespace VyrHost::Cli

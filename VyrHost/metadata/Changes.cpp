@@ -1,0 +1,177 @@
+// Goes through a list, and puts what is to be changed into a batch.
+#include <VyrHost/metadata/Changes.h>
+
+#include <VyrHost/metadata/Attributes.h>
+#include <VyrHost/metadata/Marks.h>
+#include <VyrHost/metadata/Times.h>
+#include <VyrHost/text/Errors.h>
+#include <VyrPlatform/files/FileIdentity.h>
+
+#include <charconv>
+#include <cstddef>
+#include <string>
+#include <system_error>
+#include <utility>
+
+namespace VyrHost::Metadata {
+
+namespace {
+
+/// Puts folders of a list into the plan of a batch.
+class PlannedFolders
+{
+public:
+    PlannedFolders(const Model::FolderSet& folders, Model::RenamePlan& plan)
+        : m_folders(folders), m_plan(plan), m_indexes(folders.Count(), Model::none)
+    {}
+
+    /// The index in the plan of the folder `number`, which is added with those that it stands in.
+    Model::PlanIndex Add(std::uint32_t number)
+    {
+        if (m_indexes[number] != Model::none)
+            return m_indexes[number];
+        Model::PlanFolder planned;
+        planned.place.name = m_folders[number].name;
+        if (m_folders[number].parent != Model::noFolder)
+            planned.place.folder = Add(m_folders[number].parent);
+        m_indexes[number] = static_cast<Model::PlanIndex>(m_plan.folders.size());
+        m_plan.folders.push_back(planned);
+        return m_indexes[number];
+    }
+
+private:
+    const Model::FolderSet& m_folders;
+    Model::RenamePlan& m_plan;
+    std::vector<Model::PlanIndex> m_indexes;
+};
+
+} // namespace
+
+std::vector<Proposal> ProposeChanges(const ChangeRule& rule, const Model::EntryList& list,
+                                     const std::function<void(std::size_t done)>& report)
+{
+    std::vector<Proposal> proposals;
+    proposals.reserve(list.entries.size());
+    for (const Model::Entry& entry : list.entries) {
+        const CString path = list.PathOf(entry);
+        if (entry.kind == VyrPlatform::FileSystem::Kind::Missing)
+            proposals.push_back({nullptr, Text::ErrorText(VyrPlatform::LookAtFile(path).error)});
+        else
+            proposals.push_back(rule.Propose(path, entry, proposals.size()));
+        report(proposals.size());
+    }
+    return proposals;
+}
+
+Batch::NewBatch MakeBatch(const CString& command, const Model::EntryList& list, const std::vector<Proposal>& proposals,
+                          std::vector<std::size_t>& entries)
+{
+    Batch::NewBatch batch;
+    batch.command = command;
+    batch.plan.texts = list.folders.Texts();
+    PlannedFolders folders(list.folders, batch.plan);
+    for (std::size_t index = 0; index < proposals.size(); ++index) {
+        if (!proposals[index].change)
+            continue;
+        const Model::Entry& entry = list.entries[index];
+        batch.changes.push_back({{folders.Add(entry.folder), entry.name}, proposals[index].change});
+        entries.push_back(index);
+    }
+    return batch;
+}
+
+using Model::Status;
+
+namespace {
+
+Model::Outcome OutcomeOf(const Proposal& proposal)
+{
+    if (proposal.change)
+        return {Status::Done, 0, {}};
+    return {proposal.refusal.IsEmpty() ? Status::Unchanged : Status::Refused, 0, proposal.refusal};
+}
+
+} // namespace
+
+ChangeResults::ChangeResults(std::string_view kind, const Model::EntryList& list, std::vector<Proposal> proposals)
+    : m_kind(kind), m_list(list), m_proposals(std::move(proposals))
+{
+    m_outcomes.reserve(m_proposals.size());
+    for (const Proposal& proposal : m_proposals)
+        m_outcomes.push_back(OutcomeOf(proposal));
+}
+
+Model::Result ChangeResults::At(std::size_t index) const
+{
+    const Model::Entry& entry = m_list.entries[index];
+    const Model::Folder& folder = m_list.folders[entry.folder];
+    const Proposal& proposal = m_proposals[index];
+    Model::Result result;
+    result.kind = m_kind;
+    result.from = {folder.path, folder.shown, entry.name};
+    if (proposal.change)
+        result.values = {proposal.change->ShownBefore(), proposal.change->ShownAfter()};
+    result.status = m_outcomes[index].status;
+    result.reason = m_outcomes[index].reason;
+    return result;
+}
+
+Model::ChangeKinds Kinds()
+{
+    return {{std::string(TimesChange::kind), TimesChange::Read},
+            {std::string(AttributesChange::kind), AttributesChange::Read},
+            {std::string(MarkChange::kind), MarkChange::Read}};
+}
+
+namespace {
+
+constexpr std::u16string_view hexDigits = u"0123456789abcdef";
+
+} // namespace
+
+std::u16string_view TakeUpTo(std::u16string_view& text, char16_t mark)
+{
+    const std::size_t at = text.find(mark);
+    const std::u16string_view piece = text.substr(0, at);
+    text.remove_prefix(at == std::u16string_view::npos ? text.size() : at + 1);
+    return piece;
+}
+
+std::optional<std::int64_t> ReadWhole(std::u16string_view text, int base)
+{
+    std::string digits;
+    for (const char16_t unit : text)
+        digits += unit < 0x80 ? static_cast<char>(unit) : '?';
+    std::int64_t number = 0;
+    const char* const end = digits.data() + digits.size();
+    const auto read = std::from_chars(digits.data(), end, number, base);
+    return read.ec == std::errc() && read.ptr == end ? std::optional(number) : std::nullopt;
+}
+
+std::u16string ToHex(std::string_view bytes)
+{
+    std::u16string text;
+    for (const char byte : bytes) {
+        const auto value = static_cast<unsigned char>(byte);
+        text += hexDigits[value >> 4];
+        text += hexDigits[value & 0xF];
+    }
+    return text;
+}
+
+std::optional<std::string> FromHex(std::u16string_view text)
+{
+    if (text.size() % 2 != 0)
+        return std::nullopt;
+    std::string bytes;
+    for (std::size_t at = 0; at < text.size(); at += 2) {
+        const std::size_t high = hexDigits.find(text[at]);
+        const std::size_t low = hexDigits.find(text[at + 1]);
+        if (high == std::u16string_view::npos || low == std::u16string_view::npos)
+            return std::nullopt;
+        bytes += static_cast<char>(high << 4 | low);
+    }
+    return bytes;
+}
+
+} // namespace VyrHost::Metadata

@@ -1,0 +1,177 @@
+// Reads and words the times of a file.
+#include <VyrHost/metadata/Dates.h>
+
+#include <VyrPlatform/time/DateTimePattern.h>
+
+#include <algorithm>
+#include <cstddef>
+
+namespace VyrHost::Metadata {
+
+namespace FileTimes = VyrPlatform::FileTimes;
+
+std::u16string_view WordFor(FileDate date)
+{
+    switch (date) {
+    case FileDate::Modified:
+        return u"modified";
+    case FileDate::Created:
+        return u"created";
+    case FileDate::Accessed:
+        break;
+    }
+    return u"accessed";
+}
+
+std::optional<VyrPlatform::FileTicks> TicksOf(const CString& path, FileDate date)
+{
+    switch (date) {
+    case FileDate::Modified:
+        return FileTimes::GetModified(path);
+    case FileDate::Created:
+        return FileTimes::GetCreated(path);
+    case FileDate::Accessed:
+        break;
+    }
+    return FileTimes::GetAccessed(path);
+}
+
+CString Shown(const COleDateTime& dateTime)
+{
+    return VyrPlatform::DateTimePattern::Write(dateTime, u"%Y-%m-%d %H:%M:%S");
+}
+
+CString Shown(VyrPlatform::FileTicks ticks)
+{
+    return Shown(FileTimes::ToLocal(ticks));
+}
+
+namespace {
+
+bool IsDigit(char16_t unit)
+{
+    return unit >= u'0' && unit <= u'9';
+}
+
+/// Reads the front of a text.
+class Front
+{
+public:
+    explicit Front(std::u16string_view text) : m_rest(text) {}
+
+    /// Takes exactly `count` digits.
+    bool TakeNumber(std::size_t count, int& number)
+    {
+        if (m_rest.size() < count)
+            return false;
+        number = 0;
+        for (const char16_t unit : m_rest.substr(0, count)) {
+            if (!IsDigit(unit))
+                return false;
+            number = number * 10 + (unit - u'0');
+        }
+        m_rest.remove_prefix(count);
+        return true;
+    }
+
+    /// Takes one unit where it is one of `separators`; gives it, else 0.
+    char16_t TakeSeparator(std::u16string_view separators)
+    {
+        if (m_rest.empty() || separators.find(m_rest.front()) == std::u16string_view::npos)
+            return 0;
+        const char16_t separator = m_rest.front();
+        m_rest.remove_prefix(1);
+        return separator;
+    }
+
+    [[nodiscard]] bool StartsWithDigit() const { return CountDigits() > 0; }
+    [[nodiscard]] std::size_t CountDigits() const
+    {
+        const auto* const end = std::find_if_not(m_rest.begin(), m_rest.end(), IsDigit);
+        return static_cast<std::size_t>(end - m_rest.begin());
+    }
+
+private:
+    std::u16string_view m_rest;
+};
+
+struct Day
+{
+    int year = 0;
+    int month = 0;
+    int day = 0;
+};
+
+/// Whether a date stands at the front, possible or not.
+bool TakeDay(Front& front, Day& day)
+{
+    constexpr std::u16string_view separators = u"-_. ";
+    if (!front.TakeNumber(4, day.year) || day.year < 1900 || day.year > 2099)
+        return false;
+    const char16_t separator = front.TakeSeparator(separators);
+    if (!front.TakeNumber(2, day.month))
+        return false;
+    if (separator != 0 && front.TakeSeparator(separators) != separator)
+        return false;
+    return front.TakeNumber(2, day.day);
+}
+
+/// The time of day at the front of `text`, on `day`; invalid where there is none.
+COleDateTime TakeTime(Front front, const Day& day)
+{
+    constexpr std::u16string_view separators = u"-_.:";
+    COleDateTime none;
+    none.SetStatus(COleDateTime::invalid);
+    int hour = 0;
+    int minute = 0;
+    int second = 0;
+    front.TakeSeparator(u"-_.T ");
+    if (!front.TakeNumber(2, hour))
+        return none;
+    const bool isSeparated = front.TakeSeparator(separators) != 0;
+    if (!front.TakeNumber(2, minute))
+        return none;
+    // Without separators all six digits stand together, and milliseconds behind them: four digits alone, or other
+    // counts, may be a number of another kind.
+    constexpr std::size_t digitsOfFraction = 3;
+    const bool hasSecond = (!isSeparated || front.TakeSeparator(separators) != 0) && front.TakeNumber(2, second);
+    const std::size_t behind = front.CountDigits();
+    if ((!hasSecond && !isSeparated) || (behind != 0 && behind != digitsOfFraction))
+        return none;
+    return COleDateTime(day.year, day.month, day.day, hour, minute, second);
+}
+
+bool IsPossible(const COleDateTime& dateTime)
+{
+    return dateTime.GetStatus() == COleDateTime::valid;
+}
+
+} // namespace
+
+std::optional<Text::TypedDateTime> FindNameDate(std::u16string_view name, NameDateProblem& problem)
+{
+    problem = NameDateProblem::NoDate;
+    for (std::size_t at = 0; at < name.size(); ++at) {
+        if (!IsDigit(name[at]) || (at > 0 && IsDigit(name[at - 1])))
+            continue;
+        Front front(name.substr(at));
+        Day day;
+        if (!TakeDay(front, day))
+            continue;
+        const COleDateTime date(day.year, day.month, day.day, 0, 0, 0);
+        const COleDateTime dateTime = TakeTime(front, day);
+        // More digits that are no time belong to a number of another kind.
+        if (front.StartsWithDigit() && !IsPossible(dateTime))
+            continue;
+        if (!IsPossible(date)) {
+            problem = NameDateProblem::NoSuchDay;
+            continue;
+        }
+        problem = NameDateProblem::None;
+        const bool hasTime = IsPossible(dateTime);
+        return Text::TypedDateTime{hasTime ? dateTime : date, true, hasTime};
+    }
+    return std::nullopt;
+}
+
+} // namespace VyrHost::Metadata

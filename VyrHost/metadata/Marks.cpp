@@ -1,0 +1,170 @@
+// Removes and restores marks, and writes them for the journal: "NAME BYTES" for each form before, separated by
+// semicolons, the bytes in hexadecimal; "none" after.
+#include <VyrHost/metadata/Marks.h>
+
+#include <VyrHost/metadata/Changes.h>
+#include <VyrHost/text/Errors.h>
+#include <VyrLibraryFuncs/metadata/UnblockFuncs.h>
+#include <VyrPlatform/files/FileAttributes.h>
+#include <VyrPlatform/text/Encoding.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <utility>
+
+namespace VyrHost::Metadata {
+
+namespace {
+
+using Model::ChangeLook;
+using Model::ChangeState;
+using VyrPlatform::NamedStreams::ZoneForm;
+
+constexpr std::u16string_view noMark = u"none";
+constexpr std::u16string_view nothingTold = u"marked";
+
+CString WordForZone(std::string_view number)
+{
+    constexpr const char16_t* words[] = {u"this computer", u"local network", u"trusted", u"internet", u"restricted"};
+    if (number.size() == 1 && number.front() >= '0' && number.front() < '0' + static_cast<int>(std::size(words)))
+        return words[number.front() - '0'];
+    return VyrPlatform::Encoding::FromUtf8(number);
+}
+
+/// Reads the lines of a stream, of any bytes.
+void ReadStream(std::string_view bytes, ZoneMark& mark)
+{
+    while (!bytes.empty()) {
+        const std::size_t end = bytes.find_first_of(std::string_view("\r\n\0", 3));
+        const std::string_view line = bytes.substr(0, end);
+        bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
+        const std::size_t equals = line.find('=');
+        if (equals == std::string_view::npos)
+            continue;
+        const std::string_view key = line.substr(0, equals);
+        const std::string_view value = line.substr(equals + 1);
+        if (key == "ZoneId")
+            mark.zone = WordForZone(value);
+        else if (key == "HostUrl")
+            mark.from = VyrPlatform::Encoding::FromUtf8(value);
+        else if (key == "ReferrerUrl")
+            mark.referrer = VyrPlatform::Encoding::FromUtf8(value);
+    }
+}
+
+} // namespace
+
+ZoneMark ReadMark(const ZoneForms& forms)
+{
+    ZoneMark mark;
+    for (const ZoneForm& form : forms) {
+        if (form.name == u"user.xdg.origin.url")
+            mark.from = mark.from.IsEmpty() ? VyrPlatform::Encoding::FromUtf8(form.bytes) : mark.from;
+        else if (form.name == u"user.xdg.referrer.url")
+            mark.referrer = mark.referrer.IsEmpty() ? VyrPlatform::Encoding::FromUtf8(form.bytes) : mark.referrer;
+        else
+            ReadStream(form.bytes, mark);
+    }
+    return mark;
+}
+
+CString Shown(const ZoneForms& forms)
+{
+    if (forms.empty())
+        return {};
+    const ZoneMark mark = ReadMark(forms);
+    const CString& origin = mark.from.IsEmpty() ? mark.referrer : mark.from;
+    if (mark.zone.IsEmpty() && origin.IsEmpty())
+        return nothingTold;
+    return CString::Join({mark.zone, mark.zone.IsEmpty() || origin.IsEmpty() ? u"" : u", ", origin});
+}
+
+std::shared_ptr<const Model::Change> MarkChange::Read(const CString& before, const CString& after)
+{
+    ZoneForms forms;
+    for (std::u16string_view rest = before; !rest.empty();) {
+        std::u16string_view piece = TakeUpTo(rest, u';');
+        ZoneForm form;
+        form.name = TakeUpTo(piece, u' ');
+        const auto bytes = FromHex(piece);
+        if (!bytes || form.name.IsEmpty())
+            return nullptr;
+        form.bytes = *bytes;
+        forms.push_back(std::move(form));
+    }
+    return forms.empty() || after != noMark ? nullptr : std::make_shared<MarkChange>(std::move(forms));
+}
+
+CString MarkChange::Before() const
+{
+    CString text;
+    for (const ZoneForm& form : m_forms) {
+        if (!text.IsEmpty())
+            text += u';';
+        text += CString::Join({form.name, u" ", ToHex(form.bytes)});
+    }
+    return text;
+}
+
+CString MarkChange::After() const
+{
+    return noMark;
+}
+
+CString MarkChange::ShownBefore() const
+{
+    return Shown(m_forms);
+}
+
+CString MarkChange::ShownAfter() const
+{
+    return u"no mark";
+}
+
+ChangeLook MarkChange::Look(const CString& path) const
+{
+    std::uint32_t error = 0;
+    const auto now = VyrPlatform::NamedStreams::ReadZoneMark(path, error);
+    if (!now)
+        return {ChangeState::Unknown, error};
+    if (now->empty())
+        return {ChangeState::After, 0};
+    if (*now == m_forms)
+        return {ChangeState::Before, 0};
+    const bool isPart = std::all_of(now->begin(), now->end(), [this](const ZoneForm& form) {
+        return std::find(m_forms.begin(), m_forms.end(), form) != m_forms.end();
+    });
+    return {isPart ? ChangeState::Partly : ChangeState::Other, 0};
+}
+
+std::uint32_t MarkChange::Apply(const CString& path) const
+{
+    if (VyrLibraryFuncs::UnblockFuncs::DeleteZoneId(path))
+        return 0;
+    // The library tells that it failed; the service beneath it also why.
+    const VyrPlatform::FileAttributes::LiftedReadOnly lifted(path);
+    return VyrPlatform::NamedStreams::DeleteZoneMark(path);
+}
+
+std::uint32_t MarkChange::TakeBack(const CString& path) const
+{
+    const VyrPlatform::FileAttributes::LiftedReadOnly lifted(path);
+    for (const ZoneForm& form : m_forms)
+        if (const std::uint32_t error = VyrPlatform::NamedStreams::WriteZoneForm(path, form))
+            return error;
+    return 0;
+}
+
+Proposal MarkRule::Propose(const CString& path, const Model::Entry& /*entry*/, std::size_t /*index*/) const
+{
+    std::uint32_t error = 0;
+    auto forms = VyrPlatform::NamedStreams::ReadZoneMark(path, error);
+    if (!forms)
+        return {nullptr, Text::ErrorText(error)};
+    if (forms->empty())
+        return {};
+    return {std::make_shared<MarkChange>(std::move(*forms)), {}};
+}
+
+} // namespace VyrHost::Metadata

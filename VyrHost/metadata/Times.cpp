@@ -1,0 +1,212 @@
+// Sets and restores times, and writes them for the journal: "DATE TICKS STATE" before, "DATE TICKS" after, separated by
+// semicolons.
+#include <VyrHost/metadata/Times.h>
+
+#include <VyrHost/metadata/Changes.h>
+#include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
+#include <VyrPlatform/WinTypes.h>
+#include <VyrPlatform/files/ExactState.h>
+#include <VyrPlatform/files/FileIdentity.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+
+namespace VyrHost::Metadata {
+
+namespace {
+
+using Model::ChangeLook;
+using Model::ChangeState;
+using VyrPlatform::FileTicks;
+using VyrPlatform::ExactState::Part;
+
+Part PartOf(FileDate date)
+{
+    switch (date) {
+    case FileDate::Modified:
+        return Part::Modified;
+    case FileDate::Created:
+        return Part::Created;
+    case FileDate::Accessed:
+        break;
+    }
+    return Part::Accessed;
+}
+
+/// What the system says of a file whose times cannot be read.
+std::uint32_t ErrorOf(const CString& path)
+{
+    constexpr std::uint32_t missingFile = 2;
+    const std::uint32_t error = VyrPlatform::LookAtFile(path).error;
+    return error != 0 ? error : missingFile;
+}
+
+ChangeState StateOf(const TimeStep& step, FileTicks now)
+{
+    constexpr FileTicks coarsest = 2 * FileTicks{10'000'000};
+    if (now == step.after)
+        return ChangeState::After;
+    if (now == step.before)
+        return ChangeState::Before;
+    return std::max(now, step.after) - std::min(now, step.after) < coarsest ? ChangeState::After : ChangeState::Other;
+}
+
+std::optional<FileDate> DateOf(std::u16string_view word)
+{
+    for (const FileDate date : fileDates)
+        if (word == WordFor(date))
+            return date;
+    return std::nullopt;
+}
+
+/// A step of the two texts that stand for it; nothing when they do not belong together.
+std::optional<TimeStep> StepOf(std::u16string_view before, std::u16string_view after)
+{
+    TimeStep step;
+    const std::u16string_view word = TakeUpTo(before, u' ');
+    const auto date = DateOf(word);
+    const auto ticks = ReadWhole(TakeUpTo(before, u' '));
+    step.beforeState = before;
+    if (!date || !ticks || before.empty() || TakeUpTo(after, u' ') != word)
+        return std::nullopt;
+    const auto ticksAfter = ReadWhole(after);
+    if (!ticksAfter || *ticksAfter <= 0)
+        return std::nullopt;
+    step.date = *date;
+    step.before = *ticks;
+    step.after = *ticksAfter;
+    return step;
+}
+
+CString NumberText(FileTicks ticks)
+{
+    CString text;
+    text.Format(u"%d", ticks);
+    return text;
+}
+
+FILETIME ToFileTime(FileTicks ticks)
+{
+    FILETIME time{};
+    time.dwLowDateTime = static_cast<DWORD>(static_cast<std::uint64_t>(ticks));
+    time.dwHighDateTime = static_cast<DWORD>(static_cast<std::uint64_t>(ticks) >> 32);
+    return time;
+}
+
+/// One text of each step, with `separator` between them.
+template <class ToText>
+CString Joined(const std::vector<TimeStep>& steps, std::u16string_view separator, ToText toText)
+{
+    CString text;
+    for (const TimeStep& step : steps) {
+        if (!text.IsEmpty())
+            text += separator;
+        text += toText(step);
+    }
+    return text;
+}
+
+} // namespace
+
+std::shared_ptr<const Model::Change> TimesChange::Read(const CString& before, const CString& after)
+{
+    std::vector<TimeStep> steps;
+    std::u16string_view restBefore = before;
+    std::u16string_view restAfter = after;
+    do {
+        const auto step = StepOf(TakeUpTo(restBefore, u';'), TakeUpTo(restAfter, u';'));
+        const auto isSame = [&step](const TimeStep& other) {
+            return other.date == step->date;
+        };
+        if (!step || std::any_of(steps.begin(), steps.end(), isSame))
+            return nullptr;
+        steps.push_back(*step);
+    } while (!restBefore.empty() && !restAfter.empty());
+    return restBefore.empty() && restAfter.empty() ? std::make_shared<TimesChange>(std::move(steps)) : nullptr;
+}
+
+CString TimesChange::Before() const
+{
+    return Joined(m_steps, u";", [](const TimeStep& step) {
+        return CString::Join({WordFor(step.date), u" ", NumberText(step.before), u" ", step.beforeState});
+    });
+}
+
+CString TimesChange::After() const
+{
+    return Joined(m_steps, u";", [](const TimeStep& step) {
+        return CString::Join({WordFor(step.date), u" ", NumberText(step.after)});
+    });
+}
+
+CString TimesChange::ShownBefore() const
+{
+    return Joined(m_steps, u", ", [](const TimeStep& step) {
+        return CString::Join({WordFor(step.date), u" ", Shown(step.before)});
+    });
+}
+
+CString TimesChange::ShownAfter() const
+{
+    return Joined(m_steps, u", ", [](const TimeStep& step) {
+        return CString::Join({WordFor(step.date), u" ", Shown(step.after)});
+    });
+}
+
+ChangeLook TimesChange::Look(const CString& path) const
+{
+    bool isBefore = false;
+    bool isAfter = false;
+    for (const TimeStep& step : m_steps) {
+        const auto now = TicksOf(path, step.date);
+        if (!now)
+            return {ChangeState::Unknown, ErrorOf(path)};
+        const ChangeState state = StateOf(step, *now);
+        if (state == ChangeState::Other)
+            return {ChangeState::Other, 0};
+        (state == ChangeState::Before ? isBefore : isAfter) = true;
+    }
+    if (isBefore && isAfter)
+        return {ChangeState::Partly, 0};
+    return {isBefore ? ChangeState::Before : ChangeState::After, 0};
+}
+
+std::uint32_t TimesChange::Apply(const CString& path) const
+{
+    VyrPlatform::FileTimes::NewTimes wanted;
+    FILETIME times[fileDates.size()] = {};
+    const FILETIME* given[fileDates.size()] = {};
+    for (const TimeStep& step : m_steps) {
+        const auto place = static_cast<std::size_t>(step.date);
+        times[place] = ToFileTime(step.after);
+        given[place] = &times[place];
+        (step.date == FileDate::Modified  ? wanted.modified
+         : step.date == FileDate::Created ? wanted.created
+                                          : wanted.accessed) = step.after;
+    }
+    const auto timeOf = [&given](FileDate date) {
+        return given[static_cast<std::size_t>(date)];
+    };
+    if (VyrLibraryFuncs::DateTimeFuncs::SetModifiedFileDateTime(path, timeOf(FileDate::Created),
+                                                                timeOf(FileDate::Modified), timeOf(FileDate::Accessed)))
+        return 0;
+    // The library tells that it failed; the service beneath it also why.
+    return VyrPlatform::FileTimes::Write(path, wanted);
+}
+
+std::uint32_t TimesChange::TakeBack(const CString& path) const
+{
+    for (const TimeStep& step : m_steps) {
+        const auto now = TicksOf(path, step.date);
+        if (!now)
+            return ErrorOf(path);
+        if (StateOf(step, *now) != ChangeState::After)
+            continue;
+        if (const std::uint32_t error = VyrPlatform::ExactState::Restore(path, PartOf(step.date), step.beforeState))
+            return error;
+    }
+    return 0;
+}
+
+} // namespace VyrHost::Metadata

@@ -1,0 +1,301 @@
+// Reads tables of two columns.
+#include <VyrHost/rename/NameLists.h>
+
+#include <VyrHost/text/Errors.h>
+#include <VyrHost/text/Input.h>
+#include <VyrHost/text/SafeText.h>
+#include <VyrPlatform/text/Encoding.h>
+#include <VyrPlatform/text/Surrogates.h>
+
+#include <algorithm>
+#include <charconv>
+#include <string>
+
+namespace VyrHost::Rename {
+
+namespace {
+
+class TableReader
+{
+public:
+    explicit TableReader(std::string_view bytes) : m_rest(Text::SkipByteOrderMark(bytes))
+    {
+        SkipEmptyLines();
+        m_separator = SeparatorOf(m_rest);
+    }
+
+    /// The fields of the next line that has any; none at the end.
+    std::vector<std::string> NextLine()
+    {
+        SkipEmptyLines();
+        std::vector<std::string> fields;
+        m_firstLine = m_line;
+        if (m_rest.empty())
+            return fields;
+        do
+            fields.push_back(TakeField());
+        while (TakeSeparator());
+        TakeLineEnd();
+        return fields;
+    }
+
+    [[noreturn]] void Refuse(const std::string& what) const
+    {
+        throw Text::UsageError("line " + std::to_string(m_firstLine) + " of the pairs: " + what);
+    }
+
+private:
+    /// What separates the fields of the first line of `rest`: a tab where it has one, else a comma, unless only a
+    /// semicolon makes two fields of it.
+    static char SeparatorOf(std::string_view rest)
+    {
+        const FirstLine line = CountSeparators(rest);
+        if (line.tabs > 0)
+            return '\t';
+        return line.semicolons == 1 && line.commas != 1 ? ';' : ',';
+    }
+
+    /// How often each separator stands in a line outside the quoted fields of CSV.
+    struct FirstLine
+    {
+        std::size_t tabs = 0;
+        std::size_t commas = 0;
+        std::size_t semicolons = 0;
+    };
+
+    static FirstLine CountSeparators(std::string_view rest)
+    {
+        FirstLine line;
+        bool isFieldStart = true;
+        while (!rest.empty() && rest.front() != '\n') {
+            const std::size_t closed = isFieldStart && rest.starts_with('"') ? QuotedLength(rest) : 0;
+            if (closed > 0) {
+                rest.remove_prefix(closed);
+                isFieldStart = false;
+                continue;
+            }
+            const char byte = rest.front();
+            line.tabs += byte == '\t';
+            line.commas += byte == ',';
+            line.semicolons += byte == ';';
+            isFieldStart = byte == '\t' || byte == ',' || byte == ';';
+            rest.remove_prefix(1);
+        }
+        return line;
+    }
+
+    /// How long the quoted field that `rest` begins with is; 0 where it does not end with the field.
+    static std::size_t QuotedLength(std::string_view rest)
+    {
+        std::size_t end = rest.find('"', 1);
+        while (end != std::string_view::npos && rest.substr(end + 1).starts_with('"'))
+            end = rest.find('"', end + 2);
+        const bool isWhole = end != std::string_view::npos &&
+                             (end + 1 == rest.size() || rest.find_first_of(",;\t\r\n", end + 1) == end + 1);
+        return isWhole ? end + 1 : 0;
+    }
+
+    void SkipEmptyLines()
+    {
+        while (m_rest.starts_with('\n') || m_rest.starts_with("\r\n"))
+            TakeLineEnd();
+    }
+
+    std::string TakeField() { return m_separator != '\t' && m_rest.starts_with('"') ? TakeQuoted() : TakePlain(); }
+
+    std::string TakePlain()
+    {
+        const std::size_t end = std::min(m_rest.find_first_of(std::string{m_separator, '\n'}), m_rest.size());
+        std::string_view field = m_rest.substr(0, end);
+        m_rest.remove_prefix(end);
+        if (m_rest.empty() || m_rest.front() == '\n')
+            field.remove_suffix(field.ends_with('\r') ? 1 : 0);
+        return std::string(field);
+    }
+
+    std::string TakeQuoted()
+    {
+        m_rest.remove_prefix(1);
+        std::string field;
+        for (;;) {
+            const std::size_t quote = m_rest.find('"');
+            if (quote == std::string_view::npos)
+                Refuse("a field in double quotes has no end");
+            field += m_rest.substr(0, quote);
+            m_line += static_cast<std::size_t>(
+                std::count(m_rest.begin(), m_rest.begin() + static_cast<std::ptrdiff_t>(quote), '\n'));
+            m_rest.remove_prefix(quote + 1);
+            if (!m_rest.starts_with('"'))
+                break;
+            field += '"';
+            m_rest.remove_prefix(1);
+        }
+        if (!m_rest.empty() && m_rest.find_first_of(std::string{m_separator, '\r', '\n'}) != 0)
+            Refuse("something follows the end of a field in double quotes");
+        return field;
+    }
+
+    bool TakeSeparator()
+    {
+        const bool isThere = m_rest.starts_with(m_separator);
+        m_rest.remove_prefix(isThere ? 1 : 0);
+        return isThere;
+    }
+
+    void TakeLineEnd()
+    {
+        m_rest.remove_prefix(m_rest.starts_with('\r') ? 1 : 0);
+        m_rest.remove_prefix(m_rest.starts_with('\n') ? 1 : 0);
+        ++m_line;
+    }
+
+    std::string_view m_rest;
+    char m_separator = ',';
+    std::size_t m_line = 1;
+    /// The line that the fields in hand began in.
+    std::size_t m_firstLine = 1;
+};
+
+bool IsNameless(const std::string& field)
+{
+    return field.empty() || field.find('\0') != std::string::npos;
+}
+
+/// Names may begin with the bytes of its mark, but hold no NUL, which every ASCII character has in UTF-16.
+bool IsUtf16(std::string_view bytes)
+{
+    const bool hasMark = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
+    return hasMark && bytes.find('\0') != std::string_view::npos;
+}
+
+} // namespace
+
+std::vector<NamePair> ParsePairs(std::string_view bytes)
+{
+    if (IsUtf16(bytes))
+        throw Text::UsageError("the pairs are in UTF-16, as some spreadsheets write them; save them in UTF-8");
+    TableReader table(bytes);
+    std::vector<NamePair> pairs;
+    for (std::vector<std::string> fields = table.NextLine(); !fields.empty(); fields = table.NextLine()) {
+        if (fields.size() != 2)
+            table.Refuse(
+                "two fields are expected, the old and the new name, separated by a comma, a semicolon or a tab; " +
+                std::string("the first line decides which"));
+        if (std::any_of(fields.begin(), fields.end(), IsNameless))
+            table.Refuse("a name is empty or holds a NUL");
+        pairs.push_back(
+            {VyrPlatform::Encoding::FromNameBytes(fields[0]), VyrPlatform::Encoding::FromNameBytes(fields[1])});
+    }
+    return pairs;
+}
+
+namespace {
+
+constexpr std::string_view explanation =
+    "# Change the names behind the tabs and save; leave the numbers as they are.\n"
+    "# The entry of a line that is taken out keeps its name. Save nothing to change nothing.\n"
+    "# In a name \\\\ is a backslash, \\n a line end, \\t a tab.\n";
+
+/// Takes the escape that `text` begins with; 0 when it is none of those that EscapeName writes.
+char16_t TakeEscape(std::string_view& text)
+{
+    if (text.starts_with("\\\\") || text.starts_with("\\n") || text.starts_with("\\t")) {
+        const char16_t unit = text[1] == 'n' ? u'\n' : text[1] == 't' ? u'\t' : u'\\';
+        text.remove_prefix(2);
+        return unit;
+    }
+    const char16_t unit = Text::ReadUnitEscape(text).value_or(0);
+    if (unit != 0)
+        text.remove_prefix(Text::unitEscapeLength);
+    return unit;
+}
+
+[[noreturn]] void Refuse(std::size_t line, const std::string& what)
+{
+    throw Text::UsageError("line " + std::to_string(line) + " of the edited list: " + what);
+}
+
+std::string_view TakeLine(std::string_view& text)
+{
+    const std::size_t end = text.find('\n');
+    std::string_view line = text.substr(0, end);
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    if (line.ends_with('\r'))
+        line.remove_suffix(1);
+    return line;
+}
+
+} // namespace
+
+std::string EscapeName(std::u16string_view name)
+{
+    std::string text;
+    while (!name.empty()) {
+        const char16_t unit = name.front();
+        const std::size_t length = VyrPlatform::BeginsWithPair(name) ? 2 : 1;
+        if (unit == u'\\')
+            text += "\\\\";
+        else if (unit == u'\n')
+            text += "\\n";
+        else if (unit == u'\t')
+            text += "\\t";
+        else if (unit < u' ' || unit == 0x7F || VyrPlatform::BeginsWithLoneSurrogate(name))
+            Text::AppendUnitEscape(text, unit);
+        else
+            VyrPlatform::Encoding::AppendUtf8(text, name.substr(0, length));
+        name.remove_prefix(length);
+    }
+    return text;
+}
+
+CString UnescapeName(std::string_view text)
+{
+    CString name;
+    while (!text.empty()) {
+        if (text.front() == '\\') {
+            if (const char16_t unit = TakeEscape(text)) {
+                name += unit;
+                continue;
+            }
+        }
+        // What stands as it is, up to the next backslash.
+        const std::size_t end = std::min(text.find('\\', 1), text.size());
+        name += VyrPlatform::Encoding::FromNameBytes(text.substr(0, end));
+        text.remove_prefix(end);
+    }
+    return name;
+}
+
+std::string TextForEditing(const std::vector<CString>& names)
+{
+    std::string text(explanation);
+    for (std::size_t index = 0; index < names.size(); ++index)
+        text.append(std::to_string(index + 1)).append("\t").append(EscapeName(names[index])).append("\n");
+    return text;
+}
+
+std::unordered_map<std::uint32_t, CString> ParseEdited(std::string_view text, std::size_t count)
+{
+    std::unordered_map<std::uint32_t, CString> names;
+    text = Text::SkipByteOrderMark(text);
+    for (std::size_t number = 1; !text.empty(); ++number) {
+        const std::string_view line = TakeLine(text);
+        if (line.empty() || line.starts_with('#'))
+            continue;
+        std::uint32_t place = 0;
+        const char* const end = line.data() + line.size();
+        const auto [stop, error] = std::from_chars(line.data(), end, place);
+        if (error != std::errc() || stop == end || *stop != '\t')
+            Refuse(number, "a number and a tab are expected in front of the name");
+        if (place == 0 || place > count)
+            Refuse(number, "there is no entry of the number " + std::to_string(place));
+        const CString name = UnescapeName(line.substr(static_cast<std::size_t>(stop - line.data()) + 1));
+        if (name.IsEmpty())
+            Refuse(number, "the name is empty; take the line out to keep the old one");
+        if (!names.emplace(place - 1, name).second)
+            Refuse(number, "the number " + std::to_string(place) + " stands there twice");
+    }
+    return names;
+}
+
+} // namespace VyrHost::Rename

@@ -1,0 +1,56 @@
+/// @file
+/// What an entry can get: a name, and a folder to move into.
+#pragma once
+
+#include <VyrHost/model/FolderSet.h>
+#include <VyrHost/rename/Decision.h>
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <unordered_map>
+
+namespace VyrHost::Rename {
+
+struct NameValidity
+{
+    Reason reason = Reason::None;
+    /// A fault that the old name did not have and this system does not mind.
+    VyrHostPlatform::NameFault warning = VyrHostPlatform::NameFault::None;
+};
+
+[[nodiscard]] NameValidity ValidateName(std::u16string_view newName, std::u16string_view oldName);
+
+/// Opens folders to move into; those that are not there yet count as folders that the batch makes, and hold their
+/// names.
+class TargetFolders
+{
+public:
+    explicit TargetFolders(Model::FolderSet& folders) : m_folders(folders) {}
+
+    struct Target
+    {
+        std::uint32_t folder = 0;
+        /// Why nothing can be moved there.
+        Reason reason = Reason::None;
+        /// What a folder that is to be made would be in trouble for on Windows.
+        VyrHostPlatform::NameFault warning = VyrHostPlatform::NameFault::None;
+        /// The file system that the folder is on, or will be.
+        std::optional<std::uint64_t> device = std::nullopt;
+    };
+
+    /// The folder `path` (absolute, its separator at the end).
+    Target Open(const CString& path, const CString& shown);
+
+private:
+    [[nodiscard]] std::optional<Target> Find(std::uint32_t number) const;
+    [[nodiscard]] Target Claim(std::uint32_t number, const Target& parent);
+
+    Model::FolderSet& m_folders;
+    /// What was found for each folder.
+    std::unordered_map<std::uint32_t, Target> m_targets;
+    /// The folders to be created, by their names' records.
+    std::unordered_map<const Model::NameRecord*, Target> m_claimed;
+};
+
+} // namespace VyrHost::Rename

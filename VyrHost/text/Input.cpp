@@ -1,0 +1,33 @@
+// Reads the standard input to its end.
+#include <VyrHost/text/Input.h>
+
+#include <VyrHost/text/Errors.h>
+#include <VyrHost/text/SafeText.h>
+#include <VyrHostPlatform/Console.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/text/Encoding.h>
+
+#include <string>
+
+namespace VyrHost::Text {
+
+void ReadStandardInput(const std::function<void(std::string_view piece)>& use)
+{
+    std::uint32_t error = 0;
+    for (std::string piece = VyrHostPlatform::Console::ReadInput(error); !piece.empty();
+         piece = VyrHostPlatform::Console::ReadInput(error))
+        use(piece);
+    if (error != 0)
+        throw UsageError("cannot read the standard input: " + SafeText(ErrorText(error)));
+}
+
+CString NameReader::Name() const
+{
+    std::string_view bytes = m_isFirst && m_end == '\n' ? Text::SkipByteOrderMark(m_pending) : m_pending;
+    // Where a backslash separates, no name holds a control character.
+    if (m_end == '\n' && bytes.ends_with('\r') && VyrPlatform::FileSystem::IsSeparator(u'\\'))
+        bytes.remove_suffix(1);
+    return VyrPlatform::Encoding::FromNameBytes(bytes);
+}
+
+} // namespace VyrHost::Text

@@ -1,0 +1,62 @@
+/// @file
+/// Texts from outside: the standard input, names in a stream of bytes, the mark of UTF-8.
+#pragma once
+
+#include <VyrPlatform/text/CString.h>
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace VyrHost::Text {
+
+/// `bytes` behind a mark of UTF-8, if they begin with one.
+[[nodiscard]] inline std::string_view SkipByteOrderMark(std::string_view bytes)
+{
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    return bytes.substr(bytes.starts_with(mark) ? mark.size() : 0);
+}
+
+/// Calls `use` with one piece of the standard input after the other, to its end.
+/// @throws UsageError where it cannot be read.
+void ReadStandardInput(const std::function<void(std::string_view piece)>& use);
+
+/// Cuts names out of bytes that come in pieces.
+class NameReader
+{
+public:
+    /// `end` is the byte that ends a name. Where that is a line end (`\n`), a mark of UTF-8 in front of all is skipped,
+    /// and a `\r` before the line end is part of it where names cannot hold one.
+    explicit NameReader(char end) : m_end(end) {}
+
+    /// Calls `take` with each name that `piece` completes. Empty names are skipped.
+    template <class Take>
+    void Read(std::string_view piece, Take take)
+    {
+        for (std::size_t end = piece.find(m_end); end != std::string_view::npos; end = piece.find(m_end)) {
+            m_pending += piece.substr(0, end);
+            piece.remove_prefix(end + 1);
+            Finish(take);
+        }
+        m_pending += piece;
+    }
+
+    /// Calls `take` with the last name, which needs no end.
+    template <class Take>
+    void Finish(Take take)
+    {
+        if (const CString name = Name(); !name.IsEmpty())
+            take(name);
+        m_pending.clear();
+        m_isFirst = false;
+    }
+
+private:
+    [[nodiscard]] CString Name() const;
+
+    char m_end;
+    std::string m_pending;
+    bool m_isFirst = true;
+};
+
+} // namespace VyrHost::Text

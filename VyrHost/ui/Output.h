@@ -1,0 +1,51 @@
+/// @file
+/// The standard output in big pieces, and the JSON lines that programs read there.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace VyrHost::Ui {
+
+/// Collects text and writes it a large piece at a time, the rest at its end.
+class OutputBuffer
+{
+public:
+    OutputBuffer() = default;
+    OutputBuffer(const OutputBuffer&) = delete;
+    OutputBuffer& operator=(const OutputBuffer&) = delete;
+    ~OutputBuffer() { Flush(); }
+
+    OutputBuffer& operator<<(std::string_view text)
+    {
+        m_text += text;
+        if (m_text.size() >= flushSize)
+            Flush();
+        return *this;
+    }
+    void Flush();
+    /// Whether the system refused something (a closed pipe, a full disk); nothing is written from then on.
+    [[nodiscard]] bool HasFailed() const { return m_error != 0; }
+    /// Why (the system's code); 0 when nothing was refused.
+    [[nodiscard]] std::uint32_t Error() const { return m_error; }
+
+private:
+    static constexpr std::size_t flushSize = std::size_t{1} << 18;
+
+    std::string m_text;
+    std::uint32_t m_error = 0;
+};
+
+/// Appends `text` as a JSON text with its quotes: UTF-8, control characters escaped, a lone surrogate (a byte of a name
+/// that is not UTF-8) as its `\ud...` escape.
+void AppendJsonText(std::string& line, std::u16string_view text);
+
+/// Each of these appends a field to the object that `line` holds so far, or begins the object where it is empty.
+/// @param more  goes on with `text`. The text must not be cut inside a surrogate pair.
+void AppendJsonField(std::string& line, std::string_view key, std::u16string_view text, std::u16string_view more = {});
+void AppendJsonNumber(std::string& line, std::string_view key, std::int64_t number);
+void AppendJsonFlag(std::string& line, std::string_view key, bool flag);
+void AppendJsonNull(std::string& line, std::string_view key);
+
+} // namespace VyrHost::Ui

@@ -1,0 +1,68 @@
+// Dates in names, as cameras and programs write them.
+#include <VyrHost/metadata/Dates.h>
+
+#include <tests/support/Describe.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using VyrHost::Metadata::FindNameDate;
+using VyrHost::Metadata::NameDateProblem;
+
+namespace {
+
+/// The date, with its time of day where there is one; "none", or "no such day".
+std::string DateIn(std::u16string_view name)
+{
+    NameDateProblem problem = NameDateProblem::None;
+    const auto found = FindNameDate(name, problem);
+    if (!found)
+        return problem == NameDateProblem::NoSuchDay ? "no such day" : "none";
+    EXPECT_EQ(problem, NameDateProblem::None);
+    const std::string text = VyrTests::Describe(found->value);
+    return found->hasTime ? text : text.substr(0, 10);
+}
+
+} // namespace
+
+TEST(NameDate, FormsOfCamerasAndProgramsAreRead)
+{
+    const std::pair<const char16_t*, const char*> names[] = {
+        {u"IMG_20240105_103000.jpg", "2024-01-05 10:30:00"},
+        {u"2024-01-05 10.30.00.jpg", "2024-01-05 10:30:00"},
+        {u"IMG-20240105-WA0001.jpg", "2024-01-05"},
+        {u"PXL_20240105_103000123.jpg", "2024-01-05 10:30:00"},
+        {u"Screenshot_2024-01-05-10-30-59.png", "2024-01-05 10:30:59"},
+        {u"20240105103000.mp4", "2024-01-05 10:30:00"},
+        {u"2024.01.05", "2024-01-05"},
+        {u"report 2024_01_05T10:30.txt", "2024-01-05 10:30:00"},
+        {u"1999-12-31_23-59-59", "1999-12-31 23:59:59"},
+        {u"x20000229y", "2000-02-29"},
+    };
+    for (const auto& [name, date] : names)
+        EXPECT_EQ(DateIn(name), date) << VyrPlatform::Encoding::ToUtf8(name);
+}
+
+TEST(NameDate, WhatIsNoPossibleTimeIsLeftOut)
+{
+    EXPECT_EQ(DateIn(u"2024-01-05 25.00.00.jpg"), "2024-01-05");
+    EXPECT_EQ(DateIn(u"2024-01-05 10.60.00.jpg"), "2024-01-05");
+    EXPECT_EQ(DateIn(u"20240105_1030.jpg"), "2024-01-05") << "four digits alone may be any number";
+    EXPECT_EQ(DateIn(u"20240105_12.jpg"), "2024-01-05");
+}
+
+TEST(NameDate, ImpossibleDaysAreToldFromNoDate)
+{
+    EXPECT_EQ(DateIn(u"IMG_20240230_103000.jpg"), "no such day");
+    EXPECT_EQ(DateIn(u"2023-02-29.jpg"), "no such day");
+    EXPECT_EQ(DateIn(u"2024-13-01.jpg"), "no such day");
+    for (const char16_t* const name : {u"", u"photo.jpg", u"12345678.jpg", u"2024.jpg", u"202401.jpg", u"2024-0105.jpg",
+                                       u"2024-01_05.jpg", u"DSC02024.jpg", u"120240105.jpg", u"2024010512.jpg"})
+        EXPECT_EQ(DateIn(name), "none") << VyrPlatform::Encoding::ToUtf8(name);
+}
+
+TEST(NameDate, FirstPossibleDateCounts)
+{
+    EXPECT_EQ(DateIn(u"20240230 20240301 20240302.jpg"), "2024-03-01");
+}

@@ -1,0 +1,114 @@
+// Marks of downloads: what they tell, and how they go and come back.
+#include <VyrHost/metadata/Marks.h>
+
+#include <VyrPlatform/files/FileAttributes.h>
+#include <VyrPlatform/text/Encoding.h>
+#include <tests/support/Describe.h>
+#include <tests/support/FileState.h>
+#include <tests/support/ScratchFolder.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using namespace VyrHost::Metadata;
+using VyrHost::Model::ChangeState;
+using VyrPlatform::NamedStreams::ReadZoneMark;
+using VyrPlatform::NamedStreams::ZoneForm;
+using VyrTests::ScratchFolder;
+
+namespace {
+
+ZoneForm Stream(const std::string& bytes)
+{
+    return {CString(VyrPlatform::NamedStreams::zoneStream), bytes};
+}
+
+Proposal Propose(const CString& path)
+{
+    return MarkRule().Propose(path, VyrHost::Model::Entry(), 0);
+}
+
+ZoneForms FormsOf(const CString& path)
+{
+    std::uint32_t error = 0;
+    return ReadZoneMark(path, error).value_or(ZoneForms());
+}
+
+} // namespace
+
+TEST(Mark, GoesAndComesBackWithItsBytes)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a", "content");
+    VyrTests::MarkAsDownloaded(path);
+    const ZoneForms before = FormsOf(path);
+    const Proposal proposal = Propose(path);
+    ASSERT_TRUE(proposal.change);
+    const auto change = MarkChange::Read(proposal.change->Before(), proposal.change->After());
+    ASSERT_TRUE(change);
+    EXPECT_EQ(change->Before(), proposal.change->Before());
+    EXPECT_EQ(change->Look(path).state, ChangeState::Before);
+    EXPECT_EQ(change->Apply(path), 0U);
+    EXPECT_EQ(change->Look(path).state, ChangeState::After);
+    EXPECT_FALSE(VyrTests::IsMarkedAsDownloaded(path));
+    EXPECT_FALSE(Propose(path).change);
+    EXPECT_EQ(change->TakeBack(path), 0U);
+    EXPECT_EQ(change->Look(path).state, ChangeState::Before);
+    EXPECT_EQ(FormsOf(path), before);
+    EXPECT_EQ(scratch.ReadFile(u"a"), "content");
+}
+
+TEST(Mark, OfAReadOnlyFileGoesAndComesBack)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a", "content");
+    VyrTests::MarkAsDownloaded(path);
+    VyrTests::SetReadOnly(path, true);
+    const Proposal proposal = Propose(path);
+    ASSERT_TRUE(proposal.change);
+    EXPECT_EQ(proposal.change->Apply(path), 0U);
+    EXPECT_FALSE(VyrTests::IsMarkedAsDownloaded(path));
+    EXPECT_TRUE(VyrPlatform::FileAttributes::IsReadOnly(path));
+    EXPECT_EQ(proposal.change->TakeBack(path), 0U);
+    EXPECT_TRUE(VyrTests::IsMarkedAsDownloaded(path));
+    EXPECT_TRUE(VyrPlatform::FileAttributes::IsReadOnly(path));
+    VyrTests::SetReadOnly(path, false);
+}
+
+TEST(Mark, OfAnotherProgramIsNotTouched)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a", "content");
+    VyrTests::MarkAsDownloaded(path);
+    const Proposal proposal = Propose(path);
+    ASSERT_TRUE(proposal.change);
+    ASSERT_EQ(proposal.change->Apply(path), 0U);
+    ASSERT_EQ(VyrPlatform::NamedStreams::WriteZoneForm(path, Stream("[ZoneTransfer]\r\nZoneId=4\r\n")), 0U);
+    EXPECT_EQ(proposal.change->Look(path).state, ChangeState::Other);
+}
+
+TEST(Mark, TellsTheZoneAndWhereTheFileCameFrom)
+{
+    EXPECT_EQ(Shown(ZoneForms()), u"");
+    EXPECT_EQ(Shown({Stream("[ZoneTransfer]\r\nZoneId=3\r\nHostUrl=https://example.org/a.zip\r\n")}),
+              u"internet, https://example.org/a.zip");
+    EXPECT_EQ(Shown({Stream("[ZoneTransfer]\r\nZoneId=3\r\nReferrerUrl=https://example.org/\r\n")}),
+              u"internet, https://example.org/");
+    EXPECT_EQ(Shown({Stream("ZoneId=9")}), u"9");
+    EXPECT_EQ(Shown({{u"user.xdg.origin.url", "https://example.org/b"}, {u"user.xdg.referrer.url", "x"}}),
+              u"https://example.org/b");
+    EXPECT_EQ(Shown({Stream("ZoneId=2\nHostUrl=https://a/"), {u"user.xdg.origin.url", "https://b/"}}),
+              u"trusted, https://a/");
+    for (const std::string& bytes : {std::string(), std::string("\0\xff=\r\r", 5), std::string("ZoneId")})
+        EXPECT_EQ(Shown({Stream(bytes)}), u"marked");
+}
+
+TEST(Mark, JournalTextsThatAreNoneAreRefused)
+{
+    EXPECT_TRUE(MarkChange::Read(u":Zone.Identifier 00ff", u"none"));
+    EXPECT_TRUE(MarkChange::Read(u"a ;b 00", u"none")) << "a form may be empty";
+    for (const char16_t* const text : {u"", u" 00", u"a 0", u"a 0g", u"a 00;;"})
+        EXPECT_FALSE(MarkChange::Read(text, u"none")) << VyrPlatform::Encoding::ToUtf8(text);
+    EXPECT_FALSE(MarkChange::Read(u"a 00", u""));
+}
