@@ -46,14 +46,14 @@ Lists& AllLists()
 
 void Release(vyr_list handle)
 {
-    // It dies outside the lock.
+    // Destroyed outside the lock.
     std::shared_ptr<const List> released = Held(handle);
     Lists& lists = AllLists();
     const std::lock_guard lock(lists.mutex);
     lists.byHandle.erase(handle);
 }
 
-/// The status for the exception that is being handled, whose text may be more than there is memory for.
+/// The status for the current exception, even when there is no memory for its text.
 vyr_status DescribeException()
 {
     try {
@@ -203,7 +203,7 @@ std::uint32_t vyr_version()
 vyr_status vyr_get_last_error(std::uint16_t* buffer, std::size_t capacity, std::size_t* length)
 {
     return Guard([&] {
-        // A copy: a buffer that is too small is an error of its own, which must not take the place of this one.
+        // A copy: the error for a too small buffer must not replace this text.
         const CString text = lastError;
         const vyr_status status = TextResult(buffer, capacity, length).Give(text);
         lastError = text;

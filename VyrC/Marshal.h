@@ -1,5 +1,4 @@
-// What crosses the C interface, in both directions. Whatever is wrong with an argument is found before an operation is
-// called.
+// Converts arguments and results of the C interface. Arguments are checked before an operation is called.
 #pragma once
 
 #include <VyrC/vyr.h>
@@ -19,11 +18,11 @@
 
 namespace VyrC {
 
-/// Ends the call with VYR_WRONG_ARGUMENT; `argument` names what is wrong.
+/// Ends the call with VYR_WRONG_ARGUMENT; `argument` names the wrong argument.
 [[noreturn]] void Refuse(const std::string& argument);
-/// The status for the exception that is being handled.
+/// The status for the current exception.
 [[nodiscard]] vyr_status StatusOfException() noexcept;
-/// The status of a call that does `work`. No exception leaves it.
+/// Calls `work` and returns its status. No exception leaves it.
 template <class Work>
 [[nodiscard]] vyr_status Guard(const Work& work) noexcept
 {
@@ -34,7 +33,7 @@ template <class Work>
     }
 }
 
-/// Refuses what cannot be the address of a `Type`.
+/// Refuses pointers that cannot be the address of a `Type`.
 template <class Type>
 void RequireAligned(const Type* pointer, const char* argument)
 {
@@ -50,13 +49,13 @@ void RequireAddress(const Type* pointer, const char* argument)
     RequireAligned(pointer, argument);
 }
 
-/// Refuses what cannot be the address of an object; a null pointer is taken.
+/// Refuses pointers that cannot be the address of an object; a null pointer is accepted.
 inline void RequireObject(const void* object, const char* argument)
 {
     RequireAligned(static_cast<void* const*>(object), argument);
 }
 
-/// Refuses a record that is not there, or has another size than its structure.
+/// Refuses a null record, and one whose size is not that of its structure.
 template <class Record>
 void RequireRecord(const Record* record, const char* argument)
 {
@@ -65,7 +64,7 @@ void RequireRecord(const Record* record, const char* argument)
         Refuse(argument);
 }
 
-// From the host.
+// From the host to the library.
 
 [[nodiscard]] CString ToText(const std::uint16_t* units, std::ptrdiff_t length, const char* argument);
 [[nodiscard]] inline CString ToText(const vyr_text& text, const char* argument)
@@ -89,7 +88,7 @@ template <class Handle>
 }
 [[nodiscard]] CListCtrl ToListControl(std::intptr_t window);
 
-/// The values that `convert` makes of `count` elements.
+/// `count` elements, each converted by `convert`.
 template <class Element, class Convert>
 [[nodiscard]] auto ToVector(const Element* first, std::size_t count, const char* argument, Convert convert)
 {
@@ -104,7 +103,7 @@ template <class Element, class Convert>
     return values;
 }
 
-// To the host. Each takes the place that the host named and refuses it where it is none.
+// From the library to the host. Each refuses a wrong pointer for the result.
 
 class TextResult
 {
@@ -135,10 +134,10 @@ private:
 
 [[nodiscard]] std::uint64_t ToTicks(const FILETIME& moment);
 [[nodiscard]] vyr_date_time ToC(const COleDateTime& moment);
-/// Good as long as `text` lives.
+/// Valid as long as `text` lives.
 [[nodiscard]] vyr_text ToC(const CString& text);
 
-/// A list that the host holds.
+/// A list for which the host has a handle.
 class List
 {
 public:
@@ -161,9 +160,9 @@ private:
     std::vector<Record> m_records;
 };
 
-/// The handle under which `list` is held from now on.
+/// Stores `list` and returns its new handle.
 [[nodiscard]] vyr_list Hold(std::shared_ptr<const List> list);
-/// Refuses a handle that is none.
+/// Refuses an unknown handle.
 [[nodiscard]] std::shared_ptr<const List> Held(vyr_list handle);
 
 /// The record at `index` of a list of `Record`.

@@ -1,26 +1,26 @@
 /* clang-format off */
 /* The operations of VyrLibrary for C and for every language that can call C.
  *
- * VyrC/generate writes this file from VyrC/interface.txt. Each function is one operation of a class in C++, whose header
- * says what it does; the comment names both.
+ * VyrC/generate writes this file from VyrC/interface.txt. Each function is one operation of a C++ class. The comments
+ * name both; the class's header describes the operation.
  *
- * Status     Each function tells whether it was carried out; what the operation gives comes through its last
- *            parameters. Nothing is written through them but with VYR_OK (and the length with VYR_BUFFER_TOO_SMALL).
- * Text       UTF-16. Given with its length in code units; a negative length ends it at its first zero. A null pointer
- *            with the length 0 is the empty text. What an operation gives is written with a zero behind it into a buffer
+ * Status     Each function returns whether it succeeded; results come through its last parameters. They are written
+ *            only with VYR_OK (and the length also with VYR_BUFFER_TOO_SMALL).
+ * Text       UTF-16. An argument has a length in code units; a negative length means that it ends at its first zero. A
+ *            null pointer with the length 0 is the empty text. A result is written with a terminating zero into a buffer
  *            of `capacity` code units; `length` gets its length without that zero, also when the buffer is too small.
- *            Such a call may be repeated with a larger one.
+ *            Such a call can be repeated with a larger buffer.
  * Record     A structure whose first field, `struct_size`, is sizeof of the structure.
- * List       Given as a pointer to its first element, and their number. What an operation gives is a handle, from which
- *            the record's own function takes one after the other and which vyr_list_release ends. The texts of such a
+ * List       An argument is a pointer to the first element, and the number of elements. A result is a handle; the
+ *            record's own function reads one record at a time, and vyr_list_release frees the list. The texts of such a
  *            record live as long as the list.
  * Date-time  Days since 30 December 1899, local time, and a status: 0 valid, 1 invalid, 2 null.
  * File time  Intervals of 100 nanoseconds since 1 January 1601 UTC; 0 is none.
  * Yes, no    1 and 0, as an int32_t.
  *
- * A null or misaligned pointer, a size that is not that of the structure, and a handle that is none give
- * VYR_WRONG_ARGUMENT, before anything is done. No exception leaves a function. As the library itself, they are for one
- * thread; on Windows that must have initialised COM where documents are read.
+ * A null or misaligned pointer, a wrong size of a structure and an unknown handle give VYR_WRONG_ARGUMENT, before
+ * anything is done. No exception leaves a function. Call the functions on one thread, like the C++ library. On Windows
+ * that thread must have initialised COM before documents are read.
  */
 #ifndef VYR_H
 #define VYR_H
@@ -38,7 +38,7 @@ typedef int32_t vyr_status;
 #define VYR_BUFFER_TOO_SMALL 1
 #define VYR_WRONG_ARGUMENT 2
 #define VYR_OUT_OF_MEMORY 3
-/* The operation failed in a way that its result cannot tell; vyr_get_last_error has the text. */
+/* The operation failed with an exception; vyr_get_last_error has its text. */
 #define VYR_FAILED 4
 
 /* The version of this file: major * 1000000 + minor * 1000 + patch. */
@@ -56,7 +56,7 @@ typedef struct vyr_date_time
     int32_t status;
 } vyr_date_time;
 
-/* In pixels; the right and bottom edges are no longer part of it. */
+/* In pixels; the right and bottom edges are not part of it. */
 typedef struct vyr_rect
 {
     int32_t left;
@@ -65,12 +65,12 @@ typedef struct vyr_rect
     int32_t bottom;
 } vyr_rect;
 
-/* A list that an operation gave; 0 is none. */
+/* The handle of a list that is a result; 0 is none. */
 typedef uint64_t vyr_list;
 
-/* The version of the library, as VYR_VERSION. A function that the library lacks is newer than it. */
+/* The version of the library, in the form of VYR_VERSION. An older library lacks newer functions. */
 uint32_t vyr_version(void);
-/* Why the last function of this thread that did not give VYR_OK did not. */
+/* The text of the last error on this thread. */
 vyr_status vyr_get_last_error(uint16_t* buffer, size_t capacity, size_t* length);
 vyr_status vyr_list_get_count(vyr_list list, size_t* count);
 vyr_status vyr_list_release(vyr_list list);

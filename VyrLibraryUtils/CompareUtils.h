@@ -20,7 +20,7 @@ public:
     /// Compares under the collation of the user's locale.
     /// @param descending non-zero reverses the sign of the result.
     /// @param flags not read; the system passes 0.
-    /// @param locale not read: every value stands for the user's locale, as 1024 does.
+    /// @param locale not read: every value means the user's locale, as 1024 does.
     /// @return negative, zero or positive as `left` sorts before, with or after `right`.
     static int CompareText(CString left, CString right, int descending, std::uint32_t flags, std::uint32_t locale);
 };

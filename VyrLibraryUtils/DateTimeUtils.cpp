@@ -1,4 +1,3 @@
-// Date-times of files, and their parts.
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/time/DateTimePattern.h>
@@ -85,7 +84,7 @@ COleDateTime DateTimeUtils::GetEndDateTime(COleDateTime dateTime)
 
 COleDateTime DateTimeUtils::CombineDateTime(COleDateTime date, COleDateTime time)
 {
-    // The parts of what is not valid are -1, which no date-time takes.
+    // The parts of an invalid date-time are -1, which gives an invalid result.
     return WithTime(date, time.GetHour(), time.GetMinute(), time.GetSecond());
 }
 

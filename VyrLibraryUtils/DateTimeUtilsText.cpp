@@ -1,4 +1,4 @@
-// Date-times from text and to text.
+// Converts date-times from text and to text.
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrPlatform/time/Clock.h>
 #include <VyrPlatform/time/DateTimePattern.h>

@@ -7,11 +7,11 @@
 
 namespace VyrLibraryUtils {
 
-/// The date-times of a file as `yyyy/MM/dd HH:mm:ss`, whatever the locale: the form that is read back when they are
-/// written to a file again.
+/// The date-times of a file as `yyyy/MM/dd HH:mm:ss`, in every locale: the form from which they are written to a file
+/// again.
 ///
-/// They are local time by the inverse of the conversion that writes them, so that a time read and written is the same
-/// instant. An empty text when the file has no such date-time.
+/// They are local time by the inverse of the conversion for writing, so that reading and writing a time gives the same
+/// instant. Empty when the file has no such date-time.
 class VYR_UTILS_API FileListUtils
 {
 public:
@@ -25,8 +25,8 @@ public:
     static CString GetCreationDateTime(CString path);
     /// The last-access time.
     static CString GetLastAccessDateTime(CString path);
-    /// The moment at which the picture was taken (Exif tag DateTimeOriginal); empty when the picture has none or a
-    /// malformed one.
+    /// The time when the picture was taken (Exif tag DateTimeOriginal); empty when the picture has none or a malformed
+    /// one.
     static CString GetExifDTOrig(CString path);
 };
 

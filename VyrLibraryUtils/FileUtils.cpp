@@ -20,7 +20,7 @@ namespace Process = VyrPlatform::Process;
 
 namespace {
 
-/// `part` of `path` as a text of its own; the whole shares what `path` holds.
+/// `part` of `path` as a text; the whole path shares its memory.
 CString Take(const CString& path, std::u16string_view part)
 {
     return part.size() == path.View().size() ? path : CString(part);
@@ -49,8 +49,7 @@ std::int64_t AddSaturated(std::int64_t sum, std::int64_t size) noexcept
                                                                  : sum + size;
 }
 
-/// The sum of the files below `folder`. A list of what is still to be walked stands in for recursion, so that depth is
-/// no limit.
+/// The total size of the files below `folder`. Uses a list instead of recursion, so that depth is no limit.
 std::int64_t SizeOfFolder(const CString& folder)
 {
     std::int64_t sum = 0;
@@ -84,7 +83,7 @@ CString BytesText(std::int64_t size)
     return StringUtils::GetFormatedSizeThousands(size) + (size == 1 ? u" byte" : u" bytes");
 }
 
-/// `size` in the first unit that gives less than 1,000, cut to three digits.
+/// `size` in the first unit in which it is less than 1,000, cut to three digits.
 CString ScaledText(std::int64_t size)
 {
     static constexpr std::array<std::u16string_view, 5> units{u" KB", u" MB", u" GB", u" TB", u" PB"};

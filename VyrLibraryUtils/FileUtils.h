@@ -11,14 +11,14 @@ namespace VyrLibraryUtils {
 
 /// Paths and files.
 ///
-/// Which path style holds: on Windows a path is a Windows path. On Linux it is a Linux path, unless it starts with a
-/// drive letter, a colon and a separator, or with two backslashes: then it is split as a Windows path. In a Windows
-/// path `\` and `/` both separate; in a Linux path `/` alone does, and a backslash is an ordinary character.
+/// Path styles: on Windows a path is a Windows path. On Linux it is a Linux path, unless it starts with a drive letter,
+/// a colon and a separator, or with two backslashes: then it is split as a Windows path. In a Windows path both `\` and
+/// `/` are separators; in a Linux path only `/` is, and a backslash is an ordinary character.
 ///
-/// How a path is split: its folder part reaches to the last separator, that one included (in a Windows path such as
-/// `C:a` it is the drive, `C:`). What follows is the file name. The extension starts at the file name's last dot; dots
-/// that the name begins with start none (`.bashrc` has no extension), and a dot at the end is an extension (`a.` has
-/// `.`). Folder part + base name + extension is the path again, for every text.
+/// Parts of a path: the folder part ends with the last separator (in a Windows path such as `C:a` it is the drive,
+/// `C:`). The rest is the file name. The extension starts at the file name's last dot; dots at the beginning of the
+/// name do not start one (`.bashrc` has no extension), and a dot at the end is an extension (`a.` has `.`). Folder part
+/// + base name + extension is the path again, for every text.
 ///
 ///     "/photos/a.b.jpg" has the folder part "/photos/", the base name "a.b" and the extension ".jpg".
 class VYR_UTILS_API FileUtils
@@ -43,39 +43,38 @@ public:
     ///     it has none. 2: the folder part. 3: the file name with its extension. 4: the extension with its dot.
     ///     5: the base name, without folder and extension. Any other value gives an empty text.
     static CString GetSplitPath(CString path, int part);
-    /// `folder` and `relative` with exactly one separator between them, however many each brings there.
+    /// `folder` and `relative` with exactly one separator between them, however many they have there.
     ///
-    /// The separator is the one that `folder` itself uses last, else that of its style. Where one of the two is empty
-    /// the result is the other as it is.
+    /// The separator is the last one in `folder`, else that of its style. If one of the two is empty, the result is the
+    /// other.
     static CString GetCombinePath(CString folder, CString relative);
 
-    /// 1 when a file, a folder or anything else stands at `path` (a link that leads nowhere included), else 0.
+    /// 1 when there is a file, a folder or another entry at `path` (also a link that leads nowhere), else 0.
     static int IsFileExist(CString path);
     /// 1 when `path` is an existing folder, or a link to one, else 0.
     static int IsDirectory(CString path);
     /// 1 when the read-only attribute of the file at `path` is set, else 0 (also when there is no file).
     static int IsReadOnly(CString path);
-    /// Removes the mark that tells that the file at `path` was downloaded.
-    /// @return 1 when a mark was there and none is left, else 0.
+    /// Removes the mark that the file at `path` was downloaded.
+    /// @return 1 when there was a mark and none is left, else 0.
     static int DeleteZoneId(CString path);
 
-    /// The size in bytes of the file at `path`; for a folder the sum of all files below it, links not followed; -1 when
-    /// nothing stands there. What cannot be read counts as 0; a sum beyond the type's range becomes its largest
+    /// The size in bytes of the file at `path`; for a folder the sum of all files below it, without following links; -1
+    /// when there is nothing. Files that cannot be read count as 0; a sum beyond the type's range becomes its largest
     /// value.
     static std::int64_t GetFileSize(CString path);
-    /// A size as text for people, its decimal mark and separators those of the user's locale.
-    /// @param size in bytes; a negative one (not known) gives an empty text.
-    /// @param format 1: the bytes with thousands separators, "1,234 bytes". Any other value: below 1 KB likewise, from
-    ///     there on in KB, MB, GB, TB or PB by 1024, in the first of them that gives a number below 1,000, with three
-    ///     digits at most ("1.30 KB", "22.9 KB", "0.97 MB"; whole PB beyond 999); what is left over is dropped.
+    /// A size as text for people, with the decimal mark and separators of the user's locale.
+    /// @param size in bytes; a negative one (unknown) gives an empty text.
+    /// @param format 1: the bytes with thousands separators, "1,234 bytes". Any other value: the same below 1 KB, from
+    /// there on in KB, MB, GB, TB or PB by 1024, in the first of them that gives a number below 1,000, with at most
+    /// three digits ("1.30 KB", "22.9 KB", "0.97 MB"; whole PB beyond 999); further digits are cut off.
     static CString GetFileSize(std::int64_t size, int format);
 
     /// The full path of the running program's executable file.
     static CString GetModuleFilePath();
     /// The file name of the running program's executable, with its extension.
     static CString GetAppFileName();
-    /// The full path that the file `name` has in the system's directory, whether it is there or not; empty for an empty
-    /// name.
+    /// The full path of the file `name` in the system's directory, whether it exists or not; empty for an empty name.
     static CString GetSystemFilePath(CString name);
     /// The folder of the system's built-in apps, without a separator at its end.
     static CString GetWindowsSystemAppsDirectoryPath();

@@ -12,8 +12,8 @@ namespace {
 /// No system takes a longer path, in code units.
 constexpr int longestPath = 32767;
 
-/// The length of the path to the parent of `path`, 0 when it has none. The system's own separators count here, not the
-/// style of the path: what is made is what the system will find.
+/// The length of the path to the parent of `path`, 0 when it has none. Uses the system's own separators, not the style
+/// of the path, since the system creates the folders.
 int LengthOfParent(std::u16string_view path)
 {
     std::size_t length = path.size();
@@ -33,7 +33,7 @@ bool CreateWithParents(const CString& path)
          current = current.Left(LengthOfParent(current)))
         missing.push_back(current);
     for (auto folder = missing.rbegin(); folder != missing.rend(); ++folder)
-        // It may be there by now: made by another program, or the path goes back over "..".
+        // It may exist by now: another program created it, or the path goes back over "..".
         if (FileSystem::CreateFolder(*folder) != 0 && !FileSystem::IsFolder(*folder))
             return false;
     return !path.IsEmpty();

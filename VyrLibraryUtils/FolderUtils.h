@@ -16,8 +16,8 @@ public:
     FolderUtils& operator=(const FolderUtils&);
 
     /// Creates the folder `path` and every missing parent.
-    /// @return 1 when the folder (or a link to one) stands there afterwards, also when it did before; else 0, as with a
-    ///     file in the way, and for an empty text. Folders that were created before a failure stay.
+    /// @return 1 when the folder (or a link to one) exists afterwards, also when it did before; else 0, such as for a
+    /// file of that name and for an empty text. Folders that were created before a failure are kept.
     static int CreateFolderPathExists(CString path);
 };
 

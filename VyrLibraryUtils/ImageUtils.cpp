@@ -1,4 +1,4 @@
-// The published face of the picture readers: paths in, texts out.
+// The published operations over the picture readers.
 #include <VyrLibraryUtils/ImageUtils.h>
 
 #include <VyrLibraryUtils/pictures/Picture.h>
@@ -32,7 +32,7 @@ CString FromLatin1(std::string_view bytes)
 CString ToText(std::string_view bytes)
 {
     const CString text = VyrPlatform::Encoding::FromUtf8(bytes);
-    // What is not UTF-8 does not come back as it was.
+    // Bytes that are not UTF-8 do not survive the conversion.
     const bool isUtf8 = IsAscii(bytes) || VyrPlatform::Encoding::ToUtf8(text) == bytes;
     return isUtf8 ? text : FromLatin1(bytes);
 }

@@ -8,11 +8,11 @@
 namespace VyrLibraryUtils {
 
 /// Reads the Exif tags of a picture: JPEG, PNG, WebP, HEIC, HEIF, AVIF, JPEG XL, TIFF, and the raw formats DNG, CR2,
-/// CR3, NEF, ARW, ORF, RW2, PEF and RAF. The format is told by the first bytes, never by the file's name.
+/// CR3, NEF, ARW, ORF, RW2, PEF and RAF. The first bytes tell the format, never the file's name.
 ///
 /// Every operation opens the file once and reads only the bytes that it needs; the picture is not decoded. A file that
 /// is missing, damaged, or of another format gives an empty text, as does a tag that is missing, blank or filled with
-/// zeros. Trailing blanks and NULs are cut. A text whose bytes are UTF-8 is read as that, any other as Latin-1.
+/// zeros. Trailing blanks and NULs are removed. Valid UTF-8 is read as such, any other text as Latin-1.
 class VYR_UTILS_API ImageUtils
 {
 public:
@@ -20,9 +20,9 @@ public:
     ~ImageUtils();
     ImageUtils& operator=(const ImageUtils& other);
 
-    /// The moment at which the picture at `path` was taken, in Exif's form `yyyy:MM:dd HH:mm:ss` (the camera's local
-    /// time): the tag DateTimeOriginal of the Exif directory; where that has none, of the picture's first directory. No
-    /// other tag takes its place.
+    /// The time when the picture at `path` was taken, in Exif's form `yyyy:MM:dd HH:mm:ss` (the camera's local time):
+    /// the tag DateTimeOriginal of the Exif directory; where that has none, of the picture's first directory. No other
+    /// tag is used.
     static CString GetPropertyTagExifDTOrig(CString path);
     /// The maker of the camera: the tag Make of the picture's first directory.
     static CString GetEquipMake(CString path);

@@ -1,12 +1,12 @@
 /// @file
-/// The one place that knows how a path is cut into its parts. Private to this library.
+/// Splits paths into their parts, for the whole library. Private to it.
 #pragma once
 
 #include <string_view>
 
 namespace VyrLibraryUtils {
 
-/// The rules of FileUtils.h, with every part as a view of the path: nothing is copied.
+/// The rules of FileUtils.h, with every part as a view of the path.
 class PathSplit
 {
 public:
@@ -24,7 +24,7 @@ public:
     {
         return unit == u'/' || (unit == u'\\' && m_isWindowsStyle);
     }
-    /// The separator that the path uses last, else that of its style.
+    /// The last separator in the path, else that of its style.
     [[nodiscard]] char16_t Separator() const noexcept;
 
 private:

@@ -1,4 +1,3 @@
-// Locates the data of the running program.
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/PathUtils.h>
 #include <VyrPlatform/process/Process.h>
@@ -16,8 +15,8 @@ constexpr std::u16string_view applicationFileName = u"Application.ini";
 constexpr std::u16string_view updatesFileName = u"Updates.ini";
 constexpr std::u16string_view logFolder = u"Logs";
 
-/// `name` without what no system takes in the name of a folder: signs of paths and controls become underscores, points
-/// and blanks at the end go.
+/// `name` as the name of a folder on any system: forbidden characters become underscores, and dots and blanks at the
+/// end are removed.
 CString ToFolderName(std::u16string_view name)
 {
     constexpr std::u16string_view signs = u"<>:\"/\\|?*";

@@ -1,5 +1,5 @@
 /// @file
-/// Locates the files in which the running program keeps its data.
+/// Finds the files in which the running program keeps its data.
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>
@@ -9,11 +9,11 @@ namespace VyrLibraryUtils {
 
 /// The locations of the running program's data.
 ///
-/// They lie in a folder of the user's data folders that is named after the program: by the product name of its version
-/// information, or, where that has none, by its file name without extension. Signs that no folder's name may hold
-/// become underscores. The data folders are local and roaming application data on Windows, the XDG base directories on
-/// Linux (local: XDG_DATA_HOME, roaming: XDG_CONFIG_HOME, logs: XDG_STATE_HOME). Nothing is created. A result is empty
-/// where the system names no such folder.
+/// They are in a folder of the user's data folders that is named after the program: by the product name of its version
+/// information, or, where that has none, by its file name without extension. Characters that folder names cannot
+/// contain become underscores. The data folders are local and roaming application data on Windows, the XDG base
+/// directories on Linux (local: XDG_DATA_HOME, roaming: XDG_CONFIG_HOME, logs: XDG_STATE_HOME). Nothing is created. A
+/// result is empty where the system has no such folder.
 ///
 ///     For the product "My Tool" of the user me, the log folder on Linux is /home/me/.local/state/My Tool/Logs.
 class VYR_UTILS_API PathUtils

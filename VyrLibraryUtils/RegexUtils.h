@@ -1,5 +1,5 @@
 /// @file
-/// Tells which characters a text consists of.
+/// Tests which characters a text consists of.
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>
@@ -7,7 +7,7 @@
 
 namespace VyrLibraryUtils {
 
-/// Character classes. They are of ASCII, whatever the locale; an empty text belongs to none of them.
+/// Character classes. They are ASCII classes in every locale; an empty text is in none of them.
 class VYR_UTILS_API RegexUtils
 {
 public:
@@ -15,11 +15,11 @@ public:
     ~RegexUtils();
     RegexUtils& operator=(const RegexUtils&);
 
-    /// 1 when `text` consists of the digits 0 to 9 and the letters A to F and a to f alone, else 0.
+    /// 1 when `text` consists only of the digits 0 to 9 and the letters A to F and a to f, else 0.
     static int IsHex(CString text);
-    /// 1 when `text` consists of the digits 0 to 9 and the letters A to Z and a to z alone, else 0.
+    /// 1 when `text` consists only of the digits 0 to 9 and the letters A to Z and a to z, else 0.
     static int IsAlphabetNumber(CString text);
-    /// 1 when `text` consists of ASCII punctuation alone (U+0021 to U+007E without letters and digits), else 0.
+    /// 1 when `text` consists only of ASCII punctuation (U+0021 to U+007E without letters and digits), else 0.
     static int IsSymbol(CString text);
 };
 

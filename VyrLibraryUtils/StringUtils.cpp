@@ -47,7 +47,7 @@ bool IsBlank(char16_t unit) noexcept
     return unit == u' ' || (unit >= u'\t' && unit <= u'\r');
 }
 
-/// A number read from the start of a text: its sign, and its value cut to what 64 bits hold.
+/// A number read from the start of a text: its sign, and its value limited to 64 bits.
 struct ReadNumber
 {
     bool isNegative = false;
@@ -77,7 +77,7 @@ std::int32_t ToInt(std::u16string_view text) noexcept
     return static_cast<std::int32_t>(number.isNegative ? -magnitude : magnitude);
 }
 
-/// Takes the next token off the front of `text`; empty when there is none.
+/// Removes and returns the next token of `text`; empty when there is none.
 std::u16string_view NextToken(std::u16string_view& text, std::u16string_view separators) noexcept
 {
     text.remove_prefix(std::min(text.find_first_not_of(separators), text.size()));
@@ -104,7 +104,7 @@ int CountTokens(std::u16string_view text, std::u16string_view separators) noexce
     return count;
 }
 
-/// Whether a separator stands in front of the last `rest` digits of a number, its first digit not among them.
+/// Whether a separator comes before the last `rest` digits of a number (never before its first digit).
 bool IsGroupStart(int rest, const VyrPlatform::Locale::NumberTexts& texts) noexcept
 {
     if (texts.lastGroup <= 0 || rest < texts.lastGroup)

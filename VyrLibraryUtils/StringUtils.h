@@ -11,12 +11,12 @@ namespace VyrLibraryUtils {
 
 /// Text and numbers.
 ///
-/// Tokens: a text is split at any of the separator characters; a run of them counts once and those at its ends are
-/// skipped, so that no token is empty and a text of separators alone has none. Without separators the whole text is the
-/// one token.
+/// Tokens: a text is split at any of the separator characters. A run of separators counts as one, and those at both
+/// ends are skipped, so that no token is empty and a text of separators alone has none. Without separators the whole
+/// text is one token.
 ///
 /// Numbers are read from the start of a text: optional blanks, an optional sign, then decimal digits up to the first
-/// other character. Without digits the value is 0; one out of range becomes the nearest that the type holds.
+/// other character. Without digits the value is 0; one out of range becomes the nearest value of the type.
 class VYR_UTILS_API StringUtils
 {
 public:
@@ -24,8 +24,8 @@ public:
     ~StringUtils();
     StringUtils& operator=(const StringUtils&);
 
-    /// `format` with each "%s" replaced, in order, by the next text. A "%s" inside a text is not replaced. Texts left
-    /// over are ignored, a "%s" left over stays, and nothing else in `format` has a meaning.
+    /// `format` with each "%s" replaced, in order, by the next text. A "%s" inside a text is not replaced. Extra texts
+    /// are ignored, an extra "%s" is kept, and everything else in `format` is literal.
     ///     GetFormatedText(u"%s of %s", u"1", u"2") gives "1 of 2".
     static CString GetFormatedText(CString format, CString text1);
     static CString GetFormatedText(CString format, CString text1, CString text2);
@@ -49,16 +49,16 @@ public:
 
     /// The token at `index`, counted from 0; empty when there is none.
     static CString GetTokenizeString(CString text, CString separators, int index);
-    /// How many tokens `text` has.
+    /// The number of tokens of `text`.
     static int GetTokenizeStringCount(CString text, CString separators);
     /// The number at the start of the token at `index`; 0 when there is none.
     static int GetTokenizeInt(CString text, CString separators, int index);
 
-    /// `text` in double quotes. Those that it holds already are not doubled.
+    /// `text` in double quotes. Quotes in it are not doubled.
     static CString GetAddDoubleQuotesString(CString text);
     /// `text` in double quotes, then a comma.
     static CString GetAddDoubleQuotesCommaString(CString text);
-    /// `text` without any double quote.
+    /// `text` without its double quotes.
     static CString GetRemoveDoubleQuotesString(CString text);
 
     /// `number` with the thousands separators of the user's locale.

@@ -9,8 +9,8 @@
 
 namespace VyrLibraryUtils {
 
-/// What the running program says of itself: on Windows its version resource, on Linux the note that the build puts in.
-/// A program that carries none reads 0 and empty texts.
+/// The version of the running program: on Windows from its version resource, on Linux from the note that the build
+/// adds. A program without one gives 0 and empty texts.
 class VYR_UTILS_API VersionUtils
 {
 public:
@@ -28,7 +28,7 @@ public:
     static std::int32_t GetFileBuildVersion();
     /// The product's name.
     static CString GetProductName();
-    /// The product's version as the program words it.
+    /// The product's version as text.
     static CString GetStringProductVersion();
 };
 

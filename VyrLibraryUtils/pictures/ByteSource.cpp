@@ -1,4 +1,3 @@
-// The two sources of bytes that the picture readers know.
 #include <VyrLibraryUtils/pictures/ByteSource.h>
 
 #include <algorithm>

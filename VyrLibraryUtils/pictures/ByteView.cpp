@@ -1,4 +1,4 @@
-// All bounds checks of the picture readers stand here: no view reaches outside its source.
+// All bounds checks of the picture readers are here: no view reaches outside its source.
 #include <VyrLibraryUtils/pictures/ByteView.h>
 
 #include <algorithm>

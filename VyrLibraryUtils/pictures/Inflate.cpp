@@ -1,4 +1,4 @@
-// Unpacks with zlib, piece by piece, so that a bomb ends at the limit.
+// Unpacks with zlib, piece by piece, so that a decompression bomb ends at the limit.
 #include <VyrLibraryUtils/pictures/Inflate.h>
 
 #include <algorithm>
@@ -26,7 +26,7 @@ public:
     Inflater& operator=(const Inflater&) = delete;
     ~Inflater() { inflateEnd(&m_stream); }
 
-    /// The next bytes, at most `limit`; none at the end and behind damage.
+    /// The next bytes, at most `limit`; none at the end and after damage.
     std::string_view Next(std::size_t limit)
     {
         if (m_status != Z_OK)

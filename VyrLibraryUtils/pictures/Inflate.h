@@ -8,8 +8,8 @@
 
 namespace VyrLibraryUtils::Pictures {
 
-/// The first `limit` bytes that the zlib stream `packed` holds; fewer when it is damaged or cut short. The checksum at
-/// its end is not checked. Source: RFC 1950 and RFC 1951.
+/// The first `limit` bytes of the zlib stream `packed`, unpacked; fewer when it is damaged or truncated. The checksum
+/// at its end is not checked. Source: RFC 1950 and RFC 1951.
 [[nodiscard]] std::string Inflate(std::string_view packed, std::size_t limit);
 
 } // namespace VyrLibraryUtils::Pictures

@@ -1,5 +1,5 @@
 /// @file
-/// One fact of a picture of any known format.
+/// Reads one tag from a picture of any known format.
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>
@@ -11,8 +11,8 @@
 
 namespace VyrLibraryUtils::Pictures {
 
-/// The text of `tag` in the picture that `source` holds, byte for byte as it stands there. Empty when the picture has
-/// no such tag or its format is not known. The first bytes tell the format; the file's name does not matter.
+/// The text of `tag` in the picture `source`, byte for byte. Empty when the picture has no such tag or its format is
+/// unknown. The first bytes tell the format; the file's name does not matter.
 [[nodiscard]] VYR_UTILS_API std::string ReadPicture(ByteSource& source, PictureTag tag);
 
 /// ReadPicture of a picture in memory.

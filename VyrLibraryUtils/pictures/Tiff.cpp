@@ -28,7 +28,7 @@ struct Entry
     std::uint32_t count;
     /// The value itself when it has at most four bytes, else its offset.
     std::uint32_t valueOrOffset;
-    /// Where those four bytes stand.
+    /// The position of those four bytes.
     std::uint64_t valueField;
 };
 

@@ -27,5 +27,5 @@ __all__ = ["Error", "name", "rename_path", "version"]
 
 
 def rename_path(item: name.Item, index: "int | None" = None) -> str:
-    """The path that an entry gets by the rule of `item`; as the entry at `index` of a list where that is given."""
+    """The new path of an entry by the rule of `item`; `index`, if given, is its index in the list."""
     return name.get_rename_file_path(item if index is None else dataclasses.replace(item, index=index))

@@ -1,4 +1,4 @@
-"""Calls of the C interface: how Python's values cross it."""
+"""Calls the C interface, and converts arguments and results."""
 import ctypes
 import datetime
 import math
@@ -16,7 +16,7 @@ _FILE_TIME_EPOCH = datetime.datetime(1601, 1, 1, tzinfo=datetime.timezone.utc)
 
 
 class Error(Exception):
-    """An operation failed in a way that its result cannot tell."""
+    """An operation failed with an exception."""
 
 
 def _load():
@@ -38,7 +38,7 @@ class _DateTime(ctypes.Structure):
 
 
 def _units(text):
-    """A text as UTF-16, and its length in code units. A byte of a name that is no UTF-8 goes through unchanged."""
+    """A text as UTF-16, and its length in code units. A byte of a name that is not UTF-8 is kept."""
     data = text.encode("utf-16-le", "surrogatepass")
     return ctypes.create_string_buffer(data, len(data) + 2), len(data) // 2
 
@@ -146,7 +146,7 @@ class DateTime:
 
 
 class FileTime(Number):
-    """A datetime with a zone; None for none."""
+    """A datetime with a zone, or None."""
 
     def __init__(self):
         super().__init__(c_uint64)
@@ -190,7 +190,7 @@ def _structure(record):
 
 
 class Record:
-    """A dataclass with the attributes `c_name`, what C calls it, and `c_kinds`, the kinds of its fields."""
+    """A dataclass with the attributes `c_name`, its name in C, and `c_kinds`, the kinds of its fields."""
 
     def __init__(self, record):
         self._record = record
@@ -249,7 +249,7 @@ class List:
 
 
 class Collected(List):
-    """A list that the operation adds to, or None."""
+    """A list that the operation appends to, or None."""
 
     def give(self, value, kept):
         if value is None:
@@ -266,7 +266,7 @@ DATE_TIME, FILE_TIME, RECT = DateTime(), FileTime(), Rect()
 
 
 def call(name, result, *arguments):
-    """The result of an operation; each argument is a pair of its kind and its value."""
+    """Calls an operation and returns its result; each argument is a pair of its kind and its value."""
     kept, given = [], []
     for kind, value in arguments:
         given += kind.give(value, kept)
