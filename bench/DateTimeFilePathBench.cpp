@@ -1,5 +1,5 @@
-// Measures the date-time rename of a folder of 100,000 files against a bare loop that asks the system for each file's
-// time and writes it with the C library.
+// Compares the date-time rename of a folder of 100,000 files with a bare loop that reads each file's time and formats
+// it with the C library.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include "TemporaryFolder.h"
@@ -24,7 +24,7 @@ namespace {
 
 constexpr int fileCount = 100'000;
 
-/// Fills `folder` with empty files, as a photograph collection of three years in the order of their names.
+/// Fills `folder` with empty files whose names are in the order of their times, over three years.
 /// @return their paths.
 std::vector<std::string> MakeFiles(const std::filesystem::path& folder)
 {

@@ -1,5 +1,5 @@
-// Measures a drain that finds nothing to do, as inner loops call it, against the lock that a queue without a flag would
-// take each time.
+// Compares a drain of an empty queue, as in inner loops, with the lock that a queue without a flag would need each
+// time.
 #include <VyrPlatform/process/LinuxMessageQueue.h>
 #include <VyrPlatform/process/MessageQueue.h>
 
@@ -35,7 +35,7 @@ BENCHMARK(Lock);
 int main(int argc, char** argv)
 {
     benchmark::Initialize(&argc, argv);
-    // A second thread makes locks real, as in every program that posts.
+    // With a second thread locks are real, as in every program that posts.
     std::promise<void> end;
     std::thread other([wait = end.get_future()] { wait.wait(); });
     benchmark::RunSpecifiedBenchmarks();

@@ -1,5 +1,5 @@
-// Measures a folder copy against the system's own copy command: a tree of 20,000 small files, or one file of 2 GB with
-// the argument --large.
+// Compares a folder copy with the system's own copy command: a tree of 20,000 small files, or with --large one file of
+// 2 GB.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include "TemporaryFolder.h"
@@ -28,7 +28,7 @@ constexpr int folderCount = 200;
 constexpr int filesInFolder = 100;
 constexpr std::size_t largeSize = 2'000'000'000;
 
-/// Where the source and its copies stand.
+/// The folder of the source and its copies.
 class Workplace
 {
 public:

@@ -1,6 +1,6 @@
-// Creates the pictures on which date readers are compared: MakeDatedPictures FOLDER COUNT
+// Creates pictures for the comparison of date readers: MakeDatedPictures FOLDER COUNT
 //
-// Each is a sound JPEG of 20 to 100 KiB with a date, a maker and a model of its own.
+// Each is a valid JPEG of 20 to 100 KiB with its own date, maker and model.
 #include <tests/support/PictureBuilder.h>
 
 #include <cstddef>

@@ -1,5 +1,4 @@
-// What it costs to hold a million names against three conditions, beside a bare loop that lower-cases and searches the
-// same texts.
+// Tests a million names with three conditions, compared with a bare loop that lower-cases and searches the same texts.
 #include <VyrLibraryFuncs/select/FilterFuncs.h>
 
 #include <benchmark/benchmark.h>
@@ -12,7 +11,7 @@ using VyrLibraryFuncs::FilterFuncs;
 
 namespace {
 
-/// One name in a thousand holds the last text, so that nearly all names are held against all three.
+/// One name in a thousand contains the last text, so nearly all names are compared with all three.
 const std::vector<CString>& Names()
 {
     static const std::vector<CString> names = [] {

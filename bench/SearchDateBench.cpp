@@ -1,5 +1,5 @@
-// What it costs to hold a date-time against each range of the search criteria, the clock included, beside a bare
-// comparison with two bounds after one look at the clock.
+// Tests a date-time with each range of the search criteria, including the clock, compared with two bounds after one
+// reading of the clock.
 #include <VyrLibraryFuncs/select/SearchFuncs.h>
 #include <VyrPlatform/time/Clock.h>
 

@@ -1,7 +1,7 @@
-// Measures the preview of one sequence-number rename: by the engine, by a function that takes a record of
-// std::u16string, and by bare reserve-and-append as the lower limit.
+// Measures the preview of one sequence-number rename: by the engine, by a function with a record of std::u16string, and
+// by bare reserve-and-append as the lower limit.
 //
-// The argument --second-thread keeps a second thread alive, so that shared counts are locked.
+// The argument --second-thread keeps a second thread alive, so that reference counts are atomic.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <benchmark/benchmark.h>
@@ -52,7 +52,7 @@ struct StandardItem
     std::u16string newExtension;
 };
 
-/// The two records hold the same: five texts and a number of seven digits.
+/// Both records have the same content: five texts and a number of seven digits.
 template <class Item>
 Item SampleItem()
 {

@@ -1,5 +1,5 @@
-// What a text file of one line of 100 MB costs to read, against the same bytes in two lines: a line's time must
-// grow as its length does. "--utf16" reads UTF-16, else UTF-8 is read.
+// Reads a text file with one line of 100 MB, compared with the same bytes in two lines: the time must grow linearly.
+// "--utf16" reads UTF-16, otherwise UTF-8.
 #include <VyrLibraryFuncs/textfile/CStdioFileEx.h>
 
 #include "TemporaryFolder.h"
@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t byteCount = 100'000'000;
 
-/// A file of `byteCount` bytes and its mark, with a line feed at the end of each line of `lineLength` bytes.
+/// A file of `byteCount` bytes and a byte order mark, with a line feed at the end of each line of `lineLength` bytes.
 CString MakeFile(const std::filesystem::path& path, bool isUtf16, std::size_t lineLength)
 {
     const std::string letter = isUtf16 ? std::string("x\0", 2) : "x";
@@ -33,7 +33,7 @@ CString MakeFile(const std::filesystem::path& path, bool isUtf16, std::size_t li
     return Widen(path);
 }
 
-/// How two code units the lines of the file at `path` have.
+/// The number of code units in the lines of the file at `path`.
 std::size_t ReadUnits(const CString& path)
 {
     CStdioFileEx file;

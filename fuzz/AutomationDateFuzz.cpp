@@ -1,4 +1,4 @@
-// Feeds any text to the reader of automation dates: what it reads is a date-time, and reads the same when written.
+// Reads any text as an automation date: a result is a date-time, and is read back when written.
 #include <VyrPlatform/text/Encoding.h>
 #include <VyrPlatform/time/AutomationDate.h>
 #include <VyrPlatform/time/DateTimePattern.h>

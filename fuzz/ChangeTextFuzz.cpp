@@ -1,5 +1,5 @@
-// Any texts as what the journal keeps of a change, and any texts that say what is to be changed: they are read or
-// refused, and what is read is written again as it is read.
+// Any texts as a journal's texts of a change, and as new values: they are read or refused, and what was read is written
+// back the same.
 #include <VyrHost/metadata/Attributes.h>
 #include <VyrHost/metadata/Changes.h>
 #include <VyrHost/metadata/Dates.h>

@@ -1,5 +1,5 @@
-// Any text that chooses files: ranges of dates and sizes and conditions on names are read or refused with a reason, and
-// what is read can be asked.
+// Any text as a range of dates or sizes, or a condition on names: it is read or refused with a reason, and the result
+// can be used.
 #include <VyrHost/collect/Choice.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/TypedDateTime.h>

@@ -1,5 +1,5 @@
-// Feeds any text to the companion's paths, formats, date-times, tokens and numbers: each call ends, and results that
-// belong together agree.
+// Any text for the companion's paths, formats, date-times, tokens and numbers: each call ends, and related results
+// agree.
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/StringUtils.h>
@@ -21,7 +21,7 @@ void Require(bool holds)
         std::abort();
 }
 
-/// The code unit for a byte; from 0x80 on, the lone surrogate that stands for that byte in a file name.
+/// The code unit for a byte; from 0x80 on, the lone surrogate for that byte in a file name.
 CString ToText(const std::uint8_t* data, std::size_t size)
 {
     std::u16string text;

@@ -1,4 +1,4 @@
-// Any bytes as a compound document: its tables are read in bounded time, and a stream that was written reads back.
+// Any bytes as a compound document: its tables are read in bounded time, and a written stream is read back.
 #include <VyrPlatform/linux/documents/CompoundFile.h>
 
 #include <cstdint>
@@ -17,7 +17,7 @@ void Require(bool holds)
         std::abort();
 }
 
-/// Bytes as an open file without a name.
+/// An anonymous file with these bytes.
 class MemoryFile
 {
 public:
@@ -47,8 +47,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string content(size % 2 == 0 ? 100 : 6'000, 'x');
     if (container->WriteStream(name, content) != 0 || !before)
         return 0;
-    // Streams that share their sectors with the tables can spoil the document, but not the program. The caller compares
-    // the result with what was to be written.
+    // Streams that share sectors with the tables can damage the document, but not the program: the caller compares the
+    // result.
     const auto again = CompoundFile::Read(file.Get());
     if (again)
         static_cast<void>(again->ReadStream(name));

@@ -1,5 +1,5 @@
-// Converts any bytes and any code units: names come back exactly, contents lose only what is not well-formed, and a
-// second conversion changes nothing.
+// Converts any bytes and any code units: names are converted back exactly, contents lose only malformed sequences, and
+// a second conversion changes nothing.
 #include <VyrPlatform/text/Encoding.h>
 
 #include <cstddef>

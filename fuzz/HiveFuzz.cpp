@@ -1,5 +1,5 @@
-// Any bytes as a hive: it is opened or refused, and read in bounded time and memory. The head is put right first, so
-// that what is behind it is reached.
+// Any bytes as a hive: it is opened or refused, and read in bounded time and memory. The header is corrected first, so
+// that the rest is reached.
 #include <VyrPlatform/linux/registry/Hive.h>
 #include <VyrPlatform/text/Encoding.h>
 
@@ -28,7 +28,7 @@ void Walk(Node& node, int levels)
     }
 }
 
-/// A head for the bin `body`.
+/// A header for the bin `body`.
 std::string WithHead(std::string body)
 {
     body.resize(4096);

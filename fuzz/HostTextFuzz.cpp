@@ -1,5 +1,5 @@
-// Any text that users hand to the program: rules, formats, tables of pairs and edited lists are read or refused with a
-// reason, and no rule makes a name out of bounds.
+// Any text from users: rules, formats, tables of pairs and edited lists are read or refused with a reason, and no rule
+// makes a name out of bounds.
 #include <VyrHost/rename/NameLists.h>
 #include <VyrHost/rename/RuleTexts.h>
 #include <VyrHost/text/Errors.h>
@@ -24,7 +24,7 @@ void Require(bool holds)
         std::abort();
 }
 
-/// Whether `read` takes its text; a text that is refused has a reason.
+/// Whether `read` accepts its text; a refusal has a reason.
 bool IsTaken(const std::function<void()>& read)
 {
     try {
@@ -36,7 +36,7 @@ bool IsTaken(const std::function<void()>& read)
     }
 }
 
-/// A refusal is slow, so each input goes to one reader, which `choice` names.
+/// A refusal is slow, so `choice` selects one reader for each input.
 void CheckRules(std::uint8_t choice, const CString& text)
 {
     using Make = Rules (*)(const CString&);

@@ -1,4 +1,4 @@
-// Any bytes as a journal: what is read can be worked with, stays in its folders, and is written again as it was.
+// Any bytes as a journal: one that is read can be used, stays in its folders, and is written back the same.
 #include <VyrHost/batch/JournalLines.h>
 #include <VyrHost/batch/JournalText.h>
 #include <VyrHost/model/RenamePlan.h>
@@ -33,7 +33,7 @@ void AppendCheck(std::string& text, std::uint32_t check)
     text += digits;
 }
 
-/// `text` with the checks that its lines should have, so that what it says is read.
+/// `text` with correct checksums, so that its content is reached.
 std::string WithChecks(std::string_view text)
 {
     std::string whole;
@@ -54,7 +54,7 @@ std::string WithChecks(std::string_view text)
     return whole;
 }
 
-/// A kind of change that takes any texts but equal ones.
+/// A kind of change that accepts any two different texts.
 class AnyChange final : public Change
 {
 public:
@@ -129,7 +129,7 @@ void CheckPlan(const Journal& journal)
         Require(folder < plan.folders.size());
 }
 
-/// Its own text is one that says the same.
+/// Its text, written again, has the same content.
 void CheckRoundTrip(const Journal& journal)
 {
     std::uint32_t check = 0;
@@ -141,7 +141,7 @@ void CheckRoundTrip(const Journal& journal)
     Require(TextOf(*again, checkAgain) == text && again->check == check);
 }
 
-/// What is read from the end alone says the same as the whole.
+/// Reading only the end gives the same as reading the whole.
 void CheckLastMark(const std::optional<Journal>& journal, std::string_view text)
 {
     const std::size_t entries = journal ? journal->plan.entries.size() + journal->changes.size() : 1000;
@@ -183,7 +183,7 @@ void CheckName(std::string_view bytes)
 
 } // namespace
 
-/// What is refused is thrown, and with this check every throw looks through the whole stack: a third of all the time.
+/// Refusals throw, and with this check every throw scans the whole stack: a third of the time.
 extern "C" const char* __asan_default_options()
 {
     return "detect_stack_use_after_return=0";

@@ -1,4 +1,4 @@
-// Fuzzes the picture readers: whatever the bytes are, every text is short, trimmed, and read within its bounds.
+// Any bytes as a picture: every text is short, trimmed, and read within its bounds.
 #include <VyrLibraryUtils/pictures/Picture.h>
 
 #include <cstddef>

@@ -1,5 +1,5 @@
-// Any bytes as a private-profile file: written anew it is in its normal form, what was set is found, and what was there
-// still is.
+// Any bytes as a private-profile file: written again it is in normal form, the new value is found, and the others are
+// kept.
 #include <VyrPlatform/linux/documents/ProfileText.h>
 
 #include <cstddef>

@@ -1,5 +1,5 @@
-// Any texts as icon references and as keys of programs: a reference is taken apart, keys compare to -1, 0 or 1 and the
-// other way round to the opposite, and a list of them is sorted whatever their order.
+// Any texts as icon references and as keys of programs: references are split, keys compare to -1, 0 or 1 and to the
+// opposite when swapped, and a list of them is sorted in any order.
 #include <VyrHost/ui/RecordTable.h>
 #include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>
 

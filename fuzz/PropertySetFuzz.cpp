@@ -1,4 +1,4 @@
-// Any bytes as a property set: it is read in bounded time, and what is written of it reads as the same again.
+// Any bytes as a property set: it is read in bounded time, and read back the same when written.
 #include <VyrPlatform/common/documents/PropertySetStream.h>
 
 #include <cstdint>

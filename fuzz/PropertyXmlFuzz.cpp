@@ -1,4 +1,4 @@
-// Any text as the properties of a document in XML: it is read in bounded time, and what was edited can be edited again.
+// Any text as the properties of a document in XML: it is read in bounded time, and can be edited again.
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/linux/documents/PropertyXml.h>
 

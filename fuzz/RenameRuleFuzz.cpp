@@ -30,7 +30,7 @@ CString TakeText(FuzzedDataProvider& input)
     return std::u16string_view(text);
 }
 
-/// A small number mostly, so that rules apply often; any number now and then.
+/// Usually a small number, so that rules often apply; sometimes any number.
 int TakeNumber(FuzzedDataProvider& input)
 {
     return input.ConsumeIntegralInRange(0, 7) == 0 ? input.ConsumeIntegral<int>() : input.ConsumeIntegralInRange(-2, 9);

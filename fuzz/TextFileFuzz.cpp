@@ -1,5 +1,5 @@
-// Any bytes as a text file, in each of its encodings: the lines are those that a plain split of the whole content
-// gives, and a file to which they are written reads as the same lines.
+// Any bytes as a text file, in each encoding: the lines are those of a plain split of the whole content, and are read
+// back when written.
 #include <VyrLibraryFuncs/textfile/CStdioFileEx.h>
 
 #include <VyrPlatform/text/CodePage.h>
@@ -31,7 +31,7 @@ void Require(bool holds)
         std::abort();
 }
 
-/// A file in memory that is opened by a path.
+/// A file in memory with a path.
 class MemoryFile
 {
 public:
@@ -65,7 +65,7 @@ Lines Read(CStdioFileEx& file)
     return lines;
 }
 
-/// The text of a line: up to its NUL, without a carriage return at the end.
+/// The text of a line: up to its NUL, without a carriage return at its end.
 template <class Text>
 Text Trim(Text line)
 {
@@ -99,7 +99,7 @@ Lines ExpectedOfUtf16(std::string_view bytes)
     return lines;
 }
 
-/// A carriage return stands for itself in every code page, so that it may go before or after the conversion.
+/// A carriage return is the same byte in every code page, so it may be removed before or after the conversion.
 Lines ExpectedOf8Bit(std::string_view bytes, std::uint32_t codePage)
 {
     const std::uint32_t page = codePage == 0xFFFFFFFF ? VyrPlatform::CodePage::GetAnsi() : codePage;

@@ -1,5 +1,5 @@
-// Any text as the registry of a Wine prefix: it is read in bounded time, and every key and value that it gives can be
-// found by its name, or lies behind a link.
+// Any text as the registry of a Wine prefix: it is read in bounded time, and every key and value that it has can be
+// found by name, or is behind a link.
 #include <VyrPlatform/linux/registry/MemoryNode.h>
 #include <VyrPlatform/linux/registry/WineText.h>
 

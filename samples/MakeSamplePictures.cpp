@@ -94,7 +94,7 @@ private:
     {
         return m_offset + 2 + 12 * static_cast<std::uint32_t>(m_entries.size()) + 4;
     }
-    /// How many bytes of a value stand outside its entry; values begin at even offsets.
+    /// The number of bytes of a value outside its entry; values begin at even offsets.
     static std::uint32_t Outside(const Entry& entry)
     {
         const auto size = static_cast<std::uint32_t>(entry.text.size());

@@ -1,5 +1,5 @@
-// A host outside the library's tree. It shows the numbered names that the files of a folder would get, and its own
-// version; it renames nothing.
+// A host outside the library's tree. It shows numbered names for the files of a folder, and its own version; it renames
+// nothing.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/VersionUtils.h>
