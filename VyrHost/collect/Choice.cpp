@@ -1,4 +1,4 @@
-// Matches names against wildcards, in time bounded by the product of both lengths.
+// Matches names with wildcards in time bounded by the product of both lengths.
 #include <VyrHost/collect/Choice.h>
 
 #include <VyrHost/text/Errors.h>
@@ -22,7 +22,7 @@ bool MatchesPattern(std::u16string_view pattern, std::u16string_view name)
     constexpr auto none = std::u16string_view::npos;
     std::size_t atPattern = 0;
     std::size_t atName = 0;
-    // Where to go on when what follows the last "*" does not fit: that "*" takes one unit more.
+    // Where to continue when the text behind the last "*" does not match: that "*" takes one code unit more.
     std::size_t behindStar = none;
     std::size_t retry = 0;
     while (atName < name.size()) {

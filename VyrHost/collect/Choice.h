@@ -1,5 +1,5 @@
 /// @file
-/// Which of the files that a call comes upon it is about: by their names, one of their dates and their size.
+/// Chooses files by their names, one of their dates and their size.
 #pragma once
 
 #include <VyrLibraryFuncs/select/FilterFuncs.h>
@@ -17,25 +17,25 @@ namespace VyrHost::Collect {
 /// Whether `pattern` has a "*" or a "?".
 [[nodiscard]] bool IsPattern(std::u16string_view pattern);
 
-/// Whether the whole of `name` is matched by `pattern`: "*" stands for any text, "?" for any one code unit.
+/// Whether `pattern` matches the whole of `name`: "*" matches any text, "?" any one code unit.
 [[nodiscard]] bool MatchesPattern(std::u16string_view pattern, std::u16string_view name);
 
-/// Which date a criterion is about.
+/// The date of a criterion.
 using ChoiceDate = VyrLibraryFuncs::SearchFuncs::DateTimeTarget;
 
-/// Dates from the first to the last of a range.
+/// The dates from the first to the last of a range.
 struct DateRange
 {
     VyrLibraryFuncs::SearchFuncs::DateTimeRange kind = VyrLibraryFuncs::SearchFuncs::DateTimeRange::Custom;
-    /// The bounds of a custom range; the status null stands for an open end.
+    /// The bounds of a custom range; the status null means an open end.
     COleDateTime from;
     COleDateTime to;
 };
 
 /// Reads `today`, `yesterday`, `this-week`, `last-week`, `this-month`, `last-month`, `this-year`, `last-year`, or
-/// `FROM..TO`, two date-times as Text::ReadTypedDateTime reads them. One of them may be missing: that end is open. A
-/// bare date as TO stands for its last second.
-/// @param option  what it was given with.
+/// `FROM..TO`, two date-times in a form of Text::ReadTypedDateTime. One of them may be missing: that end is open. A
+/// date without a time of day as TO means its last second.
+/// @param option  the option that it was given with, for messages.
 /// @throws UsageError for any other text, and where FROM is after TO.
 [[nodiscard]] DateRange ParseDateRange(std::u16string_view text, const char* option);
 
@@ -53,21 +53,21 @@ struct SizeSpan
 /// @throws UsageError for any other text, and where FROM is more than TO.
 [[nodiscard]] SizeSpan ParseSizeSpan(std::u16string_view text, const char* option);
 
-/// What was asked for, as it was typed.
+/// The criteria as they were typed.
 struct ChoiceTexts
 {
     std::vector<CString> include;
     std::vector<CString> exclude;
     std::optional<ChoiceDate> dateTarget;
-    /// Of the date of `dateTarget`.
+    /// The range of the date `dateTarget`.
     CString dates;
     std::optional<CString> sizes;
-    /// Upper and lower case differ.
+    /// Whether upper and lower case differ.
     bool matchCase = false;
 };
 
-/// Conditions on names: wildcards ("*" and "?", decided here), or texts behind `contains:`, `begins:`, `ends:` or
-/// `equals:` (decided by FilterFuncs). A name that is written in another normal form is the same.
+/// Conditions on names: wildcards ("*" and "?", matched here), or texts after `contains:`, `begins:`, `ends:` or
+/// `equals:` (matched by FilterFuncs). The normal form of a name makes no difference.
 class NameConditions
 {
 public:
@@ -76,7 +76,7 @@ public:
     NameConditions(const std::vector<CString>& texts, bool matchCase, const char* option);
 
     [[nodiscard]] bool IsEmpty() const noexcept { return m_patterns.empty() && m_texts.empty(); }
-    /// Whether `name` meets one of them.
+    /// Whether `name` meets one of the conditions.
     [[nodiscard]] bool MeetsAny(const CString& name) const;
 
 private:
@@ -88,19 +88,19 @@ private:
     std::vector<VyrLibraryFuncs::FilterFuncs::FILTERITEM> m_texts;
 };
 
-/// Decides what stays in the list. Dates and sizes are decided by SearchFuncs, whose settings belong to the process, so
-/// the last one that was made of texts holds.
+/// Decides which entries stay in the list. SearchFuncs decides on dates and sizes. Its settings belong to the process,
+/// so only the last object that was made from texts is valid.
 class Choice
 {
 public:
-    /// Keeps everything.
+    /// Chooses everything.
     Choice() = default;
-    /// @throws UsageError for a text that makes no sense.
+    /// @throws UsageError for an invalid text.
     explicit Choice(const ChoiceTexts& texts);
 
-    /// Whether a name is excluded. A folder of such a name is not entered. The empty name is not.
+    /// Whether a name is excluded. A folder of such a name is not entered. The empty name is never excluded.
     [[nodiscard]] bool Excludes(std::u16string_view name) const;
-    /// Whether the entry `name` stays in the list. The file is looked at where that is needed.
+    /// Whether the entry `name` stays in the list. Reads the file only where a criterion needs it.
     /// @param folder  its folder's path, with the separator at its end.
     [[nodiscard]] bool Keeps(std::u16string_view folder, std::u16string_view name) const;
 

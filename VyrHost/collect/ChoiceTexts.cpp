@@ -15,7 +15,7 @@ namespace {
 
 using VyrLibraryFuncs::SearchFuncs;
 
-/// A word and the kind of range that it stands for.
+/// A word for a kind of range.
 template <class Kind>
 struct RangeWord
 {
@@ -52,7 +52,7 @@ std::u16string_view WithoutBlanks(std::u16string_view text)
     return text.substr(first, text.find_last_not_of(u' ') - first + 1);
 }
 
-/// @throws UsageError where there is no "..", or nothing on both its sides.
+/// @throws UsageError where there is no "..", or nothing on both sides of it.
 Bounds CutRange(std::u16string_view text, const char* option, const std::string& expected)
 {
     constexpr std::u16string_view mark = u"..";
@@ -82,7 +82,7 @@ Text::TypedDateTime ReadBound(std::u16string_view bound, std::u16string_view tex
     return *typed;
 }
 
-/// 1 for a text that is no unit.
+/// 1 for an unknown unit.
 std::int64_t UnitSize(std::u16string_view unit)
 {
     constexpr std::u16string_view letters = u"BKMGTbkmgt";
@@ -106,7 +106,7 @@ bool IsDigit(char16_t unit)
     return unit >= u'0' && unit <= u'9';
 }
 
-/// Takes digits off the front of `text`; -1 when they are more than `most`.
+/// Removes at most `most` digits from the front of `text` and returns their value; -1 when there are more.
 std::int64_t TakeDigits(std::u16string_view& text, std::size_t most, std::size_t& count)
 {
     std::int64_t number = 0;
@@ -118,7 +118,7 @@ std::int64_t TakeDigits(std::u16string_view& text, std::size_t most, std::size_t
     return number;
 }
 
-/// A size in bytes; -1 when `text` is none or too large. What is less than a byte is dropped.
+/// A size in bytes; -1 when `text` is invalid or the size too large. Fractions of a byte are dropped.
 std::int64_t ReadSize(std::u16string_view text)
 {
     constexpr std::size_t mostDigits = 18;

@@ -1,4 +1,4 @@
-// Gathers entries from arguments, from the standard input and from folders.
+// Collects entries from arguments, from the standard input and from folders.
 #include <VyrHost/collect/CollectEntries.h>
 
 #include <VyrHost/collect/Choice.h>
@@ -27,17 +27,17 @@ using VyrLibraryUtils::FileUtils;
 using VyrPlatform::FileSystem::IsSeparator;
 using VyrPlatform::FileSystem::Kind;
 
-/// A path cut into the folder, as the user wrote it, and the name in it.
+/// A path split into the folder, as the user wrote it, and the name in it.
 struct CutPath
 {
     CString folder;
     CString name;
 };
 
-/// Whether the last part of `path` is the name of an entry as it stands, so that a cut at the last separator is enough.
+/// Whether the last part of `path` is the name of an entry, so that the path can be split at the last separator.
 bool IsPlain(std::u16string_view path, std::u16string_view name)
 {
-    // Where a backslash separates, what stands before a colon is a drive.
+    // Where a backslash is a separator, a drive may come before a colon.
     const bool mayHaveDrive = IsSeparator(u'\\') && path.find(u':') != std::u16string_view::npos;
     return !name.empty() && name != u"." && name != u".." && !mayHaveDrive;
 }
@@ -49,7 +49,7 @@ std::u16string_view LastStep(std::u16string_view path)
     return drive == std::u16string_view::npos ? step : step.substr(drive + 1);
 }
 
-/// Whether `path` ends in a step to the folder above: it names no entry, though Windows would resolve it to one.
+/// Whether `path` ends in "..": it names no entry, though Windows would resolve it to one.
 bool LeadsUp(std::u16string_view path)
 {
     std::u16string_view step = LastStep(path);
@@ -80,14 +80,14 @@ CString WithSeparator(const CString& folder)
     return CString::Join({folder, std::u16string_view(&separator, 1)});
 }
 
-/// The folder as it is shown before the names in it.
+/// The folder as it is shown in front of names.
 CString Shown(const CString& folder)
 {
     const bool isHere = folder == u"." || (folder.GetLength() == 2 && folder[0] == u'.' && IsSeparator(folder[1]));
     return folder.IsEmpty() || isHere ? CString() : WithSeparator(folder);
 }
 
-/// The name that `path` itself ends in; empty where it ends in no name.
+/// The name at the end of `path`; empty where there is none.
 std::u16string_view OwnName(std::u16string_view path)
 {
     while (!path.empty() && IsSeparator(path.back()))
@@ -163,7 +163,7 @@ private:
         AddSource(folder, *record);
     }
 
-    /// The record of `name` as it is written, else in whatever normal form; null when there is none.
+    /// The record of `name` as written, else in any normal form; null when there is none.
     Model::NameRecord* FindNamed(std::uint32_t folder, const CString& name)
     {
         Model::NameTable& names = List().folders[folder].names;
@@ -182,7 +182,7 @@ private:
         return found == records.end() ? nullptr : found->second;
     }
 
-    /// Adds what stands at a name; with recursion what is below it, where that is a folder.
+    /// Adds the entry of a name; with recursion the entries below it, if it is a folder.
     void AddSource(std::uint32_t folder, Model::NameRecord& record)
     {
         const bool isFolder = record.kind == Kind::Folder && !record.isLink;
@@ -204,7 +204,7 @@ private:
         m_sourceFolders.emplace(VyrPlatform::LookAtFile(path).identity, shown);
     }
 
-    /// False when nothing matches.
+    /// @return false when nothing matches.
     bool AddMatches(std::uint32_t folder, const CString& pattern)
     {
         Model::NameTable& names = List().folders[folder].names;
@@ -222,7 +222,7 @@ private:
         return matched;
     }
 
-    /// Whether recursion goes into a folder of this name.
+    /// Whether recursion enters a folder of this name.
     bool MayEnter(std::u16string_view name)
     {
         if (!m_settings.choice.Excludes(name))
@@ -285,7 +285,7 @@ private:
         return m_settings.pick == Pick::All || m_settings.pick == wanted;
     }
 
-    /// Renaming a folder and what is in it in one call is left to recursion, which knows of both.
+    /// Only recursion can handle a folder and its entries in one call.
     void RefuseNested() const
     {
         std::unordered_set<VyrPlatform::FileIdentity, Model::IdentityHash> known;
@@ -307,14 +307,14 @@ private:
 
     const SourceSettings& m_settings;
     CollectedEntries m_result;
-    /// The folder that the last name was in, as the user wrote it: names of one folder mostly follow each other.
+    /// The folder of the last name, as the user wrote it: consecutive names are mostly in the same folder.
     CString m_parentText;
     std::uint32_t m_parent = Model::noEntry;
-    /// By folder and by their composed forms: the records of names that are not composed.
+    /// The records of names that are not composed, by folder and composed form.
     std::unordered_map<std::uint32_t, std::unordered_map<CString, Model::NameRecord*>> m_decomposed;
-    /// The folders that entries were named in.
+    /// The folders of the named entries.
     std::unordered_set<std::uint32_t> m_namedIn;
-    /// The folders that were named themselves, as the user named them.
+    /// The folders that were named themselves, as the user wrote them.
     std::unordered_map<VyrPlatform::FileIdentity, CString, Model::IdentityHash> m_sourceFolders;
 };
 

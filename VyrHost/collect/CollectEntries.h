@@ -1,5 +1,5 @@
 /// @file
-/// Turns what the user names into the list of entries.
+/// Makes the list of entries from the paths that the user names.
 #pragma once
 
 #include <VyrHost/collect/Choice.h>
@@ -11,7 +11,7 @@
 
 namespace VyrHost::Collect {
 
-/// What recursion takes from the folders that it goes through.
+/// The entries that recursion takes.
 enum class Pick : std::uint8_t
 {
     Files,
@@ -19,7 +19,7 @@ enum class Pick : std::uint8_t
     All
 };
 
-/// How names come from the standard input.
+/// The form of names on the standard input.
 enum class InputNames : std::uint8_t
 {
     None,
@@ -34,35 +34,33 @@ struct SourceSettings
     /// As the user gave them.
     std::vector<CString> paths;
     InputNames input = InputNames::None;
-    /// A folder stands for what is below it instead of for itself. Links to folders are not followed.
+    /// A folder means the entries below it instead of itself. Links to folders are not followed.
     bool recursive = false;
     Pick pick = Pick::Files;
-    /// The paths are names as they stand: no wildcards in them.
+    /// The paths have no wildcards: all characters are literal.
     bool areNames = false;
-    /// Recursion takes and goes into what begins with a dot, too.
+    /// Recursion also takes and enters entries that begin with a dot.
     bool hidden = false;
-    /// Holds for named entries, too, but not for a path that leads nowhere.
+    /// Also applies to named entries, but not to a path that does not exist.
     Choice choice;
 };
 
 struct CollectedEntries
 {
     Model::EntryList list;
-    /// What could not be read, for people.
+    /// Messages about folders that could not be read.
     std::vector<CString> problems;
-    /// How many entries the choice left out, those in folders that were not entered uncounted.
+    /// The number of entries that the choice left out, without those in folders that were not entered.
     std::size_t leftOut = 0;
-    /// How many folders were not entered because their names are excluded.
+    /// The number of folders that were not entered because their names are excluded.
     std::size_t notEntered = 0;
 };
 
-/// The entries in the order given; in a folder that is gone through, its own first and then its folders', each by name
-/// (natural order). A path that leads nowhere is an entry of kind Missing.
+/// The entries in the order given. Recursion gives the files of a folder and then those of its subfolders, each in
+/// natural order. A path that does not exist is an entry of kind Missing.
 ///
-/// The kind of an entry comes from its folder's listing, which is read once for each folder, however many entries are
-/// in it.
-/// @throws UsageError when something is named twice, or stands inside a folder that is named too, or names no entry
-/// (a root, "..").
+/// The kind of an entry comes from the listing of its folder, which is read once, however many entries it has.
+/// @throws UsageError when an entry is named twice, is inside a folder that is named too, or is none (a root, "..").
 [[nodiscard]] CollectedEntries CollectEntries(const SourceSettings& settings);
 
 } // namespace VyrHost::Collect

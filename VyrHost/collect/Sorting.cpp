@@ -1,4 +1,3 @@
-// Sorts entries by what the user asks for.
 #include <VyrHost/collect/Sorting.h>
 
 #include <VyrHost/model/NaturalOrder.h>
@@ -19,7 +18,7 @@ namespace {
 using VyrLibraryUtils::DateTimeUtils;
 using VyrLibraryUtils::ImageUtils;
 
-/// A key; nothing for an entry that has none.
+/// A sort key; nothing for an entry without one.
 using Key = std::optional<std::int64_t>;
 
 Key KeyOf(const CString& path, SortKey key)

@@ -10,13 +10,13 @@ namespace VyrHost::Collect {
 
 enum class SortKey : std::uint8_t
 {
-    /// As the entries were named.
+    /// In the order in which the entries were named.
     Given,
     /// Natural order: 2 before 10.
     Name,
     /// The last-write time.
     Modified,
-    /// When the picture was taken; what is no dated picture comes last, in either direction.
+    /// The date when the picture was taken; files without one come last in both directions.
     Taken,
     Size
 };
@@ -27,7 +27,7 @@ struct SortSettings
     bool isDescending = false;
 };
 
-/// Sorts `list`; what is alike under the key is in natural order of the names. Asks the system once for each entry
+/// Sorts `list`; entries with equal keys are in natural order of their names. Queries the system once for each entry
 /// where the key needs it.
 void Sort(Model::EntryList& list, SortSettings settings);
 

@@ -1,4 +1,4 @@
-// Takes snapshots folder by folder, without recursion: a tree may be deeper than the stack.
+// Takes snapshots without recursion, since a tree may be deeper than the stack.
 #include <VyrHost/foldercopy/FolderSnapshot.h>
 
 #include <VyrLibraryUtils/FileUtils.h>

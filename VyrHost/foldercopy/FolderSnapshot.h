@@ -1,5 +1,5 @@
 /// @file
-/// A snapshot of a folder and all that is in it, taken before it is copied or moved.
+/// A snapshot of a folder and all its entries, taken before it is copied or moved.
 #pragma once
 
 #include <VyrHost/model/Result.h>
@@ -18,7 +18,7 @@ enum class SnapshotKind : std::uint8_t
 {
     Folder,
     File,
-    /// A symbolic link, wherever it leads: no link is followed.
+    /// A symbolic link to anything: links are not followed.
     Link,
     /// A pipe or a device: it has no content.
     Other
@@ -28,11 +28,11 @@ struct SnapshotEntry
 {
     CString name;
     SnapshotKind kind = SnapshotKind::File;
-    /// Of a folder: its place in FolderSnapshot::folders.
+    /// For a folder: its index in FolderSnapshot::folders.
     std::size_t folder = 0;
-    /// In bytes; of a link that of the file it leads to, -1 where it leads to none.
+    /// In bytes; for a link the size of its target file, -1 where there is none.
     std::int64_t size = 0;
-    /// Of a link: its target, as stored in the link.
+    /// For a link: its target, as stored in the link.
     CString linkTarget;
 };
 
@@ -42,11 +42,11 @@ struct SnapshotFolder
     CString path;
     VyrPlatform::FileTicks created = 0;
     VyrPlatform::FileTicks modified = 0;
-    /// Nothing where they may not be read.
+    /// Nothing where they cannot be read.
     std::optional<VyrHostPlatform::FolderTraits> traits;
     /// The system's error code if not all entries could be read; else 0.
     std::uint32_t error = 0;
-    /// Its entries stand together in FolderSnapshot::entries.
+    /// Its entries are consecutive in FolderSnapshot::entries.
     std::size_t firstEntry = 0;
     std::size_t entryCount = 0;
 };
@@ -55,13 +55,13 @@ struct FolderSnapshot
 {
     /// Full path of the root folder.
     CString root;
-    /// The root first, each folder before those in it.
+    /// The root first, each folder before its subfolders.
     std::vector<SnapshotFolder> folders;
-    /// Folders but the root, too.
+    /// All entries, including folders except the root.
     std::vector<SnapshotEntry> entries;
 };
 
-/// Takes a snapshot of the folder at the full path `root`, hidden entries included.
+/// Takes a snapshot of the folder at the full path `root`, including hidden entries.
 [[nodiscard]] FolderSnapshot TakeSnapshot(const CString& root);
 
 [[nodiscard]] Model::TreeSize SizeOf(const FolderSnapshot& tree);

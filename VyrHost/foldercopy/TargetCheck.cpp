@@ -1,4 +1,4 @@
-// Looks through the folders that a tree shares with its target.
+// Searches the folders that exist both in a tree and at its target.
 #include <VyrHost/foldercopy/TargetCheck.h>
 
 #include <VyrHostPlatform/NameFolding.h>
@@ -20,14 +20,14 @@ using VyrLibraryUtils::FileUtils;
 using VyrPlatform::FolderListing;
 using VyrPlatform::FileSystem::Kind;
 
-/// What becomes of a folder of the tree.
+/// The state of a folder of the tree at the target.
 enum class Place : std::uint8_t
 {
-    /// Not known: something is in the way of it, or of one above it.
+    /// Unknown: an entry is in the way of it, or of one of its parents.
     InTheWay,
-    /// It will be made.
+    /// It will be created.
     New,
-    /// A folder stands there and takes up its entries.
+    /// It exists and will be merged.
     There
 };
 
@@ -70,7 +70,7 @@ private:
             ++m_check.newFolders;
     }
 
-    /// The names in the folder at `path` by their keys, with whether each is a folder and no link.
+    /// Reads the names in the folder at `path` by their keys, with whether each is a folder and not a link.
     [[nodiscard]] bool ReadNames(const CString& path, NameFolding folding, const CString& shown)
     {
         m_isFolder.clear();
@@ -100,7 +100,7 @@ private:
         }
     }
 
-    /// Whether an entry before it in its folder, which goes to `path`, gets the same name.
+    /// Whether an earlier entry of its folder, which goes to `path`, has the same name at the target.
     [[nodiscard]] bool IsTwoInOne(const CString& name, const CString& key, NameFolding folding, const CString& path)
     {
         if (folding != NameFolding::None)
@@ -111,7 +111,7 @@ private:
         return !isFirst && VyrHostPlatform::TryIsOneName(NearestFolder(path), other->second, name);
     }
 
-    /// The folder at `path`, or the nearest one above it that is there.
+    /// The folder at `path`, or its nearest existing parent.
     [[nodiscard]] static CString NearestFolder(CString path)
     {
         while (!VyrPlatform::FileSystem::IsFolder(path))
@@ -119,7 +119,7 @@ private:
         return path;
     }
 
-    /// A new folder compares names as the one that it is made in.
+    /// A new folder compares names as its parent does.
     void PlanNew(const SnapshotEntry& entry, NameFolding folding)
     {
         if (entry.kind == SnapshotKind::Folder)
@@ -148,9 +148,9 @@ private:
     const CString m_target;
     const Trial m_trial;
     std::vector<FolderPlan> m_plans;
-    /// Of the folder of the target that is looked through: its names by their keys, with whether each is a folder.
+    /// The names in the current folder of the target by their keys, with whether each is a folder.
     std::unordered_map<CString, bool> m_isFolder;
-    /// Of the same folder of the tree: the names so far, by the keys of names that are alike.
+    /// The names so far in the same folder of the tree, by the keys that equal names share.
     std::unordered_map<CString, CString> m_names;
     TargetCheck m_check;
 };

@@ -1,5 +1,5 @@
 /// @file
-/// What is in the way of a tree at its target.
+/// Finds conflicts of a tree at its target.
 #pragma once
 
 #include <VyrHost/foldercopy/FolderSnapshot.h>
@@ -7,27 +7,27 @@
 
 namespace VyrHost::FolderCopy {
 
-/// What the target of a tree holds already.
+/// The result of the check of a target.
 struct TargetCheck
 {
-    /// What would be overwritten, or would overwrite each other; to be refused as a whole.
+    /// Entries that would be overwritten, or would overwrite each other; any of them refuses the whole tree.
     TransferProblems clashes;
-    /// How many folders will be made, the root included.
+    /// The number of folders to be created, including the root.
     std::size_t newFolders = 0;
 };
 
-/// Whether a check may make folders at the target, and remove them again.
+/// Whether a check may create folders at the target, and remove them again.
 enum class Trial : bool
 {
     No,
     Allowed
 };
 
-/// Holds `tree` against what stands at the full path `target`. A folder there takes up the entries of the same folder
-/// of the tree; anything else that stands where an entry would go is in its way, a link to a folder, too: nothing goes
-/// through links. Names are compared as the target's file system compares them.
-/// @param trial  some file systems do not tell how they compare. Where it is allowed, names that might be one there are
-///        tried, without which the one might overwrite the other.
+/// Compares `tree` with the entries at the full path `target`. An existing folder is merged with the same folder of the
+/// tree. Any other entry where one of the tree would go is a conflict, also a link to a folder: nothing goes through
+/// links. Names are compared as the target's file system does.
+/// @param trial  some file systems do not tell how they compare names. If allowed, names that might be equal there are
+/// tried, since one could overwrite the other.
 [[nodiscard]] TargetCheck CheckTarget(const FolderSnapshot& tree, const CString& target, Trial trial);
 
 } // namespace VyrHost::FolderCopy

@@ -67,7 +67,7 @@ std::uint32_t TransferFolder(const FolderSnapshot& tree, const CString& target, 
         records.push_back(root);
     }
     const VyrHostPlatform::QueueTimer timer(interval, [&records, &progress] { progress(records.size()); });
-    // The result tells of the last operation alone.
+    // The result is that of the last operation only.
     if (action == TransferAction::Copy)
         static_cast<void>(NameFuncs::CopyFolder(tree.root, target, &records));
     else

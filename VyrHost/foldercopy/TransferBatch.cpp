@@ -1,4 +1,4 @@
-// Takes trees down, checks, transfers and compares them.
+// Takes snapshots, checks, transfers and compares.
 #include <VyrHost/foldercopy/TransferBatch.h>
 
 #include <VyrHost/foldercopy/Transfer.h>
@@ -24,7 +24,7 @@ TransferResults::TransferResults(const std::vector<TransferReport>& reports, Tra
         for (const TransferProblem& problem : problems) {
             Model::Result& part = Add(report.task, problem.path, action);
             part.isPart = true;
-            // Clashes, found before anything is touched, are all that a refused tree has.
+            // A refused tree has only conflicts, which are found before anything is changed.
             part.status = report.status == Model::Status::Refused ? Model::Status::Refused : Model::Status::Failed;
             part.reason = ReasonOf(problem);
         }
@@ -79,7 +79,7 @@ void TransferBatch::Check(TransferTask task, Trial trial)
     m_newFolders.push_back(check.newFolders);
 }
 
-/// One clash leaves every folder where it is.
+/// With one conflict no folder is copied or moved.
 void TransferBatch::StopAll()
 {
     for (TransferReport& report : m_reports)

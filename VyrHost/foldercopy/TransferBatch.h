@@ -1,5 +1,5 @@
 /// @file
-/// The folders of one call: where each goes, checked together, then copied or moved one after the other.
+/// The folders of one call: their targets, checked together, then copied or moved one after the other.
 #pragma once
 
 #include <VyrHost/foldercopy/FolderSnapshot.h>
@@ -15,29 +15,29 @@
 
 namespace VyrHost::FolderCopy {
 
-/// A folder that is to be copied or moved.
+/// A folder to be copied or moved.
 struct TransferTask
 {
     /// Full path of the folder.
     CString source;
-    /// Full path that it gets, its name included.
+    /// Its new full path, including its name.
     CString target;
     /// Both as the user wrote them.
     CString shownSource;
     CString shownTarget;
 };
 
-/// Where the folders `sources` go. Into the folder `destination` under their own names where that is there; else the
-/// one source gets `destination` for its new path, whose folder must be there.
+/// The tasks for the folders `sources`. Where `destination` is an existing folder, they go into it under their own
+/// names; otherwise it is the new path of a single source, and its parent must exist.
 ///
-/// Folders are compared by identity, so that links and other spellings of a path make no difference.
-/// @throws UsageError when a source is no folder, is named twice, or stands inside another one; when `destination` is
-/// no folder that it could be, stands inside a source, or makes a source go onto itself or onto a folder that it stands
-/// in; when two sources would get one path.
+/// Folders are compared by identity, so links and different spellings of a path make no difference.
+/// @throws UsageError when a source is not a folder, is named twice, or is inside another one; when `destination`
+/// cannot be a folder, is inside a source, or would put a source onto itself or onto one of its parents; when two
+/// sources would have the same new path.
 [[nodiscard]] std::vector<TransferTask> MakeTransferTasks(const std::vector<CString>& sources,
                                                           const CString& destination);
 
-/// What becomes of a tree. Failed: nothing of it, since its root could not be made.
+/// The state of a tree. Failed: nothing of it was done, since its root could not be created.
 struct TransferReport
 {
     TransferTask task;
@@ -46,7 +46,7 @@ struct TransferReport
     TransferProblems problems;
 };
 
-/// The results of a call: one for each tree, and behind it, as its parts, one for each problem, by path.
+/// The results of a call: one for each tree, followed by one for each problem in it, by path.
 class TransferResults final : public Model::Results
 {
 public:
@@ -62,13 +62,13 @@ private:
         std::array<CString, 4> texts;
         Model::Result result;
     };
-    /// The result of the task, or of the entry at `path` in its folder; good until the next one is added.
+    /// The result of the task, or of the entry at `path` in its folder; valid until the next one is added.
     Model::Result& Add(const TransferTask& task, const CString& path, TransferAction action);
 
     std::vector<Row> m_rows;
 };
 
-/// Looks on while trees are copied or moved.
+/// Called while trees are copied or moved.
 class TransferWatch
 {
 public:
@@ -77,33 +77,33 @@ public:
     TransferWatch& operator=(const TransferWatch&) = delete;
     virtual ~TransferWatch() = default;
 
-    /// Whether to begin no further tree.
+    /// Whether to begin no other tree.
     [[nodiscard]] virtual bool IsStopAsked() = 0;
-    /// The tree of `task` is begun, and will make `newFolders` folders.
+    /// The tree of `task` begins; it will create `newFolders` folders.
     virtual void Begin(const TransferTask& task, std::size_t newFolders) = 0;
-    /// Now and then: how many folders it has made.
+    /// Called now and then with the number of folders created so far.
     virtual void Show(std::size_t made) = 0;
-    /// It has come to its end.
+    /// The current tree is finished.
     virtual void End() = 0;
 };
 
 class TransferBatch
 {
 public:
-    /// Takes each tree down, and looks at what is in its way. Of the folders only those of an allowed trial are made.
+    /// Takes a snapshot of each tree and finds its conflicts. Creates no folders except those of an allowed trial.
     /// @throws UsageError where MakeTransferTasks does.
     TransferBatch(const std::vector<CString>& sources, const CString& destination, TransferAction action, Trial trial);
 
-    /// Something is in the way of a tree: none is to be touched.
+    /// Whether a tree has a conflict: then none may be changed.
     [[nodiscard]] bool IsRefused() const;
-    /// Copies or moves the trees, unless they are refused. A stop ends nothing that is begun.
+    /// Copies or moves the trees, unless they are refused. A stop does not end a tree that has begun.
     void Apply(TransferWatch& watch);
 
-    /// What becomes of each tree; before Apply, what would.
+    /// The state of each tree; before Apply, the expected one.
     [[nodiscard]] const std::vector<TransferReport>& Reports() const { return m_reports; }
-    /// Whether a tree was not begun since a stop was asked for.
+    /// Whether a tree was not begun because of a stop.
     [[nodiscard]] bool WasStopped() const { return m_wasStopped; }
-    /// Why creation times were not set, see CreatedFoldersResult.
+    /// The reason why creation times were not set, see CreatedFoldersResult.
     [[nodiscard]] std::uint32_t CreationError() const { return m_creationError; }
 
 private:
@@ -113,7 +113,7 @@ private:
 
     const TransferAction m_action;
     std::vector<TransferReport> m_reports;
-    /// For each report: the tree, and how many folders it will make.
+    /// For each report: the tree, and the number of folders to be created.
     std::vector<FolderSnapshot> m_trees;
     std::vector<std::size_t> m_newFolders;
     std::uint32_t m_creationError = 0;

@@ -24,7 +24,7 @@ using VyrPlatform::FileState;
 using VyrPlatform::LookAtFile;
 namespace FileSystem = VyrPlatform::FileSystem;
 
-/// A file's identity in the order that a map wants.
+/// A file's identity as a key for maps.
 using Identity = std::pair<std::uint64_t, std::uint64_t>;
 
 Identity IdentityOf(const FileState& state)
@@ -42,12 +42,12 @@ CString FolderOf(const CString& fullPath)
     return VyrPlatform::GetFullPath(FileUtils::GetSplitDirPath(fullPath));
 }
 
-/// The identities of the folder at `path` and of each one above it.
+/// The identities of the folder at `path` and of all its parents.
 std::vector<Identity> UpFrom(const CString& path)
 {
     std::vector<Identity> identities;
     CString above = VyrPlatform::GetRealPath(path);
-    // Some volumes of Windows have no path to tell.
+    // Some volumes of Windows have no path.
     if (above.IsEmpty())
         above = VyrPlatform::GetFullPath(path);
     for (CString folder; above != folder; above = FolderOf(folder)) {
@@ -94,13 +94,13 @@ private:
             throw Text::UsageError(Quoted(given) + " is no folder");
         if (!m_sources.emplace(IdentityOf(state), m_tasks.size()).second)
             throw Text::UsageError(Quoted(given) + " is named twice");
-        // The source must have a name to pass on.
+        // The source must have a name that its copy can have.
         if (FileUtils::GetSplitFileName(task.source) == u"..")
             task.source = VyrPlatform::GetRealPath(task.source);
         m_tasks.push_back(std::move(task));
     }
 
-    /// The source that has this identity; null when none has.
+    /// The source with this identity; null when there is none.
     [[nodiscard]] const TransferTask* SourceAt(const Identity& identity) const
     {
         const auto found = m_sources.find(identity);
@@ -116,7 +116,7 @@ private:
                                            ", which is named, too");
     }
 
-    /// Finds out whether the folders go into the destination, or the only source gets its name.
+    /// Finds out whether the folders go into the destination, or it is the new path of the only source.
     void FindDestination()
     {
         m_goesInto = FileSystem::IsFolder(m_folder);
@@ -155,7 +155,7 @@ private:
         RefuseMeeting(task);
     }
 
-    /// The source and what stands at its target may not be one folder, nor the one in the other.
+    /// The source and the entry at its target must not be the same folder, nor one inside the other.
     void RefuseMeeting(const TransferTask& task) const
     {
         const FileState there = LookAtFile(task.target);
@@ -180,13 +180,13 @@ private:
     const CString m_destination;
     std::vector<TransferTask> m_tasks;
     std::map<Identity, std::size_t> m_sources;
-    /// The folder that is there, in which the targets will stand.
+    /// The existing folder into which the sources go.
     CString m_folder;
-    /// What the one source will be called, where it does not keep its name.
+    /// The new path of the only source, if it gets a new name.
     CString m_newPath;
     bool m_goesInto = false;
     std::optional<VyrHostPlatform::NameFolding> m_folding;
-    /// The keys of the names given.
+    /// The keys of the new names so far.
     std::unordered_set<CString> m_names;
 };
 

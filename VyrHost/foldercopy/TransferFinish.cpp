@@ -1,4 +1,4 @@
-// Compares trees, and tries again what is missing: the library keeps no reasons, the second attempt tells them.
+// Compares trees, and repeats what failed: the library keeps no error codes, but the second attempt gives them.
 #include <VyrHost/foldercopy/Transfer.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
@@ -24,7 +24,7 @@ namespace FileCopy = VyrPlatform::FileCopy;
 namespace FileSystem = VyrPlatform::FileSystem;
 namespace FileTimes = VyrPlatform::FileTimes;
 
-/// Where an entry was, and where it should be.
+/// The old and the new path of an entry.
 struct Way
 {
     CString from;
@@ -33,11 +33,11 @@ struct Way
 
 bool IsSameLink(const SnapshotEntry& entry, const CString& to, const FileState& there)
 {
-    // Where the system copies what a link leads to, a file stands for it.
+    // Where the system copies the target of a link, there is a file instead of the link.
     return FileSystem::GetLinkTarget(to) == entry.linkTarget || (there.kind == Kind::File && there.size == entry.size);
 }
 
-/// Whether `there` is the file of `entry`, as it was taken down or as it has become since.
+/// Whether `there` is the file of `entry`, as in the snapshot or as it is at present.
 bool IsSameFile(const SnapshotEntry& entry, const CString& from, const FileState& there)
 {
     if (there.kind != Kind::File)
@@ -63,7 +63,7 @@ bool IsSame(const SnapshotEntry& entry, const Way& way, const FileState& there)
     return there.kind == Kind::Other;
 }
 
-/// Whether `target`, which may not be there yet, is on another file system than the folder `source`.
+/// Whether `target`, which may not exist yet, is on another file system than the folder `source`.
 bool IsElsewhere(const CString& source, const CString& target)
 {
     FileState to = LookAtFile(target);
@@ -121,7 +121,7 @@ private:
             Report(path, TransferFault::StillAtSource);
     }
 
-    /// Copies or moves what has not come to its target; false when that fails, which is reported.
+    /// Copies or moves a missing entry; false on failure, which is reported.
     bool TryAgain(const SnapshotEntry& entry, const Way& way, const CString& path)
     {
         if (entry.kind == SnapshotKind::Other && m_action == TransferAction::Copy) {
@@ -145,8 +145,7 @@ private:
         return error;
     }
 
-    /// Removes the folders that the second attempts have emptied. A folder that still holds something known is none to
-    /// speak of.
+    /// Removes the folders that the second attempts have emptied. Ignores folders that still contain known entries.
     void RemoveEmptied()
     {
         const bool isAllElseWell = m_problems.empty();
@@ -161,7 +160,7 @@ private:
         }
     }
 
-    /// Whether one of the folders in `folder` is among `folders`.
+    /// Whether one of the subfolders of `folder` is among `folders`.
     [[nodiscard]] bool HoldsAny(const SnapshotFolder& folder, const std::vector<bool>& folders) const
     {
         const auto first = m_tree.entries.begin() + static_cast<std::ptrdiff_t>(folder.firstEntry);
@@ -190,9 +189,9 @@ private:
     const CString m_target;
     const TransferAction m_action;
     TransferRecords& m_records;
-    /// After a move something is left where the tree was.
+    /// Whether something is left at the source after a move.
     const bool m_isSourceLeft;
-    /// For each folder of the tree: whether it has come to the target.
+    /// For each folder of the tree: whether it exists at the target.
     std::vector<bool> m_isThere;
     TransferProblems m_problems;
 };

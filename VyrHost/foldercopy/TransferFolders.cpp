@@ -1,4 +1,4 @@
-// Gives folders that were made the times and traits of those that they were made for.
+// Restores the times and traits of folders that were created.
 #include <VyrHost/foldercopy/Transfer.h>
 
 #include <VyrHostPlatform/FolderTraits.h>
@@ -17,7 +17,7 @@ using VyrLibraryUtils::FileUtils;
 using VyrPlatform::FileTicks;
 namespace FileTimes = VyrPlatform::FileTimes;
 
-/// The ticks that `recorded` stands for: `exact` where that is the same to the second.
+/// The ticks for `recorded`: `exact` where both are the same second.
 std::optional<FileTicks> TicksOf(const COleDateTime& recorded, std::optional<FileTicks> exact)
 {
     if (exact && FileTimes::ToLocal(*exact).m_dt == recorded.m_dt)
@@ -50,7 +50,7 @@ public:
             if (firstError == 0)
                 firstError = error;
         };
-        // The creation time may stand in an extended attribute; the permissions may forbid to set any.
+        // The creation time may be in an extended attribute, and the permissions may forbid setting any.
         if (known && known->traits)
             check(VyrHostPlatform::SetFolderExtras(path, *known->traits));
         if (const auto created = TicksOf(record.dateCreated, Exactly(known, &SnapshotFolder::created)))

@@ -1,4 +1,3 @@
-// Words what is wrong with the value of an option.
 #include <VyrHost/text/Errors.h>
 
 #include <VyrHost/text/SafeText.h>

@@ -24,7 +24,7 @@ void ReadStandardInput(const std::function<void(std::string_view piece)>& use)
 CString NameReader::Name() const
 {
     std::string_view bytes = m_isFirst && m_end == '\n' ? Text::SkipByteOrderMark(m_pending) : m_pending;
-    // Where a backslash separates, no name holds a control character.
+    // Where a backslash is a separator, names cannot contain control characters.
     if (m_end == '\n' && bytes.ends_with('\r') && VyrPlatform::FileSystem::IsSeparator(u'\\'))
         bytes.remove_suffix(1);
     return VyrPlatform::Encoding::FromNameBytes(bytes);

@@ -1,5 +1,5 @@
 /// @file
-/// Texts from outside: the standard input, names in a stream of bytes, the mark of UTF-8.
+/// Input: the standard input, names in a stream of bytes, the byte order mark of UTF-8.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -10,26 +10,27 @@
 
 namespace VyrHost::Text {
 
-/// `bytes` behind a mark of UTF-8, if they begin with one.
+/// `bytes` without a byte order mark of UTF-8 at the beginning.
 [[nodiscard]] inline std::string_view SkipByteOrderMark(std::string_view bytes)
 {
     constexpr std::string_view mark = "\xEF\xBB\xBF";
     return bytes.substr(bytes.starts_with(mark) ? mark.size() : 0);
 }
 
-/// Calls `use` with one piece of the standard input after the other, to its end.
+/// Calls `use` with each piece of the standard input, up to its end.
 /// @throws UsageError where it cannot be read.
 void ReadStandardInput(const std::function<void(std::string_view piece)>& use);
 
-/// Cuts names out of bytes that come in pieces.
+/// Splits a stream of bytes, which comes in pieces, into names.
 class NameReader
 {
 public:
-    /// `end` is the byte that ends a name. Where that is a line end (`\n`), a mark of UTF-8 in front of all is skipped,
-    /// and a `\r` before the line end is part of it where names cannot hold one.
+    /// @param end  the byte that ends a name. With a line end (`
+    /// `), a byte order mark at the beginning is skipped, and a `\r` before the line end is skipped where names cannot
+    /// contain one.
     explicit NameReader(char end) : m_end(end) {}
 
-    /// Calls `take` with each name that `piece` completes. Empty names are skipped.
+    /// Calls `take` with each name that ends in `piece`. Empty names are skipped.
     template <class Take>
     void Read(std::string_view piece, Take take)
     {
@@ -41,7 +42,7 @@ public:
         m_pending += piece;
     }
 
-    /// Calls `take` with the last name, which needs no end.
+    /// Calls `take` with the last name, which may lack its end.
     template <class Take>
     void Finish(Take take)
     {

@@ -12,7 +12,8 @@ namespace VyrHost::Text {
 
 namespace {
 
-/// The first accent that composes: what is below it is composed, and no letter before it composes with it.
+/// The first combining mark. Texts without any from there on are composed, and no letter before it composes with
+/// another.
 constexpr char16_t firstAccent = 0x0300;
 
 std::vector<CString> ComposedPieces(std::u16string_view text)

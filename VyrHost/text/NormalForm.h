@@ -1,5 +1,5 @@
 /// @file
-/// Texts found in names whatever normal form either is written in.
+/// Finds texts in names without regard to their normal forms.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -9,18 +9,18 @@
 
 namespace VyrHost::Text {
 
-/// `text` in composed letters (the normal form NFC).
+/// `text` in the normal form NFC.
 [[nodiscard]] CString Composed(const CString& text);
 
-/// Whether `text` is in composed letters.
+/// Whether `text` is in the normal form NFC.
 [[nodiscard]] bool IsComposed(const CString& text);
 
-/// Cuts `text` into pieces that compose each for itself: a letter and the accents behind it are one piece. Example: the
+/// Splits `text` into pieces that compose independently: a letter and the marks behind it are one piece. Example: the
 /// letters e, U+0301, x are the pieces "e, U+0301" and "x".
 [[nodiscard]] std::vector<std::u16string_view> CutForComposing(std::u16string_view text);
 
-/// `name` with `replacement` in place of every `composedText` that the composed name would have; all else stays in the
-/// form that it has. Example: "é" (one letter) is found in the name "e, U+0301", and "e" is not.
+/// `name` with every occurrence of `composedText` in its composed form replaced by `replacement`; the rest keeps its
+/// form. Example: "é" (one letter) is found in the name "e, U+0301", and "e" is not.
 [[nodiscard]] CString ReplaceComposed(const CString& name, const CString& composedText, const CString& replacement);
 
 } // namespace VyrHost::Text

@@ -1,4 +1,3 @@
-// Writes and reads escapes.
 #include <VyrHost/text/SafeText.h>
 
 #include <VyrPlatform/text/Encoding.h>
@@ -37,7 +36,7 @@ std::optional<char16_t> ReadUnitEscape(std::string_view text) noexcept
 
 namespace {
 
-/// Whether `text` is printable ASCII throughout.
+/// Whether `text` is printable ASCII.
 bool IsAllPlain(std::u16string_view text)
 {
     unsigned others = 0;
@@ -46,7 +45,7 @@ bool IsAllPlain(std::u16string_view text)
     return others == 0;
 }
 
-/// Whether a terminal would do something else than draw `character`.
+/// Whether a terminal would do something other than draw `character`.
 bool ActsOnTerminal(char32_t character)
 {
     const bool isControl = character < 0x20 || (character >= 0x7F && character < 0xA0);

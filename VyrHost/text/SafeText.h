@@ -1,5 +1,5 @@
 /// @file
-/// Names made safe to show: a name may hold anything, a terminal obeys some of it. And the escape for one code unit.
+/// Escapes control characters in names: a terminal would obey them.
 #pragma once
 
 #include <cstddef>
@@ -9,8 +9,9 @@
 
 namespace VyrHost::Text {
 
-/// `text` as UTF-8 in which nothing acts on a terminal: control characters and what turns the direction of writing
-/// stand as escapes (`\n`, `\x1b`, `\u202e`), lone surrogates too (`\udcff`).
+/// `text` as UTF-8 without characters that affect a terminal: control characters, characters that change the direction
+/// of writing, and lone surrogates become escapes (`
+/// `, `\x1b`, `\u202e`, `\udcff`).
 [[nodiscard]] std::string SafeText(std::u16string_view text);
 
 /// Appends SafeText(text) to `line`.

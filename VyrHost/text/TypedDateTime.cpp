@@ -1,4 +1,3 @@
-// Tells typed dates, times, and both from each other.
 #include <VyrHost/text/TypedDateTime.h>
 
 #include <VyrLibraryUtils/DateTimeUtils.h>
@@ -25,7 +24,7 @@ bool IsValid(const COleDateTime& dateTime)
     return dateTime.GetStatus() == COleDateTime::valid;
 }
 
-/// With a blank for the T between date and time of day of ISO 8601, which stands behind ten units.
+/// Replaces the T of ISO 8601 between date and time of day, behind ten code units, by a blank.
 CString WithoutT(std::u16string_view text)
 {
     constexpr std::size_t lengthOfDate = 10;

@@ -9,17 +9,17 @@
 
 namespace VyrHost::Text {
 
-/// What was typed: a date, a time of day, or both.
+/// A typed date, time of day, or both.
 struct TypedDateTime
 {
-    /// Local time. A date alone counts from midnight; of a time alone only the time of day counts.
+    /// Local time. A date alone has the time 00:00; of a time alone, ignore the date.
     COleDateTime value;
     bool hasDate = false;
     bool hasTime = false;
 };
 
 /// Reads `2024-01-05`, `2024/01/05` and the short date of the user's locale, each with or without a time of day such as
-/// `10:30` or `10:30:00` behind a blank or a `T`; and a time of day alone.
+/// `10:30` or `10:30:00` after a blank or a `T`; and a time of day alone.
 /// @return nothing for any other text, and for a date or time that does not exist.
 [[nodiscard]] std::optional<TypedDateTime> ReadTypedDateTime(std::u16string_view text);
 

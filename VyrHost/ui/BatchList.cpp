@@ -1,4 +1,3 @@
-// Words batches.
 #include <VyrHost/ui/BatchList.h>
 
 #include <VyrPlatform/time/DateTimePattern.h>
@@ -31,7 +30,7 @@ std::u16string_view WordFor(Batch::BatchState state)
     return u"damaged";
 }
 
-/// The state, for people.
+/// The state in words.
 std::u16string_view StateOf(const Batch::BatchInformation& batch)
 {
     if (batch.wasStopped && batch.state == Batch::BatchState::Applied)
@@ -41,7 +40,7 @@ std::u16string_view StateOf(const Batch::BatchInformation& batch)
     return WordFor(batch.state);
 }
 
-/// Of how many entries the state holds, and what of the others.
+/// The number of entries in that state, and what happened to the others.
 CString ExtentOf(const Batch::BatchInformation& batch)
 {
     const std::u16string_view entries = batch.entries == 1 ? u"entry" : u"entries";

@@ -1,5 +1,5 @@
 /// @file
-/// What is said of batches: their names, and the list of them.
+/// Descriptions of batches, and the list of them.
 #pragma once
 
 #include <VyrHost/batch/Batches.h>

@@ -1,4 +1,4 @@
-// The columns of what is installed, and where their values stand in the records.
+// The columns of programs, products and browsers, and the fields with their values.
 #include <VyrHost/ui/InventoryOutput.h>
 
 #include <VyrLibraryUtils/DateTimeUtils.h>
@@ -16,10 +16,10 @@ using Inventory::Scope;
 using VyrLibraryFuncs::ProgramsFeaturesFuncs;
 using VyrLibraryUtils::DateTimeUtils;
 
-/// The locale of the user, as the library numbers it.
+/// The library's number for the user's locale.
 constexpr std::uint32_t userLocale = 1024;
 
-/// A date in the form in which the library gave it.
+/// A date in the library's form.
 RecordValue DateOf(const CString& text, bool hasTime)
 {
     const COleDateTime date = DateTimeUtils::GetParseDateTime(text, 1, 0, userLocale);
@@ -31,7 +31,7 @@ RecordValue ScopeOf(Scope scope)
     return CString(scope == Scope::Machine ? u"machine" : u"user");
 }
 
-/// No value for 0, which stands for what the registry does not tell.
+/// No value for 0, which the library returns for a missing one.
 RecordValue NumberOf(std::uint64_t number)
 {
     return number == 0 ? RecordValue() : RecordValue(static_cast<std::int64_t>(number));
@@ -263,7 +263,7 @@ std::span<const RecordField<Record>> Fields(const RecordField<Record> (&fields)[
     return fields;
 }
 
-/// As the library orders keys for a sorted list.
+/// The library's order of keys for a sorted list.
 int CompareKeys(const Program& left, const Program& right)
 {
     return ProgramsFeaturesFuncs::CompareRegKey(left.item.FullKeyName, right.item.FullKeyName, left.item.IsWow6432Node,

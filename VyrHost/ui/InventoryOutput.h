@@ -1,5 +1,5 @@
 /// @file
-/// What is installed, as lists of records. docs/inventory.md describes every column.
+/// Installed programs, products and browsers as lists of records. docs/inventory.md describes every column.
 #pragma once
 
 #include <VyrHost/inventory/Inventory.h>
@@ -10,11 +10,10 @@
 
 namespace VyrHost::Ui {
 
-/// The columns of programs: those of the system's own list, whose they are, the key, and the rest of what the registry
-/// tells.
+/// The columns of programs: those of the system's own list, the user, the key, and all other values in the registry.
 [[nodiscard]] std::vector<RecordColumn> ProgramColumns();
-/// A list of `programs`, which must outlive it. `key` sorts by ProgramsFeaturesFuncs::CompareRegKey, those of 32-bit
-/// programs behind the others. Hidden ones are faint.
+/// A list of `programs`, which must outlive it. Sorting by `key` uses ProgramsFeaturesFuncs::CompareRegKey, with 32-bit
+/// programs last. Hidden ones are faint.
 [[nodiscard]] RecordTable TableOfPrograms(const std::vector<Inventory::Program>& programs);
 
 [[nodiscard]] std::vector<RecordColumn> ProductColumns();

@@ -1,4 +1,3 @@
-// Writes collected text to the standard output.
 #include <VyrHost/ui/Output.h>
 
 #include <VyrHost/text/SafeText.h>
@@ -20,7 +19,7 @@ void OutputBuffer::Flush()
 
 namespace {
 
-/// Which of the first characters stand in a JSON text as they are.
+/// The characters below U+0100 that are literal in a JSON text.
 constexpr auto isPlainLatin = [] {
     std::array<bool, 0x100> isPlain{};
     std::fill(isPlain.begin() + u' ', isPlain.begin() + 0x7F, true);
@@ -29,7 +28,7 @@ constexpr auto isPlainLatin = [] {
     return isPlain;
 }();
 
-/// How many units `text` begins with that stand in a JSON text as they are, whatever is beside them.
+/// The number of code units at the start of `text` that are literal in a JSON text in any context.
 std::size_t CountPlain(std::u16string_view text)
 {
     const auto special = std::find_if_not(text.begin(), text.end(), [](char16_t unit) {
@@ -48,7 +47,7 @@ void AppendEscape(std::string& line, char16_t unit)
     }
 }
 
-/// Appends `text` to a JSON text that has begun.
+/// Appends `text` inside the quotes of a JSON text.
 void AppendInside(std::string& line, std::u16string_view text)
 {
     while (!text.empty()) {

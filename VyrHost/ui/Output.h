@@ -1,5 +1,5 @@
 /// @file
-/// The standard output in big pieces, and the JSON lines that programs read there.
+/// Buffered standard output, and JSON lines on it.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@
 
 namespace VyrHost::Ui {
 
-/// Collects text and writes it a large piece at a time, the rest at its end.
+/// Collects text and writes it in large pieces; the destructor writes the rest.
 class OutputBuffer
 {
 public:
@@ -25,9 +25,9 @@ public:
         return *this;
     }
     void Flush();
-    /// Whether the system refused something (a closed pipe, a full disk); nothing is written from then on.
+    /// Whether a write failed (a closed pipe, a full disk); nothing is written after that.
     [[nodiscard]] bool HasFailed() const { return m_error != 0; }
-    /// Why (the system's code); 0 when nothing was refused.
+    /// The system's error code of that failure; else 0.
     [[nodiscard]] std::uint32_t Error() const { return m_error; }
 
 private:
@@ -37,12 +37,12 @@ private:
     std::uint32_t m_error = 0;
 };
 
-/// Appends `text` as a JSON text with its quotes: UTF-8, control characters escaped, a lone surrogate (a byte of a name
+/// Appends `text` as a JSON text with quotes: UTF-8, control characters escaped, a lone surrogate (a byte of a name
 /// that is not UTF-8) as its `\ud...` escape.
 void AppendJsonText(std::string& line, std::u16string_view text);
 
-/// Each of these appends a field to the object that `line` holds so far, or begins the object where it is empty.
-/// @param more  goes on with `text`. The text must not be cut inside a surrogate pair.
+/// Each of these appends a field to the object in `line`, or begins the object where `line` is empty.
+/// @param more  is appended to `text`. The two must not split a surrogate pair.
 void AppendJsonField(std::string& line, std::string_view key, std::u16string_view text, std::u16string_view more = {});
 void AppendJsonNumber(std::string& line, std::string_view key, std::int64_t number);
 void AppendJsonFlag(std::string& line, std::string_view key, bool flag);

@@ -1,4 +1,3 @@
-// Chooses and sorts the columns and rows of a list, and words its values.
 #include <VyrHost/ui/RecordTable.h>
 
 #include <VyrHost/model/NaturalOrder.h>
@@ -43,7 +42,7 @@ int CompareTexts(std::u16string_view left, std::u16string_view right)
     return Model::IsNaturallyLess(left, right) ? -1 : 1;
 }
 
-/// Of two values of one kind.
+/// Compares two values of one kind.
 int CompareValues(const RecordValue& left, const RecordValue& right)
 {
     if (const auto* const text = std::get_if<CString>(&left))
@@ -57,8 +56,8 @@ int CompareValues(const RecordValue& left, const RecordValue& right)
     return 0;
 }
 
-/// Sorts by merging, which ends with every row in its place whatever the comparisons answer; the sorts of the standard
-/// library may go astray on an order that goes in circles.
+/// A merge sort, which always ends with every row in the list. The sorts of the standard library have undefined
+/// behaviour for an order that is cyclic.
 template <class IsLater>
 void MergeSort(std::vector<std::size_t>& rows, const IsLater& isLater)
 {
@@ -160,7 +159,7 @@ void SortRows(RecordTable& table, std::size_t column, bool isDescending)
         });
         return;
     }
-    // Each value is asked for once; what is sorted are places in this list.
+    // Each value is read once; what is sorted are indexes into this list.
     std::vector<RecordValue> values;
     values.reserve(table.rows.size());
     for (const std::size_t row : table.rows)

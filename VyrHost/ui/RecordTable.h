@@ -1,9 +1,9 @@
 /// @file
-/// Lists of records as data: columns, and a value for each row and column. Writers (RecordWriters.h and others) turn
-/// them into what people and programs read.
+/// Lists of records as data: columns, and a value for each row and column. Writers (RecordWriters.h and others) write
+/// them for people and programs.
 ///
-/// A command describes its columns once, says how to get at the value of a row, and hands the table to the writer that
-/// was asked for:
+/// A command describes its columns once, each with the function that gets its value from a record, and passes the table
+/// to the writer for the requested format:
 ///
 ///     const RecordField<Track> fields[] = {
 ///         {{"name", "Name", RecordKind::Text, true}, [](const Track& track) { return RecordValue(track.name); }},
@@ -28,12 +28,12 @@
 
 namespace VyrHost::Ui {
 
-/// What the values of a column are.
+/// The kind of the values of a column.
 enum class RecordKind : std::uint8_t
 {
     Text,
     Number,
-    /// A count of bytes.
+    /// A number of bytes.
     Size,
     Date,
     /// Yes or no.
@@ -45,11 +45,11 @@ struct RecordDate
 {
     COleDateTime local;
     bool hasTime = true;
-    /// How far local time was ahead of UTC, where the instant is known.
+    /// The offset of local time from UTC, where it is known.
     std::optional<int> minutesAheadOfUtc = {};
 };
 
-/// The value of a row in a column: none, or what the kind of the column says (CString for Text, std::int64_t for Number
+/// The value of a row in a column: none, or the type for the column's kind (CString for Text, std::int64_t for Number
 /// and Size, RecordDate for Date, bool for Flag).
 using RecordValue = std::variant<std::monostate, CString, std::int64_t, RecordDate, bool>;
 
@@ -58,7 +58,7 @@ using RecordValue = std::variant<std::monostate, CString, std::int64_t, RecordDa
 
 enum class RecordAlignment : std::uint8_t
 {
-    /// Numbers and sizes at the right, all else at the left.
+    /// Numbers and sizes to the right, others to the left.
     ByKind,
     Left,
     Right
@@ -73,11 +73,11 @@ struct RecordColumn
     /// For people, in UTF-8.
     std::string_view heading;
     RecordKind kind = RecordKind::Text;
-    /// Whether people see it unless they choose columns; programs get all of them.
+    /// Whether tables have it by default; other formats have all columns.
     bool isUsual = false;
     RecordAlignment alignment = RecordAlignment::ByKind;
-    /// An order of rows by this column other than that of its kind: negative, 0 or positive. It may go in circles; the
-    /// sort then ends all the same, in some order.
+    /// A custom order of rows by this column: negative, 0 or positive. It may be cyclic; the sort ends all the same, in
+    /// some order.
     std::function<int(std::size_t left, std::size_t right)> compareRows = {};
 
     [[nodiscard]] bool IsRightAligned() const
@@ -91,17 +91,17 @@ struct RecordColumn
 struct RecordTable
 {
     std::vector<RecordColumn> columns;
-    /// Which columns are written, in which order.
+    /// The indexes of the columns that are written, in this order.
     std::vector<std::size_t> shown;
-    /// Which rows are written, in which order. A row that is left out here is not shown.
+    /// The indexes of the rows that are written, in this order.
     std::vector<std::size_t> rows;
-    /// The value of a row in a column; asked more than once for each.
+    /// The value of a row in a column; called several times for each.
     std::function<RecordValue(std::size_t row, std::size_t column)> valueAt;
-    /// How much a row asks for notice; empty where all are plain.
+    /// The importance of a row; empty where all are plain.
     std::function<Tone(std::size_t row)> toneOf = {};
 };
 
-/// A column, and where its values stand in a record.
+/// A column, and the function that gets its value from a record.
 template <class Record>
 struct RecordField
 {
@@ -135,20 +135,20 @@ template <class Record>
     return table;
 }
 
-/// The places of the columns that people see unless they choose.
+/// The indexes of the columns that tables have by default.
 [[nodiscard]] std::vector<std::size_t> UsualColumns(std::span<const RecordColumn> columns);
 
-/// The places of the columns that `list` names: names separated by commas, without regard to case, or "all".
-/// @param option  what the list was given with, for messages.
-/// @throws UsageError for a name that there is not, with those that there are, and for one that comes twice.
+/// The indexes of the columns in `list`: names separated by commas, without regard to case, or "all".
+/// @param option  the option that the list was given with, for messages.
+/// @throws UsageError for an unknown name, listing the known ones, and for a name that occurs twice.
 [[nodiscard]] std::vector<std::size_t> FindColumns(std::span<const RecordColumn> columns, std::u16string_view list,
                                                    const std::string& option);
 
 /// The names of `columns`, separated by ", ".
 [[nodiscard]] std::string NamesOf(std::span<const RecordColumn> columns);
 
-/// Sorts the rows of `table` by `column`. Texts are in natural order (2 before 10, upper and lower case together), all
-/// else by value. Rows without a value come last in either direction, and rows that are alike stay as they were.
+/// Sorts the rows of `table` by `column`. Texts are in natural order (2 before 10, ignoring case), other kinds by
+/// value. Rows without a value come last in both directions, and equal rows keep their order.
 void SortRows(RecordTable& table, std::size_t column, bool isDescending);
 
 /// `value` for people: a size with its unit, a date in the form of the user's locale, a flag as "yes" or nothing.

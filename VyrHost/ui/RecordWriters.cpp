@@ -14,14 +14,14 @@ namespace VyrHost::Ui {
 namespace {
 
 constexpr int columnGap = 2;
-/// A column that would be narrower than this, though its values are wider, makes a table that nobody can read.
+/// Columns narrower than this, if their values are wider, would make the table unreadable.
 constexpr int leastWidth = 8;
-/// Where rows may be as long as they like, columns are lined up to this width.
+/// The greatest width to which columns are aligned where rows may have any length.
 constexpr int mostPadding = 60;
 constexpr std::string_view indent = "    ";
 
-/// The widest that a column may be, where columns of the widths `natural` stand in a row of `rowWidth`: the narrow ones
-/// keep their width, and the others share what is left.
+/// The greatest width of a column in a row of `rowWidth`, for columns of the widths `natural`: narrow ones keep their
+/// width, and the others share the rest.
 int WidestColumn(std::vector<int> natural, int rowWidth)
 {
     std::sort(natural.begin(), natural.end());
@@ -104,7 +104,7 @@ private:
     void WriteHeadings()
     {
         m_colour = m_style.inColour ? "\x1b[1m" : "";
-        // One that is wider than its column may reach over the next ones: it is only a heading.
+        // A heading that is wider than its column may extend over the next ones.
         Begin();
         AppendCells(Headings());
         End();
@@ -208,7 +208,7 @@ void AppendCsvField(std::string& line, const std::string& field)
     line += '"';
 }
 
-/// Appends the value as JSON has it.
+/// Appends the value in JSON.
 void AppendJsonValue(std::string& line, const RecordValue& value)
 {
     const CString text = PlainText(value);

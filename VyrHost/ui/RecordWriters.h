@@ -7,20 +7,19 @@
 
 namespace VyrHost::Ui {
 
-/// Writes a line of headings, then a line for each row. Texts are shown as SafeText makes them, and nothing is left
-/// out: where not all columns fit into the terminal, they share it, and a value that is wider than its column stands
-/// below its row on a line of its own, behind its heading; in the first column, above it. Where the columns would be
-/// too narrow to read, each value of a row gets a line of its own.
-/// @param hasHeadings  without them, and without any line where there are no rows.
+/// Writes a line of headings, then a line for each row. Texts are escaped by SafeText, and nothing is left out: where
+/// the columns do not fit into the terminal, they share its width. A value that is wider than its column is on a line
+/// of its own below its row, after its heading; in the first column, above the row. Where the columns would be
+/// unreadably narrow, each value has a line of its own.
+/// @param hasHeadings  whether headings are written; there are never any without rows.
 void WriteRecords(OutputBuffer& output, const RecordTable& table, TableStyle style, bool hasHeadings);
 
-/// Writes CSV (RFC 4180): UTF-8 with its mark, lines ended by CR LF, first the names of the columns, a field in double
-/// quotes where it needs them. Values stand as PlainText gives them; a name of a file has the bytes that it has on the
-/// disk.
+/// Writes CSV (RFC 4180): UTF-8 with a byte order mark, lines ended by CR LF, first the names of the columns, fields in
+/// double quotes where necessary. Values are written by PlainText; file names have the same bytes as on the disk.
 void WriteRecordCsv(OutputBuffer& output, const RecordTable& table);
 
-/// Writes a JSON object for each row, a line each. Its keys are the names of the columns; what has no value has no key.
-/// Numbers and sizes (in bytes) are numbers, flags true or false, dates texts as PlainText gives them.
+/// Writes a JSON object for each row, one a line. Its keys are the names of the columns; columns without a value are
+/// left out. Numbers and sizes (in bytes) are numbers, flags true or false, dates texts of PlainText.
 void WriteRecordJson(OutputBuffer& output, const RecordTable& table);
 
 } // namespace VyrHost::Ui

@@ -1,4 +1,3 @@
-// Words results.
 #include <VyrHost/ui/ResultOutput.h>
 
 #include <VyrHost/text/SafeText.h>
@@ -15,7 +14,7 @@ namespace {
 
 using Model::Status;
 
-/// One word, the same for people and programs.
+/// The word for the status, in tables and in JSON.
 std::u16string_view WordFor(Status status, std::string_view kind)
 {
     switch (status) {
@@ -51,7 +50,7 @@ CString SizeText(const Model::TreeSize& size)
                           VyrLibraryUtils::FileUtils::GetFileSize(size.bytes, 0)});
 }
 
-/// Nothing where there are no words.
+/// Appends nothing when `words` is empty.
 void AppendRemark(CString& note, std::u16string_view what, std::u16string_view words)
 {
     if (!words.empty())
@@ -116,7 +115,7 @@ void AppendPath(std::string& line, std::string_view key, const Model::ResultPath
     AppendJsonField(line, key, path.folder, path.name);
 }
 
-/// Whether a change of this kind leaves the file where it is.
+/// Whether a change of this kind leaves the file at its path.
 bool IsInPlace(std::string_view kind)
 {
     return kind != "rename" && kind != "copy" && kind != "move";

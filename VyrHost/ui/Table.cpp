@@ -1,4 +1,3 @@
-// Lays rows out in three columns, and a row that does not fit the terminal in lines.
 #include <VyrHost/ui/Table.h>
 
 #include <VyrHost/text/SafeText.h>
@@ -19,7 +18,7 @@ constexpr std::string_view noArrow = "      ";
 static_assert(arrow.size() == noArrow.size());
 constexpr int arrowWidth = static_cast<int>(arrow.size());
 constexpr int noteGap = 2;
-/// Where rows may be as long as they like, names are lined up to this width.
+/// The greatest width to which names are aligned where rows may have any length.
 constexpr int mostPadding = 60;
 
 struct Widths
@@ -46,8 +45,8 @@ Widths NaturalWidths(std::size_t count, const RowOfTable& rowOf)
     return widths;
 }
 
-/// How wide the columns are made: where not all fit, the note gets half the row at most, and the names share the rest
-/// as they need it.
+/// The widths of the columns: where they do not fit, the note takes half the row at most, and the names share the rest
+/// as needed.
 Widths ColumnWidths(Widths widths, int rowWidth)
 {
     if (rowWidth == 0)
@@ -88,7 +87,7 @@ public:
     }
 
 private:
-    /// Whether a row of the widths `own` fits into the terminal when its columns are `columns` wide at least.
+    /// Whether a row with the widths `own` fits into the terminal when its columns are at least as wide as `columns`.
     [[nodiscard]] bool Fits(const Widths& own, const Widths& columns) const
     {
         const int to = own.note > 0 ? std::max(own.to, columns.to) : own.to;
@@ -109,7 +108,7 @@ private:
         End();
     }
 
-    /// Each part in a line of its own, which the terminal may break, but of which nothing is hidden.
+    /// Writes each part on a line of its own, which the terminal may break; nothing is hidden.
     void WriteLines(const TableRow& row)
     {
         Begin();

@@ -12,7 +12,7 @@
 
 namespace VyrHost::Ui {
 
-/// How much a row asks for notice.
+/// The importance of a row.
 enum class Tone : std::uint8_t
 {
     Plain,
@@ -24,7 +24,7 @@ enum class Tone : std::uint8_t
 /// The escape sequence that begins the colour of `tone`; empty for a plain one.
 [[nodiscard]] std::string_view ColourOf(Tone tone);
 
-/// A name and what stands before it. The texts live elsewhere.
+/// A name and the text in front of it; refers to the texts.
 struct ShownName
 {
     std::u16string_view folder;
@@ -34,30 +34,29 @@ struct ShownName
 struct TableRow
 {
     ShownName from;
-    /// Empty where there is none; the arrow is then left out.
+    /// Empty where there is none; then there is no arrow.
     ShownName to;
     CString note;
     Tone tone = Tone::Plain;
 };
 
-/// Answers the row of a place in the table, from 0; asked twice for each. The texts of a row must live until the next
-/// one is asked for.
+/// Returns the row at an index, from 0; called twice for each. The texts of a row must live until the next call.
 using RowOfTable = std::function<TableRow(std::size_t index)>;
 
-/// How a table is laid out.
+/// The layout of a table.
 struct TableStyle
 {
-    /// The columns of the terminal; 0: rows are as long as their names. A row that does not fit gets lines of its own
+    /// The width of the terminal in columns; 0: rows may have any length. A row that does not fit has lines of its own
     /// for the new name and the note; no part of a name is ever left out.
     int width = 0;
     bool inColour = false;
 };
 
-/// The style for the standard output: that of the terminal, in colour unless NO_COLOR is set or TERM
-/// is "dumb"; plain text elsewhere.
+/// The style for the standard output: that of the terminal, in colour unless NO_COLOR is set or TERM is "dumb"; plain
+/// text without a terminal.
 [[nodiscard]] TableStyle StyleOfOutput();
 
-/// Writes `count` rows in three columns. Texts are shown as SafeText makes them.
+/// Writes `count` rows in three columns, with texts escaped by SafeText.
 void WriteTable(OutputBuffer& output, std::size_t count, const RowOfTable& rowOf, TableStyle style);
 
 } // namespace VyrHost::Ui

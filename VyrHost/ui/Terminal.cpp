@@ -1,4 +1,3 @@
-// Asks the environment what the terminal is.
 #include <VyrHost/ui/Terminal.h>
 
 #include <VyrHostPlatform/Console.h>

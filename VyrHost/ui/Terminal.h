@@ -1,5 +1,5 @@
 /// @file
-/// What a terminal understands, and the progress of a long work on it.
+/// The abilities of a terminal, and the progress of long work on it.
 #pragma once
 
 #include <VyrHostPlatform/Console.h>
@@ -10,23 +10,23 @@
 
 namespace VyrHost::Ui {
 
-/// Whether `stream` is a terminal that obeys escape sequences (colours, erasing a line): any but one that TERM calls
-/// "dumb".
+/// Whether `stream` is a terminal that understands escape sequences (colours, erasing a line): any except one for which
+/// TERM is "dumb".
 [[nodiscard]] bool ObeysEscapes(VyrHostPlatform::Console::Stream stream);
 
-/// Shows how far a work is in a line of the error stream, from half a second on and a few times a second. Shows nothing
-/// where that is no terminal, or when it is told to be silent. The line is gone at the end.
+/// Shows the progress of work in a line of the error stream, after half a second and then a few times a second. Shows
+/// nothing without a terminal, or when silent. Erases the line at the end.
 class Progress
 {
 public:
-    /// `what` is done with `total` entries.
+    /// @param what  what is done with the `total` entries.
     Progress(std::string what, std::size_t total, bool isSilent);
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
     ~Progress();
 
     void Show(std::size_t done);
-    /// Takes the line away; others may write now.
+    /// Erases the line; then others may write.
     void Close();
 
 private:
