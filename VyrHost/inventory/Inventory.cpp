@@ -1,4 +1,4 @@
-// Has the library list what is installed, for the machine and for each user.
+// Lists the installed programs through the library, for the machine and for each user.
 #include <VyrHost/inventory/Inventory.h>
 
 #include <VyrPlatform/WinTypes.h>
@@ -25,12 +25,12 @@ bool Holds(CString text, CString part)
     return text.MakeUpper().Find(part.MakeUpper()) >= 0;
 }
 
-/// Calls `list(scope, user)` for each part of `place` that `scope` is about, while its registry is shown.
+/// Calls `list(scope, user)` for each part of `place` in `scope`, while its registry is shown.
 void ForEachPart(const Place& place, Scope scope, Notes& notes,
                  const std::function<void(Scope scope, const CString& user)>& list)
 {
     OpenedPlace opened(place, notes);
-    // Users are looked at all the same: their registries are files of their own.
+    // Users are listed all the same: their registries are separate files.
     if (opened.ShowMachine() && scope != Scope::User)
         list(Scope::Machine, {});
     if (scope == Scope::Machine)
@@ -55,7 +55,7 @@ std::set<CString> MachineProducts()
     return names;
 }
 
-/// The path of the packaged browser's program in the Windows folder of `place`; empty where it cannot be told.
+/// The path of the packaged browser's program in the Windows folder of `place`; empty where it is unknown.
 CString PackagedProgram(const Place& place, const BrowserFuncs::APPITEM& browser)
 {
     using VyrPlatform::FileSystem::JoinPath;
@@ -107,7 +107,7 @@ std::vector<Product> ListProducts(const Place& place, Scope scope, Notes& notes)
     ForEachPart(place, scope, notes, [&](Scope part, const CString& user) {
         std::set<CString> left = MachineProducts();
         for (auto& item : ProgramsFeaturesFuncs::GetProgramsFeaturesInstallerProductsItemsList()) {
-            // The name comes a second time where a user has the product, too.
+            // The name occurs a second time where a user has the product, too.
             const bool isMachines = left.erase(item.ProductKey) > 0;
             if (isMachines == (part == Scope::Machine))
                 products.push_back({std::move(item), part, user});

@@ -1,5 +1,5 @@
 /// @file
-/// What is installed in a Windows, as its registry tells it.
+/// Lists the installed programs in the registry of a Windows.
 #pragma once
 
 #include <VyrHost/inventory/Place.h>
@@ -16,7 +16,7 @@ namespace VyrHost::Inventory {
 enum class Scope : std::uint8_t
 {
     All,
-    /// Those that users installed for themselves.
+    /// Those that users have installed for themselves.
     User,
     /// Those of all users.
     Machine
@@ -27,13 +27,13 @@ struct Program
 {
     VyrLibraryFuncs::ProgramsFeaturesFuncs::ITEM item;
     Scope scope = Scope::Machine;
-    /// Whose it is, where the place has several users.
+    /// The user who has it, where the place has several.
     CString user;
 
-    /// Whether the system's own list of programs leaves it out: it has no name, calls itself a component of the system,
-    /// or is a part of another program.
+    /// Whether the system's own list of programs leaves it out: it has no name, is a component of the system, or is a
+    /// part of another program.
     [[nodiscard]] bool IsHidden() const;
-    /// Whether its name or its publisher holds `text`, without regard to case.
+    /// Whether its name or its publisher contains `text`, ignoring case.
     [[nodiscard]] bool Matches(const CString& text) const;
 };
 
@@ -44,7 +44,7 @@ struct Product
     Scope scope = Scope::Machine;
     CString user;
 
-    /// Whether its name holds `text`, without regard to case.
+    /// Whether its name contains `text`, ignoring case.
     [[nodiscard]] bool Matches(const CString& text) const;
 };
 
@@ -53,20 +53,19 @@ struct Browser
     VyrLibraryFuncs::BrowserFuncs::APPITEM item;
 
     [[nodiscard]] bool IsPackaged() const { return item.AppType == 1; }
-    /// Whether its name holds `text`, without regard to case.
+    /// Whether its name contains `text`, ignoring case.
     [[nodiscard]] bool Matches(const CString& text) const;
 };
 
-/// The programs of `place`: those of the machine, then those of each user; in each key in its own order.
-/// @param with32Bit  also those in the keys of 32-bit programs.
-/// @param notes  what could not be read, or not wholly; the rest is listed.
+/// The programs of `place`: first those of the machine, then those of each user; each key in its own order.
+/// @param with32Bit  whether the keys of 32-bit programs are included.
+/// @param notes  gets messages about registries that could not be read, or only in part; the rest is listed.
 [[nodiscard]] std::vector<Program> ListPrograms(const Place& place, Scope scope, bool with32Bit, Notes& notes);
 
-/// The installer products of `place`, likewise.
+/// The installer products of `place`, in the same way.
 [[nodiscard]] std::vector<Product> ListProducts(const Place& place, Scope scope, Notes& notes);
 
-/// The browsers that the machine registers, and the packaged one that the system brought along, where its file is
-/// there.
+/// The browsers that are registered for the machine, and the packaged one of the system, if its file exists.
 [[nodiscard]] std::vector<Browser> ListBrowsers(const Place& place, Notes& notes);
 
 } // namespace VyrHost::Inventory

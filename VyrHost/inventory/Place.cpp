@@ -1,4 +1,4 @@
-// Tells registries on a disk apart by what is in their folders, and shows them.
+// Recognises registries on a disk by the content of their folders, and shows them.
 #include <VyrHost/inventory/Place.h>
 
 #include <VyrHost/text/Errors.h>
@@ -48,7 +48,7 @@ struct NamedEntry
     Kind kind;
 };
 
-/// Finds files without regard to case, and notes the folders that cannot be read.
+/// Finds files ignoring case, and collects the folders that cannot be read.
 class Finder
 {
 public:
@@ -66,8 +66,8 @@ public:
         return entries;
     }
 
-    /// The path of the `kind` that is called `name` in `folder`: spelt so, or else in another case; empty where there
-    /// is none.
+    /// The path of the entry `name` of the kind `kind` in `folder`: in this spelling, else in another case; empty where
+    /// there is none.
     CString FindIn(const CString& folder, std::u16string_view name, Kind kind)
     {
         if (VyrPlatform::FileSystem::Query(JoinPath(folder, name)).kind == kind)
@@ -78,7 +78,7 @@ public:
         return {};
     }
 
-    /// The file whose folders and name are `parts` below `folder`; empty where there is none.
+    /// The file with the path `parts` below `folder`; empty where there is none.
     CString FindFile(CString folder, Parts parts)
     {
         for (const std::u16string_view& part : parts) {
@@ -89,7 +89,7 @@ public:
         return folder;
     }
 
-    /// What could not be read since it was last asked.
+    /// The folders that could not be read since the last call.
     std::vector<std::string> TakeUnread() { return std::exchange(m_unread, {}); }
 
 private:
@@ -138,7 +138,7 @@ Place DiskOf(Finder& finder, const CString& windowsFolder, const CString& disk)
     place.windowsFolder = windowsFolder;
     place.software = FindSoftware(finder, windowsFolder);
     place.system = finder.FindFile(windowsFolder, {u"System32", u"config", u"SYSTEM"});
-    // Folders that were looked into for the Windows folder, in vain, are none of its parts.
+    // Folders that were only searched for the Windows folder are not a part of it.
     static_cast<void>(finder.TakeUnread());
     place.users = UsersOf(finder, disk);
     place.unreadFolders = finder.TakeUnread();
@@ -187,7 +187,7 @@ std::optional<Place> FindWinePrefix(const CString& path)
     return place;
 }
 
-/// What a place of each kind has in it.
+/// The content by which a place of each kind is recognised.
 std::string MarkOf(PlaceKind kind)
 {
     switch (kind) {
@@ -212,7 +212,7 @@ std::optional<Place> FindKind(Finder& finder, const CString& path, PlaceKind kin
     }
 }
 
-/// The registry of `kind`, or of the first kind that fits, in the folder `path`.
+/// The registry of `kind`, or of the first kind that matches, in the folder `path`.
 Place FindAt(const CString& path, std::optional<PlaceKind> kind)
 {
     FolderListing listing(path);
@@ -221,8 +221,8 @@ Place FindAt(const CString& path, std::optional<PlaceKind> kind)
         throw Text::UsageError(CannotBeRead(path, listing.Error()));
     Finder finder;
     std::string sought;
-    // A prefix may hold a whole Windows folder in its drive, but not beside its registry; hives come last, since a
-    // disk's root may hold files of such names.
+    // A prefix may contain a whole Windows folder in its drive, but not beside its registry; hives come last, since the
+    // root of a disk may contain files of such names.
     for (const PlaceKind one : {PlaceKind::WinePrefix, PlaceKind::Disk, PlaceKind::Hives}) {
         if (kind && one != *kind)
             continue;
@@ -236,14 +236,14 @@ Place FindAt(const CString& path, std::optional<PlaceKind> kind)
     throw Text::UsageError(what);
 }
 
-/// Whether this system has a registry that no file had to be opened for.
+/// Whether this system has a registry without opening files.
 bool HasOwnRegistry()
 {
     using namespace VyrPlatform::Registry;
     return Key::Open(HKEY_LOCAL_MACHINE, u"SOFTWARE", Access::Read).IsOpen();
 }
 
-/// The prefix that the programs of Wine use.
+/// The prefix that Wine's programs use by default.
 Place FindUsualPrefix()
 {
     CString path = VyrPlatform::Process::GetEnvironment(u"WINEPREFIX").value_or(CString());
@@ -257,7 +257,7 @@ Place FindUsualPrefix()
                            "; name a Windows disk, a folder of hives or a Wine prefix");
 }
 
-/// Leaves the one user in `place` who is asked about.
+/// Removes all users except `user` from `place`.
 void ChooseUser(Place& place, const CString& user)
 {
     if (place.kind != PlaceKind::Disk)

@@ -1,5 +1,5 @@
 /// @file
-/// Where a registry is that is asked what is installed: this machine, a Windows disk, a folder of hives, a Wine prefix.
+/// Finds the registry to be listed: that of this machine, a Windows disk, a folder of hives, or a Wine prefix.
 #pragma once
 
 #include <VyrPlatform/registry/RegistryFiles.h>
@@ -16,61 +16,61 @@ enum class PlaceKind : std::uint8_t
 {
     /// The running Windows.
     ThisMachine,
-    /// The disk of a Windows that does not run.
+    /// The disk of a Windows that is not running.
     Disk,
     /// A folder with hives in it.
     Hives,
     WinePrefix
 };
 
-/// What was asked for.
+/// The place that was requested.
 struct PlaceRequest
 {
-    /// Nothing: the place that the system is at home in.
+    /// Nothing: the default place of this system.
     std::optional<CString> path;
-    /// What must be at the path; nothing: what is found there.
+    /// The kind that it must have; nothing: any.
     std::optional<PlaceKind> kind;
-    /// The one user of a disk who is asked about; nothing: all.
+    /// The only user of a disk to be listed; nothing: all.
     std::optional<CString> user;
 };
 
 /// The hives of a user.
 struct UserHives
 {
-    /// The name of the user's folder; empty in a folder of hives, which does not tell it.
+    /// The name of the user's folder; empty in a folder of hives, where it is unknown.
     CString name;
     CString hive;
     /// Empty where there is none.
     CString classes;
 };
 
-/// Where a registry is.
+/// The location of a registry.
 struct Place
 {
     PlaceKind kind = PlaceKind::ThisMachine;
     /// The folder of the prefix; else empty.
     CString path;
-    /// The folder of the Windows itself, where that can be told.
+    /// The folder of the Windows itself, where it is known.
     CString windowsFolder;
-    /// Of a disk, or a folder of hives; an empty path where there is none.
+    /// For a disk or a folder of hives; an empty path where there is none.
     CString software;
     CString system;
     std::vector<UserHives> users;
-    /// Where users may be who were not found: what is to be said of each folder that could not be read.
+    /// Messages about folders that could not be read and may contain further users.
     std::vector<std::string> unreadFolders;
 };
 
-/// Finds the registry that was asked for. Names of files on a disk count without regard to case.
+/// Finds the requested registry. Names of files on a disk match in any case.
 ///
-/// A disk is a folder with one folder in it that has `System32/config/SOFTWARE`, or that folder itself; its users are
+/// A disk is a folder with one subfolder that has `System32/config/SOFTWARE`, or that subfolder itself; its users are
 /// the folders with an `NTUSER.DAT` in `Users` or `Documents and Settings` beside it. A folder of hives has `SOFTWARE`,
 /// `SYSTEM`, `NTUSER.DAT` or `UsrClass.dat`. A Wine prefix has `system.reg`. Without a path it is this machine where
-/// the system has a registry of its own, else the prefix that WINEPREFIX names, or `.wine` in the user's folder.
-/// @throws Text::UsageError where there is no such thing: with what was looked for, the several Windows folders of the
-///     disk, or the users that it has.
+/// the system has a registry of its own, else the prefix in WINEPREFIX, or `.wine` in the user's folder.
+/// @throws Text::UsageError where there is none: the message names the files that were searched for, the several
+/// Windows folders of the disk, or its users.
 [[nodiscard]] Place FindPlace(const PlaceRequest& request);
 
-/// Why a registry could not be read, or what may be missing in it. UTF-8, safe to show.
+/// Reasons why a registry could not be read, or may be incomplete. UTF-8, safe to show.
 struct Notes
 {
     std::vector<std::string> failures;
@@ -78,7 +78,7 @@ struct Notes
 };
 
 /// Shows the registries of a place below the root keys (VyrPlatform/registry/Registry.h), one after the other, and
-/// closes them at its end. One that cannot be shown is noted.
+/// closes them in its destructor. Adds a note for each that cannot be shown.
 class OpenedPlace
 {
 public:
@@ -87,14 +87,14 @@ public:
     OpenedPlace& operator=(const OpenedPlace&) = delete;
     ~OpenedPlace();
 
-    /// Shows what is common to all users: first of all, and once.
-    /// @return whether there is anything to be asked.
+    /// Shows the part that all users share. Call it first, and once.
+    /// @return whether there is a registry to list.
     bool ShowMachine();
-    /// How many users there are to be shown, 0 included; one where the machine was shown with its user.
+    /// The number of users to be shown, possibly 0; one where the machine was shown together with its user.
     [[nodiscard]] std::size_t CountUsers() const;
     /// Shows the user `index`, from 0.
     bool ShowUser(std::size_t index);
-    /// The name of that user; empty where there is none to tell.
+    /// The name of that user; empty where it is unknown.
     [[nodiscard]] CString NameOfUser(std::size_t index) const;
 
 private:

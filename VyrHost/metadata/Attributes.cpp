@@ -24,7 +24,7 @@ using Model::ChangeState;
 using VyrLibraryFuncs::AttributesFuncs;
 using VyrPlatform::ExactState::Part;
 
-/// Every letter of an attribute, also of those that cannot be set here.
+/// All letters of attributes, including those that cannot be set here.
 constexpr std::pair<char16_t, std::uint32_t> letters[] = {
     {u'R', 0x1},   {u'H', 0x2},   {u'S', 0x4},    {u'D', 0x10},   {u'A', 0x20},   {u'T', 0x100},   {u'P', 0x200},
     {u'L', 0x400}, {u'C', 0x800}, {u'O', 0x1000}, {u'I', 0x2000}, {u'E', 0x4000}, {u'X', 0x20000}, {u'V', 0x8000},
@@ -130,7 +130,7 @@ std::uint32_t AttributesChange::Apply(const CString& path) const
     item.notContentIndexed = choice(0x2000);
     if (AttributesFuncs::SetModifiedFileAttributes(path, item))
         return 0;
-    // The library tells that it failed; the service beneath it also why.
+    // The library reports only that it failed; the service below it also gives the reason.
     const std::uint32_t now = VyrPlatform::FileAttributes::Get(path);
     return VyrPlatform::FileAttributes::Set(path, (now & ~m_bits.mask) | m_bits.value);
 }
@@ -142,7 +142,7 @@ std::uint32_t AttributesChange::TakeBack(const CString& path) const
 
 namespace {
 
-/// The bit of one letter in either case; 0 for any other unit.
+/// The bit of one letter in either case; 0 for any other code unit.
 std::uint32_t BitOf(char16_t letter)
 {
     constexpr char16_t toUpper = u'a' - u'A';

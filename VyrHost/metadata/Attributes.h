@@ -1,5 +1,5 @@
 /// @file
-/// The attributes of files: the change of kind "attributes", and which attributes the files of a list get.
+/// The attributes of files: the change of kind "attributes", and the rule for the files of a list.
 #pragma once
 
 #include <VyrHost/metadata/Changes.h>
@@ -16,30 +16,30 @@ struct AttributeWord
 {
     std::u16string_view word;
     char16_t letter;
-    /// As VyrPlatform::FileAttributes has it.
+    /// The bit of VyrPlatform::FileAttributes.
     std::uint32_t bit;
 };
 
-/// In the order in which they are shown.
+/// In the order of display.
 inline constexpr AttributeWord attributeWords[] = {
     {u"read-only", u'R', 0x1}, {u"hidden", u'H', 0x2},      {u"system", u'S', 0x4},
     {u"archive", u'A', 0x20},  {u"temporary", u'T', 0x100}, {u"not-indexed", u'I', 0x2000},
 };
 
-/// The letters of the attributes that `bits` has, in the order of GetArrtibutesPriority; "-" for none.
+/// The letters of the attributes in `bits`, in the order of GetArrtibutesPriority; "-" for none.
 [[nodiscard]] CString AttributeLetters(std::uint32_t bits);
 
-/// Sets and clears attributes by AttributesFuncs::SetModifiedFileAttributes, and takes that back exactly: the
-/// permissions to write and the extended attributes, too.
+/// Sets and clears attributes by AttributesFuncs::SetModifiedFileAttributes, and restores them exactly, including write
+/// permissions and extended attributes.
 class AttributesChange final : public Model::Change
 {
 public:
     struct Bits
     {
-        /// All attributes of the file before, and exactly, as ExactState keeps them.
+        /// All attributes of the file before, and their exact form from ExactState.
         std::uint32_t before = 0;
         CString beforeState;
-        /// Which attributes are changed, and those of them that are set.
+        /// The attributes that are changed, and those of them that are set.
         std::uint32_t mask = 0;
         std::uint32_t value = 0;
     };
@@ -47,7 +47,7 @@ public:
     explicit AttributesChange(Bits bits) : m_bits(std::move(bits)) {}
 
     static constexpr std::string_view kind = "attributes";
-    /// What the journal keeps; null for texts that are none of this kind.
+    /// Reads the texts of the journal; null for texts that are not of this kind.
     [[nodiscard]] static std::shared_ptr<const Model::Change> Read(const CString& before, const CString& after);
 
     [[nodiscard]] std::string_view Kind() const override { return kind; }
@@ -55,7 +55,8 @@ public:
     [[nodiscard]] CString After() const override;
     [[nodiscard]] CString ShownBefore() const override;
     [[nodiscard]] CString ShownAfter() const override;
-    /// An attribute has two states, so what another program has changed looks like a part of the change not done.
+    /// An attribute has only two states, so a change by another program looks like a part of this change that is not
+    /// done.
     [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;
     [[nodiscard]] std::uint32_t Apply(const CString& path) const override;
     [[nodiscard]] std::uint32_t TakeBack(const CString& path) const override;
@@ -67,13 +68,13 @@ private:
 /// Reads attributes: words such as `read-only` and `hidden`, or letters such as `RH` in either case, separated by
 /// commas.
 /// @return their bits.
-/// @throws UsageError for an attribute that is not known or cannot be set.
+/// @throws UsageError for an attribute that is unknown or cannot be set.
 [[nodiscard]] std::uint32_t ParseAttributes(std::u16string_view text, const char* option);
 
-/// All that ParseAttributes knows.
+/// All attributes that ParseAttributes knows.
 [[nodiscard]] std::uint32_t AllAttributes();
 
-/// Sets some attributes and clears others; all others stay.
+/// Sets some attributes and clears others; the rest is kept.
 class AttributesRule final : public ChangeRule
 {
 public:

@@ -1,4 +1,4 @@
-// Goes through a list, and puts what is to be changed into a batch.
+// Applies a rule to a list, and makes a batch of the changes.
 #include <VyrHost/metadata/Changes.h>
 
 #include <VyrHost/metadata/Attributes.h>
@@ -17,7 +17,7 @@ namespace VyrHost::Metadata {
 
 namespace {
 
-/// Puts folders of a list into the plan of a batch.
+/// Adds folders of a list to the plan of a batch.
 class PlannedFolders
 {
 public:
@@ -25,7 +25,7 @@ public:
         : m_folders(folders), m_plan(plan), m_indexes(folders.Count(), Model::none)
     {}
 
-    /// The index in the plan of the folder `number`, which is added with those that it stands in.
+    /// The index in the plan of the folder `number`, which is added together with its parents.
     Model::PlanIndex Add(std::uint32_t number)
     {
         if (m_indexes[number] != Model::none)

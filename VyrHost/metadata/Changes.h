@@ -1,6 +1,5 @@
 /// @file
-/// The changes of metadata: what becomes of each entry of a list, the batch that is made of it, its results, and the
-/// texts in which the journal keeps changes.
+/// Changes of metadata: the proposals for a list, the batch of them, its results, and the journal's texts of changes.
 #pragma once
 
 #include <VyrHost/batch/Batches.h>
@@ -20,15 +19,15 @@
 
 namespace VyrHost::Metadata {
 
-/// What becomes of one entry. Without a change and a refusal it stays as it is, since it is so already.
+/// The proposal for one entry. Without a change and a refusal the file already has the new values.
 struct Proposal
 {
     std::shared_ptr<const Model::Change> change;
-    /// Why it is not changed, for people.
+    /// The reason why it is not changed, in words.
     CString refusal;
 };
 
-/// A rule that says for an entry what is to become of it. It looks at the file and changes nothing.
+/// Makes a proposal for an entry. It reads the file and changes nothing.
 class ChangeRule
 {
 public:
@@ -37,28 +36,28 @@ public:
     ChangeRule& operator=(const ChangeRule&) = delete;
     virtual ~ChangeRule() = default;
 
-    /// @param index  the entry's place in the list.
+    /// @param index  the index of the entry in the list.
     [[nodiscard]] virtual Proposal Propose(const CString& path, const Model::Entry& entry, std::size_t index) const = 0;
 };
 
-/// Asks `rule` about each entry of `list`. What the list names and the disk does not have is refused. `report` is
-/// called after each with how many are done.
+/// Applies `rule` to each entry of `list`. Entries that do not exist on the disk are refused. Calls `report` after each
+/// with the number of entries done.
 [[nodiscard]] std::vector<Proposal> ProposeChanges(const ChangeRule& rule, const Model::EntryList& list,
                                                    const std::function<void(std::size_t done)>& report);
 
 /// The changes of `proposals`, one for each entry of `list`, as a batch of `command`.
-/// @param entries  gets the index in the list of each change of the batch.
+/// @param entries  gets the index in the list for each change of the batch.
 [[nodiscard]] Batch::NewBatch MakeBatch(const CString& command, const Model::EntryList& list,
                                         const std::vector<Proposal>& proposals, std::vector<std::size_t>& entries);
 
-/// The proposals for a list, and later what came of them.
+/// The proposals for a list, and later their outcomes.
 class ChangeResults final : public Model::Results
 {
 public:
-    /// @param kind  of the changes. The list must outlive the results.
+    /// @param kind  the kind of the changes. The list must outlive the results.
     ChangeResults(std::string_view kind, const Model::EntryList& list, std::vector<Proposal> proposals);
 
-    /// What became of the change of an entry.
+    /// Sets the outcome of the change of an entry.
     void Set(std::size_t entry, const Model::Outcome& outcome) { m_outcomes[entry] = outcome; }
 
     [[nodiscard]] std::size_t Count() const override { return m_proposals.size(); }
@@ -74,15 +73,15 @@ private:
 /// Times, attributes and marks.
 [[nodiscard]] Model::ChangeKinds Kinds();
 
-/// Cuts what stands before the next `mark` off the front of `text`, and the mark; all of it where there is none.
+/// Removes and returns the part of `text` before the next `mark`, and removes the mark; without a mark all of it.
 [[nodiscard]] std::u16string_view TakeUpTo(std::u16string_view& text, char16_t mark);
 
-/// All of `text` as a number in `base`; nothing when it is none.
+/// The number in `base` that is all of `text`; nothing when it is not a number.
 [[nodiscard]] std::optional<std::int64_t> ReadWhole(std::u16string_view text, int base = 10);
 
 /// Bytes in hexadecimal.
 [[nodiscard]] std::u16string ToHex(std::string_view bytes);
-/// The inverse; nothing for a text that ToHex does not give.
+/// The inverse; nothing for a text that is not a result of ToHex.
 [[nodiscard]] std::optional<std::string> FromHex(std::u16string_view text);
 
 } // namespace VyrHost::Metadata

@@ -1,4 +1,3 @@
-// Reads and words the times of a file.
 #include <VyrHost/metadata/Dates.h>
 
 #include <VyrPlatform/time/DateTimePattern.h>
@@ -53,13 +52,13 @@ bool IsDigit(char16_t unit)
     return unit >= u'0' && unit <= u'9';
 }
 
-/// Reads the front of a text.
+/// Reads from the front of a text.
 class Front
 {
 public:
     explicit Front(std::u16string_view text) : m_rest(text) {}
 
-    /// Takes exactly `count` digits.
+    /// Reads exactly `count` digits.
     bool TakeNumber(std::size_t count, int& number)
     {
         if (m_rest.size() < count)
@@ -74,7 +73,7 @@ public:
         return true;
     }
 
-    /// Takes one unit where it is one of `separators`; gives it, else 0.
+    /// Reads one code unit if it is one of `separators`, and returns it; else 0.
     char16_t TakeSeparator(std::u16string_view separators)
     {
         if (m_rest.empty() || separators.find(m_rest.front()) == std::u16string_view::npos)
@@ -102,7 +101,7 @@ struct Day
     int day = 0;
 };
 
-/// Whether a date stands at the front, possible or not.
+/// Whether a date is at the front, even an impossible one.
 bool TakeDay(Front& front, Day& day)
 {
     constexpr std::u16string_view separators = u"-_. ";
@@ -131,8 +130,8 @@ COleDateTime TakeTime(Front front, const Day& day)
     const bool isSeparated = front.TakeSeparator(separators) != 0;
     if (!front.TakeNumber(2, minute))
         return none;
-    // Without separators all six digits stand together, and milliseconds behind them: four digits alone, or other
-    // counts, may be a number of another kind.
+    // Without separators all six digits are together, followed by milliseconds: four digits alone, or other numbers of
+    // digits, may be a number of another sort.
     constexpr std::size_t digitsOfFraction = 3;
     const bool hasSecond = (!isSeparated || front.TakeSeparator(separators) != 0) && front.TakeNumber(2, second);
     const std::size_t behind = front.CountDigits();
@@ -160,7 +159,7 @@ std::optional<Text::TypedDateTime> FindNameDate(std::u16string_view name, NameDa
             continue;
         const COleDateTime date(day.year, day.month, day.day, 0, 0, 0);
         const COleDateTime dateTime = TakeTime(front, day);
-        // More digits that are no time belong to a number of another kind.
+        // More digits that are not a time belong to a number of another sort.
         if (front.StartsWithDigit() && !IsPossible(dateTime))
             continue;
         if (!IsPossible(date)) {

@@ -1,5 +1,5 @@
 /// @file
-/// The times of a file as people see them, and the date that its name holds.
+/// The times of a file as text, and the date in its name.
 #pragma once
 
 #include <VyrHost/text/TypedDateTime.h>
@@ -15,7 +15,7 @@
 
 namespace VyrHost::Metadata {
 
-/// The times that a file has besides what stands in it.
+/// The times of a file.
 enum class FileDate : std::uint8_t
 {
     Modified,
@@ -28,32 +28,31 @@ inline constexpr std::array<FileDate, 3> fileDates{FileDate::Modified, FileDate:
 /// "modified", "created" or "accessed".
 [[nodiscard]] std::u16string_view WordFor(FileDate date);
 
-/// When the file or folder at `path` was modified and so on; nothing where it cannot be asked.
+/// The time of the file or folder at `path`; nothing where it cannot be read.
 [[nodiscard]] std::optional<VyrPlatform::FileTicks> TicksOf(const CString& path, FileDate date);
 
-/// `dateTime` as `yyyy-MM-dd HH:mm:ss`; empty for one that is not valid.
+/// `dateTime` as `yyyy-MM-dd HH:mm:ss`; empty for an invalid one.
 [[nodiscard]] CString Shown(const COleDateTime& dateTime);
-/// The local time of `ticks` likewise.
+/// The local time of `ticks` in the same form.
 [[nodiscard]] CString Shown(VyrPlatform::FileTicks ticks);
 
 enum class NameDateProblem : std::uint8_t
 {
     None,
-    /// No digits stand as those of a date do.
+    /// No digits have the form of a date.
     NoDate,
-    /// Some do, but there is no such day.
+    /// Some have, but there is no such day.
     NoSuchDay
 };
 
-/// Finds the first date in `name`: a year from 1900 to 2099, a month and a day, without separators or with one and the
-/// same of `-`, `_`, `.` and blank between them, and no further digit before it. A time of day may follow behind
-/// nothing or one of `-`, `_`, `.`, `T` and blank: two digits each for hour, minute and, unless it ends there, second,
-/// without separators or with `-`, `_`, `.` or `:` between them; three digits of milliseconds may follow. What is no
-/// possible time is left out.
+/// Finds the first date in `name`: a year from 1900 to 2099, a month and a day, without separators or with the same one
+/// of `-`, `_`, `.` and blank between them, and with no digit before it. A time of day may follow directly or after one
+/// of `-`, `_`, `.`, `T` and blank: two digits each for hour, minute and optionally second, without separators or with
+/// `-`, `_`, `.` or `:` between them; three digits of milliseconds may follow. An impossible time is ignored.
 ///
-///     "IMG_20240105_103000.jpg" and "2024-01-05 10.30.00.jpg" hold 5 January 2024 10:30:00, "IMG-20240105-WA0001.jpg"
-///     holds 5 January 2024 without a time.
-/// @param problem  why nothing is returned.
+/// "IMG_20240105_103000.jpg" and "2024-01-05 10.30.00.jpg" contain 5 January 2024 10:30:00, "IMG-20240105-WA0001.jpg"
+/// contains 5 January 2024 without a time.
+/// @param problem  gets the reason when there is no result.
 [[nodiscard]] std::optional<Text::TypedDateTime> FindNameDate(std::u16string_view name, NameDateProblem& problem);
 
 } // namespace VyrHost::Metadata

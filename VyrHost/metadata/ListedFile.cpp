@@ -1,4 +1,4 @@
-// Asks the library and the system about a file, each thing once.
+// Reads each property of a file once.
 #include <VyrHost/metadata/ListedFile.h>
 
 #include <VyrLibraryUtils/DateTimeUtils.h>

@@ -1,5 +1,5 @@
 /// @file
-/// What can be told of a file of a list.
+/// The properties of a file in a list.
 #pragma once
 
 #include <VyrHost/metadata/Marks.h>
@@ -13,33 +13,33 @@
 
 namespace VyrHost::Metadata {
 
-/// An entry of a list. Each thing is read from the disk when it is first asked for, and kept.
+/// An entry of a list. Each property is read from the disk on first use, and kept.
 class ListedFile
 {
 public:
     /// @param list  must outlive it.
     ListedFile(const Model::EntryList& list, std::size_t index) : m_list(&list), m_index(index) {}
 
-    /// As the user named it, and absolute.
+    /// The path as the user wrote it, and the absolute path.
     [[nodiscard]] CString ShownPath() const;
     [[nodiscard]] CString Path() const;
     [[nodiscard]] VyrPlatform::FileSystem::Kind Kind() const;
 
-    /// Nothing for what is no file.
+    /// Nothing unless it is a file.
     [[nodiscard]] std::optional<std::int64_t> Size() const;
-    /// Nothing where it cannot be asked.
+    /// Nothing where it cannot be read.
     [[nodiscard]] std::optional<VyrPlatform::FileTicks> Modified() const;
     [[nodiscard]] std::optional<VyrPlatform::FileTicks> Accessed() const;
     [[nodiscard]] std::optional<VyrPlatform::FileTicks> Created() const;
-    /// FileAttributes::unknown where they cannot be asked.
+    /// FileAttributes::unknown where they cannot be read.
     [[nodiscard]] std::uint32_t Attributes() const;
-    /// Whether the file has the mark of a download, and what that tells.
+    /// Whether the file has the mark of a download, and its content.
     [[nodiscard]] bool IsMarked() const;
     [[nodiscard]] const ZoneMark& Mark() const;
 
-    /// The moment at which a picture was taken; invalid where it tells none.
+    /// The time when a picture was taken; invalid where it has none.
     [[nodiscard]] COleDateTime Taken() const;
-    /// Empty where a picture tells none.
+    /// Empty where a picture has none.
     [[nodiscard]] CString Make() const;
     [[nodiscard]] CString Model() const;
 

@@ -142,7 +142,7 @@ std::uint32_t MarkChange::Apply(const CString& path) const
 {
     if (VyrLibraryFuncs::UnblockFuncs::DeleteZoneId(path))
         return 0;
-    // The library tells that it failed; the service beneath it also why.
+    // The library reports only that it failed; the service below it also gives the reason.
     const VyrPlatform::FileAttributes::LiftedReadOnly lifted(path);
     return VyrPlatform::NamedStreams::DeleteZoneMark(path);
 }

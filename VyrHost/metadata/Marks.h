@@ -1,5 +1,6 @@
 /// @file
-/// The marks of downloads: what they tell, the change of kind "mark" that removes one, and which files lose theirs.
+/// The marks of downloads: their content, the change of kind "mark" that removes one, and the rule for the files of a
+/// list.
 #pragma once
 
 #include <VyrHost/metadata/Changes.h>
@@ -12,18 +13,18 @@ namespace VyrHost::Metadata {
 
 using ZoneForms = std::vector<VyrPlatform::NamedStreams::ZoneForm>;
 
-/// What a mark says, whichever of its forms says it.
+/// The content of a mark, from any of its forms.
 struct ZoneMark
 {
-    /// The word for the zone, such as "internet"; its number where it has no word; empty where the mark names none.
+    /// The word for the zone, such as "internet"; its number if there is no word; empty where the mark has none.
     CString zone;
-    /// Where the file was loaded from, and the page that led there; empty where the mark does not tell.
+    /// The address of the file, and of the page that linked to it; empty where the mark has none.
     CString from;
     CString referrer;
 };
 
 /// Reads the lines ZoneId, HostUrl and ReferrerUrl of the section ZoneTransfer (Windows' URL security zones: 0 to 4),
-/// and the addresses that browsers keep in extended attributes (freedesktop.org, common extended attributes).
+/// and the addresses in extended attributes of browsers (freedesktop.org, common extended attributes).
 [[nodiscard]] ZoneMark ReadMark(const ZoneForms& forms);
 
 /// "internet, https://example.org/a.zip" and the like; "marked" for a mark that tells nothing; empty for no mark.
@@ -33,11 +34,11 @@ struct ZoneMark
 class MarkChange final : public Model::Change
 {
 public:
-    /// @param forms  one or more.
+    /// @param forms  at least one.
     explicit MarkChange(ZoneForms forms) : m_forms(std::move(forms)) {}
 
     static constexpr std::string_view kind = "mark";
-    /// What the journal keeps; null for texts that are none of this kind.
+    /// Reads the texts of the journal; null for texts that are not of this kind.
     [[nodiscard]] static std::shared_ptr<const Model::Change> Read(const CString& before, const CString& after);
 
     [[nodiscard]] std::string_view Kind() const override { return kind; }
@@ -53,7 +54,7 @@ private:
     ZoneForms m_forms;
 };
 
-/// Takes the mark off every file that has one.
+/// Removes the mark of every file that has one.
 class MarkRule final : public ChangeRule
 {
 public:

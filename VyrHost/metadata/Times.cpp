@@ -34,7 +34,7 @@ Part PartOf(FileDate date)
     return Part::Accessed;
 }
 
-/// What the system says of a file whose times cannot be read.
+/// The system's error code for a file whose times cannot be read.
 std::uint32_t ErrorOf(const CString& path)
 {
     constexpr std::uint32_t missingFile = 2;
@@ -60,7 +60,7 @@ std::optional<FileDate> DateOf(std::u16string_view word)
     return std::nullopt;
 }
 
-/// A step of the two texts that stand for it; nothing when they do not belong together.
+/// The step of a pair of journal texts; nothing when they do not match.
 std::optional<TimeStep> StepOf(std::u16string_view before, std::u16string_view after)
 {
     TimeStep step;
@@ -94,7 +94,7 @@ FILETIME ToFileTime(FileTicks ticks)
     return time;
 }
 
-/// One text of each step, with `separator` between them.
+/// The texts of all steps, separated by `separator`.
 template <class ToText>
 CString Joined(const std::vector<TimeStep>& steps, std::u16string_view separator, ToText toText)
 {
@@ -191,7 +191,7 @@ std::uint32_t TimesChange::Apply(const CString& path) const
     if (VyrLibraryFuncs::DateTimeFuncs::SetModifiedFileDateTime(path, timeOf(FileDate::Created),
                                                                 timeOf(FileDate::Modified), timeOf(FileDate::Accessed)))
         return 0;
-    // The library tells that it failed; the service beneath it also why.
+    // The library reports only that it failed; the service below it also gives the reason.
     return VyrPlatform::FileTimes::Write(path, wanted);
 }
 

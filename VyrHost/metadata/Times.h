@@ -1,5 +1,5 @@
 /// @file
-/// The times of files: the change of kind "times", and which times the files of a list get.
+/// The times of files: the change of kind "times", and the rule for the files of a list.
 #pragma once
 
 #include <VyrHost/metadata/Changes.h>
@@ -15,28 +15,28 @@
 
 namespace VyrHost::Metadata {
 
-/// One of the times that a change sets.
+/// A time that a change sets.
 struct TimeStep
 {
     FileDate date = FileDate::Modified;
     VyrPlatform::FileTicks before = 0;
-    /// The same exactly, as ExactState keeps it.
+    /// Its exact form from ExactState.
     CString beforeState;
     /// More than 0.
     VyrPlatform::FileTicks after = 0;
 };
 
-/// Sets times by DateTimeFuncs::SetModifiedFileDateTime, and takes them back to the file system's precision.
+/// Sets times by DateTimeFuncs::SetModifiedFileDateTime, and restores them to the file system's precision.
 ///
-/// A time counts as set where the file system has kept it within two seconds.
+/// A time is regarded as set where the file system has stored it within two seconds.
 class TimesChange final : public Model::Change
 {
 public:
-    /// @param steps  one or more, each of another date.
+    /// @param steps  at least one, each for another date.
     explicit TimesChange(std::vector<TimeStep> steps) : m_steps(std::move(steps)) {}
 
     static constexpr std::string_view kind = "times";
-    /// What the journal keeps; null for texts that are none of this kind.
+    /// Reads the texts of the journal; null for texts that are not of this kind.
     [[nodiscard]] static std::shared_ptr<const Model::Change> Read(const CString& before, const CString& after);
 
     [[nodiscard]] std::string_view Kind() const override { return kind; }
@@ -54,19 +54,19 @@ private:
     std::vector<TimeStep> m_steps;
 };
 
-/// Where a new time comes from.
+/// The source of a new time.
 struct TimeSource
 {
     enum class Kind : std::uint8_t
     {
-        /// From what was typed; of a date or a time of day alone the other part is that of the time that is set.
+        /// As typed; where only a date or a time of day was typed, the other part is that of the time to be set.
         Typed,
         Modified,
         Created,
         Accessed,
-        /// The moment at which a picture was taken.
+        /// The time when a picture was taken.
         Picture,
-        /// FindNameDate; of a date alone the time of day stays.
+        /// FindNameDate; with a date alone the time of day is kept.
         Name
     };
 
@@ -79,7 +79,7 @@ struct TimeSource
 /// @throws UsageError for any other text.
 [[nodiscard]] TimeSource ParseTimeSource(std::u16string_view text, const char* option);
 
-/// By how much times move.
+/// How far times are shifted.
 struct Amounts
 {
     int years = 0;
@@ -92,26 +92,26 @@ struct Amounts
     friend bool operator==(const Amounts&, const Amounts&) = default;
 };
 
-/// Reads numbers with the units y (years), mo (months), d, h, m (minutes), s, each unit once, such as `1h30m`,
-/// `-1y 6mo` or `+2d`; a sign in front holds for all.
+/// Reads numbers with the units y (years), mo (months), d, h, m (minutes), s, each unit at most once, such as `1h30m`,
+/// `-1y 6mo` or `+2d`; a sign in front applies to all.
 /// @throws UsageError for any other text, and where all numbers are 0.
 [[nodiscard]] Amounts ParseAmounts(std::u16string_view text, const char* option);
 
 struct TimesSettings
 {
-    /// By FileDate. Where there is none, the time of the last change is moved.
+    /// By FileDate. Without any, the time of the last change is shifted.
     std::array<std::optional<TimeSource>, fileDates.size()> sources;
     /// By DateTimeFuncs::GetStaggerFileDateTime, on the clock without daylight-saving time.
     std::optional<Amounts> shift;
-    /// Each file gets one step more than the one before it in the list; the first gets none.
+    /// Each file is shifted by one step more than the one before it in the list; the first is not shifted.
     std::optional<Amounts> stagger;
-    /// Takes the place of every source.
+    /// Replaces all sources.
     std::optional<COleDateTime> start;
 };
 
-/// The times of a file by what was asked for. Local times become the instant at which clocks show them, with the offset
-/// from UTC of their own date. A time that comes from another time of the file stays exactly that, unless it is moved:
-/// then its fraction of a second stays.
+/// Computes the new times of a file. Local times become the instant at which clocks show them, with the offset from UTC
+/// of their own date. A time from another time of the file is copied exactly; when it is shifted, its fraction of a
+/// second is kept.
 class TimesRule final : public ChangeRule
 {
 public:

@@ -1,4 +1,4 @@
-// Finds the new times of a file: where they come from, and by how much they move.
+// Computes the new times of a file from their source and the shift.
 #include <VyrHost/metadata/Times.h>
 
 #include <VyrHost/metadata/Dates.h>
@@ -30,19 +30,19 @@ using VyrPlatform::ExactState::Part;
 constexpr FileTicks ticksPerSecond = 10'000'000;
 constexpr const char16_t* outOfCalendar = u"the new time lies out of the calendar's range";
 
-/// Why a file gets no new time.
+/// The reason why a file gets no new time.
 struct Refusal
 {
     CString reason;
 };
 
-/// A moment as clocks show it.
+/// A time as clocks show it.
 struct LocalTime
 {
     COleDateTime value;
-    /// Below a second.
+    /// The fraction of a second.
     FileTicks fraction = 0;
-    /// The instant, where it came from a time of a file and was not moved.
+    /// The exact instant, where it is a time of a file and not shifted.
     FileTicks exact = 0;
 };
 
@@ -74,7 +74,7 @@ LocalTime FromTicks(FileTicks ticks)
     return {value, ((ticks % ticksPerSecond) + ticksPerSecond) % ticksPerSecond, ticks};
 }
 
-/// What was typed; what is missing of it comes from `own`.
+/// The typed date-time; a missing part is taken from `own`.
 COleDateTime Completed(const Text::TypedDateTime& typed, const COleDateTime& own)
 {
     return DateTimeUtils::CombineDateTime(typed.hasDate ? typed.value : own, typed.hasTime ? typed.value : own);
@@ -137,8 +137,8 @@ Amounts Times(const Amounts& amounts, std::size_t count)
     return product;
 }
 
-/// `local` moved by `amounts`, which are not all 0, by the library. It leaves a date as it is that would leave the
-/// calendar.
+/// `local` shifted by `amounts`, which are not all 0, by the library. The library does not change a date that would
+/// leave the calendar.
 COleDateTime Moved(const COleDateTime& local, const Amounts& amounts)
 {
     constexpr int sameForAll = 1;
@@ -153,14 +153,14 @@ COleDateTime Moved(const COleDateTime& local, const Amounts& amounts)
     const FILETIME time = DateTimeFuncs::GetStaggerFileDateTime(0, 1, local, item);
     const auto ticks =
         static_cast<FileTicks>(std::uint64_t{time.dwHighDateTime} << 32 | std::uint64_t{time.dwLowDateTime});
-    // The library turns local time into an instant by the system's conversion; this is the way back.
+    // The library converts local time to an instant by the system's conversion; this is the inverse.
     const COleDateTime moved = FileTimes::ToLocalForWriting(ticks);
     if (ticks == 0 || !IsValid(moved) || moved == local)
         throw Refusal{outOfCalendar};
     return moved;
 }
 
-/// Moves `local` on the clock, and then by the calendar.
+/// Shifts `local` on the clock, and then by the calendar.
 void Move(LocalTime& local, const Amounts& amounts)
 {
     const Amounts onTheClock{0, 0, 0, amounts.hours, amounts.minutes, amounts.seconds};
@@ -216,7 +216,7 @@ Proposal TimesRule::Propose(const CString& path, const Model::Entry& entry, std:
                 Move(local, *m_settings.shift);
             steps.push_back({date, 0, {}, ToInstant(local)});
         }
-        // What was there before is read last: to read a picture may change when it was accessed.
+        // The times before are read last, since reading a picture may change the time of the last access.
         for (TimeStep& step : steps) {
             step.before = RequireTicks(path, step.date);
             std::uint32_t error = 0;

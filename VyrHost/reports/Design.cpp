@@ -1,4 +1,3 @@
-// The designs of reports, from design documents.
 #include <VyrHost/reports/Design.h>
 
 #include <VyrHost/text/Errors.h>

@@ -1,4 +1,3 @@
-// Texts from outside, as they may stand in a page.
 #include <VyrHost/reports/HtmlText.h>
 
 #include <VyrPlatform/text/CString.h>
@@ -10,7 +9,7 @@ namespace VyrHost::Reports {
 
 namespace {
 
-/// Whether a page may hold the unit, be it a half of a pair.
+/// Whether a page may contain the code unit (also as a half of a pair).
 bool IsHeld(char16_t unit)
 {
     const bool isControl =
@@ -19,7 +18,7 @@ bool IsHeld(char16_t unit)
     return !isControl && !isNoCharacter;
 }
 
-/// What stands for the unit; empty for one that stands for itself.
+/// The escape of the code unit; empty where it needs none.
 std::string_view EscapeOf(char16_t unit)
 {
     switch (unit) {
@@ -42,7 +41,7 @@ std::string_view EscapeOf(char16_t unit)
     }
 }
 
-/// What may stand in an address as it is: RFC 3986, section 2.2 and 2.3, and the percent sign of what is encoded.
+/// Whether the byte is literal in an address: RFC 3986, section 2.2 and 2.3, and the percent sign of encoded bytes.
 bool MayStandInAddress(char byte)
 {
     constexpr std::string_view others = "-._~:/?#[]@!$&()*+,;=%";

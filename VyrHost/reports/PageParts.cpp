@@ -1,4 +1,4 @@
-// The style, the script and the few elements of a page that HtmlFuncs has no tags for.
+// The style, the script and the elements of a page for which HtmlFuncs has no tags.
 #include <VyrHost/reports/PageParts.h>
 
 namespace VyrHost::Reports::PageParts {

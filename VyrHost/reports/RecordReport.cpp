@@ -1,4 +1,3 @@
-// Lists of records as pages for a browser.
 #include <VyrHost/reports/RecordReport.h>
 
 #include <VyrHost/reports/HtmlText.h>
@@ -28,7 +27,7 @@ std::string Escaped(std::u16string_view text)
     return html;
 }
 
-/// `text` escaped, as the tags of HtmlFuncs take it.
+/// `text` escaped, as an argument for the tags of HtmlFuncs.
 CString EscapedArgument(std::u16string_view text)
 {
     return VyrPlatform::Encoding::FromUtf8(Escaped(text));
@@ -64,7 +63,7 @@ std::u16string_view ClassOf(Ui::Tone tone)
     }
 }
 
-/// A tag made once with slots in it, which are filled for each cell.
+/// A tag with placeholders, which are filled in for each cell.
 class TagWithSlots
 {
 public:
@@ -92,7 +91,7 @@ private:
 struct CellTags
 {
     std::string plain;
-    /// With an id and the value to sort by.
+    /// With an id and the value for sorting.
     TagWithSlots valued;
 };
 

@@ -13,7 +13,7 @@ namespace VyrHost::Reports {
 /// Takes a piece of the page (UTF-8).
 using TakePiece = std::function<void(std::string_view piece)>;
 
-/// What stands around the list.
+/// The texts around the list.
 struct ReportText
 {
     CString title;
@@ -21,9 +21,9 @@ struct ReportText
     CString total;
 };
 
-/// Writes a whole page with the shown columns and rows of `table`: one that needs nothing from the network, and shows
-/// all but sorting and the search box without scripts. Every text is escaped; a text that is an address with `http:`
-/// or `https:` becomes a link. Time and memory grow with the page alone.
+/// Writes a complete page with the shown columns and rows of `table`. It needs nothing from the network, and without
+/// scripts only sorting and the search box are missing. Every text is escaped; an address with `http:` or `https:`
+/// becomes a link. Time and memory are linear in the size of the page.
 void WriteRecordReport(const TakePiece& take, const Ui::RecordTable& table, const ReportText& text,
                        const Design& design);
 

@@ -1,4 +1,3 @@
-// The file of a report, which is there whole or not at all.
 #include <VyrHost/reports/ReportFile.h>
 
 #include <VyrHost/text/Errors.h>
@@ -15,7 +14,7 @@ using VyrHostPlatform::RenameNoReplace;
 namespace DurableFile = VyrHostPlatform::DurableFile;
 namespace FileSystem = VyrPlatform::FileSystem;
 
-/// Gives the file `part` the name `path`, in place of the file that has it.
+/// Renames the file `part` to `path`, replacing an existing file.
 std::uint32_t Replace(const CString& part, const CString& path)
 {
     const CString former = path + u".former";
@@ -41,7 +40,7 @@ void CheckReportFile(const CString& path, bool mayReplace)
 std::uint32_t WriteReportFile(const CString& path, bool mayReplace,
                               const std::function<void(const TakePiece& take)>& content)
 {
-    // Windows takes the path for a rename as it stands, so that it must not depend on the current folder.
+    // Windows does not make the path of a rename absolute, so it must not depend on the current folder.
     const CString full = VyrPlatform::GetFullPath(path);
     const CString part = full + u".part";
     if (const std::uint32_t error = DurableFile::WriteNew(part, content, DurableFile::Readers::ByMask))

@@ -1,20 +1,18 @@
 /// @file
-/// The file of a report, which is there whole or not at all.
+/// Writes the file of a report, which exists only when it is complete.
 #pragma once
 
 #include <VyrHost/reports/RecordReport.h>
 
 namespace VyrHost::Reports {
 
-/// Refuses, before anything is done, a report that could not be written: one that exists already, unless it may be
-/// replaced, or a folder.
+/// Refuses, before anything is done, the path of a folder, and of an existing file unless it may be replaced.
 /// @throws UsageError
 void CheckReportFile(const CString& path, bool mayReplace);
 
-/// Writes a report into a file beside `path`, which then gets that name. A former report is kept until the new one has
-/// its place.
-/// @param content  gives the page, piece by piece.
-/// @return 0, else the system's error code; what stood at `path` is unchanged then.
+/// Writes a report into a file beside `path`, and then renames it to `path`. A former report is kept until then.
+/// @param content  writes the page, piece by piece.
+/// @return 0, else the system's error code; the file at `path` is then unchanged.
 [[nodiscard]] std::uint32_t WriteReportFile(const CString& path, bool mayReplace,
                                             const std::function<void(const TakePiece& take)>& content);
 
