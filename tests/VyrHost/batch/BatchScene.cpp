@@ -1,4 +1,3 @@
-// Makes trees of files, and reads them again.
 #include <tests/VyrHost/batch/BatchScene.h>
 
 #include <VyrPlatform/text/Encoding.h>

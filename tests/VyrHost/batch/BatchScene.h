@@ -1,4 +1,4 @@
-// For tests: a tree of files on the disk, batches of renames in it, and what they leave.
+// For tests: files on the disk, batches of renames of them, and the results.
 #pragma once
 
 #include <VyrHost/batch/Batches.h>
@@ -15,15 +15,15 @@
 
 namespace VyrTests {
 
-/// What stands at each path below a folder, written with slashes: a file's content, or "<folder>".
+/// The entries below a folder by their paths, written with slashes: a file's content, or "<folder>".
 using FolderSnapshot = std::map<std::string, std::string>;
 
-/// Journals in `journalFolder`, no waiting, the rename as the only kind of change.
+/// Journals in `journalFolder`, no waiting for the lock, and no kind of change but the rename.
 [[nodiscard]] VyrHost::Batch::BatchSettings SettingsIn(const CString& journalFolder);
 
 class BatchScene
 {
-    // The others need it while they are made.
+    // First, since the members below are created in it.
     ScratchFolder m_scratch;
     VyrHost::Batch::FileOperations& m_files;
 
@@ -33,7 +33,7 @@ public:
 
     /// The full path of `name` (with slashes) among the files.
     [[nodiscard]] CString Path(std::u16string_view name) const;
-    /// Makes a file whose content is its name here.
+    /// Creates a file whose content is its name here.
     void Write(std::u16string_view name) const;
     void Write(std::u16string_view name, std::string_view content) const;
     void MakeFolder(std::u16string_view name) const;
@@ -44,32 +44,32 @@ public:
     BatchScene& RenameFolder(std::u16string_view from, std::u16string_view to);
     BatchScene& NewFolder(std::u16string_view name);
 
-    /// The list as the planner plans it.
+    /// The plan of the list.
     [[nodiscard]] VyrHost::Rename::PlannerResult Plan() const;
-    /// Applies what the planner makes of the list; the results stand in `results`.
+    /// Plans and applies the list; the outcomes are in `results`.
     VyrHost::Batch::BatchSummary Apply(const VyrHost::Batch::StopRequest& isStopAsked = {});
-    /// @param number  the latest that can be undone when it is not given.
+    /// @param number the batch; without it the latest that can be undone.
     VyrHost::Batch::BatchSummary Undo(std::optional<std::uint32_t> number = {},
                                       const VyrHost::Batch::StopRequest& isStopAsked = {});
-    /// Does again what the undo `number` has undone.
+    /// Redoes what the undo `number` has undone.
     VyrHost::Batch::BatchSummary Redo(std::uint32_t number);
     VyrHost::Batch::BatchSummary Recover(VyrHost::Batch::Recovery recovery);
 
-    /// All files and folders as they are now.
+    /// All files and folders at present.
     [[nodiscard]] FolderSnapshot Now() const;
     [[nodiscard]] CString JournalFolder() const { return m_scratch.Path(u"journal"); }
-    /// The names of the files in the journal's folder, without the lock.
+    /// The names of the files in the folder of the journals, without the lock.
     [[nodiscard]] std::vector<std::string> JournalFiles() const;
 
     PathRenames list;
     VyrHost::Batch::Batches batches;
-    /// Of the last Apply, by the renames' indexes.
+    /// The outcomes of the last Apply, by the indexes of the renames.
     std::vector<VyrHost::Model::Outcome> results;
-    /// Of the last Undo or Recover.
+    /// The entries of the last Undo or Recover.
     std::vector<VyrHost::Batch::BatchEntry> entries;
 };
 
-/// The sorted contents of the files of `tree`: what may never change, whatever happens to names.
+/// The sorted contents of the files of `tree`, which no rename may change.
 [[nodiscard]] std::vector<std::string> ContentsOf(const FolderSnapshot& tree);
 
 } // namespace VyrTests

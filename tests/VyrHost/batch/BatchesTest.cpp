@@ -1,4 +1,4 @@
-// Batches on a real disk: what is renamed, what is refused, and that all of it can be undone.
+// Batches on a real disk: what they rename and refuse, and that all can be undone.
 #include <tests/VyrHost/batch/BatchScene.h>
 #include <tests/VyrHost/batch/FaultyFiles.h>
 #include <tests/support/Describe.h>
@@ -30,7 +30,7 @@ CString Name(int number)
     return name;
 }
 
-/// Applies the scene's list, expects `after`, undoes it, and expects what was before.
+/// Applies the scene's list, expects `after`, undoes it, and expects the tree before.
 void ExpectThereAndBack(BatchScene& scene, const FolderSnapshot& after)
 {
     const FolderSnapshot before = scene.Now();
@@ -76,7 +76,7 @@ TEST(Batches, SwapTwoNames)
     ExpectThereAndBack(scene, {{"a", "b"}, {"b", "a"}});
 }
 
-TEST(Batches, TurnACircleOfThree)
+TEST(Batches, RenameACycleOfThree)
 {
     BatchScene scene;
     for (const char16_t* name : {u"a", u"b", u"c"})
@@ -85,7 +85,7 @@ TEST(Batches, TurnACircleOfThree)
     ExpectThereAndBack(scene, {{"a", "c"}, {"b", "a"}, {"c", "b"}});
 }
 
-TEST(Batches, TurnACircleOfAThousand)
+TEST(Batches, RenameACycleOfAThousand)
 {
     constexpr int count = 1000;
     BatchScene scene;
@@ -148,7 +148,7 @@ TEST(Batches, RenameFoldersAndTheirContentsTogether)
                                {"other/t/y2", "d/s/y"}});
 }
 
-TEST(Batches, MoveIntoFoldersThatTheyMake)
+TEST(Batches, MoveIntoFoldersThatTheyCreate)
 {
     BatchScene scene;
     scene.Write(u"a");
@@ -233,7 +233,7 @@ TEST(Batches, NeverReplaceWhatAppearedSinceThePreview)
     EXPECT_EQ(scene.Now(), before);
 }
 
-TEST(Batches, LeaveTheFolderOfTheirJournalWhereItIs)
+TEST(Batches, NeverMoveTheFolderOfTheirJournal)
 {
     BatchScene scene;
     scene.Write(u"a");
@@ -250,7 +250,7 @@ TEST(Batches, LeaveTheFolderOfTheirJournalWhereItIs)
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"a", "a"}}));
 }
 
-TEST(Batches, LeaveJournalsAndTheLockWhereTheyAre)
+TEST(Batches, NeverMoveJournalsAndTheLock)
 {
     BatchScene scene;
     scene.MakeFolder(u"journal");
@@ -267,7 +267,7 @@ TEST(Batches, LeaveJournalsAndTheLockWhereTheyAre)
     EXPECT_EQ(summary.refused, 2u);
     EXPECT_EQ(scene.results[0].reason, u"it is part of the journal that \"vyr undo\" needs");
     EXPECT_EQ(scene.results[1].reason, scene.results[0].reason);
-    // Files of such names elsewhere are like any other.
+    // Files with such names in other folders can be renamed.
     EXPECT_EQ(summary.done, 2u);
     EXPECT_EQ(scene.Now().at("unlocked"), "lock");
     EXPECT_EQ(scene.Undo().done, 2u);
@@ -275,7 +275,7 @@ TEST(Batches, LeaveJournalsAndTheLockWhereTheyAre)
     EXPECT_EQ(scene.Now().at("a"), "a");
 }
 
-TEST(Batches, LeaveTheFoldersAboveTheirJournalWhereTheyAre)
+TEST(Batches, NeverMoveTheFoldersAboveTheirJournal)
 {
     BatchScene scene;
     scene.MakeFolder(u"state/deep/journal");
@@ -292,7 +292,7 @@ TEST(Batches, LeaveTheFoldersAboveTheirJournalWhereTheyAre)
     EXPECT_TRUE(scene.Now().contains("other"));
 }
 
-TEST(Batches, TellWhereWhatStandsInAFolderThatKeptItsNameCameFrom)
+TEST(Batches, TellTheOldPathOfEntriesInAFolderThatKeptItsName)
 {
     BatchScene scene;
     scene.Write(u"folder/a");
@@ -322,7 +322,7 @@ TEST(Batches, RefuseWhatDependsOnARenameThatFailed)
     EXPECT_THAT(scene.JournalFiles(), IsEmpty());
 }
 
-TEST(Batches, LeaveACircleAsItWasWhicheverOfItsRenamesFails)
+TEST(Batches, RollACycleBackWhicheverOfItsRenamesFails)
 {
     // Three renames, and one more to the temporary name.
     for (std::size_t failing = 0; failing < 4; ++failing) {
@@ -366,7 +366,7 @@ TEST(Batches, CanBeRecoveredWhenACycleCanNeitherBeFinishedNorUndone)
     EXPECT_EQ(scene.Now(), before);
 }
 
-TEST(Batches, GoOnWithoutASourceThatIsGone)
+TEST(Batches, SkipASourceThatIsGone)
 {
     BatchScene scene;
     scene.Write(u"a");
@@ -381,7 +381,7 @@ TEST(Batches, GoOnWithoutASourceThatIsGone)
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"a", "a"}, {"c", "c"}}));
 }
 
-TEST(Batches, RefuseAFolderThatHasBecomeAFile)
+TEST(Batches, RefuseAFolderThatWasReplacedByAFile)
 {
     BatchScene scene;
     scene.Write(u"a");
@@ -390,7 +390,7 @@ TEST(Batches, RefuseAFolderThatHasBecomeAFile)
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"a", "a"}}));
 }
 
-TEST(Batches, RefuseEntriesWhoseFolderCannotBeMade)
+TEST(Batches, RefuseEntriesWhoseFolderCannotBeCreated)
 {
     BatchScene scene;
     scene.Write(u"a");
@@ -406,7 +406,7 @@ TEST(Batches, RefuseEntriesWhoseFolderCannotBeMade)
         (FolderSnapshot{{"a", "a"}, {"b", "b"}, {"good", "<folder>"}, {"good/c", "c"}, {"n", "a file in the way"}}));
 }
 
-TEST(Batches, TakeAwayTheFoldersThatTheyMadeForNothing)
+TEST(Batches, RemoveTheFoldersThatTheyCreatedInVain)
 {
     BatchScene scene;
     scene.NewFolder(u"n").NewFolder(u"n/m");
@@ -416,7 +416,7 @@ TEST(Batches, TakeAwayTheFoldersThatTheyMadeForNothing)
     EXPECT_THAT(scene.JournalFiles(), IsEmpty());
 }
 
-TEST(Batches, UseAFolderThatSomeoneElseMadeMeanwhileAndLeaveIt)
+TEST(Batches, UseAndKeepAFolderThatAnotherProgramCreated)
 {
     BatchScene scene;
     scene.Write(u"a");
@@ -427,7 +427,7 @@ TEST(Batches, UseAFolderThatSomeoneElseMadeMeanwhileAndLeaveIt)
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"a", "a"}, {"n", "<folder>"}}));
 }
 
-TEST(Batches, LeaveAFolderThatTheyMadeAndSomeoneElseUses)
+TEST(Batches, KeepACreatedFolderThatAnotherProgramUses)
 {
     BatchScene scene;
     scene.Write(u"a");
@@ -439,7 +439,7 @@ TEST(Batches, LeaveAFolderThatTheyMadeAndSomeoneElseUses)
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"a", "a"}, {"n", "<folder>"}, {"n/mine", "n/mine"}}));
 }
 
-TEST(Batches, RemoveAFolderThatCouldNotBeRemovedWhenTheyAreUndoneOnceMore)
+TEST(Batches, RemoveAFolderThatCouldNotBeRemovedAtTheNextUndo)
 {
     FaultyFiles files;
     BatchScene scene(files);
@@ -461,7 +461,7 @@ TEST(Batches, RemoveAFolderThatCouldNotBeRemovedWhenTheyAreUndoneOnceMore)
     EXPECT_EQ(scene.Undo(1).error, u"the batch is undone already; \"vyr undo 2\" redoes it");
 }
 
-TEST(Batches, NameWhatItsFolderDoesNotListAfterwards)
+TEST(Batches, ReportANewNameThatItsFolderDoesNotList)
 {
     FaultyFiles files;
     files.folding = [](const CString&) {
@@ -471,7 +471,7 @@ TEST(Batches, NameWhatItsFolderDoesNotListAfterwards)
     scene.Write(u"a");
     scene.Write(u"b");
     scene.Rename(u"a", u"x").Rename(u"b", u"y");
-    // A file system that keeps another name than the one it was given.
+    // Acts like a file system that stores another name than the given one.
     files.after = [&scene](const FileChange& change, std::size_t) {
         if (change.newName == u"x")
             std::filesystem::rename(ToStdPath(scene.Path(u"x")), ToStdPath(scene.Path(u"kept otherwise")));
@@ -481,12 +481,12 @@ TEST(Batches, NameWhatItsFolderDoesNotListAfterwards)
     EXPECT_THAT(summary.missing, ElementsAre(scene.Path(u"x")));
 }
 
-TEST(Batches, EndBetweenRenamesWhenAskedTo)
+TEST(Batches, StopBetweenRenamesOnRequest)
 {
     BatchScene scene;
     for (const char16_t* name : {u"a", u"b", u"c", u"d"})
         scene.Write(name);
-    // The cycle in the middle is finished once it is begun.
+    // The cycle in the middle is finished once begun.
     scene.Rename(u"a", u"x").Rename(u"b", u"c").Rename(u"c", u"b").Rename(u"d", u"y");
     const FolderSnapshot before = scene.Now();
     int asked = 0;
@@ -501,7 +501,7 @@ TEST(Batches, EndBetweenRenamesWhenAskedTo)
     EXPECT_EQ(scene.Now(), before);
 }
 
-TEST(Batches, UndoInPartWhenAskedToAndTheRestLater)
+TEST(Batches, AreUndoneInPartOnRequestAndTheRestLater)
 {
     BatchScene scene;
     for (const char16_t* name : {u"a", u"b", u"c"})
@@ -519,7 +519,7 @@ TEST(Batches, UndoInPartWhenAskedToAndTheRestLater)
     EXPECT_EQ(scene.Now(), before);
 }
 
-TEST(Batches, AreUndoneOneAfterTheOtherOrByNumber)
+TEST(Batches, AreUndoneInTurnOrByNumber)
 {
     BatchScene scene;
     scene.Write(u"a");
@@ -567,7 +567,7 @@ TEST(Batches, AreListedTheLatestFirst)
     EXPECT_EQ(batches[1].state, BatchState::Applied);
 }
 
-/// The one batch of a scene, as it is listed.
+/// The scene's only batch, as the list gives it.
 BatchInformation Listed(const BatchScene& scene)
 {
     const std::vector<BatchInformation> batches = scene.batches.List();
@@ -575,7 +575,7 @@ BatchInformation Listed(const BatchScene& scene)
     return batches.empty() ? BatchInformation() : batches.front();
 }
 
-/// A scene with files of these names, each of which is to get a "2" behind it.
+/// Writes files of these names, and adds renames that append a "2".
 void RenameEach(BatchScene& scene, const std::vector<CString>& names)
 {
     for (const CString& name : names) {
@@ -634,21 +634,21 @@ TEST(Batches, AreListedWithoutTheEntriesThatFailed)
     EXPECT_EQ(Listed(scene).state, BatchState::Applied);
     EXPECT_EQ(Listed(scene).renamed, 2u);
     EXPECT_FALSE(Listed(scene).wasStopped);
-    // One cannot go back, one is not found, and both are left to be undone.
+    // One cannot be restored, one is not found; the undo leaves both for later.
     scene.Write(u"a", "in the way");
     std::filesystem::rename(ToStdPath(scene.Path(u"c2")), ToStdPath(scene.Path(u"elsewhere")));
     scene.Undo();
     EXPECT_EQ(Listed(scene).state, BatchState::UndonePartly);
     EXPECT_EQ(Listed(scene).renamed, 2u);
     EXPECT_FALSE(Listed(scene).wasStopped);
-    // What was not found stays known when the rest is undone.
+    // A file that was not found before is still known when the rest is undone.
     std::filesystem::remove(ToStdPath(scene.Path(u"a")));
     EXPECT_EQ(scene.Undo().done, 1u);
     EXPECT_EQ(Listed(scene).state, BatchState::Undone);
     EXPECT_EQ(Listed(scene).renamed, 1u);
 }
 
-TEST(Batches, AreListedAsUnknownInExtentWhereTheJournalLacksItsEnd)
+TEST(Batches, AreListedWithoutACountWhereTheJournalLacksItsEnd)
 {
     FaultyFiles files;
     BatchScene scene(files);
@@ -665,7 +665,7 @@ TEST(Batches, AreListedAsUnknownInExtentWhereTheJournalLacksItsEnd)
     EXPECT_EQ(Listed(scene).renamed, 1u);
 }
 
-TEST(Batches, AreNotListedByTheMarkOfEarlierWork)
+TEST(Batches, AreNotListedByTheCheckpointOfEarlierWork)
 {
     FaultyFiles files;
     BatchScene scene(files);
@@ -679,7 +679,7 @@ TEST(Batches, AreNotListedByTheMarkOfEarlierWork)
     EXPECT_EQ(Listed(scene).renamed, std::nullopt);
 }
 
-TEST(Batches, AreListedAsCutOffWithoutGuessingHowFarTheyCame)
+TEST(Batches, AreListedAsCutOffWithoutACount)
 {
     FaultyFiles files;
     BatchScene scene(files);
@@ -698,19 +698,19 @@ TEST(Batches, AreListedAsCutOffWithoutGuessingHowFarTheyCame)
     EXPECT_EQ(Listed(scene).renamed, 2u);
 }
 
-TEST(Batches, AreListedFromTheTwoEndsOfTheirJournals)
+TEST(Batches, AreListedWithoutReadingTheMiddleOfTheirJournals)
 {
     BatchScene scene;
     std::vector<CString> names;
     for (int number = 0; number < 2400; ++number)
         names.push_back(Name(number));
     RenameEach(scene, names);
-    // Every second one fails, which makes the checkpoint longer than the part that is read at first.
+    // Every second one fails, so the checkpoint is longer than the part that is read first.
     for (std::size_t index = 0; index < names.size(); index += 2)
         scene.Write(names[index] + u"2", "in the way");
     EXPECT_EQ(scene.Apply().done, 1200u);
     EXPECT_EQ(Listed(scene).renamed, 1200u);
-    // What stands in between is not looked at.
+    // The part between the ends is not read.
     const std::filesystem::path journal = ToStdPath(scene.JournalFolder()) / "000001.applied";
     std::fstream file(journal, std::ios::in | std::ios::out | std::ios::binary);
     file.seekp(static_cast<std::streamoff>(std::filesystem::file_size(journal) / 2));
@@ -720,7 +720,7 @@ TEST(Batches, AreListedFromTheTwoEndsOfTheirJournals)
     EXPECT_GE(scene.Undo(1).error.Find(u"damaged"), 0);
 }
 
-TEST(Batches, SayAChangeOfTheSizeAloneAndOneOfTheTimeAlone)
+TEST(Batches, ReportAChangedSizeAndAChangedTime)
 {
     BatchScene scene;
     const VyrPlatform::FileTicks early = TicksOfUnixTime(1'700'000'000);
@@ -740,7 +740,7 @@ TEST(Batches, SayAChangeOfTheSizeAloneAndOneOfTheTimeAlone)
         EXPECT_EQ(entry.hasChanged, entry.before != scene.Path(u"same"));
 }
 
-TEST(Batches, SayWhichFilesHaveChangedSince)
+TEST(Batches, ReportFilesThatHaveChangedSince)
 {
     BatchScene scene;
     for (const char16_t* name : {u"same", u"longer", u"replaced"})
@@ -748,7 +748,7 @@ TEST(Batches, SayWhichFilesHaveChangedSince)
     scene.Rename(u"same", u"1").Rename(u"longer", u"2").Rename(u"replaced", u"3");
     scene.Apply();
     scene.Write(u"2", "more content than before");
-    // As programs save: a new file that takes the old one's place.
+    // Many programs save so: a new file replaces the old one.
     scene.Write(u"new", "saved");
     std::filesystem::rename(ToStdPath(scene.Path(u"new")), ToStdPath(scene.Path(u"3")));
     EXPECT_EQ(scene.Undo().done, 3u);
@@ -772,7 +772,7 @@ TEST(Batches, ReportBothPathsWhenTheyAreUndone)
     EXPECT_EQ(scene.entries[1].after, scene.Path(u"e"));
 }
 
-TEST(Batches, DoNotReplaceWhatStandsAtAnOldPathWhenTheyAreUndone)
+TEST(Batches, OverwriteNothingWhenTheyAreUndone)
 {
     BatchScene scene;
     for (const char16_t* name : {u"1", u"2", u"3"})
@@ -785,13 +785,13 @@ TEST(Batches, DoNotReplaceWhatStandsAtAnOldPathWhenTheyAreUndone)
     EXPECT_EQ(summary.failed, 1u);
     EXPECT_EQ(summary.refused, 2u);
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"1", "came later"}, {"2", "1"}, {"3", "2"}, {"4", "3"}}));
-    // It can be tried again.
+    // A second attempt is possible.
     std::filesystem::remove(ToStdPath(scene.Path(u"1")));
     EXPECT_EQ(scene.Undo().done, 3u);
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"1", "1"}, {"2", "2"}, {"3", "3"}}));
 }
 
-TEST(Batches, DoNotTouchAFileThatTookThePathOfAnEntryThatFailed)
+TEST(Batches, NeverTouchAFileAtThePathOfAnEntryThatFailed)
 {
     BatchScene scene;
     scene.Write(u"a");
@@ -804,7 +804,7 @@ TEST(Batches, DoNotTouchAFileThatTookThePathOfAnEntryThatFailed)
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"b", "b"}, {"x", "of someone else"}}));
 }
 
-TEST(Batches, NameWhatIsNotThereAnyMoreWhenTheyAreUndone)
+TEST(Batches, ReportMissingFilesWhenTheyAreUndone)
 {
     BatchScene scene;
     scene.Write(u"a");
@@ -819,13 +819,13 @@ TEST(Batches, NameWhatIsNotThereAnyMoreWhenTheyAreUndone)
     EXPECT_EQ(scene.batches.List().at(0).state, BatchState::Undone);
 }
 
-TEST(Batches, StayInTheJournalWhenNoneOfTheirFilesIsThere)
+TEST(Batches, StayInTheJournalWhenAllTheirFilesAreMissing)
 {
     BatchScene scene;
     scene.Write(u"d/a");
     scene.Rename(u"d/a", u"d/b");
     scene.Apply();
-    // As a disk that is not mounted.
+    // Like a disk that is not mounted.
     std::filesystem::rename(ToStdPath(scene.Path(u"d")), ToStdPath(scene.Path(u"elsewhere")));
     EXPECT_NE(scene.Undo().error, u"");
     std::filesystem::rename(ToStdPath(scene.Path(u"elsewhere")), ToStdPath(scene.Path(u"d")));
@@ -874,7 +874,7 @@ TEST(Batches, CanBeClosedLaterWhenTheJournalCannotBe)
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"a", "a"}}));
 }
 
-TEST(Batches, AreUndoneByWhatStandsOnTheDiskWhenTheJournalLacksItsEnd)
+TEST(Batches, AreUndoneByTheStateOfTheDiskWhenTheJournalLacksItsEnd)
 {
     FaultyFiles files;
     BatchScene scene(files);
@@ -891,7 +891,7 @@ TEST(Batches, AreUndoneByWhatStandsOnTheDiskWhenTheJournalLacksItsEnd)
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"a", "a"}, {"b", "b"}, {"y", "in the way"}}));
 }
 
-TEST(Batches, AreRefusedWhileAnotherProgramWorksOnOne)
+TEST(Batches, AreRefusedWhileAnotherProgramHasTheLock)
 {
     BatchScene scene;
     scene.Write(u"a");

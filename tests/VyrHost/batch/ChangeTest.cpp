@@ -1,4 +1,4 @@
-// Changes that are no renames, proved by a small kind: the content of a file.
+// Changes other than renames, tested with a small kind: the content of a file.
 #include <VyrHost/model/Change.h>
 
 #include <VyrHost/batch/DiskLooks.h>
@@ -35,7 +35,7 @@ using testing::HasSubstr;
 constexpr std::uint32_t missingFile = 2;
 constexpr const char* half = "half";
 
-/// Called before and after a file's content is set; may throw, as if the program ended there.
+/// Called before and after a file's content is set; may throw, as if the program ended then.
 std::function<void(Moment moment)> onWrite;
 
 /// Sets the content of a file, in two steps.
@@ -90,7 +90,7 @@ ChangeKinds KindsOfTest()
              }}};
 }
 
-/// Three files whose contents are to be changed in one batch.
+/// Three files, and batches that change their contents.
 class Changes : public testing::Test
 {
 protected:
@@ -102,7 +102,7 @@ protected:
     }
     ~Changes() override { onWrite = {}; }
 
-    /// The folders down to the files, and changes of the contents of `names`.
+    /// A batch that changes the contents of `names`.
     [[nodiscard]] NewBatch Make(const std::vector<std::u16string_view>& names) const
     {
         NewBatch batch;
@@ -188,7 +188,7 @@ TEST_F(Changes, AreListedWithTheirCommandAndFolder)
     EXPECT_EQ(batches[0].firstTo, u"\"new\"");
 }
 
-TEST_F(Changes, KeepWhatAnotherProgramHasChangedSince)
+TEST_F(Changes, DoNotUndoWhatAnotherProgramHasChangedSince)
 {
     Apply();
     m_scene.Write(u"b", "mine");
@@ -199,7 +199,7 @@ TEST_F(Changes, KeepWhatAnotherProgramHasChangedSince)
     EXPECT_EQ(m_scene.entries[1].result.reason, u"another program has changed it since");
 }
 
-TEST_F(Changes, AreNotAppliedToWhatIsNoLongerAsItWasListed)
+TEST_F(Changes, AreNotAppliedToFilesThatHaveChangedSinceTheyWereListed)
 {
     m_scene.Write(u"a", "mine");
     std::filesystem::remove(ToStdPath(m_scene.Path(u"c")));
@@ -209,13 +209,13 @@ TEST_F(Changes, AreNotAppliedToWhatIsNoLongerAsItWasListed)
     EXPECT_EQ(applied.failed, 1u);
     ASSERT_EQ(m_results.size(), 3u);
     EXPECT_EQ(m_results[2].error, missingFile);
-    // What was not done is not undone either, whatever the files hold by now.
+    // A change that was not applied is not undone, whatever the file contains by now.
     m_scene.Write(u"a", "new");
     EXPECT_EQ(m_scene.Undo().done, 1u);
     EXPECT_EQ(m_scene.Now(), (FolderSnapshot{{"a", "new"}, {"b", "old"}}));
 }
 
-TEST_F(Changes, AreLeftWhereTheWorkWasStopped)
+TEST_F(Changes, AreNotAppliedAfterAStop)
 {
     const BatchSummary applied = Apply([left = 1]() mutable { return left-- == 0; });
     EXPECT_TRUE(applied.wasStopped);
@@ -226,7 +226,7 @@ TEST_F(Changes, AreLeftWhereTheWorkWasStopped)
     EXPECT_EQ(m_scene.Now(), AllAre("old"));
 }
 
-TEST_F(Changes, AreRecoveredFromWhereverTheyWereCutOff)
+TEST_F(Changes, AreRecoveredWhereverTheyWereCutOff)
 {
     for (const Recovery recovery : {Recovery::Finish, Recovery::Undo})
         for (int write = 0; write < 6; ++write) {
@@ -245,7 +245,7 @@ TEST_F(Changes, AreRecoveredFromWhereverTheyWereCutOff)
         }
 }
 
-TEST_F(Changes, OfAKindThatIsNotKnownAreRefusedAndTheirJournalIsLeft)
+TEST_F(Changes, OfAnUnknownKindAreRefusedAndTheirJournalIsKept)
 {
     Apply();
     const std::filesystem::path journal = ToStdPath(m_scene.JournalFolder()) / "000001.applied";
@@ -262,7 +262,7 @@ TEST_F(Changes, OfAKindThatIsNotKnownAreRefusedAndTheirJournalIsLeft)
     EXPECT_EQ(after.str(), before.str());
 }
 
-TEST_F(Changes, AreRefusedWhereTheirKindNeverWritesSuchTexts)
+TEST_F(Changes, WithTextsThatTheirKindNeverWritesAreRefused)
 {
     Journal journal;
     NewBatch batch = Make({u"a"});
@@ -278,7 +278,7 @@ TEST_F(Changes, AreRefusedWhereTheirKindNeverWritesSuchTexts)
     EXPECT_FALSE(ReadJournal(TextOf(journal), problem, KindsOfTest()));
 }
 
-TEST_F(Changes, GoTogetherWithRenamesOfTheSameFiles)
+TEST_F(Changes, AndRenamesOfTheSameFilesCanBeInOneBatch)
 {
     m_scene.Rename(u"a", u"x").Rename(u"b", u"a");
     const auto make = [this] {

@@ -1,4 +1,3 @@
-// Lets file operations end the program.
 #include <tests/VyrHost/batch/CutOffScene.h>
 
 #include <gtest/gtest.h>

@@ -9,7 +9,7 @@
 
 namespace VyrTests {
 
-/// Thrown in place of the program's end.
+/// Thrown instead of ending the program.
 struct CutOff
 {};
 
@@ -20,7 +20,7 @@ enum class Moment
     After
 };
 
-/// Lets the program end at the change `change`, counted from now on.
+/// Ends the program at the change `change`, counted from now on.
 void CutOffAt(FaultyFiles& files, std::size_t change, Moment moment);
 void LetWork(FaultyFiles& files);
 /// @return whether `work` was cut off.
@@ -31,7 +31,7 @@ using Arrange = void (*)(BatchScene& scene);
 /// Three files "a", "b" and "c", to be renamed to "x", "y" and "z".
 void ArrangeThree(BatchScene& scene);
 
-/// A scene whose batch is cut off behind its first `renames` renames.
+/// A scene whose batch is cut off after its first `renames` renames.
 class CutOffScene
 {
 public:

@@ -1,4 +1,4 @@
-// What is found at the sources of a batch, on both threads that look.
+// The states of the sources of a batch, which two threads read.
 #include <VyrHost/batch/DiskLooks.h>
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ using VyrPlatform::FileSystem::Kind;
 
 namespace {
 
-/// Files in many folders, each as long as its place in the plan.
+/// Files in many folders; the size of each is its index in the plan.
 class SourceStates : public testing::Test
 {
 protected:
@@ -61,7 +61,7 @@ TEST_F(SourceStates, AreThoseOfTheFilesInTheOrderOfThePlan)
     }
 }
 
-TEST_F(SourceStates, AreMissingWithTheReasonWhereNothingIs)
+TEST_F(SourceStates, AreMissingWithTheReasonWhereThereIsNoFile)
 {
     Write(300);
     std::filesystem::remove(ToStdPath(m_folder.Path(u"5/5.jpg")));

@@ -1,4 +1,3 @@
-// Counts changes to the disk, and lets them fail.
 #include <tests/VyrHost/batch/FaultyFiles.h>
 #include <tests/support/StdPath.h>
 
@@ -47,7 +46,7 @@ private:
     std::unique_ptr<FolderOperations> m_folder;
 };
 
-// No test can see whether the disk has what is written, and waiting for it would take most of their time.
+// No test can see whether data has reached the disk, and waiting for it would take most of the tests' time.
 std::uint32_t WriteWithoutWaiting(const CString& path, const VyrHostPlatform::DurableFile::Content& content)
 {
     const std::filesystem::path file = ToStdPath(path);

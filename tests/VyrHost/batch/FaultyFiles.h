@@ -8,7 +8,7 @@
 
 namespace VyrTests {
 
-/// What a change to the disk is, and what it is done to.
+/// A change to the disk: the operation, and the name that it is done to.
 struct FileChange
 {
     enum class Kind
@@ -17,7 +17,7 @@ struct FileChange
         MakeFolder,
         RemoveFolder,
         DropSecondName,
-        /// Of the journal.
+        /// Creates a journal.
         WriteNew,
         Append,
         RenameFile,
@@ -25,24 +25,24 @@ struct FileChange
         Flush
     };
     Kind kind;
-    /// An entry's name (its old one), or the path of a journal file.
+    /// The old name of an entry, or the path of a journal file.
     CString name;
     CString newName;
 };
 
-/// Passes everything on to the system, and calls two functions around every change.
+/// Passes all operations on to the system, and calls two functions around each change.
 class FaultyFiles final : public VyrHost::Batch::FileOperations
 {
 public:
-    /// Called before a change, with its number from 0 on: an error code to be given instead of doing it, or 0. May
-    /// throw, as if the program ended before the change.
+    /// Called before a change, with its number from 0. Returns an error code with which the change fails, or 0 to do
+    /// it. May throw, as if the program ended before the change.
     std::function<std::uint32_t(const FileChange& change, std::size_t number)> before;
     /// Called after a change that succeeded. May throw, as if the program ended after it.
     std::function<void(const FileChange& change, std::size_t number)> after;
-    /// Instead of the system's answer to how folders compare names.
+    /// Replaces the system's answer to how folders compare names.
     std::function<VyrHostPlatform::NameFolding(const CString& path)> folding;
 
-    /// How many changes were asked for.
+    /// The number of changes so far.
     [[nodiscard]] std::size_t Changes() const { return m_changes; }
 
     std::unique_ptr<VyrHost::Batch::FolderOperations> OpenFolder(const CString& path, std::uint32_t& error) override;
@@ -54,7 +54,7 @@ public:
     std::uint32_t Remove(const CString& path) override;
     std::uint32_t FlushFolder(const CString& path) override;
 
-    /// Does `change` by `act`, between the two functions.
+    /// Calls `act` for `change`, between the two functions.
     std::uint32_t Change(const FileChange& change, const std::function<std::uint32_t()>& act);
 
 private:

@@ -1,4 +1,4 @@
-// Journals that a disk or somebody has damaged: each is refused, or what is read of it is what was written.
+// Damaged journals: each is refused, or gives exactly what was written.
 #include <VyrHost/batch/JournalText.h>
 
 #include <gtest/gtest.h>
@@ -52,11 +52,11 @@ TEST(JournalDamage, IsNoticedWhereAnyBitIsFlipped)
         ExpectSame(MustRead(damaged), expected);
         EXPECT_EQ(MustRead(damaged).check, expected.check);
     }
-    // At most the letters of the two checks may be written large instead of small.
+    // Only the letters of the two checksums may be capitals instead of small.
     EXPECT_LE(harmless, 16u);
 }
 
-TEST(JournalDamage, OfAMarkLeavesTheLastWholeOne)
+TEST(JournalDamage, OfACheckpointLeavesTheLastWholeOne)
 {
     std::uint32_t check = 0;
     const Journal journal = MakeJournal();
@@ -74,7 +74,8 @@ TEST(JournalDamage, OfAMarkLeavesTheLastWholeOne)
         damaged[bit / 8] = static_cast<char>(damaged[bit / 8] ^ (1 << bit % 8));
         const Journal read = MustRead(damaged);
         ASSERT_TRUE(read.checkpoint) << bit;
-        // In the first checkpoint, the last one counts still; in the last, the first, unless nothing was changed.
+        // With a damaged first checkpoint the last one still counts; with a damaged last one the first counts, unless
+        // nothing was changed.
         const bool isLast = read.checkpoint->isBackward;
         EXPECT_TRUE(isLast || bit / 8 >= startOfLast) << bit;
         ExpectSame(read.checkpoint, isLast ? last : first);
@@ -86,11 +87,11 @@ TEST(JournalDamage, OfAMarkLeavesTheLastWholeOne)
         EXPECT_EQ(outline->entriesBefore, read.checkpoint->entriesBefore.size()) << bit;
         EXPECT_EQ(outline->entriesTemporary, read.checkpoint->entriesTemporary.size()) << bit;
     }
-    // The letters of its check, and the empty line before it.
+    // The letters of its checksum, and the empty line before it.
     EXPECT_LE(lastOfAll, 16u);
 }
 
-TEST(JournalDamage, BehindItsEndChangesNothingButTheMark)
+TEST(JournalDamage, BehindTheEndOfThePlanAffectsOnlyTheCheckpoint)
 {
     std::uint32_t check = 0;
     const std::string plan = TextOf(MakeJournal(), check);
@@ -117,7 +118,7 @@ TEST(JournalDamage, IsNoticedWhereALineIsMissingOrTwice)
     for (std::size_t place = 0; place < lines.size(); ++place) {
         std::vector<std::string> damaged = lines;
         damaged.insert(damaged.begin() + static_cast<std::ptrdiff_t>(place), lines[place]);
-        // Behind the last line there are checkpoints, which may be cut off.
+        // Checkpoints follow the last line, and may be cut off.
         EXPECT_EQ(IsRefused(Joined(damaged)), place + 1 < lines.size()) << lines[place];
         damaged = lines;
         damaged.erase(damaged.begin() + static_cast<std::ptrdiff_t>(place));
@@ -138,7 +139,7 @@ TEST(JournalDamage, IsNoticedWhereTwoLinesAreSwapped)
         }
 }
 
-TEST(JournalDamage, IsNoticedWhereAPieceDidNotReachTheDisk)
+TEST(JournalDamage, IsNoticedWhereABlockDidNotReachTheDisk)
 {
     std::vector<std::string> pieces;
     const Journal journal = LongJournal(20'000);
@@ -160,7 +161,7 @@ TEST(JournalDamage, IsNoticedWhereAPieceDidNotReachTheDisk)
         damaged[place].assign(pieces[place].size(), '\0');
         EXPECT_TRUE(IsRefused(Joined(damaged))) << place;
         damaged[place] = pieces[place] + pieces[place];
-        // All that is behind the end stands where checkpoints do.
+        // Behind the end of the plan there are only checkpoints.
         EXPECT_EQ(IsRefused(Joined(damaged)), place + 1 < pieces.size()) << place;
         damaged[place] = pieces[(place + 1) % pieces.size()];
         EXPECT_TRUE(IsRefused(Joined(damaged))) << place;
@@ -168,7 +169,7 @@ TEST(JournalDamage, IsNoticedWhereAPieceDidNotReachTheDisk)
     }
 }
 
-/// Runs one test and says whether that took neither long nor much memory: what 2^32 things take does both.
+/// Runs one test and tells whether it took little time and memory. Reading 2^32 things takes much of both.
 class Modesty
 {
 public:
@@ -209,7 +210,7 @@ TEST(JournalDamage, OfItsCountsIsNoticedAtOnceAndTakesLittleMemory)
             }
 }
 
-TEST(JournalDamage, OfAMarkWithItsCheckIsNoticedAndTakesLittleMemory)
+TEST(JournalDamage, OfACheckpointWithAValidChecksumIsNoticedAndTakesLittleMemory)
 {
     std::uint32_t check = 0;
     const std::string plan = TextOf(MakeJournal(), check);
@@ -228,7 +229,7 @@ TEST(JournalDamage, OfAMarkWithItsCheckIsNoticedAndTakesLittleMemory)
     }
 }
 
-TEST(JournalDamage, OfMarksBeforeTheLastIsOverlooked)
+TEST(JournalDamage, OfCheckpointsBeforeTheLastIsIgnored)
 {
     constexpr std::uint32_t count = 100'000;
     std::uint32_t check = 0;

@@ -1,4 +1,4 @@
-// The ends of journals, which are read without what stands between them.
+// Reading only the beginning and the end of journals; keeping and locking them.
 #include <VyrHost/batch/JournalFolder.h>
 
 #include <gtest/gtest.h>
@@ -22,7 +22,7 @@ class JournalEnds : public testing::Test
 protected:
     JournalEnds() { EXPECT_EQ(m_folder.Lock(), u""); }
 
-    /// A journal whose heading and checkpoints are of these lengths at least.
+    /// A journal whose heading and checkpoints have at least these lengths.
     JournalFile Begin(int headingLength, PlanIndex checkpointRanges)
     {
         Journal journal;
@@ -88,7 +88,7 @@ TEST_F(JournalEnds, AreEmptyWhereThereIsNoJournal)
 
 namespace {
 
-/// A folder of journals of which each is kept as long as it is said.
+/// A folder of journals with limits of how many are kept, and how long.
 class JournalKept : public testing::Test
 {
 protected:
@@ -102,7 +102,7 @@ protected:
         ASSERT_EQ(folder.SetPhase(file, phase), 0u);
     }
 
-    /// Says that the last work on a batch was so many days ago.
+    /// Sets the time of the last work on a batch to `days` ago.
     void Age(std::uint32_t number, int days) const
     {
         constexpr VyrPlatform::FileTicks ticksPerDay = VyrPlatform::FileTicks{24} * 60 * 60 * 10'000'000;
@@ -133,7 +133,7 @@ TEST_F(JournalKept, AreTheLatest)
     EXPECT_EQ(Numbers(), (std::vector<std::uint32_t>{4, 5, 6}));
 }
 
-TEST_F(JournalKept, AreTheLastTwoHundredOfNinetyDaysUnlessToldOtherwise)
+TEST_F(JournalKept, AreTheLastTwoHundredOfNinetyDaysByDefault)
 {
     EXPECT_EQ(JournalKeeping().batches, 200u);
     EXPECT_EQ(JournalKeeping().days, 90);
@@ -156,7 +156,7 @@ TEST_F(JournalKept, AreThoseOfTheLastDays)
     EXPECT_EQ(Numbers(), (std::vector<std::uint32_t>{2, 4, 5}));
 }
 
-TEST_F(JournalKept, AreThoseThatAreNotFinishedHoweverOld)
+TEST_F(JournalKept, AreUnfinishedOnesOfAnyAge)
 {
     Begin(BatchPhase::Applying, {});
     Begin(BatchPhase::Undoing, {});
@@ -167,7 +167,7 @@ TEST_F(JournalKept, AreThoseThatAreNotFinishedHoweverOld)
     EXPECT_EQ(Numbers(), (std::vector<std::uint32_t>{1, 2, 4}));
 }
 
-TEST(JournalLock, IsTakenOnceTheOtherProgramHasReleasedIt)
+TEST(JournalLock, IsTakenWhenTheOtherProgramReleasesIt)
 {
     const VyrTests::ScratchFolder scratch;
     auto other = std::make_unique<JournalFolder>(SystemFiles(), scratch.Path(u"journal"));
@@ -183,7 +183,7 @@ TEST(JournalLock, IsTakenOnceTheOtherProgramHasReleasedIt)
     EXPECT_EQ(waits, 3);
 }
 
-TEST(JournalLock, IsGivenUpWhenTheWaitEnds)
+TEST(JournalLock, FailsWhenTheWaitEnds)
 {
     const VyrTests::ScratchFolder scratch;
     JournalFolder other(SystemFiles(), scratch.Path(u"journal"));

@@ -1,4 +1,4 @@
-// Journals as text: everything comes back, and nothing that is damaged is taken for whole.
+// Journals as text: all values are read as they were written, and damaged journals are refused.
 #include <VyrHost/batch/JournalLines.h>
 #include <VyrHost/batch/JournalText.h>
 
@@ -23,7 +23,7 @@ using VyrPlatform::FileSystem::Kind;
 
 TEST(Checksum, IsTheUsualCrc32)
 {
-    // The check value of the catalogues of checksums.
+    // The published check value of this checksum.
     EXPECT_EQ(Checksum(0, "123456789"), 0xCBF43926u);
     EXPECT_EQ(Checksum(0, ""), 0u);
 }
@@ -54,20 +54,20 @@ std::string Written(const CString& name)
     return text;
 }
 
-TEST(JournalName, StandsAsItIsInUtf8)
+TEST(JournalName, IsWrittenInUtf8)
 {
     EXPECT_EQ(Written(u"holiday 01.jpg"), "holiday 01.jpg");
     EXPECT_EQ(Written(u"\u00E9t\u00E9 \U0001F600"), "\u00E9t\u00E9 \U0001F600");
 }
 
-TEST(JournalName, EscapesWhatWouldNotComeBack)
+TEST(JournalName, EscapesUnitsThatWouldNotBeReadBack)
 {
     EXPECT_EQ(Written(u"a\tb\nc\\d\x7F"), "a\\u0009b\\u000ac\\u005cd\\u007f");
     EXPECT_EQ(Written(CString(u'\xDC80', 1)), "\\udc80");
     EXPECT_EQ(Written(CString(u"x") + CString(u'\xD83D', 1)), "x\\ud83d");
 }
 
-TEST(JournalName, ComesBackUnitByUnit)
+TEST(JournalName, IsReadBackUnitByUnit)
 {
     std::mt19937 random(1);
     const char16_t units[] = {u'a', u'\\', u'u', u'\n', 0, 0x7F, 0xE9, 0xD83D, 0xDE00, 0xDC80, 0xFFFD, 0xFFFF};
@@ -126,7 +126,7 @@ TEST(JournalName, RefusesBrokenEscapes)
         EXPECT_EQ(ReadJournalName(text), std::nullopt) << text;
 }
 
-/// The root as a path, and as a journal writes it.
+/// The root as a path, and as journals write it.
 CString Root()
 {
     return Full(u"");
@@ -140,7 +140,7 @@ std::string SeparatorText()
     return VyrPlatform::FileSystem::Separator() == u'/' ? "/" : "\\u005c";
 }
 
-/// What stands behind the heading of a journal written by hand, `rename` being the first word of its renames.
+/// The lines after the heading of a journal written by hand; `rename` is the first word of its renames.
 std::string HandWrittenPlan(const std::string& rename)
 {
     return "folder\t-\to\t" + RootText() + "\nfolder\t0\tn\tn\n" + rename + "\tf\t1\t2\t3\t4\t5\t0\ta\t1\tb\t-\t-\n" +
@@ -157,7 +157,7 @@ std::string HandWrittenText()
     return WithCheck(WithCheck(heading) + HandWrittenPlan("rename"));
 }
 
-/// The same as version 2 has it.
+/// The same in version 2.
 std::string HandWrittenTextOfVersionTwo()
 {
     const std::string heading = "vyr-journal\t2\nbatch\t7\t18364758544493064720\t2024/05/06 07:08:09\t2\t3\t4\t" +
@@ -231,7 +231,7 @@ TEST(JournalText, IsRefusedWhereItsLinesAreOfAnotherVersion)
     EXPECT_TRUE(IsRefused(WithCheck(text.substr(0, text.find("folder\t-")) + HandWrittenPlan("entry"))));
 }
 
-TEST(JournalText, ContinuesTheChecksOfMarksFromThatOfItsEnd)
+TEST(JournalText, ContinuesTheChecksumsOfCheckpointsFromThatOfItsEnd)
 {
     const std::string text = HandWrittenText();
     const std::uint32_t check = BitwiseCrc(0, text.substr(0, text.rfind('\t')));
@@ -249,12 +249,12 @@ TEST(JournalText, ContinuesTheChecksOfMarksFromThatOfItsEnd)
     // The empty line ends a checkpoint that was cut off.
     EXPECT_EQ(WriteCheckpoint(firstCheckpoint, check), "\n" + firstLine);
     EXPECT_EQ(WriteCheckpoint(secondCheckpoint, check), "\n" + secondLine);
-    // The check of a checkpoint of another batch.
+    // The checksum of a checkpoint of another batch.
     const std::string other = second + CheckField(BitwiseCrc(check ^ 1, second));
     ExpectSame(MustRead(text + firstLine + other).checkpoint, firstCheckpoint);
 }
 
-TEST(JournalText, ComesBackWhole)
+TEST(JournalText, IsReadBackWhole)
 {
     const Journal journal = MakeJournal();
     const Journal read = MustRead(TextOf(journal));
@@ -268,7 +268,7 @@ TEST(JournalText, HoldsMoreStepsThanALine)
     EXPECT_EQ(MustRead(TextOf(journal)).plan.steps, journal.plan.steps);
 }
 
-TEST(JournalText, GivesItsHeadingFromItsFirstLines)
+TEST(JournalText, HasItsHeadingInItsFirstLines)
 {
     const std::string text = TextOf(MakeJournal());
     const std::size_t end = text.find('\n', text.find('\n') + 1) + 1;
@@ -284,7 +284,7 @@ TEST(JournalText, GivesItsHeadingFromItsFirstLines)
     EXPECT_FALSE(problem.IsEmpty());
 }
 
-TEST(JournalText, KeepsTheLastMark)
+TEST(JournalText, GivesTheLastCheckpoint)
 {
     const Journal journal = MakeJournal();
     std::uint32_t check = 0;
@@ -305,7 +305,7 @@ TEST(JournalText, KeepsTheLastMark)
     EXPECT_EQ(read.check, check);
 }
 
-TEST(JournalText, OverlooksAMarkThatWasCutOff)
+TEST(JournalText, IgnoresACheckpointThatWasCutOff)
 {
     const Journal journal = MakeJournal();
     std::uint32_t check = 0;
@@ -316,12 +316,12 @@ TEST(JournalText, OverlooksAMarkThatWasCutOff)
         const std::string cut = text + first + second.substr(0, length);
         ASSERT_TRUE(MustRead(cut).checkpoint);
         EXPECT_THAT(MustRead(cut).checkpoint->entriesBefore, testing::ElementsAre(3));
-        // What is appended next counts again.
+        // A checkpoint that is appended afterwards is valid.
         EXPECT_THAT(MustRead(cut + second).checkpoint->entriesBefore, testing::ElementsAre(4));
     }
 }
 
-TEST(JournalText, GivesItsLastMarkFromItsEnd)
+TEST(JournalText, GivesTheLastCheckpointFromTheEndOfItsText)
 {
     std::uint32_t check = 0;
     const std::string plan = TextOf(MakeJournal(), check);
@@ -342,12 +342,12 @@ TEST(JournalText, GivesItsLastMarkFromItsEnd)
         EXPECT_EQ(read->entriesBefore, 4u);
         EXPECT_EQ(read->entriesTemporary, 1u);
     }
-    // A part of the last one does not count.
+    // A part of the last one is ignored.
     for (std::size_t cut = 1; cut < 10; ++cut)
         EXPECT_EQ(ReadLastCheckpoint(FindCheckpoints(text.substr(0, text.size() - cut)), 5)->entriesBefore, 1u);
 }
 
-TEST(JournalText, GivesNoLastMarkThatCannotBe)
+TEST(JournalText, GivesNoImpossibleCheckpoint)
 {
     std::uint32_t check = 0;
     const std::string plan = TextOf(MakeJournal(), check);
@@ -359,7 +359,7 @@ TEST(JournalText, GivesNoLastMarkThatCannotBe)
     EXPECT_FALSE(isGiven(CheckpointAt({0, 1, 2, 3, 4}), 4));
     EXPECT_FALSE(isGiven(CheckpointAt({0, 1, 2}, {0, 1, 2}), 5));
     EXPECT_FALSE(isGiven(CheckpointAt({1, 0}), 5));
-    // Billions of entries are counted, not kept.
+    // Billions of entries are counted, not stored.
     std::string text = "\nend\t00000000\nmark\tf\te\t0-4294967293\t\t";
     const std::string content = text.substr(text.find("mark"));
     const std::string whole = text + CheckField(BitwiseCrc(0, content));
@@ -368,7 +368,7 @@ TEST(JournalText, GivesNoLastMarkThatCannotBe)
     EXPECT_EQ(read->entriesBefore, 4294967294u);
 }
 
-/// Writes `journal`, which has a fault that the checks do not show.
+/// Writes `journal`, which has a fault but correct checksums, and expects that it is refused.
 void ExpectRefused(const Journal& journal)
 {
     EXPECT_TRUE(IsRefused(TextOf(journal)));
@@ -429,7 +429,7 @@ TEST(JournalText, RefusesStepsThatAreNotComplete)
     ExpectRefused(journal);
 }
 
-TEST(JournalText, RefusesAFolderThatWouldEndUpInsideItself)
+TEST(JournalText, RefusesAFolderThatWouldMoveIntoItself)
 {
     Journal journal = MakeJournal();
     for (PlanEntry& entry : journal.plan.entries)
@@ -438,7 +438,7 @@ TEST(JournalText, RefusesAFolderThatWouldEndUpInsideItself)
     ExpectRefused(journal);
 }
 
-TEST(JournalText, SaysWhatAnUnknownVersionIs)
+TEST(JournalText, NamesAnUnknownVersion)
 {
     for (const char* text : {"vyr-journal\t1\t12345678\n", "vyr-journal\t4\n"}) {
         CString problem;
@@ -449,13 +449,13 @@ TEST(JournalText, SaysWhatAnUnknownVersionIs)
     }
 }
 
-/// `text` up to its end, with `line` in the place of its lines of steps, and with the check that belongs to it.
+/// `text` up to its end, with `line` instead of its lines of steps, and with a correct checksum.
 std::string WithSteps(const std::string& text, const std::string& line)
 {
     return WithCheck(text.substr(0, text.find("\nsteps") + 1) + line + "\nend");
 }
 
-TEST(JournalText, WritesStepsThatFollowEachOtherAsARange)
+TEST(JournalText, WritesConsecutiveStepsAsARange)
 {
     PathRenames list;
     for (const char16_t* name : {u"a", u"b", u"c", u"d"})
@@ -469,7 +469,7 @@ TEST(JournalText, WritesStepsThatFollowEachOtherAsARange)
     EXPECT_NE(TextOf(journal).find("\nsteps\tr3\tr1-2\tr0\nend\t"), text.npos);
 }
 
-TEST(JournalText, IsNotReadWhenItsRangesOfStepsCannotBe)
+TEST(JournalText, IsRefusedWithImpossibleRangesOfSteps)
 {
     PathRenames list;
     list.Add(Full(u"a"), Full(u"b"), Kind::File);
@@ -486,7 +486,7 @@ TEST(JournalText, IsNotReadWhenItsRangesOfStepsCannotBe)
     }
 }
 
-TEST(JournalText, IsNotReadWhenItSpeaksOfMoreStepsThanItsEntriesCanHave)
+TEST(JournalText, IsRefusedWithMoreStepsThanItsEntriesCanHave)
 {
     const std::string text = WithCheck("vyr-journal\t2\nbatch\t1\t2\t\t0\t0\t4294967294\t\t");
     CString problem;
@@ -494,7 +494,7 @@ TEST(JournalText, IsNotReadWhenItSpeaksOfMoreStepsThanItsEntriesCanHave)
     EXPECT_GE(problem.Find(u"too many steps"), 0);
 }
 
-TEST(JournalText, ComesInPiecesThatMakeTheWhole)
+TEST(JournalText, IsWrittenInPiecesThatMakeTheWhole)
 {
     const Journal journal = LongJournal(5000);
     std::string text;

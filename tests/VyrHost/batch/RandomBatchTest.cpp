@@ -19,7 +19,7 @@ using namespace VyrHost::Batch;
 using namespace VyrTests;
 using VyrPlatform::FileSystem::Kind;
 
-/// Fills a scene by chance. Few names in few folders, so that they meet.
+/// Fills a scene at random. The names and folders are few, so that conflicts occur.
 class RandomScene
 {
 public:
@@ -55,7 +55,7 @@ private:
     const std::u16string& Choose(const std::vector<std::u16string>& texts) { return texts[Below(texts.size())]; }
     std::u16string Name() { return std::u16string(1, u"abcdef\u00E9"[Below(7)]); }
 
-    /// One at a free path, one at a path that may be taken, and one in the first.
+    /// Adds a folder at a free path, one at a path that may be taken, and one in the first.
     void AddNewFolders(std::vector<std::u16string>& folders, const std::vector<std::u16string>& entries)
     {
         const std::u16string taken = Choose(entries);
@@ -113,7 +113,7 @@ TEST(RandomBatches, LoseNothingWhateverFails)
         const FolderSnapshot before = scene.Now();
         std::mt19937 random(seed);
         files.before = [&random, &faults](const FileChange& change, std::size_t) {
-            // Without a journal nothing would be done; a folder that cannot be removed stays for good.
+            // Without a journal nothing would be done; a folder that cannot be removed stays forever.
             const bool isSpared =
                 change.kind == FileChange::Kind::WriteNew || change.kind == FileChange::Kind::RemoveFolder;
             const bool fails = !isSpared && random() % 4 == 0;
@@ -122,7 +122,7 @@ TEST(RandomBatches, LoseNothingWhateverFails)
         };
         scene.Apply();
         EXPECT_EQ(ContentsOf(scene.Now()), ContentsOf(before));
-        // What an undo could not do, the next one does.
+        // The next undo does what the one before could not do.
         for (int attempt = 0; attempt < 3; ++attempt) {
             scene.Undo();
             if (scene.batches.FindCutOff())

@@ -1,4 +1,4 @@
-// Journals of batches by chance, with names of all kinds: what is written is what is read.
+// Journals of random batches with names of all kinds are read back as they were written.
 #include <VyrHost/batch/JournalText.h>
 
 #include <VyrHost/model/RenamePlan.h>
@@ -29,7 +29,7 @@ using VyrHostPlatform::NameFolding;
 using VyrPlatform::FileState;
 using VyrPlatform::FileSystem::Kind;
 
-/// A tree by chance, its renames (alone, in chains and in cycles, with new folders), what stood there, and checkpoints.
+/// A random tree, its renames (alone, in chains and in cycles, with new folders), file states, and checkpoints.
 class RandomBatch
 {
 public:
@@ -128,7 +128,7 @@ private:
         }
         for (std::size_t start = 0; start < m_items.size();) {
             const std::size_t end = std::min(m_items.size(), start + 1 + Below(5));
-            // The last goes to a free path, or to where the first was.
+            // The last goes to a free path, or to the old path of the first.
             const CString last = end - start == 1 || Chance(2) ? FreePath(folders) : m_items[start].path;
             for (std::size_t item = start; item < end; ++item)
                 list.Add(m_items[item].path, item + 1 < end ? m_items[item + 1].path : last, m_items[item].kind);
@@ -154,7 +154,7 @@ private:
     std::set<CString> m_taken;
 };
 
-/// How much of what a plan can hold the batches had.
+/// Counts how much of what a plan can hold occurred in the batches.
 struct Seen
 {
     std::size_t entries = 0;
@@ -177,7 +177,7 @@ struct Seen
     }
 };
 
-TEST(RandomJournal, ComesBackAsItWasWritten)
+TEST(RandomJournal, IsReadBackAsItWasWritten)
 {
     Seen seen;
     for (unsigned seed = 0; seed < 3000 && !HasFailure(); ++seed) {
@@ -205,7 +205,7 @@ TEST(RandomJournal, ComesBackAsItWasWritten)
             EXPECT_EQ(PathBefore(read.plan, read.plan.entries[entry].from.folder),
                       PathBefore(journal.plan, journal.plan.entries[entry].from.folder));
     }
-    // Else the batches would test little.
+    // Otherwise the batches would test too little.
     EXPECT_GT(seen.entries, 20'000u);
     EXPECT_GT(seen.aside, 1000u);
     EXPECT_GT(seen.newFolders, 1000u);
@@ -213,7 +213,7 @@ TEST(RandomJournal, ComesBackAsItWasWritten)
     EXPECT_GT(seen.waiting, 5000u);
 }
 
-/// Renames whose names hold each unit that a name can, alone and between others.
+/// Renames whose names contain each code unit that a name can have, alone and between others.
 PathRenames ListOfEveryUnit()
 {
     PathRenames list;

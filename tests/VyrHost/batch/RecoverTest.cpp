@@ -1,4 +1,4 @@
-// Batches that are cut off at any moment, and what recover makes of them.
+// Recovery of batches that are cut off at any moment.
 #include <tests/VyrHost/batch/CutOffScene.h>
 #include <tests/support/Describe.h>
 #include <tests/support/ScratchFolder.h>
@@ -17,7 +17,7 @@ using namespace VyrHost::Batch;
 using namespace VyrTests;
 namespace fs = std::filesystem;
 
-/// Something of everything.
+/// Files and renames of every sort.
 void ArrangeMuch(BatchScene& scene)
 {
     for (const char16_t* name : {u"1", u"2", u"a", u"b", u"x", u"y", u"z", u"case", u"d/f", u"d/s/g", u"into", u"n"})
@@ -56,7 +56,7 @@ VyrHostPlatform::NameFolding FoldAll(const CString&)
 class CutOffAnywhere : public testing::TestWithParam<Arrange>
 {
 protected:
-    /// What the batch makes of the tree, and how many changes that takes.
+    /// The trees before and after the batch, and the number of changes between.
     struct Course
     {
         FolderSnapshot before;
@@ -184,14 +184,14 @@ TEST(Recover, IsItselfRecoveredWhereverItIsCutOff)
     EXPECT_GT(cutOffTwice, 50u);
 }
 
-TEST(Recover, SaysThatThereIsNothingToDo)
+TEST(Recover, ReportsThatThereIsNothingToDo)
 {
     BatchScene scene;
     EXPECT_EQ(scene.batches.FindCutOff(), std::nullopt);
     EXPECT_EQ(scene.Recover(Recovery::Finish).error, u"no batch was cut off");
 }
 
-TEST(Recover, LeavesAnExtraNameThatItsFileHadBefore)
+TEST(Recover, KeepsAHardLinkThatItsFileHadBefore)
 {
     CutOffScene cut(
         [](BatchScene& arranged) {
@@ -206,7 +206,7 @@ TEST(Recover, LeavesAnExtraNameThatItsFileHadBefore)
 TEST(Recover, FindsFilesThatWereReplacedMeanwhile)
 {
     CutOffScene cut(ArrangeThree, 1);
-    // A program that saves by a new file.
+    // Like a program that saves by writing a new file.
     cut.scene.Write(u"new", "saved");
     fs::rename(ToStdPath(cut.scene.Path(u"new")), ToStdPath(cut.scene.Path(u"x")));
     EXPECT_EQ(cut.scene.Recover(Recovery::Undo).done, 3u);
@@ -215,10 +215,10 @@ TEST(Recover, FindsFilesThatWereReplacedMeanwhile)
         EXPECT_EQ(entry.hasChanged, entry.before == cut.scene.Path(u"a"));
 }
 
-TEST(Recover, LeavesAloneWhatItCannotTell)
+TEST(Recover, DoesNotTouchFilesThatItCannotIdentify)
 {
     CutOffScene cut(ArrangeThree, 1);
-    // As long as the file is there its number is given to no other.
+    // While the file exists no other file has its number.
     const ScratchFolder elsewhere;
     fs::rename(ToStdPath(cut.scene.Path(u"b")), ToStdPath(elsewhere.Path(u"b")));
     cut.scene.Write(u"b", "of someone else");
@@ -274,19 +274,19 @@ TEST(Recover, AbandonsABatchAndKeepsItsJournalWhole)
     EXPECT_EQ(scene.batches.FindCutOff(), std::nullopt);
     EXPECT_EQ(scene.batches.AbandonCutOff().error, u"no batch was cut off");
     EXPECT_THAT(scene.JournalFiles(), testing::ElementsAre("000001.abandoned"));
-    // Others go on, under numbers of their own.
+    // Other batches can begin, under new numbers.
     scene.list = {};
     scene.Write(u"other");
     scene.Rename(u"other", u"another");
     EXPECT_EQ(scene.Apply().number, 2u);
     EXPECT_EQ(scene.Undo().done, 1u);
-    // Under its old name it can be recovered still.
+    // Under its old name it can still be recovered.
     fs::rename(ToStdPath(abandoned.to), ToStdPath(abandoned.from));
     EXPECT_EQ(scene.Recover(Recovery::Undo).done, 3u);
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"a", "a"}, {"b", "b"}, {"c", "c"}, {"other", "other"}}));
 }
 
-TEST(Recover, SaysWhyAJournalCannotBeAbandoned)
+TEST(Recover, ReportsWhyAJournalCannotBeAbandoned)
 {
     CutOffScene cut(ArrangeThree, 1);
     cut.files.before = [](const FileChange& change, std::size_t) {

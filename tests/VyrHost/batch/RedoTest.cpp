@@ -1,4 +1,4 @@
-// Undos that are done again, and previews of both.
+// Redo, and previews of undo and redo.
 #include <gmock/gmock.h>
 #include <tests/VyrHost/batch/BatchScene.h>
 #include <tests/VyrHost/batch/CutOffScene.h>
@@ -18,7 +18,7 @@ using testing::ElementsAre;
 const FolderSnapshot before{{"a", "a"}, {"b", "b"}, {"c", "c"}};
 const FolderSnapshot after{{"x", "a"}, {"y", "b"}, {"z", "c"}};
 
-TEST(Redo, DoesTheBatchAgainAndTheNextUndoHasANewNumber)
+TEST(Redo, RepeatsTheBatchAndTheNextUndoHasANewNumber)
 {
     BatchScene scene;
     ArrangeThree(scene);
@@ -52,7 +52,7 @@ TEST(Redo, HandlesSwapsAndNewFolders)
     EXPECT_EQ(scene.Now(), before);
 }
 
-TEST(Redo, LeavesWhatTheBatchHadNotDone)
+TEST(Redo, DoesNotDoWhatTheBatchHadNotDone)
 {
     BatchScene scene;
     ArrangeThree(scene);
@@ -77,7 +77,7 @@ TEST(Redo, OverwritesNothing)
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"a", "a"}, {"x", "mine"}, {"y", "b"}, {"z", "c"}}));
 }
 
-TEST(Redo, StaysAnUndoneBatchWhereNothingCouldBeDone)
+TEST(Redo, LeavesTheBatchUndoneWhereNothingCouldBeDone)
 {
     BatchScene scene;
     ArrangeThree(scene);
@@ -93,7 +93,7 @@ TEST(Redo, StaysAnUndoneBatchWhereNothingCouldBeDone)
     EXPECT_EQ(scene.Now(), after);
 }
 
-TEST(Redo, IsRecoveredFromWhereverItWasCutOff)
+TEST(Redo, IsRecoveredWhereverItWasCutOff)
 {
     for (const Recovery recovery : {Recovery::Finish, Recovery::Undo})
         for (const Moment moment : {Moment::Before, Moment::After})
@@ -112,7 +112,7 @@ TEST(Redo, IsRecoveredFromWhereverItWasCutOff)
                     EXPECT_EQ(scene.Recover(recovery).error, u"") << change;
                     EXPECT_EQ(scene.Now(), recovery == Recovery::Finish ? after : before) << change;
                 }
-                // Whatever came of it, undo and redo go on from there.
+                // In either case undo and redo work afterwards.
                 if (scene.batches.List().at(0).state == BatchState::Applied) {
                     EXPECT_EQ(scene.Undo().error, u"") << change;
                 }

@@ -1,4 +1,3 @@
-// Makes journals for tests and compares what is read with what was written.
 #include <tests/VyrHost/batch/SampleJournal.h>
 
 #include <VyrHost/rename/Planner.h>

@@ -39,7 +39,7 @@ protected:
         return text;
     }
 
-    /// What the journal says of the file that was called `name` and stands at `now`.
+    /// The journal's line for the file that was called `name` and is at `now`.
     [[nodiscard]] std::string EntryLine(const std::string& name, const CString& now, const std::string& rest) const
     {
         const VyrPlatform::FileState state = VyrPlatform::LookAtFile(m_scene.Path(now));
@@ -49,7 +49,7 @@ protected:
                std::to_string(m_folders - 1) + "\t" + rest + "\n";
     }
 
-    /// The journal while the files stand at `a`, `b` and `c`.
+    /// The journal while the files are at `a`, `b` and `c`.
     [[nodiscard]] std::string Text(const CString& a, const CString& b, const CString& c)
     {
         std::string folders;
@@ -134,7 +134,7 @@ TEST_F(VersionTwo, IsRecoveredBothWays)
     }
 }
 
-TEST_F(VersionTwo, IsLeftAsItIsWhereTheVersionIsNotKnown)
+TEST_F(VersionTwo, IsNotChangedWhereTheVersionIsUnknown)
 {
     Keep("000001.applied", "vyr-journal\t4\nwhatever\n");
     const BatchSummary undone = m_scene.Undo(1);

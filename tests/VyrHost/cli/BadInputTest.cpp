@@ -1,4 +1,4 @@
-// Tests of the program: calls that make no sense are refused before anything is touched, with the reason.
+// Tests of the program: wrong calls are refused with the reason before anything is changed.
 #include "VyrProgram.h"
 
 #include <gmock/gmock.h>
@@ -74,14 +74,14 @@ TEST_F(BadInput, NumbersThatEndBeforeTheList)
     WriteNamed({u"a", u"b", u"d/c", u"d/e"});
     ExpectRefused({u"--number", u"#", u"--start", u"2147483647", u"a", u"b"}, "would count to 2147483648; numbers go");
     ExpectRefused({u"--number", u"#", u"--step=-2147483648", u"a", u"b", u"d/c"}, "would count to -4294967295;");
-    // Each folder has its own count.
+    // Each folder is counted on its own.
     const ProgramResult result =
         Rename({u"--number", u"#", u"--start=2147483646", u"--number-per-folder", u"a", u"b", u"d/c", u"d/e"});
     EXPECT_EQ(result.exitCode, 0) << result.errors;
     EXPECT_THAT(result.output, HasSubstr("b    ->  2147483647\n"));
 }
 
-TEST_F(BadInput, OptionsGivenEmpty)
+TEST_F(BadInput, EmptyOptions)
 {
     WriteNamed({u"a"});
     for (const char16_t* const option : {u"--pairs", u"--sort", u"--on-conflict", u"--conflict-pattern",
@@ -131,7 +131,7 @@ TEST_F(BadInput, LettersAndTokensThatMeanNothing)
     ExpectRefused({u"--number", u"<Nmae> #", u"a"}, "it knows no <Nmae>, only <Name>, <Number>");
 }
 
-TEST_F(BadInput, WordsThatAreUnknown)
+TEST_F(BadInput, UnknownWords)
 {
     WriteNamed({u"a"});
     ExpectRefused({u"--sufix", u"!", u"a"}, "vyr rename has no option '--sufix'; did you mean --suffix?");
@@ -139,7 +139,7 @@ TEST_F(BadInput, WordsThatAreUnknown)
     ExpectRefused({u"--dgiits=3", u"--number", u"#", u"a"}, "'--dgiits'; did you mean --digits?");
     ExpectRefused({u"--no-such-thing-at-all", u"a"}, "vyr rename has no option '--no-such-thing-at-all'\n");
     ExpectRefused({u"-x", u"a"}, "vyr rename has no option '-x'\n");
-    // What follows an option is its value, whatever it looks like.
+    // The word behind an option is its value, whatever it looks like.
     EXPECT_EQ(Rename({u"--suffix", u"--sufix", u"a"}).exitCode, 0);
     const std::vector<std::pair<std::vector<CString>, std::string>> calls = {
         {{u"renmae", u"a"},
@@ -171,7 +171,7 @@ TEST_F(BadInput, AStandardInputThatCannotBeRead)
     }
 }
 
-TEST_F(BadInput, PairsWithoutAny)
+TEST_F(BadInput, AnEmptyListOfPairs)
 {
     m_folder.WriteFile(u"empty.csv", "\n\n");
     ExpectRefused({u"--pairs", u"empty.csv"}, "there are no pairs of names in 'empty.csv'");
@@ -212,7 +212,7 @@ TEST_F(BadInput, ContradictoryOptions)
     }
 }
 
-TEST_F(BadInput, OptionsThatChangeNothingWithoutAnother)
+TEST_F(BadInput, OptionsThatHaveNoEffectWithoutAnother)
 {
     WriteNamed({u"a", u"b.x", u"d/e"});
     const std::string numbering = "say how names are numbered";
@@ -234,7 +234,7 @@ TEST_F(BadInput, OptionsThatChangeNothingWithoutAnother)
     }
 }
 
-TEST_F(BadInput, OptionsAreTakenWhereTheyChangeSomething)
+TEST_F(BadInput, OptionsAreTakenWhereTheyHaveAnEffect)
 {
     WriteNamed({u"a", u".b", u"d/e", u"d/f"});
     const std::vector<std::vector<CString>> calls = {

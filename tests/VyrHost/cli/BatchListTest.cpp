@@ -1,4 +1,4 @@
-// Tests of the program: what "vyr undo --list" says of batches that ended in every way.
+// Tests of the program: the rows of "vyr undo --list" for batches that ended in different ways.
 #include "VyrProgram.h"
 
 #include <tests/VyrHost/batch/BatchScene.h>
@@ -20,7 +20,7 @@ using testing::StartsWith;
 
 namespace {
 
-/// A batch of three renames, worked on in this program, and listed by vyr.
+/// A batch of three renames, done in this process and listed by vyr.
 class BatchList : public VyrProgram
 {
 protected:
@@ -47,7 +47,7 @@ protected:
         };
     }
 
-    /// What the list says has become of the batch.
+    /// The state of the batch in the list.
     [[nodiscard]] std::string Listed() const
     {
         const ProgramResult result = Run({u"undo", u"--list", u"--quiet", u"--columns", u"summary"});
@@ -56,7 +56,7 @@ protected:
         return result.output.substr(0, result.output.size() - 1);
     }
 
-    /// What the list for programs says between the time and the paths.
+    /// The part of the JSON between the time and the paths.
     [[nodiscard]] std::string ListedAsJson() const
     {
         const std::string output = Run({u"undo", u"--list", u"--json"}).output;
@@ -70,7 +70,7 @@ protected:
 
 } // namespace
 
-TEST_F(BatchList, CountsTheEntriesOfOneThatWasDone)
+TEST_F(BatchList, CountsTheEntriesOfAnAppliedBatch)
 {
     m_scene.Apply();
     EXPECT_EQ(Listed(), "applied, 3 entries");
@@ -96,7 +96,7 @@ TEST_F(BatchList, IsATableWithHeadingsAndATotal)
     EXPECT_THAT(output, HasSubstr("  " + from + "2\n"));
 }
 
-TEST_F(BatchList, IsSortedAsAskedFor)
+TEST_F(BatchList, IsSortedOnRequest)
 {
     m_scene.Apply();
     m_scene.list = {};
@@ -121,14 +121,14 @@ TEST_F(BatchList, IsATableForSpreadsheets)
     EXPECT_EQ(result.errors, "1 batch.\n");
 }
 
-TEST_F(BatchList, TellsTheStartForProgramsAsADate)
+TEST_F(BatchList, WritesTheStartAsADateInJson)
 {
     m_scene.Apply();
     const std::string output = Run({u"undo", u"--list", u"--json", u"--columns", u"started"}).output;
     EXPECT_THAT(output, MatchesRegex("\\{\"started\":\"....-..-..T..:..:..\"\\}\n"));
 }
 
-TEST_F(BatchList, TakesTheOptionsOfListsForListsAlone)
+TEST_F(BatchList, TakesTheOptionsOfListsOnlyWithList)
 {
     m_scene.Apply();
     for (const std::vector<CString>& options :
@@ -145,7 +145,7 @@ TEST_F(BatchList, TakesTheOptionsOfListsForListsAlone)
     EXPECT_THAT(unknown.errors, HasSubstr("the columns are number, started, command,"));
 }
 
-TEST_F(BatchList, SaysHowFarOneCameThatWasInterrupted)
+TEST_F(BatchList, CountsTheEntriesOfAnInterruptedBatch)
 {
     m_scene.Apply(StopAfter(2));
     EXPECT_EQ(Listed(), "stopped, 2 of 3 entries");
@@ -158,7 +158,7 @@ TEST_F(BatchList, SaysHowFarOneCameThatWasInterrupted)
     EXPECT_EQ(Listed(), "undone (undo 2), 3 entries");
 }
 
-TEST_F(BatchList, CountsWithoutTheEntriesThatFailed)
+TEST_F(BatchList, DoesNotCountEntriesThatFailed)
 {
     m_scene.Write(u"b2", "in the way");
     m_scene.Apply();
@@ -169,7 +169,7 @@ TEST_F(BatchList, CountsWithoutTheEntriesThatFailed)
     EXPECT_EQ(ListedAsJson(), R"("state":"undone in part","undo":2,"entries":3,"renamed":1,"stopped":false)");
 }
 
-TEST_F(BatchList, CountsWhatWasNotFoundWhenItWasUndone)
+TEST_F(BatchList, CountsEntriesThatTheUndoDidNotFind)
 {
     m_scene.Apply();
     std::filesystem::remove(ToStdPath(m_scene.Path(u"b2")));
@@ -178,7 +178,7 @@ TEST_F(BatchList, CountsWhatWasNotFoundWhenItWasUndone)
     EXPECT_EQ(ListedAsJson(), R"("state":"undone","undo":2,"entries":3,"renamed":1,"stopped":false)");
 }
 
-TEST_F(BatchList, DoesNotGuessHowFarOneCameThatWasCutOff)
+TEST_F(BatchList, GivesNoCountForABatchThatWasCutOff)
 {
     FailWhen(FileChange::Kind::RenameFile, u".applied");
     m_scene.Apply();
@@ -192,7 +192,7 @@ TEST_F(BatchList, DoesNotGuessHowFarOneCameThatWasCutOff)
     EXPECT_EQ(Listed(), "cut off while it was undone, at most 3 entries");
 }
 
-TEST_F(BatchList, DoesNotCallOneCutOffThatAnotherProgramWorksOn)
+TEST_F(BatchList, TellsABatchInWorkFromOneThatWasCutOff)
 {
     FailWhen(FileChange::Kind::RenameFile, u".applied");
     m_scene.Apply();
@@ -205,7 +205,7 @@ TEST_F(BatchList, DoesNotCallOneCutOffThatAnotherProgramWorksOn)
     EXPECT_EQ(Listed(), "cut off, at most 3 entries");
 }
 
-TEST_F(BatchList, RecoveringSaysWhichWayTheEntriesGo)
+TEST_F(BatchList, RecoveryShowsTheDirectionOfEachEntry)
 {
     m_scene.Apply();
     FailWhen(FileChange::Kind::RenameFile, u".taken-back");
@@ -219,7 +219,7 @@ TEST_F(BatchList, RecoveringSaysWhichWayTheEntriesGo)
     EXPECT_EQ(m_scene.Now(), (FolderSnapshot{{"a", "a"}, {"b", "b"}, {"c", "c"}}));
 }
 
-TEST_F(BatchList, DoesNotGuessHowFarOneCameWhoseJournalLacksItsEnd)
+TEST_F(BatchList, GivesNoExactCountWhereTheJournalLacksItsEnd)
 {
     FailWhen(FileChange::Kind::Append, u"");
     m_scene.Apply();
@@ -227,7 +227,7 @@ TEST_F(BatchList, DoesNotGuessHowFarOneCameWhoseJournalLacksItsEnd)
     EXPECT_EQ(ListedAsJson(), R"("state":"applied","entries":3,"stopped":false)");
 }
 
-TEST_F(BatchList, SaysWhatIsWrongWithADamagedJournal)
+TEST_F(BatchList, ReportsTheDamageOfAJournal)
 {
     m_scene.Apply();
     std::filesystem::resize_file(ToStdPath(m_scene.JournalFolder()) / "000001.applied", 60);

@@ -66,7 +66,7 @@ TEST_F(ChangeCommands, TimesAreShownSideBySideAppliedAndUndone)
     EXPECT_EQ(FileTimes::GetModified(path), TicksOfUnixTime(1'580'702'700));
 }
 
-TEST_F(ChangeCommands, TimesAreListedWhereNothingIsToBeChanged)
+TEST_F(ChangeCommands, TimesAreListedWithoutAChange)
 {
     Make(u"a.txt");
     const ProgramResult result = Run({u"times", u"a.txt", u"--json"});
@@ -75,7 +75,7 @@ TEST_F(ChangeCommands, TimesAreListedWhereNothingIsToBeChanged)
     EXPECT_THAT(result.output, HasSubstr("\"accessed\":\"2024-01-05T10:31:00+00:00\""));
 }
 
-TEST_F(ChangeCommands, WhatCannotBeChangedIsSaidInItsRow)
+TEST_F(ChangeCommands, RowSaysWhyAnEntryCannotBeChanged)
 {
     Make(u"IMG_20230102_030405.jpg");
     Make(u"IMG_20230230_030405.jpg");
@@ -102,7 +102,7 @@ TEST_F(ChangeCommands, ListIsStaggeredInItsOrder)
     EXPECT_EQ(FileTimes::GetModified(m_folder.Path(u"p10")), TicksOfUnixTime(start + 120));
 }
 
-TEST_F(ChangeCommands, WhatAnotherProgramHasChangedSinceStays)
+TEST_F(ChangeCommands, ChangesOfAnotherProgramAreNotUndone)
 {
     const CString mine = Make(u"a");
     const CString other = Make(u"b");
@@ -115,7 +115,7 @@ TEST_F(ChangeCommands, WhatAnotherProgramHasChangedSinceStays)
     EXPECT_EQ(FileTimes::GetModified(other), TicksOfUnixTime(1));
 }
 
-TEST_F(ChangeCommands, ReadOnlyFileIsNotGivenTimes)
+TEST_F(ChangeCommands, TimesOfReadOnlyFileAreNotSet)
 {
     const CString path = Make(u"a");
     SetReadOnly(path, true);
@@ -142,7 +142,7 @@ TEST_F(ChangeCommands, AttributesAreChangedAndUndone)
     EXPECT_EQ(FileAttributes::Get(path), before);
 }
 
-TEST_F(ChangeCommands, AllAttributesAreClearedButThoseThatAreSet)
+TEST_F(ChangeCommands, AllAttributesAreClearedExceptThoseThatAreSet)
 {
     const CString path = Make(u"a");
     ASSERT_EQ(FileAttributes::Set(path, 0x7), 0U);
@@ -153,7 +153,7 @@ TEST_F(ChangeCommands, AllAttributesAreClearedButThoseThatAreSet)
     EXPECT_EQ(FileAttributes::Set(path, 0), 0U);
 }
 
-TEST_F(ChangeCommands, MarksAreRemovedAndComeBack)
+TEST_F(ChangeCommands, MarksAreRemovedAndRestored)
 {
     const CString marked = Make(u"a.zip");
     Make(u"b.zip");
@@ -171,7 +171,7 @@ TEST_F(ChangeCommands, MarksAreRemovedAndComeBack)
     EXPECT_TRUE(IsMarkedAsDownloaded(marked));
 }
 
-TEST_F(ChangeCommands, RenamedFilesAreUndoneWhereTheyStand)
+TEST_F(ChangeCommands, RenamedFilesAreUndoneAtTheirNewPaths)
 {
     const CString path = Make(u"a");
     ASSERT_EQ(Run({u"times", u"--shift=1h", u"a", u"--apply"}).exitCode, 0);

@@ -23,7 +23,7 @@ protected:
 
 } // namespace
 
-TEST_F(ChoiceOptions, WhatIsLeftOutIsCountedAndStaysAsItIs)
+TEST_F(ChoiceOptions, EntriesLeftOutAreCountedAndNotChanged)
 {
     WriteNamed({u"a.jpg", u"b.txt", u"sub/c.jpg", u"cache/d.jpg"});
     const ProgramResult result =
@@ -36,7 +36,7 @@ TEST_F(ChoiceOptions, WhatIsLeftOutIsCountedAndStaysAsItIs)
                                                            {"cache/d.jpg", "cache/d.jpg"}}));
 }
 
-TEST_F(ChoiceOptions, CaseCountsWhereThatIsAskedFor)
+TEST_F(ChoiceOptions, CaseIsMatchedOnRequest)
 {
     WriteNamed({u"a.jpg", u"B.JPG"});
     const ProgramResult result = Prefixed({u"-r", u".", u"--include=*.JPG", u"--match-case"});
@@ -44,7 +44,7 @@ TEST_F(ChoiceOptions, CaseCountsWhereThatIsAskedFor)
     EXPECT_THAT(result.output, HasSubstr("1 entry was left out.\n"));
 }
 
-TEST_F(ChoiceOptions, DateAndSizeChooseTogether)
+TEST_F(ChoiceOptions, DateAndSizeMustBothMatch)
 {
     WriteNamed({u"old", u"new"});
     m_folder.WriteFile(u"large", std::string(2000, 'x'));

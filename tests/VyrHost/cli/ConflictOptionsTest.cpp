@@ -49,8 +49,8 @@ NameFuncs::CONFLICTITEM ItemOf(const Numbering& numbering)
     return item;
 }
 
-/// Where each of `entries`, in this order, goes when all want the first letter of their names and `disk` is there: what
-/// leaves its name frees it, what was given is taken.
+/// The new name of each of `entries`, in this order, when all want the first letter of their names and `disk` exists:
+/// entries that leave their names free them, assigned names are taken.
 std::map<std::string, std::string> Model(std::set<std::string> disk, const std::vector<std::string>& entries, int start,
                                          int step)
 {
@@ -92,7 +92,7 @@ TEST_F(ConflictOptions, NumberAsTheEngineDoesWhereOnlyTheDiskMatters)
     }
 }
 
-TEST_F(ConflictOptions, DigitsFillTheNumberOfThePatternUp)
+TEST_F(ConflictOptions, DigitsPadTheNumberOfThePattern)
 {
     WriteNamed({u"ax.txt", u"ay.txt", u"az.txt"});
     std::vector<CString> call = {u"--keep-first", u"1", u"--conflict-digits", u"3"};
@@ -185,7 +185,7 @@ TEST_F(ConflictOptions, NumberOnlyWhereARuleAllowsIt)
     EXPECT_THAT(Rename({u"--extension", u"z", u"b.x", u"b.y"}).output, HasSubstr("b (1).z  numbered"));
 }
 
-TEST_F(ConflictOptions, SkippingLeavesWhatIsInTheWayAndWhatIsBehindIt)
+TEST_F(ConflictOptions, SkippedEntriesKeepTheirNamesAndBlockOthers)
 {
     WriteNamed({u"a", u"b1", u"b", u"c"});
     const ProgramResult result = Rename({u"--replace", u"b1", u"a", u"--on-conflict", u"skip", u"--apply", u"b1"});

@@ -80,7 +80,7 @@ TEST_F(DateTokens, TheCameraLosesWhatNoNameMayHold)
     EXPECT_EQ(Named({u"--date", u"(<Make>)(<Model>)", u"--date-from", u"picture", u"c.jpg"}), "(A____B)(C D).jpg");
 }
 
-TEST_F(DateTokens, MakeAndModelCannotLeadOutOfTheFolder)
+TEST_F(DateTokens, MakeAndModelCannotNameAnotherFolder)
 {
     WritePicture(u"p.jpg", "2024:07:19 18:45:03", "..", ".");
     for (const char16_t* const format : {u"<Make><Folder><Name>", u"<Model><Folder><Name>"}) {
@@ -91,7 +91,7 @@ TEST_F(DateTokens, MakeAndModelCannotLeadOutOfTheFolder)
     EXPECT_TRUE(m_folder.Has(u"p.jpg"));
 }
 
-TEST_F(DateTokens, FoldersAreMadeWhenAppliedAndTakenAwayByUndo)
+TEST_F(DateTokens, FoldersAreCreatedByApplyAndRemovedByUndo)
 {
     WritePicture(u"p.jpg", "2024:07:19 18:45:03");
     WritePicture(u"d/q.jpg", "2023:01:02 03:04:05");
@@ -111,17 +111,17 @@ TEST_F(DateTokens, FoldersAreMadeWhenAppliedAndTakenAwayByUndo)
     EXPECT_FALSE(m_folder.Has(u"d/2023"));
 }
 
-TEST_F(DateTokens, OnlyTheTokenInTheFormatIsAStep)
+TEST_F(DateTokens, OnlyTheTokenInTheFormatNamesAFolder)
 {
     m_folder.WriteFile(u"p.txt");
     Change(u"p.txt", COleDateTime(2002, 12, 31, 23, 59, 58));
-    // The token's letters are literal elsewhere.
+    // In other texts the token's letters are literal.
     EXPECT_THAT(Named({u"--replace", u"p", u"<Folder>", u"--date", u"yyyy<Name>", u"p.txt"}),
                 StartsWith("2002<Folder>.txt"));
     EXPECT_THAT(Named({u"--date", u"yyyy'<folder>'<Name>", u"p.txt"}), StartsWith("2002<folder>p.txt"));
 }
 
-TEST_F(DateTokens, AFileThatIsInTheWayOfAFolderRefusesTheMove)
+TEST_F(DateTokens, AMoveIsRefusedWhereAFileHasTheNameOfTheFolder)
 {
     m_folder.WriteFile(u"p.txt", "p");
     Change(u"p.txt", COleDateTime(2002, 12, 31, 23, 59, 58));
@@ -148,14 +148,14 @@ TEST_F(DateTokens, APictureDecidesForItsSidecarWhereItsDateComesFirst)
     EXPECT_THAT(
         Rename({u"--date", u"yyyy", u"--date-from", u"modified,picture", u"--together", u"p.jpg", u"p.aae"}).output,
         StartsWith("p.jpg  ->  2001.jpg  date: modified\np.aae  ->  2001.aae  date: modified\n"));
-    // The rule that has to take a later date tells, whatever the rules behind it find.
+    // The rule that takes the later date is reported, whatever date the next rules take.
     EXPECT_THAT(Rename({u"--date", u"yyyy", u"--date-from", u"picture,modified", u"--date", u"<Name>-MM",
                         u"--date-from", u"modified", u"--together", u"p.aae", u"p.jpg"})
                     .output,
                 StartsWith("p.aae  ->  2024-02.aae  date: picture\np.jpg  ->  2024-02.jpg  date: picture\n"));
 }
 
-TEST_F(DateTokens, TheRowSaysWhichDateAChoiceTook)
+TEST_F(DateTokens, TheRowNamesTheDateThatWasTaken)
 {
     WritePicture(u"p.jpg", "2024:07:19 18:45:03");
     m_folder.WriteFile(u"t.txt");

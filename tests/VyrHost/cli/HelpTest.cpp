@@ -1,4 +1,4 @@
-// Tests of the program: what it says of itself, and that its examples hold.
+// Tests of the program: its help and version, and that the examples in the help work.
 #include "VyrProgram.h"
 
 #include <gmock/gmock.h>
@@ -115,7 +115,7 @@ TEST_F(Help, SaysThatNothingToUndoIsTheExitCodeFour)
     EXPECT_EQ(Run({u"undo"}).exitCode, 4);
 }
 
-TEST_F(Help, ThatCannotBeWrittenIsSaid)
+TEST_F(Help, ThatCannotBeWrittenIsAnError)
 {
     ProgramCall call = CallOf({u"rename", u"--help"});
     call.isOutputClosed = true;
@@ -124,7 +124,7 @@ TEST_F(Help, ThatCannotBeWrittenIsSaid)
     EXPECT_THAT(result.errors, StartsWith("vyr: the output cannot be written: "));
 }
 
-TEST_F(Help, IsAskedForWhenNoCommandIsGiven)
+TEST_F(Help, IsNamedWhenNoCommandIsGiven)
 {
     const ProgramResult result = Run({});
     EXPECT_EQ(result.exitCode, 2);
@@ -139,7 +139,7 @@ TEST_F(Help, EveryExampleOfRenameRuns)
     const std::vector<std::string> examples = Examples(Run({u"rename", u"--help"}).output);
     EXPECT_GE(examples.size(), 5u);
     for (const std::string& example : examples) {
-        // What stands before a pipe is another program, which names files each ended by a NUL.
+        // Before a pipe there is another program, which writes names that each end in a NUL.
         const std::size_t pipe = example.find("| ");
         const bool hasInput = pipe != std::string::npos;
         std::vector<CString> arguments = Arguments(hasInput ? example.substr(pipe + 2) : example);
@@ -156,7 +156,7 @@ TEST_F(Help, EveryExampleOfUndoRunsAfterABatch)
     const std::vector<std::string> examples = Examples(Run({u"undo", u"--help"}).output);
     EXPECT_GE(examples.size(), 2u);
     for (const std::string& example : examples) {
-        // A journal of its own, so that the batch of each example is the first.
+        // A new folder of journals, so that the batch of each example has the number 1.
         const ScratchFolder journal;
         m_environment[u"VYR_JOURNAL_DIR"] = journal.Path();
         m_folder.WriteFile(u"old.txt");

@@ -25,7 +25,7 @@ protected:
 
     using FolderSnapshot = std::map<std::string, std::string>;
 
-    /// Every file holds its first name.
+    /// Writes files that each contain their name.
     void Arrange()
     {
         for (int number = 0; number < count; ++number) {
@@ -35,7 +35,7 @@ protected:
         }
     }
 
-    /// Starts a call, and interrupts it between the change by which something comes to `name` and the next one.
+    /// Starts the program and interrupts it between the change that creates `name` and the next one.
     ProgramResult InterruptWhenThere(const std::vector<CString>& arguments, const std::string& name,
                                      const std::string& input = {}) const
     {
@@ -59,7 +59,7 @@ protected:
         return InterruptWhenThere(arguments, "xf0", m_names);
     }
 
-    /// How many files have the new name; that each holds its own content is tested on the way.
+    /// The number of files with the new name; also tests that each has its own content.
     [[nodiscard]] int CountRenamed() const
     {
         const FolderSnapshot files = Files();
@@ -89,7 +89,7 @@ protected:
 
 } // namespace
 
-TEST_F(InterruptedBatch, SaysWhatWasDoneAndCanBeUndone)
+TEST_F(InterruptedBatch, ReportsWhatWasDoneAndCanBeUndone)
 {
     Arrange();
     const ProgramResult result = InterruptRename();
@@ -104,7 +104,7 @@ TEST_F(InterruptedBatch, SaysWhatWasDoneAndCanBeUndone)
     EXPECT_EQ(CountRenamed(), 0);
 }
 
-TEST_F(InterruptedBatch, QuietSaysOneSummaryAndTheWayOn)
+TEST_F(InterruptedBatch, WithQuietPrintsOneSummaryAndTheNextCommand)
 {
     Arrange();
     const ProgramResult result = InterruptRename({u"--quiet"});
@@ -116,11 +116,11 @@ TEST_F(InterruptedBatch, QuietSaysOneSummaryAndTheWayOn)
     EXPECT_EQ(std::count(result.errors.begin(), result.errors.end(), '\n'), 2) << result.errors;
 }
 
-TEST_F(InterruptedBatch, UndoSaysWhatWasDoneAndCanGoOn)
+TEST_F(InterruptedBatch, UndoReportsWhatWasDoneAndCanBeContinued)
 {
     Arrange();
     ASSERT_EQ(Rename({u"--prefix", u"x", u"--apply", u"--quiet", u"f*"}).exitCode, 0);
-    // The last one is undone first.
+    // Undo begins with the last one.
     const ProgramResult result = InterruptWhenThere({u"undo"}, "f" + std::to_string(count - 1));
     const int left = CountRenamed();
     EXPECT_GT(left, 0);

@@ -24,7 +24,7 @@ protected:
 
     using Files = std::map<std::string, std::string>;
 
-    /// "one" has many files, "two" one; both go to "to".
+    /// Writes "one" with many files and "two" with one; both are to go to "to".
     Files Arrange() const
     {
         fs::create_directories(PathOf("one"));
@@ -36,8 +36,8 @@ protected:
         return FilesIn("");
     }
 
-    /// Starts a call, and interrupts it `times` when something of "one" has come to the target, before each of its next
-    /// changes.
+    /// Starts the program and interrupts it `times` times once something of "one" is at the target, before each of the
+    /// next changes.
     ProgramResult RunInterrupted(const std::vector<CString>& arguments, int times = 1) const
     {
         ProgramCall call = CallOf(arguments);
@@ -71,7 +71,7 @@ protected:
 
 } // namespace
 
-TEST_F(InterruptedTransfer, CopyEndsTheFolderInHandAndSaysWhatWasNotReached)
+TEST_F(InterruptedTransfer, CopyFinishesTheCurrentFolderAndNamesThoseNotReached)
 {
     Arrange();
     const ProgramResult result = RunInterrupted({u"copy", u"one", u"two", u"to", u"--apply"});
@@ -86,7 +86,7 @@ TEST_F(InterruptedTransfer, CopyEndsTheFolderInHandAndSaysWhatWasNotReached)
     EXPECT_EQ(m_folder.ReadFile(u"two/file"), "2");
 }
 
-TEST_F(InterruptedTransfer, MoveLeavesTheSourceOfWhatWasNotReachedWhole)
+TEST_F(InterruptedTransfer, MoveDoesNotTouchFoldersNotReached)
 {
     Arrange();
     const ProgramResult result = RunInterrupted({u"move", u"one", u"two", u"to", u"--apply", u"--quiet"});
@@ -98,20 +98,20 @@ TEST_F(InterruptedTransfer, MoveLeavesTheSourceOfWhatWasNotReachedWhole)
     EXPECT_FALSE(m_folder.Has(u"to/two"));
 }
 
-TEST_F(InterruptedTransfer, SecondInterruptEndsAMoveAtOnceAndLosesNothing)
+TEST_F(InterruptedTransfer, SecondInterruptEndsAMoveAtOnceAndLosesNoFile)
 {
     const Files before = Arrange();
     const ProgramResult result = RunInterrupted({u"move", u"one", u"two", u"to", u"--apply"}, 2);
     EXPECT_THAT(result.exitCode, testing::Ne(1));
     EXPECT_EQ(result.output.find("2 folders"), std::string::npos) << result.output;
     EXPECT_FALSE(FilesIn("one/").empty());
-    // Every file is whole at one of its two places.
+    // Every file is complete at one of its two paths.
     for (const auto& [name, content] : before) {
         const bool isAtSource = fs::exists(PathOf(name));
         const CString there = VyrPlatform::Encoding::FromUtf8(isAtSource ? name : "to/" + name);
         EXPECT_EQ(m_folder.ReadFile(there), content) << name;
     }
-    // And the rest can go after.
+    // The next call moves the rest.
     EXPECT_EQ(Run({u"move", u"one", u"to", u"--apply", u"--quiet"}).exitCode, 0);
     EXPECT_EQ(FilesIn("to/one/").size(), std::size_t{filesInOne});
 }

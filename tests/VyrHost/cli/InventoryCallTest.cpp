@@ -41,7 +41,7 @@ TEST_F(InventoryCall, HasNoOptionsThatContradictEachOther)
     ExpectRefused({u"programs", u"--csv", u"--json"}, "--csv and --json exclude each other");
 }
 
-TEST_F(InventoryCall, HasValuesThatThereAre)
+TEST_F(InventoryCall, RefusesUnknownValues)
 {
     ExpectRefused({u"programs", u"--scope", u"both"}, "one of all, user, machine is expected");
     ExpectRefused({u"programs", u"--columns", u"name,weight"}, "the columns are name, publisher, ");

@@ -1,5 +1,5 @@
-// Tests of the program itself: killed between any two of its changes, and what "vyr recover" and "vyr undo" make of
-// that.
+// Tests of the program: killed between any two of its changes, then recovered and undone by "vyr recover" and "vyr
+// undo".
 #include <tests/VyrHost/cli/VyrProgram.h>
 #include <tests/support/StdPath.h>
 
@@ -23,7 +23,7 @@ protected:
 
     using FolderSnapshot = std::map<std::string, std::string>;
 
-    /// Between the plain renames there are swaps and cycles, so that any of them may be cut off.
+    /// Between the plain renames there are swaps and cycles, so that each sort is cut off.
     void Arrange()
     {
         for (int index = 0; index < plainRenames; ++index) {
@@ -50,8 +50,8 @@ protected:
     }
     [[nodiscard]] ProgramCall UndoAll() const { return InFiles({u"undo", u"--quiet"}); }
 
-    /// From now on the program keeps its journal in a folder that is not there yet, so that it makes the same changes
-    /// each time.
+    /// The program now keeps its journal in a folder that does not exist yet, so that it makes the same changes in each
+    /// run.
     void BeginJournal()
     {
         CString folder;
@@ -90,8 +90,8 @@ protected:
         EXPECT_EQ(ContentsOf(Now()), ContentsOf(m_before));
     }
 
-    /// Recovers in one of the two ways, which a preview offers before.
-    /// @return whether there was something to recover, as there is when some files are renamed and others are not.
+    /// Recovers in one of the two directions, which a preview names before.
+    /// @return whether there was something to recover, as when only some files are renamed.
     bool Recover(bool isUndone) const
     {
         const FolderSnapshot now = Now();
@@ -156,15 +156,15 @@ TEST_F(KilledProgram, LeavesEveryFileAndItsBatchCanBeUndoneOrFinished)
         }
         ASSERT_EQ(Now(), m_before);
     }
-    // Other kills fall before the journal is there, or after it is closed.
+    // The other kills come before the journal is created, or after it is closed.
     EXPECT_GT(recovered, 1);
 }
 
-TEST_F(KilledProgram, LosesNothingWhenItIsKilledOverItsJournal)
+TEST_F(KilledProgram, LosesNothingWhenItIsKilledWhileItWritesItsJournal)
 {
     Arrange();
     int recovered = 0;
-    // Before each change up to the first rename of a file, and behind that.
+    // Before each change up to the first rename of a file, and after it.
     for (int made = 0; Now() == m_before; ++made) {
         SCOPED_TRACE(made);
         BeginJournal();
@@ -177,7 +177,7 @@ TEST_F(KilledProgram, LosesNothingWhenItIsKilledOverItsJournal)
     EXPECT_EQ(Now(), m_before);
 }
 
-TEST_F(KilledProgram, UndoCanBeKilledToo)
+TEST_F(KilledProgram, UndoCanBeKilled)
 {
     Arrange();
     BeginJournal();
@@ -200,7 +200,7 @@ TEST_F(KilledProgram, UndoCanBeKilledToo)
         }
         ASSERT_EQ(Now(), m_before);
     }
-    // Other kills fall before the journal is there, or after it is closed.
+    // The other kills come before the journal is created, or after it is closed.
     EXPECT_GT(recovered, 1);
 }
 

@@ -49,7 +49,7 @@ TEST_F(ListCommand, ShowsNameSizeAndTheTimeOfTheLastChange)
     EXPECT_THAT(result.output, HasSubstr("2 entries."));
 }
 
-TEST_F(ListCommand, WritesCsvByTheRules)
+TEST_F(ListCommand, WritesCsvAsTheRfcSays)
 {
     MakeFiles();
     const ProgramResult result =
@@ -62,7 +62,7 @@ TEST_F(ListCommand, WritesCsvByTheRules)
     EXPECT_EQ(result.errors, "3 entries.\n");
 }
 
-TEST_F(ListCommand, TellsThePictureTheMarkAndTheAttributes)
+TEST_F(ListCommand, ShowsThePictureTheMarkAndTheAttributes)
 {
     PictureFacts facts;
     facts.dateTimeOriginal = "2019:03:04 05:06:07";
@@ -86,7 +86,7 @@ TEST_F(ListCommand, ChoosesFiles)
     EXPECT_EQ(result.errors, "1 entry. 1 entry was left out.\n");
 }
 
-TEST_F(ListCommand, WhatIsMissingIsSaid)
+TEST_F(ListCommand, MissingFilesAreReported)
 {
     MakeFiles();
     const ProgramResult result = Run({u"list", u"a.txt", u"missing"});

@@ -34,7 +34,7 @@ protected:
 
 } // namespace
 
-TEST_F(ListOrder, IsAsGivenOrTheOtherWayRound)
+TEST_F(ListOrder, IsAsGivenOrReversed)
 {
     const std::vector<CString> names = {u"c", u"a", u"b"};
     WriteNamed({u"a", u"b", u"c"});
@@ -72,7 +72,7 @@ TEST_F(ListOrder, IsBySize)
     EXPECT_EQ(Numbered({u"--sort=size", u"--descending"}, {u"three", u"many", u"none"}), "many three none");
 }
 
-TEST_F(ListOrder, IsByTheDateOfThePictureWithWhatHasNoneAtTheEnd)
+TEST_F(ListOrder, IsByTheDateOfThePictureWithUndatedFilesLast)
 {
     PictureFacts facts;
     facts.dateTimeOriginal = "2019:12:31 23:59:59";
@@ -85,7 +85,7 @@ TEST_F(ListOrder, IsByTheDateOfThePictureWithWhatHasNoneAtTheEnd)
     EXPECT_EQ(Numbered({u"--sort=picture-date", u"--descending"}, names), "second first text");
 }
 
-TEST_F(ListOrder, NumbersAnewInEachFolder)
+TEST_F(ListOrder, CountsAgainInEachFolder)
 {
     WriteNamed({u"d/a", u"e/a", u"d/b", u"e/b", u"e/c"});
     const ProgramResult result =
@@ -96,7 +96,7 @@ TEST_F(ListOrder, NumbersAnewInEachFolder)
                            {"d/05", "d/b"}, {"d/10", "d/a"}, {"e/05", "e/c"}, {"e/10", "e/b"}, {"e/15", "e/a"}}));
 }
 
-TEST_F(ListOrder, WhatKeepsTogetherTakesOneNumber)
+TEST_F(ListOrder, FilesOfAGroupTakeOneNumber)
 {
     WriteNamed({u"b.raw", u"b.jpg", u"b.xmp", u"a.jpg", u"d/b.jpg"});
     const ProgramResult result =

@@ -15,7 +15,7 @@ using FileMap = std::map<std::string, std::string>;
 
 } // namespace
 
-TEST_F(NameInput, RecursionGoesIntoTheFoldersThatAWildcardMatches)
+TEST_F(NameInput, RecursionEntersFoldersThatAWildcardMatches)
 {
     WriteNamed({u"a", u"d/b", u"d/e/c", u".h/x", u"f/.g"});
     ASSERT_EQ(Rename({u"--suffix", u"!", u"--apply", u"-r", u"*"}).exitCode, 0);
@@ -27,7 +27,7 @@ TEST_F(NameInput, RecursionGoesIntoTheFoldersThatAWildcardMatches)
               (FileMap{{"a!", "a"}, {"d/b!", "d/b"}, {"d/e/c!", "d/e/c"}, {".h/x!", ".h/x"}, {"f/.g!", "f/.g"}}));
 }
 
-TEST_F(NameInput, OnlyHoldsForWhatIsNamedToo)
+TEST_F(NameInput, OnlyAppliesToNamedEntries)
 {
     WriteNamed({u"a", u"d/b", u"d/e/c"});
     ASSERT_EQ(Rename({u"--suffix", u"!", u"--apply", u"-r", u"--only", u"folders", u"a", u"d"}).exitCode, 0);
@@ -37,7 +37,7 @@ TEST_F(NameInput, OnlyHoldsForWhatIsNamedToo)
     EXPECT_EQ(Files(), (FileMap{{"a!", "a"}, {"d/b!", "d/b"}, {"d/e!/c!", "d/e/c"}}));
 }
 
-TEST_F(NameInput, WildcardsTakeCaseAsTheFileSystemDoes)
+TEST_F(NameInput, WildcardsMatchCaseAsTheFileSystemDoes)
 {
     WriteNamed({u"a1.txt", u"A2.TXT", u"b.txt"});
     const bool isOne = m_folder.Has(u"A1.TXT");
@@ -56,7 +56,7 @@ TEST_F(NameInput, FromTheStandardInputHaveNoWildcards)
     EXPECT_THAT(result.output, StartsWith("*          refused: nothing of that name is there\na  ->  a!\n2 entries: "));
 }
 
-TEST_F(NameInput, FromTheStandardInputMayComeBehindAMarkAndWithoutALastLineEnd)
+TEST_F(NameInput, FromTheStandardInputMayHaveAByteOrderMarkAndNoLastLineEnd)
 {
     WriteNamed({u"a", u"b c"});
     EXPECT_THAT(Rename({u"--suffix", u"!", u"--stdin"}, "\xEF\xBB\xBF"
@@ -68,7 +68,7 @@ TEST_F(NameInput, FromTheStandardInputMayComeBehindAMarkAndWithoutALastLineEnd)
               "0 entries.\nThis is a preview: nothing was changed.\n");
 }
 
-TEST_F(NameInput, TablesMayQuoteAndBeginWithAMarkAndEmptyLines)
+TEST_F(NameInput, TablesMayHaveQuotesAByteOrderMarkAndEmptyLines)
 {
     WriteNamed({u"a,b", u"c d", u"e", u"f"});
     const ProgramResult result =
@@ -77,7 +77,7 @@ TEST_F(NameInput, TablesMayQuoteAndBeginWithAMarkAndEmptyLines)
     EXPECT_EQ(Files(), (FileMap{{"x,1", "a,b"}, {"y 2", "c d"}, {"z", "e"}, {"f", "f"}}));
 }
 
-TEST_F(NameInput, TablesWithTabsTakeEverythingElseAsItStands)
+TEST_F(NameInput, FieldsOfTablesWithTabsAreLiteral)
 {
     WriteNamed({u"a,b", u"c d", u"e", u"f"});
     const ProgramResult result = Rename({u"--pairs", u"-", u"--apply"}, "\n\na,b\tx,1\r\nc d\ty; 2\ne\td/z\n");
@@ -85,19 +85,19 @@ TEST_F(NameInput, TablesWithTabsTakeEverythingElseAsItStands)
     EXPECT_EQ(Files(), (FileMap{{"x,1", "a,b"}, {"y; 2", "c d"}, {"d/z", "e"}, {"f", "f"}}));
 }
 
-TEST_F(NameInput, TablesMayTurnNamesInACircle)
+TEST_F(NameInput, TablesMayRenameInACycle)
 {
     WriteNamed({u"a", u"b", u"c", u"taken"});
     EXPECT_EQ(Rename({u"--pairs", u"-", u"--apply"}, "a,b\nb,c\nc,a\n").exitCode, 0);
     EXPECT_EQ(Files(), (FileMap{{"a", "c"}, {"b", "a"}, {"c", "b"}, {"taken", "taken"}}));
-    // None of them where one cannot.
+    // All are refused where one cannot be renamed.
     const ProgramResult result = Rename({u"--pairs", u"-", u"--apply"}, "a,b\nb,taken\n");
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_THAT(result.output, HasSubstr("2 entries: 2 refused.\n"));
     EXPECT_EQ(Files(), (FileMap{{"a", "c"}, {"b", "a"}, {"c", "b"}, {"taken", "taken"}}));
 }
 
-TEST_F(NameInput, GivenOneByOneMayNotBeOneNameForTwo)
+TEST_F(NameInput, InPairsMustHaveDifferentNewNames)
 {
     WriteNamed({u"a", u"b"});
     for (const char16_t* const mode : {u"number", u"skip"}) {
@@ -111,7 +111,7 @@ TEST_F(NameInput, GivenOneByOneMayNotBeOneNameForTwo)
 
 TEST_F(NameInput, TypedTextsFindNamesInWhateverNormalForm)
 {
-    // As file systems keep them that compare names exactly; others find both forms themselves.
+    // A file system that compares names exactly stores them so; on others each form finds the other.
     WriteNamed({u"\u00e9.txt", u"e\u0301te\u0301.txt"});
     for (const CString& call : {CString(u"\u00e9t\u00e9.txt"), CString(u"e\u0301te\u0301.txt"), CString(u"\u00e9t*"),
                                 CString(u"?t?.*"), CString(u"e\u0301t*")}) {
@@ -124,7 +124,7 @@ TEST_F(NameInput, TypedTextsFindNamesInWhateverNormalForm)
                 HasSubstr("  ->  x.txt\n1 entry: 1 renamed.\n"));
 }
 
-TEST_F(NameInput, ANameAsItIsWrittenGoesBeforeItsOtherForm)
+TEST_F(NameInput, ANameAsWrittenComesBeforeItsOtherForm)
 {
     WriteNamed({u"\u00e9"});
     if (m_folder.Has(u"e\u0301"))
@@ -135,7 +135,7 @@ TEST_F(NameInput, ANameAsItIsWrittenGoesBeforeItsOtherForm)
     EXPECT_TRUE(m_folder.Has(u"\u00e9"));
 }
 
-TEST_F(NameInput, QuietSaysNothingWhereAllGoesWell)
+TEST_F(NameInput, QuietPrintsNothingOnSuccess)
 {
     WriteNamed({u"a", u"b"});
     const ProgramResult preview = Rename({u"--suffix", u"!", u"-q", u"a"});

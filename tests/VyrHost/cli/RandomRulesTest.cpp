@@ -1,5 +1,5 @@
-// A property of the program: whatever the tree and the rules, what is applied is what was shown, no content is lost,
-// and undo gives back exactly the tree before.
+// A property of the program: whatever the tree and the rules, the preview shows what apply does, no content is lost,
+// and undo restores exactly the tree before.
 #include "VyrProgram.h"
 
 #include <VyrPlatform/text/Encoding.h>
@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 class RandomRules : public VyrProgram
 {
 protected:
-    /// What stands at each path: a file's content, or "<folder>".
+    /// The entries by their paths: a file's content, or "<folder>".
     using FolderSnapshot = std::map<std::string, std::string>;
 
     [[nodiscard]] FolderSnapshot Now() const
@@ -137,7 +137,7 @@ std::string Shown(const std::vector<CString>& call)
     return text;
 }
 
-/// What is written of a preview, without what marks it as one.
+/// The JSON of a preview, without the key that marks it as a preview.
 std::string WithoutMarks(std::string json)
 {
     constexpr std::string_view mark = ",\"preview\":true";

@@ -20,7 +20,7 @@ using RenameApply = VyrProgram;
 
 } // namespace
 
-TEST_F(RenameApply, RenamesAndSaysWhichBatchItWas)
+TEST_F(RenameApply, RenamesAndTellsTheNumberOfTheBatch)
 {
     m_folder.WriteFile(u"a", "1");
     m_folder.WriteFile(u"b", "2");
@@ -33,7 +33,7 @@ TEST_F(RenameApply, RenamesAndSaysWhichBatchItWas)
     EXPECT_FALSE(m_folder.Has(u"a"));
 }
 
-TEST_F(RenameApply, RefusedEntriesDoNotKeepTheRestFromBeingRenamed)
+TEST_F(RenameApply, RefusedEntriesDoNotStopTheOthers)
 {
     m_folder.WriteFile(u"a");
     const ProgramResult result = Rename({u"--suffix", u"!", u"--apply", u"missing", u"a"});
@@ -51,14 +51,14 @@ TEST_F(RenameApply, NothingToRenameMakesNoBatch)
     EXPECT_EQ(Run({u"undo", u"--list", u"--quiet"}).output, "");
 }
 
-TEST_F(RenameApply, ABatchOfWhichNothingCanBeDoneSaysWhyOfEachEntry)
+TEST_F(RenameApply, ABatchWithoutAPossibleRenameGivesAReasonForEachEntry)
 {
     m_folder.WriteFile(u"d/x", "1");
     ProgramResult result = Rename({u"--pairs", u"-", u"--apply"}, "d,d/d\n");
     EXPECT_EQ(result.exitCode, 1) << result.errors;
     EXPECT_THAT(result.output, AllOf(HasSubstr("refused: "), HasSubstr("Nothing was renamed.\n")));
 
-    // What goes after the names were made fails when they are applied.
+    // A file that is removed after the names were made fails when they are applied.
     m_folder.WriteFile(u"gone", "2");
     m_environment[u"VISUAL"] = std::nullopt;
     m_environment[u"EDITOR"] = CString::Join({u"\"", BesideThisProgram(u"EditorProbe"), u"\" remove gone"});
@@ -111,7 +111,7 @@ TEST_F(RenameApply, SkipsOnRequest)
     EXPECT_TRUE(m_folder.Has(u"a2"));
 }
 
-TEST_F(RenameApply, NumbersInTheWayAskedFor)
+TEST_F(RenameApply, NumbersWithTheRequestedPattern)
 {
     for (const char16_t* const name : {u"a1.x", u"a2.x", u"a3.x"})
         m_folder.WriteFile(name);
@@ -121,7 +121,7 @@ TEST_F(RenameApply, NumbersInTheWayAskedFor)
                 StartsWith("a1.x  ->  a.x\na2.x  ->  10-10_a.x  numbered\na3.x  ->  7-7_a.x    numbered\n"));
 }
 
-TEST_F(RenameApply, QuietTellsOnlyWhatIsNotRenamed)
+TEST_F(RenameApply, QuietShowsOnlyEntriesThatAreNotRenamed)
 {
     m_folder.WriteFile(u"a");
     m_folder.WriteFile(u"b");
@@ -132,7 +132,7 @@ TEST_F(RenameApply, QuietTellsOnlyWhatIsNotRenamed)
     EXPECT_TRUE(m_folder.Has(u"b!"));
 }
 
-TEST_F(RenameApply, MovesIntoFoldersThatItMakes)
+TEST_F(RenameApply, MovesIntoFoldersThatItCreates)
 {
     m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
     m_folder.WriteFile(u"a.xmp", "sidecar");
@@ -146,7 +146,7 @@ TEST_F(RenameApply, MovesIntoFoldersThatItMakes)
     EXPECT_FALSE(m_folder.Has(u"2024"));
 }
 
-TEST_F(RenameApply, RenamesFoldersTogetherWithWhatIsInThem)
+TEST_F(RenameApply, RenamesFoldersTogetherWithTheirEntries)
 {
     m_folder.WriteFile(u"d/e/f");
     EXPECT_EQ(Rename({u"--case", u"upper", u"--suffix", u"1", u"-r", u"--only", u"all", u"--apply", u"."}).exitCode, 0);
@@ -195,7 +195,7 @@ TEST_F(RenameApply, LetsTheNamesBeEdited)
     EXPECT_TRUE(m_folder.Has(u"three!.txt"));
 }
 
-TEST_F(RenameApply, KeepsTheEditedTextWhereAMistakeCannotBeMended)
+TEST_F(RenameApply, KeepsTheEditedTextWithAMistakeThatCannotBeCorrected)
 {
     const ScratchFolder temporary;
     for (const char16_t* const name : {u"TMPDIR", u"TMP", u"TEMP"})
@@ -244,7 +244,7 @@ TEST_F(RenameApply, EditedNamesKeepTheFoldersThatADateGivesThem)
     EXPECT_EQ(m_folder.ReadFile(u"new/two"), "2");
 }
 
-TEST_F(RenameApply, UndoWorksOnTheLastBatchOrOneByItsNumber)
+TEST_F(RenameApply, UndoTakesTheLatestBatchOrOneByItsNumber)
 {
     m_folder.WriteFile(u"a", "1");
     ASSERT_EQ(Rename({u"--suffix", u"1", u"--apply", u"a"}).exitCode, 0);
@@ -288,14 +288,14 @@ TEST_F(RenameApply, WrongCallsOfUndoAndRecoverAreRefused)
     EXPECT_TRUE(m_folder.Has(u"a1"));
 }
 
-TEST_F(RenameApply, RecoverSaysWhenThereIsNothingToRecover)
+TEST_F(RenameApply, RecoverReportsThatThereIsNothingToRecover)
 {
     const ProgramResult result = Run({u"recover"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.output, "No batch was cut off.\n");
 }
 
-TEST_F(RenameApply, RecoverGivesUpABatchWhoseJournalIsDamagedAndKeepsTheJournal)
+TEST_F(RenameApply, RecoverAbandonsABatchWhoseJournalIsDamagedAndKeepsTheJournal)
 {
     const ScratchFolder journal;
     m_environment[u"VYR_JOURNAL_DIR"] = journal.Path();
@@ -334,7 +334,7 @@ TEST_F(RenameApply, UndoNamesAFolderThatStaysAndRemovesItAtTheNextAttempt)
     EXPECT_EQ(Run({u"undo", u"1"}).exitCode, 4);
 }
 
-TEST_F(RenameApply, ContradictionsAreRefusedBeforeAnythingIsTouched)
+TEST_F(RenameApply, ContradictionsAreRefusedBeforeAnythingIsChanged)
 {
     m_folder.WriteFile(u"a");
     const std::vector<std::vector<CString>> calls = {

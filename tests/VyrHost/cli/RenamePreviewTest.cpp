@@ -61,7 +61,7 @@ TEST_F(RenamePreview, WritesAJsonObjectALine)
     EXPECT_EQ(result.errors, "3 entries: 1 renamed, 1 unchanged, 1 refused.\n");
 }
 
-TEST_F(RenamePreview, TakesNamesFromTheStandardInput)
+TEST_F(RenamePreview, ReadsNamesFromTheStandardInput)
 {
     m_folder.WriteFile(u"a b");
     m_folder.WriteFile(u"c");
@@ -71,7 +71,7 @@ TEST_F(RenamePreview, TakesNamesFromTheStandardInput)
     EXPECT_EQ(Rename({u"--suffix", u"!", u"--stdin", u"--stdin0"}).exitCode, 2);
 }
 
-TEST_F(RenamePreview, EscapesNamesThatATerminalWouldObey)
+TEST_F(RenamePreview, EscapesControlCharactersInNames)
 {
     const CString name = u"a\U0001F600\u202Eb";
     m_folder.WriteFile(name);
@@ -79,7 +79,7 @@ TEST_F(RenamePreview, EscapesNamesThatATerminalWouldObey)
     EXPECT_THAT(result.output, StartsWith("a\xF0\x9F\x98\x80\\u202eb  ->  xa\xF0\x9F\x98\x80\\u202eb\n"));
 }
 
-TEST_F(RenamePreview, TakesEveryArgumentAsItIs)
+TEST_F(RenamePreview, TakesEveryArgumentUnchanged)
 {
     for (const char16_t* const name : {u"[a,b]", u"rename", u"{}", u"%%", u"-x", u"true", u"[]"})
         m_folder.WriteFile(name);
@@ -109,7 +109,7 @@ TEST_F(RenamePreview, AppliesRulesInTheOrderGiven)
     EXPECT_THAT(Rename({u"--start", u"5", u"--number", u"#", u"*"}).output, HasSubstr("->  5.txt\n"));
 }
 
-TEST_F(RenamePreview, RefusesWrongCallsAndSaysWhy)
+TEST_F(RenamePreview, RefusesWrongCallsWithTheReason)
 {
     m_folder.WriteFile(u"a");
     struct Case
@@ -132,7 +132,7 @@ TEST_F(RenamePreview, RefusesWrongCallsAndSaysWhy)
     }
 }
 
-TEST_F(RenamePreview, SaysWhenTheOutputCannotBeWritten)
+TEST_F(RenamePreview, ReportsThatTheOutputCannotBeWritten)
 {
     m_folder.WriteFile(u"a");
     ProgramCall call;
@@ -143,7 +143,7 @@ TEST_F(RenamePreview, SaysWhenTheOutputCannotBeWritten)
     EXPECT_EQ(RunProgram(call).exitCode, 3);
 }
 
-TEST_F(RenamePreview, ShowsAFoldersFilesWithTheFolderAsItWasNamed)
+TEST_F(RenamePreview, ShowsFilesWithTheirFolderAsGiven)
 {
     m_folder.WriteFile(u"d/e/a");
     m_folder.WriteFile(u"d/b");
@@ -154,7 +154,7 @@ TEST_F(RenamePreview, ShowsAFoldersFilesWithTheFolderAsItWasNamed)
                                  "2 entries: 2 renamed.\nThis is a preview: nothing was changed.\n");
 }
 
-TEST_F(RenamePreview, AFolderThatWouldEndUpInsideItselfIsRefused)
+TEST_F(RenamePreview, AFolderThatWouldMoveIntoItselfIsRefused)
 {
     m_folder.WriteFile(u"d/x");
     m_folder.WriteFile(u"e");
@@ -163,17 +163,17 @@ TEST_F(RenamePreview, AFolderThatWouldEndUpInsideItselfIsRefused)
     EXPECT_THAT(result.output, HasSubstr("refused: the folder would end up inside itself\n"));
     EXPECT_THAT(result.output, HasSubstr("refused: the new path is taken by an entry that keeps it\n"));
     EXPECT_THAT(result.output, HasSubstr("2 entries: 2 refused.\n"));
-    // As when a call that sorts by date is given once more, with the folder that it made.
+    // Happens when a call that sorts by date is repeated, with the folder that it created.
     const ProgramResult again = Rename({u"--date", u"'d'<Folder><Name>", u"d", u"e"});
     EXPECT_EQ(again.exitCode, 1);
     EXPECT_THAT(again.output, HasSubstr("refused: the folder would end up inside itself\n"));
     EXPECT_THAT(again.output, HasSubstr("2 entries: 1 renamed, 1 refused.\n"));
-    // Each of two folders may not go into the other.
+    // Two folders cannot each move into the other.
     m_folder.WriteFile(u"f/x");
     EXPECT_THAT(Rename({u"--pairs", u"-"}, "d,f/d\nf,d/f\n").output, HasSubstr("2 entries: 2 refused.\n"));
 }
 
-TEST_F(RenamePreview, OffersToEndABatchThatWasCutOff)
+TEST_F(RenamePreview, NamesABatchThatWasCutOff)
 {
     const ScratchFolder journal;
     m_environment[u"VYR_JOURNAL_DIR"] = journal.Path();

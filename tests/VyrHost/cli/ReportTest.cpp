@@ -1,4 +1,4 @@
-// The exit code that the end of a batch asks for.
+// The exit codes for the summaries of batches.
 #include <VyrHost/cli/BatchRun.h>
 
 #include <VyrHost/cli/Messages.h>
@@ -20,12 +20,12 @@ BatchSummary SummaryOfBatch(std::uint32_t number, std::size_t done)
 
 } // namespace
 
-TEST(JudgeSummary, IsSuccessWhereAllIsDone)
+TEST(JudgeSummary, IsSuccessWhereEverythingIsDone)
 {
     EXPECT_EQ(JudgeSummary(SummaryOfBatch(1, 3)), ExitCode::success);
 }
 
-TEST(JudgeSummary, IsBlockedWhereNothingWasBegun)
+TEST(JudgeSummary, IsBlockedWhereNothingWasStarted)
 {
     BatchSummary summary = SummaryOfBatch(0, 0);
     summary.notReached = 3;

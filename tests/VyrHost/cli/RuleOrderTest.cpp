@@ -11,7 +11,7 @@ namespace {
 class RuleOrder : public VyrProgram
 {
 protected:
-    /// What the rules make of the one entry `name`; "=" where it stays as it is.
+    /// The result of the rules for the one entry `name`; "=" where it does not change.
     [[nodiscard]] std::string Made(const std::vector<CString>& rules, const CString& name) const
     {
         std::vector<CString> call = rules;
@@ -26,7 +26,7 @@ protected:
 
 } // namespace
 
-TEST_F(RuleOrder, EveryRuleGivesWhatItSays)
+TEST_F(RuleOrder, EveryRuleGivesTheDocumentedName)
 {
     WriteNamed({u"abcdef.Txt"});
     struct Case
@@ -76,21 +76,21 @@ TEST_F(RuleOrder, EachRuleWorksOnTheResultOfTheOneBefore)
                     u"--prefix", u"scan", u"--case", u"first", u"--extension", u"jpg", u"--extension-case", u"upper"},
                    u"img 01.JPEG"),
               "Scan01-07.JPG");
-    // A place counts in what the rule before made.
+    // A place is a position in the result of the rule before.
     EXPECT_EQ(Made({u"--suffix", u"xyz", u"--insert", u"9:!"}, u"img 01.JPEG"), "img 01xyz!.JPEG");
     EXPECT_THAT(Made({u"--keep-first", u"3", u"--insert", u"4:!", u"--case", u"upper"}, u"img 01.JPEG"),
                 HasSubstr("refused: the place or count is beyond the name: the name has 3 characters\n"));
     EXPECT_EQ(Made({u"--drop-extension", u"--suffix", u".raw"}, u"img 01.JPEG"), "img 01.raw");
 }
 
-TEST_F(RuleOrder, AnEmptyNameInBetweenIsNoFault)
+TEST_F(RuleOrder, AnEmptyNameBetweenRulesIsNoFault)
 {
     WriteNamed({u"ab.c"});
     EXPECT_EQ(Made({u"--keep-first", u"0", u"--prefix", u"new"}, u"ab.c"), "new.c");
     EXPECT_THAT(Made({u"--keep-first", u"0"}, u"ab.c"), HasSubstr("refused: the new name would be empty\n"));
 }
 
-TEST_F(RuleOrder, FoldersKeepTheirWholeNameFromExtensionRules)
+TEST_F(RuleOrder, ExtensionRulesDoNotChangeFolders)
 {
     m_folder.MakeFolder(u"my.folder");
     EXPECT_EQ(Made({u"--extension", u"jpg"}, u"my.folder"), "=");

@@ -1,4 +1,4 @@
-// Tests of the program: --open-settings stands alone.
+// Tests of the program: --open-settings allows no other options.
 #include "VyrProgram.h"
 
 #include <gmock/gmock.h>
@@ -13,7 +13,7 @@ class SettingsPage : public VyrProgram
 
 } // namespace
 
-TEST_F(SettingsPage, IsNotOpenedBesideOtherOptionsAndNames)
+TEST_F(SettingsPage, IsRefusedWithOtherOptionsAndNames)
 {
     for (const std::vector<CString>& call : {std::vector<CString>{u"programs", u"--open-settings", u"--find", u"x"},
                                              std::vector<CString>{u"times", u"--open-settings", u"--shift", u"1h"},

@@ -55,7 +55,7 @@ TEST_F(TransferCommand, SeveralGoIntoAFolder)
     EXPECT_EQ(m_folder.ReadFile(u"to/two/b"), "2");
 }
 
-TEST_F(TransferCommand, OneClashKeepsEverythingWhereItIs)
+TEST_F(TransferCommand, NothingIsDoneWithOneConflict)
 {
     m_folder.WriteFile(u"one/a", "1");
     m_folder.WriteFile(u"two/b", "2");
@@ -86,7 +86,7 @@ TEST_F(TransferCommand, TargetThatAppearsAfterThePreviewIsNotOverwritten)
     EXPECT_EQ(m_folder.ReadFile(u"from/a"), "new");
 }
 
-TEST_F(TransferCommand, JsonTellsOfEachFolderAndEachProblem)
+TEST_F(TransferCommand, JsonHasEachFolderAndEachProblem)
 {
     m_folder.WriteFile(u"from/a", "123");
     ProgramResult result = Run({u"copy", u"from", u"to", u"--json"});
@@ -103,7 +103,7 @@ TEST_F(TransferCommand, JsonTellsOfEachFolderAndEachProblem)
                 HasSubstr("\"status\":\"refused\",\"reason\":\"the new path is there already\",\"preview\":true}\n"));
 }
 
-TEST_F(TransferCommand, WrongCallsAreRefusedBeforeAnythingIsTouched)
+TEST_F(TransferCommand, WrongCallsAreRefusedBeforeAnythingIsChanged)
 {
     m_folder.WriteFile(u"a/b/c", "1");
     m_folder.WriteFile(u"file");
@@ -136,7 +136,7 @@ TEST_F(TransferCommand, WrongCallsAreRefusedBeforeAnythingIsTouched)
     EXPECT_FALSE(m_folder.Has(u"to/a"));
 }
 
-TEST_F(TransferCommand, OffersToEndABatchThatWasCutOffAndGoesOn)
+TEST_F(TransferCommand, NamesABatchThatWasCutOffAndContinues)
 {
     const ScratchFolder journal;
     m_environment[u"VYR_JOURNAL_DIR"] = journal.Path();

@@ -1,4 +1,4 @@
-// Tests of the program: which batch "vyr undo" is about, and what it says of the others.
+// Tests of the program: which batch "vyr undo" takes, and which it only names.
 #include "VyrProgram.h"
 
 #include <gmock/gmock.h>
@@ -54,7 +54,7 @@ TEST_F(UndoChoice, IsTheLatestInThisFolderOrBelow)
     EXPECT_TRUE(m_elsewhere.Has(u"ax"));
 }
 
-TEST_F(UndoChoice, NamesTheLatestElsewhereWhereThereIsNoneHere)
+TEST_F(UndoChoice, ListsTheLatestElsewhereWhereThereIsNoneHere)
 {
     RenameIn(m_elsewhere);
     const ProgramResult none = Run({u"undo"});
@@ -66,7 +66,7 @@ TEST_F(UndoChoice, NamesTheLatestElsewhereWhereThereIsNoneHere)
     EXPECT_THAT(Run({u"undo"}).errors, HasSubstr("there is no batch to undo"));
 }
 
-TEST_F(UndoChoice, IsNoBatchOfWhichAPartLiesOutside)
+TEST_F(UndoChoice, IsNoBatchWithEntriesOutsideThisFolder)
 {
     m_folder.WriteFile(u"in/a");
     m_folder.WriteFile(u"out/b");
@@ -79,7 +79,7 @@ TEST_F(UndoChoice, IsNoBatchOfWhichAPartLiesOutside)
     EXPECT_TRUE(m_folder.Has(u"in/a"));
 }
 
-TEST_F(UndoChoice, PassesOverBatchesWhoseFilesAreGoneOrWhoseJournalIsDamaged)
+TEST_F(UndoChoice, SkipsBatchesWhoseFilesAreGoneOrWhoseJournalIsDamaged)
 {
     RenameIn(m_folder, u"a");
     RenameIn(m_folder, u"b");
@@ -94,7 +94,7 @@ TEST_F(UndoChoice, PassesOverBatchesWhoseFilesAreGoneOrWhoseJournalIsDamaged)
                                      HasSubstr("\"vyr undo 2\" undoes it")));
 }
 
-TEST_F(UndoChoice, RedoesByTheNumberOfTheUndoAndPassesOverUndos)
+TEST_F(UndoChoice, RedoesByTheNumberOfTheUndoAndSkipsUndos)
 {
     RenameIn(m_folder, u"a");
     RenameIn(m_folder, u"b");
@@ -112,7 +112,7 @@ TEST_F(UndoChoice, RedoesByTheNumberOfTheUndoAndPassesOverUndos)
     EXPECT_EQ(Run({u"undo"}).exitCode, 4);
 }
 
-TEST_F(UndoChoice, IsShownAloneByPreview)
+TEST_F(UndoChoice, IsOnlyShownByPreview)
 {
     RenameIn(m_folder);
     const ProgramResult shown = Run({u"undo", u"--preview"});
@@ -130,7 +130,7 @@ TEST_F(UndoChoice, IsShownAloneByPreview)
     EXPECT_TRUE(m_folder.Has(u"a"));
 }
 
-TEST_F(UndoChoice, ReachesAsFarBackAsTheEnvironmentSays)
+TEST_F(UndoChoice, HasTheLimitsOfTheEnvironment)
 {
     m_environment[u"VYR_KEEP_BATCHES"] = u"2";
     for (const char16_t* name : {u"a", u"b", u"c"})

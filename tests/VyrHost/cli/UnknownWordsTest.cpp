@@ -1,11 +1,10 @@
-// Tests of the word that was probably meant.
 #include <VyrHost/cli/Arguments.h>
 
 #include <gtest/gtest.h>
 
 using namespace VyrHost::Cli;
 
-TEST(NearestWord, IsTheOneWithTheFewestSlips)
+TEST(NearestWord, IsTheOneWithTheFewestTypingErrors)
 {
     const std::vector<std::string> words = {"rename", "copy", "move", "undo", "recover"};
     EXPECT_EQ(NearestWord("renmae", words), "rename");
@@ -17,7 +16,7 @@ TEST(NearestWord, IsTheOneWithTheFewestSlips)
     EXPECT_EQ(NearestWord("cope", words), "copy");
 }
 
-TEST(NearestWord, IsNoneWhereNoWordIsNear)
+TEST(NearestWord, IsEmptyWhereNoWordIsSimilar)
 {
     const std::vector<std::string> words = {"rename", "copy", "move", "undo", "recover"};
     EXPECT_EQ(NearestWord("delete", words), "");

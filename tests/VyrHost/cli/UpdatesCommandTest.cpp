@@ -12,7 +12,7 @@ using Updates = VyrProgram;
 
 } // namespace
 
-TEST_F(Updates, WithoutAnAddressSaysSo)
+TEST_F(Updates, WithoutAnAddressAreUnknown)
 {
     m_environment[u"XDG_DATA_HOME"] = m_folder.Path();
     const ProgramResult result = Run({u"updates"});
@@ -21,7 +21,7 @@ TEST_F(Updates, WithoutAnAddressSaysSo)
     EXPECT_THAT(result.errors, HasSubstr("no address of update information is known"));
 }
 
-TEST_F(Updates, DaysAreANumber)
+TEST_F(Updates, EveryTakesANumberOfDays)
 {
     for (const char16_t* const days : {u"x", u"-1", u""})
         EXPECT_EQ(Run({u"updates", u"--every", days}).exitCode, 2);

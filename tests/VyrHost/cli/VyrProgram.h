@@ -18,7 +18,7 @@
 
 namespace VyrTests {
 
-/// Runs vyr in a scratch folder.
+/// Runs vyr with a scratch folder as its current folder.
 class VyrProgram : public testing::Test
 {
 protected:
@@ -27,7 +27,7 @@ protected:
         return RunProgram(CallOf(std::move(arguments), input));
     }
 
-    /// For a program that is not just run to its end.
+    /// The call of the program, for tests that do not just run it to its end.
     ProgramCall CallOf(std::vector<CString> arguments, const std::string& input = {}) const
     {
         ProgramCall call;
@@ -49,14 +49,14 @@ protected:
         return Run(std::move(all), input);
     }
 
-    /// Makes files of these names, each holding its name.
+    /// Writes files of these names, each with its name as content.
     void WriteNamed(const std::vector<std::u16string_view>& names) const
     {
         for (const std::u16string_view name : names)
             m_folder.WriteFile(name, VyrPlatform::Encoding::ToUtf8(name));
     }
 
-    /// Every file in the folder and below it, separated by slashes, and what it holds.
+    /// All files in the folder and below it: their paths, with slashes, and contents.
     [[nodiscard]] std::map<std::string, std::string> Files() const
     {
         std::map<std::string, std::string> files;
@@ -72,7 +72,7 @@ protected:
     }
 
     ScratchFolder m_folder;
-    /// What the program's environment has other than the test's own.
+    /// Variables of the program's environment that differ from the test's own.
     std::map<CString, std::optional<CString>> m_environment;
 
 private:

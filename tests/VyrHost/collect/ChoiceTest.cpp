@@ -1,4 +1,4 @@
-// Which files are chosen: names, dates and sizes around every bound.
+// Choosing files by names, dates and sizes, around every bound.
 #include <VyrHost/collect/Choice.h>
 
 #include <VyrHost/collect/CollectEntries.h>
@@ -27,7 +27,7 @@ using Sizes = VyrLibraryFuncs::SearchFuncs::SizeRange;
 
 constexpr std::int64_t unlimited = std::numeric_limits<std::int64_t>::max();
 
-/// "from .. to" of a custom range; the number of any other.
+/// "from .. to" of a custom range; the number of any other range.
 std::string DatesOf(std::u16string_view text)
 {
     const DateRange range = ParseDateRange(text, "--modified");
@@ -36,7 +36,7 @@ std::string DatesOf(std::u16string_view text)
     return Describe(range.from) + " .. " + Describe(range.to);
 }
 
-/// What is said of a call that is refused.
+/// The message of a call that is refused.
 template <class Call>
 std::string ErrorOf(Call call)
 {
@@ -74,7 +74,7 @@ bool Meets(const char16_t* condition, const char16_t* name, bool matchCase = fal
 class Choosing : public testing::Test
 {
 protected:
-    /// The names that stay, in their order, and behind a bar how many were left out and not entered.
+    /// The names that are chosen, in their order, and behind a bar how many were left out and not entered.
     [[nodiscard]] std::string Chosen(const ChoiceTexts& texts, Pick pick = Pick::Files) const
     {
         SourceSettings settings;
@@ -98,7 +98,7 @@ protected:
 
 } // namespace
 
-TEST(ChoosingDates, WordsStandForTheRangesOfTheLibrary)
+TEST(ChoosingDates, WordsAreTheRangesOfTheLibrary)
 {
     const char16_t* const words[] = {u"today",      u"yesterday",  u"this-week", u"last-week",
                                      u"this-month", u"last-month", u"this-year", u"last-year"};
@@ -115,13 +115,13 @@ TEST(ChoosingDates, BareDateReachesFromItsFirstToItsLastSecond)
     EXPECT_EQ(DatesOf(u"2024-01-05T10:00:01..2024-01-06 00:00"), "2024-01-05 10:00:01 .. 2024-01-06 00:00:00");
 }
 
-TEST(ChoosingDates, EitherEndMayBeOpen)
+TEST(ChoosingDates, EitherEndMayBeLeftOut)
 {
     EXPECT_EQ(DatesOf(u"2024-01-05.."), "2024-01-05 00:00:00 .. null");
     EXPECT_EQ(DatesOf(u"..2024-01-05"), "null .. 2024-01-05 23:59:59");
 }
 
-TEST(ChoosingDates, WhatIsNoRangeIsRefusedWithItsReason)
+TEST(ChoosingDates, WrongRangeIsRefusedWithTheReason)
 {
     EXPECT_EQ(DateError(u"2024-01-06..2024-01-05"),
               "--modified '2024-01-06..2024-01-05': the range begins after its end");
@@ -132,7 +132,7 @@ TEST(ChoosingDates, WhatIsNoRangeIsRefusedWithItsReason)
         EXPECT_NE(DateError(text).find("last-year or FROM..TO is expected"), std::string::npos) << DateError(text);
 }
 
-TEST(ChoosingSizes, WordsStandForTheRangesOfTheLibrary)
+TEST(ChoosingSizes, WordsAreTheRangesOfTheLibrary)
 {
     const char16_t* const words[] = {u"empty", u"tiny", u"small", u"medium", u"large", u"huge", u"giant"};
     int number = 0;
@@ -140,7 +140,7 @@ TEST(ChoosingSizes, WordsStandForTheRangesOfTheLibrary)
         EXPECT_EQ(static_cast<int>(ParseSizeSpan(word, "--size").kind), ++number);
 }
 
-TEST(ChoosingSizes, UnitsCountBy1024)
+TEST(ChoosingSizes, UnitsArePowersOf1024)
 {
     ExpectSizes(u"0..500", 0, 500);
     ExpectSizes(u"1KB..1MB", 1024, 1 << 20);
@@ -151,7 +151,7 @@ TEST(ChoosingSizes, UnitsCountBy1024)
     ExpectSizes(u"..3G", 0, std::int64_t{3} << 30);
 }
 
-TEST(ChoosingSizes, WhatIsNoRangeIsRefusedWithItsReason)
+TEST(ChoosingSizes, WrongRangeIsRefusedWithTheReason)
 {
     EXPECT_EQ(SizeError(u"2MB..1MB"), "--size '2MB..1MB': the range begins after its end");
     for (const char16_t* const text : {u"-1..", u"x..", u"1XB..", u"1.KB..", u".5KB..", u"1,5KB..", u"1Bi..",
@@ -181,7 +181,7 @@ TEST(ChoosingNames, TextsAreFoundAsTheirWordSays)
     EXPECT_FALSE(Meets(u"equals:a", u"ab"));
 }
 
-TEST(ChoosingNames, NormalFormOfANameDoesNotCount)
+TEST(ChoosingNames, NormalFormOfANameIsIgnored)
 {
     EXPECT_TRUE(Meets(u"caf\u00e9*", u"cafe\u0301.txt"));
     EXPECT_TRUE(Meets(u"contains:e\u0301", u"caf\u00e9.txt"));
@@ -216,7 +216,7 @@ TEST_F(Choosing, IncludeChoosesEntriesAndEntersEveryFolder)
     EXPECT_EQ(Chosen(texts), "b.png | 4 0");
 }
 
-TEST_F(Choosing, NamedEntriesAreChosenToo)
+TEST_F(Choosing, ConditionsApplyToNamedEntries)
 {
     m_folder.WriteFile(u"a.jpg");
     m_folder.WriteFile(u"b.txt");
@@ -272,7 +272,7 @@ TEST_F(Choosing, FoldersHaveNoSize)
     EXPECT_EQ(Chosen(texts), "eleven | 2 0");
 }
 
-TEST_F(Choosing, CriteriaThatAreNotGivenHoldNothingBack)
+TEST_F(Choosing, WithoutCriteriaEverythingIsChosen)
 {
     m_folder.WriteFile(u"ten", "0123456789");
     ChoiceTexts texts;

@@ -1,4 +1,3 @@
-// Tests of wildcards.
 #include <VyrHost/collect/Choice.h>
 
 #include <gtest/gtest.h>
@@ -21,7 +20,7 @@ TEST(Wildcard, MatchesTheWholeName)
     EXPECT_FALSE(MatchesPattern(u"*.JPG", u"a.jpg"));
 }
 
-TEST(Wildcard, StaysQuickOnPatternsOfManyStars)
+TEST(Wildcard, IsQuickWithManyStars)
 {
     std::u16string pattern;
     for (int star = 0; star < 100; ++star)

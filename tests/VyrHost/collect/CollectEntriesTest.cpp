@@ -1,4 +1,3 @@
-// Tests of gathering entries.
 #include <VyrHost/collect/CollectEntries.h>
 
 #include <VyrHost/text/Errors.h>
@@ -22,16 +21,16 @@ using VyrPlatform::FileSystem::Kind;
 
 namespace {
 
-class Gathering : public testing::Test
+class CollectingEntries : public testing::Test
 {
 protected:
-    /// The gathered paths, those below the scratch folder with "/" as separator, relative to it.
+    /// The collected paths, those below the scratch folder relative to it and with slashes.
     [[nodiscard]] std::vector<std::string> Paths(const SourceSettings& settings) const
     {
-        const CollectedEntries gathered = CollectEntries(settings);
+        const CollectedEntries collected = CollectEntries(settings);
         std::vector<std::string> paths;
-        for (const Entry& entry : gathered.list.entries) {
-            const auto path = ToStdPath(gathered.list.PathOf(entry)).lexically_relative(ToStdPath(m_folder.Path()));
+        for (const Entry& entry : collected.list.entries) {
+            const auto path = ToStdPath(collected.list.PathOf(entry)).lexically_relative(ToStdPath(m_folder.Path()));
             const std::u8string text = path.generic_u8string();
             paths.emplace_back(text.begin(), text.end());
         }
@@ -62,14 +61,14 @@ using Strings = std::vector<std::string>;
 
 } // namespace
 
-TEST_F(Gathering, KeepsTheOrderGiven)
+TEST_F(CollectingEntries, KeepsTheOrderGiven)
 {
     for (const char16_t* const name : {u"a", u"b", u"c/d"})
         m_folder.WriteFile(name);
     EXPECT_EQ(Paths(Named({u"b", u"c", u"a"})), (Strings{"b", "c", "a"}));
 }
 
-TEST_F(Gathering, RecursionGivesAFoldersFilesAndThenItsFoldersByName)
+TEST_F(CollectingEntries, RecursionGivesAFoldersFilesAndThenItsFoldersByName)
 {
     for (const char16_t* const name : {u"z10", u"z9", u"b/y", u"b/c/x", u"a2/w", u"a10/v", u".h/u", u".g"})
         m_folder.WriteFile(name);
@@ -83,7 +82,7 @@ TEST_F(Gathering, RecursionGivesAFoldersFilesAndThenItsFoldersByName)
     EXPECT_EQ(Paths(settings), (Strings{".g", "z9", "z10", ".h/u", "a2/w", "a10/v", "b/y", "b/c/x"}));
 }
 
-TEST_F(Gathering, RecursionDoesNotFollowLinks)
+TEST_F(CollectingEntries, RecursionDoesNotFollowLinks)
 {
     m_folder.WriteFile(u"real/a");
     std::error_code error;
@@ -93,24 +92,24 @@ TEST_F(Gathering, RecursionDoesNotFollowLinks)
     EXPECT_EQ(Paths(Recursive()), (Strings{"real/a"}));
 }
 
-TEST_F(Gathering, AFolderIsAnEntryWithoutRecursion)
+TEST_F(CollectingEntries, AFolderIsAnEntryWithoutRecursion)
 {
     m_folder.WriteFile(u"d/a");
-    const CollectedEntries gathered = CollectEntries(Named({u"d"}));
-    ASSERT_EQ(gathered.list.entries.size(), 1u);
-    EXPECT_EQ(gathered.list.entries[0].kind, Kind::Folder);
-    EXPECT_EQ(gathered.list.PathOf(gathered.list.entries[0]), m_folder.Path(u"d"));
+    const CollectedEntries collected = CollectEntries(Named({u"d"}));
+    ASSERT_EQ(collected.list.entries.size(), 1u);
+    EXPECT_EQ(collected.list.entries[0].kind, Kind::Folder);
+    EXPECT_EQ(collected.list.PathOf(collected.list.entries[0]), m_folder.Path(u"d"));
 }
 
-TEST_F(Gathering, APathThatLeadsNowhereIsAMissingEntry)
+TEST_F(CollectingEntries, APathThatDoesNotExistIsAMissingEntry)
 {
-    const CollectedEntries gathered = CollectEntries(Named({u"nothing", u"no folder/nothing"}));
-    ASSERT_EQ(gathered.list.entries.size(), 2u);
-    EXPECT_EQ(gathered.list.entries[0].kind, Kind::Missing);
-    EXPECT_EQ(gathered.list.entries[1].kind, Kind::Missing);
+    const CollectedEntries collected = CollectEntries(Named({u"nothing", u"no folder/nothing"}));
+    ASSERT_EQ(collected.list.entries.size(), 2u);
+    EXPECT_EQ(collected.list.entries[0].kind, Kind::Missing);
+    EXPECT_EQ(collected.list.entries[1].kind, Kind::Missing);
 }
 
-TEST_F(Gathering, WildcardsThatTheShellLeavesMatchNames)
+TEST_F(CollectingEntries, WildcardsMatchNames)
 {
     for (const char16_t* const name : {u"a10.jpg", u"a9.jpg", u"b.jpeg", u".c.jpg", u"d.jpg/e"})
         m_folder.WriteFile(name);
@@ -118,7 +117,7 @@ TEST_F(Gathering, WildcardsThatTheShellLeavesMatchNames)
     EXPECT_EQ(Paths(Named({u"?.jpeg"})), (Strings{"b.jpeg"}));
 }
 
-TEST_F(Gathering, NamingSomethingTwiceIsRefused)
+TEST_F(CollectingEntries, NamingSomethingTwiceIsRefused)
 {
     m_folder.WriteFile(u"d/a");
     EXPECT_THROW((void)CollectEntries(Named({u"d/a", u"d/a"})), UsageError);
@@ -130,7 +129,7 @@ TEST_F(Gathering, NamingSomethingTwiceIsRefused)
     EXPECT_THROW((void)CollectEntries(settings), UsageError);
 }
 
-TEST_F(Gathering, NamingAFolderTogetherWithWhatIsInItIsRefused)
+TEST_F(CollectingEntries, NamingAFolderAndOneOfItsEntriesIsRefused)
 {
     m_folder.WriteFile(u"d/e/a");
     EXPECT_THROW((void)CollectEntries(Named({u"d", u"d/e/a"})), UsageError);
@@ -139,7 +138,7 @@ TEST_F(Gathering, NamingAFolderTogetherWithWhatIsInItIsRefused)
     EXPECT_EQ(Paths(Named({u"d", u"de/a"})), (Strings{"d", "de/a"}));
 }
 
-TEST_F(Gathering, WhatHasNoNameOfItsOwnIsRefused)
+TEST_F(CollectingEntries, RootsAndDotsAreRefused)
 {
     for (const char16_t* const path : {u"", u"/", u"..", u"../", u"../.", u"./..", u"a/..", u"a/..//", u"/.."}) {
         SourceSettings settings;
@@ -148,14 +147,14 @@ TEST_F(Gathering, WhatHasNoNameOfItsOwnIsRefused)
     }
 }
 
-TEST_F(Gathering, DotsInANameAreNoStepUp)
+TEST_F(CollectingEntries, DotsInANameAreNoParentFolder)
 {
     for (const char16_t* const name : {u"..a", u"a..b", u"...a"})
         m_folder.WriteFile(name);
     EXPECT_EQ(Paths(Named({u"..a", u"./a..b", u"a/.././...a"})).size(), 3u);
 }
 
-TEST_F(Gathering, KnowsKindsAndSplitsNamesAsTheEngineDoesByAskingTheSystem)
+TEST_F(CollectingEntries, KnowsKindsAndSplitsNamesAsTheEngineDoesByAskingTheSystem)
 {
     using VyrLibraryFuncs::NameFuncs;
     for (const char16_t* const name : {u"a.b.c", u"noext", u".bashrc", u"..x.y", u"日本.語", u"d.e/f"})
@@ -164,10 +163,10 @@ TEST_F(Gathering, KnowsKindsAndSplitsNamesAsTheEngineDoesByAskingTheSystem)
     m_folder.MakeFolder(u".hidden");
     SourceSettings settings = Recursive(Pick::All);
     settings.hidden = true;
-    const CollectedEntries gathered = CollectEntries(settings);
-    ASSERT_EQ(gathered.list.entries.size(), 9u);
-    for (const Entry& entry : gathered.list.entries) {
-        const CString path = gathered.list.PathOf(entry);
+    const CollectedEntries collected = CollectEntries(settings);
+    ASSERT_EQ(collected.list.entries.size(), 9u);
+    for (const Entry& entry : collected.list.entries) {
+        const CString path = collected.list.PathOf(entry);
         EXPECT_EQ(entry.kind, VyrPlatform::FileSystem::Query(path).kind);
         const SplitName split = Split(path, entry);
         EXPECT_EQ(split.name, NameFuncs::GetFName(path));

@@ -1,4 +1,3 @@
-// The names of a listing.
 #pragma once
 
 #include <VyrHost/model/FolderSet.h>

@@ -1,4 +1,3 @@
-// Tests of the order of a list.
 #include <VyrHost/collect/Sorting.h>
 
 #include <VyrHost/collect/CollectEntries.h>
@@ -30,13 +29,13 @@ protected:
         SourceSettings sources;
         for (const char16_t* const name : names)
             sources.paths.push_back(m_folder.Path(name));
-        CollectedEntries gathered = CollectEntries(sources);
-        Sort(gathered.list, {key, isDescending});
+        CollectedEntries collected = CollectEntries(sources);
+        Sort(collected.list, {key, isDescending});
         std::vector<std::string> sorted;
-        for (std::uint32_t index = 0; index < gathered.list.entries.size(); ++index) {
-            const Entry& entry = gathered.list.entries[index];
+        for (std::uint32_t index = 0; index < collected.list.entries.size(); ++index) {
+            const Entry& entry = collected.list.entries[index];
             sorted.push_back(VyrPlatform::Encoding::ToUtf8(entry.name));
-            if (const NameRecord* const record = gathered.list.folders[entry.folder].names.Find(entry.name)) {
+            if (const NameRecord* const record = collected.list.folders[entry.folder].names.Find(entry.name)) {
                 EXPECT_EQ(record->owner, index);
             }
         }
@@ -57,7 +56,7 @@ using Strings = std::vector<std::string>;
 
 } // namespace
 
-TEST_F(Sorting, LeavesTheOrderGivenOrTurnsItRound)
+TEST_F(Sorting, KeepsOrReversesTheGivenOrder)
 {
     for (const char16_t* const name : {u"b", u"a", u"c"})
         m_folder.WriteFile(name);

@@ -1,4 +1,3 @@
-// A tree is taken down as it stands.
 #include <VyrHost/foldercopy/FolderSnapshot.h>
 
 #include <VyrPlatform/files/FileTimes.h>
@@ -14,7 +13,7 @@ using VyrTests::ScratchFolder;
 
 namespace {
 
-/// The entries of a tree by their names, which differ in these tests.
+/// The entries of a snapshot by their names, which are unique in these tests.
 std::map<CString, SnapshotEntry> EntriesOf(const FolderSnapshot& tree)
 {
     std::map<CString, SnapshotEntry> entries;
@@ -47,7 +46,7 @@ TEST(FolderSnapshot, HoldsEveryEntryHiddenOnesIncluded)
     EXPECT_EQ(size.bytes, 8);
 }
 
-TEST(FolderSnapshot, HasEachFolderBeforeThoseInItWithItsOwnEntries)
+TEST(FolderSnapshot, HasEachFolderWithItsEntriesBeforeItsSubfolders)
 {
     const ScratchFolder scratch;
     for (const char16_t* const name : {u"root/x/1", u"root/x/y/2", u"root/x/y/z/3", u"root/w/4"})
@@ -72,7 +71,7 @@ TEST(FolderSnapshot, HasEachFolderBeforeThoseInItWithItsOwnEntries)
     EXPECT_EQ(total, tree.entries.size());
 }
 
-TEST(FolderSnapshot, KnowsTheExactTimesOfItsFolders)
+TEST(FolderSnapshot, HasTheExactTimesOfItsFolders)
 {
     const ScratchFolder scratch;
     const CString inner = scratch.MakeFolder(u"root/inner");
@@ -85,7 +84,7 @@ TEST(FolderSnapshot, KnowsTheExactTimesOfItsFolders)
     EXPECT_EQ(tree.folders[0].modified, VyrPlatform::FileTimes::GetModified(scratch.Path(u"root")));
 }
 
-TEST(FolderSnapshot, OfWhatIsNotThereHasARootThatCannotBeRead)
+TEST(FolderSnapshot, OfAMissingFolderHasARootThatCannotBeRead)
 {
     const ScratchFolder scratch;
     const FolderSnapshot tree = TakeSnapshot(scratch.Path(u"missing"));

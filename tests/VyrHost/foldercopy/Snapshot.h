@@ -1,4 +1,4 @@
-// For tests: what stands in a folder and below it, for comparison.
+// For tests: the content of a folder and its subfolders, for comparison.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -12,7 +12,7 @@
 
 namespace VyrTests {
 
-/// Paths from the folder on, and the content of files; "<folder>", "-> TARGET" for a link, "<other>".
+/// Relative paths, and the content of files; "<folder>", "-> TARGET" for a link, "<other>".
 using TreeSnapshot = std::map<std::string, std::string>;
 
 inline std::string ContentOf(const std::filesystem::directory_entry& entry)
@@ -24,12 +24,12 @@ inline std::string ContentOf(const std::filesystem::directory_entry& entry)
     if (!entry.is_regular_file())
         return "<other>";
     std::ostringstream content;
-    // (An empty file would leave the stream failed, which nobody asks.)
+    // (An empty file leaves the stream failed, which does not matter.
     content << std::ifstream(entry.path(), std::ios::binary).rdbuf();
     return content.str();
 }
 
-/// No link is followed. A folder that is not there gives an entry "missing".
+/// Does not follow links. A folder that does not exist gives an entry "missing".
 inline TreeSnapshot SnapshotOf(const CString& folder)
 {
     namespace fs = std::filesystem;

@@ -1,4 +1,4 @@
-// What is in the way of a tree at its target.
+// Conflicts of a tree at its destination.
 #include <VyrHost/foldercopy/TargetCheck.h>
 
 #include <VyrHostPlatform/NameFolding.h>
@@ -21,7 +21,7 @@ protected:
         return CheckTarget(TakeSnapshot(m_scratch.Path(u"from")), m_scratch.Path(u"to"), Trial::Allowed);
     }
 
-    /// The paths that are in the way, with slashes.
+    /// The paths in conflict, with slashes.
     [[nodiscard]] std::set<CString> Clashes() const
     {
         std::set<CString> paths;
@@ -41,7 +41,7 @@ using Paths = std::set<CString>;
 
 } // namespace
 
-TEST_F(TargetClashes, ThereAreNoneWhereNothingIs)
+TEST_F(TargetClashes, AreNoneWhereNothingExists)
 {
     m_scratch.WriteFile(u"from/a/b/c");
     m_scratch.MakeFolder(u"from/d");
@@ -50,7 +50,7 @@ TEST_F(TargetClashes, ThereAreNoneWhereNothingIs)
     EXPECT_EQ(check.newFolders, 4u);
 }
 
-TEST_F(TargetClashes, ThereAreNoneWhereFoldersTakeUpOtherEntries)
+TEST_F(TargetClashes, AreNoneWhereFoldersHaveOtherEntries)
 {
     m_scratch.WriteFile(u"from/a/b/c");
     m_scratch.WriteFile(u"from/d/e");
@@ -61,7 +61,7 @@ TEST_F(TargetClashes, ThereAreNoneWhereFoldersTakeUpOtherEntries)
     EXPECT_EQ(check.newFolders, 1u);
 }
 
-TEST_F(TargetClashes, AreFilesOfOneName)
+TEST_F(TargetClashes, AreFilesOfTheSameName)
 {
     m_scratch.WriteFile(u"from/a/b", "1");
     m_scratch.WriteFile(u"from/c", "1");
@@ -88,7 +88,7 @@ TEST_F(TargetClashes, IsAFileForTheRoot)
     EXPECT_EQ(Check().newFolders, 0u);
 }
 
-TEST_F(TargetClashes, AreNamesThatTheFolderTakesForOne)
+TEST_F(TargetClashes, AreNamesThatTheFolderTakesForTheSame)
 {
     m_scratch.WriteFile(u"from/é.txt");
     m_scratch.WriteFile(u"to/É.TXT");

@@ -1,4 +1,4 @@
-// From where to where folders go, and what is refused.
+// Sources and destinations of folders, and calls that are refused.
 #include <VyrHost/foldercopy/TransferBatch.h>
 
 #include <VyrHost/text/Errors.h>
@@ -18,7 +18,7 @@ namespace {
 class TransferTasks : public testing::Test
 {
 protected:
-    /// What a call with these names in the scratch folder complains of; empty when it is good.
+    /// The error of a call with these names in the scratch folder; empty when it is correct.
     [[nodiscard]] std::string Refusal(const std::vector<CString>& sources, const CString& destination) const
     {
         try {
@@ -41,7 +41,7 @@ protected:
 
 } // namespace
 
-TEST_F(TransferTasks, OneFolderGetsTheNewPath)
+TEST_F(TransferTasks, DestinationIsTheNewPathOfOneFolder)
 {
     m_scratch.MakeFolder(u"a");
     const auto tasks = Make({u"a"}, u"b");
@@ -50,7 +50,7 @@ TEST_F(TransferTasks, OneFolderGetsTheNewPath)
     EXPECT_EQ(tasks[0].target, m_scratch.Path(u"b"));
 }
 
-TEST_F(TransferTasks, FoldersGoIntoAFolderThatIsThere)
+TEST_F(TransferTasks, FoldersGoIntoAnExistingFolder)
 {
     m_scratch.MakeFolder(u"a");
     m_scratch.MakeFolder(u"x/b");
@@ -65,7 +65,7 @@ TEST_F(TransferTasks, FoldersGoIntoAFolderThatIsThere)
     EXPECT_EQ(Make({u"x/b/../../a"}, u"to")[0].target, m_scratch.Path(u"to/a"));
 }
 
-TEST_F(TransferTasks, OnlyFoldersAreTaken)
+TEST_F(TransferTasks, FilesAreRefused)
 {
     m_scratch.WriteFile(u"file");
     m_scratch.MakeFolder(u"to");
@@ -91,7 +91,7 @@ TEST_F(TransferTasks, NoFolderIsNamedTwice)
     EXPECT_THAT(Refusal({u"a", u"to/../a"}, u"to"), HasSubstr("is named twice"));
 }
 
-TEST_F(TransferTasks, NoFolderStandsInsideAnother)
+TEST_F(TransferTasks, NoFolderIsInsideAnother)
 {
     m_scratch.MakeFolder(u"a/b/c");
     m_scratch.MakeFolder(u"to");
@@ -101,7 +101,7 @@ TEST_F(TransferTasks, NoFolderStandsInsideAnother)
     EXPECT_EQ(Refusal({u"a", u"ab"}, u"to"), "");
 }
 
-TEST_F(TransferTasks, TheDestinationStandsInNoSource)
+TEST_F(TransferTasks, TheDestinationIsInNoSource)
 {
     m_scratch.MakeFolder(u"a/b/c");
     EXPECT_THAT(Refusal({u"a"}, u"a"), HasSubstr("stands inside"));
@@ -111,7 +111,7 @@ TEST_F(TransferTasks, TheDestinationStandsInNoSource)
     EXPECT_EQ(Refusal({u"a"}, u"a new"), "");
 }
 
-TEST_F(TransferTasks, TheDestinationStandsInNoSourceThroughALink)
+TEST_F(TransferTasks, TheDestinationIsInNoSourceThroughALink)
 {
     m_scratch.MakeFolder(u"elsewhere");
     if (const auto reason = VyrTests::MakeLink(m_scratch.MakeFolder(u"a/b"), m_scratch.Path(u"elsewhere/link"));
@@ -121,7 +121,7 @@ TEST_F(TransferTasks, TheDestinationStandsInNoSourceThroughALink)
     EXPECT_THAT(Refusal({u"a"}, u"elsewhere/link/new"), HasSubstr("stands inside"));
 }
 
-TEST_F(TransferTasks, AFolderDoesNotMeetItselfNorOneThatItStandsIn)
+TEST_F(TransferTasks, TheDestinationIsNeitherTheSourceNorAFolderThatContainsIt)
 {
     m_scratch.MakeFolder(u"a/b/a");
     EXPECT_THAT(Refusal({u"a"}, u""), HasSubstr("itself"));
@@ -129,7 +129,7 @@ TEST_F(TransferTasks, AFolderDoesNotMeetItselfNorOneThatItStandsIn)
     EXPECT_EQ(Refusal({u"a/b"}, u""), "");
 }
 
-TEST_F(TransferTasks, TheDestinationIsAFolderOrCanBeOne)
+TEST_F(TransferTasks, TheDestinationIsAFolderOrCanBeCreated)
 {
     m_scratch.MakeFolder(u"a");
     m_scratch.MakeFolder(u"b");
@@ -142,7 +142,7 @@ TEST_F(TransferTasks, TheDestinationIsAFolderOrCanBeOne)
     EXPECT_FALSE(m_scratch.Has(u"new"));
 }
 
-TEST_F(TransferTasks, NoTwoGetOnePath)
+TEST_F(TransferTasks, NewPathsAreDifferent)
 {
     m_scratch.MakeFolder(u"x/a");
     m_scratch.MakeFolder(u"y/a");
@@ -153,7 +153,7 @@ TEST_F(TransferTasks, NoTwoGetOnePath)
 TEST_F(TransferTasks, ARootHasNoNameToKeep)
 {
     m_scratch.MakeFolder(u"to");
-    // It holds the destination, too, which is found first.
+    // It contains the destination, too, and this is checked first.
     const char16_t separator = VyrPlatform::FileSystem::Separator();
     const CString root = m_scratch.Path().Left(m_scratch.Path().Find(std::u16string_view(&separator, 1)) + 1);
     EXPECT_THROW(static_cast<void>(MakeTransferTasks({root}, m_scratch.Path(u"to"))), UsageError);

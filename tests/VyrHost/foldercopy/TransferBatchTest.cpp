@@ -1,4 +1,4 @@
-// Several folders in one call, and a stop that is asked for in the middle of one.
+// Several folders in one call, and a stop in the middle of one.
 #include "Snapshot.h"
 
 #include <VyrHost/foldercopy/TransferBatch.h>
@@ -21,7 +21,7 @@ using VyrTests::TreeSnapshot;
 
 namespace {
 
-/// Asks for a stop from within the walk through a tree, as soon as some of its files have come to the target.
+/// Requests a stop during the walk through a tree, as soon as some of its files are at the target.
 class StoppingWatch final : public TransferWatch
 {
 public:
@@ -36,12 +36,13 @@ public:
 
     std::vector<CString> begun;
     std::size_t ended = 0;
-    /// What stood at the target when the stop was asked for.
+    /// The target when the stop was requested.
     TreeSnapshot then;
     std::size_t shownAfterStop = 0;
 
 private:
-    /// The walk drains the thread's queue at each entry. The last look may still be in the queue when this is gone.
+    /// The walk drains the thread's queue at each entry. The last work may be in the queue longer than this object
+    /// lives.
     void PostLook()
     {
         m_posting.PostWork([self = std::weak_ptr(m_self)] {
@@ -57,7 +58,7 @@ private:
             return;
         }
         m_isAsked = true;
-        // Longer than from one show to the next.
+        // Longer than the interval of progress.
         std::this_thread::sleep_for(std::chrono::milliseconds(250));
     }
 
@@ -104,7 +105,7 @@ std::vector<Status> StatusesOf(const TransferBatch& batch)
 
 } // namespace
 
-TEST_P(TransferBatchTest, StopInAFolderBringsItToItsEndAndBeginsNoOther)
+TEST_P(TransferBatchTest, StopInAFolderFinishesItAndBeginsNoOther)
 {
     const TreeSnapshot one = At(u"one");
     const TreeSnapshot two = At(u"two");
@@ -118,7 +119,7 @@ TEST_P(TransferBatchTest, StopInAFolderBringsItToItsEndAndBeginsNoOther)
     EXPECT_THAT(watch.begun, ElementsAre(m_scratch.Path(u"one")));
     EXPECT_EQ(watch.ended, 1u);
     EXPECT_GE(watch.shownAfterStop, 1u);
-    // The stop did come in the middle, and nothing is half there.
+    // The stop came in the middle, and no file is incomplete.
     EXPECT_GE(watch.then.size(), 2u);
     EXPECT_LT(watch.then.size(), one.size());
     EXPECT_EQ(At(u"to/one"), one);
@@ -141,7 +142,7 @@ TEST_P(TransferBatchTest, StopInTheLastFolderLeavesNothingUndone)
     EXPECT_EQ(watch.ended, 2u);
 }
 
-TEST_P(TransferBatchTest, WhatWasNotReachedIsDoneByTheNextCall)
+TEST_P(TransferBatchTest, NextCallDoesTheFoldersNotReached)
 {
     {
         TransferBatch batch(Paths({u"one", u"two", u"three"}), m_scratch.Path(u"to"), GetParam(), Trial::Allowed);
@@ -158,7 +159,7 @@ TEST_P(TransferBatchTest, WhatWasNotReachedIsDoneByTheNextCall)
     EXPECT_EQ(At(u"to/three").size(), 1u);
 }
 
-TEST_P(TransferBatchTest, RefusesAllForOneClashAndTouchesNothing)
+TEST_P(TransferBatchTest, RefusesAllForOneConflictAndChangesNothing)
 {
     m_scratch.WriteFile(u"to/two/f", "old");
     TransferBatch batch(Paths({u"one", u"two"}), m_scratch.Path(u"to"), GetParam(), Trial::Allowed);

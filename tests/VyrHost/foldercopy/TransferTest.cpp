@@ -1,4 +1,4 @@
-// Trees are copied and moved, compared, and their folders get their times.
+// Copying and moving of trees, the comparison afterwards, and the times of folders.
 #include "Snapshot.h"
 
 #include <VyrHost/foldercopy/Transfer.h>
@@ -21,11 +21,11 @@ using VyrTests::TreeSnapshot;
 
 namespace {
 
-/// The folder "from", which goes to "to".
+/// The folder "from", to be copied or moved to "to".
 class FolderTransfer : public testing::Test
 {
 protected:
-    /// Hands the tree to the library.
+    /// Calls the library for the tree.
     void Transfer(TransferAction action)
     {
         m_tree = TakeSnapshot(m_scratch.Path(u"from"));
@@ -35,7 +35,7 @@ protected:
     {
         return FinishTransfer(m_tree, m_scratch.Path(u"to"), action, m_records);
     }
-    /// All of it, without a problem.
+    /// Does all steps, and expects no problem.
     void TransferWell(TransferAction action)
     {
         Transfer(action);
@@ -50,7 +50,7 @@ protected:
     TransferRecords m_records;
 };
 
-/// The paths of problems, each of the fault `fault`.
+/// The paths of the problems with the fault `fault`.
 std::vector<CString> PathsOf(const TransferProblems& problems, TransferFault fault)
 {
     std::vector<CString> paths;
@@ -80,7 +80,7 @@ TEST_F(FolderTransfer, CopyIsTheSameTree)
     EXPECT_EQ(m_records.size(), 5u);
 }
 
-TEST_F(FolderTransfer, MoveLeavesNothing)
+TEST_F(FolderTransfer, MoveRemovesTheSource)
 {
     m_scratch.WriteFile(u"from/a", "1");
     m_scratch.WriteFile(u"from/x/y/z", "3");
@@ -91,7 +91,7 @@ TEST_F(FolderTransfer, MoveLeavesNothing)
     EXPECT_EQ(From(), Missing);
 }
 
-TEST_F(FolderTransfer, EmptyFolderIsATreeToo)
+TEST_F(FolderTransfer, EmptyFolderIsCopied)
 {
     m_scratch.MakeFolder(u"from");
     TransferWell(TransferAction::Copy);
@@ -139,7 +139,7 @@ TEST_F(FolderTransfer, FoldersKeepTheirCreationTime)
     EXPECT_EQ(FileTimes::GetCreated(m_scratch.Path(u"to")), created);
 }
 
-TEST_F(FolderTransfer, TimesThatHaveChangedSinceAreTheRecordedOnes)
+TEST_F(FolderTransfer, TimesAreThoseOfTheSnapshot)
 {
     m_scratch.MakeFolder(u"from");
     TransferWell(TransferAction::Copy);
@@ -160,7 +160,7 @@ TEST_F(FolderTransfer, TimesOfAFolderThatIsGoneAreAProblem)
     EXPECT_NE(result.creationError, 0u);
 }
 
-TEST_F(FolderTransfer, FolderThatIsThereTakesUpTheRest)
+TEST_F(FolderTransfer, ExistingFolderIsMerged)
 {
     m_scratch.WriteFile(u"from/a/new", "1");
     m_scratch.WriteFile(u"to/a/old", "2");
@@ -170,7 +170,7 @@ TEST_F(FolderTransfer, FolderThatIsThereTakesUpTheRest)
     EXPECT_TRUE(m_records.empty());
 }
 
-TEST_F(FolderTransfer, RootThatCannotBeMadeEndsIt)
+TEST_F(FolderTransfer, RootThatCannotBeCreatedIsAProblem)
 {
     m_scratch.WriteFile(u"from/a", "1");
     m_scratch.WriteFile(u"file");
@@ -182,7 +182,7 @@ TEST_F(FolderTransfer, RootThatCannotBeMadeEndsIt)
     EXPECT_FALSE(m_scratch.Has(u"missing"));
 }
 
-TEST_F(FolderTransfer, WhatIsMissingIsTriedAgain)
+TEST_F(FolderTransfer, MissingEntriesAreTriedAgain)
 {
     for (const TransferAction action : {TransferAction::Copy, TransferAction::Move}) {
         m_records.clear();
@@ -204,7 +204,7 @@ TEST_F(FolderTransfer, WhatIsMissingIsTriedAgain)
     }
 }
 
-TEST_F(FolderTransfer, WhatIsGoneMeanwhileIsReported)
+TEST_F(FolderTransfer, EntriesRemovedMeanwhileAreReported)
 {
     m_scratch.WriteFile(u"from/a", "1");
     m_scratch.WriteFile(u"from/b", "2");
@@ -216,7 +216,7 @@ TEST_F(FolderTransfer, WhatIsGoneMeanwhileIsReported)
     EXPECT_NE(problems.at(0).error, 0u);
 }
 
-TEST_F(FolderTransfer, FileThatGrowsMeanwhileIsTakenAsItIsNow)
+TEST_F(FolderTransfer, FileThatGrowsMeanwhileIsCopiedWithItsNewSize)
 {
     m_scratch.WriteFile(u"from/a", "1");
     m_tree = TakeSnapshot(m_scratch.Path(u"from"));
@@ -226,7 +226,7 @@ TEST_F(FolderTransfer, FileThatGrowsMeanwhileIsTakenAsItIsNow)
     EXPECT_EQ(To(), (TreeSnapshot{{"a", "12345"}}));
 }
 
-TEST_F(FolderTransfer, WhatDiffersIsReportedAndLeftAlone)
+TEST_F(FolderTransfer, DifferencesAreReportedAndNotChanged)
 {
     m_scratch.WriteFile(u"from/a", "1");
     m_scratch.WriteFile(u"from/b/inner", "2");
@@ -242,7 +242,7 @@ TEST_F(FolderTransfer, WhatDiffersIsReportedAndLeftAlone)
     EXPECT_EQ(To(), (TreeSnapshot{{"a", "cut off"}, {"b", "no folder"}, {"c", "3"}}));
 }
 
-TEST_F(FolderTransfer, WhatIsStillAtTheSourceOfAMoveIsReported)
+TEST_F(FolderTransfer, EntriesStillAtTheSourceOfAMoveAreReported)
 {
     m_scratch.WriteFile(u"from/a", "1");
     m_scratch.WriteFile(u"from/b", "2");

@@ -1,4 +1,4 @@
-// Tests of the inventory of the registry at hand: what is listed of it, and what is hidden.
+// The inventory of the present registry: its rows, and which are hidden.
 #include <VyrHost/inventory/Inventory.h>
 
 #include <tests/support/ScratchRegistry.h>
@@ -35,7 +35,7 @@ protected:
 
 } // namespace
 
-TEST_F(Inventory, ListsTheProgramsOfTheScope)
+TEST_F(Inventory, ListsTheProgramsInTheScope)
 {
     m_registry.SetText(HKEY_LOCAL_MACHINE, uninstall + u"a", u"DisplayName", u"Machine");
     m_registry.SetText(HKEY_LOCAL_MACHINE, uninstall32 + u"a", u"DisplayName", u"Machine 32");
@@ -82,10 +82,10 @@ TEST_F(Inventory, FindsProgramsByNameAndPublisherInAnyCase)
         EXPECT_FALSE(program.Matches(text));
 }
 
-TEST_F(Inventory, TellsTheProductsOfTheMachineFromThoseOfTheUser)
+TEST_F(Inventory, DistinguishesTheProductsOfTheMachineAndOfTheUser)
 {
     const CString products = u"Installer\\Products\\";
-    // The classes' root shows those of the machine.
+    // The root key of the classes shows those of the machine.
     for (const char16_t* const key : {u"AAAA", u"BBBB"}) {
         m_registry.SetText(HKEY_LOCAL_MACHINE, u"SOFTWARE\\Classes\\" + products + key, u"ProductName", u"machine");
         m_registry.SetText(HKEY_CLASSES_ROOT, products + key, u"ProductName", u"machine");
@@ -112,7 +112,7 @@ TEST_F(Inventory, ListsTheBrowsersThatAreRegistered)
     m_registry.SetText(HKEY_LOCAL_MACHINE, clients + u"Fast\\shell\\open\\command", u"", u"\"C:\\fast.exe\" -x");
     m_registry.SetText(HKEY_LOCAL_MACHINE, clients + u"Nameless\\shell\\open\\command", u"", u"C:\\n.exe");
     std::vector<Browser> browsers = ListBrowsers(m_here, m_notes);
-    // The packaged one depends on the machine that the test runs on.
+    // Whether there is a packaged one depends on the machine that runs the test.
     std::erase_if(browsers, [](const Browser& browser) { return browser.IsPackaged(); });
     ASSERT_EQ(browsers.size(), 1u);
     EXPECT_EQ(browsers[0].item.DisplayName, u"Fast Browser");

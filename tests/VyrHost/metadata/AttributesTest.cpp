@@ -1,4 +1,4 @@
-// Attributes that are set, cleared and taken back.
+// Setting, clearing and restoring attributes.
 #include <VyrHost/metadata/Attributes.h>
 #include <VyrHost/text/Errors.h>
 
@@ -28,7 +28,7 @@ Proposal Propose(const CString& path, std::uint32_t set, std::uint32_t clear)
 
 } // namespace
 
-TEST(Attributes, ChosenOnesAreChangedAndOthersStay)
+TEST(Attributes, ChosenOnesAreChangedAndOthersKept)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a", "x");
@@ -50,7 +50,7 @@ TEST(Attributes, ChosenOnesAreChangedAndOthersStay)
     EXPECT_EQ(FileAttributes::Get(path), before);
 }
 
-TEST(Attributes, HalfAChangeIsTakenBack)
+TEST(Attributes, HalfAChangeIsUndone)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a", "x");
@@ -63,7 +63,7 @@ TEST(Attributes, HalfAChangeIsTakenBack)
     EXPECT_EQ(FileAttributes::Get(path), before);
 }
 
-TEST(Attributes, WhatIsSoAlreadyStays)
+TEST(Attributes, FileThatHasThemAlreadyIsUnchanged)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a", "x");
@@ -91,13 +91,13 @@ TEST(Attributes, WordsAndLettersAreReadOrRefused)
             << VyrPlatform::Encoding::ToUtf8(text);
 }
 
-TEST(Attributes, LettersStandInTheOrderOfTheLibrary)
+TEST(Attributes, LettersAreInTheOrderOfTheLibrary)
 {
     EXPECT_EQ(AttributeLetters(0x1 | 0x2 | 0x10 | 0x20 | 0x2000), u"RHDAI");
     EXPECT_EQ(AttributeLetters(0x80), u"-");
 }
 
-TEST(Attributes, JournalTextsThatAreNoneAreRefused)
+TEST(Attributes, WrongJournalTextsAreRefused)
 {
     EXPECT_TRUE(AttributesChange::Read(u"80 0644 - -", u"3 2"));
     for (const char16_t* const text : {u"", u"80", u"x 0644", u"-1 0644", u"ffffffff 0644"})

@@ -1,4 +1,4 @@
-// Dates in names, as cameras and programs write them.
+// Dates in names, in the forms of cameras and programs.
 #include <VyrHost/metadata/Dates.h>
 
 #include <tests/support/Describe.h>
@@ -12,7 +12,7 @@ using VyrHost::Metadata::NameDateProblem;
 
 namespace {
 
-/// The date, with its time of day where there is one; "none", or "no such day".
+/// The date, with its time of day where the name has one; "none", or "no such day".
 std::string DateIn(std::u16string_view name)
 {
     NameDateProblem problem = NameDateProblem::None;
@@ -44,7 +44,7 @@ TEST(NameDate, FormsOfCamerasAndProgramsAreRead)
         EXPECT_EQ(DateIn(name), date) << VyrPlatform::Encoding::ToUtf8(name);
 }
 
-TEST(NameDate, WhatIsNoPossibleTimeIsLeftOut)
+TEST(NameDate, ImpossibleTimesAreIgnored)
 {
     EXPECT_EQ(DateIn(u"2024-01-05 25.00.00.jpg"), "2024-01-05");
     EXPECT_EQ(DateIn(u"2024-01-05 10.60.00.jpg"), "2024-01-05");
@@ -52,7 +52,7 @@ TEST(NameDate, WhatIsNoPossibleTimeIsLeftOut)
     EXPECT_EQ(DateIn(u"20240105_12.jpg"), "2024-01-05");
 }
 
-TEST(NameDate, ImpossibleDaysAreToldFromNoDate)
+TEST(NameDate, ImpossibleDaysAreDistinguishedFromNoDate)
 {
     EXPECT_EQ(DateIn(u"IMG_20240230_103000.jpg"), "no such day");
     EXPECT_EQ(DateIn(u"2023-02-29.jpg"), "no such day");
@@ -62,7 +62,7 @@ TEST(NameDate, ImpossibleDaysAreToldFromNoDate)
         EXPECT_EQ(DateIn(name), "none") << VyrPlatform::Encoding::ToUtf8(name);
 }
 
-TEST(NameDate, FirstPossibleDateCounts)
+TEST(NameDate, FirstPossibleDateIsTaken)
 {
     EXPECT_EQ(DateIn(u"20240230 20240301 20240302.jpg"), "2024-03-01");
 }

@@ -1,4 +1,4 @@
-// Marks of downloads: what they tell, and how they go and come back.
+// Marks of downloads: reading, removing and restoring them.
 #include <VyrHost/metadata/Marks.h>
 
 #include <VyrPlatform/files/FileAttributes.h>
@@ -37,7 +37,7 @@ ZoneForms FormsOf(const CString& path)
 
 } // namespace
 
-TEST(Mark, GoesAndComesBackWithItsBytes)
+TEST(Mark, IsRemovedAndRestoredWithItsBytes)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a", "content");
@@ -59,7 +59,7 @@ TEST(Mark, GoesAndComesBackWithItsBytes)
     EXPECT_EQ(scratch.ReadFile(u"a"), "content");
 }
 
-TEST(Mark, OfAReadOnlyFileGoesAndComesBack)
+TEST(Mark, OfAReadOnlyFileIsRemovedAndRestored)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a", "content");
@@ -76,7 +76,7 @@ TEST(Mark, OfAReadOnlyFileGoesAndComesBack)
     VyrTests::SetReadOnly(path, false);
 }
 
-TEST(Mark, OfAnotherProgramIsNotTouched)
+TEST(Mark, ChangedByAnotherProgramIsNotTouched)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a", "content");
@@ -88,7 +88,7 @@ TEST(Mark, OfAnotherProgramIsNotTouched)
     EXPECT_EQ(proposal.change->Look(path).state, ChangeState::Other);
 }
 
-TEST(Mark, TellsTheZoneAndWhereTheFileCameFrom)
+TEST(Mark, TellsTheZoneAndTheOriginOfTheFile)
 {
     EXPECT_EQ(Shown(ZoneForms()), u"");
     EXPECT_EQ(Shown({Stream("[ZoneTransfer]\r\nZoneId=3\r\nHostUrl=https://example.org/a.zip\r\n")}),
@@ -104,7 +104,7 @@ TEST(Mark, TellsTheZoneAndWhereTheFileCameFrom)
         EXPECT_EQ(Shown({Stream(bytes)}), u"marked");
 }
 
-TEST(Mark, JournalTextsThatAreNoneAreRefused)
+TEST(Mark, JournalTextsThatAreWrongAreRefused)
 {
     EXPECT_TRUE(MarkChange::Read(u":Zone.Identifier 00ff", u"none"));
     EXPECT_TRUE(MarkChange::Read(u"a ;b 00", u"none")) << "a form may be empty";

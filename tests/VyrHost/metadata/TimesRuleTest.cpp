@@ -1,4 +1,4 @@
-// New times of files: from what is typed, from the file, and moved.
+// New times of files: typed, from the file, and shifted.
 #include <VyrHost/metadata/Times.h>
 
 #include <VyrHost/text/Errors.h>
@@ -44,7 +44,7 @@ protected:
         m_settings.sources[static_cast<std::size_t>(date)] = ParseTimeSource(source, "--set-modified");
     }
 
-    /// What becomes of the file, as "old => new", or why nothing does; then the change is applied, and taken back.
+    /// The result for the file as "old => new", or why there is none; then the change is applied and undone.
     std::string Propose(std::size_t index = 0) const
     {
         VyrHost::Model::Entry entry;
@@ -83,13 +83,13 @@ protected:
 
 } // namespace
 
-TEST_F(Times, WhatIsTypedIsSet)
+TEST_F(Times, TypedTimeIsSet)
 {
     Set(FileDate::Modified, u"2024-01-05 10:30");
     EXPECT_EQ(Propose(), "modified 2020-05-06 07:08:09 => modified 2024-01-05 10:30:00");
 }
 
-TEST_F(Times, OtherPartOfADateOrATimeStaysTheFiles)
+TEST_F(Times, OtherPartOfADateOrATimeIsThatOfTheFile)
 {
     Set(FileDate::Modified, u"2024-01-05");
     EXPECT_EQ(Propose(), "modified 2020-05-06 07:08:09 => modified 2024-01-05 07:08:09");
@@ -111,7 +111,7 @@ TEST_F(Times, AnotherTimeOfTheFileIsTakenWithItsFraction)
     EXPECT_EQ(steps.front().after, FileTimes::GetModified(m_path));
 }
 
-TEST_F(Times, WhatIsSoAlreadyStays)
+TEST_F(Times, FileThatHasTheTimeAlreadyIsUnchanged)
 {
     Set(FileDate::Modified, u"from:modified");
     EXPECT_EQ(Propose(), "");
@@ -140,7 +140,7 @@ TEST_F(Times, MomentOfThePictureIsTaken)
     EXPECT_EQ(Propose(), "modified 2020-05-06 07:08:09 => modified 2019-03-04 05:06:07");
 }
 
-TEST_F(Times, ShiftMovesTheLastChangeWhereNoTimeIsNamed)
+TEST_F(Times, ShiftAppliesToTheLastChangeByDefault)
 {
     m_settings.shift = Step(u"1h30m");
     EXPECT_EQ(Propose(), "modified 2020-05-06 07:08:09 => modified 2020-05-06 08:38:09");
@@ -151,7 +151,7 @@ TEST_F(Times, ShiftMovesTheLastChangeWhereNoTimeIsNamed)
     EXPECT_EQ(Propose(), "accessed 2021-01-02 03:04:05 => accessed 2021-01-03 03:04:05");
 }
 
-TEST_F(Times, StepsCountByThePlaceInTheList)
+TEST_F(Times, StepsCountByTheIndexInTheList)
 {
     Set(FileDate::Modified, u"2024-01-31 23:59:00");
     m_settings.stagger = Step(u"1m");
@@ -174,7 +174,7 @@ TEST_F(Times, TimesOutOfTheCalendarAreRefused)
     EXPECT_EQ(Propose(1'000'000), refusal) << "no number wraps";
 }
 
-TEST_F(Times, TypedTimesStandAsTypedInSummerAndInWinter)
+TEST_F(Times, TypedTimesAreLocalInSummerAndInWinter)
 {
     for (const char* const name : {"Europe/Berlin", "America/New_York", "Australia/Lord_Howe"}) {
         const TimeZone zone(name);
@@ -195,7 +195,7 @@ TEST_F(Times, TypedTimesStandAsTypedInSummerAndInWinter)
     }
 }
 
-TEST_F(Times, HourThatClocksLeaveOutIsRefused)
+TEST_F(Times, HourThatClocksSkipIsRefused)
 {
     const TimeZone zone("Europe/Berlin");
     if (!zone.IsSet())
@@ -211,7 +211,7 @@ TEST_F(Times, MissingFileIsRefusedWithTheSystemsReason)
     EXPECT_NE(Propose(), "");
 }
 
-TEST_F(Times, TimesOfAnotherProgramAreOther)
+TEST_F(Times, TimesSetByAnotherProgramAreNotUndone)
 {
     using VyrHost::Model::ChangeState;
     Set(FileDate::Modified, u"2024-01-05 10:30");
@@ -252,7 +252,7 @@ TEST(TimesTexts, AmountsAreReadOrRefused)
             << VyrPlatform::Encoding::ToUtf8(text);
 }
 
-TEST(TimesTexts, JournalTextsThatAreNoneAreRefused)
+TEST(TimesTexts, WrongJournalTextsAreRefused)
 {
     const CString before = u"modified 132331234567890000 1588741689.123";
     const CString after = u"modified 132331234567890001";

@@ -1,4 +1,4 @@
-// Tests of the listings of folders: in natural order, with every name that the disk tells apart.
+// Listings of folders: in natural order, with every name that the disk distinguishes.
 #include <VyrHost/model/FolderSet.h>
 
 #include <VyrPlatform/files/FileSystem.h>
@@ -38,7 +38,7 @@ TEST(FolderSet, ListsAFolderInNaturalOrder)
             std::u16string name = start;
             for (std::size_t length = 1 + random() % 9; length > 0; --length)
                 name += units[random() % std::size(units)];
-            // Windows takes no name that ends in a dot or a space.
+            // Windows allows no name that ends in a dot or a space.
             name += u'x';
             if (!made.insert(name).second)
                 continue;
@@ -56,7 +56,7 @@ TEST(FolderSet, ListsAFolderInNaturalOrder)
     }
 }
 
-TEST(FolderSet, ListsNumbersThatAreAlikeByTheirUnits)
+TEST(FolderSet, OrdersEqualNumbersByTheirCodeUnits)
 {
     const ScratchFolder scratch;
     for (const char16_t* const name : {u"10", u"9", u"010", u"1", u"01", u"001", u"0", u"00", u"2a", u"02b", u"2"})
@@ -67,7 +67,7 @@ TEST(FolderSet, ListsNumbersThatAreAlikeByTheirUnits)
         (std::vector<std::u16string>{u"0", u"00", u"001", u"01", u"1", u"2", u"2a", u"02b", u"9", u"010", u"10"}));
 }
 
-TEST(FolderSet, HasBothOfTwoNamesThatDifferInTheirNormalForm)
+TEST(FolderSet, HasBothNamesThatDifferInTheirNormalForm)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"\u00E9t\u00E9.jpg");
@@ -79,7 +79,7 @@ TEST(FolderSet, HasBothOfTwoNamesThatDifferInTheirNormalForm)
     EXPECT_EQ(folder.names.Find(u"\u00E9te\u0301.jpg"), nullptr);
 }
 
-TEST(FolderSet, TellsWhatStandsUnderEachName)
+TEST(FolderSet, HasTheEntryOfEachName)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"file");
@@ -97,7 +97,7 @@ TEST(FolderSet, TellsWhatStandsUnderEachName)
     EXPECT_EQ(folder.names.Find(u"file")->holder, noEntry);
     ASSERT_NE(folder.names.Find(u"folder"), nullptr);
     EXPECT_EQ(folder.names.Find(u"folder")->kind, Kind::Folder);
-    // What is added stands behind.
+    // A name that is added comes last.
     folder.names.Add(folders.Intern(u"a"));
     EXPECT_EQ(NamesIn(folder), (std::vector<std::u16string>{u"file", u"folder", u"a"}));
 }
@@ -119,7 +119,7 @@ TEST(FolderSet, ListsAFolderOnceWhateverItsPath)
     EXPECT_EQ(NamesIn(folders[number]), std::vector<std::u16string>{u"first"});
 }
 
-TEST(FolderSet, KeepsFoldersWhereTheyAreWhenMoreAreOpened)
+TEST(FolderSet, DoesNotMoveFoldersInMemoryWhenMoreAreOpened)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"name");
@@ -136,7 +136,7 @@ TEST(FolderSet, KeepsFoldersWhereTheyAreWhenMoreAreOpened)
     EXPECT_EQ(NamesIn(first), std::vector<std::u16string>{u"name"});
 }
 
-TEST(FolderSet, KnowsWhereEachFolderStands)
+TEST(FolderSet, HasTheParentOfEachFolder)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"outer/inner/file");
@@ -146,13 +146,13 @@ TEST(FolderSet, KnowsWhereEachFolderStands)
     EXPECT_EQ(folders[inner].name.View(), u"inner");
     EXPECT_EQ(folders[outer].name.View(), u"outer");
     EXPECT_EQ(folders[outer].path, WithSeparator(scratch.Path(u"outer")));
-    // It is listed once it is asked for.
+    // It is listed on demand.
     EXPECT_FALSE(folders[outer].wasOpened);
     EXPECT_TRUE(folders[outer].names.Records().empty());
     EXPECT_EQ(folders.Open(WithSeparator(scratch.Path(u"outer")), u"shown/"), outer);
     EXPECT_EQ(NamesIn(folders[outer]), std::vector<std::u16string>{u"inner"});
     EXPECT_EQ(folders[outer].shown, u"shown/");
-    // Upward there is a root, whose name is its path.
+    // The chain of parents ends at a root, whose name is its path.
     std::uint32_t root = outer;
     for (int steps = 0; folders[root].parent != noFolder; root = folders[root].parent) {
         EXPECT_LT(folders[root].parent, root);
@@ -162,7 +162,7 @@ TEST(FolderSet, KnowsWhereEachFolderStands)
     EXPECT_FALSE(folders[root].path.IsEmpty());
 }
 
-TEST(FolderSet, TakesAFolderThatIsNotThereForEmpty)
+TEST(FolderSet, TreatsAMissingFolderAsEmpty)
 {
     const ScratchFolder scratch;
     FolderSet folders;

@@ -1,4 +1,3 @@
-// Tests of what keeps the names of long lists.
 #include <VyrHost/model/NamePool.h>
 
 #include <gtest/gtest.h>
@@ -14,7 +13,7 @@ namespace {
 
 using namespace VyrHost::Model;
 
-/// A text of `length` units that differs from others of that length, in which no part is like another.
+/// A text of `length` code units that differs from others of that length, without repeated parts.
 std::u16string TextOf(std::size_t length, unsigned seed)
 {
     std::mt19937 random(seed);
@@ -25,7 +24,7 @@ std::u16string TextOf(std::size_t length, unsigned seed)
     return text;
 }
 
-TEST(InternedName, IsOneWordThatIsCopiedAsOne)
+TEST(InternedName, IsOneWord)
 {
     EXPECT_EQ(sizeof(InternedName), sizeof(void*));
     EXPECT_TRUE(std::is_trivially_copyable_v<InternedName>);
@@ -44,7 +43,7 @@ TEST(InternedName, IsEmptyAtFirst)
     EXPECT_FALSE(name == texts.Intern(std::u16string_view(u"\0", 1)));
 }
 
-TEST(InternedName, IsEqualToWhatHasItsText)
+TEST(InternedName, IsEqualToItsText)
 {
     NamePool texts;
     NamePool others;
@@ -71,7 +70,7 @@ TEST(InternedName, IsEqualToWhatHasItsText)
         }
 }
 
-TEST(InternedName, IsTakenForItsText)
+TEST(InternedName, ConvertsToItsText)
 {
     NamePool texts;
     const InternedName name = texts.Intern(u"holiday.jpg");
@@ -82,7 +81,7 @@ TEST(InternedName, IsTakenForItsText)
     EXPECT_EQ(name.View(), u"holiday.jpg");
 }
 
-TEST(NamePool, KeepsTextsOfEveryLengthApart)
+TEST(NamePool, DistinguishesTextsOfEveryLength)
 {
     NamePool texts;
     std::vector<std::pair<std::u16string, InternedName>> kept;
@@ -96,11 +95,11 @@ TEST(NamePool, KeepsTextsOfEveryLengthApart)
         EXPECT_TRUE(name.View() == text) << text.size();
 }
 
-TEST(NamePool, KeepsEachLengthFromNothingToMoreThanABlock)
+TEST(NamePool, KeepsEachLengthFromZeroToMoreThanABlock)
 {
     NamePool texts;
     std::vector<InternedName> kept;
-    // Each text is the first part of one, so that a mistake of a unit shows.
+    // Each text is a prefix of this one, so that an error of one code unit shows.
     const std::u16string text = TextOf(3000, 7);
     for (std::size_t length = 0; length <= text.size(); ++length)
         kept.push_back(texts.Intern(std::u16string_view(text).substr(0, length)));
@@ -108,7 +107,7 @@ TEST(NamePool, KeepsEachLengthFromNothingToMoreThanABlock)
         ASSERT_TRUE(kept[length].View() == std::u16string_view(text).substr(0, length)) << length;
 }
 
-TEST(NamePool, KeepsMillionsOfShortTextsWhereTheyAre)
+TEST(NamePool, DoesNotMoveMillionsOfShortTexts)
 {
     constexpr std::uint32_t count = 3'000'000;
     NamePool texts;
@@ -135,14 +134,14 @@ TEST(NamePool, KeepsMillionsOfShortTextsWhereTheyAre)
     }
 }
 
-TEST(NamePool, KeepsCopies)
+TEST(NamePool, CopiesTexts)
 {
     NamePool texts;
     std::u16string text = u"before";
     const InternedName name = texts.Intern(text);
     text = u"behind";
     EXPECT_EQ(name.View(), u"before");
-    // Of what it keeps itself, too.
+    // Also of a text that it owns.
     const InternedName copy = texts.Intern(name);
     EXPECT_EQ(copy.View(), u"before");
     EXPECT_NE(copy.View().data(), name.View().data());

@@ -1,4 +1,3 @@
-// Tests of the table of a folder's names.
 #include <VyrHost/model/NameTable.h>
 
 #include <VyrHost/model/NamePool.h>
@@ -21,20 +20,20 @@ namespace {
 
 constexpr NameFolding Foldings[] = {NameFolding::None, NameFolding::Case, NameFolding::Form, NameFolding::CaseAndForm};
 
-/// A piece of a name, and what it is for each of the foldings: equal numbers are one to the folder.
+/// A part of a name, and its class for each of the foldings: equal numbers are the same to the folder.
 struct Piece
 {
     std::u16string_view text;
     std::array<char, 4> kinds;
 };
 
-// A letter with its accent, in one code point and in two, small and capital.
+// An accented letter in one code point and in two, small and capital.
 constexpr Piece Pieces[] = {
     {u"a", {1, 1, 1, 1}},       {u"A", {2, 1, 2, 1}},       {u"\u00E9", {3, 3, 3, 3}}, {u"\u00C9", {4, 3, 4, 3}},
     {u"e\u0301", {5, 5, 3, 3}}, {u"E\u0301", {6, 5, 4, 3}}, {u".", {7, 7, 7, 7}},      {u"1", {8, 8, 8, 8}},
 };
 
-/// A name of some of these, and its key for a folding.
+/// A name of some of these parts, and its key for a folding.
 struct Made
 {
     std::u16string name;
@@ -54,7 +53,7 @@ Made MakeName(std::mt19937& random, NameFolding folding)
 
 } // namespace
 
-TEST(NameTable, HasNothingAtFirst)
+TEST(NameTable, IsEmptyAtFirst)
 {
     for (const NameFolding folding : Foldings) {
         NameTable table;
@@ -70,7 +69,7 @@ TEST(NameTable, HasNothingAtFirst)
     }
 }
 
-TEST(NameTable, FindsWhatItsFolderTakesForTheSameName)
+TEST(NameTable, FindsNamesThatItsFolderTakesForTheSame)
 {
     for (const NameFolding folding : Foldings)
         for (const Piece& left : Pieces)
@@ -90,7 +89,7 @@ TEST(NameTable, FindsWhatItsFolderTakesForTheSameName)
             }
 }
 
-TEST(NameTable, KeepsTheFirstOfNamesThatAreOne)
+TEST(NameTable, KeepsTheFirstOfEqualNames)
 {
     NamePool texts;
     NameTable table;
@@ -131,7 +130,7 @@ TEST(NameTable, IsAMapOfNamesAsItsFolderComparesThem)
                     order.push_back(made.name);
                 ASSERT_EQ(&record, expected[made.key]);
             }
-            // References stayed good, and the records stand in their order.
+            // References are still valid, and the records are in their order.
             ASSERT_EQ(table.Records().size(), order.size());
             for (std::size_t place = 0; place < order.size(); ++place) {
                 EXPECT_EQ(table.Records()[place].name.View(), order[place]);
@@ -141,7 +140,7 @@ TEST(NameTable, IsAMapOfNamesAsItsFolderComparesThem)
         }
 }
 
-TEST(NameTable, HoldsTheSameWheneverRoomIsMade)
+TEST(NameTable, HasTheSameContentWhereverRoomIsReserved)
 {
     for (const NameFolding folding : Foldings)
         for (const std::size_t room : {0u, 1u, 8u, 15u, 16u, 17u, 3000u}) {
@@ -166,7 +165,7 @@ TEST(NameTable, HoldsTheSameWheneverRoomIsMade)
         }
 }
 
-TEST(NameTable, FindsEveryNameAmongManyAndNoOther)
+TEST(NameTable, FindsEachOfManyNamesAndNoOther)
 {
     constexpr std::uint32_t Count = 20000;
     NamePool texts;

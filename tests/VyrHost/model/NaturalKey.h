@@ -1,4 +1,4 @@
-// For tests: the natural order of names, worked out in another way than the program does.
+// For tests: the natural order of names, computed in another way than the program does.
 #pragma once
 
 #include <cstdint>
@@ -9,9 +9,9 @@
 
 namespace VyrTests {
 
-/// A key whose standard order is the natural order of names: a number becomes "0", how many digits it has without zeros
-/// in front, and these; a letter becomes a small one; the name itself stands behind. Not for names with one of
-/// "[\]^_`", which stand between the capital letters and the small ones.
+/// A key whose standard order is the natural order of names. A number becomes "0", the count of its digits without
+/// leading zeros, and these digits; a capital letter becomes a small one; the name itself follows. Not for names with
+/// one of "[\]^_`", which are between the capital and the small letters.
 inline std::pair<std::vector<std::uint32_t>, std::u16string> NaturalKey(std::u16string_view name)
 {
     const auto isDigit = [](char16_t unit) {

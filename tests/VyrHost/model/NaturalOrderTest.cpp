@@ -1,4 +1,3 @@
-// Tests of the natural order of names.
 #include <VyrHost/model/NaturalOrder.h>
 
 #include <gtest/gtest.h>
@@ -21,7 +20,7 @@ TEST(NaturalOrder, OrdersNumbersByTheirValue)
     for (int round = 0; round < 50; ++round) {
         std::shuffle(names.begin(), names.end(), random);
         std::sort(names.begin(), names.end(), IsNaturallyLess);
-        // A2b and a002b are the same number and letters: their code units decide, a capital first.
+        // A2b and a002b have the same number and letters: their code units decide, a capital first.
         EXPECT_EQ(names, expected);
     }
 }
@@ -50,7 +49,7 @@ struct Named
     std::u16string_view name;
 };
 
-TEST(NaturalOrder, SortsAsTheOrderSaysWhateverNamesBeginWith)
+TEST(NaturalOrder, SortsNamesWithAnyBeginning)
 {
     constexpr char16_t Units[] = {u'0', u'0', u'1', u'2', u'9', u'a', u'A', u'b', u'-', u':', u'.', u'é', u'日', u'z'};
     std::mt19937 random(11);
@@ -74,7 +73,7 @@ TEST(NaturalOrder, SortsAsTheOrderSaysWhateverNamesBeginWith)
     }
 }
 
-TEST(NaturalOrder, IsThatOfTheirNumbersAndLetters)
+TEST(NaturalOrder, IsThatOfNumbersAndLetters)
 {
     constexpr std::u16string_view Parts[] = {u"",  u"0", u"00", u"1",      u"01", u"9",      u"10",
                                              u"a", u"A", u"z",  u"Z",      u".",  u" ",      u"~",
@@ -88,14 +87,14 @@ TEST(NaturalOrder, IsThatOfTheirNumbersAndLetters)
             EXPECT_EQ(IsNaturallyLess(left, right), VyrTests::NaturalKey(left) < VyrTests::NaturalKey(right));
 }
 
-/// A name with what tells it from others that are alike.
+/// A name with a number that distinguishes it from equal ones.
 struct Numbered
 {
     std::u16string_view name;
     std::size_t number;
 };
 
-/// Sorts `names`, and compares the result with what their keys say; each item must come back once, with its number.
+/// Sorts `names` and compares the order with that of their keys; each item must be there once, with its number.
 void ExpectSorted(const std::vector<std::u16string>& names)
 {
     std::vector<Numbered> items;
@@ -116,7 +115,7 @@ void ExpectSorted(const std::vector<std::u16string>& names)
     }
 }
 
-TEST(NaturalOrder, SortsNothingAndOneItem)
+TEST(NaturalOrder, SortsNoItemAndOneItem)
 {
     ExpectSorted({});
     for (const char16_t* name : {u"", u"a", u"0", u"IMG_0001.jpg"})
@@ -125,10 +124,10 @@ TEST(NaturalOrder, SortsNothingAndOneItem)
     ExpectSorted({u"b", u"", u"a"});
 }
 
-TEST(NaturalOrder, SortsNamesWhoseBeginningsDoNotTellThem)
+TEST(NaturalOrder, SortsNamesWithEqualBeginnings)
 {
     const std::u16string start(40, u'x');
-    // They differ behind what a number can hold, in the zeros of numbers, in case, and not at all.
+    // They differ after more digits than an integer has, in leading zeros, in case, and not at all.
     ExpectSorted({start + u"2", start + u"10", start + u"1", start});
     ExpectSorted({u"a" + start + u"b", u"a" + start + u"a", u"b" + start + u"a", u"b" + start});
     ExpectSorted({u"a1b2c3d4e5f6g7h8i10", u"a1b2c3d4e5f6g7h8i9", u"a1b2c3d4e5f6g7h8i09", u"A1b2c3d4e5f6g7h8i9"});
@@ -140,9 +139,9 @@ TEST(NaturalOrder, SortsNamesWhoseBeginningsDoNotTellThem)
     ExpectSorted(std::vector<std::u16string>(1000));
 }
 
-TEST(NaturalOrder, SortsNamesThatEndWhereOthersGoOn)
+TEST(NaturalOrder, SortsNamesThatAreBeginningsOfOthers)
 {
-    // What all begin with in common ends in the middle of a number, of a name, or with the shortest.
+    // The common beginning ends in a number, in a name, or with the shortest name.
     ExpectSorted({u"IMG_10", u"IMG_1", u"IMG_100", u"IMG_1a", u"IMG_1", u"IMG_1.jpg", u"IMG_19", u"IMG_2"});
     ExpectSorted({u"1", u"12", u"123", u"1234", u"12345", u"1a", u"12a", u"123a"});
     ExpectSorted({u"000", u"00", u"0", u"0000", u"00a", u"000a", u"0001"});
@@ -160,7 +159,7 @@ TEST(NaturalOrder, SortsManyNamesOfEachKind)
     std::mt19937 random(3);
     for (const char16_t* const start :
          {u"", u"IMG_", u"IMG_00", u"2024-03-", u"x9", u"a long beginning of all names "}) {
-        // No "_": it stands between the capital letters and the small ones.
+        // No "_", which is between the capital and the small letters.
         std::u16string beginning = start;
         std::replace(beginning.begin(), beginning.end(), u'_', u'-');
         for (const std::size_t longest : {3u, 8u, 20u}) {

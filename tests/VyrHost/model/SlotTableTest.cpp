@@ -1,4 +1,3 @@
-// Tests of the table of places.
 #include <VyrHost/model/SlotTable.h>
 
 #include <gtest/gtest.h>
@@ -22,7 +21,7 @@ std::u16string NumberText(std::uint32_t number)
     return {digits.begin(), digits.end()};
 }
 
-TEST(SlotTable, HasNothingAtFirst)
+TEST(SlotTable, IsEmptyAtFirst)
 {
     const SlotTable<int> table;
     for (const PlanIndex folder : {PlanIndex{0}, PlanIndex{1}, none}) {
@@ -33,7 +32,7 @@ TEST(SlotTable, HasNothingAtFirst)
     }
 }
 
-TEST(SlotTable, TellsFoldersAndNamesApart)
+TEST(SlotTable, DistinguishesFoldersAndNames)
 {
     NamePool texts;
     SlotTable<std::string> table;
@@ -47,7 +46,7 @@ TEST(SlotTable, TellsFoldersAndNamesApart)
             const std::string* const found = table.Find(folder, names[name]);
             ASSERT_NE(found, nullptr);
             EXPECT_EQ(*found, std::to_string(folder) + "/" + std::to_string(name));
-            // By a place whose text stands elsewhere.
+            // By a place whose text is in another pool.
             NamePool others;
             EXPECT_EQ(table.Find({folder, others.Intern(names[name])}), found);
         }
@@ -56,7 +55,7 @@ TEST(SlotTable, TellsFoldersAndNamesApart)
     EXPECT_EQ(table.Find(none, u"c"), nullptr);
 }
 
-TEST(SlotTable, KeepsWhatIsThereWhenMoreIsPutThere)
+TEST(SlotTable, KeepsItsValuesWhenMoreArePut)
 {
     NamePool texts;
     SlotTable<int> table;
@@ -64,7 +63,7 @@ TEST(SlotTable, KeepsWhatIsThereWhenMoreIsPutThere)
     EXPECT_EQ(table.Put({4, texts.Intern(u"x")}, 2), 1);
     EXPECT_EQ(table.Put({5, texts.Intern(u"x")}, 3), 3);
     EXPECT_EQ(*table.Find(4, u"x"), 1);
-    // What is there can be changed.
+    // A value in the table can be changed.
     table.Put({4, texts.Intern(u"x")}, 0) = 9;
     EXPECT_EQ(*table.Find(4, u"x"), 9);
     EXPECT_EQ(table.Put({4, texts.Intern(u"x")}, 7), 9);
@@ -77,10 +76,10 @@ TEST(SlotTable, GrowsFromFewToMany)
     NamePool texts;
     SlotTable<std::uint32_t> table;
     for (std::uint32_t number = 0; number < count; ++number) {
-        // A few folders, one of them far larger than the others.
+        // Few folders, one of them much larger than the others.
         const PlanIndex folder = number % 3 == 0 ? number % 100 : none;
         ASSERT_EQ(table.Put({folder, texts.Intern(NumberText(number))}, number), number);
-        // At each size the first ones, those that came last, and one between are there.
+        // At each size it has the first, the last, and one between.
         for (const std::uint32_t earlier : {std::uint32_t{0}, number / 2, number}) {
             const std::uint32_t* const found = table.Find(earlier % 3 == 0 ? earlier % 100 : none, NumberText(earlier));
             ASSERT_NE(found, nullptr) << earlier << " of " << number;
@@ -106,7 +105,7 @@ TEST(SlotTable, FindsOneNameInManyFolders)
     EXPECT_EQ(table.Find(none, u"IMG_0001.JPG"), nullptr);
 }
 
-TEST(SlotTable, HoldsTheSameWheneverRoomIsMade)
+TEST(SlotTable, HasTheSameContentWhereverRoomIsReserved)
 {
     for (const std::size_t before : {0u, 1u, 7u, 8u, 9u, 100u, 5000u})
         for (const std::size_t after : {0u, 1u, 64u, 1000u, 20'000u}) {
@@ -130,7 +129,7 @@ TEST(SlotTable, HoldsTheSameWheneverRoomIsMade)
         }
 }
 
-TEST(SlotTable, StaysAsItIsWhenSomethingIsExpected)
+TEST(SlotTable, IsNotChangedByExpect)
 {
     NamePool texts;
     SlotTable<int> table;
@@ -178,7 +177,7 @@ TEST(SlotTable, IsAMapOfPlaces)
     }
 }
 
-/// Puts `left` and then `right` into a new table, which must not take one for the other.
+/// Puts `left` and then `right` into a new table, which must keep both.
 void ExpectApart(const Place& left, const Place& right)
 {
     SlotTable<int> table;
@@ -189,15 +188,16 @@ void ExpectApart(const Place& left, const Place& right)
     EXPECT_EQ(*table.Find(right), 2);
 }
 
-/// Places that only a comparison tells apart, since their hashes are alike in all that the table looks at.
+/// Places whose hashes are equal in all bits that the table compares, so that only comparing the places distinguishes
+/// them.
 class MeetingHashes : public testing::Test
 {
 protected:
-    /// As the table mixes them.
+    /// The factor with which the table mixes them.
     static constexpr std::uint64_t Factor = 0x9E3779B97F4A7C15;
 
     static std::uint64_t HashOf(std::u16string_view name) { return std::hash<std::u16string_view>()(name); }
-    /// What a table of the least size looks at: where a search begins, and the tag.
+    /// The bits that a table of the smallest size compares: where a search begins, and the tag.
     static std::uint64_t SeenOf(std::uint64_t mixed) { return mixed >> 32 << 4 | (mixed >> 20 & 15); }
 
     [[nodiscard]] InternedName Keep(std::uint32_t number) { return m_texts.Intern(NumberText(number)); }
@@ -205,9 +205,9 @@ protected:
     NamePool m_texts;
 };
 
-TEST_F(MeetingHashes, DoNotJoinOneNameInTwoFolders)
+TEST_F(MeetingHashes, DoNotConfuseOneNameInTwoFolders)
 {
-    // Multiples of the factor by Fibonacci numbers lie close together.
+    // Multiples of the factor by Fibonacci numbers are close together.
     constexpr std::uint64_t step = 2'971'215'073;
     const InternedName name = m_texts.Intern(u"IMG_0001.JPG");
     const std::uint64_t hash = HashOf(name);
@@ -223,7 +223,7 @@ TEST_F(MeetingHashes, DoNotJoinOneNameInTwoFolders)
     EXPECT_GT(pairs, 0u);
 }
 
-TEST_F(MeetingHashes, DoNotJoinTwoNames)
+TEST_F(MeetingHashes, DoNotConfuseTwoNames)
 {
     constexpr std::uint32_t count = 1'000'000;
     constexpr PlanIndex folder = 3;
@@ -242,7 +242,7 @@ TEST_F(MeetingHashes, DoNotJoinTwoNames)
             ++inOneFolder;
             ExpectApart({folder, Keep(seen[at - 1].second)}, {folder, Keep(seen[at].second)});
         }
-        // Where the upper halves are one, there is a folder that makes up for the rest.
+        // Where the upper halves are equal, some folder makes up for the rest.
         const std::uint64_t difference = hashes[at - 1].first ^ hashes[at].first;
         if (difference >> 32 == 0) {
             ++inTwo;

@@ -1,4 +1,3 @@
-// Tests of the list that people edit.
 #include <VyrHost/rename/NameLists.h>
 
 #include <VyrHost/text/Errors.h>
@@ -12,7 +11,7 @@
 using namespace VyrHost::Rename;
 using namespace VyrHost::Text;
 
-TEST(EditedList, ShowsEveryNameInALine)
+TEST(EditedList, HasOneNameInALine)
 {
     EXPECT_EQ(EscapeName(u"a b.txt"), "a b.txt");
     EXPECT_EQ(EscapeName(u"a\nb\tc\\d"), "a\\nb\\tc\\\\d");
@@ -20,7 +19,7 @@ TEST(EditedList, ShowsEveryNameInALine)
     EXPECT_EQ(EscapeName(u"ä\U0001F600\xDCFF\xD83D"), "\xC3\xA4\xF0\x9F\x98\x80\\udcff\\ud83d");
 }
 
-TEST(EditedList, GivesEveryNameBack)
+TEST(EditedList, ReadsEveryNameBack)
 {
     constexpr char16_t Units[] = {u'a',  u'\\', u'n',    u't', u'u',   u'0',   u'd',
                                   u'\n', u'\t', u'\x1b', u'ä', 0xD83D, 0xDE00, 0xDCFF};
@@ -33,7 +32,7 @@ TEST(EditedList, GivesEveryNameBack)
     }
 }
 
-TEST(EditedList, LeavesOtherEscapesAsTheyStand)
+TEST(EditedList, KeepsOtherEscapes)
 {
     EXPECT_EQ(UnescapeName("a\\x"), u"a\\x");
     EXPECT_EQ(UnescapeName("\\u12"), u"\\u12");
@@ -50,7 +49,7 @@ TEST(EditedList, ReadsBackWhatItWrote)
         EXPECT_EQ(read.at(index), names[index]);
 }
 
-TEST(EditedList, LinesMayBeTakenOutAndMoved)
+TEST(EditedList, LinesMayBeDeletedAndMoved)
 {
     const auto read = ParseEdited("# explained\n3\tx\r\n\n1\ty", 3);
     ASSERT_EQ(read.size(), 2u);

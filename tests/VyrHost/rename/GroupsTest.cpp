@@ -1,4 +1,4 @@
-// Tests of entries that keep together.
+// Files that are renamed together.
 #include <VyrHost/rename/Groups.h>
 
 #include <VyrHost/collect/CollectEntries.h>
@@ -32,7 +32,7 @@ Members MembersOf(const Groups& groups)
 class KeepingTogether : public testing::Test
 {
 protected:
-    [[nodiscard]] CollectedEntries GatherNamed(std::initializer_list<const char16_t*> names) const
+    [[nodiscard]] CollectedEntries CollectNamed(std::initializer_list<const char16_t*> names) const
     {
         SourceSettings settings;
         for (const char16_t* const name : names)
@@ -45,14 +45,14 @@ protected:
 
 } // namespace
 
-TEST_F(KeepingTogether, FilesOfOneStemAndFolderAreAGroup)
+TEST_F(KeepingTogether, FilesOfOneStemInOneFolderAreAGroup)
 {
     for (const char16_t* const name : {u"a.raf", u"b.jpg", u"a.jpg", u"a", u"d/a.jpg", u"a.b.jpg"})
         m_folder.WriteFile(name);
     m_folder.MakeFolder(u"b");
-    const CollectedEntries gathered = GatherNamed({u"a.raf", u"b.jpg", u"b", u"a.jpg", u"d/a.jpg", u"a.b.jpg", u"a"});
-    EXPECT_EQ(MembersOf(Groups::ByStem(gathered.list)), (Members{{0, 3, 6}, {1}, {2}, {4}, {5}}));
-    EXPECT_EQ(MembersOf(Groups::OfOne(gathered.list)), (Members{{0}, {1}, {2}, {3}, {4}, {5}, {6}}));
+    const CollectedEntries collected = CollectNamed({u"a.raf", u"b.jpg", u"b", u"a.jpg", u"d/a.jpg", u"a.b.jpg", u"a"});
+    EXPECT_EQ(MembersOf(Groups::ByStem(collected.list)), (Members{{0, 3, 6}, {1}, {2}, {4}, {5}}));
+    EXPECT_EQ(MembersOf(Groups::OfOne(collected.list)), (Members{{0}, {1}, {2}, {3}, {4}, {5}, {6}}));
 }
 
 TEST_F(KeepingTogether, SidecarsBelongToTheFileWhoseWholeNameTheyHave)
@@ -60,11 +60,11 @@ TEST_F(KeepingTogether, SidecarsBelongToTheFileWhoseWholeNameTheyHave)
     const auto names = {u"x.JPG.xmp", u"x.JPG", u"x.CR2", u"x.CR2.xmp", u"x.CR2.xmp.bak", u"x.png.xmp", u"a.b"};
     for (const char16_t* const name : names)
         m_folder.WriteFile(name);
-    const CollectedEntries gathered = GatherNamed(names);
-    // x.png is not there, so x.png.xmp is a file of its own.
-    EXPECT_EQ(MembersOf(Groups::ByStem(gathered.list)), (Members{{0, 1, 2, 3, 4}, {5}, {6}}));
+    const CollectedEntries collected = CollectNamed(names);
+    // x.png does not exist, so x.png.xmp is a file of its own.
+    EXPECT_EQ(MembersOf(Groups::ByStem(collected.list)), (Members{{0, 1, 2, 3, 4}, {5}, {6}}));
     const auto mainOf = [&](std::size_t entry) {
-        return MainFileOf(gathered.list, gathered.list.entries[entry]);
+        return MainFileOf(collected.list, collected.list.entries[entry]);
     };
     EXPECT_EQ(mainOf(0), 1u);
     EXPECT_EQ(mainOf(3), 2u);
@@ -73,11 +73,11 @@ TEST_F(KeepingTogether, SidecarsBelongToTheFileWhoseWholeNameTheyHave)
         EXPECT_EQ(mainOf(entry), noEntry) << entry;
 }
 
-TEST_F(KeepingTogether, MissingEntriesStandAlone)
+TEST_F(KeepingTogether, MissingEntriesAreInNoGroup)
 {
     m_folder.WriteFile(u"a.jpg");
-    const CollectedEntries gathered = GatherNamed({u"a.raf", u"a.jpg"});
-    EXPECT_EQ(MembersOf(Groups::ByStem(gathered.list)), (Members{{0}, {1}}));
+    const CollectedEntries collected = CollectNamed({u"a.raf", u"a.jpg"});
+    EXPECT_EQ(MembersOf(Groups::ByStem(collected.list)), (Members{{0}, {1}}));
 }
 
 TEST(Groups, OfNothingAreNone)

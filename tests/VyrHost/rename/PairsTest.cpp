@@ -1,4 +1,3 @@
-// Tests of pairs of names from tables.
 #include <VyrHost/rename/NameLists.h>
 
 #include <VyrHost/text/Errors.h>
@@ -45,7 +44,7 @@ TEST(Pairs, AreReadFromCommaSeparatedValues)
     EXPECT_EQ(Read(""), u"");
 }
 
-TEST(Pairs, AreReadFromTabSeparatedValuesAsTheyStand)
+TEST(Pairs, AreReadFromTabSeparatedValuesLiterally)
 {
     EXPECT_EQ(Read("a,b\t\"c\"\nd\te\r\n"), u"a,b>\"c\"|d>e|");
     EXPECT_EQ(Read("a b\tc\\d"), u"a b>c\\d|");
@@ -58,23 +57,23 @@ TEST(Pairs, AreReadFromCsvWithSemicolons)
     EXPECT_EQ(Read("x, y, z;b"), u"x, y, z>b|");
     EXPECT_EQ(Read("\"a,b\";c"), u"a,b>c|");
     EXPECT_EQ(Read("\"a;b\",c\nd;e,f"), u"a;b>c|d;e>f|");
-    // A comma that makes two fields goes before.
+    // A comma that makes two fields takes precedence.
     EXPECT_EQ(Read("a;1,b"), u"a;1>b|");
     EXPECT_EQ(Read("a;1\tb,2"), u"a;1>b,2|");
 }
 
-TEST(Pairs, NameTheSeparatorsWhereThereAreNotTwoFields)
+TEST(Pairs, NameTheSeparatorsInTheErrorWithoutTwoFields)
 {
     for (const char* const bytes : {"a\n", "a,b,c\n", "a;b;c\n", "a,b\nc;d\n"})
         EXPECT_THAT(ErrorOf(bytes), testing::HasSubstr("separated by a comma, a semicolon or a tab"));
 }
 
-TEST(Pairs, KeepBytesThatAreNotUtf8AndSkipTheMarkInFront)
+TEST(Pairs, KeepBytesThatAreNotUtf8AndSkipTheByteOrderMark)
 {
     EXPECT_EQ(Read("\xEF\xBB\xBF\xC3\xA4,\xFF\n"), u"ä>\xDCFF|");
 }
 
-TEST(Pairs, SayThatUtf16IsNotTheirs)
+TEST(Pairs, InUtf16AreRefused)
 {
     using testing::HasSubstr;
     EXPECT_THAT(ErrorOf("\xFF\xFE"
@@ -84,7 +83,7 @@ TEST(Pairs, SayThatUtf16IsNotTheirs)
     EXPECT_EQ(Read("\xFF\xFE,b\n"), u"\xDCFF\xDCFE>b|");
 }
 
-TEST(Pairs, SayInWhichLineTheyMakeNoSense)
+TEST(Pairs, NameTheWrongLine)
 {
     using testing::HasSubstr;
     EXPECT_THAT(ErrorOf("a,b\nc\n"), HasSubstr("line 2"));

@@ -1,4 +1,3 @@
-// Takes paths apart for the planner.
 #include <tests/VyrHost/rename/PathRenames.h>
 
 #include <VyrLibraryUtils/FileUtils.h>
@@ -50,7 +49,7 @@ public:
 
     VyrHost::Rename::RenameDraft Take() { return std::move(m_draft); }
     [[nodiscard]] VyrHost::Model::RenamePlan& Plan() { return m_draft.plan; }
-    /// As a group of its own.
+    /// Adds `entry` as a group of its own.
     void Add(const VyrHost::Model::PlanEntry& entry)
     {
         m_draft.groups.push_back(static_cast<std::uint32_t>(m_draft.groups.size()));

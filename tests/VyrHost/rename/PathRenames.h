@@ -1,4 +1,4 @@
-// For tests: renames by their paths, and drafts and plans of them.
+// For tests: renames given by paths, and drafts and plans made from them.
 #pragma once
 
 #include <VyrHost/rename/Planner.h>
@@ -8,7 +8,7 @@
 
 namespace VyrTests {
 
-/// The paths differ, are full and have no empty, "." or ".." parts.
+/// The paths are different, full, and without empty, "." or ".." parts.
 struct PathRename
 {
     CString from;
@@ -19,7 +19,7 @@ struct PathRename
 struct PathRenames
 {
     std::vector<PathRename> renames;
-    /// Those that are to be created, each parent before what stands in it.
+    /// Folders to be created, each parent before its subfolders.
     std::vector<CString> newFolders;
 
     void Add(const CString& from, const CString& to,
@@ -29,10 +29,10 @@ struct PathRenames
     }
 };
 
-/// Answers how the folder at a path compares names.
+/// Tells how the folder at a path compares names.
 using FoldingOfFolder = std::function<VyrHostPlatform::NameFolding(const CString& path)>;
 
-/// The folders of the paths, and all those that they stand in, have one number for each path.
+/// The draft of the renames. All folders of the paths, and their parents, have one number for each path.
 [[nodiscard]] VyrHost::Rename::RenameDraft DraftOf(const PathRenames& list, const FoldingOfFolder& foldingOf);
 
 [[nodiscard]] VyrHost::Rename::PlannerResult PlanRenames(const PathRenames& list, const FoldingOfFolder& foldingOf);

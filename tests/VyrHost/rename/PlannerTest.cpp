@@ -1,4 +1,4 @@
-// The planner: its steps are done on a tree in memory and must lead to what the list says, whatever the list.
+// The planner: its steps, done on a tree in memory, must give the result of the list.
 #include <tests/VyrHost/rename/PathRenames.h>
 
 #include <VyrPlatform/files/FileSystem.h>
@@ -30,7 +30,7 @@ NameFolding FoldingCase(const CString&)
     return NameFolding::Case;
 }
 
-/// A path of this system from one written with slashes, such as "/a/b".
+/// A path of this system from a path with slashes, such as "/a/b".
 CString Full(const std::string& path)
 {
     CString text;
@@ -39,7 +39,7 @@ CString Full(const std::string& path)
     return VyrPlatform::FileSystem::Separator() == u'/' ? text : u"C:" + text;
 }
 
-/// Full, turned back.
+/// The inverse of Full.
 std::string Slashed(const CString& path)
 {
     std::string text;
@@ -65,7 +65,7 @@ PathRenames ListOf(const std::vector<Rename>& renames, const std::vector<std::st
     return list;
 }
 
-/// A tree of named things, each with a number of its own. Moving a folder moves what is in it.
+/// A tree of entries, each with a number. Moving a folder moves its entries.
 class FolderSnapshot
 {
 public:
@@ -88,7 +88,7 @@ public:
         }
         return at;
     }
-    /// -1 when there is none.
+    /// @return -1 when there is none.
     [[nodiscard]] int FindIn(int folder, const std::string& name) const
     {
         const auto found = m_ids.find({folder, Key(name)});
@@ -144,7 +144,7 @@ std::string Text(std::u16string_view name)
     return text;
 }
 
-/// Does the steps of a plan, one after the other; every step must find its place free.
+/// Does the steps of a plan in their order; the new path of each step must be free.
 class Performer
 {
 public:
@@ -217,20 +217,20 @@ TEST(Planner, KeepsIndependentRenamesInTheOrderOfTheList)
                 ElementsAre(PlanStep{Action::Rename, 0}, PlanStep{Action::Rename, 1}, PlanStep{Action::Rename, 2}));
 }
 
-TEST(Planner, DoesAChainFromItsFreeEnd)
+TEST(Planner, RenamesAChainFromItsFreeEnd)
 {
     EXPECT_THAT(PathsAfter({"/1", "/2", "/3"}, ListOf({{"/1", "/2"}, {"/2", "/3"}, {"/3", "/4"}})),
                 ElementsAre("/2", "/3", "/4"));
 }
 
-TEST(Planner, SwapsTwoThroughOneTemporaryName)
+TEST(Planner, SwapsTwoWithOneTemporaryName)
 {
     const PathRenames list = ListOf({{"/a", "/b"}, {"/b", "/a"}});
     EXPECT_THAT(PathsAfter({"/a", "/b"}, list), ElementsAre("/b", "/a"));
     EXPECT_EQ(CountTemporaryNames(PlanRenames(list, Exact).plan), 1u);
 }
 
-TEST(Planner, BreaksACircleOfAThousandThroughOneTemporaryName)
+TEST(Planner, BreaksACycleOfAThousandWithOneTemporaryName)
 {
     std::vector<Rename> renames;
     std::vector<std::string> tree;
@@ -266,12 +266,12 @@ TEST(Planner, ChangesTheNormalFormInTwoStepsWhereThatIsOneName)
     EXPECT_EQ(CountTemporaryNames(PlanRenames(list, Exact).plan), 0u);
 }
 
-TEST(Planner, SeesACircleThroughTheCaseOfNames)
+TEST(Planner, FindsACycleInNamesThatDifferInCase)
 {
     EXPECT_THAT(PathsAfter({"/a", "/B"}, ListOf({{"/a", "/b"}, {"/B", "/A"}}), FoldingCase), ElementsAre("/b", "/A"));
 }
 
-TEST(Planner, RenamesAFolderAndWhatIsInItTogether)
+TEST(Planner, RenamesAFolderTogetherWithItsEntries)
 {
     EXPECT_THAT(PathsAfter({"/d", "/d/x", "/d/s", "/d/s/y"}, ListOf({{"/d", "/e", Kind::Folder},
                                                                      {"/d/x", "/d/x2"},
@@ -280,25 +280,25 @@ TEST(Planner, RenamesAFolderAndWhatIsInItTogether)
                 ElementsAre("/e", "/e/x2", "/e/t", "/e/t/y2"));
 }
 
-TEST(Planner, MovesAFileOutOfAFolderToThatFoldersPlace)
+TEST(Planner, MovesAFileOutOfAFolderToThePathOfThatFolder)
 {
     EXPECT_THAT(PathsAfter({"/d", "/d/f"}, ListOf({{"/d/f", "/d"}, {"/d", "/e", Kind::Folder}})),
                 ElementsAre("/e", "/d"));
 }
 
-TEST(Planner, MovesIntoAFolderThatIsRenamedByItsNameBefore)
+TEST(Planner, MovesIntoAFolderByItsNameBeforeTheRename)
 {
     EXPECT_THAT(PathsAfter({"/x", "/d"}, ListOf({{"/x", "/d/x"}, {"/d", "/e", Kind::Folder}})),
                 ElementsAre("/e/x", "/e"));
 }
 
-TEST(Planner, MakesNewFoldersBeforeTheyAreMovedInto)
+TEST(Planner, CreatesFoldersBeforeEntriesMoveThere)
 {
     EXPECT_THAT(PathsAfter({"/x", "/y"}, ListOf({{"/x", "/n/m/x"}, {"/y", "/n/y"}}, {"/n", "/n/m"})),
                 ElementsAre("/n/m/x", "/n/y"));
 }
 
-TEST(Planner, MakesAFolderAtThePathOfAFileThatMovesIntoIt)
+TEST(Planner, CreatesAFolderAtThePathOfAFileThatMovesThere)
 {
     EXPECT_THAT(PathsAfter({"/a"}, ListOf({{"/a", "/a/a"}}, {"/a"})), ElementsAre("/a/a"));
     EXPECT_THAT(PathsAfter({"/a"}, ListOf({{"/a", "/a/b/a"}}, {"/a", "/a/b"})), ElementsAre("/a/b/a"));
@@ -308,7 +308,7 @@ TEST(Planner, MakesAFolderAtThePathOfAFileThatMovesIntoIt)
                 ElementsAre("/a/x", "/b", "/a/b"));
 }
 
-TEST(Planner, DoesNotMakeAFolderThatNothingMovesInto)
+TEST(Planner, CreatesNoFolderThatStaysEmpty)
 {
     EXPECT_EQ(PlanRenames(ListOf({{"/a", "/b"}}, {"/n"}), Exact).plan.steps.size(), 1u);
 }
@@ -329,18 +329,18 @@ TEST(Planner, RefusesTheSecondOfTwoWithOneTarget)
     EXPECT_THAT(RefusedIndexes(ListOf({{"/a", "/x"}, {"/b", "/X"}}), FoldingCase), ElementsAre(1));
 }
 
-TEST(Planner, RefusesWhatNeedsThePlaceOfARefusedEntry)
+TEST(Planner, RefusesEntriesThatNeedThePathOfARefusedOne)
 {
-    // The last one cannot go, since it would end up inside itself.
+    // The last one is refused, since it would move into itself.
     EXPECT_THAT(RefusedIndexes(ListOf({{"/a", "/b"}, {"/b", "/c"}, {"/c", "/c/s/c", Kind::Folder}, {"/e", "/f"}})),
                 ElementsAre(0, 1, 2));
-    // A folder is to be created at the path of a file that cannot go.
+    // A folder is to be created at the path of a file that is refused.
     EXPECT_THAT(RefusedIndexes(ListOf({{"/x", "/a/b/x"}, {"/a", "/c"}, {"/c", "/c/s/c", Kind::Folder}, {"/y", "/z"}},
                                       {"/a", "/a/b"})),
                 ElementsAre(0, 1, 2));
 }
 
-TEST(Planner, SaysWhyItRefuses)
+TEST(Planner, GivesTheReasonOfEachRefusal)
 {
     const auto reasons = [](const PathRenames& list) {
         std::vector<Reason> found;
@@ -354,20 +354,20 @@ TEST(Planner, SaysWhyItRefuses)
                 ElementsAre(Reason::FolderKept, Reason::PlaceKept, Reason::InsideItself));
 }
 
-TEST(Planner, RefusesAFolderThatWouldEndUpInsideItself)
+TEST(Planner, RefusesAFolderThatWouldMoveIntoItself)
 {
     EXPECT_THAT(RefusedIndexes(ListOf({{"/d", "/d/s/d", Kind::Folder}, {"/x", "/y"}})), ElementsAre(0));
     EXPECT_THAT(RefusedIndexes(ListOf({{"/a", "/b/a", Kind::Folder}, {"/b", "/a/b", Kind::Folder}})),
                 ElementsAre(0, 1));
 }
 
-TEST(Planner, RefusesTurningAFolderInsideOut)
+TEST(Planner, RefusesToExchangeAFolderAndItsParent)
 {
-    // The inner folder comes out and takes the outer one in.
+    // The inner folder moves out, and the outer one into it.
     EXPECT_THAT(RefusedIndexes(ListOf({{"/a", "/a/b/a", Kind::Folder}, {"/a/b", "/b", Kind::Folder}})), ElementsAre(0));
 }
 
-TEST(Planner, RefusesANewPathAtWhichAFolderIsMade)
+TEST(Planner, RefusesTheNewPathOfACreatedFolder)
 {
     EXPECT_THAT(RefusedIndexes(ListOf({{"/a", "/n"}, {"/b", "/n/b"}}, {"/n"})), ElementsAre(0));
 }
@@ -383,7 +383,7 @@ TEST(Planner, PlansAChainOfAHundredThousand)
         ASSERT_EQ(result.plan.steps[step].subject, 99'999 - step);
 }
 
-/// A tree and a list of renames in it, both by chance.
+/// A random tree and a random list of renames in it.
 class RandomBatches
 {
 public:
@@ -430,7 +430,7 @@ private:
         const auto slash = path.rfind('/');
         return m_tree.FindIn(m_tree.Find(path.substr(0, slash)), path.substr(slash + 1)) >= 0;
     }
-    /// Some of them at the paths of files that are in the tree.
+    /// Some of them are at the paths of files in the tree.
     std::vector<std::string> InventNewFolders(std::vector<std::string>& folders, const std::vector<std::string>& paths,
                                               const std::map<std::string, Kind>& kinds)
     {
@@ -448,7 +448,7 @@ private:
         return made;
     }
 
-    /// What stays in the way of accepted entries is the host's to find: lists with such are of no use here.
+    /// Whether the new paths are free. Finding entries in the way is the host's task: such lists are not used here.
     [[nodiscard]] bool IsFreeAfterwards(const PlannerResult& result, const PathRenames& list) const
     {
         std::set<int> leaving;
@@ -485,7 +485,7 @@ private:
         std::map<int, std::pair<int, std::string>> untouched;
         for (const std::string& path : paths)
             untouched[m_tree.Find(path)] = {m_tree.FolderOf(m_tree.Find(path)), m_tree.NameOf(m_tree.Find(path))};
-        // A folder that is made has no number yet.
+        // A folder to be created has no number yet.
         std::vector<int> newParents;
         for (const PlanEntry& entry : result.plan.entries)
             newParents.push_back(result.plan.folders[entry.to.folder].isNew
@@ -516,11 +516,11 @@ private:
     FolderSnapshot m_tree;
 };
 
-TEST(Planner, DoesWhatRandomListsSay)
+TEST(Planner, PlansRandomLists)
 {
     for (unsigned seed = 0; seed < 20'000 && !testing::Test::HasFailure(); ++seed)
         RandomBatches(seed, seed % 2 ? NameFolding::Case : NameFolding::None).Run();
-    // Else the lists would test nothing.
+    // Otherwise the lists would test nothing.
     EXPECT_GT(RandomBatches::planned, 10'000u);
     EXPECT_GT(RandomBatches::temporaryNames, 500u);
 }

@@ -72,7 +72,7 @@ using Strings = std::vector<std::string>;
 class PreviewTest : public testing::Test
 {
 protected:
-    [[nodiscard]] CollectedEntries GatherNamed(const Names& names) const
+    [[nodiscard]] CollectedEntries CollectNamed(const Names& names) const
     {
         SourceSettings settings;
         for (const char16_t* const name : names)
@@ -89,20 +89,20 @@ protected:
     [[nodiscard]] Strings DecideNamed(const Names& names, const Rules& rules, OnConflict mode = OnConflict::Number,
                                       Counting counting = Counting::WholeList) const
     {
-        CollectedEntries gathered = GatherNamed(names);
+        CollectedEntries collected = CollectNamed(names);
         Strings told;
-        for (const Decision& decision : DecideByRules(gathered.list, rules, mode, counting))
+        for (const Decision& decision : DecideByRules(collected.list, rules, mode, counting))
             told.push_back(Told(decision));
         return told;
     }
 
     [[nodiscard]] Strings DecideTogether(const Names& names, const Rules& rules) const
     {
-        CollectedEntries gathered = GatherNamed(names);
+        CollectedEntries collected = CollectNamed(names);
         RuleNames source(rules, Counting::WholeList);
         Strings told;
         const Preview preview =
-            MakePreview(gathered.list, Groups::ByStem(gathered.list), source, Mode(OnConflict::Number));
+            MakePreview(collected.list, Groups::ByStem(collected.list), source, Mode(OnConflict::Number));
         for (const Decision& decision : preview.decisions)
             told.push_back(Told(decision));
         return told;
@@ -113,7 +113,7 @@ protected:
 
 } // namespace
 
-TEST_F(PreviewTest, TellsWhatIsRenamedAndWhatStays)
+TEST_F(PreviewTest, ShowsRenamedAndUnchangedEntries)
 {
     Write({u"b1", u"a2", u"x"});
     EXPECT_EQ(DecideNamed({u"b1", u"a2"}, NumberRules(u"a#", {})), (Strings{"a1", "="}));
@@ -146,7 +146,7 @@ TEST_F(PreviewTest, NumbersTwoEntriesThatWantOneName)
               (Strings{"a.txt", "a (1).txt #", "a (2).txt #"}));
 }
 
-TEST_F(PreviewTest, NumbersPastWhatTheDiskHas)
+TEST_F(PreviewTest, SkipsNumbersThatExistOnTheDisk)
 {
     Write({u"a.txt", u"a (1).txt", u"a1.txt", u"a2.txt"});
     EXPECT_EQ(DecideNamed({u"a1.txt", u"a2.txt"}, KeepFirstRules(u"1")), (Strings{"a (2).txt #", "a (3).txt #"}));
@@ -164,18 +164,18 @@ TEST_F(PreviewTest, AgreesWithTheEngineWhereOnlyTheDiskMatters)
         const char16_t* entry;
         const char16_t* wanted;
     };
-    // A file or a folder that wants the name of a file or of a folder.
+    // A file or a folder whose new name is that of a file or of a folder.
     for (const auto& [entry, wanted] : {Case{u"x.txt", u"new"}, Case{u"folder", u"new.txt"}, Case{u"folder", u"d.e"},
                                         Case{u"folder", u"f.g"}, Case{u"folder", u"free"}}) {
         const CString ending = std::u16string_view(entry) == u"x.txt" ? u".txt" : u"";
         NumberSettings settings;
         settings.digits = 0;
-        // Deleting all and putting the name in is a rule that allows numbering.
+        // Deleting the whole name and inserting the new one is a rule that allows numbering.
         Rules rules = KeepFirstRules(u"0");
         for (auto& rule : PrefixRules(wanted))
             rules.push_back(std::move(rule));
-        CollectedEntries gathered = GatherNamed({entry});
-        const std::vector<Decision> decisions = DecideByRules(gathered.list, rules, OnConflict::Number);
+        CollectedEntries collected = CollectNamed({entry});
+        const std::vector<Decision> decisions = DecideByRules(collected.list, rules, OnConflict::Number);
         const CString engine = NameFuncs::GetResolveConflictFilePath(m_folder.Path(CString(wanted) + ending),
                                                                      Mode(OnConflict::Number).numbering);
         EXPECT_EQ(m_folder.Path(decisions[0].name), engine);
@@ -190,13 +190,13 @@ TEST_F(PreviewTest, ANameThatTheBatchVacatesIsFree)
     EXPECT_EQ(DecideNamed({u"b1", u"n1"}, ReplaceRules(u"b", u"n")), (Strings{No(Reason::TargetExists), "="}));
 }
 
-TEST_F(PreviewTest, AnEntrysOwnNameIsFree)
+TEST_F(PreviewTest, TheOwnNameOfAnEntryIsFree)
 {
     Write({u"a.txt", u"a (1).txt"});
     EXPECT_EQ(DecideNamed({u"a (1).txt"}, KeepFirstRules(u"1")), Strings{"="});
 }
 
-TEST_F(PreviewTest, RefusesClashesWhereTheRulesAllowNoNumber)
+TEST_F(PreviewTest, RefusesConflictsWhereTheRulesAllowNoNumber)
 {
     Write({u"aX", u"aY", u"b"});
     EXPECT_EQ(DecideNamed({u"aX", u"aY"}, ReplaceRules(u"Y", u"X")), (Strings{"=", No(Reason::TargetExists)}));
@@ -216,13 +216,13 @@ TEST_F(PreviewTest, SkipsOrRefusesOnRequest)
               (Strings{"a", No(Reason::TwoToOne)}));
 }
 
-TEST_F(PreviewTest, WhoeverWasToGetTheNameOfARefusedEntryIsDecidedAnew)
+TEST_F(PreviewTest, AnEntryThatWantsTheNameOfARefusedOneIsDecidedAgain)
 {
-    // x1 to x2, x2 to x3, x3 refused: so x2 stays, and so does x1.
+    // x1 to x2, x2 to x3, x3 is refused: so x2 keeps its name, and so does x1.
     Write({u"x1", u"x2", u"x3", u"x4"});
     NumberSettings settings;
     settings.start = 2;
-    // Replacing by hand, since sequence numbers would be numbered.
+    // Replaced one by one, since sequence numbers would be numbered.
     Rules rules = ReplaceRules(u"3", u"4");
     for (auto& rule : ReplaceRules(u"2", u"3"))
         rules.push_back(std::move(rule));
@@ -230,7 +230,7 @@ TEST_F(PreviewTest, WhoeverWasToGetTheNameOfARefusedEntryIsDecidedAnew)
         rules.push_back(std::move(rule));
     EXPECT_EQ(DecideNamed({u"x1", u"x2", u"x3"}, rules),
               (Strings{No(Reason::TargetExists), No(Reason::TargetExists), No(Reason::TargetExists)}));
-    // With numbers the one in front gets another name.
+    // With numbers allowed, the entry gets another name.
     rules.push_back(std::move(InsertRules(u"-0:!").front()));
     EXPECT_EQ(DecideNamed({u"x1", u"x2", u"x3"}, rules), (Strings{"x2!", "x3!", "x4!"}));
 }
@@ -243,7 +243,7 @@ TEST_F(PreviewTest, RefusesNamesThatAreTooLong)
     EXPECT_EQ(DecideNamed({(longest + u".txt").GetString()}, PrefixRules(u"b")), Strings{No(Reason::TooLong)});
     EXPECT_EQ(DecideNamed({(longest + u".txt").GetString()}, DeleteFirstRules(u"1")),
               Strings{std::string(250, 'a') + ".txt"});
-    // The number that it would need does not fit.
+    // The number that it needs does not fit.
     Rules rules = KeepFirstRules(u"0");
     for (auto& rule : PrefixRules(longest))
         rules.push_back(std::move(rule));
@@ -264,7 +264,7 @@ TEST_F(PreviewTest, KeepsFilesOfOneStemTogether)
               (Strings{"n1.jpg", "n2.raf", "n2.jpg", "n2.xmp"}));
 }
 
-TEST_F(PreviewTest, TakesTheDateOfTheFirstThatHasOneForAllThatKeepTogether)
+TEST_F(PreviewTest, TakesTheDateOfTheFirstOfAGroupThatHasOne)
 {
     Write({u"a.xmp", u"b.xmp"});
     m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
@@ -272,15 +272,15 @@ TEST_F(PreviewTest, TakesTheDateOfTheFirstThatHasOneForAllThatKeepTogether)
               (Strings{"2024.xmp", "2024.jpg", No(Reason::NoDate)}));
 }
 
-TEST_F(PreviewTest, GivesAllThatKeepTogetherOneNumber)
+TEST_F(PreviewTest, GivesAllOfAGroupOneNumber)
 {
     Write({u"a1.raf", u"a1.jpg", u"a2.jpg", u"a2.raf", u"a (1).raf", u"a.jpg"});
-    // a.jpg and a (1).raf are there: the first pair needs 2, the second 3.
+    // a.jpg and a (1).raf exist: the first pair needs 2, the second 3.
     EXPECT_EQ(DecideTogether({u"a1.raf", u"a1.jpg", u"a2.jpg", u"a2.raf"}, KeepFirstRules(u"1")),
               (Strings{"a (2).raf #", "a (2).jpg #", "a (3).jpg #", "a (3).raf #"}));
 }
 
-TEST_F(PreviewTest, RefusesAPlaceOrCountBeyondTheNameAndTellsItsLength)
+TEST_F(PreviewTest, RefusesAPlaceOrCountBeyondTheNameAndGivesItsLength)
 {
     Write({u"abc.txt", u"abcd.txt"});
     const Strings beyond{No(Reason::BeyondName), "abcdx.txt"};
@@ -289,14 +289,14 @@ TEST_F(PreviewTest, RefusesAPlaceOrCountBeyondTheNameAndTellsItsLength)
     EXPECT_EQ(DecideNamed({u"abc.txt", u"abcd.txt"}, DeleteLastRules(u"4")),
               (Strings{No(Reason::BeyondName), No(Reason::EmptyName)}));
     EXPECT_EQ(DecideNamed({u"abc.txt", u"abcd.txt"}, KeepFirstRules(u"4")), (Strings{"=", "="}));
-    CollectedEntries gathered = GatherNamed({u"abc.txt"});
+    CollectedEntries collected = CollectNamed({u"abc.txt"});
     const Rules rules = DeleteFirstRules(u"4");
     RuleNames names(rules, Counting::WholeList);
-    const Preview preview = MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    const Preview preview = MakePreview(collected.list, Groups::OfOne(collected.list), names, Mode(OnConflict::Number));
     EXPECT_EQ(preview.causes.at(0), u"the name has 3 characters");
 }
 
-TEST_F(PreviewTest, SidecarsKeepTheWholeNameOfTheirFile)
+TEST_F(PreviewTest, SidecarsGetTheWholeNewNameOfTheirFile)
 {
     const Names names = {u"x.JPG.xmp", u"x.JPG", u"x.CR2.xmp", u"x.CR2"};
     Write(names);
@@ -325,7 +325,7 @@ TEST_F(PreviewTest, NumbersAGroupThatWantsTheStemOfFilesThatStay)
     EXPECT_EQ(DecideTogether({u"a2.jpg", u"a.cr2"}, KeepFirstRules(u"1")), (Strings{"a (1).jpg #", "="}));
 }
 
-TEST_F(PreviewTest, RefusesAllThatKeepTogetherWhenOneCannotBeNamed)
+TEST_F(PreviewTest, RefusesAGroupWhenOneOfItsFilesIsRefused)
 {
     m_folder.WriteFile(u"a.x");
     m_folder.WriteFile(u"a.longer");
@@ -334,14 +334,14 @@ TEST_F(PreviewTest, RefusesAllThatKeepTogetherWhenOneCannotBeNamed)
               (Strings{No(Reason::CompanionRefused), No(Reason::TooLong)}));
 }
 
-TEST_F(PreviewTest, RefusesThoseThatKeepTogetherWhenTheyWantOneName)
+TEST_F(PreviewTest, RefusesAGroupWhoseFilesWantOneName)
 {
     Write({u"a.jpeg", u"a.jpg"});
     EXPECT_EQ(DecideTogether({u"a.jpeg", u"a.jpg"}, ExtensionRules(u"png")),
               (Strings{No(Reason::TwoToOne), No(Reason::TwoToOne)}));
 }
 
-TEST_F(PreviewTest, CountsAnewInEachFolder)
+TEST_F(PreviewTest, CountsAgainInEachFolder)
 {
     Write({u"c/a", u"c/b", u"d/a", u"d/b"});
     EXPECT_EQ(
@@ -349,22 +349,22 @@ TEST_F(PreviewTest, CountsAnewInEachFolder)
         (Strings{"1", "1", "2", "2"}));
 }
 
-TEST_F(PreviewTest, MovesIntoFoldersThatAreThereOrAreToBeMade)
+TEST_F(PreviewTest, MovesIntoExistingAndNewFolders)
 {
     m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
     m_folder.WriteFile(u"b.jpg", BuildJpeg(PictureFacts{}));
     m_folder.WriteFile(u"2024/a.jpg");
-    CollectedEntries gathered = GatherNamed({u"a.jpg", u"b.jpg"});
+    CollectedEntries collected = CollectNamed({u"a.jpg", u"b.jpg"});
     const Rules rules = DateRules(u"yyyy<Folder><Name>", {DateSource::PictureTaken});
-    const std::vector<Decision> decisions = DecideByRules(gathered.list, rules, OnConflict::Number);
-    // What is in the folder counts.
+    const std::vector<Decision> decisions = DecideByRules(collected.list, rules, OnConflict::Number);
+    // An entry of the existing folder counts.
     EXPECT_EQ(Told(decisions[0]), "a (1).jpg #");
     EXPECT_EQ(Told(decisions[1]), "b.jpg");
-    gathered = GatherNamed({u"a.jpg", u"b.jpg"});
+    collected = CollectNamed({u"a.jpg", u"b.jpg"});
     const Rules deep = DateRules(u"MM<Folder>dd<Folder><Name>", {DateSource::PictureTaken});
     RuleNames names(deep, Counting::WholeList);
     const RenamePlan plan =
-        MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number)).plan;
+        MakePreview(collected.list, Groups::OfOne(collected.list), names, Mode(OnConflict::Number)).plan;
     std::vector<CString> created;
     for (PlanIndex folder = 0; folder < plan.folders.size(); ++folder)
         if (plan.folders[folder].isNew)
@@ -377,7 +377,7 @@ TEST_F(PreviewTest, MovesIntoFoldersThatAreThereOrAreToBeMade)
     EXPECT_EQ(plan.entries[0].to.name.View(), u"a.jpg");
 }
 
-TEST_F(PreviewTest, RefusesToMoveIntoWhatIsNoFolder)
+TEST_F(PreviewTest, RefusesToMoveIntoAFile)
 {
     m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
     m_folder.WriteFile(u"2024");
@@ -398,42 +398,42 @@ TEST_F(PreviewTest, RefusesFoldersWithoutAName)
               (Strings{No(Reason::NamelessFolder), No(Reason::NamelessFolder)}));
 }
 
-TEST_F(PreviewTest, AFolderToBeMadeHoldsItsName)
+TEST_F(PreviewTest, ANewFolderTakesItsName)
 {
     m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
     Write({u"x2024"});
-    CollectedEntries gathered = GatherNamed({u"x2024", u"a.jpg"});
+    CollectedEntries collected = CollectNamed({u"x2024", u"a.jpg"});
     GivenNames names({{0, u"2024"}, {1, m_folder.Path(u"2024/a.jpg")}});
     const auto decisions =
-        MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number)).decisions;
+        MakePreview(collected.list, Groups::OfOne(collected.list), names, Mode(OnConflict::Number)).decisions;
     EXPECT_EQ(Told(decisions[0]), No(Reason::TargetExists));
     EXPECT_EQ(Told(decisions[1]), "a.jpg");
 }
 
-TEST_F(PreviewTest, NamesThatAreGivenOneByOneMaySwap)
+TEST_F(PreviewTest, GivenNamesMaySwap)
 {
     Write({u"a", u"b", u"c"});
-    CollectedEntries gathered = GatherNamed({u"a", u"b", u"c"});
+    CollectedEntries collected = CollectNamed({u"a", u"b", u"c"});
     GivenNames names({{0, u"b"}, {1, u"a"}});
     Strings told;
-    const Preview preview = MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    const Preview preview = MakePreview(collected.list, Groups::OfOne(collected.list), names, Mode(OnConflict::Number));
     for (const Decision& decision : preview.decisions)
         told.push_back(Told(decision));
     EXPECT_EQ(told, (Strings{"b", "a", "="}));
 }
 
-TEST_F(PreviewTest, NamesThatAreGivenOneByOneAreNotNumbered)
+TEST_F(PreviewTest, GivenNamesAreNotNumbered)
 {
     Write({u"a", u"b", u"c"});
-    CollectedEntries gathered = GatherNamed({u"a", u"b"});
+    CollectedEntries collected = CollectNamed({u"a", u"b"});
     GivenNames names({{0, u"c"}, {1, u".."}});
     const auto decisions =
-        MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number)).decisions;
+        MakePreview(collected.list, Groups::OfOne(collected.list), names, Mode(OnConflict::Number)).decisions;
     EXPECT_EQ(Told(decisions[0]), No(Reason::TargetExists));
     EXPECT_EQ(Told(decisions[1]), No(Reason::DotName));
 }
 
-TEST_F(PreviewTest, JudgesNamesAsTheFolderFoldsThem)
+TEST_F(PreviewTest, ComparesNamesAsTheFolderDoes)
 {
     Write({u"a", u"B"});
     const auto folding = VyrHostPlatform::GetNameFolding(m_folder.Path());
@@ -441,7 +441,7 @@ TEST_F(PreviewTest, JudgesNamesAsTheFolderFoldsThem)
         folding == VyrHostPlatform::NameFolding::Case || folding == VyrHostPlatform::NameFolding::CaseAndForm;
     EXPECT_EQ(DecideNamed({u"a"}, ReplaceRules(u"a", u"b")),
               Strings{foldsCase ? No(Reason::TargetExists) : std::string("b")});
-    // A change of case alone is a rename everywhere.
+    // A change of case only is a rename on every file system.
     EXPECT_EQ(DecideNamed({u"a", u"B"}, CaseRules(u"upper")), (Strings{"A", "="}));
 }
 
@@ -456,8 +456,8 @@ TEST_F(PreviewTest, NumbersTenThousandEntriesThatWantOneName)
     SourceSettings settings;
     settings.paths = {m_folder.Path()};
     settings.recursive = true;
-    CollectedEntries gathered = CollectEntries(settings);
-    const std::vector<Decision> decisions = DecideByRules(gathered.list, KeepFirstRules(u"1"), OnConflict::Number);
+    CollectedEntries collected = CollectEntries(settings);
+    const std::vector<Decision> decisions = DecideByRules(collected.list, KeepFirstRules(u"1"), OnConflict::Number);
     std::set<std::u16string_view> names;
     for (const Decision& decision : decisions) {
         EXPECT_TRUE(decision.IsRename());
@@ -467,12 +467,12 @@ TEST_F(PreviewTest, NumbersTenThousandEntriesThatWantOneName)
     EXPECT_TRUE(names.contains(u"a (9999)"));
 }
 
-TEST_F(PreviewTest, PlansWhatItShows)
+TEST_F(PreviewTest, PlansTheShownRenames)
 {
     Write({u"a", u"b", u"c", u"taken"});
-    CollectedEntries gathered = GatherNamed({u"a", u"b", u"c"});
+    CollectedEntries collected = CollectNamed({u"a", u"b", u"c"});
     GivenNames names({{0, u"b"}, {1, u"taken"}, {2, u"x"}});
-    const Preview preview = MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    const Preview preview = MakePreview(collected.list, Groups::OfOne(collected.list), names, Mode(OnConflict::Number));
     EXPECT_EQ(Told(preview.decisions[0]), No(Reason::TargetExists));
     EXPECT_EQ(Told(preview.decisions[1]), No(Reason::TargetExists));
     EXPECT_EQ(Told(preview.decisions[2]), "x");
@@ -483,47 +483,48 @@ TEST_F(PreviewTest, PlansWhatItShows)
     EXPECT_EQ(preview.plan.steps.size(), 1u);
 }
 
-TEST_F(PreviewTest, RefusesAFolderThatWouldEndUpInsideItselfAndWhatNeedsItsPlace)
+TEST_F(PreviewTest, RefusesAFolderThatWouldMoveIntoItselfAndEntriesThatNeedItsPath)
 {
     Write({u"folder/inner/file", u"a", u"b"});
-    CollectedEntries gathered = GatherNamed({u"a", u"folder", u"b"});
+    CollectedEntries collected = CollectNamed({u"a", u"folder", u"b"});
     GivenNames names({{0, u"folder"}, {1, m_folder.Path(u"folder/inner/folder")}, {2, u"x"}});
-    const Preview preview = MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    const Preview preview = MakePreview(collected.list, Groups::OfOne(collected.list), names, Mode(OnConflict::Number));
     EXPECT_EQ(Told(preview.decisions[0]), No(Reason::PlaceKept));
     EXPECT_EQ(Told(preview.decisions[1]), No(Reason::InsideItself));
     EXPECT_EQ(Told(preview.decisions[2]), "x");
     EXPECT_EQ(preview.entries, std::vector<std::uint32_t>{2});
 }
 
-TEST_F(PreviewTest, WhatKeepsTogetherIsRefusedTogetherByThePlan)
+TEST_F(PreviewTest, ThePlanRefusesWholeGroups)
 {
     Write({u"folder/inner/file", u"a.jpg", u"a.xmp", u"b.jpg"});
-    CollectedEntries gathered = GatherNamed({u"a.jpg", u"a.xmp", u"folder", u"b.jpg"});
+    CollectedEntries collected = CollectNamed({u"a.jpg", u"a.xmp", u"folder", u"b.jpg"});
     GivenNames names({{0, u"folder"}, {1, u"folder.xmp"}, {2, m_folder.Path(u"folder/inner/folder")}, {3, u"a.xmp"}});
-    const Preview preview = MakePreview(gathered.list, Groups::ByStem(gathered.list), names, Mode(OnConflict::Number));
+    const Preview preview =
+        MakePreview(collected.list, Groups::ByStem(collected.list), names, Mode(OnConflict::Number));
     EXPECT_EQ(Told(preview.decisions[0]), No(Reason::PlaceKept));
     EXPECT_EQ(Told(preview.decisions[1]), No(Reason::CompanionRefused));
     EXPECT_EQ(Told(preview.decisions[2]), No(Reason::InsideItself));
-    // The place of the second is not vacated.
+    // The second entry keeps its name.
     EXPECT_EQ(Told(preview.decisions[3]), No(Reason::PlaceKept));
     EXPECT_TRUE(preview.entries.empty());
 }
 
-TEST_F(PreviewTest, StopsAtAConflictAlone)
+TEST_F(PreviewTest, StopsOnlyAtConflicts)
 {
     Write({u"a", u"b", u"taken"});
-    CollectedEntries gathered = GatherNamed({u"a", u"b"});
+    CollectedEntries collected = CollectNamed({u"a", u"b"});
     GivenNames names({{0, u"taken"}, {1, u"x"}});
-    Preview preview = MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Refuse));
+    Preview preview = MakePreview(collected.list, Groups::OfOne(collected.list), names, Mode(OnConflict::Refuse));
     EXPECT_TRUE(StopAtConflict(preview));
     EXPECT_EQ(Told(preview.decisions[0]), No(Reason::TargetExists));
     EXPECT_EQ(preview.decisions[1].status, Status::NotReached);
     EXPECT_EQ(preview.decisions[1].reason, Reason::Stopped);
     EXPECT_TRUE(preview.plan.entries.empty());
 
-    gathered = GatherNamed({u"b"});
+    collected = CollectNamed({u"b"});
     GivenNames free({{0, u"x"}});
-    preview = MakePreview(gathered.list, Groups::OfOne(gathered.list), free, Mode(OnConflict::Refuse));
+    preview = MakePreview(collected.list, Groups::OfOne(collected.list), free, Mode(OnConflict::Refuse));
     EXPECT_FALSE(StopAtConflict(preview));
     EXPECT_EQ(preview.plan.entries.size(), 1u);
 }
@@ -531,23 +532,23 @@ TEST_F(PreviewTest, StopsAtAConflictAlone)
 TEST_F(PreviewTest, RefusesPathsLongerThanAnySystemTakes)
 {
     Write({u"a"});
-    CollectedEntries gathered = GatherNamed({u"a"});
+    CollectedEntries collected = CollectNamed({u"a"});
     CString deep;
     for (int folder = 0; folder < 20'000; ++folder)
         deep += u"d/";
     GivenNames names({{0, deep + u"a"}});
-    const Preview preview = MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    const Preview preview = MakePreview(collected.list, Groups::OfOne(collected.list), names, Mode(OnConflict::Number));
     EXPECT_EQ(Told(preview.decisions[0]), No(Reason::TooLong));
 }
 
 TEST_F(PreviewTest, CreatesFoldersHundredsOfLevelsDeep)
 {
     Write({u"a"});
-    CollectedEntries gathered = GatherNamed({u"a"});
+    CollectedEntries collected = CollectNamed({u"a"});
     CString deep;
     for (int folder = 0; folder < 500; ++folder)
         deep += u"d/";
     GivenNames names({{0, m_folder.Path(deep + u"a")}});
-    const Preview preview = MakePreview(gathered.list, Groups::OfOne(gathered.list), names, Mode(OnConflict::Number));
+    const Preview preview = MakePreview(collected.list, Groups::OfOne(collected.list), names, Mode(OnConflict::Number));
     EXPECT_EQ(Told(preview.decisions[0]), "a");
 }

@@ -1,4 +1,4 @@
-// For tests: one entry under rules.
+// For tests: rules applied to one entry.
 #pragma once
 
 #include <VyrHost/rename/Rule.h>
@@ -19,7 +19,7 @@ inline VyrHost::Rename::Subject FileSubject(const CString& name, const CString& 
     return subject;
 }
 
-/// What `rules` make of `subject`: folder, name and extension in one. "!" stands for a fault.
+/// The result of `rules` for `subject`: folder, name and extension in one text. "!" for a fault.
 inline CString Apply(const VyrHost::Rename::Rules& rules, VyrHost::Rename::Subject subject)
 {
     for (const auto& rule : rules)
@@ -28,7 +28,7 @@ inline CString Apply(const VyrHost::Rename::Rules& rules, VyrHost::Rename::Subje
     return subject.folder + subject.name + subject.extension;
 }
 
-/// All the rules of two lists, one after the other.
+/// The rules of both lists in sequence.
 inline VyrHost::Rename::Rules Chain(VyrHost::Rename::Rules first, VyrHost::Rename::Rules second)
 {
     for (auto& rule : second)

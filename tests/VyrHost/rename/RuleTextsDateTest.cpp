@@ -1,4 +1,4 @@
-// Tests of date formats: which date, where it goes, camera and folders.
+// Date formats: which date is taken, its place in the name, camera and folders.
 #include "RuleChain.h"
 
 #include <VyrHost/rename/RuleTexts.h>
@@ -21,7 +21,7 @@ using namespace VyrTests;
 
 namespace {
 
-/// A picture taken at 2024:07:19 18:45:03 and one that says nothing.
+/// A picture taken at 2024:07:19 18:45:03, and one without Exif data.
 class DateFormat : public testing::Test
 {
 protected:
@@ -58,7 +58,7 @@ TEST_F(DateFormat, PutsTheDateInPlaceOfTheNameOrBesideIt)
     EXPECT_EQ(Dated(u"yyyy <Name> MM"), u"/d/2024 dated 07.jpg");
 }
 
-TEST_F(DateFormat, HasNoNameForAFileWithoutTheDate)
+TEST_F(DateFormat, GivesNoNameToAFileWithoutTheDate)
 {
     EXPECT_EQ(Dated(u"yyyy", u"plain"), u"!");
     EXPECT_EQ(Dated(u"yyyy <Name>", u"plain"), u"!");
@@ -75,13 +75,13 @@ TEST_F(DateFormat, TakesTheFirstDateThatTheFileHas)
     EXPECT_EQ(Apply(DateRules(u"yyyy", sources), SubjectOf(u"plain")), u"/d/2001.jpg");
 }
 
-TEST_F(DateFormat, PutsInMakerAndModelOfTheCamera)
+TEST_F(DateFormat, InsertsMakerAndModelOfTheCamera)
 {
     EXPECT_EQ(Dated(u"<Make>_<Model>_yyyy"), u"/d/Testmaker_Model 1_2024.jpg");
     EXPECT_EQ(Dated(u"<Name> <Model>"), u"/d/dated Model 1.jpg");
 }
 
-TEST_F(DateFormat, ReplacesWhatNoNameCanHoldInMakerAndModel)
+TEST_F(DateFormat, ReplacesForbiddenCharactersInMakerAndModel)
 {
     PictureFacts facts;
     facts.make = " a/b\\c:d?<Folder> ";
@@ -91,7 +91,7 @@ TEST_F(DateFormat, ReplacesWhatNoNameCanHoldInMakerAndModel)
     EXPECT_EQ(Dated(u"<Model><Folder><Name>", u"odd"), u"!");
 }
 
-TEST_F(DateFormat, DropsATokenThatTheCameraDoesNotSay)
+TEST_F(DateFormat, RemovesATokenWithoutAValue)
 {
     PictureFacts facts;
     facts.make.clear();
@@ -100,7 +100,7 @@ TEST_F(DateFormat, DropsATokenThatTheCameraDoesNotSay)
     EXPECT_EQ(Dated(u"<Make><Folder><Name>", u"nameless"), u"!");
 }
 
-TEST_F(DateFormat, DropsABlankBesideATokenThatTheCameraDoesNotSay)
+TEST_F(DateFormat, RemovesABlankBesideATokenWithoutAValue)
 {
     PictureFacts facts;
     facts.make.clear();
@@ -117,12 +117,12 @@ TEST_F(DateFormat, DropsABlankBesideATokenThatTheCameraDoesNotSay)
     EXPECT_EQ(Dated(u"<Model> <Name>", u"silent"), u"/d/silent.jpg");
     EXPECT_EQ(Dated(u"yyyy<Folder><Make> <Name>", u"silent"), CString(u"/d/2024") + Slash + u"silent.jpg");
     EXPECT_EQ(Dated(u"yyyy <Make><Folder><Name>", u"silent"), CString(u"/d/2024") + Slash + u"silent.jpg");
-    // A blank that parts two words stays, and so does everything that is no blank.
+    // A blank between two words is kept, and so is every character other than a blank.
     EXPECT_EQ(Dated(u"yyyy <Make><Name>", u"silent"), u"/d/2024 silent.jpg");
     EXPECT_EQ(Dated(u"yyyy-<Make>-dd", u"silent"), u"/d/2024--19.jpg");
 }
 
-TEST_F(DateFormat, TellsWhichDatesAChoiceTook)
+TEST_F(DateFormat, ReportsWhichDatesWereTaken)
 {
     Subject subject = SubjectOf(u"plain");
     EXPECT_EQ(DateRules(u"yyyy", {DateSource::PictureTaken, DateSource::Modified}).front()->Apply(subject),
@@ -149,7 +149,7 @@ TEST_F(DateFormat, MovesIntoTheFoldersThatTheFormatNames)
     EXPECT_EQ(Dated(u"<Make><Folder><Name> dd"), CString(u"/d/Testmaker") + Slash + u"dated 19.jpg");
 }
 
-TEST_F(DateFormat, LeavesWhatLooksLikeATokenInTheOldNameAlone)
+TEST_F(DateFormat, DoesNotReplaceTokensInTheOldName)
 {
     Subject subject = SubjectOf(u"dated");
     subject.name = u"<Folder><Make>";

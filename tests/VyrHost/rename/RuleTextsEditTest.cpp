@@ -1,4 +1,4 @@
-// Tests of the rules that edit the name there is, and of rules one after the other.
+// Rules that edit the present name, and rules in sequence.
 #include "RuleChain.h"
 
 #include <VyrHost/rename/RuleTexts.h>
@@ -43,7 +43,7 @@ TEST(EditTexts, DeletesAndKeepsCountedFromEitherEnd)
     EXPECT_EQ(OnAbcdef(KeepLastRules(u"0")), u"/d/.txt");
 }
 
-TEST(EditTexts, ConvertsTheNameAndLeavesTheExtension)
+TEST(EditTexts, ConvertsTheNameWithoutTheExtension)
 {
     const Subject mixed = FileSubject(u"hello World", u".Txt");
     EXPECT_EQ(Apply(CaseRules(u"first"), mixed), u"/d/Hello World.Txt");
@@ -57,19 +57,19 @@ TEST(EditTexts, ReplacesEveryOccurrence)
     EXPECT_EQ(Apply(ReplaceRules(u"x", u""), FileSubject(u"xoxo", u"")), u"/d/oo");
 }
 
-TEST(EditTexts, ReplacesATextInWhateverNormalFormTheNameIs)
+TEST(EditTexts, ReplacesATextInNamesOfAnyNormalForm)
 {
     const CString composed = u"\u00e9t\u00e9";
     const CString decomposed = u"e\u0301te\u0301";
     for (const CString& find : {CString(u"\u00e9"), CString(u"e\u0301")})
         for (const CString& name : {composed, decomposed})
             EXPECT_EQ(Apply(ReplaceRules(find, u"e"), FileSubject(name, u".txt")), u"/d/ete.txt");
-    // The letter below an accent is another letter in either form.
+    // A letter with an accent is another letter than the one without, in either form.
     for (const CString& name : {composed, decomposed})
         EXPECT_EQ(Apply(ReplaceRules(u"e", u"x"), FileSubject(name, u".txt")), u"/d/" + name + u".txt");
 }
 
-TEST(EditTexts, ChangesTheExtensionOfFilesAlone)
+TEST(EditTexts, ChangesTheExtensionOfFilesOnly)
 {
     const Subject file = FileSubject(u"a.b", u".JPEG");
     EXPECT_EQ(Apply(ExtensionRules(u"jpg"), file), u"/d/a.b.jpg");
@@ -112,7 +112,7 @@ TEST(EditTexts, TextsThatMakeNoSenseAreRefused)
     EXPECT_THROW((void)ExtensionCaseRules(u"first"), UsageError);
 }
 
-TEST(EditTexts, NumberingAppliesToInsertingDeletingAndANewExtensionAlone)
+TEST(EditTexts, OnlyInsertingDeletingAndANewExtensionAllowNumbering)
 {
     EXPECT_TRUE(PrefixRules(u"x").front()->MayNumber());
     EXPECT_TRUE(KeepFirstRules(u"1").front()->MayNumber());

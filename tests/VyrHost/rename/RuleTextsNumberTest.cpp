@@ -1,4 +1,3 @@
-// Tests of templates for sequence numbers.
 #include "RuleChain.h"
 
 #include <VyrHost/rename/RuleTexts.h>
@@ -29,7 +28,7 @@ NumberSettings WithDigits(int digits)
 
 } // namespace
 
-TEST(NumberTemplate, PutsTheNumberWhereTheHashesStand)
+TEST(NumberTemplate, WritesTheNumberInPlaceOfTheHashes)
 {
     EXPECT_EQ(Numbered(u"Trip ###"), u"/d/Trip 001.jpg");
     EXPECT_EQ(Numbered(u"### Trip", 9), u"/d/010 Trip.jpg");
@@ -37,7 +36,7 @@ TEST(NumberTemplate, PutsTheNumberWhereTheHashesStand)
     EXPECT_EQ(Numbered(u"#"), u"/d/1.jpg");
 }
 
-TEST(NumberTemplate, KeepsTheOldNameWhereItsTokenStands)
+TEST(NumberTemplate, WritesTheOldNameInPlaceOfItsToken)
 {
     EXPECT_EQ(Numbered(u"<Name>#"), u"/d/old1.jpg");
     EXPECT_EQ(Numbered(u"##<Name>"), u"/d/01old.jpg");
@@ -45,7 +44,7 @@ TEST(NumberTemplate, KeepsTheOldNameWhereItsTokenStands)
     EXPECT_EQ(Numbered(u"a#b<Name>c", 4), u"/d/a5boldc.jpg");
 }
 
-TEST(NumberTemplate, WritesEveryHashAsItIsWhenATokenStandsForTheNumber)
+TEST(NumberTemplate, KeepsHashesWhereATokenIsTheNumber)
 {
     EXPECT_EQ(Numbered(u"#<Number> of ##", 0, WithDigits(3)), u"/d/#001 of ##.jpg");
 }
@@ -91,11 +90,11 @@ TEST(NumberTemplate, IsRefusedWhenItMakesNoSense)
          {u"", u"no place", u"<Name>", u"#-#", u"<Number><Number>", u"<Name>#<Name>", u"a/#"})
         EXPECT_THROW((void)NumberRules(text, {}), UsageError);
     EXPECT_THROW((void)NumberRules(std::u16string_view(u"a\0#", 3), {}), UsageError);
-    // The width is said twice.
+    // The width is given twice.
     EXPECT_THROW((void)NumberRules(u"###", WithDigits(3)), UsageError);
 }
 
-TEST(NumberTemplate, MayBeNumberedWhenNamesClash)
+TEST(NumberTemplate, AllowsNumberingOfConflicts)
 {
     const Rules rules = NumberRules(u"#", {});
     ASSERT_EQ(rules.size(), 1u);

@@ -1,4 +1,4 @@
-// Tests of what templates may not hold.
+// Letters and tokens that templates may not contain.
 #include <VyrHost/rename/TemplateTokens.h>
 
 #include <VyrHost/text/Errors.h>
@@ -25,7 +25,7 @@ std::string ErrorOf(Check check, std::u16string_view text)
 
 } // namespace
 
-TEST(DateFormatLetters, ThatMeanSomethingPass)
+TEST(DateFormatLetters, WithAMeaningAreAccepted)
 {
     for (const char16_t* const format :
          {u"yyyyMMdd_HHmmss", u"yyyy-MM-dd HH.mm.ss", u"d MMMM yyyy", u"EEE, MMM d, yy", u"EEEE", u"h:m:s a",
@@ -33,14 +33,14 @@ TEST(DateFormatLetters, ThatMeanSomethingPass)
         EXPECT_EQ(ErrorOf(RequireDateFormat, format), "");
 }
 
-TEST(DateFormatLetters, ThatMeanNothingAreRefused)
+TEST(DateFormatLetters, WithoutAMeaningAreRefused)
 {
     for (const char16_t letter : std::u16string_view(u"bcefgijklnopqrtuvwxzABCDFGIJKLNOPQRSTUVWXYZ")) {
         const std::u16string format = {u'y', u'y', u' ', letter};
         EXPECT_THAT(ErrorOf(RequireDateFormat, format),
                     HasSubstr(std::string("no part of a date is called ") + static_cast<char>(letter)));
     }
-    // The rest of a run that is too long, or too short.
+    // The rest of a run that is too long or too short.
     EXPECT_THAT(ErrorOf(RequireDateFormat, u"yyyyy"), HasSubstr("called y"));
     EXPECT_THAT(ErrorOf(RequireDateFormat, u"y"), HasSubstr("called y"));
     EXPECT_THAT(ErrorOf(RequireDateFormat, u"EE"), HasSubstr("called E"));
@@ -73,7 +73,7 @@ TEST(DateFormatTokens, InApostrophesAreRefused)
         EXPECT_THAT(ErrorOf(RequireDateFormat, format), HasSubstr("the apostrophes make text of <"));
 }
 
-TEST(DateFormatTokens, ThatHaveNoEndTakeNoLongerTimeTheMoreThereAre)
+TEST(DateFormatTokens, WithoutAnEndTakeLinearTime)
 {
     EXPECT_EQ(ErrorOf(RequireDateFormat, std::u16string(1'000'000, u'<')), "");
 }

@@ -1,4 +1,3 @@
-// The designs of reports.
 #include <VyrHost/reports/Design.h>
 
 #include <VyrHost/text/Errors.h>
@@ -51,7 +50,7 @@ TEST_F(DesignsTest, DocumentWithoutDesignsIsRefused)
     EXPECT_THROW(ReadDesigns(Folder().MakeFolder(u"folder.xml"), "--designs"), UsageError);
 }
 
-TEST_F(DesignsTest, StyleThatWouldEndItsElementIsRefused)
+TEST_F(DesignsTest, StyleThatEndsItsElementIsRefused)
 {
     for (const char* const style : {"&lt;/style>&lt;script>", "a &lt;/STYLE x", "&#60;/Style"})
         EXPECT_THROW(Read("<item name='a' value=''/><item name='b' value='" + std::string(style) + "'/>"), UsageError)

@@ -1,4 +1,4 @@
-// Texts from outside, as they stand in a page.
+// Texts of users and files in a page.
 #include <VyrHost/reports/HtmlText.h>
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ std::string Escaped(std::u16string_view text)
 
 } // namespace
 
-TEST(HtmlText, MarkupIsShownAndNotMeant)
+TEST(HtmlText, MarkupIsShownAsText)
 {
     EXPECT_EQ(Escaped(u"<script>alert('x')</script>"), "&lt;script&gt;alert(&#39;x&#39;)&lt;/script&gt;");
     EXPECT_EQ(Escaped(u"a & b \"c\" &amp;"), "a &amp; b &quot;c&quot; &amp;amp;");
@@ -29,7 +29,7 @@ TEST(HtmlText, LineEndsAreKept)
     EXPECT_EQ(Escaped(u"a\r\nb\tc"), "a&#13;&#10;b\tc");
 }
 
-TEST(HtmlText, WhatHtmlCannotHoldIsReplaced)
+TEST(HtmlText, CharactersThatHtmlForbidsAreReplaced)
 {
     const std::string replacement = "\xEF\xBF\xBD";
     for (const char16_t unit :
@@ -38,14 +38,14 @@ TEST(HtmlText, WhatHtmlCannotHoldIsReplaced)
         EXPECT_EQ(Escaped({&unit, 1}), replacement) << static_cast<int>(unit);
 }
 
-TEST(HtmlText, AddressesOfTheWebAreLinks)
+TEST(HtmlText, WebAddressesAreLinks)
 {
     EXPECT_EQ(LinkTo(u"https://example.org/a?b=c&d=%20#e"), "https://example.org/a?b=c&amp;d=%20#e");
     EXPECT_EQ(LinkTo(u"HTTP://example.org"), "HTTP://example.org");
     EXPECT_EQ(LinkTo(u"https://example.org/\u00E4\"<'>\\"), "https://example.org/%C3%A4%22%3C%27%3E%5C");
 }
 
-TEST(HtmlText, AllOtherTextIsNoLink)
+TEST(HtmlText, OtherTextsAreNoLinks)
 {
     for (const char16_t* const text :
          {u"", u"http://", u"https://", u"javascript:alert(1)", u"JaVaScRiPt:alert(1)", u"data:text/html,x",

@@ -40,7 +40,7 @@ std::string Page(const RecordTable& table, const ReportText& text = {u"Title", u
     return page;
 }
 
-/// What stands between two texts of the page.
+/// The part of the page between two texts.
 std::string Between(const std::string& page, const std::string& start, const std::string& end)
 {
     const std::size_t from = page.find(start);
@@ -95,7 +95,7 @@ TEST(RecordReport, AddressesAreLinksAndUnsafeOnesAreText)
     EXPECT_THAT(page, HasSubstr("<td class=\"text\">javascript:alert(1)</td>"));
 }
 
-TEST(RecordReport, NothingIsAskedForFromOutside)
+TEST(RecordReport, PageLoadsNothingFromOutside)
 {
     const std::string page = Page(ListOf({{"name", "Name"}}, {{Text(u"a")}}));
     for (const char* const reference : {"src=", "href=", "url(", "@import", "http://", "https://"})
@@ -125,13 +125,13 @@ TEST(RecordReport, TonesAreClassesOfRows)
     EXPECT_THAT(page, HasSubstr("<tr class=\"bad\"><td class=\"text\">4"));
 }
 
-TEST(RecordReport, StyleOfTheDesignStandsBehindTheUsualOne)
+TEST(RecordReport, StyleOfTheDesignFollowsTheDefaultOne)
 {
     const std::string page = Page(ListOf({{"a", "A"}}, {}), {}, {u"mine", u"td { color: #123456 }"});
     EXPECT_TRUE(Between(page, "<style>", "</style>").ends_with("td { color: #123456 }\t"));
 }
 
-TEST(RecordReport, LongListComesInPieces)
+TEST(RecordReport, LongListIsWrittenInPieces)
 {
     RecordTable table = ListOf({{"a", "A"}}, {{Text(u"row")}});
     table.rows.assign(100000, 0);

@@ -1,4 +1,4 @@
-// The file of a report, which is there whole or not at all.
+// The file of a report exists only when it is complete.
 #include <VyrHost/reports/ReportFile.h>
 
 #include <VyrHost/text/Errors.h>
@@ -30,7 +30,7 @@ TEST(ReportFile, IsWrittenWhole)
     EXPECT_FALSE(folder.Has(u"a.html.part"));
 }
 
-TEST(ReportFile, FormerOneIsReplacedOnlyWhereThatIsAskedFor)
+TEST(ReportFile, ExistingFileIsReplacedOnlyOnRequest)
 {
     const VyrTests::ScratchFolder folder;
     const CString path = folder.WriteFile(u"a.html", "former");
@@ -44,7 +44,7 @@ TEST(ReportFile, FormerOneIsReplacedOnlyWhereThatIsAskedFor)
     EXPECT_FALSE(folder.Has(u"a.html.former"));
 }
 
-TEST(ReportFile, FormerOneStaysWhereTheNewOneCannotBeWritten)
+TEST(ReportFile, ExistingFileStaysWhereTheNewOneCannotBeWritten)
 {
     const VyrTests::ScratchFolder folder;
     const CString path = folder.WriteFile(u"a.html", "former");

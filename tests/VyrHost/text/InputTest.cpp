@@ -1,4 +1,3 @@
-// Tests of reading names from a stream.
 #include <VyrHost/text/Input.h>
 
 #include <gtest/gtest.h>
@@ -11,7 +10,7 @@ using VyrHost::Text::NameReader;
 
 namespace {
 
-/// The names of `bytes`, handed over `size` bytes at a time.
+/// The names in `bytes`, which are passed on in pieces of `size` bytes.
 std::vector<std::u16string> Read(std::string_view bytes, char end, std::size_t size)
 {
     std::vector<std::u16string> names;
@@ -27,7 +26,7 @@ std::vector<std::u16string> Read(std::string_view bytes, char end, std::size_t s
 
 } // namespace
 
-TEST(NameReader, CutsTheSameNamesHoweverTheBytesCome)
+TEST(NameReader, GivesTheSameNamesForEachSizeOfThePieces)
 {
     using namespace std::string_view_literals;
     const std::vector<std::u16string> expected = {u"a.txt", u"b c", u"\u00e4"};
@@ -43,7 +42,7 @@ TEST(NameReader, KeepsBytesThatAreNotUtf8AndLineEndsInNames)
     EXPECT_EQ(Read("a\nb\xff\0"sv, '\0', 3), std::vector<std::u16string>{u"a\nb\xDCFF"});
 }
 
-TEST(NameReader, FindsNoNameInNothing)
+TEST(NameReader, GivesNoNameWithoutInput)
 {
     EXPECT_TRUE(Read("", '\n', 1).empty());
     EXPECT_TRUE(Read("\n\n", '\n', 1).empty());

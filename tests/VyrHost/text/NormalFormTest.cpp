@@ -1,4 +1,4 @@
-// Tests of texts found in names of another normal form.
+// Finding texts in names of another normal form.
 #include <VyrHost/text/NormalForm.h>
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 
 using namespace VyrHost::Text;
 
-TEST(NormalForm, IsToldByTheLetters)
+TEST(NormalForm, IsRecognised)
 {
     EXPECT_TRUE(IsComposed(u"plain"));
     EXPECT_TRUE(IsComposed(u"\u00e9"));
@@ -17,7 +17,7 @@ TEST(NormalForm, IsToldByTheLetters)
     EXPECT_EQ(Composed(u"ae\u0301b"), u"a\u00e9b");
 }
 
-TEST(NormalForm, CutsLettersWithTheirAccents)
+TEST(NormalForm, KeepsLettersAndTheirAccentsTogether)
 {
     const auto pieces = CutForComposing(u"ae\u0301bo\u0302\u0301\U0001F600");
     ASSERT_EQ(pieces.size(), 5u);
@@ -29,13 +29,13 @@ TEST(NormalForm, CutsLettersWithTheirAccents)
     EXPECT_TRUE(CutForComposing(u"").empty());
 }
 
-TEST(NormalForm, ReplacesWhatTheComposedNameHolds)
+TEST(NormalForm, ReplacesTextOfTheComposedName)
 {
     EXPECT_EQ(ReplaceComposed(u"re\u0301sume\u0301", u"\u00e9", u"e"), u"resume");
     EXPECT_EQ(ReplaceComposed(u"\u00e9 e\u0301", u"\u00e9", u"x"), u"x x");
     EXPECT_EQ(ReplaceComposed(u"e\u0301e", u"e", u"x"), u"e\u0301x");
     EXPECT_EQ(ReplaceComposed(u"e\u0301", u"", u"x"), u"e\u0301");
-    // What is put in is not looked through again, and all else keeps its form.
+    // The replacement is not searched again, and the rest keeps its form.
     EXPECT_EQ(ReplaceComposed(u"o\u0308e\u0301", u"\u00e9", u"e\u0301\u00e9"), u"o\u0308e\u0301\u00e9");
     EXPECT_EQ(ReplaceComposed(u"ae\u0301ae\u0301a", u"a\u00e9a", u"-"), u"-e\u0301a");
 }

@@ -1,11 +1,10 @@
-// Tests of names made safe to show.
 #include <VyrHost/text/SafeText.h>
 
 #include <gtest/gtest.h>
 
 using namespace VyrHost::Text;
 
-TEST(SafeText, LetsNothingThroughThatATerminalObeys)
+TEST(SafeText, EscapesAllControlCharacters)
 {
     EXPECT_EQ(SafeText(u"a\nb\tc\rd"), "a\\nb\\tc\\rd");
     EXPECT_EQ(SafeText(u"\x1b[31mred\x07"), "\\x1b[31mred\\x07");
@@ -15,7 +14,7 @@ TEST(SafeText, LetsNothingThroughThatATerminalObeys)
         EXPECT_EQ(SafeText(std::u16string_view(&unit, 1)).find_first_of("\x1b\n\r\t\b\a"), std::string::npos);
 }
 
-TEST(SafeText, WritesLoneSurrogatesAsEscapesAndPairsAsTheyAre)
+TEST(SafeText, EscapesLoneSurrogatesButNoPairs)
 {
     EXPECT_EQ(SafeText(u"a\xDCFF"), "a\\udcff");
     EXPECT_EQ(SafeText(u"\xD83D"), "\\ud83d");
@@ -23,7 +22,7 @@ TEST(SafeText, WritesLoneSurrogatesAsEscapesAndPairsAsTheyAre)
     EXPECT_EQ(SafeText(u"naïve \\ 日本"), "na\xC3\xAFve \\ \xE6\x97\xA5\xE6\x9C\xAC");
 }
 
-TEST(SafeText, MeasuresTheColumnsThatATerminalTakes)
+TEST(SafeText, MeasuresTheColumnsOnATerminal)
 {
     EXPECT_EQ(SafeWidth(u"abc"), 3);
     EXPECT_EQ(SafeWidth(u"naïve"), 5);

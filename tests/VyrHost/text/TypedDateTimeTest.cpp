@@ -14,7 +14,7 @@ using VyrTests::UserLocale;
 
 namespace {
 
-/// The value, and d for a date and t for a time of day behind it; "none" for what is neither.
+/// The value, followed by d for a date and t for a time of day; "none" for other texts.
 std::string Read(std::u16string_view text)
 {
     const auto typed = ReadTypedDateTime(text);
@@ -51,7 +51,7 @@ TEST(TypedDateTime, TimeOfDayAloneHasNoDate)
         EXPECT_EQ(Read(text), std::string("2000-01-01 ") + time + " t");
 }
 
-TEST(TypedDateTime, WhatIsNoDateOrTimeIsNone)
+TEST(TypedDateTime, OtherTextsAreRefused)
 {
     for (const char16_t* const text : {u"", u" ", u"today", u"2024-02-30", u"2024-13-01", u"24:00", u"10:60", u"2024",
                                        u"2024-01-05T", u"2024-01-05 25:00", u"T10:30", u"10", u"2024-01-05 10:30 x"})

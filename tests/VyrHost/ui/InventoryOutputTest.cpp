@@ -1,4 +1,4 @@
-// Tests of what is installed as lists: the columns, those that are described, and the values in them.
+// Lists of programs, products and browsers: the columns, their description, and the values.
 #include <VyrHost/ui/InventoryOutput.h>
 
 #include <VyrLibraryUtils/DateTimeUtils.h>
@@ -26,7 +26,7 @@ std::set<std::string> NamesIn(const std::vector<RecordColumn>& columns)
     return names;
 }
 
-/// The names in the table under `heading`, which stand in backquotes in its second column.
+/// The names in backquotes in the second column of the table under `heading`.
 std::set<std::string> DocumentedNames(const std::string& heading)
 {
     std::ifstream document(VYR_SOURCE_FOLDER "/docs/inventory.md");
@@ -49,7 +49,7 @@ std::set<std::string> DocumentedNames(const std::string& heading)
     return names;
 }
 
-/// The value of the first row in the column `name`, for programs.
+/// The value of the first program in the column `name`.
 std::string ValueIn(const RecordTable& table, std::string_view name)
 {
     for (std::size_t column = 0; column < table.columns.size(); ++column)
@@ -92,7 +92,7 @@ TEST(InventoryColumns, HoldTheFieldsOfAProgram)
     EXPECT_EQ(ValueIn(table, "versionMajor"), "");
 }
 
-TEST(InventoryColumns, TakeTheDayOfTheKeyWhereNoDateOfInstallationIsTold)
+TEST(InventoryColumns, TakeTheDayOfTheKeyWithoutADateOfInstallation)
 {
     std::vector<Program> programs(1);
     EXPECT_EQ(ValueIn(TableOfPrograms(programs), "installDate"), "");

@@ -1,4 +1,3 @@
-// Tests of a preview as JSON lines.
 #include <VyrHost/ui/Output.h>
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Tests of lists of records as data: their columns, their order, and the words for their values.
+// Lists of records: columns, order, and the words for values.
 #include <VyrHost/ui/RecordTable.h>
 
 #include <VyrHost/text/Errors.h>
@@ -85,7 +85,7 @@ TEST(RecordColumns, AreFoundByNameInEitherCaseAndInTheOrderGiven)
     EXPECT_EQ(NamesOf(columns), "name, fileSize, long");
 }
 
-TEST(RecordColumns, ThatThereAreNotAreRefusedWithThoseThatThereAre)
+TEST(RecordColumns, ThatDoNotExistAreRefusedWithTheNamesOfTheOthers)
 {
     const std::vector<RecordColumn> columns = ColumnsOf(std::span<const RecordField<Track>>(trackFields));
     for (const char16_t* const list : {u"size", u"", u"name,", u",name", u"name,,long", u"name,name", u"name, long"})
@@ -121,7 +121,7 @@ TEST(RecordOrder, PutsRowsWithoutAValueLastInEitherDirection)
     EXPECT_EQ(Sorted(values, RecordKind::Text, true), (Rows{1, 3, 0, 2}));
 }
 
-TEST(RecordOrder, LeavesRowsThatAreAlikeAsTheyWere)
+TEST(RecordOrder, KeepsTheOrderOfEqualRows)
 {
     std::mt19937 random(5);
     std::vector<RecordValue> values;
@@ -139,11 +139,11 @@ TEST(RecordOrder, LeavesRowsThatAreAlikeAsTheyWere)
     }
 }
 
-TEST(RecordOrder, ThatGoesInCirclesEndsWithEveryRow)
+TEST(RecordOrder, ThatIsCyclicStillGivesEveryRow)
 {
     RecordTable table;
     table.columns = {{"value", "Value"}};
-    // Each row of three comes after the one before it, and the first after the last.
+    // Each of three rows comes after the one before it, and the first after the last.
     table.columns[0].compareRows = [](std::size_t left, std::size_t right) {
         return static_cast<int>((left + 3 - right) % 3) == 1 ? 1 : -1;
     };
@@ -156,7 +156,7 @@ TEST(RecordOrder, ThatGoesInCirclesEndsWithEveryRow)
     EXPECT_EQ(sorted, all);
 }
 
-TEST(RecordOrder, OfAColumnMayBeItsOwn)
+TEST(RecordOrder, OfAColumnCanBeCustom)
 {
     const std::vector<Track> tracks = {{u"a", 1}, {u"bbb", 2}, {u"cc", 3}};
     RecordTable table = TableOfTracks(tracks);
@@ -179,7 +179,7 @@ TEST(RecordValues, AreSizesWithUnitsAndWordsForPeople)
     EXPECT_EQ(ShownText(RecordValue(), RecordKind::Size), u"");
 }
 
-TEST(RecordValues, AreDatesWithTheOffsetThatIsKnownForPrograms)
+TEST(RecordValues, AreDatesWithAKnownOffsetInJson)
 {
     const COleDateTime moment(2024, 1, 5, 10, 30, 7);
     EXPECT_EQ(PlainText(RecordDate{moment, true, {}}), u"2024-01-05T10:30:07");

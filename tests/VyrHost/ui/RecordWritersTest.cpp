@@ -1,4 +1,4 @@
-// Tests of lists of records as they are written: the table, CSV and JSON.
+// Lists of records as tables, CSV and JSON.
 #include <VyrHost/ui/RecordWriters.h>
 
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@ using namespace VyrHost::Ui;
 
 namespace {
 
-/// What `write` writes; OutputBuffer writes to the standard output alone.
+/// The output of `write`; OutputBuffer writes only to the standard output.
 std::string Written(const std::function<void(OutputBuffer&)>& write)
 {
     testing::internal::CaptureStdout();
@@ -22,7 +22,7 @@ std::string Written(const std::function<void(OutputBuffer&)>& write)
     return testing::internal::GetCapturedStdout();
 }
 
-/// A list of these values, shown whole.
+/// A list of these values with all its columns.
 RecordTable ListOf(std::vector<RecordColumn> columns, std::vector<std::vector<RecordValue>> values)
 {
     RecordTable table;
@@ -55,7 +55,8 @@ std::string Table(const RecordTable& table, TableStyle style, bool hasHeadings =
     return Written([&](OutputBuffer& output) { WriteRecords(output, table, style, hasHeadings); });
 }
 
-/// Without the CR of its line ends, which the capture drops on Windows alone; the tests of the program look at them.
+/// The CSV without the CR of its line ends, which the capture drops on Windows only; the tests of the program check
+/// them.
 std::string Csv(const RecordTable& table)
 {
     std::string csv = Written([&](OutputBuffer& output) { WriteRecordCsv(output, table); });
@@ -70,7 +71,7 @@ std::string Json(const RecordTable& table)
 
 } // namespace
 
-TEST(RecordList, LinesTheColumnsUpWithNumbersAtTheRight)
+TEST(RecordList, AlignsColumnsAndNumbersToTheRight)
 {
     EXPECT_EQ(Table(Programs(), {80}), "Name       Size  Place\n"
                                        "Editor  2.00 KB  C:\\Editor\n"
@@ -79,7 +80,7 @@ TEST(RecordList, LinesTheColumnsUpWithNumbersAtTheRight)
     EXPECT_EQ(Table(Programs(), {}), Table(Programs(), {80}));
 }
 
-TEST(RecordList, ShowsTheColumnsThatAreChosenInTheirOrder)
+TEST(RecordList, ShowsTheChosenColumnsInTheirOrder)
 {
     RecordTable table = Programs();
     table.shown = {2, 0};
@@ -96,7 +97,7 @@ TEST(RecordList, WithoutRowsIsEmpty)
     EXPECT_EQ(Json(table), "");
 }
 
-TEST(RecordList, GivesLinesOfTheirOwnToValuesThatDoNotFit)
+TEST(RecordList, WritesValuesThatDoNotFitInLinesOfTheirOwn)
 {
     const RecordTable table = ListOf({{"name", "Name"}, {"size", "Size", RecordKind::Number}, {"place", "Place"}},
                                      {{Text(u"a"), std::int64_t{1}, Text(u"0123456789012345678901234567890123456789")},
@@ -152,7 +153,7 @@ TEST(RecordList, GivesEachValueALineWhereColumnsWouldBeTooNarrow)
     EXPECT_EQ(Table(table, {20}), "0123456789\n    B: 0123456789\n    C: 0123456789\n\n0\n    C: 2\n");
 }
 
-TEST(RecordList, ColoursHeadingsAndRowsThatAskForNotice)
+TEST(RecordList, ColoursHeadingsAndImportantRows)
 {
     RecordTable table = ListOf({{"a", "A"}}, {{Text(u"x")}, {Text(u"y")}});
     table.toneOf = [](std::size_t row) {
@@ -161,13 +162,13 @@ TEST(RecordList, ColoursHeadingsAndRowsThatAskForNotice)
     EXPECT_EQ(Table(table, {80, true}), "\x1b[1mA\x1b[0m\nx\n\x1b[31my\x1b[0m\n");
 }
 
-TEST(RecordList, ShowsNothingThatATerminalObeys)
+TEST(RecordList, EscapesControlCharacters)
 {
     const RecordTable table = ListOf({{"a", "A"}}, {{Text(u"x\x1b[2J\ny")}});
     EXPECT_EQ(Table(table, {80}), "A\nx\\x1b[2J\\ny\n");
 }
 
-TEST(RecordCsv, QuotesWhatNeedsIt)
+TEST(RecordCsv, QuotesFieldsWhereNecessary)
 {
     const RecordTable table = ListOf({{"name", "Name"}, {"note", "Note"}},
                                      {{Text(u"a,b"), Text(u"say \"x\"")}, {Text(u"line\nline"), Text(u" plain; é ")}});
@@ -176,7 +177,7 @@ TEST(RecordCsv, QuotesWhatNeedsIt)
                           "\"line\nline\", plain; \xC3\xA9 \n");
 }
 
-TEST(RecordCsv, HasSizesInBytesAndTheBytesOfNames)
+TEST(RecordCsv, HasSizesInBytesAndNamesAsBytes)
 {
     EXPECT_EQ(Csv(Programs()), "\xEF\xBB\xBFname,size,place\n"
                                "Editor,2048,C:\\Editor\nx,,C:\\x\nBig,5242880,\n");

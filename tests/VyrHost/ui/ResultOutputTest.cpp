@@ -1,4 +1,4 @@
-// Tests of results as people and programs read them, and of the keys that docs/json.md describes.
+// Results as tables, messages and JSON, and the keys that docs/json.md describes.
 #include <VyrHost/ui/ResultOutput.h>
 
 #include <VyrHost/ui/BatchList.h>
@@ -93,7 +93,7 @@ std::string Summary(std::vector<Result> results)
     return SummaryOf(Tally(SampleResults(std::move(results))));
 }
 
-/// The texts in front of colons, as long as no value holds a quote.
+/// The texts before colons, provided that no value contains a quote.
 std::set<std::string> KeysOf(const std::string& json)
 {
     std::set<std::string> keys;
@@ -104,7 +104,7 @@ std::set<std::string> KeysOf(const std::string& json)
     return keys;
 }
 
-/// The first words of the rows of the table under `heading`.
+/// The keys in the first column of the table under `heading`.
 std::set<std::string> DocumentedKeys(const std::string& heading)
 {
     std::ifstream document(VYR_SOURCE_FOLDER "/docs/json.md");
@@ -122,7 +122,7 @@ std::set<std::string> DocumentedKeys(const std::string& heading)
 
 } // namespace
 
-TEST(ResultTable, ShowsBothNamesAndWhatThereIsToSay)
+TEST(ResultTable, ShowsBothNamesAndTheRemark)
 {
     Result refused = Rename(u"c", u"d", Status::Refused);
     refused.reason = u"the new name is there already";
@@ -135,7 +135,7 @@ TEST(ResultTable, ShowsBothNamesAndWhatThereIsToSay)
               "e  ->  2024  date: picture; warning: on Windows no name ends in a dot or a blank\n");
 }
 
-TEST(ResultTable, ShowsNoNewNameWhereThereIsNone)
+TEST(ResultTable, ShowsNoNewNameForUnchangedEntries)
 {
     EXPECT_EQ(TableOf({Rename(u"a", u"a", Status::Unchanged), Rename(u"b", u"", Status::NotReached)}),
               "a        unchanged\nb        not reached\n");
@@ -152,7 +152,7 @@ TEST(ResultTable, ShowsTheFolderOfANewNameOnlyWhereItIsAnother)
     EXPECT_EQ(TableOf({kept}), "sub/a  ->  b\n");
 }
 
-TEST(ResultTable, ShowsWhatAChangeInPlaceSets)
+TEST(ResultTable, ShowsTheValuesOfAChangeInPlace)
 {
     Result undone = TimesOf(u"a");
     undone.hasChanged = true;
@@ -160,7 +160,7 @@ TEST(ResultTable, ShowsWhatAChangeInPlaceSets)
               "a        2001 -> 2002; it has changed since\nb        unchanged\n");
 }
 
-TEST(ResultTable, ShowsHowMuchIsInAFolder)
+TEST(ResultTable, ShowsTheSizeOfAFolder)
 {
     EXPECT_EQ(TableOf({CopyOf(Status::Incomplete)}), "a  ->  ../y/a  incomplete; 2 folders, 1 file, 30 bytes\n");
 }
@@ -225,7 +225,7 @@ TEST(ResultSummary, CountsFoldersWithoutTheirParts)
               "2 folders: 1 copied, 1 incomplete.\n");
 }
 
-TEST(ResultMessage, SaysWhatIsWrongAndIsSafeToShow)
+TEST(ResultMessage, NamesTheProblemAndIsSafeToShow)
 {
     Result failed = Rename(u"a\n", u"b", Status::Failed);
     failed.from.shownFolder = u"sub/";
@@ -234,13 +234,13 @@ TEST(ResultMessage, SaysWhatIsWrongAndIsSafeToShow)
     EXPECT_EQ(MessageFor(failed), "'sub/a\\n' failed: no");
 }
 
-TEST(ResultMessage, IsForWhatIsWrongAlone)
+TEST(ResultMessage, IsOnlyForProblems)
 {
     for (const Status status : {Status::Skipped, Status::Incomplete, Status::Refused, Status::Failed})
         EXPECT_TRUE(IsProblem(Rename(u"a", u"b", status)));
     for (const Status status : {Status::Done, Status::Numbered, Status::Unchanged, Status::NotReached})
         EXPECT_FALSE(IsProblem(Rename(u"a", u"b", status)));
-    // Its parts tell what is wrong with a folder.
+    // The parts of a folder have messages of their own.
     EXPECT_FALSE(IsProblem(CopyOf(Status::Incomplete)));
     EXPECT_TRUE(IsProblem(CopyOf(Status::NotReached)));
 }

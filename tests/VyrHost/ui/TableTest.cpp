@@ -10,7 +10,7 @@ using namespace VyrHost::Ui;
 
 namespace {
 
-/// Rows laid out as a table; OutputBuffer writes to the standard output alone.
+/// The rows as a table; OutputBuffer writes only to the standard output.
 std::string Table(const std::vector<TableRow>& rows, TableStyle style)
 {
     testing::internal::CaptureStdout();
@@ -29,13 +29,13 @@ TableRow Row(std::u16string_view from, std::u16string_view to, const CString& no
 
 } // namespace
 
-TEST(Table, LinesTheColumnsUp)
+TEST(Table, AlignsColumns)
 {
     EXPECT_EQ(Table({Row(u"a", u"bcd", u"note"), Row(u"longer", u"x"), Row(u"y", u"", u"refused")}, {80}),
               "a       ->  bcd  note\nlonger  ->  x\ny                refused\n");
 }
 
-TEST(Table, GivesLinesToARowThatDoesNotFit)
+TEST(Table, WritesARowThatDoesNotFitInSeveralLines)
 {
     EXPECT_EQ(Table({Row(u"0123456789012345", u"abcdefghijklmnop", u"a remark")}, {30}),
               "0123456789012345\n  ->  abcdefghijklmnop\n      a remark\n");
@@ -58,7 +58,7 @@ TEST(Table, HidesNothingHoweverNarrowTheTerminalIs)
 
 TEST(Table, KeepsARowInOneLineWhereThatFits)
 {
-    // The first row makes the columns wide; the others fit beside it or without it.
+    // The first row makes the columns wide; the others fit beside or without it.
     const std::vector<TableRow> rows = {Row(u"0123456789", u"abcdefghij"), Row(u"a", u"b", u"c"),
                                         Row(u"01234567890123", u"a")};
     for (const int width : {21, 24, 26}) {

@@ -1,4 +1,4 @@
-// Batches on file systems and names that only Linux has.
+// Batches on file systems, and with names, that only Linux has.
 #include <tests/VyrHost/batch/CutOffScene.h>
 #include <tests/support/Describe.h>
 #include <tests/support/StdPath.h>
@@ -87,7 +87,7 @@ TEST(BatchesOnLinux, FailInAFolderThatMayNotBeWritten)
         (FolderSnapshot{{"locked", "<folder>"}, {"locked/a", "locked/a"}, {"open", "<folder>"}, {"open/y", "open/b"}}));
 }
 
-/// The scene's files stand in `mounted`.
+/// Moves the scene's files to `mounted`.
 void MoveFilesTo(BatchScene& scene, const MountedFolder& mounted)
 {
     fs::remove(ToStdPath(scene.Path(u"")).parent_path());
@@ -126,7 +126,7 @@ TEST(BatchesOnLinux, DoNothingWhenTheDiskOfTheJournalIsFull)
     EXPECT_EQ(scene.Apply().done, 1u);
 }
 
-TEST(BatchesOnLinux, RefuseOnlyWhatAFullDiskHasNoRoomFor)
+TEST(BatchesOnLinux, RefuseOnlyEntriesThatDoNotFitOnTheDisk)
 {
     // Room for the root, two files, the links and one folder.
     const MountedFolder disk(MountedFolder::Kind::Memory, "nr_inodes=4");
@@ -172,7 +172,7 @@ TEST(BatchesOnLinux, RenameOnAFileSystemWithoutNoReplace)
     EXPECT_EQ(scene.Now(), before);
 }
 
-TEST(BatchesOnLinux, ChangeTheCaseOfFoldersAndRefuseFilesOnAFileSystemThatFoldsItAndHasNeitherNoReplaceNorLinks)
+TEST(BatchesOnLinux, ChangeTheCaseOfFoldersOnlyOnACaseInsensitiveFileSystemWithoutNoReplaceAndLinks)
 {
     const MountedFolder disk(MountedFolder::Kind::Exfat);
     if (!disk.WhyNot().empty())
@@ -199,11 +199,11 @@ TEST(BatchesOnLinux, ChangeTheCaseOfFoldersAndRefuseFilesOnAFileSystemThatFoldsI
     EXPECT_EQ(scene.Now(), before);
 }
 
-TEST(RecoverOnLinux, EndsARenameThatWasCutOffBetweenItsTwoCalls)
+TEST(RecoverOnLinux, FinishesARenameThatWasCutOffBetweenItsTwoCalls)
 {
     for (const Recovery recovery : {Recovery::Undo, Recovery::Finish}) {
         CutOffScene cut(ArrangeThree, 1);
-        // As the way by two links leaves it.
+        // The state between link and unlink.
         fs::create_hard_link(ToStdPath(cut.scene.Path(u"b")), ToStdPath(cut.scene.Path(u"y")));
         EXPECT_EQ(cut.scene.Recover(recovery).error, u"");
         const bool isFinished = recovery == Recovery::Finish;
@@ -212,7 +212,7 @@ TEST(RecoverOnLinux, EndsARenameThatWasCutOffBetweenItsTwoCalls)
     }
 }
 
-TEST(RecoverOnLinux, EndsAHalfDoneCircle)
+TEST(RecoverOnLinux, FinishesAHalfDoneCycle)
 {
     CutOffScene cut(
         [](BatchScene& scene) {
@@ -221,7 +221,7 @@ TEST(RecoverOnLinux, EndsAHalfDoneCircle)
             scene.Rename(u"a", u"b").Rename(u"b", u"a");
         },
         1);
-    // The second rename, b to a, has got its new name only.
+    // The second rename, b to a, has only its new name so far.
     fs::create_hard_link(ToStdPath(cut.scene.Path(u"b")), ToStdPath(cut.scene.Path(u"a")));
     EXPECT_EQ(cut.scene.Recover(Recovery::Undo).error, u"");
     EXPECT_EQ(cut.scene.Now(), (FolderSnapshot{{"a", "a"}, {"b", "b"}}));

@@ -19,7 +19,7 @@ using HostileNames = UnprivilegedProgram;
 
 } // namespace
 
-TEST_F(HostileNames, LineEndsTabsAndEscapesAreShownAsEscapes)
+TEST_F(HostileNames, ControlCharactersAreShownAsEscapes)
 {
     m_folder.WriteFile(u"a\nb\tc\x1b[31m");
     EXPECT_THAT(Rename({u"--prefix", u"x", u"*"}).output, StartsWith("a\\nb\\tc\\x1b[31m  ->  xa\\nb\\tc\\x1b[31m\n"));
@@ -62,7 +62,7 @@ TEST_F(HostileNames, NamesThatLookLikeWindowsPathsAreNames)
     EXPECT_TRUE(m_folder.Has(u"pC:\\x\\y.z"));
 }
 
-TEST_F(HostileNames, BackslashesLeadIntoNoFolder)
+TEST_F(HostileNames, BackslashesAreNoSeparators)
 {
     const std::vector<std::u16string_view> names = {u"a\\b.jpg", u"c\\", u"\\\\server\\share", u"C:\\x", u"<Folder>x"};
     WriteNamed(names);
@@ -78,7 +78,7 @@ TEST_F(HostileNames, BackslashesLeadIntoNoFolder)
     EXPECT_FALSE(m_folder.Has(u"p\\q"));
 }
 
-TEST_F(HostileNames, WindowsFaultsAreWarnings)
+TEST_F(HostileNames, NamesThatWindowsRefusesGetWarnings)
 {
     m_folder.WriteFile(u"a");
     m_folder.WriteFile(u"b:");
@@ -86,13 +86,13 @@ TEST_F(HostileNames, WindowsFaultsAreWarnings)
                 StartsWith("a  ->  a?  warning: Windows forbids a character of the new name\n"));
     EXPECT_THAT(Rename({u"--replace", u"a", u"nul", u"a"}).output, HasSubstr("reserved on Windows"));
     EXPECT_THAT(Rename({u"--suffix", u".", u"a"}).output, HasSubstr("warning: on Windows no name ends in a dot"));
-    // A folder that would be made is judged as well.
+    // The names of folders to be created are checked, too.
     EXPECT_THAT(Rename({u"--date", u"'nul'<Folder>'x'<Folder><Name>", u"a"}).output,
                 HasSubstr("a  ->  nul/x/a  warning: the new name is reserved on Windows"));
     EXPECT_THAT(Rename({u"--prefix", u"x", u"b:"}).output, StartsWith("b:  ->  xb:\n"));
 }
 
-TEST_F(HostileNames, AFolderThatCannotBeReadIsSaid)
+TEST_F(HostileNames, AFolderThatCannotBeReadIsReported)
 {
     if (RunUnprivileged({u"--version"}).exitCode != 0)
         GTEST_SKIP() << "root can read every folder, and nobody else can run the program where it stands";
@@ -121,14 +121,14 @@ TEST_F(HostileNames, OneFolderUnderTwoNamesIsOneFolder)
     EXPECT_THAT(result.errors, HasSubstr("twice"));
 }
 
-TEST_F(HostileNames, AFolderAndWhatIsInItAreKnownThroughLinks)
+TEST_F(HostileNames, AFolderAndItsEntriesAreRecognisedThroughLinks)
 {
     m_folder.WriteFile(u"d/e/f");
     std::filesystem::create_directory_symlink(ToStdPath(m_folder.Path(u"d/e")), ToStdPath(m_folder.Path(u"link")));
     const ProgramResult inside = Rename({u"--suffix", u"!", u"--apply", u"d", u"link/f"});
     EXPECT_EQ(inside.exitCode, 2);
     EXPECT_THAT(inside.errors, HasSubstr("'d' is named together with something inside it"));
-    // The link itself holds nothing.
+    // The link itself has no entries.
     EXPECT_EQ(Rename({u"--suffix", u"!", u"--apply", u"link", u"d/e/f"}).exitCode, 0);
     EXPECT_TRUE(m_folder.Has(u"link!"));
     EXPECT_TRUE(m_folder.Has(u"d/e/f!"));

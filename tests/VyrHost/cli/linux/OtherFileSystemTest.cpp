@@ -1,4 +1,4 @@
-// Tests of the program: new paths that are on another file system.
+// Tests of the program: new paths on another file system.
 #include "../VyrProgram.h"
 
 #include <VyrPlatform/text/Encoding.h>

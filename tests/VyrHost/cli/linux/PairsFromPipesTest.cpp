@@ -1,4 +1,3 @@
-// Tests of the program: pairs of names that come through pipes.
 #include "../VyrProgram.h"
 
 #include <gmock/gmock.h>

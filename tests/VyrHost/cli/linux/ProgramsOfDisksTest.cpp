@@ -1,4 +1,4 @@
-// Tests of the program: what "vyr programs" and "vyr browsers" list of disks, hives and prefixes.
+// Tests of the program: "vyr programs" and "vyr browsers" with disks, hives and Wine prefixes.
 #include "UnprivilegedProgram.h"
 
 #include <tests/support/linux/HiveBuilder.h>
@@ -27,7 +27,7 @@ protected:
     {
         m_environment[u"TZ"] = CString(u"UTC");
         m_environment[u"LC_ALL"] = CString(u"C.UTF-8");
-        // No prefix but those of the tests.
+        // Hides the user's own prefix.
         m_environment[u"WINEPREFIX"] = CString();
         m_environment[u"HOME"] = m_folder.Path();
     }
@@ -38,7 +38,7 @@ protected:
         return Run(std::move(arguments));
     }
 
-    /// A disk with programs of the machine, of Eva and of Tom.
+    /// Writes a disk with programs of the machine, of Eva and of Tom.
     void WriteSampleDisk() const
     {
         RegistryTree software;
@@ -84,7 +84,7 @@ TEST_F(ProgramsOfDisks, AreATableByNameWithTheUserOfEach)
                              "4 programs, 2.00 MB; 1 hidden one is left out.\n");
 }
 
-TEST_F(ProgramsOfDisks, AreThoseOfTheScopeTheUserAndTheView)
+TEST_F(ProgramsOfDisks, AreChosenByScopeUserAndView)
 {
     WriteSampleDisk();
     const auto names = [this](std::vector<CString> options) {
@@ -102,7 +102,7 @@ TEST_F(ProgramsOfDisks, AreThoseOfTheScopeTheUserAndTheView)
     EXPECT_EQ(names({u"--scope", u"machine", u"--show-hidden"}), "Editor\nOld one\nUpdate\n");
 }
 
-TEST_F(ProgramsOfDisks, AreWrittenForPrograms)
+TEST_F(ProgramsOfDisks, AreWrittenAsJsonAndCsv)
 {
     WriteSampleDisk();
     const ProgramResult result = Programs({m_disk.Path(), u"--find", u"editor", u"--json"});
@@ -128,11 +128,11 @@ TEST_F(ProgramsOfDisks, AreSortedInTheOrderOfKeys)
     AddTexts(software, MachineEntry32(u"0"), {{u"DisplayName", u"of 32 bits"}});
     m_disk.WriteSoftware(software);
     const std::vector<CString> call = {m_disk.Path(), u"-q", u"--columns", u"name", u"--sort", u"key"};
-    // Words are no numbers and so count as 0; codes follow, and what does not begin with ASCII.
+    // Words count as 0; product codes follow, then names that do not begin with ASCII.
     EXPECT_EQ(Programs(call).output, "word\n9\n10\n{A}\n\u00E9\nof 32 bits\n");
 }
 
-TEST_F(ProgramsOfDisks, AreInstallerProductsWhereAskedFor)
+TEST_F(ProgramsOfDisks, AreInstallerProductsOnRequest)
 {
     WriteSampleDisk();
     const ProgramResult all = Programs({m_disk.Path(), u"--installer", u"--csv", u"--columns", u"name,user,scope"});
@@ -143,7 +143,7 @@ TEST_F(ProgramsOfDisks, AreInstallerProductsWhereAskedFor)
                 HasSubstr("the columns are name, icon, "));
 }
 
-TEST_F(ProgramsOfDisks, HaveBrowsersAndThePackagedOneWhereItsFileIsThere)
+TEST_F(ProgramsOfDisks, HaveBrowsersAndThePackagedOneWhereItsFileExists)
 {
     WriteSampleDisk();
     EXPECT_EQ(Run({u"browsers", m_disk.Path()}).output, "Name          Type        Command\n"
@@ -177,7 +177,7 @@ TEST_F(ProgramsOfDisks, AreListedOfAWinePrefix)
     EXPECT_EQ(m_folder.ReadFile(u".wine/user.reg"), userText);
 }
 
-TEST_F(ProgramsOfDisks, AreNowhereWithoutAPrefix)
+TEST_F(ProgramsOfDisks, AreAnErrorWithoutAPrefix)
 {
     const ProgramResult result = Programs({});
     EXPECT_EQ(result.exitCode, 2);
@@ -185,7 +185,7 @@ TEST_F(ProgramsOfDisks, AreNowhereWithoutAPrefix)
                                      EndsWith("name a Windows disk, a folder of hives or a Wine prefix\n")));
 }
 
-TEST_F(ProgramsOfDisks, OfTheOthersAreListedWhereAUserCannotBeRead)
+TEST_F(ProgramsOfDisks, OfOtherUsersAreListedWhereOneCannotBeRead)
 {
     WriteSampleDisk();
     m_disk.Folder().WriteFile(u"Users/Ann/NTUSER.DAT", "regf");
@@ -225,7 +225,7 @@ TEST_F(ProgramsOfDisks, AreReadWithAWarningWhereWindowsDidNotCloseThem)
     EXPECT_EQ(m_disk.Folder().ReadFile(u"SOFTWARE"), bytes) << "nothing is written";
 }
 
-TEST_F(ProgramsOfDisks, AreListedByEveryExampleOfTheHelp)
+TEST_F(ProgramsOfDisks, AreListedByEachExampleOfTheHelp)
 {
     WriteSampleDisk();
     for (const char16_t* const prefix : {u"prefix/", u".wine/"}) {

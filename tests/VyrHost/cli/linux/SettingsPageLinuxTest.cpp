@@ -10,7 +10,7 @@ class SettingsPageLinux : public VyrProgram
 
 } // namespace
 
-TEST_F(SettingsPageLinux, CannotBeOpenedAndIsNamed)
+TEST_F(SettingsPageLinux, CannotBeOpened)
 {
     const ProgramResult programs = Run({u"programs", u"--open-settings"});
     EXPECT_EQ(programs.exitCode, 4);

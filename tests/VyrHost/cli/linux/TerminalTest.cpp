@@ -25,7 +25,7 @@ TEST_F(OnTerminal, IsInColourUnlessTheTerminalIsDumb)
     EXPECT_THAT(RunOnTerminal(CallOf(call), 80).output, Not(HasSubstr("\x1b")));
 }
 
-TEST_F(OnTerminal, NothingOfANameIsHidden)
+TEST_F(OnTerminal, NamesAreShownWhole)
 {
     const std::string name(200, 'n');
     m_folder.WriteFile(VyrPlatform::Encoding::FromUtf8(name));
@@ -36,7 +36,7 @@ TEST_F(OnTerminal, NothingOfANameIsHidden)
 
 TEST_F(OnTerminal, TheEditorOpensAgainAfterAMistake)
 {
-    // The first edit takes the tab away from the second line, the next one mends what the first has left behind.
+    // The first edit removes the tab from the second line, the next one corrects that.
     m_folder.WriteFile(u"one", "1");
     m_folder.WriteFile(u"two", "2");
     m_folder.WriteFile(u"editor", "#!/bin/sh\nif grep -q BROKEN \"$1\"\nthen sed -i 's/^BROKEN/2\\t/' \"$1\"\n"
@@ -52,7 +52,7 @@ TEST_F(OnTerminal, TheEditorOpensAgainAfterAMistake)
     EXPECT_TRUE(m_folder.Has(u"one"));
 }
 
-TEST_F(OnTerminal, TheEditedTextIsKeptWhereNobodyMendsIt)
+TEST_F(OnTerminal, TheEditedTextIsKeptWhenTheMistakeIsNotCorrected)
 {
     const ScratchFolder temporary;
     m_folder.WriteFile(u"one", "1");

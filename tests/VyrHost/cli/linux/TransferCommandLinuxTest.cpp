@@ -25,7 +25,7 @@ using TransferCommandLinux = VyrProgram;
 
 } // namespace
 
-TEST_F(TransferCommandLinux, InterruptBeginsNoFurtherFolder)
+TEST_F(TransferCommandLinux, InterruptBeforeAFolderPreventsIt)
 {
     m_folder.WriteFile(u"from/a", "1");
     const std::vector<CString> call = {u"move", m_folder.Path(u"from"), m_folder.Path(u"to"), u"--apply", u"--quiet"};
@@ -39,7 +39,7 @@ TEST_F(TransferCommandLinux, InterruptBeginsNoFurtherFolder)
     EXPECT_FALSE(m_folder.Has(u"to"));
 }
 
-TEST_F(TransferCommandLinux, InterruptInAFolderIsToldAndTheFolderBroughtToItsEnd)
+TEST_F(TransferCommandLinux, InterruptInAFolderFinishesItAndIsReported)
 {
     m_folder.WriteFile(u"one/a", "1");
     m_folder.WriteFile(u"one/b/c", "2");
@@ -49,7 +49,7 @@ TEST_F(TransferCommandLinux, InterruptInAFolderIsToldAndTheFolderBroughtToItsEnd
         u"move", m_folder.Path(u"one"), m_folder.Path(u"two"), m_folder.Path(u"to"), u"--apply", u"--quiet"};
     const auto runInterrupted = [&call] {
         const MessagePosting posting;
-        // The walk through the first folder runs it, and shows how far it is when this is over.
+        // The walk through the first folder runs this, and shows progress afterwards.
         posting.PostWork([] {
             std::raise(SIGINT);
             std::this_thread::sleep_for(std::chrono::milliseconds(250));
@@ -77,7 +77,7 @@ TEST_F(TransferCommandLinux, AFolderDoesNotGoIntoItselfThroughALink)
     EXPECT_EQ(m_folder.ReadFile(u"a/b/file"), "1");
 }
 
-TEST_F(TransferCommandLinux, OddNamesAreShownAsEscapesAndArrive)
+TEST_F(TransferCommandLinux, OddNamesAreCopiedAndShownAsEscapes)
 {
     m_folder.WriteFile(u"-a\n\xDCFF[1]/b\x1b", "1");
     const ProgramResult result = Run({u"copy", u"--apply", u"--", u"-a\n\xDCFF[1]", u"to"});

@@ -43,20 +43,20 @@ TEST_F(UnreadPicture, IsNotOneWithoutADate)
     EXPECT_THAT(result.output, HasSubstr("p.jpg       ->  2024.jpg  date: picture\nlocked.jpg                "));
     EXPECT_THAT(result.output, HasSubstr(reason));
     EXPECT_THAT(result.output, HasSubstr("2 entries: 1 renamed, 1 refused.\n"));
-    // Where an earlier date is there, the picture is not asked.
+    // Where the file has an earlier date of the list, the picture is not read.
     EXPECT_EQ(RunUnprivileged({u"rename", u"--date", u"yyyy-MM-dd", u"--date-from", u"modified,picture", u"locked.jpg"})
                   .exitCode,
               0);
 }
 
-TEST_F(UnreadPicture, HasNoSilentCamera)
+TEST_F(UnreadPicture, IsRefusedForTheCamera)
 {
     if (!Arrange())
         GTEST_SKIP() << "root can read every file, and nobody else can run the program where it stands";
     EXPECT_THAT(RunUnprivileged({u"rename", u"--date", u"yyyy <Make>", u"locked.jpg"}).output, HasSubstr(reason));
 }
 
-TEST_F(UnreadPicture, StopsTheFilesThatBelongToIt)
+TEST_F(UnreadPicture, RefusesTheFilesOfItsGroup)
 {
     if (!Arrange())
         GTEST_SKIP() << "root can read every file, and nobody else can run the program where it stands";

@@ -1,4 +1,4 @@
-// Tests of the program: update information that is known, read from the data folders that a test gives it.
+// Tests of the program: update information in a document, with data folders of the test.
 #include "../VyrProgram.h"
 
 #include <gmock/gmock.h>
@@ -31,7 +31,7 @@ protected:
 
 } // namespace
 
-TEST_F(UpdateInformation, NewerReleaseIsTold)
+TEST_F(UpdateInformation, NewerReleaseIsReported)
 {
     const ProgramResult result = Run({u"updates"});
     EXPECT_EQ(result.exitCode, 0) << result.errors;
@@ -46,7 +46,7 @@ TEST_F(UpdateInformation, OldReleaseIsNotNewer)
     EXPECT_THAT(Run({u"updates"}).output, HasSubstr("This is not newer than this program.\n"));
 }
 
-TEST_F(UpdateInformation, LookIsLeftOutUntilItIsDue)
+TEST_F(UpdateInformation, LookWaitsUntilItIsDue)
 {
     EXPECT_THAT(Run({u"updates", u"--every", u"7"}).output, HasSubstr("99.0.0.0")) << "never looked";
     const ProgramResult again = Run({u"updates", u"--every", u"7"});

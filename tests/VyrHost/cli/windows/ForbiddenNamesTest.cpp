@@ -1,4 +1,4 @@
-// Tests of the program on Windows: names that the system does not take are errors, and paths are Windows' paths.
+// Tests of the program on Windows: names that the system forbids are errors, and paths follow Windows' rules.
 #include <tests/VyrHost/cli/VyrProgram.h>
 
 #include <gmock/gmock.h>
@@ -61,7 +61,7 @@ TEST_F(ForbiddenNames, BothSeparatorsAreRefusedInRules)
         EXPECT_EQ(Rename({u"--prefix", text, u"a.txt"}).exitCode, 2);
 }
 
-TEST_F(ForbiddenNames, WhatTheSystemWouldNotListIsNotThere)
+TEST_F(ForbiddenNames, FilesThatTheSystemDoesNotListDoNotExist)
 {
     WriteNamed({u"a.txt"});
     for (const char16_t* const name : {u"a.txt.", u"a.txt ", u"NUL", u"CON"})
@@ -84,7 +84,7 @@ TEST_F(WindowsPaths, MayHaveEitherSeparatorAndADrive)
     EXPECT_THAT(Rename({u"--suffix", u"!", full, other}).errors, HasSubstr("twice"));
 }
 
-TEST_F(WindowsPaths, OfAFolderAndWhatIsInItMayDifferInCase)
+TEST_F(WindowsPaths, OfAFolderAndItsEntriesMayDifferInCase)
 {
     WriteNamed({u"Dir/Sub/file"});
     const ProgramResult result = Rename({u"--suffix", u"!", u"--apply", u"DIR", u"dir/sub/FILE"});
@@ -93,7 +93,7 @@ TEST_F(WindowsPaths, OfAFolderAndWhatIsInItMayDifferInCase)
     EXPECT_EQ(Files(), (FileMap{{"Dir/Sub/file", "Dir/Sub/file"}}));
 }
 
-TEST_F(WindowsPaths, WildcardsOverlookCaseAsTheFileSystemDoes)
+TEST_F(WindowsPaths, WildcardsIgnoreCaseAsTheFileSystemDoes)
 {
     WriteNamed({u"a.JPG", u"b.jpg", u"c.Jpeg"});
     EXPECT_THAT(Rename({u"--prefix", u"x", u"*.jpg"}).output,
@@ -109,7 +109,7 @@ TEST_F(WindowsPaths, ChangesOfCaseAloneAreStoredAndUndone)
     EXPECT_EQ(Files(), (FileMap{{"photo.jpg", "photo.jpg"}, {"Folder/File", "Folder/File"}}));
 }
 
-TEST_F(WindowsPaths, NamesOnTheStandardInputMayEndInBothPartsOfALineEnd)
+TEST_F(WindowsPaths, LinesOfTheStandardInputMayEndInCrLf)
 {
     WriteNamed({u"a", u"b"});
     EXPECT_THAT(Rename({u"--suffix", u"!", u"--stdin"}, "a\r\nb\r\n").output, StartsWith("a  ->  a!\nb  ->  b!\n"));

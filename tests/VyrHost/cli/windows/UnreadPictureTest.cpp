@@ -1,4 +1,4 @@
-// Tests of the program: pictures that another program keeps to itself.
+// Tests of the program: pictures that another program has opened exclusively.
 #include "../VyrProgram.h"
 
 #include <VyrPlatform/text/WindowsCString.h>

@@ -1,4 +1,4 @@
-// Trees with what only Linux has, and file systems that lack something.
+// Trees with entries that only Linux has, and file systems that lack something.
 #include "../Snapshot.h"
 
 #include <VyrHost/foldercopy/TargetCheck.h>
@@ -33,14 +33,14 @@ using VyrTests::TreeSnapshot;
 
 namespace {
 
-/// What became of a tree.
+/// The result of copying or moving a tree.
 struct Went
 {
     TransferProblems problems;
     std::uint32_t creationError = 0;
 };
 
-/// Copies or moves as the program does it.
+/// Copies or moves in the same way as the program.
 Went Carry(const CString& from, const CString& to, TransferAction action)
 {
     const FolderSnapshot tree = TakeSnapshot(from);
@@ -79,7 +79,7 @@ const TreeSnapshot Missing = {{"missing", ""}};
 
 } // namespace
 
-TEST(TransferLinux, NamesThatAreNotUtf8Arrive)
+TEST(TransferLinux, NamesThatAreNotUtf8AreKept)
 {
     const ScratchFolder scratch;
     const fs::path from = ToStdPath(scratch.MakeFolder(u"from"));
@@ -94,7 +94,7 @@ TEST(TransferLinux, NamesThatAreNotUtf8Arrive)
     EXPECT_EQ(SnapshotOf(PathIn(from)), Missing);
 }
 
-TEST(TransferLinux, LinksArriveAsLinksAndNobodyFollowsThem)
+TEST(TransferLinux, LinksAreCopiedAsLinksAndNotFollowed)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"outside/file", "outside");
@@ -129,7 +129,7 @@ TEST(TransferLinux, LinkThatLeadsElsewhereDiffers)
               std::vector<std::string>{Text("link", TransferFault::Differs, 0)});
 }
 
-TEST(TransferLinux, PipesAreForeseenAndFailAlone)
+TEST(TransferLinux, PipesAreRefusedBeforehandAndFailAlone)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"from/sub/file", "1");
@@ -186,7 +186,7 @@ TEST(TransferLinux, UnreadableEntriesFailAlone)
                                             Text("secret", TransferFault::System, EACCES)}));
     }
     EXPECT_EQ(SnapshotOf(scratch.Path(u"parent/to")), (TreeSnapshot{{"closed", "<folder>"}, {"open", "3"}}));
-    // What was closed is not open at its new place.
+    // A file without permissions has none at its new path.
     EXPECT_EQ(fs::status(ToStdPath(scratch.Path(u"parent/to/closed"))).permissions(), fs::perms::none);
 }
 
@@ -211,7 +211,7 @@ TEST(TransferLinux, FoldersKeepTheirPermissions)
     }
 }
 
-TEST(TransferLinux, FolderThatMayNotBeWrittenLosesNothingOfAMove)
+TEST(TransferLinux, FolderThatMayNotBeWrittenLosesNoFileOfAMove)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"from/locked/a", "1");
@@ -252,7 +252,7 @@ TEST(TransferLinux, EmptiedFolderThatCannotBeRemovedIsReportedWithTheReason)
     EXPECT_EQ(SnapshotOf(scratch.Path(u"outer/from")), TreeSnapshot());
 }
 
-TEST(TransferLinux, FullDiskFailsWhatDoesNotFitAndLosesNothingOfAMove)
+TEST(TransferLinux, FullDiskFailsEntriesThatDoNotFitAndLosesNoFileOfAMove)
 {
     const MountedFolder disk(MountedFolder::Kind::Memory, "size=1m");
     if (!disk.WhyNot().empty())
@@ -290,7 +290,7 @@ TEST(TransferLinux, MovesAcrossFileSystemsWithTheTimesOfFolders)
         EXPECT_EQ(FileTimes::GetModified(other.Path(name)), modified);
 }
 
-TEST(TransferLinux, NamesThatTheTargetTakesForOneAreRefused)
+TEST(TransferLinux, NamesThatTheTargetTakesForTheSameAreRefused)
 {
     const MountedFolder disk(MountedFolder::Kind::Exfat);
     if (!disk.WhyNot().empty())
@@ -299,7 +299,7 @@ TEST(TransferLinux, NamesThatTheTargetTakesForOneAreRefused)
     for (const char16_t* const name : {u"from/sub/a.txt", u"from/sub/A.TXT", u"from/b/1", u"from/B/2", u"from/c"})
         scratch.WriteFile(name);
     const FolderSnapshot tree = TakeSnapshot(scratch.Path(u"from"));
-    // The disk is empty and tells nothing, so that only a trial can.
+    // The disk is empty, so only a trial shows how it compares names.
     TargetCheck check = CheckTarget(tree, disk.Path(u"to"), Trial::Allowed);
     EXPECT_EQ(check.clashes.size(), 2u);
     for (const TransferProblem& clash : check.clashes)
@@ -312,7 +312,7 @@ TEST(TransferLinux, NamesThatTheTargetTakesForOneAreRefused)
     EXPECT_TRUE(Carry(scratch.Path(u"from"), scratch.Path(u"to"), TransferAction::Move).problems.empty());
 }
 
-TEST(TransferLinux, FileSystemWithoutCreationTimesIsToldOf)
+TEST(TransferLinux, FileSystemWithoutCreationTimesIsReported)
 {
     const MountedFolder disk(MountedFolder::Kind::Exfat);
     if (!disk.WhyNot().empty())
@@ -326,7 +326,7 @@ TEST(TransferLinux, FileSystemWithoutCreationTimesIsToldOf)
     EXPECT_EQ(Carry(scratch.Path(u"from"), scratch.Path(u"to"), TransferAction::Copy).creationError, 0u);
 }
 
-TEST(TransferLinux, AThousandLevelsArrive)
+TEST(TransferLinux, AThousandLevelsAreCopied)
 {
     const ScratchFolder scratch;
     scratch.MakeFolder(u"from");
@@ -342,7 +342,7 @@ TEST(TransferLinux, AThousandLevelsArrive)
     EXPECT_FALSE(scratch.Has(u"from"));
 }
 
-TEST(TransferLinux, SourceSeenThroughAMountIsTheSource)
+TEST(TransferLinux, SourceIsRecognisedThroughAMount)
 {
     if (geteuid() != 0)
         GTEST_SKIP() << "only root may mount";

@@ -1,4 +1,4 @@
-// Tests of finding a registry on a disk: what is told apart, and what is refused.
+// Finding a registry on a disk, and places that are refused.
 #include <VyrHost/inventory/Place.h>
 
 #include <tests/support/StdPath.h>
@@ -24,7 +24,7 @@ namespace {
 
 const RegistryTree nothing;
 
-/// What is said where no registry is found.
+/// The message where no registry is found.
 std::string RefusalOf(const PlaceRequest& request)
 {
     try {
@@ -76,7 +76,7 @@ TEST(Place, IsADiskOfAnOldWindows)
     EXPECT_EQ(place.users[0].classes, classes);
 }
 
-TEST(Place, HasNoUserTwiceByALink)
+TEST(Place, HasEachUserOnceDespiteLinks)
 {
     const WindowsDisk disk;
     disk.WriteSoftware(nothing);
@@ -97,7 +97,7 @@ TEST(Place, IsTheWindowsFolderOfADisk)
     EXPECT_THAT(UsersOf(place), ElementsAre(u"Eva"));
 }
 
-TEST(Place, OfSeveralWindowsFoldersIsToBeNamed)
+TEST(Place, WithSeveralWindowsFoldersIsRefused)
 {
     const WindowsDisk disk;
     disk.WriteSoftware(nothing);
@@ -120,7 +120,7 @@ TEST(Place, IsAFolderOfHives)
     EXPECT_EQ(place.users[0].hive, user);
 }
 
-TEST(Place, IsWhatIsSaidWhereItCouldBeTwoThings)
+TEST(Place, IsOfTheGivenKindWhereItCouldBeTwo)
 {
     const WindowsDisk disk;
     disk.WriteSoftware(nothing);
@@ -131,7 +131,7 @@ TEST(Place, IsWhatIsSaidWhereItCouldBeTwoThings)
         EXPECT_EQ(FindPlace({disk.Path(), kind, {}}).kind, kind);
 }
 
-TEST(Place, ThatIsNoneOfTheseIsRefused)
+TEST(Place, OfNoKnownKindIsRefused)
 {
     const ScratchFolder folder;
     EXPECT_THAT(
@@ -145,7 +145,7 @@ TEST(Place, ThatIsNoneOfTheseIsRefused)
     EXPECT_THAT(RefusalOf({folder.WriteFile(u"SOFTWARE"), {}, {}}), HasSubstr("Not a directory"));
 }
 
-TEST(Place, WhoseFoldersMayNotBeReadIsRefusedWithTheirNames)
+TEST(Place, WithUnreadableFoldersIsRefusedWithTheirNames)
 {
     const WindowsDisk disk;
     disk.WriteSoftware(nothing);
@@ -160,7 +160,7 @@ TEST(Place, WhoseFoldersMayNotBeReadIsRefusedWithTheirNames)
     std::filesystem::permissions(config, std::filesystem::perms::all);
 }
 
-TEST(Place, TellsTheUsersWhereThereIsNoneOfAName)
+TEST(Place, NamesTheUsersWhereTheGivenOneIsUnknown)
 {
     const WindowsDisk disk;
     disk.WriteSoftware(nothing);
@@ -173,7 +173,7 @@ TEST(Place, TellsTheUsersWhereThereIsNoneOfAName)
     EXPECT_THAT(RefusalOf({disk.Path(), PlaceKind::Hives, CString(u"Eva")}), HasSubstr("only a disk has users"));
 }
 
-TEST(OpenedPlaces, NoteWhatCannotBeRead)
+TEST(OpenedPlaces, ReportHivesThatCannotBeRead)
 {
     const WindowsDisk disk;
     disk.WriteSoftware(nothing);

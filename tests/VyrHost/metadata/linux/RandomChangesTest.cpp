@@ -1,5 +1,5 @@
-// Random changes of times, attributes and marks, applied and undone, and cut off wherever they write: everything is as
-// it was, by the system's own calls.
+// Random changes of times, attributes and marks, applied and undone, and cut off at each write: afterwards all is as
+// before, read by the system's own calls.
 #include <VyrHost/batch/Batches.h>
 #include <VyrHost/collect/CollectEntries.h>
 #include <VyrHost/metadata/Attributes.h>
@@ -35,8 +35,8 @@ using namespace VyrTests;
 
 namespace {
 
-/// Every file and folder below `root` with its mode, times, extended attributes and bytes. Times of folders are left
-/// out: a mark may be a file beside the marked one.
+/// Every file and folder below `root` with its mode, times, extended attributes and bytes. Without times of folders: a
+/// mark may be a file beside the marked one.
 std::map<std::string, std::string> Tree(const std::filesystem::path& root)
 {
     std::map<std::string, std::string> tree;
@@ -62,7 +62,7 @@ std::map<std::string, std::string> Tree(const std::filesystem::path& root)
         for (const auto& [name, value] : attributes)
             text << ' ' << name << '=' << value;
         if (S_ISREG(status.st_mode)) {
-            // Reading may change when a file was accessed.
+            // Reading may change the time of the last access.
             text << ' ' << status.st_size;
         }
         tree.emplace(entry.path().lexically_relative(root), text.str());
@@ -130,7 +130,7 @@ protected:
         return std::make_unique<Metadata::TimesRule>(settings);
     }
 
-    /// A change of a random choice of files.
+    /// A change of randomly chosen files.
     Batch::NewBatch RandomBatch()
     {
         Collect::ChoiceTexts texts;
@@ -140,7 +140,7 @@ protected:
         Collect::SourceSettings sources;
         sources.paths = {m_files.Path()};
         sources.recursive = true;
-        // A look into a folder may change when it was accessed.
+        // Listing a folder may change the time of its last access.
         const std::unique_ptr<Metadata::ChangeRule> rule = RandomRule();
         const bool areTimes = dynamic_cast<const Metadata::TimesRule*>(rule.get()) != nullptr;
         sources.pick = areTimes ? Collect::Pick::Files : Collect::Pick::All;

@@ -1,4 +1,4 @@
-// Tests of listings with names that only some file systems tell apart.
+// Listings with names that only some file systems distinguish.
 #include <VyrHost/model/FolderSet.h>
 
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ TEST(FolderSetOnLinux, HasAllNamesThatDifferInCaseAlone)
     EXPECT_EQ(folder.names.Find(u"iMg2.jpg"), nullptr);
 }
 
-TEST(FolderSetOnLinux, HasNamesThatAreNoText)
+TEST(FolderSetOnLinux, HasNamesThatAreNotText)
 {
     const ScratchFolder scratch;
     const std::filesystem::path folderPath = ToStdPath(scratch.Path());
@@ -47,7 +47,7 @@ TEST(FolderSetOnLinux, HasNamesThatAreNoText)
     EXPECT_EQ(ToStdPath(scratch.Path()) / ToStdPath(CString(names[2])), folderPath / "b\xFF");
 }
 
-TEST(FolderSetOnLinux, TakesALinkToAFolderForThatFolder)
+TEST(FolderSetOnLinux, RecognisesAFolderThroughALink)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"folder/name");

@@ -1,4 +1,4 @@
-// The preview tells what the system would refuse.
+// Renames that the system would refuse are refused in the preview.
 #include <VyrHost/rename/Preview.h>
 
 #include <VyrHost/collect/CollectEntries.h>
@@ -58,7 +58,7 @@ TEST(PreviewPermission, EntriesOfAFolderWithoutWritePermissionAreRefusedWithTheC
     EXPECT_EQ(preview.plan.entries.size(), 1U);
 }
 
-TEST(PreviewPermission, OnlyOwnEntriesOfAStickyFolderAreRenamed)
+TEST(PreviewPermission, OnlyOwnEntriesOfAStickyFolderCanBeRenamed)
 {
     const ScratchFolder scratch;
     if (geteuid() != 0)
