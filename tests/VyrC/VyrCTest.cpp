@@ -38,17 +38,17 @@ CString Text(const vyr_text& text)
 
 } // namespace
 
-TEST(VyrCTest, WrongArgumentsAreAnsweredAndNothingElseHappens)
+TEST(VyrCTest, WrongArgumentsAreReportedAndNothingElseHappens)
 {
     EXPECT_GT(call_with_wrong_arguments(&Report), 1000);
 }
 
-TEST(VyrCTest, HostInCGetsTheKnownAnswers)
+TEST(VyrCTest, HostInCGetsTheKnownResults)
 {
     EXPECT_GT(call_with_known_answers(&Report), 30);
 }
 
-TEST(VyrCTest, CopiedFoldersComeAsAList)
+TEST(VyrCTest, CopiedFoldersAreReturnedAsAList)
 {
     const ScratchFolder scratch;
     const auto source = VyrTests::ToStdPath(scratch.Path()) / "from";

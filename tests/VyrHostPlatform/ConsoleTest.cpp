@@ -24,7 +24,7 @@ ProgramCall ProbeCall(std::vector<CString> arguments, std::string input = {})
 
 } // namespace
 
-TEST(ConsoleTest, ArgumentsArriveAsTheyWereGiven)
+TEST(ConsoleTest, ArgumentsAreUnchanged)
 {
     const std::vector<CString> arguments = {u"plain", u"two words", u"",      u"\"quoted\"",   u"back\\slash\\",
                                             u"\\\"",  u"*",         u"?.jpg", u"$HOME %PATH%", u"ä 日本 \U0001F600",
@@ -39,13 +39,13 @@ TEST(ConsoleTest, ArgumentsArriveAsTheyWereGiven)
     EXPECT_EQ(result.exitCode, 0);
 }
 
-TEST(ConsoleTest, ArgumentThatIsNotUnicodeArrivesReversibly)
+TEST(ConsoleTest, ArgumentThatIsNotUnicodeIsReversible)
 {
     const CString name(std::u16string_view(u"caf\xDCE9.jpg"));
     EXPECT_EQ(RunProgram(ProbeCall({u"arguments", name})).output, "caf\xE9.jpg\n");
 }
 
-TEST(ConsoleTest, NoArgumentsGiveNone)
+TEST(ConsoleTest, ListIsEmptyWithoutArguments)
 {
     EXPECT_EQ(RunProgram(ProbeCall({u"arguments"})).output, "");
 }

@@ -57,7 +57,7 @@ TEST(DurableFile, ClosesTheFileWhoseContentThrows)
     EXPECT_EQ(DurableFile::Remove(path), 0u);
 }
 
-TEST(DurableFile, KeepsAFileThatIsThere)
+TEST(DurableFile, DoesNotReplaceAnExistingFile)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"file", "first");
@@ -65,7 +65,7 @@ TEST(DurableFile, KeepsAFileThatIsThere)
     EXPECT_EQ(scratch.ReadFile(u"file"), "first");
 }
 
-TEST(DurableFile, AppendsOnlyToAFileThatIsThere)
+TEST(DurableFile, AppendsOnlyToAnExistingFile)
 {
     const ScratchFolder scratch;
     EXPECT_NE(DurableFile::Append(scratch.Path(u"file"), "x"), 0u);
@@ -81,7 +81,7 @@ TEST(DurableFile, Removes)
     EXPECT_NE(DurableFile::Remove(path), 0u);
 }
 
-TEST(DurableFile, FailsInAFolderThatIsNotThere)
+TEST(DurableFile, FailsInAMissingFolder)
 {
     const ScratchFolder scratch;
     EXPECT_NE(WriteNew(scratch.Path(u"no/file"), "x"), 0u);
@@ -103,7 +103,7 @@ TEST(FileLock, IsHeldByOneAtATime)
     EXPECT_TRUE(FileLock(path).IsHeld());
 }
 
-TEST(FileLock, SaysWhyItCannotBeTaken)
+TEST(FileLock, GivesTheReasonWhenItCannotBeTaken)
 {
     const ScratchFolder scratch;
     const FileLock lock(scratch.Path(u"no/lock"));

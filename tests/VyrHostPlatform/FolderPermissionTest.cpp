@@ -16,7 +16,7 @@ TEST(FolderPermission, NamesInTheUsersOwnFolderMayChange)
     EXPECT_TRUE(IsOwnEntry(scratch.WriteFile(u"a")));
 }
 
-TEST(FolderPermission, IsRefusedForAFolderThatIsNotThere)
+TEST(FolderPermission, IsRefusedForAMissingFolder)
 {
     const ScratchFolder scratch;
     EXPECT_NE(GetFolderPermission(scratch.Path(u"missing")).error, 0U);

@@ -8,7 +8,7 @@
 using VyrHostPlatform::FolderTraits;
 using VyrTests::ScratchFolder;
 
-TEST(FolderTraits, ThereAreNoneOfWhatIsNoFolder)
+TEST(FolderTraits, AreNoneForFilesAndMissingFolders)
 {
     const ScratchFolder scratch;
     const CString file = scratch.WriteFile(u"file", "1");
@@ -17,7 +17,7 @@ TEST(FolderTraits, ThereAreNoneOfWhatIsNoFolder)
     EXPECT_FALSE(VyrHostPlatform::GetFolderTraits(CString()));
 }
 
-TEST(FolderTraits, ThoseOfOneFolderAreGivenToAnother)
+TEST(FolderTraits, AreCopiedFromOneFolderToAnother)
 {
     const ScratchFolder scratch;
     const std::optional<FolderTraits> traits = VyrHostPlatform::GetFolderTraits(scratch.MakeFolder(u"from"));

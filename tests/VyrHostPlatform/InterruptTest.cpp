@@ -8,7 +8,7 @@
 using VyrTests::BesideThisProgram;
 using VyrTests::ChildProcess;
 
-TEST(InterruptTest, NothingIsAskedBeforeAnInterrupt)
+TEST(InterruptTest, WasNotAskedBeforeAnInterrupt)
 {
     EXPECT_FALSE(VyrHostPlatform::Interrupt::WasAsked());
 }

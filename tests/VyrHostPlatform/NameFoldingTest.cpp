@@ -21,7 +21,7 @@ bool IsOne(const CString& left, const CString& right, NameFolding folding)
     return FoldName(left, folding) == FoldName(right, folding);
 }
 
-TEST(NameFolding, AgreesWithWhatTheDiskDoes)
+TEST(NameFolding, AgreesWithTheDisk)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"Lower and UPPER");
@@ -31,7 +31,7 @@ TEST(NameFolding, AgreesWithWhatTheDiskDoes)
     EXPECT_EQ((folding & static_cast<unsigned>(NameFolding::Form)) != 0, scratch.Has(u"e\u0301"));
 }
 
-TEST(NameFolding, IsThatOfTheNearestFolderThatIsThere)
+TEST(NameFolding, IsThatOfTheNearestExistingFolder)
 {
     const ScratchFolder scratch;
     EXPECT_EQ(GetNameFolding(scratch.Path(u"not/there/yet")), GetNameFolding(scratch.Path()));
@@ -39,7 +39,7 @@ TEST(NameFolding, IsThatOfTheNearestFolderThatIsThere)
     EXPECT_EQ(GetNameFolding(scratch.Path(u"file/not")), GetNameFolding(scratch.Path()));
 }
 
-TEST(FoldName, KeepsNamesApartWhereNothingIsFolded)
+TEST(FoldName, KeepsNamesDifferentWithoutFolding)
 {
     const CString name = u"Name \u00E9";
     EXPECT_EQ(FoldName(name, NameFolding::None).GetString(), name.GetString());
@@ -71,7 +71,7 @@ TEST(FoldName, TakesBothNormalFormsForOne)
     EXPECT_TRUE(IsOne(u"CAF\u00C9", u"cafe\u0301", NameFolding::CaseAndForm));
 }
 
-TEST(FoldName, KeepsLoneSurrogatesApart)
+TEST(FoldName, KeepsLoneSurrogatesDifferent)
 {
     for (const NameFolding folding : {NameFolding::Case, NameFolding::Form, NameFolding::CaseAndForm}) {
         const CString lone = CString(u"a") + CString(u'\xDC80', 1);
@@ -93,7 +93,7 @@ TEST(TryIsOneName, AgreesWithTheFolding)
     EXPECT_EQ(VyrPlatform::FolderListing(folder).Next(), false) << "the trial has left something";
 }
 
-TEST(TryIsOneName, IsFalseWhereNothingCanBeMade)
+TEST(TryIsOneName, IsFalseWhereNoFolderCanBeCreated)
 {
     const VyrTests::ScratchFolder scratch;
     EXPECT_FALSE(VyrHostPlatform::TryIsOneName(scratch.Path(u"missing"), u"a", u"A"));

@@ -33,7 +33,7 @@ void DrainUntil(const std::function<bool()>& hasCome)
 
 } // namespace
 
-TEST(QueueTimer, CallsFromDrainsNotMoreOftenThanAsked)
+TEST(QueueTimer, CallsFromDrainsAtMostAtTheInterval)
 {
     int calls = 0;
     const auto start = Clock::now();
@@ -44,7 +44,7 @@ TEST(QueueTimer, CallsFromDrainsNotMoreOftenThanAsked)
     EXPECT_LE(calls, (Clock::now() - start) / 20ms);
 }
 
-TEST(QueueTimer, CallsOnItsOwnThreadAlone)
+TEST(QueueTimer, CallsOnlyOnItsOwnThread)
 {
     int calls = 0;
     const QueueTimer timer(1ms, [&calls] { ++calls; });

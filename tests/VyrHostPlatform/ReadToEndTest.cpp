@@ -24,7 +24,7 @@ TEST(ReadToEnd, GivesTheBytesOfAFile)
     }
 }
 
-TEST(ReadToEnd, SaysWhyThereIsNothingToRead)
+TEST(ReadToEnd, GivesTheReasonOfAFailure)
 {
     const ScratchFolder scratch;
     scratch.MakeFolder(u"folder");

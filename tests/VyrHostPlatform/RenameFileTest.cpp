@@ -17,7 +17,7 @@ using VyrTests::ScratchFolder;
 using VyrTests::ToStdPath;
 namespace fs = std::filesystem;
 
-TEST(RenameNoReplace, GivesFilesAndFoldersNewPaths)
+TEST(RenameNoReplace, RenamesFilesAndFolders)
 {
     const ScratchFolder scratch;
     const CString file = scratch.WriteFile(u"a", "content");
@@ -62,7 +62,7 @@ TEST(RenameNoReplace, RefusesAnotherLinkToTheSameFile)
     EXPECT_TRUE(scratch.Has(u"b"));
 }
 
-TEST(RenameNoReplace, FailsForWhatIsNotThere)
+TEST(RenameNoReplace, FailsForMissingEntries)
 {
     const ScratchFolder scratch;
     const CString a = scratch.WriteFile(u"a");
@@ -92,7 +92,7 @@ TEST(RenameNoReplace, TakesPathsBeyondTheOldLimit)
     EXPECT_EQ(scratch.ReadFile(deep + u"/" + CString(u'b', 100)), "deep");
 }
 
-TEST(OpenFolder, LooksAndRenamesByNamesAlone)
+TEST(OpenFolder, ExaminesAndRenamesByName)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"a", "content");
@@ -128,7 +128,7 @@ TEST(OpenFolder, MakesAndRemovesFolders)
     EXPECT_TRUE(scratch.Has(u"file"));
 }
 
-TEST(OpenFolder, SaysWhyItDoesNotOpen)
+TEST(OpenFolder, GivesTheReasonWhenItDoesNotOpen)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"file");

@@ -218,7 +218,7 @@ TEST(LibraryLoad, OperationsAreCalledByName)
     EXPECT_EQ(write(u"a line of the log"), 0);
 }
 
-TEST(LibraryLoad, ApplicationObjectSaysThatTheLibraryMayBeUsed)
+TEST(LibraryLoad, ApplicationObjectAllowsUsingTheLibrary)
 {
     const DynamicLibrary library("VyrLibraryFuncs");
     ASSERT_TRUE(library.IsLoaded());
@@ -253,7 +253,7 @@ TEST(LibraryLoad, SearchDatesReachFromSevenDaysBeforeTheDayOfLoadingToItsEnd)
     }
 }
 
-TEST(LibraryLoad, LoadingMakesAndInitialisesOneApplicationObjectAndUnloadingDestroysIt)
+TEST(LibraryLoad, LoadingCreatesAndInitialisesOneApplicationObjectAndUnloadingDestroysIt)
 {
     const VyrPlatform::ApplicationCounts before = VyrPlatform::CountApplications();
     {

@@ -42,7 +42,7 @@ TEST(DateTimeFormat, TakesTheLongestListedRun)
     EXPECT_EQ(Written(sample, u"H HH h hh m mm s ss a aa"), u"13 13 1 01 5 05 9 09 PM PMPM");
 }
 
-TEST(DateTimeFormat, LeavesOtherLettersAndSignsAsTheyStand)
+TEST(DateTimeFormat, KeepsOtherLettersAndSigns)
 {
     EXPECT_EQ(Written(sample, u"IXx_-.,;()[]{}#~+ \u00E4\u65E5\U0001F600\xDC80\\/"),
               u"IXx_-.,;()[]{}#~+ \u00E4\u65E5\U0001F600\xDC80\\/");
@@ -63,7 +63,7 @@ TEST(DateTimeFormat, TakesTextInApostrophesLiterally)
     EXPECT_EQ(Written(sample, u"'d''"), u"d'");
 }
 
-TEST(DateTimeFormat, PassesTokensThroughWhateverTheyHold)
+TEST(DateTimeFormat, KeepsAllTokens)
 {
     EXPECT_EQ(Written(sample, u"yyyy<Folder>MM"), u"2024<Folder>03");
     EXPECT_EQ(Written(sample, u"<Make>d<Model>d<anything 'dd' %d>"), u"<Make>15<Model>15<anything 'dd' %d>");
@@ -72,7 +72,7 @@ TEST(DateTimeFormat, PassesTokensThroughWhateverTheyHold)
     EXPECT_EQ(DateTimeUtils::GetDateTimeFormat(u"d<Folder>d", u""), u"%-d<Folder>%-d");
 }
 
-TEST(DateTimeFormat, TakesAnAngleBracketWithoutItsPartnerForItself)
+TEST(DateTimeFormat, KeepsAnAngleBracketWithoutItsPartner)
 {
     EXPECT_EQ(Written(sample, u"d < d"), u"15 < 15");
     EXPECT_EQ(Written(sample, u"d > d"), u"15 > 15");
@@ -80,7 +80,7 @@ TEST(DateTimeFormat, TakesAnAngleBracketWithoutItsPartnerForItself)
     EXPECT_EQ(Written(sample, u"<d> <d"), u"<d> <15");
 }
 
-TEST(DateTimeFormat, EscapesWhatTheFormatterWouldRead)
+TEST(DateTimeFormat, EscapesPercentSigns)
 {
     EXPECT_EQ(Written(sample, u"%"), u"%");
     EXPECT_EQ(Written(sample, u"%%"), u"%%");
@@ -169,7 +169,7 @@ TEST(DateTimeFormat, TakesTimeInProportionToHostileFormats)
         EXPECT_GE(Written(sample, CString(unit, length)).GetLength(), length / 4) << static_cast<int>(unit);
 }
 
-TEST(DateTimePattern, StandsForItselfWhereItIsNoConversion)
+TEST(DateTimePattern, IsLiteralWhereItIsNoConversion)
 {
     for (const char16_t* const pattern :
          {u"%", u"%-", u"%q", u"%-Y", u"%-B", u"%-%", u"%-q", u"abc", u"%\xDC80", u"%<Folder>"})
@@ -178,7 +178,7 @@ TEST(DateTimePattern, StandsForItselfWhereItIsNoConversion)
     EXPECT_EQ(DateTimeUtils::GetOleDateTimeFormat(sample, u"%%Y%Y%"), u"%Y2024%");
 }
 
-TEST(DateTimePattern, GivesNothingForWhatIsNotValid)
+TEST(DateTimePattern, GivesAnEmptyTextForAnInvalidDateTime)
 {
     for (const auto status : {COleDateTime::invalid, COleDateTime::null}) {
         EXPECT_EQ(Written(WithStatus(status), u"yyyy"), u"");

@@ -88,7 +88,7 @@ TEST(DateTimeUtilsOfFile, CreationIsNotTheLastChange)
     EXPECT_NE(Describe(DateTimeUtils::GetDateCreated(path)), Describe(DateTimeUtils::GetDateModified(path)));
 }
 
-TEST(DateTimeUtilsOfFile, IsInvalidForWhatIsMissing)
+TEST(DateTimeUtilsOfFile, IsInvalidForMissingFiles)
 {
     const ScratchFolder scratch;
     for (const CString& path : {scratch.Path(u"missing"), CString()}) {
@@ -111,7 +111,7 @@ TEST(DateTimeUtilsDay, BeginsAtMidnightAndEndsASecondBeforeTheNext)
     }
 }
 
-TEST(DateTimeUtilsDay, KeepsWhatIsNotValidAsItIs)
+TEST(DateTimeUtilsDay, DoesNotChangeAnInvalidDateTime)
 {
     for (const auto status : {COleDateTime::invalid, COleDateTime::null}) {
         const COleDateTime given = WithStatus(status);
@@ -148,7 +148,7 @@ std::string PartsText(const CString& path, const COleDateTime& given, int mode)
     return Describe({parts[0], parts[1], parts[2], parts[3], parts[4], parts[5]});
 }
 
-TEST(DateTimeUtilsPart, ComesFromTheGivenValueOrTheFileAsTheModeSays)
+TEST(DateTimeUtilsPart, IsThatOfTheValueOrTheFileByMode)
 {
     const ScratchFolder scratch;
     const CString file = scratch.WriteFile(u"a");
@@ -176,7 +176,7 @@ TEST(DateTimeUtilsPart, OfTheFileIsWrittenBackAsTheSameInstant)
     }
 }
 
-TEST(DateTimeUtilsPart, IsMinusOneWhereThereIsNone)
+TEST(DateTimeUtilsPart, IsMinusOneForAMissingOne)
 {
     const ScratchFolder scratch;
     const CString file = scratch.WriteFile(u"a");

@@ -68,7 +68,7 @@ TEST(FileListUtils, CreationIsNotTheLastChange)
     EXPECT_GE(Parsed(FileListUtils::GetCreationDateTime(file)).GetYear(), 2024);
 }
 
-TEST(FileListUtils, GivesTheMomentAPictureWasTakenInTheSameForm)
+TEST(FileListUtils, GivesTheDateOfAPictureInTheSameForm)
 {
     const ScratchFolder scratch;
     const VyrTests::PictureFacts facts{.dateTimeOriginal = "2024:07:19 18:45:03"};
@@ -86,7 +86,7 @@ TEST(FileListUtils, IsEmptyForAPictureWithoutAProperDate)
     EXPECT_EQ(FileListUtils::GetExifDTOrig(scratch.WriteFile(u"a.txt", "no picture")), u"");
 }
 
-TEST(FileListUtils, IsEmptyForWhatIsMissing)
+TEST(FileListUtils, IsEmptyForMissingFiles)
 {
     const ScratchFolder scratch;
     for (const CString& path : {scratch.Path(u"missing"), CString()}) {

@@ -59,7 +59,7 @@ TEST(FileUtilsSizeText, IsBytesWithSeparatorsInFormatOne)
     EXPECT_EQ(FileUtils::GetFileSize(std::numeric_limits<std::int64_t>::max(), 1), u"9,223,372,036,854,775,807 bytes");
 }
 
-TEST(FileUtilsSizeText, IsEmptyForASizeThatIsNotKnown)
+TEST(FileUtilsSizeText, IsEmptyForAnUnknownSize)
 {
     for (const int format : {0, 1, 2}) {
         EXPECT_EQ(FileUtils::GetFileSize(-1, format), u"");
@@ -103,7 +103,7 @@ long double ReadBack(const CString& text)
     return std::stold(digits);
 }
 
-TEST(FileUtilsSizeText, NeverShowsMoreThanThereIsAndAtMostTwoPercentLess)
+TEST(FileUtilsSizeText, IsNeverTooLargeAndAtMostTwoPercentTooSmall)
 {
     const UserLocale locale(u"C");
     std::mt19937_64 random(4);

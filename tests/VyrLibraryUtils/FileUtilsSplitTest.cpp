@@ -74,7 +74,7 @@ TEST(FileUtilsSplit, GivesNothingForAnUnknownSelector)
         EXPECT_EQ(FileUtils::GetSplitPath(u"/d/a.b", selector), u"");
 }
 
-TEST(FileUtilsSplit, GivesTheExtensionWithItsDotForOneAlone)
+TEST(FileUtilsSplit, GivesTheExtensionWithItsDotOnlyForOne)
 {
     EXPECT_EQ(FileUtils::GetSplitExtension(u"a.jpg", 1), u".jpg");
     EXPECT_EQ(FileUtils::GetSplitExtension(u"a.jpg", 0), u"jpg");

@@ -26,7 +26,7 @@ TEST(FileUtils, FindsFilesAndFoldersAndNothingElse)
     EXPECT_EQ(FileUtils::IsFileExist(u""), 0);
 }
 
-TEST(FileUtils, TellsFoldersFromFiles)
+TEST(FileUtils, DistinguishesFoldersAndFiles)
 {
     const ScratchFolder scratch;
     EXPECT_EQ(FileUtils::IsDirectory(scratch.Path()), 1);
@@ -35,7 +35,7 @@ TEST(FileUtils, TellsFoldersFromFiles)
     EXPECT_EQ(FileUtils::IsDirectory(u""), 0);
 }
 
-TEST(FileUtils, TellsReadOnlyFiles)
+TEST(FileUtils, RecognisesReadOnlyFiles)
 {
     namespace fs = std::filesystem;
     const ScratchFolder scratch;
@@ -80,7 +80,7 @@ TEST(FileUtilsSize, OfAFolderIsTheSumBelowIt)
     EXPECT_EQ(FileUtils::GetFileSize(scratch.Path(u"b/")), 320);
 }
 
-TEST(FileUtilsSize, OfWhatIsMissingIsMinusOne)
+TEST(FileUtilsSize, OfAMissingFileIsMinusOne)
 {
     const ScratchFolder scratch;
     EXPECT_EQ(FileUtils::GetFileSize(scratch.Path(u"missing")), -1);

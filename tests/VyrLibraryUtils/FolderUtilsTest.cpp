@@ -13,7 +13,7 @@ namespace FileSystem = VyrPlatform::FileSystem;
 
 namespace {
 
-TEST(FolderUtils, MakesEveryMissingParent)
+TEST(FolderUtils, CreatesEveryMissingParent)
 {
     const ScratchFolder scratch;
     const CString path = scratch.Path(u"a/b b/\u00E4\u65E5/d");
@@ -21,7 +21,7 @@ TEST(FolderUtils, MakesEveryMissingParent)
     EXPECT_TRUE(FileSystem::IsFolder(path));
 }
 
-TEST(FolderUtils, SaysYesToAFolderThatExists)
+TEST(FolderUtils, SucceedsForAnExistingFolder)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"a/file", "kept");
@@ -37,14 +37,14 @@ TEST(FolderUtils, TakesSeparatorsAtTheEndAndRunsOfThem)
     EXPECT_TRUE(FileSystem::IsFolder(scratch.Path(u"a/b/c")));
 }
 
-TEST(FolderUtils, GoesBackOverParentFolders)
+TEST(FolderUtils, ResolvesParentFolders)
 {
     const ScratchFolder scratch;
     EXPECT_EQ(FolderUtils::CreateFolderPathExists(scratch.Path(u"a/b/../c/./d")), 1);
     EXPECT_TRUE(FileSystem::IsFolder(scratch.Path(u"a/c/d")));
 }
 
-TEST(FolderUtils, SaysNoWhereAFileIsInTheWayAndLeavesItAlone)
+TEST(FolderUtils, FailsWhereAFileIsInTheWayAndKeepsIt)
 {
     const ScratchFolder scratch;
     const CString file = scratch.WriteFile(u"a", "kept");
@@ -53,7 +53,7 @@ TEST(FolderUtils, SaysNoWhereAFileIsInTheWayAndLeavesItAlone)
     EXPECT_EQ(scratch.ReadFile(u"a"), "kept");
 }
 
-TEST(FolderUtils, SaysNoToNamesThatNoSystemTakes)
+TEST(FolderUtils, RefusesNamesThatNoSystemTakes)
 {
     const ScratchFolder scratch;
     EXPECT_EQ(FolderUtils::CreateFolderPathExists(u""), 0);

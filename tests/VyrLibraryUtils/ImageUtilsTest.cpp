@@ -21,7 +21,7 @@ TEST(ImageUtils, ReadsTheFilesOfEveryFormat)
     }
 }
 
-TEST(ImageUtils, ReadsTagsThatStandFarInTheFile)
+TEST(ImageUtils, ReadsTagsFarBehindTheBeginning)
 {
     const ScratchFolder folder;
     TiffParts parts = TiffPartsOf({});
@@ -31,7 +31,7 @@ TEST(ImageUtils, ReadsTagsThatStandFarInTheFile)
     EXPECT_EQ(ImageUtils::GetEquipModel(path), u"Model 1");
 }
 
-TEST(ImageUtils, ReadsTagsThatCrossTheEndOfWhatIsReadFirst)
+TEST(ImageUtils, ReadsTagsAcrossTheEndOfTheFirstRead)
 {
     const ScratchFolder folder;
     for (std::size_t before = 3700; before < 4200; ++before) {
@@ -57,7 +57,7 @@ TEST(ImageUtils, Utf8AndLatin1TextsAreBothRead)
     EXPECT_EQ(ImageUtils::GetEquipModel(latin1), u"\u00C3(\u0080\u00FF");
 }
 
-TEST(ImageUtils, WhatIsNoPictureFileIsEmpty)
+TEST(ImageUtils, OtherFilesGiveEmptyTexts)
 {
     const ScratchFolder folder;
     for (const CString& path : {CString(), folder.Path(), folder.Path(u"missing.jpg"), folder.WriteFile(u"empty.jpg"),

@@ -21,7 +21,7 @@ TEST(LogUtils, GivesTheSystemsMessageInOneLine)
     EXPECT_EQ(message.View().find_first_of(u"\r\n"), message.View().npos);
 }
 
-TEST(LogUtils, TellsErrorsApart)
+TEST(LogUtils, DistinguishesErrors)
 {
     // Not found and access denied under Windows, not permitted and no such process under Linux.
     EXPECT_NE(LogUtils::GetLastErrorMessage(2), LogUtils::GetLastErrorMessage(5));

@@ -37,7 +37,7 @@ TEST(PathUtils, PutsEachFileInTheFolderOfTheProgramsProduct)
               Below(DataLocation::Local, {u"Companion t\u00E9sts", u"Updates.ini"}));
 }
 
-TEST(PathUtils, TakesSignsThatNoFolderMayHoldOutOfTheProductsName)
+TEST(PathUtils, ReplacesForbiddenCharactersOfTheProductsName)
 {
     const VyrTests::ProgramResult result =
         VyrTests::RunProgram({VyrTests::BesideThisProgram(u"VersionedProbe"), {u"log-folder"}});
@@ -53,7 +53,7 @@ TEST(PathUtils, NamesTheFolderOfAProgramWithoutAProductByItsFile)
               Below(DataLocation::State, {u"PlatformProbe", u"Logs"}) + u"\n");
 }
 
-TEST(PathUtils, KeepsTheTwoUpdatesFilesApartUnderOneName)
+TEST(PathUtils, HasTwoUpdatesFilesOfOneNameInDifferentFolders)
 {
     EXPECT_NE(PathUtils::GetUpdatesFilePath(), PathUtils::GetLocalDataUpdatesFilePath());
     EXPECT_TRUE(PathUtils::GetUpdatesFilePath().View().ends_with(PathUtils::GetUpdatesFileName()));

@@ -57,7 +57,7 @@ TEST(PropertyUtils, RefusesEveryHeaderThatIsCutShort)
     EXPECT_EQ(IsDocument(whole.substr(0, 512)), 1);
 }
 
-TEST(PropertyUtils, SaysNoToOtherFilesFoldersAndNothing)
+TEST(PropertyUtils, RefusesOtherFilesFoldersAndMissingFiles)
 {
     const ScratchFolder scratch;
     EXPECT_EQ(PropertyUtils::IsOLE2Document(scratch.WriteFile(u"a.docx", "PK\x03\x04" + std::string(1000, 'x'))), 0);

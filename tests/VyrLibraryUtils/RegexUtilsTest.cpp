@@ -32,7 +32,7 @@ TEST(RegexUtils, WantsTheWholeTextOfTheClass)
     EXPECT_EQ(RegexUtils::IsSymbol(std::u16string_view(u"!\0", 2)), 0);
 }
 
-TEST(RegexUtils, NoClassHoldsTheEmptyText)
+TEST(RegexUtils, EmptyTextIsInNoClass)
 {
     EXPECT_EQ(RegexUtils::IsHex(u""), 0);
     EXPECT_EQ(RegexUtils::IsAlphabetNumber(u""), 0);

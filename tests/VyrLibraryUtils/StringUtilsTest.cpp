@@ -48,7 +48,7 @@ TEST(StringUtilsFormat, IgnoresTextsThatAreLeftOver)
     EXPECT_EQ(StringUtils::GetFormatedText(u"", u"a", u"b"), u"");
 }
 
-TEST(StringUtilsFormat, LeavesMarksThatFindNoTextAsTheyAre)
+TEST(StringUtilsFormat, KeepsPlaceholdersWithoutAText)
 {
     EXPECT_EQ(StringUtils::GetFormatedText(u"%s %s %s", u"a"), u"a %s %s");
     EXPECT_EQ(StringUtils::GetFormatedText(u"%s%s%s%s%s%s%s%s", u"a", u"b", u"c", u"d", u"e", u"f", u"g"),
@@ -62,7 +62,7 @@ TEST(StringUtilsFormat, NeverLooksForMarksInsideATextItPutIn)
     EXPECT_EQ(StringUtils::GetFormatedText(u"%s%s", u"%", u"s"), u"%s");
 }
 
-TEST(StringUtilsFormat, GivesNoMeaningToOtherConversions)
+TEST(StringUtilsFormat, KeepsOtherConversions)
 {
     EXPECT_EQ(StringUtils::GetFormatedText(u"%d %n %S %", u"a"), u"%d %n %S %");
     EXPECT_EQ(StringUtils::GetFormatedText(u"%d%s", u"a"), u"%da");
@@ -95,7 +95,7 @@ TEST(StringUtilsNumbers, GivesZeroForATextWithoutLeadingDigits)
     }
 }
 
-TEST(StringUtilsNumbers, SaturatesWhatIsOutOfRange)
+TEST(StringUtilsNumbers, SaturatesNumbersOutOfRange)
 {
     EXPECT_EQ(StringUtils::StringToIntNumber(u"2147483647"), largest);
     EXPECT_EQ(StringUtils::StringToIntNumber(u"2147483648"), largest);
@@ -140,7 +140,7 @@ TEST(StringUtilsTokens, CountsARunOfSeparatorsOnceAndSkipsThoseAtTheEnds)
     EXPECT_EQ(StringUtils::GetTokenizeString(text, u",;", 1), u"b");
 }
 
-TEST(StringUtilsTokens, FindsNoneInAnEmptyTextAndInSeparatorsAlone)
+TEST(StringUtilsTokens, FindsNoneInAnEmptyTextAndInSeparators)
 {
     EXPECT_EQ(StringUtils::GetTokenizeStringCount(u"", u","), 0);
     EXPECT_EQ(StringUtils::GetTokenizeStringCount(u"", u""), 0);

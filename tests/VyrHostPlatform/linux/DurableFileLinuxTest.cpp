@@ -30,7 +30,7 @@ mode_t ModeOfNew(DurableFile::Readers readers, mode_t mask)
 
 } // namespace
 
-TEST(DurableFileLinux, NewFilesAreReadByTheirOwnerAloneOrByTheMask)
+TEST(DurableFileLinux, NewFilesAreReadableByTheirOwnerOrByTheUmask)
 {
     EXPECT_EQ(ModeOfNew(DurableFile::Readers::Owner, 0), 0600u);
     EXPECT_EQ(ModeOfNew(DurableFile::Readers::ByMask, 022), 0644u);

@@ -39,7 +39,7 @@ void Give(const CString& from, const CString& to)
 
 } // namespace
 
-TEST(FolderTraitsOnLinux, PrivateFolderMakesAPrivateOne)
+TEST(FolderTraitsOnLinux, PrivateFolderGivesAPrivateOne)
 {
     const ScratchFolder scratch;
     const CString from = scratch.MakeFolder(u"from");
@@ -51,7 +51,7 @@ TEST(FolderTraitsOnLinux, PrivateFolderMakesAPrivateOne)
     }
 }
 
-TEST(FolderTraitsOnLinux, ExtendedAttributesAreGiven)
+TEST(FolderTraitsOnLinux, ExtendedAttributesAreCopied)
 {
     const ScratchFolder scratch;
     const CString from = scratch.MakeFolder(u"from");
@@ -64,7 +64,7 @@ TEST(FolderTraitsOnLinux, ExtendedAttributesAreGiven)
     EXPECT_EQ(std::string(buffer, 3), std::string("a\0b", 3));
 }
 
-TEST(FolderTraitsOnLinux, OwnerAndGroupAreGivenByRootAlone)
+TEST(FolderTraitsOnLinux, OwnerAndGroupAreCopiedOnlyByRoot)
 {
     if (geteuid() != 0)
         GTEST_SKIP() << "only root may give folders away";

@@ -20,7 +20,7 @@ void Make(const MountedFolder& disk, std::u16string_view name)
     std::ofstream(ToStdPath(disk.Path(name))).close();
 }
 
-TEST(NameFoldingOnLinux, IsTriedOnTheEntriesOfAFileSystemThatDoesNotTell)
+TEST(NameFoldingOnLinux, IsTriedOnTheEntriesWhereTheFileSystemDoesNotReportIt)
 {
     const MountedFolder disk(MountedFolder::Kind::Exfat);
     if (!disk.WhyNot().empty())
@@ -44,7 +44,7 @@ TEST(NameFoldingOnLinux, IsNoneWhereBothCasesAreEntriesOfTheirOwn)
     EXPECT_EQ(GetNameFolding(disk.Path()), NameFolding::None);
 }
 
-TEST(NameFoldingOnLinux, OfTwoNamesIsTriedWhereAnEmptyFolderDoesNotTell)
+TEST(NameFoldingOnLinux, OfTwoNamesIsTriedInAnEmptyFolder)
 {
     const MountedFolder disk(MountedFolder::Kind::Exfat);
     if (!disk.WhyNot().empty())

@@ -31,7 +31,7 @@ int CountUnread(const std::filesystem::path& pipe)
 
 } // namespace
 
-TEST(ReadToEndPipe, GivesAllThatComesThroughANamedPipe)
+TEST(ReadToEndPipe, ReadsANamedPipeToItsEnd)
 {
     const VyrTests::ScratchFolder scratch;
     const auto path = VyrTests::ToStdPath(scratch.Path(u"pipe"));

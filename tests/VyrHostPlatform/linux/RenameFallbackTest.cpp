@@ -107,7 +107,7 @@ TEST_P(WithoutNoReplace, NothingIsReplaced)
     EXPECT_TRUE(scratch.Has(u"empty"));
 }
 
-TEST_P(WithoutNoReplace, AFileStaysWhereNoSecondNameCanBeGiven)
+TEST_P(WithoutNoReplace, AFileIsNotRenamedWhereNoHardLinkIsPossible)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"a", "1");

@@ -87,7 +87,7 @@ TEST_F(ConsoleScreenTest, ConsoleIsATerminalWithItsWidth)
     EXPECT_GT(Console::GetWidth(Console::Stream::Output), 0);
 }
 
-TEST_F(ConsoleScreenTest, Utf8IsShownAsTextWhateverTheConsolesCodePage)
+TEST_F(ConsoleScreenTest, Utf8IsShownAsTextUnderEveryCodePage)
 {
     ASSERT_EQ(Console::Write(Console::Stream::Output, "Grüße Ωж\r\nsecond"), 0u);
     EXPECT_EQ(ScreenText(0, 9), u"Grüße Ωж ");

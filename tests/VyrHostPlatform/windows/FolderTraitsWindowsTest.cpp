@@ -8,7 +8,7 @@
 
 #include <windows.h>
 
-TEST(FolderTraitsOnWindows, HiddenFolderMakesAHiddenOne)
+TEST(FolderTraitsOnWindows, HiddenFolderGivesAHiddenOne)
 {
     const VyrTests::ScratchFolder scratch;
     const CString from = scratch.MakeFolder(u"from");

@@ -10,7 +10,7 @@
 
 using VyrHostPlatform::ReadToEnd;
 
-TEST(ReadToEndPipe, GivesAllThatComesThroughANamedPipe)
+TEST(ReadToEndPipe, ReadsANamedPipeToItsEnd)
 {
     CString path;
     path.Format(u"\\\\.\\pipe\\VyrReadToEnd%u", static_cast<unsigned>(GetCurrentProcessId()));

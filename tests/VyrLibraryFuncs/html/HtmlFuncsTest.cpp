@@ -21,7 +21,7 @@ struct Case
 
 } // namespace
 
-TEST(HtmlFuncs, EachPieceIsByteForByteAsTheTableSays)
+TEST(HtmlFuncs, EachPieceIsByteForByteThatOfTheTable)
 {
     const Case cases[] = {
         {CALL(GetDoctypeTag()), u"<!DOCTYPE html>\r\n\r\n"},

@@ -130,7 +130,7 @@ TEST(MSHTMLImgFuncsTest, PicturesWithoutAddressAreSkipped)
     EXPECT_EQ(StylesAfter(elements, view), (std::vector<std::u16string>{untouched, untouched, fullWidth}));
 }
 
-TEST(MSHTMLImgFuncsTest, PicturesThatThePageDoesNotTellAboutAreSkipped)
+TEST(MSHTMLImgFuncsTest, PicturesWithoutDataAreSkipped)
 {
     using Fault = HtmlElement::Fault;
     for (const Fault fault : {Fault::NotInList, Fault::NoObject, Fault::NoAddress, Fault::NoWidth, Fault::NoHeight,
@@ -157,12 +157,12 @@ TEST(MSHTMLImgFuncsTest, EveryElementIsLookedAt)
     EXPECT_EQ(StylesAfter(elements, view), expected);
 }
 
-TEST(MSHTMLImgFuncsTest, PageWithoutElementsIsLeftAlone)
+TEST(MSHTMLImgFuncsTest, PageWithoutElementsIsNotChanged)
 {
     EXPECT_EQ(StylesAfter({}, view), std::vector<std::u16string>());
 }
 
-TEST(MSHTMLImgFuncsTest, WhatIsNoPageIsLeftAlone)
+TEST(MSHTMLImgFuncsTest, ObjectOfAnotherKindIsNotChanged)
 {
     MSHTMLImgFuncs::SetResizeImgStyle(nullptr, view);
     using Fault = HtmlPage::Fault;
@@ -217,7 +217,7 @@ TEST(MSHTMLImgFuncsTest, PictureIsBiggerInEitherDirection)
     EXPECT_EQ(PrivateOperations::IsImageBiggerThanClient(view, -1, 0), 0);
 }
 
-TEST(MSHTMLImgFuncsTest, EdgesMayBeAsFarApartAsTheirNumbersAllow)
+TEST(MSHTMLImgFuncsTest, EdgesMayHaveTheExtremeValues)
 {
     const CRect all(least, least, greatest, greatest);
     EXPECT_EQ(PrivateOperations::IsImageBiggerThanClient(all, greatest, greatest), 0);

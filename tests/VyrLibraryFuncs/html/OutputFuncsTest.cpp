@@ -44,7 +44,7 @@ TEST(OutputFuncs, SettingsAreKeptAsTheyWereSet)
     EXPECT_EQ(OutputFuncs::GetOutputFilterIndex(), -7);
 }
 
-TEST(OutputFuncs, GetterGivesACopy)
+TEST(OutputFuncs, GetterReturnsACopy)
 {
     const KeptOutputSettings kept;
     OutputFuncs::SetOutputFilePath(u"a.html");

@@ -125,7 +125,7 @@ TEST_P(AttributesOfFile, IsReachedByItsIndex)
     EXPECT_FALSE(IsSet());
 }
 
-TEST_P(AttributesOfFile, ChangesAloneAndComesBack)
+TEST_P(AttributesOfFile, ChangesWithoutTheOthersAndIsRestored)
 {
     if (!IsKept())
         GTEST_SKIP() << notKept;
@@ -152,7 +152,7 @@ TEST_P(AttributesOfFile, IsPartOfARecord)
     EXPECT_FALSE(IsSet());
 }
 
-TEST_P(AttributesOfFile, OfNothingIsNeitherSetNorCleared)
+TEST_P(AttributesOfFile, OfAMissingFileIsNeitherSetNorCleared)
 {
     const ScratchFolder scratch;
     for (const CString& path : {scratch.Path(u"missing"), CString()}) {
@@ -192,7 +192,7 @@ INSTANTIATE_TEST_SUITE_P(EachOfTheSix, AttributesOfFile, testing::Range(0, 6),
                                  1, static_cast<char>(*Attributes()[static_cast<std::size_t>(tested.param)].letter));
                          });
 
-TEST(AttributesFuncs, RecordOfZerosLeavesEverythingAsItIs)
+TEST(AttributesFuncs, RecordOfZerosChangesNothing)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");
@@ -224,7 +224,7 @@ TEST(AttributesFuncs, OthersOfAFileThatBecomesReadOnlyAreSet)
     EXPECT_EQ(FileAttributes::Get(path) & 0x7, 0U);
 }
 
-TEST(AttributesFuncs, RecordForNothingFails)
+TEST(AttributesFuncs, RecordForAMissingFileFails)
 {
     const ScratchFolder scratch;
     EXPECT_EQ(AttributesFuncs::SetModifiedFileAttributes(scratch.Path(u"missing"), {1, 1, 1, 1, 1, 1}), 0);
@@ -246,7 +246,7 @@ TEST(AttributesFuncs, IndexOfNoneOfTheSixChangesNothing)
     }
 }
 
-TEST(AttributesFuncs, LettersStandInTheOrderOfDisplay)
+TEST(AttributesFuncs, LettersAreInTheOrderOfDisplay)
 {
     const std::u16string_view order = u"RHSDATPLCOIEXV";
     for (std::size_t place = 0; place < order.size(); ++place) {

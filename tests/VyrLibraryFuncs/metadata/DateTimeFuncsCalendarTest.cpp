@@ -180,7 +180,7 @@ TEST(CalDateTime, EndsOfTheCalendarAreReached)
     EXPECT_TRUE(capture.Texts().empty());
 }
 
-TEST(CalDateTime, WhatIsNotValidComesBackWithoutALine)
+TEST(CalDateTime, InvalidDateTimeIsReturnedWithoutALogLine)
 {
     const DebugCapture capture;
     for (const auto status : {COleDateTime::invalid, COleDateTime::null}) {
@@ -191,7 +191,7 @@ TEST(CalDateTime, WhatIsNotValidComesBackWithoutALine)
     EXPECT_TRUE(capture.Texts().empty());
 }
 
-TEST(CalDateTime, ValidCountOfDaysThatIsNoDateIsLoggedAsAWrongDay)
+TEST(CalDateTime, ValidCountOfDaysWithoutADateIsLoggedAsAWrongDay)
 {
     for (const double days : {1e9, -1e9, std::nan("")}) {
         const DebugCapture capture;
@@ -249,7 +249,7 @@ TEST(RelativeDates, WeeksBeginOnSunday)
     EXPECT_EQ(Describe(DateTimeFuncs::GetEndWeekDateTime(COleDateTime(2024, 1, 10, 1, 2, 3))), "2024-01-16 01:02:03");
 }
 
-TEST(RelativeDates, OfWhatIsNotValidAreItself)
+TEST(RelativeDates, OfAnInvalidDateTimeAreItself)
 {
     const DebugCapture capture;
     for (const auto status : {COleDateTime::invalid, COleDateTime::null}) {

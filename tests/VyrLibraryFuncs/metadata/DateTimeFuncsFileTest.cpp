@@ -100,7 +100,7 @@ TEST(FileDateTime, IsThePicturesUnderEveryOtherTarget)
     }
 }
 
-TEST(FileDateTime, IsZeroWhereThereIsNone)
+TEST(FileDateTime, IsZeroForAMissingDateTime)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");
@@ -213,7 +213,7 @@ TEST(SetFileDateTime, WritesTheCreationTime)
     EXPECT_EQ(FileTimes::GetCreated(path), Ticks(created));
 }
 
-TEST(SetFileDateTime, OfNothingFailsWithOneLine)
+TEST(SetFileDateTime, OfAMissingFileFailsWithOneLogLine)
 {
     const ScratchFolder scratch;
     const CString path = scratch.Path(u"missing");

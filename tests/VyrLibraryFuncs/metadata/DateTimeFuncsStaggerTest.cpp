@@ -86,7 +86,7 @@ TEST(Stagger, SubtractsUnderDirection1)
     EXPECT_EQ(Staggered(-1, start, item), "2025-03-08 14:35:06");
 }
 
-TEST(Stagger, LeavesTheClockAloneUnderAnyOtherDirection)
+TEST(Stagger, IgnoresTheClockUnderAnyOtherDirection)
 {
     DateTimeFuncs::STAGGERITEM item;
     item.days = 1;
@@ -132,7 +132,7 @@ TEST(Stagger, OwnStartReplacesTheBase)
     EXPECT_EQ(Staggered(0, start, item), "2024-01-05 10:30:00");
 }
 
-TEST(Stagger, GivesNothingWhereThereIsNoBase)
+TEST(Stagger, GivesZeroWithoutABase)
 {
     EXPECT_EQ(Ticks(DateTimeFuncs::GetStaggerFileDateTime(0, 0, start, {})), 0);
     for (const COleDateTime& base :
@@ -142,7 +142,7 @@ TEST(Stagger, GivesNothingWhereThereIsNoBase)
     EXPECT_EQ(Staggered(0, COleDateTime(1899, 12, 30, 0, 0, 1), {}), "1899-12-30 00:00:01");
 }
 
-TEST(Stagger, GivesNothingBefore1601)
+TEST(Stagger, GivesZeroBefore1601)
 {
     DateTimeFuncs::STAGGERITEM item;
     item.direction = 1;
@@ -151,7 +151,7 @@ TEST(Stagger, GivesNothingBefore1601)
     EXPECT_EQ(Staggered(1, COleDateTime(2023, 12, 5, 10, 30, 0), item), "none");
 }
 
-TEST(Stagger, CalendarStepOutOfRangeLeavesTheDateAndIsLogged)
+TEST(Stagger, CalendarStepOutOfRangeKeepsTheDateAndIsLogged)
 {
     DateTimeFuncs::STAGGERITEM item;
     item.years = 8000;
@@ -162,7 +162,7 @@ TEST(Stagger, CalendarStepOutOfRangeLeavesTheDateAndIsLogged)
     EXPECT_NE(capture.Texts()[0].View().find(u"Year is out of valid range: 1400..9999"), std::u16string_view::npos);
 }
 
-TEST(Stagger, ClockThatLeavesTheCalendarGivesNothing)
+TEST(Stagger, ClockThatLeavesTheCalendarGivesZero)
 {
     for (const int direction : {0, 1}) {
         DateTimeFuncs::STAGGERITEM item;

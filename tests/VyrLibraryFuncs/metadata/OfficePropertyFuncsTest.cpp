@@ -160,7 +160,7 @@ TEST(OfficePropertyFuncs, ListsHandleOneEventForEachEntryAndStopForNone)
     EXPECT_TRUE(OfficePropertyFuncs::GetClassId(u".docx", items) == word);
 }
 
-TEST_F(DocumentProperties, CompoundDocumentIsWrittenWhateverTheHandlerIs)
+TEST_F(DocumentProperties, CompoundDocumentIsWrittenWithAnyHandler)
 {
     for (const GUID& handler : {none, other}) {
         const CString path = scratch.WriteFile(u"a.doc", SampleDocument().Bytes());
@@ -181,7 +181,7 @@ TEST_F(DocumentProperties, FileOfAnotherKindWithoutHandlerStaysUntouched)
     EXPECT_TRUE(debug.Texts().empty());
 }
 
-TEST_F(DocumentProperties, DocumentThatCannotBeOpenedGivesZeroInSilence)
+TEST_F(DocumentProperties, DocumentThatCannotBeOpenedGivesZeroWithoutADiagnostic)
 {
     const CString path = scratch.WriteFile(u"a.doc", SampleDocument().Bytes());
     const Document document = Document::OpenCompound(path);

@@ -12,7 +12,7 @@ using VyrLibraryFuncs::UnblockFuncs;
 using VyrTests::ScratchFolder;
 namespace FileAttributes = VyrPlatform::FileAttributes;
 
-TEST(UnblockFuncs, MarkGoes)
+TEST(UnblockFuncs, MarkIsRemoved)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a.zip", "content");
@@ -24,7 +24,7 @@ TEST(UnblockFuncs, MarkGoes)
     EXPECT_EQ(scratch.ReadFile(u"a.zip"), "content");
 }
 
-TEST(UnblockFuncs, ReadOnlyFileComesOutUnmarkedAndReadOnly)
+TEST(UnblockFuncs, ReadOnlyFileIsUnmarkedAndStaysReadOnly)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a.zip", "content");
@@ -37,7 +37,7 @@ TEST(UnblockFuncs, ReadOnlyFileComesOutUnmarkedAndReadOnly)
     EXPECT_EQ(scratch.ReadFile(u"a.zip"), "content");
 }
 
-TEST(UnblockFuncs, FileWithoutMarkGivesZeroAndStaysAsItIs)
+TEST(UnblockFuncs, FileWithoutMarkGivesZeroAndIsNotChanged)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a.zip", "content");

@@ -69,7 +69,7 @@ TEST(NameFuncsConflict, FirstFreeNumberIsTaken)
     EXPECT_EQ(Resolve(path, Numbering(u" (?)", 1, 4)), scratch.Path(u"a (5).txt"));
 }
 
-TEST(NameFuncsConflict, NumberGoesBeforeTheName)
+TEST(NameFuncsConflict, NumberIsBeforeTheName)
 {
     const ScratchFolder scratch;
     EXPECT_EQ(Resolve(scratch.WriteFile(u"a.txt"), Numbering(u"?_", 0)), scratch.Path(u"1_a.txt"));
@@ -110,7 +110,7 @@ TEST(NameFuncsConflict, StepsMayBeWideNegativeAndWrap)
     EXPECT_EQ(Resolve(path, Numbering(u"?", 1, 10, largest)), scratch.Path(u"a-2147483639.txt"));
 }
 
-TEST(NameFuncsConflict, CandidatesAreMadeOfTheGivenPathAndNotOfEachOther)
+TEST(NameFuncsConflict, EachCandidateIsMadeFromTheGivenPath)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a.txt");
@@ -153,7 +153,7 @@ TEST(NameFuncsConflict, StopEndsASearchThatCannotEnd)
         EXPECT_EQ(resolveUntilStop(Numbering(u"?", position)), path) << "position " << position;
 }
 
-TEST(NameFuncsConflict, SearchGoesOnUntilANameBecomesFree)
+TEST(NameFuncsConflict, SearchContinuesUntilANameBecomesFree)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a.txt");
@@ -166,7 +166,7 @@ TEST(NameFuncsConflict, SearchGoesOnUntilANameBecomesFree)
     EXPECT_FALSE(scratch.Has(u"a!.txt"));
 }
 
-TEST(NameFuncsConflict, NameTakenByALinkToNothingIsTaken)
+TEST(NameFuncsConflict, NameOfABrokenLinkIsTaken)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");

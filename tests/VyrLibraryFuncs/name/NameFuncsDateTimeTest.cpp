@@ -92,7 +92,7 @@ void ExpectModifiedTimes(const std::vector<Moment>& moments)
 
 } // namespace
 
-TEST(NameFuncsDateTime, TextGoesWhereThePositionSays)
+TEST(NameFuncsDateTime, TextIsAtThePosition)
 {
     const ScratchFolder scratch;
     NameFuncs::ITEM item = Dated(WritePicture(scratch, "2024:07:19 18:45:03"), 3);

@@ -207,7 +207,7 @@ TEST(NameFuncsAddDelete, CountsAreCodeUnitsAndMayCutASurrogatePair)
     EXPECT_EQ(AddDelete(u"\U0001F600b", 4, 1, 1), u"\xD83D\u0062");
 }
 
-TEST(NameFuncsConvert, FirstCharacterAloneIsUpperCased)
+TEST(NameFuncsConvert, OnlyTheFirstCharacterIsUpperCased)
 {
     EXPECT_EQ(Convert(u"hello world", 0), u"Hello world");
     EXPECT_EQ(Convert(u"hELLO", 0), u"HELLO");

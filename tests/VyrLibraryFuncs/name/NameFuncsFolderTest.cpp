@@ -109,7 +109,7 @@ TEST(NameFuncsFolder, EmptySourcePathIsNotTheCurrentFolder)
     }
 }
 
-TEST(NameFuncsFolder, CopyHasEverythingAndLeavesTheSource)
+TEST(NameFuncsFolder, CopyHasAllEntriesAndKeepsTheSource)
 {
     for (unsigned seed = 0; seed < 5; ++seed) {
         std::mt19937 random(seed);

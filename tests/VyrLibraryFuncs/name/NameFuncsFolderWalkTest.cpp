@@ -63,7 +63,7 @@ void Stamp(const CString& path, std::int64_t unixTime)
 
 } // namespace
 
-TEST(NameFuncsFolderWalk, EmptyFolderCopiesAsNothingAndMovesAway)
+TEST(NameFuncsFolderWalk, CopyOfAnEmptyFolderGivesZeroAndMoveRemovesIt)
 {
     const ScratchFolder scratch;
     const CString source = scratch.MakeFolder(u"s");
@@ -77,7 +77,7 @@ TEST(NameFuncsFolderWalk, EmptyFolderCopiesAsNothingAndMovesAway)
     EXPECT_TRUE(records.empty());
 }
 
-TEST(NameFuncsFolderWalk, SourceThatIsNoFolderGivesZeroAndNothingElse)
+TEST(NameFuncsFolderWalk, SourceThatIsNoFolderGivesZeroAndChangesNothing)
 {
     const ScratchFolder scratch;
     const CString file = scratch.WriteFile(u"file", "kept");
@@ -165,7 +165,7 @@ TEST(NameFuncsFolderWalk, NoListMeansNoRecords)
     }
 }
 
-TEST(NameFuncsFolderWalk, FolderThatIsThereGetsNoRecordButTheContents)
+TEST(NameFuncsFolderWalk, ExistingFolderGetsTheContentsWithoutARecord)
 {
     for (const Operation operation : operations) {
         const ScratchFolder scratch;
@@ -198,7 +198,7 @@ TEST(NameFuncsFolderWalk, SeparatorAtTheEndOfEitherPathIsNotDoubled)
     }
 }
 
-TEST(NameFuncsFolderWalk, MissingDestinationIsMadeForAFolderInTheSourceAlone)
+TEST(NameFuncsFolderWalk, MissingDestinationIsCreatedOnlyForFoldersInTheSource)
 {
     for (const Operation operation : operations) {
         const ScratchFolder scratch;
@@ -216,7 +216,7 @@ TEST(NameFuncsFolderWalk, MissingDestinationIsMadeForAFolderInTheSourceAlone)
     }
 }
 
-TEST(NameFuncsFolderWalk, CopyTellsTheSuccessOfItsLastEntryAlone)
+TEST(NameFuncsFolderWalk, CopyReturnsTheResultOfItsLastEntry)
 {
     for (const bool isLastBlocked : {false, true}) {
         const ScratchFolder scratch;
@@ -233,7 +233,7 @@ TEST(NameFuncsFolderWalk, CopyTellsTheSuccessOfItsLastEntryAlone)
     }
 }
 
-TEST(NameFuncsFolderWalk, CopyThatEndsWithAnEmptyFolderTellsZero)
+TEST(NameFuncsFolderWalk, CopyThatEndsWithAnEmptyFolderReturnsZero)
 {
     const ScratchFolder scratch;
     scratch.MakeFolder(u"s/a/empty");
@@ -244,7 +244,7 @@ TEST(NameFuncsFolderWalk, CopyThatEndsWithAnEmptyFolderTellsZero)
     EXPECT_TRUE(scratch.Has(u"d/a/empty"));
 }
 
-TEST(NameFuncsFolderWalk, CopyTellsTheResultOfTheFolderThatItWalkedLast)
+TEST(NameFuncsFolderWalk, CopyReturnsTheResultOfTheLastFolder)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"s/a/in", "x");
@@ -257,7 +257,7 @@ TEST(NameFuncsFolderWalk, CopyTellsTheResultOfTheFolderThatItWalkedLast)
     EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"s"), scratch.Path(u"e"), nullptr), 0);
 }
 
-TEST(NameFuncsFolderWalk, MoveLeavesWhatItCannotMoveAndTellsZero)
+TEST(NameFuncsFolderWalk, MoveKeepsEntriesThatItCannotMoveAndReturnsZero)
 {
     for (const char16_t* const blocked : {u"a", u"b", u"c"}) {
         const ScratchFolder scratch;
@@ -273,7 +273,7 @@ TEST(NameFuncsFolderWalk, MoveLeavesWhatItCannotMoveAndTellsZero)
     }
 }
 
-TEST(NameFuncsFolderWalk, MoveRemovesTheFoldersThatItEmptiedBesideAnotherThatItCouldNot)
+TEST(NameFuncsFolderWalk, MoveRemovesEmptiedFoldersThoughAnotherStays)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"s/a/in", "a");
@@ -370,7 +370,7 @@ TEST(NameFuncsFolderWalk, WalkHandlesOneMessageForEachEntryTheDotsIncluded)
     EXPECT_EQ(handled, 14);
 }
 
-TEST(NameFuncsFolderWalk, FileThatGoesAwayDuringTheWalkIsLeftOut)
+TEST(NameFuncsFolderWalk, FileRemovedDuringTheWalkIsSkipped)
 {
     for (const Operation operation : operations) {
         const ScratchFolder scratch;
@@ -385,7 +385,7 @@ TEST(NameFuncsFolderWalk, FileThatGoesAwayDuringTheWalkIsLeftOut)
     }
 }
 
-TEST(NameFuncsFolderWalk, FileThatGoesAwayLeavesTheResultOfTheOneBefore)
+TEST(NameFuncsFolderWalk, FileRemovedDuringTheWalkKeepsTheResultBefore)
 {
     const ScratchFolder scratch;
     for (const char16_t* const name : {u"s/a", u"s/b", u"s/c"})

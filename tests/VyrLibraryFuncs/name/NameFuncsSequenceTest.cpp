@@ -88,7 +88,7 @@ CString PhotographPath(int numberPosition)
 
 } // namespace
 
-TEST(NameFuncsSequence, NumberGoesWhereThePositionSays)
+TEST(NameFuncsSequence, NumberIsAtThePosition)
 {
     EXPECT_EQ(PhotographPath(0), u"/photos/Italy 030.jpg");
     EXPECT_EQ(PhotographPath(1), u"/photos/030Italy .jpg");
@@ -144,7 +144,7 @@ TEST(NameFuncsSequence, WidthBelowTwoPadsNothing)
     }
 }
 
-TEST(NameFuncsSequence, ZerosStandInFrontOfTheMinusSign)
+TEST(NameFuncsSequence, ZerosAreBeforeTheMinusSign)
 {
     EXPECT_EQ(NumberText(3, -5), "00-5");
     EXPECT_EQ(NumberText(3, smallest), "00-2147483648");
@@ -160,7 +160,7 @@ TEST(NameFuncsSequence, PaddingAgreesWithTheCLibraryAroundEveryPowerOfTen)
                           ExpectedNumberText(digits, static_cast<int>(number)));
 }
 
-TEST(NameFuncsSequence, PaddingGoesOnWhereThePowersOfTenNoLongerFit)
+TEST(NameFuncsSequence, PaddingContinuesBeyondThePowersOfTen)
 {
     for (const int digits : {18, 19, 20, 21, 40})
         for (const int number : {0, 1, largest, -1, smallest})

@@ -90,7 +90,7 @@ TEST(NameFuncs, UnknownKindGivesAnEmptyPath)
         EXPECT_TRUE(NameFuncs::GetRenameFilePath(OfKind(kind)).IsEmpty()) << kind;
 }
 
-TEST(NameFuncs, TextsOfTheCallerDecideNothing)
+TEST(NameFuncs, TextsOfTheCallerAreIgnored)
 {
     for (int kind = -1; kind <= 6; ++kind) {
         NameFuncs::ITEM item = OfKind(kind);
@@ -103,7 +103,7 @@ TEST(NameFuncs, TextsOfTheCallerDecideNothing)
     }
 }
 
-TEST(NameFuncs, ComputationsReadOnlyWhatTheCallerSplit)
+TEST(NameFuncs, ComputationsNeverSplitThePath)
 {
     NameFuncs::ITEM item = OfKind(4);
     item.filePath = u"/elsewhere/other.png";
@@ -182,7 +182,7 @@ TEST(NameFuncs, RecordsAreEmptyAndZeroUntilFilled)
     EXPECT_EQ(conflict.step, 0);
 }
 
-TEST(NameFuncs, FieldsStandInTheirPublishedOrder)
+TEST(NameFuncs, FieldsAreInTheirPublishedOrder)
 {
     // Designators out of the order of declaration do not compile.
     const NameFuncs::ITEM item{.filePath = u"1",

@@ -46,7 +46,7 @@ Product Named(const CString& name, const CString& icon)
 
 } // namespace
 
-TEST_F(InstallerProducts, EveryValueGoesIntoItsField)
+TEST_F(InstallerProducts, EveryValueIsStoredInItsField)
 {
     registry.SetText(HKEY_CLASSES_ROOT, Entry(), u"ProductName", u"My product");
     registry.SetText(HKEY_CLASSES_ROOT, Entry(), u"ProductIcon", u"\"C:\\i n\\icon.exe\"");
@@ -103,7 +103,7 @@ TEST_F(InstallerProducts, ExpandableTextStaysUnexpanded)
     EXPECT_EQ(Read().ProductIcon, u"%PATH%\\i.ico");
 }
 
-TEST_F(InstallerProducts, ThoseOfTheMachineComeFirstAndNothingIsMerged)
+TEST_F(InstallerProducts, ThoseOfTheMachineAreFirstAndNothingIsMerged)
 {
     for (const CString name : {u"2", u"1"}) {
         registry.SetText(HKEY_CURRENT_USER, CString::Join({user, u"\\", name}), u"ProductName", u"user");
@@ -115,7 +115,7 @@ TEST_F(InstallerProducts, ThoseOfTheMachineComeFirstAndNothingIsMerged)
     EXPECT_EQ(list, u"machine 1; machine 2; user 1; user 2; ");
 }
 
-TEST_F(InstallerProducts, WithoutKeysThereAreNone)
+TEST_F(InstallerProducts, AreNoneWithoutKeys)
 {
     EXPECT_TRUE(ProgramsFeaturesFuncs::GetProgramsFeaturesInstallerProductsItemsList().empty());
     const auto kept = PrivateOperations::GetProgramsFeaturesInstallerProductsItemsList(

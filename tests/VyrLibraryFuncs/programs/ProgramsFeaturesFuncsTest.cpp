@@ -28,7 +28,7 @@ struct OrderedKeys
 
 } // namespace
 
-TEST(ApplicationIcon, ReferenceIsTakenApart)
+TEST(ApplicationIcon, ReferenceIsSplit)
 {
     const auto icon = ProgramsFeaturesFuncs::GetApplicationIcon;
     EXPECT_EQ(icon(u"\"C:\\a b\\c.exe\",-101"), Icon(u"C:\\a b\\c.exe", -101));
@@ -49,7 +49,7 @@ TEST(ApplicationIcon, EmptyReferenceIsNoPathAndZero)
     EXPECT_EQ(ProgramsFeaturesFuncs::GetApplicationIcon(u"\"\""), Icon());
 }
 
-TEST(ProgramInstallDate, OwnDateComesBackAsItIs)
+TEST(ProgramInstallDate, OwnDateIsReturnedUnchanged)
 {
     EXPECT_EQ(ProgramsFeaturesFuncs::GetInstallDate(u"no date at all", u"2024/01/05"), u"no date at all");
     EXPECT_EQ(ProgramsFeaturesFuncs::GetInstallDate(u" ", u"2024/01/05"), u" ");
@@ -64,7 +64,7 @@ TEST(ProgramInstallDate, OtherwiseItIsTheDateOfTheOtherText)
     EXPECT_EQ(ProgramsFeaturesFuncs::GetInstallDate(u"", u"never"), u"");
 }
 
-TEST(ProgramSize, IsWrittenWhereATextStandsForIt)
+TEST(ProgramSize, IsWrittenOnlyWithAText)
 {
     const UserLocale locale(u"en_US");
     EXPECT_EQ(ProgramsFeaturesFuncs::GetFormatedSize(u"", 5000, 0), u"");
@@ -98,7 +98,7 @@ TEST(CompareRegKey, KeyWithoutANameIsEqualToAny)
     }
 }
 
-TEST(CompareRegKey, LastPartsOfThePathsStandInOrder)
+TEST(CompareRegKey, LastPartsOfThePathsAreCompared)
 {
     const UserLocale locale(u"en_US");
     const OrderedKeys table[] = {
@@ -125,7 +125,7 @@ TEST(CompareRegKey, LastPartsOfThePathsStandInOrder)
     }
 }
 
-TEST(CompareRegKey, LetterBraceAndForeignLetterMakeACircle)
+TEST(CompareRegKey, LetterBraceAndForeignLetterFormACycle)
 {
     const UserLocale locale(u"en_US");
     EXPECT_EQ(Compare(u"z", u"{1}"), -1);
@@ -154,7 +154,7 @@ TEST(Wow6432Node, IsFoundAnywhereAndOnlyInItsOwnCase)
     EXPECT_EQ(ProgramsFeaturesFuncs::IsWow6432Node(u""), 0);
 }
 
-TEST(InventorySettings, KeepWhatIsSet)
+TEST(InventorySettings, KeepTheirValues)
 {
     EXPECT_EQ(ProgramsFeaturesFuncs::GetIconFolderName(), u"icons");
     EXPECT_EQ(ProgramsFeaturesFuncs::GetOutputFilePath(), u"");

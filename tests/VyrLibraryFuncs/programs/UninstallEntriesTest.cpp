@@ -81,7 +81,7 @@ CString AllTexts(const VyrTests::DebugCapture& debug)
 
 } // namespace
 
-TEST_F(UninstallEntries, EveryTextGoesIntoTheFieldOfItsName)
+TEST_F(UninstallEntries, EveryTextIsStoredInTheFieldOfItsName)
 {
     const std::pair<const char16_t*, CString Item::*> fields[] = {
         {u"DisplayIcon", &Item::DisplayIcon},
@@ -112,7 +112,7 @@ TEST_F(UninstallEntries, EveryTextGoesIntoTheFieldOfItsName)
         EXPECT_EQ(unused, u"");
 }
 
-TEST_F(UninstallEntries, EveryNumberGoesIntoTheFieldOfItsName)
+TEST_F(UninstallEntries, EveryNumberIsStoredInTheFieldOfItsName)
 {
     const std::pair<const char16_t*, std::uint32_t Item::*> fields[] = {
         {u"EstimatedSize", &Item::EstimatedSize},
@@ -166,7 +166,7 @@ TEST_F(UninstallEntries, InstallDateIsWrittenAsADate)
     EXPECT_EQ(Read().InstallDate, u"2/29/2024");
 }
 
-TEST_F(UninstallEntries, InstallDateThatIsNoneIsEmpty)
+TEST_F(UninstallEntries, InvalidInstallDateIsEmpty)
 {
     for (const CString text : {u"20230229", u"2024-02-29", u"yesterday", u"", u"2/29/2024"}) {
         SetText(u"InstallDate", text);
@@ -218,7 +218,7 @@ TEST_F(UninstallEntries, TextOf259UnitsIsReadAndOneOf260IsNot)
     EXPECT_EQ(Read().Comments, u"");
 }
 
-TEST_F(UninstallEntries, ExpandableNameIsTakenAsItStands)
+TEST_F(UninstallEntries, ExpandableNameIsNotExpanded)
 {
     registry.SetValue(HKEY_LOCAL_MACHINE, Entry(), u"DisplayName", 2, TextBytes(u"100 %PATH%"));
     EXPECT_EQ(Read().DisplayName, u"100 %PATH%");
@@ -269,7 +269,7 @@ TEST_F(UninstallEntries, UninstallStringThatGrowsTooLongIsSkipped)
     EXPECT_EQ(Read().UninstallString, u"");
 }
 
-TEST_F(UninstallEntries, LocalizedNameThatRefersToNothingIsEmpty)
+TEST_F(UninstallEntries, LocalizedNameWithoutAResourceIsEmpty)
 {
     SetText(u"DisplayName_Localized", u"@Z:\\nowhere\\none.dll,-1");
     EXPECT_EQ(Read().DisplayNameLocalized, u"");
@@ -277,7 +277,7 @@ TEST_F(UninstallEntries, LocalizedNameThatRefersToNothingIsEmpty)
     EXPECT_EQ(Read().DisplayNameLocalized, u"");
 }
 
-TEST_F(UninstallEntries, KeysComeInOrderAndNothingIsMerged)
+TEST_F(UninstallEntries, KeysAreInOrderAndNothingIsMerged)
 {
     for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE})
         for (const CString& key : {uninstall32, uninstall})
@@ -342,7 +342,7 @@ TEST_F(UninstallEntries, WithoutUninstallKeysTheListIsEmpty)
     EXPECT_TRUE(ProgramsFeaturesFuncs::GetProgramsFeaturesWindowsInstallerItemsList(0).empty());
 }
 
-TEST_F(UninstallEntries, WalkAppendsToTheListThatItIsGiven)
+TEST_F(UninstallEntries, WalkAppendsToTheGivenList)
 {
     SetText(u"DisplayName", u"walked");
     Item before;
@@ -458,7 +458,7 @@ TEST_F(UninstallEntries, StopEndsTheValuesOfOneEntryOnly)
     EXPECT_FALSE(VyrPlatform::MessageQueue::DrainOne()) << "the stop is consumed";
 }
 
-TEST_F(UninstallEntries, StopBehindWorkComesBeforeTheNextValue)
+TEST_F(UninstallEntries, StopAfterWorkTakesEffectBeforeTheNextValue)
 {
     SetText(u"DisplayIcon", u"icon");
     SetText(u"DisplayName", u"name");
@@ -494,7 +494,7 @@ TEST_F(UninstallEntries, ProductsOfTheMachineAreReadInTheirOwnKeys)
     }
 }
 
-TEST_F(UninstallEntries, ProductsOfTheMachineNeverTellTheirView)
+TEST_F(UninstallEntries, ProductsOfTheMachineNeverHaveAView)
 {
     const CString path = u"SOFTWARE\\Wow6432Node\\Products";
     registry.AddKey(HKEY_LOCAL_MACHINE, path + u"\\p");

@@ -61,14 +61,14 @@ TEST(FilterCondition, ContainsFindsTheTextAnywhere)
     EXPECT_EQ(IsMatch(u"holiday.jpg", contains, u"Liday", 1), 0);
 }
 
-TEST(FilterCondition, BeginsWithTakesTheStartAlone)
+TEST(FilterCondition, BeginsWithMatchesOnlyTheStart)
 {
     EXPECT_EQ(IsMatch(u"abcabc", beginsWith, u"ABC"), 1);
     EXPECT_EQ(IsMatch(u"xabcabc", beginsWith, u"abc"), 0);
     EXPECT_EQ(IsMatch(u"ab", beginsWith, u"abc"), 0);
 }
 
-TEST(FilterCondition, EndsWithTakesTheEndAlone)
+TEST(FilterCondition, EndsWithMatchesOnlyTheEnd)
 {
     EXPECT_EQ(IsMatch(u"photo.jpg", endsWith, u".JPG"), 1);
     EXPECT_EQ(IsMatch(u"photo.jpg", endsWith, u".JPG", 1), 0);
@@ -105,7 +105,7 @@ TEST(FilterCondition, WildcardsAreOrdinaryCharacters)
     EXPECT_EQ(IsMatch(u"[1]?.jpg", contains, u"]?"), 1);
 }
 
-TEST(FilterNames, IncludeKeepsWhatMatchesACondition)
+TEST(FilterNames, IncludeKeepsNamesThatMatchACondition)
 {
     const std::vector items{Condition(endsWith, u".jpg"), Condition(beginsWith, u"img")};
     EXPECT_EQ(FilterFuncs::IsMatchName(u"a.jpg", include, items), 1);
@@ -113,7 +113,7 @@ TEST(FilterNames, IncludeKeepsWhatMatchesACondition)
     EXPECT_EQ(FilterFuncs::IsMatchName(u"b.png", include, items), 0);
 }
 
-TEST(FilterNames, ExcludeKeepsWhatMatchesNone)
+TEST(FilterNames, ExcludeKeepsNamesThatMatchNone)
 {
     const std::vector items{Condition(endsWith, u".jpg"), Condition(beginsWith, u"img")};
     EXPECT_EQ(FilterFuncs::IsMatchName(u"a.jpg", exclude, items), 0);
@@ -145,7 +145,7 @@ TEST(FilterNames, FilterValueIsNotRead)
     }
 }
 
-TEST(FilterNames, EmptyNameIsKeptWhateverTheFilter)
+TEST(FilterNames, EmptyNameIsKeptByEveryFilter)
 {
     EXPECT_EQ(FilterFuncs::IsMatchName(u"", include, {}), 1);
     EXPECT_EQ(FilterFuncs::IsMatchName(u"", include, {Condition(equals, u"a")}), 1);

@@ -209,7 +209,7 @@ TEST_F(SearchDateTimes, NullValueIsOfNoDayMonthOrYear)
     EXPECT_EQ(IsInRange(3, WithStatus(COleDateTime(), COleDateTime::null)), 1) << "its count of days is compared";
 }
 
-TEST_F(SearchDateTimes, WhatHasNoCalendarYearIsOfTheSameYear)
+TEST_F(SearchDateTimes, DateTimesWithoutACalendarYearAreOfTheSameYear)
 {
     const FixedClock clock(WithStatus(COleDateTime(), COleDateTime::null));
     COleDateTime beyond;
@@ -377,7 +377,7 @@ TEST_F(SearchFiles, MomentOfThePictureIsATarget)
     EXPECT_EQ(SearchFuncs::IsMatch(dated, 0), 0) << "it was modified today";
 }
 
-TEST_F(SearchFiles, FolderHasASizeOnlyWhereFoldersAreAskedFor)
+TEST_F(SearchFiles, FolderHasASizeOnlyOnRequest)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"folder/a", "12345");
@@ -406,7 +406,7 @@ TEST_F(SearchFiles, EachFileIsToldToTheDebuggerInFivePieces)
     EXPECT_EQ(capture.Texts(), (std::vector<CString>{u"FileSize: ", u"1.20 KB", u", FileSize: ", u"1,234", u"\r\n"}));
 }
 
-TEST_F(SearchFiles, NothingIsToldOfAFolder)
+TEST_F(SearchFiles, NoLineIsWrittenForAFolder)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"folder/a", "12345");
@@ -415,7 +415,7 @@ TEST_F(SearchFiles, NothingIsToldOfAFolder)
     EXPECT_TRUE(capture.Texts().empty());
 }
 
-TEST_F(SearchFiles, NothingIsToldOfASizeThatIsGiven)
+TEST_F(SearchFiles, NoLineIsWrittenForAGivenSize)
 {
     const VyrTests::DebugCapture capture;
     SearchFuncs::IsMatchSize(std::int64_t{5});

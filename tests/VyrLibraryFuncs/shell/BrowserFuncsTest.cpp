@@ -55,7 +55,7 @@ TEST_F(Browsers, RegisteredBrowserIsListedWithItsCommand)
     EXPECT_EQ(items[0].ExecutablePath, items[0].Command);
 }
 
-TEST_F(Browsers, ComeInTheOrderOfTheirKeys)
+TEST_F(Browsers, AreInTheOrderOfTheirKeys)
 {
     for (const CString key : {u"b", u"C", u"a", u"1"}) {
         AddName(key, u"same name");
@@ -98,7 +98,7 @@ TEST_F(Browsers, BrowserWithABadTextIsLeftOut)
     EXPECT_EQ(Keys(), (std::vector<CString>{u"sound"}));
 }
 
-TEST_F(Browsers, ExpandableTextsAndEmptyOnesAreTakenAsTheyStand)
+TEST_F(Browsers, ExpandableAndEmptyTextsAreKept)
 {
     registry.SetValue(HKEY_LOCAL_MACHINE, clients + u"x", u"", 2, TextBytes(u"%PATH%"));
     registry.SetValue(HKEY_LOCAL_MACHINE, clients + u"x\\shell\\open\\command", u"", 2, TextBytes(u""));
@@ -108,7 +108,7 @@ TEST_F(Browsers, ExpandableTextsAndEmptyOnesAreTakenAsTheyStand)
     EXPECT_EQ(items[0].Command, u"");
 }
 
-TEST_F(Browsers, WithoutTheKeyThereAreNone)
+TEST_F(Browsers, AreNoneWithoutTheKey)
 {
     EXPECT_TRUE(BrowserFuncs::GetBrowserItemsList().empty());
     AddName(u"", u"a name of the clients' key itself");

@@ -169,7 +169,7 @@ TEST(CStdioFileEx, FailureOfOpeningIsTheBasesOwn)
     EXPECT_EQ(file.Open(scratch.Path(u"no/folder").GetString(), forWriting), 0);
 }
 
-TEST(CStdioFileEx, Utf8DropsThreeBytesWhateverTheyAre)
+TEST(CStdioFileEx, Utf8SkipsAnyThreeBytes)
 {
     EXPECT_THAT(LinesOf(utf8Mark + "\xE4\xB8\xAD\nb", utf8), ElementsAre(CString(u"\u4E2D"), CString(u"b")));
     EXPECT_THAT(LinesOf("abcdef\nghi\n", utf8), ElementsAre(CString(u"def"), CString(u"ghi")));
@@ -177,7 +177,7 @@ TEST(CStdioFileEx, Utf8DropsThreeBytesWhateverTheyAre)
     EXPECT_THAT(LinesOf("ab", utf8), IsEmpty());
 }
 
-TEST(CStdioFileEx, OtherCodePagesDropNothing)
+TEST(CStdioFileEx, OtherCodePagesSkipNothing)
 {
     EXPECT_THAT(LinesOf(utf8Mark + "a", 1252), ElementsAre(CString(u"\u00EF\u00BB\u00BF"
                                                                    u"a")));
@@ -198,7 +198,7 @@ TEST(CStdioFileEx, DefaultCodePageIsTheSystems)
     EXPECT_EQ(BytesOf({u"aä中"}, forWriting, 0xFFFFFFFF), narrow) << "and no mark is written";
 }
 
-TEST(CStdioFileEx, CarriageReturnGoesOnlyBeforeTheLineFeed)
+TEST(CStdioFileEx, CarriageReturnIsRemovedOnlyBeforeTheLineFeed)
 {
     const Lines expected = {u"a", u"", u"b\rc", u"d\r", u"e"};
     EXPECT_EQ(LinesOf("a\r\n\r\nb\rc\r\nd\r\r\ne\r"), expected);
@@ -339,7 +339,7 @@ TEST(CStdioFileEx, WritingElsewhereHasNoMark)
                                           Utf16(u"d"));
 }
 
-TEST(CStdioFileEx, WhatTheCodePageLacksIsWrittenAsTheDefaultCharacter)
+TEST(CStdioFileEx, MissingCharacterIsWrittenAsTheDefaultOne)
 {
     EXPECT_EQ(BytesOf({u"a\u4E2D\U0001F600A\u0308e\u0301"}, forWriting, 1252), "a###\xC4\xE9");
     EXPECT_EQ(BytesOf({u"\U0001F600\xD83D"}, forWriting, utf8, false), "\xF0\x9F\x98\x80\xEF\xBF\xBD");
@@ -367,7 +367,7 @@ TEST(CStdioFileEx, TextsOfEveryLengthAroundTheBufferAreWrittenWhole)
     EXPECT_EQ(BytesOf({CString(u'\u4E2D', 3'000)}, forWriting, utf8, false), bytes);
 }
 
-TEST(CStdioFileEx, WhatWasWrittenReadsBack)
+TEST(CStdioFileEx, WrittenTextIsReadBack)
 {
     const ScratchFolder scratch;
     const Lines lines = {u"Größe", u"", u"a\rb", CString(u'ß', 9'000), u"end"};
@@ -449,7 +449,7 @@ public:
 
 } // namespace
 
-TEST(CStdioFileEx, MarkIsWrittenWhereThereIsNoStream)
+TEST(CStdioFileEx, MarkIsWrittenWithoutAStream)
 {
     // What a derived class writes elsewhere begins with the mark at each text, for it has no place in a file.
     Tracing file;
@@ -459,7 +459,7 @@ TEST(CStdioFileEx, MarkIsWrittenWhereThereIsNoStream)
     EXPECT_EQ(file.m_written, utf8Mark + "a" + utf8Mark + "b");
 }
 
-TEST(CTemplateSmartPtrArray, HoldsTheCallersBufferOrOneOfItsOwn)
+TEST(CTemplateSmartPtrArray, RefersToTheCallersBufferOrItsOwn)
 {
     char fixed[4] = "abc";
     {

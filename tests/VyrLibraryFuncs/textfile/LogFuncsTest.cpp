@@ -68,7 +68,7 @@ TEST(LogFuncs, LineHasDateTimeLevelAndMessageInQuotes)
     EXPECT_THAT(capture.Texts(), ElementsAre(CString(u"\"2024/01/05 10:30:00\",\"7\",\"It failed\"\r\n")));
 }
 
-TEST(LogFuncs, LevelIsTwoWhereNoneIsGiven)
+TEST(LogFuncs, LevelIsTwoByDefault)
 {
     const FixedClock clock(moment);
     const DebugCapture capture;

@@ -65,7 +65,7 @@ TEST_F(ApplicationFuncsFile, StagesArePrefixesBeforeTheReleaseAndWholeTextsFromT
     }
 }
 
-TEST_F(ApplicationFuncsFile, TextsComeFromTheirSections)
+TEST_F(ApplicationFuncsFile, TextsAreReadFromTheirSections)
 {
     Write("; comment\r\n[application]\r\nversion = RC1 \r\n[Online Support]\r\nUrl=https://a/\r\n"
           "[Send Feedback]\r\nurl=\"https://b/?x=1;y=2\"\r\n[Send Questionnaire]\r\nUrl=https://c/\r\n");
@@ -75,7 +75,7 @@ TEST_F(ApplicationFuncsFile, TextsComeFromTheirSections)
     EXPECT_EQ(ApplicationFuncs::GetSendQuestionnaireUrl(), u"https://c/");
 }
 
-TEST_F(ApplicationFuncsFile, EveryCallReadsTheFileAnew)
+TEST_F(ApplicationFuncsFile, EveryCallReadsTheFileAgain)
 {
     WriteStage("Alpha");
     EXPECT_EQ(ApplicationFuncs::GetLocalDataApplicationVersion(), u"Alpha");
@@ -83,7 +83,7 @@ TEST_F(ApplicationFuncsFile, EveryCallReadsTheFileAnew)
     EXPECT_EQ(ApplicationFuncs::GetLocalDataApplicationVersion(), u"Beta!");
 }
 
-TEST_F(ApplicationFuncsFile, MissingFileOrKeyReadsAsNothing)
+TEST_F(ApplicationFuncsFile, MissingFileOrKeyGivesAnEmptyText)
 {
     EXPECT_EQ(ApplicationFuncs::GetLocalDataApplicationVersion(), u"");
     EXPECT_EQ(Answers(), "000000");

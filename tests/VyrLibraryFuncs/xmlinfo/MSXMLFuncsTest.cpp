@@ -35,7 +35,7 @@ TEST_P(MSXMLFuncsTest, DocumentHasARoot)
     EXPECT_TRUE(root);
 }
 
-TEST_P(MSXMLFuncsTest, WhatCannotBeLoadedIsNull)
+TEST_P(MSXMLFuncsTest, DocumentThatDoesNotLoadIsNull)
 {
     EXPECT_FALSE(Load({}));
     EXPECT_FALSE(Load(Folder().Path(u"missing.xml")));

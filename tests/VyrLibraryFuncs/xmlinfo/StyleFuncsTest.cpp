@@ -75,7 +75,7 @@ TEST_F(StyleFuncsTest, AbsentAttributeRepeatsTheOneBeforeInTheSameMoreInfo)
     EXPECT_EQ(List(), (Items{{1, u"", u""}, {1, u"v", u"n"}, {2, u"v", u"n"}, {0, u"w", u""}, {0, u"w", u""}}));
 }
 
-TEST_F(StyleFuncsTest, IdThatIsNoNumberIsZero)
+TEST_F(StyleFuncsTest, InvalidIdIsZero)
 {
     EXPECT_EQ(Read("<r><design><moreinfo><item id='5'/><item id='x'/><item id=''/><item id=' 7 '/></moreinfo></design>"
                    "</r>"),
@@ -101,7 +101,7 @@ TEST_F(StyleFuncsTest, ElementsAreFoundAtAnyDepthAndWithAnyPrefix)
     EXPECT_EQ(List(), (Items{{4, u"", u""}}));
 }
 
-TEST_F(StyleFuncsTest, MissingFileLeavesTheList)
+TEST_F(StyleFuncsTest, MissingFileKeepsTheList)
 {
     StyleFuncs::SetDesignItemsList({{1, u"v", u"n"}});
     EXPECT_EQ(StyleFuncs::GetStylesInformation(Folder().Path(u"missing.xml")), 0);
@@ -109,7 +109,7 @@ TEST_F(StyleFuncsTest, MissingFileLeavesTheList)
     EXPECT_EQ(List().size(), 1U);
 }
 
-TEST_F(StyleFuncsTest, FileThatIsNotReadEmptiesTheList)
+TEST_F(StyleFuncsTest, FileThatDoesNotLoadEmptiesTheList)
 {
     for (const char* const document : {"", "not XML", "<r><design>", "<r/>", "<design/>", "<r><Design/></r>"}) {
         StyleFuncs::SetDesignItemsList({{1, u"v", u"n"}});
@@ -145,7 +145,7 @@ TEST_F(StyleFuncsTest, StopEndsTheListThatIsBeingWalked)
     }
 }
 
-TEST_F(StyleFuncsTest, PrivateOperationsTakeWhatIsLoaded)
+TEST_F(StyleFuncsTest, PrivateOperationsTakeALoadedDocument)
 {
     const auto document = MSXMLFuncs::LoadXmlFile(
         Folder().WriteFile(u"d.xml", "<r><design><moreinfo><item id='1'/><item id='2'/></moreinfo></design></r>"));

@@ -87,7 +87,7 @@ TEST_F(UpdatesDocumentTest, DocumentFillsTheSettings)
     EXPECT_EQ(UpdatesFuncs::GetCheckedDate(), u"date");
 }
 
-TEST_F(UpdatesDocumentTest, AttributesComeFromTheFirstElementAndItemsFromTheLast)
+TEST_F(UpdatesDocumentTest, AttributesAreThoseOfTheFirstElementAndItemsThoseOfTheLast)
 {
     EXPECT_EQ(Read("<r><update name='first' version='1'><moreinfo><item><description>f</description></item></moreinfo>"
                    "</update><update name='last' edition='e'><moreinfo><item><description>l</description></item>"
@@ -115,7 +115,7 @@ TEST_F(UpdatesDocumentTest, OnlyThePlatformsBitsSurviveANewReading)
     EXPECT_EQ(UpdatesFuncs::GetPlatformBit(), u"") << "present and empty";
 }
 
-TEST_F(UpdatesDocumentTest, WhatIsNotReadLeavesTheSettingsReset)
+TEST_F(UpdatesDocumentTest, DocumentThatDoesNotLoadLeavesTheSettingsReset)
 {
     for (const char* const document : {"", "not XML", "<r/>", "<r><UPDATE name='x'/></r>", "<update name='x'/>"}) {
         UpdatesFuncs::SetVersion(u"old");
@@ -158,7 +158,7 @@ TEST_F(UpdatesDocumentTest, LastCategoryAndDescriptionOfAnItemCount)
     EXPECT_EQ(List(), (Items{{2, u"bc"}}));
 }
 
-TEST_F(UpdatesDocumentTest, NestedElementsCountForEachThatTheyStandIn)
+TEST_F(UpdatesDocumentTest, NestedElementsCountForEachParent)
 {
     EXPECT_EQ(Read("<r><update><moreinfo><moreinfo><item><description>a</description><item><description>b</description>"
                    "</item></item></moreinfo></moreinfo></update></r>"),
@@ -224,7 +224,7 @@ TEST_F(UpdatesDocumentTest, DocumentWithoutARootIsNotRead)
     EXPECT_EQ(PrivateOperations::SetUpdatesAttributes(MSXML2::IXMLDOMDocumentPtr(documentClass)), 0);
 }
 
-TEST_F(UpdatesDocumentTest, ItemsAreCollectedFromAGivenList)
+TEST_F(UpdatesDocumentTest, ItemsAreReadFromAGivenList)
 {
     const auto document = MSXMLFuncs::LoadXmlFile(Folder().WriteFile(
         u"u.xml", "<r><moreinfo>" + ItemsOf(1) + "</moreinfo><moreinfo>" + ItemsOf(2) + "</moreinfo></r>"));

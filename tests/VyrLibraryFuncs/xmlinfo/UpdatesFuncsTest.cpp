@@ -88,7 +88,7 @@ int IsDue(const CString& checkedDate, const COleDateTime& now, int days)
 
 } // namespace
 
-TEST_F(UpdatesFuncsTest, SettingsComeBackAsTheyWereSet)
+TEST_F(UpdatesFuncsTest, SettingsKeepTheirValues)
 {
     UpdatesFuncs::SetType(u"a");
     UpdatesFuncs::SetProductName(u"b");
@@ -148,7 +148,7 @@ TEST_F(UpdatesFuncsTest, VersionOfOtherThanFourPartsIsNotNewer)
         EXPECT_EQ(UpdatesFuncs::CheckForUpdates(version), 0) << testing::PrintToString(CString(version));
 }
 
-TEST_F(UpdatesFuncsTest, AddressAndAgreementComeFromTheLocalData)
+TEST_F(UpdatesFuncsTest, AddressAndAgreementAreReadFromTheLocalData)
 {
     EXPECT_EQ(UpdatesFuncs::GetCheckForUpdatesUrl(), u"");
     EXPECT_EQ(UpdatesFuncs::GetAgreeIgnoreServer(), 0);
@@ -177,7 +177,7 @@ TEST_F(UpdatesFuncsTest, CheckedDateIsLoadedFromTheUsersFile)
     EXPECT_EQ(UpdatesFuncs::GetCheckedDate(), u"") << "there is no date";
 }
 
-TEST_F(UpdatesFuncsTest, SavingMakesTheUsersFileAnew)
+TEST_F(UpdatesFuncsTest, SavingWritesTheUsersFileAnew)
 {
     const std::string expected = Utf16("; Updates.ini\r\n[Updates]\r\nCheckedDate=2024/01/05 10:30:00\r\n");
     const FixedClock clock(COleDateTime(2024, 1, 5, 10, 30, 0));
@@ -220,7 +220,7 @@ TEST_F(UpdatesFuncsTest, DaysAreCountedFromDateToDate)
     EXPECT_EQ(IsDue(u"2024/03/02 00:00:00", now, -1), 1);
 }
 
-TEST_F(UpdatesFuncsTest, WhatIsNoDateIsNotDue)
+TEST_F(UpdatesFuncsTest, InvalidDateIsNotDue)
 {
     const COleDateTime now(2024, 3, 1, 0, 0, 0);
     for (const char16_t* const text : {u"", u"never", u"2024/02/30 00:00:00", u"2024/13/01"})

@@ -38,7 +38,7 @@ std::vector<Expectation> ReadTable(const std::filesystem::path& table)
     return expectations;
 }
 
-TEST(Corpus, EveryPictureSaysWhatIsExpected)
+TEST(Corpus, EveryPictureGivesTheExpectedTexts)
 {
     const char* const folder = std::getenv("VYR_CORPUS");
     if (!folder)

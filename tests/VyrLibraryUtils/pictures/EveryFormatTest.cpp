@@ -71,7 +71,7 @@ TEST(EveryFormat, EveryBeginningIsRightOrEmpty)
         }
 }
 
-TEST(EveryFormat, NoByteThatChangesMakesATextLongerThanTheFile)
+TEST(EveryFormat, NoChangedByteMakesATextLongerThanTheFile)
 {
     for (const FormatSample& sample : BuildEveryFormat({}))
         for (std::size_t place = 0; place < sample.bytes.size(); ++place)

@@ -83,7 +83,7 @@ TEST(Jpeg, MarkersWithoutALengthArePassedOver)
     EXPECT_EQ(FactsOf(BuildJpeg("\xFF\x01\xFF\xD0\xFF\xD7" + Exif)), BuiltFacts);
 }
 
-TEST(Jpeg, NothingBehindTheStartOfTheDataCounts)
+TEST(Jpeg, SegmentsBehindTheStartOfTheDataAreIgnored)
 {
     EXPECT_EQ(FactsOf(BuildJpeg("") + Exif), NoFacts);
     EXPECT_EQ(FactsOf(BuildJpeg(JpegSegment(0xDA, "scan") + Exif)), NoFacts);

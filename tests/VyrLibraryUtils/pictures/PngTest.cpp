@@ -55,7 +55,7 @@ TEST(Png, ExifBehindManyDataChunksIsFound)
     EXPECT_EQ(FactsOf(BuildPng("", data + PngChunk("eXIf", Tiff))), BuiltFacts);
 }
 
-TEST(Png, NothingBehindTheEndCounts)
+TEST(Png, ChunksBehindTheEndAreIgnored)
 {
     EXPECT_EQ(FactsOf(BuildPng("") + PngChunk("eXIf", Tiff)), NoFacts);
 }
@@ -126,7 +126,7 @@ TEST(Png, OnlyTheFirstFewPackedProfilesAreTried)
     EXPECT_EQ(FactsOf(BuildPng(useless + useless + useless + useless + useful)), NoFacts);
 }
 
-TEST(Png, AChunkNameThatIsNoneEndsTheFile)
+TEST(Png, AnInvalidChunkNameEndsTheFile)
 {
     EXPECT_EQ(FactsOf(BuildPng(Bytes(64, '\0') + PngChunk("eXIf", Tiff))), NoFacts);
 }

@@ -46,7 +46,7 @@ TEST(Tiff, GivesAllThreeTagsInBothByteOrders)
         EXPECT_EQ(FactsOf(BuildTiff(PictureFacts{.endian = endian})), BuiltFacts);
 }
 
-TEST(Tiff, MissingTagsAreEmptyWhateverStandsBesideThem)
+TEST(Tiff, MissingTagsAreEmptyBesideAnyOthers)
 {
     for (const Endian endian : BothOrders)
         EXPECT_EQ(FactsOf(BuildTiff(PictureFacts{"", "", "", endian})), NoFacts);
@@ -80,7 +80,7 @@ TEST(Tiff, MakerAndModelInTheExifDirectoryDoNotCount)
     EXPECT_EQ(FactsOf(BuildTiff(parts)).model, "");
 }
 
-TEST(Tiff, TextsOfUpToFourBytesStandInTheEntry)
+TEST(Tiff, TextsOfUpToFourBytesAreInTheEntry)
 {
     for (const Endian endian : BothOrders) {
         const PictureFacts facts{"", "A", "XYZ", endian};
@@ -111,7 +111,7 @@ TEST(Tiff, BlankAndZeroDatesAreEmpty)
     EXPECT_EQ(DateFrom(std::string(19, '\0')), "");
 }
 
-TEST(Tiff, DatesAreGivenAsTheyStand)
+TEST(Tiff, DatesAreUnchanged)
 {
     EXPECT_EQ(DateFrom("2004:02:30 99:99:99"), "2004:02:30 99:99:99");
     EXPECT_EQ(DateFrom("2004-02-03T04:05:06"), "2004-02-03T04:05:06");
@@ -127,7 +127,7 @@ TEST(Tiff, TextsWithAnotherTypeAreTakenWhereTheyAreTexts)
     EXPECT_EQ(MakeFrom(MakeEntry(0, "Nothing"sv)), "");
 }
 
-TEST(Tiff, ALoneNumberInPlaceOfATextIsGivenInDecimal)
+TEST(Tiff, ANumberInPlaceOfATextIsGivenInDecimal)
 {
     for (const Endian endian : BothOrders) {
         EXPECT_EQ(MakeFrom({0x010F, 3, 1, Number(12336, 2, endian)}, endian), "12336");
@@ -181,7 +181,7 @@ TEST(Tiff, EveryLinkIntoTheFileEndsWithoutHarm)
     }
 }
 
-TEST(Tiff, ADirectoryThatLinksToItselfIsTheFirstDirectoryAlone)
+TEST(Tiff, ADirectoryThatLinksToItselfIsReadOnce)
 {
     TiffParts parts = TiffPartsOf({});
     parts.image.push_back(AsciiEntry(0x9003, "2024:07:19 18:45:03"));
@@ -190,7 +190,7 @@ TEST(Tiff, ADirectoryThatLinksToItselfIsTheFirstDirectoryAlone)
     EXPECT_EQ(FactsOf(tiff), BuiltFacts);
 }
 
-TEST(Tiff, DirectoriesThatLinkInACircleEnd)
+TEST(Tiff, DirectoriesThatLinkInACycleEnd)
 {
     for (const Endian endian : BothOrders) {
         TiffParts parts = TiffPartsOf({.dateTimeOriginal = "", .endian = endian});
@@ -247,7 +247,7 @@ TEST(Tiff, HugeCountsAndOffsetsAreRefused)
     }
 }
 
-TEST(Tiff, AValueThatEndsWithTheFileIsThereAndOneByteMoreIsNot)
+TEST(Tiff, AValueMayEndWithTheFileButNotBehindIt)
 {
     TiffParts parts;
     parts.image = {MakeEntry(2, "At the end")};

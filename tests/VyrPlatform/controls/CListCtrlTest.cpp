@@ -74,7 +74,7 @@ TEST(CListCtrlTest, ListWithoutColumnsHasAHeader)
     EXPECT_EQ(Heading(ListOf(window), 0), std::nullopt);
 }
 
-TEST(CListCtrlTest, NoColumnStandsAtAnIndexOutsideTheList)
+TEST(CListCtrlTest, IndexesOutsideTheListHaveNoColumn)
 {
     const ListWindow window{u"a", u"b"};
     const CListCtrl list = ListOf(window);
@@ -131,7 +131,7 @@ TEST(CListCtrlTest, DraggedColumnKeepsItsIndex)
     EXPECT_EQ(Order(list, 4), (Indexes{3, 1, 2, 0}));
 }
 
-TEST(CListCtrlTest, OrderIsGivenForTheRightCountAlone)
+TEST(CListCtrlTest, OrderIsGivenOnlyForTheRightCount)
 {
     const ListWindow window{u"a", u"b", u"c"};
     EXPECT_EQ(Order(ListOf(window), 2), std::nullopt);
@@ -144,7 +144,7 @@ TEST(CListCtrlTest, ListWithoutHeaderHasNoHeaderControl)
     EXPECT_EQ(ListOf(window).GetHeaderCtrl(), nullptr);
 }
 
-TEST(CListCtrlTest, DestroyedWindowIsAskedInVain)
+TEST(CListCtrlTest, DestroyedWindowHasNoColumns)
 {
     ListWindow window{u"a"};
     CListCtrl list = ListOf(window);
@@ -156,7 +156,7 @@ TEST(CListCtrlTest, DestroyedWindowIsAskedInVain)
     EXPECT_EQ(Order(list, 1), std::nullopt);
 }
 
-TEST(CListCtrlTest, ListWithoutWindowIsAskedInVain)
+TEST(CListCtrlTest, ListWithoutWindowHasNoColumns)
 {
     CListCtrl list;
     EXPECT_EQ(list.GetHeaderCtrl(), nullptr);

@@ -30,7 +30,7 @@ TEST(Brotli, UnpacksUpToTheLimitWhereAnUnpackerIs)
     EXPECT_EQ(Brotli::Unpack(Packed, 0), "");
 }
 
-TEST(Brotli, DamagedDataGivesNoMoreThanItsSoundBeginning)
+TEST(Brotli, DamagedDataGivesAtMostItsIntactBeginning)
 {
     for (std::size_t size = 0; size < Packed.size(); ++size)
         EXPECT_TRUE(Original().starts_with(Brotli::Unpack(Packed.substr(0, size), 1'000'000)));

@@ -212,7 +212,7 @@ std::string Describe(const std::string& bytes)
 
 } // namespace
 
-TEST(PrivateProfile, EveryQuestionHasItsAnswer)
+TEST(PrivateProfile, EveryQueryGivesTheExpectedValue)
 {
     const ScratchFolder scratch;
     for (const Question& question : questions) {
@@ -226,7 +226,7 @@ TEST(PrivateProfile, EveryQuestionHasItsAnswer)
     EXPECT_GE(questions.size(), 100U);
 }
 
-TEST(PrivateProfile, WritingLeavesTheNormalForm)
+TEST(PrivateProfile, WritingGivesTheNormalForm)
 {
     const ScratchFolder scratch;
     for (const Change& change : changes) {
@@ -236,7 +236,7 @@ TEST(PrivateProfile, WritingLeavesTheNormalForm)
     }
 }
 
-TEST(PrivateProfile, MissingFileIsMade)
+TEST(PrivateProfile, MissingFileIsCreated)
 {
     const ScratchFolder scratch;
     const CString path = scratch.Path(u"new.ini");
@@ -248,7 +248,7 @@ TEST(PrivateProfile, MissingFileIsMade)
     EXPECT_EQ(PrivateProfile::ReadText(path, u"S", u"k", capacity), u"v");
 }
 
-TEST(PrivateProfile, WhereNoFileCanStandNothingIsWritten)
+TEST(PrivateProfile, NothingIsWrittenWhereNoFileIsPossible)
 {
     const ScratchFolder scratch;
     EXPECT_NE(PrivateProfile::WriteText(scratch.Path(u"missing/a.ini"), u"S", u"k", u"v"), 0U);
@@ -279,7 +279,7 @@ TEST(PrivateProfile, LongValuesAreCut)
     }
 }
 
-TEST(PrivateProfile, FileThatChangesIsReadAnew)
+TEST(PrivateProfile, ChangedFileIsReadAgain)
 {
     const ScratchFolder scratch;
     for (const char16_t value : {u'a', u'b', u'c', u'd'}) {

@@ -115,7 +115,7 @@ protected:
 
 } // namespace
 
-TEST_F(PropertyStorage, WrittenTextTakesThePlaceOfTheOldOneAndNothingElseChanges)
+TEST_F(PropertyStorage, WrittenTextReplacesTheOldOneAndNothingElseChanges)
 {
     const CompoundDocument document = SampleDocument();
     PropertyMap expected = ReadProperties(document.streams.at(summaryName));
@@ -252,7 +252,7 @@ TEST_F(PropertyStorage, SeveralWritesThroughOneDocumentAddUp)
     EXPECT_EQ(Summary()[author], StoredWideText(u"two"));
 }
 
-TEST_F(PropertyStorage, WhatIsNoCompoundDocumentIsNotOpened)
+TEST_F(PropertyStorage, OtherFilesAreNotOpened)
 {
     EXPECT_EQ(WriteTitle(scratch.Path(u"missing.doc"), u"x"), Result::fileNotFound);
     std::string garbage = SampleDocument().Bytes();

@@ -179,7 +179,7 @@ TEST_F(XmlDocumentTest, NodesOutliveTheirDocumentsPointer)
     EXPECT_EQ(TextOf(As<IXMLDOMElementPtr>(node)), u"kept");
 }
 
-TEST_F(XmlDocumentTest, ObjectsHaveTheInterfacesOfTheirKindAlone)
+TEST_F(XmlDocumentTest, ObjectsHaveOnlyTheInterfacesOfTheirKind)
 {
     const IXMLDOMElementPtr root = RootOf(Load("<r/>"));
     EXPECT_TRUE(As<IXMLDOMNodePtr>(root));
@@ -306,7 +306,7 @@ TEST_F(XmlDocumentTest, WrongDeclarationIsHeldAgainstTheBytes)
     EXPECT_EQ(TextOfRoot("<?xml version='1.0' encoding='windows-1252'?><r>\x93\xFA</r>"), u"\u201C\u00FA");
 }
 
-TEST_F(XmlDocumentTest, WhatIsNotWellFormedDoesNotLoad)
+TEST_F(XmlDocumentTest, MalformedDocumentDoesNotLoad)
 {
     for (const std::string_view bytes : {std::string_view(""),
                                          std::string_view("  \n"),
@@ -337,7 +337,7 @@ TEST_F(XmlDocumentTest, WhatIsNotWellFormedDoesNotLoad)
     EXPECT_EQ(TextOfRoot("<r>x</r> <!-- c -->\n"), u"x");
 }
 
-TEST_F(XmlDocumentTest, WhatIsNoFileDoesNotLoad)
+TEST_F(XmlDocumentTest, FolderAndMissingFileDoNotLoad)
 {
     EXPECT_FALSE(LoadPath({}));
     EXPECT_FALSE(LoadPath(Folder().Path(u"missing.xml")));
@@ -388,7 +388,7 @@ TEST_F(XmlDocumentTest, NullPointerIsAnError)
     }
 }
 
-TEST_F(XmlDocumentTest, TextsOfCOMComeBackAsTheyWere)
+TEST_F(XmlDocumentTest, TextsOfCOMAreConvertedBack)
 {
     for (const char16_t* const text : {u"", u"a", u"\u65E5\U0001F600"})
         EXPECT_EQ(FromBstr(ToBstr(text)), text);

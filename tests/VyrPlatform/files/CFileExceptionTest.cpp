@@ -17,7 +17,7 @@ int CauseOfReading(const CString& path)
 
 } // namespace
 
-TEST(CFileException, KnowsNothingUnlessTold)
+TEST(CFileException, HasNoValuesByDefault)
 {
     const CFileException exception;
     EXPECT_EQ(exception.m_cause, CFileException::none);
@@ -37,7 +37,7 @@ TEST(CFileException, CausesHaveTheirNumbers)
         EXPECT_EQ(causes[number], number);
 }
 
-TEST(CFileException, CauseComesFromTheSystemsErrorCode)
+TEST(CFileException, CauseBelongsToTheSystemsErrorCode)
 {
     const VyrTests::ScratchFolder scratch;
     EXPECT_EQ(CauseOfReading(scratch.WriteFile(u"a")), CFileException::none);

@@ -40,13 +40,13 @@ TEST(CFileFind, GivesEveryEntryAndDotsOnce)
     EXPECT_EQ(Names(scratch.Path(u"*")), expected);
 }
 
-TEST(CFileFind, EmptyFolderHasDotsAlone)
+TEST(CFileFind, EmptyFolderHasOnlyDots)
 {
     const ScratchFolder scratch;
     EXPECT_EQ(Names(scratch.Path(u"*.*")), (std::multiset<CString>{u".", u".."}));
 }
 
-TEST(CFileFind, TellsThatTheLastEntryIsTheLast)
+TEST(CFileFind, RecognisesTheLastEntry)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"a");
@@ -60,7 +60,7 @@ TEST(CFileFind, TellsThatTheLastEntryIsTheLast)
     EXPECT_EQ(finder.GetFileName(), last);
 }
 
-TEST(CFileFind, TellsNamePathAndRoot)
+TEST(CFileFind, GivesNamePathAndRoot)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"a.txt");
@@ -72,7 +72,7 @@ TEST(CFileFind, TellsNamePathAndRoot)
     }
 }
 
-TEST(CFileFind, TellsFoldersAndDots)
+TEST(CFileFind, RecognisesFoldersAndDots)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"a.txt");
@@ -112,7 +112,7 @@ TEST(CFileFind, LinkToAFolderIsNoFolder)
     EXPECT_TRUE(isFound);
 }
 
-TEST(CFileFind, FindsNothingWhereNoFolderIs)
+TEST(CFileFind, FindsNothingWithoutAFolder)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"file");

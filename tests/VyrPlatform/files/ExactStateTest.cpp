@@ -35,7 +35,7 @@ CString StateOf(const CString& path, Part part)
 
 } // namespace
 
-TEST(ExactState, TimeComesBackAlone)
+TEST(ExactState, TimeIsRestoredWithoutTheOthers)
 {
     const ScratchFolder scratch;
     for (const CString& path : {scratch.WriteFile(u"a", "x"), scratch.MakeFolder(u"folder")}) {
@@ -53,7 +53,7 @@ TEST(ExactState, TimeComesBackAlone)
     }
 }
 
-TEST(ExactState, TimeOfAReadOnlyFileComesBack)
+TEST(ExactState, TimeOfAReadOnlyFileIsRestored)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a", "x");
@@ -80,7 +80,7 @@ TEST(ExactState, CreationTimeComesBack)
     EXPECT_EQ(StateOf(path, Part::Created), before);
 }
 
-TEST(ExactState, AttributesComeBack)
+TEST(ExactState, AttributesAreRestored)
 {
     const ScratchFolder scratch;
     for (const CString& path : {scratch.WriteFile(u"a", "x"), scratch.MakeFolder(u"folder")}) {
@@ -97,7 +97,7 @@ TEST(ExactState, AttributesComeBack)
     }
 }
 
-TEST(ExactState, NothingIsReadAndRestoredWhereNothingStands)
+TEST(ExactState, MissingFileIsNeitherReadNorRestored)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");
@@ -111,7 +111,7 @@ TEST(ExactState, NothingIsReadAndRestoredWhereNothingStands)
     EXPECT_FALSE(scratch.Has(u"missing"));
 }
 
-TEST(ExactState, WhatIsNoStateIsRefusedAndChangesNothing)
+TEST(ExactState, InvalidStateIsRefusedAndChangesNothing)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");

@@ -62,7 +62,7 @@ TEST(FileAttributes, AreThoseThatWereSet)
     EXPECT_EQ(scratch.ReadFile(u"a"), "content");
 }
 
-TEST(FileAttributes, ReadOnlyComesAndGoesWithTheOthersKept)
+TEST(FileAttributes, ReadOnlyIsSetAndClearedWithoutTheOthers)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");
@@ -78,7 +78,7 @@ TEST(FileAttributes, ReadOnlyComesAndGoesWithTheOthersKept)
     EXPECT_EQ(FileAttributes::Get(path) & keptEverywhere, hidden | systemFile);
 }
 
-TEST(FileAttributes, OfNothingAreUnknownAndNotSet)
+TEST(FileAttributes, OfAMissingFileAreUnknownAndNotSet)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"a");
@@ -120,7 +120,7 @@ TEST(FileAttributes, LiftedReadOnlyLastsAsLongAsItsObject)
     const FileAttributes::LiftedReadOnly ofNothing(scratch.Path(u"missing"));
 }
 
-TEST(FileAttributes, NothingIsNotReadOnly)
+TEST(FileAttributes, MissingFileIsNotReadOnly)
 {
     const ScratchFolder scratch;
     constexpr char16_t withNul[] = u"a\0b";

@@ -46,7 +46,7 @@ class FileCopyOrMove : public testing::TestWithParam<Operation>
 
 } // namespace
 
-TEST_P(FileCopyOrMove, GivesTheContentToANewFile)
+TEST_P(FileCopyOrMove, CreatesAFileWithTheContent)
 {
     const ScratchFolder scratch;
     for (const std::size_t size : {0U, 1U, 4095U, 4096U, 4097U, 3'000'001U}) {
@@ -57,7 +57,7 @@ TEST_P(FileCopyOrMove, GivesTheContentToANewFile)
     }
 }
 
-TEST_P(FileCopyOrMove, ReplacesAFileThatStandsThere)
+TEST_P(FileCopyOrMove, ReplacesAnExistingFile)
 {
     const ScratchFolder scratch;
     const CString destination = scratch.WriteFile(u"b", "old content, longer than the new one");
@@ -120,7 +120,7 @@ TEST_P(FileCopyOrMove, FolderAsASourceFails)
     EXPECT_EQ(scratch.ReadFile(u"folder/a"), "content");
 }
 
-TEST_P(FileCopyOrMove, MissingSourceLeavesTheDestination)
+TEST_P(FileCopyOrMove, MissingSourceKeepsTheDestination)
 {
     const ScratchFolder scratch;
     const CString destination = scratch.WriteFile(u"b", "content");
@@ -133,7 +133,7 @@ TEST_P(FileCopyOrMove, MissingSourceLeavesTheDestination)
     EXPECT_EQ(CountEntries(scratch), 2U);
 }
 
-TEST_P(FileCopyOrMove, DestinationThatCannotBeLeavesTheSource)
+TEST_P(FileCopyOrMove, ImpossibleDestinationKeepsTheSource)
 {
     const ScratchFolder scratch;
     const CString source = scratch.WriteFile(u"a", "content");
@@ -186,7 +186,7 @@ TEST_P(FileCopyOrMove, PathsLongerThanTheOldLimitWork)
 INSTANTIATE_TEST_SUITE_P(FileCopy, FileCopyOrMove, testing::Values(&FileCopy::Copy, &FileCopy::Move),
                          [](const auto& information) { return information.index == 0 ? "Copy" : "Move"; });
 
-TEST(FileCopyCopy, LeavesTheSource)
+TEST(FileCopyCopy, KeepsTheSource)
 {
     const ScratchFolder scratch;
     EXPECT_EQ(FileCopy::Copy(scratch.WriteFile(u"a", "content"), scratch.Path(u"b")), 0U);

@@ -80,7 +80,7 @@ TEST(FileIdentity, IsOfALinkItself)
     EXPECT_NE(LookAtFile(scratch.Path(u"link")).identity, LookAtFile(target).identity);
 }
 
-TEST(FileIdentity, SaysWhyThereIsNothing)
+TEST(FileIdentity, GivesTheReasonForAMissingEntry)
 {
     const ScratchFolder scratch;
     EXPECT_EQ(LookAtFile(scratch.Path(u"nothing")).kind, Kind::Missing);

@@ -76,7 +76,7 @@ TEST(FileReader, ReadsBeyondFourGigabytes)
     EXPECT_EQ(ReadAt(reader, offset - 2, 3), std::string("\0\0f", 3));
 }
 
-TEST(FileReader, ReadsMoreThanOneCallGives)
+TEST(FileReader, ReadsMoreThanOneCallReturns)
 {
     const ScratchFolder scratch;
     std::string content(3'000'000, '\0');
@@ -86,7 +86,7 @@ TEST(FileReader, ReadsMoreThanOneCallGives)
     EXPECT_TRUE(ReadAt(reader, 0, content.size() + 1) == content);
 }
 
-TEST(FileReader, DoesNotOpenWhatIsNoFile)
+TEST(FileReader, OpensOnlyFiles)
 {
     const ScratchFolder scratch;
     constexpr char16_t withNul[] = u"a\0b";
@@ -124,7 +124,7 @@ TEST(FileReader, ReadsTheBeginningWhileItOpens)
     EXPECT_EQ(empty.BeginningSize(), 0U);
 }
 
-TEST(FileReader, DoesNotReadTheBeginningOfWhatIsNoFile)
+TEST(FileReader, ReadsTheBeginningOnlyOfFiles)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"full/file", "content");

@@ -83,7 +83,7 @@ TEST(FileStream, WritesAtItsPlace)
     EXPECT_EQ(scratch.ReadFile(u"a"), std::string("CONtent\0\0end", 12));
 }
 
-TEST(FileStream, CreationSaysWhatBecomesOfTheFile)
+TEST(FileStream, CreationDecidesOnExistingAndMissingFiles)
 {
     const ScratchFolder scratch;
     const CString path = scratch.Path(u"a");
@@ -120,7 +120,7 @@ TEST(FileStream, ReadOnlyFileIsNotOpenedForWriting)
     EXPECT_EQ(Read(stream, 100), "content");
 }
 
-TEST(FileStream, WhatIsNoFileDoesNotOpen)
+TEST(FileStream, OnlyFilesOpen)
 {
     const ScratchFolder scratch;
     constexpr char16_t withNul[] = u"a\0b";

@@ -31,7 +31,7 @@ CString MakeDeepFolder(const ScratchFolder& scratch)
 
 } // namespace
 
-TEST(FileSystemQuery, TellsAFileWithItsSize)
+TEST(FileSystemQuery, GivesAFileWithItsSize)
 {
     const ScratchFolder scratch;
     const FileSystem::Entry entry = FileSystem::Query(scratch.WriteFile(u"a.txt", "twelve bytes"));
@@ -41,7 +41,7 @@ TEST(FileSystemQuery, TellsAFileWithItsSize)
     EXPECT_EQ(FileSystem::Query(scratch.WriteFile(u"empty")).size, 0);
 }
 
-TEST(FileSystemQuery, TellsAFolderWithoutASize)
+TEST(FileSystemQuery, GivesAFolderWithoutASize)
 {
     const ScratchFolder scratch;
     const FileSystem::Entry entry = FileSystem::Query(scratch.MakeFolder(u"folder"));
@@ -51,7 +51,7 @@ TEST(FileSystemQuery, TellsAFolderWithoutASize)
     EXPECT_NE(entry.modified, 0);
 }
 
-TEST(FileSystemQuery, TellsTheFileTimes)
+TEST(FileSystemQuery, GivesTheFileTimes)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");
@@ -63,7 +63,7 @@ TEST(FileSystemQuery, TellsTheFileTimes)
     EXPECT_EQ(entry.accessed, accessed);
 }
 
-TEST(FileSystemQuery, TellsASizeAboveFourGigabytes)
+TEST(FileSystemQuery, GivesASizeAboveFourGigabytes)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"large");
@@ -83,7 +83,7 @@ TEST(FileSystemQuery, NothingIsMissing)
     EXPECT_EQ(FileSystem::Query(u"").kind, Kind::Missing);
 }
 
-TEST(FileSystemQuery, NothingStandsBelowAFile)
+TEST(FileSystemQuery, NothingExistsBelowAFile)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"a.txt", "content");
@@ -171,7 +171,7 @@ TEST(FileSystemLinks, LinkToAFolderIsAFolder)
     EXPECT_TRUE(FileSystem::IsFolder(scratch.Path(u"link")));
 }
 
-TEST(FileSystemLinks, LinkToNothingExistsAsOther)
+TEST(FileSystemLinks, BrokenLinkExistsAsOther)
 {
     const ScratchFolder scratch;
     if (const std::string reason = VyrTests::MakeLink(scratch.Path(u"nothing"), scratch.Path(u"link")); !reason.empty())
@@ -183,7 +183,7 @@ TEST(FileSystemLinks, LinkToNothingExistsAsOther)
     EXPECT_FALSE(FileSystem::IsFolder(scratch.Path(u"link")));
 }
 
-TEST(FileSystemLinks, LinksInACircleAreOther)
+TEST(FileSystemLinks, LinksInACycleAreOther)
 {
     const ScratchFolder scratch;
     if (const std::string reason = VyrTests::MakeLink(scratch.Path(u"b"), scratch.Path(u"a")); !reason.empty())
@@ -194,14 +194,14 @@ TEST(FileSystemLinks, LinksInACircleAreOther)
     EXPECT_FALSE(FileSystem::Exists(scratch.Path(u"a/below")));
 }
 
-TEST(FileSystemCreateFolder, MakesAFolderThatWasNotThere)
+TEST(FileSystemCreateFolder, CreatesAMissingFolder)
 {
     const ScratchFolder scratch;
     EXPECT_EQ(FileSystem::CreateFolder(scratch.Path(u"new")), 0U);
     EXPECT_TRUE(std::filesystem::is_directory(VyrTests::ToStdPath(scratch.Path(u"new"))));
 }
 
-TEST(FileSystemCreateFolder, RefusesWhatIsThere)
+TEST(FileSystemCreateFolder, RefusesAnExistingFolder)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"file", "content");
@@ -229,7 +229,7 @@ TEST(FileSystemLinkTarget, IsTheTextOfTheLink)
     EXPECT_GE(FileSystem::GetLinkTarget(scratch.Path(u"dangling")).value_or(CString()).Find(u"é"), 0);
 }
 
-TEST(FileSystemLinkTarget, IsNothingWhereNoLinkIs)
+TEST(FileSystemLinkTarget, IsNothingWithoutALink)
 {
     const ScratchFolder scratch;
     for (const CString& path : {scratch.WriteFile(u"file"), scratch.MakeFolder(u"folder"), scratch.Path(u"missing")})
@@ -254,12 +254,12 @@ TEST(FileSystemJoinPath, PutsOneSeparatorBetweenFolderAndName)
     EXPECT_EQ(FileSystem::JoinPath(separator, u"name"), separator + u"name");
 }
 
-TEST(FileSystemJoinPath, NameInNoFolderIsTheNameAlone)
+TEST(FileSystemJoinPath, NameInNoFolderIsTheName)
 {
     EXPECT_EQ(FileSystem::JoinPath(u"", u"name"), u"name");
 }
 
-TEST(FileSystemRemoveFile, TakesAwayTheFileAlone)
+TEST(FileSystemRemoveFile, RemovesOnlyTheFile)
 {
     const ScratchFolder scratch;
     EXPECT_EQ(FileSystem::RemoveFile(scratch.WriteFile(u"a", "content")), 0U);

@@ -29,12 +29,12 @@ void ExpectEveryDayComesBack()
     }
 }
 
-TEST(FileTimesForWriting, EveryDayComesBackInTheMachinesOwnZone)
+TEST(FileTimesForWriting, EveryDayIsReadBackInTheMachinesOwnZone)
 {
     ExpectEveryDayComesBack();
 }
 
-TEST(FileTimesForWriting, EveryDayComesBackWhereClocksAreTurned)
+TEST(FileTimesForWriting, EveryDayIsReadBackWhereClocksAreTurned)
 {
     const TimeZone zone("Europe/Berlin");
     if (!zone.IsSet())
@@ -59,7 +59,7 @@ TEST(FileTimesForWriting, LocalTimeBefore1601IsNone)
     EXPECT_TRUE(FileTimes::FromLocalForWriting(COleDateTime(9999, 12, 31, 23, 59, 59)));
 }
 
-TEST(FileTimesForWriting, LocalTimeThatIsNotValidIsNone)
+TEST(FileTimesForWriting, InvalidLocalTimeGivesNoFileTime)
 {
     for (const auto status : {COleDateTime::invalid, COleDateTime::null}) {
         COleDateTime none(2024, 1, 5, 10, 30, 0);

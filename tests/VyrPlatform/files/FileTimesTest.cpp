@@ -95,7 +95,7 @@ TEST(FileTimes, CreationOfANewFileIsNow)
     EXPECT_LE(*created, now() + ticksPerSecond);
 }
 
-TEST(FileTimes, NothingHasNone)
+TEST(FileTimes, MissingFileHasNone)
 {
     const ScratchFolder scratch;
     constexpr char16_t withNul[] = u"a\0b";
@@ -172,7 +172,7 @@ TEST(FileTimes, AreWrittenToTheTick)
     EXPECT_EQ(scratch.ReadFile(u"a"), "content");
 }
 
-TEST(FileTimes, ThatAreZeroAreLeftAlone)
+TEST(FileTimes, ThatAreZeroAreKept)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");
@@ -219,7 +219,7 @@ TEST(FileTimes, OfAReadOnlyFileAreNotWritten)
     VyrTests::SetReadOnly(path, false);
 }
 
-TEST(FileTimes, ArePutOnWhatALinkLeadsTo)
+TEST(FileTimes, AreSetOnTheTargetOfALink)
 {
     const ScratchFolder scratch;
     const CString file = scratch.WriteFile(u"a");
@@ -232,7 +232,7 @@ TEST(FileTimes, ArePutOnWhatALinkLeadsTo)
     EXPECT_NE(FileTimes::Write(scratch.Path(u"dangling"), {.modified = time}), 0U);
 }
 
-TEST(FileTimes, OfNothingAreNotSet)
+TEST(FileTimes, OfAMissingFileAreNotSet)
 {
     const ScratchFolder scratch;
     constexpr FileTicks time = Utc(2001y / July / 19, 18, 45, 3);

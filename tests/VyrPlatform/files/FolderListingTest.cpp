@@ -62,7 +62,7 @@ TEST(FolderListing, EmptyFolderHasNoEntries)
     EXPECT_TRUE(Names(scratch.Path()).empty());
 }
 
-TEST(FolderListing, GivesDotsWhenAsked)
+TEST(FolderListing, GivesDotsOnRequest)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"a");
@@ -80,7 +80,7 @@ TEST(FolderListing, TakesASeparatorAtTheEnd)
               std::multiset<CString>{u"a"});
 }
 
-TEST(FolderListing, SaysWhyAFolderDoesNotOpen)
+TEST(FolderListing, GivesTheReasonWhenAFolderDoesNotOpen)
 {
     const ScratchFolder scratch;
     constexpr char16_t withNul[] = u"folder\0b";
@@ -141,7 +141,7 @@ TEST(FolderListing, EntriesMayGoWhileTheyAreWalked)
     EXPECT_EQ(names, (std::multiset<CString>{u"a", u"b", u"c"}));
 }
 
-TEST(FolderListing, TellsWhatALinkLeadsTo)
+TEST(FolderListing, GivesTheKindOfALinksTarget)
 {
     const ScratchFolder scratch;
     const CString links = scratch.MakeFolder(u"links");

@@ -31,7 +31,7 @@ TEST(FullPath, ARelativePathStartsInTheCurrentFolder)
     EXPECT_EQ(GetFullPath(u"."), VyrPlatform::Process::GetCurrentFolder());
 }
 
-TEST(FullPath, AFullPathStaysWhatItIs)
+TEST(FullPath, AFullPathIsUnchanged)
 {
     const CString full = Here(u"a b");
     EXPECT_EQ(GetFullPath(full), full);

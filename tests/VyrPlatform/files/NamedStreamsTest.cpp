@@ -33,7 +33,7 @@ TEST(NamedStreams, FileWithoutZoneMarkGivesAnError)
     EXPECT_EQ(scratch.ReadFile(u"a.zip"), "content");
 }
 
-TEST(NamedStreams, ZoneMarkOfNothingGivesAnError)
+TEST(NamedStreams, ZoneMarkOfAMissingFileGivesAnError)
 {
     const ScratchFolder scratch;
     constexpr char16_t withNul[] = u"a\0b";
@@ -103,7 +103,7 @@ TEST(NamedStreams, StreamThatIsLargerThanAMarkIsNotRead)
     EXPECT_NE(error, 0U);
 }
 
-TEST(NamedStreams, ZoneMarkOfNothingIsNeitherReadNorWritten)
+TEST(NamedStreams, ZoneMarkOfAMissingFileIsNeitherReadNorWritten)
 {
     const ScratchFolder scratch;
     std::uint32_t error = 0;

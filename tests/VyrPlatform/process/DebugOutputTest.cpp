@@ -10,7 +10,7 @@
 using namespace VyrPlatform;
 using VyrTests::DebugCapture;
 
-TEST(DebugOutputTest, SinkGetsEachTextAsItStands)
+TEST(DebugOutputTest, SinkGetsEachTextUnchanged)
 {
     using namespace std::string_view_literals;
     const DebugCapture capture;

@@ -28,7 +28,7 @@ TEST(Environment, VariablesInATextAreReplaced)
     EXPECT_EQ(ExpandEnvironment(u"%VYR_NO_SUCH% %PATH%%PATH%", plenty), CString::Join({u"%VYR_NO_SUCH% ", path, path}));
 }
 
-TEST(Environment, WhatNamesNoVariableStays)
+TEST(Environment, UnknownVariableIsKept)
 {
     for (const CString text :
          {u"", u"plain", u"%", u"%%", u"%%%", u"50% off", u"%VYR_NO_SUCH%", u"%VYR NO SUCH% %", u"x%y%z"})

@@ -34,7 +34,7 @@ int DrainsUntilStop(int limit)
 
 } // namespace
 
-TEST(MessageQueueTest, IdleThreadIsNotAskedToStop)
+TEST(MessageQueueTest, IdleThreadGetsNoStop)
 {
     OnNewThread([] {
         EXPECT_FALSE(DrainOne());
@@ -113,7 +113,7 @@ TEST(MessageQueueTest, WorkAfterAStopIsStillDone)
     });
 }
 
-TEST(MessageQueueTest, StopsPostedApartAreToldApart)
+TEST(MessageQueueTest, StopsPostedSeparatelyAreReturnedSeparately)
 {
     OnNewThread([] {
         const MessagePosting posting;
@@ -207,7 +207,7 @@ TEST(MessageQueueTest, EventsOfOneThreadStayItsOwn)
     });
 }
 
-TEST(MessageQueueTest, WorkThatNobodyRanIsReleased)
+TEST(MessageQueueTest, WorkThatWasNotRunIsReleased)
 {
     const auto held = std::make_shared<int>(1);
     OnNewThread([&held] {

@@ -50,7 +50,7 @@ TEST(ProcessTest, ProgramWithoutVersionReadsZerosAndEmptyTexts)
     EXPECT_EQ(VersionOf(u"PlatformProbe"), u"0.0.0.0||\n");
 }
 
-TEST(ProcessTest, SystemFolderIsThere)
+TEST(ProcessTest, SystemFolderExists)
 {
     const CString folder = Process::GetSystemFolder();
     EXPECT_TRUE(FileSystem::IsFolder(folder));

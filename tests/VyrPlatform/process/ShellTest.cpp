@@ -56,7 +56,7 @@ TEST(Shell, MissingProgramIsNumberTwo)
     EXPECT_EQ(Shell::Start(nullptr, scratch.Path(u"missing.exe"), u"/x"), 2U);
 }
 
-TEST(Shell, SetStarterIsAskedInPlaceOfTheSystem)
+TEST(Shell, SetStarterIsCalledInsteadOfTheSystem)
 {
     Shell::Window window = nullptr;
     CString started;

@@ -8,7 +8,7 @@
 using VyrPlatform::SystemLibrary;
 using VyrTests::ScratchFolder;
 
-TEST(SystemLibrary, WhatIsNoLibraryIsNotLoadedAndHasNoFunctions)
+TEST(SystemLibrary, OtherFilesAreNotLoadedAndHaveNoFunctions)
 {
     const ScratchFolder scratch;
     for (const CString& path :

@@ -69,7 +69,7 @@ Key OpenUser(const CString& path)
 INSTANTIATE_TEST_SUITE_P(Forms, RegistryContract, testing::ValuesIn(VyrTests::RegistryForms()),
                          [](const auto& form) { return form.param.name; });
 
-TEST_P(RegistryContract, ValuesOfEveryTypeComeBackByteByByte)
+TEST_P(RegistryContract, ValuesOfEveryTypeAreReadByteForByte)
 {
     RegistryTree tree;
     const std::vector<std::pair<CString, std::string>> contents = {
@@ -103,7 +103,7 @@ TEST_P(RegistryContract, ValuesOfEveryTypeComeBackByteByByte)
     }
 }
 
-TEST_P(RegistryContract, LongTextsComeBackWhole)
+TEST_P(RegistryContract, LongTextsAreReadWhole)
 {
     RegistryTree tree;
     for (const int length : {254, 255, 256, 258, 259, 260, 261, 32'766, 32'767})
@@ -114,7 +114,7 @@ TEST_P(RegistryContract, LongTextsComeBackWhole)
         EXPECT_EQ(Read(key.Get(), name), (Answer{Error::none, type, static_cast<std::uint32_t>(bytes.size()), bytes}));
 }
 
-TEST_P(RegistryContract, ValueThatDoesNotFitTellsItsSize)
+TEST_P(RegistryContract, SizeOfAValueThatDoesNotFitIsReturned)
 {
     const auto shown =
         GetParam().show({{}, {{u"K", u"v", 1, TextBytes(CString(u'v', 260))}, {u"K", u"q", 4, "12345"}}});
@@ -146,7 +146,7 @@ TEST_P(RegistryContract, DefaultValueHasTheEmptyName)
     EXPECT_TRUE(ValueNames(none.Get()).empty());
 }
 
-TEST_P(RegistryContract, KeysComeInTheOrderOfTheirUpperCasedNames)
+TEST_P(RegistryContract, KeysAreInTheOrderOfTheirUpperCasedNames)
 {
     const std::vector<CString> names = {u"10", u"9", u"a", u"B", u"c", u"{1}", u"É", u"ж", u"日本"};
     RegistryTree tree;
@@ -157,7 +157,7 @@ TEST_P(RegistryContract, KeysComeInTheOrderOfTheirUpperCasedNames)
     EXPECT_EQ(KeyNames(key.Get()), names);
 }
 
-TEST_P(RegistryContract, EnumerationAnswersAtAnyIndexInAnyOrder)
+TEST_P(RegistryContract, EnumerationWorksAtAnyIndexInAnyOrder)
 {
     RegistryTree tree;
     std::vector<CString> names;
@@ -206,7 +206,7 @@ TEST_P(RegistryContract, PathsLeadDownFromRootKeysAndFromOpenOnes)
     EXPECT_EQ(KeyNames(itself.Get()), (std::vector<CString>{u"C"}));
 }
 
-TEST_P(RegistryContract, WhatIsMissingIsNotFound)
+TEST_P(RegistryContract, MissingKeysAndValuesAreNotFound)
 {
     const auto shown = GetParam().show({{u"A"}, {}});
     for (const CString path : {u"B", u"A\\B", u"B\\A", u"A B", u"v"})
@@ -251,7 +251,7 @@ TEST(Registry, KeyIsCreatedWithThoseAboveItAndFoundAgain)
     EXPECT_FALSE(Key::Open(HKEY_LOCAL_MACHINE, u"New", Access::Read).IsOpen()) << "another root";
 }
 
-TEST(Registry, NumberReplacesWhatWasThere)
+TEST(Registry, NumberReplacesTheFormerValue)
 {
     ScratchRegistry registry;
     registry.SetText(HKEY_CURRENT_USER, u"K", u"Value", u"a text");
@@ -273,7 +273,7 @@ TEST(Registry, KeyOpenedForReadingRefusesChanges)
     EXPECT_EQ(Read(key.Get(), u"v").bytes, NumberBytes(1));
 }
 
-TEST(Registry, ValueIsRemovedAlone)
+TEST(Registry, OnlyTheValueIsRemoved)
 {
     ScratchRegistry registry;
     registry.SetNumber(HKEY_CURRENT_USER, u"K", u"a", 1);
@@ -286,7 +286,7 @@ TEST(Registry, ValueIsRemovedAlone)
     EXPECT_EQ(EnumerateValue(key.Get(), 1, 260).error, Error::noMoreItems);
 }
 
-TEST(Registry, TreeIsRemovedWithAllBelowAndNothingBeside)
+TEST(Registry, TreeIsRemovedWithAllKeysBelowAndNoOther)
 {
     ScratchRegistry registry;
     registry.AddKey(HKEY_CURRENT_USER, u"Base\\Gone\\Below\\Deeper");
@@ -303,7 +303,7 @@ TEST(Registry, TreeIsRemovedWithAllBelowAndNothingBeside)
     EXPECT_EQ(KeyNames(base.Get()).size(), 1U);
 }
 
-TEST(Registry, OpenKeyThatWasRemovedSaysSo)
+TEST(Registry, OpenKeyThatWasRemovedGivesItsError)
 {
     ScratchRegistry registry;
     registry.AddKey(HKEY_CURRENT_USER, u"Base\\Gone\\Below");

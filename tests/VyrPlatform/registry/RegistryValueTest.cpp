@@ -36,7 +36,7 @@ private:
 
 } // namespace
 
-TEST_F(RegistryValue, TextsOfBothTypesAreReadAsTheyStand)
+TEST_F(RegistryValue, TextsOfBothTypesAreReadUnchanged)
 {
     EXPECT_EQ(Text(ValueType::text, TextBytes(u"plain")), u"plain");
     EXPECT_EQ(Text(ValueType::expandableText, TextBytes(u"%PATH%")), u"%PATH%");
@@ -93,7 +93,7 @@ TEST_F(RegistryValue, ShortNumberCountsWithZerosAboveIt)
     EXPECT_EQ(Number(ValueType::number, ""), 0U);
 }
 
-TEST_F(RegistryValue, WhatIsNoNumberOfFourBytesIsNone)
+TEST_F(RegistryValue, OnlyNumbersOfUpToFourBytesAreRead)
 {
     EXPECT_FALSE(Number(ValueType::number, "12345").has_value());
     for (const std::uint32_t type : {0U, 1U, 2U, 3U, 5U, 11U})

@@ -68,7 +68,7 @@ TEST(CString, CopiesShareTheTextUntilOneIsChanged)
     EXPECT_EQ(Text(original), u"shared");
 }
 
-TEST(CString, UpperCasingACopyLeavesTheOriginal)
+TEST(CString, UpperCasingACopyKeepsTheOriginal)
 {
     const CString original = u"name";
     CString copy = original;
@@ -144,7 +144,7 @@ TEST(CString, PartsAreCutAtTheEdges)
     EXPECT_EQ(Text(CString().Mid(0, 1)), u"");
 }
 
-TEST(CString, FindAnswersMinusOneWhereNothingIsFound)
+TEST(CString, FindGivesMinusOneWhereNothingIsFound)
 {
     const CString text = u"abcabc";
     EXPECT_EQ(text.Find(u"bc"), 1);
@@ -244,7 +244,7 @@ TEST(CString, FormatPutsTextsInOrderAndNeverReadsThem)
     EXPECT_EQ(Text(text), u"abab");
 }
 
-TEST(CString, FormatLeavesWhatItCannotFillAsItIsWritten)
+TEST(CString, FormatKeepsInvalidConversions)
 {
     EXPECT_EQ(Formatted(u"%d %s"), u"%d %s");
     EXPECT_EQ(Formatted(u"100%"), u"100%");
@@ -262,7 +262,7 @@ TEST(CString, AnImmenseWidthIsBounded)
     EXPECT_EQ(text.back(), u'1');
 }
 
-TEST(CString, CompareNoCaseIgnoresCaseAlone)
+TEST(CString, CompareNoCaseIgnoresOnlyCase)
 {
     EXPECT_NE(CString(u"Straße").CompareNoCase(u"sTRASSE"), 0);
     EXPECT_EQ(CString(u"ÄÖÜ.Jpg").CompareNoCase(u"äöü.jPG"), 0);

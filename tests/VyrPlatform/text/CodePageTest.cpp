@@ -161,7 +161,7 @@ std::string Describe(const Same& row)
 
 } // namespace
 
-TEST(CodePage, TextThatThePageHoldsIsSameBothWays)
+TEST(CodePage, TextOfThePageIsConvertedInBothDirections)
 {
     for (const Same& row : sameBothWays) {
         EXPECT_EQ(ToText(row.codePage, row.bytes), row.text) << Describe(row);
@@ -169,7 +169,7 @@ TEST(CodePage, TextThatThePageHoldsIsSameBothWays)
     }
 }
 
-TEST(CodePage, LetterWithMarkAndWhatIsLackingAreWritten)
+TEST(CodePage, LetterWithMarkAndMissingCharactersAreWritten)
 {
     for (const Same& row : onlyWritten)
         EXPECT_EQ(ToBytes(row.codePage, row.text), row.bytes) << Describe(row);
@@ -181,7 +181,7 @@ TEST(CodePage, CutSequencesAreRead)
         EXPECT_EQ(ToText(row.codePage, row.bytes), row.text) << Describe(row);
 }
 
-TEST(CodePage, AsciiStandsForItselfInEveryPage)
+TEST(CodePage, AsciiIsUnchangedInEveryPage)
 {
     std::string bytes;
     for (int byte = 1; byte < 0x80; ++byte)
@@ -193,7 +193,7 @@ TEST(CodePage, AsciiStandsForItselfInEveryPage)
     }
 }
 
-TEST(CodePage, WhatIsReadFromOneByteIsWrittenAsThatByte)
+TEST(CodePage, CharacterReadFromOneByteIsWrittenAsThatByte)
 {
     for (const Same& row : sameBothWays) {
         // In the pages of two bytes most bytes are half a character; ASCII reads what it lacks in its own way.
@@ -251,7 +251,7 @@ TEST(CodePage, ZeroIsTheAnsiPage)
     EXPECT_EQ(ToText(0, "\xC3\xA4"), ToText(ansi, "\xC3\xA4"));
 }
 
-TEST(CodePage, LongTextComesThrough)
+TEST(CodePage, LongTextIsConverted)
 {
     CString text;
     std::string bytes;

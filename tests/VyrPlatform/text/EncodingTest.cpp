@@ -183,7 +183,7 @@ TEST(EncodingTest, OtherLoneSurrogatesOfNamesAreWrittenInThreeBytes)
     EXPECT_EQ(Encoding::ToNameBytes(u"\xDFFF"sv), "\xED\xBF\xBF");
 }
 
-TEST(EncodingTest, AppendingKeepsWhatIsThere)
+TEST(EncodingTest, AppendingKeepsTheFormerBytes)
 {
     std::string bytes = "x";
     Encoding::AppendUtf8(bytes, u"\u00E4");
@@ -191,7 +191,7 @@ TEST(EncodingTest, AppendingKeepsWhatIsThere)
     EXPECT_EQ(bytes, "x\xC3\xA4\x80");
 }
 
-TEST(EncodingTest, NamesOfAnyBytesComeBackExactly)
+TEST(EncodingTest, NamesOfAnyBytesAreConvertedBackExactly)
 {
     std::mt19937 random(20240719);
     for (int round = 0; round < 100000; ++round) {
@@ -224,7 +224,7 @@ TEST(EncodingTest, NoLengthAndNoPositionCutsACharacter)
     }
 }
 
-TEST(EncodingTest, LongTextsOfCharactersOfEveryLengthComeBack)
+TEST(EncodingTest, LongTextsOfCharactersOfEveryLengthAreConvertedBack)
 {
     std::string bytes;
     std::mt19937 random(7);

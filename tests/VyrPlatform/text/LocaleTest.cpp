@@ -89,7 +89,7 @@ TEST(LocaleTest, LetterWhoseCapitalNeedsMoreUnitsStays)
     }
 }
 
-TEST(LocaleTest, EveryLetterHasTheCaseThatUnicodeGivesItUnderEveryLocale)
+TEST(LocaleTest, EveryLetterHasUnicodesCaseUnderEveryLocale)
 {
     const auto expected = [](std::span<const VyrTests::CaseRun> runs) {
         std::u16string units = AllUnits();
@@ -124,7 +124,7 @@ TEST(LocaleTest, NoLocaleChangesTheLettersI)
     }
 }
 
-TEST(LocaleTest, SurrogatesAreLeftAlone)
+TEST(LocaleTest, SurrogatesAreNotChanged)
 {
     const UserLocale locale(u"de_DE");
     // U+10428 is a small letter of the Deseret alphabet, which lies beyond one code unit.
@@ -327,7 +327,7 @@ TEST(LocaleTest, NamesOfOneLocaleInEveryFormMeanTheSame)
     }
 }
 
-TEST(LocaleTest, UnknownLocaleStillAnswers)
+TEST(LocaleTest, UnknownLocaleHasTexts)
 {
     for (const char16_t* name : {u"xx_YY", u"not a locale", u"@", u"_", u"....", u"\xD800"}) {
         const UserLocale locale(name);

@@ -24,7 +24,7 @@ TEST(Surrogates, AreFirstAndSecondHalves)
     EXPECT_EQ(low, 1024u);
 }
 
-TEST(Surrogates, MakeOneCharacterInPairsAlone)
+TEST(Surrogates, MakeOneCharacterOnlyInPairs)
 {
     EXPECT_TRUE(BeginsWithPair(u"\U0001F600x"));
     EXPECT_FALSE(BeginsWithLoneSurrogate(u"\U0001F600"));

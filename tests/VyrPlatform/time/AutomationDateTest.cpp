@@ -43,7 +43,7 @@ TEST(AutomationDate, ReadsTheShortDateOfTheUser)
     EXPECT_EQ(Parsed(text), "2024-11-25 00:00:00");
 }
 
-TEST(AutomationDate, GivesNothingForWhatIsNoDateTime)
+TEST(AutomationDate, GivesNothingForOtherTexts)
 {
     for (const char16_t* const text : {u"", u" ", u"abc", u"2024-01-05T10:30:00", u"2024/02/30 10:30:00",
                                        u"2024/13/13 00:00:00", u"2024/01/05 24:00:00", u"2024/01/05 10:60:00"})

@@ -51,7 +51,7 @@ TEST(COleDateTime, FieldsAreReadToTheNearestSecond)
     ExpectFields(COleDateTime(-2.0 - (86400.0 - 0.4) * second), 1899, 12, 29, 0, 0, 0);
 }
 
-TEST(COleDateTime, FieldsOfWhatIsNotValidAreMinusOne)
+TEST(COleDateTime, FieldsOfAnInvalidDateTimeAreMinusOne)
 {
     for (const auto status : {COleDateTime::invalid, COleDateTime::null}) {
         COleDateTime moment(2024, 1, 2, 3, 4, 5);
@@ -98,7 +98,7 @@ TEST(COleDateTime, ImpossibleFieldsAreInvalid)
             << f[0] << '-' << f[1] << '-' << f[2] << ' ' << f[3] << ':' << f[4] << ':' << f[5];
 }
 
-TEST(COleDateTime, SystemTimeFieldsGoInAndComeBackWithoutTheirFraction)
+TEST(COleDateTime, SystemTimeFieldsAreConvertedBackWithoutTheirFraction)
 {
     SYSTEMTIME fields{};
     fields.wYear = 2024;

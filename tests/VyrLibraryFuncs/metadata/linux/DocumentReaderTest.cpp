@@ -41,7 +41,7 @@ std::string OtherMembers(const std::string& path)
 
 } // namespace
 
-TEST(DocumentReader, ShowsWhatWasWrittenIntoSoundDocuments)
+TEST(DocumentReader, ShowsWrittenPropertiesOfIntactDocuments)
 {
     const std::vector<CorpusDocument> corpus = VyrTests::ReadDocumentCorpus();
     if (corpus.empty())

@@ -120,7 +120,7 @@ TEST(NameFuncsFolderLinux, LinksAreCopiedAsLinksAndNeverFollowed)
     }
 }
 
-TEST(NameFuncsFolderLinux, MovingALinkToAFolderLeavesTheFolder)
+TEST(NameFuncsFolderLinux, MovingALinkToAFolderKeepsTheFolder)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"outside/a.txt", "a");
@@ -134,7 +134,7 @@ TEST(NameFuncsFolderLinux, MovingALinkToAFolderLeavesTheFolder)
     EXPECT_EQ(scratch.ReadFile(u"outside/a.txt"), "a");
 }
 
-TEST(NameFuncsFolderLinux, PipeIsAFailedEntryAndNobodyWaitsForIt)
+TEST(NameFuncsFolderLinux, PipeFailsWithoutWaiting)
 {
     const ScratchFolder scratch;
     scratch.MakeFolder(u"from");

@@ -46,7 +46,7 @@ private:
 
 } // namespace
 
-TEST(NameFuncsFormatLinux, APictureIsOpenedForATokenThatIsThereAndForNothingElse)
+TEST(NameFuncsFormatLinux, APictureIsOpenedOnlyForTokensInTheFormat)
 {
     const ScratchFolder scratch;
     VyrTests::PictureFacts facts;

@@ -46,7 +46,7 @@ bool IsEnabled(INTERNETFEATURELIST feature)
 
 } // namespace
 
-TEST(UrlmonFeatures, EachSwitchReachesItsFeatureAlone)
+TEST(UrlmonFeatures, EachSwitchAffectsOnlyItsFeature)
 {
     for (const auto& [set, feature] : processFeatures)
         set(0);

@@ -105,7 +105,7 @@ TEST_F(ExiftoolAgreement, OnTheFormsThatATextCanTake)
     ExpectAgreement();
 }
 
-TEST_F(ExiftoolAgreement, OnWhatMayStandAroundTheExifSegment)
+TEST_F(ExiftoolAgreement, OnSegmentsAroundTheExifSegment)
 {
     const Bytes exif = ExifSegment(BuildTiff(PictureFacts{}));
     const Bytes jfif = JpegSegment(0xE0, Bytes("JFIF\0\1\1\0\0\1\0\1\0\0", 14));

@@ -56,7 +56,7 @@ TEST(ReadCount, AJpegTakesOneReadOfLessThan64KiB)
     EXPECT_LE(count.bytes, 65536u);
 }
 
-TEST(ReadCount, ATiffWhoseDirectoriesStandAtItsEndTakesTwoReads)
+TEST(ReadCount, ATiffWithDirectoriesAtItsEndTakesTwoReads)
 {
     const ScratchFolder folder;
     TiffParts parts = TiffPartsOf({});
@@ -67,7 +67,7 @@ TEST(ReadCount, ATiffWhoseDirectoriesStandAtItsEndTakesTwoReads)
     EXPECT_LE(count.bytes, 8192u);
 }
 
-TEST(ReadCount, AHeifWhoseItemStandsAtItsEndTakesTwoReads)
+TEST(ReadCount, AHeifWithItsItemAtItsEndTakesTwoReads)
 {
     const ScratchFolder folder;
     // As phones write it: the tables first, then megabytes of picture, then the item.

@@ -20,7 +20,7 @@ std::vector<int> OrderOf(const ListView& view, std::size_t count)
 
 } // namespace
 
-TEST(ListViewTest, WhatCannotBeDoneChangesNothing)
+TEST(ListViewTest, RefusedCallsChangeNothing)
 {
     ListView view;
     EXPECT_FALSE(view.InsertColumn(-1, u"x"));
@@ -37,7 +37,7 @@ TEST(ListViewTest, WhatCannotBeDoneChangesNothing)
     EXPECT_EQ(OrderOf(view, 2), (std::vector<int>{0, 1}));
 }
 
-TEST(ListViewTest, HandleIsNeverGivenTwice)
+TEST(ListViewTest, HandlesAreUnique)
 {
     std::optional<ListView> first(std::in_place);
     const HWND old = first->GetHandle();
@@ -47,7 +47,7 @@ TEST(ListViewTest, HandleIsNeverGivenTwice)
     EXPECT_NE(second.GetHandle(), nullptr);
 }
 
-TEST(ListViewTest, HeaderComesAndGoesWithItsColumns)
+TEST(ListViewTest, HeaderIsShownAndHiddenWithItsColumns)
 {
     ListView view;
     view.InsertColumn(0, u"a");

@@ -83,7 +83,7 @@ TEST_F(AddressContentTest, FiveRedirectionsAreFollowed)
     EXPECT_EQ(FetchContent(server.Address("/6")), std::nullopt);
 }
 
-TEST_F(AddressContentTest, CircleOfRedirectionsEnds)
+TEST_F(AddressContentTest, CycleOfRedirectionsEnds)
 {
     const LoopbackServer server(Always(Redirection("/again")));
     EXPECT_EQ(FetchContent(server.Address("/")), std::nullopt);
@@ -167,7 +167,7 @@ TEST_F(AddressContentTest, ContentThatIsCutOffGivesNothing)
     EXPECT_EQ(FetchContent(nonsense.Address("/")), std::nullopt);
 }
 
-TEST_F(AddressContentTest, NobodyListeningGivesNothing)
+TEST_F(AddressContentTest, AddressWithoutAServerGivesNothing)
 {
     std::string address;
     {
@@ -177,7 +177,7 @@ TEST_F(AddressContentTest, NobodyListeningGivesNothing)
     EXPECT_EQ(FetchContent(address), std::nullopt);
 }
 
-TEST_F(AddressContentTest, ServerWithoutACertificateIsNotAsked)
+TEST_F(AddressContentTest, ServerWithoutACertificateGetsNoRequest)
 {
     const LoopbackServer server(Always(Whole("<r/>")));
     std::string address = server.Address("/");

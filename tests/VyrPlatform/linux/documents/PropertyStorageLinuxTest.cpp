@@ -221,7 +221,7 @@ TEST_F(ReplacedDocument, IsRefusedWhileItIsLocked)
     EXPECT_EQ(WriteBytes("x"), Result::ok);
 }
 
-TEST_F(ReplacedDocument, StaysWhenThereIsNoRoomForTheNewOne)
+TEST_F(ReplacedDocument, StaysOnAFullDisk)
 {
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     struct rlimit before;

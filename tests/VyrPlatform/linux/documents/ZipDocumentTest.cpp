@@ -255,7 +255,7 @@ TEST_F(ZipDocument, OpenDocumentHasItsPropertiesInMeta)
     ExpectOnlyChanged(OpenMembers(), "meta.xml");
 }
 
-TEST_F(ZipDocument, WhatCannotBeAPropertyIsRefused)
+TEST_F(ZipDocument, InvalidPropertyIsRefused)
 {
     Place(OfficeMembers());
     const std::string before = scratch.ReadFile(u"a.docx");

@@ -66,7 +66,7 @@ TEST(DeepPath, FilesAreReachedAtAnyDepthInAWalk)
     EXPECT_EQ(FileSystem::CreateFolder(scratch.Path(u"after")), 0U);
 }
 
-TEST(DeepPath, FoldersMadeAnewAreFoundAfterAWalk)
+TEST(DeepPath, RecreatedFoldersAreFoundAfterAWalk)
 {
     const ScratchFolder scratch;
     std::optional<DeepWalk> walk(std::in_place);

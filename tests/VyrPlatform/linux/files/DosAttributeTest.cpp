@@ -165,7 +165,7 @@ TEST(DosAttribute, VersionThatIsUnknownOrContradictsItselfGivesNothing)
     }
 }
 
-TEST(DosAttribute, ValueCutOffAnywhereGivesNothing)
+TEST(DosAttribute, TruncatedValueGivesNothing)
 {
     const std::string whole = Version5();
     for (std::size_t size = 0; size < whole.size(); ++size) {
@@ -174,7 +174,7 @@ TEST(DosAttribute, ValueCutOffAnywhereGivesNothing)
     }
 }
 
-TEST(DosAttribute, CreationTimeIsPutIntoEveryVersionAndNothingElseChanges)
+TEST(DosAttribute, CreationTimeIsWrittenIntoEveryVersionAndNothingElseChanges)
 {
     const std::string starts[] = {
         Join({"\0\0\1\0\1\0\0\0"sv, "\x21\0\0\0"sv, fourBytes, eightBytes, eightBytes}),
@@ -212,7 +212,7 @@ TEST(DosAttribute, CreationTimeIsNotPutIntoOtherBytes)
         EXPECT_EQ(Changed(std::string_view(whole).substr(0, size), created), "") << size;
 }
 
-TEST(DosAttribute, AttributesArePutIntoEveryVersionAndNothingElseChanges)
+TEST(DosAttribute, AttributesAreWrittenIntoEveryVersionAndNothingElseChanges)
 {
     const auto sizes = Join({fourBytes, eightBytes, eightBytes, createdBytes, eightBytes, "rest\0"sv});
     const auto newVersion = Join({eightBytes, createdBytes, "rest"sv});
@@ -265,7 +265,7 @@ TEST(DosAttributeOfFile, ValuesOfSambaAreReadAndKeepTheirTime)
     EXPECT_EQ(ValueOf(path), "\0\0\x05\0\x05\0\0\0\x11\0\0\0\x26\0\0\0\x99\x9c\x19\xae\x54\xaa\xdc\x01"sv);
 }
 
-TEST(DosAttributeOfFile, WhatSambaWroteForItsClientsIsRead)
+TEST(DosAttributeOfFile, ValuesWrittenBySambaAreRead)
 {
     // Samba 4.17, after a client's "setmode a.txt +hs", "setmode a.txt +r" and "mkdir d", "setmode d +h".
     const ScratchFolder scratch;
@@ -293,7 +293,7 @@ TEST(DosAttributeOfFile, EveryBitIsKept)
     EXPECT_EQ(FileAttributes::Get(path), 0x80U) << "what it is decides whether it is a folder";
 }
 
-TEST(DosAttributeOfFile, IsNotMadeWhereNothingIsWorthKeeping)
+TEST(DosAttributeOfFile, IsNotCreatedForAttributesThatTheModeKeeps)
 {
     const ScratchFolder scratch;
     for (const CString& path : {scratch.WriteFile(u"a"), scratch.MakeFolder(u"folder")}) {
@@ -312,7 +312,7 @@ TEST(DosAttributeOfFile, IsNotMadeWhereNothingIsWorthKeeping)
     EXPECT_EQ(ValueOf(scratch.Path(u"folder")).substr(8, 8), "\1\0\0\0\x11\0\0\0"sv);
 }
 
-TEST(DosAttributeOfFile, ValueThatIsNoneOrTooLongIsNotWrittenOver)
+TEST(DosAttributeOfFile, InvalidOrTooLongValueIsNotOverwritten)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");
@@ -329,7 +329,7 @@ TEST(DosAttributeOfFile, ValueThatIsNoneOrTooLongIsNotWrittenOver)
     }
 }
 
-TEST(DosAttributeOfFile, CreationTimeThatIsSetLeavesTheAttributes)
+TEST(DosAttributeOfFile, SettingTheCreationTimeKeepsTheAttributes)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");
@@ -398,7 +398,7 @@ std::string Merged(Merge merge, std::string_view value, std::string_view kept)
 
 } // namespace
 
-TEST(DosAttribute, WhatWasMadeOfAValueBecomesThatValueAgain)
+TEST(DosAttribute, ChangedValueBecomesTheFormerOneAgain)
 {
     const std::string values[] = {
         {},

@@ -55,7 +55,7 @@ std::optional<std::string> Samba(const CString& path)
 
 } // namespace
 
-TEST(ExactStateLinux, TimesComeBackToTheNanosecond)
+TEST(ExactStateLinux, TimesAreRestoredToTheNanosecond)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");
@@ -73,7 +73,7 @@ TEST(ExactStateLinux, TimesComeBackToTheNanosecond)
     EXPECT_EQ(now.st_mtim.tv_nsec, 987'654'321);
 }
 
-TEST(ExactStateLinux, PermissionToWriteComesBackAndOtherPermissionsStay)
+TEST(ExactStateLinux, WritePermissionIsRestoredAndOthersAreKept)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");
@@ -98,7 +98,7 @@ TEST(ExactStateLinux, CreationTimeThatWasSetSinceOutlivesTheAttributes)
     EXPECT_EQ(FileTimes::GetCreated(path), TicksOfUnixTime(1'000'000'000));
 }
 
-TEST(ExactStateLinux, ValueOfSambaComesBackToTheByte)
+TEST(ExactStateLinux, ValueOfSambaIsRestoredToTheByte)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");
@@ -114,7 +114,7 @@ TEST(ExactStateLinux, ValueOfSambaComesBackToTheByte)
     EXPECT_EQ(Samba(path), value);
 }
 
-TEST(ExactStateLinux, CreationTimeOfAReadOnlyFileComesBack)
+TEST(ExactStateLinux, CreationTimeOfAReadOnlyFileIsRestored)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");

@@ -78,7 +78,7 @@ TEST(FileAttributesLinux, ReadOnlyTakesAllThreeWritePermissions)
     }
 }
 
-TEST(FileAttributesLinux, WritePermissionsComeBackWhereOneMayReadAndTheUmaskAllows)
+TEST(FileAttributesLinux, WritePermissionsAreRestoredWhereReadingAndTheUmaskAllow)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");
@@ -131,7 +131,7 @@ TEST(FileAttributesLinux, ReadOnlyOfAFolderIsNeverItsMode)
     EXPECT_EQ(ModeOf(path), 0755U);
 }
 
-TEST(FileAttributesLinux, ReadOnlyThatSambaKeepsGoesFromThereAndLeavesTheMode)
+TEST(FileAttributesLinux, ReadOnlyInSambasAttributeIsClearedWithoutTheMode)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");
@@ -198,7 +198,7 @@ TEST(FileAttributesLinux, LiftedReadOnlyPutsTheVeryModeBack)
     }
 }
 
-TEST(FileAttributesLinux, FileSystemWithoutExtendedAttributesKeepsReadOnlyAlone)
+TEST(FileAttributesLinux, FileSystemWithoutExtendedAttributesKeepsOnlyReadOnly)
 {
     const MountedFolder disk(MountedFolder::Kind::Exfat);
     if (!disk.WhyNot().empty())

@@ -314,7 +314,7 @@ TEST(FileCopySpecial, PipesAndDevicesFailWithoutAWait)
     EXPECT_EQ(CountEntries(scratch.Path()), 2U);
 }
 
-TEST(FileCopySpecial, FileThatTellsNoSizeIsCopiedWhole)
+TEST(FileCopySpecial, FileWithoutASizeIsCopiedWhole)
 {
     const ScratchFolder scratch;
     EXPECT_EQ(FileCopy::Copy(u"/proc/version", scratch.Path(u"b")), 0U);
@@ -325,7 +325,7 @@ TEST(FileCopySpecial, FileThatTellsNoSizeIsCopiedWhole)
     EXPECT_EQ(scratch.ReadFile(u"b"), line + "\n");
 }
 
-TEST(FileCopyFailures, WriteThatFailsHalfWayLeavesNothingNewAndAllThatWas)
+TEST(FileCopyFailures, FailedWriteLeavesNoNewFileAndKeepsTheOldOne)
 {
     const ScratchFolder scratch;
     const CString source = scratch.WriteFile(u"a", std::string(1'000'000, 'x'));
@@ -360,7 +360,7 @@ TEST(FileCopyFailures, FullDiskFailsAndKeepsEveryFile)
     EXPECT_EQ(outside.ReadFile(u"disk/b"), "fits");
 }
 
-TEST(FileCopyFailures, FileThatOneMayNotReadFailsAlone)
+TEST(FileCopyFailures, UnreadableFileFails)
 {
     const ScratchFolder scratch;
     const CString source = scratch.WriteFile(u"a", "content");
@@ -494,7 +494,7 @@ TEST(FileCopyFolderMode, IsThatOfTheSource)
               static_cast<std::uint32_t>(ENOENT));
 }
 
-TEST(FileCopyFolderMode, BitThatHandsOnAGroupIsNotGivenToAnotherGroup)
+TEST(FileCopyFolderMode, SetGroupIdIsNotCopiedToAnotherGroup)
 {
     if (geteuid() != 0)
         GTEST_SKIP() << "only root may give a folder to another group";
@@ -556,7 +556,7 @@ TEST(FileCopyVolumes, PipeStaysOnItsVolume)
     EXPECT_EQ(CountEntries(disk.Path(u"")), 0U);
 }
 
-TEST(FileCopyVolumes, SourceThatCannotBeRemovedIsToldAndNothingIsLost)
+TEST(FileCopyVolumes, SourceThatCannotBeRemovedIsReportedAndNothingIsLost)
 {
     const SmallDisk disk;
     if (!disk.WhyNot().empty())

@@ -32,7 +32,7 @@ const std::string oddNames[] = {"\xff",         "Gr\xfcn.jpg",  "a\x80z",       
 
 } // namespace
 
-TEST(FileNames, ThatAreNotUtf8ComeBackAsTheyAre)
+TEST(FileNames, ThatAreNotUtf8AreConvertedBack)
 {
     const ScratchFolder scratch;
     const std::filesystem::path folder = VyrTests::ToStdPath(scratch.Path());
@@ -53,7 +53,7 @@ TEST(FileNames, ThatAreNotUtf8ComeBackAsTheyAre)
     EXPECT_EQ(found, expected);
 }
 
-TEST(FileNames, WithASurrogateThatIsNoByteNameNothing)
+TEST(FileNames, WithASurrogateThatEncodesNoByteNameNoFile)
 {
     const ScratchFolder scratch;
     // The bytes that UTF-8's scheme would give to the lone surrogate U+D800 name a file of their own.
@@ -83,7 +83,7 @@ TEST(FileNames, MayFillALongPath)
     EXPECT_FALSE(FileSystem::Exists(scratch.Path() + CString(u'/', 100'000) + u"n"));
 }
 
-TEST(FileNames, SeparatorBehindAFileNamesNothing)
+TEST(FileNames, SeparatorBehindAFileNamesNoFile)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a") + u"/";
@@ -119,7 +119,7 @@ TEST(FileKinds, PipesSocketsAndDevicesAreOther)
     EXPECT_EQ(count, 2);
 }
 
-TEST(FilePermissions, WhatIsBelowALockedFolderIsMissing)
+TEST(FilePermissions, EntriesOfALockedFolderAreMissing)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"locked/a", "content");
@@ -137,7 +137,7 @@ TEST(FilePermissions, WhatIsBelowALockedFolderIsMissing)
     EXPECT_EQ(listing.Error(), static_cast<std::uint32_t>(EACCES));
 }
 
-TEST(FilePermissions, LockedFileTellsItsStateButDoesNotOpen)
+TEST(FilePermissions, LockedFileHasAStateButDoesNotOpen)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a", "content");

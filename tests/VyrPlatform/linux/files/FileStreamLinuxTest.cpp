@@ -68,7 +68,7 @@ TEST(FileStreamLinux, NewFileHasTheUsualMode)
     EXPECT_EQ(status.st_mode & 07777, 0640U);
 }
 
-TEST(FileStreamLinux, WhatCannotBeWrittenIsToldByTheCallThatWrites)
+TEST(FileStreamLinux, FailureToWriteIsReportedByTheWritingCall)
 {
     const ScratchFolder scratch;
     CStdioFile file;
@@ -86,7 +86,7 @@ TEST(FileStreamLinux, WhatCannotBeWrittenIsToldByTheCallThatWrites)
     EXPECT_EQ(scratch.ReadFile(u"a"), "0123456789");
 }
 
-TEST(FileStreamLinux, ObjectThatEndsOrIsAbortedDropsWhatCannotBeWritten)
+TEST(FileStreamLinux, DestructorAndAbortDiscardBytesThatCannotBeWritten)
 {
     const ScratchFolder scratch;
     {

@@ -31,7 +31,7 @@ bool HasAttribute(const CString& path, const std::string& name)
 
 } // namespace
 
-TEST(NamedStreamsForms, EachFormAloneIsRemoved)
+TEST(NamedStreamsForms, EachSingleFormIsRemoved)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a", "content");
@@ -83,7 +83,7 @@ TEST(NamedStreamsForms, SiblingOfAMissingFileStays)
     EXPECT_TRUE(scratch.Has(u"a:Zone.Identifier"));
 }
 
-TEST(NamedStreamsForms, FolderIsUnmarkedWhateverSeparatorsEndItsPath)
+TEST(NamedStreamsForms, FolderIsUnmarkedWithAnySeparatorsAtItsEnd)
 {
     const ScratchFolder scratch;
     const CString folder = scratch.MakeFolder(u"folder");
@@ -96,7 +96,7 @@ TEST(NamedStreamsForms, FolderIsUnmarkedWhateverSeparatorsEndItsPath)
     EXPECT_TRUE(scratch.Has(u"folder/:Zone.Identifier"));
 }
 
-TEST(NamedStreamsForms, MarkThatOneMayNotChangeGivesAnError)
+TEST(NamedStreamsForms, MarkWithoutPermissionGivesAnError)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a");

@@ -110,7 +110,7 @@ TEST_F(Ntfs, TimesAreWrittenToTheTick)
     EXPECT_NE(FileTimes::Write(Path(u"a"), {.modified = created}), 0U) << "it is read-only";
 }
 
-TEST_F(Ntfs, ZoneMarkIsAStreamAndGoes)
+TEST_F(Ntfs, ZoneMarkIsAStreamAndIsRemoved)
 {
     SetAttribute("user.Zone.Identifier", "[ZoneTransfer]\r\nZoneId=3\r\n");
     EXPECT_EQ(VyrPlatform::NamedStreams::DeleteZoneMark(Path(u"a")), 0U);
@@ -118,7 +118,7 @@ TEST_F(Ntfs, ZoneMarkIsAStreamAndGoes)
     EXPECT_EQ(Outside().ReadFile(u"disk/a"), "content");
 }
 
-TEST_F(Ntfs, CopyComesWithoutTheModeThatTheDiskCannotKeep)
+TEST_F(Ntfs, CopySucceedsWithoutTheModeThatTheDiskCannotKeep)
 {
     const CString source = Outside().WriteFile(u"b", "from outside");
     ASSERT_EQ(chmod(VyrTests::ToStdPath(source).c_str(), 0640), 0);

@@ -119,7 +119,7 @@ TEST(PlugMainLoopTest, TenThousandPostedItemsArriveWhileTheLoopRuns)
     });
 }
 
-TEST(PlugMainLoopTest, PostedWorkComesBeforeTheLoop)
+TEST(PlugMainLoopTest, PostedWorkRunsBeforeTheLoop)
 {
     OnNewThread([] {
         std::vector<int> order;
@@ -135,7 +135,7 @@ TEST(PlugMainLoopTest, PostedWorkComesBeforeTheLoop)
     });
 }
 
-TEST(PlugMainLoopTest, LoopTellsAStopWheneverItsEventAsks)
+TEST(PlugMainLoopTest, LoopReturnsAStopForItsEvent)
 {
     OnNewThread([] {
         int passes = 0;
@@ -211,7 +211,7 @@ TEST(PlugMainLoopTest, EmptyWorkIsAnEventThatDoesNothing)
     });
 }
 
-TEST(PlugMainLoopTest, PosterOutlivesItsThreadAndDropsWhatComes)
+TEST(PlugMainLoopTest, PosterOutlivesItsThreadAndDropsLaterEvents)
 {
     std::optional<Poster> poster;
     OnNewThread([&] { poster = Poster::ForCallingThread(); });

@@ -36,7 +36,7 @@ protected:
 
 } // namespace
 
-TEST_F(RegistryEnvironment, VariablesOfTheSystemComeFromTheRegistry)
+TEST_F(RegistryEnvironment, VariablesOfTheSystemAreReadFromTheRegistry)
 {
     EXPECT_EQ(ExpandEnvironment(u"%SystemRoot%\\a", 260), u"D:\\WINNT\\a");
     EXPECT_EQ(ExpandEnvironment(u"%windir%", 260), u"D:\\WINNT");

@@ -133,7 +133,7 @@ TEST_F(Hives, HiveThatWasNotClosedIsReadAndNamed)
     EXPECT_TRUE(Key::Open(HKEY_CURRENT_USER, u"Key\\Below", Access::Read).IsOpen());
 }
 
-TEST_F(Hives, UsersFollowEachOtherBesideTheMachine)
+TEST_F(Hives, UsersAreShownInTurnTogetherWithTheMachine)
 {
     const RegistryTree machine = {{u"Classes\\.x\\Machine"}, {}};
     ASSERT_EQ(ShowHives({Write(u"SOFTWARE", machine), {}, {}, {}}).outcome, Outcome::Shown);
@@ -157,7 +157,7 @@ TEST_F(Hives, UsersFollowEachOtherBesideTheMachine)
     EXPECT_EQ(KeyNames(HKEY_LOCAL_MACHINE), (Names{u"SOFTWARE"}));
 }
 
-TEST_F(Hives, WhatIsNoHiveIsNotShown)
+TEST_F(Hives, OtherFilesAreNotShown)
 {
     const std::string whole = BuildHive(sample).bytes;
     const std::pair<std::string, Outcome> files[] = {

@@ -9,7 +9,7 @@
 using namespace VyrPlatform::Registry;
 using VyrTests::KeyNames;
 
-TEST(MemoryTree, RootKeysShowNothingBefore)
+TEST(MemoryTree, RootKeysAreEmptyAtFirst)
 {
     for (const Handle root : {HKEY_CLASSES_ROOT, HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE, HKEY_USERS,
                               HKEY_PERFORMANCE_DATA, HKEY_CURRENT_CONFIG}) {
@@ -46,7 +46,7 @@ TEST(MemoryTree, CopiesAreTheSameTree)
     ShowNothing(HKEY_USERS);
 }
 
-TEST(MemoryTree, KeepsTheMomentThatItIsGiven)
+TEST(MemoryTree, KeepsTheGivenTime)
 {
     MemoryTree tree;
     EXPECT_TRUE(tree.SetLastWrite(u"A\\B", 123'456'789));
@@ -87,7 +87,7 @@ TEST(MemoryTree, LettersThatAreNotAsciiMeetNoneOfAscii)
     ShowNothing(HKEY_USERS);
 }
 
-TEST(MemoryTree, SignsBetweenTheCasesStandBehindTheCapitals)
+TEST(MemoryTree, SignsBetweenTheCasesSortBehindTheCapitals)
 {
     MemoryTree tree;
     for (const CString name : {u"_a", u"za", u"Zb", u"[a"})

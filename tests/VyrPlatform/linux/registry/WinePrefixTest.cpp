@@ -166,7 +166,7 @@ TEST_F(WinePrefix, CarriageReturnsAndBlanksDoNotMatter)
     EXPECT_EQ(Read(u"A", u"h"), "3:\1\2");
 }
 
-TEST_F(WinePrefix, CutAnywhereItKeepsWhatIsSound)
+TEST_F(WinePrefix, TruncatedTextKeepsItsIntactKeys)
 {
     const std::string whole = VyrTests::WineText({{u"A\\B", u"é\\x"},
                                                   {{u"A", u"text", 1, TextBytes(u"\"quoted\" é 日")},
@@ -198,7 +198,7 @@ TEST_F(WinePrefix, HostileTextTakesTimeInProportion)
     EXPECT_TRUE(OpenMachine(u"Last").IsOpen());
 }
 
-TEST_F(WinePrefix, WhatIsNoPrefixIsNotShown)
+TEST_F(WinePrefix, OtherFoldersAreNotShown)
 {
     OpenResult result = ShowWinePrefix(prefix.Path());
     EXPECT_EQ(result.outcome, Outcome::Unreadable);

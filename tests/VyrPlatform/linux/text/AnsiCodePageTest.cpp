@@ -38,13 +38,13 @@ TEST(AnsiCodePage, IsAsciiInThePosixLocale)
         EXPECT_EQ(AnsiUnder({{u"LC_ALL", name}}), "20127\n");
 }
 
-TEST(AnsiCodePage, IsUtf8WhereTheLocaleTellsNone)
+TEST(AnsiCodePage, IsUtf8WhereTheLocaleNamesNone)
 {
     for (const char16_t* const name : {u"nonsense", u"xx_YY", u"de_DE.nonsense", u"de_DE."})
         EXPECT_EQ(AnsiUnder({{u"LANG", name}}), "65001\n");
 }
 
-TEST(AnsiCodePage, ComesFromTheFirstVariableThatIsSet)
+TEST(AnsiCodePage, IsThatOfTheFirstVariableThatIsSet)
 {
     EXPECT_EQ(AnsiUnder({{u"LANG", u"de_DE.UTF-8"}, {u"LC_CTYPE", u"de_DE.ISO-8859-1"}}), "28591\n");
     EXPECT_EQ(AnsiUnder({{u"LC_ALL", u"ru_RU.CP1251"}, {u"LC_CTYPE", u"de_DE.ISO-8859-1"}}), "1251\n");

@@ -20,7 +20,7 @@ std::string LocaleUnder(const Environment& changes)
 
 } // namespace
 
-TEST(LocaleEnvironmentTest, LanguageComesFromTheEnvironment)
+TEST(LocaleEnvironmentTest, LanguageIsThatOfTheEnvironment)
 {
     EXPECT_EQ(LocaleUnder({{u"LANG", u"de_DE.UTF-8"}}), ">|.|Januar\n");
     EXPECT_EQ(LocaleUnder({{u"LANG", u"de_DE.UTF-8"}, {u"LC_ALL", u"sv_SE.UTF-8"}}), "<|\u00A0|januari\n");
@@ -36,7 +36,7 @@ TEST(LocaleEnvironmentTest, EachCategoryHasALocaleOfItsOwn)
     EXPECT_EQ(LocaleUnder({{u"LC_ALL", u"de_DE"}, {u"LC_TIME", u"C"}, {u"LC_COLLATE", u"sv_SE"}}), ">|.|Januar\n");
 }
 
-TEST(LocaleEnvironmentTest, LanguageOfMessagesDecidesNothing)
+TEST(LocaleEnvironmentTest, LanguageOfMessagesIsIgnored)
 {
     EXPECT_EQ(LocaleUnder({{u"LC_MESSAGES", u"de_DE.UTF-8"}}), ">|,|January\n");
 }

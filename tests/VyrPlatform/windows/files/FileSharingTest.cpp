@@ -20,7 +20,7 @@ bool Opens(const CString& path, std::uint32_t flags)
 
 } // namespace
 
-TEST(FileSharing, OthersMayDoWhatIsNotDenied)
+TEST(FileSharing, OthersMayDoEverythingNotDenied)
 {
     const VyrTests::ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a", "content");

@@ -39,7 +39,7 @@ TEST(LongPath, ShortFullPathStaysAsItIsWritten)
         EXPECT_EQ(ToSystemPath(path), path);
 }
 
-TEST(LongPath, PrefixBeginsWhereAFolderCouldNoLongerBeMade)
+TEST(LongPath, PrefixBeginsWhereAFolderCouldNoLongerBeCreated)
 {
     const CString longest = uR"(C:\)" + CString(u'n', 244);
     EXPECT_EQ(ToSystemPath(longest), longest);

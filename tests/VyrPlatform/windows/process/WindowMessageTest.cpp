@@ -77,7 +77,7 @@ TEST_F(WindowMessageTest, KeysAreTranslatedToCharacters)
     EXPECT_EQ(Received(), (std::vector<std::pair<UINT, WPARAM>>{{WM_CHAR, L'a'}}));
 }
 
-TEST_F(WindowMessageTest, QuitMessageIsTheStopAndComesAfterThePostedOnes)
+TEST_F(WindowMessageTest, QuitMessageIsTheStopAfterThePostedOnes)
 {
     ::PostQuitMessage(0);
     ASSERT_TRUE(::PostMessageW(m_window, WM_APP + 3, 0, 0));

@@ -9,7 +9,7 @@
 
 using namespace VyrPlatform::Registry;
 
-TEST(RealRegistry, TellsWhereTheSystemStands)
+TEST(RealRegistry, HasTheFolderOfTheSystem)
 {
     const Key key = Key::Open(HKEY_LOCAL_MACHINE, u"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion", Access::Read);
     ASSERT_TRUE(key.IsOpen());
