@@ -10,7 +10,7 @@ namespace VyrLibraryFuncs {
 /// Gives the pieces of an HTML5 page; a host joins them in the order of the document and writes the page.
 ///
 /// - Nothing is escaped or checked: every text is in the result exactly as given, also one with `"`, `<` or `%s`. An
-/// empty text gives an empty value: the attribute is kept.
+///   empty text gives an empty value: the attribute is kept.
 /// - Lines end in CR LF. Tags of the head are indented by one tab. Each operation says whether its piece ends a line.
 /// - `newLine`: any value but 0 appends one CR LF.
 /// - `attributes`: further attributes as they stand in a tag, such as `colspan="2" title="x"`.

@@ -10,11 +10,11 @@
 
 namespace VyrPlatform::Brotli {
 
-/// Whether this system can unpack: Linux can, Windows cannot.
+/// Whether this system can unpack: yes on Linux, no on Windows.
 [[nodiscard]] VYR_PLATFORM_API bool IsAvailable() noexcept;
 
-/// The first `limit` bytes of what `packed` holds; as many as there are when it is damaged or cut short, none where no
-/// unpacker is available.
+/// The first `limit` bytes of `packed`, unpacked; fewer when it is damaged or truncated, none where the system cannot
+/// unpack.
 [[nodiscard]] VYR_PLATFORM_API std::string Unpack(std::string_view packed, std::size_t limit);
 
 } // namespace VyrPlatform::Brotli

@@ -1,6 +1,6 @@
 /// @file
-/// What all interfaces to documents are made of: interface pointers that count, texts, variants, and the error that a
-/// failing call becomes. On Windows it is the system's own; on Linux LinuxCom.h gives the same names.
+/// The parts that all interfaces to documents share: smart interface pointers, texts, variants, and the exception for a
+/// failing call. On Windows they are the system's own; on Linux LinuxCom.h has the same names.
 #pragma once
 
 #if defined(_WIN32)

@@ -1,7 +1,6 @@
 /// @file
-/// The document object of a page that a web control shows. On Windows the interfaces are the system's own; on Linux
-/// they have the same names and those members that the library calls, for hosts that give their web control such an
-/// object.
+/// The document object of a page in a web control. On Windows the interfaces are the system's own; on Linux they have
+/// the same names and the members that the library calls, for hosts whose web control provides such an object.
 #pragma once
 
 #include <VyrPlatform/documents/ComPointer.h>

@@ -1,6 +1,6 @@
 /// @file
-/// The names of Windows' component object model, for Linux: those that the library and its hosts use, with the values
-/// and the rules that they have there. Include ComPointer.h instead.
+/// The names of Windows' component object model that the library and its hosts use, for Linux, with the same values and
+/// rules. Include ComPointer.h instead.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -15,9 +15,9 @@
 using LONG = std::int32_t;
 using ULONG = std::uint32_t;
 using OLECHAR = char16_t;
-/// A text in an allocation of its own, which SysAllocString makes and SysFreeString frees. Null is the empty text.
+/// A text in an allocation of its own, made by SysAllocString and freed by SysFreeString. Null is the empty text.
 using BSTR = OLECHAR*;
-/// What a call gives: negative values are failures.
+/// The result of a call: negative values are failures.
 using HRESULT = std::int32_t;
 
 inline constexpr HRESULT S_OK = 0;
@@ -39,26 +39,26 @@ constexpr bool FAILED(HRESULT result) noexcept
     return result < 0;
 }
 
-/// A text constant of the units that a BSTR has.
+/// A text constant with the code units of a BSTR.
 #define OLESTR(text) u##text
 
-/// The name of an interface.
+/// The id of an interface.
 using IID = GUID;
 using REFIID = const IID&;
 using CLSID = GUID;
 using REFCLSID = const CLSID&;
 
-/// The name of `Interface`.
+/// The id of `Interface`.
 #define __uuidof(Interface) (Interface::interfaceId)
 
-/// What every object can be asked: for its other interfaces, and to live on. Each pointer that a call hands out is one
-/// more owner, who releases it.
+/// The base of all interfaces: gives other interfaces of the object, and counts references. Each pointer that a call
+/// returns is one more reference, which the caller must release.
 struct IUnknown
 {
     static constexpr IID interfaceId = {0x00000000, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
 
     /// Sets `object` to the interface `id` of this object.
-    /// @return S_OK; E_NOINTERFACE with a null pointer where it has none of that name.
+    /// @return S_OK; E_NOINTERFACE with a null pointer where it has no such interface.
     virtual HRESULT QueryInterface(REFIID id, void** object) = 0;
     virtual ULONG AddRef() = 0;
     virtual ULONG Release() = 0;
@@ -67,7 +67,7 @@ protected:
     ~IUnknown() = default;
 };
 
-/// The interface by which documents and their elements are handed round. Nobody calls its members, so it has none.
+/// The interface with which documents and their elements are passed. None of its members is called, so it has none.
 struct IDispatch : IUnknown
 {
     static constexpr IID interfaceId = {0x00020400, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
@@ -79,17 +79,17 @@ protected:
 /// A new object of the class `classId`, as its interface `id`.
 /// @param outer not read.
 /// @param context not read.
-/// @return REGDB_E_CLASSNOTREG for all classes but the documents of MSXML 3.0.
+/// @return REGDB_E_CLASSNOTREG for all classes except the documents of MSXML 3.0.
 [[nodiscard]] VYR_PLATFORM_API HRESULT CoCreateInstance(REFCLSID classId, IUnknown* outer, std::uint32_t context,
                                                         REFIID id, void** object);
 
-/// A copy of `text`; null for a null pointer, and where there is no memory for it.
+/// A copy of `text`; null for a null pointer, and when there is no memory.
 [[nodiscard]] VYR_PLATFORM_API BSTR SysAllocString(const OLECHAR* text) noexcept;
 VYR_PLATFORM_API void SysFreeString(BSTR text) noexcept;
 /// In code units, without the NUL behind the text.
 [[nodiscard]] VYR_PLATFORM_API unsigned SysStringLen(BSTR text) noexcept;
 
-/// A value that tells its own type.
+/// A value with its type.
 struct tagVARIANT
 {
     VARTYPE vt = VT_EMPTY;
@@ -100,7 +100,7 @@ struct tagVARIANT
 };
 using VARIANT = tagVARIANT;
 
-/// A failing call.
+/// The exception for a failing call.
 class VYR_PLATFORM_API _com_error
 {
 public:
@@ -134,7 +134,7 @@ class _bstr_t
 {
 public:
     _bstr_t() noexcept = default;
-    /// A copy of `text`; throws a _com_error of E_OUTOFMEMORY where there is no memory for it.
+    /// A copy of `text`; throws a _com_error of E_OUTOFMEMORY when there is no memory.
     _bstr_t(const OLECHAR* text) : m_text(SysAllocString(text))
     {
         if (!m_text && text)
@@ -147,7 +147,7 @@ public:
 
     operator OLECHAR*() const noexcept { return m_text; }
 
-    /// Frees the text, and gives the place for another.
+    /// Frees the text, and returns the address for a new one.
     [[nodiscard]] BSTR* GetAddress() noexcept
     {
         SysFreeString(std::exchange(m_text, nullptr));
@@ -169,7 +169,7 @@ public:
         vt = VT_I4;
         lVal = value;
     }
-    /// A copy of `text`; throws a _com_error of E_OUTOFMEMORY where there is no memory for it.
+    /// A copy of `text`; throws a _com_error of E_OUTOFMEMORY when there is no memory.
     explicit _variant_t(const OLECHAR* text)
     {
         vt = VT_BSTR;
@@ -186,7 +186,7 @@ public:
     }
 };
 
-/// An interface with its name.
+/// An interface with its id.
 template <class InterfaceType, const IID* id>
 struct _com_IIID
 {
@@ -194,7 +194,7 @@ struct _com_IIID
     [[nodiscard]] static const IID& GetIID() noexcept { return *id; }
 };
 
-/// An owner of the object behind an interface.
+/// A reference to an object through an interface.
 template <class NamedInterface>
 class _com_ptr_t
 {
@@ -203,7 +203,7 @@ public:
 
     _com_ptr_t() noexcept = default;
     _com_ptr_t(std::nullptr_t) noexcept {}
-    /// A new object of the class `classId`; null when that has no such interface. Throws a _com_error for any other
+    /// A new object of the class `classId`; null when it lacks the interface. Throws a _com_error for any other
     /// failure.
     explicit _com_ptr_t(REFCLSID classId)
     {
@@ -211,7 +211,7 @@ public:
         if (result != E_NOINTERFACE)
             _com_util::CheckError(result);
     }
-    /// One more owner of `object`, unless `isAnother` is false: then it takes over from one that there is.
+    /// Adds a reference to `object`; if `isAnother` is false, takes over an existing one.
     _com_ptr_t(Interface* object, bool isAnother = true) noexcept : m_object(object)
     {
         if (m_object && isAnother)
@@ -232,13 +232,13 @@ public:
 
     [[nodiscard]] static const IID& GetIID() noexcept { return NamedInterface::GetIID(); }
 
-    /// Lets the object go, and gives the place for another.
+    /// Releases the object, and returns the address for a new one.
     [[nodiscard]] Interface** operator&() noexcept
     {
         *this = _com_ptr_t();
         return &m_object;
     }
-    /// Throws a _com_error of E_POINTER where there is no object.
+    /// Throws a _com_error of E_POINTER when there is no object.
     Interface* operator->() const
     {
         if (!m_object)
@@ -253,7 +253,7 @@ private:
     Interface* m_object = nullptr;
 };
 
-/// Names the owner of an `Interface` after it.
+/// Names the smart pointer of an `Interface` after it.
 // NOLINTNEXTLINE(bugprone-macro-parentheses): the name of a variable
 #define _COM_SMARTPTR_TYPEDEF(Interface, id) using Interface##Ptr = _com_ptr_t<_com_IIID<Interface, &id>>
 

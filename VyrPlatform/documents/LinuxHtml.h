@@ -1,7 +1,7 @@
 /// @file
 /// The interfaces of a page's document object, for Linux. Include HtmlTypes.h instead.
 ///
-/// Each call that gives something writes it through its last argument and returns S_OK, or returns a failure.
+/// Each call with a result writes it through its last argument and returns S_OK, or returns a failure.
 #pragma once
 
 #include <VyrPlatform/documents/LinuxCom.h>
@@ -25,19 +25,19 @@ struct IHTMLDocument2 : IDispatch
 {
     static constexpr IID interfaceId = {0x332C4425, 0x26CB, 0x11D0, {0xB4, 0x83, 0x00, 0xC0, 0x4F, 0xD9, 0x01, 0x19}};
 
-    /// All elements, in the order in which they begin.
+    /// All elements, in document order.
     virtual HRESULT get_all(IHTMLElementCollection** elements) = 0;
 
 protected:
     ~IHTMLDocument2() = default;
 };
 
-/// The style of one element: what its `style` attribute says.
+/// The style of one element: its `style` attribute.
 struct IHTMLStyle : IDispatch
 {
     static constexpr IID interfaceId = {0x3050F25E, 0x98B5, 0x11CF, {0xBB, 0x82, 0x00, 0xAA, 0x00, 0xBD, 0xCE, 0x0B}};
 
-    /// @param width as CSS writes it, as a text (VT_BSTR).
+    /// @param width a CSS value as a text (VT_BSTR).
     virtual HRESULT put_width(VARIANT width) = 0;
     virtual HRESULT put_height(VARIANT height) = 0;
 
@@ -63,7 +63,7 @@ struct IHTMLImgElement : IDispatch
 
     /// The address of the picture; empty where it has none.
     virtual HRESULT get_src(BSTR* address) = 0;
-    /// As it is shown, in pixels.
+    /// The shown width in pixels.
     virtual HRESULT get_width(LONG* width) = 0;
     virtual HRESULT get_height(LONG* height) = 0;
 

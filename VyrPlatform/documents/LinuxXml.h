@@ -1,7 +1,7 @@
 /// @file
 /// The interfaces of XML documents, for Linux. Include XmlTypes.h instead.
 ///
-/// Each call that gives something writes it through its last argument. What is absent is S_FALSE with a null pointer or
+/// Each call with a result writes it through its last argument. A missing item is S_FALSE with a null pointer or
 /// VT_NULL.
 #pragma once
 
@@ -23,8 +23,8 @@ struct IXMLDOMNode : IDispatch
     static constexpr IID interfaceId = {0x2933BF80, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
 
     virtual HRESULT get_nodeType(DOMNodeType* type) = 0;
-    /// The text below the node. Blanks at its ends go, and blanks alone between two tags count as one blank, but for
-    /// those in CDATA sections and under xml:space="preserve".
+    /// The text below the node. Blanks at its ends are removed, and blanks alone between two tags become one blank,
+    /// except in CDATA sections and under xml:space="preserve".
     virtual HRESULT get_text(BSTR* text) = 0;
 
 protected:
@@ -46,10 +46,9 @@ struct IXMLDOMElement : IXMLDOMNode
 {
     static constexpr IID interfaceId = {0x2933BF86, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
 
-    /// The attribute of that name, which may have a prefix.
+    /// The attribute with that name, which may have a prefix.
     virtual HRESULT getAttribute(BSTR name, VARIANT* value) = 0;
-    /// The elements of that name without its prefix, at any depth below this one, in the document's order; "*" gives
-    /// all.
+    /// The elements with that name without prefix, at any depth below this one, in document order; "*" gives all.
     virtual HRESULT getElementsByTagName(BSTR name, IXMLDOMNodeList** elements) = 0;
 
 protected:
@@ -60,9 +59,9 @@ struct IXMLDOMDocument : IDispatch
 {
     static constexpr IID interfaceId = {0x2933BF81, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
 
-    /// Loading is always done when `load` returns.
+    /// Loading is always complete when `load` returns.
     virtual HRESULT put_async(VARIANT_BOOL isAsync) = 0;
-    /// Loads the document at a path or an address, in place of the former one.
+    /// Loads the document at a path or an address, and replaces the former one.
     /// @param source  a BSTR.
     /// @return S_FALSE, with `isLoaded` VARIANT_FALSE, when it could not be read or is not well-formed.
     virtual HRESULT load(VARIANT source, VARIANT_BOOL* isLoaded) = 0;

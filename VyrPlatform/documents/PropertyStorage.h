@@ -1,12 +1,12 @@
 /// @file
-/// Writes the properties of documents: by the system's structured storage, and by the handlers of other kinds.
+/// Writes the properties of documents: by the system's structured storage, and by handlers for other kinds.
 ///
-/// On Windows the calling thread must have COM initialised. A write is final when it returns, in the document itself.
+/// On Windows the calling thread must have COM initialised. When a write returns, the document itself is changed.
 ///
-/// On Linux a document is written anew beside the old one, flushed, read back and compared with the old one, and then
-/// takes its place with owner, mode, times and extended attributes kept; whatever happens meanwhile, the old or the new
-/// document stands there. One that another program has open for writing or has locked is refused, as is one with
-/// several hard links, since its other names would keep the old document.
+/// On Linux a new document is written beside the old one, flushed, read back and compared with the old one. Then it
+/// replaces the old one, with the same owner, mode, times and extended attributes; after any failure either the old or
+/// the new document is complete at the path. A document that another program has open for writing or has locked is
+/// refused, and so is one with several hard links, since its other names would keep the old document.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -25,7 +25,7 @@ struct IPropertyStorage;
 
 namespace VyrPlatform::PropertyStorage {
 
-/// A result code of the system; one with the highest bit set is a failure. An operation may give others than these.
+/// The system's result codes; those with the highest bit set are failures. Other codes are possible.
 namespace Result {
 inline constexpr std::uint32_t ok = 0;
 inline constexpr std::uint32_t notSupported = 0x80004001;
@@ -50,7 +50,7 @@ inline constexpr std::uint32_t tooManyLinks = 0x80070476;
     return (result & 0x80000000) != 0;
 }
 
-/// The property sets that documents have, with the numbers of their formats.
+/// The property sets of documents, with the ids of their formats.
 enum class StandardSet : std::uint8_t
 {
     /// {F29F85E0-4FF9-1068-AB91-08002B27B3D9}: title, subject, author and the like.
@@ -59,15 +59,15 @@ enum class StandardSet : std::uint8_t
     DocumentSummary
 };
 
-/// A document that is open for its property sets alone, and closes itself.
+/// A document that is opened for its property sets; the destructor closes it.
 class VYR_PLATFORM_API Document
 {
 public:
-    /// Opens the compound document at `path` for reading and writing, with others shut out.
+    /// Opens the compound document at `path` for reading and writing, exclusively.
     [[nodiscard]] static Document OpenCompound(const CString& path);
     /// Opens the document at `path` by the handler with this class id, which runs in this process. Linux has two of its
-    /// own: the id under which Windows registers Office Open XML's, and the one under which OpenDocument's is
-    /// registered by its best-known program.
+    /// own: one with the id under which Windows registers Office Open XML's handler, and one with the id that
+    /// OpenDocument's best-known program registers for its handler.
     [[nodiscard]] static Document OpenByHandler(const CString& path, const _GUID& handler);
 
     Document(Document&& other) noexcept;
@@ -75,9 +75,9 @@ public:
     ~Document();
 
     [[nodiscard]] bool IsOpen() const noexcept { return m_storage != nullptr; }
-    /// Why it is not open; Result::ok for one that is.
+    /// The reason why it is not open; Result::ok when it is.
     [[nodiscard]] std::uint32_t GetError() const noexcept { return m_error; }
-    /// Good as long as this object lives; a null pointer when it is not open.
+    /// Valid as long as this object lives; a null pointer when it is not open.
     [[nodiscard]] IPropertySetStorage* Get() const noexcept { return m_storage; }
 
 private:
@@ -87,14 +87,14 @@ private:
     std::uint32_t m_error;
 };
 
-/// A property and the value to be written: VT_EMPTY removes it.
+/// A property and its new value: VT_EMPTY removes it.
 struct PropertyWrite
 {
     std::uint32_t id;
     const tagPROPVARIANT* value;
 };
 
-/// A property set that is open for writing, and closes itself.
+/// A property set that is open for writing; the destructor closes it.
 class VYR_PLATFORM_API PropertySet
 {
 public:
@@ -108,12 +108,12 @@ public:
     [[nodiscard]] bool IsOpen() const noexcept { return m_properties != nullptr; }
     [[nodiscard]] std::uint32_t GetError() const noexcept { return m_error; }
 
-    /// Writes all of `properties`, or none where the system can.
+    /// Writes all of `properties`, or none where the system supports that.
     ///
-    /// A byte text (VT_LPSTR) is in the process's ANSI code page and is written in that of the set; on Linux as a
+    /// A byte text (VT_LPSTR) is in the process's ANSI code page and is converted to that of the set; on Linux to a
     /// UTF-16 text where the set's code page lacks a character. The ids 0, 1 and those from 0x80000000 on are not
     /// properties of a document and are refused; the id 0xFFFFFFFF is ignored.
-    /// @return a result code; that of a null value is Result::invalidParameter.
+    /// @return a result code; Result::invalidParameter for a null value.
     [[nodiscard]] std::uint32_t Write(std::span<const PropertyWrite> properties) const;
 
 private:
@@ -124,7 +124,7 @@ private:
     std::uint32_t m_error;
 };
 
-/// Reads a class id: a number in braces, else the name of a program whose id the registry has below HKEY_CLASSES_ROOT.
+/// Reads a class id: a number in braces, or the name of a program whose id is in the registry below HKEY_CLASSES_ROOT.
 /// @return whether `id` was set.
 [[nodiscard]] VYR_PLATFORM_API bool ReadClassId(const CString& text, _GUID& id);
 

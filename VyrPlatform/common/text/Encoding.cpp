@@ -51,7 +51,7 @@ const char* WidenAscii(const char* bytes, const char* end, char16_t*& target) no
     return bytes;
 }
 
-/// A character of more than one byte; `length` is 0 where none stands.
+/// A character of more than one byte; `length` is 0 where there is none.
 struct Sequence
 {
     std::size_t length = 0;

@@ -1,4 +1,4 @@
-// What an address leads to, by libcurl.
+// Loads the content of an address with libcurl.
 #include "AddressContent.h"
 
 #include <curl/curl.h>
@@ -10,7 +10,7 @@ namespace VyrPlatform {
 
 namespace {
 
-/// The only kinds of address that are followed, from the first one on.
+/// The only schemes that are followed, also in the first address.
 constexpr const char* followedSchemes = "http,https";
 constexpr long firstErrorStatus = 400;
 
@@ -28,7 +28,7 @@ struct Received
     std::size_t limit;
 };
 
-/// @return less than `count` when there is too much, which ends the transfer.
+/// @return less than `count` when there is too much content, which ends the transfer.
 std::size_t Receive(char* bytes, std::size_t /*one*/, std::size_t count, void* received)
 {
     auto& [content, limit] = *static_cast<Received*>(received);
@@ -53,7 +53,7 @@ void SetLimits(CURL* transfer, const AddressLimits& limits)
     curl_easy_setopt(transfer, CURLOPT_MAXREDIRS, static_cast<long>(limits.redirections));
     curl_easy_setopt(transfer, CURLOPT_PROTOCOLS_STR, followedSchemes);
     curl_easy_setopt(transfer, CURLOPT_REDIR_PROTOCOLS_STR, followedSchemes);
-    // The host's signals are the host's.
+    // Signals belong to the host.
     curl_easy_setopt(transfer, CURLOPT_NOSIGNAL, 1L);
 }
 

@@ -1,4 +1,3 @@
-// Brotli by the system's library.
 #include <VyrPlatform/documents/Brotli.h>
 
 #include <algorithm>

@@ -1,4 +1,3 @@
-// CString and COM's texts, on Linux.
 #include <VyrPlatform/documents/ComText.h>
 
 #include <string_view>

@@ -1,4 +1,4 @@
-// Texts in allocations of their own, and the error of a failing call.
+// The allocations of texts, and the exception for failing calls.
 #include <VyrPlatform/documents/LinuxCom.h>
 
 #include <limits>
@@ -7,7 +7,7 @@
 
 namespace {
 
-/// What stands before a text: the length of its units in bytes, as on Windows.
+/// The header of a text: the length in bytes, as on Windows.
 using ByteCount = std::uint32_t;
 constexpr std::size_t unitSize = sizeof(OLECHAR);
 constexpr std::size_t maxLength = (std::numeric_limits<ByteCount>::max() - sizeof(ByteCount)) / unitSize - 1;

@@ -1,4 +1,4 @@
-// Owners of what libxml2 makes, and how texts of unknown origin are read.
+// Owners of libxml2's objects, and reading of untrusted texts.
 #pragma once
 
 #include <cstddef>
@@ -27,8 +27,7 @@ inline std::string_view FromXml(const xmlChar* text) noexcept
     return text ? std::string_view(reinterpret_cast<const char*>(text)) : std::string_view();
 }
 
-/// The document, read without network, entities and document types; null when it is not well-formed or has one of
-/// these.
+/// The document, read without network, entities and document types; null when it is malformed or has any of these.
 [[nodiscard]] inline XmlDocument ReadXml(std::string_view text)
 {
     XmlDocument document(xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr,
@@ -48,7 +47,7 @@ inline std::string_view FromXml(const xmlChar* text) noexcept
     return bytes ? std::string(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size)) : std::string();
 }
 
-/// Whether `node` is the element `name` of the namespace `space`.
+/// Whether `node` is the element `name` in the namespace `space`.
 [[nodiscard]] inline bool IsElement(const xmlNode* node, std::string_view space, std::string_view name) noexcept
 {
     return node->type == XML_ELEMENT_NODE && node->ns && FromXml(node->ns->href) == space &&

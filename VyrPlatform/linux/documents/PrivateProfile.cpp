@@ -1,4 +1,4 @@
-// Private-profile files on Linux, where they are read and written whole.
+// Private-profile files on Linux are read and written as a whole.
 #include <VyrPlatform/common/files/TemporaryPath.h>
 #include <VyrPlatform/documents/PrivateProfile.h>
 #include <VyrPlatform/files/FileCopy.h>
@@ -52,7 +52,7 @@ std::uint32_t WriteFile(const CString& path, std::string_view bytes)
     return error ? error : closingError;
 }
 
-/// Writes a copy of the file at `path`, which so keeps its mode and its attributes, and puts that in its place.
+/// Writes a copy of the file at `path`, which keeps its mode and attributes, and replaces the file by it.
 std::uint32_t ReplaceFile(const CString& path, std::string_view bytes)
 {
     const CString temporary = MakeTemporaryPath(path);

@@ -1,4 +1,4 @@
-// Takes private-profile files apart and puts them together as Windows does.
+// Parses and writes private-profile files as Windows does.
 #include "ProfileText.h"
 
 #include <VyrPlatform/text/CodePage.h>
@@ -16,7 +16,7 @@ using namespace std::string_view_literals;
 constexpr std::string_view utf8Mark = "\xEF\xBB\xBF"sv;
 constexpr std::string_view utf16LittleEndianMark = "\xFF\xFE"sv;
 constexpr std::string_view utf16BigEndianMark = "\xFE\xFF"sv;
-/// What counts as blank around names and values; the last is the mark that old programs put at a file's end.
+/// The blanks around names and values; the last is the end-of-file mark of old programs.
 constexpr std::u16string_view blanks = u" \t\v\f\x1A";
 
 std::u16string_view TrimLeft(std::u16string_view text) noexcept
@@ -86,7 +86,7 @@ void ProfileText::AddLine(std::u16string_view line)
     m_sections.back().entries.push_back(std::move(entry));
 }
 
-/// The first of `all` with that name.
+/// The first of `all` with the name.
 template <class All>
 auto ProfileText::FindNamed(All& all, std::u16string_view name) const
 {

@@ -12,7 +12,7 @@
 
 namespace VyrPlatform {
 
-/// Sections of keys and values, with the rules of PrivateProfile.h. Exported for the fuzzing alone.
+/// Sections of keys and values, with the rules of PrivateProfile.h. Exported only for the fuzz target.
 class VYR_PLATFORM_API ProfileText
 {
 public:
@@ -21,9 +21,9 @@ public:
     /// The value of `key` in `section` without its quotes; nothing where there is none.
     [[nodiscard]] std::optional<CString> Find(std::u16string_view section, std::u16string_view key) const;
     /// Sets it.
-    /// @return whether anything has changed.
+    /// @return whether the text has changed.
     bool Set(std::u16string_view section, std::u16string_view key, std::u16string_view value);
-    /// The content in the normal form, in the encoding that it came in.
+    /// The content in normal form, in its own encoding.
     [[nodiscard]] std::string ToBytes() const;
 
 private:
@@ -34,8 +34,8 @@ private:
         Utf16LittleEndian,
         Utf16BigEndian
     };
-    /// The code units of the file: of UTF-16, else the bytes, one in each. What is not changed is not converted, and so
-    /// comes back as it was, whatever its encoding.
+    /// The code units of the file: of UTF-16, or single bytes. Unchanged parts are not converted, so they are written
+    /// back exactly in any encoding.
     using Raw = std::u16string;
     struct Entry
     {
@@ -60,7 +60,7 @@ private:
     [[nodiscard]] auto FindNamed(All& all, std::u16string_view name) const;
 
     Form m_form = Form::Ansi;
-    /// The first holds what stands before all sections, and has no line of its own.
+    /// The first has the lines before all sections, and no line of its own.
     std::vector<Section> m_sections{1};
 };
 

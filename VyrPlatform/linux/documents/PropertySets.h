@@ -1,4 +1,4 @@
-// What stands behind the system's names for a document's property sets.
+// The implementation of the system's interfaces to property sets.
 #pragma once
 
 #include <VyrPlatform/documents/PropertyStorage.h>
@@ -15,7 +15,8 @@ struct IPropertyStorage
     IPropertyStorage& operator=(const IPropertyStorage&) = delete;
     virtual ~IPropertyStorage() = default;
 
-    /// Writes properties that may be written: none is null, and every id is one of a document's properties.
+    /// Writes properties that can be written: none has a null value or an id that is not one of a document's
+    /// properties.
     /// @return a result code.
     [[nodiscard]] virtual std::uint32_t
     Write(std::span<const VyrPlatform::PropertyStorage::PropertyWrite> properties) = 0;

@@ -1,4 +1,4 @@
-// Documents and their property sets, whatever kind stands behind them.
+// Documents of all kinds and their property sets.
 #include <VyrPlatform/documents/PropertyStorage.h>
 
 #include "PropertySets.h"
@@ -52,7 +52,7 @@ namespace VyrPlatform::PropertyStorage {
 
 namespace {
 
-/// What an id may be written with: ok, or why not.
+/// Whether an id can be written, or the reason why not.
 enum class Permission : std::uint8_t
 {
     Write,

@@ -21,7 +21,7 @@ namespace {
 constexpr CLSID documentClass{0xF5078F32, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
 constexpr CLSID freeThreadedDocumentClass{0xF5078F33, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
 
-/// Runs `work`, and turns what it throws into COM's codes.
+/// Calls `work`, and converts its exceptions to COM's codes.
 template <class Work>
 HRESULT Guarded(Work work) noexcept
 {
@@ -34,8 +34,8 @@ HRESULT Guarded(Work work) noexcept
     }
 }
 
-/// An object with its `Interface` and those that are `Bases` of it, which deletes itself with its last owner; it begins
-/// with one.
+/// An object with its `Interface` and the `Bases` of that, which is deleted with its last reference; it begins with
+/// one.
 template <class Interface, class... Bases>
 class Counted : public Interface
 {
@@ -70,7 +70,7 @@ private:
     std::atomic<ULONG> m_owners = 1;
 };
 
-/// Gives a new `Object`, made of `arguments`, out of the interface.
+/// Returns a new `Object`, made from `arguments`, through the interface.
 template <class Object, class Interface, class... Arguments>
 HRESULT Give(Interface** place, Arguments&&... arguments)
 {
@@ -138,7 +138,7 @@ HRESULT Element::get_text(BSTR* text)
     return Guarded([&] { return GiveText(text, TextOf(m_node)); });
 }
 
-/// The attribute's name as the document has it, with its prefix.
+/// The attribute's name in the document, with its prefix.
 std::string NameOf(const xmlAttr* attribute)
 {
     std::string name(reinterpret_cast<const char*>(attribute->name));

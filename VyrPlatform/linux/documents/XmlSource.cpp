@@ -1,4 +1,3 @@
-// The bytes of an XML document, from a file or a server.
 #include "XmlSource.h"
 
 #include "AddressContent.h"

@@ -1,4 +1,4 @@
-// Where the bytes of an XML document come from.
+// Reads the bytes of an XML document from a file or a server.
 #pragma once
 
 #include "XmlTree.h"
@@ -7,8 +7,8 @@
 
 namespace VyrPlatform {
 
-/// Opens the regular file at a path, or what an address with `file:`, `http:` or `https:` leads to.
-/// @return nothing when there is no such thing, or the server did not send it whole.
+/// Opens the regular file at a path, or the content of an address with `file:`, `http:` or `https:`.
+/// @return nothing when there is none, or the server did not send it completely.
 [[nodiscard]] std::optional<XmlBytes> OpenXmlSource(const CString& pathOrAddress);
 
 } // namespace VyrPlatform

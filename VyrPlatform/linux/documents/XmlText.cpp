@@ -1,4 +1,4 @@
-// The text of an XML element. What blanks count for is as Windows' parser has it.
+// The text of an XML element, with the same treatment of blanks as in Windows' parser.
 #include "XmlTree.h"
 
 #include <VyrPlatform/text/Encoding.h>
@@ -20,7 +20,7 @@ std::string_view ContentOf(const xmlNode* node)
     return node->content ? std::string_view(reinterpret_cast<const char*>(node->content)) : std::string_view();
 }
 
-/// The texts of an element joined, with the part that is not to be trimmed.
+/// The joined texts of an element, and the part that is not trimmed.
 class TextJoin
 {
 public:

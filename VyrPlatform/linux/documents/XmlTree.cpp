@@ -1,6 +1,6 @@
-// XML through libxml2. What its own guards leave open is bounded here: attributes of one element (it compares each with
-// all before it), different names (its table of them stays small), the memory of the tree, and what a document type
-// declares.
+// Parses XML with libxml2. Adds bounds that the library lacks: attributes of one element (it compares each with all
+// before it), different names (so that its table of them stays small), the memory of the tree, and the declarations in
+// a document type.
 #include "XmlTree.h"
 
 #include <libxml/SAX2.h>
@@ -14,21 +14,21 @@ namespace VyrPlatform {
 
 namespace {
 
-/// With a document type, entities and defaults of attributes make more of each byte.
+/// With a document type, entities and default attributes multiply the size.
 constexpr std::size_t sizeLimitWithDocumentType = 512 << 10;
 constexpr std::size_t documentTypeLimit = 64 << 10;
 constexpr int attributeLimit = 1000;
-/// How many words of the parser's arrays an attribute and a namespace take.
+/// The words that an attribute and a namespace take in the parser's arrays.
 constexpr int wordsPerAttribute = 5;
 constexpr int wordsPerNamespace = 2;
-/// The parser's arrays grow by halves or doubling, beyond what they hold.
+/// The parser's arrays grow by halves or doubling, beyond their content.
 constexpr int growth = 3;
 constexpr int nameLimit = 50000;
 constexpr std::size_t memoryLimit = 128 << 20;
-/// What a node of the tree takes beside its text, with a text node below it.
+/// The memory of a node of the tree, in addition to its text, with a text node below it.
 constexpr std::size_t nodeMemory = 256;
 
-/// One parse: what has been read, and what the tree takes.
+/// The state of a parse: the bytes read, and the memory of the tree.
 class Parse
 {
 public:
@@ -49,7 +49,7 @@ private:
                          xmlChar* content);
 
     [[nodiscard]] bool IsWithinBounds() const;
-    /// Counts what a node takes; ends the parse when that is too much.
+    /// Adds the memory of a node; ends the parse when the sum is too large.
     void Count(std::size_t memory);
     void Refuse();
 
@@ -74,10 +74,10 @@ Parse::Parse(const XmlBytes& bytes) : m_bytes(bytes), m_context(xmlNewParserCtxt
     handler.startElementNs = &Parse::OnElement;
     handler.cdataBlock = &Parse::OnCdata;
     handler.entityDecl = &Parse::OnEntity;
-    // Nobody sees them, and text on both sides of them is one text.
+    // Comments are not used, and the text on both sides of one is a single text.
     handler.comment = nullptr;
     handler.processingInstruction = nullptr;
-    // Or messages would go to the error stream.
+    // Otherwise messages would be written to the error stream.
     handler.serror = [](void*, xmlError*) {
     };
 }
@@ -95,7 +95,7 @@ XmlTree Parse::Run()
     return m_isRefused ? nullptr : shared;
 }
 
-/// Small pieces: between two of them the parser's state is looked at.
+/// Reads small pieces, between which the parser's state is checked.
 int Parse::Read(void* parse, char* buffer, int size)
 {
     constexpr int pieceSize = 4096;
@@ -139,7 +139,7 @@ void Parse::Refuse()
 void Parse::OnElement(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri, int namespaceCount,
                       const xmlChar** namespaces, int attributeCount, int defaultCount, const xmlChar** attributes)
 {
-    // An attribute is its name, its prefix, its address, and the two ends of its value.
+    // An attribute has its name, its prefix, its namespace address, and the two ends of its value.
     std::size_t memory = nodeMemory * static_cast<std::size_t>(1 + namespaceCount + attributeCount);
     for (int i = 0; i < attributeCount; ++i) {
         const xmlChar* const* const attribute = attributes + i * wordsPerAttribute;
@@ -148,7 +148,7 @@ void Parse::OnElement(void* context, const xmlChar* name, const xmlChar* prefix,
     Of(context).Count(memory);
     if (attributeCount - defaultCount > attributeLimit)
         Of(context).Refuse();
-    // Defaults are attributes like any other.
+    // Default attributes count like all others.
     if (!Of(context).m_isRefused)
         xmlSAX2StartElementNs(context, name, prefix, uri, namespaceCount, namespaces, attributeCount, 0, attributes);
 }
@@ -159,7 +159,7 @@ void Parse::OnCdata(void* context, const xmlChar* text, int length)
     xmlSAX2CDataBlock(context, text, length);
 }
 
-/// An entity whose text stands elsewhere is empty; declarations that stand elsewhere cannot be left out.
+/// An external entity is empty; external declarations cannot be skipped.
 void Parse::OnEntity(void* context, const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId,
                      xmlChar* content)
 {

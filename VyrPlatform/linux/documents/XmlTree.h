@@ -15,22 +15,23 @@ struct _xmlNode; // NOLINT(bugprone-reserved-identifier)
 
 namespace VyrPlatform {
 
-/// A parsed document, which all that show a part of it share.
+/// A parsed document, shared by all objects for parts of it.
 using XmlTree = std::shared_ptr<_xmlDoc>;
 
-/// Gives the next bytes of a document: how many it wrote into the buffer, 0 at the end, less than 0 when it fails.
+/// Returns the next bytes of a document: the number of bytes written into the buffer, 0 at the end, less than 0 on
+/// failure.
 using XmlBytes = std::function<int(std::span<char> buffer)>;
 
-/// The most bytes that a document has.
+/// The maximum size of a document in bytes.
 inline constexpr std::size_t xmlSizeLimit = 16 << 20;
 
-/// @return null when `bytes` fails, gives no well-formed document, or one beyond the bounds that XmlTypes.h tells.
+/// @return null when `bytes` fails, or when the document is malformed or exceeds the bounds in XmlTypes.h.
 [[nodiscard]] VYR_PLATFORM_API XmlTree ParseXml(const XmlBytes& bytes);
 
-/// The node after `node` in the order of the document, among those below `top`; null behind the last one.
+/// The node after `node` in document order among those below `top`; null after the last one.
 [[nodiscard]] _xmlNode* NextBelow(_xmlNode* node, const _xmlNode* top) noexcept;
 
-/// The text of an element as IXMLDOMNode gives it.
+/// The text of an element in the form of IXMLDOMNode.
 [[nodiscard]] VYR_PLATFORM_API CString TextOf(_xmlNode* element);
 
 } // namespace VyrPlatform

@@ -128,7 +128,7 @@ struct ZipArchive::Storage
         }
     }
 
-    /// The archive; null when it is none.
+    /// The archive; null when it is not a ZIP archive.
     [[nodiscard]] zip_t* Open()
     {
         zip_error_t problem;
@@ -144,7 +144,7 @@ struct ZipArchive::Storage
 
 namespace {
 
-/// A member as it is in the archive, or unpacked; nothing when it cannot be read or has more than `limit` bytes.
+/// The content of a member, packed or unpacked; nothing when it cannot be read or has more than `limit` bytes.
 std::optional<std::string> ReadMember(zip_t* archive, zip_uint64_t index, zip_flags_t flags, std::size_t limit)
 {
     const std::unique_ptr<zip_file_t, decltype(&zip_fclose)> file(zip_fopen_index(archive, index, flags), &zip_fclose);
@@ -190,7 +190,7 @@ bool IsSameMember(zip_t* before, zip_t* after, zip_uint64_t index)
            left.encryption_method == right.encryption_method && HasSamePackedBytes(before, after, index);
 }
 
-/// Replaces or adds a member, packed as the old one was.
+/// Replaces or adds a member, with the compression of the old one.
 bool PutMember(zip_t* archive, const std::string& name, const std::string& content)
 {
     zip_source_t* const source = zip_source_buffer(archive, content.data(), content.size(), 0);

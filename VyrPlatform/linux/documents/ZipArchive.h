@@ -31,10 +31,10 @@ public:
     [[nodiscard]] std::optional<std::string> Read(const std::string& name, std::size_t limit) const;
 
     /// Writes the archive of `source` to the empty file `target`, with these members replaced or added at the end. All
-    /// others are copied as they are, without unpacking them.
+    /// others are copied without unpacking them.
     /// @return 0, or the error code: EILSEQ when the archive is damaged.
     [[nodiscard]] static int WriteWith(int source, int target, const ZipMembers& members);
-    /// Whether `after` has these members, and all others of `before` in their order, with the same packed bytes.
+    /// Whether `after` has these members, and all others of `before` in the same order, with the same packed bytes.
     [[nodiscard]] static bool IsSameBut(int before, int after, const ZipMembers& members);
 
 private:

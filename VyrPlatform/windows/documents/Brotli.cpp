@@ -1,4 +1,4 @@
-// Windows has no Brotli of its own: nothing is unpacked here.
+// Windows has no Brotli library: nothing is unpacked here.
 #include <VyrPlatform/documents/Brotli.h>
 
 namespace VyrPlatform::Brotli {

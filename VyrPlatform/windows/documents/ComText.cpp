@@ -1,4 +1,3 @@
-// CString and COM's texts, on Windows.
 #include <VyrPlatform/documents/ComText.h>
 #include <VyrPlatform/text/WindowsCString.h>
 

@@ -1,4 +1,3 @@
-// Private-profile files through Windows's own functions.
 #include <VyrPlatform/documents/PrivateProfile.h>
 #include <VyrPlatform/windows/files/LongPath.h>
 
@@ -9,7 +8,7 @@ namespace VyrPlatform::PrivateProfile {
 
 namespace {
 
-/// Has the system forget what it may have kept of the file.
+/// Makes the system drop its cached content of the file.
 void ForgetContent(const LongPath& path) noexcept
 {
     WritePrivateProfileStringW(nullptr, nullptr, nullptr, path.Get());
