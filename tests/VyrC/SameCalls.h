@@ -21,14 +21,14 @@ inline std::string ShowStatus(vyr_status status)
     return status == VYR_OK ? "done" : status == VYR_FAILED ? "failed" : "status " + std::to_string(status);
 }
 
-/// What a call through C gave, and what the operation gives.
+/// The result of a call through C, and that of the C++ operation.
 struct Pair
 {
     std::string inC;
     std::string inCpp;
 };
 
-/// What `call` gives, with a buffer of the length that it asks for.
+/// The result of `call`, with a buffer of the length that it requests.
 template <class Call>
 std::string ShowText(const Call& call)
 {
@@ -55,7 +55,7 @@ std::string ShowNumber(const Call& call)
     return status == VYR_OK ? Show(number) : ShowStatus(status);
 }
 
-/// What stands in a list, which is then released.
+/// The content of a list, which is then released.
 template <class Record, class Call, class Get>
 std::string ShowList(const Call& call, const Get& get)
 {

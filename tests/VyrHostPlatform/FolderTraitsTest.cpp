@@ -1,4 +1,4 @@
-// What is taken of a folder to be given to another one.
+// The traits of a folder are read from one and set on another.
 #include <VyrHostPlatform/FolderTraits.h>
 
 #include <tests/support/ScratchFolder.h>

@@ -1,4 +1,4 @@
-// An interrupt is noted, a second one ends the program.
+// The first interrupt is noted, the second one ends the program.
 #include <tests/support/ChildProcess.h>
 
 #include <VyrHostPlatform/Interrupt.h>
@@ -20,7 +20,7 @@ TEST(InterruptTest, FirstIsNotedSecondEndsTheProgram)
     child.Interrupt();
     ASSERT_TRUE(child.WaitForOutput("asked"));
     child.Interrupt();
-    // Left alone it would never end.
+    // Without an interrupt it would never end.
     EXPECT_EQ(child.Wait().output, "ready\nasked\n");
 }
 

@@ -1,4 +1,4 @@
-// NameFolding: which names are one to a file system.
+// Names that are equal to a file system.
 #include <tests/support/Describe.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>

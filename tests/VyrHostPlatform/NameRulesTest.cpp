@@ -1,4 +1,4 @@
-// Tests of the rules for names. What differs between the systems is asked of the separator.
+// The rules for names. The separator tells which system this is.
 #include <VyrHostPlatform/NameRules.h>
 
 #include <VyrPlatform/files/FileSystem.h>
@@ -77,6 +77,6 @@ TEST(NameRules, ANameHas255UnitsOrBytes)
     // Three bytes each in UTF-8.
     ExpectFault(std::u16string(85, u'日'), NameFault::None, false);
     ExpectFault(std::u16string(86, u'日'), IsWindows() ? NameFault::None : NameFault::TooLong, !IsWindows());
-    // A lone surrogate that stands for a byte is one byte.
+    // A lone surrogate that encodes a byte is one byte.
     ExpectFault(std::u16string(255, u'\xDCFF'), NameFault::None, false);
 }

@@ -1,4 +1,4 @@
-// Work that comes up while a thread drains its queue.
+// Timed work while a thread drains its queue.
 #include <VyrHostPlatform/QueueTimer.h>
 #include <VyrPlatform/process/MessageQueue.h>
 

@@ -1,4 +1,4 @@
-// ReadToEnd: whole files, and clear errors for what has no end or is not there.
+// Whole files are read; endless devices and missing files give errors.
 #include <VyrHostPlatform/ReadToEnd.h>
 
 #include <VyrPlatform/process/Process.h>

@@ -57,7 +57,7 @@ std::map<std::string, std::string> ReadableExports(const DynamicLibrary& library
     return exports;
 }
 
-/// How many exports are called `name`, whatever their arguments.
+/// The number of exports called `name`, with any arguments.
 int CountOverloads(const std::map<std::string, std::string>& exports, const std::string& name)
 {
     const std::string start = name + '(';

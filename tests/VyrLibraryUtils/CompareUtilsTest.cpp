@@ -1,4 +1,4 @@
-// The order of texts under the locales that sort alike and under those that do not.
+// The order of texts in locales that sort in the same way and in locales that do not.
 #include <VyrLibraryUtils/CompareUtils.h>
 
 #include <tests/support/Describe.h>

@@ -1,4 +1,4 @@
-// Every table row of docs/date-time-formats.md, held against what the library does.
+// Every table row of docs/date-time-formats.md, compared with the library.
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrPlatform/text/Encoding.h>
 

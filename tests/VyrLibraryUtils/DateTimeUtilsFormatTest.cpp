@@ -1,4 +1,4 @@
-// Date-times written: formats of users, their patterns, the forms of locales.
+// Formats of users, their patterns, and the formats of locales.
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrPlatform/text/Encoding.h>
 #include <VyrPlatform/time/Clock.h>

@@ -1,4 +1,4 @@
-// File date-times as the text that is read back when they are written again.
+// The date-times of files as text, which is read back when they are written to a file.
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/FileListUtils.h>
 

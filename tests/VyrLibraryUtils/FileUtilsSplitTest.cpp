@@ -1,4 +1,4 @@
-// Paths cut and joined: what both systems share. What differs stands in the folders of the systems.
+// Splitting and joining paths on both systems. The folders of the systems have the differences.
 #include <VyrLibraryUtils/FileUtils.h>
 
 #include <tests/VyrLibraryUtils/SplitCase.h>

@@ -1,4 +1,4 @@
-// Questions about files, answered for real ones.
+// Queries of real files.
 #include <VyrLibraryUtils/FileUtils.h>
 
 #include <tests/support/Describe.h>

@@ -1,4 +1,3 @@
-// The making of folders.
 #include <VyrLibraryUtils/FolderUtils.h>
 #include <VyrPlatform/files/FileSystem.h>
 

@@ -1,4 +1,3 @@
-// Texts for log lines.
 #include <VyrLibraryUtils/LogUtils.h>
 #include <VyrPlatform/files/FileReader.h>
 

@@ -1,4 +1,4 @@
-// Compound documents told by their header.
+// Compound documents are recognised by their header.
 #include <VyrLibraryUtils/PropertyUtils.h>
 
 #include <tests/support/ScratchFolder.h>

@@ -1,4 +1,4 @@
-// The character classes, each unit against the C library's classes.
+// The character classes, compared with the C library's for each code unit.
 #include <VyrLibraryUtils/RegexUtils.h>
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Texts filled in, cut into tokens and quoted, and numbers to and from text.
+// Filling in, splitting and quoting texts, and converting numbers to and from text.
 #include <VyrLibraryUtils/StringUtils.h>
 
 #include <tests/support/Describe.h>

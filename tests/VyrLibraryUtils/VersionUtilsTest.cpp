@@ -1,4 +1,4 @@
-// The version of the running program: the build gives this test program one of its own.
+// The version of the running program: the build gives this test program its own.
 #include <VyrLibraryUtils/VersionUtils.h>
 
 #include <tests/support/Describe.h>

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// What the probe, asked about its terminals, writes to a terminal of `columns` columns.
+/// The output of the probe about its terminals, on a terminal of `columns` columns.
 std::string ProbeOnTerminal(unsigned short columns)
 {
     VyrTests::ProgramCall call;

@@ -1,4 +1,4 @@
-// What is left of a file that the system stops taking in the middle.
+// A file that the system stops accepting half-way is removed.
 #include <VyrHostPlatform/DurableFile.h>
 
 #include <tests/support/ScratchFolder.h>

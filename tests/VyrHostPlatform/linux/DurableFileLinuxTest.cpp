@@ -1,4 +1,4 @@
-// Files that are flushed to the disk: who may read them.
+// Who may read files that are flushed to the disk.
 #include <VyrHostPlatform/DurableFile.h>
 
 #include <gtest/gtest.h>

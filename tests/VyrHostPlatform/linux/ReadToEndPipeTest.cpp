@@ -19,7 +19,7 @@ using VyrHostPlatform::ReadToEnd;
 
 namespace {
 
-/// How many bytes stand in a named pipe that was opened by a writer and a reader.
+/// The number of bytes in a named pipe that was opened by a writer and a reader.
 int CountUnread(const std::filesystem::path& pipe)
 {
     const int descriptor = open(pipe.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
@@ -37,7 +37,7 @@ TEST(ReadToEndPipe, ReadsANamedPipeToItsEnd)
     const auto path = VyrTests::ToStdPath(scratch.Path(u"pipe"));
     ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
     const std::string half(700'000, 'x');
-    // More than a pipe holds, and with a wait in the middle.
+    // More than fits into a pipe, and with a wait in the middle.
     std::thread writer([&] {
         std::ofstream stream(path, std::ios::binary);
         stream << half << std::flush;

@@ -1,4 +1,5 @@
-// RenameFile where the system lacks the rename without replacing: a filter lets its calls fail as such file systems do.
+// RenameFile where the system lacks the rename without replacing: a filter makes its calls fail as on such file
+// systems.
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
 
@@ -26,7 +27,7 @@ using VyrTests::ScratchFolder;
 using VyrTests::ToStdPath;
 namespace fs = std::filesystem;
 
-/// A call of the system, and what it answers.
+/// A system call, and its result.
 struct Fault
 {
     long call;
@@ -46,7 +47,7 @@ bool Install(const std::vector<Fault>& faults)
     return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter) == 0;
 }
 
-/// Runs `work` in a thread of its own in which `faults` happen.
+/// Runs `work` in a thread of its own with `faults`.
 /// @return false when this system takes no such filter.
 bool RunWith(const std::vector<Fault>& faults, const std::function<void()>& work)
 {

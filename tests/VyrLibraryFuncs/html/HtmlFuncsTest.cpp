@@ -1,4 +1,4 @@
-// HtmlFuncs: each piece, byte for byte. The table stands for itself: no expectation is put together from others.
+// Each piece, byte for byte. No expectation of the table is made from others.
 #include <VyrLibraryFuncs/html/HtmlFuncs.h>
 
 #include <gtest/gtest.h>

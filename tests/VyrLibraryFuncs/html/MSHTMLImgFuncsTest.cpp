@@ -46,7 +46,7 @@ std::u16string StyleOf(const HtmlElement& element)
     return style;
 }
 
-/// The styles of `elements` after fitting them into `client`. Whatever was handed out must have been released.
+/// The styles of `elements` after fitting them into `client`. All interfaces must have been released.
 std::vector<std::u16string> StylesAfter(std::vector<HtmlElement> elements, CRect client,
                                         HtmlPage::Fault fault = HtmlPage::Fault::None)
 {

@@ -1,4 +1,4 @@
-// OutputFuncs: the generator text is that of this very program, whose version tests/CMakeLists.txt sets.
+// The generator text has the version of this program, which tests/CMakeLists.txt sets.
 #include <VyrLibraryFuncs/html/OutputFuncs.h>
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Attributes set and cleared, their letters, and their order.
+// Setting and clearing attributes, their letters, and their order.
 #include <VyrLibraryFuncs/metadata/AttributesFuncs.h>
 
 #include <tests/VyrLibraryFuncs/PrivateOperations.h>

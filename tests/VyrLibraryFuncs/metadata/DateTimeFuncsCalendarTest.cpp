@@ -38,7 +38,7 @@ std::string Moved(const COleDateTime& dateTime, int years, int months, int days)
     return Describe(DateTimeFuncs::GetCalDateTime(dateTime, years, months, days)).substr(0, 10);
 }
 
-/// The message of the one log line that `capture` holds; a test failure when there is not just one.
+/// The message of the only log line in `capture`; a test failure when there is not exactly one.
 std::string OnlyMessage(const DebugCapture& capture)
 {
     const std::vector<CString> texts = capture.Texts();
@@ -145,7 +145,7 @@ TEST(CalDateTime, StepOutOfTheCalendarChangesNothingAndIsLogged)
         {Date(1400, 1, 1), -1, 0, 0},
         {Date(1400, 1, 31), 0, -1, 0},
         {Date(1400, 1, 1), 0, 0, -1},
-        // What the first step makes of it counts, not what the others would.
+        // A step out of the range fails, even if the next one would return into it.
         {Date(9999, 5, 6), 1, -12, 0},
         {Date(1399, 12, 31), 0, 0, 1},
         {Date(100, 1, 1), 0, 0, 0},

@@ -1,4 +1,4 @@
-// A file's date-times: chosen, put together, written.
+// A file's date-times: chosen, combined, written.
 #include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
 
 #include <tests/support/DebugCapture.h>

@@ -1,4 +1,4 @@
-// Staggered date-times, and date-times moved by hours.
+// Staggered date-times, and shifts by hours.
 #include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
 
 #include <tests/support/DebugCapture.h>
@@ -36,7 +36,7 @@ VyrPlatform::FileTicks Ticks(const FILETIME& time)
     return static_cast<VyrPlatform::FileTicks>(std::uint64_t{time.dwHighDateTime} << 32 | time.dwLowDateTime);
 }
 
-/// What a file that got the date-time would show again; "none" for the zero file time.
+/// The date-time of a file with that time; "none" for the zero file time.
 std::string Staggered(int index, const COleDateTime& base, const DateTimeFuncs::STAGGERITEM& item)
 {
     const VyrPlatform::FileTicks ticks = Ticks(DateTimeFuncs::GetStaggerFileDateTime(index, 1, base, item));
@@ -68,7 +68,7 @@ TEST(Stagger, AddsAMultipleOfEveryStep)
     EXPECT_EQ(Staggered(0, start, item), "2024-01-05 10:30:00");
     EXPECT_EQ(Staggered(1, start, item), "2025-03-08 14:35:06");
     EXPECT_EQ(Staggered(2, start, item), "2026-05-11 18:40:12");
-    // The clock goes first: 2 February 00:05:15, then the calendar.
+    // First the clock: 2 February 00:05:15, then the calendar.
     EXPECT_EQ(Staggered(6, COleDateTime(2024, 1, 31, 23, 0, 0), item), "2031-02-19 23:30:36");
 }
 

@@ -1,4 +1,4 @@
-// Properties of documents: handlers by the registry, and what is written by whom.
+// Handlers in the registry, and writing properties with and without them.
 #include <tests/VyrLibraryFuncs/PrivateOperations.h>
 #include <tests/support/ComThread.h>
 #include <tests/support/CompoundDocument.h>

@@ -1,4 +1,4 @@
-// The mark of a download goes; all else stays.
+// The mark of a download is removed; everything else is kept.
 #include <VyrLibraryFuncs/metadata/UnblockFuncs.h>
 
 #include <tests/support/FileState.h>

@@ -1,4 +1,4 @@
-// The date-time rename: which date-time, where its text goes, and the text against the C library's.
+// The date-time rename: which date-time, the position of its text, and the text compared with the C library's.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <VyrLibraryUtils/DateTimeUtils.h>
@@ -27,7 +27,7 @@ using VyrTests::ScratchFolder;
 
 namespace {
 
-/// An item of `path` whose new name is the date-time alone.
+/// An item of `path` whose new name is only the date-time.
 NameFuncs::ITEM Dated(const CString& path, int target, const char16_t* format = u"yyyyMMdd_HHmmss")
 {
     NameFuncs::ITEM item;
@@ -71,7 +71,7 @@ constexpr Moment Late(int year, unsigned month, unsigned day, int offset)
     return {date + hours(22) + minutes(58) + seconds(7), hours(offset)};
 }
 
-/// What the C library writes for a moment of UTC.
+/// The C library's text for a time in UTC.
 CString TextOf(std::chrono::sys_seconds time)
 {
     const std::time_t seconds = std::chrono::system_clock::to_time_t(time);

@@ -1,4 +1,4 @@
-// The renames that edit a name: the tables of their rules, and every short case against a model on plain vectors.
+// The renames that edit a name: the tables of their rules, and every short case compared with a model on plain vectors.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <tests/support/ScratchFolder.h>
@@ -22,7 +22,7 @@ constexpr int largest = std::numeric_limits<int>::max();
 
 const CString unchanged = u"unchanged";
 
-/// An item without folder and extension, so that the result is the new name alone.
+/// An item without folder and extension, so that the result is only the new name.
 NameFuncs::ITEM Named(const char16_t* name)
 {
     NameFuncs::ITEM item;

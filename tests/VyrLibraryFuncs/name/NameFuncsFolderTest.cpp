@@ -42,7 +42,7 @@ std::string ContentOf(const std::filesystem::path& file)
     return content.str();
 }
 
-/// What stands below `folder`: the relative path of each entry, and its content.
+/// The entries below `folder`: their relative paths and contents.
 std::map<std::string, std::string> Tree(const CString& folder)
 {
     const std::filesystem::path root = VyrTests::ToStdPath(folder);
@@ -80,7 +80,7 @@ void MakeRandomTree(const ScratchFolder& scratch, std::u16string_view root, std:
     }
 }
 
-/// Makes a folder the current one. A fault in what an empty path stands for then harms nothing but it.
+/// Makes a folder the current one, so that a fault with an empty path can only harm this folder.
 class CurrentFolder
 {
 public:

@@ -1,4 +1,4 @@
-// What a walk through a tree answers, records, overwrites and leaves, and when it handles events.
+// Results, records, overwriting, and event handling of the walk through a tree.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/FileUtils.h>
@@ -44,7 +44,7 @@ std::vector<CString> NamesIn(const CString& folder)
     return names;
 }
 
-/// The paths below `folder` of all folders in it, each before what it holds, in the system's order.
+/// The paths of all folders below `folder`, parents first, in the system's order.
 void ListFolders(const CString& folder, const CString& below, std::vector<CString>& folders)
 {
     for (const CString& name : NamesIn(folder)) {
@@ -224,7 +224,7 @@ TEST(NameFuncsFolderWalk, CopyReturnsTheResultOfItsLastEntry)
             scratch.WriteFile(name, "x");
         const std::vector<CString> names = NamesIn(scratch.Path(u"s"));
         ASSERT_EQ(names.size(), 3U);
-        // A folder stands where one of the files belongs.
+        // A folder has the path of one of the files.
         scratch.MakeFolder(u"d/" + (isLastBlocked ? names.back() : names.front()));
         Records records;
         EXPECT_EQ(NameFuncs::CopyFolder(scratch.Path(u"s"), scratch.Path(u"d"), &records), isLastBlocked ? 0 : 1);
@@ -307,7 +307,7 @@ TEST(NameFuncsFolderWalk, FolderWhoseMakingFailsIsWalkedAllTheSame)
         const ScratchFolder scratch;
         for (const char16_t* const name : {u"s/a/1", u"s/a/2", u"s/a/3"})
             scratch.WriteFile(name, "x");
-        // Nothing stands at the new path of "a", nor can anything.
+        // There is no entry at the new path of "a", nor can there be.
         scratch.WriteFile(u"d", "a file");
         const VyrTests::MessagePosting queue;
         const VyrTests::EmptiedQueue emptied;

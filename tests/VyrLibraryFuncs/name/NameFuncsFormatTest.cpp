@@ -1,4 +1,4 @@
-// Samples of formats, and the tokens that a format may hold.
+// Samples of formats, and the tokens in formats.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <VyrPlatform/time/Clock.h>

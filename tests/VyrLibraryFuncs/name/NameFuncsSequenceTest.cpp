@@ -1,4 +1,5 @@
-// The sequence-number rename: where the number goes, its arithmetic, and its padding against the C library's.
+// The sequence-number rename: the position of the number, its arithmetic, and its padding compared with the C
+// library's.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <tests/VyrLibraryFuncs/PrivateOperations.h>
@@ -44,7 +45,7 @@ std::string NumberText(int digits, int number)
     return Narrow(NameFuncs::GetSequenceNumberFilePath(BareNumber(digits, number)));
 }
 
-/// What the C library makes of it; its zeros stand behind the minus sign, the engine's in front of it.
+/// The C library's text; its zeros are behind the minus sign, the engine's in front of it.
 std::string ExpectedNumberText(int digits, int number)
 {
     if (number < 0)
@@ -55,7 +56,7 @@ std::string ExpectedNumberText(int digits, int number)
     return text;
 }
 
-/// The number that `item` stands for, without 32-bit arithmetic.
+/// The number of `item`, without 32-bit arithmetic.
 std::int64_t ExpectedNumber(const NameFuncs::ITEM& item)
 {
     const std::int64_t exact = static_cast<std::int64_t>(item.step) * item.index + item.startNumber;

@@ -1,4 +1,4 @@
-// The rename engine's entrance: the dispatcher, the split operations and whether a clash is numbered.
+// The dispatcher of the rename engine, the split operations, and whether conflicts are numbered.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <tests/support/ScratchFolder.h>
@@ -38,7 +38,7 @@ NameFuncs::ITEM OfKind(int renameType)
 
 const CString folder = u"/some.folder/";
 
-/// A record in which every field has a value of its own.
+/// A record in which every field has a different value.
 NameFuncs::ITEM FullItem(int kind)
 {
     NameFuncs::ITEM item;

@@ -1,4 +1,3 @@
-// The products of Windows Installer as records, and their icons.
 #include <tests/VyrLibraryFuncs/PrivateOperations.h>
 #include <tests/support/DebugCapture.h>
 #include <tests/support/EmptiedQueue.h>

@@ -1,4 +1,3 @@
-// Where a product stands in the registry, and when it was installed.
 #include <tests/support/DebugCapture.h>
 #include <tests/support/ScratchRegistry.h>
 

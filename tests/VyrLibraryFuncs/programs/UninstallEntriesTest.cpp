@@ -1,4 +1,3 @@
-// The entries of the uninstall keys as records.
 #include <tests/VyrLibraryFuncs/PrivateOperations.h>
 #include <tests/support/DebugCapture.h>
 #include <tests/support/EmptiedQueue.h>
@@ -240,7 +239,7 @@ TEST_F(UninstallEntries, IllTypedAndUnterminatedTextsAreSkipped)
 
 TEST_F(UninstallEntries, UninstallStringIsExpanded)
 {
-    // On Windows the environment tells the folder, on Linux the registry does.
+    // On Windows the environment has the folder, on Linux the registry.
     const CString folder = VyrPlatform::Process::GetEnvironment(u"SystemRoot").value_or(u"C:\\windows");
     registry.SetText(HKEY_LOCAL_MACHINE, u"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion", u"SystemRoot", folder);
     for (const std::uint32_t type : {1U, 2U}) {

@@ -1,4 +1,3 @@
-// Columns of a list, found by their headings.
 #include <VyrLibraryFuncs/select/ColumnFuncs.h>
 
 #include <tests/support/EmptiedQueue.h>
@@ -17,7 +16,7 @@ using VyrTests::MessagePosting;
 
 namespace {
 
-/// What the three searches for a heading give.
+/// The results of the three searches for a heading.
 struct Found
 {
     int isVisible;
@@ -46,7 +45,7 @@ Found Find(CListCtrl list, const CString& name)
             ColumnFuncs::GetColumnItemOrder(list, name)};
 }
 
-/// A list whose queue holds nothing of its window's making, so that a test knows which drain runs what it posts.
+/// A list whose queue has no messages of its window, so that a test knows which drain runs its work.
 class ColumnFuncsTest : public testing::Test
 {
 protected:

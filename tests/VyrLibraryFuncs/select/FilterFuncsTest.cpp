@@ -1,4 +1,4 @@
-// FilterFuncs: conditions on names, and the list of what is there already.
+// Conditions on names, and the search in a list.
 #include <VyrLibraryFuncs/select/FilterFuncs.h>
 
 #include <VyrPlatform/process/MessageQueue.h>

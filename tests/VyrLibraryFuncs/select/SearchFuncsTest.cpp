@@ -1,4 +1,4 @@
-// SearchFuncs: date-time and size ranges around every bound.
+// Date-time and size ranges around every bound.
 #include <VyrLibraryFuncs/select/SearchFuncs.h>
 
 #include <tests/support/DebugCapture.h>

@@ -1,4 +1,3 @@
-// The web browsers that are installed.
 #include <tests/support/ScratchRegistry.h>
 
 #include <VyrLibraryFuncs/shell/BrowserFuncs.h>

@@ -1,4 +1,3 @@
-// Pages of the Control Panel.
 #include <tests/VyrLibraryFuncs/PrivateOperations.h>
 
 #include <VyrLibraryFuncs/shell/ControlPanelFuncs.h>
@@ -15,7 +14,7 @@ namespace Shell = VyrPlatform::Shell;
 
 namespace {
 
-/// Notes what would be started, and answers `m_answer`.
+/// Records the programs to be started, and returns `m_answer`.
 class ControlPanel : public testing::Test
 {
 protected:

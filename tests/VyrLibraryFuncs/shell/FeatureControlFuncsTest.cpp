@@ -1,4 +1,4 @@
-// Features of the web-browser control: what stands in the registry afterwards.
+// The values of features in the registry after each call.
 #include <tests/VyrLibraryFuncs/PrivateOperations.h>
 #include <tests/support/ScratchRegistry.h>
 
@@ -33,7 +33,7 @@ bool HasKey(HKEY root, const CString& path)
     return Key::Open(root, path, Access::Read).IsOpen();
 }
 
-/// The number that the user's registry holds for this program.
+/// The number in the user's registry for this program.
 std::optional<std::uint32_t> Setting(const CString& feature)
 {
     const Key key = Key::Open(HKEY_CURRENT_USER, FeaturePath(feature), Access::Read);

@@ -1,4 +1,4 @@
-// The text file class: marks, lines and code pages, read and written.
+// Byte order marks, lines and code pages, read and written.
 #include <VyrLibraryFuncs/textfile/CStdioFileEx.h>
 
 #include <VyrPlatform/files/CInvalidArgException.h>
@@ -226,12 +226,12 @@ TEST(CStdioFileEx, OddLastByteOfUtf16IsDropped)
 
 TEST(CStdioFileEx, LineFeedIsOneUnitOfUtf16)
 {
-    // U+0A0A and U+0A41 hold the byte of a line feed.
+    // U+0A0A and U+0A41 contain the byte of a line feed.
     EXPECT_THAT(LinesOf(utf16Mark + Utf16(u"\u0A0A\u0A41\u410A\nb")),
                 ElementsAre(CString(u"\u0A0A\u0A41\u410A"), CString(u"b")));
 }
 
-// The buffers hold 4096 units with the terminator, and longer lines come in steps of 128.
+// The buffers have 4096 code units with the terminator, and longer lines are read in steps of 128.
 TEST(CStdioFileEx, LinesOfEveryLengthAroundTheBuffersReadWhole)
 {
     for (const int length : {0, 1, 127, 128, 4093, 4094, 4095, 4096, 4097, 4222, 4223, 4224, 8191, 8192, 10'000}) {
@@ -451,7 +451,7 @@ public:
 
 TEST(CStdioFileEx, MarkIsWrittenWithoutAStream)
 {
-    // What a derived class writes elsewhere begins with the mark at each text, for it has no place in a file.
+    // A derived class that writes elsewhere has no position in a file, so each of its texts begins with the mark.
     Tracing file;
     file.m_nCodePage = utf8;
     file.WriteString(u"a");

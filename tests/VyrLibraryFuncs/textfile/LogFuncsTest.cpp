@@ -1,4 +1,4 @@
-// The log writer: the form of a line, the name of the day's file, and what becomes of exceptions on the way.
+// The form of a line, the name of the day's file, and exceptions of the sink.
 #include <VyrLibraryFuncs/textfile/LogFuncs.h>
 
 #include <VyrLibraryUtils/PathUtils.h>

@@ -16,7 +16,7 @@ using VyrLibraryFuncs::PrivateOperations;
 
 namespace {
 
-/// The application information file, in data folders of its own.
+/// The application information file, in data folders of the test.
 class ApplicationFuncsFile : public testing::Test
 {
 protected:

@@ -1,4 +1,3 @@
-// Loading XML documents.
 #include <VyrLibraryFuncs/xmlinfo/MSXMLFuncs.h>
 
 #include <VyrPlatform/process/ComApartment.h>

@@ -1,4 +1,3 @@
-// Reading design documents.
 #include <VyrLibraryFuncs/xmlinfo/MSXMLFuncs.h>
 #include <VyrLibraryFuncs/xmlinfo/StyleFuncs.h>
 

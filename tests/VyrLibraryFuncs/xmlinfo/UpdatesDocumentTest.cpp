@@ -1,4 +1,3 @@
-// Reading update documents.
 #include <VyrLibraryFuncs/xmlinfo/MSXMLFuncs.h>
 #include <VyrLibraryFuncs/xmlinfo/UpdatesFuncs.h>
 

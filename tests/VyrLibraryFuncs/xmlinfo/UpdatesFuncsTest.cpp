@@ -1,4 +1,4 @@
-// Update information and the schedule of checks, but for the reading of documents.
+// Update information and the schedule of checks, except the reading of documents.
 #include <VyrLibraryFuncs/xmlinfo/UpdatesFuncs.h>
 
 #include <VyrLibraryUtils/PathUtils.h>
@@ -197,7 +197,7 @@ TEST_F(UpdatesFuncsTest, SavingWritesTheUsersFileAnew)
 TEST_F(UpdatesFuncsTest, DateIsKeptWhereTheFileCannotBeWritten)
 {
     const FixedClock clock(COleDateTime(2024, 1, 5, 10, 30, 0));
-    // A folder stands in the file's place.
+    // A folder is at the path of the file.
     const std::filesystem::path path = VyrTests::ToStdPath(PathUtils::GetUpdatesFilePath());
     std::filesystem::create_directories(path / "below");
     UpdatesFuncs::SaveCheckForUpdatesDate();

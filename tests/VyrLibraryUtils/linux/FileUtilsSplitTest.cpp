@@ -1,4 +1,4 @@
-// Paths as Linux alone cuts them.
+// Paths that only Linux splits in this way.
 #include <VyrLibraryUtils/FileUtils.h>
 
 #include <tests/VyrLibraryUtils/SplitCase.h>

@@ -1,4 +1,4 @@
-// Questions about files that Linux alone can be asked: links, devices, names that are not UTF-8.
+// Queries of files that only Linux has: links, devices, names that are not UTF-8.
 #include <VyrLibraryUtils/FileUtils.h>
 
 #include <tests/support/Describe.h>

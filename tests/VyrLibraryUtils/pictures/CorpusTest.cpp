@@ -1,4 +1,4 @@
-// Real pictures, sound and damaged: every text is the one that is expected.
+// Real pictures, intact and damaged: every text is the expected one.
 #include <VyrLibraryUtils/ImageUtils.h>
 #include <VyrPlatform/text/Encoding.h>
 #include <tests/support/StdPath.h>

@@ -1,4 +1,4 @@
-// What holds for a picture of any format: the same facts, no harm from damage, and few bytes read.
+// Properties of all formats: the same facts, no harm from damage, and few bytes read.
 #include "Facts.h"
 
 #include <tests/support/PictureBuilder.h>
@@ -17,7 +17,7 @@ using VyrLibraryUtils::Pictures::ReadPicture;
 
 constexpr Endian BothOrders[] = {Endian::Little, Endian::Big};
 
-/// Bytes that claim to go on for a very long time, and the count of those that were asked for.
+/// Bytes that claim to be very long, and the number of bytes that were requested.
 class EndlessSource final : public ByteSource
 {
 public:

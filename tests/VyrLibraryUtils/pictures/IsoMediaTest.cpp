@@ -1,4 +1,4 @@
-// HEIC, HEIF, AVIF and CR3: every way in which the Exif item's place can be told, and every size that a box can have.
+// HEIC, HEIF, AVIF and CR3: every way to describe the position of the Exif item, and every possible size of a box.
 #include "Facts.h"
 
 #include <tests/support/PictureBuilder.h>
@@ -141,7 +141,7 @@ TEST(IsoMedia, PiecesOutsideTheFileDoNotCount)
 
 TEST(IsoMedia, OffsetsThatOverflowDoNotCount)
 {
-    // Base and offset are both as large as can be: their sum must not wrap around into the file.
+    // Base and offset are as large as possible: their sum must not wrap around into the file.
     const Bytes location = Box("iloc", Bytes("\1\0\0\0\x88\x80", 6) + Big(1, 2) + Big(1, 2) + Big(1, 2) + Big(0, 2) +
                                            Big(0xFFFFFFFFFFFFFFFF, 8) + Big(1, 2) + Big(1, 8) + Big(1000, 8));
     EXPECT_EQ(FactsOf(FileType + Meta(ItemInfo(1, "Exif") + location + Box("idat", Item))), NoFacts);
@@ -149,7 +149,7 @@ TEST(IsoMedia, OffsetsThatOverflowDoNotCount)
 
 TEST(IsoMedia, HugeCountsOfItemsAndPiecesEnd)
 {
-    // All widths are 0: an item takes eight bytes, whatever count of pieces it claims.
+    // All widths are 0: an item takes eight bytes, however many pieces it claims.
     const Bytes item = Big(7, 2) + Big(1, 2) + Big(0, 2) + Big(0xFFFF, 2);
     const Bytes wanted = Big(1, 2) + Big(1, 2) + Big(0, 2) + Big(0xFFFF, 2);
     const Bytes items = Big(0xFFFF, 2) + item + item + wanted;
@@ -206,7 +206,7 @@ TEST(IsoMedia, APictureThatIsAFilmTooIsReadInEitherOrder)
 
 TEST(IsoMedia, AnItemThatManyMetaBoxesNameIsReadOnce)
 {
-    /// Counts the bytes that are asked for.
+    /// Counts the requested bytes.
     class CountingSource final : public VyrLibraryUtils::Pictures::ByteSource
     {
     public:

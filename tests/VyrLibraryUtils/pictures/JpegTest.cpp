@@ -1,4 +1,4 @@
-// JPEG: which segments are looked into, and what may stand around them.
+// JPEG: which segments are read, and what may be around them.
 #include "Facts.h"
 
 #include <tests/support/PictureBuilder.h>
@@ -100,7 +100,7 @@ TEST(Jpeg, ValuesOutsideTheirSegmentDoNotCount)
 {
     const Bytes tiff = BuildTiff(PictureFacts{});
     const std::size_t model = tiff.find("Model 1");
-    // The segment ends in the middle of the model, though the file goes on.
+    // The segment ends in the middle of the model, though the file continues.
     const Bytes cut = JpegSegment(0xE1, Bytes("Exif\0\0", 6) + tiff.substr(0, model + 3));
     EXPECT_EQ(FactsOf(BuildJpeg(cut + tiff.substr(model + 3))), (Facts{"", "Testmaker", ""}));
 }

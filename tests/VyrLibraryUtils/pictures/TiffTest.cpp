@@ -34,7 +34,7 @@ std::string DateFrom(const std::string& date)
     return FactsOf(BuildTiff(PictureFacts{.dateTimeOriginal = date})).dateTimeOriginal;
 }
 
-/// Where `tag`'s entry stands in a TIFF of the given byte order.
+/// The position of `tag`'s entry in a TIFF of the given byte order.
 std::size_t EntryOf(const Bytes& tiff, std::uint16_t tag, std::uint16_t type, Endian endian)
 {
     return tiff.find(Number(tag, 2, endian) + Number(type, 2, endian));

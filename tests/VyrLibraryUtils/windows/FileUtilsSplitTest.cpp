@@ -1,4 +1,4 @@
-// Paths as Windows alone cuts them.
+// Paths that only Windows splits in this way.
 #include <VyrLibraryUtils/FileUtils.h>
 
 #include <tests/VyrLibraryUtils/SplitCase.h>

@@ -1,4 +1,4 @@
-// The columns of a list in report style, asked of a window.
+// The columns of a list in report style.
 #include <tests/support/ListWindow.h>
 
 #include <VyrPlatform/controls/CListCtrl.h>

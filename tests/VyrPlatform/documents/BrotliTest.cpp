@@ -1,4 +1,4 @@
-// Unpacking of Brotli data, where the system has it.
+// Unpacking of Brotli data, where the system supports it.
 #include <VyrPlatform/documents/Brotli.h>
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Private-profile files: one table of files and questions, and one of what writing leaves, for both systems.
+// Private-profile files: one table of files and queries, and one of files after writing, for both systems.
 #include <VyrPlatform/documents/PrivateProfile.h>
 
 #include <tests/support/Describe.h>
@@ -150,7 +150,7 @@ const std::vector<Question> questions = {
     {"[S]\nk=99999999999\n", u"S", u"k", u"99999999999", 1215752191},
 };
 
-/// What a file holds after a value was set in it.
+/// The content of a file after a value was set in it.
 struct Change
 {
     std::string before;
@@ -161,7 +161,7 @@ struct Change
 };
 
 const std::vector<Change> changes = {
-    // Where a new key goes.
+    // The position of a new key.
     {"[S]\nk=v\n", u"T", u"k", u"x", "[S]\r\nk=v\r\n[T]\r\nk=x\r\n"},
     {"[S]\nk=v\n\n\n", u"T", u"k", u"x", "[S]\r\nk=v\r\n[T]\r\nk=x\r\n"},
     {"[S]\nk=v\n\n[T]\nl=w\n", u"S", u"m", u"x", "[S]\r\nk=v\r\nm=x\r\n[T]\r\nl=w\r\n"},
@@ -175,7 +175,7 @@ const std::vector<Change> changes = {
     {"[S]\nk=v", u"S", u" k2 ", u"x", "[S]\r\nk=v\r\nk2 =x\r\n"},
     {"; only\r\n", u"Updates", u"CheckedDate", u"2024/01/05 10:30:00",
      "; only\r\n[Updates]\r\nCheckedDate=2024/01/05 10:30:00\r\n"},
-    // What becomes of an old one.
+    // Replacing an old value.
     {"[S]\nK=v\n", u"s", u"k", u"x", "[S]\r\nK=x\r\n"},
     {"[S]\nk=1\nk=2\n[S]\nk=3", u"S", u"k", u"x", "[S]\r\nk=x\r\nk=2\r\n[S]\r\nk=3\r\n"},
     {"[S]\nk\n", u"S", u"k", u"x", "[S]\r\nk=x\r\n"},
@@ -185,7 +185,7 @@ const std::vector<Change> changes = {
     {"[S]\nk=v\n", u"S", u"k", u"\"x\"", "[S]\r\nk=\"x\"\r\n"},
     {"[S]\nk=\"v\"\n", u"S", u"k", u"v", "[S]\r\nk=v\r\n"},
     {"[S]\nk=V\n", u"S", u"k", u"v", "[S]\r\nk=v\r\n"},
-    // What becomes of the rest.
+    // The rest of the file.
     {"[S]\nk = v\n\n\n[T]\n l=w", u"S", u"k", u"x", "[S]\r\nk=x\r\n[T]\r\nl=w\r\n"},
     {"; c\n\n[S]\n;d\nk=v", u"S", u"n", u"x", "; c\r\n[S]\r\n;d\r\nk=v\r\nn=x\r\n"},
     {"[S]\nk=v\nbare\n= e\n", u"S", u"k", u"x", "[S]\r\nk=x\r\nbare\r\n=e\r\n"},
@@ -199,7 +199,7 @@ const std::vector<Change> changes = {
      "\xFF\xFE;\0 \0c\0\r\0\n\0[\0S\0]\0\r\0\n\0k\0=\0v\0\x2D\x4E\r\0\n\0"s},
     {"\xFE\xFF\0[\0S\0]\0\n\0k\0=\0v"s, u"S", u"k", u"\u4E2D", "\xFE\xFF\0[\0S\0]\0\r\0\n\0k\0=\x4E\x2D\0\r\0\n"s},
     {"\xEF\xBB\xBF[S]\nk=v", u"S", u"k", u"\u4E2D", "\xEF\xBB\xBF[S]\r\nk=\xE4\xB8\xAD\r\n"},
-    // Nothing is written where the value stands there already.
+    // Nothing is written when the value is set already.
     {"[S]\r\nk=v\r\n", u"S", u"k", u"v", "[S]\r\nk=v\r\n"},
     {"[S]\nk = v\n\n", u"S", u"k", u"v", "[S]\nk = v\n\n"},
     {"[s]\nK=v", u"S", u"k", u" v", "[s]\nK=v"},

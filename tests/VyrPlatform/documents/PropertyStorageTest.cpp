@@ -1,4 +1,4 @@
-// Document properties: what stands in a compound document before and after a write.
+// The properties of a compound document before and after a write.
 #include <tests/support/ComThread.h>
 #include <tests/support/CompoundDocument.h>
 #include <tests/support/FileState.h>

@@ -1,4 +1,4 @@
-// XML documents: which load, and what their elements hold.
+// Which XML documents load, and the content of their elements.
 #include <VyrPlatform/documents/ComText.h>
 #include <VyrPlatform/documents/XmlTypes.h>
 #include <VyrPlatform/process/ComApartment.h>

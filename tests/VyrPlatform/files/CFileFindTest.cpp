@@ -1,4 +1,4 @@
-// CFileFind: the entries of a folder, and whether another one follows.
+// The entries of a folder, and whether another one follows.
 #include <VyrPlatform/files/CFileFind.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <tests/support/Describe.h>

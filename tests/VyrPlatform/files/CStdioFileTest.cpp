@@ -1,4 +1,4 @@
-// CFile and CStdioFile: the members that the text files build on.
+// The members of CFile and CStdioFile that text files use.
 #include <VyrPlatform/files/CInvalidArgException.h>
 #include <VyrPlatform/files/CStdioFile.h>
 

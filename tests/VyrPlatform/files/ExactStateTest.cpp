@@ -1,4 +1,4 @@
-// ExactState: each part comes back exactly, and alone.
+// Each part is restored exactly and without the others.
 #include <VyrPlatform/files/ExactState.h>
 
 #include <VyrPlatform/files/FileAttributes.h>

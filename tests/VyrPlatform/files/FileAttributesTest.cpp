@@ -1,4 +1,4 @@
-// FileAttributes: what both systems keep alike.
+// Attributes that both systems keep in the same way.
 #include <VyrPlatform/files/FileAttributes.h>
 #include <tests/support/FileState.h>
 #include <tests/support/ScratchFolder.h>

@@ -1,4 +1,4 @@
-// FileCopy: copies and moves that replace, and never lose a file when they fail.
+// Copies and moves that replace, and never lose a file when they fail.
 #include <VyrPlatform/files/FileAttributes.h>
 #include <VyrPlatform/files/FileCopy.h>
 #include <VyrPlatform/files/FileSystem.h>
@@ -39,7 +39,7 @@ std::string MakeContent(std::size_t size)
     return content;
 }
 
-/// What Copy and Move have in common is checked for both.
+/// Tests of what Copy and Move have in common.
 using Operation = std::uint32_t (*)(const CString&, const CString&);
 class FileCopyOrMove : public testing::TestWithParam<Operation>
 {};

@@ -1,4 +1,3 @@
-// FileIdentity: what tells one file from another.
 #include <tests/support/Links.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>

@@ -1,4 +1,4 @@
-// FileReader: any bytes of a file, while others go on using it.
+// Reading any bytes of a file, while others use it.
 #include <VyrPlatform/files/FileReader.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <tests/support/ScratchFolder.h>

@@ -1,4 +1,4 @@
-// FileStream: files opened in every way, read and written from a place that moves along.
+// Opening files in every way, and reading and writing at a moving position.
 #include <VyrPlatform/files/CFileException.h>
 #include <VyrPlatform/files/FileStream.h>
 

@@ -1,4 +1,4 @@
-// FileSystem: what stands at a path, and the making of folders.
+// Queries of paths, and the creation of folders.
 #include <VyrPlatform/files/FileSystem.h>
 #include <tests/support/FileMoments.h>
 #include <tests/support/Links.h>
@@ -18,7 +18,7 @@ namespace {
 constexpr char16_t withNul[] = u"a\0b";
 const CString nameWithNul(std::u16string_view(withNul, 3));
 
-/// A folder far below `scratch`, whose path is longer than the 260 code units that old programs can hold.
+/// A folder far below `scratch`, whose path is longer than the 260 code units of old programs.
 CString MakeDeepFolder(const ScratchFolder& scratch)
 {
     CString path = scratch.Path();

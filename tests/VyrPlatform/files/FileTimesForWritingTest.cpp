@@ -1,4 +1,4 @@
-// File times that are going to be written back: the inverse of the system's own conversion.
+// File times for writing back: the inverse of the system's own conversion.
 #include <VyrPlatform/files/FileTimes.h>
 
 #include <tests/support/Describe.h>
@@ -17,8 +17,8 @@ namespace {
 
 constexpr std::int64_t secondsPerDay = 86'400;
 
-/// Writes back what is read of the noon (UTC) of each day from 1971 to 2037. Where clocks are turned back, an hour has
-/// two instants; it is never that of noon in the zones asked.
+/// Writes back the noon (UTC) of each day from 1971 to 2037. An hour in which clocks are turned back has two instants;
+/// it is never at noon UTC in the zones of the tests.
 void ExpectEveryDayComesBack()
 {
     for (std::int64_t day = 365; day < 67 * 365; ++day) {

@@ -1,4 +1,4 @@
-// FileTimes: a file's three times, and file times as local time.
+// A file's three times, and their conversion to local time.
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/files/FileTimes.h>
 #include <tests/support/FileMoments.h>
@@ -289,7 +289,7 @@ TEST_F(FileTimesInBerlin, ToLocalJumpsWhereTheClockDoes)
     ExpectLocal(Utc(2024y / March / 31, 1, 0, 0), 2024y / March / 31, 3, 0, 0);
     ExpectLocal(Utc(2024y / October / 27, 0, 59, 59), 2024y / October / 27, 2, 59, 59);
     ExpectLocal(Utc(2024y / October / 27, 1, 0, 0), 2024y / October / 27, 2, 0, 0);
-    // The same day again, now that its offsets have been asked for.
+    // The same day again, now that its offsets are cached.
     ExpectLocal(Utc(2024y / March / 31, 0, 0, 0), 2024y / March / 31, 1, 0, 0);
     ExpectLocal(Utc(2024y / March / 31, 23, 0, 0), 2024y / April / 1, 1, 0, 0);
 }

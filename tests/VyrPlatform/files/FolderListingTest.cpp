@@ -1,4 +1,3 @@
-// FolderListing: every entry of a folder, once, with its kind.
 #include <VyrPlatform/files/FolderListing.h>
 #include <tests/support/Links.h>
 #include <tests/support/ScratchFolder.h>

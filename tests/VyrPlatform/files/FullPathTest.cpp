@@ -1,4 +1,3 @@
-// Tests of full paths.
 #include <VyrPlatform/files/FullPath.h>
 
 #include <VyrPlatform/files/FileSystem.h>

@@ -1,4 +1,4 @@
-// NamedStreams: the mark of a download goes, the file stays.
+// The mark of a download is removed, the file is kept.
 #include <VyrPlatform/files/NamedStreams.h>
 #include <tests/support/FileState.h>
 #include <tests/support/ScratchFolder.h>

@@ -1,4 +1,4 @@
-// WorkingFolder: the same files open as without it.
+// Files open in the same way with and without it.
 #include <VyrPlatform/files/FileReader.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/files/WorkingFolder.h>

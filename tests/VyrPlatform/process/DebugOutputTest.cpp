@@ -1,4 +1,4 @@
-// Where debugger output goes.
+// Debugger output with and without a sink.
 #include <tests/support/DebugCapture.h>
 
 #include <VyrPlatform/process/DebugOutput.h>

@@ -15,14 +15,14 @@ using VyrTests::MessagePosting;
 
 namespace {
 
-/// Runs `test` on a thread of its own, whose queue nothing has touched.
+/// Runs `test` on a thread of its own with an untouched queue.
 template <class Test>
 void OnNewThread(Test test)
 {
     std::thread(test).join();
 }
 
-/// Drains until a stop is told; how many drains that took, or 0 when none was told within `limit`.
+/// Drains until a stop is returned; the number of drains, or 0 when there was none within `limit`.
 int DrainsUntilStop(int limit)
 {
     for (int count = 1; count <= limit; ++count) {

@@ -1,4 +1,4 @@
-// What a program knows of itself and of its surroundings.
+// The running program and the system's folders.
 #include <tests/support/ChildProcess.h>
 #include <tests/support/ScratchFolder.h>
 
@@ -15,7 +15,7 @@ using VyrTests::RunProgram;
 
 namespace {
 
-/// What the probe answers, without the line end.
+/// The output of the probe, without the line end.
 CString Probe(std::vector<CString> arguments, std::map<CString, std::optional<CString>> environment = {})
 {
     const ProgramResult result =

@@ -1,4 +1,4 @@
-// Libraries that are loaded while the program runs.
+// Libraries that are loaded at run time.
 #include <tests/support/ScratchFolder.h>
 
 #include <VyrPlatform/process/SystemLibrary.h>

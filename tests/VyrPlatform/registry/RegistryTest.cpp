@@ -1,4 +1,4 @@
-// The registry: what is read from it, in every form in which the system keeps one, and what is written.
+// Reading the registry, in every form in which the system stores one, and writing it.
 #include <tests/support/RegistryForms.h>
 #include <tests/support/ScratchRegistry.h>
 

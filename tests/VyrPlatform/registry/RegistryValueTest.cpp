@@ -1,4 +1,3 @@
-// The checks on texts and numbers of the registry.
 #include <tests/support/ScratchRegistry.h>
 
 #include <VyrPlatform/WinTypes.h>

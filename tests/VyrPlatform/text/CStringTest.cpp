@@ -1,4 +1,4 @@
-// CString: sharing, the edges of its counts, and the formatter against the C library's.
+// Sharing, the limits of counts, and the formatter compared with the C library's.
 #include <VyrPlatform/text/CString.h>
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Code pages: one table of bytes and texts, which holds on both systems.
+// Code pages: one table of bytes and texts for both systems.
 #include <VyrPlatform/text/CodePage.h>
 
 #include <tests/support/Describe.h>
@@ -15,7 +15,7 @@ namespace {
 
 using namespace std::string_literals;
 
-/// The text of `bytes`, by way of its size as any caller goes.
+/// The text of `bytes`, converted after its size was requested.
 CString ToText(std::uint32_t codePage, const std::string& bytes)
 {
     const std::size_t size = CodePage::ToText(codePage, bytes.c_str(), {});
@@ -32,7 +32,7 @@ std::string ToBytes(std::uint32_t codePage, const CString& text)
     return size == 0 ? "(none)"s : std::string(bytes.data(), size - 1);
 }
 
-/// A text that a code page holds, and its bytes.
+/// A text in a code page, and its bytes.
 struct Same
 {
     std::uint32_t codePage;
@@ -112,7 +112,7 @@ const std::vector<Same> onlyWritten = {
     {28605, u"\u0301a", "#a"},
     // UTF-8 composes nothing.
     {65001, u"A\u0308", "A\xCC\x88"},
-    // What is lacking, once for each unit.
+    // A missing character, once for each code unit.
     {1252, u"a中b", "a#b"},
     {1251, u"\u05D0\u4E2D", "##"},
     {20127, u"\u4E2D", "#"},
@@ -131,7 +131,7 @@ const std::vector<Same> onlyWritten = {
 
 /// Bytes that are read as a text but not written so.
 const std::vector<Same> onlyRead = {
-    // Sequences that are cut by the end, or by what does not belong to them.
+    // Sequences that are truncated by the end, or by other bytes.
     {65001, u"a\uFFFD", "a\xE2\x82"},
     {65001, u"\uFFFD", "\xF0\x9F\x98"},
     {65001, u"\uFFFDz", "\xE2\x82z"},
@@ -196,7 +196,8 @@ TEST(CodePage, AsciiIsUnchangedInEveryPage)
 TEST(CodePage, CharacterReadFromOneByteIsWrittenAsThatByte)
 {
     for (const Same& row : sameBothWays) {
-        // In the pages of two bytes most bytes are half a character; ASCII reads what it lacks in its own way.
+        // In the pages of two bytes most bytes are half a character; ASCII lacks the other bytes and reads them in its
+        // own way.
         if (row.codePage == CodePage::utf8 || row.codePage == 20127 || (row.codePage >= 932 && row.codePage <= 950))
             continue;
         int count = 0;

@@ -1,4 +1,4 @@
-// What UTF-8 becomes in UTF-16 and back, well-formed or not.
+// UTF-8 to UTF-16 and back, well-formed or not.
 #include <VyrPlatform/text/Encoding.h>
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// What the user's language does to letters, order, dates and numbers: one table for both systems.
+// The user's language in letters, order, dates and numbers: one table for both systems.
 #include "CaseTable.h"
 
 #include <tests/support/UserLocale.h>
@@ -127,7 +127,7 @@ TEST(LocaleTest, NoLocaleChangesTheLettersI)
 TEST(LocaleTest, SurrogatesAreNotChanged)
 {
     const UserLocale locale(u"de_DE");
-    // U+10428 is a small letter of the Deseret alphabet, which lies beyond one code unit.
+    // U+10428 is a small letter of the Deseret alphabet, which takes two code units.
     const CString text = u"\U00010428a";
     EXPECT_EQ(Upper(text), u"\U00010428A");
     using namespace std::string_view_literals;

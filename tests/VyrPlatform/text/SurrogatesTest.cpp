@@ -1,4 +1,4 @@
-// The halves of characters, for every unit.
+// The halves of pairs, for every code unit.
 #include <VyrPlatform/text/Surrogates.h>
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// AutomationDate: the forms that the libraries themselves write are read on both systems.
+// Both systems read the formats that the libraries themselves write.
 #include <VyrPlatform/time/AutomationDate.h>
 #include <VyrPlatform/time/DateTimePattern.h>
 

@@ -11,7 +11,7 @@ using VyrTests::FixedClock;
 
 namespace {
 
-/// The local time as the C library tells it.
+/// The local time from the C library.
 COleDateTime CLibraryNow()
 {
     const std::time_t now = std::time(nullptr);

@@ -1,4 +1,4 @@
-// Calendar arithmetic against a calendar in another language, whose rules are all written out.
+// Calendar arithmetic compared with a calendar in another language, with all rules written out.
 #include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
 
 #include <tests/support/ChildProcess.h>

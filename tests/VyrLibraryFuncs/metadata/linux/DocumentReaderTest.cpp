@@ -1,4 +1,4 @@
-// Real documents of all kinds, written and then read by a program that knows them on its own.
+// Real documents of all kinds, written and then read by an independent program.
 #include <tests/support/DocumentCorpus.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
@@ -21,7 +21,7 @@ namespace {
 
 constexpr GUID officeOpenXml{0x993BE281, 0x6695, 0x4BA5, {0x8A, 0x2A, 0x7A, 0xAC, 0xBF, 0xAA, 0xB6, 0x9E}};
 
-/// What the command writes.
+/// The output of the command.
 std::string OutputOf(const std::string& command)
 {
     const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), &pclose);

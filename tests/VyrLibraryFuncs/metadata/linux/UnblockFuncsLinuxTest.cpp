@@ -1,4 +1,4 @@
-// Unblocking on Linux: every form of the mark, the very mode and attributes afterwards, and an ordinary user.
+// Unblocking on Linux: every form of the mark, exactly the same mode and attributes afterwards, and an ordinary user.
 #include <VyrLibraryFuncs/metadata/UnblockFuncs.h>
 
 #include <tests/support/ScratchFolder.h>

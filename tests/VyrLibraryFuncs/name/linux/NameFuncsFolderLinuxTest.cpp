@@ -1,4 +1,4 @@
-// Folder copy and move among what only Linux has: links, pipes, names that are not UTF-8, a second file system.
+// Folder copy and move with entries that only Linux has: links, pipes, names that are not UTF-8, a second file system.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <tests/support/ChildProcess.h>
@@ -55,7 +55,7 @@ private:
     rlimit m_before;
 };
 
-/// Goes down `levels` folders called "d" from `folder`, and makes those that are missing if `isMaking`.
+/// Enters `levels` folders called "d" from `folder`, and creates missing ones if `isMaking`.
 /// @return a descriptor of the last one; negative when one is missing.
 int GoDown(const CString& folder, int levels, bool isMaking)
 {
@@ -239,7 +239,7 @@ TEST(NameFuncsFolderLinux, DestinationThatALinkLeadsIntoTheSourceGivesZero)
         EXPECT_EQ(operation(scratch.Path(u"link"), scratch.Path(u"from/sub/to"), nullptr), 0);
         EXPECT_FALSE(scratch.Has(u"from/sub/to"));
         EXPECT_EQ(scratch.ReadFile(u"from/sub/a"), "a");
-        // What lies beyond a link that only begins inside is outside.
+        // A path beyond a link that only begins inside is outside.
         EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"link/../../to"), nullptr), 1);
         EXPECT_EQ(scratch.ReadFile(u"to/sub/a"), "a");
     }

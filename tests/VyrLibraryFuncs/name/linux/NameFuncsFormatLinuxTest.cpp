@@ -1,4 +1,4 @@
-// How often a picture is opened for the tokens of a format, as the system tells it.
+// How often a picture is opened for the tokens of a format, counted by the system.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <tests/support/PictureBuilder.h>
@@ -30,7 +30,7 @@ public:
     OpenCount& operator=(const OpenCount&) = delete;
     ~OpenCount() { close(m_events); }
 
-    /// How often since it was asked last.
+    /// The number since the last call.
     [[nodiscard]] std::size_t Take() const
     {
         inotify_event event = {};

@@ -1,4 +1,4 @@
-// A padding so long that Windows, which asks for the window's messages at each of its steps, would take seconds for it.
+// A padding so long that Windows, which queries the window's messages at each step, would take seconds for it.
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
 #include <gtest/gtest.h>

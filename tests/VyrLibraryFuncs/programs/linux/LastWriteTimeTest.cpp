@@ -1,4 +1,4 @@
-// When an entry was last written to, for moments that only a tree in memory can be given.
+// The last write of an entry, with times that only a tree in memory can have.
 #include <tests/support/FileMoments.h>
 #include <tests/support/TimeZone.h>
 #include <tests/support/UserLocale.h>

@@ -1,4 +1,4 @@
-// The localized name of a program, which stands in the resources of a file.
+// The localized name of a program, from the resources of a file.
 #include <tests/support/ScratchRegistry.h>
 
 #include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>

@@ -1,4 +1,4 @@
-// Features of the web-browser control for the running process: what the system's URL library says afterwards.
+// Features for the running process, read back from the system's URL library.
 #include <tests/VyrLibraryFuncs/PrivateOperations.h>
 
 #include <VyrLibraryFuncs/shell/FeatureControlFuncs.h>
@@ -31,7 +31,7 @@ const ProcessFeature processFeatures[] = {
     {FeatureControlFuncs::SetFeatureFeeds, FEATURE_FEEDS},
 };
 
-/// What the URL library says; it is in the process once a feature was switched.
+/// The state in the URL library, which is in the process once a feature was switched.
 bool IsEnabled(INTERNETFEATURELIST feature)
 {
     const HMODULE library = ::GetModuleHandleW(L"urlmon.dll");

@@ -1,5 +1,5 @@
-// A second tool reads the pictures that the tests build, so that builder and reader cannot share one mistake. On Linux
-// alone: the bytes are the same on Windows.
+// A second tool reads the pictures that the tests build, so that builder and reader cannot share a mistake. Only on
+// Linux: the bytes are the same on Windows.
 #include "../Facts.h"
 
 #include <VyrPlatform/documents/Brotli.h>
@@ -20,7 +20,7 @@ using namespace VyrTests;
 
 constexpr const char16_t* Exiftool = u"/usr/bin/exiftool";
 
-/// What exiftool says about every file in `folder`.
+/// The output of exiftool for every file in `folder`.
 std::map<std::string, Facts> AskExiftool(const CString& folder)
 {
     const ProgramResult result =

@@ -1,4 +1,4 @@
-// How often and how much is read of a file, as the system itself counts it.
+// How often and how much of a file is read, counted by the system.
 #include <VyrLibraryUtils/ImageUtils.h>
 #include <tests/support/PictureBuilder.h>
 #include <tests/support/ScratchFolder.h>
@@ -20,7 +20,7 @@ struct ReadCount
     std::uint64_t bytes = 0;
 };
 
-/// What this process has read so far, this reading included.
+/// The bytes that this process has read so far, including this reading.
 ReadCount ReadsSoFar()
 {
     ReadCount count;
@@ -36,7 +36,7 @@ ReadCount ReadsSoFar()
     return count;
 }
 
-/// What reading the date of `path` reads; the counting itself is measured first and taken off.
+/// The bytes that are read for the date of `path`; those of the counting itself are subtracted.
 ReadCount ReadsForDate(const CString& path, std::u16string_view expected)
 {
     const ReadCount start = ReadsSoFar();

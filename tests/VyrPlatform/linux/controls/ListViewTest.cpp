@@ -1,4 +1,4 @@
-// Lists as hosts on Linux describe them: what is refused, and which handles they get.
+// Lists of hosts on Linux: refused calls, and handles.
 #include <VyrPlatform/controls/LinuxListView.h>
 
 #include <gtest/gtest.h>

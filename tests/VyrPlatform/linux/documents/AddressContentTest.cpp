@@ -1,4 +1,4 @@
-// Content from addresses: servers that are slow, endless, circular or cut off end within the limits.
+// Content from addresses: slow, endless and cyclic servers, and truncated answers, end within the limits.
 #include <VyrPlatform/documents/ComText.h>
 #include <VyrPlatform/documents/XmlTypes.h>
 #include <VyrPlatform/linux/documents/AddressContent.h>
@@ -28,7 +28,7 @@ std::string Redirection(const std::string& to)
     return "HTTP/1.1 302 Found\r\nContent-Length: 0\r\nLocation: " + to + "\r\n\r\n";
 }
 
-/// A server that answers each question with the same bytes.
+/// A server that answers each request with the same bytes.
 LoopbackServer::Handler Always(std::string bytes)
 {
     return [bytes = std::move(bytes)](const std::string&, const LoopbackServer::Answer& answer) {

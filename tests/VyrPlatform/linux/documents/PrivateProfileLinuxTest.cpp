@@ -1,4 +1,4 @@
-// Private-profile files on Linux: what is beyond the system's functions of Windows.
+// Private-profile files on Linux: properties that Windows' own functions do not have.
 #include <VyrPlatform/documents/PrivateProfile.h>
 
 #include <tests/support/Describe.h>

@@ -1,4 +1,4 @@
-// Samba's extended attribute: every version, and bytes that are none of them.
+// Samba's extended attribute: every version, and other bytes.
 #include <VyrPlatform/files/FileAttributes.h>
 #include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/linux/files/DosAttribute.h>
@@ -66,7 +66,7 @@ std::string Attributed(std::string_view value, std::uint32_t attributes)
     return changed;
 }
 
-/// The value of the attribute as it stands; empty when there is none.
+/// The value of the attribute; empty when there is none.
 std::string ValueOf(const CString& path)
 {
     std::string value(256, '\0');
@@ -306,7 +306,7 @@ TEST(DosAttributeOfFile, IsNotCreatedForAttributesThatTheModeKeeps)
     EXPECT_EQ(FileAttributes::Set(file, 0x81), 0U);
     EXPECT_EQ(FileAttributes::Get(file), 1U);
     EXPECT_EQ(ValueOf(file), "") << "the mode tells it";
-    // Of a folder the mode never tells it.
+    // The mode of a folder does not keep the attribute.
     EXPECT_EQ(FileAttributes::Set(scratch.Path(u"folder"), 0x11), 0U);
     EXPECT_EQ(FileAttributes::Get(scratch.Path(u"folder")), 0x11U);
     EXPECT_EQ(ValueOf(scratch.Path(u"folder")).substr(8, 8), "\1\0\0\0\x11\0\0\0"sv);

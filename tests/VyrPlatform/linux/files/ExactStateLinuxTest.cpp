@@ -42,7 +42,7 @@ struct stat StatusOf(const CString& path)
     return status;
 }
 
-/// The bytes of Samba's attribute; nothing where there is none.
+/// The bytes of Samba's attribute; nothing when there is none.
 std::optional<std::string> Samba(const CString& path)
 {
     std::string value(256, '\0');

@@ -1,4 +1,4 @@
-// Attributes and times on Linux: the mode, rights, and file systems that keep less.
+// Attributes and times on Linux: the mode, permissions, and file systems that store less.
 #include <VyrPlatform/files/FileAttributes.h>
 #include <VyrPlatform/files/FileTimes.h>
 
@@ -42,7 +42,7 @@ void SetMode(const CString& path, mode_t mode)
     ASSERT_EQ(chmod(VyrTests::ToStdPath(path).c_str(), mode), 0);
 }
 
-/// What is kept in the file's extended attribute.
+/// The value of the file's extended attribute.
 std::string Kept(const CString& path)
 {
     std::string value(256, '\0');

@@ -1,4 +1,4 @@
-// What copies and moves keep on Linux, and what becomes of files when the system refuses half-way.
+// What copies and moves keep on Linux, and the state of the files when the system fails half-way.
 #include <VyrPlatform/files/FileCopy.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/files/FileTimes.h>

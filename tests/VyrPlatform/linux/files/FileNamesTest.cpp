@@ -1,4 +1,4 @@
-// Linux names are bytes: those that are not UTF-8, and texts that stand for no bytes.
+// Linux names are bytes: names that are not UTF-8, and texts that encode no bytes.
 #include <VyrPlatform/files/FileReader.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/files/FileTimes.h>

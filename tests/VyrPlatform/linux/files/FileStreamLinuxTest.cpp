@@ -94,7 +94,7 @@ TEST(FileStreamLinux, DestructorAndAbortDiscardBytesThatCannotBeWritten)
         ASSERT_TRUE(file.Open(scratch.Path(u"a").GetString(), CFile::modeCreate | CFile::modeWrite));
         file.Write("0123456789abcdef", 16);
         const FileSizeLimit limit(10);
-        // The limit goes after the file does.
+        // The limit is removed after the file.
         CStdioFile other;
         ASSERT_TRUE(other.Open(scratch.Path(u"b").GetString(), CFile::modeCreate | CFile::modeWrite));
         other.Write("0123456789abcdef", 16);

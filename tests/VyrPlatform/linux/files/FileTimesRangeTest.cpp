@@ -1,4 +1,4 @@
-// File times on Linux: every zone against the C library, and times that few file systems can hold.
+// File times on Linux: every zone compared with the C library, and times that few file systems can represent.
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/files/FileTimes.h>
 #include <tests/support/Describe.h>

@@ -1,4 +1,4 @@
-// Files on a Windows disk: what its driver keeps in extended attributes.
+// Files on a Windows disk, whose driver keeps properties in extended attributes.
 #include <VyrPlatform/files/FileAttributes.h>
 #include <VyrPlatform/files/FileCopy.h>
 #include <VyrPlatform/files/FileTimes.h>

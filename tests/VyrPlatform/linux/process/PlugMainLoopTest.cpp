@@ -1,4 +1,4 @@
-// Events that come through the poster and through a host's own main loop.
+// Events from the poster and from a host's own main loop.
 #include <VyrPlatform/process/LinuxMessageQueue.h>
 #include <VyrPlatform/process/MessageQueue.h>
 
@@ -24,7 +24,7 @@ void OnNewThread(Test test)
     std::thread(test).join();
 }
 
-/// A main loop around poll, as a host without a toolkit has it: its events are numbers that come through a pipe.
+/// A main loop around poll, for a host without a toolkit: its events are numbers from a pipe.
 class PollLoop
 {
 public:
@@ -180,7 +180,7 @@ TEST(PlugMainLoopTest, WorkThatTheLoopStartsMayDrain)
             return loop.Pass();
         });
         loop.Send(PollLoop::stop);
-        // The innermost pass takes the stop; those around it find nothing.
+        // The innermost pass takes the stop; the outer ones find nothing.
         EXPECT_FALSE(DrainOne());
         EXPECT_EQ(nested, (std::vector<bool>{true, false}));
     });

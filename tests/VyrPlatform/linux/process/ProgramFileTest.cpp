@@ -1,4 +1,4 @@
-// What Linux programs find out about their own file.
+// The path of a program's own file on Linux.
 #include <tests/support/ChildProcess.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>

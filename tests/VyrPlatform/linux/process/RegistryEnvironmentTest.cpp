@@ -1,4 +1,4 @@
-// The variables of a Windows, which Linux takes from the registry that is open.
+// The variables of a Windows, which Linux reads from the open registry.
 #include <tests/support/ScratchRegistry.h>
 
 #include <VyrPlatform/WinTypes.h>

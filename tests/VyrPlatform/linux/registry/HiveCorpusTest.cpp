@@ -1,4 +1,4 @@
-// Real hives of the corpus, as the registry shows them: every key and value as another reader tells them.
+// Real hives of the corpus: every key and value is compared with another reader's.
 #include <tests/support/ChildProcess.h>
 #include <tests/support/RegistryTree.h>
 #include <tests/support/ScratchFolder.h>
@@ -28,7 +28,7 @@ using VyrTests::ScratchFolder;
 
 namespace {
 
-/// What reglookup writes of a hive, a line for each key and value: `PATH,TYPE,VALUE,TIME,`.
+/// The output of reglookup for a hive, a line for each key and value: `PATH,TYPE,VALUE,TIME,`.
 using Lines = std::multiset<std::string>;
 
 const std::map<std::uint32_t, std::string> typeNames = {
@@ -36,7 +36,7 @@ const std::map<std::uint32_t, std::string> typeNames = {
     {6, "LINK"}, {7, "MULTI_SZ"}, {8, "RSRC_LIST"}, {9, "RSRC_DESC"}, {10, "RSRC_REQ_LIST"}, {11, "QWORD"},
 };
 
-/// The bytes with percent signs and two digits for what is not printed, and for `special` signs.
+/// The bytes with percent signs and two digits for unprintable bytes, and for `special` characters.
 std::string Quoted(std::string_view bytes, std::string_view special)
 {
     std::string text;
@@ -70,7 +70,7 @@ std::string NameOf(const CString& name)
     return Quoted(bytes, specialInNames);
 }
 
-/// The text in the bytes; nothing where it is not ASCII, or has half a unit.
+/// The text in the bytes; nothing when it is not ASCII, or has half a code unit.
 std::optional<std::string> PlainText(std::string_view bytes)
 {
     if (bytes.size() % 2 != 0)

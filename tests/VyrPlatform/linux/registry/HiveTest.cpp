@@ -1,4 +1,4 @@
-// The hives of a Windows that does not run: what they show, and what is left of damaged ones.
+// The hives of a Windows that is not running, also damaged ones.
 #include <tests/support/RegistryTree.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/linux/HiveBuilder.h>

@@ -1,4 +1,4 @@
-// Trees of keys in memory, and what root keys show on Linux.
+// Trees of keys in memory, shown by root keys on Linux.
 #include <tests/support/RegistryTree.h>
 
 #include <VyrPlatform/WinTypes.h>

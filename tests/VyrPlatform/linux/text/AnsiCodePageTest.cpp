@@ -1,4 +1,4 @@
-// The ANSI code page that a Linux program takes from the locale of its environment.
+// The ANSI code page of a Linux program, from the locale in its environment.
 #include <tests/support/ChildProcess.h>
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// The locale that a Linux program takes from its environment, and what ICU knows beyond Wine.
+// The locale of a Linux program from its environment, and what ICU knows beyond Wine.
 #include <tests/support/ChildProcess.h>
 #include <tests/support/UserLocale.h>
 
@@ -8,7 +8,7 @@ namespace {
 
 using Environment = std::map<CString, std::optional<CString>>;
 
-/// What z is to ö (<, > or =), the thousands separator and the name of January, under `changes`.
+/// The order of z and ö (<, > or =), the thousands separator and the name of January, under `changes`.
 std::string LocaleUnder(const Environment& changes)
 {
     Environment environment = {{u"LC_ALL", {}},     {u"LC_MESSAGES", {}}, {u"LC_COLLATE", {}},

@@ -17,7 +17,7 @@ namespace FileSystem = VyrPlatform::FileSystem;
 
 namespace {
 
-/// A new folder of Wine's drive Z on a file system of its own.
+/// A new folder of Wine's drive Z on a separate file system.
 class OtherVolume
 {
 public:

@@ -1,4 +1,4 @@
-// What the ways of sharing a file allow others on Windows.
+// What each kind of sharing allows others on Windows.
 #include <VyrPlatform/files/CFile.h>
 
 #include <tests/support/Describe.h>

@@ -1,4 +1,4 @@
-// The data of symbolic links and junctions, and their copying where the system has any.
+// The data of symbolic links and junctions, and copying them where the system supports them.
 #include <VyrPlatform/files/FileCopy.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/text/WindowsCString.h>

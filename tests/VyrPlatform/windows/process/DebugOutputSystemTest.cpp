@@ -8,7 +8,7 @@
 
 namespace {
 
-/// What the exceptions of the debugger output have carried.
+/// The texts in the exceptions of the debugger output.
 std::string& Seen()
 {
     static std::string seen;

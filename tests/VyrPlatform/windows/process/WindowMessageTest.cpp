@@ -38,7 +38,7 @@ protected:
         m_window = ::CreateWindowExW(0, windowClass.lpszClassName, L"Test", WS_OVERLAPPEDWINDOW, 0, 0, 100, 100,
                                      nullptr, nullptr, windowClass.hInstance, nullptr);
         ASSERT_NE(m_window, nullptr);
-        // What creating the window has posted.
+        // The messages from creating the window.
         for (int i = 0; i < 50; ++i)
             ASSERT_FALSE(DrainOne());
         Received().clear();
