@@ -1,6 +1,13 @@
 # Completion of vyr's command line for bash. Commands, options and their values are read from vyr's own help, so they
 # are those of the installed program.
 
+# The words that the help in $1 names for the values of option $2, such as "today, yesterday, ... or FROM..TO".
+_vyr_words()
+{
+    awk -v option="$2" '$1 == option { on = 1; print; next } on && /^          / { print; next } { on = 0 }' <<<"$1" |
+        tr -s ' \n' ' ' | sed -E 's/ \([^)]*\)//g; s/^( *--set LIST Set |.*they are |[^:]*: )//; s/,? or .*//' | tr -d ,
+}
+
 _vyr()
 {
     local cur prev words cword
@@ -24,6 +31,18 @@ _vyr()
     case $value in
     *'|'*)
         COMPREPLY=($(compgen -W "${value//|/ }" -- "$cur"))
+        return
+        ;;
+    RANGE | LIST | COLUMN)
+        local option=$prev first=
+        case $prev in
+        --created | --taken) option=--modified ;;
+        --clear) option=--set ;;
+        --sort) option=--columns ;;
+        esac
+        # Behind a comma another one of a list begins.
+        [[ $value != LIST || $cur != *,* ]] || first=${cur%,*},
+        COMPREPLY=($(compgen -P "$first" -W "$(_vyr_words "$help" "$option")" -- "${cur#"$first"}"))
         return
         ;;
     FILE | FOLDER | '') ;;
