@@ -31,10 +31,10 @@ void Count(BatchSummary& summary, Model::Status status)
 
 Model::Outcome NotFound(std::uint32_t error)
 {
-    CString reason = u"it is at none of its paths";
-    if (error)
-        reason = CString::Join({reason, u": ", Text::ErrorText(error)});
-    return {.status = Model::Status::Failed, .error = error, .reason = reason};
+    const CString cause = error != 0 ? Text::ErrorText(error) : CString();
+    return {.status = Model::Status::Failed,
+            .error = error,
+            .reason = Model::ReasonAndCause(u"it is at none of its paths", cause)};
 }
 
 } // namespace

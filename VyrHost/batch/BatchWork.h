@@ -23,7 +23,7 @@ public:
     /// @param progress tells where the files stand while the same batch renames them.
     ChangeWork(const Journal& journal, const PlanProgress& progress);
 
-    /// Takes the changes that the journal's checkpoint says so for as not done: nothing is done to them, nor said.
+    /// Believes the journal's checkpoint about the changes that are not done: they are left alone and not reported.
     void TrustCheckpoint();
     /// Looks at what every file has.
     void Locate();
@@ -121,7 +121,7 @@ private:
     ChangeWork m_changes;
     /// Why entries were not found.
     std::unordered_map<Model::PlanIndex, Model::Outcome> m_notFound;
-    /// Entries that the work leaves alone, and does not speak of.
+    /// Entries that the work leaves alone and does not report.
     std::vector<bool> m_isKept;
     std::vector<bool> m_hasChanged;
     BatchSummary& m_summary;

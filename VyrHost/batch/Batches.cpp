@@ -90,6 +90,14 @@ CString DescribeAbsence(const JournalFile& file, Direction direction)
     return text;
 }
 
+/// Reports each entry as `work` describes it.
+BatchWork::Report Described(const BatchWork& work, const BatchEntryReport& report)
+{
+    return [&work, &report](std::size_t entry, const Model::Outcome& result) {
+        report(work.Describe(entry, result));
+    };
+}
+
 /// `path` without the separator at its end, which that of a root keeps.
 CString WithoutSeparator(std::u16string_view path)
 {
@@ -230,27 +238,6 @@ BatchSummary Batches::Apply(Model::RenamePlan plan, const RenameReport& report, 
     return summary;
 }
 
-BatchSummary Batches::Undo(std::uint32_t number, const BatchEntryReport& report, const StopRequest& isStopAsked)
-{
-    return Reverse(number, Direction::Backward, report, isStopAsked);
-}
-
-BatchSummary Batches::Redo(std::uint32_t number, const BatchEntryReport& report, const StopRequest& isStopAsked)
-{
-    return Reverse(number, Direction::Forward, report, isStopAsked);
-}
-
-BatchSummary Batches::PreviewUndo(std::uint32_t number, const BatchEntryReport& report) const
-{
-    return Preview(number, Direction::Backward, report);
-}
-
-BatchSummary Batches::PreviewRedo(std::uint32_t number, const BatchEntryReport& report) const
-{
-    return Preview(number, Direction::Forward, report);
-}
-
-/// Undoes the batch `number`, or redoes the one whose undo has the number.
 BatchSummary Batches::Reverse(std::uint32_t number, Direction direction, const BatchEntryReport& report,
                               const StopRequest& isStopAsked)
 {
@@ -261,49 +248,43 @@ BatchSummary Batches::Reverse(std::uint32_t number, Direction direction, const B
         summary.error = u"a batch was cut off: \"vyr recover\" finishes it or undoes it";
     if (!summary.error.IsEmpty())
         return summary;
-    const std::optional<JournalFile> file = Find(folder, number, direction, summary);
-    std::optional<Journal> journal = file ? ReadWhole(folder, *file, summary) : std::optional<Journal>();
-    if (!journal)
-        return summary;
-    if (direction == Direction::Forward && IsRedone(*file, *journal)) {
-        summary.error = u"the undo is redone already";
-        return summary;
-    }
-    BatchWork work(*m_files, folder, std::move(*journal), summary);
-    if (!work.Locate(*file, direction)) {
-        summary.error = DescribeAbsence(*file, direction);
-        summary.obstacle = Obstacle::FilesGone;
-        return summary;
-    }
-    if (direction == Direction::Backward ? work.BeginUndo() : work.BeginRedo())
-        work.Run(
-            direction, [&](std::size_t entry, const Model::Outcome& result) { report(work.Describe(entry, result)); },
-            isStopAsked);
+    UseReversed(folder, number, direction, false, summary, [&](BatchWork& work) {
+        if (direction == Direction::Backward ? work.BeginUndo() : work.BeginRedo())
+            work.Run(direction, Described(work, report), isStopAsked);
+    });
     return summary;
 }
 
-BatchSummary Batches::Preview(std::uint32_t number, Direction direction, const BatchEntryReport& report) const
+BatchSummary Batches::PreviewReverse(std::uint32_t number, Direction direction, const BatchEntryReport& report) const
 {
     BatchSummary summary;
     JournalFolder folder = OpenJournals();
+    UseReversed(folder, number, direction, true, summary,
+                [&](BatchWork& work) { work.Foresee(direction, Described(work, report)); });
+    return summary;
+}
+
+/// Finds the batch `number`, or the one whose undo has that number, and where its files are, and hands it to `use`.
+void Batches::UseReversed(JournalFolder& folder, std::uint32_t number, Direction direction, bool isPreview,
+                          BatchSummary& summary, const std::function<void(BatchWork&)>& use) const
+{
     const std::optional<JournalFile> file = Find(folder, number, direction, summary);
     std::optional<Journal> journal = file ? ReadWhole(folder, *file, summary) : std::optional<Journal>();
     if (!journal)
-        return summary;
+        return;
     if (direction == Direction::Forward && IsRedone(*file, *journal)) {
         summary.error = u"the undo is redone already";
-        return summary;
+        return;
     }
     BatchWork work(*m_files, folder, std::move(*journal), summary);
-    if (work.Locate(*file, direction, true)) {
-        summary.number = file->number;
-        work.Foresee(direction,
-                     [&](std::size_t entry, const Model::Outcome& result) { report(work.Describe(entry, result)); });
-    } else {
+    if (!work.Locate(*file, direction, isPreview)) {
         summary.error = DescribeAbsence(*file, direction);
         summary.obstacle = Obstacle::FilesGone;
+        return;
     }
-    return summary;
+    if (isPreview)
+        summary.number = file->number;
+    use(work);
 }
 
 BatchSummary Batches::Recover(Recovery recovery, const BatchEntryReport& report, const StopRequest& isStopAsked)
@@ -330,9 +311,7 @@ BatchSummary Batches::Recover(Recovery recovery, const BatchEntryReport& report,
         summary.error =
             CString::Join({u"none of the batch's files is at one of its paths; nothing was changed", wayOut});
     else
-        work.Run(
-            direction, [&](std::size_t entry, const Model::Outcome& result) { report(work.Describe(entry, result)); },
-            isStopAsked);
+        work.Run(direction, Described(work, report), isStopAsked);
     return summary;
 }
 

@@ -138,7 +138,7 @@ struct BatchSummary
     bool wasStopped = false;
     /// For a batch that is applied: whether the work on it was begun.
     bool wasBegun = false;
-    /// What keeps the batch itself from being undone or redone.
+    /// Why the batch itself cannot be undone or redone.
     Obstacle obstacle = Obstacle::None;
     /// Why nothing was begun, or why the batch could not be closed; empty when all is well.
     CString error;
@@ -160,8 +160,8 @@ struct NewBatch
     std::vector<PlannedChange> changes;
 };
 
-/// Where journals are kept and how long, what a program does while another is at work, and which kinds of change it
-/// knows besides the rename.
+/// Where and how long journals are kept, what to do while another program is at work, and the known kinds of change
+/// besides the rename.
 struct BatchSettings
 {
     CString journalFolder;
@@ -172,7 +172,7 @@ struct BatchSettings
 
 /// As the environment says it: journals are in the folder that VYR_JOURNAL_DIR names, else in the folder "journal" of
 /// the product's folder for what a program keeps of its doings; VYR_KEEP_BATCHES and VYR_KEEP_DAYS say how long they
-/// are kept (what is no number from 1 on says nothing).
+/// are kept (other values than numbers from 1 on are ignored).
 [[nodiscard]] BatchSettings SettingsFromEnvironment();
 
 using BatchEntryReport = std::function<void(const BatchEntry& entry)>;
@@ -206,6 +206,8 @@ struct AbandonedJournal
     CString error;
 };
 
+class BatchWork;
+
 /// The batches of the user. One is worked on at a time, by one program: the others are told so in the summary's error.
 class Batches
 {
@@ -225,13 +227,12 @@ public:
 
     /// The batches in the journal, the latest first.
     [[nodiscard]] std::vector<BatchInformation> List() const;
-    /// Undoes the batch `number`, in reverse order. What the batch had not done is not reported.
-    BatchSummary Undo(std::uint32_t number, const BatchEntryReport& report, const StopRequest& isStopAsked);
-    /// Does again what was undone by the undo `number`.
-    BatchSummary Redo(std::uint32_t number, const BatchEntryReport& report, const StopRequest& isStopAsked);
-    /// Tells what Undo and Redo would do, as far as it can be seen, and changes nothing.
-    BatchSummary PreviewUndo(std::uint32_t number, const BatchEntryReport& report) const;
-    BatchSummary PreviewRedo(std::uint32_t number, const BatchEntryReport& report) const;
+    /// Backward: undoes the batch `number`, in reverse order; what the batch had not done is not reported. Forward:
+    /// does again what was undone by the undo `number`.
+    BatchSummary Reverse(std::uint32_t number, Direction direction, const BatchEntryReport& report,
+                         const StopRequest& isStopAsked);
+    /// Tells what Reverse would do, as far as it can be seen, and changes nothing.
+    BatchSummary PreviewReverse(std::uint32_t number, Direction direction, const BatchEntryReport& report) const;
 
     /// The batch that was cut off, if there is one that no running program works on.
     [[nodiscard]] std::optional<BatchInformation> FindCutOff() const;
@@ -242,9 +243,8 @@ public:
     AbandonedJournal AbandonCutOff();
 
 private:
-    BatchSummary Reverse(std::uint32_t number, Direction direction, const BatchEntryReport& report,
-                         const StopRequest& isStopAsked);
-    BatchSummary Preview(std::uint32_t number, Direction direction, const BatchEntryReport& report) const;
+    void UseReversed(JournalFolder& folder, std::uint32_t number, Direction direction, bool isPreview,
+                     BatchSummary& summary, const std::function<void(BatchWork&)>& use) const;
     [[nodiscard]] JournalFolder OpenJournals() const;
     [[nodiscard]] std::optional<Journal> ReadWhole(const JournalFolder& folder, const JournalFile& file,
                                                    BatchSummary& summary) const;

@@ -14,9 +14,9 @@ namespace VyrHost::Batch {
 /// before the first rename, waiting for the disk takes the longest.
 [[nodiscard]] std::vector<VyrPlatform::FileState> LookAtSources(const Model::RenamePlan& plan, FileOperations& files);
 
-/// The entries location as `location` says that their folders do not list under exactly the names that they are to
-/// have: one listing for each folder. In a folder that cannot be listed they are looked for one by one. Folders that
-/// tell every two names apart are not looked at: they keep a name as it was given, or refuse it.
+/// The entries that stand as `location` says, but that their folders do not list under exactly the names that they
+/// should have: one listing for each folder. In a folder that cannot be listed they are looked for one by one. Folders
+/// that tell every two names apart are not looked at: they keep a name as it was given, or refuse it.
 [[nodiscard]] std::vector<Model::PlanIndex> FindUnlisted(const Model::RenamePlan& plan, const PlanProgress& progress,
                                                          Location location, FileOperations& files);
 

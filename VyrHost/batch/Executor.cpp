@@ -302,9 +302,9 @@ Model::Outcome Executor::ResultOf(Model::PlanIndex entry, Direction direction) c
     Model::Outcome result = found == m_results.end() ? Model::Outcome() : found->second;
     if (location == Location::Temporary) {
         result.status = Model::Status::Failed;
-        result.reason = CString::Join({u"it stands under a temporary name now, ",
-                                       m_progress.PathOf(m_progress.PlaceOf(entry, Location::Temporary)),
-                                       result.reason.IsEmpty() ? u"" : u": ", result.reason});
+        const CString path = m_progress.PathOf(m_progress.PlaceOf(entry, Location::Temporary));
+        result.reason =
+            Model::ReasonAndCause(CString::Join({u"it stands under a temporary name now, ", path}), result.reason);
     }
     return result;
 }

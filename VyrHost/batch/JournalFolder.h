@@ -17,7 +17,7 @@
 
 namespace VyrHost::Batch {
 
-/// What the work on a batch has come to. It is the ending of the journal's file name, so that it changes at a stroke.
+/// What the work on a batch has come to. It is the ending of the journal's file name, so that it changes in one step.
 enum class BatchPhase : std::uint8_t
 {
     /// It is being applied, or that was cut off.
@@ -90,7 +90,7 @@ public:
 
     // Under the lock.
 
-    /// Gives `journal` the next number, and has it on the disk, for good, before it returns: then the work may begin.
+    /// Gives `journal` the next number, and returns once it is safely on the disk: then the work may begin.
     /// Removes the journals that are no longer to be kept, but none of a batch whose work has not ended.
     /// @return the system's error code, 0 when it is there.
     [[nodiscard]] std::uint32_t Begin(Journal& journal, JournalFile& file);
@@ -98,12 +98,12 @@ public:
     [[nodiscard]] std::uint32_t Append(const JournalFile& file, std::string_view text);
     /// The next number for a batch or an undo.
     [[nodiscard]] std::uint32_t NextNumber() const;
-    /// Goes over to another phase, and takes `file.undo` into the file's name.
+    /// Changes to another phase, and writes `file.undo` into the file's name.
     [[nodiscard]] std::uint32_t SetPhase(JournalFile& file, BatchPhase phase);
     /// Waits until the phases are on the disk.
     [[nodiscard]] std::uint32_t Flush();
-    /// Takes a journal out of the way and keeps it: it is no batch any more until it has its old name again. Its number
-    /// stays its own.
+    /// Gives a journal another name, under which it is kept and counts as no batch until it has its old name again. Its
+    /// number is not given again.
     /// @return the system's error code, 0 when `file.path` is its new path.
     [[nodiscard]] std::uint32_t Abandon(JournalFile& file);
     /// Removes a journal of which nothing was done.

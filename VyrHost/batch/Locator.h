@@ -24,17 +24,16 @@ enum class LastWork : std::uint8_t
     CutOff
 };
 
-/// Looks for every entry at its old, its temporary and its new path, and tells it by its number in the file system, its
-/// size and its time; where those have changed (another mount, a program that replaces files when it saves), by what
-/// stands at one of the paths alone.
+/// Looks for every entry at its old, its temporary and its new path, and recognises it by its number in the file
+/// system, its size and its time; where those have changed (another mount, a program that replaces files when it
+/// saves), by what stands at one of the paths alone.
 class Locator
 {
 public:
     /// @param progress is set to what is found.
     Locator(const Journal& journal, PlanProgress& progress, FileOperations& files);
 
-    /// Takes the entries that the journal's checkpoint says so for to stand at their old paths: nothing was done to
-    /// them.
+    /// Believes the journal's checkpoint about the entries that stand at their old paths: nothing was done to them.
     void TrustCheckpoint();
     /// Finds the entries that are not kept, and the new folders.
     void Locate(LastWork lastWork);

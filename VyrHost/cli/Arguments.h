@@ -1,5 +1,5 @@
 /// @file
-/// Arguments on their way through the parser of the command line, which works on bytes, and those that there are not.
+/// Arguments on their way through the parser of the command line, which works on bytes; unknown ones are refused.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>

@@ -1,13 +1,17 @@
-// Joins the batches with the kinds of change.
+// Applies, reports, and words what is said of batches.
 #include <VyrHost/cli/BatchRun.h>
 
 #include <VyrHost/batch/FileOperations.h>
 #include <VyrHost/cli/Messages.h>
+#include <VyrHost/cli/Options.h>
+#include <VyrHost/cli/SourceOptions.h>
 #include <VyrHost/metadata/Changes.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/ui/ResultOutput.h>
 #include <VyrHostPlatform/Console.h>
 #include <VyrHostPlatform/Interrupt.h>
+
+#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <chrono>
@@ -15,6 +19,51 @@
 #include <utility>
 
 namespace VyrHost::Cli {
+
+namespace {
+
+/// That a batch was cut off, and what ends it.
+std::string CutOffNotice(const Batch::BatchInformation& batch)
+{
+    // A damaged journal does not tell when it began.
+    const std::string time = batch.started.IsEmpty() ? "" : " of " + Text::SafeText(batch.started);
+    return "batch " + std::to_string(batch.number) + time + " was cut off; \"vyr recover\" ends it";
+}
+
+/// A batch of which no entry could be renamed has no number either, but then each entry says why.
+bool WasBlocked(const Batch::BatchSummary& summary)
+{
+    return summary.number == 0 && !summary.error.IsEmpty();
+}
+
+/// @param summary  gets what was done.
+/// @return the exit code that the work asks for.
+int Apply(const PreviewedBatch& batch, const ReportStyle& style, Batch::BatchSummary& summary)
+{
+    Batch::Batches batches = OpenBatches(WaitTenSeconds());
+    if (IsBlockedByCutOff(batches))
+        return ExitCode::blocked;
+    VyrHostPlatform::Interrupt::Catch();
+    Ui::Progress progress(batch.doing, batch.count, style.IsSilent());
+    std::size_t done = 0;
+    summary = batch.apply(batches, [&](Model::PlanIndex change, const Model::Outcome& outcome) {
+        batch.note(change, outcome);
+        progress.Show(++done);
+    });
+    progress.Close();
+    return JudgeSummary(summary);
+}
+
+std::string EndingOf(const PreviewedBatch& batch, const ReportStyle& style, const Batch::BatchSummary& summary)
+{
+    if (summary.number != 0)
+        return "This was batch " + std::to_string(summary.number) + "; \"vyr undo\" undoes it.\n";
+    if (style.isPreview && !batch.isRefused)
+        return previewEnding;
+    return std::string("Nothing was ") + batch.done + ".\n";
+}
+
+} // namespace
 
 Batch::Batches OpenBatches(const Batch::LockWait& wait)
 {
@@ -24,17 +73,18 @@ Batch::Batches OpenBatches(const Batch::LockWait& wait)
     return {Batch::SystemFiles(), std::move(settings)};
 }
 
-std::string CutOffNotice(const Batch::BatchInformation& batch)
-{
-    // A damaged journal does not tell when it began.
-    const std::string time = batch.started.IsEmpty() ? "" : " of " + Text::SafeText(batch.started);
-    return "batch " + std::to_string(batch.number) + time + " was cut off; \"vyr recover\" ends it";
-}
-
 void OfferRecovery()
 {
     if (const auto cutOff = OpenBatches().FindCutOff())
         Complain(CutOffNotice(*cutOff));
+}
+
+bool IsBlockedByCutOff(const Batch::Batches& batches)
+{
+    const auto cutOff = batches.FindCutOff();
+    if (cutOff)
+        Complain(CutOffNotice(*cutOff) + "; nothing was done");
+    return cutOff.has_value();
 }
 
 Batch::LockWait WaitTenSeconds()
@@ -52,15 +102,20 @@ Batch::LockWait WaitTenSeconds()
     };
 }
 
-namespace {
-
-/// A batch of which no entry could be renamed has no number either, but then each entry says why.
-bool WasBlocked(const Batch::BatchSummary& summary)
+RunOptions::RunOptions(CLI::App& command, const Help& help, const char* group) : m_command(command)
 {
-    return summary.number == 0 && !summary.error.IsEmpty();
+    const std::string section = group ? group : command.option_defaults()->get_group();
+    AddFlag(command, "--apply", m_apply, help.apply, section.c_str());
+    AddFlag(command, "--json", m_json, help.json, section.c_str());
+    AddFlag(command, "-q,--quiet", m_quiet, help.quiet, section.c_str());
 }
 
-} // namespace
+ReportStyle RunOptions::Read() const
+{
+    constexpr ExclusivePair exclusive[] = {{"--json", "--quiet"}};
+    CheckOptionPairs(m_command, exclusive);
+    return {m_json, m_quiet, !m_apply};
+}
 
 int WriteReport(const Model::Results& results, const ReportStyle& style, const std::string& heading,
                 const std::string& ending)
@@ -81,6 +136,22 @@ int WriteReport(const Model::Results& results, const ReportStyle& style, const s
         output << heading << Ui::SummaryOf(tally) << style.remark << ending;
     }
     return Finish(output, tally.IsWhole() ? ExitCode::success : ExitCode::partly);
+}
+
+int ApplyAndReport(const PreviewedBatch& batch, const Model::Results& results, ReportStyle style,
+                   const Collect::CollectedEntries& collected)
+{
+    Batch::BatchSummary summary;
+    const bool isApplied = !style.isPreview && !batch.isRefused && batch.count > 0;
+    const int applied = isApplied ? Apply(batch, style, summary) : ExitCode::success;
+    if (applied == ExitCode::blocked)
+        return applied;
+    const std::string ending = EndingOf(batch, style, summary);
+    style.remark = LeftOutNotice(collected);
+    const int shown = WriteReport(results, style, {}, ending);
+    if (style.quiet && summary.wasStopped)
+        Complain("interrupted: " + Ui::SummaryOf(Model::Tally(results)) + ending);
+    return std::max({applied, shown, CodeOf(collected)});
 }
 
 BatchReport::BatchReport(const char* what, std::size_t total, Batch::Direction direction, const ReportStyle& style)
@@ -112,7 +183,7 @@ int BatchReport::Write(const Batch::BatchSummary& summary)
 std::string BatchReport::Ending(const Batch::BatchSummary& summary) const
 {
     if (m_style.isPreview)
-        return "This is a preview: nothing was changed.\n";
+        return previewEnding;
     if (m_direction == Batch::Direction::Backward && summary.undo != 0 && summary.done > 0)
         return "\"vyr undo " + std::to_string(summary.undo) + "\" redoes it.\n";
     return {};

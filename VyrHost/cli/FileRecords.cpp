@@ -66,6 +66,24 @@ RecordValue TakenOf(const ListedFile& file)
     return taken.GetStatus() == COleDateTime::valid ? RecordValue(Ui::RecordDate{taken}) : RecordValue();
 }
 
+RecordValue FlagOf(bool flag)
+{
+    return flag;
+}
+
+/// What `make` makes of what a file tells.
+template <auto make, auto ask>
+RecordValue Told(const ListedFile& file)
+{
+    return make((file.*ask)());
+}
+
+template <auto member>
+RecordValue MarkText(const ListedFile& file)
+{
+    return Ui::ValueOf(file.Mark().*member);
+}
+
 RecordValue AttributesOf(const ListedFile& file)
 {
     const std::uint32_t attributes = file.Attributes();
@@ -79,67 +97,28 @@ RecordValue AttributesOf(const ListedFile& file)
 std::span<const Ui::RecordField<ListedFile>> FileFields()
 {
     static const Ui::RecordField<ListedFile> fields[] = {
-        {{"name", "Name", RecordKind::Text, true},
-         [](const ListedFile& file) {
-             return RecordValue(file.ShownPath());
-         }},
-        {{"path", "Path", RecordKind::Text},
-         [](const ListedFile& file) {
-             return RecordValue(file.Path());
-         }},
+        {{"name", "Name", RecordKind::Text, true}, Told<Ui::ValueOf, &ListedFile::ShownPath>},
+        {{"path", "Path", RecordKind::Text}, Told<Ui::ValueOf, &ListedFile::Path>},
         {{"kind", "Kind", RecordKind::Text}, KindOf},
-        {{"size", "Size", RecordKind::Size, true},
-         [](const ListedFile& file) {
-             return SizeOf(file.Size());
-         }},
-        {{"modified", "Modified", RecordKind::Date, true},
-         [](const ListedFile& file) {
-             return DateOf(file.Modified());
-         }},
-        {{"created", "Created", RecordKind::Date},
-         [](const ListedFile& file) {
-             return DateOf(file.Created());
-         }},
-        {{"accessed", "Accessed", RecordKind::Date},
-         [](const ListedFile& file) {
-             return DateOf(file.Accessed());
-         }},
+        {{"size", "Size", RecordKind::Size, true}, Told<SizeOf, &ListedFile::Size>},
+        {{"modified", "Modified", RecordKind::Date, true}, Told<DateOf, &ListedFile::Modified>},
+        {{"created", "Created", RecordKind::Date}, Told<DateOf, &ListedFile::Created>},
+        {{"accessed", "Accessed", RecordKind::Date}, Told<DateOf, &ListedFile::Accessed>},
         {{"taken", "Taken", RecordKind::Date}, TakenOf},
         {{"attributes", "Attributes", RecordKind::Text}, AttributesOf},
-        {{"downloaded", "Downloaded", RecordKind::Flag},
-         [](const ListedFile& file) {
-             return RecordValue(file.IsMarked());
-         }},
-        {{"zone", "Zone", RecordKind::Text},
-         [](const ListedFile& file) {
-             return Ui::ValueOf(file.Mark().zone);
-         }},
-        {{"from", "From", RecordKind::Text},
-         [](const ListedFile& file) {
-             return Ui::ValueOf(file.Mark().from);
-         }},
-        {{"referrer", "Referrer", RecordKind::Text},
-         [](const ListedFile& file) {
-             return Ui::ValueOf(file.Mark().referrer);
-         }},
-        {{"maker", "Maker", RecordKind::Text},
-         [](const ListedFile& file) {
-             return Ui::ValueOf(file.Make());
-         }},
-        {{"model", "Model", RecordKind::Text},
-         [](const ListedFile& file) {
-             return Ui::ValueOf(file.Model());
-         }},
+        {{"downloaded", "Downloaded", RecordKind::Flag}, Told<FlagOf, &ListedFile::IsMarked>},
+        {{"zone", "Zone", RecordKind::Text}, MarkText<&Metadata::ZoneMark::zone>},
+        {{"from", "From", RecordKind::Text}, MarkText<&Metadata::ZoneMark::from>},
+        {{"referrer", "Referrer", RecordKind::Text}, MarkText<&Metadata::ZoneMark::referrer>},
+        {{"maker", "Maker", RecordKind::Text}, Told<Ui::ValueOf, &ListedFile::Make>},
+        {{"model", "Model", RecordKind::Text}, Told<Ui::ValueOf, &ListedFile::Model>},
     };
     return fields;
 }
 
 FileRecords::FileRecords(const Collect::SourceSettings& sources)
-    : m_collected(Collect::CollectEntries(sources)),
-      m_code(m_collected.problems.empty() ? ExitCode::success : ExitCode::partly)
+    : m_collected(TakeEntries(sources)), m_code(CodeOf(m_collected))
 {
-    for (const CString& problem : m_collected.problems)
-        Cli::Complain(Text::SafeText(problem));
     const Model::EntryList& list = m_collected.list;
     m_files.reserve(list.entries.size());
     for (std::size_t index = 0; index < list.entries.size(); ++index) {

@@ -1,8 +1,10 @@
-// Breaks the lines of help texts.
+// Breaks the lines of help texts, and has the examples.
 #include <VyrHost/cli/Help.h>
 
-#include <span>
+#include <VyrHost/cli/Messages.h>
+
 #include <sstream>
+#include <utility>
 
 namespace VyrHost::Cli {
 
@@ -39,11 +41,12 @@ namespace {
 
 struct Example
 {
-    const char* command;
+    const char* call;
     const char* meaning;
 };
 
-constexpr Example ofRename[] = {
+/// Each belongs to the command that it calls.
+constexpr Example examples[] = {
     {"vyr rename --number \"Holiday ###\" *.jpg", "Holiday 001.jpg, Holiday 002.jpg, ..."},
     {"vyr rename --number \"<Name> (#)\" --start 10 --step 10 *.pdf", "letter (10).pdf, list (20).pdf, ..."},
     {"vyr rename --date \"yyyy-MM-dd HH.mm.ss\" --date-from picture,modified -r .",
@@ -52,132 +55,48 @@ constexpr Example ofRename[] = {
     {"vyr rename --extension-case lower --json *.JPG", "for a program, one object a line"},
     {"find . -name \"*.txt\" -print0 | vyr rename --suffix \" (old)\" --stdin0", "names from another program"},
     {"vyr rename --date \"yyyy<Folder><Name>\" --together --apply *", "move into a folder for each year, now"},
-};
-
-constexpr Example ofList[] = {
     {"vyr list -r .", "every file below with its size and the time of its last change"},
     {"vyr list -r Pictures --size 100MB.. --sort size --descending", "the largest first"},
     {"vyr list --columns name,zone,from Downloads/*", "where downloads came from"},
     {"vyr list -r . --taken last-year --csv --columns path,taken,maker,model", "for a spreadsheet"},
-};
-
-constexpr Example ofTimes[] = {
     {"vyr times *.jpg", "what they are"},
     {"vyr times --set-modified from:picture *.jpg", "when the pictures were taken"},
     {"vyr times --set-modified from:name -r . --include \"IMG*\"", "IMG_20240105_103000.jpg: 5 January 2024 10:30"},
     {"vyr times --shift -1h *.jpg --apply", "a camera whose clock was an hour ahead, now"},
     {"vyr times --sort name --stagger 1m --start \"2024-01-05 10:00\" *.jpg", "a minute from one to the next"},
-};
-
-constexpr Example ofAttributes[] = {
     {"vyr attributes *.pdf", "what they are"},
     {"vyr attributes --set read-only *.pdf", "protect files"},
     {"vyr attributes --clear RH -r . --apply", "read-only and hidden, by their letters, now"},
-};
-
-constexpr Example ofUnblock[] = {
     {"vyr unblock -r .", "which files have the mark, and where they came from"},
     {"vyr unblock *.pdf --apply", "take it off, now"},
-};
-
-constexpr Example ofCopy[] = {
     {"vyr copy Pictures Backup", "into Backup where that is a folder, else as Backup"},
     {"vyr copy Pictures Scans Backup --apply", "both into the folder Backup, now"},
     {"vyr copy --json Pictures Backup", "for a program, one object a line"},
-};
-
-constexpr Example ofMove[] = {
     {"vyr move Pictures \"Old pictures\"", "under a new name, or into that folder"},
     {"vyr move Pictures Scans Backup --quiet --apply", "both into the folder Backup, now; show only what fails"},
-};
-
-constexpr Example ofUndo[] = {
     {"vyr undo --list", "the batches with their numbers"},
     {"vyr undo", "undo the latest batch of this folder"},
     {"vyr undo 1 --quiet", "undo batch 1, and show only what stays renamed"},
-};
-
-constexpr Example ofRecover[] = {
     {"vyr recover", "do what is left of the batch that was cut off"},
     {"vyr recover --take-back", "restore what was before it"},
     {"vyr recover --abandon", "go on without a batch that can be neither finished nor undone"},
-};
-
-constexpr Example ofPrograms[] = {
     {"vyr programs", "of this machine, or of your Wine prefix"},
     {"vyr programs /mnt/windows --sort size --descending", "of a mounted Windows disk, the largest first"},
     {"vyr programs --wine prefix --columns name,version,key", "of a Wine prefix, with the keys of the registry"},
     {"vyr programs /mnt/windows --installer --json", "products of Windows Installer, one object a line"},
-};
-
-constexpr Example ofBrowsers[] = {
     {"vyr browsers", "of this machine, or of your Wine prefix"},
     {"vyr browsers /mnt/windows --csv", "of a mounted Windows disk, for a spreadsheet"},
 };
 
-std::string TextOf(std::span<const Example> examples)
-{
-    std::string text = "Examples:\n";
-    for (const Example& example : examples)
-        text.append("  ").append(example.command).append("\n        ").append(example.meaning).append("\n");
-    return text;
-}
-
 } // namespace
 
-std::string RenameExamples()
+std::string HelpFooter(const std::string& command, const std::string& text)
 {
-    return TextOf(ofRename);
-}
-
-std::string ListExamples()
-{
-    return TextOf(ofList);
-}
-
-std::string TimesExamples()
-{
-    return TextOf(ofTimes);
-}
-
-std::string AttributesExamples()
-{
-    return TextOf(ofAttributes);
-}
-
-std::string UnblockExamples()
-{
-    return TextOf(ofUnblock);
-}
-
-std::string CopyExamples()
-{
-    return TextOf(ofCopy);
-}
-
-std::string MoveExamples()
-{
-    return TextOf(ofMove);
-}
-
-std::string UndoExamples()
-{
-    return TextOf(ofUndo);
-}
-
-std::string RecoverExamples()
-{
-    return TextOf(ofRecover);
-}
-
-std::string ProgramsExamples()
-{
-    return TextOf(ofPrograms);
-}
-
-std::string BrowsersExamples()
-{
-    return TextOf(ofBrowsers);
+    std::string footer = text + "Examples:\n";
+    for (const Example& example : examples)
+        if ((std::string(example.call) + " ").find("vyr " + command + " ") != std::string::npos)
+            footer.append("  ").append(example.call).append("\n        ").append(example.meaning).append("\n");
+    return footer + "\n" + ExitCode::table;
 }
 
 } // namespace VyrHost::Cli

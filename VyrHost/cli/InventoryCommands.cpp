@@ -41,14 +41,6 @@ constexpr ExclusivePair onePlace[] = {
     {"--disk", "--hives", whyOne}, {"--disk", "--wine", whyOne}, {"--hives", "--wine", whyOne},
 };
 
-void AddFolder(CLI::App& command, const char* name, std::optional<std::string>& folder, const char* help)
-{
-    const auto take = [&folder](const std::string& given) {
-        folder = given;
-    };
-    command.add_option_function<std::string>(name, take, help)->type_name("FOLDER")->group(placeGroup);
-}
-
 /// The options that say whose registry is looked at: WHERE, --disk, --hives and --wine.
 class PlaceOptions
 {
@@ -77,9 +69,11 @@ PlaceOptions::PlaceOptions(CLI::App& command) : m_command(command)
             "elsewhere "
             "the prefix $WINEPREFIX or ~/.wine")
         ->type_name("");
-    AddFolder(command, "--disk", m_disk, "The folder is a mounted Windows disk, or its Windows folder");
-    AddFolder(command, "--hives", m_hives, "The folder holds hives (SOFTWARE, SYSTEM, NTUSER.DAT, UsrClass.dat)");
-    AddFolder(command, "--wine", m_wine, "The folder is a Wine prefix");
+    AddText(command, "--disk", m_disk, "FOLDER", "The folder is a mounted Windows disk, or its Windows folder",
+            placeGroup);
+    AddText(command, "--hives", m_hives, "FOLDER",
+            "The folder holds hives (SOFTWARE, SYSTEM, NTUSER.DAT, UsrClass.dat)", placeGroup);
+    AddText(command, "--wine", m_wine, "FOLDER", "The folder is a Wine prefix", placeGroup);
 }
 
 Inventory::PlaceRequest PlaceOptions::Read() const
@@ -116,14 +110,6 @@ constexpr ExclusivePair exclusive[] = {
     {"--installer", "--show-hidden", "no installer product is hidden"},
     {"--installer", "--no-32-bit", "installer products are kept in one list"},
 };
-
-void AddText(CLI::App& command, const char* name, const char* value, std::optional<std::string>& text, const char* help)
-{
-    const auto take = [&text](const std::string& given) {
-        text = given;
-    };
-    command.add_option_function<std::string>(name, take, help)->type_name(value)->group(group);
-}
 
 /// Leaves out the rows of records that do not hold the text that was asked for.
 template <class Record>
@@ -171,7 +157,6 @@ public:
     [[nodiscard]] int Run() const override;
 
 private:
-    [[nodiscard]] Inventory::Scope ReadScope() const;
     [[nodiscard]] int WritePrograms(const Inventory::Place& place, Inventory::Scope scope) const;
     [[nodiscard]] int WriteProducts(const Inventory::Place& place, Inventory::Scope scope) const;
 
@@ -206,11 +191,12 @@ ProgramsCommand::ProgramsCommand(CLI::App& program)
     : Command(*program.add_subcommand("programs", "List the programs that are installed in a Windows")),
       m_place(m_command), m_records(m_command, Ui::ProgramColumns())
 {
-    AddText(m_command, "--user", "NAME", m_user, "Of a disk: list what this user has, beside what all have");
-    AddText(m_command, "--scope", "all|user|machine", m_scope,
-            "Whose programs: those of users, those of the machine, or all (the default)");
-    AddText(m_command, "--find", "TEXT", m_find, "Only those whose name or publisher holds the text, in any case");
-    m_command.add_flag("--no-32-bit", m_no32Bit, "Leave out those in the keys of 32-bit programs")->group(group);
+    AddText(m_command, "--user", m_user, "NAME", "Of a disk: list what this user has, beside what all have", group);
+    AddText(m_command, "--scope", m_scope, "all|user|machine",
+            "Whose programs: those of users, those of the machine, or all (the default)", group);
+    AddText(m_command, "--find", m_find, "TEXT", "Only those whose name or publisher holds the text, in any case",
+            group);
+    AddFlag(m_command, "--no-32-bit", m_no32Bit, "Leave out those in the keys of 32-bit programs", group);
     m_command
         .add_flag("--show-hidden", m_showHidden,
                   "Also those that the system's own list hides: without a name, components of the system, parts of "
@@ -222,7 +208,7 @@ ProgramsCommand::ProgramsCommand(CLI::App& program)
                       Ui::NamesOf(Ui::ProductColumns()))
         ->group(group);
     AddOpenSettings(m_command, "Open the system's own list of programs (on Windows), and list nothing", m_openSettings);
-    m_command.footer(ProgramsExamples() + "\n" + ExitCode::table);
+    m_command.footer(HelpFooter("programs"));
 }
 
 int ProgramsCommand::Run() const
@@ -235,22 +221,12 @@ int ProgramsCommand::Run() const
     Inventory::PlaceRequest request = m_place.Read();
     if (m_user)
         request.user = FromParser(*m_user);
-    const Scope scope = ReadScope();
+    const Scope scope =
+        ReadWord<Scope>(m_scope, "--scope", {{"all", Scope::All}, {"user", Scope::User}, {"machine", Scope::Machine}});
     if (m_user && scope == Scope::Machine)
         throw Text::UsageError("--user and --scope machine exclude each other: the machine is no user's");
     const Inventory::Place place = Inventory::FindPlace(request);
     return m_installer ? WriteProducts(place, scope) : WritePrograms(place, scope);
-}
-
-Scope ProgramsCommand::ReadScope() const
-{
-    if (!m_scope || *m_scope == "all")
-        return Scope::All;
-    if (*m_scope == "user")
-        return Scope::User;
-    if (*m_scope == "machine")
-        return Scope::Machine;
-    Text::RefuseValue("--scope", FromParser(*m_scope), "one of all, user, machine is expected");
 }
 
 int ProgramsCommand::WritePrograms(const Inventory::Place& place, Scope scope) const
@@ -282,8 +258,8 @@ BrowsersCommand::BrowsersCommand(CLI::App& program)
     : Command(*program.add_subcommand("browsers", "List the browsers that are installed in a Windows")),
       m_place(m_command), m_records(m_command, Ui::BrowserColumns())
 {
-    AddText(m_command, "--find", "TEXT", m_find, "Only those whose name holds the text, in any case");
-    m_command.footer(BrowsersExamples() + "\n" + ExitCode::table);
+    AddText(m_command, "--find", m_find, "TEXT", "Only those whose name holds the text, in any case", group);
+    m_command.footer(HelpFooter("browsers"));
 }
 
 int BrowsersCommand::Run() const

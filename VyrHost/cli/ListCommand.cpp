@@ -3,7 +3,6 @@
 
 #include <VyrHost/cli/FileRecords.h>
 #include <VyrHost/cli/Help.h>
-#include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/RecordOptions.h>
 #include <VyrHost/cli/SourceOptions.h>
 #include <VyrHost/text/Errors.h>
@@ -35,7 +34,7 @@ ListCommand::ListCommand(CLI::App& program)
     : Command(*program.add_subcommand("list", "List files with their sizes, times, attributes and marks")),
       m_sources(m_command, "list"), m_records(m_command, Ui::ColumnsOf(FileFields()))
 {
-    m_command.footer(ListExamples() + "\n" + ExitCode::table);
+    m_command.footer(HelpFooter("list"));
 }
 
 int ListCommand::Run() const

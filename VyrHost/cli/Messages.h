@@ -17,7 +17,7 @@ inline constexpr int success = 0;
 inline constexpr int partly = 1;
 /// The call itself is wrong; nothing was done.
 inline constexpr int usage = 2;
-/// The result could not be written (a full disk, a closed pipe).
+/// The output could not be written (a full disk, a closed pipe).
 inline constexpr int output = 3;
 /// Nothing was done: there is no batch to undo, a batch that was cut off is to be recovered first, another program is
 /// at work on a batch, the journal cannot be kept, or update information is not known or cannot be read.

@@ -16,6 +16,26 @@ void AddText(CLI::App& command, const char* name, std::optional<std::string>& te
     command.add_option_function<std::string>(name, take, help)->type_name(value)->group(group);
 }
 
+CLI::Option& AddTexts(CLI::App& command, const char* name, const char* values, const std::string& help,
+                      const char* group, int count)
+{
+    return *command.add_option(name, help)
+                ->type_name(values)
+                ->type_size(count)
+                ->expected(1)
+                ->allow_extra_args(false)
+                ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+                ->group(group);
+}
+
+std::vector<CString> TextsOf(const CLI::App& command, const char* name)
+{
+    std::vector<CString> texts;
+    for (const std::string& value : command.get_option(name)->results())
+        texts.push_back(FromParser(value));
+    return texts;
+}
+
 void AddFlag(CLI::App& command, const char* name, bool& flag, const char* help, const char* group)
 {
     command.add_flag(name, flag, help)->group(group);

@@ -13,7 +13,8 @@
 
 namespace CLI {
 class App;
-}
+class Option;
+} // namespace CLI
 
 namespace VyrHost::Cli {
 
@@ -21,7 +22,12 @@ namespace VyrHost::Cli {
 /// @param value  what the value is called in the help.
 void AddText(CLI::App& command, const char* name, std::optional<std::string>& text, const char* value, const char* help,
              const char* group);
-/// Adds an option without a value likewise.
+/// Adds an option that may be given again and again, each time with `count` values.
+CLI::Option& AddTexts(CLI::App& command, const char* name, const char* values, const std::string& help,
+                      const char* group, int count = 1);
+/// All values that were given with an option of AddTexts.
+[[nodiscard]] std::vector<CString> TextsOf(const CLI::App& command, const char* name);
+/// Adds an option without a value.
 void AddFlag(CLI::App& command, const char* name, bool& flag, const char* help, const char* group);
 
 /// A word of an option and what it stands for.

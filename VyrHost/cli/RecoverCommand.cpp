@@ -46,7 +46,7 @@ RecoverCommand::RecoverCommand(CLI::App& program)
                        "Abandon the batch where neither is possible; its files stay as they are");
     m_command.add_flag("--json", m_json, "Write one JSON object for each entry");
     m_command.add_flag("-q,--quiet", m_quiet, "Show only what is not done");
-    m_command.footer(RecoverExamples() + "\n" + ExitCode::table);
+    m_command.footer(HelpFooter("recover"));
 }
 
 int RecoverCommand::Run() const

@@ -2,6 +2,7 @@
 /// A call of "vyr rename": what it asks for, and how that is carried out.
 #pragma once
 
+#include <VyrHost/cli/BatchRun.h>
 #include <VyrHost/collect/CollectEntries.h>
 #include <VyrHost/collect/Sorting.h>
 #include <VyrHost/rename/NameSources.h>
@@ -25,14 +26,12 @@ struct RenameRequest
     Rename::ConflictSettings conflicts;
     /// The user looks through the new names in an editor.
     bool edit = false;
-    bool apply = false;
-    bool json = false;
-    bool quiet = false;
+    ReportStyle style = {};
 };
 
 /// Carries `request` out and writes what became of it.
 /// @return the program's exit code.
 /// @throws UsageError
-[[nodiscard]] int RunRename(RenameRequest& request);
+[[nodiscard]] int RunRename(const RenameRequest& request);
 
 } // namespace VyrHost::Cli

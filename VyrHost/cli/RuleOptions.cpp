@@ -29,7 +29,7 @@ struct RuleOption
     const char* name;
     /// What its values are called; how many they are.
     const char* values;
-    std::size_t count;
+    int count;
     const char* help;
     Rename::Rules (*make)(const Given& given);
 };
@@ -130,23 +130,6 @@ constexpr SettingOption settingOptions[] = {
      }},
 };
 
-CLI::Option* AddFlag(CLI::App& command, const RuleOption& option)
-{
-    const std::string help = option.help;
-    return command.add_flag(option.name, help);
-}
-
-CLI::Option* AddTexts(CLI::App& command, const char* name, const char* values, std::size_t count,
-                      const std::string& help)
-{
-    return command.add_option(name, help)
-        ->type_size(static_cast<int>(count))
-        ->expected(1)
-        ->allow_extra_args(false)
-        ->type_name(values)
-        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-}
-
 template <class Options>
 auto* FindByName(const Options& options, const CLI::Option& option)
 {
@@ -169,7 +152,7 @@ public:
             // The parser notes an option once for each of its values.
             std::size_t noted = 1;
             if (const RuleOption* const rule = FindByName(ruleOptions, option)) {
-                noted = std::max<std::size_t>(rule->count, 1);
+                noted = static_cast<std::size_t>(std::max(rule->count, 1));
                 AddRule(*rule, TakeValues(option, noted));
             } else if (const SettingOption* const setting = FindByName(settingOptions, option)) {
                 AddSetting(*setting, TakeValues(option, 1).front());
@@ -234,17 +217,16 @@ private:
 
 RuleOptions::RuleOptions(CLI::App& command) : m_command(command)
 {
+    constexpr const char* group = "Rules, applied in the order given";
     for (const RuleOption& option : ruleOptions) {
-        if (option.count == 0)
-            AddFlag(command, option)
-                ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
-                ->group("Rules, applied in the order given");
+        const std::string help = option.help;
+        if (option.count > 0)
+            AddTexts(command, option.name, option.values, help, group, option.count);
         else
-            AddTexts(command, option.name, option.values, option.count, option.help)
-                ->group("Rules, applied in the order given");
+            command.add_flag(option.name, help)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)->group(group);
     }
     for (const SettingOption& setting : settingOptions)
-        AddTexts(command, setting.name, setting.value, 1, setting.help)->group("Settings of the rule before them");
+        AddTexts(command, setting.name, setting.value, setting.help, "Settings of the rule before them");
 }
 
 Rename::Rules RuleOptions::Make() const

@@ -2,9 +2,11 @@
 #include <VyrHost/cli/SourceOptions.h>
 
 #include <VyrHost/cli/Arguments.h>
+#include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/Options.h>
 #include <VyrHost/collect/Choice.h>
 #include <VyrHost/text/Errors.h>
+#include <VyrHost/text/SafeText.h>
 
 #include <CLI/CLI.hpp>
 
@@ -22,25 +24,6 @@ constexpr const char* oneDate = "one date in a call";
 constexpr ExclusivePair exclusive[] = {
     {"--modified", "--created", oneDate}, {"--modified", "--taken", oneDate}, {"--created", "--taken", oneDate}};
 
-void AddNames(CLI::App& command, const char* name, const std::string& help)
-{
-    command.add_option(name, help)
-        ->type_name("NAMES")
-        ->type_size(1)
-        ->expected(1)
-        ->allow_extra_args(false)
-        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
-        ->group(group);
-}
-
-std::vector<CString> TextsOf(const CLI::App& command, const char* option)
-{
-    std::vector<CString> texts;
-    for (const std::string& value : command.get_option(option)->results())
-        texts.push_back(FromParser(value));
-    return texts;
-}
-
 std::string Counted(std::size_t count, const char* one, const char* many)
 {
     return std::to_string(count) + ' ' + (count == 1 ? one : many);
@@ -50,10 +33,11 @@ std::string Counted(std::size_t count, const char* one, const char* many)
 
 ChoiceOptions::ChoiceOptions(CLI::App& command) : m_command(command)
 {
-    AddNames(command, "--include",
+    AddTexts(command, "--include", "NAMES",
              "Take only these: \"*.jpg\", contains:TEXT, begins:TEXT, ends:TEXT, equals:TEXT; may be given again for "
-             "others");
-    AddNames(command, "--exclude", "Leave these out, in the same forms, and do not enter such folders");
+             "others",
+             group);
+    AddTexts(command, "--exclude", "NAMES", "Leave these out, in the same forms, and do not enter such folders", group);
     command.add_flag("--match-case", m_matchCase, "Tell upper and lower case apart in --include and --exclude")
         ->group(group);
     AddText(command, "--modified", m_modified, "RANGE",
@@ -100,6 +84,20 @@ std::string LeftOutNotice(const Collect::CollectedEntries& collected)
         text +=
             (text.empty() ? "" : "; ") + Counted(collected.notEntered, "folder was", "folders were") + " not entered";
     return text.empty() ? text : text + ".\n";
+}
+
+Collect::CollectedEntries TakeEntries(const Collect::SourceSettings& sources, Collect::SortSettings order)
+{
+    Collect::CollectedEntries collected = Collect::CollectEntries(sources);
+    for (const CString& problem : collected.problems)
+        Complain(Text::SafeText(problem));
+    Collect::Sort(collected.list, order);
+    return collected;
+}
+
+int CodeOf(const Collect::CollectedEntries& collected)
+{
+    return collected.problems.empty() ? ExitCode::success : ExitCode::partly;
 }
 
 SourceOptions::SourceOptions(CLI::App& command, const std::string& verb) : m_command(command), m_choice(command)

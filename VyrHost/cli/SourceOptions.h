@@ -36,9 +36,6 @@ private:
     bool m_matchCase = false;
 };
 
-/// Says how much the choice left out, as a line; empty where that is nothing.
-[[nodiscard]] std::string LeftOutNotice(const Collect::CollectedEntries& collected);
-
 /// Adds the options to a command, and reads what was given. Not to be moved once it has added them.
 class SourceOptions
 {
@@ -79,5 +76,13 @@ private:
     std::optional<std::string> m_sort;
     bool m_isDescending = false;
 };
+
+/// Collects and sorts the entries that a call is about, and complains of what could not be read.
+[[nodiscard]] Collect::CollectedEntries TakeEntries(const Collect::SourceSettings& sources,
+                                                    Collect::SortSettings order = {});
+/// The exit code that the complaints ask for.
+[[nodiscard]] int CodeOf(const Collect::CollectedEntries& collected);
+/// Says how much the choice left out, as a line; empty where that is nothing.
+[[nodiscard]] std::string LeftOutNotice(const Collect::CollectedEntries& collected);
 
 } // namespace VyrHost::Cli

@@ -1,12 +1,11 @@
 // Declares and runs "vyr times".
 #include <VyrHost/cli/Commands.h>
 
-#include <VyrHost/cli/ChangeRun.h>
+#include <VyrHost/cli/Arguments.h>
+#include <VyrHost/cli/ChangeCommand.h>
 #include <VyrHost/cli/Help.h>
-#include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/Options.h>
 #include <VyrHost/cli/SettingsPage.h>
-#include <VyrHost/cli/SourceOptions.h>
 #include <VyrHost/metadata/Times.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrLibraryFuncs/shell/ControlPanelFuncs.h>
@@ -22,7 +21,6 @@ namespace VyrHost::Cli {
 namespace {
 
 constexpr const char* group = "Which times they get";
-constexpr const char* orderGroup = "Order of the list";
 constexpr const char* timeForms = "DATE TIME";
 
 COleDateTime ReadStart(const std::string& text)
@@ -34,7 +32,7 @@ COleDateTime ReadStart(const std::string& text)
 }
 
 /// Shows the times of files, or sets them.
-class TimesCommand final : public Command
+class TimesCommand final : public ChangeCommand
 {
 public:
     explicit TimesCommand(CLI::App& program);
@@ -42,12 +40,8 @@ public:
     [[nodiscard]] int Run() const override;
 
 private:
-    /// Nothing when no time is to be changed.
-    [[nodiscard]] std::optional<Metadata::TimesSettings> ReadSettings() const;
+    [[nodiscard]] std::unique_ptr<const Metadata::ChangeRule> ReadRule() const override;
 
-    SourceOptions m_sources;
-    OrderOptions m_order;
-    ChangeOptions m_change;
     std::optional<std::string> m_modified;
     std::optional<std::string> m_created;
     std::optional<std::string> m_accessed;
@@ -60,8 +54,8 @@ private:
 } // namespace
 
 TimesCommand::TimesCommand(CLI::App& program)
-    : Command(*program.add_subcommand("times", "Show the times of files, or set and move them")),
-      m_sources(m_command, "change"), m_order(m_command, orderGroup), m_change(m_command)
+    : ChangeCommand(*program.add_subcommand("times", "Show the times of files, or set and move them"), "change",
+                    Metadata::TimesChange::kind, u"name,modified,created,accessed,taken")
 {
     AddText(m_command, "--set-modified", m_modified, timeForms,
             "Set the time of the last change: \"2024-01-05 10:30\", a date or a time of day alone (the other part "
@@ -76,9 +70,9 @@ TimesCommand::TimesCommand(CLI::App& program)
     AddText(m_command, "--start", m_start, "DATE TIME", "The time of the first file of --stagger", group);
     AddOpenSettings(m_command, "Open the system's own page of date and time (on Windows), and show nothing",
                     m_openSettings);
-    m_command.footer("Without an option that sets or moves a time the times are shown. Without --apply nothing is "
-                     "changed. What --apply changed, \"vyr undo\" undoes.\n\n" +
-                     TimesExamples() + "\n" + ExitCode::table);
+    m_command.footer(HelpFooter(
+        "times", "Without an option that sets or moves a time the times are shown. Without --apply nothing is "
+                 "changed. What --apply changed, \"vyr undo\" undoes.\n\n"));
 }
 
 int TimesCommand::Run() const
@@ -86,22 +80,15 @@ int TimesCommand::Run() const
     if (m_openSettings)
         return OpenSettings(
             m_command, {"this system's page of date and time", VyrLibraryFuncs::ControlPanelFuncs::ExecDateAndTime});
-    m_change.Check();
-    constexpr DependentOption dependent[] = {{"--start", "--stagger"}};
-    CheckOptionPairs(m_command, {}, dependent);
-    ChangeRequest request{"times", Metadata::TimesChange::kind, m_sources.Read(), m_order.Read()};
-    if (!m_sources.NamesAny())
-        throw Text::UsageError("no file is named");
-    const auto settings = ReadSettings();
-    if (!settings)
-        return ShowFiles(request.sources, u"name,modified,created,accessed,taken", m_change);
-    return RunChanges(request, Metadata::TimesRule(*settings), m_change);
+    return ChangeCommand::Run();
 }
 
-std::optional<Metadata::TimesSettings> TimesCommand::ReadSettings() const
+std::unique_ptr<const Metadata::ChangeRule> TimesCommand::ReadRule() const
 {
+    constexpr DependentOption dependent[] = {{"--start", "--stagger"}};
+    CheckOptionPairs(m_command, {}, dependent);
     Metadata::TimesSettings settings;
-    bool isAny = false;
+    bool isAny = m_shift || m_stagger;
     const auto take = [&settings, &isAny](const std::optional<std::string>& text, Metadata::FileDate date,
                                           const char* option) {
         if (!text)
@@ -118,7 +105,7 @@ std::optional<Metadata::TimesSettings> TimesCommand::ReadSettings() const
         settings.stagger = Metadata::ParseAmounts(FromParser(*m_stagger), "--stagger");
     if (m_start)
         settings.start = ReadStart(*m_start);
-    return isAny || m_shift || m_stagger ? std::optional(settings) : std::nullopt;
+    return isAny ? std::make_unique<Metadata::TimesRule>(settings) : nullptr;
 }
 
 std::unique_ptr<Command> AddTimesCommand(CLI::App& program)

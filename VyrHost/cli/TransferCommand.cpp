@@ -25,18 +25,6 @@ namespace VyrHost::Cli {
 
 namespace {
 
-/// What such a call asks for.
-struct TransferRequest
-{
-    FolderCopy::TransferAction action = FolderCopy::TransferAction::Copy;
-    /// As the user gave them.
-    std::vector<CString> sources;
-    CString destination;
-    bool apply = false;
-    bool json = false;
-    bool quiet = false;
-};
-
 /// Shows how far the work is, and looks for an interrupt.
 class TerminalWatch final : public FolderCopy::TransferWatch
 {
@@ -69,50 +57,6 @@ private:
     bool m_isTold = false;
 };
 
-class TransferRun
-{
-public:
-    explicit TransferRun(const TransferRequest& request)
-        : m_request(request), m_batch(request.sources, request.destination, request.action,
-                                      request.apply ? FolderCopy::Trial::Allowed : FolderCopy::Trial::No)
-    {}
-
-    int Run()
-    {
-        if (m_request.apply && !m_batch.IsRefused())
-            Apply();
-        const int code = WriteReport(FolderCopy::TransferResults(m_batch.Reports(), m_request.action),
-                                     {m_request.json, m_request.quiet, !m_request.apply}, {}, Ending());
-        if (m_batch.CreationError() != 0)
-            Complain("warning: folders do not keep their creation times there: " +
-                     Text::SafeText(Text::ErrorText(m_batch.CreationError())));
-        return m_batch.WasStopped() ? ExitCode::interrupted : code;
-    }
-
-private:
-    void Apply()
-    {
-        VyrHostPlatform::Interrupt::Catch();
-        TerminalWatch watch(m_request.action == FolderCopy::TransferAction::Copy ? "copying folders" : "moving folders",
-                            m_request.quiet || m_request.json);
-        m_batch.Apply(watch);
-    }
-
-    [[nodiscard]] const char* Ending() const
-    {
-        if (!m_request.apply)
-            return "This is a preview: nothing was changed.\n";
-        if (m_batch.WasStopped())
-            return "Interrupted: folders that were not reached are as they were.\n";
-        if (!m_batch.IsRefused())
-            return "";
-        return m_request.action == FolderCopy::TransferAction::Copy ? "Nothing was copied.\n" : "Nothing was moved.\n";
-    }
-
-    const TransferRequest& m_request;
-    FolderCopy::TransferBatch m_batch;
-};
-
 CLI::App& AddCommand(CLI::App& program, FolderCopy::TransferAction action)
 {
     if (action == FolderCopy::TransferAction::Copy)
@@ -134,52 +78,70 @@ public:
     [[nodiscard]] int Run() const override;
 
 private:
+    [[nodiscard]] bool IsCopy() const { return m_action == FolderCopy::TransferAction::Copy; }
+    [[nodiscard]] const char* Ending(const FolderCopy::TransferBatch& batch, const ReportStyle& style) const;
+
     const FolderCopy::TransferAction m_action;
     /// The folders, and behind them the destination.
     std::vector<std::string> m_paths;
-    bool m_apply = false;
-    bool m_json = false;
-    bool m_quiet = false;
+    RunOptions m_run;
 };
 
 } // namespace
 
 TransferCommand::TransferCommand(CLI::App& program, FolderCopy::TransferAction action)
-    : Command(AddCommand(program, action)), m_action(action)
+    : Command(AddCommand(program, action)), m_action(action),
+      m_run(m_command,
+            {IsCopy() ? "Copy; without it the result is only shown" : "Move; without it the result is only shown",
+             "Write one JSON object for each folder, and for each entry in trouble",
+             "Show only what is in the way or fails"},
+            nullptr)
 {
-    const bool isCopy = action == FolderCopy::TransferAction::Copy;
     m_command
         .add_option("FOLDER", m_paths,
-                    isCopy ? "The folders to copy, and behind them the destination: a folder that is there, to go "
-                             "into; or the new path of the one folder"
-                           : "The folders to move, and behind them the destination: a folder that is there, to go "
-                             "into; or the new path of the one folder")
+                    "The folders to " + m_command.get_name() +
+                        ", and behind them the destination: a folder that is there, to go into; or the new path of "
+                        "the one folder")
         ->type_name("");
-    m_command.add_flag("--apply", m_apply,
-                       isCopy ? "Copy; without it the result is only shown"
-                              : "Move; without it the result is only shown");
-    m_command.add_flag("--json", m_json, "Write one JSON object for each folder, and for each entry in trouble");
-    m_command.add_flag("-q,--quiet", m_quiet, "Show only what is in the way or fails");
-    m_command.footer(terms + (isCopy ? CopyExamples() : MoveExamples()) + "\n" + ExitCode::table);
+    m_command.footer(HelpFooter(m_command.get_name(), terms));
 }
 
 int TransferCommand::Run() const
 {
-    constexpr ExclusivePair exclusive[] = {{"--json", "--quiet"}};
-    CheckOptionPairs(m_command, exclusive);
+    const ReportStyle style = m_run.Read();
     if (m_paths.size() < 2)
         throw Text::UsageError("a folder and the destination are to be named");
-    TransferRequest request;
-    request.action = m_action;
+    std::vector<CString> sources;
     for (const std::string& path : m_paths)
-        request.sources.push_back(FromParser(path));
-    request.destination = request.sources.back();
-    request.sources.pop_back();
-    request.apply = m_apply;
-    request.json = m_json;
-    request.quiet = m_quiet;
+        sources.push_back(FromParser(path));
+    const CString destination = sources.back();
+    sources.pop_back();
+
     OfferRecovery();
-    return TransferRun(request).Run();
+    FolderCopy::TransferBatch batch(sources, destination, m_action,
+                                    style.isPreview ? FolderCopy::Trial::No : FolderCopy::Trial::Allowed);
+    if (!style.isPreview && !batch.IsRefused()) {
+        VyrHostPlatform::Interrupt::Catch();
+        TerminalWatch watch(IsCopy() ? "copying folders" : "moving folders", style.IsSilent());
+        batch.Apply(watch);
+    }
+    const int code =
+        WriteReport(FolderCopy::TransferResults(batch.Reports(), m_action), style, {}, Ending(batch, style));
+    if (batch.CreationError() != 0)
+        Complain("warning: folders do not keep their creation times there: " +
+                 Text::SafeText(Text::ErrorText(batch.CreationError())));
+    return batch.WasStopped() ? ExitCode::interrupted : code;
+}
+
+const char* TransferCommand::Ending(const FolderCopy::TransferBatch& batch, const ReportStyle& style) const
+{
+    if (style.isPreview)
+        return previewEnding;
+    if (batch.WasStopped())
+        return "Interrupted: folders that were not reached are as they were.\n";
+    if (!batch.IsRefused())
+        return "";
+    return IsCopy() ? "Nothing was copied.\n" : "Nothing was moved.\n";
 }
 
 std::unique_ptr<Command> AddCopyCommand(CLI::App& program)

@@ -1,12 +1,9 @@
 // Declares and runs "vyr unblock".
 #include <VyrHost/cli/Commands.h>
 
-#include <VyrHost/cli/ChangeRun.h>
+#include <VyrHost/cli/ChangeCommand.h>
 #include <VyrHost/cli/Help.h>
-#include <VyrHost/cli/Messages.h>
-#include <VyrHost/cli/SourceOptions.h>
 #include <VyrHost/metadata/Marks.h>
-#include <VyrHost/text/Errors.h>
 
 #include <CLI/CLI.hpp>
 
@@ -17,37 +14,25 @@ namespace VyrHost::Cli {
 namespace {
 
 /// Takes the marks of downloads off files.
-class UnblockCommand final : public Command
+class UnblockCommand final : public ChangeCommand
 {
 public:
-    explicit UnblockCommand(CLI::App& program);
-
-    [[nodiscard]] int Run() const override;
+    explicit UnblockCommand(CLI::App& program)
+        : ChangeCommand(*program.add_subcommand("unblock", "Take the mark of a download off files"), "unblock",
+                        Metadata::MarkChange::kind)
+    {
+        m_command.footer(HelpFooter(
+            "unblock", "Without --apply nothing is changed. What --apply changed, \"vyr undo\" undoes.\n\n"));
+    }
 
 private:
-    SourceOptions m_sources;
-    OrderOptions m_order;
-    ChangeOptions m_change;
+    [[nodiscard]] std::unique_ptr<const Metadata::ChangeRule> ReadRule() const override
+    {
+        return std::make_unique<Metadata::MarkRule>();
+    }
 };
 
 } // namespace
-
-UnblockCommand::UnblockCommand(CLI::App& program)
-    : Command(*program.add_subcommand("unblock", "Take the mark of a download off files")),
-      m_sources(m_command, "unblock"), m_order(m_command, "Order of the list"), m_change(m_command)
-{
-    m_command.footer("Without --apply nothing is changed. What --apply changed, \"vyr undo\" undoes.\n\n" +
-                     UnblockExamples() + "\n" + ExitCode::table);
-}
-
-int UnblockCommand::Run() const
-{
-    m_change.Check();
-    ChangeRequest request{"unblock", Metadata::MarkChange::kind, m_sources.Read(), m_order.Read()};
-    if (!m_sources.NamesAny())
-        throw Text::UsageError("no file is named");
-    return RunChanges(request, Metadata::MarkRule(), m_change);
-}
 
 std::unique_ptr<Command> AddUnblockCommand(CLI::App& program)
 {

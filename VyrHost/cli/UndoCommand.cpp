@@ -47,10 +47,9 @@ public:
         const char* const what = isUndo ? "undoing" : "redoing";
         m_report = std::make_unique<BatchReport>(what, batch.renamed.value_or(batch.entries), m_direction, m_style);
         const Batch::BatchEntryReport collector = m_report->Collector();
-        if (m_style.isPreview)
-            return isUndo ? m_batches.PreviewUndo(number, collector) : m_batches.PreviewRedo(number, collector);
-        const auto isStopAsked = VyrHostPlatform::Interrupt::WasAsked;
-        return isUndo ? m_batches.Undo(number, collector, isStopAsked) : m_batches.Redo(number, collector, isStopAsked);
+        return m_style.isPreview
+                   ? m_batches.PreviewReverse(number, m_direction, collector)
+                   : m_batches.Reverse(number, m_direction, collector, VyrHostPlatform::Interrupt::WasAsked);
     }
 
     /// @return the exit code.
@@ -130,7 +129,7 @@ UndoCommand::UndoCommand(CLI::App& program)
     m_command.add_flag("--list", m_list, "List the batches instead, the latest first");
     m_command.add_flag("--preview", m_preview, "Show what would be undone, and change nothing");
     m_command.get_option("--quiet")->description("Show only what is not undone; with --list no headings and no total");
-    m_command.footer(UndoExamples() + "\n" + ExitCode::table);
+    m_command.footer(HelpFooter("undo"));
 }
 
 int UndoCommand::Run() const
@@ -149,10 +148,8 @@ int UndoCommand::Run() const
         number = static_cast<std::uint32_t>(Rename::ParseNumber(FromParser(*m_batch), 1, "BATCH"));
     if (m_list)
         return List();
-    if (const auto cutOff = OpenBatches().FindCutOff()) {
-        Complain(CutOffNotice(*cutOff) + "; nothing was done");
+    if (IsBlockedByCutOff(OpenBatches()))
         return ExitCode::blocked;
-    }
     VyrHostPlatform::Interrupt::Catch();
     return number ? ReverseNumber(*number) : UndoLatest();
 }

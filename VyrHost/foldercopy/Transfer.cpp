@@ -1,6 +1,7 @@
 // Words problems.
 #include <VyrHost/foldercopy/Transfer.h>
 
+#include <VyrHost/model/Result.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrHostPlatform/QueueTimer.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
@@ -25,7 +26,7 @@ std::u16string_view WordsFor(TransferFault fault)
         return u"the folder cannot be read";
     case TransferFault::NoContent:
         return u"a pipe or a device has no content";
-    case TransferFault::noFolder:
+    case TransferFault::NoFolder:
         return u"its folder could not be made";
     case TransferFault::Differs:
         return u"what is there now is something else";
@@ -45,10 +46,8 @@ std::u16string_view WordsFor(TransferFault fault)
 
 CString ReasonOf(const TransferProblem& problem)
 {
-    const std::u16string_view words = WordsFor(problem.fault);
-    if (problem.error == 0)
-        return words;
-    return CString::Join({words, words.empty() ? u"" : u": ", Text::ErrorText(problem.error)});
+    return Model::ReasonAndCause(WordsFor(problem.fault),
+                                 problem.error != 0 ? Text::ErrorText(problem.error) : CString());
 }
 
 using VyrLibraryFuncs::NameFuncs;

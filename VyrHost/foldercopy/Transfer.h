@@ -33,7 +33,7 @@ enum class TransferFault : std::uint8_t
     /// It is a pipe or a device.
     NoContent,
     /// Its folder could not be created.
-    noFolder,
+    NoFolder,
     /// The entry at the target differs from that at the source.
     Differs,
     /// It is at the target, and still at the source, where it could not be removed.

@@ -103,7 +103,7 @@ private:
             if (isThere)
                 FinishEntry(entry, path);
             else
-                Report(path, TransferFault::noFolder);
+                Report(path, TransferFault::NoFolder);
         }
     }
 

@@ -15,38 +15,6 @@
 
 namespace VyrHost::Metadata {
 
-namespace {
-
-/// Adds folders of a list to the plan of a batch.
-class PlannedFolders
-{
-public:
-    PlannedFolders(const Model::FolderSet& folders, Model::RenamePlan& plan)
-        : m_folders(folders), m_plan(plan), m_indexes(folders.Count(), Model::none)
-    {}
-
-    /// The index in the plan of the folder `number`, which is added together with its parents.
-    Model::PlanIndex Add(std::uint32_t number)
-    {
-        if (m_indexes[number] != Model::none)
-            return m_indexes[number];
-        Model::PlanFolder planned;
-        planned.place.name = m_folders[number].name;
-        if (m_folders[number].parent != Model::noFolder)
-            planned.place.folder = Add(m_folders[number].parent);
-        m_indexes[number] = static_cast<Model::PlanIndex>(m_plan.folders.size());
-        m_plan.folders.push_back(planned);
-        return m_indexes[number];
-    }
-
-private:
-    const Model::FolderSet& m_folders;
-    Model::RenamePlan& m_plan;
-    std::vector<Model::PlanIndex> m_indexes;
-};
-
-} // namespace
-
 std::vector<Proposal> ProposeChanges(const ChangeRule& rule, const Model::EntryList& list,
                                      const std::function<void(std::size_t done)>& report)
 {
@@ -69,7 +37,7 @@ Batch::NewBatch MakeBatch(const CString& command, const Model::EntryList& list, 
     Batch::NewBatch batch;
     batch.command = command;
     batch.plan.texts = list.folders.Texts();
-    PlannedFolders folders(list.folders, batch.plan);
+    Model::PlannedFolders folders(list.folders, batch.plan);
     for (std::size_t index = 0; index < proposals.size(); ++index) {
         if (!proposals[index].change)
             continue;
@@ -80,9 +48,9 @@ Batch::NewBatch MakeBatch(const CString& command, const Model::EntryList& list, 
     return batch;
 }
 
-using Model::Status;
-
 namespace {
+
+using Model::Status;
 
 Model::Outcome OutcomeOf(const Proposal& proposal)
 {

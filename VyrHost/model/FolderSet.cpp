@@ -6,6 +6,7 @@
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FolderListing.h>
 
+#include <algorithm>
 #include <vector>
 
 namespace VyrHost::Model {

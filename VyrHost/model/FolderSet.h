@@ -35,7 +35,7 @@ struct Folder
     CString shown;
     /// What the listing brings stands first, in natural order.
     NameTable names;
-    /// False for a folder that is known only because another one stands in it: then all below says nothing.
+    /// False for a folder that is known only because another one stands in it: then the fields below mean nothing.
     bool wasOpened = false;
     /// The disk has it: its listing is in `names`.
     bool exists = false;
@@ -70,7 +70,7 @@ public:
 
     /// Keeps the text of a name as long as the set lives.
     [[nodiscard]] InternedName Intern(std::u16string_view name) { return m_texts->Intern(name); }
-    /// What keeps all the names.
+    /// Holds all names.
     [[nodiscard]] const std::shared_ptr<NamePool>& Texts() const { return m_texts; }
 
 private:

@@ -22,6 +22,21 @@ std::array<PlanIndex, 2> ParentsOf(const RenamePlan& plan, const PlanFolder& fol
 
 } // namespace
 
+PlanIndex PlannedFolders::Add(std::uint32_t number)
+{
+    std::vector<std::uint32_t> missing;
+    for (std::uint32_t at = number; at != noFolder && m_indexes[at] == none; at = m_folders[at].parent)
+        missing.push_back(at);
+    for (; !missing.empty(); missing.pop_back()) {
+        const Folder& folder = m_folders[missing.back()];
+        const PlanIndex parent = folder.parent == noFolder ? none : m_indexes[folder.parent];
+        m_indexes[missing.back()] = static_cast<PlanIndex>(m_plan.folders.size());
+        m_plan.folders.push_back({.place = {parent, folder.name}, .isNew = folder.isNew});
+        m_numbers.push_back(missing.back());
+    }
+    return m_indexes[number];
+}
+
 CString PathBefore(const RenamePlan& plan, PlanIndex folder)
 {
     std::vector<PlanIndex> line;

@@ -2,6 +2,7 @@
 /// A batch of renames as ordered steps: what the planner makes, the journal keeps and the executor performs.
 #pragma once
 
+#include <VyrHost/model/FolderSet.h>
 #include <VyrHost/model/NamePool.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/text/CString.h>
@@ -48,7 +49,7 @@ struct PlanEntry
     VyrPlatform::FileSystem::Kind kind = VyrPlatform::FileSystem::Kind::File;
     Place from;
     Place to;
-    /// The folder itself, where the entry is one that others of the plan stand in.
+    /// Where the entry is a folder of the plan: its place among the folders.
     PlanIndex folder = none;
     /// The entry that stands at `to` before the batch: this one waits until that has left. Its own index where the file
     /// system takes the old and the new name for one (a change of case).
@@ -81,8 +82,29 @@ struct RenamePlan
     /// UseTemporaryName where its place is needed earlier. The steps from a UseTemporaryName to its Rename belong
     /// together: no step outside depends on a part of them.
     std::vector<PlanStep> steps;
-    /// What keeps the names.
+    /// Holds the names.
     std::shared_ptr<NamePool> texts = std::make_shared<NamePool>();
+};
+
+/// Takes those folders of a set that a plan needs into the plan. Both must outlive it.
+class PlannedFolders
+{
+public:
+    PlannedFolders(const FolderSet& folders, RenamePlan& plan)
+        : m_folders(folders), m_plan(plan), m_indexes(folders.Count(), none)
+    {}
+
+    /// The place in the plan of the folder `number` of the set, which is added with those that it stands in.
+    PlanIndex Add(std::uint32_t number);
+    /// The numbers in the set of the plan's folders.
+    [[nodiscard]] const std::vector<std::uint32_t>& Numbers() const { return m_numbers; }
+
+private:
+    const FolderSet& m_folders;
+    RenamePlan& m_plan;
+    /// For each folder of the set its place in the plan.
+    std::vector<PlanIndex> m_indexes;
+    std::vector<std::uint32_t> m_numbers;
 };
 
 /// Where the folder `folder` stands before the batch, as a path.

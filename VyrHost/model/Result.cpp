@@ -6,6 +6,11 @@
 
 namespace VyrHost::Model {
 
+CString ReasonAndCause(std::u16string_view reason, std::u16string_view cause)
+{
+    return CString::Join({reason, reason.empty() || cause.empty() ? u"" : u": ", cause});
+}
+
 Tally::Tally(const Results& results)
 {
     for (std::size_t index = 0; index < results.Count(); ++index) {

@@ -46,6 +46,9 @@ struct Outcome
     CString reason;
 };
 
+/// `reason`, a colon and `cause`; the one alone where the other is empty.
+[[nodiscard]] CString ReasonAndCause(std::u16string_view reason, std::u16string_view cause);
+
 /// A path in two parts, so that a list of a million names need not join them. The texts belong to the list.
 struct ResultPath
 {
@@ -96,7 +99,7 @@ struct Result
     bool isPart = false;
     /// The dates that rules with a choice took, such as "picture"; empty for none.
     CString dateFrom;
-    /// What a new name would be in trouble for elsewhere; empty for nothing.
+    /// Why the new name would be refused on another system; empty where it would not.
     std::u16string_view warning;
     /// Whether the file was written to, or replaced by another, since the batch that is undone; nothing elsewhere.
     std::optional<bool> hasChanged;

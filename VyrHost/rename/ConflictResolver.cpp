@@ -231,7 +231,7 @@ private:
     [[nodiscard]] NumberedName NumberedNameOf(std::uint32_t entry)
     {
         const Model::InternedName wanted = WantedName(entry);
-        const std::uint32_t main = HasStem(entry) ? MainFileOf(m_list, m_list.entries[entry]) : Model::noEntry;
+        const std::uint32_t main = m_groups.MainFileOf(entry);
         if (main != Model::noEntry && wanted.View().starts_with(WantedName(main).View()))
             return NumberedNameOf(main).OfSidecar(wanted.View().substr(WantedName(main).View().size()));
         const Model::NameRecord* const record = Names(entry).Find(wanted);
@@ -262,8 +262,7 @@ private:
     {
         const Model::Folder& in = m_list.folders[folder];
         CString stem = FileUtils::GetSplitFName(in.path + name);
-        for (auto main = MainFileOf(m_list, m_list.entries[entry]); main != Model::noEntry;
-             main = MainFileOf(m_list, m_list.entries[main]))
+        for (auto main = m_groups.MainFileOf(entry); main != Model::noEntry; main = m_groups.MainFileOf(main))
             stem = FileUtils::GetSplitFName(in.path + stem);
         return {folder, VyrHostPlatform::FoldName(stem, in.names.Folding())};
     }

@@ -1,5 +1,5 @@
 /// @file
-/// Settles who gets which name when names clash, and numbers names.
+/// Decides who gets which name when names clash, and numbers names.
 #pragma once
 
 #include <VyrHost/rename/Preview.h>
@@ -18,7 +18,7 @@ public:
     /// `path` is the name with its folder; a folder's name is numbered at its end, a file's before its extension.
     NumberedName(const CString& path, bool isFolder);
 
-    /// The name of a sidecar: this one, and `extension` behind it (MainFileOf).
+    /// The name of a sidecar: this one, and `extension` behind it (Groups::MainFileOf).
     [[nodiscard]] NumberedName OfSidecar(std::u16string_view extension) const;
 
     /// The name with the number of the attempt `attempt` (from 0). The engine has no `digits`: the least number of

@@ -22,11 +22,6 @@ CString WordsFor(Model::DateSourceSet dates)
     return words;
 }
 
-CString ReasonAndCause(std::u16string_view reason, std::u16string_view cause)
-{
-    return CString::Join({reason, reason.empty() || cause.empty() ? u"" : u": ", cause});
-}
-
 } // namespace
 
 std::u16string_view WordsFor(Reason reason)
@@ -151,7 +146,7 @@ Model::Result RenameResults::At(std::size_t index) const
     result.status = decision.status;
     result.reason = WordsFor(decision.reason);
     if (const auto cause = m_causes.find(static_cast<std::uint32_t>(index)); cause != m_causes.end())
-        result.reason = ReasonAndCause(result.reason, cause->second);
+        result.reason = Model::ReasonAndCause(result.reason, cause->second);
     if (decision.IsRename()) {
         result.dateFrom = WordsFor(decision.datesTaken);
         result.warning = WarningFor(decision.warning);

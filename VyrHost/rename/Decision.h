@@ -29,7 +29,7 @@ enum class Reason : std::uint8_t
     PictureNotRead,
     /// The rules give a folder to move into no name that a folder can have on any system.
     NamelessFolder,
-    /// A folder to move into cannot be made: its name is none for this system, or something else has it.
+    /// A folder to move into cannot be made: this system does not allow its name, or something else has it.
     BadFolder,
     /// The folder to move into is on another file system.
     OtherFileSystem,
@@ -68,7 +68,7 @@ enum class Reason : std::uint8_t
 
 /// A few words for people; empty for Reason::None.
 [[nodiscard]] std::u16string_view WordsFor(Reason reason);
-/// What the name would be in trouble for on Windows; empty for NameFault::None.
+/// What is wrong with the name on Windows; empty for NameFault::None.
 [[nodiscard]] std::u16string_view WarningFor(VyrHostPlatform::NameFault fault);
 
 struct Decision
@@ -79,7 +79,7 @@ struct Decision
     std::uint32_t folder = 0;
     Model::Status status = Model::Status::Done;
     Reason reason = Reason::None;
-    /// What the new name would be in trouble for on Windows, on a system that takes it.
+    /// What is wrong with the new name on Windows, on a system that allows it.
     VyrHostPlatform::NameFault warning = VyrHostPlatform::NameFault::None;
     /// The dates that rules with a choice took for it.
     Model::DateSourceSet datesTaken = {};

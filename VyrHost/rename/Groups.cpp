@@ -16,19 +16,7 @@ using VyrPlatform::FileSystem::Kind;
 
 namespace {
 
-/// The name before the extension of `entry`, or of the file whose sidecar it is.
-CString StemOf(const Model::EntryList& list, const Model::Entry& entry)
-{
-    const Model::Entry* file = &entry;
-    // Each step takes an extension away, so that it ends.
-    for (auto main = MainFileOf(list, *file); main != Model::noEntry; main = MainFileOf(list, *file))
-        file = &list.entries[main];
-    return Model::Split(list.PathOf(*file), *file).name;
-}
-
-} // namespace
-
-std::uint32_t MainFileOf(const Model::EntryList& list, const Model::Entry& entry)
+std::uint32_t FindMainFile(const Model::EntryList& list, const Model::Entry& entry)
 {
     if (entry.kind != Kind::File)
         return Model::noEntry;
@@ -41,6 +29,17 @@ std::uint32_t MainFileOf(const Model::EntryList& list, const Model::Entry& entry
     return isListed && list.entries[record->owner].kind == Kind::File ? record->owner : Model::noEntry;
 }
 
+/// The name before the extension of `entry`, or of the file whose sidecar it is.
+CString StemOf(const Model::EntryList& list, const std::vector<std::uint32_t>& mainFiles, std::uint32_t entry)
+{
+    // Each step removes an extension, so that it ends.
+    while (mainFiles[entry] != Model::noEntry)
+        entry = mainFiles[entry];
+    return Model::Split(list.PathOf(list.entries[entry]), list.entries[entry]).name;
+}
+
+} // namespace
+
 Groups Groups::OfOne(const Model::EntryList& list)
 {
     const auto count = static_cast<std::uint32_t>(list.entries.size());
@@ -51,14 +50,20 @@ Groups Groups::OfOne(const Model::EntryList& list)
 
 Groups Groups::ByStem(const Model::EntryList& list)
 {
+    std::vector<std::uint32_t> mainFiles;
+    mainFiles.reserve(list.entries.size());
+    for (const Model::Entry& entry : list.entries)
+        mainFiles.push_back(FindMainFile(list, entry));
+
     std::vector<std::unordered_map<CString, std::uint32_t>> stems(list.folders.Count());
     std::vector<std::uint32_t> groups;
     std::uint32_t count = 0;
-    for (const Model::Entry& entry : list.entries) {
+    for (std::uint32_t index = 0; index < list.entries.size(); ++index) {
+        const Model::Entry& entry = list.entries[index];
         std::uint32_t group = count;
         if (entry.kind == Kind::File) {
             const VyrHostPlatform::NameFolding folding = list.folders[entry.folder].names.Folding();
-            const CString stem = VyrHostPlatform::FoldName(StemOf(list, entry), folding);
+            const CString stem = VyrHostPlatform::FoldName(StemOf(list, mainFiles, index), folding);
             group = stems[entry.folder].try_emplace(stem, count).first->second;
         }
         if (group == count)
@@ -67,6 +72,7 @@ Groups Groups::ByStem(const Model::EntryList& list)
     }
     Groups byStem(std::move(groups), count);
     byStem.m_areByStem = true;
+    byStem.m_mainFiles = std::move(mainFiles);
     return byStem;
 }
 

@@ -30,6 +30,13 @@ public:
     }
     /// The group of an entry.
     [[nodiscard]] std::uint32_t Of(std::uint32_t entry) const { return m_groups[entry]; }
+    /// The file whose sidecar `entry` is: the one that has its name without the last extension, as `X.JPG` for
+    /// `X.JPG.xmp`. NoEntry for a name with fewer than two extensions, where the list has no such file, and where the
+    /// groups are not those of ByStem.
+    [[nodiscard]] std::uint32_t MainFileOf(std::uint32_t entry) const
+    {
+        return m_areByStem ? m_mainFiles[entry] : Model::noEntry;
+    }
 
 private:
     /// From the group of each entry, numbered in the order of first entries.
@@ -40,10 +47,8 @@ private:
     /// Where the members of each group begin, and the end.
     std::vector<std::uint32_t> m_begins;
     bool m_areByStem = false;
+    /// Of each entry, where the groups are those of ByStem.
+    std::vector<std::uint32_t> m_mainFiles;
 };
-
-/// The file of `list` whose sidecar `entry` is: the one that has the name of `entry` without its last extension, as
-/// `X.JPG` for `X.JPG.xmp`. noEntry for a name with fewer than two extensions, and where the list has no such file.
-[[nodiscard]] std::uint32_t MainFileOf(const Model::EntryList& list, const Model::Entry& entry);
 
 } // namespace VyrHost::Rename

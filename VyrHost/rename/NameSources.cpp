@@ -2,7 +2,6 @@
 #include <VyrHost/rename/NameSources.h>
 
 #include <VyrHost/model/FolderSet.h>
-#include <VyrHost/rename/Groups.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FullPath.h>
 
@@ -19,7 +18,7 @@ bool RuleNames::MayNumber() const
     return std::any_of(m_rules.begin(), m_rules.end(), [](const auto& rule) { return rule->MayNumber(); });
 }
 
-void RuleNames::Name(const Model::EntryList& list, std::span<const std::uint32_t> members,
+void RuleNames::Name(const Model::EntryList& list, const Groups& groups, std::span<const std::uint32_t> members,
                      std::vector<WantedName>& names)
 {
     const int index = TakeIndex(list.entries[members.front()].folder);
@@ -27,7 +26,7 @@ void RuleNames::Name(const Model::EntryList& list, std::span<const std::uint32_t
     if (members.size() == 1)
         NameOne(list, list.entries[members.front()], index, names.front());
     else
-        NameTogether(list, members, index, names);
+        NameTogether(list, groups, members, index, names);
 }
 
 void RuleNames::NameOne(const Model::EntryList& list, const Model::Entry& entry, int index, WantedName& name)
@@ -38,8 +37,8 @@ void RuleNames::NameOne(const Model::EntryList& list, const Model::Entry& entry,
         name = Wanted(list, entry);
 }
 
-void RuleNames::NameTogether(const Model::EntryList& list, std::span<const std::uint32_t> members, int index,
-                             std::vector<WantedName>& names)
+void RuleNames::NameTogether(const Model::EntryList& list, const Groups& groups, std::span<const std::uint32_t> members,
+                             int index, std::vector<WantedName>& names)
 {
     const Model::Entry* leader = nullptr;
     Subject made;
@@ -47,7 +46,7 @@ void RuleNames::NameTogether(const Model::EntryList& list, std::span<const std::
     for (std::size_t place = 0; place < members.size() && (!leader || made.dateRank > 0); ++place) {
         const Model::Entry& entry = list.entries[members[place]];
         // A sidecar has no stem of its own.
-        if (MainFileOf(list, entry) != Model::noEntry)
+        if (groups.MainFileOf(members[place]) != Model::noEntry)
             continue;
         names[place].reason = Run(list, entry, index, entry);
         names[place].cause = m_subject.cause;
@@ -61,7 +60,7 @@ void RuleNames::NameTogether(const Model::EntryList& list, std::span<const std::
     // The picture that cannot be read might have told a better date.
     const bool isUncertain = leader && rankNotRead && *rankNotRead < made.dateRank;
     if (leader && !isUncertain) {
-        FollowLeader(list, members, index, *leader, made, names);
+        FollowLeader(list, groups, members, index, *leader, made, names);
         return;
     }
     for (WantedName& name : names)
@@ -69,8 +68,8 @@ void RuleNames::NameTogether(const Model::EntryList& list, std::span<const std::
             name.reason = Reason::CompanionRefused;
 }
 
-void RuleNames::FollowLeader(const Model::EntryList& list, std::span<const std::uint32_t> members, int index,
-                             const Model::Entry& leader, const Subject& made, std::vector<WantedName>& names)
+void RuleNames::FollowLeader(const Model::EntryList& list, const Groups& groups, std::span<const std::uint32_t> members,
+                             int index, const Model::Entry& leader, const Subject& made, std::vector<WantedName>& names)
 {
     // A file has a shorter name than its sidecars, and so comes before them.
     std::vector<std::size_t> places(members.size());
@@ -87,7 +86,7 @@ void RuleNames::FollowLeader(const Model::EntryList& list, std::span<const std::
         } else {
             m_subject = made;
         }
-        if (const std::uint32_t main = MainFileOf(list, entry); main != Model::noEntry)
+        if (const std::uint32_t main = groups.MainFileOf(members[place]); main != Model::noEntry)
             m_subject.name =
                 names[static_cast<std::size_t>(std::ranges::lower_bound(members, main) - members.begin())].name;
         names[place] = Wanted(list, entry);
@@ -165,7 +164,7 @@ WantedName NameFor(const Model::Folder& now, const CString& given)
 
 } // namespace
 
-void GivenNames::Name(const Model::EntryList& list, std::span<const std::uint32_t> members,
+void GivenNames::Name(const Model::EntryList& list, const Groups& /*groups*/, std::span<const std::uint32_t> members,
                       std::vector<WantedName>& names)
 {
     names.clear();

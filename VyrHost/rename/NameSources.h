@@ -4,6 +4,7 @@
 
 #include <VyrHost/model/EntryList.h>
 #include <VyrHost/rename/Decision.h>
+#include <VyrHost/rename/Groups.h>
 #include <VyrHost/rename/Rule.h>
 #include <VyrPlatform/files/WorkingFolder.h>
 #include <VyrPlatform/text/CString.h>
@@ -38,7 +39,7 @@ public:
 
     /// Names the entries of `list` that keep together. Called for one group after the other, in the order of the list,
     /// with what is there alone; `names` gets one name for each of `members`.
-    virtual void Name(const Model::EntryList& list, std::span<const std::uint32_t> members,
+    virtual void Name(const Model::EntryList& list, const Groups& groups, std::span<const std::uint32_t> members,
                       std::vector<WantedName>& names) = 0;
     /// Whether names that clash are to be numbered.
     [[nodiscard]] virtual bool MayNumber() const = 0;
@@ -61,7 +62,7 @@ class RuleNames : public NameSource
 public:
     RuleNames(const Rules& rules, Counting counting) : m_rules(rules), m_counting(counting) {}
 
-    void Name(const Model::EntryList& list, std::span<const std::uint32_t> members,
+    void Name(const Model::EntryList& list, const Groups& groups, std::span<const std::uint32_t> members,
               std::vector<WantedName>& names) override;
     [[nodiscard]] bool MayNumber() const override;
 
@@ -69,12 +70,12 @@ private:
     [[nodiscard]] int TakeIndex(std::uint32_t folder);
     void NameOne(const Model::EntryList& list, const Model::Entry& entry, int index, WantedName& name);
     /// One stem for all, from the first that has a date of the best source.
-    void NameTogether(const Model::EntryList& list, std::span<const std::uint32_t> members, int index,
-                      std::vector<WantedName>& names);
+    void NameTogether(const Model::EntryList& list, const Groups& groups, std::span<const std::uint32_t> members,
+                      int index, std::vector<WantedName>& names);
     /// Gives the members the stem and the folder of `made`, which the rules made for `leader`; the extensions stay
     /// theirs.
-    void FollowLeader(const Model::EntryList& list, std::span<const std::uint32_t> members, int index,
-                      const Model::Entry& leader, const Subject& made, std::vector<WantedName>& names);
+    void FollowLeader(const Model::EntryList& list, const Groups& groups, std::span<const std::uint32_t> members,
+                      int index, const Model::Entry& leader, const Subject& made, std::vector<WantedName>& names);
     Reason Run(const Model::EntryList& list, const Model::Entry& entry, int index, const Model::Entry& dated);
     WantedName Wanted(const Model::EntryList& list, const Model::Entry& entry) const;
 
@@ -95,7 +96,7 @@ public:
     /// `names` are by places in the list.
     explicit GivenNames(std::unordered_map<std::uint32_t, CString> names) : m_names(std::move(names)) {}
 
-    void Name(const Model::EntryList& list, std::span<const std::uint32_t> members,
+    void Name(const Model::EntryList& list, const Groups& groups, std::span<const std::uint32_t> members,
               std::vector<WantedName>& names) override;
     /// A name that the user wrote is not changed.
     [[nodiscard]] bool MayNumber() const override { return false; }

@@ -15,7 +15,7 @@ namespace VyrHost::Rename {
 struct NameValidity
 {
     Reason reason = Reason::None;
-    /// A fault that the old name did not have and this system does not mind.
+    /// A fault that the old name did not have and that this system allows.
     VyrHostPlatform::NameFault warning = VyrHostPlatform::NameFault::None;
 };
 
@@ -33,7 +33,7 @@ public:
         std::uint32_t folder = 0;
         /// Why nothing can be moved there.
         Reason reason = Reason::None;
-        /// What a folder that is to be made would be in trouble for on Windows.
+        /// What is wrong on Windows with the name of a folder that is to be made.
         VyrHostPlatform::NameFault warning = VyrHostPlatform::NameFault::None;
         /// The file system that the folder is on, or will be.
         std::optional<std::uint64_t> device = std::nullopt;

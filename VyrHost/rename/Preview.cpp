@@ -25,8 +25,8 @@ constexpr int longestPath = 32'767;
 class Naming
 {
 public:
-    Naming(Model::EntryList& list, NameSource& source)
-        : m_list(list), m_source(source), m_targets(list.folders), m_decisions(list.entries.size())
+    Naming(Model::EntryList& list, const Groups& groups, NameSource& source)
+        : m_list(list), m_groups(groups), m_source(source), m_targets(list.folders), m_decisions(list.entries.size())
     {}
 
     void NameGroup(std::span<const std::uint32_t> members)
@@ -37,7 +37,7 @@ public:
                 m_present.push_back(entry);
         if (m_present.empty())
             return;
-        m_source.Name(m_list, m_present, m_names);
+        m_source.Name(m_list, m_groups, m_present, m_names);
         for (std::size_t place = 0; place < m_present.size(); ++place)
             Judge(m_present[place], m_names[place]);
         for (const std::uint32_t entry : m_present)
@@ -145,6 +145,7 @@ private:
     }
 
     Model::EntryList& m_list;
+    const Groups& m_groups;
     NameSource& m_source;
     TargetFolders m_targets;
     std::vector<Decision> m_decisions;
@@ -160,8 +161,7 @@ class Drafting
 {
 public:
     /// @param count  how many entries will be added.
-    Drafting(const Model::EntryList& list, std::size_t count)
-        : m_list(list), m_numbers(list.folders.Count(), Model::none)
+    Drafting(const Model::EntryList& list, std::size_t count) : m_list(list), m_folders(list.folders, m_draft.plan)
     {
         m_draft.plan.texts = list.folders.Texts();
         m_draft.plan.entries.reserve(count);
@@ -170,36 +170,23 @@ public:
 
     void Add(const Model::Entry& entry, const Decision& decision, std::uint32_t group)
     {
-        const Model::Place from{NumberOf(entry.folder), entry.name};
-        const Model::Place to{NumberOf(decision.folder), decision.name};
+        const Model::Place from{m_folders.Add(entry.folder), entry.name};
+        const Model::Place to{m_folders.Add(decision.folder), decision.name};
         m_draft.plan.entries.push_back({.kind = entry.kind, .from = from, .to = to});
         m_draft.groups.push_back(group);
     }
 
-    RenameDraft Take() { return std::move(m_draft); }
-
-private:
-    /// The plan has those folders of the list alone that it needs.
-    Model::PlanIndex NumberOf(std::uint32_t number)
+    RenameDraft Take()
     {
-        std::vector<std::uint32_t> missing;
-        for (std::uint32_t at = number; at != Model::noFolder && m_numbers[at] == Model::none;
-             at = m_list.folders[at].parent)
-            missing.push_back(at);
-        for (; !missing.empty(); missing.pop_back()) {
-            const Model::Folder& folder = m_list.folders[missing.back()];
-            const Model::PlanIndex parent = folder.parent == Model::noFolder ? Model::none : m_numbers[folder.parent];
-            m_numbers[missing.back()] = static_cast<Model::PlanIndex>(m_draft.plan.folders.size());
-            m_draft.plan.folders.push_back({.place = {parent, folder.name}, .isNew = folder.isNew});
-            m_draft.foldings.push_back(folder.names.Folding());
-        }
-        return m_numbers[number];
+        for (const std::uint32_t folder : m_folders.Numbers())
+            m_draft.foldings.push_back(m_list.folders[folder].names.Folding());
+        return std::move(m_draft);
     }
 
+private:
     const Model::EntryList& m_list;
-    /// For each folder of the list its number in the plan.
-    std::vector<Model::PlanIndex> m_numbers;
     RenameDraft m_draft;
+    Model::PlannedFolders m_folders;
 };
 
 void Plan(const Model::EntryList& list, const Groups& groups, Preview& preview)
@@ -254,7 +241,7 @@ Preview MakePreview(Model::EntryList& list, const Groups& groups, NameSource& na
                     const NamingProgress& progress)
 {
     constexpr std::size_t often = 32;
-    Naming naming(list, names);
+    Naming naming(list, groups, names);
     for (std::size_t group = 0; group < groups.Count(); ++group) {
         naming.NameGroup(groups.Members(group));
         if (progress && group % often == 0)

@@ -75,7 +75,7 @@ protected:
     VyrLibraryFuncs::NameFuncs::ITEM m_item;
 };
 
-/// Writes the first date that an entry has, of those asked for, and puts in what the tokens stand for: "<Make>" and
+/// Writes the first date that an entry has, of those asked for, and replaces the tokens: "<Make>" and
 /// "<Model>" the camera, "<Folder>" a step down into a folder. A blank beside a "<Make>" or "<Model>" that the picture
 /// does not tell goes with it. A picture that cannot be read is a fault, not one without a date.
 class DateRule : public EngineRule

@@ -20,14 +20,15 @@ struct NumberSettings
     std::optional<int> digits;
 };
 
-/// A run of "#" (as wide as the number at least), or "<Number>", is the number; "<Name>" is the name so far, which goes
-/// when it is not there; all else stands as it is. The rule throws UsageError where a number would not be an int.
+/// A run of "#" (as wide as the number at least), or "<Number>", is the number; "<Name>" is the name so far, which is
+/// dropped where the template does not have it; all else stands as it is. The rule throws UsageError where a number
+/// would not be an int.
 [[nodiscard]] Rules NumberRules(const CString& text, const NumberSettings& settings);
 
 /// A date format in which "<Name>", the name so far, may stand once.
 [[nodiscard]] Rules DateRules(const CString& text, const std::vector<Model::DateSource>& sources);
 
-/// "PLACE:TEXT" puts TEXT in: PLACE counts from the start, with a minus sign from the end ("-0" is the end).
+/// "PLACE:TEXT" inserts TEXT: PLACE counts from the start, with a minus sign from the end ("-0" is the end).
 [[nodiscard]] Rules InsertRules(const CString& text);
 [[nodiscard]] Rules PrefixRules(const CString& text);
 [[nodiscard]] Rules SuffixRules(const CString& text);

@@ -81,54 +81,36 @@ RecordValue CountOf(std::size_t count)
 
 using Information = Batch::BatchInformation;
 
-const RecordField<Information> batchFields[] = {{{"number", "Batch", RecordKind::Number, true},
-                                                 [](const Information& batch) {
-                                                     return CountOf(batch.number);
-                                                 }},
-                                                {{"started", "Started", RecordKind::Date, true}, StartOf},
-                                                {{"command", "Command"},
-                                                 [](const Information& batch) {
-                                                     return ValueOf(batch.command);
-                                                 }},
-                                                {{"folder", "Folder"},
-                                                 [](const Information& batch) {
-                                                     return ValueOf(batch.folder);
-                                                 }},
-                                                {{"state", "State"},
-                                                 [](const Information& batch) {
-                                                     return RecordValue(CString(WordFor(batch.state)));
-                                                 }},
-                                                {{"undo", "Undo", RecordKind::Number},
-                                                 [](const Information& batch) {
-                                                     return batch.undo == 0 ? RecordValue() : CountOf(batch.undo);
-                                                 }},
-                                                {{"entries", "Entries", RecordKind::Number},
-                                                 [](const Information& batch) {
-                                                     return CountOf(batch.entries);
-                                                 }},
-                                                {{"renamed", "Renamed", RecordKind::Number},
-                                                 [](const Information& batch) {
-                                                     return batch.renamed ? CountOf(*batch.renamed) : RecordValue();
-                                                 }},
-                                                {{"stopped", "Stopped", RecordKind::Flag},
-                                                 [](const Information& batch) {
-                                                     return RecordValue(batch.wasStopped);
-                                                 }},
-                                                {{"summary", "What has become of it", RecordKind::Text, true},
-                                                 [](const Information& batch) {
-                                                     return RecordValue(SummaryTextOf(batch));
-                                                 }},
-                                                {{"from", "First entry", RecordKind::Text, true},
-                                                 [](const Information& batch) {
-                                                     return ValueOf(batch.firstFrom);
-                                                 }},
-                                                {{"to", "To", RecordKind::Text, true},
-                                                 [](const Information& batch) {
-                                                     return ValueOf(batch.firstTo);
-                                                 }},
-                                                {{"problem", "Problem"}, [](const Information& batch) {
-                                                     return ValueOf(batch.problem);
-                                                 }}};
+const RecordField<Information> batchFields[] = {
+    {{"number", "Batch", RecordKind::Number, true}, ValueAt<CountOf, &Information::number>},
+    {{"started", "Started", RecordKind::Date, true}, StartOf},
+    {{"command", "Command"}, TextAt<&Information::command>},
+    {{"folder", "Folder"}, TextAt<&Information::folder>},
+    {{"state", "State"},
+     [](const Information& batch) {
+         return RecordValue(CString(WordFor(batch.state)));
+     }},
+    {{"undo", "Undo", RecordKind::Number},
+     [](const Information& batch) {
+         return batch.undo == 0 ? RecordValue() : CountOf(batch.undo);
+     }},
+    {{"entries", "Entries", RecordKind::Number}, ValueAt<CountOf, &Information::entries>},
+    {{"renamed", "Renamed", RecordKind::Number},
+     [](const Information& batch) {
+         return batch.renamed ? CountOf(*batch.renamed) : RecordValue();
+     }},
+    {{"stopped", "Stopped", RecordKind::Flag},
+     [](const Information& batch) {
+         return RecordValue(batch.wasStopped);
+     }},
+    {{"summary", "What has become of it", RecordKind::Text, true},
+     [](const Information& batch) {
+         return RecordValue(SummaryTextOf(batch));
+     }},
+    {{"from", "First entry", RecordKind::Text, true}, TextAt<&Information::firstFrom>},
+    {{"to", "To", RecordKind::Text, true}, TextAt<&Information::firstTo>},
+    {{"problem", "Problem"}, TextAt<&Information::problem>},
+};
 
 Tone ToneOf(const Information& batch)
 {

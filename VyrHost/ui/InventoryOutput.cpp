@@ -15,6 +15,9 @@ using Inventory::Program;
 using Inventory::Scope;
 using VyrLibraryFuncs::ProgramsFeaturesFuncs;
 using VyrLibraryUtils::DateTimeUtils;
+using ProgramItem = ProgramsFeaturesFuncs::ITEM;
+using ProductItem = ProgramsFeaturesFuncs::INSTALLER_PRODUCTS_ITEM;
+using BrowserItem = VyrLibraryFuncs::BrowserFuncs::APPITEM;
 
 /// The library's number for the user's locale.
 constexpr std::uint32_t userLocale = 1024;
@@ -42,220 +45,96 @@ RecordValue FlagOf(std::uint32_t flag)
     return flag != 0;
 }
 
+RecordValue IconOf(const CString& icon)
+{
+    return ValueOf(ProgramsFeaturesFuncs::GetApplicationIcon(icon).first);
+}
+
+RecordValue IconIndexOf(const CString& icon)
+{
+    return icon.IsEmpty() ? RecordValue()
+                          : RecordValue(std::int64_t{ProgramsFeaturesFuncs::GetApplicationIcon(icon).second});
+}
+
 const RecordField<Program> programFields[] = {
-    {{"name", "Name", RecordKind::Text, true},
-     [](const Program& p) {
-         return ValueOf(p.item.DisplayName);
-     }},
-    {{"publisher", "Publisher", RecordKind::Text, true},
-     [](const Program& p) {
-         return ValueOf(p.item.Publisher);
-     }},
+    {{"name", "Name", RecordKind::Text, true}, TextAt<&Program::item, &ProgramItem::DisplayName>},
+    {{"publisher", "Publisher", RecordKind::Text, true}, TextAt<&Program::item, &ProgramItem::Publisher>},
     {{"installDate", "Installed", RecordKind::Date, true},
      [](const Program& p) {
          return DateOf(ProgramsFeaturesFuncs::GetInstallDate(p.item.InstallDate, p.item.LastWriteTime), false);
      }},
-    {{"size", "Size", RecordKind::Size, true},
-     [](const Program& p) {
-         return NumberOf(p.item.EstimatedSizeBytes);
-     }},
-    {{"version", "Version", RecordKind::Text, true},
-     [](const Program& p) {
-         return ValueOf(p.item.DisplayVersion);
-     }},
-    {{"user", "User"},
-     [](const Program& p) {
-         return ValueOf(p.user);
-     }},
-    {{"scope", "Scope"},
-     [](const Program& p) {
-         return ScopeOf(p.scope);
-     }},
+    {{"size", "Size", RecordKind::Size, true}, ValueAt<NumberOf, &Program::item, &ProgramItem::EstimatedSizeBytes>},
+    {{"version", "Version", RecordKind::Text, true}, TextAt<&Program::item, &ProgramItem::DisplayVersion>},
+    {{"user", "User"}, TextAt<&Program::user>},
+    {{"scope", "Scope"}, ValueAt<ScopeOf, &Program::scope>},
     {{"view", "View"},
      [](const Program& p) {
          return RecordValue(CString(p.item.IsWow6432Node != 0 ? u"32-bit" : u"native"));
      }},
-    {{"key", "Key"},
-     [](const Program& p) {
-         return ValueOf(p.item.FullKeyName);
-     }},
-    {{"installLocation", "Location"},
-     [](const Program& p) {
-         return ValueOf(p.item.InstallLocation);
-     }},
-    {{"installSource", "Source"},
-     [](const Program& p) {
-         return ValueOf(p.item.InstallSource);
-     }},
-    {{"aboutUrl", "About"},
-     [](const Program& p) {
-         return ValueOf(p.item.URLInfoAbout);
-     }},
-    {{"updateUrl", "Updates"},
-     [](const Program& p) {
-         return ValueOf(p.item.URLUpdateInfo);
-     }},
-    {{"helpUrl", "Help"},
-     [](const Program& p) {
-         return ValueOf(p.item.HelpLink);
-     }},
-    {{"helpTelephone", "Telephone"},
-     [](const Program& p) {
-         return ValueOf(p.item.HelpTelephone);
-     }},
-    {{"comments", "Comments"},
-     [](const Program& p) {
-         return ValueOf(p.item.Comments);
-     }},
-    {{"contact", "Contact"},
-     [](const Program& p) {
-         return ValueOf(p.item.Contact);
-     }},
-    {{"readme", "Readme"},
-     [](const Program& p) {
-         return ValueOf(p.item.Readme);
-     }},
-    {{"registeredCompany", "Company"},
-     [](const Program& p) {
-         return ValueOf(p.item.RegCompany);
-     }},
-    {{"registeredOwner", "Owner"},
-     [](const Program& p) {
-         return ValueOf(p.item.RegOwner);
-     }},
-    {{"localizedName", "Localized name"},
-     [](const Program& p) {
-         return ValueOf(p.item.DisplayNameLocalized);
-     }},
-    {{"icon", "Icon"},
-     [](const Program& p) {
-         return ValueOf(ProgramsFeaturesFuncs::GetApplicationIcon(p.item.DisplayIcon).first);
-     }},
-    {{"iconIndex", "Icon index", RecordKind::Number},
-     [](const Program& p) {
-         return p.item.DisplayIcon.IsEmpty()
-                    ? RecordValue()
-                    : RecordValue(std::int64_t{ProgramsFeaturesFuncs::GetApplicationIcon(p.item.DisplayIcon).second});
-     }},
-    {{"uninstallCommand", "Uninstall command"},
-     [](const Program& p) {
-         return ValueOf(p.item.UninstallString);
-     }},
+    {{"key", "Key"}, TextAt<&Program::item, &ProgramItem::FullKeyName>},
+    {{"installLocation", "Location"}, TextAt<&Program::item, &ProgramItem::InstallLocation>},
+    {{"installSource", "Source"}, TextAt<&Program::item, &ProgramItem::InstallSource>},
+    {{"aboutUrl", "About"}, TextAt<&Program::item, &ProgramItem::URLInfoAbout>},
+    {{"updateUrl", "Updates"}, TextAt<&Program::item, &ProgramItem::URLUpdateInfo>},
+    {{"helpUrl", "Help"}, TextAt<&Program::item, &ProgramItem::HelpLink>},
+    {{"helpTelephone", "Telephone"}, TextAt<&Program::item, &ProgramItem::HelpTelephone>},
+    {{"comments", "Comments"}, TextAt<&Program::item, &ProgramItem::Comments>},
+    {{"contact", "Contact"}, TextAt<&Program::item, &ProgramItem::Contact>},
+    {{"readme", "Readme"}, TextAt<&Program::item, &ProgramItem::Readme>},
+    {{"registeredCompany", "Company"}, TextAt<&Program::item, &ProgramItem::RegCompany>},
+    {{"registeredOwner", "Owner"}, TextAt<&Program::item, &ProgramItem::RegOwner>},
+    {{"localizedName", "Localized name"}, TextAt<&Program::item, &ProgramItem::DisplayNameLocalized>},
+    {{"icon", "Icon"}, ValueAt<IconOf, &Program::item, &ProgramItem::DisplayIcon>},
+    {{"iconIndex", "Icon index", RecordKind::Number}, ValueAt<IconIndexOf, &Program::item, &ProgramItem::DisplayIcon>},
+    {{"uninstallCommand", "Uninstall command"}, TextAt<&Program::item, &ProgramItem::UninstallString>},
     {{"keyWritten", "Key written", RecordKind::Date},
      [](const Program& p) {
          return DateOf(p.item.LastWriteTime, true);
      }},
-    {{"versionMajor", "Major", RecordKind::Number},
-     [](const Program& p) {
-         return NumberOf(p.item.VersionMajor);
-     }},
-    {{"versionMinor", "Minor", RecordKind::Number},
-     [](const Program& p) {
-         return NumberOf(p.item.VersionMinor);
-     }},
-    {{"language", "Language", RecordKind::Number},
-     [](const Program& p) {
-         return NumberOf(p.item.Language);
-     }},
-    {{"parentName", "Part of"},
-     [](const Program& p) {
-         return ValueOf(p.item.ParentDisplayName);
-     }},
-    {{"parentKey", "Key of the whole"},
-     [](const Program& p) {
-         return ValueOf(p.item.ParentKeyName);
-     }},
+    {{"versionMajor", "Major", RecordKind::Number}, ValueAt<NumberOf, &Program::item, &ProgramItem::VersionMajor>},
+    {{"versionMinor", "Minor", RecordKind::Number}, ValueAt<NumberOf, &Program::item, &ProgramItem::VersionMinor>},
+    {{"language", "Language", RecordKind::Number}, ValueAt<NumberOf, &Program::item, &ProgramItem::Language>},
+    {{"parentName", "Part of"}, TextAt<&Program::item, &ProgramItem::ParentDisplayName>},
+    {{"parentKey", "Key of the whole"}, TextAt<&Program::item, &ProgramItem::ParentKeyName>},
     {{"windowsInstaller", "Windows Installer", RecordKind::Flag},
-     [](const Program& p) {
-         return FlagOf(p.item.WindowsInstaller);
-     }},
+     ValueAt<FlagOf, &Program::item, &ProgramItem::WindowsInstaller>},
     {{"systemComponent", "System component", RecordKind::Flag},
-     [](const Program& p) {
-         return FlagOf(p.item.SystemComponent);
-     }},
-    {{"noModify", "Not to be changed", RecordKind::Flag},
-     [](const Program& p) {
-         return FlagOf(p.item.NoModify);
-     }},
-    {{"noRepair", "Not to be repaired", RecordKind::Flag},
-     [](const Program& p) {
-         return FlagOf(p.item.NoRepair);
-     }},
-    {{"noRemove", "Not to be removed", RecordKind::Flag},
-     [](const Program& p) {
-         return FlagOf(p.item.NoRemove);
-     }},
+     ValueAt<FlagOf, &Program::item, &ProgramItem::SystemComponent>},
+    {{"noModify", "Not to be changed", RecordKind::Flag}, ValueAt<FlagOf, &Program::item, &ProgramItem::NoModify>},
+    {{"noRepair", "Not to be repaired", RecordKind::Flag}, ValueAt<FlagOf, &Program::item, &ProgramItem::NoRepair>},
+    {{"noRemove", "Not to be removed", RecordKind::Flag}, ValueAt<FlagOf, &Program::item, &ProgramItem::NoRemove>},
     {{"noElevateOnModify", "Changed without an administrator", RecordKind::Flag},
+     ValueAt<FlagOf, &Program::item, &ProgramItem::NoElevateOnModify>},
+    {{"hidden", "Hidden", RecordKind::Flag},
      [](const Program& p) {
-         return FlagOf(p.item.NoElevateOnModify);
-     }},
-    {{"hidden", "Hidden", RecordKind::Flag}, [](const Program& p) {
          return RecordValue(p.IsHidden());
-     }}};
+     }},
+};
 
 const RecordField<Product> productFields[] = {
-    {{"name", "Name", RecordKind::Text, true},
-     [](const Product& p) {
-         return ValueOf(p.item.ProductName);
-     }},
-    {{"icon", "Icon", RecordKind::Text, true},
-     [](const Product& p) {
-         return ValueOf(ProgramsFeaturesFuncs::GetApplicationIcon(p.item.ProductIcon).first);
-     }},
-    {{"iconIndex", "Icon index", RecordKind::Number},
-     [](const Product& p) {
-         return p.item.ProductIcon.IsEmpty()
-                    ? RecordValue()
-                    : RecordValue(std::int64_t{ProgramsFeaturesFuncs::GetApplicationIcon(p.item.ProductIcon).second});
-     }},
-    {{"productKey", "Product", RecordKind::Text, true},
-     [](const Product& p) {
-         return ValueOf(p.item.ProductKey);
-     }},
-    {{"packageCode", "Package"},
-     [](const Product& p) {
-         return ValueOf(p.item.PackageCode);
-     }},
-    {{"version", "Version", RecordKind::Number},
-     [](const Product& p) {
-         return NumberOf(p.item.Version);
-     }},
-    {{"language", "Language", RecordKind::Number},
-     [](const Product& p) {
-         return NumberOf(p.item.Language);
-     }},
+    {{"name", "Name", RecordKind::Text, true}, TextAt<&Product::item, &ProductItem::ProductName>},
+    {{"icon", "Icon", RecordKind::Text, true}, ValueAt<IconOf, &Product::item, &ProductItem::ProductIcon>},
+    {{"iconIndex", "Icon index", RecordKind::Number}, ValueAt<IconIndexOf, &Product::item, &ProductItem::ProductIcon>},
+    {{"productKey", "Product", RecordKind::Text, true}, TextAt<&Product::item, &ProductItem::ProductKey>},
+    {{"packageCode", "Package"}, TextAt<&Product::item, &ProductItem::PackageCode>},
+    {{"version", "Version", RecordKind::Number}, ValueAt<NumberOf, &Product::item, &ProductItem::Version>},
+    {{"language", "Language", RecordKind::Number}, ValueAt<NumberOf, &Product::item, &ProductItem::Language>},
     {{"deploymentFlags", "Deployment flags", RecordKind::Number},
-     [](const Product& p) {
-         return NumberOf(p.item.DeploymentFlags);
-     }},
-    {{"user", "User"},
-     [](const Product& p) {
-         return ValueOf(p.user);
-     }},
-    {{"scope", "Scope"}, [](const Product& p) {
-         return ScopeOf(p.scope);
-     }}};
+     ValueAt<NumberOf, &Product::item, &ProductItem::DeploymentFlags>},
+    {{"user", "User"}, TextAt<&Product::user>},
+    {{"scope", "Scope"}, ValueAt<ScopeOf, &Product::scope>},
+};
 
-const RecordField<Browser> browserFields[] = {{{"name", "Name", RecordKind::Text, true},
-                                               [](const Browser& b) {
-                                                   return ValueOf(b.item.DisplayName);
-                                               }},
-                                              {{"type", "Type", RecordKind::Text, true},
-                                               [](const Browser& b) {
-                                                   return RecordValue(
-                                                       CString(b.IsPackaged() ? u"packaged" : u"registered"));
-                                               }},
-                                              {{"command", "Command", RecordKind::Text, true},
-                                               [](const Browser& b) {
-                                                   return ValueOf(b.item.Command);
-                                               }},
-                                              {{"program", "Program"},
-                                               [](const Browser& b) {
-                                                   return ValueOf(b.item.ExecutablePath);
-                                               }},
-                                              {{"key", "Key"}, [](const Browser& b) {
-                                                   return ValueOf(b.item.AppKey);
-                                               }}};
+const RecordField<Browser> browserFields[] = {
+    {{"name", "Name", RecordKind::Text, true}, TextAt<&Browser::item, &BrowserItem::DisplayName>},
+    {{"type", "Type", RecordKind::Text, true},
+     [](const Browser& b) {
+         return RecordValue(CString(b.IsPackaged() ? u"packaged" : u"registered"));
+     }},
+    {{"command", "Command", RecordKind::Text, true}, TextAt<&Browser::item, &BrowserItem::Command>},
+    {{"program", "Program"}, TextAt<&Browser::item, &BrowserItem::ExecutablePath>},
+    {{"key", "Key"}, TextAt<&Browser::item, &BrowserItem::AppKey>},
+};
 
 template <class Record, std::size_t Count>
 std::span<const RecordField<Record>> Fields(const RecordField<Record> (&fields)[Count])

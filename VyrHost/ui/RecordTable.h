@@ -109,6 +109,20 @@ struct RecordField
     RecordValue (*valueOf)(const Record& record);
 };
 
+/// For RecordField::valueOf: what `make` makes of the value that `members` lead to, each a member of what the one
+/// before leads to.
+template <auto make, auto... members, class Record>
+[[nodiscard]] RecordValue ValueAt(const Record& record)
+{
+    return make((record.*....*members));
+}
+/// The same for a text.
+template <auto... members, class Record>
+[[nodiscard]] RecordValue TextAt(const Record& record)
+{
+    return ValueOf((record.*....*members));
+}
+
 /// The columns of `fields`.
 template <class Record>
 [[nodiscard]] std::vector<RecordColumn> ColumnsOf(std::span<const RecordField<Record>> fields)

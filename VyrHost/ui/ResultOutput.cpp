@@ -197,8 +197,8 @@ bool IsProblem(const Model::Result& result)
 std::string MessageFor(const Model::Result& result)
 {
     const ShownName name = Shown(result.from);
-    return Text::SafeText(CString::Join({u"'", name.folder, name.name, u"' ", WordFor(result.status, result.kind),
-                                         result.reason.IsEmpty() ? u"" : u": ", result.reason}));
+    const CString fate = CString::Join({u"'", name.folder, name.name, u"' ", WordFor(result.status, result.kind)});
+    return Text::SafeText(Model::ReasonAndCause(fate, result.reason));
 }
 
 std::string SummaryOf(const Model::Tally& tally)

@@ -137,8 +137,8 @@ BatchSummary BatchScene::Undo(std::optional<std::uint32_t> number, const StopReq
                                          [](const BatchInformation& batch) { return CanBeUndone(batch.state); });
         number = latest == known.end() ? 0 : latest->number;
     }
-    BatchSummary summary = batches.Undo(
-        *number, [this](const BatchEntry& entry) { entries.push_back(entry); }, isStopAsked);
+    BatchSummary summary = batches.Reverse(
+        *number, Direction::Backward, [this](const BatchEntry& entry) { entries.push_back(entry); }, isStopAsked);
     EXPECT_EQ(summary.done + summary.failed + summary.refused + summary.notReached, entries.size());
     EXPECT_TRUE(summary.missing.empty());
     return summary;
@@ -147,7 +147,8 @@ BatchSummary BatchScene::Undo(std::optional<std::uint32_t> number, const StopReq
 BatchSummary BatchScene::Redo(std::uint32_t number)
 {
     entries.clear();
-    BatchSummary summary = batches.Redo(number, [this](const BatchEntry& entry) { entries.push_back(entry); }, {});
+    BatchSummary summary =
+        batches.Reverse(number, Direction::Forward, [this](const BatchEntry& entry) { entries.push_back(entry); }, {});
     EXPECT_EQ(summary.done + summary.failed + summary.refused + summary.notReached, entries.size());
     return summary;
 }

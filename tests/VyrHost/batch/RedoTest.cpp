@@ -133,8 +133,8 @@ TEST(UndoPreview, TellsWhatWouldBeDoneAndChangesNothing)
     const FolderSnapshot now = scene.Now();
     const std::size_t changes = files.Changes();
     std::vector<BatchEntry> entries;
-    const BatchSummary summary =
-        scene.batches.PreviewUndo(1, [&entries](const BatchEntry& entry) { entries.push_back(entry); });
+    const BatchSummary summary = scene.batches.PreviewReverse(
+        1, Direction::Backward, [&entries](const BatchEntry& entry) { entries.push_back(entry); });
     EXPECT_EQ(summary.error, u"");
     EXPECT_EQ(summary.number, 1u);
     EXPECT_EQ(summary.done, 1u);
@@ -154,9 +154,9 @@ TEST(UndoPreview, KnowsThatEntriesOfTheBatchMakeRoomForEachOther)
     scene.Write(u"b");
     scene.Rename(u"a", u"b").Rename(u"b", u"a");
     scene.Apply();
-    EXPECT_EQ(scene.batches.PreviewUndo(1, [](const BatchEntry&) {}).done, 2u);
+    EXPECT_EQ(scene.batches.PreviewReverse(1, Direction::Backward, [](const BatchEntry&) {}).done, 2u);
     scene.Undo();
-    EXPECT_EQ(scene.batches.PreviewRedo(2, [](const BatchEntry&) {}).done, 2u);
+    EXPECT_EQ(scene.batches.PreviewReverse(2, Direction::Forward, [](const BatchEntry&) {}).done, 2u);
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"a", "a"}, {"b", "b"}}));
 }
 

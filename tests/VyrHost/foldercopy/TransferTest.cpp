@@ -238,7 +238,7 @@ TEST_F(FolderTransfer, DifferencesAreReportedAndNotChanged)
     const TransferProblems problems = Finish(TransferAction::Copy);
     ASSERT_EQ(problems.size(), 3u);
     for (const TransferProblem& problem : problems)
-        EXPECT_EQ(problem.fault, problem.path.GetLength() == 1 ? TransferFault::Differs : TransferFault::noFolder);
+        EXPECT_EQ(problem.fault, problem.path.GetLength() == 1 ? TransferFault::Differs : TransferFault::NoFolder);
     EXPECT_EQ(To(), (TreeSnapshot{{"a", "cut off"}, {"b", "no folder"}, {"c", "3"}}));
 }
 

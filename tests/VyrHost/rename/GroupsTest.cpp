@@ -62,15 +62,14 @@ TEST_F(KeepingTogether, SidecarsBelongToTheFileWhoseWholeNameTheyHave)
         m_folder.WriteFile(name);
     const CollectedEntries collected = CollectNamed(names);
     // x.png does not exist, so x.png.xmp is a file of its own.
-    EXPECT_EQ(MembersOf(Groups::ByStem(collected.list)), (Members{{0, 1, 2, 3, 4}, {5}, {6}}));
-    const auto mainOf = [&](std::size_t entry) {
-        return MainFileOf(collected.list, collected.list.entries[entry]);
-    };
-    EXPECT_EQ(mainOf(0), 1u);
-    EXPECT_EQ(mainOf(3), 2u);
-    EXPECT_EQ(mainOf(4), 3u);
-    for (const std::size_t entry : {1u, 2u, 5u, 6u})
-        EXPECT_EQ(mainOf(entry), noEntry) << entry;
+    const Groups groups = Groups::ByStem(collected.list);
+    EXPECT_EQ(MembersOf(groups), (Members{{0, 1, 2, 3, 4}, {5}, {6}}));
+    EXPECT_EQ(groups.MainFileOf(0), 1u);
+    EXPECT_EQ(groups.MainFileOf(3), 2u);
+    EXPECT_EQ(groups.MainFileOf(4), 3u);
+    for (const std::uint32_t entry : {1u, 2u, 5u, 6u})
+        EXPECT_EQ(groups.MainFileOf(entry), noEntry) << entry;
+    EXPECT_EQ(Groups::OfOne(collected.list).MainFileOf(0), noEntry);
 }
 
 TEST_F(KeepingTogether, MissingEntriesAreInNoGroup)

@@ -196,7 +196,8 @@ TEST_F(RandomChanges, TreeIsAsBeforeOnceAllAreUndone)
             numbers.push_back(summary.number);
         }
         while (!numbers.empty()) {
-            const Batch::BatchSummary undone = batches.Undo(numbers.back(), IgnoreEntry, Never);
+            const Batch::BatchSummary undone =
+                batches.Reverse(numbers.back(), Batch::Direction::Backward, IgnoreEntry, Never);
             ASSERT_EQ(undone.error, u"");
             EXPECT_EQ(undone.refused + undone.failed, 0U);
             ASSERT_EQ(Now(), before.back()) << "round " << round << ", batch " << numbers.back();
@@ -222,14 +223,14 @@ TEST_F(RandomChanges, CutOffAtEachWriteOfTheJournalTheyAreRecovered)
         const bool isCutOff = IsCutOff([&] { batches.Apply([&made] { return std::move(made); }, Ignore, Never); });
         LetWork(files);
         if (!isCutOff) {
-            batches.Undo(batches.List().front().number, IgnoreEntry, Never);
+            batches.Reverse(batches.List().front().number, Batch::Direction::Backward, IgnoreEntry, Never);
             continue;
         }
         ++cutOff;
         if (batches.FindCutOff()) {
             EXPECT_EQ(batches.Recover(Batch::Recovery::Undo, IgnoreEntry, Never).error, u"");
         } else if (const auto known = batches.List(); !known.empty() && Batch::CanBeUndone(known.front().state)) {
-            EXPECT_EQ(batches.Undo(known.front().number, IgnoreEntry, Never).error, u"");
+            EXPECT_EQ(batches.Reverse(known.front().number, Batch::Direction::Backward, IgnoreEntry, Never).error, u"");
         }
         ASSERT_EQ(Now(), tree) << "round " << round;
     }

@@ -1,0 +1,43 @@
+/// @file
+/// What the commands that change files in place have in common: "vyr times", "vyr attributes", "vyr unblock".
+#pragma once
+
+#include <VyrHost/cli/BatchRun.h>
+#include <VyrHost/cli/Commands.h>
+#include <VyrHost/cli/SourceOptions.h>
+#include <VyrHost/metadata/Changes.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace VyrHost::Cli {
+
+/// Changes files by a rule, or shows what it would change; without a rule shows what there is to change.
+class ChangeCommand : public Command
+{
+public:
+    [[nodiscard]] int Run() const override;
+
+protected:
+    /// @param verb     what the command does to the files, such as "change".
+    /// @param kind     of its changes.
+    /// @param columns  of FileFields, separated by commas, which are shown where no change is asked for.
+    ChangeCommand(CLI::App& command, const std::string& verb, std::string_view kind, std::u16string_view columns = {});
+
+    /// The rule that the options ask for; null where they ask for no change.
+    /// @throws UsageError
+    [[nodiscard]] virtual std::unique_ptr<const Metadata::ChangeRule> ReadRule() const = 0;
+
+private:
+    [[nodiscard]] int Change(const Metadata::ChangeRule& rule, const ReportStyle& style) const;
+    [[nodiscard]] int ShowFiles(const ReportStyle& style) const;
+
+    SourceOptions m_sources;
+    OrderOptions m_order;
+    RunOptions m_run;
+    std::string_view m_kind;
+    std::u16string_view m_columns;
+};
+
+} // namespace VyrHost::Cli
