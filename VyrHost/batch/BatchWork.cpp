@@ -15,7 +15,7 @@ namespace {
 using VyrPlatform::FileState;
 using VyrPlatform::FileSystem::Kind;
 
-/// Whether a file is found where a folder was listed, or a folder where a file was.
+/// Whether a file now stands where a folder was listed, or a folder where a file was.
 bool IsOtherKind(Kind listed, Kind found)
 {
     return (listed == Kind::File && found == Kind::Folder) || (listed == Kind::Folder && found == Kind::File);
@@ -77,14 +77,14 @@ void BatchWork::LeaveOut(Model::PlanIndex entry, const Model::Outcome& result)
     m_executor.SetResult(entry, result);
 }
 
-/// What was not renamed did not get its new path, nor did anything in it.
+/// Neither an entry that was not renamed nor anything inside it got its new path.
 void BatchWork::Keep(Model::PlanIndex entry)
 {
     m_executor.LeaveAlone(entry);
     m_after.Set(entry, Location::Before);
 }
 
-/// To find the batches again their journals have to stay where they are, and the lock has to keep others away.
+/// Journals must stay where they are, or their batches are not found again; the lock must keep others away.
 void BatchWork::KeepJournalInPlace()
 {
     const std::vector<Model::PlanEntry>& entries = m_journal.plan.entries;
@@ -118,7 +118,7 @@ bool BatchWork::Locate(const JournalFile& file, Direction direction, bool isPrev
 {
     m_file = file;
     const bool isRedo = IsEnded(file.phase) && direction == Direction::Forward;
-    // What the batch did not do when it was applied is not redone.
+    // A redo leaves out what the batch did not do when it was applied.
     if (isRedo && !m_journal.applied)
         m_journal.applied.emplace();
     if (isRedo)
@@ -149,7 +149,7 @@ bool BatchWork::Locate(const JournalFile& file, Direction direction, bool isPrev
 
 bool BatchWork::BeginUndo()
 {
-    // An undo that goes on with the last one has its number.
+    // An undo that continues the last one keeps its number.
     const bool goesOn = m_journal.checkpoint && m_journal.checkpoint->isBackward;
     if (m_file.undo == 0 || !goesOn)
         m_file.undo = m_folder.NextNumber();
@@ -179,7 +179,7 @@ void BatchWork::Run(Direction direction, const Report& report, const StopRequest
         const auto reportChange = [&](std::size_t index, const Model::Outcome& result) {
             counted(m_journal.plan.entries.size() + index, result);
         };
-        // Once a stop was asked for, it is not asked again.
+        // Once the user has asked to stop, the question is not repeated.
         isWhole &= m_changes.Run(direction, reportChange, [&] { return !isWhole || isAsked(); });
     };
     if (direction == Direction::Forward)
@@ -207,7 +207,7 @@ void BatchWork::Foresee(Direction direction, const Report& report)
     const Report counted = CountAnd(report);
     const std::vector<Model::PlanEntry>& entries = m_journal.plan.entries;
     const bool isForward = direction == Direction::Forward;
-    // For each entry the one whose place it gets.
+    // For each entry the one whose place it takes.
     std::vector<Model::PlanIndex> inPlace(entries.size(), Model::none);
     for (Model::PlanIndex entry = 0; entry < entries.size(); ++entry)
         if (const Model::PlanIndex before = entries[entry].waitsFor; before != Model::none)
@@ -219,7 +219,7 @@ void BatchWork::Foresee(Direction direction, const Report& report)
             counted(entries.size() + index, m_changes.Foresee(index, direction));
 }
 
-/// Refuses what is not found, and what finds its place taken by something that is no part of the batch.
+/// Refuses entries that are not found, and those whose place something outside the batch has taken.
 Model::Outcome BatchWork::ForeseeEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace)
 {
     const Model::Place place = m_progress.PlaceOf(entry, goal);

@@ -1,4 +1,4 @@
-// Goes through the changes of a batch, one file after the other.
+// Works on the changes of a batch, one file after the other.
 #include <VyrHost/batch/BatchWork.h>
 
 #include <VyrHost/model/SlotTable.h>

@@ -1,4 +1,4 @@
-// Brings planner, journal and executor together.
+// Connects planner, journal and executor.
 #include <VyrHost/batch/Batches.h>
 
 #include <VyrHost/batch/BatchWork.h>
@@ -25,7 +25,7 @@ namespace {
 using VyrLibraryUtils::FileUtils;
 using VyrPlatform::FileState;
 
-/// What is said of a batch that cannot be recovered.
+/// The advice for a batch that cannot be recovered.
 constexpr const char16_t* wayOut = u"; \"vyr recover --abandon\" goes on without the batch";
 
 CString FindJournalFolder()
@@ -76,7 +76,7 @@ bool IsRedone(const JournalFile& file, const Journal& journal)
     return file.phase == BatchPhase::Applied && journal.checkpoint && !journal.checkpoint->isBackward;
 }
 
-/// Why nothing of `file` is found.
+/// Why none of the files of the batch in `file` is found.
 CString DescribeAbsence(const JournalFile& file, Direction direction)
 {
     if (direction == Direction::Forward)
@@ -105,7 +105,7 @@ CString WithoutSeparator(std::u16string_view path)
     return isRoot ? path : path.substr(0, path.size() - 1);
 }
 
-/// What the folders `left` and `right`, each with a separator at its end, lie in.
+/// The folder that contains both `left` and `right`, each with a separator at its end.
 std::u16string_view CommonPart(std::u16string_view left, std::u16string_view right)
 {
     const auto [end, other] = std::mismatch(left.begin(), left.end(), right.begin(), right.end());

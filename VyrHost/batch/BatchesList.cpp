@@ -1,4 +1,4 @@
-// Tells what the journal knows of batches, and what became of them.
+// Reads from the journals what became of the batches.
 #include <VyrHost/batch/Batches.h>
 
 #include <VyrHost/model/FolderSet.h>
@@ -29,7 +29,7 @@ BatchState StateOf(BatchPhase phase)
     return BatchState::Applied;
 }
 
-/// What the journal's last checkpoint tells. It may be of the work before, where that of the last one is missing.
+/// Takes over the journal's last checkpoint. It may be of earlier work, where that of the last work is missing.
 void AddProgress(BatchInformation& information, const std::optional<CheckpointOutline>& checkpoint)
 {
     if (!checkpoint)
@@ -135,7 +135,7 @@ std::optional<BatchInformation> Batches::FindCutOff() const
     const JournalFolder folder = OpenJournals();
     if (!folder.FindOpen() || folder.IsLockedByAnother())
         return {};
-    // Its program may just have ended it.
+    // Its program may just have finished it.
     const std::optional<JournalFile> file = folder.FindOpen();
     return file ? Describe(folder, *file) : std::optional<BatchInformation>();
 }

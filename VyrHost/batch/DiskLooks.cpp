@@ -62,7 +62,7 @@ public:
     }
 
 private:
-    /// Every entry that can stand under another name than the one that it was given.
+    /// Every entry that the file system may have given another name than asked for.
     template <class Use>
     void ForEachEntry(Use use)
     {

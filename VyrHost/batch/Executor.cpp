@@ -1,4 +1,4 @@
-// Goes through the steps of a plan, group by group.
+// Performs the steps of a plan, group by group.
 #include <VyrHost/batch/Executor.h>
 
 #include <VyrHost/model/Prefetch.h>
@@ -69,7 +69,7 @@ bool Executor::Run(Direction direction, const Report& report, const StopRequest&
     return !isStopped;
 }
 
-/// The call of the system for a rename takes so long that what the next ones need can come from memory meanwhile.
+/// The system call for a rename takes so long that the data of the next ones can be fetched from memory meanwhile.
 void Executor::ExpectAfter(std::size_t index, Direction direction) const
 {
     if (index + 2 >= m_groups.size())
@@ -143,7 +143,7 @@ void Executor::ReportGroup(const Group& group, Direction direction, const Report
     });
 }
 
-/// Where a step finds its entry, and where it puts it.
+/// Where a step finds its entry, and where it moves it.
 std::pair<Location, Location> Executor::EndsOf(const Model::PlanStep& step, Direction direction) const
 {
     const Location middle = m_hasTemporaryName[step.subject] ? Location::Temporary : Location::Before;
@@ -208,7 +208,7 @@ Executor::StepResult Executor::Move(Model::PlanIndex entry, Location source, Loc
     const std::uint32_t error = fromFolder.folder->Rename(from.name, *toFolder.folder, to.name);
     if (error)
         return Fail(entry, error, target);
-    // What is open below it is forgotten while its old place is still known.
+    // Closes the open folders below it while its old place is still known.
     if (m_plan.entries[entry].folder != Model::none)
         m_folders.Forget(m_plan.entries[entry].folder);
     m_progress.Set(entry, target);
@@ -248,14 +248,14 @@ Executor::StepResult Executor::RemoveFolder(Model::PlanIndex folder, const Opene
                                             std::u16string_view name)
 {
     m_folders.Forget(folder);
-    // One that holds something that the batch did not put there stays.
+    // A folder with something in it that the batch did not put there stays.
     if (parent.folder->RemoveEmptyFolder(name) != 0)
         return StepResult::Skipped;
     m_progress.SetFolder(folder, NewFolder::Absent);
     return StepResult::Done;
 }
 
-/// Where none of the renames into a new folder could be done, it goes again.
+/// Removes new folders into which no rename could be done.
 void Executor::RemoveFoldersWithoutUse()
 {
     std::vector<bool> isUsed(m_plan.folders.size());

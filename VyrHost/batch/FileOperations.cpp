@@ -1,4 +1,4 @@
-// The file operations, done by the platform.
+// The file operations of the system, and the cache of open folders.
 #include <VyrHost/batch/FileOperations.h>
 
 #include <VyrHostPlatform/DurableFile.h>

@@ -1,4 +1,4 @@
-// Journal files: their names, their order, their ends.
+// Journal files: their names, their order, their removal.
 #include <VyrHost/batch/JournalFolder.h>
 
 #include <VyrHost/model/FolderSet.h>
@@ -27,12 +27,12 @@ constexpr std::array<std::pair<BatchPhase, const char16_t*>, 4> endings{{{BatchP
                                                                          {BatchPhase::Applied, u".applied"},
                                                                          {BatchPhase::Undoing, u".taking-back"},
                                                                          {BatchPhase::Undone, u".taken-back"}}};
-/// Of a journal that is not whole yet: its batch has not begun.
+/// The ending of a journal that is not yet complete: its batch has not begun.
 constexpr const char16_t* newEnding = u".new";
 constexpr const char16_t* abandonedEnding = u".abandoned";
 constexpr const char16_t* lockName = u"lock";
 constexpr int digits = 6;
-/// How much of a journal is read at first for its heading and for its checkpoints: more than most of them take.
+/// How much of a journal is read at first for its heading, and for its checkpoints: more than most of them need.
 constexpr std::uint64_t firstPart = 4096;
 constexpr std::uint64_t partGrowth = 4;
 
@@ -80,7 +80,7 @@ std::uint32_t UndoOf(std::u16string_view name)
     return hyphen == name.npos ? 0 : ParseNumber(name.substr(hyphen + 1));
 }
 
-/// The journal with this name; nothing when it is no journal's.
+/// The journal with this name; nothing when a journal has no such name.
 std::optional<JournalFile> FileOf(std::u16string_view name, const CString& path)
 {
     const std::uint32_t number = NumberOf(name);
@@ -229,7 +229,7 @@ std::uint32_t JournalFolder::Begin(Journal& journal, JournalFile& file)
         journal.check = WriteJournal(journal, take);
     };
     std::uint32_t error = m_files.WriteNew(newPath, content);
-    // A program that ended while it wrote its journal leaves a part of it.
+    // A program that was killed while it wrote its journal leaves an incomplete one.
     if (error && m_files.Remove(newPath) == 0)
         error = m_files.WriteNew(newPath, content);
     if (error)

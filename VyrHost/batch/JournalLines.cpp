@@ -12,7 +12,7 @@ namespace VyrHost::Batch {
 
 namespace {
 
-/// Whether `text` starts with a unit that cannot stand for itself.
+/// Whether `text` starts with a unit that is written as an escape.
 bool StartsWithSpecial(std::u16string_view text) noexcept
 {
     const char16_t unit = text.front();
@@ -74,7 +74,7 @@ std::optional<CString> ReadJournalName(std::string_view text)
 
 std::uint32_t Checksum(std::uint32_t before, std::string_view bytes) noexcept
 {
-    // For a null pointer zlib would start anew.
+    // Given a null pointer, zlib would start over.
     if (bytes.empty())
         return before;
     return static_cast<std::uint32_t>(

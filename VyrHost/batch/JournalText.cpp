@@ -20,7 +20,7 @@ constexpr std::string_view format = "vyr-journal";
 constexpr std::uint32_t version = 3;
 constexpr std::uint32_t versionWithoutKinds = 2;
 constexpr std::string_view renameKind = "rename";
-/// Fields, in a line of steps.
+/// How many fields a line of steps has at most.
 constexpr std::size_t stepsInLine = 1000;
 constexpr std::array<std::pair<bool, char>, 2> directions{{{false, 'f'}, {true, 'b'}}};
 constexpr std::array<std::pair<bool, char>, 2> ends{{{false, 'e'}, {true, 's'}}};
@@ -57,7 +57,7 @@ void WriteChange(LineWriter& writer, const PlannedChange& planned)
     writer.Name(planned.change->Before()).Name(planned.change->After()).End();
 }
 
-/// Steps of one kind whose subjects follow each other stand together.
+/// Steps of one kind with consecutive subjects are written as a range.
 void WriteSteps(LineWriter& writer, const std::vector<Model::PlanStep>& steps)
 {
     std::size_t written = 0;
@@ -180,7 +180,7 @@ void LinkFolders(LineReader& reader, Model::RenamePlan& plan)
 
 void ReadPlan(LineReader& reader, const Counts& counts, const Model::ChangeKinds& kinds, Journal& journal)
 {
-    // The counts may be anything: room is made as lines come.
+    // The counts may be anything, so memory is taken only as lines are read.
     Model::NamePool& texts = *journal.plan.texts;
     while (journal.plan.folders.size() < counts.folders)
         journal.plan.folders.push_back(ReadFolder(reader, texts));
@@ -188,7 +188,7 @@ void ReadPlan(LineReader& reader, const Counts& counts, const Model::ChangeKinds
         journal.plan.entries.push_back(ReadEntry(reader, counts.hasKinds, texts, journal.states.emplace_back()));
     while (journal.changes.size() < counts.changes)
         journal.changes.push_back(ReadChange(reader, journal.plan, kinds));
-    // No entry has more steps than two, no folder more than one.
+    // An entry has two steps at most, a folder one.
     if (counts.steps > 2 * counts.entries + counts.folders)
         reader.Fail(u"there are too many steps");
     while (journal.plan.steps.size() < counts.steps) {
@@ -201,7 +201,7 @@ void ReadPlan(LineReader& reader, const Counts& counts, const Model::ChangeKinds
     LinkFolders(reader, journal.plan);
 }
 
-/// The last whole checkpoints. Those before them are not read: each could name all entries.
+/// The last complete checkpoints. Earlier ones are not read, since each could name all entries.
 struct LastCheckpoints
 {
     std::optional<LineReader> last;

@@ -1,4 +1,4 @@
-// Compares what stands at the places of a batch with what its journal says.
+// Compares what stands at the places of a batch with its journal.
 #include <VyrHost/batch/Locator.h>
 
 namespace VyrHost::Batch {
@@ -42,7 +42,7 @@ void Locator::TrustCheckpoint()
 
 void Locator::Locate(LastWork lastWork)
 {
-    // Folders first, from the outside in, since the rest is looked for in them.
+    // Folders first, from the outside in, since the rest is searched in them.
     for (const Model::PlanIndex folder : Model::OrderFolders(m_journal.plan)) {
         const Model::PlanFolder& planned = m_journal.plan.folders[folder];
         if (planned.isNew)
@@ -92,7 +92,7 @@ bool Locator::IsHalfRenamed(Model::PlanIndex entry, const Sight& kept, const Sig
            left.state.kind != Kind::Folder && m_journal.states[entry].links == 1 && left.state.links > 1;
 }
 
-/// The old and the new name are one to the file system: what it lists tells which of them it is.
+/// The file system takes the old and the new name for one: the listing tells which of them it has.
 void Locator::LocateByName(Model::PlanIndex entry)
 {
     const Model::PlanEntry& planned = m_journal.plan.entries[entry];
@@ -127,7 +127,7 @@ Locator::Likeness Locator::Compare(Model::PlanIndex entry, const FileState& stat
     return hasSameNumber ? Likeness::Number : Likeness::Kind;
 }
 
-/// The likelier of the two; where both are equally likely, the new path, if that may be.
+/// The likelier of the two; where both are equally likely, the new path, where that is possible.
 Locator::Sight Locator::Choose(const Sight& before, const Sight& after, LastWork lastWork)
 {
     if (before.likeness > after.likeness)

@@ -177,7 +177,7 @@ std::string_view NearestWord(std::string_view typed, std::span<const std::string
     // A third of the letters may be wrong; what begins a word is as near as one wrong letter.
     std::size_t least = std::max<std::size_t>(typed.size() / 3, 1) + 1;
     for (const std::string& word : words) {
-        // Far too long a text is not compared: it may have any length.
+        // A text may have any length; one that is far too long is not compared.
         if (typed.size() > 2 * word.size())
             continue;
         const bool begins = typed.size() > 1 && word.starts_with(typed);

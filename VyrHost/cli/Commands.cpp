@@ -1,4 +1,4 @@
-// Names the commands.
+// Lists the commands.
 #include <VyrHost/cli/Commands.h>
 
 #include <CLI/CLI.hpp>

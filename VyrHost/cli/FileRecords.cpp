@@ -30,7 +30,7 @@ RecordValue SizeOf(const std::optional<std::int64_t>& size)
     return size ? RecordValue(*size) : RecordValue();
 }
 
-/// With the offset from UTC, where the count of days runs evenly.
+/// With the offset from UTC, except around and before the epoch, where the count of days is not linear.
 RecordValue DateOf(const std::optional<FileTicks>& ticks)
 {
     constexpr double ticksPerDay = 864e9;
@@ -71,7 +71,7 @@ RecordValue FlagOf(bool flag)
     return flag;
 }
 
-/// What `make` makes of what a file tells.
+/// What `make` makes of the answer of a file.
 template <auto make, auto ask>
 RecordValue Told(const ListedFile& file)
 {

@@ -1,4 +1,4 @@
-// Words messages for the error stream.
+// Writes messages to the error stream.
 #include <VyrHost/cli/Messages.h>
 
 #include <VyrHost/text/Errors.h>

@@ -1,4 +1,4 @@
-// Declares options that hold a text or nothing.
+// Declares and checks options.
 #include <VyrHost/cli/Options.h>
 
 #include <VyrHost/text/Errors.h>

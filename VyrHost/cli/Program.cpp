@@ -87,7 +87,7 @@ int RunProgram(const std::vector<CString>& arguments)
         text.Format(u"the system's reader of documents failed (0x%08x)", static_cast<std::uint32_t>(error.Error()));
         return Fail(Text::SafeText(text));
     } catch (const std::out_of_range& error) {
-        // What the calendar's dates throw.
+        // Thrown by the calendar's dates.
         return Fail(std::string("a date is outside the calendar: ") + error.what());
     }
 }

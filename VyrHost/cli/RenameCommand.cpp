@@ -73,7 +73,7 @@ public:
 
     /// @throws UsageError
     [[nodiscard]] Rename::ConflictSettings Read() const;
-    /// Whether it is said how a name that is taken is numbered.
+    /// Whether an option says how a name that is taken is numbered.
     [[nodiscard]] bool AskForNumbering() const;
 
 private:

@@ -1,4 +1,4 @@
-// Carries out a call of "vyr rename": gathers, names, shows, and applies.
+// Carries out a call of "vyr rename": collects, names, shows, and applies.
 #include <VyrHost/cli/RenameRun.h>
 
 #include <VyrHost/cli/BatchRun.h>
@@ -33,7 +33,7 @@ namespace {
 
 namespace Console = VyrHostPlatform::Console;
 
-/// Shows the mistake; false where nobody is there to mend it, or does not want to.
+/// Shows the mistake; false where no user can correct it, or the user stops.
 bool IsToBeMended(const std::string& mistake)
 {
     if (!Console::IsInputTerminal())

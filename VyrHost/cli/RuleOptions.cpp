@@ -95,7 +95,7 @@ struct SettingOption
     const char* help;
     /// The rule that it belongs to.
     const char* rule;
-    /// False when the rule has it already.
+    /// @return false when the rule has the setting already.
     bool (*set)(Given& given, const CString& value);
 };
 

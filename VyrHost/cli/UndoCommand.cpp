@@ -27,7 +27,7 @@ namespace VyrHost::Cli {
 
 namespace {
 
-/// How many batches elsewhere are named.
+/// How many batches of other folders are named.
 constexpr std::size_t mostNamed = 5;
 
 /// Undoes or redoes a batch, or shows what that would do.
@@ -72,7 +72,7 @@ private:
     std::unique_ptr<BatchReport> m_report;
 };
 
-/// Says why a batch was passed over, and what can be done about it.
+/// Says why a batch was passed over, and how it can still be undone.
 void NamePassedOver(const Batch::BatchInformation& batch, const Batch::BatchSummary& summary)
 {
     const std::string number = std::to_string(batch.number);

@@ -92,7 +92,7 @@ void FolderSet::List(Folder& folder)
     if (folder.exists)
         folder.names.SetFolding(VyrHostPlatform::GetNameFolding(folder.path));
     folder.names.Reserve(listed.size());
-    // Whoever goes through them in this order finds the texts side by side.
+    // In this order the texts stand side by side in memory.
     SortNaturally(listed);
     for (std::size_t index = 0; index < listed.size(); ++index) {
         if (index + prefetchDistance < listed.size())

@@ -75,7 +75,7 @@ NameRecord& NameTable::Add(InternedName name)
 
 void NameTable::Expect(std::u16string_view name) const
 {
-    // To fold a name twice would cost more than is won.
+    // Folding a name twice would cost more than it saves.
     if (m_folding == NameFolding::None && !m_slots.empty())
         Prefetch(&m_slots[HashOf(name) & (m_slots.size() - 1)]);
 }

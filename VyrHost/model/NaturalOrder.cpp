@@ -82,7 +82,7 @@ class KeyBuilder
 public:
     [[nodiscard]] static std::uint64_t KeyOf(std::u16string_view text)
     {
-        // A shift by all the bits of a number has no meaning.
+        // A shift by all the bits of a number is undefined.
         if (text.empty())
             return 0;
         KeyBuilder key;
@@ -102,7 +102,7 @@ private:
             Push(Folded(unit));
             text.remove_prefix(1);
         } else {
-            // Beyond ASCII there is no order in a byte.
+            // Beyond ASCII a byte does not tell the order.
             Push(0xFF);
             text = {};
         }

@@ -1,4 +1,4 @@
-// What can be said of a plan from its folders alone.
+// Adds folders to plans, and checks plans that come from elsewhere.
 #include <VyrHost/model/RenamePlan.h>
 
 #include <VyrLibraryUtils/FileUtils.h>

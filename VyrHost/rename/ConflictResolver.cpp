@@ -1,4 +1,4 @@
-// Gives names out in the order of the list, and withdraws one when an entry has to stay.
+// Gives names in the order of the list, and withdraws one when an entry has to keep its own.
 #include <VyrHost/rename/ConflictResolver.h>
 
 #include <VyrHost/model/Prefetch.h>
@@ -43,7 +43,7 @@ public:
     }
 
 private:
-    /// Whether the entry takes part in what its group decides: it has a name that it wants.
+    /// Whether the entry wants a name, and so takes part in the decision of its group.
     [[nodiscard]] bool TakesPart(std::uint32_t entry) const
     {
         return m_decisions[entry].IsRename() || m_decisions[entry].status == Model::Status::Unchanged;
@@ -73,7 +73,7 @@ private:
     }
 
     /// Gives the members of a group their names, or decides that they stay.
-    /// @param isAgain  they may hold names already.
+    /// @param isAgain  the members may hold names already.
     void Settle(std::uint32_t group, bool isAgain)
     {
         m_members.clear();
@@ -173,7 +173,7 @@ private:
         decision.status = decision.folder == own.folder && name == own.name ? Model::Status::Unchanged : status;
     }
 
-    /// The members keep the names that they have, whoever was to get those.
+    /// The members keep their names; who was to get those is decided anew.
     void Stay(Model::Status status, Reason reason)
     {
         for (const std::uint32_t entry : m_members) {
@@ -207,7 +207,7 @@ private:
             m_pending.push_back(std::exchange(held->second, group));
     }
 
-    /// Lets go of what the entry holds.
+    /// Releases the name and the stem that the entry holds.
     void Release(std::uint32_t entry)
     {
         Model::NameRecord* const record = Names(entry).Find(m_decisions[entry].name);
@@ -221,7 +221,7 @@ private:
             m_stems.erase(held);
     }
 
-    /// What was wanted before any number.
+    /// The name that the entry wanted before it was numbered.
     [[nodiscard]] Model::InternedName WantedName(std::uint32_t entry) const
     {
         const auto found = m_wanted.find(entry);
@@ -235,14 +235,14 @@ private:
         if (main != Model::noEntry && wanted.View().starts_with(WantedName(main).View()))
             return NumberedNameOf(main).OfSidecar(wanted.View().substr(WantedName(main).View().size()));
         const Model::NameRecord* const record = Names(entry).Find(wanted);
-        // As the engine splits: by what stands there, where something does.
+        // Split as the engine does: by the kind of what stands there, if anything does.
         const bool isThere = record && record->kind != Kind::Missing;
         const Kind kind = isThere ? record->kind : m_list.entries[entry].kind;
         const CString& folder = m_list.folders[m_decisions[entry].folder].path;
         return {CString::Join({folder, wanted}), kind == Kind::Folder};
     }
 
-    /// Where the last entry that wanted the same name, or the same stem, left off.
+    /// The next attempt for entries that want the same name, or the same stem.
     std::uint64_t& AttemptOf(std::uint32_t entry)
     {
         return HasStem(entry) ? m_stemAttempts[StemOf(entry, m_decisions[entry].folder, WantedName(entry))]
@@ -299,11 +299,11 @@ private:
     std::vector<Decision>& m_decisions;
     const ConflictSettings& m_settings;
     const bool m_mayNumber;
-    /// Groups to settle.
+    /// Groups to decide.
     std::vector<std::uint32_t> m_pending;
     /// The members that take part of the group in hand.
     std::vector<std::uint32_t> m_members;
-    /// What the entries wanted that got a numbered name.
+    /// The names that entries with a numbered name wanted.
     std::unordered_map<std::uint32_t, Model::InternedName> m_wanted;
     /// The next attempt at a number, by the wanted name's record.
     std::unordered_map<const Model::NameRecord*, std::uint64_t> m_attempts;

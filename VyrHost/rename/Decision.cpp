@@ -1,4 +1,4 @@
-// Words what is decided about entries.
+// The words for decisions, and the results made of them.
 #include <VyrHost/rename/Decision.h>
 
 #include <VyrHost/model/DateSource.h>

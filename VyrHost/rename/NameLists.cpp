@@ -1,4 +1,4 @@
-// Reads tables of two columns.
+// Reads tables of two columns, and writes and reads the text that is edited.
 #include <VyrHost/rename/NameLists.h>
 
 #include <VyrHost/text/Errors.h>
@@ -24,7 +24,7 @@ public:
         m_separator = SeparatorOf(m_rest);
     }
 
-    /// The fields of the next line that has any; none at the end.
+    /// The fields of the next line that is not empty; none at the end.
     std::vector<std::string> NextLine()
     {
         SkipEmptyLines();
@@ -152,7 +152,7 @@ private:
     std::string_view m_rest;
     char m_separator = ',';
     std::size_t m_line = 1;
-    /// The line that the fields in hand began in.
+    /// The line in which the current fields begin.
     std::size_t m_firstLine = 1;
 };
 
@@ -196,7 +196,7 @@ constexpr std::string_view explanation =
     "# The entry of a line that is taken out keeps its name. Save nothing to change nothing.\n"
     "# In a name \\\\ is a backslash, \\n a line end, \\t a tab.\n";
 
-/// Takes the escape that `text` begins with; 0 when it is none of those that EscapeName writes.
+/// Takes the escape that `text` begins with; 0 when EscapeName does not write such an escape.
 char16_t TakeEscape(std::string_view& text)
 {
     if (text.starts_with("\\\\") || text.starts_with("\\n") || text.starts_with("\\t")) {

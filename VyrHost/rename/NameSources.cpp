@@ -1,4 +1,4 @@
-// Runs the rules over one group of entries after the other.
+// Names one group of entries after the other, by rules or as given.
 #include <VyrHost/rename/NameSources.h>
 
 #include <VyrHost/model/FolderSet.h>
@@ -57,7 +57,7 @@ void RuleNames::NameTogether(const Model::EntryList& list, const Groups& groups,
             made = m_subject;
         }
     }
-    // The picture that cannot be read might have told a better date.
+    // The picture that cannot be read might have a better date.
     const bool isUncertain = leader && rankNotRead && *rankNotRead < made.dateRank;
     if (leader && !isUncertain) {
         FollowLeader(list, groups, members, index, *leader, made, names);
@@ -79,7 +79,7 @@ void RuleNames::FollowLeader(const Model::EntryList& list, const Groups& groups,
     for (const std::size_t place : places) {
         const Model::Entry& entry = list.entries[members[place]];
         if (&entry != &leader) {
-            // The extension under the rules is its own.
+            // The rules give it an extension of its own.
             (void)Run(list, entry, index, leader);
             m_subject.folder = made.folder;
             m_subject.name = made.name;

@@ -1,4 +1,4 @@
-// Judges new names: what the system forbids, and halves of characters.
+// Checks new names for what the system forbids and for lone surrogates, and opens folders to move into.
 #include <VyrHost/rename/NewPlace.h>
 
 #include <VyrPlatform/files/FileSystem.h>
@@ -95,7 +95,7 @@ TargetFolders::Target TargetFolders::Open(const CString& path, const CString& sh
     return *target;
 }
 
-/// What is known of a folder; nothing for one that has to be claimed.
+/// The target for a known folder; nothing for one whose name has to be claimed.
 std::optional<TargetFolders::Target> TargetFolders::Find(std::uint32_t number) const
 {
     const Model::Folder& folder = m_folders[number];
@@ -110,7 +110,7 @@ std::optional<TargetFolders::Target> TargetFolders::Find(std::uint32_t number) c
     return std::nullopt;
 }
 
-/// Takes the name of a folder that is not there yet in the folder `parent`.
+/// Claims a name in the folder `parent` for a folder that is not there yet.
 TargetFolders::Target TargetFolders::Claim(std::uint32_t number, const Target& parent)
 {
     if (parent.reason != Reason::None)

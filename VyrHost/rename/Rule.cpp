@@ -1,4 +1,4 @@
-// Fills the engine's record, asks the engine, and cuts its answer.
+// Fills the engine's record, calls the engine, and splits its result.
 #include <VyrHost/rename/Rule.h>
 
 #include <VyrHost/model/DateSource.h>
@@ -48,7 +48,7 @@ void EngineRule::Compute(Subject& subject)
     const auto kind = static_cast<NameFuncs::RenameType>(m_item.renameType);
     if (kind == NameFuncs::RenameType::Extension && subject.isFolder)
         return;
-    // Adding and deleting may answer the record's path itself; it must then be the path so far.
+    // Adding and deleting may return the record's path itself, which must then be the path so far.
     m_item.filePath = kind == NameFuncs::RenameType::AddDelete
                           ? CString::Join({subject.folder, subject.name, subject.extension})
                           : subject.path;
@@ -77,7 +77,7 @@ Position PositionOf(const NameFuncs::ITEM& item)
     return static_cast<Position>(item.dateTimePosition);
 }
 
-/// How much of a name that the engine has given is the old name.
+/// How long the part of the engine's name is that is the old name.
 int LengthOfOldName(const NameFuncs::ITEM& item, const CString& oldName)
 {
     return PositionOf(item) == Position::Alone ? 0 : oldName.GetLength();
@@ -89,7 +89,7 @@ bool IsPortable(char16_t unit)
     return unit >= u' ' && unit != 0x7F && forbidden.find(unit) == std::u16string_view::npos;
 }
 
-/// What a camera says of itself, as a part of a name that every system can hold.
+/// The camera's maker or model, as a part of a name that every system allows.
 CString AsNamePart(const CString& text)
 {
     std::u16string part(text.View());
@@ -100,7 +100,7 @@ CString AsNamePart(const CString& text)
     return std::u16string_view(part);
 }
 
-/// Whether a name begins or ends where a text does.
+/// Whether a text is at the start or the end of a name.
 struct Edges
 {
     bool isStart;

@@ -1,4 +1,4 @@
-// What the texts of all rules have in common: numbers and dates.
+// Reads numbers and lists of dates.
 #include <VyrHost/rename/RuleTexts.h>
 
 #include <VyrHost/text/Errors.h>

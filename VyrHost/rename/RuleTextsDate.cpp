@@ -31,7 +31,7 @@ void Append(Rules& rules, Position position, std::u16string_view format, const s
     rules.push_back(std::make_unique<DateRule>(std::move(item), sources));
 }
 
-/// Refuses folders that have no name of their own whatever the date is.
+/// Refuses folders whose names would be empty or "." or ".." for any date.
 void RequireFolderNames(std::u16string_view format)
 {
     std::u16string_view rest = format;

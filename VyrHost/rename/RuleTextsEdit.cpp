@@ -1,4 +1,4 @@
-// Makes rules that edit the name there is: insert, delete, keep, case, replace, extension.
+// Makes rules that edit the present name: insert, delete, keep, case, replace, extension.
 #include <VyrHost/rename/RuleTexts.h>
 
 #include <VyrHost/rename/Rule.h>
@@ -24,7 +24,7 @@ Rules One(NameFuncs::ITEM item)
     return rules;
 }
 
-/// Finds the text in whatever normal form the name is written.
+/// Finds the text whatever normal form the name is written in.
 class ReplaceRule final : public EngineRule
 {
 public:

@@ -77,14 +77,14 @@ void AppendNumber(Rules& rules, NameFuncs::ITEM number, Position position)
     rules.push_back(std::make_unique<SequenceRule>(std::move(number)));
 }
 
-/// Only what has a text to put in.
+/// Unless `text` is empty.
 void AppendInsert(Rules& rules, Edit type, std::u16string_view text)
 {
     if (!text.empty())
         rules.push_back(std::make_unique<EngineRule>(InsertItem(type, 0, text)));
 }
 
-/// The old name goes.
+/// Without the old name.
 void AppendWithoutName(Rules& rules, NameFuncs::ITEM number, std::u16string_view before, std::u16string_view after)
 {
     const Position position = before.empty() == after.empty() ? Position::BetweenTexts

@@ -1,4 +1,4 @@
-// Refuses letters and tokens that mean nothing.
+// Refuses letters and tokens without a meaning, and characters that no name can hold.
 #include <VyrHost/rename/TemplateTokens.h>
 
 #include <VyrHost/text/Errors.h>
@@ -100,7 +100,7 @@ private:
         for (std::size_t sign = text.find(u'%'); sign != none; sign = text.find(u'%', sign + 1))
             if (sign + 1 < text.size() && IsLetter(text[sign + 1]))
                 Refuse({"a percent sign is text here; ", dateLetters});
-        // In the pattern that the library makes of it, a letter that means something follows a percent sign.
+        // In the pattern that the library makes of it, a percent sign precedes each letter with a meaning.
         const CString pattern = DateTimeUtils::GetDateTimeFormat(text, {});
         std::u16string_view rest = pattern;
         while (!rest.empty()) {
