@@ -2,6 +2,7 @@
 /// Where the picture readers get their bytes: a file or memory, a few at a time.
 #pragma once
 
+#include <VyrLibraryUtils/Export.h>
 #include <VyrPlatform/files/FileReader.h>
 
 #include <array>
@@ -41,7 +42,7 @@ private:
 
 /// The bytes of a file. Most pictures keep their tags at the beginning, which the caller has read already; the rest is
 /// read through one small window.
-class FileSource final : public ByteSource
+class VYR_UTILS_API FileSource final : public ByteSource
 {
 public:
     /// The size of the beginning that is read at once, in bytes: it holds the tags of almost every JPEG.

@@ -1,7 +1,9 @@
-// Skips the segments of a JPEG up to the one with the Exif tags.
+// Skips the segments of a JPEG up to the one with the Exif tags, or with the size.
 #include <VyrLibraryUtils/pictures/Jpeg.h>
 
 #include <VyrLibraryUtils/pictures/Tiff.h>
+
+#include <optional>
 
 namespace VyrLibraryUtils::Pictures {
 namespace {
@@ -43,6 +45,36 @@ std::uint8_t NextMarker(ByteCursor& jpeg)
     return endOfImage;
 }
 
+/// The heads of frames: C0 to CF, but for three other segments among them.
+bool IsFrame(std::uint8_t marker)
+{
+    constexpr std::uint8_t huffmanTables = 0xC4;
+    constexpr std::uint8_t extensions = 0xC8;
+    constexpr std::uint8_t arithmeticConditions = 0xCC;
+    return marker >= 0xC0 && marker <= 0xCF && marker != huffmanTables && marker != extensions &&
+           marker != arithmeticConditions;
+}
+
+struct Segment
+{
+    std::uint8_t marker;
+    ByteView content;
+};
+
+/// The next segment before the picture's data; nothing where there is none, or its length is impossible.
+std::optional<Segment> NextSegment(ByteCursor& jpeg)
+{
+    std::uint8_t marker = NextMarker(jpeg);
+    while (StandsAlone(marker))
+        marker = NextMarker(jpeg);
+    if (EndsHeader(marker))
+        return std::nullopt;
+    const std::uint16_t length = jpeg.U16();
+    if (length < 2)
+        return std::nullopt;
+    return Segment{marker, jpeg.Take(length - 2u)};
+}
+
 } // namespace
 
 bool IsJpeg(const ByteView& bytes)
@@ -53,18 +85,26 @@ bool IsJpeg(const ByteView& bytes)
 std::string ReadJpeg(const ByteView& jpeg, PictureTag tag)
 {
     ByteCursor cursor(jpeg, ByteOrder::Big);
-    for (std::uint8_t marker = NextMarker(cursor); !EndsHeader(marker); marker = NextMarker(cursor)) {
-        if (StandsAlone(marker))
+    while (const std::optional<Segment> segment = NextSegment(cursor)) {
+        if (segment->marker != exifSegment || !segment->content.StartsWith(exifIdentifier))
             continue;
-        const std::uint16_t length = cursor.U16();
-        if (length < 2)
-            break;
-        const ByteView segment = cursor.Take(length - 2u);
-        if (marker != exifSegment || !segment.StartsWith(exifIdentifier))
-            continue;
-        std::string text = ReadTiff(segment.From(exifHeaderSize), tag);
+        std::string text = ReadTiff(segment->content.From(exifHeaderSize), tag);
         if (!text.empty())
             return text;
+    }
+    return {};
+}
+
+PictureSize ReadJpegSize(const ByteView& jpeg)
+{
+    ByteCursor cursor(jpeg, ByteOrder::Big);
+    while (const std::optional<Segment> segment = NextSegment(cursor)) {
+        if (!IsFrame(segment->marker))
+            continue;
+        ByteCursor frame(segment->content, ByteOrder::Big);
+        frame.Skip(1);
+        const std::uint32_t height = frame.U16();
+        return {frame.U16(), height};
     }
     return {};
 }

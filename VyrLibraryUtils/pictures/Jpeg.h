@@ -1,8 +1,9 @@
 /// @file
-/// JPEG: the Exif segments before the picture's data.
+/// JPEG: the segments before the picture's data.
 #pragma once
 
 #include <VyrLibraryUtils/pictures/ByteView.h>
+#include <VyrLibraryUtils/pictures/PictureSize.h>
 #include <VyrLibraryUtils/pictures/PictureTag.h>
 
 #include <string>
@@ -15,5 +16,8 @@ namespace VyrLibraryUtils::Pictures {
 /// The text of `tag` in the first Exif segment of `jpeg` that has one. Segments are skipped by their lengths, up to
 /// the picture's data. Source: ITU-T T.81, annex B; Exif 2.32, section 4.7.
 [[nodiscard]] std::string ReadJpeg(const ByteView& jpeg, PictureTag tag);
+
+/// The size that the head of the frame tells; zeros where there is none.
+[[nodiscard]] PictureSize ReadJpegSize(const ByteView& jpeg);
 
 } // namespace VyrLibraryUtils::Pictures

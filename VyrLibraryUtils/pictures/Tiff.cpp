@@ -1,6 +1,8 @@
 // Finds one tag in a TIFF structure. Every count and offset is checked before it is used.
 #include <VyrLibraryUtils/pictures/Tiff.h>
 
+#include <VyrLibraryUtils/pictures/Jpeg.h>
+
 #include <algorithm>
 #include <optional>
 
@@ -8,6 +10,8 @@ namespace VyrLibraryUtils::Pictures {
 namespace {
 
 constexpr std::uint16_t exifDirectoryLink = 0x8769;
+/// How many bytes the thumbnail has; PictureTag::Thumbnail says where it stands.
+constexpr std::uint16_t thumbnailLength = 0x0202;
 constexpr std::size_t entrySize = 12;
 /// The longest text that is copied, in bytes: longer than real ones, and harmless from a hostile file.
 constexpr std::size_t longestText = 65535;
@@ -48,6 +52,8 @@ public:
     /// The offset of the directory that `entry` links to; 0 when there is none.
     [[nodiscard]] std::uint32_t LinkedDirectory(const Entry& entry) const;
     [[nodiscard]] std::string Text(const Entry& entry) const;
+    /// The thumbnail that the directory behind the one at `offset` refers to.
+    [[nodiscard]] std::string Thumbnail(std::uint32_t offset) const;
 
 private:
     [[nodiscard]] std::uint32_t Number(std::string_view bytes, std::size_t place, std::size_t width) const
@@ -55,6 +61,10 @@ private:
         return static_cast<std::uint32_t>(ToUnsigned(bytes.substr(place, width), m_order));
     }
     [[nodiscard]] std::string Bytes(const Entry& entry) const;
+    /// The offset of the directory behind the one at `offset`; 0 when there is none.
+    [[nodiscard]] std::uint32_t NextDirectory(std::uint32_t offset) const;
+    /// The number in the entry of `tag` in the directory at `offset`; 0 when there is none.
+    [[nodiscard]] std::uint32_t LongIn(std::uint32_t offset, std::uint16_t tag) const;
 
     ByteView m_tiff;
     ByteOrder m_order;
@@ -120,6 +130,30 @@ std::string TiffReader::Text(const Entry& entry) const
     }
 }
 
+std::uint32_t TiffReader::NextDirectory(std::uint32_t offset) const
+{
+    const std::uint64_t count = ToUnsigned(m_tiff.Fetch(offset, 2), m_order);
+    const std::uint64_t link = std::uint64_t{offset} + 2 + count * entrySize;
+    return static_cast<std::uint32_t>(ToUnsigned(m_tiff.Fetch(link, 4), m_order));
+}
+
+std::uint32_t TiffReader::LongIn(std::uint32_t offset, std::uint16_t tag) const
+{
+    const std::optional<Entry> entry = Find(offset, tag);
+    return entry && entry->type == ValueType::Long && entry->count == 1 ? entry->valueOrOffset : 0;
+}
+
+std::string TiffReader::Thumbnail(std::uint32_t offset) const
+{
+    const std::uint32_t next = NextDirectory(offset);
+    if (next == 0 || next == offset)
+        return {};
+    const std::uint32_t length = LongIn(next, thumbnailLength);
+    const ByteView bytes = m_tiff.Part(LongIn(next, static_cast<std::uint16_t>(PictureTag::Thumbnail)), length);
+    const bool isSound = length <= largestThumbnail && bytes.Size() == length && IsJpeg(bytes);
+    return isSound ? bytes.Copy(length) : std::string();
+}
+
 std::string TrimmedText(std::string text)
 {
     text.resize(std::min(text.find('\0'), text.size()));
@@ -151,6 +185,8 @@ std::string ReadTiff(const ByteView& tiff, PictureTag tag, FirstDirectory first)
     const bool isDate = tag == PictureTag::DateTimeOriginal;
 
     const std::uint32_t directory = reader.FirstDirectoryOffset();
+    if (tag == PictureTag::Thumbnail)
+        return reader.Thumbnail(directory);
     std::optional<Entry> entry;
     if (isDate && first == FirstDirectory::Image)
         entry = reader.FindInExifDirectory(directory, static_cast<std::uint16_t>(tag));

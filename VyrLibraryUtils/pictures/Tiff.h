@@ -5,6 +5,7 @@
 #include <VyrLibraryUtils/pictures/ByteView.h>
 #include <VyrLibraryUtils/pictures/PictureTag.h>
 
+#include <cstddef>
 #include <string>
 
 namespace VyrLibraryUtils::Pictures {
@@ -20,10 +21,14 @@ enum class FirstDirectory : std::uint8_t
 /// of its 42 (ORF, RW2).
 [[nodiscard]] bool IsTiff(const ByteView& bytes);
 
+/// A larger thumbnail is left alone, in bytes: Exif has no room for it, and so it is something else.
+constexpr std::size_t largestThumbnail = 65536;
+
 /// The text of `tag` in the TIFF structure that begins at the first byte of `tiff`, without trailing blanks and NULs.
 /// Empty when the tag is missing or blank, and when a date has no digit but 0. The date comes from the Exif directory,
-/// or from the first directory when the Exif directory has none. At most two directories are read. Source:
-/// TIFF 6.0, section 2; Exif 2.32, section 4.5.
+/// or from the first directory when the Exif directory has none. At most two directories are read.
+/// PictureTag::Thumbnail gives the bytes of the thumbnail as they are; nothing unless they lie within the structure,
+/// begin as a JPEG and are at most `largestThumbnail`. Source: TIFF 6.0, section 2; Exif 2.32, section 4.5.
 [[nodiscard]] std::string ReadTiff(const ByteView& tiff, PictureTag tag, FirstDirectory first = FirstDirectory::Image);
 
 } // namespace VyrLibraryUtils::Pictures

@@ -153,14 +153,26 @@ Bytes BuildTiff(const TiffParts& parts)
     const std::size_t first = 8 + parts.afterHeader.size();
     const Bytes header =
         (parts.signature.empty() ? plain : parts.signature) + Number(first, 4, parts.endian) + parts.afterHeader;
-    if (parts.exif.empty())
-        return header + Directory(parts.image, first, parts.endian);
-
     std::vector<TiffEntry> image = parts.image;
-    image.push_back({ExifLinkTag, LongType, 1, Bytes(4, '\0')});
-    const std::size_t second = first + Directory(image, first, parts.endian).size();
-    image.back().value = Number(second, 4, parts.endian);
-    return header + Directory(image, first, parts.endian) + Directory(parts.exif, second, parts.endian);
+    Bytes exif;
+    if (!parts.exif.empty()) {
+        image.push_back({ExifLinkTag, LongType, 1, Bytes(4, '\0')});
+        const std::size_t second = first + Directory(image, first, parts.endian).size();
+        image.back().value = Number(second, 4, parts.endian);
+        exif = Directory(parts.exif, second, parts.endian);
+    }
+    Bytes tiff = header + Directory(image, first, parts.endian) + exif;
+    if (parts.thumbnail.empty())
+        return tiff;
+    tiff.replace(first + 2 + 12 * image.size(), 4, Number(tiff.size(), 4, parts.endian));
+    constexpr std::size_t directorySize = 2 + 3 * 12 + 4;
+    const std::size_t place = tiff.size() + directorySize;
+    return tiff +
+           Directory({ShortEntry(0x0103, 6, parts.endian),
+                      {0x0201, LongType, 1, Number(place, 4, parts.endian)},
+                      {0x0202, LongType, 1, Number(parts.thumbnail.size(), 4, parts.endian)}},
+                     tiff.size(), parts.endian) +
+           parts.thumbnail;
 }
 
 TiffParts TiffPartsOf(const PictureFacts& facts)

@@ -43,7 +43,7 @@ struct TiffEntry
 /// An entry that holds `text` and its NUL.
 [[nodiscard]] TiffEntry AsciiEntry(std::uint16_t tag, std::string_view text);
 
-/// A TIFF structure of two directories, the first linking to the second, the Exif directory. A structure without Exif
+/// A TIFF structure of two directories, the first referring to the second, the Exif directory. A structure without Exif
 /// entries has no link.
 struct TiffParts
 {
@@ -54,6 +54,8 @@ struct TiffParts
     Bytes afterHeader;
     std::vector<TiffEntry> image;
     std::vector<TiffEntry> exif;
+    /// When not empty, a directory behind the first one refers to it as the thumbnail.
+    Bytes thumbnail;
 };
 
 [[nodiscard]] Bytes BuildTiff(const TiffParts& parts);
