@@ -1,10 +1,12 @@
-// Owners of libxml2's objects, and reading of untrusted texts.
+// Parts of documents that are changed and written again.
 #pragma once
 
+#include "XmlTree.h"
+
 #include <cstddef>
-#include <libxml/parser.h>
 #include <libxml/tree.h>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -12,10 +14,8 @@ namespace VyrPlatform {
 
 struct FreeXml
 {
-    void operator()(xmlDoc* document) const noexcept { xmlFreeDoc(document); }
     void operator()(xmlChar* text) const noexcept { xmlFree(text); }
 };
-using XmlDocument = std::unique_ptr<xmlDoc, FreeXml>;
 using XmlText = std::unique_ptr<xmlChar, FreeXml>;
 
 inline const xmlChar* ToXml(const char* text) noexcept
@@ -27,14 +27,17 @@ inline std::string_view FromXml(const xmlChar* text) noexcept
     return text ? std::string_view(reinterpret_cast<const char*>(text)) : std::string_view();
 }
 
-/// The document, read without network, entities and document types; null when it is malformed or has any of these.
-[[nodiscard]] inline XmlDocument ReadXml(std::string_view text)
+/// The whole document; null when it is malformed or has a document type.
+[[nodiscard]] inline XmlTree ReadXml(std::string_view text)
 {
-    XmlDocument document(xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr,
-                                       XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING));
-    if (!document || !xmlDocGetRootElement(document.get()) || xmlGetIntSubset(document.get()))
-        return nullptr;
-    return document;
+    XmlTree document = ParseXml(
+        [text](std::span<char> buffer) mutable {
+            const std::size_t count = text.copy(buffer.data(), buffer.size());
+            text.remove_prefix(count);
+            return static_cast<int>(count);
+        },
+        XmlContent::Everything);
+    return document && !xmlGetIntSubset(document.get()) ? document : nullptr;
 }
 
 /// The document as UTF-8.

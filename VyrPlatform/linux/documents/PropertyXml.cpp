@@ -238,7 +238,7 @@ EditedXml EditPropertyXml(PropertyFormat format, std::string_view xml, std::span
 {
     if (xml.size() > longestPropertyXml)
         return {Result::damaged, {}};
-    const XmlDocument document = ReadXml(xml);
+    const XmlTree document = ReadXml(xml);
     xmlNode* const parent = document ? FindParent(format, document.get()) : nullptr;
     if (!parent)
         return {Result::damaged, {}};

@@ -6,6 +6,7 @@
 #include <libxml/SAX2.h>
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
+#include <libxml/xmlerror.h>
 #include <libxml/xmlversion.h>
 
 #include <algorithm>
@@ -28,11 +29,29 @@ constexpr std::size_t memoryLimit = 128 << 20;
 /// The memory of a node of the tree, in addition to its text, with a text node below it.
 constexpr std::size_t nodeMemory = 256;
 
+/// Keeps this thread's messages of the library off the error stream while it lives: bytes that are not of the declared
+/// encoding are reported without a parser.
+class NoMessages
+{
+public:
+    NoMessages() noexcept : m_context(xmlStructuredErrorContext), m_former(xmlStructuredError)
+    {
+        xmlSetStructuredErrorFunc(nullptr, [](void*, xmlError*) {});
+    }
+    NoMessages(const NoMessages&) = delete;
+    NoMessages& operator=(const NoMessages&) = delete;
+    ~NoMessages() { xmlSetStructuredErrorFunc(m_context, m_former); }
+
+private:
+    void* m_context;
+    xmlStructuredErrorFunc m_former;
+};
+
 /// The state of a parse: the bytes read, and the memory of the tree.
 class Parse
 {
 public:
-    explicit Parse(const XmlBytes& bytes);
+    Parse(const XmlBytes& bytes, XmlContent content);
     Parse(const Parse&) = delete;
     Parse& operator=(const Parse&) = delete;
 
@@ -65,7 +84,7 @@ private:
     bool m_isRefused = false;
 };
 
-Parse::Parse(const XmlBytes& bytes) : m_bytes(bytes), m_context(xmlNewParserCtxt())
+Parse::Parse(const XmlBytes& bytes, XmlContent content) : m_bytes(bytes), m_context(xmlNewParserCtxt())
 {
     if (!m_context)
         return;
@@ -74,18 +93,18 @@ Parse::Parse(const XmlBytes& bytes) : m_bytes(bytes), m_context(xmlNewParserCtxt
     handler.startElementNs = &Parse::OnElement;
     handler.cdataBlock = &Parse::OnCdata;
     handler.entityDecl = &Parse::OnEntity;
+    if (content == XmlContent::Everything)
+        return;
     // Comments are not used, and the text on both sides of one is a single text.
     handler.comment = nullptr;
     handler.processingInstruction = nullptr;
-    // Otherwise messages would be written to the error stream.
-    handler.serror = [](void*, xmlError*) {
-    };
 }
 
 XmlTree Parse::Run()
 {
     if (!m_context)
         return nullptr;
+    const NoMessages noMessages;
     constexpr int options = XML_PARSE_NOENT | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
     xmlDoc* const tree = xmlCtxtReadIO(m_context.get(), &Parse::Read, nullptr, this, nullptr, nullptr, options);
     XmlTree shared(tree, [](xmlDoc* document) {
@@ -174,10 +193,10 @@ void Parse::OnEntity(void* context, const xmlChar* name, int type, const xmlChar
 
 } // namespace
 
-XmlTree ParseXml(const XmlBytes& bytes)
+XmlTree ParseXml(const XmlBytes& bytes, XmlContent content)
 {
     xmlInitParser();
-    return Parse(bytes).Run();
+    return Parse(bytes, content).Run();
 }
 
 xmlNode* NextBelow(xmlNode* node, const xmlNode* top) noexcept

@@ -5,6 +5,7 @@
 #include <VyrPlatform/text/CString.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <span>
@@ -25,8 +26,17 @@ using XmlBytes = std::function<int(std::span<char> buffer)>;
 /// The maximum size of a document in bytes.
 inline constexpr std::size_t xmlSizeLimit = 16 << 20;
 
+/// What the tree holds of a document.
+enum class XmlContent : std::uint8_t
+{
+    /// Elements, attributes and text; text on both sides of a comment is one text.
+    Values,
+    /// All that is to be written again, comments and processing instructions, too.
+    Everything
+};
+
 /// @return null when `bytes` fails, or when the document is malformed or exceeds the bounds in XmlTypes.h.
-[[nodiscard]] VYR_PLATFORM_API XmlTree ParseXml(const XmlBytes& bytes);
+[[nodiscard]] VYR_PLATFORM_API XmlTree ParseXml(const XmlBytes& bytes, XmlContent content = XmlContent::Values);
 
 /// The node after `node` in document order among those below `top`; null after the last one.
 [[nodiscard]] _xmlNode* NextBelow(_xmlNode* node, const _xmlNode* top) noexcept;

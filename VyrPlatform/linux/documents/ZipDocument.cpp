@@ -83,10 +83,10 @@ void AddContentType(xmlDoc* types)
 }
 
 /// The member as XML with the root `space`; null when it is no such thing.
-XmlDocument ReadPart(const ZipArchive& archive, const char* name, std::string_view space, std::string_view root)
+XmlTree ReadPart(const ZipArchive& archive, const char* name, std::string_view space, std::string_view root)
 {
     const auto text = archive.Read(name, longestPropertyXml);
-    XmlDocument document = text ? ReadXml(*text) : nullptr;
+    XmlTree document = text ? ReadXml(*text) : nullptr;
     return document && IsElement(xmlDocGetRootElement(document.get()), space, root) ? std::move(document) : nullptr;
 }
 
@@ -101,8 +101,8 @@ struct PropertyPart
 /// Nothing when the package is damaged.
 std::optional<PropertyPart> FindOfficeOpenXmlPart(const ZipArchive& archive)
 {
-    const XmlDocument package = ReadPart(archive, relationships, relationshipsSpace, "Relationships");
-    const XmlDocument types = ReadPart(archive, contentTypes, typesSpace, "Types");
+    const XmlTree package = ReadPart(archive, relationships, relationshipsSpace, "Relationships");
+    const XmlTree types = ReadPart(archive, contentTypes, typesSpace, "Types");
     if (!package || !types)
         return std::nullopt;
     const std::string named = FindCorePart(package.get());

@@ -4,6 +4,7 @@
 #include <tests/support/ProcessMemory.h>
 
 #include <gtest/gtest.h>
+#include <libxml/xmlerror.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -45,6 +46,12 @@ std::string Repeat(std::string_view text, int count)
     for (int i = 0; i < count; ++i)
         all += text;
     return all;
+}
+
+/// What a message of the library's own would come to.
+void CountMessage(void* count, xmlError*)
+{
+    ++*static_cast<int*>(count);
 }
 
 class XmlBoundsTest : public testing::Test
@@ -135,4 +142,28 @@ TEST_F(XmlBoundsTest, FailingSourceDoesNotLoad)
     EXPECT_FALSE(ParseXml([&](std::span<char> buffer) {
         return std::exchange(isFirst, false) ? static_cast<int>(std::string_view("<r/>").copy(buffer.data(), 4)) : -1;
     })) << "even when what came is whole";
+}
+
+TEST(XmlMessages, HostileBytesAreRefusedWithoutAWord)
+{
+    using namespace std::string_view_literals;
+    testing::internal::CaptureStderr();
+    for (const std::string_view bytes :
+         {"\xFF\xFE<\0a\0>\0\x00\xD8x\0<\0/\0a\0>\0"sv, "<?xml version='1.0' encoding='Shift_JIS'?><a>\x81\xFF</a>"sv,
+          "<?xml version='1.0' encoding='EUC-JP'?><a>\xA1\x20</a>"sv, "<?xml version='1.0' encoding='UTF-16'?><a/"sv,
+          "<?xml version='1.0' encoding='nonsense'?><a/>"sv, "<a>\xFF</a>"sv, "<a><b></a>"sv, "<!DOCTYPE a [<!ENTITY"sv,
+          "text"sv, ""sv})
+        static_cast<void>(Loads(bytes));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST(XmlMessages, HandlerOfTheHostIsThereAgainAfterwards)
+{
+    int messages = 0;
+    xmlSetStructuredErrorFunc(&messages, CountMessage);
+    static_cast<void>(Loads("<a>\xFF</a>"));
+    EXPECT_EQ(messages, 0);
+    EXPECT_EQ(xmlStructuredError, CountMessage);
+    EXPECT_EQ(xmlStructuredErrorContext, &messages);
+    xmlSetStructuredErrorFunc(nullptr, nullptr);
 }
