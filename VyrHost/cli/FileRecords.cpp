@@ -135,7 +135,12 @@ FileRecords::FileRecords(const Collect::SourceSettings& sources)
 
 Ui::RecordTable FileRecords::Table() const
 {
-    return Ui::TableOf(m_files, FileFields());
+    Ui::RecordTable table = Ui::TableOf(m_files, FileFields());
+    table.title = "Files";
+    table.fileOf = [this](std::size_t row) {
+        return m_files[row].Path();
+    };
+    return table;
 }
 
 std::string FileRecords::Total() const

@@ -32,7 +32,7 @@ private:
 
 ListCommand::ListCommand(CLI::App& program)
     : Command(*program.add_subcommand("list", "List files with their sizes, times, attributes and marks")),
-      m_sources(m_command, "list"), m_records(m_command, Ui::ColumnsOf(FileFields()))
+      m_sources(m_command, "list"), m_records(m_command, Ui::ColumnsOf(FileFields()), RowsAbout::Files)
 {
     m_command.footer(HelpFooter("list"));
 }

@@ -22,8 +22,8 @@ constexpr const char* group = "How the list is shown";
 
 } // namespace
 
-RecordOptions::RecordOptions(CLI::App& command, std::vector<Ui::RecordColumn> columns)
-    : m_command(command), m_columns(std::move(columns)), m_report(command)
+RecordOptions::RecordOptions(CLI::App& command, std::vector<Ui::RecordColumn> columns, RowsAbout rows)
+    : m_command(command), m_columns(std::move(columns)), m_report(command, rows)
 {
     command
         .add_option_function<std::string>(

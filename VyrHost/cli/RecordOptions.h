@@ -22,7 +22,7 @@ class RecordOptions
 {
 public:
     /// Adds the options to `command`; `columns` are those of its lists.
-    RecordOptions(CLI::App& command, std::vector<Ui::RecordColumn> columns);
+    RecordOptions(CLI::App& command, std::vector<Ui::RecordColumn> columns, RowsAbout rows = RowsAbout::Records);
     RecordOptions(const RecordOptions&) = delete;
     RecordOptions& operator=(const RecordOptions&) = delete;
 

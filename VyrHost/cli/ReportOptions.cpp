@@ -4,10 +4,12 @@
 #include <VyrHost/cli/Arguments.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/Options.h>
+#include <VyrHost/model/FolderSet.h>
 #include <VyrHost/reports/RecordReport.h>
 #include <VyrHost/reports/ReportFile.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
+#include <VyrPlatform/files/FullPath.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <CLI/CLI.hpp>
@@ -20,7 +22,7 @@ constexpr const char* group = "A page for a browser";
 
 } // namespace
 
-ReportOptions::ReportOptions(CLI::App& command) : m_command(command)
+ReportOptions::ReportOptions(CLI::App& command, RowsAbout rows) : m_command(command)
 {
     const auto add = [&](const char* name, std::optional<std::string>& place, const char* type, const char* help) {
         command
@@ -33,6 +35,11 @@ ReportOptions::ReportOptions(CLI::App& command) : m_command(command)
     command.add_flag("--overwrite", m_mayReplace, "Replace a page that exists already")->group(group);
     add("--design", m_design, "NAME", "The page's design: plain (the usual one), cards or print");
     add("--designs", m_designs, "FILE", "Take designs from a design document of your own");
+    if (rows == RowsAbout::Files)
+        command
+            .add_flag("--thumbnails", m_hasThumbnails,
+                      "Show a thumbnail of each picture: the one in its tags, else the picture itself by a link")
+            ->group(group);
 }
 
 void ReportOptions::Check() const
@@ -40,6 +47,8 @@ void ReportOptions::Check() const
     constexpr DependentOption dependent[] = {
         {"--overwrite", "--html"}, {"--design", "--html"}, {"--designs", "--html"}};
     CheckOptionPairs(m_command, {}, dependent);
+    if (m_hasThumbnails && !m_file)
+        throw Text::UsageError(WithoutEffect("--thumbnails", "--html"));
     if (!m_file)
         return;
     Reports::CheckReportFile(Path(), m_mayReplace);
@@ -48,11 +57,16 @@ void ReportOptions::Check() const
 
 int ReportOptions::Write(const Ui::RecordTable& table, const std::string& total, int code) const
 {
-    const Reports::ReportText text{VyrPlatform::Encoding::FromUtf8("vyr " + m_command.get_name()),
+    const Reports::ReportText text{VyrPlatform::Encoding::FromUtf8(table.title),
                                    VyrPlatform::Encoding::FromUtf8(total)};
     const Reports::Design design = ChosenDesign();
+    Reports::PictureOf pictureOf;
+    if (m_hasThumbnails)
+        pictureOf = [&table, folder = CString(Model::FolderPart(VyrPlatform::GetFullPath(Path())))](std::size_t row) {
+            return Reports::ThumbnailOf(table.fileOf(row), folder);
+        };
     const std::uint32_t error = Reports::WriteReportFile(Path(), m_mayReplace, [&](const Reports::TakePiece& take) {
-        Reports::WriteRecordReport(take, table, text, design);
+        Reports::WriteRecordReport(take, table, text, design, pictureOf);
     });
     if (error == 0)
         return code;

@@ -5,6 +5,7 @@
 #include <VyrHost/reports/Design.h>
 #include <VyrHost/ui/RecordTable.h>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -14,12 +15,20 @@ class App;
 
 namespace VyrHost::Cli {
 
-/// --html, --overwrite, --design and --designs.
+/// What the rows of a command's lists are about.
+enum class RowsAbout : std::uint8_t
+{
+    Records,
+    /// Files, of which pages can show thumbnails.
+    Files
+};
+
+/// --html, --overwrite, --design, --designs and, for lists of files, --thumbnails.
 class ReportOptions
 {
 public:
     /// Adds the options to `command`.
-    explicit ReportOptions(CLI::App& command);
+    ReportOptions(CLI::App& command, RowsAbout rows);
     ReportOptions(const ReportOptions&) = delete;
     ReportOptions& operator=(const ReportOptions&) = delete;
 
@@ -43,6 +52,7 @@ private:
     std::optional<std::string> m_design;
     std::optional<std::string> m_designs;
     bool m_mayReplace = false;
+    bool m_hasThumbnails = false;
 };
 
 } // namespace VyrHost::Cli

@@ -41,12 +41,26 @@ std::string_view EscapeOf(char16_t unit)
     }
 }
 
+/// RFC 3986, section 2.3.
+bool IsUnreserved(char byte)
+{
+    constexpr std::string_view others = "-._~";
+    return (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z') ||
+           others.find(byte) != std::string_view::npos;
+}
+
 /// Whether the byte is literal in an address: RFC 3986, section 2.2 and 2.3, and the percent sign of encoded bytes.
 bool MayStandInAddress(char byte)
 {
-    constexpr std::string_view others = "-._~:/?#[]@!$&()*+,;=%";
-    return (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z') ||
-           others.find(byte) != std::string_view::npos;
+    constexpr std::string_view others = ":/?#[]@!$&()*+,;=%";
+    return IsUnreserved(byte) || others.find(byte) != std::string_view::npos;
+}
+
+void AppendPercentEncoded(std::string& address, char byte)
+{
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    const auto number = static_cast<unsigned char>(byte);
+    address.append({'%', digits[number / 16], digits[number % 16]});
 }
 
 bool HasScheme(std::u16string_view address, std::u16string_view scheme)
@@ -75,18 +89,28 @@ std::optional<std::string> LinkTo(std::u16string_view text)
     const bool isAddress = HasScheme(text, u"http://") || HasScheme(text, u"https://");
     if (!isAddress || std::any_of(text.begin(), text.end(), [](char16_t unit) { return unit <= u' '; }))
         return std::nullopt;
-    constexpr std::string_view digits = "0123456789ABCDEF";
     std::string link;
     for (const char byte : VyrPlatform::Encoding::ToUtf8(text)) {
-        const auto number = static_cast<unsigned char>(byte);
         if (byte == '&')
             link += "&amp;";
         else if (MayStandInAddress(byte))
             link += byte;
         else
-            link.append({'%', digits[number / 16], digits[number % 16]});
+            AppendPercentEncoded(link, byte);
     }
     return link;
+}
+
+std::string PercentEncoded(std::string_view bytes)
+{
+    std::string encoded;
+    for (const char byte : bytes) {
+        if (IsUnreserved(byte))
+            encoded += byte;
+        else
+            AppendPercentEncoded(encoded, byte);
+    }
+    return encoded;
 }
 
 } // namespace VyrHost::Reports

@@ -17,4 +17,8 @@ void AppendEscaped(std::string& html, std::u16string_view text);
 /// @return nothing unless it is a complete address with `http:` or `https:`.
 [[nodiscard]] std::optional<std::string> LinkTo(std::u16string_view text);
 
+/// `bytes` as a part of an address: what is neither a letter or a digit of ASCII nor one of `-._~` is percent-encoded
+/// (RFC 3986, section 2.3).
+[[nodiscard]] std::string PercentEncoded(std::string_view bytes);
+
 } // namespace VyrHost::Reports

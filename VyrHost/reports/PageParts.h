@@ -11,10 +11,14 @@ namespace VyrHost::Reports::PageParts {
 extern const std::string_view headElements;
 extern const std::string_view styleBeginning;
 extern const std::string_view styleEnd;
-/// The colours, for light and dark, and the layout of the list, also on paper.
+/// The colours, for light and dark, and the layout of the list, also on a telephone and on paper. The property
+/// `--label` of a cell is the heading of its column.
 extern const std::string_view style;
 extern const std::string_view mainBeginning;
 extern const std::string_view mainEnd;
+/// Around the table, which may be wider than the window.
+extern const std::string_view listBeginning;
+extern const std::string_view listEnd;
 /// Adds the search box, and sorting by a click on a heading, to the page, which is complete without them. The value of
 /// a cell for sorting is in its attribute `data-value`, otherwise it is its text.
 extern const std::string_view script;

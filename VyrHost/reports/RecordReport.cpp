@@ -98,7 +98,8 @@ struct CellTags
 class RecordReport
 {
 public:
-    RecordReport(const TakePiece& take, const Ui::RecordTable& table) : m_take(take), m_table(table)
+    RecordReport(const TakePiece& take, const Ui::RecordTable& table, const PictureOf& pictureOf)
+        : m_take(take), m_table(table), m_pictureOf(pictureOf)
     {
         for (const std::size_t column : table.shown) {
             const CString name = ClassOf(table.columns[column].kind);
@@ -136,9 +137,20 @@ private:
         Tag(HtmlFuncs::GetTitleTag(EscapedArgument(text.title)));
         m_html += PageParts::styleBeginning;
         m_html += PageParts::style;
+        WriteLabels();
         Tag(design.style);
         m_html += PageParts::styleEnd;
         Tag(HtmlFuncs::GetHeadClosingTag());
+    }
+
+    /// The headings, for designs that show each value with its own.
+    void WriteLabels()
+    {
+        std::size_t place = m_pictureOf ? 2 : 1;
+        for (const std::size_t column : m_table.shown) {
+            m_html += ".records td:nth-child(" + std::to_string(place++) + ") { --label: \"";
+            m_html.append(m_table.columns[column].heading).append("\"; }\r\n");
+        }
     }
 
     void WriteHeading(const ReportText& text)
@@ -154,10 +166,12 @@ private:
 
     void WriteList()
     {
-        Tag(HtmlFuncs::GetDivTag(u"list", u"list", u"role=\"region\" aria-label=\"List\" tabindex=\"0\""));
+        m_html += PageParts::listBeginning;
         Tag(HtmlFuncs::GetTableTag(u"records", u"records"));
         Tag(HtmlFuncs::GetTheadTag());
         Tag(HtmlFuncs::GetTrTag());
+        if (m_pictureOf)
+            Tag(HtmlFuncs::GetThPairTag(u"picture", u"Picture"));
         for (const std::size_t column : m_table.shown)
             Tag(HtmlFuncs::GetThPairTag(
                 ClassOf(m_table.columns[column].kind),
@@ -169,7 +183,7 @@ private:
             WriteRow(row);
         Tag(HtmlFuncs::GetTbodyClosingTag());
         Tag(HtmlFuncs::GetTableClosingTag());
-        Tag(HtmlFuncs::GetDivClosingTag(1));
+        m_html += PageParts::listEnd;
     }
 
     void WriteRow(std::size_t row)
@@ -179,6 +193,8 @@ private:
             m_html += m_rowTag;
         else
             Tag(HtmlFuncs::GetTrTag(tone));
+        if (m_pictureOf)
+            WritePicture(m_pictureOf(row));
         for (std::size_t place = 0; place < m_table.shown.size(); ++place)
             WriteCell(row, place);
         m_html.append(m_rowEnd).append("\r\n");
@@ -186,6 +202,20 @@ private:
             m_take(m_html);
             m_html.clear();
         }
+    }
+
+    void WritePicture(const std::optional<Thumbnail>& picture)
+    {
+        m_html += m_pictureTag;
+        if (picture) {
+            CString style = u"thumbnail";
+            if (picture->orientation != 1)
+                style.Format(u"thumbnail turned turned%d", picture->orientation);
+            const TagWithSlots image(HtmlFuncs::GetImgTag(slot, style, static_cast<int>(picture->size.width),
+                                                          static_cast<int>(picture->size.height), {}));
+            image.Append(m_html, {picture->address});
+        }
+        m_html += m_cellEnd;
     }
 
     void WriteCell(std::size_t row, std::size_t place)
@@ -225,10 +255,12 @@ private:
 
     const TakePiece& m_take;
     const Ui::RecordTable& m_table;
+    const PictureOf& m_pictureOf;
     std::string m_html;
     std::vector<CellTags> m_cells;
     const std::string m_rowTag = ToUtf8(HtmlFuncs::GetTrTag());
     const std::string m_rowEnd = ToUtf8(HtmlFuncs::GetTrClosingTag());
+    const std::string m_pictureTag = ToUtf8(HtmlFuncs::GetTdTag(u"picture"));
     const std::string m_cellEnd = ToUtf8(HtmlFuncs::GetTdClosingTag());
     const TagWithSlots m_linkTag{HtmlFuncs::GetATag(slot)};
     const std::string m_linkEnd = ToUtf8(HtmlFuncs::GetAClosingTag());
@@ -237,9 +269,9 @@ private:
 } // namespace
 
 void WriteRecordReport(const TakePiece& take, const Ui::RecordTable& table, const ReportText& text,
-                       const Design& design)
+                       const Design& design, const PictureOf& pictureOf)
 {
-    RecordReport(take, table).Write(text, design);
+    RecordReport(take, table, pictureOf).Write(text, design);
 }
 
 } // namespace VyrHost::Reports

@@ -147,6 +147,7 @@ std::vector<RecordColumn> BatchColumns()
 RecordTable TableOfBatches(const std::vector<Batch::BatchInformation>& batches)
 {
     RecordTable table = TableOf(batches, std::span<const RecordField<Information>>(batchFields));
+    table.title = "Batches";
     table.toneOf = [&batches](std::size_t row) {
         return ToneOf(batches[row]);
     };

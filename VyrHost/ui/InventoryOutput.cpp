@@ -159,6 +159,7 @@ std::vector<RecordColumn> ProgramColumns()
 RecordTable TableOfPrograms(const std::vector<Program>& programs)
 {
     RecordTable table = TableOf(programs, Fields(programFields));
+    table.title = "Installed programs";
     for (RecordColumn& column : table.columns)
         if (column.name == "key")
             column.compareRows = [&programs](std::size_t left, std::size_t right) {
@@ -177,7 +178,9 @@ std::vector<RecordColumn> ProductColumns()
 
 RecordTable TableOfProducts(const std::vector<Product>& products)
 {
-    return TableOf(products, Fields(productFields));
+    RecordTable table = TableOf(products, Fields(productFields));
+    table.title = "Installer products";
+    return table;
 }
 
 std::vector<RecordColumn> BrowserColumns()
@@ -187,7 +190,9 @@ std::vector<RecordColumn> BrowserColumns()
 
 RecordTable TableOfBrowsers(const std::vector<Browser>& browsers)
 {
-    return TableOf(browsers, Fields(browserFields));
+    RecordTable table = TableOf(browsers, Fields(browserFields));
+    table.title = "Browsers";
+    return table;
 }
 
 } // namespace VyrHost::Ui

@@ -99,6 +99,10 @@ struct RecordTable
     std::function<RecordValue(std::size_t row, std::size_t column)> valueAt;
     /// The importance of a row; empty where all are plain.
     std::function<Tone(std::size_t row)> toneOf = {};
+    /// What the list is called, for people.
+    std::string_view title = {};
+    /// The path of the file that a row is about; empty where rows are about no files.
+    std::function<CString(std::size_t row)> fileOf = {};
 };
 
 /// A column, and the function that gets its value from a record.

@@ -14,30 +14,6 @@ namespace {
 
 using Model::Status;
 
-/// The word for the status, in tables and in JSON.
-std::u16string_view WordFor(Status status, std::string_view kind)
-{
-    switch (status) {
-    case Status::Done:
-        return kind == "rename" ? u"renamed" : kind == "copy" ? u"copied" : kind == "move" ? u"moved" : u"changed";
-    case Status::Numbered:
-        return u"numbered";
-    case Status::Unchanged:
-        return u"unchanged";
-    case Status::Skipped:
-        return u"skipped";
-    case Status::Incomplete:
-        return u"incomplete";
-    case Status::Failed:
-        return u"failed";
-    case Status::NotReached:
-        return u"not reached";
-    case Status::Refused:
-        break;
-    }
-    return u"refused";
-}
-
 CString CountText(std::size_t count, std::u16string_view one, std::u16string_view several)
 {
     return CString::Join({VyrPlatform::Encoding::FromUtf8(std::to_string(count)), u" ", count == 1 ? one : several});
@@ -67,32 +43,8 @@ CString NoteFor(const Model::Result& result)
         AppendRemark(note, CString::Join({word, word.empty() ? u"" : u": "}), result.reason);
     else
         AppendRemark(note, {}, word);
-    if (result.size)
-        AppendRemark(note, {}, SizeText(*result.size));
-    AppendRemark(note, u"date: ", result.dateFrom);
-    AppendRemark(note, u"warning: ", result.warning);
-    if (result.hasChanged.value_or(false))
-        AppendRemark(note, {}, u"it has changed since");
+    AppendRemark(note, {}, RemarksFor(result));
     return note;
-}
-
-Tone ToneOf(const Model::Result& result)
-{
-    switch (result.status) {
-    case Status::Done:
-        return result.warning.empty() && !result.hasChanged.value_or(false) ? Tone::Plain : Tone::Notable;
-    case Status::Numbered:
-    case Status::Skipped:
-    case Status::NotReached:
-        return Tone::Notable;
-    case Status::Unchanged:
-        return Tone::Faint;
-    case Status::Incomplete:
-    case Status::Refused:
-    case Status::Failed:
-        break;
-    }
-    return Tone::Bad;
 }
 
 ShownName Shown(const Model::ResultPath& path)
@@ -140,6 +92,60 @@ void AppendChange(std::string& line, const Model::Result& result)
 }
 
 } // namespace
+
+std::u16string_view WordFor(Status status, std::string_view kind)
+{
+    switch (status) {
+    case Status::Done:
+        return kind == "rename" ? u"renamed" : kind == "copy" ? u"copied" : kind == "move" ? u"moved" : u"changed";
+    case Status::Numbered:
+        return u"numbered";
+    case Status::Unchanged:
+        return u"unchanged";
+    case Status::Skipped:
+        return u"skipped";
+    case Status::Incomplete:
+        return u"incomplete";
+    case Status::Failed:
+        return u"failed";
+    case Status::NotReached:
+        return u"not reached";
+    case Status::Refused:
+        break;
+    }
+    return u"refused";
+}
+
+Tone ToneOf(const Model::Result& result)
+{
+    switch (result.status) {
+    case Status::Done:
+        return result.warning.empty() && !result.hasChanged.value_or(false) ? Tone::Plain : Tone::Notable;
+    case Status::Numbered:
+    case Status::Skipped:
+    case Status::NotReached:
+        return Tone::Notable;
+    case Status::Unchanged:
+        return Tone::Faint;
+    case Status::Incomplete:
+    case Status::Refused:
+    case Status::Failed:
+        break;
+    }
+    return Tone::Bad;
+}
+
+CString RemarksFor(const Model::Result& result)
+{
+    CString remarks;
+    if (result.size)
+        AppendRemark(remarks, {}, SizeText(*result.size));
+    AppendRemark(remarks, u"date: ", result.dateFrom);
+    AppendRemark(remarks, u"warning: ", result.warning);
+    if (result.hasChanged.value_or(false))
+        AppendRemark(remarks, {}, u"it has changed since");
+    return remarks;
+}
 
 void WriteResultTable(OutputBuffer& output, const Model::Results& results)
 {

@@ -4,9 +4,12 @@
 
 #include <VyrHost/model/Result.h>
 #include <VyrHost/ui/Output.h>
+#include <VyrHost/ui/Table.h>
+#include <VyrPlatform/text/CString.h>
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 namespace VyrHost::Ui {
 
@@ -15,6 +18,13 @@ void WriteResultTable(OutputBuffer& output, const Model::Results& results);
 
 /// Writes a JSON object for each result. docs/json.md describes the keys.
 void WriteResultJson(OutputBuffer& output, const Model::Results& results, bool isPreview);
+
+/// The word for the status, in tables and in JSON, such as "renamed"; `kind` is that of the result.
+[[nodiscard]] std::u16string_view WordFor(Model::Status status, std::string_view kind);
+/// How much notice the result needs.
+[[nodiscard]] Tone ToneOf(const Model::Result& result);
+/// What there is to say beside the status and its reason: the size of a folder, the source of a date, a warning.
+[[nodiscard]] CString RemarksFor(const Model::Result& result);
 
 /// Whether a result is a problem that is shown even with --quiet. Entries that were not reached are only counted, since
 /// there may be very many; the problems of a folder that is copied or moved are results of their own.

@@ -1,6 +1,8 @@
 // Tests of the program: lists as pages for a browser.
 #include "VyrProgram.h"
 
+#include <tests/support/PictureBuilder.h>
+
 #include <gmock/gmock.h>
 
 using namespace VyrTests;
@@ -33,8 +35,8 @@ TEST_F(Reports, ListBecomesAPage)
     EXPECT_EQ(result.output, "1 batch.\n");
     const std::string page = m_folder.ReadFile(u"list.html");
     EXPECT_THAT(page, testing::StartsWith("<!DOCTYPE html>"));
-    EXPECT_THAT(page, HasSubstr("<title>vyr undo</title>"));
-    EXPECT_THAT(page, HasSubstr("tbody tr:nth-child(even)")) << "the plain design";
+    EXPECT_THAT(page, HasSubstr("<title>Batches</title>"));
+    EXPECT_THAT(page, HasSubstr("tbody tr:nth-child(even of ")) << "the plain design";
 }
 
 TEST_F(Reports, PageIsReplacedOnlyWithOverwrite)
@@ -69,6 +71,17 @@ TEST_F(Reports, OptionsThatDoNotGoTogetherAreRefused)
     EXPECT_EQ(List({u"--design", u"cards"}).exitCode, 2);
     EXPECT_EQ(List({u"--overwrite"}).exitCode, 2);
     EXPECT_EQ(Run({u"undo", u"--html", u"a.html"}).exitCode, 2) << "without --list";
+}
+
+TEST_F(Reports, ThumbnailsAreThoseOfThePictures)
+{
+    m_folder.WriteFile(u"p.jpg", BuildJpeg("", 64));
+    const ProgramResult result = Run({u"list", u"p.jpg", u"--html", u"list.html", u"--thumbnails"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    EXPECT_THAT(m_folder.ReadFile(u"list.html"),
+                HasSubstr("<img src=\"./p.jpg\" class=\"thumbnail\" width=\"2048\" height=\"8\" alt=\"\">"));
+    EXPECT_EQ(Run({u"list", u"p.jpg", u"--thumbnails"}).exitCode, 2) << "without --html";
+    EXPECT_EQ(List({u"--html", u"a.html", u"--thumbnails"}).exitCode, 2) << "batches are no files";
 }
 
 TEST_F(Reports, PageThatCannotBeWrittenIsAnErrorOfTheOutput)

@@ -131,6 +131,28 @@ TEST(RecordReport, StyleOfTheDesignFollowsTheDefaultOne)
     EXPECT_TRUE(Between(page, "<style>", "</style>").ends_with("td { color: #123456 }\t"));
 }
 
+TEST(RecordReport, PicturesStandInAColumnOfTheirOwn)
+{
+    const RecordTable table = ListOf({{"name", "Name"}}, {{Text(u"a")}, {Text(u"b")}, {Text(u"c")}});
+    std::string page;
+    WriteRecordReport([&](std::string_view piece) { page += piece; }, table, {}, {},
+                      [](std::size_t row) -> std::optional<Thumbnail> {
+                          if (row == 1)
+                              return std::nullopt;
+                          return Thumbnail{"./%s.jpg", {160, 120}, row == 0 ? 1 : 6};
+                      });
+    EXPECT_EQ(Between(page, "<thead>\r\n", "</thead>"),
+              "<tr><th class=\"picture\">Picture</th><th class=\"text\">Name</th></tr>");
+    EXPECT_EQ(Between(page, "<tbody>\r\n", "</tbody>"),
+              "<tr><td class=\"picture\"><img src=\"./%s.jpg\" class=\"thumbnail\" width=\"160\" height=\"120\" "
+              "alt=\"\"></td>"
+              "<td class=\"text\">a</td></tr>\r\n"
+              "<tr><td class=\"picture\"></td><td class=\"text\">b</td></tr>\r\n"
+              "<tr><td class=\"picture\"><img src=\"./%s.jpg\" class=\"thumbnail turned turned6\" width=\"160\" "
+              "height=\"120\" alt=\"\"></td><td class=\"text\">c</td></tr>\r\n");
+    EXPECT_THAT(page, HasSubstr(".records td:nth-child(2) { --label: \"Name\"; }"));
+}
+
 TEST(RecordReport, LongListIsWrittenInPieces)
 {
     RecordTable table = ListOf({{"a", "A"}}, {{Text(u"row")}});

@@ -1,4 +1,5 @@
 """Chromium without a window, driven through its debugging protocol on two pipes."""
+import base64
 import fcntl
 import itertools
 import json
@@ -67,17 +68,31 @@ class Browser:
                 if "error" in answer:
                     raise RuntimeError(f"{method}: {answer['error']}")
                 return answer["result"]
-            self._events.append(answer.get("method"))
+            self._take(answer)
 
     def open(self, address):
         """Opens a page and waits until it and its pictures are loaded."""
         self._events.clear()
         self.call("Page.navigate", url=address)
-        while "Page.loadEventFired" not in self._events:
-            self._events.append(self._read().get("method"))
+        while not self.events("Page.loadEventFired"):
+            self._take(self._read())
+
+    def events(self, method):
+        """What the browser has told of that kind since the page was opened."""
+        return [event["params"] for event in self._events if event["method"] == method]
 
     def set_window(self, width, height):
         self.call("Emulation.setDeviceMetricsOverride", width=width, height=height, deviceScaleFactor=1, mobile=False)
+
+    def set_look(self, media="screen", colours="light"):
+        """Shows pages as on a "screen" or in "print", and as users of "light" or "dark" colours get them."""
+        self.call("Emulation.setEmulatedMedia", media=media,
+                  features=[{"name": "prefers-color-scheme", "value": colours}])
+
+    def screenshot(self, path):
+        """Writes what the window shows to a file, as a PNG."""
+        with open(path, "wb") as file:
+            file.write(base64.b64decode(self.call("Page.captureScreenshot", format="png")["data"]))
 
     def evaluate(self, script):
         """The value of a script in the page, as JSON can carry it."""
@@ -85,6 +100,13 @@ class Browser:
         if "exceptionDetails" in result:
             raise RuntimeError(result["exceptionDetails"])
         return result["result"].get("value")
+
+    def _take(self, event):
+        # A page that asks its user something would wait for ever.
+        if event.get("method") == "Page.javascriptDialogOpening":
+            self.call("Page.handleJavaScriptDialog", accept=False)
+        if "method" in event:
+            self._events.append(event)
 
     def _read(self):
         while b"\0" not in self._buffer:

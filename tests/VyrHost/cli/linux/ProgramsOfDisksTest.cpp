@@ -120,6 +120,23 @@ TEST_F(ProgramsOfDisks, AreWrittenAsJsonAndCsv)
               "\xEF\xBB\xBFname,size,installDate\r\nEditor,2097152,2023-05-06\r\nOld one,,2024-01-05\r\n");
 }
 
+TEST_F(ProgramsOfDisks, AreAllListedWhereThereAreHundredsInBothViews)
+{
+    RegistryTree software;
+    std::string expected;
+    for (int number = 0; number < 800; ++number) {
+        CString name;
+        name.Format(u"Program %03d", number);
+        const bool is32Bit = number % 2 != 0;
+        AddTexts(software, is32Bit ? MachineEntry32(name) : MachineEntry(name), {{u"DisplayName", name}});
+        expected += VyrPlatform::Encoding::ToUtf8(name) + (is32Bit ? ",32-bit\r\n" : ",native\r\n");
+    }
+    m_disk.WriteSoftware(software);
+    const ProgramResult result = Programs({m_disk.Path(), u"--csv", u"--columns", u"name,view"});
+    EXPECT_EQ(result.output, "\xEF\xBB\xBFname,view\r\n" + expected);
+    EXPECT_EQ(result.errors, "800 programs.\n");
+}
+
 TEST_F(ProgramsOfDisks, AreSortedInTheOrderOfKeys)
 {
     RegistryTree software;
