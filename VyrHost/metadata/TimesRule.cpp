@@ -218,12 +218,12 @@ Proposal TimesRule::Propose(const CString& path, const Model::Entry& entry, std:
         }
         // The times before are read last, since reading a picture may change the time of the last access.
         for (TimeStep& step : steps) {
-            step.before = RequireTicks(path, step.date);
             std::uint32_t error = 0;
-            const auto state = VyrPlatform::ExactState::Read(path, PartOf(step.date), error);
-            if (!state)
+            auto before = VyrPlatform::ExactState::ReadTime(path, PartOf(step.date), error);
+            if (!before)
                 throw Refusal{Text::ErrorText(error)};
-            step.beforeState = *state;
+            step.before = before->ticks;
+            step.beforeState = std::move(before->state);
         }
     } catch (const Refusal& refusal) {
         return {nullptr, refusal.reason};

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <VyrPlatform/Export.h>
+#include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
@@ -26,6 +27,18 @@ enum class Part : std::uint8_t
 /// system.
 /// @param error  gets the system's error code where there is no result.
 [[nodiscard]] VYR_PLATFORM_API std::optional<CString> Read(const CString& path, Part part, std::uint32_t& error);
+
+/// A time of a file.
+struct TimeState
+{
+    FileTicks ticks = 0;
+    /// What Read gives.
+    CString state;
+};
+
+/// The time `part` (not Attributes) of the file or folder at `path`, and its exact state, both of one look.
+/// @param error  gets the system's error code where there is no result.
+[[nodiscard]] VYR_PLATFORM_API std::optional<TimeState> ReadTime(const CString& path, Part part, std::uint32_t& error);
 
 /// Restores `part` from the text that Read gave, also where the file is read-only. On Linux the other fields of the
 /// same extended attribute, and the read permissions, keep their present values.

@@ -34,11 +34,12 @@ struct ZoneForm
 [[nodiscard]] VYR_PLATFORM_API std::optional<std::vector<ZoneForm>> ReadZoneMark(const CString& path,
                                                                                  std::uint32_t& error);
 
-/// Writes one form of the mark of the file at `path`, and replaces the present one.
+/// Writes one form of the mark of the file at `path`, and replaces the present one. The file's times stay.
 /// @return 0, else the system's error code: invalid argument for a form that this system does not know.
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t WriteZoneForm(const CString& path, const ZoneForm& form);
 
-/// Removes the mark that the file at `path` was downloaded, in every form that this system knows.
+/// Removes the mark that the file at `path` was downloaded, in every form that this system knows. The file's times
+/// stay.
 /// @return 0 when there was a mark and none is left, else the system's error code (also when there was none).
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t DeleteZoneMark(const CString& path);
 

@@ -1,6 +1,7 @@
 // Exact states on Linux: times as seconds and nanoseconds, the rest as the bytes of extended attributes and the mode.
 #include <VyrPlatform/files/ExactState.h>
 
+#include "CreationTime.h"
 #include "DosAttribute.h"
 #include "ExtendedAttributes.h"
 #include "FileStatus.h"
@@ -15,6 +16,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace VyrPlatform::ExactState {
@@ -167,26 +169,35 @@ int RestoreAttributes(const CString& path, std::string_view text)
 
 std::optional<CString> Read(const CString& path, Part part, std::uint32_t& error)
 {
+    if (part != Part::Attributes) {
+        auto time = ReadTime(path, part, error);
+        return time ? std::optional(std::move(time->state)) : std::nullopt;
+    }
     const NativePath nativePath(path);
     struct statx status;
-    if (!AskStatus(nativePath, 0, STATX_MODE | STATX_MTIME | STATX_ATIME, status)) {
+    if (!AskStatus(nativePath, 0, STATX_MODE, status)) {
         error = static_cast<std::uint32_t>(errno);
         return std::nullopt;
-    }
-    switch (part) {
-    case Part::Modified:
-        return Encoding::FromUtf8(ToText(status.stx_mtime));
-    case Part::Accessed:
-        return Encoding::FromUtf8(ToText(status.stx_atime));
-    case Part::Created:
-        return Encoding::FromUtf8(ToText(ReadKept(nativePath, Extended::ntfsCreatedName)));
-    case Part::Attributes:
-        break;
     }
     char mode[16];
     const int length = std::snprintf(mode, sizeof mode, "%04o ", status.stx_mode & permissions);
     return Encoding::FromUtf8(std::string(mode, static_cast<std::size_t>(length)) +
                               ToText(ReadKept(nativePath, Extended::ntfsAttributesName)));
+}
+
+std::optional<TimeState> ReadTime(const CString& path, Part part, std::uint32_t& error)
+{
+    const NativePath nativePath(path);
+    struct statx status;
+    if (!AskStatus(nativePath, 0, STATX_MTIME | STATX_ATIME | STATX_BTIME, status)) {
+        error = static_cast<std::uint32_t>(errno);
+        return std::nullopt;
+    }
+    if (part == Part::Created)
+        return TimeState{CreatedOf(nativePath, status),
+                         Encoding::FromUtf8(ToText(ReadKept(nativePath, Extended::ntfsCreatedName)))};
+    const struct statx_timestamp& time = part == Part::Modified ? status.stx_mtime : status.stx_atime;
+    return TimeState{ToTicks(time), Encoding::FromUtf8(ToText(time))};
 }
 
 std::uint32_t Restore(const CString& path, Part part, const CString& state)

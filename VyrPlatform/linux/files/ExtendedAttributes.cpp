@@ -2,6 +2,7 @@
 #include "ExtendedAttributes.h"
 
 #include "DosAttribute.h"
+#include "FileStatus.h"
 
 #include <array>
 #include <cerrno>
@@ -87,11 +88,11 @@ std::optional<std::uint32_t> GetNtfsAttributes(const NativePath& path)
 
 } // namespace
 
-std::optional<std::uint32_t> GetAttributes(const NativePath& path)
+std::optional<std::uint32_t> GetAttributes(const NativePath& path, const struct statx& status)
 {
     if (const DosAttribute samba = ParseDosAttribute(Value(path, sambaName).Bytes()); samba.attributes)
         return samba.attributes;
-    return GetNtfsAttributes(path);
+    return MayBeNtfs(status) ? GetNtfsAttributes(path) : std::nullopt;
 }
 
 std::optional<FileTicks> GetSambaCreated(const NativePath& path)

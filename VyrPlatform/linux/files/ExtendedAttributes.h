@@ -8,13 +8,14 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <sys/stat.h>
 #include <utility>
 #include <vector>
 
 namespace VyrPlatform::ExtendedAttributes {
 
-/// The attributes (FILE_ATTRIBUTE_... bits) of the file at `path`; nothing where none are kept.
-[[nodiscard]] std::optional<std::uint32_t> GetAttributes(const NativePath& path);
+/// The attributes (FILE_ATTRIBUTE_... bits) of the file at `path`, which has `status`; nothing where none are kept.
+[[nodiscard]] std::optional<std::uint32_t> GetAttributes(const NativePath& path, const struct statx& status);
 
 /// The creation time in Samba's attribute of the file at `path`; nothing where it has none.
 [[nodiscard]] std::optional<FileTicks> GetSambaCreated(const NativePath& path);

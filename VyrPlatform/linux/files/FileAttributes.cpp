@@ -3,12 +3,15 @@
 
 #include "ExtendedAttributes.h"
 #include "FileStatus.h"
+#include "ReadOnlyState.h"
 
 #include <cerrno>
 #include <fstream>
 #include <string>
 
-namespace VyrPlatform::FileAttributes {
+namespace VyrPlatform {
+
+namespace FileAttributes {
 
 namespace {
 
@@ -36,7 +39,7 @@ bool Ask(const NativePath& path, State& state)
         return false;
     state.isFolder = S_ISDIR(status.stx_mode);
     state.mode = status.stx_mode & permissions;
-    state.attributes = ExtendedAttributes::GetAttributes(path).value_or(0) & ~(folder | normal | noAttribute);
+    state.attributes = ExtendedAttributes::GetAttributes(path, status).value_or(0) & ~(folder | normal | noAttribute);
     if (state.isFolder)
         state.attributes |= folder;
     else if (!(state.mode & S_IWUSR))
@@ -142,4 +145,12 @@ LiftedReadOnly::~LiftedReadOnly()
         static_cast<void>(SetMode(NativePath(m_path), *m_before));
 }
 
-} // namespace VyrPlatform::FileAttributes
+} // namespace FileAttributes
+
+bool IsReadOnlyFile(const NativePath& path, const struct statx& status)
+{
+    return !(status.stx_mode & S_IWUSR) ||
+           (ExtendedAttributes::GetAttributes(path, status).value_or(0) & FileAttributes::readOnly);
+}
+
+} // namespace VyrPlatform

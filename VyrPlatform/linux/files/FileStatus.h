@@ -17,6 +17,13 @@ namespace VyrPlatform {
     return statx(AT_FDCWD, path.Get(), flags, mask, &status) == 0;
 }
 
+/// Whether the file of `status` may lie on a file system of Windows: those of Linux itself know files that are left out
+/// of backups (chattr +d), for which NTFS has no place.
+[[nodiscard]] inline bool MayBeNtfs(const struct statx& status) noexcept
+{
+    return !(status.stx_attributes_mask & STATX_ATTR_NODUMP);
+}
+
 /// A time of the system as ticks, fractions rounded down; the nearest value for one out of range.
 [[nodiscard]] FileTicks ToTicks(const struct statx_timestamp& time) noexcept;
 /// The inverse.

@@ -1,16 +1,23 @@
 #include <VyrPlatform/files/FileTimes.h>
 
+#include "CreationTime.h"
 #include "ExtendedAttributes.h"
 #include "FileStatus.h"
+#include "ReadOnlyState.h"
 
 #include <VyrPlatform/common/time/Epochs.h>
-#include <VyrPlatform/files/FileAttributes.h>
 
 #include <cerrno>
 
-namespace VyrPlatform::FileTimes {
+namespace VyrPlatform {
+
+namespace FileTimes {
 
 namespace {
+
+/// The times that every file system can hold, whatever its own ends: FAT begins with 1980, and 32 bits end in 2038.
+constexpr FileTicks firstOfAll = (secondsToUnixEpoch + 315'532'800 + secondsPerDay) * ticksPerSecond;
+constexpr FileTicks lastOfAll = (secondsToUnixEpoch + 0x7FFF'FFFF - secondsPerDay) * ticksPerSecond;
 
 struct timespec AsItWas(const struct statx_timestamp& time) noexcept
 {
@@ -22,6 +29,11 @@ struct timespec AsItWas(const struct statx_timestamp& time) noexcept
 struct timespec NewTime(FileTicks wanted, const struct statx_timestamp& before) noexcept
 {
     return wanted == 0 ? AsItWas(before) : ToTimespec(wanted);
+}
+
+bool CanBeOutOfRange(FileTicks wanted) noexcept
+{
+    return wanted != 0 && (wanted < firstOfAll || wanted > lastOfAll);
 }
 
 /// Whether the time that was stored for `wanted` is too far off: file systems store the nearest value that they can
@@ -40,6 +52,8 @@ int WriteKernelTimes(const NativePath& path, const NewTimes& times, const struct
                                       NewTime(times.modified, before.stx_mtime)};
     if (utimensat(AT_FDCWD, path.Get(), wanted, 0) != 0)
         return errno;
+    if (!CanBeOutOfRange(times.modified) && !CanBeOutOfRange(times.accessed))
+        return 0;
     struct statx after;
     if (!AskStatus(path, 0, STATX_MTIME | STATX_ATIME, after) ||
         (!IsFarOff(after.stx_mtime, times.modified) && !IsFarOff(after.stx_atime, times.accessed)))
@@ -77,14 +91,7 @@ std::optional<FileTicks> GetCreated(const CString& path)
     struct statx status;
     if (!AskStatus(nativePath, 0, STATX_BTIME | STATX_MTIME, status))
         return std::nullopt;
-    if (const auto kept = ExtendedAttributes::GetSambaCreated(nativePath))
-        return kept;
-    // A Windows file system that has a birth time has the same time in its attributes.
-    if (status.stx_mask & STATX_BTIME)
-        return ToTicks(status.stx_btime);
-    if (const auto kept = ExtendedAttributes::GetNtfsCreated(nativePath))
-        return kept;
-    return ToTicks(status.stx_mtime);
+    return CreatedOf(nativePath, status);
 }
 
 std::optional<FileTicks> GetAccessed(const CString& path)
@@ -110,14 +117,26 @@ std::uint32_t Write(const CString& path, const NewTimes& times)
 {
     const NativePath nativePath(path);
     struct statx before;
-    if (!AskStatus(nativePath, 0, STATX_TYPE | STATX_MTIME | STATX_ATIME, before))
+    if (!AskStatus(nativePath, 0, STATX_TYPE | STATX_MODE | STATX_MTIME | STATX_ATIME, before))
         return static_cast<std::uint32_t>(errno);
     if (times.created < 0 || times.modified < 0 || times.accessed < 0)
         return EINVAL;
-    if (!S_ISDIR(before.stx_mode) && FileAttributes::IsReadOnly(path))
+    if (!S_ISDIR(before.stx_mode) && IsReadOnlyFile(nativePath, before))
         return EACCES;
     return static_cast<std::uint32_t>(times.created == 0 ? WriteKernelTimes(nativePath, times, before)
                                                          : WriteAllTimes(nativePath, times, before));
 }
 
-} // namespace VyrPlatform::FileTimes
+} // namespace FileTimes
+
+FileTicks CreatedOf(const NativePath& path, const struct statx& status)
+{
+    if (const auto kept = ExtendedAttributes::GetSambaCreated(path))
+        return *kept;
+    // A Windows file system that has a birth time has the same time in its attributes.
+    if (status.stx_mask & STATX_BTIME)
+        return ToTicks(status.stx_btime);
+    return ExtendedAttributes::GetNtfsCreated(path).value_or(ToTicks(status.stx_mtime));
+}
+
+} // namespace VyrPlatform

@@ -8,6 +8,7 @@
 #include <VyrPlatform/files/FileAttributes.h>
 
 #include <string>
+#include <utility>
 
 namespace VyrPlatform::ExactState {
 
@@ -42,6 +43,12 @@ std::optional<CString> Read(const CString& path, Part part, std::uint32_t& error
 {
     if (part == Part::Attributes)
         return ReadAttributes(path, error);
+    auto time = ReadTime(path, part, error);
+    return time ? std::optional(std::move(time->state)) : std::nullopt;
+}
+
+std::optional<TimeState> ReadTime(const CString& path, Part part, std::uint32_t& error)
+{
     const Handle file = OpenEntry(LongPath(path), FILE_READ_ATTRIBUTES, Links::Follow);
     FILETIME created;
     FILETIME accessed;
@@ -50,10 +57,10 @@ std::optional<CString> Read(const CString& path, Part part, std::uint32_t& error
         error = GetLastError();
         return std::nullopt;
     }
-    const FILETIME& time = part == Part::Created ? created : part == Part::Accessed ? accessed : modified;
-    CString text;
-    text.Format(u"%d", ToTicks(time));
-    return text;
+    TimeState time;
+    time.ticks = ToTicks(part == Part::Created ? created : part == Part::Accessed ? accessed : modified);
+    time.state.Format(u"%d", time.ticks);
+    return time;
 }
 
 std::uint32_t Restore(const CString& path, Part part, const CString& state)

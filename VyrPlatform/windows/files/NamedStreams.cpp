@@ -29,6 +29,39 @@ DWORD ReadAll(HANDLE stream, std::string& bytes)
     return size > mostBytes ? ERROR_FILE_TOO_LARGE : ERROR_SUCCESS;
 }
 
+/// Keeps the times of a file: to the system a stream is part of it, and writing or deleting one changes them.
+class KeptTimes
+{
+public:
+    explicit KeptTimes(const CString& path)
+        : m_file(OpenEntry(LongPath(path), FILE_READ_ATTRIBUTES | FILE_WRITE_ATTRIBUTES, Links::Follow)),
+          m_isKnown(m_file.IsOpen() && GetFileTime(m_file.Get(), nullptr, &m_accessed, &m_modified))
+    {}
+    KeptTimes(const KeptTimes&) = delete;
+    KeptTimes& operator=(const KeptTimes&) = delete;
+    ~KeptTimes()
+    {
+        if (m_isKnown)
+            SetFileTime(m_file.Get(), nullptr, &m_accessed, &m_modified);
+    }
+
+private:
+    Handle m_file;
+    FILETIME m_accessed{};
+    FILETIME m_modified{};
+    bool m_isKnown;
+};
+
+std::uint32_t WriteStream(const CString& path, const std::string& bytes)
+{
+    const Handle stream(CreateFileW(LongPath(path, zoneStream).Get(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                    CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+    DWORD written = 0;
+    const bool isWritten = stream.IsOpen() &&
+                           WriteFile(stream.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    return isWritten ? ERROR_SUCCESS : GetLastError();
+}
+
 } // namespace
 
 std::optional<std::vector<ZoneForm>> ReadZoneMark(const CString& path, std::uint32_t& error)
@@ -56,16 +89,13 @@ std::uint32_t WriteZoneForm(const CString& path, const ZoneForm& form)
         return ERROR_INVALID_PARAMETER;
     if (!FileSystem::Exists(path))
         return ERROR_FILE_NOT_FOUND;
-    const Handle stream(CreateFileW(LongPath(path, zoneStream).Get(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
-                                    CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-    DWORD written = 0;
-    const bool isWritten = stream.IsOpen() && WriteFile(stream.Get(), form.bytes.data(),
-                                                        static_cast<DWORD>(form.bytes.size()), &written, nullptr);
-    return isWritten ? ERROR_SUCCESS : GetLastError();
+    const KeptTimes times(path);
+    return WriteStream(path, form.bytes);
 }
 
 std::uint32_t DeleteZoneMark(const CString& path)
 {
+    const KeptTimes times(path);
     return DeleteFileW(LongPath(path, zoneStream).Get()) ? 0 : GetLastError();
 }
 

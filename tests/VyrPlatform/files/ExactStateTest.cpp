@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <utility>
 
 namespace FileAttributes = VyrPlatform::FileAttributes;
 namespace FileTimes = VyrPlatform::FileTimes;
@@ -50,6 +51,26 @@ TEST(ExactState, TimeIsRestoredWithoutTheOthers)
         EXPECT_EQ(Restore(path, Part::Accessed, accessed), 0U);
         EXPECT_EQ(FileTimes::GetModified(path), TicksOfUnixTime(1'700'000'000, 1'234'567));
         EXPECT_EQ(StateOf(path, Part::Accessed), accessed);
+    }
+}
+
+TEST(ExactState, TimeIsToldWithItsState)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a", "x");
+    VyrTests::StampFile(path, TicksOfUnixTime(1'700'000'000, 1'234'567), TicksOfUnixTime(1'600'000'000, 7));
+    constexpr std::pair<Part, std::optional<VyrPlatform::FileTicks> (*)(const CString&)> times[] = {
+        {Part::Modified, FileTimes::GetModified},
+        {Part::Accessed, FileTimes::GetAccessed},
+        {Part::Created, FileTimes::GetCreated}};
+    for (const auto& [part, get] : times) {
+        std::uint32_t error = 0;
+        const auto time = VyrPlatform::ExactState::ReadTime(path, part, error);
+        ASSERT_TRUE(time) << error;
+        EXPECT_EQ(time->ticks, get(path));
+        EXPECT_EQ(time->state, StateOf(path, part));
+        EXPECT_FALSE(VyrPlatform::ExactState::ReadTime(scratch.Path(u"missing"), part, error));
+        EXPECT_NE(error, 0U);
     }
 }
 

@@ -1,5 +1,6 @@
 // The mark of a download is removed, the file is kept.
 #include <VyrPlatform/files/NamedStreams.h>
+#include <tests/support/FileMoments.h>
 #include <tests/support/FileState.h>
 #include <tests/support/ScratchFolder.h>
 
@@ -55,6 +56,21 @@ TEST(NamedStreams, ZoneMarkOfANeighbourStays)
     VyrTests::MarkAsDownloaded(neighbour);
     EXPECT_EQ(NamedStreams::DeleteZoneMark(path), 0U);
     EXPECT_TRUE(VyrTests::IsMarkedAsDownloaded(neighbour));
+}
+
+TEST(NamedStreams, TimesOfTheFileStay)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a", "content");
+    const auto modified = VyrTests::TicksOfUnixTime(1'600'000'000, 1'234'567);
+    const auto accessed = VyrTests::TicksOfUnixTime(1'700'000'000, 7);
+    VyrTests::StampFile(path, modified, accessed);
+    ASSERT_EQ(NamedStreams::WriteZoneForm(path, {CString(NamedStreams::zoneStream), "ZoneId=3"}), 0U);
+    EXPECT_EQ(VyrPlatform::FileTimes::GetModified(path), modified);
+    EXPECT_EQ(VyrPlatform::FileTimes::GetAccessed(path), accessed);
+    ASSERT_EQ(NamedStreams::DeleteZoneMark(path), 0U);
+    EXPECT_EQ(VyrPlatform::FileTimes::GetModified(path), modified);
+    EXPECT_EQ(VyrPlatform::FileTimes::GetAccessed(path), accessed);
 }
 
 TEST(NamedStreams, ZoneMarkThatWasReadIsWrittenBack)
