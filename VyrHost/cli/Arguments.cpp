@@ -37,6 +37,15 @@ std::size_t ValuesBehind(const CLI::App& command, const std::string& argument)
     return values > 0 && equals != std::string::npos ? values - 1 : values;
 }
 
+/// The parser would take the next argument for the value that is missing in "--option=".
+void RefuseEmptyValue(const CLI::App& command, const std::string& argument)
+{
+    const std::string name = argument.substr(0, argument.find('='));
+    const CLI::Option* const option = command.get_option_no_throw(name);
+    if (option && option->get_items_expected_min() > 0 && argument.size() == name.size() + 1)
+        throw Text::UsageError(name + "= is given no value; an empty one is given by " + name + " \"\"");
+}
+
 } // namespace
 
 const CLI::App& CommandOf(const CLI::App& program, const std::vector<CString>& arguments)
@@ -66,6 +75,7 @@ std::vector<Argument> CutArguments(const CLI::App& program, const std::vector<CS
         } else if (!arePlain && argument.bytes.size() > 1 && argument.bytes.starts_with('-')) {
             argument.role = ArgumentRole::Option;
             values = ValuesBehind(command, argument.bytes);
+            RefuseEmptyValue(command, argument.bytes);
         }
         cut.push_back(std::move(argument));
     }

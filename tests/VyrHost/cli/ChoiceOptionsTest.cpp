@@ -68,6 +68,8 @@ TEST_F(ChoiceOptions, WrongOnesAreRefusedAndChangeNothing)
         {{u"--size=2MB..1MB"}, "the range begins after its end"},
         {{u"--size=big"}, "giant or FROM..TO is expected"},
         {{u"--include", u""}, "a name or a pattern is expected"},
+        {{u"--include="}, "--include= is given no value; an empty one is given by --include \"\""},
+        {{u"--size="}, "--size= is given no value"},
         {{u"--match-case"}, "--match-case changes nothing without --include or --exclude"},
     };
     for (const auto& [options, reason] : calls) {
