@@ -8,6 +8,7 @@
 #include <tests/support/FileMoments.h>
 #include <tests/support/FileState.h>
 #include <tests/support/PictureBuilder.h>
+#include <tests/support/StdPath.h>
 
 #include <filesystem>
 #include <optional>
@@ -87,6 +88,25 @@ TEST_F(ChangeCommands, RowSaysWhyAnEntryCannotBeChanged)
     EXPECT_THAT(result.output, HasSubstr("refused: the date in its name does not exist"));
     EXPECT_THAT(result.output, HasSubstr("refused: its name holds no date"));
     EXPECT_THAT(result.output, HasSubstr("4 entries: 1 changed, 3 refused."));
+}
+
+TEST_F(ChangeCommands, FileThatVanishesBeforeItIsChangedFailsInItsRow)
+{
+    const CString staying = Make(u"staying");
+    const CString vanishing = Make(u"vanishing");
+    ProgramCall call = CallOf({u"times", u"--set-modified=2020-02-03 04:05", u"vanishing", u"staying", u"--apply"});
+    call.stopsAtChanges = true;
+    ChildProcess child(call);
+    // It has looked at the files, and is about to write its journal.
+    ASSERT_TRUE(child.GoToNextChange());
+    ASSERT_TRUE(std::filesystem::remove(ToStdPath(vanishing)));
+    const ProgramResult result = child.Wait();
+    EXPECT_EQ(result.exitCode, 1) << result.errors;
+    EXPECT_THAT(result.output, HasSubstr("failed: "));
+    EXPECT_THAT(result.output, HasSubstr("2 entries: 1 changed, 1 failed.\nThis was batch 1;"));
+    EXPECT_EQ(FileTimes::GetModified(staying), TicksOfUnixTime(1'580'702'700));
+    EXPECT_EQ(Run({u"undo"}).exitCode, 0) << "what was not done is not undone either";
+    EXPECT_EQ(FileTimes::GetModified(staying), TicksOfUnixTime(moment, 1'234'567));
 }
 
 TEST_F(ChangeCommands, ListIsStaggeredInItsOrder)

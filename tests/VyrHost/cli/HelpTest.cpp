@@ -2,6 +2,8 @@
 #include "VyrProgram.h"
 
 #include <gmock/gmock.h>
+#include <tests/support/FileState.h>
+#include <tests/support/PictureBuilder.h>
 #include <tests/support/RemoveTree.h>
 
 #include <sstream>
@@ -168,6 +170,36 @@ TEST_F(Help, EveryExampleOfUndoRunsAfterABatch)
         const bool isList = example.find("--list") != std::string::npos;
         EXPECT_EQ(m_folder.Has(u"old.txt"), !isList) << example;
         EXPECT_EQ(result.output.find("applied") != std::string::npos, isList) << example << result.output;
+    }
+}
+
+TEST_F(Help, EveryExampleThatShowsOrChangesFilesInPlaceRuns)
+{
+    PictureFacts facts;
+    facts.dateTimeOriginal = "2023:01:02 03:04:05";
+    for (const char16_t* const name : {u"a.jpg", u"IMG_20240105_103000.jpg", u"Pictures/b.jpg"})
+        m_folder.WriteFile(name, BuildJpeg(facts));
+    m_folder.WriteFile(u"Downloads/c.pdf");
+    MarkAsDownloaded(m_folder.WriteFile(u"d.pdf"));
+    for (const CString command : {u"list", u"times", u"attributes", u"unblock"}) {
+        if (command == u"attributes") {
+            EXPECT_EQ(Run({command, u"--set=read-only", u"a.jpg", u"--apply"}).exitCode, 0);
+        }
+        const std::vector<std::string> examples = Examples(Run({command, u"--help"}).output);
+        EXPECT_GE(examples.size(), 2u);
+        for (const std::string& example : examples) {
+            std::vector<CString> arguments = Arguments(example);
+            arguments.erase(arguments.begin());
+            ASSERT_EQ(arguments.at(0), command) << example;
+            const ProgramResult result = Run(arguments);
+            EXPECT_EQ(result.exitCode, 0) << example << '\n' << result.output << result.errors;
+            EXPECT_FALSE(result.output.empty()) << example;
+            const bool isApplied = result.output.find("This was batch") != std::string::npos;
+            EXPECT_EQ(isApplied, example.find("--apply") != std::string::npos) << example << '\n' << result.output;
+            if (isApplied) {
+                EXPECT_EQ(Run({u"undo"}).exitCode, 0) << example;
+            }
+        }
     }
 }
 

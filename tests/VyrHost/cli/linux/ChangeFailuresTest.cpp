@@ -1,0 +1,104 @@
+// Tests of the program: changes in place that the system refuses, said in their rows, with nothing half done.
+#include "UnprivilegedProgram.h"
+
+#include <VyrPlatform/files/FileTimes.h>
+
+#include <gmock/gmock.h>
+#include <tests/support/FileMoments.h>
+#include <tests/support/TreeState.h>
+#include <tests/support/linux/MountedFolder.h>
+
+#include <fstream>
+#include <sys/stat.h>
+
+using namespace VyrTests;
+using testing::HasSubstr;
+
+namespace FileTimes = VyrPlatform::FileTimes;
+
+namespace {
+
+using ChangeFailures = UnprivilegedProgram;
+
+constexpr auto before = TicksOfUnixTime(1'600'000'000);
+
+} // namespace
+
+TEST_F(ChangeFailures, OnAFileSystemWithoutExtendedAttributesLeaveAllAsItWas)
+{
+    const MountedFolder disk(MountedFolder::Kind::Exfat);
+    if (!disk.WhyNot().empty())
+        GTEST_SKIP() << disk.WhyNot();
+    const CString path = disk.Path(u"a");
+    std::ofstream(ToStdPath(path)) << "content";
+    StampFile(path, before, before);
+    // The first look sets the access time: this file system does not keep readers from that.
+    static_cast<void>(TreeState(disk.Path()));
+    const auto tree = TreeState(disk.Path());
+    const std::vector<CString> calls[] = {
+        {u"times", u"--set-created=2019-09-09", u"--set-modified=2019-09-09", path, u"--apply"},
+        {u"attributes", u"--set=hidden", path, u"--apply"},
+        {u"attributes", u"--set=hidden,read-only", path, u"--apply"}};
+    for (const std::vector<CString>& call : calls) {
+        const ProgramResult result = Run(call);
+        EXPECT_EQ(result.exitCode, 1) << result.output << result.errors;
+        EXPECT_THAT(result.output, HasSubstr("failed: "));
+        EXPECT_THAT(result.output, HasSubstr("1 entry: 1 failed.\nNothing was changed.\n"));
+        EXPECT_EQ(TreeState(disk.Path()), tree);
+    }
+    EXPECT_THAT(Run({u"unblock", path, u"--apply"}).output, HasSubstr("1 entry: 1 unchanged."));
+    EXPECT_EQ(Run({u"times", u"--set-modified=2019-09-09 10:00", path, u"--apply"}).exitCode, 0);
+    EXPECT_NE(FileTimes::GetModified(path), before);
+    EXPECT_EQ(Run({u"undo", u"1"}).exitCode, 0);
+    EXPECT_EQ(TreeState(disk.Path()), tree);
+}
+
+TEST_F(ChangeFailures, OfFilesOfOthersStandInTheirRows)
+{
+    for (const char16_t* const name : {u"mine", u"others"})
+        StampFile(m_folder.WriteFile(name, "content"), before, before);
+    const ScratchFolder journal;
+    m_environment[u"VYR_JOURNAL_DIR"] = journal.Path(u"journal");
+    for (const CString& path : {m_folder.Path(), journal.Path()})
+        ASSERT_EQ(chmod(ToStdPath(path).c_str(), 0777), 0);
+    if (geteuid() != 0 || RunUnprivileged({u"--version"}).exitCode != 0)
+        GTEST_SKIP() << "needs root, and a program that others can run";
+    ASSERT_EQ(chown(ToStdPath(m_folder.Path(u"mine")).c_str(), 65534, 65534), 0);
+    const std::vector<CString> calls[] = {{u"times", u"--set-modified=2019-09-09", u"mine", u"others", u"--apply"},
+                                          {u"attributes", u"--set=read-only,hidden", u"mine", u"others", u"--apply"}};
+    for (const std::vector<CString>& call : calls) {
+        const auto tree = TreeState(m_folder.Path());
+        const ProgramResult result = RunUnprivileged(call);
+        EXPECT_EQ(result.exitCode, 1) << result.errors;
+        EXPECT_THAT(result.output, HasSubstr("failed: "));
+        EXPECT_THAT(result.output, HasSubstr("2 entries: 1 changed, 1 failed.\n"));
+        const auto changed = TreeState(m_folder.Path());
+        EXPECT_NE(changed.at("mine"), tree.at("mine"));
+        EXPECT_EQ(changed.at("others"), tree.at("others"));
+        EXPECT_EQ(RunUnprivileged({u"undo"}).exitCode, 0);
+        EXPECT_EQ(TreeState(m_folder.Path()), tree);
+    }
+}
+
+TEST_F(ChangeFailures, FullDiskUnderTheJournalKeepsAllAsItIs)
+{
+    const MountedFolder disk(MountedFolder::Kind::Memory, "size=64k");
+    if (!disk.WhyNot().empty())
+        GTEST_SKIP() << disk.WhyNot();
+    const CString path = m_folder.WriteFile(u"a", "content");
+    StampFile(path, before, before);
+    m_environment[u"VYR_JOURNAL_DIR"] = disk.Path(u"journal");
+    std::ofstream(ToStdPath(disk.Path(u"filler"))) << std::string(1 << 17, 'x');
+    const auto tree = TreeState(m_folder.Path());
+    const std::vector<CString> calls[] = {{u"times", u"--shift=1h", u"a", u"--apply"},
+                                          {u"attributes", u"--set=hidden", u"a", u"--apply"}};
+    for (const std::vector<CString>& call : calls) {
+        const ProgramResult result = Run(call);
+        EXPECT_EQ(result.exitCode, 4) << result.output;
+        EXPECT_THAT(result.errors, HasSubstr("the journal cannot be written, so that nothing was done: No space left"));
+        EXPECT_EQ(TreeState(m_folder.Path()), tree);
+    }
+    std::filesystem::remove(ToStdPath(disk.Path(u"filler")));
+    EXPECT_EQ(Run(calls[0]).exitCode, 0);
+    EXPECT_NE(TreeState(m_folder.Path()), tree);
+}
