@@ -131,7 +131,7 @@ bool BatchWork::Locate(const JournalFile& file, Direction direction, bool isPrev
     locator.TrustCheckpoint();
     locator.Locate(lastWork);
     m_changes.TrustCheckpoint();
-    m_changes.Locate();
+    m_changes.Locate(wasCutOff && !isPreview);
     // Folders that could not be removed when it was undone.
     bool isAnyFound = (file.phase == BatchPhase::Undone && !isRedo && HasMadeFolder()) || m_changes.IsAnyFound();
     for (Model::PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry) {

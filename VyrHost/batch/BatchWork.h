@@ -26,12 +26,15 @@ public:
     /// Believes the journal's checkpoint about the changes that are not done: they are left alone and not reported.
     void TrustCheckpoint();
     /// Looks at what every file has.
-    void Locate();
+    /// @param mends  whether the work was cut off, and the files may be changed (Change::Mend).
+    void Locate(bool mends);
     /// Whether there is one that is not kept, and whose file has the change or can get it.
     [[nodiscard]] bool IsAnyFound() const;
 
-    /// Applies the changes, or takes them back in reverse order. What another program has changed since stays.
-    /// @param report called once for each change.
+    /// Applies the changes, or takes them back in reverse order. What another program has changed since stays. Where
+    /// there are many, two threads share them.
+    /// @param report called once for each change, in their order.
+    /// @param isStopAsked asked before each change, or before every 512 where there are as many.
     /// @return false when it was stopped before the end.
     bool Run(Direction direction, const Report& report, const Executor::StopRequest& isStopAsked);
     /// After Locate: what Run would report of a change.

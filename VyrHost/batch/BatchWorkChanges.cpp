@@ -2,7 +2,10 @@
 #include <VyrHost/batch/BatchWork.h>
 
 #include <VyrHost/model/SlotTable.h>
+#include <VyrHost/model/TwoThreads.h>
 #include <VyrHost/text/Errors.h>
+
+#include <algorithm>
 
 namespace VyrHost::Batch {
 
@@ -44,11 +47,16 @@ void ChangeWork::TrustCheckpoint()
             m_isKept[index] = true;
 }
 
-void ChangeWork::Locate()
+void ChangeWork::Locate(bool mends)
 {
-    for (std::size_t index = 0; index < m_looks.size(); ++index)
-        if (!m_isKept[index])
-            m_looks[index] = m_journal.changes[index].change->Look(PathOf(index));
+    for (std::size_t index = 0; index < m_looks.size(); ++index) {
+        if (m_isKept[index])
+            continue;
+        const CString path = PathOf(index);
+        if (mends)
+            m_journal.changes[index].change->Mend(path);
+        m_looks[index] = m_journal.changes[index].change->Look(path);
+    }
 }
 
 bool ChangeWork::IsAnyFound() const
@@ -61,13 +69,28 @@ bool ChangeWork::IsAnyFound() const
 
 bool ChangeWork::Run(Direction direction, const Report& report, const Executor::StopRequest& isStopAsked)
 {
+    // Many are worked on together, few one by one.
+    constexpr std::size_t together = 512;
+    std::vector<std::size_t> toDo;
+    toDo.reserve(m_looks.size());
+    for (std::size_t index = 0; index < m_looks.size(); ++index)
+        if (!m_isKept[index])
+            toDo.push_back(index);
+    if (direction == Direction::Backward)
+        std::reverse(toDo.begin(), toDo.end());
+    const std::size_t most = toDo.size() < together ? 1 : together;
     bool isStopped = false;
-    for (std::size_t count = 0; count < m_looks.size(); ++count) {
-        const std::size_t index = direction == Direction::Forward ? count : m_looks.size() - 1 - count;
-        if (m_isKept[index])
-            continue;
+    for (std::size_t first = 0; first < toDo.size(); first += most) {
+        const std::size_t count = std::min(most, toDo.size() - first);
+        std::vector<Outcome> outcomes(count);
         isStopped = isStopped || isStopAsked();
-        report(index, isStopped ? Outcome() : Perform(index, direction));
+        if (!isStopped)
+            Model::OnTwoThreads(0, count, [&](std::size_t at, std::size_t end) {
+                for (; at < end; ++at)
+                    outcomes[at] = Perform(toDo[first + at], direction);
+            });
+        for (std::size_t at = 0; at < count; ++at)
+            report(toDo[first + at], outcomes[at]);
     }
     return !isStopped;
 }

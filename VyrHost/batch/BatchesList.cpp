@@ -95,10 +95,11 @@ Model::Result BatchResults::At(std::size_t index) const
     result.from = PathOf(entry.change || isForward ? entry.before : entry.after);
     if (!entry.change)
         result.to = PathOf(isForward ? entry.after : entry.before);
-    else if (isForward)
-        result.values = {entry.change->ShownBefore(), entry.change->ShownAfter()};
     else
-        result.values = {entry.change->ShownAfter(), entry.change->ShownBefore()};
+        result.values = [change = entry.change.get(), isForward] {
+            return isForward ? Model::ResultValues{change->ShownBefore(), change->ShownAfter()}
+                             : Model::ResultValues{change->ShownAfter(), change->ShownBefore()};
+        };
     result.status = entry.result.status;
     result.reason = entry.result.reason;
     result.hasChanged = entry.hasChanged;

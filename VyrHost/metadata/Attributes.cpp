@@ -100,6 +100,17 @@ CString AttributesChange::ShownAfter() const
     return AttributeLetters((m_bits.before & ~m_bits.mask) | m_bits.value);
 }
 
+/// A file may have lost its protection only, or, of its permissions to write, all but the owner's.
+void AttributesChange::Mend(const CString& path) const
+{
+    constexpr std::uint32_t readOnly = 0x1;
+    const bool wasProtected = (m_bits.before & ~m_bits.mask & readOnly) != 0;
+    const bool isUnprotected = wasProtected && !VyrPlatform::FileAttributes::IsReadOnly(path);
+    // Where it cannot be restored, the file stays as it is, and the work on it tells why.
+    if (isUnprotected || Look(path).state == ChangeState::Before)
+        static_cast<void>(VyrPlatform::ExactState::Restore(path, Part::Attributes, m_bits.beforeState));
+}
+
 ChangeLook AttributesChange::Look(const CString& path) const
 {
     const std::uint32_t now = VyrPlatform::FileAttributes::Get(path);

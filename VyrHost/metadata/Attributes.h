@@ -55,6 +55,7 @@ public:
     [[nodiscard]] CString After() const override;
     [[nodiscard]] CString ShownBefore() const override;
     [[nodiscard]] CString ShownAfter() const override;
+    void Mend(const CString& path) const override;
     /// An attribute has only two states, so a change by another program looks like a part of this change that is not
     /// done.
     [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;

@@ -4,9 +4,11 @@
 #include <VyrHost/metadata/Attributes.h>
 #include <VyrHost/metadata/Marks.h>
 #include <VyrHost/metadata/Times.h>
+#include <VyrHost/model/TwoThreads.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrPlatform/files/FileIdentity.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cstddef>
 #include <string>
@@ -18,15 +20,23 @@ namespace VyrHost::Metadata {
 std::vector<Proposal> ProposeChanges(const ChangeRule& rule, const Model::EntryList& list,
                                      const std::function<void(std::size_t done)>& report)
 {
-    std::vector<Proposal> proposals;
-    proposals.reserve(list.entries.size());
-    for (const Model::Entry& entry : list.entries) {
+    // As many are proposed between one report and the next.
+    constexpr std::size_t together = 512;
+    const auto propose = [&rule, &list](std::size_t index) -> Proposal {
+        const Model::Entry& entry = list.entries[index];
         const CString path = list.PathOf(entry);
         if (entry.kind == VyrPlatform::FileSystem::Kind::Missing)
-            proposals.push_back({nullptr, Text::ErrorText(VyrPlatform::LookAtFile(path).error)});
-        else
-            proposals.push_back(rule.Propose(path, entry, proposals.size()));
-        report(proposals.size());
+            return {nullptr, Text::ErrorText(VyrPlatform::LookAtFile(path).error)};
+        return rule.Propose(path, entry, index);
+    };
+    std::vector<Proposal> proposals(list.entries.size());
+    for (std::size_t first = 0; first < proposals.size(); first += together) {
+        const std::size_t end = std::min(first + together, proposals.size());
+        Model::OnTwoThreads(first, end, [&](std::size_t index, std::size_t behind) {
+            for (; index < behind; ++index)
+                proposals[index] = propose(index);
+        });
+        report(end);
     }
     return proposals;
 }
@@ -78,7 +88,9 @@ Model::Result ChangeResults::At(std::size_t index) const
     result.kind = m_kind;
     result.from = {folder.path, folder.shown, entry.name};
     if (proposal.change)
-        result.values = {proposal.change->ShownBefore(), proposal.change->ShownAfter()};
+        result.values = [change = proposal.change.get()] {
+            return Model::ResultValues{change->ShownBefore(), change->ShownAfter()};
+        };
     result.status = m_outcomes[index].status;
     result.reason = m_outcomes[index].reason;
     return result;

@@ -5,6 +5,7 @@
 #include <VyrHost/metadata/Changes.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrLibraryFuncs/metadata/UnblockFuncs.h>
+#include <VyrPlatform/files/ExactState.h>
 #include <VyrPlatform/files/FileAttributes.h>
 #include <VyrPlatform/text/Encoding.h>
 
@@ -19,9 +20,11 @@ namespace {
 
 using Model::ChangeLook;
 using Model::ChangeState;
+using VyrPlatform::ExactState::Part;
 using VyrPlatform::NamedStreams::ZoneForm;
 
 constexpr std::u16string_view noMark = u"none";
+constexpr std::u16string_view protectionWord = u"attributes";
 constexpr std::u16string_view nothingTold = u"marked";
 
 CString WordForZone(std::string_view number)
@@ -83,22 +86,29 @@ CString Shown(const ZoneForms& forms)
 std::shared_ptr<const Model::Change> MarkChange::Read(const CString& before, const CString& after)
 {
     ZoneForms forms;
+    CString protection;
     for (std::u16string_view rest = before; !rest.empty();) {
         std::u16string_view piece = TakeUpTo(rest, u';');
         ZoneForm form;
         form.name = TakeUpTo(piece, u' ');
+        if (form.name == protectionWord && forms.empty() && protection.IsEmpty() && !piece.empty()) {
+            protection = piece;
+            continue;
+        }
         const auto bytes = FromHex(piece);
         if (!bytes || form.name.IsEmpty())
             return nullptr;
         form.bytes = *bytes;
         forms.push_back(std::move(form));
     }
-    return forms.empty() || after != noMark ? nullptr : std::make_shared<MarkChange>(std::move(forms));
+    return forms.empty() || after != noMark ? nullptr : std::make_shared<MarkChange>(std::move(forms), protection);
 }
 
 CString MarkChange::Before() const
 {
     CString text;
+    if (!m_protection.IsEmpty())
+        text = CString::Join({protectionWord, u" ", m_protection});
     for (const ZoneForm& form : m_forms) {
         if (!text.IsEmpty())
             text += u';';
@@ -122,6 +132,14 @@ CString MarkChange::ShownAfter() const
     return u"no mark";
 }
 
+/// The work lifts the protection of a file against writing.
+void MarkChange::Mend(const CString& path) const
+{
+    // Where it cannot be restored, the file stays as it is, and the work on it tells why.
+    if (!m_protection.IsEmpty() && !VyrPlatform::FileAttributes::IsReadOnly(path))
+        static_cast<void>(VyrPlatform::ExactState::Restore(path, Part::Attributes, m_protection));
+}
+
 ChangeLook MarkChange::Look(const CString& path) const
 {
     std::uint32_t error = 0;
@@ -132,8 +150,13 @@ ChangeLook MarkChange::Look(const CString& path) const
         return {ChangeState::After, 0};
     if (*now == m_forms)
         return {ChangeState::Before, 0};
-    const bool isPart = std::all_of(now->begin(), now->end(), [this](const ZoneForm& form) {
-        return std::find(m_forms.begin(), m_forms.end(), form) != m_forms.end();
+    // Of the last form that was written there may be the beginning only.
+    const auto isPartOf = [](const ZoneForm& part, const ZoneForm& whole) {
+        return part.name == whole.name && whole.bytes.starts_with(part.bytes);
+    };
+    const bool isPart = std::all_of(now->begin(), now->end(), [&](const ZoneForm& form) {
+        return std::any_of(m_forms.begin(), m_forms.end(),
+                           [&](const ZoneForm& whole) { return isPartOf(form, whole); });
     });
     return {isPart ? ChangeState::Partly : ChangeState::Other, 0};
 }
@@ -164,7 +187,14 @@ Proposal MarkRule::Propose(const CString& path, const Model::Entry& /*entry*/, s
         return {nullptr, Text::ErrorText(error)};
     if (forms->empty())
         return {};
-    return {std::make_shared<MarkChange>(std::move(*forms)), {}};
+    CString protection;
+    if (VyrPlatform::FileAttributes::IsReadOnly(path)) {
+        const auto state = VyrPlatform::ExactState::Read(path, Part::Attributes, error);
+        if (!state)
+            return {nullptr, Text::ErrorText(error)};
+        protection = *state;
+    }
+    return {std::make_shared<MarkChange>(std::move(*forms), protection), {}};
 }
 
 } // namespace VyrHost::Metadata

@@ -7,6 +7,7 @@
 #include <VyrHost/model/Change.h>
 #include <VyrPlatform/files/NamedStreams.h>
 
+#include <utility>
 #include <vector>
 
 namespace VyrHost::Metadata {
@@ -35,7 +36,10 @@ class MarkChange final : public Model::Change
 {
 public:
     /// @param forms  at least one.
-    explicit MarkChange(ZoneForms forms) : m_forms(std::move(forms)) {}
+    /// @param protection  the exact attributes of a read-only file; empty for any other.
+    explicit MarkChange(ZoneForms forms, CString protection = {})
+        : m_forms(std::move(forms)), m_protection(std::move(protection))
+    {}
 
     static constexpr std::string_view kind = "mark";
     /// Reads the texts of the journal; null for texts that are not of this kind.
@@ -46,12 +50,14 @@ public:
     [[nodiscard]] CString After() const override;
     [[nodiscard]] CString ShownBefore() const override;
     [[nodiscard]] CString ShownAfter() const override;
+    void Mend(const CString& path) const override;
     [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;
     [[nodiscard]] std::uint32_t Apply(const CString& path) const override;
     [[nodiscard]] std::uint32_t TakeBack(const CString& path) const override;
 
 private:
     ZoneForms m_forms;
+    CString m_protection;
 };
 
 /// Removes the mark of every file that has one.

@@ -56,6 +56,9 @@ public:
     [[nodiscard]] virtual CString ShownBefore() const = 0;
     [[nodiscard]] virtual CString ShownAfter() const = 0;
 
+    /// Where the work on the file was cut off: restores what it had been changed in for the time of the work alone,
+    /// such as its protection against writing. Called before Look.
+    virtual void Mend(const CString& /*path*/) const {}
     /// Whether the file at `path` is still as it was set.
     [[nodiscard]] virtual ChangeLook Look(const CString& path) const = 0;
     /// Sets what the change is to set. Asked for a file whose state is Before or Partly.

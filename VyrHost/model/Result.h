@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -88,8 +89,8 @@ struct Result
     ResultPath from;
     /// The new path; empty for a change in place, and where there is none.
     ResultPath to;
-    /// Of a change in place.
-    std::optional<ResultValues> values;
+    /// Of a change in place. They are made when they are asked for, as most are not.
+    std::function<ResultValues()> values;
 
     Status status = Status::NotReached;
     /// Why; empty when there is nothing to say.

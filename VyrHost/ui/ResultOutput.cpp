@@ -36,8 +36,10 @@ void AppendRemark(CString& note, std::u16string_view what, std::u16string_view w
 CString NoteFor(const Model::Result& result)
 {
     CString note;
-    if (result.values && result.status != Status::Unchanged)
-        note = CString::Join({result.values->before, u" -> ", result.values->after});
+    if (result.values && result.status != Status::Unchanged) {
+        const Model::ResultValues values = result.values();
+        note = CString::Join({values.before, u" -> ", values.after});
+    }
     const std::u16string_view word = result.status == Status::Done ? u"" : WordFor(result.status, result.kind);
     if (!result.reason.IsEmpty())
         AppendRemark(note, CString::Join({word, word.empty() ? u"" : u": "}), result.reason);
@@ -79,8 +81,9 @@ void AppendChange(std::string& line, const Model::Result& result)
         AppendJsonField(line, "kind", VyrPlatform::Encoding::FromUtf8(result.kind));
         AppendPath(line, "path", result.from);
         if (result.values) {
-            AppendJsonField(line, "from", result.values->before);
-            AppendJsonField(line, "to", result.values->after);
+            const Model::ResultValues values = result.values();
+            AppendJsonField(line, "from", values.before);
+            AppendJsonField(line, "to", values.after);
         }
         return;
     }

@@ -57,8 +57,8 @@ std::uint32_t WriteStream(const CString& path, const std::string& bytes)
     const Handle stream(CreateFileW(LongPath(path, zoneStream).Get(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
                                     CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
     DWORD written = 0;
-    const bool isWritten = stream.IsOpen() &&
-                           WriteFile(stream.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    const bool isWritten =
+        stream.IsOpen() && WriteFile(stream.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
     return isWritten ? ERROR_SUCCESS : GetLastError();
 }
 

@@ -67,13 +67,33 @@ TEST(Mark, OfAReadOnlyFileIsRemovedAndRestored)
     VyrTests::SetReadOnly(path, true);
     const Proposal proposal = Propose(path);
     ASSERT_TRUE(proposal.change);
-    EXPECT_EQ(proposal.change->Apply(path), 0U);
+    const auto read = MarkChange::Read(proposal.change->Before(), proposal.change->After());
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->Before(), proposal.change->Before());
+    EXPECT_EQ(read->Apply(path), 0U);
     EXPECT_FALSE(VyrTests::IsMarkedAsDownloaded(path));
     EXPECT_TRUE(VyrPlatform::FileAttributes::IsReadOnly(path));
+    VyrTests::SetReadOnly(path, false);
+    read->Mend(path);
+    EXPECT_TRUE(VyrPlatform::FileAttributes::IsReadOnly(path)) << "as where the work was cut off";
     EXPECT_EQ(proposal.change->TakeBack(path), 0U);
     EXPECT_TRUE(VyrTests::IsMarkedAsDownloaded(path));
     EXPECT_TRUE(VyrPlatform::FileAttributes::IsReadOnly(path));
     VyrTests::SetReadOnly(path, false);
+}
+
+TEST(Mark, OfWhichTheBeginningOnlyWasWrittenIsAPart)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a", "content");
+    const ZoneForm whole = Stream("[ZoneTransfer]\r\nZoneId=3\r\n");
+    const MarkChange change({whole});
+    for (const std::size_t length : {std::size_t{0}, std::size_t{1}, whole.bytes.size() - 1}) {
+        ASSERT_EQ(VyrPlatform::NamedStreams::WriteZoneForm(path, Stream(whole.bytes.substr(0, length))), 0U);
+        EXPECT_EQ(change.Look(path).state, ChangeState::Partly) << length;
+        EXPECT_EQ(change.TakeBack(path), 0U);
+        EXPECT_EQ(FormsOf(path), ZoneForms{whole});
+    }
 }
 
 TEST(Mark, ChangedByAnotherProgramIsNotTouched)
@@ -108,6 +128,9 @@ TEST(Mark, JournalTextsThatAreWrongAreRefused)
 {
     EXPECT_TRUE(MarkChange::Read(u":Zone.Identifier 00ff", u"none"));
     EXPECT_TRUE(MarkChange::Read(u"a ;b 00", u"none")) << "a form may be empty";
+    EXPECT_TRUE(MarkChange::Read(u"attributes 0444 - -;a 00", u"none"));
+    EXPECT_FALSE(MarkChange::Read(u"attributes 0444 - -", u"none"));
+    EXPECT_FALSE(MarkChange::Read(u"attributes 0444 - -;attributes 0444 - -;a 00", u"none"));
     for (const char16_t* const text : {u"", u" 00", u"a 0", u"a 0g", u"a 00;;"})
         EXPECT_FALSE(MarkChange::Read(text, u"none")) << VyrPlatform::Encoding::ToUtf8(text);
     EXPECT_FALSE(MarkChange::Read(u"a 00", u""));

@@ -51,7 +51,9 @@ Result TimesOf(std::u16string_view name, Status status = Status::Done)
     Result result;
     result.kind = "times";
     result.from = PathOf(name);
-    result.values = ResultValues{u"2001", u"2002"};
+    result.values = [] {
+        return ResultValues{u"2001", u"2002"};
+    };
     result.status = status;
     return result;
 }

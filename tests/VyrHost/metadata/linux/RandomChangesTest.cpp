@@ -13,18 +13,16 @@
 #include <tests/support/Describe.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
+#include <tests/support/TreeState.h>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <memory>
 #include <random>
-#include <sstream>
 #include <string>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -34,41 +32,6 @@ using namespace VyrHost;
 using namespace VyrTests;
 
 namespace {
-
-/// Every file and folder below `root` with its mode, times, extended attributes and bytes. Without times of folders: a
-/// mark may be a file beside the marked one.
-std::map<std::string, std::string> Tree(const std::filesystem::path& root)
-{
-    std::map<std::string, std::string> tree;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
-        const std::string path = entry.path();
-        struct stat status = {};
-        EXPECT_EQ(stat(path.c_str(), &status), 0);
-        std::ostringstream text;
-        text << std::oct << status.st_mode << std::dec;
-        if (!S_ISDIR(status.st_mode) && !path.ends_with(":Zone.Identifier"))
-            text << ' ' << status.st_mtim.tv_sec << '.' << status.st_mtim.tv_nsec << ' ' << status.st_atim.tv_sec << '.'
-                 << status.st_atim.tv_nsec;
-        std::string names(4096, '\0');
-        names.resize(
-            static_cast<std::size_t>(std::max<ssize_t>(listxattr(path.c_str(), names.data(), names.size()), 0)));
-        std::map<std::string, std::string> attributes;
-        for (std::size_t at = 0; at < names.size(); at += std::strlen(names.c_str() + at) + 1) {
-            std::string value(4096, '\0');
-            value.resize(static_cast<std::size_t>(
-                std::max<ssize_t>(getxattr(path.c_str(), names.c_str() + at, value.data(), value.size()), 0)));
-            attributes.emplace(names.c_str() + at, value);
-        }
-        for (const auto& [name, value] : attributes)
-            text << ' ' << name << '=' << value;
-        if (S_ISREG(status.st_mode)) {
-            // Reading may change the time of the last access.
-            text << ' ' << status.st_size;
-        }
-        tree.emplace(entry.path().lexically_relative(root), text.str());
-    }
-    return tree;
-}
 
 class RandomChanges : public testing::Test
 {
@@ -158,7 +121,7 @@ protected:
         return settings;
     }
 
-    std::map<std::string, std::string> Now() const { return Tree(ToStdPath(m_files.Path())); }
+    std::map<std::string, std::string> Now() const { return TreeState(m_files.Path()); }
 
     ScratchFolder m_files;
     ScratchFolder m_journal;

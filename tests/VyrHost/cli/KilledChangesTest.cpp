@@ -1,0 +1,150 @@
+// Tests of the program: vyr times, attributes and unblock, and the undo of each, killed between any two of their
+// changes on the disk, also between the parts of what is done to one file.
+#include <tests/VyrHost/cli/VyrProgram.h>
+
+#include <VyrPlatform/files/FileAttributes.h>
+#include <tests/support/FileMoments.h>
+#include <tests/support/FileState.h>
+#include <tests/support/StdPath.h>
+#include <tests/support/TreeState.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+using namespace VyrTests;
+
+namespace {
+
+using Tree = std::map<std::string, std::string>;
+
+class KilledChanges : public VyrProgram
+{
+protected:
+    void SetUp() override
+    {
+        m_environment[u"TZ"] = u"UTC";
+        for (const char16_t* const name : {u"plain", u"protected", u"hidden"}) {
+            const CString path = m_folder.WriteFile(name, "content");
+            MarkAsDownloaded(path);
+            if (CString(name) == u"hidden") {
+                ASSERT_EQ(VyrPlatform::FileAttributes::Set(path, 0x22), 0U);
+            }
+            constexpr std::int64_t moment = 1'704'450'600;
+            StampFile(path, TicksOfUnixTime(moment, 1'234'567), TicksOfUnixTime(moment + 60, 7));
+        }
+        SetReadOnly(m_folder.Path(u"protected"), true);
+        m_before = Now();
+    }
+    void TearDown() override { SetReadOnly(m_folder.Path(u"protected"), false); }
+
+    [[nodiscard]] Tree Now() const { return TreeState(m_folder.Path()); }
+
+    /// From now on the program keeps its journal in a folder that is not there yet, so that it makes the same changes
+    /// each time.
+    void BeginJournal()
+    {
+        CString folder;
+        folder.Format(u"journal %d", m_journals++);
+        m_environment[u"VYR_JOURNAL_DIR"] = m_journalFolder.Path(folder);
+    }
+
+    /// Starts a program, lets it make `changes`, and kills it before the next one.
+    void KillAfter(int changes, const std::vector<CString>& arguments) const
+    {
+        ProgramCall call = CallOf(arguments);
+        call.stopsAtChanges = true;
+        ChildProcess child(call);
+        for (int change = 0; change <= changes; ++change)
+            ASSERT_TRUE(child.GoToNextChange());
+        child.Kill();
+        EXPECT_NE(child.Wait().exitCode, 0);
+    }
+
+    /// Whether a batch was cut off, and has been recovered.
+    bool Recover(bool isUndone) const
+    {
+        const ProgramResult result =
+            isUndone ? Run({u"recover", u"--take-back"}) : Run(std::vector<CString>{u"recover"});
+        EXPECT_EQ(result.exitCode, 0) << result.output << result.errors;
+        return result.output.find("No batch was cut off") == std::string::npos;
+    }
+
+    void UndoFrom(const Tree& after) const
+    {
+        if (Now() == m_before)
+            return;
+        ASSERT_EQ(Now(), after);
+        const ProgramResult undone = Run(std::vector<CString>{u"undo"});
+        EXPECT_EQ(undone.exitCode, 0) << undone.output << undone.errors;
+        ASSERT_EQ(Now(), m_before);
+    }
+
+    /// Applies the call `arguments`, killed before each change that it makes, and recovers; then likewise its undo.
+    void KillEverywhere(const std::vector<CString>& arguments)
+    {
+        BeginJournal();
+        const int changes = CountChanges(CallOf(arguments));
+        const Tree after = Now();
+        ASSERT_NE(after, m_before);
+        const int changesOfUndo = CountChanges(CallOf({u"undo"}));
+        ASSERT_EQ(Now(), m_before);
+        int recovered = 0;
+        for (int made = 0; made < changes; ++made) {
+            SCOPED_TRACE("apply, " + std::to_string(made));
+            BeginJournal();
+            ASSERT_NO_FATAL_FAILURE(KillAfter(made, arguments));
+            const bool isUndone = made % 2 == 0;
+            if (Recover(isUndone)) {
+                ++recovered;
+                ASSERT_EQ(Now(), isUndone ? m_before : after);
+            }
+            ASSERT_NO_FATAL_FAILURE(UndoFrom(after));
+        }
+        for (int made = 0; made < changesOfUndo; ++made) {
+            SCOPED_TRACE("undo, " + std::to_string(made));
+            BeginJournal();
+            ASSERT_EQ(Run(arguments).exitCode, 0);
+            ASSERT_NO_FATAL_FAILURE(KillAfter(made, {u"undo"}));
+            if (Recover(false)) {
+                ++recovered;
+                ASSERT_EQ(Now(), m_before);
+            }
+            ASSERT_NO_FATAL_FAILURE(UndoFrom(after));
+        }
+        EXPECT_GT(recovered, 4);
+    }
+
+private:
+    ScratchFolder m_journalFolder;
+    Tree m_before;
+    int m_journals = 0;
+};
+
+} // namespace
+
+TEST_F(KilledChanges, TimesAreRecovered)
+{
+    std::vector<CString> arguments = {
+        u"times", u"--set-modified=2020-02-03 04:05", u"--set-accessed=2021-01-01", u"--apply", u"plain", u"hidden"};
+    const CString probe = m_folder.WriteFile(u"probe");
+    if (KeepsCreationTime(probe))
+        arguments.emplace_back(u"--set-created=2019-09-09 09:09");
+    ASSERT_TRUE(std::filesystem::remove(ToStdPath(probe)));
+    KillEverywhere(arguments);
+}
+
+TEST_F(KilledChanges, AttributesAreRecovered)
+{
+    KillEverywhere({u"attributes", u"--set=read-only,system", u"--clear=hidden", u"--apply", u"plain", u"hidden"});
+    KillEverywhere({u"attributes", u"--clear=read-only", u"--set=hidden", u"--apply", u"protected"});
+}
+
+TEST_F(KilledChanges, MarksAreRecovered)
+{
+    KillEverywhere({u"unblock", u"--apply", u"plain", u"protected"});
+}
