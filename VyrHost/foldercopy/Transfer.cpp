@@ -24,6 +24,8 @@ std::u16string_view WordsFor(TransferFault fault)
         return u"the folder where it would go cannot be read";
     case TransferFault::NotRead:
         return u"the folder cannot be read";
+    case TransferFault::LittleSpace:
+        return u"there may be too little space";
     case TransferFault::NoContent:
         return u"a pipe or a device has no content";
     case TransferFault::NoFolder:

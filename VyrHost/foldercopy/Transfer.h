@@ -30,6 +30,9 @@ enum class TransferFault : std::uint8_t
     System,
     /// The folder could not be read, so its entries are unknown.
     NotRead,
+    /// The target may have too little space for the tree and those before it. Found beforehand, but no reason to
+    /// refuse: files may take less there.
+    LittleSpace,
     /// It is a pipe or a device.
     NoContent,
     /// Its folder could not be created.
@@ -78,8 +81,11 @@ using TransferProgress = std::function<void(std::size_t)>;
 [[nodiscard]] std::uint32_t TransferFolder(const FolderSnapshot& tree, const CString& target, TransferAction action,
                                            TransferRecords& records, const TransferProgress& progress);
 
+/// Whether the files of `tree` are copied: a move copies when the full path `target` is on another file system.
+[[nodiscard]] bool CopiesFiles(const FolderSnapshot& tree, const CString& target, TransferAction action);
+
 /// Problems that the tree alone shows: folders that cannot be read, and, where files are copied, entries without
-/// content to copy. A move copies when the full path `target` is on another file system.
+/// content to copy.
 [[nodiscard]] TransferProblems ForeseeProblems(const FolderSnapshot& tree, const CString& target,
                                                TransferAction action);
 

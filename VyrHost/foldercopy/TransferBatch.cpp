@@ -2,9 +2,11 @@
 #include <VyrHost/foldercopy/TransferBatch.h>
 
 #include <VyrHost/foldercopy/Transfer.h>
+#include <VyrHostPlatform/FreeSpace.h>
 #include <VyrLibraryUtils/FileUtils.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
 #include <utility>
 
@@ -52,6 +54,8 @@ TransferBatch::TransferBatch(const std::vector<CString>& sources, const CString&
         Check(std::move(task), trial);
     if (IsRefused())
         StopAll();
+    else
+        ForeseeLittleSpace();
 }
 
 bool TransferBatch::IsRefused() const
@@ -87,6 +91,24 @@ void TransferBatch::StopAll()
             report.status = Model::Status::NotReached;
             report.problems.clear();
         }
+}
+
+/// All trees go into one folder.
+void TransferBatch::ForeseeLittleSpace()
+{
+    std::uint64_t needed = 0;
+    for (std::size_t index = 0; index < m_reports.size(); ++index) {
+        TransferReport& report = m_reports[index];
+        if (!CopiesFiles(m_trees[index], report.task.target, m_action))
+            continue;
+        needed += static_cast<std::uint64_t>(report.size.bytes);
+        const CString folder = VyrLibraryUtils::FileUtils::GetSplitDirPath(report.task.target);
+        const auto space = VyrHostPlatform::GetSpaceForCopies(report.task.source, folder);
+        if (!space || needed <= *space)
+            continue;
+        report.problems.push_back({CString(), TransferFault::LittleSpace, 0});
+        report.status = Model::Status::Incomplete;
+    }
 }
 
 void TransferBatch::Apply(TransferWatch& watch)

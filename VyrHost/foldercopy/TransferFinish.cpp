@@ -198,9 +198,14 @@ private:
 
 } // namespace
 
+bool CopiesFiles(const FolderSnapshot& tree, const CString& target, TransferAction action)
+{
+    return action == TransferAction::Copy || IsElsewhere(tree.root, target);
+}
+
 TransferProblems ForeseeProblems(const FolderSnapshot& tree, const CString& target, TransferAction action)
 {
-    const bool copies = action == TransferAction::Copy || IsElsewhere(tree.root, target);
+    const bool copies = CopiesFiles(tree, target, action);
     TransferProblems problems;
     for (const SnapshotFolder& folder : tree.folders) {
         if (folder.error != 0)

@@ -150,6 +150,28 @@ TEST(TransferLinux, PipesAreRefusedBeforehandAndFailAlone)
     EXPECT_EQ(SnapshotOf(scratch.Path(u"moved")).at("sub/pipe"), "<other>");
 }
 
+TEST(TransferLinux, LittleSpaceIsForeseenForTheTreesThatItDoesNotHold)
+{
+    const MountedFolder disk(MountedFolder::Kind::Memory, "size=1m");
+    if (!disk.WhyNot().empty())
+        GTEST_SKIP() << disk.WhyNot();
+    const ScratchFolder scratch;
+    const std::string content(600 << 10, 'x');
+    scratch.WriteFile(u"first/file", content);
+    scratch.WriteFile(u"second/file", content);
+    const std::vector<CString> sources = {scratch.Path(u"first"), scratch.Path(u"second")};
+    for (const TransferAction action : {TransferAction::Copy, TransferAction::Move}) {
+        const TransferBatch batch(sources, disk.Path(), action, Trial::No);
+        EXPECT_FALSE(batch.IsRefused());
+        EXPECT_TRUE(batch.Reports()[0].problems.empty());
+        EXPECT_EQ(batch.Reports()[1].status, VyrHost::Model::Status::Incomplete);
+        EXPECT_EQ(TextsOf(batch.Reports()[1].problems),
+                  std::vector<std::string>{Text("", TransferFault::LittleSpace, 0)});
+    }
+    const TransferBatch within({scratch.Path(u"first")}, scratch.MakeFolder(u"to"), TransferAction::Move, Trial::No);
+    EXPECT_TRUE(within.Reports()[0].problems.empty());
+}
+
 TEST(TransferLinux, SparseFilesStaySparse)
 {
     const ScratchFolder scratch;
