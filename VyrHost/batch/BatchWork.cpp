@@ -87,23 +87,14 @@ void BatchWork::Keep(Model::PlanIndex entry)
 /// Journals must stay where they are, or their batches are not found again; the lock must keep others away.
 void BatchWork::KeepJournalInPlace()
 {
-    const std::vector<Model::PlanEntry>& entries = m_journal.plan.entries;
-    const bool hasFolder = std::any_of(entries.begin(), entries.end(),
-                                       [](const Model::PlanEntry& entry) { return entry.kind == Kind::Folder; });
-    const auto way = hasFolder ? m_folder.Way() : std::vector<VyrPlatform::FileIdentity>();
-    for (Model::PlanIndex entry = 0; entry < entries.size(); ++entry) {
-        const FileState& state = m_journal.states[entry];
-        if (state.kind == Kind::Folder && std::find(way.begin(), way.end(), state.identity) != way.end())
-            KeepInPlace(entry, u"the journal that \"vyr undo\" needs is kept in it");
-        else if (state.kind == Kind::File && m_folder.Keeps(entries[entry].from.name, state.identity))
-            KeepInPlace(entry, u"it is part of the journal that \"vyr undo\" needs");
+    for (Model::PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry) {
+        const std::u16string_view reason =
+            m_folder.ReasonToStay(m_journal.plan.entries[entry].from.name, m_journal.states[entry]);
+        if (reason.empty())
+            continue;
+        m_executor.LeaveAlone(entry);
+        m_executor.SetResult(entry, {.status = Model::Status::Refused, .error = 0, .reason = reason});
     }
-}
-
-void BatchWork::KeepInPlace(Model::PlanIndex entry, const CString& reason)
-{
-    m_executor.LeaveAlone(entry);
-    m_executor.SetResult(entry, {.status = Model::Status::Refused, .error = 0, .reason = reason});
 }
 
 bool BatchWork::MayGoOn(std::uint32_t journalError)

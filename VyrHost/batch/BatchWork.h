@@ -99,7 +99,6 @@ private:
     void LeaveOut(Model::PlanIndex entry, const Model::Outcome& result);
     void Keep(Model::PlanIndex entry);
     void KeepJournalInPlace();
-    void KeepInPlace(Model::PlanIndex entry, const CString& reason);
     bool MayGoOn(std::uint32_t journalError);
     [[nodiscard]] Report CountAnd(const Report& report);
     [[nodiscard]] Model::Outcome ForeseeEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace);

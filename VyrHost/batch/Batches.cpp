@@ -181,6 +181,16 @@ BatchSettings SettingsFromEnvironment()
 
 Batches::Batches(FileOperations& files, BatchSettings settings) : m_files(&files), m_settings(std::move(settings)) {}
 
+Batches::StayReason Batches::ReasonsToStay() const
+{
+    return [journals = std::make_shared<const JournalFolder>(OpenJournals())](
+               const CString& folder, std::u16string_view name, VyrPlatform::FileSystem::Kind kind) {
+        return JournalFolder::MayHaveToStay(name, kind)
+                   ? journals->ReasonToStay(name, VyrPlatform::LookAtFile(CString::Join({folder, name})))
+                   : std::u16string_view();
+    };
+}
+
 JournalFolder Batches::OpenJournals() const
 {
     return {*m_files, m_settings.journalFolder, m_settings.keeping};

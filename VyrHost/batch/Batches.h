@@ -225,6 +225,12 @@ public:
     /// Does the renames of `plan`, which has one, likewise.
     BatchSummary Apply(Model::RenamePlan plan, const RenameReport& report, const StopRequest& isStopAsked);
 
+    /// Tells of an entry, by its folder's path (a separator at its end), name and kind, why no batch may rename it:
+    /// the journal needs it where it is. Gives an empty text for all others.
+    using StayReason = std::function<std::u16string_view(const CString& folder, std::u16string_view name,
+                                                         VyrPlatform::FileSystem::Kind kind)>;
+    [[nodiscard]] StayReason ReasonsToStay() const;
+
     /// The batches in the journal, the latest first.
     [[nodiscard]] std::vector<BatchInformation> List() const;
     /// Backward: undoes the batch `number`, in reverse order; what the batch had not done is not reported. Forward:

@@ -22,6 +22,7 @@ namespace VyrHost::Batch {
 namespace {
 
 using VyrLibraryUtils::FileUtils;
+using VyrPlatform::FileSystem::Kind;
 
 constexpr std::array<std::pair<BatchPhase, const char16_t*>, 4> endings{{{BatchPhase::Applying, u".applying"},
                                                                          {BatchPhase::Applied, u".applied"},
@@ -151,16 +152,29 @@ bool JournalFolder::IsLockedByAnother() const
     return VyrHostPlatform::FileLock(PathOf(lockName)).IsTaken();
 }
 
-std::vector<VyrPlatform::FileIdentity> JournalFolder::Way() const
+const std::vector<VyrPlatform::FileIdentity>& JournalFolder::Way() const
 {
-    return WayTo(m_path);
+    if (!m_way)
+        m_way = WayTo(m_path);
+    return *m_way;
 }
 
-bool JournalFolder::Keeps(std::u16string_view name, const VyrPlatform::FileIdentity& identity) const
+std::u16string_view JournalFolder::ReasonToStay(std::u16string_view name, const VyrPlatform::FileState& state) const
 {
-    // The system is asked only where the name is one of ours.
-    const bool isOurs = name == lockName || FileOf(name, {});
-    return isOurs && VyrPlatform::LookAtFile(PathOf(name)).identity == identity;
+    if (!MayHaveToStay(name, state.kind))
+        return {};
+    if (state.kind == Kind::File)
+        return VyrPlatform::LookAtFile(PathOf(name)).identity == state.identity
+                   ? u"it is part of the journal that \"vyr undo\" needs"
+                   : u"";
+    return std::find(Way().begin(), Way().end(), state.identity) != Way().end()
+               ? u"the journal that \"vyr undo\" needs is kept in it"
+               : u"";
+}
+
+bool JournalFolder::MayHaveToStay(std::u16string_view name, Kind kind)
+{
+    return kind != Kind::File || name == lockName || FileOf(name, {});
 }
 
 std::vector<JournalFile> JournalFolder::List() const

@@ -70,11 +70,11 @@ public:
     /// Whether another program holds the lock.
     [[nodiscard]] bool IsLockedByAnother() const;
 
-    /// The folders and links that its path leads through, and the folder itself.
-    [[nodiscard]] std::vector<VyrPlatform::FileIdentity> Way() const;
-
-    /// Whether the file `name` with this identity is the lock or one of the journals.
-    [[nodiscard]] bool Keeps(std::u16string_view name, const VyrPlatform::FileIdentity& identity) const;
+    /// Why the entry `name` must not be renamed; empty for all but the lock, the journals, and the folders and links on
+    /// the way to them. (Without those the batches would not be found again, or the lock would not keep others away.)
+    [[nodiscard]] std::u16string_view ReasonToStay(std::u16string_view name, const VyrPlatform::FileState& state) const;
+    /// Whether ReasonToStay might give a reason: then `state` has to be looked at.
+    [[nodiscard]] static bool MayHaveToStay(std::u16string_view name, VyrPlatform::FileSystem::Kind kind);
     /// The journals by rising numbers.
     [[nodiscard]] std::vector<JournalFile> List() const;
     /// The journal of a batch that is being worked on, or was when that was cut off.
@@ -112,11 +112,15 @@ public:
 private:
     [[nodiscard]] CString PathOf(const CString& name) const;
     void RemoveOld();
+    /// The identities of the folders and links that its path leads through, and of the folder itself.
+    [[nodiscard]] const std::vector<VyrPlatform::FileIdentity>& Way() const;
 
     FileOperations& m_files;
     CString m_path;
     JournalKeeping m_keeping;
     std::unique_ptr<VyrHostPlatform::FileLock> m_lock;
+    /// Once asked for.
+    mutable std::optional<std::vector<VyrPlatform::FileIdentity>> m_way;
 };
 
 } // namespace VyrHost::Batch

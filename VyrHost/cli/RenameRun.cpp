@@ -6,9 +6,11 @@
 #include <VyrHost/cli/SourceOptions.h>
 #include <VyrHost/rename/NameLists.h>
 #include <VyrHost/rename/NameSources.h>
+#include <VyrHost/reports/ResultTable.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/Input.h>
 #include <VyrHost/text/SafeText.h>
+#include <VyrHost/ui/ResultOutput.h>
 #include <VyrHost/ui/Terminal.h>
 #include <VyrHostPlatform/Console.h>
 #include <VyrHostPlatform/Editor.h>
@@ -116,7 +118,7 @@ Rename::Preview Decide(Model::EntryList& list, const Rename::Groups& groups, Ren
                        const RenameRequest& request)
 {
     Ui::Progress progress("naming", groups.Count(), request.style.IsSilent());
-    return Rename::MakePreview(list, groups, names, request.conflicts,
+    return Rename::MakePreview(list, groups, names, request.conflicts, OpenBatches().ReasonsToStay(),
                                [&progress](std::size_t named) { progress.Show(named); });
 }
 
@@ -145,7 +147,6 @@ Rename::Preview DecideEdited(Model::EntryList& list, const Rename::Preview& prev
     for (std::size_t entry = 0; entry < list.entries.size(); ++entry)
         names.push_back(NameForEditing(list, list.entries[entry], preview.decisions[entry]));
     Rename::GivenNames edited(EditNames(names));
-    list.ForgetHolders();
     return Decide(list, Rename::Groups::OfOne(list), edited, request);
 }
 
@@ -171,8 +172,12 @@ int RunRename(const RenameRequest& request)
     const auto note = [&](Model::PlanIndex change, const Model::Outcome& outcome) {
         results.Set(preview.entries[change], outcome);
     };
-    return ApplyAndReport({"renaming", "renamed", preview.entries.size(), isStopped, apply, note}, results,
-                          request.style, task.collected);
+    const int code = ApplyAndReport({"renaming", "renamed", preview.entries.size(), isStopped, apply, note}, results,
+                                    request.style, task.collected);
+    if (!request.page || code == ExitCode::blocked)
+        return code;
+    return request.page->Write(Reports::TableOfResults(results, request.style.isPreview),
+                               Ui::SummaryOf(Model::Tally(results)), code);
 }
 
 } // namespace VyrHost::Cli

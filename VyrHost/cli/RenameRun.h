@@ -3,6 +3,7 @@
 #pragma once
 
 #include <VyrHost/cli/BatchRun.h>
+#include <VyrHost/cli/ReportOptions.h>
 #include <VyrHost/collect/CollectEntries.h>
 #include <VyrHost/collect/Sorting.h>
 #include <VyrHost/rename/NameSources.h>
@@ -27,6 +28,8 @@ struct RenameRequest
     /// The user looks through the new names in an editor.
     bool edit = false;
     ReportStyle style = {};
+    /// The page to write, if one was asked for.
+    const ReportOptions* page = nullptr;
 };
 
 /// Carries `request` out and writes what became of it.

@@ -22,11 +22,4 @@ void EntryList::NumberOwners()
     }
 }
 
-void EntryList::ForgetHolders()
-{
-    for (std::uint32_t folder = 0; folder < folders.Count(); ++folder)
-        for (NameRecord& record : folders[folder].names.Records())
-            record.holder = noEntry;
-}
-
 } // namespace VyrHost::Model

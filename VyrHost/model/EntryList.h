@@ -41,9 +41,6 @@ struct EntryList
     /// Writes each entry's place down with its name.
     void NumberOwners();
 
-    /// Clears what earlier decisions wrote down about who gets which name.
-    void ForgetHolders();
-
     [[nodiscard]] CString PathOf(const Entry& entry) const
     {
         return CString::Join({folders[entry.folder].path, entry.name});

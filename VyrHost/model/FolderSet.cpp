@@ -80,6 +80,12 @@ FolderSet::Numbers::iterator FolderSet::Add(std::u16string_view path, std::uint3
     return m_byPath.emplace(folder.path, Count() - 1).first;
 }
 
+void FolderSet::ForgetIndexes()
+{
+    for (Folder& folder : m_folders)
+        folder.names.ForgetIndex();
+}
+
 void FolderSet::List(Folder& folder)
 {
     NamePool texts;

@@ -33,7 +33,7 @@ struct Folder
     InternedName name;
     /// What stands before an entry's name when it is shown: the folder as the user named it.
     CString shown;
-    /// What the listing brings stands first, in natural order.
+    /// What the listing brings, in natural order.
     NameTable names;
     /// False for a folder that is known only because another one stands in it: then the fields below mean nothing.
     bool wasOpened = false;
@@ -67,6 +67,9 @@ public:
     [[nodiscard]] Folder& operator[](std::uint32_t folder) { return m_folders[folder]; }
     [[nodiscard]] const Folder& operator[](std::uint32_t folder) const { return m_folders[folder]; }
     [[nodiscard]] std::uint32_t Count() const { return static_cast<std::uint32_t>(m_folders.size()); }
+
+    /// Frees what only look-ups of names need, until the next one.
+    void ForgetIndexes();
 
     /// Keeps the text of a name as long as the set lives.
     [[nodiscard]] InternedName Intern(std::u16string_view name) { return m_texts->Intern(name); }

@@ -50,8 +50,9 @@ std::size_t NameTable::SlotOf(const Key& key) const
 
 const NameRecord* NameTable::Find(std::u16string_view name) const
 {
-    if (m_slots.empty())
+    if (m_records.empty())
         return nullptr;
+    MakeIndexFor(m_records.size());
     const std::uint32_t number = m_slots[SlotOf(KeyOf(name))].number;
     return number ? &m_records[number - 1] : nullptr;
 }
@@ -63,7 +64,7 @@ NameRecord* NameTable::Find(std::u16string_view name)
 
 NameRecord& NameTable::Add(InternedName name)
 {
-    Reserve(m_records.size() + 1);
+    MakeIndexFor(m_records.size() + 1);
     const Key key = KeyOf(name);
     Slot& slot = m_slots[SlotOf(key)];
     if (slot.number == 0) {
@@ -82,25 +83,40 @@ void NameTable::Expect(std::u16string_view name) const
 
 void NameTable::Reserve(std::size_t count)
 {
-    // A third of the slots stays free, so that runs stay short.
-    const std::size_t slots = count + count / 2;
-    if (slots > m_slots.size())
-        Grow(std::max(firstSlots, std::bit_ceil(slots)));
+    m_records.reserve(count);
+    MakeIndexFor(count);
 }
 
-void NameTable::Grow(std::size_t count)
+void NameTable::ForgetIndex()
 {
-    std::vector<Slot> slots(count);
-    const std::size_t mask = slots.size() - 1;
-    for (const Slot& moved : m_slots) {
-        if (moved.number == 0)
-            continue;
-        std::size_t slot = moved.hash & mask;
-        while (slots[slot].number != 0)
-            slot = (slot + 1) & mask;
-        slots[slot] = moved;
-    }
+    // Not "= {}", which would keep the memory.
+    m_slots = std::vector<Slot>();
+}
+
+/// Has an index of the records, with room for `count`.
+void NameTable::MakeIndexFor(std::size_t count) const
+{
+    // A third of the slots stays free, so that runs stay short.
+    const std::size_t needed = count + count / 2;
+    if (needed <= m_slots.size())
+        return;
+    std::vector<Slot> slots(std::max(firstSlots, std::bit_ceil(needed)));
+    if (m_slots.empty())
+        for (const NameRecord& record : m_records)
+            Put(slots, {KeyOf(record.name).hash, static_cast<std::uint32_t>(NumberOf(record) + 1)});
+    for (const Slot& slot : m_slots)
+        if (slot.number != 0)
+            Put(slots, slot);
     m_slots = std::move(slots);
+}
+
+void NameTable::Put(std::vector<Slot>& slots, const Slot& slot)
+{
+    const std::size_t mask = slots.size() - 1;
+    std::size_t at = slot.hash & mask;
+    while (slots[at].number != 0)
+        at = (at + 1) & mask;
+    slots[at] = slot;
 }
 
 } // namespace VyrHost::Model

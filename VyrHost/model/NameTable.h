@@ -1,5 +1,5 @@
 /// @file
-/// The names of one folder: what the disk has, whose they are, and who gets them.
+/// The names of one folder, before a batch or after it.
 #pragma once
 
 #include <VyrHost/model/NamePool.h>
@@ -9,7 +9,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <string_view>
 #include <vector>
 
@@ -17,23 +16,19 @@ namespace VyrHost::Model {
 
 /// Stands for "no entry" where the index of an entry is asked for.
 inline constexpr std::uint32_t noEntry = UINT32_MAX;
-/// Stands for a folder that the batch makes where the holder of a name is asked for.
-inline constexpr std::uint32_t newFolder = noEntry - 1;
 
 /// A name in a folder.
 struct NameRecord
 {
     InternedName name;
-    /// The entry of the list whose name it is now.
+    /// The entry of the list whose name it is.
     std::uint32_t owner = noEntry;
-    /// The entry of the list whose name it is after the batch.
-    std::uint32_t holder = noEntry;
     /// What the disk has under this name.
     VyrPlatform::FileSystem::Kind kind = VyrPlatform::FileSystem::Kind::Missing;
     bool isLink = false;
 };
 
-/// Finds a folder's names in constant time. References to records stay good for the life of the table.
+/// Finds the names of a folder in constant time. References to records are good until the next name is added.
 class NameTable
 {
 public:
@@ -50,10 +45,17 @@ public:
     void Expect(std::u16string_view name) const;
     /// Makes room for `count` names.
     void Reserve(std::size_t count);
+    /// Frees what only look-ups need. The next look-up takes the time to make it again.
+    void ForgetIndex();
 
     /// The records in the order in which they were added.
-    [[nodiscard]] std::deque<NameRecord>& Records() { return m_records; }
-    [[nodiscard]] const std::deque<NameRecord>& Records() const { return m_records; }
+    [[nodiscard]] std::vector<NameRecord>& Records() { return m_records; }
+    [[nodiscard]] const std::vector<NameRecord>& Records() const { return m_records; }
+    /// The place of a record among them.
+    [[nodiscard]] std::size_t NumberOf(const NameRecord& record) const
+    {
+        return static_cast<std::size_t>(&record - m_records.data());
+    }
 
 private:
     /// A name as it is looked for.
@@ -75,13 +77,13 @@ private:
 
     [[nodiscard]] bool IsSame(const NameRecord& record, const Key& key) const;
     [[nodiscard]] std::size_t SlotOf(const Key& key) const;
-    void Grow(std::size_t count);
+    void MakeIndexFor(std::size_t count) const;
+    static void Put(std::vector<Slot>& slots, const Slot& slot);
 
     VyrHostPlatform::NameFolding m_folding = VyrHostPlatform::NameFolding::None;
-    /// Not a vector: a table of many names would be copied each time that it grows.
-    std::deque<NameRecord> m_records;
-    /// Their count is a power of two.
-    std::vector<Slot> m_slots;
+    std::vector<NameRecord> m_records;
+    /// The index; their count is a power of two. Empty when it was forgotten.
+    mutable std::vector<Slot> m_slots;
 };
 
 } // namespace VyrHost::Model

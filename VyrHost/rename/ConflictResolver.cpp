@@ -22,9 +22,10 @@ using VyrPlatform::FileSystem::Kind;
 class ConflictResolver
 {
 public:
-    ConflictResolver(Model::EntryList& list, const Groups& groups, std::vector<Decision>& decisions,
+    ConflictResolver(Model::EntryList& list, const Groups& groups, std::vector<Decision>& decisions, NamesAfter& after,
                      const ConflictSettings& settings, bool mayNumber)
-        : m_list(list), m_groups(groups), m_decisions(decisions), m_settings(settings), m_mayNumber(mayNumber)
+        : m_list(list), m_groups(groups), m_decisions(decisions), m_after(after), m_settings(settings),
+          m_mayNumber(mayNumber)
     {}
 
     void Run()
@@ -107,11 +108,11 @@ private:
             const std::uint32_t entry = m_members[place];
             Model::NameRecord& record = Names(entry).Add(WantedName(entry));
             const bool isStemFree = IsStemFree(entry, WantedName(entry));
-            if (isStemFree && IsFree(record)) {
+            if (isStemFree && m_after.IsFree(m_decisions[entry].folder, record)) {
                 Give(entry, record, WantedName(entry), Model::Status::Done);
                 continue;
             }
-            const bool isWithin = record.holder < Model::newFolder && m_groups.Of(record.holder) == group;
+            const bool isWithin = record.owner < newFolder && m_groups.Of(record.owner) == group;
             const Clash clash{isStemFree ? ClashOf(record) : Reason::StemTaken, isWithin};
             for (std::size_t given = 0; given < place; ++given)
                 Release(m_members[given]);
@@ -139,8 +140,8 @@ private:
                     Stay(Model::Status::Refused, reason);
                     return;
                 }
-                const Model::NameRecord* const record = Names(entry).Find(candidates[place]);
-                areFree = areFree && (!record || IsFree(*record)) && IsStemFree(entry, candidates[place]);
+                areFree = areFree && m_after.IsFree(m_decisions[entry].folder, candidates[place]) &&
+                          IsStemFree(entry, candidates[place]);
             }
             if (areFree) {
                 ++attempt;
@@ -166,7 +167,7 @@ private:
     {
         Decision& decision = m_decisions[entry];
         const Model::Entry& own = m_list.entries[entry];
-        record.holder = entry;
+        record.owner = entry;
         if (HasStem(entry))
             m_stems[StemOf(entry, decision.folder, name)] = m_groups.Of(entry);
         decision.name = name;
@@ -190,10 +191,10 @@ private:
         const Model::Entry& own = m_list.entries[entry];
         if (own.kind == Kind::Missing)
             return;
-        Model::NameRecord& record = m_list.folders[own.folder].names.Add(own.name);
-        if (record.holder < Model::newFolder && record.holder != entry)
-            m_pending.push_back(m_groups.Of(record.holder));
-        record.holder = entry;
+        Model::NameRecord& record = m_after.In(own.folder).Add(own.name);
+        if (record.owner < newFolder && record.owner != entry)
+            m_pending.push_back(m_groups.Of(record.owner));
+        record.owner = entry;
         if (HasStem(entry))
             HoldOwnStem(entry);
     }
@@ -211,9 +212,9 @@ private:
     void Release(std::uint32_t entry)
     {
         Model::NameRecord* const record = Names(entry).Find(m_decisions[entry].name);
-        if (!record || record->holder != entry)
+        if (!record || record->owner != entry)
             return;
-        record->holder = Model::noEntry;
+        record->owner = Model::noEntry;
         if (!HasStem(entry))
             return;
         const auto held = m_stems.find(StemOf(entry, m_decisions[entry].folder, m_decisions[entry].name));
@@ -234,19 +235,19 @@ private:
         const std::uint32_t main = m_groups.MainFileOf(entry);
         if (main != Model::noEntry && wanted.View().starts_with(WantedName(main).View()))
             return NumberedNameOf(main).OfSidecar(wanted.View().substr(WantedName(main).View().size()));
-        const Model::NameRecord* const record = Names(entry).Find(wanted);
-        // Split as the engine does: by the kind of what stands there, if anything does.
-        const bool isThere = record && record->kind != Kind::Missing;
-        const Kind kind = isThere ? record->kind : m_list.entries[entry].kind;
-        const CString& folder = m_list.folders[m_decisions[entry].folder].path;
-        return {CString::Join({folder, wanted}), kind == Kind::Folder};
+        const Model::Folder& folder = m_list.folders[m_decisions[entry].folder];
+        // Split as the engine does: by the kind of what has the name, if anything does.
+        const Model::NameRecord* const listed = folder.names.Find(wanted);
+        const Kind kind = listed ? listed->kind : m_list.entries[entry].kind;
+        return {CString::Join({folder.path, wanted}), kind == Kind::Folder};
     }
 
     /// The next attempt for entries that want the same name, or the same stem.
     std::uint64_t& AttemptOf(std::uint32_t entry)
     {
         return HasStem(entry) ? m_stemAttempts[StemOf(entry, m_decisions[entry].folder, WantedName(entry))]
-                              : m_attempts[&Names(entry).Add(WantedName(entry))];
+                              : m_attempts[{m_decisions[entry].folder,
+                                            Names(entry).NumberOf(Names(entry).Add(WantedName(entry)))}];
     }
 
     /// A folder, and a name in it without its extension; that of a sidecar also without the extension of its file.
@@ -276,27 +277,19 @@ private:
         return held == m_stems.end() || held->second == m_groups.Of(entry);
     }
 
-    /// Whether nobody has the name after the batch. An entry that stays holds its own name, so an owner without a
-    /// holder leaves.
-    static bool IsFree(const Model::NameRecord& record)
-    {
-        return record.holder == Model::noEntry && (record.kind == Kind::Missing || record.owner != Model::noEntry);
-    }
-
     [[nodiscard]] Reason ClashOf(const Model::NameRecord& record) const
     {
-        const bool goesToOther = record.holder < Model::newFolder && m_decisions[record.holder].IsRename();
+        const bool goesToOther = record.owner < newFolder && m_decisions[record.owner].IsRename();
         return goesToOther ? Reason::TwoToOne : Reason::TargetExists;
     }
 
-    [[nodiscard]] Model::NameTable& Names(std::uint32_t entry)
-    {
-        return m_list.folders[m_decisions[entry].folder].names;
-    }
+    /// The names after the batch in the folder that `entry` is in then.
+    [[nodiscard]] Model::NameTable& Names(std::uint32_t entry) { return m_after.In(m_decisions[entry].folder); }
 
     Model::EntryList& m_list;
     const Groups& m_groups;
     std::vector<Decision>& m_decisions;
+    NamesAfter& m_after;
     const ConflictSettings& m_settings;
     const bool m_mayNumber;
     /// Groups to decide.
@@ -305,8 +298,8 @@ private:
     std::vector<std::uint32_t> m_members;
     /// The names that entries with a numbered name wanted.
     std::unordered_map<std::uint32_t, Model::InternedName> m_wanted;
-    /// The next attempt at a number, by the wanted name's record.
-    std::unordered_map<const Model::NameRecord*, std::uint64_t> m_attempts;
+    /// The next attempt at a number, by the folder and the number of the wanted name's record there.
+    std::map<std::pair<std::uint32_t, std::size_t>, std::uint64_t> m_attempts;
     /// Where groups are by stem: the group that gets each stem, and the next attempt at a number.
     std::map<Stem, std::uint32_t> m_stems;
     std::map<Stem, std::uint64_t> m_stemAttempts;
@@ -314,10 +307,10 @@ private:
 
 } // namespace
 
-void ResolveConflicts(Model::EntryList& list, const Groups& groups, std::vector<Decision>& decisions,
+void ResolveConflicts(Model::EntryList& list, const Groups& groups, std::vector<Decision>& decisions, NamesAfter& after,
                       const ConflictSettings& settings, bool mayNumber)
 {
-    ConflictResolver(list, groups, decisions, settings, mayNumber).Run();
+    ConflictResolver(list, groups, decisions, after, settings, mayNumber).Run();
 }
 
 } // namespace VyrHost::Rename

@@ -2,6 +2,7 @@
 /// Decides who gets which name when names clash, and numbers names.
 #pragma once
 
+#include <VyrHost/rename/NamesAfter.h>
 #include <VyrHost/rename/Preview.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrPlatform/text/CString.h>
@@ -38,8 +39,9 @@ private:
 
 /// Goes through `decisions` group by group and gives those that are to be renamed their names, numbered ones, or none.
 /// Numbers are tried as the engine tries them; time grows with the number of entries, however many want one name.
+/// @param after  has the names that new folders get.
 /// @param mayNumber  whether numbering is allowed at all.
-void ResolveConflicts(Model::EntryList& list, const Groups& groups, std::vector<Decision>& decisions,
+void ResolveConflicts(Model::EntryList& list, const Groups& groups, std::vector<Decision>& decisions, NamesAfter& after,
                       const ConflictSettings& settings, bool mayNumber);
 
 } // namespace VyrHost::Rename

@@ -47,6 +47,8 @@ std::u16string_view WordsFor(Reason reason)
         return u"its folder may not be changed";
     case Reason::NotOwnEntry:
         return u"in this folder only its owner may rename it";
+    case Reason::MustStay:
+        return u"it must stay where it is";
     case Reason::BeyondName:
         return u"the place or count is beyond the name";
     case Reason::EmptyName:

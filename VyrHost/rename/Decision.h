@@ -37,6 +37,8 @@ enum class Reason : std::uint8_t
     FolderLocked,
     /// Its folder is sticky: only the owner of an entry may rename it.
     NotOwnEntry,
+    /// Other parts need the entry where it is; the cause says what for.
+    MustStay,
     /// A rule inserts or deletes behind the end of the name; the cause tells how long it is.
     BeyondName,
     EmptyName,

@@ -42,10 +42,11 @@ CString StemOf(const Model::EntryList& list, const std::vector<std::uint32_t>& m
 
 Groups Groups::OfOne(const Model::EntryList& list)
 {
-    const auto count = static_cast<std::uint32_t>(list.entries.size());
-    std::vector<std::uint32_t> groups(count);
-    std::iota(groups.begin(), groups.end(), 0U);
-    return {std::move(groups), count};
+    std::vector<std::uint32_t> members(list.entries.size());
+    std::iota(members.begin(), members.end(), 0U);
+    Groups ofOne;
+    ofOne.m_members = std::move(members);
+    return ofOne;
 }
 
 Groups Groups::ByStem(const Model::EntryList& list)

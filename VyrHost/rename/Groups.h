@@ -23,13 +23,15 @@ public:
     /// Whether the groups are those of ByStem, no two of which may get one stem.
     [[nodiscard]] bool AreByStem() const { return m_areByStem; }
 
-    [[nodiscard]] std::size_t Count() const { return m_begins.size() - 1; }
+    [[nodiscard]] std::size_t Count() const { return m_begins.empty() ? m_members.size() : m_begins.size() - 1; }
     [[nodiscard]] std::span<const std::uint32_t> Members(std::size_t group) const
     {
+        if (m_begins.empty())
+            return std::span(m_members).subspan(group, 1);
         return std::span(m_members).subspan(m_begins[group], m_begins[group + 1] - m_begins[group]);
     }
     /// The group of an entry.
-    [[nodiscard]] std::uint32_t Of(std::uint32_t entry) const { return m_groups[entry]; }
+    [[nodiscard]] std::uint32_t Of(std::uint32_t entry) const { return m_groups.empty() ? entry : m_groups[entry]; }
     /// The file whose sidecar `entry` is: the one that has its name without the last extension, as `X.JPG` for
     /// `X.JPG.xmp`. NoEntry for a name with fewer than two extensions, where the list has no such file, and where the
     /// groups are not those of ByStem.
@@ -39,12 +41,14 @@ public:
     }
 
 private:
+    Groups() = default;
     /// From the group of each entry, numbered in the order of first entries.
     Groups(std::vector<std::uint32_t> groups, std::uint32_t count);
 
+    /// Of each entry; empty where each is a group of its own.
     std::vector<std::uint32_t> m_groups;
     std::vector<std::uint32_t> m_members;
-    /// Where the members of each group begin, and the end.
+    /// Where the members of each group begin, and the end; empty where each entry is a group of its own.
     std::vector<std::uint32_t> m_begins;
     bool m_areByStem = false;
     /// Of each entry, where the groups are those of ByStem.

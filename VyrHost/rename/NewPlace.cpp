@@ -75,7 +75,6 @@ NameValidity ValidateName(std::u16string_view newName, std::u16string_view oldNa
 }
 
 using VyrHostPlatform::NameFault;
-using VyrPlatform::FileSystem::Kind;
 
 TargetFolders::Target TargetFolders::Open(const CString& path, const CString& shown)
 {
@@ -116,18 +115,19 @@ TargetFolders::Target TargetFolders::Claim(std::uint32_t number, const Target& p
     if (parent.reason != Reason::None)
         return {.folder = number, .reason = parent.reason};
     Model::Folder& folder = m_folders[number];
-    Model::NameTable& siblings = m_folders[parent.folder].names;
+    const Model::NameTable& siblings = m_folders[parent.folder].names;
     folder.names.SetFolding(siblings.Folding());
-    Model::NameRecord& record = siblings.Add(folder.name);
-    if (record.kind != Kind::Missing)
+    if (siblings.Find(folder.name))
         return {.folder = number, .reason = Reason::BadFolder};
     const NameFault warning = ValidateName(folder.name, {}).warning;
     // Its file system may take the name for that of a folder which is claimed already.
     const Target target{
         .folder = number, .warning = warning == NameFault::None ? parent.warning : warning, .device = parent.device};
-    const auto [claimed, isNew] = m_claimed.try_emplace(&record, target);
+    Model::NameTable& after = m_after.In(parent.folder);
+    Model::NameRecord& record = after.Add(folder.name);
+    const auto [claimed, isNew] = m_claimed.try_emplace({parent.folder, after.NumberOf(record)}, target);
     if (isNew) {
-        record.holder = Model::newFolder;
+        record.owner = newFolder;
         folder.parent = parent.folder;
         folder.isNew = true;
     }

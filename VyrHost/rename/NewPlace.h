@@ -4,11 +4,15 @@
 
 #include <VyrHost/model/FolderSet.h>
 #include <VyrHost/rename/Decision.h>
+#include <VyrHost/rename/NamesAfter.h>
 
+#include <cstddef>
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 namespace VyrHost::Rename {
 
@@ -26,7 +30,7 @@ struct NameValidity
 class TargetFolders
 {
 public:
-    explicit TargetFolders(Model::FolderSet& folders) : m_folders(folders) {}
+    TargetFolders(Model::FolderSet& folders, NamesAfter& after) : m_folders(folders), m_after(after) {}
 
     struct Target
     {
@@ -47,10 +51,11 @@ private:
     [[nodiscard]] Target Claim(std::uint32_t number, const Target& parent);
 
     Model::FolderSet& m_folders;
+    NamesAfter& m_after;
     /// What was found for each folder.
     std::unordered_map<std::uint32_t, Target> m_targets;
-    /// The folders to be created, by their names' records.
-    std::unordered_map<const Model::NameRecord*, Target> m_claimed;
+    /// The folders to be created, by the folder that they will be in and the number of their name's record there.
+    std::map<std::pair<std::uint32_t, std::size_t>, Target> m_claimed;
 };
 
 } // namespace VyrHost::Rename

@@ -203,19 +203,27 @@ private:
         if (m_refused.empty())
             return;
         const std::vector<std::vector<PlanIndex>> waiting = ListWaitingForFolders();
-        std::unordered_multimap<std::uint32_t, PlanIndex> members;
-        for (PlanIndex entry = 0; entry < m_groups.size(); ++entry)
-            members.emplace(m_groups[entry], entry);
+        const std::unordered_multimap<std::uint32_t, PlanIndex> members = MembersByGroup();
         for (std::size_t next = 0; next < m_refused.size(); ++next) {
             const PlanIndex refused = m_refused[next].entry;
             if (const PlanIndex coming = m_coming->Find(m_plan.entries[refused].from); coming != none)
                 Refuse(coming, Reason::PlaceKept);
             for (const PlanIndex entry : waiting[refused])
                 Refuse(entry, Reason::FolderKept);
+            if (m_groups.empty())
+                continue;
             const auto [first, end] = members.equal_range(m_groups[refused]);
             for (auto member = first; member != end; ++member)
                 Refuse(member->second, Reason::CompanionRefused);
         }
+    }
+
+    [[nodiscard]] std::unordered_multimap<std::uint32_t, PlanIndex> MembersByGroup() const
+    {
+        std::unordered_multimap<std::uint32_t, PlanIndex> members;
+        for (PlanIndex entry = 0; entry < m_groups.size(); ++entry)
+            members.emplace(m_groups[entry], entry);
+        return members;
     }
 
     /// For each entry at whose place a folder is created the entries that move into that folder and the new folders
@@ -245,22 +253,34 @@ private:
         m_refused.push_back({entry, reason});
     }
 
-    /// Leaves the refused entries out, and has the rest ordered.
     PlannerResult Finish()
     {
         PlannerResult result;
+        result.entries = LeaveRefusedOut();
+        m_plan.steps = OrderSteps(m_plan, m_standingAt);
+        result.plan = std::move(m_plan);
+        result.refused = std::move(m_refused);
+        std::sort(result.refused.begin(), result.refused.end(),
+                  [](const PlanRefusal& left, const PlanRefusal& right) { return left.entry < right.entry; });
+        return result;
+    }
+
+    /// @return for each entry that is left its index before.
+    std::vector<PlanIndex> LeaveRefusedOut()
+    {
+        std::vector<PlanIndex> before;
+        before.reserve(m_plan.entries.size());
         std::vector<PlanIndex> newIndexes(m_plan.entries.size(), none);
-        result.entries.reserve(m_plan.entries.size());
         for (PlanIndex entry = 0; entry < m_plan.entries.size(); ++entry) {
             if (m_isRefused[entry])
                 continue;
-            const auto kept = static_cast<PlanIndex>(result.entries.size());
+            const auto kept = static_cast<PlanIndex>(before.size());
             newIndexes[entry] = kept;
-            result.entries.push_back(entry);
+            before.push_back(entry);
             if (kept != entry)
                 m_plan.entries[kept] = m_plan.entries[entry];
         }
-        m_plan.entries.resize(result.entries.size());
+        m_plan.entries.resize(before.size());
         const auto renumber = [&newIndexes](PlanIndex& entry) {
             entry = entry == none ? none : newIndexes[entry];
         };
@@ -270,12 +290,7 @@ private:
             renumber(folder.entry);
         for (PlanIndex& entry : m_standingAt)
             renumber(entry);
-        m_plan.steps = OrderSteps(m_plan, m_standingAt);
-        result.plan = std::move(m_plan);
-        result.refused = std::move(m_refused);
-        std::sort(result.refused.begin(), result.refused.end(),
-                  [](const PlanRefusal& left, const PlanRefusal& right) { return left.entry < right.entry; });
-        return result;
+        return before;
     }
 
     Model::RenamePlan m_plan;

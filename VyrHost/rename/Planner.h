@@ -21,7 +21,8 @@ struct RenameDraft
     Model::RenamePlan plan;
     /// For each folder how it compares names.
     std::vector<VyrHostPlatform::NameFolding> foldings;
-    /// For each entry the number of its group: entries of one group all get their new names, or none does.
+    /// For each entry the number of its group: entries of one group all get their new names, or none does. Empty where
+    /// each entry is a group of its own.
     std::vector<std::uint32_t> groups;
 };
 

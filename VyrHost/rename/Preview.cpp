@@ -25,8 +25,9 @@ constexpr int longestPath = 32'767;
 class Naming
 {
 public:
-    Naming(Model::EntryList& list, const Groups& groups, NameSource& source)
-        : m_list(list), m_groups(groups), m_source(source), m_targets(list.folders), m_decisions(list.entries.size())
+    Naming(Model::EntryList& list, const Groups& groups, NameSource& source, const StayReason& stays, NamesAfter& after)
+        : m_list(list), m_groups(groups), m_source(source), m_stays(stays), m_targets(list.folders, after),
+          m_decisions(list.entries.size())
     {}
 
     void NameGroup(std::span<const std::uint32_t> members)
@@ -113,9 +114,17 @@ private:
         if (const std::uint32_t error = from.error != 0 ? from.error : to.error) {
             decision.Refuse(Reason::FolderLocked);
             m_causes[index] = Text::ErrorText(error);
+        } else if (const std::u16string_view why = ReasonToStay(entry); !why.empty()) {
+            decision.Refuse(Reason::MustStay);
+            m_causes[index] = why;
         } else if (from.ownEntriesOnly && !VyrHostPlatform::IsOwnEntry(m_list.PathOf(entry))) {
             decision.Refuse(Reason::NotOwnEntry);
         }
+    }
+
+    [[nodiscard]] std::u16string_view ReasonToStay(const Model::Entry& entry) const
+    {
+        return m_stays ? m_stays(m_list.folders[entry.folder].path, entry.name, entry.kind) : std::u16string_view();
     }
 
     /// Of a folder that is not there yet, that of the folder which it will be made in.
@@ -147,6 +156,7 @@ private:
     Model::EntryList& m_list;
     const Groups& m_groups;
     NameSource& m_source;
+    const StayReason& m_stays;
     TargetFolders m_targets;
     std::vector<Decision> m_decisions;
     Causes m_causes;
@@ -165,16 +175,16 @@ public:
     {
         m_draft.plan.texts = list.folders.Texts();
         m_draft.plan.entries.reserve(count);
-        m_draft.groups.reserve(count);
     }
 
-    void Add(const Model::Entry& entry, const Decision& decision, std::uint32_t group)
+    void Add(const Model::Entry& entry, const Decision& decision)
     {
         const Model::Place from{m_folders.Add(entry.folder), entry.name};
         const Model::Place to{m_folders.Add(decision.folder), decision.name};
         m_draft.plan.entries.push_back({.kind = entry.kind, .from = from, .to = to});
-        m_draft.groups.push_back(group);
     }
+    /// The group of the entry that was added last, where not all are groups of their own.
+    void AddGroup(std::uint32_t group) { m_draft.groups.push_back(group); }
 
     RenameDraft Take()
     {
@@ -200,15 +210,17 @@ void Plan(const Model::EntryList& list, const Groups& groups, Preview& preview)
     for (std::uint32_t entry = 0; entry < preview.decisions.size(); ++entry) {
         if (!preview.decisions[entry].IsRename())
             continue;
-        drafting.Add(list.entries[entry], preview.decisions[entry], groups.Of(entry));
+        drafting.Add(list.entries[entry], preview.decisions[entry]);
+        if (groups.AreByStem())
+            drafting.AddGroup(groups.Of(entry));
         drafted.push_back(entry);
     }
     PlannerResult result = PlanRenames(drafting.Take());
     for (const PlanRefusal& refusal : result.refused)
         preview.decisions[drafted[refusal.entry]].Refuse(refusal.reason);
-    preview.entries.reserve(result.entries.size());
-    for (const Model::PlanIndex entry : result.entries)
-        preview.entries.push_back(drafted[entry]);
+    preview.entries = std::move(result.entries);
+    for (std::uint32_t& entry : preview.entries)
+        entry = drafted[entry];
     preview.plan = std::move(result.plan);
 }
 
@@ -238,19 +250,24 @@ bool StopAtConflict(Preview& preview)
 }
 
 Preview MakePreview(Model::EntryList& list, const Groups& groups, NameSource& names, const ConflictSettings& settings,
-                    const NamingProgress& progress)
+                    const StayReason& stays, const NamingProgress& progress)
 {
     constexpr std::size_t often = 32;
-    Naming naming(list, groups, names);
-    for (std::size_t group = 0; group < groups.Count(); ++group) {
-        naming.NameGroup(groups.Members(group));
-        if (progress && group % often == 0)
-            progress(group);
-    }
     Preview preview;
-    preview.decisions = naming.TakeDecisions();
-    preview.causes = naming.TakeCauses();
-    ResolveConflicts(list, groups, preview.decisions, settings, names.MayNumber());
+    {
+        NamesAfter after(list.folders);
+        Naming naming(list, groups, names, stays, after);
+        for (std::size_t group = 0; group < groups.Count(); ++group) {
+            naming.NameGroup(groups.Members(group));
+            if (progress && group % often == 0)
+                progress(group);
+        }
+        preview.decisions = naming.TakeDecisions();
+        preview.causes = naming.TakeCauses();
+        ResolveConflicts(list, groups, preview.decisions, after, settings, names.MayNumber());
+    }
+    // Lists are at their largest now.
+    list.folders.ForgetIndexes();
     Plan(list, groups, preview);
     return preview;
 }

@@ -35,6 +35,11 @@ struct ConflictSettings
     int digits = 0;
 };
 
+/// Tells of an entry, by its folder's path (a separator at its end), name and kind, why it has to stay as it is called,
+/// whatever the rules say; gives an empty text for all others.
+using StayReason =
+    std::function<std::u16string_view(const CString& folder, std::u16string_view name, VyrPlatform::FileSystem::Kind)>;
+
 /// Told now and then how many entries have their names.
 using NamingProgress = std::function<void(std::size_t named)>;
 
@@ -57,7 +62,8 @@ struct Preview
 /// is decided anew. Of entries that keep together either all get their names, with one number where one is needed, or
 /// none does.
 [[nodiscard]] Preview MakePreview(Model::EntryList& list, const Groups& groups, NameSource& names,
-                                  const ConflictSettings& settings, const NamingProgress& progress = {});
+                                  const ConflictSettings& settings, const StayReason& stays = {},
+                                  const NamingProgress& progress = {});
 
 /// Where a name is taken that was to be given, nothing is to be renamed at all.
 /// @return whether one is.

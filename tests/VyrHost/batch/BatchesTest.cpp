@@ -244,6 +244,10 @@ TEST(Batches, NeverMoveTheFolderOfTheirJournal)
     EXPECT_EQ(summary.refused, 1u);
     EXPECT_EQ(scene.results[0].status, Status::Refused);
     EXPECT_EQ(scene.results[0].reason, u"the journal that \"vyr undo\" needs is kept in it");
+    const auto reasonToStay = scene.batches.ReasonsToStay();
+    EXPECT_EQ(reasonToStay(journal + u"/../", u"journal", VyrPlatform::FileSystem::Kind::Folder),
+              scene.results[0].reason);
+    EXPECT_EQ(reasonToStay(scene.Path(u"./"), u"b", VyrPlatform::FileSystem::Kind::File), u"");
     EXPECT_EQ(summary.done, 1u);
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"b", "a"}}));
     EXPECT_EQ(scene.Undo().done, 1u);
@@ -267,6 +271,12 @@ TEST(Batches, NeverMoveJournalsAndTheLock)
     EXPECT_EQ(summary.refused, 2u);
     EXPECT_EQ(scene.results[0].reason, u"it is part of the journal that \"vyr undo\" needs");
     EXPECT_EQ(scene.results[1].reason, scene.results[0].reason);
+    const auto reasonToStay = scene.batches.ReasonsToStay();
+    for (const char16_t* const name : {u"lock", u"000001.applied"}) {
+        EXPECT_EQ(reasonToStay(scene.Path(u"journal/"), name, VyrPlatform::FileSystem::Kind::File),
+                  scene.results[0].reason);
+        EXPECT_EQ(reasonToStay(scene.Path(u"./"), name, VyrPlatform::FileSystem::Kind::File), u"");
+    }
     // Files with such names in other folders can be renamed.
     EXPECT_EQ(summary.done, 2u);
     EXPECT_EQ(scene.Now().at("unlocked"), "lock");

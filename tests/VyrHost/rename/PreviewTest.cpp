@@ -433,6 +433,23 @@ TEST_F(PreviewTest, GivenNamesAreNotNumbered)
     EXPECT_EQ(Told(decisions[1]), No(Reason::DotName));
 }
 
+TEST_F(PreviewTest, EntryThatMustStayIsRefusedWithTheCauseAndKeepsItsName)
+{
+    Write({u"a", u"b"});
+    CollectedEntries collected = CollectNamed({u"a", u"b"});
+    GivenNames names({{0, u"b"}, {1, u"c"}});
+    const auto stays = [](const CString& folder, std::u16string_view name, VyrPlatform::FileSystem::Kind kind) {
+        const bool isFile =
+            VyrPlatform::FileSystem::EndsWithSeparator(folder) && kind == VyrPlatform::FileSystem::Kind::File;
+        return isFile && name == u"b" ? std::u16string_view(u"of use") : std::u16string_view();
+    };
+    const Preview preview =
+        MakePreview(collected.list, Groups::OfOne(collected.list), names, Mode(OnConflict::Number), stays);
+    EXPECT_EQ(Told(preview.decisions[0]), No(Reason::TargetExists));
+    EXPECT_EQ(Told(preview.decisions[1]), No(Reason::MustStay));
+    EXPECT_EQ(preview.causes.at(1), u"of use");
+}
+
 TEST_F(PreviewTest, ComparesNamesAsTheFolderDoes)
 {
     Write({u"a", u"B"});
