@@ -5,6 +5,7 @@
 #include <VyrHost/cli/Help.h>
 #include <VyrHost/cli/Options.h>
 #include <VyrHost/cli/RenameRun.h>
+#include <VyrHost/cli/ReportOptions.h>
 #include <VyrHost/cli/RuleOptions.h>
 #include <VyrHost/cli/SourceOptions.h>
 #include <VyrHost/rename/RuleTexts.h>
@@ -103,6 +104,7 @@ private:
     OrderOptions m_order;
     ConflictOptions m_conflicts;
     RunOptions m_run;
+    ReportOptions m_page;
     std::optional<std::string> m_pairs;
     bool m_countsPerFolder = false;
     bool m_together = false;
@@ -167,7 +169,8 @@ RenameCommand::RenameCommand(CLI::App& program)
       m_rules(m_command), m_sources(m_command, "rename"), m_order(m_command, orderGroup), m_conflicts(m_command),
       m_run(m_command, {"Rename; without it the result is only shown",
                         "Write one JSON object for each entry: from, to, status, reason",
-                        "Show only what does not get its new name"})
+                        "Show only what does not get its new name"}),
+      m_page(m_command, RowsAbout::Files)
 {
     constexpr const char* sourceGroup = "What to rename";
     AddText(m_command, "--pairs", m_pairs, "FILE",
@@ -188,6 +191,8 @@ RenameRequest RenameCommand::Read() const
 {
     RenameRequest request;
     request.style = m_run.Read();
+    m_page.Check();
+    request.page = m_page.IsAskedFor() ? &m_page : nullptr;
     CheckOptionPairs(m_command, exclusive, dependent);
     if (!m_pairs && !m_sources.NamesAny())
         throw Text::UsageError("nothing to rename is named");

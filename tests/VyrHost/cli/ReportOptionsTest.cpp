@@ -50,6 +50,19 @@ TEST_F(Reports, PageIsReplacedOnlyWithOverwrite)
     EXPECT_THAT(m_folder.ReadFile(u"list.html"), testing::StartsWith("<!DOCTYPE html>"));
 }
 
+TEST_F(Reports, PreviewAndRecordOfARenameBecomePages)
+{
+    const ProgramResult preview = Rename({u"--prefix", u"x", u"--html", u"preview.html", u"&lt;a&b"});
+    EXPECT_EQ(preview.exitCode, 0) << preview.errors;
+    EXPECT_THAT(preview.output, HasSubstr("x&lt;a&b")) << "the table stays";
+    EXPECT_THAT(m_folder.ReadFile(u"preview.html"), HasSubstr("x&amp;lt;a&amp;b"));
+    EXPECT_EQ(m_folder.ReadFile(u"&lt;a&b"), "a&b");
+    const ProgramResult record = Rename({u"--prefix", u"x", u"--apply", u"--html", u"record.html", u"&lt;a&b"});
+    EXPECT_EQ(record.exitCode, 0) << record.errors;
+    EXPECT_THAT(m_folder.ReadFile(u"record.html"), HasSubstr("x&amp;lt;a&amp;b"));
+    EXPECT_EQ(m_folder.ReadFile(u"x&lt;a&b"), "a&b");
+}
+
 TEST_F(Reports, DesignsAreChosenByNameAndFile)
 {
     EXPECT_EQ(List({u"--html", u"1.html", u"--design", u"cards"}).exitCode, 0);
