@@ -1,4 +1,5 @@
-// Any text as the properties of a document in XML: it is read in bounded time, and can be edited again.
+// Any text as the properties of a document in XML: it is read in bounded time, what was edited can be edited again, and
+// nothing is left of what was cleared.
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/linux/documents/PropertyXml.h>
 
@@ -18,7 +19,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     value.pwszVal = text.data();
     const PROPVARIANT nothing{};
     const PropertyStorage::PropertyWrite writes[] = {{2, &value}, {4, &nothing}, {5, &value}};
-    for (const PropertyFormat format : {PropertyFormat::OfficeOpenXml, PropertyFormat::OpenDocument}) {
+    for (const PropertyFormat format : {PropertyFormat::OfficeOpenXml, PropertyFormat::OpenDocument,
+                                        PropertyFormat::Extended, PropertyFormat::Custom}) {
+        DocumentProperties before;
+        const bool isRead = ReadPropertyXml(format, xml, before);
+        const EditedXml cleared = ClearPropertyXml(format, xml);
+        DocumentProperties after;
+        if (isRead != (cleared.result == PropertyStorage::Result::ok) ||
+            (isRead && (!ReadPropertyXml(format, cleared.text, after) || !after.texts.empty() || !after.times.empty() ||
+                        after.others != 0)))
+            std::abort();
         const EditedXml edited = EditPropertyXml(format, xml, writes);
         if (edited.result != PropertyStorage::Result::ok)
             continue;

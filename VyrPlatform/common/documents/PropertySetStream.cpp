@@ -313,6 +313,11 @@ std::optional<std::string> StorePropertyValue(const PROPVARIANT& value, std::uin
     return stored + *data;
 }
 
+std::string StoreText(const CString& text, std::uint32_t codePage)
+{
+    return StoreBytes(VT_LPSTR, text, codePage);
+}
+
 std::optional<CString> ReadStoredText(std::string_view stored, std::uint32_t codePage)
 {
     const auto type = NumberAt<std::uint16_t>(stored, 0);

@@ -87,6 +87,10 @@ private:
 [[nodiscard]] VYR_PLATFORM_API std::optional<std::string> StorePropertyValue(const tagPROPVARIANT& value,
                                                                              std::uint32_t codePage);
 
+/// A text as it stands in a section whose texts are in `codePage`: counted in bytes, and in that code page where it
+/// holds every character, else in UTF-16.
+[[nodiscard]] VYR_PLATFORM_API std::string StoreText(const CString& text, std::uint32_t codePage);
+
 /// The text of a stored value, up to its first NUL; nothing when it has another type or is damaged.
 [[nodiscard]] VYR_PLATFORM_API std::optional<CString> ReadStoredText(std::string_view stored, std::uint32_t codePage);
 /// The integer of a stored value, also a Boolean or a flag; nothing when it has another type or is damaged.

@@ -36,8 +36,6 @@ constexpr std::size_t entrySize = 128;
 constexpr std::size_t startInEntry = 116;
 constexpr std::size_t sizeInEntry = 120;
 constexpr std::uint32_t noEntry = 0xFFFFFFFF;
-constexpr unsigned char streamEntry = 2;
-constexpr unsigned char rootEntry = 5;
 
 constexpr std::size_t smallPartSize = 64;
 /// Shorter streams consist of small parts.
@@ -185,7 +183,7 @@ CompoundFile::Entry CompoundFile::EntryAt(std::uint32_t index) const noexcept
     return {NumberAt<std::uint32_t>(m_directory, at + startInEntry), size, place};
 }
 
-std::optional<CompoundFile::Entry> CompoundFile::Find(std::u16string_view name) const noexcept
+std::optional<CompoundFile::Entry> CompoundFile::Find(std::u16string_view name, unsigned char kind) const
 {
     const std::size_t count = m_directory.size() / entrySize;
     std::vector<bool> isSeen(count);
@@ -198,7 +196,7 @@ std::optional<CompoundFile::Entry> CompoundFile::Find(std::u16string_view name) 
         isSeen[index] = true;
         const std::string_view entry = std::string_view(m_directory).substr(index * entrySize, entrySize);
         const std::size_t length = NumberAt<std::uint16_t>(entry, 64);
-        if (static_cast<unsigned char>(entry[66]) == streamEntry && length == (name.size() + 1) * 2 &&
+        if (static_cast<unsigned char>(entry[66]) == kind && length == (name.size() + 1) * 2 &&
             std::memcmp(entry.data(), name.data(), name.size() * 2) == 0)
             return EntryAt(index);
         open.push_back(NumberAt<std::uint32_t>(entry, 68));
@@ -240,13 +238,19 @@ std::optional<std::vector<std::uint64_t>> CompoundFile::Places(const Entry& entr
 
 std::optional<std::string> CompoundFile::ReadStream(std::u16string_view name) const
 {
-    const auto entry = Find(name);
-    if (!entry || entry->size > longestStream || entry->size > m_size)
+    const auto entry = Find(name, streamEntry);
+    return entry && entry->size <= longestStream ? ReadBeginning(name, longestStream) : std::nullopt;
+}
+
+std::optional<std::string> CompoundFile::ReadBeginning(std::u16string_view name, std::uint64_t limit) const
+{
+    const auto entry = Find(name, streamEntry);
+    if (!entry || entry->size > m_size)
         return std::nullopt;
     const auto places = Places(*entry);
     if (!places)
         return std::nullopt;
-    std::string content(static_cast<std::size_t>(entry->size), '\0');
+    std::string content(static_cast<std::size_t>(std::min(entry->size, limit)), '\0');
     const std::size_t partSize = PartSize(*entry);
     for (std::size_t at = 0; at < content.size(); at += partSize)
         if (!ReadAt(m_file, (*places)[at / partSize], content.data() + at, std::min(partSize, content.size() - at)))
@@ -411,7 +415,7 @@ int CompoundFile::Lengthen(Entry& entry, std::vector<std::uint64_t>& places, std
 
 int CompoundFile::WriteStream(std::u16string_view name, std::string_view content)
 {
-    auto entry = Find(name);
+    auto entry = Find(name, streamEntry);
     if (!entry || entry->size > longestStream || content.size() > longestStream)
         return EILSEQ;
     auto places = Places(*entry);

@@ -17,15 +17,22 @@ namespace VyrPlatform {
 class VYR_PLATFORM_API CompoundFile
 {
 public:
-    /// Larger streams are not read.
-    static constexpr std::uint64_t longestStream = 16 << 20;
-
     /// Reads the tables of the open file `file`, which must outlive it; nothing when they are damaged.
     [[nodiscard]] static std::optional<CompoundFile> Read(int file);
 
+    /// Larger streams are neither read as a whole nor written.
+    static constexpr std::uint64_t longestStream = 16 << 20;
+
     /// The content of the stream `name` of the root storage; nothing when there is none or it is damaged.
     [[nodiscard]] std::optional<std::string> ReadStream(std::u16string_view name) const;
-    [[nodiscard]] bool HasStream(std::u16string_view name) const noexcept { return Find(name).has_value(); }
+    /// Its first `limit` bytes likewise.
+    [[nodiscard]] std::optional<std::string> ReadBeginning(std::u16string_view name, std::uint64_t limit) const;
+    [[nodiscard]] bool HasStream(std::u16string_view name) const { return Find(name, streamEntry).has_value(); }
+    /// Whether the root storage has a stream or a storage of this name.
+    [[nodiscard]] bool Has(std::u16string_view name) const
+    {
+        return HasStream(name) || Find(name, storageEntry).has_value();
+    }
     /// Makes `content` the beginning of the stream `name`; if the stream was longer, zeros follow up to its old length.
     /// The file is opened for writing; what a failure leaves of it is of no use.
     /// @return 0, or the error code: EILSEQ when the container is damaged.
@@ -45,7 +52,11 @@ private:
     [[nodiscard]] bool ReadHeader();
     [[nodiscard]] bool ReadTables();
     [[nodiscard]] bool ReadDirectory(std::uint32_t start);
-    [[nodiscard]] std::optional<Entry> Find(std::u16string_view name) const noexcept;
+    /// The kinds of entries.
+    static constexpr unsigned char storageEntry = 1;
+    static constexpr unsigned char streamEntry = 2;
+    static constexpr unsigned char rootEntry = 5;
+    [[nodiscard]] std::optional<Entry> Find(std::u16string_view name, unsigned char kind) const;
     [[nodiscard]] Entry EntryAt(std::uint32_t index) const noexcept;
     [[nodiscard]] std::uint64_t SectorPlace(std::uint32_t sector) const noexcept;
     /// Where the parts of a stream stand in the file; nothing when its chain is damaged or too short.

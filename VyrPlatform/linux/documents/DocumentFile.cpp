@@ -80,6 +80,11 @@ bool HasKeptMetadata(int source, int target, const struct stat& before)
 DocumentFile::DocumentFile(const CString& path) : m_path(ResolveLinks(path)), m_error(m_path.IsEmpty() ? errno : Open())
 {}
 
+DocumentFile::~DocumentFile()
+{
+    RemoveNew();
+}
+
 int DocumentFile::Open()
 {
     const NativePath native(m_path);
@@ -110,35 +115,65 @@ int DocumentFile::WriteNew(DocumentEdit& edit, int target) const
         return EPERM;
     if (!edit.IsWritten(source, target))
         return EILSEQ;
+    return CheckUnchanged();
+}
+
+int DocumentFile::CheckUnchanged() const
+{
     struct stat now;
-    if (fstat(source, &now) != 0)
+    if (fstat(m_file->Get(), &now) != 0)
         return errno;
     const bool isChanged = now.st_size != m_status.st_size || now.st_mtim.tv_sec != m_status.st_mtim.tv_sec ||
                            now.st_mtim.tv_nsec != m_status.st_mtim.tv_nsec || now.st_nlink != 1;
     return isChanged ? EBUSY : 0;
 }
 
-int DocumentFile::Replace(DocumentEdit& edit)
+void DocumentFile::RemoveNew()
 {
+    if (!m_newPath.IsEmpty())
+        unlink(NativePath(m_newPath).Get());
+    m_newPath.Empty();
+}
+
+int DocumentFile::Prepare(DocumentEdit& edit)
+{
+    RemoveNew();
     if (m_error != 0)
         return m_error;
-    const NativePath path(m_path);
-    const NativePath temporary(MakeTemporaryPath(m_path));
-    Descriptor target(open(temporary.Get(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    const CString newPath = MakeTemporaryPath(m_path);
+    Descriptor target(open(NativePath(newPath).Get(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (!target.IsOpen())
         return errno;
+    m_newPath = newPath;
     int error = WriteNew(edit, target.Get());
     if (const int closeError = target.Close(); error == 0)
         error = closeError;
-    if (error == 0 && std::rename(temporary.Get(), path.Get()) != 0)
+    if (error != 0)
+        RemoveNew();
+    return error;
+}
+
+int DocumentFile::Commit()
+{
+    if (m_newPath.IsEmpty())
+        return EINVAL;
+    int error = CheckUnchanged();
+    if (error == 0 && std::rename(NativePath(m_newPath).Get(), NativePath(m_path).Get()) != 0)
         error = errno;
     if (error != 0) {
-        unlink(temporary.Get());
+        RemoveNew();
         return error;
     }
+    m_newPath.Empty();
     error = static_cast<int>(FlushFolder(GetFolderOf(m_path)));
     m_error = Open();
     return error;
+}
+
+int DocumentFile::Replace(DocumentEdit& edit)
+{
+    const int error = Prepare(edit);
+    return error != 0 ? error : Commit();
 }
 
 } // namespace VyrPlatform

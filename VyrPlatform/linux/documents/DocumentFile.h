@@ -36,7 +36,8 @@ public:
     explicit DocumentFile(const CString& path);
     DocumentFile(const DocumentFile&) = delete;
     DocumentFile& operator=(const DocumentFile&) = delete;
-    ~DocumentFile() = default;
+    /// Removes a new document that has not taken its place.
+    ~DocumentFile();
 
     /// 0 when the document may be replaced, else the error code: EBUSY when it is open for writing elsewhere, EDEADLK
     /// when it is locked, EMLINK when it has several hard links.
@@ -48,12 +49,23 @@ public:
     /// @return 0, or the error code; the old document then stands there unchanged.
     [[nodiscard]] int Replace(DocumentEdit& edit);
 
+    /// The first half of that: the new document stands beside this one, at NewPath, whole and flushed.
+    [[nodiscard]] int Prepare(DocumentEdit& edit);
+    [[nodiscard]] const CString& NewPath() const noexcept { return m_newPath; }
+    /// The second half.
+    [[nodiscard]] int Commit();
+
 private:
     [[nodiscard]] int Open();
     [[nodiscard]] int WriteNew(DocumentEdit& edit, int target) const;
+    /// 0, or EBUSY when this document was written to since it was opened.
+    [[nodiscard]] int CheckUnchanged() const;
+    void RemoveNew();
 
     /// Without links.
     CString m_path;
+    /// Empty while there is no new document.
+    CString m_newPath;
     std::optional<Descriptor> m_file;
     struct stat m_status = {};
     int m_error;

@@ -4,7 +4,9 @@
 
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/common/documents/PropertySetStream.h>
+#include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/text/Encoding.h>
+#include <VyrPlatform/time/COleDateTime.h>
 
 #include <algorithm>
 #include <array>
@@ -23,13 +25,16 @@ enum class Content : std::uint8_t
     Number,
     Time,
     /// One element for each word between commas.
-    Words
+    Words,
+    /// In the attribute xlink:title; it can be removed only.
+    Title
 };
 
 /// A property and the element that it is.
 struct PropertyElement
 {
     std::uint32_t id;
+    /// Null for that of the root.
     const char* space;
     const char* prefix;
     const char* name;
@@ -42,6 +47,12 @@ const char termsSpace[] = "http://purl.org/dc/terms/";
 const char instanceSpace[] = "http://www.w3.org/2001/XMLSchema-instance";
 const char officeSpace[] = "urn:oasis:names:tc:opendocument:xmlns:office:1.0";
 const char metaSpace[] = "urn:oasis:names:tc:opendocument:xmlns:meta:1.0";
+const char linkSpace[] = "http://www.w3.org/1999/xlink";
+/// Of the roots of the other two parts, as the standard was first and as it is in its strict form.
+const char* const extendedSpaces[] = {"http://schemas.openxmlformats.org/officeDocument/2006/extended-properties",
+                                      "http://purl.oclc.org/ooxml/officeDocument/extendedProperties"};
+const char* const customSpaces[] = {"http://schemas.openxmlformats.org/officeDocument/2006/custom-properties",
+                                    "http://purl.oclc.org/ooxml/officeDocument/customProperties"};
 
 constexpr std::array coreElements{
     PropertyElement{2, dublinSpace, "dc", "title"},
@@ -62,21 +73,53 @@ constexpr std::array metaElements{
     PropertyElement{4, metaSpace, "meta", "initial-creator"},
     PropertyElement{5, metaSpace, "meta", "keyword", Content::Words},
     PropertyElement{6, dublinSpace, "dc", "description"},
+    PropertyElement{7, metaSpace, "meta", "template", Content::Title},
     PropertyElement{8, dublinSpace, "dc", "creator"},
     PropertyElement{9, metaSpace, "meta", "editing-cycles", Content::Number},
     PropertyElement{11, metaSpace, "meta", "print-date", Content::Time},
     PropertyElement{12, metaSpace, "meta", "creation-date", Content::Time},
     PropertyElement{13, dublinSpace, "dc", "date", Content::Time},
+    PropertyElement{18, metaSpace, "meta", "generator"},
 };
+
+constexpr std::array extendedElements{
+    PropertyElement{7, nullptr, "", "Template"},
+    PropertyElement{18, nullptr, "", "Application"},
+};
+
+std::span<const PropertyElement> ElementsOf(PropertyFormat format) noexcept
+{
+    switch (format) {
+    case PropertyFormat::OfficeOpenXml:
+        return coreElements;
+    case PropertyFormat::OpenDocument:
+        return metaElements;
+    case PropertyFormat::Extended:
+        return extendedElements;
+    case PropertyFormat::Custom:
+        break;
+    }
+    return {};
+}
 
 const PropertyElement* FindElement(PropertyFormat format, std::uint32_t id) noexcept
 {
-    const std::span<const PropertyElement> elements =
-        format == PropertyFormat::OfficeOpenXml ? std::span<const PropertyElement>(coreElements) : metaElements;
-    for (const PropertyElement& element : elements)
+    for (const PropertyElement& element : ElementsOf(format))
         if (element.id == id)
             return &element;
     return nullptr;
+}
+
+/// Whether `node`, a child of `parent`, is the element.
+bool Is(const xmlNode* node, const xmlNode* parent, const PropertyElement& element) noexcept
+{
+    return IsElement(node, element.space ? std::string_view(element.space) : FromXml(parent->ns->href), element.name);
+}
+
+bool IsRoot(const xmlNode* root, std::span<const char* const> spaces, std::string_view name) noexcept
+{
+    return std::any_of(spaces.begin(), spaces.end(),
+                       [root, name](const char* space) { return IsElement(root, space, name); });
 }
 
 /// The element whose children the properties are; null when the document is another one.
@@ -85,6 +128,9 @@ xmlNode* FindParent(PropertyFormat format, xmlDoc* document)
     xmlNode* const root = xmlDocGetRootElement(document);
     if (format == PropertyFormat::OfficeOpenXml)
         return IsElement(root, coreSpace, "coreProperties") ? root : nullptr;
+    if (format != PropertyFormat::OpenDocument)
+        return IsRoot(root, format == PropertyFormat::Extended ? extendedSpaces : customSpaces, "Properties") ? root
+                                                                                                              : nullptr;
     if (!IsElement(root, officeSpace, "document-meta"))
         return nullptr;
     for (xmlNode* child = root->children; child; child = child->next)
@@ -152,7 +198,7 @@ void RemoveElements(xmlNode* parent, const PropertyElement& element, const xmlNo
 {
     for (xmlNode* child = parent->children; child;) {
         xmlNode* const next = child->next;
-        if (child != kept && IsElement(child, element.space, element.name)) {
+        if (child != kept && Is(child, parent, element)) {
             xmlUnlinkNode(child);
             xmlFreeNode(child);
         }
@@ -169,8 +215,8 @@ void SetContent(xmlNode* node, const std::string& content)
 void AddElement(xmlNode* parent, const PropertyElement& element, const std::string& content)
 {
     xmlNode* const node = xmlNewChild(parent, nullptr, ToXml(element.name), nullptr);
-    xmlSetNs(node, NamespaceFor(node, element.space, element.prefix));
-    if (std::string_view(element.space) == termsSpace && node->ns) {
+    xmlSetNs(node, element.space ? NamespaceFor(node, element.space, element.prefix) : parent->ns);
+    if (element.space == termsSpace && node->ns) {
         // The type's name has the prefix that its namespace has here.
         const std::string prefix(FromXml(node->ns->prefix));
         const std::string type = prefix.empty() ? "W3CDTF" : prefix + ":W3CDTF";
@@ -183,7 +229,7 @@ void AddElement(xmlNode* parent, const PropertyElement& element, const std::stri
 void SetElement(xmlNode* parent, const PropertyElement& element, const std::string& content)
 {
     for (xmlNode* child = parent->children; child; child = child->next)
-        if (IsElement(child, element.space, element.name)) {
+        if (Is(child, parent, element)) {
             SetContent(child, content);
             RemoveElements(parent, element, child);
             return;
@@ -215,6 +261,8 @@ std::uint32_t WriteElement(PropertyFormat format, xmlNode* parent, const Propert
         RemoveElements(parent, *element, nullptr);
         return Result::ok;
     }
+    if (element->content == Content::Title)
+        return Result::notSupported;
     const auto content = ContentText(*property.value, element->content);
     if (!content)
         return Result::invalidParameter;
@@ -223,6 +271,84 @@ std::uint32_t WriteElement(PropertyFormat format, xmlNode* parent, const Propert
     else
         SetElement(parent, *element, *content);
     return Result::ok;
+}
+
+/// The whole number that stands at the beginning of `text` with `digits` digits, cut off with the mark `before` in
+/// front of it; nothing when something else stands there.
+std::optional<int> TakeNumber(std::string_view& text, std::string_view before, std::size_t digits)
+{
+    if (!text.starts_with(before) || text.size() < before.size() + digits)
+        return std::nullopt;
+    int number = 0;
+    for (const char digit : text.substr(before.size(), digits)) {
+        if (digit < '0' || digit > '9')
+            return std::nullopt;
+        number = number * 10 + (digit - '0');
+    }
+    text.remove_prefix(before.size() + digits);
+    return number;
+}
+
+/// Seconds from local time to UTC that the end of a moment's text says; nothing where it says none.
+std::optional<std::int64_t> ReadZone(std::string_view text)
+{
+    if (text == "Z")
+        return 0;
+    const std::int64_t sign = text.starts_with('-') ? 1 : -1;
+    const auto hours = TakeNumber(text, sign > 0 ? "-" : "+", 2);
+    const auto minutes = hours ? TakeNumber(text, ":", 2) : std::nullopt;
+    return minutes ? std::optional(sign * (*hours * 3600 + *minutes * 60)) : std::nullopt;
+}
+
+/// The moment of YYYY-MM-DD, with or without Thh:mm, :ss, a fraction (which is dropped) and a zone; without a zone it
+/// is local time.
+std::optional<FileTicks> ReadMoment(std::string_view text)
+{
+    constexpr FileTicks ticksInSecond = 10'000'000;
+    constexpr std::int64_t secondsBefore1970 = 11'644'473'600;
+    const auto year = TakeNumber(text, "", 4);
+    const auto month = year ? TakeNumber(text, "-", 2) : std::nullopt;
+    const auto day = month ? TakeNumber(text, "-", 2) : std::nullopt;
+    if (!day)
+        return std::nullopt;
+    const int hour = TakeNumber(text, "T", 2).value_or(0);
+    const int minute = TakeNumber(text, ":", 2).value_or(0);
+    const int second = TakeNumber(text, ":", 2).value_or(0);
+    if (text.starts_with('.'))
+        text.remove_prefix(std::min(text.find_first_not_of("0123456789", 1), text.size()));
+    const COleDateTime written(*year, *month, *day, hour, minute, second);
+    const auto zone = ReadZone(text);
+    if (written.GetStatus() != COleDateTime::valid || (!zone && !text.empty()))
+        return std::nullopt;
+    if (!zone)
+        return FileTimes::FromLocal(written);
+    struct tm parts = {};
+    parts.tm_year = *year - 1900;
+    parts.tm_mon = *month - 1;
+    parts.tm_mday = *day;
+    parts.tm_hour = hour;
+    parts.tm_min = minute;
+    parts.tm_sec = second;
+    const std::int64_t seconds = timegm(&parts) + *zone + secondsBefore1970;
+    return seconds > 0 ? std::optional(seconds * ticksInSecond) : std::nullopt;
+}
+
+void ReadElement(const xmlNode* node, const PropertyElement& element, DocumentProperties& properties)
+{
+    const XmlText content(element.content == Content::Title ? xmlGetNsProp(node, ToXml("title"), ToXml(linkSpace))
+                                                            : xmlNodeGetContent(node));
+    const std::string_view text = FromXml(content.get());
+    if (text.empty())
+        return;
+    if (element.content == Content::Time) {
+        if (const auto ticks = ReadMoment(text))
+            properties.times.emplace(element.id, *ticks);
+        return;
+    }
+    CString& value = properties.texts[element.id];
+    if (!value.IsEmpty())
+        value += u", ";
+    value += Encoding::FromUtf8(text);
 }
 
 } // namespace
@@ -246,6 +372,42 @@ EditedXml EditPropertyXml(PropertyFormat format, std::string_view xml, std::span
         if (const std::uint32_t result = WriteElement(format, parent, property); result != Result::ok)
             return {result, {}};
     return {Result::ok, WriteXml(document.get())};
+}
+
+EditedXml ClearPropertyXml(PropertyFormat format, std::string_view xml)
+{
+    const XmlDocument document = xml.size() > longestPropertyXml ? nullptr : ReadXml(xml);
+    xmlNode* const parent = document ? FindParent(format, document.get()) : nullptr;
+    if (!parent)
+        return {Result::damaged, {}};
+    xmlNodeSetContent(parent, nullptr);
+    return {Result::ok, WriteXml(document.get())};
+}
+
+bool ReadPropertyXml(PropertyFormat format, std::string_view xml, DocumentProperties& properties)
+{
+    const XmlDocument document = xml.size() > longestPropertyXml ? nullptr : ReadXml(xml);
+    const xmlNode* const parent = document ? FindParent(format, document.get()) : nullptr;
+    if (!parent)
+        return false;
+    const std::span<const PropertyElement> elements = ElementsOf(format);
+    for (const xmlNode* child = parent->children; child; child = child->next) {
+        if (child->type != XML_ELEMENT_NODE)
+            continue;
+        const auto known =
+            std::find_if(elements.begin(), elements.end(),
+                         [child, parent](const PropertyElement& element) { return Is(child, parent, element); });
+        if (known == elements.end())
+            ++properties.others;
+        else
+            ReadElement(child, *known, properties);
+    }
+    return true;
+}
+
+bool HasPropertyElement(PropertyFormat format, std::uint32_t id) noexcept
+{
+    return FindElement(format, id) != nullptr;
 }
 
 } // namespace VyrPlatform

@@ -1,8 +1,9 @@
-// The properties of a document that keeps them as XML: Office Open XML's core properties (ECMA-376 part 2, 11) and
-// OpenDocument's meta.xml (OpenDocument 1.2 part 1, 4).
+// The properties of a document that keeps them as XML: Office Open XML's core properties (ECMA-376 part 2, 11), its
+// extended and custom ones (ECMA-376 part 1, 22.2 and 22.3), and OpenDocument's meta.xml (OpenDocument 1.2 part 1, 4).
 #pragma once
 
 #include <VyrPlatform/Export.h>
+#include <VyrPlatform/documents/DocumentProperties.h>
 #include <VyrPlatform/documents/PropertyStorage.h>
 
 #include <cstdint>
@@ -16,7 +17,11 @@ namespace VyrPlatform {
 enum class PropertyFormat : std::uint8_t
 {
     OfficeOpenXml,
-    OpenDocument
+    OpenDocument,
+    /// Template, application, company and the like of Office Open XML.
+    Extended,
+    /// The user's own properties of Office Open XML.
+    Custom
 };
 
 /// Longer parts are not read.
@@ -38,5 +43,16 @@ struct EditedXml
 /// The text `xml` with these properties written into it; all else in it stays.
 [[nodiscard]] VYR_PLATFORM_API EditedXml EditPropertyXml(PropertyFormat format, std::string_view xml,
                                                          std::span<const PropertyStorage::PropertyWrite> properties);
+
+/// The text `xml` without any property.
+[[nodiscard]] VYR_PLATFORM_API EditedXml ClearPropertyXml(PropertyFormat format, std::string_view xml);
+
+/// Adds what the text `xml` tells to `properties`.
+/// @return whether it is such a document.
+[[nodiscard]] VYR_PLATFORM_API bool ReadPropertyXml(PropertyFormat format, std::string_view xml,
+                                                    DocumentProperties& properties);
+
+/// Whether documents of this format have the property in this part.
+[[nodiscard]] VYR_PLATFORM_API bool HasPropertyElement(PropertyFormat format, std::uint32_t id) noexcept;
 
 } // namespace VyrPlatform

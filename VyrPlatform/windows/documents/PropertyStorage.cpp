@@ -1,10 +1,11 @@
 // Property sets by structured storage, and by the handlers that the registry names.
 #include <VyrPlatform/documents/PropertyStorage.h>
 
+#include "PropertyHandler.h"
+
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/text/WindowsCString.h>
 
-#include <tuple>
 #include <utility>
 #include <vector>
 #include <windows.h>
@@ -25,9 +26,8 @@ static_assert(Result::damaged == static_cast<std::uint32_t>(STG_E_DOCFILECORRUPT
 constexpr DWORD exclusive = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
 constexpr GUID summaryFormat{0xF29F85E0, 0x4FF9, 0x1068, {0xAB, 0x91, 0x08, 0x00, 0x2B, 0x27, 0xB3, 0xD9}};
 constexpr GUID documentFormat{0xD5CDD502, 0x2E9C, 0x101B, {0x93, 0x97, 0x08, 0x00, 0x2B, 0x2C, 0xF9, 0xAE}};
-// The import library may lack them.
+// The import library may lack it.
 constexpr GUID propertySetStorageId{0x0000013A, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
-constexpr GUID persistFileId{0x0000010B, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
 
 std::uint32_t Code(HRESULT result) noexcept
 {
@@ -38,15 +38,6 @@ void Release(IUnknown* object) noexcept
 {
     if (object)
         object->Release();
-}
-
-/// What an opening call gave: it may have given something else than what was asked for (Wine's StgOpenStorageEx gives
-/// the storage object itself), so that it is asked once more.
-std::pair<IPropertySetStorage*, HRESULT> AskForSets(IUnknown* object)
-{
-    void* storage = nullptr;
-    const HRESULT result = object->QueryInterface(propertySetStorageId, &storage);
-    return {SUCCEEDED(result) ? static_cast<IPropertySetStorage*>(storage) : nullptr, result};
 }
 
 } // namespace
@@ -75,23 +66,16 @@ Document Document::OpenCompound(const CString& path)
     if (FAILED(result))
         return {nullptr, Code(result)};
     auto* const object = static_cast<IUnknown*>(opened);
-    const auto [storage, asked] = AskForSets(object);
+    IPropertySetStorage* storage = nullptr;
+    const HRESULT asked = AskForSets(object, storage);
     object->Release();
     return {storage, Code(asked)};
 }
 
 Document Document::OpenByHandler(const CString& path, const _GUID& handler)
 {
-    void* created = nullptr;
-    HRESULT result = ::CoCreateInstance(handler, nullptr, CLSCTX_INPROC_SERVER, persistFileId, &created);
-    if (FAILED(result))
-        return {nullptr, Code(result)};
-    auto* const file = static_cast<IPersistFile*>(created);
     IPropertySetStorage* storage = nullptr;
-    result = file->Load(ToWide(path), exclusive);
-    if (SUCCEEDED(result))
-        std::tie(storage, result) = AskForSets(file);
-    file->Release();
+    const HRESULT result = LoadByHandler(path, handler, exclusive, storage);
     return {storage, Code(result)};
 }
 
