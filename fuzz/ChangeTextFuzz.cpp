@@ -1,5 +1,6 @@
 // Any texts as a journal's texts of a change, and as new values: they are read or refused, and what was read is written
 // back the same.
+#include <VyrHost/documents/Properties.h>
 #include <VyrHost/metadata/Attributes.h>
 #include <VyrHost/metadata/Changes.h>
 #include <VyrHost/metadata/Dates.h>
@@ -29,7 +30,11 @@ void Require(bool holds)
 
 void CheckJournal(std::uint8_t choice, std::string_view bytes)
 {
-    static const VyrHost::Model::ChangeKinds kinds = Kinds();
+    static const VyrHost::Model::ChangeKinds kinds = [] {
+        VyrHost::Model::ChangeKinds all = Kinds();
+        all.merge(VyrHost::Documents::Kinds());
+        return all;
+    }();
     const auto& [name, read] = *std::next(kinds.begin(), choice % static_cast<std::ptrdiff_t>(kinds.size()));
     const std::size_t end = std::min(bytes.find('\n'), bytes.size());
     const CString before = VyrPlatform::Encoding::FromNameBytes(bytes.substr(0, end));

@@ -2,6 +2,7 @@
 #include <VyrHost/batch/BatchWork.h>
 
 #include <VyrHost/batch/DiskLooks.h>
+#include <VyrHost/batch/KeptFiles.h>
 #include <VyrHost/batch/Locator.h>
 #include <VyrHost/text/Errors.h>
 
@@ -54,7 +55,9 @@ bool BatchWork::Begin()
     for (Model::PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry)
         CheckSource(entry);
     KeepJournalInPlace();
-    return MayGoOn(m_folder.Begin(m_journal, m_file));
+    const bool isBegun = MayGoOn(m_folder.Begin(m_journal, m_file));
+    GiveKeptPlaces(m_journal, m_file);
+    return isBegun;
 }
 
 void BatchWork::CheckSource(Model::PlanIndex entry)
@@ -108,6 +111,7 @@ bool BatchWork::MayGoOn(std::uint32_t journalError)
 bool BatchWork::Locate(const JournalFile& file, Direction direction, bool isPreview)
 {
     m_file = file;
+    GiveKeptPlaces(m_journal, m_file);
     const bool isRedo = IsEnded(file.phase) && direction == Direction::Forward;
     // A redo leaves out what the batch did not do when it was applied.
     if (isRedo && !m_journal.applied)

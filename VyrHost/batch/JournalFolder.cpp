@@ -1,6 +1,7 @@
 // Journal files: their names, their order, their removal.
 #include <VyrHost/batch/JournalFolder.h>
 
+#include <VyrHost/batch/KeptFiles.h>
 #include <VyrHost/model/FolderSet.h>
 #include <VyrHost/text/Errors.h>
 
@@ -292,9 +293,13 @@ std::uint32_t JournalFolder::Abandon(JournalFile& file)
     return Flush();
 }
 
+/// The journal first: without it nobody looks for what it kept.
 std::uint32_t JournalFolder::Remove(const JournalFile& file)
 {
-    return m_files.Remove(file.path);
+    const std::uint32_t error = m_files.Remove(file.path);
+    if (!error)
+        RemoveKept(m_files, m_path, file.number);
+    return error;
 }
 
 CString JournalFolder::PathOf(const CString& name) const
@@ -326,6 +331,7 @@ void JournalFolder::RemoveOld()
         if (isBeyond || (now && VyrPlatform::LookAtFile(journal.path).modified < OldestKept(*now, m_keeping.days)))
             static_cast<void>(Remove(journal));
     }
+    RemoveOrphans(m_files, m_path);
 }
 
 } // namespace VyrHost::Batch

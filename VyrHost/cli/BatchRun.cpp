@@ -5,6 +5,7 @@
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/Options.h>
 #include <VyrHost/cli/SourceOptions.h>
+#include <VyrHost/documents/Properties.h>
 #include <VyrHost/metadata/Changes.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/ui/ResultOutput.h>
@@ -70,6 +71,7 @@ Batch::Batches OpenBatches(const Batch::LockWait& wait)
     Batch::BatchSettings settings = Batch::SettingsFromEnvironment();
     settings.wait = wait;
     settings.kinds = Metadata::Kinds();
+    settings.kinds.merge(Documents::Kinds());
     return {Batch::SystemFiles(), std::move(settings)};
 }
 
@@ -147,7 +149,7 @@ int ApplyAndReport(const PreviewedBatch& batch, const Model::Results& results, R
     if (applied == ExitCode::blocked)
         return applied;
     const std::string ending = EndingOf(batch, style, summary);
-    style.remark = LeftOutNotice(collected);
+    style.remark = LeftOutNotice(collected) + style.remark;
     const int shown = WriteReport(results, style, {}, ending);
     if (style.quiet && summary.wasStopped)
         Complain("interrupted: " + Ui::SummaryOf(Model::Tally(results)) + ending);

@@ -43,20 +43,21 @@ int ChangeCommand::Run() const
     const std::unique_ptr<const Metadata::ChangeRule> rule = ReadRule();
     if (!m_sources.NamesAny())
         throw Text::UsageError("no file is named");
-    return rule ? Change(*rule, style) : ShowFiles(style);
-}
-
-int ChangeCommand::Change(const Metadata::ChangeRule& rule, const ReportStyle& style) const
-{
+    if (!rule)
+        return ShowFiles(style);
     if (style.isPreview)
         OfferRecovery();
-    const Collect::CollectedEntries collected = TakeEntries(m_sources.Read(), m_order.Read());
+    return RunChanges(m_command.get_name(), m_kind, *rule, TakeEntries(m_sources.Read(), m_order.Read()), style);
+}
+
+int RunChanges(const std::string& command, std::string_view kind, const Metadata::ChangeRule& rule,
+               const Collect::CollectedEntries& collected, const ReportStyle& style)
+{
     const Model::EntryList& list = collected.list;
     std::vector<Metadata::Proposal> proposals = Propose(rule, list, style);
     std::vector<std::size_t> entries;
-    Batch::NewBatch batch =
-        Metadata::MakeBatch(VyrPlatform::Encoding::FromUtf8(m_command.get_name()), list, proposals, entries);
-    Metadata::ChangeResults results(m_kind, list, std::move(proposals));
+    Batch::NewBatch batch = Metadata::MakeBatch(VyrPlatform::Encoding::FromUtf8(command), list, proposals, entries);
+    Metadata::ChangeResults results(kind, list, std::move(proposals));
     const auto apply = [&batch](Batch::Batches& batches, const Batch::RenameReport& report) {
         return batches.Apply([&batch] { return std::move(batch); }, report, VyrHostPlatform::Interrupt::WasAsked);
     };

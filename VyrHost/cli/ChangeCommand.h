@@ -1,10 +1,12 @@
 /// @file
-/// What the commands that change files in place have in common: "vyr times", "vyr attributes", "vyr unblock".
+/// What the commands that change files in place have in common: "vyr times", "vyr attributes", "vyr unblock", "vyr
+/// properties".
 #pragma once
 
 #include <VyrHost/cli/BatchRun.h>
 #include <VyrHost/cli/Commands.h>
 #include <VyrHost/cli/SourceOptions.h>
+#include <VyrHost/collect/CollectEntries.h>
 #include <VyrHost/metadata/Changes.h>
 
 #include <memory>
@@ -12,6 +14,13 @@
 #include <string_view>
 
 namespace VyrHost::Cli {
+
+/// Changes the entries of `collected` by `rule`, or shows what it would change.
+/// @param command  such as "times".
+/// @param kind     of the changes.
+/// @return the program's exit code.
+[[nodiscard]] int RunChanges(const std::string& command, std::string_view kind, const Metadata::ChangeRule& rule,
+                             const Collect::CollectedEntries& collected, const ReportStyle& style);
 
 /// Changes files by a rule, or shows what it would change; without a rule shows what there is to change.
 class ChangeCommand : public Command
@@ -30,7 +39,6 @@ protected:
     [[nodiscard]] virtual std::unique_ptr<const Metadata::ChangeRule> ReadRule() const = 0;
 
 private:
-    [[nodiscard]] int Change(const Metadata::ChangeRule& rule, const ReportStyle& style) const;
     [[nodiscard]] int ShowFiles(const ReportStyle& style) const;
 
     SourceOptions m_sources;

@@ -13,9 +13,9 @@ bool Command::IsChosen() const
 std::vector<std::unique_ptr<Command>> AddCommands(CLI::App& program)
 {
     std::vector<std::unique_ptr<Command>> commands;
-    for (const auto add :
-         {AddRenameCommand, AddListCommand, AddTimesCommand, AddAttributesCommand, AddUnblockCommand, AddCopyCommand,
-          AddMoveCommand, AddUndoCommand, AddRecoverCommand, AddProgramsCommand, AddBrowsersCommand, AddUpdatesCommand})
+    for (const auto add : {AddRenameCommand, AddListCommand, AddTimesCommand, AddAttributesCommand, AddUnblockCommand,
+                           AddPropertiesCommand, AddCopyCommand, AddMoveCommand, AddUndoCommand, AddRecoverCommand,
+                           AddProgramsCommand, AddBrowsersCommand, AddUpdatesCommand})
         commands.push_back(add(program));
     return commands;
 }

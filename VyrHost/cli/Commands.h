@@ -43,6 +43,8 @@ protected:
 [[nodiscard]] std::unique_ptr<Command> AddAttributesCommand(CLI::App& program);
 /// Takes the marks of downloads off files.
 [[nodiscard]] std::unique_ptr<Command> AddUnblockCommand(CLI::App& program);
+/// Shows the properties of documents, or sets and clears them.
+[[nodiscard]] std::unique_ptr<Command> AddPropertiesCommand(CLI::App& program);
 /// Previews the copying or moving of folders, or does it.
 [[nodiscard]] std::unique_ptr<Command> AddCopyCommand(CLI::App& program);
 [[nodiscard]] std::unique_ptr<Command> AddMoveCommand(CLI::App& program);

@@ -30,22 +30,6 @@ RecordValue SizeOf(const std::optional<std::int64_t>& size)
     return size ? RecordValue(*size) : RecordValue();
 }
 
-/// With the offset from UTC, except around and before the epoch, where the count of days is not linear.
-RecordValue DateOf(const std::optional<FileTicks>& ticks)
-{
-    constexpr double ticksPerDay = 864e9;
-    constexpr double daysTo1899 = 109'205;
-    constexpr double minutesPerDay = 1440;
-    const COleDateTime local = ticks ? VyrPlatform::FileTimes::ToLocal(*ticks) : COleDateTime();
-    if (!ticks || local.GetStatus() != COleDateTime::valid)
-        return {};
-    Ui::RecordDate date{local};
-    if (local.m_dt > 1)
-        date.minutesAheadOfUtc = static_cast<int>(
-            std::lround((local.m_dt - (static_cast<double>(*ticks) / ticksPerDay - daysTo1899)) * minutesPerDay));
-    return date;
-}
-
 RecordValue KindOf(const ListedFile& file)
 {
     switch (file.Kind()) {
@@ -93,6 +77,21 @@ RecordValue AttributesOf(const ListedFile& file)
 }
 
 } // namespace
+
+RecordValue DateOf(const std::optional<FileTicks>& ticks)
+{
+    constexpr double ticksPerDay = 864e9;
+    constexpr double daysTo1899 = 109'205;
+    constexpr double minutesPerDay = 1440;
+    const COleDateTime local = ticks ? VyrPlatform::FileTimes::ToLocal(*ticks) : COleDateTime();
+    if (!ticks || local.GetStatus() != COleDateTime::valid)
+        return {};
+    Ui::RecordDate date{local};
+    if (local.m_dt > 1)
+        date.minutesAheadOfUtc = static_cast<int>(
+            std::lround((local.m_dt - (static_cast<double>(*ticks) / ticksPerDay - daysTo1899)) * minutesPerDay));
+    return date;
+}
 
 std::span<const Ui::RecordField<ListedFile>> FileFields()
 {

@@ -6,11 +6,15 @@
 #include <VyrHost/metadata/ListedFile.h>
 #include <VyrHost/ui/RecordTable.h>
 
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 namespace VyrHost::Cli {
+
+/// A moment in local time with its offset from UTC, where the count of days runs evenly; none for none.
+[[nodiscard]] Ui::RecordValue DateOf(const std::optional<VyrPlatform::FileTicks>& ticks);
 
 /// All that can be told of a file.
 [[nodiscard]] std::span<const Ui::RecordField<Metadata::ListedFile>> FileFields();

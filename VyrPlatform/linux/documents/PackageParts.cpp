@@ -75,18 +75,18 @@ void AddContentType(xmlDoc* types)
 }
 
 /// The member as XML with the root `space`; null when it is no such thing.
-XmlDocument ReadPart(const ZipArchive& archive, const char* name, std::string_view space, std::string_view root)
+XmlTree ReadPart(const ZipArchive& archive, const char* name, std::string_view space, std::string_view root)
 {
     const auto text = archive.Read(name, longestPropertyXml);
-    XmlDocument document = text ? ReadXml(*text) : nullptr;
+    XmlTree document = text ? ReadXml(*text) : nullptr;
     return document && IsElement(xmlDocGetRootElement(document.get()), space, root) ? std::move(document) : nullptr;
 }
 
 /// Nothing when the package is damaged.
 std::optional<PropertyPart> FindOfficeOpenXmlPart(const ZipArchive& archive)
 {
-    const XmlDocument package = ReadPart(archive, relationships, relationshipsSpace, "Relationships");
-    const XmlDocument types = ReadPart(archive, contentTypes, typesSpace, "Types");
+    const XmlTree package = ReadPart(archive, relationships, relationshipsSpace, "Relationships");
+    const XmlTree types = ReadPart(archive, contentTypes, typesSpace, "Types");
     if (!package || !types)
         return std::nullopt;
     const std::string named = FindRelated(package.get(), "/metadata/core-properties");
@@ -143,7 +143,7 @@ std::optional<PropertyPart> FindPropertyPart(PropertyFormat format, int file)
 std::vector<PackagePart> FindFurtherParts(int file)
 {
     const ZipArchive archive(file);
-    const XmlDocument package = ReadPart(archive, relationships, relationshipsSpace, "Relationships");
+    const XmlTree package = ReadPart(archive, relationships, relationshipsSpace, "Relationships");
     std::vector<PackagePart> parts;
     if (!package)
         return parts;
@@ -168,7 +168,7 @@ PackageTraits ReadPackageTraits(PropertyFormat format, int file)
         traits.hasThumbnail = archive.Has("Thumbnails/thumbnail.png");
         return traits;
     }
-    if (const XmlDocument package = ReadPart(archive, relationships, relationshipsSpace, "Relationships")) {
+    if (const XmlTree package = ReadPart(archive, relationships, relationshipsSpace, "Relationships")) {
         traits.isSigned = !FindRelated(package.get(), "/digital-signature/origin").empty();
         traits.hasThumbnail = !FindRelated(package.get(), "/metadata/thumbnail").empty();
     }

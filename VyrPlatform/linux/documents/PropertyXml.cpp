@@ -376,7 +376,7 @@ EditedXml EditPropertyXml(PropertyFormat format, std::string_view xml, std::span
 
 EditedXml ClearPropertyXml(PropertyFormat format, std::string_view xml)
 {
-    const XmlDocument document = xml.size() > longestPropertyXml ? nullptr : ReadXml(xml);
+    const XmlTree document = xml.size() > longestPropertyXml ? nullptr : ReadXml(xml);
     xmlNode* const parent = document ? FindParent(format, document.get()) : nullptr;
     if (!parent)
         return {Result::damaged, {}};
@@ -386,7 +386,7 @@ EditedXml ClearPropertyXml(PropertyFormat format, std::string_view xml)
 
 bool ReadPropertyXml(PropertyFormat format, std::string_view xml, DocumentProperties& properties)
 {
-    const XmlDocument document = xml.size() > longestPropertyXml ? nullptr : ReadXml(xml);
+    const XmlTree document = xml.size() > longestPropertyXml ? nullptr : ReadXml(xml);
     const xmlNode* const parent = document ? FindParent(format, document.get()) : nullptr;
     if (!parent)
         return false;

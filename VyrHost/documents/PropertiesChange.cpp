@@ -1,0 +1,298 @@
+// Replaces documents, and writes the changes for the journal.
+//
+// Before: "SIZE CHECK", and ";TEXT" for each property that is changed: what it was, in words. After: "all" or "some",
+// and ";NAME" for each that is removed, ";NAME TEXT" for each that is set. Texts are the hexadecimal digits of their
+// UTF-16 units, the low byte first.
+//
+// The kept file begins with the line "SIZE CHECK" of the new document; the old document stands behind it.
+#include <VyrHost/documents/Properties.h>
+
+#include <VyrHost/documents/Document.h>
+#include <VyrHost/metadata/Changes.h>
+#include <VyrHost/model/FolderSet.h>
+#include <VyrHostPlatform/DurableFile.h>
+#include <VyrLibraryUtils/FolderUtils.h>
+#include <VyrPlatform/WinTypes.h>
+#include <VyrPlatform/documents/PropertyStorage.h>
+#include <VyrPlatform/files/FileReader.h>
+#include <VyrPlatform/text/Encoding.h>
+
+#include <algorithm>
+#include <cstring>
+#include <functional>
+#include <span>
+#include <utility>
+#include <zlib.h>
+
+namespace VyrHost::Documents {
+
+namespace {
+
+using Metadata::FromHex;
+using Metadata::ReadWhole;
+using Metadata::TakeUpTo;
+using Metadata::ToHex;
+using Model::ChangeLook;
+using Model::ChangeState;
+using VyrPlatform::DocumentReplacement;
+using VyrPlatform::FileReader;
+namespace DurableFile = VyrHostPlatform::DurableFile;
+namespace Result = VyrPlatform::PropertyStorage::Result;
+
+constexpr std::u16string_view allCleared = u"all";
+constexpr std::u16string_view someCleared = u"some";
+
+std::string HexBytes(const CString& text)
+{
+    std::string bytes(text.View().size() * 2, '\0');
+    if (!bytes.empty())
+        std::memcpy(bytes.data(), text.GetString(), bytes.size());
+    return bytes;
+}
+
+std::optional<CString> FromHexBytes(std::u16string_view hex)
+{
+    const std::optional<std::string> bytes = FromHex(hex);
+    if (!bytes || bytes->size() % 2 != 0)
+        return std::nullopt;
+    std::u16string units(bytes->size() / 2, u'\0');
+    if (!units.empty())
+        std::memcpy(units.data(), bytes->data(), bytes->size());
+    return CString(units);
+}
+
+CString TextOf(const Fingerprint& fingerprint)
+{
+    CString text;
+    text.Format(u"%s %08x", VyrPlatform::Encoding::FromUtf8(std::to_string(fingerprint.size)), fingerprint.check);
+    return text;
+}
+
+std::optional<Fingerprint> ReadFingerprint(std::u16string_view text)
+{
+    const auto size = ReadWhole(TakeUpTo(text, u' '));
+    const auto check = ReadWhole(text, 16);
+    if (!size || *size < 0 || !check || *check < 0 || *check > 0xFFFFFFFF)
+        return std::nullopt;
+    return Fingerprint{static_cast<std::uint64_t>(*size), static_cast<std::uint32_t>(*check)};
+}
+
+/// Reads the file on from `offset`, piece by piece.
+/// @return the fingerprint of what was read; nothing when it could not be read to its end.
+std::optional<Fingerprint> Walk(const FileReader& reader, std::uint64_t offset, const DurableFile::TakePiece& take)
+{
+    Fingerprint fingerprint;
+    std::string piece(std::size_t{1} << 16, '\0');
+    for (; offset + fingerprint.size < reader.Size();) {
+        const std::size_t count = reader.ReadAt(offset + fingerprint.size, std::as_writable_bytes(std::span(piece)));
+        if (count == 0)
+            return std::nullopt;
+        const auto* const bytes = reinterpret_cast<const unsigned char*>(piece.data());
+        fingerprint.check = static_cast<std::uint32_t>(crc32_z(fingerprint.check, bytes, count));
+        fingerprint.size += count;
+        take(std::string_view(piece).substr(0, count));
+    }
+    return fingerprint;
+}
+
+/// The first line of a kept file, and its length with the line's end.
+struct KeptHeading
+{
+    Fingerprint newDocument;
+    std::uint64_t length = 0;
+};
+
+std::optional<KeptHeading> ReadHeading(const CString& kept)
+{
+    constexpr std::size_t longest = 64;
+    const FileReader reader(kept);
+    std::string text(longest, '\0');
+    text.resize(reader.IsOpen() ? reader.ReadAt(0, std::as_writable_bytes(std::span(text))) : 0);
+    const std::size_t end = text.find('\n');
+    const auto fingerprint =
+        end == std::string::npos ? std::nullopt : ReadFingerprint(VyrPlatform::Encoding::FromUtf8(text.substr(0, end)));
+    return fingerprint ? std::optional(KeptHeading{*fingerprint, end + 1}) : std::nullopt;
+}
+
+CString Joined(const CString& list, std::initializer_list<std::u16string_view> parts)
+{
+    CString joined = list;
+    if (!joined.IsEmpty())
+        joined += u", ";
+    for (const std::u16string_view part : parts)
+        joined += part;
+    return joined;
+}
+
+const PropertyName* FindById(std::uint32_t id)
+{
+    const auto names = PropertyNames();
+    const auto found =
+        std::find_if(names.begin(), names.end(), [id](const PropertyName& known) { return known.id == id; });
+    return found == names.end() ? nullptr : &*found;
+}
+
+/// Reads "NAME" or "NAME TEXT".
+bool ReadValue(std::u16string_view piece, VyrPlatform::PropertyEdit& edit)
+{
+    const bool hasText = piece.find(u' ') != std::u16string_view::npos;
+    const PropertyName* const property = FindProperty(TakeUpTo(piece, u' '));
+    const auto text = hasText ? FromHexBytes(piece) : std::nullopt;
+    if (!property || hasText != text.has_value() || (hasText && !property->isText))
+        return false;
+    return edit.values.emplace(property->id, text).second;
+}
+
+bool ReadAfter(std::u16string_view text, VyrPlatform::PropertyEdit& edit)
+{
+    const std::u16string_view first = TakeUpTo(text, u';');
+    edit.clearsAll = first == allCleared;
+    bool isSound = first == allCleared || first == someCleared;
+    while (isSound && !text.empty())
+        isSound = ReadValue(TakeUpTo(text, u';'), edit);
+    return isSound && (edit.clearsAll || !edit.values.empty());
+}
+
+bool ReadBefore(std::u16string_view text, PropertiesChange::Document& document)
+{
+    const auto fingerprint = ReadFingerprint(TakeUpTo(text, u';'));
+    if (!fingerprint)
+        return false;
+    document.fingerprint = *fingerprint;
+    while (!text.empty()) {
+        const auto shown = FromHexBytes(TakeUpTo(text, u';'));
+        if (!shown)
+            return false;
+        document.shown.push_back(*shown);
+    }
+    return true;
+}
+
+} // namespace
+
+std::optional<Fingerprint> FingerprintOf(const FileReader& reader, std::uint64_t offset)
+{
+    return reader.IsOpen() ? Walk(reader, offset, [](std::string_view) {}) : std::nullopt;
+}
+
+std::shared_ptr<const Model::Change> PropertiesChange::Read(const CString& before, const CString& after)
+{
+    auto document = std::make_shared<Document>();
+    if (!ReadBefore(before, *document) || !ReadAfter(after, document->edit))
+        return nullptr;
+    return std::make_shared<PropertiesChange>(std::move(document));
+}
+
+CString PropertiesChange::Before() const
+{
+    CString text = TextOf(m_document->fingerprint);
+    for (const CString& shown : m_document->shown)
+        text += CString::Join({u";", ToHex(HexBytes(shown))});
+    return text;
+}
+
+CString PropertiesChange::After() const
+{
+    CString text = m_document->edit.clearsAll ? allCleared : someCleared;
+    for (const auto& [id, value] : m_document->edit.values) {
+        text += CString::Join({u";", FindById(id)->name});
+        if (value)
+            text += CString::Join({u" ", ToHex(HexBytes(*value))});
+    }
+    return text;
+}
+
+CString PropertiesChange::ShownBefore() const
+{
+    CString text;
+    for (const CString& shown : m_document->shown)
+        text = Joined(text, {shown});
+    return text;
+}
+
+CString PropertiesChange::ShownAfter() const
+{
+    const bool clearsAll = m_document->edit.clearsAll;
+    CString text;
+    for (const auto& [id, value] : m_document->edit.values) {
+        const CString name = FindById(id)->name;
+        if (value)
+            text = Joined(text, {name, u" \"", *value, u"\""});
+        else if (!clearsAll)
+            text = Joined(text, {u"no ", name});
+    }
+    if (!clearsAll)
+        return text;
+    return text.IsEmpty() ? CString(u"no properties") : Joined(text, {u"nothing else"});
+}
+
+std::shared_ptr<const Model::Change> PropertiesChange::KeepingAt(const CString& kept) const
+{
+    return std::make_shared<PropertiesChange>(m_document, kept);
+}
+
+ChangeLook PropertiesChange::Look(const CString& path) const
+{
+    const FileReader reader(path);
+    if (!reader.IsOpen())
+        return {ChangeState::Unknown, reader.Error()};
+    const auto now = FingerprintOf(reader);
+    if (now == m_document->fingerprint)
+        return {ChangeState::Before, 0};
+    const auto heading = ReadHeading(m_kept);
+    return {now && heading && *now == heading->newDocument ? ChangeState::After : ChangeState::Other, 0};
+}
+
+std::uint32_t PropertiesChange::Apply(const CString& path) const
+{
+    auto replacement = DocumentReplacement::WithProperties(path, m_document->edit, HandlerOf(path));
+    if (replacement.Error() != Result::ok)
+        return replacement.Error();
+    const auto newDocument = FingerprintOf(FileReader(replacement.NewPath()));
+    if (!newDocument)
+        return Result::writeFault;
+    const std::uint32_t error = Keep(path, *newDocument);
+    return error ? error : replacement.Commit();
+}
+
+/// The old document is on the disk before the new one takes its place.
+std::uint32_t PropertiesChange::Keep(const CString& path, const Fingerprint& newDocument) const
+{
+    const CString folder = Model::FolderPart(m_kept);
+    if (VyrLibraryUtils::FolderUtils::CreateFolderPathExists(folder) == 0)
+        return Result::writeFault;
+    const FileReader reader(path);
+    if (!reader.IsOpen())
+        return reader.Error();
+    // Of an attempt that was cut off, or of the batch before it was undone.
+    static_cast<void>(DurableFile::Remove(m_kept));
+    std::optional<Fingerprint> kept;
+    const std::uint32_t error = DurableFile::WriteNew(m_kept, [&](const DurableFile::TakePiece& take) {
+        take(VyrPlatform::Encoding::ToUtf8(TextOf(newDocument)) + "\n");
+        kept = Walk(reader, 0, take);
+    });
+    if (error == 0 && kept != m_document->fingerprint)
+        return Result::shareViolation;
+    return error;
+}
+
+std::uint32_t PropertiesChange::TakeBack(const CString& path) const
+{
+    const auto heading = ReadHeading(m_kept);
+    if (!heading)
+        return Result::fileNotFound;
+    auto replacement = DocumentReplacement::WithContent(path, m_kept, heading->length);
+    if (replacement.Error() != Result::ok)
+        return replacement.Error();
+    // A kept file that was written to is none.
+    if (FingerprintOf(FileReader(replacement.NewPath())) != m_document->fingerprint)
+        return Result::damaged;
+    return replacement.Commit();
+}
+
+Model::ChangeKinds Kinds()
+{
+    return {{std::string(PropertiesChange::kind), PropertiesChange::Read}};
+}
+
+} // namespace VyrHost::Documents

@@ -1,0 +1,231 @@
+// Finds the properties of a document that are to be changed.
+#include <VyrHost/documents/Properties.h>
+
+#include <VyrHost/documents/Document.h>
+#include <VyrHost/metadata/Changes.h>
+#include <VyrHost/model/FolderSet.h>
+#include <VyrHost/text/Errors.h>
+#include <VyrHost/text/SafeText.h>
+#include <VyrPlatform/WinTypes.h>
+#include <VyrPlatform/documents/PropertyStorage.h>
+#include <VyrPlatform/files/FileReader.h>
+#include <VyrPlatform/files/FileTimes.h>
+#include <VyrPlatform/text/Encoding.h>
+#include <VyrPlatform/time/COleDateTime.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace VyrHost::Documents {
+
+namespace {
+
+using VyrPlatform::DocumentProperties;
+using VyrPlatform::PropertyEdit;
+using VyrPlatform::FileSystem::Kind;
+namespace Id = VyrPlatform::SummaryId;
+namespace Result = VyrPlatform::PropertyStorage::Result;
+
+constexpr std::u16string_view nameToken = u"<Name>";
+constexpr std::u16string_view parentToken = u"<Parent>";
+
+std::string ListOfNames(bool areTextsOnly)
+{
+    std::string list;
+    for (const PropertyName& property : PropertyNames())
+        if (property.isText || !areTextsOnly)
+            list.append(list.empty() ? "" : ", ").append(VyrPlatform::Encoding::ToUtf8(property.name));
+    return list;
+}
+
+bool IsLetter(char16_t unit)
+{
+    return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
+}
+
+/// Refuses a word in angle brackets that stands for nothing.
+void RequireTokens(std::u16string_view text)
+{
+    for (std::size_t begin = text.find(u'<'); begin != text.npos; begin = text.find(u'<', begin + 1)) {
+        const auto word = text.begin() + static_cast<std::ptrdiff_t>(begin) + 1;
+        const auto end = std::find_if_not(word, text.end(), IsLetter);
+        if (end == word || end == text.end() || *end != u'>')
+            continue;
+        const std::u16string_view token = text.substr(begin, static_cast<std::size_t>(end - word) + 2);
+        if (token != nameToken && token != parentToken)
+            Text::RefuseValue("--set", text, "it knows no " + Text::SafeText(token) + ", only <Name> and <Parent>");
+    }
+}
+
+void Add(const PropertyName& property, const std::optional<CString>& text, std::u16string_view given,
+         const char* option, PropertyRequest& request)
+{
+    if (!request.values.emplace(property.id, text).second)
+        Text::RefuseValue(option, given, VyrPlatform::Encoding::ToUtf8(property.name) + " is named more than once");
+}
+
+/// The name of the folder that the file at `path` is in; empty for a root.
+CString ParentOf(const CString& path)
+{
+    const std::u16string_view folder = Model::FolderPart(path);
+    const std::u16string_view without = folder.substr(0, folder.empty() ? 0 : folder.size() - 1);
+    return without.substr(Model::FolderPart(without).size());
+}
+
+bool HasProperty(const DocumentProperties& properties, std::uint32_t id)
+{
+    return properties.texts.contains(id) || properties.times.contains(id) ||
+           (id == Id::thumbnail && properties.hasThumbnail);
+}
+
+bool HasAny(const DocumentProperties& properties)
+{
+    return !properties.texts.empty() || !properties.times.empty() || properties.others > 0;
+}
+
+/// `text` with what its tokens stand for. A name that looks like a token stays what it is.
+CString FillIn(std::u16string_view text, const CString& path, const Model::Entry& entry)
+{
+    CString filled;
+    while (!text.empty()) {
+        const bool isName = text.starts_with(nameToken);
+        const bool isParent = text.starts_with(parentToken);
+        if (!isName && !isParent) {
+            const std::size_t plain = std::min(text.find(u'<', 1), text.size());
+            filled += text.substr(0, plain);
+            text.remove_prefix(plain);
+            continue;
+        }
+        filled += isName ? Model::Split(path, entry).name : ParentOf(path);
+        text.remove_prefix(isName ? nameToken.size() : parentToken.size());
+    }
+    return filled;
+}
+
+/// Leaves out what is so already.
+PropertyEdit WhatChanges(const PropertyRequest& request, const DocumentProperties& properties, const CString& path,
+                         const Model::Entry& entry)
+{
+    PropertyEdit edit;
+    edit.clearsAll = request.clearsAll && HasAny(properties);
+    for (const auto& [id, text] : request.values) {
+        const auto known = properties.texts.find(id);
+        const std::optional<CString> value = text ? std::optional(FillIn(*text, path, entry)) : std::nullopt;
+        const bool isSo = value ? known != properties.texts.end() && known->second == *value && !edit.clearsAll
+                                : !HasProperty(properties, id) || (edit.clearsAll && id != Id::thumbnail);
+        if (!isSo)
+            edit.values.emplace(id, value);
+    }
+    return edit;
+}
+
+CString ShownDate(VyrPlatform::FileTicks ticks)
+{
+    const COleDateTime local = VyrPlatform::FileTimes::ToLocal(ticks);
+    CString text;
+    if (local.GetStatus() == COleDateTime::valid)
+        text.Format(u"%04d-%02d-%02d %02d:%02d:%02d", local.GetYear(), local.GetMonth(), local.GetDay(),
+                    local.GetHour(), local.GetMinute(), local.GetSecond());
+    return text;
+}
+
+CString ShownProperty(const PropertyName& property, const DocumentProperties& properties)
+{
+    if (const auto text = properties.texts.find(property.id); text != properties.texts.end())
+        return CString::Join({property.name, u" \"", text->second, u"\""});
+    if (const auto time = properties.times.find(property.id); time != properties.times.end())
+        return CString::Join({property.name, u" ", ShownDate(time->second)});
+    if (property.id == Id::thumbnail && properties.hasThumbnail)
+        return u"a thumbnail";
+    return CString::Join({u"no ", property.name});
+}
+
+/// What of `properties` is changed by `edit`, in words.
+std::vector<CString> ShownBefore(const DocumentProperties& properties, const PropertyEdit& edit)
+{
+    std::vector<CString> shown;
+    for (const PropertyName& property : PropertyNames()) {
+        const bool isCleared = edit.clearsAll && property.id != Id::thumbnail && HasProperty(properties, property.id);
+        if (isCleared || edit.values.contains(property.id))
+            shown.push_back(ShownProperty(property, properties));
+    }
+    if (edit.clearsAll && properties.others > 0) {
+        CString others;
+        others.Format(properties.others == 1 ? u"%u other" : u"%u others", static_cast<unsigned>(properties.others));
+        shown.push_back(others);
+    }
+    return shown;
+}
+
+/// Why a document is not to be written to; empty when it may be.
+CString FindObstacle(const Document& document, const PropertyRequest& request)
+{
+    if (!document.problem.IsEmpty())
+        return document.problem;
+    if (document.properties.isEncrypted)
+        return u"it is encrypted";
+    if (document.properties.lacksCodePage)
+        return u"its properties do not say in which code page they are, so that new ones would garble the others";
+    if (document.properties.isSigned && !request.breaksSignatures)
+        return u"it is signed, and the signature would no longer hold; --break-signature changes it all the same";
+    return {};
+}
+
+} // namespace
+
+void ParseProperty(std::u16string_view text, PropertyRequest& request)
+{
+    std::u16string_view value = text;
+    const bool hasValue = text.find(u'=') != text.npos;
+    const PropertyName* const property = FindProperty(Metadata::TakeUpTo(value, u'='));
+    if (!property || !property->isText || !hasValue)
+        Text::RefuseValue("--set", text, "NAME=TEXT is expected, where NAME is one of " + ListOfNames(true));
+    if (value.empty())
+        Text::RefuseValue("--set", text, "there is no text; --clear clears a property");
+    const bool isNumber = value.find_first_not_of(u"0123456789") == value.npos;
+    if (property->id == Id::revision && !isNumber)
+        Text::RefuseValue("--set", text, "a revision is a whole number");
+    RequireTokens(value);
+    Add(*property, CString(value), text, "--set", request);
+}
+
+void ParseCleared(std::u16string_view text, PropertyRequest& request)
+{
+    for (std::u16string_view rest = text;;) {
+        const bool isLast = rest.find(u',') == rest.npos;
+        const PropertyName* const property = FindProperty(Metadata::TakeUpTo(rest, u','));
+        if (!property)
+            Text::RefuseValue("--clear", text, ListOfNames(false) + " are known; several are separated by commas");
+        Add(*property, std::nullopt, text, "--clear", request);
+        if (isLast)
+            return;
+    }
+}
+
+Metadata::Proposal PropertiesRule::Propose(const CString& path, const Model::Entry& entry, std::size_t /*index*/) const
+{
+    if (entry.kind == Kind::Folder)
+        return {nullptr, u"it is a folder"};
+    const Document document = ReadDocument(path);
+    if (CString obstacle = FindObstacle(document, m_request); !obstacle.IsEmpty())
+        return {nullptr, std::move(obstacle)};
+    PropertyEdit edit = WhatChanges(m_request, document.properties, path, entry);
+    if (!edit.clearsAll && edit.values.empty())
+        return {};
+    if (const std::uint32_t result = VyrPlatform::CheckDocumentEdit(path, edit, HandlerOf(path)); result != Result::ok)
+        return {nullptr, Text::ErrorText(result)};
+    const VyrPlatform::FileReader reader(path);
+    const auto fingerprint = FingerprintOf(reader);
+    if (!fingerprint)
+        return {nullptr, Text::ErrorText(Result::writeFault)};
+    if (fingerprint->size > m_most - m_kept)
+        return {nullptr, u"a batch keeps at most 2 GB of old documents; change this one in another batch"};
+    m_kept += fingerprint->size;
+    auto change = std::make_shared<PropertiesChange::Document>();
+    change->fingerprint = *fingerprint;
+    change->shown = ShownBefore(document.properties, edit);
+    change->edit = std::move(edit);
+    return {std::make_shared<PropertiesChange>(std::move(change)), {}};
+}
+
+} // namespace VyrHost::Documents

@@ -1,0 +1,163 @@
+// The change of properties: what the journal keeps of it, how much of old documents, and what is foreseen.
+#include <VyrHost/documents/Document.h>
+#include <VyrHost/documents/Properties.h>
+
+#include <VyrHost/text/Errors.h>
+#include <VyrLibraryUtils/FileUtils.h>
+#include <VyrPlatform/WinTypes.h>
+#include <VyrPlatform/documents/PropertyStorage.h>
+#include <tests/support/ComThread.h>
+#include <tests/support/CompoundDocument.h>
+#include <tests/support/Describe.h>
+#include <tests/support/ScratchFolder.h>
+#include <tests/support/StdPath.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using namespace VyrHost::Documents;
+using namespace VyrTests;
+using VyrHost::Metadata::Proposal;
+using VyrHost::Model::ChangeState;
+
+namespace Result = VyrPlatform::PropertyStorage::Result;
+
+namespace {
+
+std::string Sample()
+{
+    CompoundDocument document;
+    document.streams[summaryName] =
+        BuildSummary({{1, StoredCodePage(1252)}, {2, StoredByteText("Old")}, {4, StoredByteText("Ann")}});
+    return document.Bytes();
+}
+
+PropertyRequest RequestOf(std::u16string_view set)
+{
+    PropertyRequest request;
+    ParseProperty(set, request);
+    return request;
+}
+
+VyrHost::Model::Entry FileEntry()
+{
+    VyrHost::Model::Entry entry;
+    entry.kind = VyrPlatform::FileSystem::Kind::File;
+    return entry;
+}
+
+/// The change as it is in a batch that keeps files in `folder`.
+std::shared_ptr<const VyrHost::Model::Change> Keeping(const std::shared_ptr<const VyrHost::Model::Change>& change,
+                                                      const CString& folder)
+{
+    const auto& keeping = dynamic_cast<const VyrHost::Model::KeepsFile&>(*change);
+    return keeping.KeepingAt(VyrLibraryUtils::FileUtils::GetCombinePath(folder, u"0"));
+}
+
+class Properties : public testing::Test
+{
+protected:
+    Proposal Propose(std::u16string_view set) const
+    {
+        return PropertiesRule(RequestOf(set)).Propose(path, FileEntry(), 0);
+    }
+
+    ComThread com;
+    ScratchFolder scratch;
+    CString path = scratch.WriteFile(u"a.doc", Sample());
+};
+
+} // namespace
+
+TEST_F(Properties, ChangeIsReadAgainFromTheJournalAndGoesAndComesBack)
+{
+    const Proposal proposal = Propose(u"title=Größe; \"<Name>\"\t日");
+    ASSERT_TRUE(proposal.change) << ToStdPath(proposal.refusal);
+    const auto read = PropertiesChange::Read(proposal.change->Before(), proposal.change->After());
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->Before(), proposal.change->Before());
+    EXPECT_EQ(read->After(), proposal.change->After());
+    EXPECT_EQ(read->ShownBefore(), u"title \"Old\"");
+    EXPECT_EQ(read->ShownAfter(), u"title \"Größe; \"a\"\t日\"");
+    const auto change = Keeping(read, scratch.Path(u"kept"));
+    ASSERT_TRUE(change);
+    EXPECT_EQ(change->Look(path).state, ChangeState::Before);
+    ASSERT_EQ(change->Apply(path), 0U);
+    EXPECT_EQ(change->Look(path).state, ChangeState::After);
+    EXPECT_NE(scratch.ReadFile(u"a.doc"), Sample());
+    ASSERT_EQ(change->TakeBack(path), 0U);
+    EXPECT_EQ(change->Look(path).state, ChangeState::Before);
+    EXPECT_EQ(scratch.ReadFile(u"a.doc"), Sample());
+}
+
+TEST_F(Properties, KeptDocumentThatWasDamagedIsNotRestored)
+{
+    const CString folder = scratch.MakeFolder(u"kept");
+    const auto change = Keeping(Propose(u"title=New").change, folder);
+    ASSERT_EQ(change->Apply(path), 0U);
+    const std::string changed = scratch.ReadFile(u"a.doc");
+    std::string kept = scratch.ReadFile(u"kept/0");
+    const std::string heading = kept.substr(0, kept.find('\n') + 1);
+    scratch.WriteFile(u"kept/0", heading + "damaged");
+    EXPECT_EQ(change->TakeBack(path), Result::damaged);
+    scratch.WriteFile(u"kept/0", "no heading");
+    EXPECT_EQ(change->Look(path).state, ChangeState::Other);
+    EXPECT_NE(change->TakeBack(path), 0U);
+    EXPECT_EQ(scratch.ReadFile(u"a.doc"), changed);
+}
+
+TEST_F(Properties, DocumentThatWasWrittenToSinceItWasListedIsNotKept)
+{
+    const CString folder = scratch.MakeFolder(u"kept");
+    const auto change = Keeping(Propose(u"title=New").change, folder);
+    CompoundDocument other;
+    other.streams[summaryName] = BuildSummary({{1, StoredCodePage(1252)}});
+    scratch.WriteFile(u"a.doc", other.Bytes());
+    EXPECT_EQ(change->Look(path).state, ChangeState::Other);
+    EXPECT_NE(change->Apply(path), 0U);
+    EXPECT_EQ(scratch.ReadFile(u"a.doc"), other.Bytes());
+}
+
+TEST_F(Properties, MoreThanABatchKeepsIsRefused)
+{
+    const std::size_t size = Sample().size();
+    const PropertiesRule rule(RequestOf(u"title=New"), 2 * size);
+    EXPECT_TRUE(rule.Propose(path, FileEntry(), 0).change);
+    EXPECT_TRUE(rule.Propose(path, FileEntry(), 1).change);
+    const Proposal third = rule.Propose(path, FileEntry(), 2);
+    EXPECT_FALSE(third.change);
+    EXPECT_EQ(third.refusal, u"a batch keeps at most 2 GB of old documents; change this one in another batch");
+}
+
+TEST_F(Properties, WhatIsSoAlreadyIsNoChange)
+{
+    const Proposal proposal = Propose(u"title=Old");
+    EXPECT_FALSE(proposal.change);
+    EXPECT_EQ(proposal.refusal, u"");
+    PropertyRequest request;
+    ParseCleared(u"subject,keywords", request);
+    EXPECT_FALSE(PropertiesRule(request).Propose(path, FileEntry(), 0).change);
+}
+
+TEST(PropertiesText, ThatNoChangeWritesIsRefused)
+{
+    for (const char16_t* const before :
+         {u"", u"1", u"1 xyz", u"-1 00000000", u"1 123456789", u"1 00000000;0", u"1 0;zz"})
+        EXPECT_FALSE(PropertiesChange::Read(before, u"some;title 4100")) << ToStdPath(before);
+    for (const char16_t* const after : {u"", u"some", u"any;title", u"some;titel", u"some;title 41", u"some;title zz00",
+                                        u"some;created 4100", u"some;title;title", u"some;"})
+        EXPECT_FALSE(PropertiesChange::Read(u"1 00000000", after)) << ToStdPath(after);
+    EXPECT_TRUE(PropertiesChange::Read(u"1 00000000", u"all"));
+    EXPECT_TRUE(PropertiesChange::Read(u"1 00000000;4100", u"some;title 4100;created"));
+}
+
+TEST(PropertyTokens, AreThoseOfTheFile)
+{
+    for (const char16_t* const text : {u"title=<name>", u"title=<Folder>", u"title=a<Nmae>b"}) {
+        PropertyRequest request;
+        EXPECT_THROW(ParseProperty(text, request), VyrHost::Text::UsageError) << ToStdPath(text);
+    }
+    PropertyRequest request;
+    EXPECT_NO_THROW(ParseProperty(u"title=1 < 2 <> <Name> <a b>", request));
+}
