@@ -10,17 +10,20 @@
 
 #include "PublishedClasses.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <cxxabi.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <memory>
 #include <set>
 #include <string_view>
+#include <vector>
 
 using VyrLibraryFuncs::NameFuncs;
 using VyrTests::Describe;
@@ -79,8 +82,11 @@ std::string Canonical(std::string operation)
 {
     for (std::size_t at; (at = operation.find("long long")) != std::string::npos;)
         operation.erase(at, std::string_view("long ").size());
-    if (const std::size_t at = operation.find("tagINTERNETFEATURELIST"); at != std::string::npos)
-        operation.erase(at, std::string_view("tag").size());
+    for (const std::string_view prefix : {"tag", "_"})
+        if (const std::size_t at = operation.find(std::string(prefix) + "INTERNETFEATURELIST"); at != std::string::npos)
+            operation.erase(at, prefix.size());
+    if (const std::size_t at = operation.find("_com_IIID_getter<"); at != std::string::npos)
+        operation.erase(at + std::string_view("_com_IIID").size(), std::string_view("_getter").size());
     const std::size_t pointer = operation.find("_com_IIID<");
     return pointer == std::string::npos ? operation : operation.substr(0, operation.find(',', pointer));
 }
@@ -179,7 +185,10 @@ TEST(LibraryLoad, OperationsHaveThePublishedNamesAndArguments)
     for (const auto& [readable, symbol] : ReadableExports(library))
         if (IsOperation(readable))
             exported.insert(Canonical(readable));
-    EXPECT_EQ(exported, published);
+    std::vector<std::string> differences;
+    std::set_symmetric_difference(exported.begin(), exported.end(), published.begin(), published.end(),
+                                  std::back_inserter(differences));
+    EXPECT_THAT(differences, testing::IsEmpty());
 }
 
 TEST(LibraryLoad, TextsAndRecordsAreTakenByValue)

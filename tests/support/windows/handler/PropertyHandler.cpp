@@ -39,7 +39,7 @@ public:
     [[nodiscard]] bool FailsAt(const char* step) const { return m_failing == step; }
     void Tell(const std::string& call) const
     {
-        std::ofstream(ToNarrow(m_path + L".calls"), std::ios::app) << call << "\n";
+        std::ofstream(ToNarrow(m_path + L".calls"), std::ios::app | std::ios::binary) << call << "\n";
     }
     [[nodiscard]] const std::wstring& Path() const { return m_path; }
 
