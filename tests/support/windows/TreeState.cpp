@@ -24,12 +24,13 @@ std::string Content(const std::wstring& path)
                                     OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return "none";
-    constexpr FILETIME untouched{0xFFFF'FFFF, 0xFFFF'FFFF};
-    SetFileTime(file, nullptr, &untouched, &untouched);
+    FILETIME accessed = {};
+    EXPECT_TRUE(GetFileTime(file, nullptr, &accessed, nullptr));
     std::string content;
     char piece[4096];
     for (DWORD count = 1; ReadFile(file, piece, sizeof piece, &count, nullptr) && count > 0;)
         content.append(piece, count);
+    EXPECT_TRUE(SetFileTime(file, nullptr, &accessed, nullptr));
     CloseHandle(file);
     return '\'' + content + '\'';
 }
