@@ -31,10 +31,8 @@ public:
     /// Whether there is one that is not kept, and whose file has the change or can get it.
     [[nodiscard]] bool IsAnyFound() const;
 
-    /// Applies the changes, or takes them back in reverse order. What another program has changed since stays. Where
-    /// there are many, two threads share them.
-    /// @param report called once for each change, in their order.
-    /// @param isStopAsked asked before each change, or before every 512 where there are as many.
+    /// Applies the changes, or takes them back in reverse order. What another program has changed since stays.
+    /// @param report called once for each change.
     /// @return false when it was stopped before the end.
     bool Run(Direction direction, const Report& report, const Executor::StopRequest& isStopAsked);
     /// After Locate: what Run would report of a change.

@@ -2,10 +2,7 @@
 #include <VyrHost/batch/BatchWork.h>
 
 #include <VyrHost/model/SlotTable.h>
-#include <VyrHost/model/TwoThreads.h>
 #include <VyrHost/text/Errors.h>
-
-#include <algorithm>
 
 namespace VyrHost::Batch {
 
@@ -69,28 +66,13 @@ bool ChangeWork::IsAnyFound() const
 
 bool ChangeWork::Run(Direction direction, const Report& report, const Executor::StopRequest& isStopAsked)
 {
-    // Many are worked on together, few one by one.
-    constexpr std::size_t together = 512;
-    std::vector<std::size_t> toDo;
-    toDo.reserve(m_looks.size());
-    for (std::size_t index = 0; index < m_looks.size(); ++index)
-        if (!m_isKept[index])
-            toDo.push_back(index);
-    if (direction == Direction::Backward)
-        std::reverse(toDo.begin(), toDo.end());
-    const std::size_t most = toDo.size() < together ? 1 : together;
     bool isStopped = false;
-    for (std::size_t first = 0; first < toDo.size(); first += most) {
-        const std::size_t count = std::min(most, toDo.size() - first);
-        std::vector<Outcome> outcomes(count);
+    for (std::size_t count = 0; count < m_looks.size(); ++count) {
+        const std::size_t index = direction == Direction::Forward ? count : m_looks.size() - 1 - count;
+        if (m_isKept[index])
+            continue;
         isStopped = isStopped || isStopAsked();
-        if (!isStopped)
-            Model::OnTwoThreads(0, count, [&](std::size_t at, std::size_t end) {
-                for (; at < end; ++at)
-                    outcomes[at] = Perform(toDo[first + at], direction);
-            });
-        for (std::size_t at = 0; at < count; ++at)
-            report(toDo[first + at], outcomes[at]);
+        report(index, isStopped ? Outcome() : Perform(index, direction));
     }
     return !isStopped;
 }

@@ -4,11 +4,9 @@
 #include <VyrHost/metadata/Attributes.h>
 #include <VyrHost/metadata/Marks.h>
 #include <VyrHost/metadata/Times.h>
-#include <VyrHost/model/TwoThreads.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrPlatform/files/FileIdentity.h>
 
-#include <algorithm>
 #include <charconv>
 #include <cstddef>
 #include <string>
@@ -20,23 +18,15 @@ namespace VyrHost::Metadata {
 std::vector<Proposal> ProposeChanges(const ChangeRule& rule, const Model::EntryList& list,
                                      const std::function<void(std::size_t done)>& report)
 {
-    // As many are proposed between one report and the next.
-    constexpr std::size_t together = 512;
-    const auto propose = [&rule, &list](std::size_t index) -> Proposal {
-        const Model::Entry& entry = list.entries[index];
+    std::vector<Proposal> proposals;
+    proposals.reserve(list.entries.size());
+    for (const Model::Entry& entry : list.entries) {
         const CString path = list.PathOf(entry);
         if (entry.kind == VyrPlatform::FileSystem::Kind::Missing)
-            return {nullptr, Text::ErrorText(VyrPlatform::LookAtFile(path).error)};
-        return rule.Propose(path, entry, index);
-    };
-    std::vector<Proposal> proposals(list.entries.size());
-    for (std::size_t first = 0; first < proposals.size(); first += together) {
-        const std::size_t end = std::min(first + together, proposals.size());
-        Model::OnTwoThreads(first, end, [&](std::size_t index, std::size_t behind) {
-            for (; index < behind; ++index)
-                proposals[index] = propose(index);
-        });
-        report(end);
+            proposals.push_back({nullptr, Text::ErrorText(VyrPlatform::LookAtFile(path).error)});
+        else
+            proposals.push_back(rule.Propose(path, entry, proposals.size()));
+        report(proposals.size());
     }
     return proposals;
 }

@@ -40,8 +40,8 @@ public:
     [[nodiscard]] virtual Proposal Propose(const CString& path, const Model::Entry& entry, std::size_t index) const = 0;
 };
 
-/// Applies `rule` to each entry of `list`. Entries that do not exist on the disk are refused. Two threads share a long
-/// list. Calls `report` after every 512 and at the end with the number of entries done.
+/// Applies `rule` to each entry of `list`. Entries that do not exist on the disk are refused. Calls `report` after each
+/// entry with the number of entries done.
 [[nodiscard]] std::vector<Proposal> ProposeChanges(const ChangeRule& rule, const Model::EntryList& list,
                                                    const std::function<void(std::size_t done)>& report);
 
