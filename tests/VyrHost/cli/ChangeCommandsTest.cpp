@@ -94,11 +94,14 @@ TEST_F(ChangeCommands, FileThatVanishesBeforeItIsChangedFailsInItsRow)
 {
     const CString staying = Make(u"staying");
     const CString vanishing = Make(u"vanishing");
+    const ScratchFolder journal;
+    m_environment[u"VYR_JOURNAL_DIR"] = journal.Path();
     ProgramCall call = CallOf({u"times", u"--set-modified=2020-02-03 04:05", u"vanishing", u"staying", u"--apply"});
     call.stopsAtChanges = true;
     ChildProcess child(call);
-    // It has looked at the files, and is about to write its journal.
-    ASSERT_TRUE(child.GoToNextChange());
+    // Once its journal is on the disk it has looked at the files, and changed none.
+    while (!journal.Has(u"000001.applying"))
+        ASSERT_TRUE(child.GoToNextChange());
     ASSERT_TRUE(std::filesystem::remove(ToStdPath(vanishing)));
     const ProgramResult result = child.Wait();
     EXPECT_EQ(result.exitCode, 1) << result.errors;
