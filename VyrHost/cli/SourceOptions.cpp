@@ -18,10 +18,10 @@ namespace VyrHost::Cli {
 
 namespace {
 
-constexpr const char* group = "Which of them";
+constexpr const char* choiceGroup = "Which of them";
 constexpr const char* oneDate = "one date in a call";
 
-constexpr ExclusivePair exclusive[] = {
+constexpr ExclusivePair exclusiveDates[] = {
     {"--modified", "--created", oneDate}, {"--modified", "--taken", oneDate}, {"--created", "--taken", oneDate}};
 
 std::string Counted(std::size_t count, const char* one, const char* many)
@@ -36,25 +36,26 @@ ChoiceOptions::ChoiceOptions(CLI::App& command) : m_command(command)
     AddTexts(command, "--include", "NAMES",
              "Take only these: \"*.jpg\", contains:TEXT, begins:TEXT, ends:TEXT, equals:TEXT; may be given again for "
              "others",
-             group);
-    AddTexts(command, "--exclude", "NAMES", "Leave these out, in the same forms, and do not enter such folders", group);
+             choiceGroup);
+    AddTexts(command, "--exclude", "NAMES", "Leave these out, in the same forms, and do not enter such folders",
+             choiceGroup);
     command.add_flag("--match-case", m_matchCase, "Tell upper and lower case apart in --include and --exclude")
-        ->group(group);
+        ->group(choiceGroup);
     AddText(command, "--modified", m_modified, "RANGE",
             "Only what was last changed then: today, yesterday, this-week, last-week, this-month, last-month, "
             "this-year, last-year, or FROM..TO, such as 2024-01-05..2024-02-29; either may be left out",
-            group);
-    AddText(command, "--created", m_created, "RANGE", "Only what was created then", group);
-    AddText(command, "--taken", m_taken, "RANGE", "Only pictures that were taken then", group);
+            choiceGroup);
+    AddText(command, "--created", m_created, "RANGE", "Only what was created then", choiceGroup);
+    AddText(command, "--taken", m_taken, "RANGE", "Only pictures that were taken then", choiceGroup);
     AddText(command, "--size", m_size, "RANGE",
             "Only what is so large: empty, tiny (to 16 KB), small (to 1 MB), medium (to 128 MB), large (to 1 GB), huge "
             "(to 4 GB), giant, or FROM..TO, such as 1.5MB.. or 500..16KB",
-            group);
+            choiceGroup);
 }
 
 Collect::Choice ChoiceOptions::Read() const
 {
-    CheckOptionPairs(m_command, exclusive);
+    CheckOptionPairs(m_command, exclusiveDates);
     Collect::ChoiceTexts texts;
     texts.include = TextsOf(m_command, "--include");
     texts.exclude = TextsOf(m_command, "--exclude");
