@@ -34,8 +34,10 @@ public:
 };
 
 /// What is left once `edit` was made; nothing when it is refused.
-std::optional<DocumentProperties> Edit(Root root, const PropertyEdit& edit)
+std::optional<DocumentProperties> Edit(const Root& before, const PropertyEdit& edit)
 {
+    Root root;
+    root.streams = before.streams;
     NewStreams streams;
     DocumentProperties properties;
     if (EditCompoundProperties(root, edit, streams) != PropertyStorage::Result::ok)
