@@ -25,9 +25,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const bool isRead = ReadPropertyXml(format, xml, before);
         const EditedXml cleared = ClearPropertyXml(format, xml);
         DocumentProperties after;
-        if (isRead != (cleared.result == PropertyStorage::Result::ok) ||
-            (isRead && (!ReadPropertyXml(format, cleared.text, after) || !after.texts.empty() || !after.times.empty() ||
-                        after.others != 0)))
+        const bool isCleared = cleared.result == PropertyStorage::Result::ok;
+        if (isCleared && (!isRead || !ReadPropertyXml(format, cleared.text, after) || !after.texts.empty() ||
+                          !after.times.empty() || after.others != 0))
             std::abort();
         const EditedXml edited = EditPropertyXml(format, xml, writes);
         if (edited.result != PropertyStorage::Result::ok)

@@ -351,6 +351,16 @@ void ReadElement(const xmlNode* node, const PropertyElement& element, DocumentPr
     value += Encoding::FromUtf8(text);
 }
 
+/// The document as text. Damaged where that could not be read again: the library does not escape an ampersand in the
+/// address of a namespace.
+EditedXml Written(xmlDoc* document)
+{
+    std::string text = WriteXml(document);
+    if (!ReadXml(text))
+        return {Result::damaged, {}};
+    return {Result::ok, std::move(text)};
+}
+
 } // namespace
 
 std::string EmptyCoreProperties()
@@ -371,7 +381,7 @@ EditedXml EditPropertyXml(PropertyFormat format, std::string_view xml, std::span
     for (const PropertyWrite& property : properties)
         if (const std::uint32_t result = WriteElement(format, parent, property); result != Result::ok)
             return {result, {}};
-    return {Result::ok, WriteXml(document.get())};
+    return Written(document.get());
 }
 
 EditedXml ClearPropertyXml(PropertyFormat format, std::string_view xml)
@@ -381,7 +391,7 @@ EditedXml ClearPropertyXml(PropertyFormat format, std::string_view xml)
     if (!parent)
         return {Result::damaged, {}};
     xmlNodeSetContent(parent, nullptr);
-    return {Result::ok, WriteXml(document.get())};
+    return Written(document.get());
 }
 
 bool ReadPropertyXml(PropertyFormat format, std::string_view xml, DocumentProperties& properties)

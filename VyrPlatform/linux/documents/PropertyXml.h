@@ -32,7 +32,8 @@ inline constexpr std::size_t longestPropertyXml = 4 << 20;
 
 struct EditedXml
 {
-    /// A result code: damaged for a text that is not well-formed, is another document or has a document type;
+    /// A result code: damaged for a text that is not well-formed, is another document or has a document type, and for
+    /// one that could not be read again once it was written (its namespaces have addresses with an ampersand);
     /// notSupported for a property that such documents do not have; invalidParameter for a value of another type, or a
     /// text that XML cannot hold.
     std::uint32_t result;

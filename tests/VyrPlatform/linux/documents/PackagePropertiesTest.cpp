@@ -6,6 +6,7 @@
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/documents/DocumentProperties.h>
 #include <VyrPlatform/documents/PropertyStorage.h>
+#include <VyrPlatform/linux/documents/PropertyXml.h>
 
 #include <gtest/gtest.h>
 
@@ -192,6 +193,15 @@ TEST_F(PackageProperties, ThumbnailOfAPackageIsNotRemoved)
     PropertyEdit edit;
     edit.values.emplace(Id::thumbnail, std::nullopt);
     EXPECT_EQ(Apply(edit, officeOpenXml), Result::notSupported);
+}
+
+TEST_F(PackageProperties, TextThatCouldNotBeReadAgainIsNotWritten)
+{
+    const std::string text = "<cp:coreProperties xmlns:cp='http://schemas.openxmlformats.org/package/2006/metadata/"
+                             "core-properties' xmlns:x='a&amp;b'/>";
+    DocumentProperties properties;
+    EXPECT_TRUE(ReadPropertyXml(VyrPlatform::PropertyFormat::OfficeOpenXml, text, properties));
+    EXPECT_EQ(ClearPropertyXml(VyrPlatform::PropertyFormat::OfficeOpenXml, text).result, Result::damaged);
 }
 
 TEST_F(PackageProperties, WhatIsNoPackageOfItsKindIsDamaged)
