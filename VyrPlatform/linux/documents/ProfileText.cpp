@@ -31,6 +31,12 @@ std::u16string_view Trim(std::u16string_view text) noexcept
     return text.substr(0, text.find_last_not_of(blanks) + 1);
 }
 
+bool StartsWithMark(std::string_view bytes) noexcept
+{
+    return bytes.starts_with(utf8Mark) || bytes.starts_with(utf16LittleEndianMark) ||
+           bytes.starts_with(utf16BigEndianMark);
+}
+
 char16_t Fold(char16_t unit) noexcept
 {
     const UChar32 folded = u_foldCase(unit, U_FOLD_CASE_DEFAULT);
@@ -145,6 +151,9 @@ std::string ProfileText::ToBytes() const
         if (m_form == Form::Utf16LittleEndian)
             bytes += high;
     }
+    // A first line of bytes that look like a mark would be read as one.
+    if (m_form == Form::Ansi && StartsWithMark(bytes))
+        bytes.insert(0, "\r\n");
     return bytes;
 }
 

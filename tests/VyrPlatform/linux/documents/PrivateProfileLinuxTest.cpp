@@ -23,6 +23,15 @@ TEST(PrivateProfileLinux, BytesThatAreNoTextStayAsTheyAre)
     EXPECT_EQ(scratch.ReadFile(u"a.ini"), hostile + "k=v\r\n");
 }
 
+TEST(PrivateProfileLinux, FirstNameLikeAMarkIsNotReadAsOne)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a.ini", "\v\xFF\xFE\r\n[S]\r\nk=v\r\n");
+    EXPECT_EQ(PrivateProfile::WriteText(path, u"S", u"l", u"w"), 0U);
+    EXPECT_EQ(scratch.ReadFile(u"a.ini"), "\r\n\xFF\xFE\r\n[S]\r\nk=v\r\nl=w\r\n");
+    EXPECT_EQ(PrivateProfile::ReadText(path, u"S", u"k", 260), u"v");
+}
+
 TEST(PrivateProfileLinux, WrittenFileKeepsItsModeAndALinkStaysOne)
 {
     const ScratchFolder scratch;
