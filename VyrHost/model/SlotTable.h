@@ -2,7 +2,6 @@
 /// Finds what belongs to a place, in tables as large as the longest lists.
 #pragma once
 
-#include <VyrHost/model/Prefetch.h>
 #include <VyrHost/model/RenamePlan.h>
 
 #include <bit>
@@ -45,9 +44,6 @@ public:
         return m_items[bucket.item].value;
     }
 
-    /// Says that `slot` will soon be looked for or put, which is quicker then.
-    void Expect(const Place& slot) const { Prefetch(&m_buckets[StartOf(HashOf(slot.folder, slot.name))]); }
-
     /// Makes room for `count` places.
     void Reserve(std::size_t count)
     {
@@ -86,9 +82,6 @@ private:
 
     static std::uint32_t TagOf(std::uint64_t hash) noexcept { return static_cast<std::uint32_t>(hash >> 32); }
 
-    /// Where the search for a place begins.
-    [[nodiscard]] std::size_t StartOf(std::uint64_t hash) const { return (hash >> 20) & (m_buckets.size() - 1); }
-
     /// The bucket of `key` in `folder`, or the free one where it belongs.
     [[nodiscard]] std::size_t FindBucket(PlanIndex folder, std::u16string_view key, std::uint64_t hash) const
     {
@@ -96,7 +89,7 @@ private:
             return slot.folder == folder && slot.name.View() == key;
         };
         const std::size_t mask = m_buckets.size() - 1;
-        std::size_t at = StartOf(hash);
+        std::size_t at = (hash >> 20) & mask;
         while (m_buckets[at].item != none &&
                (m_buckets[at].tag != TagOf(hash) || !isAt(m_items[m_buckets[at].item].slot)))
             at = (at + 1) & mask;

@@ -28,7 +28,6 @@ TEST(SlotTable, IsEmptyAtFirst)
         EXPECT_EQ(table.Find(folder, u""), nullptr);
         EXPECT_EQ(table.Find(folder, u"name"), nullptr);
         EXPECT_EQ(table.Find({folder, InternedName()}), nullptr);
-        table.Expect({folder, InternedName()});
     }
 }
 
@@ -127,24 +126,6 @@ TEST(SlotTable, HasTheSameContentWhereverRoomIsReserved)
                 EXPECT_EQ(table.Find(1 - number % 2, NumberText(number)), nullptr);
             }
         }
-}
-
-TEST(SlotTable, IsNotChangedByExpect)
-{
-    NamePool texts;
-    SlotTable<int> table;
-    const InternedName there = texts.Intern(u"there");
-    table.Put({none, there}, 5);
-    const int* const found = table.Find(none, u"there");
-    for (std::uint32_t number = 0; number < 10'000; ++number) {
-        table.Expect({number % 3 == 0 ? none : number, texts.Intern(NumberText(number))});
-        table.Expect({none, there});
-    }
-    EXPECT_EQ(table.Find(none, u"there"), found);
-    EXPECT_EQ(*found, 5);
-    EXPECT_EQ(table.Find(none, u"0"), nullptr);
-    EXPECT_EQ(table.Find(1, u"1"), nullptr);
-    EXPECT_EQ(table.Put({1, texts.Intern(u"1")}, 6), 6);
 }
 
 TEST(SlotTable, IsAMapOfPlaces)
