@@ -4,7 +4,7 @@
 #include <VyrHost/text/Errors.h>
 #include <VyrLibraryFuncs/metadata/OfficePropertyFuncs.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
-#include <VyrPlatform/WinTypes.h>
+#include <VyrPlatform/documents/PropertyHandlers.h>
 #include <VyrPlatform/documents/PropertyStorage.h>
 
 #include <map>
@@ -16,6 +16,7 @@ namespace {
 
 using VyrLibraryFuncs::NameFuncs;
 using VyrLibraryFuncs::OfficePropertyFuncs;
+namespace HandlerId = VyrPlatform::PropertyHandlerId;
 namespace Id = VyrPlatform::SummaryId;
 namespace Result = VyrPlatform::PropertyStorage::Result;
 
@@ -35,24 +36,21 @@ constexpr PropertyName names[] = {
     {u"thumbnail", Id::thumbnail, false},
 };
 
-/// The ids under which Windows registers the handlers of these documents, for machines that have registered none.
-constexpr GUID officeOpenXml{0x993BE281, 0x6695, 0x4BA5, {0x8A, 0x2A, 0x7A, 0xAC, 0xBF, 0xAA, 0xB6, 0x9E}};
-constexpr GUID openDocument{0xAE424E85, 0xF6DF, 0x4910, {0xA6, 0xA9, 0x43, 0x87, 0x97, 0x98, 0x64, 0x31}};
-
 OfficePropertyFuncs::CLSID_ITEM Item(const char16_t* extension, const GUID& handler)
 {
     return {extension, handler, 1};
 }
 
+/// For machines that have registered none.
 std::vector<OfficePropertyFuncs::CLSID_ITEM> KnownHandlers()
 {
     std::vector<OfficePropertyFuncs::CLSID_ITEM> items;
     for (const char16_t* const extension :
          {u".docx", u".docm", u".dotx", u".dotm", u".xlsx", u".xlsm", u".xltx", u".xltm", u".xlsb", u".pptx", u".pptm",
           u".potx", u".potm", u".ppsx", u".ppsm"})
-        items.push_back(Item(extension, officeOpenXml));
+        items.push_back(Item(extension, HandlerId::officeOpenXml));
     for (const char16_t* const extension : {u".odt", u".ott", u".ods", u".ots", u".odp", u".otp", u".odg", u".otg"})
-        items.push_back(Item(extension, openDocument));
+        items.push_back(Item(extension, HandlerId::openDocument));
     return items;
 }
 

@@ -231,6 +231,11 @@ std::shared_ptr<const Model::Change> PropertiesChange::KeepingAt(const CString& 
     return std::make_shared<PropertiesChange>(m_document, kept);
 }
 
+void PropertiesChange::Mend(const CString& path) const
+{
+    DocumentReplacement::RemoveLeftover(path);
+}
+
 ChangeLook PropertiesChange::Look(const CString& path) const
 {
     const FileReader reader(path);

@@ -15,6 +15,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <utility>
 
 struct _GUID; // NOLINT(bugprone-reserved-identifier): the system's own tag
 
@@ -77,13 +78,17 @@ struct PropertyEdit
 
 /// A new document that has been written beside an old one, and flushed, and that can take its place at a stroke, with
 /// owner, mode, attributes, times, and extended attributes or streams kept. Whatever happens meanwhile, the old or the
-/// new document stands there, whole. Until then it stands under a temporary name, which is removed with this object.
+/// new document stands there, whole. Until then it stands under a temporary name, which is removed with this object;
+/// one that a killed program leaves is removed by RemoveLeftover.
 ///
 /// A document is refused that may not be written, that another program has open for writing or has locked, or that has
 /// several hard links, since its other names would keep the old one.
 class VYR_PLATFORM_API DocumentReplacement
 {
 public:
+    DocumentReplacement(DocumentReplacement&&) noexcept = default;
+    DocumentReplacement& operator=(DocumentReplacement&&) noexcept = default;
+
     /// Writes the document at `path` with other properties; whatever else it holds stays byte for byte.
     /// @param handler  as for ReadDocumentProperties.
     [[nodiscard]] static DocumentReplacement WithProperties(const CString& path, const PropertyEdit& edit,
@@ -92,9 +97,9 @@ public:
     [[nodiscard]] static DocumentReplacement WithContent(const CString& path, const CString& source,
                                                          std::uint64_t offset);
 
-    DocumentReplacement(DocumentReplacement&& other) noexcept;
-    DocumentReplacement& operator=(DocumentReplacement&& other) noexcept;
-    ~DocumentReplacement();
+    /// Removes the new document that a program which was killed left beside the document at `path`, if there is one.
+    /// Not while another program may be replacing that document.
+    static void RemoveLeftover(const CString& path);
 
     /// A result code (PropertyStorage.h) that says why there is no new document: notSupported for a property that such
     /// a document does not have, fileNotFound for a compound document without summary information, invalidParameter for
@@ -108,9 +113,12 @@ public:
 
 private:
     struct State;
-    DocumentReplacement(std::unique_ptr<State> state, std::uint32_t error) noexcept;
+    DocumentReplacement(std::shared_ptr<State> state, std::uint32_t error) noexcept
+        : m_state(std::move(state)), m_error(error)
+    {}
 
-    std::unique_ptr<State> m_state;
+    /// Null when there is no new document. It has one owner, and is shared only because each system defines the State.
+    std::shared_ptr<State> m_state;
     std::uint32_t m_error;
 };
 

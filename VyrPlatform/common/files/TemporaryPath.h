@@ -12,4 +12,8 @@ namespace VyrPlatform {
 /// A random path in the folder of `path`, which is almost certainly free.
 [[nodiscard]] VYR_PLATFORM_API CString MakeTemporaryPath(const CString& path);
 
+/// The path in the folder of `path` that the name of `path` alone determines, so that a file which a killed program
+/// left there is found again.
+[[nodiscard]] VYR_PLATFORM_API CString GetTemporaryPathOf(const CString& path);
+
 } // namespace VyrPlatform

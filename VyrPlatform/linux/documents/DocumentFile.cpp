@@ -54,6 +54,11 @@ bool IsLocked(const CString& path, int file)
     return FileSystem::Exists(folder + u".~lock." + path.Mid(folder.GetLength()) + u"#");
 }
 
+int CreateNew(const CString& path)
+{
+    return open(NativePath(path).Get(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+}
+
 bool HasSecurityName(const std::pair<std::string, std::string>& attribute)
 {
     return attribute.first.starts_with("security.");
@@ -140,8 +145,13 @@ int DocumentFile::Prepare(DocumentEdit& edit)
     RemoveNew();
     if (m_error != 0)
         return m_error;
-    const CString newPath = MakeTemporaryPath(m_path);
-    Descriptor target(open(NativePath(newPath).Get(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    CString newPath = GetTemporaryPathOf(m_path);
+    int created = CreateNew(newPath);
+    if (created < 0 && errno == EEXIST) {
+        newPath = MakeTemporaryPath(m_path);
+        created = CreateNew(newPath);
+    }
+    Descriptor target(created);
     if (!target.IsOpen())
         return errno;
     m_newPath = newPath;
@@ -168,6 +178,12 @@ int DocumentFile::Commit()
     error = static_cast<int>(FlushFolder(GetFolderOf(m_path)));
     m_error = Open();
     return error;
+}
+
+void DocumentFile::RemoveLeftover(const CString& path)
+{
+    if (const CString resolved = ResolveLinks(path); !resolved.IsEmpty())
+        unlink(NativePath(GetTemporaryPathOf(resolved)).Get());
 }
 
 int DocumentFile::Replace(DocumentEdit& edit)

@@ -55,6 +55,9 @@ public:
     /// The second half.
     [[nodiscard]] int Commit();
 
+    /// Removes the new document that a killed program left beside the one at `path`, if there is one.
+    static void RemoveLeftover(const CString& path);
+
 private:
     [[nodiscard]] int Open();
     [[nodiscard]] int WriteNew(DocumentEdit& edit, int target) const;

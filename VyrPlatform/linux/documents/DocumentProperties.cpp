@@ -246,18 +246,10 @@ struct DocumentReplacement::State
     DocumentFile file;
 };
 
-DocumentReplacement::DocumentReplacement(std::unique_ptr<State> state, std::uint32_t error) noexcept
-    : m_state(std::move(state)), m_error(error)
-{}
-
-DocumentReplacement::DocumentReplacement(DocumentReplacement&& other) noexcept = default;
-DocumentReplacement& DocumentReplacement::operator=(DocumentReplacement&& other) noexcept = default;
-DocumentReplacement::~DocumentReplacement() = default;
-
 DocumentReplacement DocumentReplacement::WithProperties(const CString& path, const PropertyEdit& edit,
                                                         const GUID& handler)
 {
-    auto state = std::make_unique<State>(path);
+    auto state = std::make_shared<State>(path);
     std::unique_ptr<DocumentEdit> documentEdit;
     std::uint32_t result = MakeEdit(state->file, edit, handler, documentEdit);
     if (result == Result::ok)
@@ -270,10 +262,15 @@ DocumentReplacement DocumentReplacement::WithContent(const CString& path, const 
     const Descriptor content(open(NativePath(source).Get(), O_RDONLY | O_CLOEXEC));
     if (!content.IsOpen())
         return {nullptr, ToResult(errno)};
-    auto state = std::make_unique<State>(path);
+    auto state = std::make_shared<State>(path);
     ContentEdit edit(content.Get(), offset);
     const std::uint32_t result = ToResult(state->file.Prepare(edit));
     return {result == Result::ok ? std::move(state) : nullptr, result};
+}
+
+void DocumentReplacement::RemoveLeftover(const CString& path)
+{
+    DocumentFile::RemoveLeftover(path);
 }
 
 const CString& DocumentReplacement::NewPath() const noexcept

@@ -3,16 +3,11 @@
 
 #include "PartXml.h"
 
-#include <VyrPlatform/WinTypes.h>
+#include <VyrPlatform/documents/PropertyHandlers.h>
 
 namespace VyrPlatform {
 
 namespace {
-
-/// {993BE281-6695-4BA5-8A2A-7AACBFAAB69E}
-constexpr GUID officeOpenXmlHandler{0x993BE281, 0x6695, 0x4BA5, {0x8A, 0x2A, 0x7A, 0xAC, 0xBF, 0xAA, 0xB6, 0x9E}};
-/// {AE424E85-F6DF-4910-A6A9-438797986431}
-constexpr GUID openDocumentHandler{0xAE424E85, 0xF6DF, 0x4910, {0xA6, 0xA9, 0x43, 0x87, 0x97, 0x98, 0x64, 0x31}};
 
 const char contentTypes[] = "[Content_Types].xml";
 const char typesSpace[] = "http://schemas.openxmlformats.org/package/2006/content-types";
@@ -127,9 +122,9 @@ std::optional<PackagePart> ReadRelated(const ZipArchive& archive, xmlDoc* packag
 
 std::optional<PropertyFormat> FormatOfHandler(const GUID& handler)
 {
-    if (handler == officeOpenXmlHandler)
+    if (handler == PropertyHandlerId::officeOpenXml)
         return PropertyFormat::OfficeOpenXml;
-    return handler == openDocumentHandler ? std::optional(PropertyFormat::OpenDocument) : std::nullopt;
+    return handler == PropertyHandlerId::openDocument ? std::optional(PropertyFormat::OpenDocument) : std::nullopt;
 }
 
 std::optional<PropertyPart> FindPropertyPart(PropertyFormat format, int file)

@@ -190,19 +190,25 @@ bool IsSameMember(zip_t* before, zip_t* after, zip_uint64_t index)
            left.encryption_method == right.encryption_method && HasSamePackedBytes(before, after, index);
 }
 
-/// Replaces or adds a member, with the compression of the old one.
+/// It gets the first time that there is, as office programs do: the same document gives the same bytes at any time.
+bool AddMember(zip_t* archive, const std::string& name, zip_source_t* source)
+{
+    constexpr zip_uint16_t firstDay = 1 << 5 | 1;
+    const zip_int64_t added = zip_file_add(archive, name.c_str(), source, ZIP_FL_ENC_UTF_8);
+    if (added < 0)
+        zip_source_free(source);
+    return added >= 0 && zip_file_set_dostime(archive, static_cast<zip_uint64_t>(added), 0, firstDay, 0) == 0;
+}
+
+/// Replaces or adds a member, with the compression and the time of the old one.
 bool PutMember(zip_t* archive, const std::string& name, const std::string& content)
 {
     zip_source_t* const source = zip_source_buffer(archive, content.data(), content.size(), 0);
     if (!source)
         return false;
     const zip_int64_t found = zip_name_locate(archive, name.c_str(), 0);
-    if (found < 0) {
-        if (zip_file_add(archive, name.c_str(), source, ZIP_FL_ENC_UTF_8) >= 0)
-            return true;
-        zip_source_free(source);
-        return false;
-    }
+    if (found < 0)
+        return AddMember(archive, name, source);
     const auto index = static_cast<zip_uint64_t>(found);
     zip_stat_t before;
     if (zip_stat_index(archive, index, 0, &before) != 0 || zip_file_replace(archive, index, source, 0) != 0) {
@@ -210,7 +216,9 @@ bool PutMember(zip_t* archive, const std::string& name, const std::string& conte
         return false;
     }
     const bool isStored = (before.valid & ZIP_STAT_COMP_METHOD) && before.comp_method == ZIP_CM_STORE;
-    return zip_set_file_compression(archive, index, isStored ? ZIP_CM_STORE : ZIP_CM_DEFLATE, 0) == 0;
+    // In this order: libzip drops the method that is set on a member with a new time.
+    return zip_set_file_compression(archive, index, isStored ? ZIP_CM_STORE : ZIP_CM_DEFLATE, 0) == 0 &&
+           zip_file_set_mtime(archive, index, before.mtime, 0) == 0;
 }
 
 } // namespace

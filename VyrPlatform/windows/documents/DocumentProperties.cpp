@@ -369,12 +369,17 @@ struct DocumentReplacement::State
     {
         if (old.result != Result::ok)
             return old.result;
-        const CString copy = MakeTemporaryPath(path);
+        CString copy = GetTemporaryPathOf(path);
         const LongPath from(path);
-        const LongPath to(copy);
-        if (const DWORD error = ErrorOf(CopyFileW(from.Get(), to.Get(), TRUE)))
+        DWORD error = ErrorOf(CopyFileW(from.Get(), LongPath(copy).Get(), TRUE));
+        if (error == ERROR_FILE_EXISTS) {
+            copy = MakeTemporaryPath(path);
+            error = ErrorOf(CopyFileW(from.Get(), LongPath(copy).Get(), TRUE));
+        }
+        if (error != ERROR_SUCCESS)
             return FromError(error);
         newPath = copy;
+        const LongPath to(newPath);
         if (const std::uint32_t result = edit(newPath); result != Result::ok)
             return result;
         CopyPermissions(from, to);
@@ -382,18 +387,10 @@ struct DocumentReplacement::State
     }
 };
 
-DocumentReplacement::DocumentReplacement(std::unique_ptr<State> state, std::uint32_t error) noexcept
-    : m_state(std::move(state)), m_error(error)
-{}
-
-DocumentReplacement::DocumentReplacement(DocumentReplacement&& other) noexcept = default;
-DocumentReplacement& DocumentReplacement::operator=(DocumentReplacement&& other) noexcept = default;
-DocumentReplacement::~DocumentReplacement() = default;
-
 DocumentReplacement DocumentReplacement::WithProperties(const CString& path, const PropertyEdit& edit,
                                                         const _GUID& handler)
 {
-    auto state = std::make_unique<State>(path);
+    auto state = std::make_shared<State>(path);
     const std::uint32_t result = state->Prepare([&](const CString& copy) -> std::uint32_t {
         if (HasCompoundSignature(copy))
             return EditCompound(copy, edit);
@@ -404,10 +401,15 @@ DocumentReplacement DocumentReplacement::WithProperties(const CString& path, con
 
 DocumentReplacement DocumentReplacement::WithContent(const CString& path, const CString& source, std::uint64_t offset)
 {
-    auto state = std::make_unique<State>(path);
+    auto state = std::make_shared<State>(path);
     const std::uint32_t result =
         state->Prepare([&](const CString& copy) { return WriteContent(source, offset, LongPath(copy)); });
     return {result == Result::ok ? std::move(state) : nullptr, result};
+}
+
+void DocumentReplacement::RemoveLeftover(const CString& path)
+{
+    DeleteFileW(LongPath(GetTemporaryPathOf(path)).Get());
 }
 
 const CString& DocumentReplacement::NewPath() const noexcept

@@ -1,12 +1,15 @@
-// Tests of the program: vyr times, attributes and unblock, and the undo of each, killed between any two of their
-// changes on the disk, also between the parts of what is done to one file.
+// Tests of the program: vyr times, attributes, unblock and properties, and the undo of each, killed between any two of
+// their changes on the disk, also between the parts of what is done to one file.
 #include <tests/VyrHost/cli/VyrProgram.h>
 
 #include <VyrPlatform/files/FileAttributes.h>
+#include <tests/support/CompoundDocument.h>
 #include <tests/support/FileMoments.h>
 #include <tests/support/FileState.h>
+#include <tests/support/PackageHandlers.h>
 #include <tests/support/StdPath.h>
 #include <tests/support/TreeState.h>
+#include <tests/support/ZipArchives.h>
 
 #include <gtest/gtest.h>
 
@@ -22,25 +25,12 @@ namespace {
 
 using Tree = std::map<std::string, std::string>;
 
-class KilledChanges : public VyrProgram
+constexpr std::int64_t moment = 1'704'450'600;
+
+class KilledBatch : public VyrProgram
 {
 protected:
-    void SetUp() override
-    {
-        m_environment[u"TZ"] = u"UTC";
-        for (const char16_t* const name : {u"plain", u"protected", u"hidden"}) {
-            const CString path = m_folder.WriteFile(name, "content");
-            MarkAsDownloaded(path);
-            if (CString(name) == u"hidden") {
-                ASSERT_EQ(VyrPlatform::FileAttributes::Set(path, 0x22), 0U);
-            }
-            constexpr std::int64_t moment = 1'704'450'600;
-            StampFile(path, TicksOfUnixTime(moment, 1'234'567), TicksOfUnixTime(moment + 60, 7));
-        }
-        SetReadOnly(m_folder.Path(u"protected"), true);
-        m_before = Now();
-    }
-    void TearDown() override { SetReadOnly(m_folder.Path(u"protected"), false); }
+    KilledBatch() { m_environment[u"TZ"] = u"UTC"; }
 
     [[nodiscard]] Tree Now() const { return TreeState(m_folder.Path()); }
 
@@ -98,6 +88,7 @@ protected:
             SCOPED_TRACE("apply, " + std::to_string(made));
             BeginJournal();
             ASSERT_NO_FATAL_FAILURE(KillAfter(made, arguments));
+            JudgeCutOff(after);
             const bool isUndone = made % 2 == 0;
             if (Recover(isUndone)) {
                 ++recovered;
@@ -110,6 +101,7 @@ protected:
             BeginJournal();
             ASSERT_EQ(Run(arguments).exitCode, 0);
             ASSERT_NO_FATAL_FAILURE(KillAfter(made, {u"undo"}));
+            JudgeCutOff(after);
             if (Recover(false)) {
                 ++recovered;
                 ASSERT_EQ(Now(), m_before);
@@ -119,10 +111,80 @@ protected:
         EXPECT_GT(recovered, 4);
     }
 
+    /// Looks at what stands there between the end of the program and the recovery.
+    virtual void JudgeCutOff(const Tree& /*after*/) const {}
+
+    Tree m_before;
+
 private:
     ScratchFolder m_journalFolder;
-    Tree m_before;
     int m_journals = 0;
+};
+
+class KilledChanges : public KilledBatch
+{
+protected:
+    void SetUp() override
+    {
+        for (const char16_t* const name : {u"plain", u"protected", u"hidden"}) {
+            const CString path = m_folder.WriteFile(name, "content");
+            MarkAsDownloaded(path);
+            if (CString(name) == u"hidden") {
+                ASSERT_EQ(VyrPlatform::FileAttributes::Set(path, 0x22), 0U);
+            }
+            StampFile(path, TicksOfUnixTime(moment, 1'234'567), TicksOfUnixTime(moment + 60, 7));
+        }
+        SetReadOnly(m_folder.Path(u"protected"), true);
+        m_before = Now();
+    }
+    void TearDown() override { SetReadOnly(m_folder.Path(u"protected"), false); }
+};
+
+class KilledDocuments : public KilledBatch
+{
+protected:
+    void SetUp() override
+    {
+        CompoundDocument compound;
+        compound.streams[summaryName] = BuildSummary({{1, StoredCodePage(1252)}, {2, StoredByteText("Old title")}});
+        compound.streams[u"Body"] = std::string(5'000, 'b');
+        Place(u"a.doc", compound.Bytes());
+        if (HasPackageHandlers())
+            Place(u"b.odt",
+                  BuildArchive(
+                      {{"mimetype", "application/vnd.oasis.opendocument.text"},
+                       {"content.xml", std::string(5'000, 'c')},
+                       {"meta.xml", R"(<o:document-meta xmlns:o="urn:oasis:names:tc:opendocument:xmlns:office:1.0">)"
+                                    R"(<o:meta/></o:document-meta>)"}}));
+        m_before = Now();
+    }
+
+    void Place(std::u16string_view name, const std::string& bytes)
+    {
+        // Documents are read, and a reader sets only an access time that is in the past.
+        constexpr std::int64_t inFuture = 4'000'000'000;
+        StampFile(m_folder.WriteFile(name, bytes), TicksOfUnixTime(moment, 1'234'567), TicksOfUnixTime(inFuture, 7));
+        m_names.emplace_back(name);
+    }
+
+    /// Each document is the old or the new one, whole.
+    void JudgeCutOff(const Tree& after) const override
+    {
+        const Tree now = Now();
+        for (const auto& [name, state] : m_before)
+            EXPECT_TRUE(now.contains(name) && (now.at(name) == state || now.at(name) == after.at(name))) << name;
+    }
+
+    /// "vyr properties" with `arguments`, for all of the documents.
+    [[nodiscard]] std::vector<CString> Change(std::vector<CString> arguments) const
+    {
+        arguments.insert(arguments.begin(), {u"properties", u"--apply"});
+        arguments.insert(arguments.end(), m_names.begin(), m_names.end());
+        return arguments;
+    }
+
+private:
+    std::vector<CString> m_names;
 };
 
 } // namespace
@@ -147,4 +209,9 @@ TEST_F(KilledChanges, AttributesAreRecovered)
 TEST_F(KilledChanges, MarksAreRecovered)
 {
     KillEverywhere({u"unblock", u"--apply", u"plain", u"protected"});
+}
+
+TEST_F(KilledDocuments, AreTheOldOrTheNewOnesAndAreRecovered)
+{
+    KillEverywhere(Change({u"--set=title=Another title", u"--set=author=Ann"}));
 }

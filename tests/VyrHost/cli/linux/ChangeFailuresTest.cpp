@@ -4,6 +4,7 @@
 #include <VyrPlatform/files/FileTimes.h>
 
 #include <gmock/gmock.h>
+#include <tests/support/CompoundDocument.h>
 #include <tests/support/FileMoments.h>
 #include <tests/support/TreeState.h>
 #include <tests/support/linux/MountedFolder.h>
@@ -21,6 +22,16 @@ namespace {
 using ChangeFailures = UnprivilegedProgram;
 
 constexpr auto before = TicksOfUnixTime(1'600'000'000);
+/// A reader sets only an access time that is in the past.
+constexpr auto inFuture = TicksOfUnixTime(4'000'000'000);
+
+std::string Document()
+{
+    CompoundDocument document;
+    document.streams[summaryName] = BuildSummary({{1, StoredCodePage(1252)}, {2, StoredByteText("Old")}});
+    document.streams[u"Body"] = std::string(30'000, 'b');
+    return document.Bytes();
+}
 
 } // namespace
 
@@ -101,4 +112,63 @@ TEST_F(ChangeFailures, FullDiskUnderTheJournalKeepsAllAsItIs)
     std::filesystem::remove(ToStdPath(disk.Path(u"filler")));
     EXPECT_EQ(Run(calls[0]).exitCode, 0);
     EXPECT_NE(TreeState(m_folder.Path()), tree);
+}
+
+TEST_F(ChangeFailures, DiskThatIsFullAtAnyMomentLeavesTheOldOrTheNewDocument)
+{
+    constexpr std::size_t size = 144 * 1024;
+    const MountedFolder disk(MountedFolder::Kind::Memory, "size=" + std::to_string(size));
+    if (!disk.WhyNot().empty())
+        GTEST_SKIP() << disk.WhyNot();
+    ASSERT_TRUE(std::filesystem::create_directory(ToStdPath(disk.Path(u"files"))));
+    const CString path = disk.Path(u"files/a.doc");
+    std::ofstream(ToStdPath(path), std::ios::binary) << Document();
+    StampFile(path, before, inFuture);
+    const auto tree = TreeState(disk.Path(u"files"));
+    m_environment[u"VYR_JOURNAL_DIR"] = disk.Path(u"journal");
+    int failed = 0;
+    int applied = 0;
+    // One page less is free each time.
+    for (std::size_t filled = 0; filled <= size; filled += 4096) {
+        SCOPED_TRACE(filled);
+        std::ofstream(ToStdPath(disk.Path(u"filler"))) << std::string(filled, 'x');
+        const ProgramResult result = Run({u"properties", u"--set=title=New", path, u"--apply"});
+        if (result.exitCode != 0) {
+            ++failed;
+            EXPECT_THAT(result.output + result.errors, HasSubstr("o space left"));
+            EXPECT_EQ(TreeState(disk.Path(u"files")), tree);
+        }
+        std::filesystem::remove(ToStdPath(disk.Path(u"filler")));
+        EXPECT_EQ(Run({u"recover", u"--take-back"}).exitCode, 0);
+        if (result.exitCode == 0) {
+            ++applied;
+            const ProgramResult undone = Run({u"undo", u"1"});
+            EXPECT_EQ(undone.exitCode, 0) << undone.output << undone.errors;
+        }
+        ASSERT_EQ(TreeState(disk.Path(u"files")), tree);
+        std::filesystem::remove_all(ToStdPath(disk.Path(u"journal")));
+    }
+    EXPECT_GT(applied, 0);
+    EXPECT_GT(failed, 0);
+}
+
+TEST_F(ChangeFailures, UndoOnAFullDiskKeepsTheNewDocumentUntilThereIsSpace)
+{
+    const MountedFolder disk(MountedFolder::Kind::Memory, "size=256k");
+    if (!disk.WhyNot().empty())
+        GTEST_SKIP() << disk.WhyNot();
+    const CString path = disk.Path(u"a.doc");
+    std::ofstream(ToStdPath(path), std::ios::binary) << Document();
+    StampFile(path, before, inFuture);
+    const auto tree = TreeState(disk.Path());
+    ASSERT_EQ(Run({u"properties", u"--set=title=New", path, u"--apply"}).exitCode, 0);
+    const auto changed = TreeState(disk.Path());
+    std::ofstream(ToStdPath(disk.Path(u"filler"))) << std::string(1 << 19, 'x');
+    const ProgramResult undone = Run({u"undo", u"1"});
+    EXPECT_EQ(undone.exitCode, 1) << undone.output;
+    EXPECT_THAT(undone.output, HasSubstr("o space left"));
+    std::filesystem::remove(ToStdPath(disk.Path(u"filler")));
+    EXPECT_EQ(TreeState(disk.Path()), changed);
+    EXPECT_EQ(Run({u"undo", u"1"}).exitCode, 0);
+    EXPECT_EQ(TreeState(disk.Path()), tree);
 }

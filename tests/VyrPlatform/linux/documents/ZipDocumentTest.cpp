@@ -182,6 +182,33 @@ TEST_F(ZipDocument, PackageWithoutCorePropertiesGetsThem)
     EXPECT_EQ(Member("word/document.xml"), "<text/>");
 }
 
+TEST_F(ZipDocument, TimesOfItsMembersStayAndNewOnesHaveNone)
+{
+    const auto times = [this] {
+        const std::string bytes = scratch.ReadFile(u"a.docx");
+        std::vector<std::string> found;
+        for (std::size_t at = bytes.find("PK\1\2"); at != std::string::npos; at = bytes.find("PK\1\2", at + 1))
+            found.push_back(bytes.substr(at + 12, 4));
+        return found;
+    };
+    Place(OfficeMembers());
+    std::vector<std::string> before = times();
+    ASSERT_EQ(WriteText(officeOpenXml, 2, u"New"), Result::ok);
+    EXPECT_EQ(times(), before);
+
+    Members members = OpenMembers();
+    members.push_back(
+        {"_rels/.rels", R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships"/>)"});
+    members.push_back(
+        {"[Content_Types].xml", R"(<Types xmlns="http://schemas.openxmlformats.org/package/2006/content-types"/>)"});
+    Place(members);
+    before = times();
+    ASSERT_EQ(WriteText(officeOpenXml, 2, u"New"), Result::ok);
+    // Midnight on 1 January 1980, the first moment that there is.
+    before.emplace_back("\0\0\x21\0", 4);
+    EXPECT_EQ(times(), before);
+}
+
 TEST_F(ZipDocument, OpenDocumentHasItsPropertiesInMeta)
 {
     Place(OpenMembers());
