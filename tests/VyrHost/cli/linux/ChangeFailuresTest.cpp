@@ -91,6 +91,33 @@ TEST_F(ChangeFailures, OfFilesOfOthersStandInTheirRows)
     }
 }
 
+TEST_F(ChangeFailures, OfDocumentsWithoutPermissionStandInTheirRows)
+{
+    const ScratchFolder journal;
+    m_environment[u"VYR_JOURNAL_DIR"] = journal.Path(u"journal");
+    m_folder.MakeFolder(u"protected");
+    for (const char16_t* const name : {u"mine.doc", u"unreadable.doc", u"unwritable.doc", u"protected/mine.doc"})
+        StampFile(m_folder.WriteFile(name, Document()), before, inFuture);
+    for (const CString& path : {m_folder.Path(), journal.Path()})
+        ASSERT_EQ(chmod(ToStdPath(path).c_str(), 0777), 0);
+    if (geteuid() != 0 || RunUnprivileged({u"--version"}).exitCode != 0)
+        GTEST_SKIP() << "needs root, and a program that others can run";
+    for (const char16_t* const name : {u"mine.doc", u"protected/mine.doc"})
+        ASSERT_EQ(chown(ToStdPath(m_folder.Path(name)).c_str(), 65534, 65534), 0);
+    ASSERT_EQ(chmod(ToStdPath(m_folder.Path(u"unreadable.doc")).c_str(), 0600), 0);
+    const auto tree = TreeState(m_folder.Path());
+    const ProgramResult result = RunUnprivileged({u"properties", u"--set=title=New", u"--apply", u"mine.doc",
+                                                  u"unreadable.doc", u"unwritable.doc", u"protected/mine.doc"});
+    EXPECT_EQ(result.exitCode, 1) << result.errors;
+    EXPECT_THAT(result.output, HasSubstr("4 entries: 1 changed, 2 refused, 1 failed.\n"));
+    auto changed = TreeState(m_folder.Path());
+    EXPECT_NE(changed.at("mine.doc"), tree.at("mine.doc"));
+    changed["mine.doc"] = tree.at("mine.doc");
+    EXPECT_EQ(changed, tree);
+    EXPECT_EQ(RunUnprivileged({u"undo"}).exitCode, 0);
+    EXPECT_EQ(TreeState(m_folder.Path()), tree);
+}
+
 TEST_F(ChangeFailures, FullDiskUnderTheJournalKeepsAllAsItIs)
 {
     const MountedFolder disk(MountedFolder::Kind::Memory, "size=64k");
