@@ -4,9 +4,12 @@
 #include <VyrHost/batch/DiskLooks.h>
 #include <VyrHost/batch/KeptFiles.h>
 #include <VyrHost/batch/Locator.h>
+#include <VyrHost/model/FolderSet.h>
+#include <VyrHost/model/KeepsFile.h>
 #include <VyrHost/text/Errors.h>
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace VyrHost::Batch {
@@ -183,6 +186,7 @@ void BatchWork::Run(Direction direction, const Report& report, const StopRequest
     if (direction == Direction::Backward)
         runChanges();
     m_summary.wasStopped = !isWhole;
+    FlushReplaced();
     CheckListings(direction == Direction::Forward ? Location::After : Location::Before);
     Close(direction);
 }
@@ -229,6 +233,18 @@ Model::Outcome BatchWork::ForeseeEntry(Model::PlanIndex entry, Location goal, Mo
             .error = 0,
             .reason =
                 goal == Location::Before ? u"something stands at the old path" : u"something stands at the new path"};
+}
+
+/// Each folder once: to wait for the disk after each file would double the time of the whole batch. Until then the disk
+/// has the old file or the new one, and the journal of an open batch.
+void BatchWork::FlushReplaced()
+{
+    std::set<CString> folders;
+    for (std::size_t index = 0; index < m_journal.changes.size(); ++index)
+        if (!m_changes.IsKept(index) && dynamic_cast<const Model::KeepsFile*>(m_journal.changes[index].change.get()))
+            folders.emplace(Model::FolderPart(m_changes.PathOf(index)));
+    for (const CString& folder : folders)
+        static_cast<void>(m_files.FlushFolder(folder));
 }
 
 void BatchWork::CheckListings(Location location)

@@ -100,6 +100,8 @@ private:
     bool MayGoOn(std::uint32_t journalError);
     [[nodiscard]] Report CountAnd(const Report& report);
     [[nodiscard]] Model::Outcome ForeseeEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace);
+    /// Waits until the files that were replaced stand on the disk under their names.
+    void FlushReplaced();
     void CheckListings(Location location);
     void Close(Direction direction);
     [[nodiscard]] Checkpoint MakeCheckpoint(Direction direction) const;

@@ -76,7 +76,7 @@ struct PropertyEdit
     std::map<std::uint32_t, std::optional<CString>> values;
 };
 
-/// A new document that has been written beside an old one, and flushed, and that can take its place at a stroke, with
+/// A new document that has been written beside an old one, and that can take its place, flushed and at a stroke, with
 /// owner, mode, attributes, times, and extended attributes or streams kept. Whatever happens meanwhile, the old or the
 /// new document stands there, whole. Until then it stands under a temporary name, which is removed with this object;
 /// one that a killed program leaves is removed by RemoveLeftover.
@@ -107,7 +107,8 @@ public:
     [[nodiscard]] std::uint32_t Error() const noexcept { return m_error; }
     /// Where the new document stands. Only where there is one.
     [[nodiscard]] const CString& NewPath() const noexcept;
-    /// Puts it in the place of the old one, unless that was written to meanwhile.
+    /// Waits until it is on the disk, and puts it in the place of the old one, unless that was written to meanwhile.
+    /// The old one may be there again after a power failure until the folder is flushed, too.
     /// @return a result code; when it is a failure, the old document stands there unchanged.
     [[nodiscard]] std::uint32_t Commit();
 

@@ -114,8 +114,8 @@ int DocumentFile::WriteNew(DocumentEdit& edit, int target) const
         return error;
     if (const int error = CopyMetadata(source, target, m_status))
         return error;
-    if (fsync(target) != 0)
-        return errno;
+    // On its way to the disk; Commit waits for it.
+    static_cast<void>(sync_file_range(target, 0, 0, SYNC_FILE_RANGE_WRITE));
     if (!HasKeptMetadata(source, target, m_status))
         return EPERM;
     if (!edit.IsWritten(source, target))
@@ -138,6 +138,7 @@ void DocumentFile::RemoveNew()
     if (!m_newPath.IsEmpty())
         unlink(NativePath(m_newPath).Get());
     m_newPath.Empty();
+    m_new.reset();
 }
 
 int DocumentFile::Prepare(DocumentEdit& edit)
@@ -151,13 +152,11 @@ int DocumentFile::Prepare(DocumentEdit& edit)
         newPath = MakeTemporaryPath(m_path);
         created = CreateNew(newPath);
     }
-    Descriptor target(created);
-    if (!target.IsOpen())
+    if (created < 0)
         return errno;
+    m_new.emplace(created);
     m_newPath = newPath;
-    int error = WriteNew(edit, target.Get());
-    if (const int closeError = target.Close(); error == 0)
-        error = closeError;
+    const int error = WriteNew(edit, created);
     if (error != 0)
         RemoveNew();
     return error;
@@ -167,7 +166,11 @@ int DocumentFile::Commit()
 {
     if (m_newPath.IsEmpty())
         return EINVAL;
-    int error = CheckUnchanged();
+    int error = fsync(m_new->Get()) == 0 ? 0 : errno;
+    if (const int closeError = m_new->Close(); error == 0)
+        error = closeError;
+    if (error == 0)
+        error = CheckUnchanged();
     if (error == 0 && std::rename(NativePath(m_newPath).Get(), NativePath(m_path).Get()) != 0)
         error = errno;
     if (error != 0) {
@@ -175,9 +178,8 @@ int DocumentFile::Commit()
         return error;
     }
     m_newPath.Empty();
-    error = static_cast<int>(FlushFolder(GetFolderOf(m_path)));
     m_error = Open();
-    return error;
+    return 0;
 }
 
 void DocumentFile::RemoveLeftover(const CString& path)
@@ -188,8 +190,10 @@ void DocumentFile::RemoveLeftover(const CString& path)
 
 int DocumentFile::Replace(DocumentEdit& edit)
 {
-    const int error = Prepare(edit);
-    return error != 0 ? error : Commit();
+    int error = Prepare(edit);
+    if (error == 0)
+        error = Commit();
+    return error != 0 ? error : static_cast<int>(FlushFolder(GetFolderOf(m_path)));
 }
 
 } // namespace VyrPlatform

@@ -49,10 +49,10 @@ public:
     /// @return 0, or the error code; the old document then stands there unchanged.
     [[nodiscard]] int Replace(DocumentEdit& edit);
 
-    /// The first half of that: the new document stands beside this one, at NewPath, whole and flushed.
+    /// The first half of that: the new document stands beside this one, at NewPath, whole.
     [[nodiscard]] int Prepare(DocumentEdit& edit);
     [[nodiscard]] const CString& NewPath() const noexcept { return m_newPath; }
-    /// The second half.
+    /// The second half, which flushes it first.
     [[nodiscard]] int Commit();
 
     /// Removes the new document that a killed program left beside the one at `path`, if there is one.
@@ -70,6 +70,8 @@ private:
     /// Empty while there is no new document.
     CString m_newPath;
     std::optional<Descriptor> m_file;
+    /// The new document.
+    std::optional<Descriptor> m_new;
     struct stat m_status = {};
     int m_error;
 };
