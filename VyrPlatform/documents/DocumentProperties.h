@@ -69,8 +69,7 @@ struct DocumentProperties
 /// What a document's properties are changed to.
 struct PropertyEdit
 {
-    /// First of all, all properties are removed that DocumentProperties tells of; the thumbnail stays. On Windows their
-    /// bytes may stay in unused parts of a compound document's file, where no program shows them.
+    /// First of all, all properties are removed that DocumentProperties tells of; the thumbnail stays.
     bool clearsAll = false;
     /// New texts by their ids; nothing removes a property of any kind.
     std::map<std::uint32_t, std::optional<CString>> values;

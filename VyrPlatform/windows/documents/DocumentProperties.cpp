@@ -136,6 +136,18 @@ private:
     IStorage* m_storage;
 };
 
+/// Writes `content` over the beginning of the stream.
+HRESULT WriteBeginning(IStream& stream, const std::string& content)
+{
+    ULONG count = 0;
+    HRESULT result = stream.Seek({}, STREAM_SEEK_SET, nullptr);
+    if (SUCCEEDED(result))
+        result = stream.Write(content.data(), static_cast<ULONG>(content.size()), &count);
+    return SUCCEEDED(result) && count != content.size() ? STG_E_MEDIUMFULL : result;
+}
+
+/// What stood there before is overwritten: the system leaves the old content in parts of the file that it no longer
+/// uses when a stream gets another size.
 HRESULT WriteStream(IStorage& storage, std::u16string_view name, const std::string& content)
 {
     IStream* opened = nullptr;
@@ -143,13 +155,15 @@ HRESULT WriteStream(IStorage& storage, std::u16string_view name, const std::stri
     if (FAILED(result))
         return result;
     const Owned<IStream> stream(opened);
+    STATSTG before{};
+    result = stream->Stat(&before, STATFLAG_NONAME);
+    if (SUCCEEDED(result))
+        result = WriteBeginning(*stream, std::string(static_cast<std::size_t>(before.cbSize.QuadPart), '\0'));
     ULARGE_INTEGER size;
     size.QuadPart = content.size();
-    result = stream->SetSize(size);
-    ULONG count = 0;
     if (SUCCEEDED(result))
-        result = stream->Write(content.data(), static_cast<ULONG>(content.size()), &count);
-    return SUCCEEDED(result) && count != content.size() ? STG_E_MEDIUMFULL : result;
+        result = stream->SetSize(size);
+    return SUCCEEDED(result) ? WriteBeginning(*stream, content) : result;
 }
 
 /// Edits the compound document at `path` where it stands, and reads back what was written.
