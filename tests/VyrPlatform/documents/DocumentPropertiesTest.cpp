@@ -210,6 +210,29 @@ TEST_F(DocumentPropertiesOf, DocumentThatWasWrittenToMeanwhileStays)
     EXPECT_EQ(scratch.ReadFile(u"a.doc"), "another program's");
 }
 
+TEST_F(DocumentPropertiesOf, DocumentWithSeveralHardLinksIsRefused)
+{
+    const CString path = Place(Sample());
+    std::filesystem::create_hard_link(ToStdPath(path), ToStdPath(scratch.Path(u"other.doc")));
+    EXPECT_EQ(CheckDocumentEdit(path, SetTitle(u"x"), noHandler), Result::tooManyLinks);
+    EXPECT_EQ(Apply(path, SetTitle(u"x")), Result::tooManyLinks);
+    EXPECT_EQ(scratch.ReadFile(u"a.doc"), Sample().Bytes());
+    EXPECT_EQ(Files(), 2);
+}
+
+TEST_F(DocumentPropertiesOf, DocumentThatIsOpenForWritingIsRefused)
+{
+    const CString path = Place(Sample());
+    {
+        const std::ofstream other(ToStdPath(path), std::ios::binary | std::ios::app);
+        ASSERT_TRUE(other.is_open());
+        EXPECT_EQ(CheckDocumentEdit(path, SetTitle(u"x"), noHandler), Result::shareViolation);
+        EXPECT_EQ(Apply(path, SetTitle(u"x")), Result::shareViolation);
+    }
+    EXPECT_EQ(scratch.ReadFile(u"a.doc"), Sample().Bytes());
+    EXPECT_EQ(Apply(path, SetTitle(u"x")), Result::ok);
+}
+
 TEST_F(DocumentPropertiesOf, ContentOfAnotherFileTakesThePlace)
 {
     const CString path = scratch.WriteFile(u"a.doc", "old");
