@@ -143,28 +143,12 @@ protected:
 class KilledDocuments : public KilledBatch
 {
 protected:
-    void SetUp() override
-    {
-        CompoundDocument compound;
-        compound.streams[summaryName] = BuildSummary({{1, StoredCodePage(1252)}, {2, StoredByteText("Old title")}});
-        compound.streams[u"Body"] = std::string(5'000, 'b');
-        Place(u"a.doc", compound.Bytes());
-        if (HasPackageHandlers())
-            Place(u"b.odt",
-                  BuildArchive(
-                      {{"mimetype", "application/vnd.oasis.opendocument.text"},
-                       {"content.xml", std::string(5'000, 'c')},
-                       {"meta.xml", R"(<o:document-meta xmlns:o="urn:oasis:names:tc:opendocument:xmlns:office:1.0">)"
-                                    R"(<o:meta/></o:document-meta>)"}}));
-        m_before = Now();
-    }
-
     void Place(std::u16string_view name, const std::string& bytes)
     {
         // Documents are read, and a reader sets only an access time that is in the past.
         constexpr std::int64_t inFuture = 4'000'000'000;
         StampFile(m_folder.WriteFile(name, bytes), TicksOfUnixTime(moment, 1'234'567), TicksOfUnixTime(inFuture, 7));
-        m_names.emplace_back(name);
+        m_before = Now();
     }
 
     /// Each document is the old or the new one, whole.
@@ -174,17 +158,6 @@ protected:
         for (const auto& [name, state] : m_before)
             EXPECT_TRUE(now.contains(name) && (now.at(name) == state || now.at(name) == after.at(name))) << name;
     }
-
-    /// "vyr properties" with `arguments`, for all of the documents.
-    [[nodiscard]] std::vector<CString> Change(std::vector<CString> arguments) const
-    {
-        arguments.insert(arguments.begin(), {u"properties", u"--apply"});
-        arguments.insert(arguments.end(), m_names.begin(), m_names.end());
-        return arguments;
-    }
-
-private:
-    std::vector<CString> m_names;
 };
 
 } // namespace
@@ -211,7 +184,23 @@ TEST_F(KilledChanges, MarksAreRecovered)
     KillEverywhere({u"unblock", u"--apply", u"plain", u"protected"});
 }
 
-TEST_F(KilledDocuments, AreTheOldOrTheNewOnesAndAreRecovered)
+TEST_F(KilledDocuments, CompoundOneIsTheOldOrTheNewOneAndIsRecovered)
 {
-    KillEverywhere(Change({u"--set=title=Another title", u"--set=author=Ann"}));
+    CompoundDocument document;
+    document.streams[summaryName] = BuildSummary({{1, StoredCodePage(1252)}, {2, StoredByteText("Old title")}});
+    document.streams[u"Body"] = std::string(5'000, 'b');
+    Place(u"a.doc", document.Bytes());
+    KillEverywhere({u"properties", u"--set=title=Another title", u"--set=author=Ann", u"--apply", u"a.doc"});
+}
+
+TEST_F(KilledDocuments, PackageIsTheOldOrTheNewOneAndIsRecovered)
+{
+    if (!HasPackageHandlers())
+        GTEST_SKIP() << "no handler of such documents is registered";
+    const std::string meta = R"(<o:document-meta xmlns:o="urn:oasis:names:tc:opendocument:xmlns:office:1.0"><o:meta/>)"
+                             R"(</o:document-meta>)";
+    Place(u"b.odt", BuildArchive({{"mimetype", "application/vnd.oasis.opendocument.text"},
+                                  {"content.xml", std::string(5'000, 'c')},
+                                  {"meta.xml", meta}}));
+    KillEverywhere({u"properties", u"--set=title=Another title", u"--apply", u"b.odt"});
 }
