@@ -1,11 +1,13 @@
 // The functions of vyr.h; written by VyrC/generate from VyrC/interface.txt.
 // clang-format off
 #include <VyrC/Marshal.h>
+#include <VyrC/PropertyValue.h>
 #include <VyrLibraryFuncs/html/HtmlFuncs.h>
 #include <VyrLibraryFuncs/html/MSHTMLImgFuncs.h>
 #include <VyrLibraryFuncs/html/OutputFuncs.h>
 #include <VyrLibraryFuncs/metadata/AttributesFuncs.h>
 #include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
+#include <VyrLibraryFuncs/metadata/OfficePropertyFuncs.h>
 #include <VyrLibraryFuncs/metadata/UnblockFuncs.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>
@@ -19,8 +21,14 @@
 #include <VyrLibraryFuncs/textfile/LogFuncs.h>
 #include <VyrLibraryFuncs/xmlinfo/ApplicationFuncs.h>
 #include <VyrLibraryFuncs/xmlinfo/UpdatesFuncs.h>
+#include <VyrLibraryFuncs/xmlinfo/MSXMLFuncs.h>
 #include <VyrLibraryFuncs/xmlinfo/StyleFuncs.h>
+#include <VyrC/XmlNodes.h>
+#include <VyrC/HostLists.h>
+#include <VyrC/HostRegistry.h>
+#include <VyrC/HostQueue.h>
 
+#include <cstddef>
 #include <list>
 #include <utility>
 #include <vector>
@@ -30,194 +38,228 @@ using namespace VyrLibraryFuncs;
 
 namespace {
 
-AttributesFuncs::ATTRIBUTESITEM ToCpp(const vyr_attributes_item* record, const char* argument)
+const AttributesFuncs::ATTRIBUTESITEM& ToCpp(const vyr_attributes_item* record, const char* argument)
 {
-    RequireRecord(record, argument);
-    AttributesFuncs::ATTRIBUTESITEM made;
-    made.readOnly = record->read_only;
-    made.hidden = record->hidden;
-    made.system = record->system;
-    made.archive = record->archive;
-    made.temporary = record->temporary;
-    made.notContentIndexed = record->not_content_indexed;
-    return made;
+    RequireRecord(record, argument, sizeof(vyr_attributes_item));
+    AttributesFuncs::ATTRIBUTESITEM& kept = LastOf<AttributesFuncs::ATTRIBUTESITEM>();
+    kept.readOnly = record->read_only;
+    kept.hidden = record->hidden;
+    kept.system = record->system;
+    kept.archive = record->archive;
+    kept.temporary = record->temporary;
+    kept.notContentIndexed = record->not_content_indexed;
+    return kept;
 }
 
-DateTimeFuncs::STAGGERITEM ToCpp(const vyr_date_time_stagger_item* record, const char* argument)
+const DateTimeFuncs::STAGGERITEM& ToCpp(const vyr_date_time_stagger_item* record, const char* argument)
 {
-    RequireRecord(record, argument);
-    DateTimeFuncs::STAGGERITEM made;
-    made.useStartDateTime = record->use_start_date_time;
-    made.startDate = ToDateTime(record->start_date, argument);
-    made.startTime = ToDateTime(record->start_time, argument);
-    made.numberingMode = record->numbering_mode;
-    made.direction = record->direction;
-    made.startNumber = record->start_number;
-    made.years = record->years;
-    made.months = record->months;
-    made.days = record->days;
-    made.hours = record->hours;
-    made.minutes = record->minutes;
-    made.seconds = record->seconds;
-    return made;
+    RequireRecord(record, argument, sizeof(vyr_date_time_stagger_item));
+    DateTimeFuncs::STAGGERITEM& kept = LastOf<DateTimeFuncs::STAGGERITEM>();
+    kept.useStartDateTime = record->use_start_date_time;
+    kept.startDate = ToDateTime(record->start_date, argument);
+    kept.startTime = ToDateTime(record->start_time, argument);
+    kept.numberingMode = record->numbering_mode;
+    kept.direction = record->direction;
+    kept.startNumber = record->start_number;
+    kept.years = record->years;
+    kept.months = record->months;
+    kept.days = record->days;
+    kept.hours = record->hours;
+    kept.minutes = record->minutes;
+    kept.seconds = record->seconds;
+    return kept;
 }
 
-NameFuncs::ITEM ToCpp(const vyr_name_item* record, const char* argument)
+const OfficePropertyFuncs::CLSID_ITEM& ToCpp(const vyr_office_property_handler* record, const char* argument)
 {
-    RequireRecord(record, argument);
-    NameFuncs::ITEM made;
-    made.filePath = ToText(record->file_path, argument);
-    made.auxText1 = ToText(record->aux_text1, argument);
-    made.auxText2 = ToText(record->aux_text2, argument);
-    made.auxText3 = ToText(record->aux_text3, argument);
-    made.auxText4 = ToText(record->aux_text4, argument);
-    made.dirPath = ToText(record->dir_path, argument);
-    made.fileName = ToText(record->file_name, argument);
-    made.extension = ToText(record->extension, argument);
-    made.index = record->index;
-    made.renameType = record->rename_type;
-    made.numberPosition = record->number_position;
-    made.numberText1 = ToText(record->number_text1, argument);
-    made.numberText2 = ToText(record->number_text2, argument);
-    made.startNumber = record->start_number;
-    made.digits = record->digits;
-    made.step = record->step;
-    made.dateTimePosition = record->date_time_position;
-    made.dateTimeTarget = record->date_time_target;
-    made.dateTimeFormat = ToText(record->date_time_format, argument);
-    made.addDeleteType = record->add_delete_type;
-    made.position = record->position;
-    made.deleteCount = record->delete_count;
-    made.addText = ToText(record->add_text, argument);
-    made.convertType = record->convert_type;
-    made.findText = ToText(record->find_text, argument);
-    made.replaceText = ToText(record->replace_text, argument);
-    made.extensionType = record->extension_type;
-    made.newExtension = ToText(record->new_extension, argument);
-    return made;
+    RequireRecord(record, argument, sizeof(vyr_office_property_handler));
+    OfficePropertyFuncs::CLSID_ITEM& kept = LastOf<OfficePropertyFuncs::CLSID_ITEM>();
+    Keep(kept.extension, record->extension, argument);
+    kept.clsid = ToGuid(record->clsid);
+    kept.flag = record->flag;
+    return kept;
 }
 
-NameFuncs::CONFLICTITEM ToCpp(const vyr_name_conflict_item* record, const char* argument)
+const NameFuncs::ITEM& ToCpp(const vyr_name_item* record, const char* argument)
 {
-    RequireRecord(record, argument);
-    NameFuncs::CONFLICTITEM made;
-    made.numberFormat = ToText(record->number_format, argument);
-    made.position = record->position;
-    made.startNumber = record->start_number;
-    made.step = record->step;
-    return made;
+    RequireRecord(record, argument, sizeof(vyr_name_item));
+    NameFuncs::ITEM& kept = LastOf<NameFuncs::ITEM>();
+    Keep(kept.filePath, record->file_path, argument);
+    Keep(kept.auxText1, record->aux_text1, argument);
+    Keep(kept.auxText2, record->aux_text2, argument);
+    Keep(kept.auxText3, record->aux_text3, argument);
+    Keep(kept.auxText4, record->aux_text4, argument);
+    Keep(kept.dirPath, record->dir_path, argument);
+    Keep(kept.fileName, record->file_name, argument);
+    Keep(kept.extension, record->extension, argument);
+    kept.index = record->index;
+    kept.renameType = record->rename_type;
+    kept.numberPosition = record->number_position;
+    Keep(kept.numberText1, record->number_text1, argument);
+    Keep(kept.numberText2, record->number_text2, argument);
+    kept.startNumber = record->start_number;
+    kept.digits = record->digits;
+    kept.step = record->step;
+    kept.dateTimePosition = record->date_time_position;
+    kept.dateTimeTarget = record->date_time_target;
+    Keep(kept.dateTimeFormat, record->date_time_format, argument);
+    kept.addDeleteType = record->add_delete_type;
+    kept.position = record->position;
+    kept.deleteCount = record->delete_count;
+    Keep(kept.addText, record->add_text, argument);
+    kept.convertType = record->convert_type;
+    Keep(kept.findText, record->find_text, argument);
+    Keep(kept.replaceText, record->replace_text, argument);
+    kept.extensionType = record->extension_type;
+    Keep(kept.newExtension, record->new_extension, argument);
+    return kept;
 }
 
-ProgramsFeaturesFuncs::ITEM ToCpp(const vyr_programs_item* record, const char* argument)
+const NameFuncs::CONFLICTITEM& ToCpp(const vyr_name_conflict_item* record, const char* argument)
 {
-    RequireRecord(record, argument);
-    ProgramsFeaturesFuncs::ITEM made;
-    made.KeyName = ToText(record->key_name, argument);
-    made.SubKeyName = ToText(record->sub_key_name, argument);
-    made.DisplayIcon = ToText(record->display_icon, argument);
-    made.DisplayName = ToText(record->display_name, argument);
-    made.DisplayNameLocalized = ToText(record->display_name_localized, argument);
-    made.DisplayVersion = ToText(record->display_version, argument);
-    made.InstallLocation = ToText(record->install_location, argument);
-    made.Publisher = ToText(record->publisher, argument);
-    made.URLInfoAbout = ToText(record->url_info_about, argument);
-    made.URLUpdateInfo = ToText(record->url_update_info, argument);
-    made.Comments = ToText(record->comments, argument);
-    made.Contact = ToText(record->contact, argument);
-    made.HelpLink = ToText(record->help_link, argument);
-    made.HelpTelephone = ToText(record->help_telephone, argument);
-    made.InstallDate = ToText(record->install_date, argument);
-    made.InstallSource = ToText(record->install_source, argument);
-    made.Readme = ToText(record->readme, argument);
-    made.Unused18 = ToText(record->unused18, argument);
-    made.Unused19 = ToText(record->unused19, argument);
-    made.RegCompany = ToText(record->reg_company, argument);
-    made.RegOwner = ToText(record->reg_owner, argument);
-    made.Unused22 = ToText(record->unused22, argument);
-    made.LastWriteTime = ToText(record->last_write_time, argument);
-    made.ParentDisplayName = ToText(record->parent_display_name, argument);
-    made.ParentKeyName = ToText(record->parent_key_name, argument);
-    made.UninstallString = ToText(record->uninstall_string, argument);
-    made.Unused27 = ToText(record->unused27, argument);
-    made.EstimatedSizeBytes = record->estimated_size_bytes;
-    made.EstimatedSize = record->estimated_size;
-    made.SystemComponent = record->system_component;
-    made.WindowsInstaller = record->windows_installer;
-    made.VersionMajor = record->version_major;
-    made.VersionMinor = record->version_minor;
-    made.Unused34 = record->unused34;
-    made.Language = record->language;
-    made.NoModify = record->no_modify;
-    made.NoRepair = record->no_repair;
-    made.NoRemove = record->no_remove;
-    made.NoElevateOnModify = record->no_elevate_on_modify;
-    made.FullKeyName = ToText(record->full_key_name, argument);
-    made.FormattedSize = ToText(record->formatted_size, argument);
-    made.Unused42 = ToText(record->unused42, argument);
-    made.IsWow6432Node = record->is_wow6432_node;
-    return made;
+    RequireRecord(record, argument, sizeof(vyr_name_conflict_item));
+    NameFuncs::CONFLICTITEM& kept = LastOf<NameFuncs::CONFLICTITEM>();
+    Keep(kept.numberFormat, record->number_format, argument);
+    kept.position = record->position;
+    kept.startNumber = record->start_number;
+    kept.step = record->step;
+    return kept;
 }
 
-ProgramsFeaturesFuncs::INSTALLER_PRODUCTS_ITEM ToCpp(const vyr_programs_product* record, const char* argument)
+const ProgramsFeaturesFuncs::ITEM& ToCpp(const vyr_programs_item* record, const char* argument)
 {
-    RequireRecord(record, argument);
-    ProgramsFeaturesFuncs::INSTALLER_PRODUCTS_ITEM made;
-    made.ProductKey = ToText(record->product_key, argument);
-    made.PackageCode = ToText(record->package_code, argument);
-    made.ProductName = ToText(record->product_name, argument);
-    made.ProductIcon = ToText(record->product_icon, argument);
-    made.DeploymentFlags = record->deployment_flags;
-    made.Language = record->language;
-    made.Version = record->version;
-    return made;
+    RequireRecord(record, argument, sizeof(vyr_programs_item));
+    ProgramsFeaturesFuncs::ITEM& kept = LastOf<ProgramsFeaturesFuncs::ITEM>();
+    Keep(kept.KeyName, record->key_name, argument);
+    Keep(kept.SubKeyName, record->sub_key_name, argument);
+    Keep(kept.DisplayIcon, record->display_icon, argument);
+    Keep(kept.DisplayName, record->display_name, argument);
+    Keep(kept.DisplayNameLocalized, record->display_name_localized, argument);
+    Keep(kept.DisplayVersion, record->display_version, argument);
+    Keep(kept.InstallLocation, record->install_location, argument);
+    Keep(kept.Publisher, record->publisher, argument);
+    Keep(kept.URLInfoAbout, record->url_info_about, argument);
+    Keep(kept.URLUpdateInfo, record->url_update_info, argument);
+    Keep(kept.Comments, record->comments, argument);
+    Keep(kept.Contact, record->contact, argument);
+    Keep(kept.HelpLink, record->help_link, argument);
+    Keep(kept.HelpTelephone, record->help_telephone, argument);
+    Keep(kept.InstallDate, record->install_date, argument);
+    Keep(kept.InstallSource, record->install_source, argument);
+    Keep(kept.Readme, record->readme, argument);
+    Keep(kept.Unused18, record->unused18, argument);
+    Keep(kept.Unused19, record->unused19, argument);
+    Keep(kept.RegCompany, record->reg_company, argument);
+    Keep(kept.RegOwner, record->reg_owner, argument);
+    Keep(kept.Unused22, record->unused22, argument);
+    Keep(kept.LastWriteTime, record->last_write_time, argument);
+    Keep(kept.ParentDisplayName, record->parent_display_name, argument);
+    Keep(kept.ParentKeyName, record->parent_key_name, argument);
+    Keep(kept.UninstallString, record->uninstall_string, argument);
+    Keep(kept.Unused27, record->unused27, argument);
+    kept.EstimatedSizeBytes = record->estimated_size_bytes;
+    kept.EstimatedSize = record->estimated_size;
+    kept.SystemComponent = record->system_component;
+    kept.WindowsInstaller = record->windows_installer;
+    kept.VersionMajor = record->version_major;
+    kept.VersionMinor = record->version_minor;
+    kept.Unused34 = record->unused34;
+    kept.Language = record->language;
+    kept.NoModify = record->no_modify;
+    kept.NoRepair = record->no_repair;
+    kept.NoRemove = record->no_remove;
+    kept.NoElevateOnModify = record->no_elevate_on_modify;
+    Keep(kept.FullKeyName, record->full_key_name, argument);
+    Keep(kept.FormattedSize, record->formatted_size, argument);
+    Keep(kept.Unused42, record->unused42, argument);
+    kept.IsWow6432Node = record->is_wow6432_node;
+    return kept;
 }
 
-FilterFuncs::FILTERITEM ToCpp(const vyr_filter_condition* record, const char* argument)
+const ProgramsFeaturesFuncs::INSTALLER_PRODUCTS_ITEM& ToCpp(const vyr_programs_product* record, const char* argument)
 {
-    RequireRecord(record, argument);
-    FilterFuncs::FILTERITEM made;
-    made.filterValue = record->filter_value;
-    made.enabled = record->enabled;
-    made.text = ToText(record->text, argument);
-    made.condition = record->condition;
-    made.matchCase = record->match_case;
-    return made;
+    RequireRecord(record, argument, sizeof(vyr_programs_product));
+    ProgramsFeaturesFuncs::INSTALLER_PRODUCTS_ITEM& kept = LastOf<ProgramsFeaturesFuncs::INSTALLER_PRODUCTS_ITEM>();
+    Keep(kept.ProductKey, record->product_key, argument);
+    Keep(kept.PackageCode, record->package_code, argument);
+    Keep(kept.ProductName, record->product_name, argument);
+    Keep(kept.ProductIcon, record->product_icon, argument);
+    kept.DeploymentFlags = record->deployment_flags;
+    kept.Language = record->language;
+    kept.Version = record->version;
+    return kept;
 }
 
-SearchFuncs::ITEM ToCpp(const vyr_search_item* record, const char* argument)
+const FilterFuncs::FILTERITEM& ToCpp(const vyr_filter_condition* record, const char* argument)
 {
-    RequireRecord(record, argument);
-    SearchFuncs::ITEM made;
-    made.dateTime = ToDateTime(record->date_time, argument);
-    made.size = record->size;
-    return made;
+    RequireRecord(record, argument, sizeof(vyr_filter_condition));
+    FilterFuncs::FILTERITEM& kept = LastOf<FilterFuncs::FILTERITEM>();
+    kept.filterValue = record->filter_value;
+    kept.enabled = record->enabled;
+    Keep(kept.text, record->text, argument);
+    kept.condition = record->condition;
+    kept.matchCase = record->match_case;
+    return kept;
 }
 
-UpdatesFuncs::UPDATEITEM ToCpp(const vyr_updates_item* record, const char* argument)
+const SearchFuncs::ITEM& ToCpp(const vyr_search_item* record, const char* argument)
 {
-    RequireRecord(record, argument);
-    UpdatesFuncs::UPDATEITEM made;
-    made.category = record->category;
-    made.description = ToText(record->description, argument);
-    return made;
+    RequireRecord(record, argument, sizeof(vyr_search_item));
+    SearchFuncs::ITEM& kept = LastOf<SearchFuncs::ITEM>();
+    kept.dateTime = ToDateTime(record->date_time, argument);
+    kept.size = record->size;
+    return kept;
 }
 
-StyleFuncs::DESIGNITEM ToCpp(const vyr_style_item* record, const char* argument)
+const UpdatesFuncs::UPDATEITEM& ToCpp(const vyr_updates_item* record, const char* argument)
 {
-    RequireRecord(record, argument);
-    StyleFuncs::DESIGNITEM made;
-    made.id = record->id;
-    made.value = ToText(record->value, argument);
-    made.name = ToText(record->name, argument);
-    return made;
+    RequireRecord(record, argument, sizeof(vyr_updates_item));
+    UpdatesFuncs::UPDATEITEM& kept = LastOf<UpdatesFuncs::UPDATEITEM>();
+    kept.category = record->category;
+    Keep(kept.description, record->description, argument);
+    return kept;
+}
+
+const StyleFuncs::DESIGNITEM& ToCpp(const vyr_style_item* record, const char* argument)
+{
+    RequireRecord(record, argument, sizeof(vyr_style_item));
+    StyleFuncs::DESIGNITEM& kept = LastOf<StyleFuncs::DESIGNITEM>();
+    kept.id = record->id;
+    Keep(kept.value, record->value, argument);
+    Keep(kept.name, record->name, argument);
+    return kept;
+}
+
+const HostRegistry::HIVEFILES& ToCpp(const vyr_host_registry_hive_files* record, const char* argument)
+{
+    RequireRecord(record, argument, sizeof(vyr_host_registry_hive_files));
+    HostRegistry::HIVEFILES& kept = LastOf<HostRegistry::HIVEFILES>();
+    Keep(kept.software, record->software, argument);
+    Keep(kept.system, record->system, argument);
+    Keep(kept.user, record->user, argument);
+    Keep(kept.userClasses, record->user_classes, argument);
+    return kept;
 }
 
 } // namespace
 
+vyr_status vyr_office_property_handler_get(vyr_list list, size_t index, vyr_office_property_handler* record)
+{
+    return Guard([&] {
+        RequireRecord(record, "record", sizeof(vyr_office_property_handler));
+        const auto held = Held(list);
+        const auto& found = RecordAt<OfficePropertyFuncs::CLSID_ITEM>(held, index);
+        record->extension = ToC(found.extension);
+        record->clsid = ToC(found.clsid);
+        record->flag = found.flag;
+        return VYR_OK;
+    });
+}
+
 vyr_status vyr_name_rename_item_get(vyr_list list, size_t index, vyr_name_rename_item* record)
 {
     return Guard([&] {
-        RequireRecord(record, "record");
+        RequireRecord(record, "record", sizeof(vyr_name_rename_item));
         const auto held = Held(list);
         const auto& found = RecordAt<NameFuncs::RENAMEITEM>(held, index);
         record->source_path = ToC(found.sourcePath);
@@ -231,7 +273,7 @@ vyr_status vyr_name_rename_item_get(vyr_list list, size_t index, vyr_name_rename
 vyr_status vyr_programs_item_get(vyr_list list, size_t index, vyr_programs_item* record)
 {
     return Guard([&] {
-        RequireRecord(record, "record");
+        RequireRecord(record, "record", sizeof(vyr_programs_item));
         const auto held = Held(list);
         const auto& found = RecordAt<ProgramsFeaturesFuncs::ITEM>(held, index);
         record->key_name = ToC(found.KeyName);
@@ -284,7 +326,7 @@ vyr_status vyr_programs_item_get(vyr_list list, size_t index, vyr_programs_item*
 vyr_status vyr_programs_product_get(vyr_list list, size_t index, vyr_programs_product* record)
 {
     return Guard([&] {
-        RequireRecord(record, "record");
+        RequireRecord(record, "record", sizeof(vyr_programs_product));
         const auto held = Held(list);
         const auto& found = RecordAt<ProgramsFeaturesFuncs::INSTALLER_PRODUCTS_ITEM>(held, index);
         record->product_key = ToC(found.ProductKey);
@@ -301,7 +343,7 @@ vyr_status vyr_programs_product_get(vyr_list list, size_t index, vyr_programs_pr
 vyr_status vyr_browser_app_item_get(vyr_list list, size_t index, vyr_browser_app_item* record)
 {
     return Guard([&] {
-        RequireRecord(record, "record");
+        RequireRecord(record, "record", sizeof(vyr_browser_app_item));
         const auto held = Held(list);
         const auto& found = RecordAt<BrowserFuncs::APPITEM>(held, index);
         record->app_type = found.AppType;
@@ -316,7 +358,7 @@ vyr_status vyr_browser_app_item_get(vyr_list list, size_t index, vyr_browser_app
 vyr_status vyr_updates_item_get(vyr_list list, size_t index, vyr_updates_item* record)
 {
     return Guard([&] {
-        RequireRecord(record, "record");
+        RequireRecord(record, "record", sizeof(vyr_updates_item));
         const auto held = Held(list);
         const auto& found = RecordAt<UpdatesFuncs::UPDATEITEM>(held, index);
         record->category = found.category;
@@ -328,12 +370,26 @@ vyr_status vyr_updates_item_get(vyr_list list, size_t index, vyr_updates_item* r
 vyr_status vyr_style_item_get(vyr_list list, size_t index, vyr_style_item* record)
 {
     return Guard([&] {
-        RequireRecord(record, "record");
+        RequireRecord(record, "record", sizeof(vyr_style_item));
         const auto held = Held(list);
         const auto& found = RecordAt<StyleFuncs::DESIGNITEM>(held, index);
         record->id = found.id;
         record->value = ToC(found.value);
         record->name = ToC(found.name);
+        return VYR_OK;
+    });
+}
+
+vyr_status vyr_host_registry_open_result_get(vyr_list list, size_t index, vyr_host_registry_open_result* record)
+{
+    return Guard([&] {
+        RequireRecord(record, "record", sizeof(vyr_host_registry_open_result));
+        const auto held = Held(list);
+        const auto& found = RecordAt<HostRegistry::OPENRESULT>(held, index);
+        record->outcome = found.outcome;
+        record->error = found.error;
+        record->file = ToC(found.file);
+        record->unclosed_files = ToC(found.unclosedFiles);
         return VYR_OK;
     });
 }
@@ -1543,8 +1599,8 @@ vyr_status vyr_attributes_set_modified_file_attributes(
     return Guard([&] {
         const NumberResult numberResult(result);
         auto argument0 = ToText(path, path_length, "path");
-        auto argument1 = ToCpp(item, "item");
-        return numberResult.Give(AttributesFuncs::SetModifiedFileAttributes(std::move(argument0), std::move(argument1)));
+        const auto& argument1 = ToCpp(item, "item");
+        return numberResult.Give(AttributesFuncs::SetModifiedFileAttributes(std::move(argument0), argument1));
     });
 }
 
@@ -1776,8 +1832,8 @@ vyr_status vyr_date_time_get_stagger_file_date_time(
     return Guard([&] {
         const NumberResult numberResult(result);
         auto argument2 = ToDateTime(base, base_status, "base");
-        auto argument3 = ToCpp(item, "item");
-        return numberResult.Give(ToTicks(DateTimeFuncs::GetStaggerFileDateTime(index, is_enabled, std::move(argument2), std::move(argument3))));
+        const auto& argument3 = ToCpp(item, "item");
+        return numberResult.Give(ToTicks(DateTimeFuncs::GetStaggerFileDateTime(index, is_enabled, std::move(argument2), argument3)));
     });
 }
 
@@ -1899,6 +1955,64 @@ vyr_status vyr_date_time_is_match_date(
     });
 }
 
+vyr_status vyr_office_property_get_class_id_item_list(
+    const vyr_text_and_number* extensions,
+    size_t extensions_count,
+    vyr_list* result)
+{
+    return Guard([&] {
+        const ListResult listResult(result);
+        auto argument0 = ToVector(extensions, extensions_count, "extensions", [](const vyr_text_and_number& element, const char* argument) { return std::pair<CString, int>(ToText(element.text, argument), element.number); });
+        return listResult.Give(OfficePropertyFuncs::GetClassIdItemList(std::move(argument0)));
+    });
+}
+
+vyr_status vyr_office_property_get_class_id(
+    const uint16_t* extension,
+    ptrdiff_t extension_length,
+    const vyr_office_property_handler* items,
+    size_t items_count,
+    vyr_guid* result)
+{
+    return Guard([&] {
+        const NumberResult numberResult(result);
+        auto argument0 = ToText(extension, extension_length, "extension");
+        auto argument1 = ToRecords(items, items_count, "items", [](const vyr_office_property_handler& element, const char* argument) { return ToCpp(&element, argument); });
+        return numberResult.Give(ToC(OfficePropertyFuncs::GetClassId(std::move(argument0), std::move(argument1))));
+    });
+}
+
+vyr_status vyr_office_property_get_property_handler_reg_key(
+    const uint16_t* extension,
+    ptrdiff_t extension_length,
+    uint16_t* buffer,
+    size_t capacity,
+    size_t* length)
+{
+    return Guard([&] {
+        const TextResult textResult(buffer, capacity, length);
+        auto argument0 = ToText(extension, extension_length, "extension");
+        return textResult.Give(OfficePropertyFuncs::GetPropertyHandlerRegKey(std::move(argument0)));
+    });
+}
+
+vyr_status vyr_office_property_set_dump_props(
+    const uint16_t* path,
+    ptrdiff_t path_length,
+    uint32_t property_id,
+    const vyr_value* value,
+    const vyr_guid* clsid,
+    int32_t* result)
+{
+    return Guard([&] {
+        const NumberResult numberResult(result);
+        auto argument0 = ToText(path, path_length, "path");
+        PropertyValue value_made(value, "value");
+        auto argument3 = ToGuid(clsid, "clsid");
+        return numberResult.Give(OfficePropertyFuncs::SetDumpProps(std::move(argument0), property_id, value_made.Get(), std::move(argument3)));
+    });
+}
+
 vyr_status vyr_unblock_delete_zone_id(const uint16_t* path, ptrdiff_t path_length, int32_t* result)
 {
     return Guard([&] {
@@ -1908,12 +2022,22 @@ vyr_status vyr_unblock_delete_zone_id(const uint16_t* path, ptrdiff_t path_lengt
     });
 }
 
+[[gnu::flatten]]
 vyr_status vyr_name_get_rename_file_path(const vyr_name_item* item, uint16_t* buffer, size_t capacity, size_t* length)
 {
     return Guard([&] {
         const TextResult textResult(buffer, capacity, length);
-        auto argument0 = ToCpp(item, "item");
-        return textResult.Give(NameFuncs::GetRenameFilePath(std::move(argument0)));
+        const auto& argument0 = ToCpp(item, "item");
+        return textResult.Give(NameFuncs::GetRenameFilePath(argument0));
+    });
+}
+
+vyr_status vyr_name_get_rename_file_paths(const vyr_name_item* items, size_t items_count, vyr_list* result)
+{
+    return Guard([&] {
+        const ListResult listResult(result);
+        auto argument0 = ToRecords(items, items_count, "items", [](const vyr_name_item& element, const char* argument) { return NameFuncs::GetRenameFilePath(ToCpp(&element, argument)); });
+        return listResult.Give(std::move(argument0));
     });
 }
 
@@ -1949,8 +2073,8 @@ vyr_status vyr_name_is_resolve_conflict(const vyr_name_item* item, int32_t* resu
 {
     return Guard([&] {
         const NumberResult numberResult(result);
-        auto argument0 = ToCpp(item, "item");
-        return numberResult.Give(NameFuncs::IsResolveConflict(std::move(argument0)));
+        const auto& argument0 = ToCpp(item, "item");
+        return numberResult.Give(NameFuncs::IsResolveConflict(argument0));
     });
 }
 
@@ -1962,8 +2086,8 @@ vyr_status vyr_name_get_sequence_number_file_path(
 {
     return Guard([&] {
         const TextResult textResult(buffer, capacity, length);
-        auto argument0 = ToCpp(item, "item");
-        return textResult.Give(NameFuncs::GetSequenceNumberFilePath(std::move(argument0)));
+        const auto& argument0 = ToCpp(item, "item");
+        return textResult.Give(NameFuncs::GetSequenceNumberFilePath(argument0));
     });
 }
 
@@ -1975,8 +2099,8 @@ vyr_status vyr_name_get_date_time_file_path(
 {
     return Guard([&] {
         const TextResult textResult(buffer, capacity, length);
-        auto argument0 = ToCpp(item, "item");
-        return textResult.Give(NameFuncs::GetDateTimeFilePath(std::move(argument0)));
+        const auto& argument0 = ToCpp(item, "item");
+        return textResult.Give(NameFuncs::GetDateTimeFilePath(argument0));
     });
 }
 
@@ -1988,8 +2112,8 @@ vyr_status vyr_name_get_add_delete_file_path(
 {
     return Guard([&] {
         const TextResult textResult(buffer, capacity, length);
-        auto argument0 = ToCpp(item, "item");
-        return textResult.Give(NameFuncs::GetAddDeleteFilePath(std::move(argument0)));
+        const auto& argument0 = ToCpp(item, "item");
+        return textResult.Give(NameFuncs::GetAddDeleteFilePath(argument0));
     });
 }
 
@@ -1997,8 +2121,8 @@ vyr_status vyr_name_get_convert_file_path(const vyr_name_item* item, uint16_t* b
 {
     return Guard([&] {
         const TextResult textResult(buffer, capacity, length);
-        auto argument0 = ToCpp(item, "item");
-        return textResult.Give(NameFuncs::GetConvertFilePath(std::move(argument0)));
+        const auto& argument0 = ToCpp(item, "item");
+        return textResult.Give(NameFuncs::GetConvertFilePath(argument0));
     });
 }
 
@@ -2006,8 +2130,8 @@ vyr_status vyr_name_get_replace_file_path(const vyr_name_item* item, uint16_t* b
 {
     return Guard([&] {
         const TextResult textResult(buffer, capacity, length);
-        auto argument0 = ToCpp(item, "item");
-        return textResult.Give(NameFuncs::GetReplaceFilePath(std::move(argument0)));
+        const auto& argument0 = ToCpp(item, "item");
+        return textResult.Give(NameFuncs::GetReplaceFilePath(argument0));
     });
 }
 
@@ -2019,8 +2143,8 @@ vyr_status vyr_name_get_extension_file_path(
 {
     return Guard([&] {
         const TextResult textResult(buffer, capacity, length);
-        auto argument0 = ToCpp(item, "item");
-        return textResult.Give(NameFuncs::GetExtensionFilePath(std::move(argument0)));
+        const auto& argument0 = ToCpp(item, "item");
+        return textResult.Give(NameFuncs::GetExtensionFilePath(argument0));
     });
 }
 
@@ -2035,8 +2159,8 @@ vyr_status vyr_name_get_resolve_conflict_file_path(
     return Guard([&] {
         const TextResult textResult(buffer, capacity, length);
         auto argument0 = ToText(path, path_length, "path");
-        auto argument1 = ToCpp(item, "item");
-        return textResult.Give(NameFuncs::GetResolveConflictFilePath(std::move(argument0), std::move(argument1)));
+        const auto& argument1 = ToCpp(item, "item");
+        return textResult.Give(NameFuncs::GetResolveConflictFilePath(std::move(argument0), argument1));
     });
 }
 
@@ -2172,8 +2296,8 @@ vyr_status vyr_programs_get_list_view_item_text(
 {
     return Guard([&] {
         const TextResult textResult(buffer, capacity, length);
-        auto argument1 = ToCpp(item, "item");
-        return textResult.Give(ProgramsFeaturesFuncs::GetListViewItemText(column, std::move(argument1)));
+        const auto& argument1 = ToCpp(item, "item");
+        return textResult.Give(ProgramsFeaturesFuncs::GetListViewItemText(column, argument1));
     });
 }
 
@@ -2200,7 +2324,7 @@ vyr_status vyr_programs_get_product_icon(
         const TextResult textResult(buffer, capacity, length);
         auto argument0 = ToText(icon_filter, icon_filter_length, "icon_filter");
         auto argument1 = ToText(product_name, product_name_length, "product_name");
-        auto argument2 = ToVector(products, products_count, "products", [](const vyr_programs_product& element, const char* argument) { return ToCpp(&element, argument); });
+        auto argument2 = ToRecords(products, products_count, "products", [](const vyr_programs_product& element, const char* argument) { return ToCpp(&element, argument); });
         return textResult.Give(ProgramsFeaturesFuncs::GetProductIcon(std::move(argument0), std::move(argument1), std::move(argument2)));
     });
 }
@@ -2446,7 +2570,7 @@ vyr_status vyr_filter_is_match(
     return Guard([&] {
         const NumberResult numberResult(result);
         auto argument0 = ToText(path, path_length, "path");
-        auto argument2 = ToVector(items, items_count, "items", [](const vyr_filter_condition& element, const char* argument) { return ToCpp(&element, argument); });
+        auto argument2 = ToRecords(items, items_count, "items", [](const vyr_filter_condition& element, const char* argument) { return ToCpp(&element, argument); });
         return numberResult.Give(FilterFuncs::IsMatch(std::move(argument0), mode, std::move(argument2)));
     });
 }
@@ -2462,7 +2586,7 @@ vyr_status vyr_filter_is_match_name(
     return Guard([&] {
         const NumberResult numberResult(result);
         auto argument0 = ToText(name, name_length, "name");
-        auto argument2 = ToVector(items, items_count, "items", [](const vyr_filter_condition& element, const char* argument) { return ToCpp(&element, argument); });
+        auto argument2 = ToRecords(items, items_count, "items", [](const vyr_filter_condition& element, const char* argument) { return ToCpp(&element, argument); });
         return numberResult.Give(FilterFuncs::IsMatchName(std::move(argument0), mode, std::move(argument2)));
     });
 }
@@ -2495,8 +2619,8 @@ vyr_status vyr_search_is_match(const vyr_search_item* item, int32_t* result)
 {
     return Guard([&] {
         const NumberResult numberResult(result);
-        auto argument0 = ToCpp(item, "item");
-        return numberResult.Give(SearchFuncs::IsMatch(std::move(argument0)));
+        const auto& argument0 = ToCpp(item, "item");
+        return numberResult.Give(SearchFuncs::IsMatch(argument0));
     });
 }
 
@@ -3115,7 +3239,7 @@ vyr_status vyr_updates_get_download_url(uint16_t* buffer, size_t capacity, size_
 vyr_status vyr_updates_set_update_items_list(const vyr_updates_item* items, size_t items_count)
 {
     return Guard([&] {
-        auto argument0 = ToVector(items, items_count, "items", [](const vyr_updates_item& element, const char* argument) { return ToCpp(&element, argument); });
+        auto argument0 = ToRecords(items, items_count, "items", [](const vyr_updates_item& element, const char* argument) { return ToCpp(&element, argument); });
         UpdatesFuncs::SetUpdateItemsList(std::move(argument0));
         return VYR_OK;
     });
@@ -3204,6 +3328,24 @@ vyr_status vyr_updates_is_date_interval_check_for_updates(int32_t days, int32_t*
     });
 }
 
+vyr_status vyr_msxml_load_xml_file(const uint16_t* path, ptrdiff_t path_length, void** result)
+{
+    return Guard([&] {
+        const NumberResult numberResult(result);
+        auto argument0 = ToText(path, path_length, "path");
+        return numberResult.Give(ToC(MSXMLFuncs::LoadXmlFile(std::move(argument0))));
+    });
+}
+
+vyr_status vyr_msxml_load_xslt_file(const uint16_t* path, ptrdiff_t path_length, void** result)
+{
+    return Guard([&] {
+        const NumberResult numberResult(result);
+        auto argument0 = ToText(path, path_length, "path");
+        return numberResult.Give(ToC(MSXMLFuncs::LoadXsltFile(std::move(argument0))));
+    });
+}
+
 vyr_status vyr_style_initialize_styles_information()
 {
     return Guard([&] {
@@ -3224,7 +3366,7 @@ vyr_status vyr_style_get_styles_information(const uint16_t* path, ptrdiff_t path
 vyr_status vyr_style_set_design_items_list(const vyr_style_item* items, size_t items_count)
 {
     return Guard([&] {
-        auto argument0 = ToVector(items, items_count, "items", [](const vyr_style_item& element, const char* argument) { return ToCpp(&element, argument); });
+        auto argument0 = ToRecords(items, items_count, "items", [](const vyr_style_item& element, const char* argument) { return ToCpp(&element, argument); });
         StyleFuncs::SetDesignItemsList(std::move(argument0));
         return VYR_OK;
     });
@@ -3235,5 +3377,183 @@ vyr_status vyr_style_get_design_items_list(vyr_list* result)
     return Guard([&] {
         const ListResult listResult(result);
         return listResult.Give(StyleFuncs::GetDesignItemsList());
+    });
+}
+
+vyr_status vyr_xml_get_root(void* document, void** result)
+{
+    return Guard([&] {
+        const NumberResult numberResult(result);
+        RequireObject(document, "document");
+        auto argument0 = static_cast<IDispatch*>(document);
+        return numberResult.Give(ToC(XmlNodes::GetRoot(argument0)));
+    });
+}
+
+vyr_status vyr_xml_get_text(void* element, uint16_t* buffer, size_t capacity, size_t* length)
+{
+    return Guard([&] {
+        const TextResult textResult(buffer, capacity, length);
+        RequireObject(element, "element");
+        auto argument0 = static_cast<IDispatch*>(element);
+        return textResult.Give(XmlNodes::GetText(argument0));
+    });
+}
+
+vyr_status vyr_xml_get_attribute(
+    void* element,
+    const uint16_t* name,
+    ptrdiff_t name_length,
+    uint16_t* buffer,
+    size_t capacity,
+    size_t* length)
+{
+    return Guard([&] {
+        const TextResult textResult(buffer, capacity, length);
+        RequireObject(element, "element");
+        auto argument0 = static_cast<IDispatch*>(element);
+        auto argument1 = ToText(name, name_length, "name");
+        return textResult.Give(XmlNodes::GetAttribute(argument0, std::move(argument1)));
+    });
+}
+
+vyr_status vyr_xml_count_elements(void* element, const uint16_t* name, ptrdiff_t name_length, int32_t* result)
+{
+    return Guard([&] {
+        const NumberResult numberResult(result);
+        RequireObject(element, "element");
+        auto argument0 = static_cast<IDispatch*>(element);
+        auto argument1 = ToText(name, name_length, "name");
+        return numberResult.Give(XmlNodes::CountElements(argument0, std::move(argument1)));
+    });
+}
+
+vyr_status vyr_xml_get_element(void* element, const uint16_t* name, ptrdiff_t name_length, int32_t index, void** result)
+{
+    return Guard([&] {
+        const NumberResult numberResult(result);
+        RequireObject(element, "element");
+        auto argument0 = static_cast<IDispatch*>(element);
+        auto argument1 = ToText(name, name_length, "name");
+        return numberResult.Give(ToC(XmlNodes::GetElement(argument0, std::move(argument1), index)));
+    });
+}
+
+vyr_status vyr_xml_release(void* object)
+{
+    return Guard([&] {
+        RequireObject(object, "object");
+        auto argument0 = static_cast<IDispatch*>(object);
+        XmlNodes::Release(argument0);
+        return VYR_OK;
+    });
+}
+
+vyr_status vyr_host_list_create(intptr_t* result)
+{
+    return Guard([&] {
+        const NumberResult numberResult(result);
+        return numberResult.Give(ToC(HostLists::Create()));
+    });
+}
+
+vyr_status vyr_host_list_destroy(intptr_t list, int32_t* result)
+{
+    return Guard([&] {
+        const NumberResult numberResult(result);
+        auto argument0 = ToHandle<HWND>(list);
+        return numberResult.Give(HostLists::Destroy(argument0));
+    });
+}
+
+vyr_status vyr_host_list_insert_column(
+    intptr_t list,
+    int32_t index,
+    const uint16_t* heading,
+    ptrdiff_t heading_length,
+    int32_t* result)
+{
+    return Guard([&] {
+        const NumberResult numberResult(result);
+        auto argument0 = ToHandle<HWND>(list);
+        auto argument2 = ToText(heading, heading_length, "heading");
+        return numberResult.Give(HostLists::InsertColumn(argument0, index, std::move(argument2)));
+    });
+}
+
+vyr_status vyr_host_list_delete_column(intptr_t list, int32_t index, int32_t* result)
+{
+    return Guard([&] {
+        const NumberResult numberResult(result);
+        auto argument0 = ToHandle<HWND>(list);
+        return numberResult.Give(HostLists::DeleteColumn(argument0, index));
+    });
+}
+
+vyr_status vyr_host_list_move_column(intptr_t list, int32_t index, int32_t position, int32_t* result)
+{
+    return Guard([&] {
+        const NumberResult numberResult(result);
+        auto argument0 = ToHandle<HWND>(list);
+        return numberResult.Give(HostLists::MoveColumn(argument0, index, position));
+    });
+}
+
+vyr_status vyr_host_list_set_has_header(intptr_t list, int32_t has_header, int32_t* result)
+{
+    return Guard([&] {
+        const NumberResult numberResult(result);
+        auto argument0 = ToHandle<HWND>(list);
+        return numberResult.Give(HostLists::SetHasHeader(argument0, has_header));
+    });
+}
+
+vyr_status vyr_host_registry_show_wine_prefix(const uint16_t* folder, ptrdiff_t folder_length, vyr_list* result)
+{
+    return Guard([&] {
+        const ListResult listResult(result);
+        auto argument0 = ToText(folder, folder_length, "folder");
+        return listResult.Give(std::vector{HostRegistry::ShowWinePrefix(std::move(argument0))});
+    });
+}
+
+vyr_status vyr_host_registry_show_hives(const vyr_host_registry_hive_files* files, vyr_list* result)
+{
+    return Guard([&] {
+        const ListResult listResult(result);
+        const auto& argument0 = ToCpp(files, "files");
+        return listResult.Give(std::vector{HostRegistry::ShowHives(argument0)});
+    });
+}
+
+vyr_status vyr_host_registry_show_user_hives(
+    const uint16_t* user,
+    ptrdiff_t user_length,
+    const uint16_t* user_classes,
+    ptrdiff_t user_classes_length,
+    vyr_list* result)
+{
+    return Guard([&] {
+        const ListResult listResult(result);
+        auto argument0 = ToText(user, user_length, "user");
+        auto argument1 = ToText(user_classes, user_classes_length, "user_classes");
+        return listResult.Give(std::vector{HostRegistry::ShowUserHives(std::move(argument0), std::move(argument1))});
+    });
+}
+
+vyr_status vyr_host_registry_close()
+{
+    return Guard([&] {
+        HostRegistry::Close();
+        return VYR_OK;
+    });
+}
+
+vyr_status vyr_host_queue_set_drain(vyr_drain drain, void* context)
+{
+    return Guard([&] {
+        auto argument0 = ToDrain(drain, context);
+        HostQueue::SetDrain(std::move(argument0));
+        return VYR_OK;
     });
 }

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <climits>
 #include <cmath>
+#include <cstring>
 #include <exception>
 #include <map>
 #include <mutex>
@@ -78,7 +79,7 @@ vyr_status DescribeException()
 
 } // namespace
 
-void Refuse(const std::string& argument)
+void Refuse(const char* argument)
 {
     throw WrongArgument{argument};
 }
@@ -115,6 +116,28 @@ COleDateTime ToDateTime(double days, std::int32_t status, const char* argument)
     return moment;
 }
 
+GUID ToGuid(const vyr_guid& id)
+{
+    GUID made{id.data1, id.data2, id.data3, {}};
+    std::ranges::copy(id.data4, made.Data4);
+    return made;
+}
+
+GUID ToGuid(const vyr_guid* id, const char* argument)
+{
+    RequireAddress(id, argument);
+    return ToGuid(*id);
+}
+
+VyrPlatform::MessageQueue::MainLoopPass ToDrain(vyr_drain drain, void* context)
+{
+    if (!drain)
+        return {};
+    return [drain, context] {
+        return drain(context) != 0;
+    };
+}
+
 FILETIME ToFileTime(std::uint64_t ticks)
 {
     return {static_cast<DWORD>(ticks & 0xFFFFFFFF), static_cast<DWORD>(ticks >> 32)};
@@ -139,21 +162,13 @@ CListCtrl ToListControl(std::intptr_t window)
     return list;
 }
 
-TextResult::TextResult(std::uint16_t* buffer, std::size_t capacity, std::size_t* length)
-    : m_buffer(buffer), m_capacity(capacity), m_length(length)
-{
-    if (capacity > 0)
-        RequireAddress(buffer, "buffer");
-    RequireAddress(length, "length");
-}
-
 vyr_status TextResult::Give(const CString& text) const
 {
     const std::u16string_view view = text;
     *m_length = view.size();
     if (view.size() >= m_capacity)
         return Fail(VYR_BUFFER_TOO_SMALL, u"the buffer is too small");
-    std::ranges::copy(view, m_buffer);
+    std::memcpy(m_buffer, view.data(), view.size() * sizeof *m_buffer);
     m_buffer[view.size()] = 0;
     return VYR_OK;
 }
@@ -166,6 +181,25 @@ std::uint64_t ToTicks(const FILETIME& moment)
 vyr_date_time ToC(const COleDateTime& moment)
 {
     return {moment, moment.GetStatus()};
+}
+
+vyr_guid ToC(const GUID& id)
+{
+    vyr_guid made{static_cast<std::uint32_t>(id.Data1), id.Data2, id.Data3, {}};
+    std::ranges::copy(id.Data4, made.data4);
+    return made;
+}
+
+void* ToC(IDispatch* object)
+{
+    return object;
+}
+
+void* ToC(const MSXML2::IXMLDOMDocumentPtr& document)
+{
+    if (document)
+        document->AddRef();
+    return static_cast<IDispatch*>(document.GetInterfacePtr());
 }
 
 vyr_text ToC(const CString& text)
@@ -216,6 +250,15 @@ vyr_status vyr_list_get_count(vyr_list list, std::size_t* count)
     return Guard([&] {
         const NumberResult result(count);
         return result.Give(Held(list)->Count());
+    });
+}
+
+vyr_status vyr_text_get(vyr_list list, std::size_t index, vyr_text* text)
+{
+    return Guard([&] {
+        RequireAddress(text, "text");
+        *text = ToC(RecordAt<CString>(Held(list), index));
+        return VYR_OK;
     });
 }
 

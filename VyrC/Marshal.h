@@ -5,21 +5,25 @@
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/controls/CListCtrl.h>
 #include <VyrPlatform/controls/CRect.h>
+#include <VyrPlatform/documents/XmlTypes.h>
+#include <VyrPlatform/process/MainLoop.h>
 #include <VyrPlatform/text/CString.h>
 #include <VyrPlatform/time/COleDateTime.h>
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <optional>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
 namespace VyrC {
 
 /// Ends the call with VYR_WRONG_ARGUMENT; `argument` names the wrong argument.
-[[noreturn]] void Refuse(const std::string& argument);
+[[noreturn, gnu::cold]] void Refuse(const char* argument);
 /// The status for the current exception.
 [[nodiscard]] vyr_status StatusOfException() noexcept;
 /// Calls `work` and returns its status. No exception leaves it.
@@ -55,13 +59,21 @@ inline void RequireObject(const void* object, const char* argument)
     RequireAligned(static_cast<void* const*>(object), argument);
 }
 
-/// Refuses a null record, and one whose size is not that of its structure.
+/// Refuses a null record, and one whose size no version of its structure has had. `first` is the size of the earliest.
 template <class Record>
-void RequireRecord(const Record* record, const char* argument)
+void RequireRecord(const Record* record, const char* argument, std::size_t first = sizeof(Record))
 {
     RequireAddress(record, argument);
-    if (record->struct_size != sizeof(Record))
+    const std::size_t size = record->struct_size;
+    if (size < first || size > sizeof(Record) || size % alignof(Record) != 0)
         Refuse(argument);
+}
+
+/// Whether the host's version of `record` has the field at `offset`.
+template <class Record>
+[[nodiscard]] bool HasField(const Record& record, std::size_t offset)
+{
+    return offset < record.struct_size;
 }
 
 // From the host to the library.
@@ -71,11 +83,33 @@ void RequireRecord(const Record* record, const char* argument)
 {
     return ToText(text.units, text.length, argument);
 }
+/// The last `Record` that this thread was given. A function of its own, since the address of what belongs to a thread
+/// is not found for nothing.
+template <class Record>
+[[gnu::noinline]] Record& LastOf()
+{
+    thread_local Record last;
+    return last;
+}
+
+/// Makes `kept` the text. Texts mostly come again with the next record, and are then not copied.
+[[gnu::always_inline]] inline void Keep(CString& kept, const vyr_text& text, const char* argument)
+{
+    RequireAligned(text.units, argument);
+    const std::u16string_view last = kept.View();
+    if (text.length != static_cast<std::ptrdiff_t>(last.size()) ||
+        (!last.empty() && (!text.units || std::memcmp(text.units, last.data(), last.size() * sizeof *text.units) != 0)))
+        [[unlikely]]
+        kept = ToText(text, argument);
+}
 [[nodiscard]] COleDateTime ToDateTime(double days, std::int32_t status, const char* argument);
 [[nodiscard]] inline COleDateTime ToDateTime(const vyr_date_time& moment, const char* argument)
 {
     return ToDateTime(moment.days, moment.status, argument);
 }
+[[nodiscard]] GUID ToGuid(const vyr_guid& id);
+[[nodiscard]] GUID ToGuid(const vyr_guid* id, const char* argument);
+[[nodiscard]] VyrPlatform::MessageQueue::MainLoopPass ToDrain(vyr_drain drain, void* context);
 [[nodiscard]] FILETIME ToFileTime(std::uint64_t ticks);
 /// Nothing for a null pointer.
 [[nodiscard]] std::optional<FILETIME> ToOptionalFileTime(const std::uint64_t* ticks, const char* argument);
@@ -103,12 +137,40 @@ template <class Element, class Convert>
     return values;
 }
 
+/// `count` records, each converted by `convert`. All have the size of the first: that of the host's version.
+template <class Record, class Convert>
+[[nodiscard]] auto ToRecords(const Record* first, std::size_t count, const char* argument, Convert convert)
+{
+    std::vector<std::decay_t<decltype(convert(*first, argument))>> values;
+    if (count == 0)
+        return values;
+    RequireAddress(first, argument);
+    const std::size_t size = first->struct_size;
+    if (size < sizeof first->struct_size || size > sizeof(Record) || size % alignof(Record) != 0 ||
+        count > PTRDIFF_MAX / size)
+        Refuse(argument);
+    const auto* const bytes = reinterpret_cast<const std::byte*>(first);
+    for (std::size_t index = 0; index < count; ++index) {
+        const auto& record = *reinterpret_cast<const Record*>(bytes + index * size);
+        if (record.struct_size != size)
+            Refuse(argument);
+        values.push_back(convert(record, argument));
+    }
+    return values;
+}
+
 // From the library to the host. Each refuses a wrong pointer for the result.
 
 class TextResult
 {
 public:
-    TextResult(std::uint16_t* buffer, std::size_t capacity, std::size_t* length);
+    TextResult(std::uint16_t* buffer, std::size_t capacity, std::size_t* length)
+        : m_buffer(buffer), m_capacity(capacity), m_length(length)
+    {
+        if (capacity > 0)
+            RequireAddress(buffer, "buffer");
+        RequireAddress(length, "length");
+    }
     [[nodiscard]] vyr_status Give(const CString& text) const;
 
 private:
@@ -134,6 +196,14 @@ private:
 
 [[nodiscard]] std::uint64_t ToTicks(const FILETIME& moment);
 [[nodiscard]] vyr_date_time ToC(const COleDateTime& moment);
+[[nodiscard]] vyr_guid ToC(const GUID& id);
+[[nodiscard]] inline std::intptr_t ToC(HWND window)
+{
+    return reinterpret_cast<std::intptr_t>(window);
+}
+/// The host gets the reference.
+[[nodiscard]] void* ToC(IDispatch* object);
+[[nodiscard]] void* ToC(const MSXML2::IXMLDOMDocumentPtr& document);
 /// Valid as long as `text` lives.
 [[nodiscard]] vyr_text ToC(const CString& text);
 

@@ -10,12 +10,18 @@
  *            null pointer with the length 0 is the empty text. A result is written with a terminating zero into a buffer
  *            of `capacity` code units; `length` gets its length without that zero, also when the buffer is too small.
  *            Such a call can be repeated with a larger buffer.
- * Record     A structure whose first field, `struct_size`, is sizeof of the structure.
+ * Record     A structure whose first field, `struct_size`, is sizeof of the structure. Later versions add fields at the
+ *            end; a library accepts the sizes of earlier versions, and refuses those of later ones.
  * List       An argument is a pointer to the first element, and the number of elements. A result is a handle; the
  *            record's own function reads one record at a time, and vyr_list_release frees the list. The texts of such a
  *            record live as long as the list.
  * Date-time  Days since 30 December 1899, local time, and a status: 0 valid, 1 invalid, 2 null.
  * File time  Intervals of 100 nanoseconds since 1 January 1601 UTC; 0 is none.
+ * Object     On Windows a pointer to an interface of COM. On Linux a pointer that the library gave out, or one to an
+ *            object of the host whose first word is the address of a table of functions, in the order of COM's interface.
+ *            It is trusted. The host releases what it was given, with vyr_xml_release.
+ * Version    A function that came after the first version says so in its name in the library, as
+ *            vyr_name_of_operation_since_0_2: a host that needs it does not link with an older library.
  * Yes, no    1 and 0, as an int32_t.
  *
  * A null or misaligned pointer, a wrong size of a structure and an unknown handle give VYR_WRONG_ARGUMENT, before
@@ -65,6 +71,40 @@ typedef struct vyr_rect
     int32_t bottom;
 } vyr_rect;
 
+/* A class id, as on Windows. */
+typedef struct vyr_guid
+{
+    uint32_t data1;
+    uint16_t data2;
+    uint16_t data3;
+    uint8_t data4[8];
+} vyr_guid;
+
+typedef struct vyr_text_and_number
+{
+    vyr_text text;
+    int32_t number;
+} vyr_text_and_number;
+
+/* A value with its type, by Windows' numbers for the types of property values. */
+typedef struct vyr_value
+{
+    size_t struct_size;
+    /* 0 empty, 1 null; 8 and 31 text; 30 a byte text, 65 bytes; 4, 5 and 7 (date) real; 72 guid; 2, 3, 6 (10,000 times
+       an amount), 10, 11 (yes or no), 16 to 23 and 64 (file time) number. */
+    int32_t type;
+    int64_t number;
+    double real;
+    vyr_text text;
+    const uint8_t* bytes;
+    size_t bytes_count;
+    vyr_guid guid;
+} vyr_value;
+
+/* Handles at most one pending event of the host without waiting, and returns whether that event asks for a stop. It is
+   called on the thread that set it. */
+typedef int32_t (*vyr_drain)(void* context);
+
 /* The handle of a list that is a result; 0 is none. */
 typedef uint64_t vyr_list;
 
@@ -73,6 +113,8 @@ uint32_t vyr_version(void);
 /* The text of the last error on this thread. */
 vyr_status vyr_get_last_error(uint16_t* buffer, size_t capacity, size_t* length);
 vyr_status vyr_list_get_count(vyr_list list, size_t* count);
+/* The text at `index`, from 0, of a list of texts. It lives as long as the list. */
+vyr_status vyr_text_get(vyr_list list, size_t index, vyr_text* text);
 vyr_status vyr_list_release(vyr_list list);
 
 /* HtmlFuncs: VyrLibraryFuncs/html/HtmlFuncs.h */
@@ -825,6 +867,47 @@ vyr_status vyr_date_time_is_match_date(
     int32_t right_status,
     int32_t* result);
 
+/* OfficePropertyFuncs: VyrLibraryFuncs/metadata/OfficePropertyFuncs.h */
+
+/* OfficePropertyFuncs::CLSID_ITEM */
+typedef struct vyr_office_property_handler
+{
+    size_t struct_size;
+    vyr_text extension;
+    vyr_guid clsid;
+    int32_t flag;
+} vyr_office_property_handler;
+
+/* Writes the record at `index`, from 0, of such a list. */
+vyr_status vyr_office_property_handler_get(vyr_list list, size_t index, vyr_office_property_handler* record);
+/* GetClassIdItemList */
+vyr_status vyr_office_property_get_class_id_item_list(
+    const vyr_text_and_number* extensions,
+    size_t extensions_count,
+    vyr_list* result);
+/* GetClassId */
+vyr_status vyr_office_property_get_class_id(
+    const uint16_t* extension,
+    ptrdiff_t extension_length,
+    const vyr_office_property_handler* items,
+    size_t items_count,
+    vyr_guid* result);
+/* GetPropertyHandlerRegKey */
+vyr_status vyr_office_property_get_property_handler_reg_key(
+    const uint16_t* extension,
+    ptrdiff_t extension_length,
+    uint16_t* buffer,
+    size_t capacity,
+    size_t* length);
+/* SetDumpProps */
+vyr_status vyr_office_property_set_dump_props(
+    const uint16_t* path,
+    ptrdiff_t path_length,
+    uint32_t property_id,
+    const vyr_value* value,
+    const vyr_guid* clsid,
+    int32_t* result);
+
 /* UnblockFuncs: VyrLibraryFuncs/metadata/UnblockFuncs.h */
 /* DeleteZoneId */
 vyr_status vyr_unblock_delete_zone_id(const uint16_t* path, ptrdiff_t path_length, int32_t* result);
@@ -891,6 +974,8 @@ typedef struct vyr_name_rename_item
 vyr_status vyr_name_rename_item_get(vyr_list list, size_t index, vyr_name_rename_item* record);
 /* GetRenameFilePath */
 vyr_status vyr_name_get_rename_file_path(const vyr_name_item* item, uint16_t* buffer, size_t capacity, size_t* length);
+/* GetRenameFilePaths */
+vyr_status vyr_name_get_rename_file_paths(const vyr_name_item* items, size_t items_count, vyr_list* result);
 /* GetFName */
 vyr_status vyr_name_get_f_name(
     const uint16_t* path,
@@ -1457,6 +1542,12 @@ vyr_status vyr_updates_save_check_for_updates_date(void);
 /* IsDateIntervalCheckForUpdates */
 vyr_status vyr_updates_is_date_interval_check_for_updates(int32_t days, int32_t* result);
 
+/* MSXMLFuncs: VyrLibraryFuncs/xmlinfo/MSXMLFuncs.h */
+/* LoadXmlFile */
+vyr_status vyr_msxml_load_xml_file(const uint16_t* path, ptrdiff_t path_length, void** result);
+/* LoadXsltFile */
+vyr_status vyr_msxml_load_xslt_file(const uint16_t* path, ptrdiff_t path_length, void** result);
+
 /* StyleFuncs: VyrLibraryFuncs/xmlinfo/StyleFuncs.h */
 
 /* StyleFuncs::DESIGNITEM */
@@ -1478,6 +1569,93 @@ vyr_status vyr_style_get_styles_information(const uint16_t* path, ptrdiff_t path
 vyr_status vyr_style_set_design_items_list(const vyr_style_item* items, size_t items_count);
 /* GetDesignItemsList */
 vyr_status vyr_style_get_design_items_list(vyr_list* result);
+
+/* XmlNodes: VyrC/XmlNodes.h */
+/* GetRoot */
+vyr_status vyr_xml_get_root(void* document, void** result);
+/* GetText */
+vyr_status vyr_xml_get_text(void* element, uint16_t* buffer, size_t capacity, size_t* length);
+/* GetAttribute */
+vyr_status vyr_xml_get_attribute(
+    void* element,
+    const uint16_t* name,
+    ptrdiff_t name_length,
+    uint16_t* buffer,
+    size_t capacity,
+    size_t* length);
+/* CountElements */
+vyr_status vyr_xml_count_elements(void* element, const uint16_t* name, ptrdiff_t name_length, int32_t* result);
+/* GetElement */
+vyr_status vyr_xml_get_element(
+    void* element,
+    const uint16_t* name,
+    ptrdiff_t name_length,
+    int32_t index,
+    void** result);
+/* Release */
+vyr_status vyr_xml_release(void* object);
+
+/* HostLists: VyrC/HostLists.h */
+/* Create */
+vyr_status vyr_host_list_create(intptr_t* result);
+/* Destroy */
+vyr_status vyr_host_list_destroy(intptr_t list, int32_t* result);
+/* InsertColumn */
+vyr_status vyr_host_list_insert_column(
+    intptr_t list,
+    int32_t index,
+    const uint16_t* heading,
+    ptrdiff_t heading_length,
+    int32_t* result);
+/* DeleteColumn */
+vyr_status vyr_host_list_delete_column(intptr_t list, int32_t index, int32_t* result);
+/* MoveColumn */
+vyr_status vyr_host_list_move_column(intptr_t list, int32_t index, int32_t position, int32_t* result);
+/* SetHasHeader */
+vyr_status vyr_host_list_set_has_header(intptr_t list, int32_t has_header, int32_t* result);
+
+/* HostRegistry: VyrC/HostRegistry.h */
+
+/* HostRegistry::HIVEFILES */
+typedef struct vyr_host_registry_hive_files
+{
+    size_t struct_size;
+    vyr_text software;
+    vyr_text system;
+    vyr_text user;
+    vyr_text user_classes;
+} vyr_host_registry_hive_files;
+
+
+/* HostRegistry::OPENRESULT */
+typedef struct vyr_host_registry_open_result
+{
+    size_t struct_size;
+    int32_t outcome;
+    uint32_t error;
+    vyr_text file;
+    vyr_text unclosed_files;
+} vyr_host_registry_open_result;
+
+/* Writes the record at `index`, from 0, of such a list. */
+vyr_status vyr_host_registry_open_result_get(vyr_list list, size_t index, vyr_host_registry_open_result* record);
+/* ShowWinePrefix */
+vyr_status vyr_host_registry_show_wine_prefix(const uint16_t* folder, ptrdiff_t folder_length, vyr_list* result);
+/* ShowHives */
+vyr_status vyr_host_registry_show_hives(const vyr_host_registry_hive_files* files, vyr_list* result);
+/* ShowUserHives */
+vyr_status vyr_host_registry_show_user_hives(
+    const uint16_t* user,
+    ptrdiff_t user_length,
+    const uint16_t* user_classes,
+    ptrdiff_t user_classes_length,
+    vyr_list* result);
+/* Close */
+vyr_status vyr_host_registry_close(void);
+
+/* HostQueue: VyrC/HostQueue.h */
+/* SetDrain */
+vyr_status vyr_host_queue_set_drain(vyr_drain drain, void* context);
 #ifdef __cplusplus
 }
 #endif

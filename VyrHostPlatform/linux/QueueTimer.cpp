@@ -1,7 +1,7 @@
 // A main loop whose only event is the timer.
 #include <VyrHostPlatform/QueueTimer.h>
 
-#include <VyrPlatform/process/LinuxMessageQueue.h>
+#include <VyrPlatform/process/MainLoop.h>
 
 #include <utility>
 

@@ -33,11 +33,4 @@ private:
     std::shared_ptr<Queue> m_queue;
 };
 
-/// One pass of a host's own main loop that does not wait: handles at most one pending event, and returns true when that
-/// event requests a stop. The work of its events may drain, the pass itself may not.
-using MainLoopPass = std::function<bool()>;
-
-/// Makes the drains of the calling thread run `pass` whenever no posted work is waiting; an empty function ends that.
-VYR_PLATFORM_API void PlugMainLoop(MainLoopPass pass);
-
 } // namespace VyrPlatform::MessageQueue

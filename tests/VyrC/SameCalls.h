@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <gtest/gtest.h>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace VyrCTests {
@@ -67,7 +68,8 @@ std::string ShowList(const Call& call, const Get& get)
     EXPECT_EQ(vyr_list_get_count(list, &count), VYR_OK);
     for (std::size_t index = 0; index < count; ++index) {
         Record record{};
-        record.struct_size = sizeof record;
+        if constexpr (!std::is_same_v<Record, vyr_text>)
+            record.struct_size = sizeof record;
         EXPECT_EQ(get(list, index, &record), VYR_OK);
         shown += Show(record) + '\n';
     }
@@ -82,6 +84,16 @@ std::string Show(const std::vector<Record>& records)
     for (const Record& record : records)
         shown += Show(record) + '\n';
     return shown;
+}
+
+/// What `operation` gives for each of `items`.
+template <class Item>
+std::vector<CString> Each(const std::vector<Item>& items, CString (*operation)(Item))
+{
+    std::vector<CString> given;
+    for (const Item& item : items)
+        given.push_back(operation(item));
+    return given;
 }
 
 template <class Call>

@@ -7,6 +7,7 @@
 #include <VyrLibraryFuncs/html/OutputFuncs.h>
 #include <VyrLibraryFuncs/metadata/AttributesFuncs.h>
 #include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
+#include <VyrLibraryFuncs/metadata/OfficePropertyFuncs.h>
 #include <VyrLibraryFuncs/metadata/UnblockFuncs.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h>
@@ -20,6 +21,7 @@
 #include <VyrLibraryFuncs/textfile/LogFuncs.h>
 #include <VyrLibraryFuncs/xmlinfo/ApplicationFuncs.h>
 #include <VyrLibraryFuncs/xmlinfo/UpdatesFuncs.h>
+#include <VyrLibraryFuncs/xmlinfo/MSXMLFuncs.h>
 #include <VyrLibraryFuncs/xmlinfo/StyleFuncs.h>
 
 using namespace VyrLibraryFuncs;
@@ -82,6 +84,23 @@ inline vyr_date_time_stagger_item InC(const DateTimeFuncs::STAGGERITEM& record)
     made.hours = record.hours;
     made.minutes = record.minutes;
     made.seconds = record.seconds;
+    return made;
+}
+inline OfficePropertyFuncs::CLSID_ITEM Make(Values& values, const OfficePropertyFuncs::CLSID_ITEM*)
+{
+    OfficePropertyFuncs::CLSID_ITEM record;
+    record.extension = values.Next<CString>();
+    record.clsid = values.Next<GUID>();
+    record.flag = values.Next<int>();
+    return record;
+}
+inline vyr_office_property_handler InC(const OfficePropertyFuncs::CLSID_ITEM& record)
+{
+    vyr_office_property_handler made{};
+    made.struct_size = sizeof made;
+    made.extension = InC(record.extension);
+    made.clsid = InC(record.clsid);
+    made.flag = record.flag;
     return made;
 }
 inline NameFuncs::ITEM Make(Values& values, const NameFuncs::ITEM*)
@@ -359,6 +378,14 @@ inline vyr_style_item InC(const StyleFuncs::DESIGNITEM& record)
     made.value = InC(record.value);
     made.name = InC(record.name);
     return made;
+}
+inline std::string Show(const OfficePropertyFuncs::CLSID_ITEM& record)
+{
+    return Show(record.extension) + "|" + Show(record.clsid) + "|" + Show(record.flag);
+}
+inline std::string Show(const vyr_office_property_handler& record)
+{
+    return Show(record.extension) + "|" + Show(record.clsid) + "|" + Show(record.flag);
 }
 inline std::string Show(const NameFuncs::RENAMEITEM& record)
 {
@@ -2039,6 +2066,43 @@ TEST(SameInCAndCpp, date_time_is_match_date)
     }
 }
 
+TEST(SameInCAndCpp, office_property_get_class_id_item_list)
+{
+    for (int round = 0; round < rounds; ++round) {
+        ExpectSame([&] {
+            Values values(round);
+            const std::vector<std::pair<CString, int>> a0{values.Next<std::pair<CString, int>>(), values.Next<std::pair<CString, int>>()};
+            const vyr_text_and_number c0[] = {InC(a0[0]), InC(a0[1])};
+            return Pair{ShowList<vyr_office_property_handler>([&](vyr_list* list) { return vyr_office_property_get_class_id_item_list(c0, 2, list); }, &vyr_office_property_handler_get), ShowCpp([&] { return OfficePropertyFuncs::GetClassIdItemList(a0); })};
+        });
+    }
+}
+
+TEST(SameInCAndCpp, office_property_get_class_id)
+{
+    for (int round = 0; round < rounds; ++round) {
+        ExpectSame([&] {
+            Values values(round);
+            const auto a0 = values.Next<CString>();
+            const std::vector<OfficePropertyFuncs::CLSID_ITEM> a1{values.Next<OfficePropertyFuncs::CLSID_ITEM>(), values.Next<OfficePropertyFuncs::CLSID_ITEM>()};
+            const vyr_office_property_handler c1[] = {InC(a1[0]), InC(a1[1])};
+            return Pair{ShowNumber<vyr_guid>([&](vyr_guid* place) { return vyr_office_property_get_class_id(InC(a0).units, InC(a0).length, c1, 2, place); }), ShowCpp([&] { return OfficePropertyFuncs::GetClassId(a0, a1); })};
+        });
+    }
+}
+
+TEST(SameInCAndCpp, office_property_get_property_handler_reg_key)
+{
+    for (int round = 0; round < rounds; ++round) {
+        ExpectSame([&] {
+            Values values(round);
+            const auto a0 = values.Next<CString>();
+
+            return Pair{ShowText([&](std::uint16_t* buffer, std::size_t capacity, std::size_t* length) { return vyr_office_property_get_property_handler_reg_key(InC(a0).units, InC(a0).length, buffer, capacity, length); }), ShowCpp([&] { return OfficePropertyFuncs::GetPropertyHandlerRegKey(a0); })};
+        });
+    }
+}
+
 TEST(SameInCAndCpp, name_get_rename_file_path)
 {
     for (int round = 0; round < rounds; ++round) {
@@ -2048,6 +2112,18 @@ TEST(SameInCAndCpp, name_get_rename_file_path)
             const vyr_name_item c0 = InC(a0);
 
             return Pair{ShowText([&](std::uint16_t* buffer, std::size_t capacity, std::size_t* length) { return vyr_name_get_rename_file_path(&c0, buffer, capacity, length); }), ShowCpp([&] { return NameFuncs::GetRenameFilePath(a0); })};
+        });
+    }
+}
+
+TEST(SameInCAndCpp, name_get_rename_file_paths)
+{
+    for (int round = 0; round < rounds; ++round) {
+        ExpectSame([&] {
+            Values values(round);
+            const std::vector<NameFuncs::ITEM> a0{values.Next<NameFuncs::ITEM>(), values.Next<NameFuncs::ITEM>()};
+            const vyr_name_item c0[] = {InC(a0[0]), InC(a0[1])};
+            return Pair{ShowList<vyr_text>([&](vyr_list* list) { return vyr_name_get_rename_file_paths(c0, 2, list); }, &vyr_text_get), ShowCpp([&] { return Each(a0, &NameFuncs::GetRenameFilePath); })};
         });
     }
 }
@@ -3013,6 +3089,28 @@ TEST(SameInCAndCpp, updates_is_date_interval_check_for_updates)
             Values values(round);
             const auto a0 = values.Next<int>();
             return Pair{ShowNumber<int32_t>([&](int32_t* place) { return vyr_updates_is_date_interval_check_for_updates(a0, place); }), ShowCpp([&] { return UpdatesFuncs::IsDateIntervalCheckForUpdates(a0); })};
+        });
+    }
+}
+
+TEST(SameInCAndCpp, msxml_load_xml_file)
+{
+    for (int round = 0; round < rounds; ++round) {
+        ExpectSame([&] {
+            Values values(round);
+            const auto a0 = values.Next<CString>();
+            return Pair{ShowNumber<void*>([&](void** place) { return vyr_msxml_load_xml_file(InC(a0).units, InC(a0).length, place); }), ShowCpp([&] { return MSXMLFuncs::LoadXmlFile(a0); })};
+        });
+    }
+}
+
+TEST(SameInCAndCpp, msxml_load_xslt_file)
+{
+    for (int round = 0; round < rounds; ++round) {
+        ExpectSame([&] {
+            Values values(round);
+            const auto a0 = values.Next<CString>();
+            return Pair{ShowNumber<void*>([&](void** place) { return vyr_msxml_load_xslt_file(InC(a0).units, InC(a0).length, place); }), ShowCpp([&] { return MSXMLFuncs::LoadXsltFile(a0); })};
         });
     }
 }

@@ -4,13 +4,16 @@
 #include <VyrC/vyr.h>
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/controls/CListCtrl.h>
+#include <VyrPlatform/documents/XmlTypes.h>
 #include <VyrPlatform/text/CString.h>
 #include <VyrPlatform/text/Encoding.h>
 #include <VyrPlatform/time/COleDateTime.h>
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -39,6 +42,10 @@ public:
             if (number % 7 == 6)
                 moment.SetStatus(COleDateTime::null);
             return moment;
+        } else if constexpr (std::is_same_v<Type, GUID>) {
+            return {static_cast<std::uint32_t>(number), 2, 3, {4, 5, 6, 7, 8, 9, 10, 11}};
+        } else if constexpr (std::is_same_v<Type, std::pair<CString, int>>) {
+            return {Next<CString>(), Next<int>()};
         } else if constexpr (std::is_pointer_v<Type>) {
             return reinterpret_cast<Type>(static_cast<std::intptr_t>(number % 3));
         } else if constexpr (std::is_integral_v<Type>) {
@@ -61,6 +68,19 @@ inline vyr_text InC(const CString& text)
 inline vyr_date_time InC(const COleDateTime& moment)
 {
     return {moment, moment.GetStatus()};
+}
+
+inline vyr_guid InC(const GUID& id)
+{
+    vyr_guid made{};
+    static_assert(sizeof made == sizeof id);
+    std::memcpy(&made, &id, sizeof made);
+    return made;
+}
+
+inline vyr_text_and_number InC(const std::pair<CString, int>& both)
+{
+    return {InC(both.first), both.second};
 }
 
 inline std::string Show(const CString& text)
@@ -89,10 +109,33 @@ inline std::string Show(const FILETIME& moment)
     return std::to_string(std::uint64_t{moment.dwHighDateTime} << 32 | moment.dwLowDateTime);
 }
 
+inline std::string Show(const vyr_guid& id)
+{
+    std::string shown;
+    for (const unsigned char byte : std::bit_cast<std::array<unsigned char, sizeof id>>(id))
+        shown += std::to_string(byte) + ' ';
+    return shown;
+}
+
+inline std::string Show(const GUID& id)
+{
+    return Show(InC(id));
+}
+
 template <class Number>
 requires std::is_arithmetic_v<Number> std::string Show(Number number)
 {
     return std::to_string(number);
+}
+
+inline std::string Show(const void* object)
+{
+    return object ? "object" : "none";
+}
+
+inline std::string Show(const MSXML2::IXMLDOMDocumentPtr& document)
+{
+    return Show(static_cast<const void*>(document.GetInterfacePtr()));
 }
 
 inline std::string Show(const std::pair<CString, int>& both)

@@ -4,6 +4,9 @@
 #include <VyrC/vyr.h>
 #include <VyrPlatform/text/CString.h>
 
+#include <tests/support/ComThread.h>
+#include <tests/support/CompoundDocument.h>
+#include <tests/support/HtmlPage.h>
 #include <tests/support/ListWindow.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
@@ -11,7 +14,9 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <string>
+#include <vector>
 
 using VyrTests::ListWindow;
 using VyrTests::ScratchFolder;
@@ -91,6 +96,162 @@ TEST(VyrCTest, TimesAreWrittenToAFile)
     std::uint64_t written = 0;
     ASSERT_EQ(vyr_date_time_get_selected_file_date_time(Units(path), -1, 0, 1, &written), VYR_OK);
     EXPECT_EQ(written, moment);
+}
+
+TEST(VyrCTest, ManyPathsArePreviewedByOneCall)
+{
+    const CString folder = u"/d/";
+    const CString endings[] = {u".jpg", u"", u".\u00E4"};
+    std::vector<vyr_name_item> items(3);
+    for (std::size_t index = 0; index < items.size(); ++index) {
+        items[index].struct_size = sizeof(vyr_name_item);
+        items[index].dir_path = {Units(folder), folder.GetLength()};
+        items[index].extension = {Units(endings[index]), -1};
+        items[index].index = static_cast<std::int32_t>(index);
+        items[index].step = 1;
+    }
+    vyr_list list = 0;
+    ASSERT_EQ(vyr_name_get_rename_file_paths(items.data(), items.size(), &list), VYR_OK);
+    std::size_t count = 0;
+    ASSERT_EQ(vyr_list_get_count(list, &count), VYR_OK);
+    ASSERT_EQ(count, 3U);
+    const CString expected[] = {u"/d/0.jpg", u"/d/1", u"/d/2.\u00E4"};
+    vyr_text path{};
+    for (std::size_t index = 0; index < count; ++index) {
+        ASSERT_EQ(vyr_text_get(list, index, &path), VYR_OK);
+        EXPECT_EQ(Text(path), expected[index]);
+    }
+    EXPECT_EQ(vyr_text_get(list, count, &path), VYR_WRONG_ARGUMENT);
+    EXPECT_EQ(vyr_list_release(list), VYR_OK);
+
+    items[1].struct_size = 8;
+    EXPECT_EQ(vyr_name_get_rename_file_paths(items.data(), items.size(), &list), VYR_WRONG_ARGUMENT);
+    EXPECT_EQ(vyr_name_get_rename_file_paths(nullptr, 0, &list), VYR_OK);
+    EXPECT_EQ(vyr_list_get_count(list, &count), VYR_OK);
+    EXPECT_EQ(count, 0U);
+    EXPECT_EQ(vyr_list_release(list), VYR_OK);
+}
+
+TEST(VyrCTest, DocumentIsReadByItsElements)
+{
+    const VyrTests::ComThread com;
+    const ScratchFolder scratch;
+    const CString path =
+        scratch.WriteFile(u"a.xml", R"(<updates product="V"><item id="1">one</item><x><item>two</item></x></updates>)");
+    void* document = nullptr;
+    ASSERT_EQ(vyr_msxml_load_xml_file(Units(path), -1, &document), VYR_OK);
+    ASSERT_TRUE(document);
+    void* root = nullptr;
+    ASSERT_EQ(vyr_xml_get_root(document, &root), VYR_OK);
+    ASSERT_TRUE(root);
+    std::uint16_t text[64];
+    std::size_t length = 0;
+    const CString product = u"product";
+    EXPECT_EQ(vyr_xml_get_attribute(root, Units(product), -1, text, std::size(text), &length), VYR_OK);
+    EXPECT_EQ(Text({text, static_cast<std::ptrdiff_t>(length)}), u"V");
+    const CString name = u"item";
+    std::int32_t count = 0;
+    EXPECT_EQ(vyr_xml_count_elements(root, Units(name), -1, &count), VYR_OK);
+    EXPECT_EQ(count, 2);
+    void* element = nullptr;
+    ASSERT_EQ(vyr_xml_get_element(root, Units(name), -1, 1, &element), VYR_OK);
+    ASSERT_TRUE(element);
+    EXPECT_EQ(vyr_xml_get_text(element, text, std::size(text), &length), VYR_OK);
+    EXPECT_EQ(Text({text, static_cast<std::ptrdiff_t>(length)}), u"two");
+    void* missing = &count;
+    EXPECT_EQ(vyr_xml_get_element(root, Units(name), -1, 2, &missing), VYR_OK);
+    EXPECT_FALSE(missing);
+    EXPECT_EQ(vyr_xml_get_root(element, &missing), VYR_OK);
+    EXPECT_FALSE(missing) << "an element is no document";
+    for (void* const object : {element, root, document})
+        EXPECT_EQ(vyr_xml_release(object), VYR_OK);
+
+    const CString nothing = scratch.Path(u"missing.xml");
+    EXPECT_EQ(vyr_msxml_load_xslt_file(Units(nothing), -1, &document), VYR_OK);
+    EXPECT_FALSE(document);
+}
+
+TEST(VyrCTest, PicturesOfAPageGetAStyle)
+{
+    const VyrTests::ComThread com;
+    VyrTests::HtmlElement wide;
+    wide.address = u"a.jpg";
+    wide.width = 2000;
+    wide.height = 100;
+    VyrTests::HtmlPage page({wide});
+    const vyr_rect client{0, 0, 800, 600};
+    EXPECT_EQ(vyr_mshtml_img_set_resize_img_style(page.Document(), &client), VYR_OK);
+    EXPECT_EQ(page.Elements()[0].styleWidth, CString(u"100%"));
+}
+
+TEST(VyrCTest, PropertiesOfEveryTypeAreWrittenToADocument)
+{
+    using VyrTests::summaryName;
+    const VyrTests::ComThread com;
+    const ScratchFolder scratch;
+    VyrTests::CompoundDocument document;
+    document.streams[summaryName] = VyrTests::BuildSummary({{1, VyrTests::StoredCodePage(1252)},
+                                                            {2, VyrTests::StoredByteText("Old")},
+                                                            {4, VyrTests::StoredByteText("By")}});
+    const CString path = scratch.WriteFile(u"a.doc", document.Bytes());
+    const vyr_guid none{};
+    const auto write = [&](std::uint32_t id, vyr_value value) {
+        value.struct_size = sizeof value;
+        std::int32_t isWritten = 0;
+        EXPECT_EQ(vyr_office_property_set_dump_props(Units(path), -1, id, &value, &none, &isWritten), VYR_OK);
+        return isWritten;
+    };
+    const CString title = u"Title";
+    vyr_value text{};
+    text.type = 31;
+    text.text = {Units(title), 3};
+    EXPECT_EQ(write(2, text), 1);
+    vyr_value nothing{};
+    EXPECT_EQ(write(4, nothing), 1);
+    vyr_value number{};
+    number.type = 3;
+    number.number = -7;
+    EXPECT_EQ(write(14, number), 1);
+    vyr_value bytes{};
+    const std::uint8_t keywords[] = {'k', 'e', 'y'};
+    bytes.type = 30;
+    bytes.bytes = keywords;
+    bytes.bytes_count = sizeof keywords;
+    EXPECT_EQ(write(5, bytes), 1);
+    auto stored = VyrTests::ReadProperties(VyrTests::ReadStreams(scratch.ReadFile(u"a.doc"))[summaryName]);
+    EXPECT_EQ(stored[2], VyrTests::StoredWideText(u"Tit"));
+    // A system may keep a property without a value.
+    EXPECT_NE(stored[4], VyrTests::StoredByteText("By"));
+    EXPECT_EQ(stored[14], std::string("\3\0\0\0\xF9\xFF\xFF\xFF", 8));
+    EXPECT_EQ(stored[5], VyrTests::StoredByteText("key"));
+
+    std::int32_t isWritten = 1;
+    EXPECT_EQ(vyr_office_property_set_dump_props(Units(path), -1, 2, nullptr, &none, &isWritten), VYR_OK);
+    EXPECT_EQ(isWritten, 0) << "no value is refused";
+}
+
+TEST(VyrCTest, DrainOfTheHostIsCalledUntilItIsTakenAway)
+{
+    static int calls;
+    calls = 0;
+    const CString extension = u".doc";
+    const vyr_text_and_number extensions[] = {{{Units(extension), -1}, 0}, {{Units(extension), -1}, 0}};
+    const auto list = [&] {
+        vyr_list handlers = 0;
+        EXPECT_EQ(vyr_office_property_get_class_id_item_list(extensions, 2, &handlers), VYR_OK);
+        EXPECT_EQ(vyr_list_release(handlers), VYR_OK);
+    };
+    int steps = 5;
+    const vyr_drain drain = [](void* context) -> std::int32_t {
+        calls += *static_cast<int*>(context);
+        return 0;
+    };
+    ASSERT_EQ(vyr_host_queue_set_drain(drain, &steps), VYR_OK);
+    list();
+    EXPECT_EQ(calls, 10) << "one call for each entry";
+    ASSERT_EQ(vyr_host_queue_set_drain(nullptr, nullptr), VYR_OK);
+    list();
+    EXPECT_EQ(calls, 10);
 }
 
 TEST(VyrCTest, ColumnsOfAListAreFound)

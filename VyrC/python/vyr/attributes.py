@@ -1,14 +1,23 @@
-"""The operations of AttributesFuncs, which VyrLibraryFuncs/metadata/AttributesFuncs.h describes; written by VyrC/generate from VyrC/interface.txt."""
+r"""The operations of AttributesFuncs (VyrLibraryFuncs/metadata/AttributesFuncs.h); written by VyrC/generate from VyrC/interface.txt.
+
+Sets and clears six attributes: read-only (letter R), hidden (H), system (S), archive (A), temporary (T) and not
+content indexed (I).
+
+A choice is an int: 0 keeps the attribute, 1 sets it, any other value (2 by custom) clears it. All operations work
+on folders, too. VyrPlatform::FileAttributes describes how Linux stores attributes.
+"""
 import dataclasses
 import datetime
+import uuid
+from typing import Callable, Optional, Sequence, Tuple
 from typing import List as ListType
-from typing import Optional, Sequence, Tuple
 
 from ._library import *  # noqa: F403
 from ._library import call
 
 # 30 December 1899, the date-time with the number 0.
 ZERO = datetime.datetime(1899, 12, 30)
+NO_ID = uuid.UUID(int=0)
 
 
 @dataclasses.dataclass
@@ -27,70 +36,138 @@ Item.c_kinds = {"read_only": INT, "hidden": INT, "system": INT, "archive": INT, 
 
 
 def set_modified_file_attributes(path: str, item: Item) -> int:
-    """SetModifiedFileAttributes"""
+    r"""SetModifiedFileAttributes
+
+    Applies all six choices, in the order of the record; a failure does not stop the others.
+    Returns: 1 when all succeeded (keeping an attribute succeeds), else 0.
+    """
     return call("vyr_attributes_set_modified_file_attributes", INT, (TEXT, path), (Record(Item), item))
 
 
 def get_selected_read_only_attributes(text: str) -> int:
-    """GetSelectedReadOnlyAttributes"""
+    r"""GetSelectedReadOnlyAttributes
+
+    1 (set) when the upper-case "R" occurs in `text`, else 2 (clear). The next operations do the same for their
+    letters.
+    """
     return call("vyr_attributes_get_selected_read_only_attributes", INT, (TEXT, text))
 
 
 def get_selected_hidden_attributes(text: str) -> int:
-    """GetSelectedHiddenAttributes"""
+    r"""GetSelectedHiddenAttributes
+
+    1 (set) when the upper-case "R" occurs in `text`, else 2 (clear). The next operations do the same for their
+    letters.
+    """
     return call("vyr_attributes_get_selected_hidden_attributes", INT, (TEXT, text))
 
 
 def get_selected_system_attributes(text: str) -> int:
-    """GetSelectedSystemAttributes"""
+    r"""GetSelectedSystemAttributes
+
+    1 (set) when the upper-case "R" occurs in `text`, else 2 (clear). The next operations do the same for their
+    letters.
+    """
     return call("vyr_attributes_get_selected_system_attributes", INT, (TEXT, text))
 
 
 def get_selected_archive_attributes(text: str) -> int:
-    """GetSelectedArchiveAttributes"""
+    r"""GetSelectedArchiveAttributes
+
+    1 (set) when the upper-case "R" occurs in `text`, else 2 (clear). The next operations do the same for their
+    letters.
+    """
     return call("vyr_attributes_get_selected_archive_attributes", INT, (TEXT, text))
 
 
 def get_selected_temporary_attributes(text: str) -> int:
-    """GetSelectedTemporaryAttributes"""
+    r"""GetSelectedTemporaryAttributes
+
+    1 (set) when the upper-case "R" occurs in `text`, else 2 (clear). The next operations do the same for their
+    letters.
+    """
     return call("vyr_attributes_get_selected_temporary_attributes", INT, (TEXT, text))
 
 
 def get_selected_not_content_indexed_attributes(text: str) -> int:
-    """GetSelectedNotContentIndexedAttributes"""
+    r"""GetSelectedNotContentIndexedAttributes
+
+    1 (set) when the upper-case "R" occurs in `text`, else 2 (clear). The next operations do the same for their
+    letters.
+    """
     return call("vyr_attributes_get_selected_not_content_indexed_attributes", INT, (TEXT, text))
 
 
 def set_read_only_attributes(path: str, is_on: int) -> int:
-    """SetReadOnlyAttributes"""
+    r"""SetReadOnlyAttributes
+
+    Sets or clears the read-only attribute of the file at `path`. The next operations do the same for their
+    attributes.
+    is_on: nonzero sets it, 0 clears it.
+    Returns: nonzero on success, else 0 (no file, no permission, a file system that keeps no attributes).
+    """
     return call("vyr_attributes_set_read_only_attributes", INT, (TEXT, path), (INT, is_on))
 
 
 def set_hidden_attributes(path: str, is_on: int) -> int:
-    """SetHiddenAttributes"""
+    r"""SetHiddenAttributes
+
+    Sets or clears the read-only attribute of the file at `path`. The next operations do the same for their
+    attributes.
+    is_on: nonzero sets it, 0 clears it.
+    Returns: nonzero on success, else 0 (no file, no permission, a file system that keeps no attributes).
+    """
     return call("vyr_attributes_set_hidden_attributes", INT, (TEXT, path), (INT, is_on))
 
 
 def set_system_attributes(path: str, is_on: int) -> int:
-    """SetSystemAttributes"""
+    r"""SetSystemAttributes
+
+    Sets or clears the read-only attribute of the file at `path`. The next operations do the same for their
+    attributes.
+    is_on: nonzero sets it, 0 clears it.
+    Returns: nonzero on success, else 0 (no file, no permission, a file system that keeps no attributes).
+    """
     return call("vyr_attributes_set_system_attributes", INT, (TEXT, path), (INT, is_on))
 
 
 def set_archive_attributes(path: str, is_on: int) -> int:
-    """SetArchiveAttributes"""
+    r"""SetArchiveAttributes
+
+    Sets or clears the read-only attribute of the file at `path`. The next operations do the same for their
+    attributes.
+    is_on: nonzero sets it, 0 clears it.
+    Returns: nonzero on success, else 0 (no file, no permission, a file system that keeps no attributes).
+    """
     return call("vyr_attributes_set_archive_attributes", INT, (TEXT, path), (INT, is_on))
 
 
 def set_temporary_attributes(path: str, is_on: int) -> int:
-    """SetTemporaryAttributes"""
+    r"""SetTemporaryAttributes
+
+    Sets or clears the read-only attribute of the file at `path`. The next operations do the same for their
+    attributes.
+    is_on: nonzero sets it, 0 clears it.
+    Returns: nonzero on success, else 0 (no file, no permission, a file system that keeps no attributes).
+    """
     return call("vyr_attributes_set_temporary_attributes", INT, (TEXT, path), (INT, is_on))
 
 
 def set_not_content_indexed_attributes(path: str, is_on: int) -> int:
-    """SetNotContentIndexedAttributes"""
+    r"""SetNotContentIndexedAttributes
+
+    Sets or clears the read-only attribute of the file at `path`. The next operations do the same for their
+    attributes.
+    is_on: nonzero sets it, 0 clears it.
+    Returns: nonzero on success, else 0 (no file, no permission, a file system that keeps no attributes).
+    """
     return call("vyr_attributes_set_not_content_indexed_attributes", INT, (TEXT, path), (INT, is_on))
 
 
 def get_arrtibutes_priority(letter: str) -> int:
-    """GetArrtibutesPriority"""
+    r"""GetArrtibutesPriority
+
+    The index of an attribute letter in the order of display, R H S D A T P L C O I E X V: 0 to 13, in either case.
+    Returns: -1 for any other text.
+    """
     return call("vyr_attributes_get_arrtibutes_priority", INT, (TEXT, letter))

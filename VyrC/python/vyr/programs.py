@@ -1,14 +1,25 @@
-"""The operations of ProgramsFeaturesFuncs, which VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h describes; written by VyrC/generate from VyrC/interface.txt."""
+r"""The operations of ProgramsFeaturesFuncs (VyrLibraryFuncs/programs/ProgramsFeaturesFuncs.h); written by VyrC/generate from VyrC/interface.txt.
+
+Lists installed programs and installer products from the registry, and helps to show and sort them.
+
+The lists only read; they do not sort, merge or filter. A key that cannot be opened gives no record. A value that is
+missing, of another type, not terminated or longer than 259 code units leaves its field empty or 0. Before each
+value one pending event of the calling thread is handled (VyrPlatform::MessageQueue), so that a host's window stays
+responsive; a stop ends the reading of the current key's values, and the list continues. Progress is written to the
+debugger output.
+"""
 import dataclasses
 import datetime
+import uuid
+from typing import Callable, Optional, Sequence, Tuple
 from typing import List as ListType
-from typing import Optional, Sequence, Tuple
 
 from ._library import *  # noqa: F403
 from ._library import call
 
 # 30 December 1899, the date-time with the number 0.
 ZERO = datetime.datetime(1899, 12, 30)
+NO_ID = uuid.UUID(int=0)
 
 
 @dataclasses.dataclass
@@ -80,80 +91,157 @@ Product.c_kinds = {"product_key": TEXT, "package_code": TEXT, "product_name": TE
 
 
 def get_programs_features_items_list(scope: int, include_wow6432_node: int) -> ListType[Item]:
-    """GetProgramsFeaturesItemsList"""
+    r"""GetProgramsFeaturesItemsList
+
+    The entries of the uninstall keys: first those of this machine, then those of the user; each key in its own
+    order.
+    scope: 0: both. 1: only the user's. 2: only this machine's. Any other value gives an empty list.
+    include_wow6432_node: non-zero: each key is followed by that of 32-bit programs.
+    """
     return call("vyr_programs_get_programs_features_items_list", List(Record(Item)), (INT, scope), (INT, include_wow6432_node))
 
 
 def get_programs_features_windows_installer_items_list(scope: int) -> ListType[Item]:
-    """GetProgramsFeaturesWindowsInstallerItemsList"""
+    r"""GetProgramsFeaturesWindowsInstallerItemsList
+
+    The machine-wide products of Windows Installer, as the same records. Their values are read from the products'
+    own keys, where installers store little.
+    scope: 0 or 2; any other value gives an empty list.
+    """
     return call("vyr_programs_get_programs_features_windows_installer_items_list", List(Record(Item)), (INT, scope))
 
 
 def get_list_view_item_text(column: int, item: Item) -> str:
-    """GetListViewItemText"""
+    r"""GetListViewItemText
+
+    The text of a column of a list view: 0 name, 1 publisher,
+    2 install date, 3 size, 4 version, 5 source, 6 about, 7 telephone, 8 empty, 9 help, 10 comments, 11 updates,
+    12 empty, 13 location, 14 readme, 15 company, 16 owner, 17 contact.
+    Returns: empty for any other column.
+    """
     return call("vyr_programs_get_list_view_item_text", TEXT, (INT, column), (Record(Item), item))
 
 
 def get_programs_features_installer_products_items_list() -> ListType[Product]:
-    """GetProgramsFeaturesInstallerProductsItemsList"""
+    r"""GetProgramsFeaturesInstallerProductsItemsList
+
+    The products of Windows Installer: first those of the machine, then those of the user.
+    """
     return call("vyr_programs_get_programs_features_installer_products_items_list", List(Record(Product)))
 
 
 def get_product_icon(icon_filter: str, product_name: str, products: Sequence[Product]) -> str:
-    """GetProductIcon"""
+    r"""GetProductIcon
+
+    The icon of the first product whose name is exactly `productName` and whose icon contains `iconFilter` (an empty
+    one is in every icon).
+    Returns: empty when there is none, for an empty `productName`, and after a stop.
+    """
     return call("vyr_programs_get_product_icon", TEXT, (TEXT, icon_filter), (TEXT, product_name), (List(Record(Product)), products))
 
 
 def get_application_icon(icon_text: str) -> Tuple[str, int]:
-    """GetApplicationIcon"""
+    r"""GetApplicationIcon
+
+    Splits an icon reference: a path, optionally in double quotes, optionally followed by a comma and an index.
+    `"C:\a b.exe",-101` gives `C:\a b.exe` and -101. A path ends at its first comma.
+    Returns: the path without double quotes, and the index, 0 where there is none; an empty path and 0 for a text of
+    nothing but commas.
+
+    >>> get_application_icon('"C:\\\\a b.exe",-101')
+    ('C:\\\\a b.exe', -101)
+    """
     return call("vyr_programs_get_application_icon", TEXT_AND_INT, (TEXT, icon_text))
 
 
 def get_install_date(install_date: str, fallback_date: str) -> str:
-    """GetInstallDate"""
+    r"""GetInstallDate
+
+    `installDate` where it is not empty, else the date of `fallbackDate` (a text for
+    DateTimeUtils::GetParseDateTime) in the form of DateTimeUtils::GetFormatedDate.
+    """
     return call("vyr_programs_get_install_date", TEXT, (TEXT, install_date), (TEXT, fallback_date))
 
 
 def get_formated_size(text: str, size: int, format: int) -> str:
-    """GetFormatedSize"""
+    r"""GetFormatedSize
+
+    `size` in the form of FileUtils::GetFileSize; empty where `text` is empty. `text` is not used otherwise.
+    size: in bytes.
+    format: as of FileUtils::GetFileSize.
+    """
     return call("vyr_programs_get_formated_size", TEXT, (TEXT, text), (UINT64, size), (INT, format))
 
 
 def compare_reg_key(key1: str, key2: str, flag1: int, flag2: int, descending: int) -> int:
-    """CompareRegKey"""
+    r"""CompareRegKey
+
+    Compares two registry keys for sorting.
+
+    Keys with a flag come after those without. Then the last parts of the paths are compared: first those that begin
+    with an ASCII letter, digit or sign, then product codes in braces, then all others. Product codes compare as
+    texts of the user's locale. Other names compare by their numbers: a name of hexadecimal digits is read as a
+    decimal number up to its first letter (`1F` is 1), and any other name is 0; equal ones compare as texts.
+
+    This is not a consistent order of all keys: `a`, `{1}` and `é` form a cycle. Use a sort that tolerates this.
+    flag1, flag2: only whether each is 0 matters.
+    descending: non-zero reverses every result.
+    Returns: -1, 0 or 1; 0 when the flags are equal and a key is empty or consists of backslashes.
+    """
     return call("vyr_programs_compare_reg_key", INT, (TEXT, key1), (TEXT, key2), (INT, flag1), (INT, flag2), (INT, descending))
 
 
 def get_key_parent_name(root: int) -> str:
-    """GetKeyParentName"""
+    r"""GetKeyParentName
+
+    The name of a root key, such as "HKEY_LOCAL_MACHINE"; empty for HKEY_PERFORMANCE_DATA and any other key.
+    """
     return call("vyr_programs_get_key_parent_name", TEXT, (HANDLE, root))
 
 
 def is_wow6432_node(key_path: str) -> int:
-    """IsWow6432Node"""
+    r"""IsWow6432Node
+
+    1 when `keyPath` contains "Wow6432Node" in exactly this case.
+    """
     return call("vyr_programs_is_wow6432_node", INT, (TEXT, key_path))
 
 
 def get_icon_folder_name() -> str:
-    """GetIconFolderName"""
+    r"""GetIconFolderName
+
+    "icons".
+    """
     return call("vyr_programs_get_icon_folder_name", TEXT)
 
 
 def set_output_file_path(path: str) -> None:
-    """SetOutputFilePath"""
+    r"""SetOutputFilePath
+
+    "icons".
+    """
     return call("vyr_programs_set_output_file_path", NOTHING, (TEXT, path))
 
 
 def get_output_file_path() -> str:
-    """GetOutputFilePath"""
+    r"""GetOutputFilePath
+
+    Empty at first.
+    """
     return call("vyr_programs_get_output_file_path", TEXT)
 
 
 def set_open_output_file(is_opened: int) -> None:
-    """SetOpenOutputFile"""
+    r"""SetOpenOutputFile
+
+    Empty at first.
+    """
     return call("vyr_programs_set_open_output_file", NOTHING, (INT, is_opened))
 
 
 def get_open_output_file() -> int:
-    """GetOpenOutputFile"""
+    r"""GetOpenOutputFile
+
+    Whether the output file is to be opened; 1 at first.
+    """
     return call("vyr_programs_get_open_output_file", INT)

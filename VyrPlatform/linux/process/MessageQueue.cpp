@@ -1,5 +1,6 @@
 // The queue of a thread on Linux, in place of a Windows message queue.
 #include <VyrPlatform/process/LinuxMessageQueue.h>
+#include <VyrPlatform/process/MainLoop.h>
 #include <VyrPlatform/process/MessageQueue.h>
 
 #include <atomic>

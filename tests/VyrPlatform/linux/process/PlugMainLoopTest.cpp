@@ -1,5 +1,6 @@
 // Events from the poster and from a host's own main loop.
 #include <VyrPlatform/process/LinuxMessageQueue.h>
+#include <VyrPlatform/process/MainLoop.h>
 #include <VyrPlatform/process/MessageQueue.h>
 
 #include <array>
