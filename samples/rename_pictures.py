@@ -1,34 +1,25 @@
 #!/usr/bin/env python3
-"""Numbers the pictures of a folder, gives them the first of May 2024 as their date, and writes a report.
+"""Numbers the pictures of a folder and dates them noon of the first of May 2024; lists the programs of a Windows' hive.
 
-Use: rename_pictures.py FOLDER [--apply] [--report FILE]
-
-Without --apply it only shows the names. The package vyr is in VyrC/python; VYR_LIBRARY names its library.
+Use: rename_pictures.py FOLDER [--apply] [--hive SOFTWARE] [--report FILE]     (it shows the names without --apply)
 """
 import argparse
 import datetime
 import html as escaping
-import os
 import pathlib
 import sys
 
-import vyr
-from vyr import date_time, filter, html, name
+from vyr import date_time, filter, host_registry, html, name, programs
 
 PICTURES = [filter.Condition(enabled=1, text=end, condition=3) for end in (".jpg", ".jpeg", ".png")]
-RULE = name.Item(number_text1="trip-", digits=3, start_number=1, step=1)
 DATE = datetime.datetime(2024, 5, 1, 12).astimezone()
 
 
 def plan(folder):
-    """The pictures with the paths that they get."""
     pictures = sorted(path for path in folder.iterdir() if filter.is_match_name(path.name, 0, PICTURES))
-    RULE.dir_path = os.path.join(folder, "")
-    moves = []
-    for index, path in enumerate(pictures):
-        RULE.extension = name.get_extension(str(path))
-        moves.append((path, pathlib.Path(vyr.rename_path(RULE, index))))
-    return moves
+    rules = [name.Item(dir_path=f"{folder.resolve()}/", number_text1="trip-", digits=3, start_number=1, step=1, index=index,
+                       extension=path.suffix) for index, path in enumerate(pictures)]
+    return list(zip(pictures, map(pathlib.Path, name.get_rename_file_paths(rules))))
 
 
 def apply(moves):
@@ -41,29 +32,29 @@ def apply(moves):
             print(f"{new.name} keeps its date", file=sys.stderr)
 
 
-def write_report(moves, file):
-    rows = "".join(
-        html.get_tr_pair_tag("".join(html.get_td_pair_tag_with_class_name(kind, escaping.escape(path.name))
-                                     for kind, path in (("old", old), ("new", new))))
-        for old, new in moves)
-    page = html.get_doctype_tag() + html.get_html_tag("en") + html.get_body_tag() + html.get_table_tag("", "")
-    page += rows + html.get_table_closing_tag() + html.get_body_closing_tag() + html.get_html_closing_tag()
-    file.write_text(page, encoding="utf-8")
+def list_programs(hive):
+    if host_registry.show_hives(host_registry.HiveFiles(software=str(hive))).outcome != 0:
+        sys.exit(f"{hive} is no hive")
+    return [(item.display_name, item.display_version) for item in programs.get_programs_features_items_list(0, 1)]
 
 
-def main():
-    arguments = argparse.ArgumentParser(description="Numbers the pictures of a folder.")
-    arguments.add_argument("folder", type=pathlib.Path)
-    arguments.add_argument("--apply", action="store_true")
-    arguments.add_argument("--report", type=pathlib.Path)
-    chosen = arguments.parse_args()
-    moves = plan(chosen.folder)
-    for old, new in moves:
-        print(f"{old.name} -> {new.name}")
-    if chosen.apply:
-        apply(moves)
-    if chosen.report:
-        write_report(moves, chosen.report)
+def write_report(rows, file):
+    cells = ["".join(html.get_td_pair_tag(escaping.escape(text)) for text in row) for row in rows]
+    file.write_text(html.get_doctype_tag() + html.get_html_tag("en") + html.get_body_tag() + html.get_table_tag("", "")
+                    + "".join(map(html.get_tr_pair_tag, cells)) + html.get_table_closing_tag()
+                    + html.get_body_closing_tag() + html.get_html_closing_tag(), encoding="utf-8")
 
 
-main()
+parser = argparse.ArgumentParser(description="Numbers the pictures of a folder.")
+parser.add_argument("folder", type=pathlib.Path)
+parser.add_argument("--apply", action="store_true")
+parser.add_argument("--hive", type=pathlib.Path, help="the file SOFTWARE of a Windows that is not running")
+parser.add_argument("--report", type=pathlib.Path)
+chosen = parser.parse_args()
+moves = plan(chosen.folder)
+rows = [(old.name, new.name) for old, new in moves] + (list_programs(chosen.hive) if chosen.hive else [])
+print("\n".join(" -> ".join(row) for row in rows))
+if chosen.apply:
+    apply(moves)
+if chosen.report:
+    write_report(rows, chosen.report)

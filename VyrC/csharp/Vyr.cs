@@ -250,7 +250,7 @@ namespace Vyr
         [DllImport(Library, EntryPoint = "vyr_html_get_saved_from_url_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_saved_from_url_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_html_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_html_tag([MarshalAs(UnmanagedType.LPWStr)] string lang, IntPtr langLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_html_tag([MarshalAs(UnmanagedType.LPWStr)] string lang, IntPtr lang_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_html_closing_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_html_closing_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_head_tag", CharSet = CharSet.Unicode)]
@@ -258,101 +258,101 @@ namespace Vyr
         [DllImport(Library, EntryPoint = "vyr_html_get_head_closing_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_head_closing_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_meta_xua_compatible_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_meta_xua_compatible_tag([MarshalAs(UnmanagedType.LPWStr)] string mode, IntPtr modeLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_meta_xua_compatible_tag([MarshalAs(UnmanagedType.LPWStr)] string mode, IntPtr mode_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_meta_content_type_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_meta_content_type_tag([MarshalAs(UnmanagedType.LPWStr)] string charset, IntPtr charsetLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_meta_content_type_tag([MarshalAs(UnmanagedType.LPWStr)] string charset, IntPtr charset_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_meta_generator_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_meta_generator_tag([MarshalAs(UnmanagedType.LPWStr)] string generator, IntPtr generatorLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_meta_generator_tag([MarshalAs(UnmanagedType.LPWStr)] string generator, IntPtr generator_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_link_css_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_link_css_tag([MarshalAs(UnmanagedType.LPWStr)] string href, IntPtr hrefLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_link_css_tag([MarshalAs(UnmanagedType.LPWStr)] string href, IntPtr href_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_script_src_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_script_src_tag([MarshalAs(UnmanagedType.LPWStr)] string src, IntPtr srcLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_script_src_tag([MarshalAs(UnmanagedType.LPWStr)] string src, IntPtr src_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_script_closing_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_script_closing_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_script_src_pair_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_script_src_pair_tag([MarshalAs(UnmanagedType.LPWStr)] string src, IntPtr srcLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_script_src_pair_tag([MarshalAs(UnmanagedType.LPWStr)] string src, IntPtr src_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_title_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_title_tag([MarshalAs(UnmanagedType.LPWStr)] string title, IntPtr titleLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_title_tag([MarshalAs(UnmanagedType.LPWStr)] string title, IntPtr title_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_body_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_body_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_body_tag_with_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_body_tag_with_attributes([MarshalAs(UnmanagedType.LPWStr)] string attributes, IntPtr attributesLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_body_tag_with_attributes([MarshalAs(UnmanagedType.LPWStr)] string attributes, IntPtr attributes_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_body_closing_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_body_closing_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_header_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_header_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_header_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_header_closing_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_header_closing_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_footer_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_footer_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_footer_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_footer_closing_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_footer_closing_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_h1_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_h1_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_h1_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_h1_closing_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_h1_closing_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_h1_pair_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_h1_pair_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr contentLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_h1_pair_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr content_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_p_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_p_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_p_tag_with_class_name", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_p_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_p_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_p_closing_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_p_closing_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_span_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_span_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_span_tag_with_class_name", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_span_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_span_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_span_tag_with_class_name_id", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_span_tag_with_class_name_id([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_span_tag_with_class_name_id([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_span_closing_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_span_closing_tag(int new_line, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_span_pair_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_span_pair_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr contentLength, int new_line, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_span_pair_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr content_length, int new_line, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_span_pair_tag_with_id", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_span_pair_tag_with_id([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr contentLength, int new_line, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_span_pair_tag_with_id([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr content_length, int new_line, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_div_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_div_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_div_tag_with_class_name", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_div_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_div_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_div_tag_with_class_name_id", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_div_tag_with_class_name_id([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_div_tag_with_class_name_id([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_div_tag_with_class_name_id_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_div_tag_with_class_name_id_attributes([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, [MarshalAs(UnmanagedType.LPWStr)] string attributes, IntPtr attributesLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_div_tag_with_class_name_id_attributes([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, [MarshalAs(UnmanagedType.LPWStr)] string attributes, IntPtr attributes_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_div_closing_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_div_closing_tag(int new_line, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_div_pair_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_div_pair_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr contentLength, int new_line, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_div_pair_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr content_length, int new_line, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_div_pair_tag_with_id", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_div_pair_tag_with_id([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr contentLength, int new_line, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_div_pair_tag_with_id([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr content_length, int new_line, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_div_pair_tag_with_id_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_div_pair_tag_with_id_attributes([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, [MarshalAs(UnmanagedType.LPWStr)] string attributes, IntPtr attributesLength, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr contentLength, int new_line, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_div_pair_tag_with_id_attributes([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, [MarshalAs(UnmanagedType.LPWStr)] string attributes, IntPtr attributes_length, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr content_length, int new_line, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_br_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_br_tag(int new_line, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_a_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_a_tag([MarshalAs(UnmanagedType.LPWStr)] string href, IntPtr hrefLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_a_tag([MarshalAs(UnmanagedType.LPWStr)] string href, IntPtr href_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_a_tag_with_class_name", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_a_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string href, IntPtr hrefLength, [MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_a_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string href, IntPtr href_length, [MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_a_tag_with_class_name_target", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_a_tag_with_class_name_target([MarshalAs(UnmanagedType.LPWStr)] string href, IntPtr hrefLength, [MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string target, IntPtr targetLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_a_tag_with_class_name_target([MarshalAs(UnmanagedType.LPWStr)] string href, IntPtr href_length, [MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string target, IntPtr target_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_a_closing_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_a_closing_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_a_pair_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_a_pair_tag([MarshalAs(UnmanagedType.LPWStr)] string href, IntPtr hrefLength, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr contentLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_a_pair_tag([MarshalAs(UnmanagedType.LPWStr)] string href, IntPtr href_length, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr content_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_a_pair_tag_with_class_name", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_a_pair_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string href, IntPtr hrefLength, [MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr contentLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_a_pair_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string href, IntPtr href_length, [MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr content_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_a_pair_tag_with_class_name_target", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_a_pair_tag_with_class_name_target([MarshalAs(UnmanagedType.LPWStr)] string href, IntPtr hrefLength, [MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string target, IntPtr targetLength, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr contentLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_a_pair_tag_with_class_name_target([MarshalAs(UnmanagedType.LPWStr)] string href, IntPtr href_length, [MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string target, IntPtr target_length, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr content_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_img_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_img_tag([MarshalAs(UnmanagedType.LPWStr)] string src, IntPtr srcLength, int width, int height, [MarshalAs(UnmanagedType.LPWStr)] string alt, IntPtr altLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_img_tag([MarshalAs(UnmanagedType.LPWStr)] string src, IntPtr src_length, int width, int height, [MarshalAs(UnmanagedType.LPWStr)] string alt, IntPtr alt_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_img_tag_with_class_name", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_img_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string src, IntPtr srcLength, [MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, int width, int height, [MarshalAs(UnmanagedType.LPWStr)] string alt, IntPtr altLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_img_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string src, IntPtr src_length, [MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, int width, int height, [MarshalAs(UnmanagedType.LPWStr)] string alt, IntPtr alt_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_img_tag_with_class_name_id", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_img_tag_with_class_name_id([MarshalAs(UnmanagedType.LPWStr)] string src, IntPtr srcLength, [MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, int width, int height, [MarshalAs(UnmanagedType.LPWStr)] string alt, IntPtr altLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_img_tag_with_class_name_id([MarshalAs(UnmanagedType.LPWStr)] string src, IntPtr src_length, [MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, int width, int height, [MarshalAs(UnmanagedType.LPWStr)] string alt, IntPtr alt_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_img_tag_with_class_name_id_title", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_img_tag_with_class_name_id_title([MarshalAs(UnmanagedType.LPWStr)] string src, IntPtr srcLength, [MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, int width, int height, [MarshalAs(UnmanagedType.LPWStr)] string alt, IntPtr altLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, [MarshalAs(UnmanagedType.LPWStr)] string title, IntPtr titleLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_img_tag_with_class_name_id_title([MarshalAs(UnmanagedType.LPWStr)] string src, IntPtr src_length, [MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, int width, int height, [MarshalAs(UnmanagedType.LPWStr)] string alt, IntPtr alt_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, [MarshalAs(UnmanagedType.LPWStr)] string title, IntPtr title_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_table_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_table_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_table_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_table_closing_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_table_closing_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_thead_tag", CharSet = CharSet.Unicode)]
@@ -366,45 +366,45 @@ namespace Vyr
         [DllImport(Library, EntryPoint = "vyr_html_get_tr_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_tr_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_tr_tag_with_class_name", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_tr_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_tr_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_tr_tag_with_class_name_id", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_tr_tag_with_class_name_id([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_tr_tag_with_class_name_id([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_tr_closing_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_tr_closing_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_tr_pair_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_tr_pair_tag([MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr contentLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_tr_pair_tag([MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr content_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_tr_pair_tag_with_class_name", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_tr_pair_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr contentLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_tr_pair_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr content_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_tr_pair_tag_with_class_name_id", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_tr_pair_tag_with_class_name_id([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr contentLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_tr_pair_tag_with_class_name_id([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr content_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_th_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_th_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_th_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_th_closing_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_th_closing_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_th_pair_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_th_pair_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr contentLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_th_pair_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr content_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_td_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_td_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_td_tag_with_class_name", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_td_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_td_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_td_tag_with_class_name_id", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_td_tag_with_class_name_id([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_td_tag_with_class_name_id([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_td_tag_with_class_name_id_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_td_tag_with_class_name_id_attributes([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, [MarshalAs(UnmanagedType.LPWStr)] string attributes, IntPtr attributesLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_td_tag_with_class_name_id_attributes([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, [MarshalAs(UnmanagedType.LPWStr)] string attributes, IntPtr attributes_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_td_tag_with_class_name_id_width_height", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_td_tag_with_class_name_id_width_height([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, int width, int height, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_td_tag_with_class_name_id_width_height([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, int width, int height, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_td_col_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_td_col_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string colspan, IntPtr colspanLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_td_col_tag([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string colspan, IntPtr colspan_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_td_col_tag_with_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_td_col_tag_with_attributes([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string colspan, IntPtr colspanLength, [MarshalAs(UnmanagedType.LPWStr)] string attributes, IntPtr attributesLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_td_col_tag_with_attributes([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string colspan, IntPtr colspan_length, [MarshalAs(UnmanagedType.LPWStr)] string attributes, IntPtr attributes_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_td_closing_tag", CharSet = CharSet.Unicode)]
         public static extern int vyr_html_get_td_closing_tag([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_td_pair_tag", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_td_pair_tag([MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr contentLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_td_pair_tag([MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr content_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_td_pair_tag_with_class_name", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_td_pair_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr contentLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_td_pair_tag_with_class_name([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr content_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_html_get_td_pair_tag_with_class_name_id", CharSet = CharSet.Unicode)]
-        public static extern int vyr_html_get_td_pair_tag_with_class_name_id([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr idLength, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr contentLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_html_get_td_pair_tag_with_class_name_id([MarshalAs(UnmanagedType.LPWStr)] string class_name, IntPtr class_name_length, [MarshalAs(UnmanagedType.LPWStr)] string id, IntPtr id_length, [MarshalAs(UnmanagedType.LPWStr)] string content, IntPtr content_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         // MSHTMLImgFuncs
         [DllImport(Library, EntryPoint = "vyr_mshtml_img_set_resize_img_style", CharSet = CharSet.Unicode)]
         public static extern int vyr_mshtml_img_set_resize_img_style(IntPtr document, ref Rect client);
@@ -412,7 +412,7 @@ namespace Vyr
         [DllImport(Library, EntryPoint = "vyr_output_get_output_file_path", CharSet = CharSet.Unicode)]
         public static extern int vyr_output_get_output_file_path([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_output_set_output_file_path", CharSet = CharSet.Unicode)]
-        public static extern int vyr_output_set_output_file_path([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength);
+        public static extern int vyr_output_set_output_file_path([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length);
         [DllImport(Library, EntryPoint = "vyr_output_get_output_filter_index", CharSet = CharSet.Unicode)]
         public static extern int vyr_output_get_output_filter_index(out int result);
         [DllImport(Library, EntryPoint = "vyr_output_set_output_filter_index", CharSet = CharSet.Unicode)]
@@ -420,96 +420,96 @@ namespace Vyr
         [DllImport(Library, EntryPoint = "vyr_output_get_generator_output_string", CharSet = CharSet.Unicode)]
         public static extern int vyr_output_get_generator_output_string([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_output_get_generator_output_string_with_name", CharSet = CharSet.Unicode)]
-        public static extern int vyr_output_get_generator_output_string_with_name([MarshalAs(UnmanagedType.LPWStr)] string name, IntPtr nameLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_output_get_generator_output_string_with_name([MarshalAs(UnmanagedType.LPWStr)] string name, IntPtr name_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_output_get_property_size", CharSet = CharSet.Unicode)]
         public static extern int vyr_output_get_property_size(int choice, int custom, out int result);
         [DllImport(Library, EntryPoint = "vyr_output_get_dialog_property_width", CharSet = CharSet.Unicode)]
         public static extern int vyr_output_get_dialog_property_width(int width, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         // AttributesFuncs
         [DllImport(Library, EntryPoint = "vyr_attributes_set_modified_file_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_attributes_set_modified_file_attributes([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, ref AttributesItem item, out int result);
+        public static extern int vyr_attributes_set_modified_file_attributes([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, ref AttributesItem item, out int result);
         [DllImport(Library, EntryPoint = "vyr_attributes_get_selected_read_only_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_attributes_get_selected_read_only_attributes([MarshalAs(UnmanagedType.LPWStr)] string text, IntPtr textLength, out int result);
+        public static extern int vyr_attributes_get_selected_read_only_attributes([MarshalAs(UnmanagedType.LPWStr)] string text, IntPtr text_length, out int result);
         [DllImport(Library, EntryPoint = "vyr_attributes_get_selected_hidden_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_attributes_get_selected_hidden_attributes([MarshalAs(UnmanagedType.LPWStr)] string text, IntPtr textLength, out int result);
+        public static extern int vyr_attributes_get_selected_hidden_attributes([MarshalAs(UnmanagedType.LPWStr)] string text, IntPtr text_length, out int result);
         [DllImport(Library, EntryPoint = "vyr_attributes_get_selected_system_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_attributes_get_selected_system_attributes([MarshalAs(UnmanagedType.LPWStr)] string text, IntPtr textLength, out int result);
+        public static extern int vyr_attributes_get_selected_system_attributes([MarshalAs(UnmanagedType.LPWStr)] string text, IntPtr text_length, out int result);
         [DllImport(Library, EntryPoint = "vyr_attributes_get_selected_archive_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_attributes_get_selected_archive_attributes([MarshalAs(UnmanagedType.LPWStr)] string text, IntPtr textLength, out int result);
+        public static extern int vyr_attributes_get_selected_archive_attributes([MarshalAs(UnmanagedType.LPWStr)] string text, IntPtr text_length, out int result);
         [DllImport(Library, EntryPoint = "vyr_attributes_get_selected_temporary_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_attributes_get_selected_temporary_attributes([MarshalAs(UnmanagedType.LPWStr)] string text, IntPtr textLength, out int result);
+        public static extern int vyr_attributes_get_selected_temporary_attributes([MarshalAs(UnmanagedType.LPWStr)] string text, IntPtr text_length, out int result);
         [DllImport(Library, EntryPoint = "vyr_attributes_get_selected_not_content_indexed_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_attributes_get_selected_not_content_indexed_attributes([MarshalAs(UnmanagedType.LPWStr)] string text, IntPtr textLength, out int result);
+        public static extern int vyr_attributes_get_selected_not_content_indexed_attributes([MarshalAs(UnmanagedType.LPWStr)] string text, IntPtr text_length, out int result);
         [DllImport(Library, EntryPoint = "vyr_attributes_set_read_only_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_attributes_set_read_only_attributes([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, int is_on, out int result);
+        public static extern int vyr_attributes_set_read_only_attributes([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, int is_on, out int result);
         [DllImport(Library, EntryPoint = "vyr_attributes_set_hidden_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_attributes_set_hidden_attributes([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, int is_on, out int result);
+        public static extern int vyr_attributes_set_hidden_attributes([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, int is_on, out int result);
         [DllImport(Library, EntryPoint = "vyr_attributes_set_system_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_attributes_set_system_attributes([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, int is_on, out int result);
+        public static extern int vyr_attributes_set_system_attributes([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, int is_on, out int result);
         [DllImport(Library, EntryPoint = "vyr_attributes_set_archive_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_attributes_set_archive_attributes([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, int is_on, out int result);
+        public static extern int vyr_attributes_set_archive_attributes([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, int is_on, out int result);
         [DllImport(Library, EntryPoint = "vyr_attributes_set_temporary_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_attributes_set_temporary_attributes([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, int is_on, out int result);
+        public static extern int vyr_attributes_set_temporary_attributes([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, int is_on, out int result);
         [DllImport(Library, EntryPoint = "vyr_attributes_set_not_content_indexed_attributes", CharSet = CharSet.Unicode)]
-        public static extern int vyr_attributes_set_not_content_indexed_attributes([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, int is_on, out int result);
+        public static extern int vyr_attributes_set_not_content_indexed_attributes([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, int is_on, out int result);
         [DllImport(Library, EntryPoint = "vyr_attributes_get_arrtibutes_priority", CharSet = CharSet.Unicode)]
-        public static extern int vyr_attributes_get_arrtibutes_priority([MarshalAs(UnmanagedType.LPWStr)] string letter, IntPtr letterLength, out int result);
+        public static extern int vyr_attributes_get_arrtibutes_priority([MarshalAs(UnmanagedType.LPWStr)] string letter, IntPtr letter_length, out int result);
         // DateTimeFuncs
         [DllImport(Library, EntryPoint = "vyr_date_time_get_other_date_time", CharSet = CharSet.Unicode)]
-        public static extern int vyr_date_time_get_other_date_time([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, int date_time_target, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_date_time_get_other_date_time([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, int date_time_target, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_date_time_get_selected_file_date_time", CharSet = CharSet.Unicode)]
-        public static extern int vyr_date_time_get_selected_file_date_time([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, int date_time_target, int is_enabled, out ulong result);
+        public static extern int vyr_date_time_get_selected_file_date_time([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, int date_time_target, int is_enabled, out ulong result);
         [DllImport(Library, EntryPoint = "vyr_date_time_get_modified_file_date_time", CharSet = CharSet.Unicode)]
-        public static extern int vyr_date_time_get_modified_file_date_time([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, int is_enabled, double date, int dateStatus, double time, int timeStatus, int date_time_mode, out ulong result);
+        public static extern int vyr_date_time_get_modified_file_date_time([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, int is_enabled, double date, int date_status, double time, int time_status, int date_time_mode, out ulong result);
         [DllImport(Library, EntryPoint = "vyr_date_time_set_modified_file_date_time", CharSet = CharSet.Unicode)]
-        public static extern int vyr_date_time_set_modified_file_date_time([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, ulong[] created, ulong[] modified, ulong[] accessed, out int result);
+        public static extern int vyr_date_time_set_modified_file_date_time([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, ulong[] created, ulong[] modified, ulong[] accessed, out int result);
         [DllImport(Library, EntryPoint = "vyr_date_time_get_stagger_file_date_time", CharSet = CharSet.Unicode)]
-        public static extern int vyr_date_time_get_stagger_file_date_time(int index, int is_enabled, double @base, int @baseStatus, ref DateTimeStaggerItem item, out ulong result);
+        public static extern int vyr_date_time_get_stagger_file_date_time(int index, int is_enabled, double @base, int base_status, ref DateTimeStaggerItem item, out ulong result);
         [DllImport(Library, EntryPoint = "vyr_date_time_get_cal_date_time", CharSet = CharSet.Unicode)]
-        public static extern int vyr_date_time_get_cal_date_time(double date_time, int date_timeStatus, int years, int months, int days, out DateAndTime result);
+        public static extern int vyr_date_time_get_cal_date_time(double date_time, int date_time_status, int years, int months, int days, out DateAndTime result);
         [DllImport(Library, EntryPoint = "vyr_date_time_get_time_difference_date_time", CharSet = CharSet.Unicode)]
-        public static extern int vyr_date_time_get_time_difference_date_time(double date_time, int date_timeStatus, int hours, out DateAndTime result);
+        public static extern int vyr_date_time_get_time_difference_date_time(double date_time, int date_time_status, int hours, out DateAndTime result);
         [DllImport(Library, EntryPoint = "vyr_date_time_get_yesterday_date_time", CharSet = CharSet.Unicode)]
-        public static extern int vyr_date_time_get_yesterday_date_time(double date_time, int date_timeStatus, out DateAndTime result);
+        public static extern int vyr_date_time_get_yesterday_date_time(double date_time, int date_time_status, out DateAndTime result);
         [DllImport(Library, EntryPoint = "vyr_date_time_get_last_month_date_time", CharSet = CharSet.Unicode)]
-        public static extern int vyr_date_time_get_last_month_date_time(double date_time, int date_timeStatus, out DateAndTime result);
+        public static extern int vyr_date_time_get_last_month_date_time(double date_time, int date_time_status, out DateAndTime result);
         [DllImport(Library, EntryPoint = "vyr_date_time_get_last_year_date_time", CharSet = CharSet.Unicode)]
-        public static extern int vyr_date_time_get_last_year_date_time(double date_time, int date_timeStatus, out DateAndTime result);
+        public static extern int vyr_date_time_get_last_year_date_time(double date_time, int date_time_status, out DateAndTime result);
         [DllImport(Library, EntryPoint = "vyr_date_time_get_begin_this_week_date_time", CharSet = CharSet.Unicode)]
-        public static extern int vyr_date_time_get_begin_this_week_date_time(double date_time, int date_timeStatus, out DateAndTime result);
+        public static extern int vyr_date_time_get_begin_this_week_date_time(double date_time, int date_time_status, out DateAndTime result);
         [DllImport(Library, EntryPoint = "vyr_date_time_get_begin_last_week_date_time", CharSet = CharSet.Unicode)]
-        public static extern int vyr_date_time_get_begin_last_week_date_time(double date_time, int date_timeStatus, out DateAndTime result);
+        public static extern int vyr_date_time_get_begin_last_week_date_time(double date_time, int date_time_status, out DateAndTime result);
         [DllImport(Library, EntryPoint = "vyr_date_time_get_end_week_date_time", CharSet = CharSet.Unicode)]
-        public static extern int vyr_date_time_get_end_week_date_time(double date_time, int date_timeStatus, out DateAndTime result);
+        public static extern int vyr_date_time_get_end_week_date_time(double date_time, int date_time_status, out DateAndTime result);
         [DllImport(Library, EntryPoint = "vyr_date_time_is_match_date_month", CharSet = CharSet.Unicode)]
-        public static extern int vyr_date_time_is_match_date_month(double left, int leftStatus, double right, int rightStatus, out int result);
+        public static extern int vyr_date_time_is_match_date_month(double left, int left_status, double right, int right_status, out int result);
         [DllImport(Library, EntryPoint = "vyr_date_time_is_match_date", CharSet = CharSet.Unicode)]
-        public static extern int vyr_date_time_is_match_date(double left, int leftStatus, double right, int rightStatus, out int result);
+        public static extern int vyr_date_time_is_match_date(double left, int left_status, double right, int right_status, out int result);
         // OfficePropertyFuncs
         [DllImport(Library, EntryPoint = "vyr_office_property_handler_get", CharSet = CharSet.Unicode)]
         public static extern int vyr_office_property_handler_get(ulong list, UIntPtr index, ref OfficePropertyHandler record);
         [DllImport(Library, EntryPoint = "vyr_office_property_get_class_id_item_list", CharSet = CharSet.Unicode)]
-        public static extern int vyr_office_property_get_class_id_item_list(TextAndNumber[] extensions, UIntPtr extensionsCount, out ulong result);
+        public static extern int vyr_office_property_get_class_id_item_list(TextAndNumber[] extensions, UIntPtr extensions_count, out ulong result);
         [DllImport(Library, EntryPoint = "vyr_office_property_get_class_id", CharSet = CharSet.Unicode)]
-        public static extern int vyr_office_property_get_class_id([MarshalAs(UnmanagedType.LPWStr)] string extension, IntPtr extensionLength, OfficePropertyHandler[] items, UIntPtr itemsCount, out Guid result);
+        public static extern int vyr_office_property_get_class_id([MarshalAs(UnmanagedType.LPWStr)] string extension, IntPtr extension_length, OfficePropertyHandler[] items, UIntPtr items_count, out Guid result);
         [DllImport(Library, EntryPoint = "vyr_office_property_get_property_handler_reg_key", CharSet = CharSet.Unicode)]
-        public static extern int vyr_office_property_get_property_handler_reg_key([MarshalAs(UnmanagedType.LPWStr)] string extension, IntPtr extensionLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_office_property_get_property_handler_reg_key([MarshalAs(UnmanagedType.LPWStr)] string extension, IntPtr extension_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_office_property_set_dump_props", CharSet = CharSet.Unicode)]
-        public static extern int vyr_office_property_set_dump_props([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, uint property_id, ref Value value, ref Guid clsid, out int result);
+        public static extern int vyr_office_property_set_dump_props([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, uint property_id, ref Value value, ref Guid clsid, out int result);
         // UnblockFuncs
         [DllImport(Library, EntryPoint = "vyr_unblock_delete_zone_id", CharSet = CharSet.Unicode)]
-        public static extern int vyr_unblock_delete_zone_id([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, out int result);
+        public static extern int vyr_unblock_delete_zone_id([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, out int result);
         // NameFuncs
         [DllImport(Library, EntryPoint = "vyr_name_rename_item_get", CharSet = CharSet.Unicode)]
         public static extern int vyr_name_rename_item_get(ulong list, UIntPtr index, ref NameRenameItem record);
         [DllImport(Library, EntryPoint = "vyr_name_get_rename_file_path", CharSet = CharSet.Unicode)]
         public static extern int vyr_name_get_rename_file_path(ref NameItem item, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_name_get_rename_file_paths", CharSet = CharSet.Unicode)]
-        public static extern int vyr_name_get_rename_file_paths(NameItem[] items, UIntPtr itemsCount, out ulong result);
+        public static extern int vyr_name_get_rename_file_paths(NameItem[] items, UIntPtr items_count, out ulong result);
         [DllImport(Library, EntryPoint = "vyr_name_get_f_name", CharSet = CharSet.Unicode)]
-        public static extern int vyr_name_get_f_name([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_name_get_f_name([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_name_get_extension", CharSet = CharSet.Unicode)]
-        public static extern int vyr_name_get_extension([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_name_get_extension([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_name_is_resolve_conflict", CharSet = CharSet.Unicode)]
         public static extern int vyr_name_is_resolve_conflict(ref NameItem item, out int result);
         [DllImport(Library, EntryPoint = "vyr_name_get_sequence_number_file_path", CharSet = CharSet.Unicode)]
@@ -525,19 +525,19 @@ namespace Vyr
         [DllImport(Library, EntryPoint = "vyr_name_get_extension_file_path", CharSet = CharSet.Unicode)]
         public static extern int vyr_name_get_extension_file_path(ref NameItem item, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_name_get_resolve_conflict_file_path", CharSet = CharSet.Unicode)]
-        public static extern int vyr_name_get_resolve_conflict_file_path([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, ref NameConflictItem item, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_name_get_resolve_conflict_file_path([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, ref NameConflictItem item, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_name_get_rename_to_sample_formated", CharSet = CharSet.Unicode)]
-        public static extern int vyr_name_get_rename_to_sample_formated([MarshalAs(UnmanagedType.LPWStr)] string format, IntPtr formatLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_name_get_rename_to_sample_formated([MarshalAs(UnmanagedType.LPWStr)] string format, IntPtr format_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_name_get_date_time_format", CharSet = CharSet.Unicode)]
-        public static extern int vyr_name_get_date_time_format([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, [MarshalAs(UnmanagedType.LPWStr)] string format, IntPtr formatLength, int target, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_name_get_date_time_format([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, [MarshalAs(UnmanagedType.LPWStr)] string format, IntPtr format_length, int target, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_name_get_folder_format", CharSet = CharSet.Unicode)]
-        public static extern int vyr_name_get_folder_format([MarshalAs(UnmanagedType.LPWStr)] string format, IntPtr formatLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_name_get_folder_format([MarshalAs(UnmanagedType.LPWStr)] string format, IntPtr format_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_name_get_exif_format", CharSet = CharSet.Unicode)]
-        public static extern int vyr_name_get_exif_format([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, [MarshalAs(UnmanagedType.LPWStr)] string format, IntPtr formatLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_name_get_exif_format([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, [MarshalAs(UnmanagedType.LPWStr)] string format, IntPtr format_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_name_copy_folder", CharSet = CharSet.Unicode)]
-        public static extern int vyr_name_copy_folder([MarshalAs(UnmanagedType.LPWStr)] string source, IntPtr sourceLength, [MarshalAs(UnmanagedType.LPWStr)] string destination, IntPtr destinationLength, out ulong records, out int result);
+        public static extern int vyr_name_copy_folder([MarshalAs(UnmanagedType.LPWStr)] string source, IntPtr source_length, [MarshalAs(UnmanagedType.LPWStr)] string destination, IntPtr destination_length, out ulong records, out int result);
         [DllImport(Library, EntryPoint = "vyr_name_move_folder", CharSet = CharSet.Unicode)]
-        public static extern int vyr_name_move_folder([MarshalAs(UnmanagedType.LPWStr)] string source, IntPtr sourceLength, [MarshalAs(UnmanagedType.LPWStr)] string destination, IntPtr destinationLength, out ulong records, out int result);
+        public static extern int vyr_name_move_folder([MarshalAs(UnmanagedType.LPWStr)] string source, IntPtr source_length, [MarshalAs(UnmanagedType.LPWStr)] string destination, IntPtr destination_length, out ulong records, out int result);
         // ProgramsFeaturesFuncs
         [DllImport(Library, EntryPoint = "vyr_programs_item_get", CharSet = CharSet.Unicode)]
         public static extern int vyr_programs_item_get(ulong list, UIntPtr index, ref ProgramsItem record);
@@ -552,23 +552,23 @@ namespace Vyr
         [DllImport(Library, EntryPoint = "vyr_programs_get_programs_features_installer_products_items_list", CharSet = CharSet.Unicode)]
         public static extern int vyr_programs_get_programs_features_installer_products_items_list(out ulong result);
         [DllImport(Library, EntryPoint = "vyr_programs_get_product_icon", CharSet = CharSet.Unicode)]
-        public static extern int vyr_programs_get_product_icon([MarshalAs(UnmanagedType.LPWStr)] string icon_filter, IntPtr icon_filterLength, [MarshalAs(UnmanagedType.LPWStr)] string product_name, IntPtr product_nameLength, ProgramsProduct[] products, UIntPtr productsCount, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_programs_get_product_icon([MarshalAs(UnmanagedType.LPWStr)] string icon_filter, IntPtr icon_filter_length, [MarshalAs(UnmanagedType.LPWStr)] string product_name, IntPtr product_name_length, ProgramsProduct[] products, UIntPtr products_count, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_programs_get_application_icon", CharSet = CharSet.Unicode)]
-        public static extern int vyr_programs_get_application_icon([MarshalAs(UnmanagedType.LPWStr)] string icon_text, IntPtr icon_textLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length, out int result);
+        public static extern int vyr_programs_get_application_icon([MarshalAs(UnmanagedType.LPWStr)] string icon_text, IntPtr icon_text_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length, out int result);
         [DllImport(Library, EntryPoint = "vyr_programs_get_install_date", CharSet = CharSet.Unicode)]
-        public static extern int vyr_programs_get_install_date([MarshalAs(UnmanagedType.LPWStr)] string install_date, IntPtr install_dateLength, [MarshalAs(UnmanagedType.LPWStr)] string fallback_date, IntPtr fallback_dateLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_programs_get_install_date([MarshalAs(UnmanagedType.LPWStr)] string install_date, IntPtr install_date_length, [MarshalAs(UnmanagedType.LPWStr)] string fallback_date, IntPtr fallback_date_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_programs_get_formated_size", CharSet = CharSet.Unicode)]
-        public static extern int vyr_programs_get_formated_size([MarshalAs(UnmanagedType.LPWStr)] string text, IntPtr textLength, ulong size, int format, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_programs_get_formated_size([MarshalAs(UnmanagedType.LPWStr)] string text, IntPtr text_length, ulong size, int format, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_programs_compare_reg_key", CharSet = CharSet.Unicode)]
-        public static extern int vyr_programs_compare_reg_key([MarshalAs(UnmanagedType.LPWStr)] string key1, IntPtr key1Length, [MarshalAs(UnmanagedType.LPWStr)] string key2, IntPtr key2Length, int flag1, int flag2, int descending, out int result);
+        public static extern int vyr_programs_compare_reg_key([MarshalAs(UnmanagedType.LPWStr)] string key1, IntPtr key1_length, [MarshalAs(UnmanagedType.LPWStr)] string key2, IntPtr key2_length, int flag1, int flag2, int descending, out int result);
         [DllImport(Library, EntryPoint = "vyr_programs_get_key_parent_name", CharSet = CharSet.Unicode)]
         public static extern int vyr_programs_get_key_parent_name(IntPtr root, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_programs_is_wow6432_node", CharSet = CharSet.Unicode)]
-        public static extern int vyr_programs_is_wow6432_node([MarshalAs(UnmanagedType.LPWStr)] string key_path, IntPtr key_pathLength, out int result);
+        public static extern int vyr_programs_is_wow6432_node([MarshalAs(UnmanagedType.LPWStr)] string key_path, IntPtr key_path_length, out int result);
         [DllImport(Library, EntryPoint = "vyr_programs_get_icon_folder_name", CharSet = CharSet.Unicode)]
         public static extern int vyr_programs_get_icon_folder_name([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_programs_set_output_file_path", CharSet = CharSet.Unicode)]
-        public static extern int vyr_programs_set_output_file_path([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength);
+        public static extern int vyr_programs_set_output_file_path([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length);
         [DllImport(Library, EntryPoint = "vyr_programs_get_output_file_path", CharSet = CharSet.Unicode)]
         public static extern int vyr_programs_get_output_file_path([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_programs_set_open_output_file", CharSet = CharSet.Unicode)]
@@ -577,38 +577,38 @@ namespace Vyr
         public static extern int vyr_programs_get_open_output_file(out int result);
         // RegistryFuncs
         [DllImport(Library, EntryPoint = "vyr_registry_get_product_reg_key", CharSet = CharSet.Unicode)]
-        public static extern int vyr_registry_get_product_reg_key([MarshalAs(UnmanagedType.LPWStr)] string vendor_name, IntPtr vendor_nameLength, [MarshalAs(UnmanagedType.LPWStr)] string product_name, IntPtr product_nameLength, int version, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_registry_get_product_reg_key([MarshalAs(UnmanagedType.LPWStr)] string vendor_name, IntPtr vendor_name_length, [MarshalAs(UnmanagedType.LPWStr)] string product_name, IntPtr product_name_length, int version, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_registry_get_uninstall_product_reg_key", CharSet = CharSet.Unicode)]
-        public static extern int vyr_registry_get_uninstall_product_reg_key([MarshalAs(UnmanagedType.LPWStr)] string uninstall_key_name, IntPtr uninstall_key_nameLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_registry_get_uninstall_product_reg_key([MarshalAs(UnmanagedType.LPWStr)] string uninstall_key_name, IntPtr uninstall_key_name_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_registry_get_product_install_date", CharSet = CharSet.Unicode)]
-        public static extern int vyr_registry_get_product_install_date([MarshalAs(UnmanagedType.LPWStr)] string uninstall_key_name, IntPtr uninstall_key_nameLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_registry_get_product_install_date([MarshalAs(UnmanagedType.LPWStr)] string uninstall_key_name, IntPtr uninstall_key_name_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         // ColumnFuncs
         [DllImport(Library, EntryPoint = "vyr_column_is_visible_column", CharSet = CharSet.Unicode)]
-        public static extern int vyr_column_is_visible_column(IntPtr list_control, [MarshalAs(UnmanagedType.LPWStr)] string name, IntPtr nameLength, out int result);
+        public static extern int vyr_column_is_visible_column(IntPtr list_control, [MarshalAs(UnmanagedType.LPWStr)] string name, IntPtr name_length, out int result);
         [DllImport(Library, EntryPoint = "vyr_column_get_column_header_item", CharSet = CharSet.Unicode)]
-        public static extern int vyr_column_get_column_header_item(IntPtr list_control, [MarshalAs(UnmanagedType.LPWStr)] string name, IntPtr nameLength, out int result);
+        public static extern int vyr_column_get_column_header_item(IntPtr list_control, [MarshalAs(UnmanagedType.LPWStr)] string name, IntPtr name_length, out int result);
         [DllImport(Library, EntryPoint = "vyr_column_get_column_item_order", CharSet = CharSet.Unicode)]
-        public static extern int vyr_column_get_column_item_order(IntPtr list_control, [MarshalAs(UnmanagedType.LPWStr)] string name, IntPtr nameLength, out int result);
+        public static extern int vyr_column_get_column_item_order(IntPtr list_control, [MarshalAs(UnmanagedType.LPWStr)] string name, IntPtr name_length, out int result);
         [DllImport(Library, EntryPoint = "vyr_column_get_column_item_text", CharSet = CharSet.Unicode)]
         public static extern int vyr_column_get_column_item_text(IntPtr list_control, int index, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         // FilterFuncs
         [DllImport(Library, EntryPoint = "vyr_filter_is_match", CharSet = CharSet.Unicode)]
-        public static extern int vyr_filter_is_match([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, int mode, FilterCondition[] items, UIntPtr itemsCount, out int result);
+        public static extern int vyr_filter_is_match([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, int mode, FilterCondition[] items, UIntPtr items_count, out int result);
         [DllImport(Library, EntryPoint = "vyr_filter_is_match_name", CharSet = CharSet.Unicode)]
-        public static extern int vyr_filter_is_match_name([MarshalAs(UnmanagedType.LPWStr)] string name, IntPtr nameLength, int mode, FilterCondition[] items, UIntPtr itemsCount, out int result);
+        public static extern int vyr_filter_is_match_name([MarshalAs(UnmanagedType.LPWStr)] string name, IntPtr name_length, int mode, FilterCondition[] items, UIntPtr items_count, out int result);
         [DllImport(Library, EntryPoint = "vyr_filter_is_already_added", CharSet = CharSet.Unicode)]
-        public static extern int vyr_filter_is_already_added([MarshalAs(UnmanagedType.LPWStr)] string text, IntPtr textLength, Text[] list, UIntPtr listCount, out int result);
+        public static extern int vyr_filter_is_already_added([MarshalAs(UnmanagedType.LPWStr)] string text, IntPtr text_length, Text[] list, UIntPtr list_count, out int result);
         // SearchFuncs
         [DllImport(Library, EntryPoint = "vyr_search_is_match_path", CharSet = CharSet.Unicode)]
-        public static extern int vyr_search_is_match_path([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, int reserved, out int result);
+        public static extern int vyr_search_is_match_path([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, int reserved, out int result);
         [DllImport(Library, EntryPoint = "vyr_search_is_match", CharSet = CharSet.Unicode)]
         public static extern int vyr_search_is_match(ref SearchItem item, out int result);
         [DllImport(Library, EntryPoint = "vyr_search_is_match_date_time", CharSet = CharSet.Unicode)]
-        public static extern int vyr_search_is_match_date_time([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, out int result);
+        public static extern int vyr_search_is_match_date_time([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, out int result);
         [DllImport(Library, EntryPoint = "vyr_search_is_match_date_time_value", CharSet = CharSet.Unicode)]
-        public static extern int vyr_search_is_match_date_time_value(double value, int valueStatus, out int result);
+        public static extern int vyr_search_is_match_date_time_value(double value, int value_status, out int result);
         [DllImport(Library, EntryPoint = "vyr_search_is_match_size_path", CharSet = CharSet.Unicode)]
-        public static extern int vyr_search_is_match_size_path([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, int with_folders, out int result);
+        public static extern int vyr_search_is_match_size_path([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, int with_folders, out int result);
         [DllImport(Library, EntryPoint = "vyr_search_is_match_size", CharSet = CharSet.Unicode)]
         public static extern int vyr_search_is_match_size(long size, out int result);
         [DllImport(Library, EntryPoint = "vyr_search_get_search_closed", CharSet = CharSet.Unicode)]
@@ -630,11 +630,11 @@ namespace Vyr
         [DllImport(Library, EntryPoint = "vyr_search_get_date_time_from_date_time", CharSet = CharSet.Unicode)]
         public static extern int vyr_search_get_date_time_from_date_time(out DateAndTime result);
         [DllImport(Library, EntryPoint = "vyr_search_set_date_time_from_date_time", CharSet = CharSet.Unicode)]
-        public static extern int vyr_search_set_date_time_from_date_time(double from, int fromStatus);
+        public static extern int vyr_search_set_date_time_from_date_time(double from, int from_status);
         [DllImport(Library, EntryPoint = "vyr_search_get_date_time_to_date_time", CharSet = CharSet.Unicode)]
         public static extern int vyr_search_get_date_time_to_date_time(out DateAndTime result);
         [DllImport(Library, EntryPoint = "vyr_search_set_date_time_to_date_time", CharSet = CharSet.Unicode)]
-        public static extern int vyr_search_set_date_time_to_date_time(double to, int toStatus);
+        public static extern int vyr_search_set_date_time_to_date_time(double to, int to_status);
         [DllImport(Library, EntryPoint = "vyr_search_get_size_search", CharSet = CharSet.Unicode)]
         public static extern int vyr_search_get_size_search(out int result);
         [DllImport(Library, EntryPoint = "vyr_search_set_size_search", CharSet = CharSet.Unicode)]
@@ -700,11 +700,11 @@ namespace Vyr
         [DllImport(Library, EntryPoint = "vyr_log_get_application_log_file_path", CharSet = CharSet.Unicode)]
         public static extern int vyr_log_get_application_log_file_path([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_log_write_with_path_level", CharSet = CharSet.Unicode)]
-        public static extern int vyr_log_write_with_path_level([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, [MarshalAs(UnmanagedType.LPWStr)] string message, IntPtr messageLength, int level, out int result);
+        public static extern int vyr_log_write_with_path_level([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, [MarshalAs(UnmanagedType.LPWStr)] string message, IntPtr message_length, int level, out int result);
         [DllImport(Library, EntryPoint = "vyr_log_write_with_level", CharSet = CharSet.Unicode)]
-        public static extern int vyr_log_write_with_level([MarshalAs(UnmanagedType.LPWStr)] string message, IntPtr messageLength, int level, out int result);
+        public static extern int vyr_log_write_with_level([MarshalAs(UnmanagedType.LPWStr)] string message, IntPtr message_length, int level, out int result);
         [DllImport(Library, EntryPoint = "vyr_log_write", CharSet = CharSet.Unicode)]
-        public static extern int vyr_log_write([MarshalAs(UnmanagedType.LPWStr)] string message, IntPtr messageLength, out int result);
+        public static extern int vyr_log_write([MarshalAs(UnmanagedType.LPWStr)] string message, IntPtr message_length, out int result);
         // ApplicationFuncs
         [DllImport(Library, EntryPoint = "vyr_application_get_local_data_application_version", CharSet = CharSet.Unicode)]
         public static extern int vyr_application_get_local_data_application_version([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
@@ -732,49 +732,49 @@ namespace Vyr
         [DllImport(Library, EntryPoint = "vyr_updates_initialize_updates_information", CharSet = CharSet.Unicode)]
         public static extern int vyr_updates_initialize_updates_information();
         [DllImport(Library, EntryPoint = "vyr_updates_set_type", CharSet = CharSet.Unicode)]
-        public static extern int vyr_updates_set_type([MarshalAs(UnmanagedType.LPWStr)] string type, IntPtr typeLength);
+        public static extern int vyr_updates_set_type([MarshalAs(UnmanagedType.LPWStr)] string type, IntPtr type_length);
         [DllImport(Library, EntryPoint = "vyr_updates_get_type", CharSet = CharSet.Unicode)]
         public static extern int vyr_updates_get_type([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_updates_set_product_name", CharSet = CharSet.Unicode)]
-        public static extern int vyr_updates_set_product_name([MarshalAs(UnmanagedType.LPWStr)] string product_name, IntPtr product_nameLength);
+        public static extern int vyr_updates_set_product_name([MarshalAs(UnmanagedType.LPWStr)] string product_name, IntPtr product_name_length);
         [DllImport(Library, EntryPoint = "vyr_updates_get_product_name", CharSet = CharSet.Unicode)]
         public static extern int vyr_updates_get_product_name([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_updates_set_version", CharSet = CharSet.Unicode)]
-        public static extern int vyr_updates_set_version([MarshalAs(UnmanagedType.LPWStr)] string version, IntPtr versionLength);
+        public static extern int vyr_updates_set_version([MarshalAs(UnmanagedType.LPWStr)] string version, IntPtr version_length);
         [DllImport(Library, EntryPoint = "vyr_updates_get_version", CharSet = CharSet.Unicode)]
         public static extern int vyr_updates_get_version([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_updates_set_edition", CharSet = CharSet.Unicode)]
-        public static extern int vyr_updates_set_edition([MarshalAs(UnmanagedType.LPWStr)] string edition, IntPtr editionLength);
+        public static extern int vyr_updates_set_edition([MarshalAs(UnmanagedType.LPWStr)] string edition, IntPtr edition_length);
         [DllImport(Library, EntryPoint = "vyr_updates_get_edition", CharSet = CharSet.Unicode)]
         public static extern int vyr_updates_get_edition([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_updates_set_platform_bit", CharSet = CharSet.Unicode)]
-        public static extern int vyr_updates_set_platform_bit([MarshalAs(UnmanagedType.LPWStr)] string platform_bit, IntPtr platform_bitLength);
+        public static extern int vyr_updates_set_platform_bit([MarshalAs(UnmanagedType.LPWStr)] string platform_bit, IntPtr platform_bit_length);
         [DllImport(Library, EntryPoint = "vyr_updates_get_platform_bit", CharSet = CharSet.Unicode)]
         public static extern int vyr_updates_get_platform_bit([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_updates_set_details_url", CharSet = CharSet.Unicode)]
-        public static extern int vyr_updates_set_details_url([MarshalAs(UnmanagedType.LPWStr)] string details_url, IntPtr details_urlLength);
+        public static extern int vyr_updates_set_details_url([MarshalAs(UnmanagedType.LPWStr)] string details_url, IntPtr details_url_length);
         [DllImport(Library, EntryPoint = "vyr_updates_get_details_url", CharSet = CharSet.Unicode)]
         public static extern int vyr_updates_get_details_url([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_updates_set_download_url", CharSet = CharSet.Unicode)]
-        public static extern int vyr_updates_set_download_url([MarshalAs(UnmanagedType.LPWStr)] string download_url, IntPtr download_urlLength);
+        public static extern int vyr_updates_set_download_url([MarshalAs(UnmanagedType.LPWStr)] string download_url, IntPtr download_url_length);
         [DllImport(Library, EntryPoint = "vyr_updates_get_download_url", CharSet = CharSet.Unicode)]
         public static extern int vyr_updates_get_download_url([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_updates_set_update_items_list", CharSet = CharSet.Unicode)]
-        public static extern int vyr_updates_set_update_items_list(UpdatesItem[] items, UIntPtr itemsCount);
+        public static extern int vyr_updates_set_update_items_list(UpdatesItem[] items, UIntPtr items_count);
         [DllImport(Library, EntryPoint = "vyr_updates_get_update_items_list", CharSet = CharSet.Unicode)]
         public static extern int vyr_updates_get_update_items_list(out ulong result);
         [DllImport(Library, EntryPoint = "vyr_updates_set_checked_date", CharSet = CharSet.Unicode)]
-        public static extern int vyr_updates_set_checked_date([MarshalAs(UnmanagedType.LPWStr)] string checked_date, IntPtr checked_dateLength);
+        public static extern int vyr_updates_set_checked_date([MarshalAs(UnmanagedType.LPWStr)] string checked_date, IntPtr checked_date_length);
         [DllImport(Library, EntryPoint = "vyr_updates_get_checked_date", CharSet = CharSet.Unicode)]
         public static extern int vyr_updates_get_checked_date([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_updates_check_for_updates", CharSet = CharSet.Unicode)]
-        public static extern int vyr_updates_check_for_updates([MarshalAs(UnmanagedType.LPWStr)] string version, IntPtr versionLength, out int result);
+        public static extern int vyr_updates_check_for_updates([MarshalAs(UnmanagedType.LPWStr)] string version, IntPtr version_length, out int result);
         [DllImport(Library, EntryPoint = "vyr_updates_get_check_for_updates_url", CharSet = CharSet.Unicode)]
         public static extern int vyr_updates_get_check_for_updates_url([Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_updates_get_agree_ignore_server", CharSet = CharSet.Unicode)]
         public static extern int vyr_updates_get_agree_ignore_server(out int result);
         [DllImport(Library, EntryPoint = "vyr_updates_get_updates_information", CharSet = CharSet.Unicode)]
-        public static extern int vyr_updates_get_updates_information([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, out int result);
+        public static extern int vyr_updates_get_updates_information([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, out int result);
         [DllImport(Library, EntryPoint = "vyr_updates_load_check_for_updates_date", CharSet = CharSet.Unicode)]
         public static extern int vyr_updates_load_check_for_updates_date();
         [DllImport(Library, EntryPoint = "vyr_updates_save_check_for_updates_date", CharSet = CharSet.Unicode)]
@@ -783,18 +783,18 @@ namespace Vyr
         public static extern int vyr_updates_is_date_interval_check_for_updates(int days, out int result);
         // MSXMLFuncs
         [DllImport(Library, EntryPoint = "vyr_msxml_load_xml_file", CharSet = CharSet.Unicode)]
-        public static extern int vyr_msxml_load_xml_file([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, out IntPtr result);
+        public static extern int vyr_msxml_load_xml_file([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, out IntPtr result);
         [DllImport(Library, EntryPoint = "vyr_msxml_load_xslt_file", CharSet = CharSet.Unicode)]
-        public static extern int vyr_msxml_load_xslt_file([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, out IntPtr result);
+        public static extern int vyr_msxml_load_xslt_file([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, out IntPtr result);
         // StyleFuncs
         [DllImport(Library, EntryPoint = "vyr_style_item_get", CharSet = CharSet.Unicode)]
         public static extern int vyr_style_item_get(ulong list, UIntPtr index, ref StyleItem record);
         [DllImport(Library, EntryPoint = "vyr_style_initialize_styles_information", CharSet = CharSet.Unicode)]
         public static extern int vyr_style_initialize_styles_information();
         [DllImport(Library, EntryPoint = "vyr_style_get_styles_information", CharSet = CharSet.Unicode)]
-        public static extern int vyr_style_get_styles_information([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr pathLength, out int result);
+        public static extern int vyr_style_get_styles_information([MarshalAs(UnmanagedType.LPWStr)] string path, IntPtr path_length, out int result);
         [DllImport(Library, EntryPoint = "vyr_style_set_design_items_list", CharSet = CharSet.Unicode)]
-        public static extern int vyr_style_set_design_items_list(StyleItem[] items, UIntPtr itemsCount);
+        public static extern int vyr_style_set_design_items_list(StyleItem[] items, UIntPtr items_count);
         [DllImport(Library, EntryPoint = "vyr_style_get_design_items_list", CharSet = CharSet.Unicode)]
         public static extern int vyr_style_get_design_items_list(out ulong result);
         // XmlNodes
@@ -803,11 +803,11 @@ namespace Vyr
         [DllImport(Library, EntryPoint = "vyr_xml_get_text", CharSet = CharSet.Unicode)]
         public static extern int vyr_xml_get_text(IntPtr element, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_xml_get_attribute", CharSet = CharSet.Unicode)]
-        public static extern int vyr_xml_get_attribute(IntPtr element, [MarshalAs(UnmanagedType.LPWStr)] string name, IntPtr nameLength, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
+        public static extern int vyr_xml_get_attribute(IntPtr element, [MarshalAs(UnmanagedType.LPWStr)] string name, IntPtr name_length, [Out] char[] buffer, UIntPtr capacity, out UIntPtr length);
         [DllImport(Library, EntryPoint = "vyr_xml_count_elements", CharSet = CharSet.Unicode)]
-        public static extern int vyr_xml_count_elements(IntPtr element, [MarshalAs(UnmanagedType.LPWStr)] string name, IntPtr nameLength, out int result);
+        public static extern int vyr_xml_count_elements(IntPtr element, [MarshalAs(UnmanagedType.LPWStr)] string name, IntPtr name_length, out int result);
         [DllImport(Library, EntryPoint = "vyr_xml_get_element", CharSet = CharSet.Unicode)]
-        public static extern int vyr_xml_get_element(IntPtr element, [MarshalAs(UnmanagedType.LPWStr)] string name, IntPtr nameLength, int index, out IntPtr result);
+        public static extern int vyr_xml_get_element(IntPtr element, [MarshalAs(UnmanagedType.LPWStr)] string name, IntPtr name_length, int index, out IntPtr result);
         [DllImport(Library, EntryPoint = "vyr_xml_release", CharSet = CharSet.Unicode)]
         public static extern int vyr_xml_release(IntPtr @object);
         // HostLists
@@ -816,7 +816,7 @@ namespace Vyr
         [DllImport(Library, EntryPoint = "vyr_host_list_destroy", CharSet = CharSet.Unicode)]
         public static extern int vyr_host_list_destroy(IntPtr list, out int result);
         [DllImport(Library, EntryPoint = "vyr_host_list_insert_column", CharSet = CharSet.Unicode)]
-        public static extern int vyr_host_list_insert_column(IntPtr list, int index, [MarshalAs(UnmanagedType.LPWStr)] string heading, IntPtr headingLength, out int result);
+        public static extern int vyr_host_list_insert_column(IntPtr list, int index, [MarshalAs(UnmanagedType.LPWStr)] string heading, IntPtr heading_length, out int result);
         [DllImport(Library, EntryPoint = "vyr_host_list_delete_column", CharSet = CharSet.Unicode)]
         public static extern int vyr_host_list_delete_column(IntPtr list, int index, out int result);
         [DllImport(Library, EntryPoint = "vyr_host_list_move_column", CharSet = CharSet.Unicode)]
@@ -827,11 +827,11 @@ namespace Vyr
         [DllImport(Library, EntryPoint = "vyr_host_registry_open_result_get", CharSet = CharSet.Unicode)]
         public static extern int vyr_host_registry_open_result_get(ulong list, UIntPtr index, ref HostRegistryOpenResult record);
         [DllImport(Library, EntryPoint = "vyr_host_registry_show_wine_prefix", CharSet = CharSet.Unicode)]
-        public static extern int vyr_host_registry_show_wine_prefix([MarshalAs(UnmanagedType.LPWStr)] string folder, IntPtr folderLength, out ulong result);
+        public static extern int vyr_host_registry_show_wine_prefix([MarshalAs(UnmanagedType.LPWStr)] string folder, IntPtr folder_length, out ulong result);
         [DllImport(Library, EntryPoint = "vyr_host_registry_show_hives", CharSet = CharSet.Unicode)]
         public static extern int vyr_host_registry_show_hives(ref HostRegistryHiveFiles files, out ulong result);
         [DllImport(Library, EntryPoint = "vyr_host_registry_show_user_hives", CharSet = CharSet.Unicode)]
-        public static extern int vyr_host_registry_show_user_hives([MarshalAs(UnmanagedType.LPWStr)] string user, IntPtr userLength, [MarshalAs(UnmanagedType.LPWStr)] string user_classes, IntPtr user_classesLength, out ulong result);
+        public static extern int vyr_host_registry_show_user_hives([MarshalAs(UnmanagedType.LPWStr)] string user, IntPtr user_length, [MarshalAs(UnmanagedType.LPWStr)] string user_classes, IntPtr user_classes_length, out ulong result);
         [DllImport(Library, EntryPoint = "vyr_host_registry_close", CharSet = CharSet.Unicode)]
         public static extern int vyr_host_registry_close();
         // HostQueue

@@ -21,19 +21,19 @@ def structure(record):
 def parameters(operation):
     written = []
     for kind, name in operation.arguments:
-        name = name_of(name)
+        bare, name = snake(name), name_of(name)
         record = record_of(operation.owner, kind)
         if kind.endswith("[]&"):
             written.append(f"out ulong {name}")
         elif kind.endswith("[]"):
             element = structure(record) if record else {"text[]": "Text", "text+int[]": "TextAndNumber"}[kind]
-            written += [f"{element}[] {name}", f"UIntPtr {name}Count"]
+            written += [f"{element}[] {name}", f"UIntPtr {bare}_count"]
         elif record:
             written.append(f"ref {structure(record)} {name}")
         elif kind == "text":
-            written += [f"[MarshalAs(UnmanagedType.LPWStr)] string {name}", f"IntPtr {name}Length"]
+            written += [f"[MarshalAs(UnmanagedType.LPWStr)] string {name}", f"IntPtr {bare}_length"]
         elif kind == "date_time":
-            written += [f"double {name}", f"int {name}Status"]
+            written += [f"double {name}", f"int {bare}_status"]
         elif kind == "file_time?":
             written.append(f"ulong[] {name}")
         elif kind in HANDLES:

@@ -168,9 +168,11 @@ def add_what_headers_say(classes):
         public = public_part(item.header)
         about = re.search(rf"((?:^///[^\n]*\n)+)class (?:VYR_FUNCS_API )?{item.name}$", public, re.M)
         item.about = comment_lines(about[1]) if about else []
-        found, last = {}, []
+        found, last, last_name = {}, [], ""
         for comment, declaration in re.findall(r"((?:^    ///[^\n]*\n)*)^    static ([^;]*?);", public, re.M | re.S):
-            last = comment_lines(comment) or last
+            name = re.search(r"(\w+)\(", declaration)[1]
+            last = comment_lines(comment) or (last if name == last_name else [])
+            last_name = name
             found[plain(declaration)] = last
         for operation in item.operations:
             operation.about = found.get(operation.cpp(), [])

@@ -19,20 +19,21 @@ def conventions():
 
 
 def in_markdown(lines):
-    shown = []
+    """A header's comment with its arguments and its result as a list."""
+    shown, in_list = [], False
     for line in lines:
-        match = re.match(r"@param ([\w,]+) +(.*)", line)
-        if match:
-            shown.append(f"- `{match[1]}`: {match[2]}")
-        elif line.startswith("@"):
-            word, _, rest = line.partition(" ")
-            shown.append(f"- {({'@return': 'Result', '@throws': 'Fails with'}).get(word, word)}: {rest.strip()}")
-        else:
-            shown.append(line)
+        command = re.match(r"@(param|return|throws) +(.*)", line)
+        if not command:
+            in_list = in_list and bool(line)
+            shown.append("  " + line.strip() if in_list else line)
             continue
-        # A list begins behind an empty line.
-        if len(shown) > 1 and shown[-2] and not re.match(r"- |  ", shown[-2]):
-            shown.insert(-1, "")
+        if not in_list and shown and shown[-1]:
+            # A list begins behind an empty line.
+            shown.append("")
+        in_list = True
+        names, _, words = re.sub(r", +", ",", command[2]).partition(" ")
+        shown.append({"param": f"- `{names}`: {words.strip()}", "return": f"- Result: {command[2]}",
+                      "throws": f"- Fails with: {command[2]}"}[command[1]])
     return shown
 
 

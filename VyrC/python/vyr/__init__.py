@@ -19,6 +19,7 @@ that a result cannot tell an Error. The library is looked for beside this packag
 the system keeps libraries. It serves one thread.
 """
 import dataclasses
+from typing import Optional
 
 from . import name
 from ._library import Error, version
@@ -26,6 +27,6 @@ from ._library import Error, version
 __all__ = ["Error", "name", "rename_path", "version"]
 
 
-def rename_path(item: name.Item, index: "int | None" = None) -> str:
+def rename_path(item: name.Item, index: Optional[int] = None) -> str:
     """The new path of an entry by the rule of `item`; `index`, if given, is its index in the list."""
     return name.get_rename_file_path(item if index is None else dataclasses.replace(item, index=index))

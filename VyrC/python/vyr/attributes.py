@@ -55,45 +55,30 @@ def get_selected_read_only_attributes(text: str) -> int:
 
 def get_selected_hidden_attributes(text: str) -> int:
     r"""GetSelectedHiddenAttributes
-
-    1 (set) when the upper-case "R" occurs in `text`, else 2 (clear). The next operations do the same for their
-    letters.
     """
     return call("vyr_attributes_get_selected_hidden_attributes", INT, (TEXT, text))
 
 
 def get_selected_system_attributes(text: str) -> int:
     r"""GetSelectedSystemAttributes
-
-    1 (set) when the upper-case "R" occurs in `text`, else 2 (clear). The next operations do the same for their
-    letters.
     """
     return call("vyr_attributes_get_selected_system_attributes", INT, (TEXT, text))
 
 
 def get_selected_archive_attributes(text: str) -> int:
     r"""GetSelectedArchiveAttributes
-
-    1 (set) when the upper-case "R" occurs in `text`, else 2 (clear). The next operations do the same for their
-    letters.
     """
     return call("vyr_attributes_get_selected_archive_attributes", INT, (TEXT, text))
 
 
 def get_selected_temporary_attributes(text: str) -> int:
     r"""GetSelectedTemporaryAttributes
-
-    1 (set) when the upper-case "R" occurs in `text`, else 2 (clear). The next operations do the same for their
-    letters.
     """
     return call("vyr_attributes_get_selected_temporary_attributes", INT, (TEXT, text))
 
 
 def get_selected_not_content_indexed_attributes(text: str) -> int:
     r"""GetSelectedNotContentIndexedAttributes
-
-    1 (set) when the upper-case "R" occurs in `text`, else 2 (clear). The next operations do the same for their
-    letters.
     """
     return call("vyr_attributes_get_selected_not_content_indexed_attributes", INT, (TEXT, text))
 
@@ -111,55 +96,30 @@ def set_read_only_attributes(path: str, is_on: int) -> int:
 
 def set_hidden_attributes(path: str, is_on: int) -> int:
     r"""SetHiddenAttributes
-
-    Sets or clears the read-only attribute of the file at `path`. The next operations do the same for their
-    attributes.
-    is_on: nonzero sets it, 0 clears it.
-    Returns: nonzero on success, else 0 (no file, no permission, a file system that keeps no attributes).
     """
     return call("vyr_attributes_set_hidden_attributes", INT, (TEXT, path), (INT, is_on))
 
 
 def set_system_attributes(path: str, is_on: int) -> int:
     r"""SetSystemAttributes
-
-    Sets or clears the read-only attribute of the file at `path`. The next operations do the same for their
-    attributes.
-    is_on: nonzero sets it, 0 clears it.
-    Returns: nonzero on success, else 0 (no file, no permission, a file system that keeps no attributes).
     """
     return call("vyr_attributes_set_system_attributes", INT, (TEXT, path), (INT, is_on))
 
 
 def set_archive_attributes(path: str, is_on: int) -> int:
     r"""SetArchiveAttributes
-
-    Sets or clears the read-only attribute of the file at `path`. The next operations do the same for their
-    attributes.
-    is_on: nonzero sets it, 0 clears it.
-    Returns: nonzero on success, else 0 (no file, no permission, a file system that keeps no attributes).
     """
     return call("vyr_attributes_set_archive_attributes", INT, (TEXT, path), (INT, is_on))
 
 
 def set_temporary_attributes(path: str, is_on: int) -> int:
     r"""SetTemporaryAttributes
-
-    Sets or clears the read-only attribute of the file at `path`. The next operations do the same for their
-    attributes.
-    is_on: nonzero sets it, 0 clears it.
-    Returns: nonzero on success, else 0 (no file, no permission, a file system that keeps no attributes).
     """
     return call("vyr_attributes_set_temporary_attributes", INT, (TEXT, path), (INT, is_on))
 
 
 def set_not_content_indexed_attributes(path: str, is_on: int) -> int:
     r"""SetNotContentIndexedAttributes
-
-    Sets or clears the read-only attribute of the file at `path`. The next operations do the same for their
-    attributes.
-    is_on: nonzero sets it, 0 clears it.
-    Returns: nonzero on success, else 0 (no file, no permission, a file system that keeps no attributes).
     """
     return call("vyr_attributes_set_not_content_indexed_attributes", INT, (TEXT, path), (INT, is_on))
 

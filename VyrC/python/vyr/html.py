@@ -56,7 +56,7 @@ def get_html_closing_tag() -> str:
     `</html>` on a line of its own.
 
     >>> get_html_closing_tag()
-    '</html>\\r\\n'
+    '</html>\r\n'
     """
     return call("vyr_html_get_html_closing_tag", TEXT)
 
@@ -280,16 +280,12 @@ def get_span_closing_tag(new_line: int) -> str:
 
 def get_span_pair_tag(class_name: str, content: str, new_line: int) -> str:
     r"""GetSpanPairTag
-
-    `</span>`.
     """
     return call("vyr_html_get_span_pair_tag", TEXT, (TEXT, class_name), (TEXT, content), (INT, new_line))
 
 
 def get_span_pair_tag_with_id(class_name: str, id: str, content: str, new_line: int) -> str:
     r"""GetSpanPairTag
-
-    `</span>`.
     """
     return call("vyr_html_get_span_pair_tag_with_id", TEXT, (TEXT, class_name), (TEXT, id), (TEXT, content), (INT, new_line))
 
@@ -336,24 +332,18 @@ def get_div_closing_tag(new_line: int) -> str:
 
 def get_div_pair_tag(class_name: str, content: str, new_line: int) -> str:
     r"""GetDivPairTag
-
-    `</div>`.
     """
     return call("vyr_html_get_div_pair_tag", TEXT, (TEXT, class_name), (TEXT, content), (INT, new_line))
 
 
 def get_div_pair_tag_with_id(class_name: str, id: str, content: str, new_line: int) -> str:
     r"""GetDivPairTag
-
-    `</div>`.
     """
     return call("vyr_html_get_div_pair_tag_with_id", TEXT, (TEXT, class_name), (TEXT, id), (TEXT, content), (INT, new_line))
 
 
 def get_div_pair_tag_with_id_attributes(class_name: str, id: str, attributes: str, content: str, new_line: int) -> str:
     r"""GetDivPairTag
-
-    `</div>`.
     """
     return call("vyr_html_get_div_pair_tag_with_id_attributes", TEXT, (TEXT, class_name), (TEXT, id), (TEXT, attributes), (TEXT, content), (INT, new_line))
 
@@ -400,24 +390,18 @@ def get_a_closing_tag() -> str:
 
 def get_a_pair_tag(href: str, content: str) -> str:
     r"""GetAPairTag
-
-    `</a>`.
     """
     return call("vyr_html_get_a_pair_tag", TEXT, (TEXT, href), (TEXT, content))
 
 
 def get_a_pair_tag_with_class_name(href: str, class_name: str, content: str) -> str:
     r"""GetAPairTag
-
-    `</a>`.
     """
     return call("vyr_html_get_a_pair_tag_with_class_name", TEXT, (TEXT, href), (TEXT, class_name), (TEXT, content))
 
 
 def get_a_pair_tag_with_class_name_target(href: str, class_name: str, target: str, content: str) -> str:
     r"""GetAPairTag
-
-    `</a>`.
     """
     return call("vyr_html_get_a_pair_tag_with_class_name_target", TEXT, (TEXT, href), (TEXT, class_name), (TEXT, target), (TEXT, content))
 
@@ -536,24 +520,18 @@ def get_tr_closing_tag() -> str:
 
 def get_tr_pair_tag(content: str) -> str:
     r"""GetTrPairTag
-
-    `</tr>`.
     """
     return call("vyr_html_get_tr_pair_tag", TEXT, (TEXT, content))
 
 
 def get_tr_pair_tag_with_class_name(class_name: str, content: str) -> str:
     r"""GetTrPairTag
-
-    `</tr>`.
     """
     return call("vyr_html_get_tr_pair_tag_with_class_name", TEXT, (TEXT, class_name), (TEXT, content))
 
 
 def get_tr_pair_tag_with_class_name_id(class_name: str, id: str, content: str) -> str:
     r"""GetTrPairTag
-
-    `</tr>`.
     """
     return call("vyr_html_get_tr_pair_tag_with_class_name_id", TEXT, (TEXT, class_name), (TEXT, id), (TEXT, content))
 
@@ -576,8 +554,6 @@ def get_th_closing_tag() -> str:
 
 def get_th_pair_tag(class_name: str, content: str) -> str:
     r"""GetThPairTag
-
-    `</th>`.
     """
     return call("vyr_html_get_th_pair_tag", TEXT, (TEXT, class_name), (TEXT, content))
 
@@ -650,23 +626,17 @@ def get_td_closing_tag() -> str:
 
 def get_td_pair_tag(content: str) -> str:
     r"""GetTdPairTag
-
-    `</td>`.
     """
     return call("vyr_html_get_td_pair_tag", TEXT, (TEXT, content))
 
 
 def get_td_pair_tag_with_class_name(class_name: str, content: str) -> str:
     r"""GetTdPairTag
-
-    `</td>`.
     """
     return call("vyr_html_get_td_pair_tag_with_class_name", TEXT, (TEXT, class_name), (TEXT, content))
 
 
 def get_td_pair_tag_with_class_name_id(class_name: str, id: str, content: str) -> str:
     r"""GetTdPairTag
-
-    `</td>`.
     """
     return call("vyr_html_get_td_pair_tag_with_class_name_id", TEXT, (TEXT, class_name), (TEXT, id), (TEXT, content))

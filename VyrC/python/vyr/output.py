@@ -28,8 +28,6 @@ def get_output_file_path() -> str:
 
 def set_output_file_path(path: str) -> None:
     r"""SetOutputFilePath
-
-    The last chosen output file; empty at first.
     """
     return call("vyr_output_set_output_file_path", NOTHING, (TEXT, path))
 
@@ -44,8 +42,6 @@ def get_output_filter_index() -> int:
 
 def set_output_filter_index(index: int) -> None:
     r"""SetOutputFilterIndex
-
-    The file-type filter chosen with it; 0 at first.
     """
     return call("vyr_output_set_output_filter_index", NOTHING, (INT, index))
 

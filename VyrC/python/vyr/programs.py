@@ -217,8 +217,6 @@ def get_icon_folder_name() -> str:
 
 def set_output_file_path(path: str) -> None:
     r"""SetOutputFilePath
-
-    "icons".
     """
     return call("vyr_programs_set_output_file_path", NOTHING, (TEXT, path))
 
@@ -233,8 +231,6 @@ def get_output_file_path() -> str:
 
 def set_open_output_file(is_opened: int) -> None:
     r"""SetOpenOutputFile
-
-    Empty at first.
     """
     return call("vyr_programs_set_open_output_file", NOTHING, (INT, is_opened))
 

@@ -96,8 +96,6 @@ def get_search_closed() -> int:
 
 def set_search_closed(closed: int) -> None:
     r"""SetSearchClosed
-
-    A flag for the host; 0 at first.
     """
     return call("vyr_search_set_search_closed", NOTHING, (INT, closed))
 
@@ -112,8 +110,6 @@ def get_date_time_search() -> int:
 
 def set_date_time_search(search: int) -> None:
     r"""SetDateTimeSearch
-
-    Not 0: the date-time criterion is active; 0 at first.
     """
     return call("vyr_search_set_date_time_search", NOTHING, (INT, search))
 
@@ -128,8 +124,6 @@ def get_date_time_target() -> int:
 
 def set_date_time_target(target: int) -> None:
     r"""SetDateTimeTarget
-
-    A value of DateTimeTarget; 0 at first.
     """
     return call("vyr_search_set_date_time_target", NOTHING, (INT, target))
 
@@ -144,8 +138,6 @@ def get_date_time_range() -> int:
 
 def set_date_time_range(range: int) -> None:
     r"""SetDateTimeRange
-
-    A value of DateTimeRange; 0 at first.
     """
     return call("vyr_search_set_date_time_range", NOTHING, (INT, range))
 
@@ -160,8 +152,6 @@ def get_date_time_from_date_time() -> Optional[datetime.datetime]:
 
 def set_date_time_from_date_time(from_: Optional[datetime.datetime]) -> None:
     r"""SetDateTimeFromDateTime
-
-    The lower bound of the custom range, local time.
     """
     return call("vyr_search_set_date_time_from_date_time", NOTHING, (DATE_TIME, from_))
 
@@ -176,8 +166,6 @@ def get_date_time_to_date_time() -> Optional[datetime.datetime]:
 
 def set_date_time_to_date_time(to: Optional[datetime.datetime]) -> None:
     r"""SetDateTimeToDateTime
-
-    The upper bound of the custom range, local time.
     """
     return call("vyr_search_set_date_time_to_date_time", NOTHING, (DATE_TIME, to))
 
@@ -192,8 +180,6 @@ def get_size_search() -> int:
 
 def set_size_search(search: int) -> None:
     r"""SetSizeSearch
-
-    Not 0: the size criterion is active; 0 at first.
     """
     return call("vyr_search_set_size_search", NOTHING, (INT, search))
 
@@ -208,8 +194,6 @@ def get_size_target() -> int:
 
 def set_size_target(target: int) -> None:
     r"""SetSizeTarget
-
-    A choice for the host; 0 at first.
     """
     return call("vyr_search_set_size_target", NOTHING, (INT, target))
 
@@ -224,8 +208,6 @@ def get_size_range() -> int:
 
 def set_size_range(range: int) -> None:
     r"""SetSizeRange
-
-    A value of SizeRange; 0 at first.
     """
     return call("vyr_search_set_size_range", NOTHING, (INT, range))
 
@@ -240,8 +222,6 @@ def get_size_from_size() -> int:
 
 def set_size_from_size(from_: int) -> None:
     r"""SetSizeFromSize
-
-    The lower bound of the custom range, in bytes; 0 at first.
     """
     return call("vyr_search_set_size_from_size", NOTHING, (INT64, from_))
 
@@ -256,7 +236,5 @@ def get_size_to_size() -> int:
 
 def set_size_to_size(to: int) -> None:
     r"""SetSizeToSize
-
-    The upper bound of the custom range, in bytes; 1024 at first.
     """
     return call("vyr_search_set_size_to_size", NOTHING, (INT64, to))

@@ -63,47 +63,11 @@ def get_styles_information(path: str) -> int:
 
 def set_design_items_list(items: Sequence[Item]) -> None:
     r"""SetDesignItemsList
-
-    Reads a design document into the list:
-
-        <designs>
-          <design>
-            <moreinfo>
-              <item id="1" value="plain.css" name="Plain"/>
-              <item id="2" value="cards.css" name="Cards"/>
-            </moreinfo>
-          </design>
-        </designs>
-
-    Names match with their case, at any depth, without a prefix; the root may have any name. Of several `design`
-    elements the last one counts. An item without an attribute has the value of the item before it in the same
-    `moreinfo`; at first 0 and empty texts. A stop ends the reading: the list then has the items read so far.
-    Returns: 1 when a `design` element was read; 0 when there is none, when the document does not load (the list is
-    then empty), and when there is no file at `path` (the list is kept).
-    Raises Error: _com_error  as MSXMLFuncs::LoadXmlFile does.
     """
     return call("vyr_style_set_design_items_list", NOTHING, (List(Record(Item)), items))
 
 
 def get_design_items_list() -> ListType[Item]:
     r"""GetDesignItemsList
-
-    Reads a design document into the list:
-
-        <designs>
-          <design>
-            <moreinfo>
-              <item id="1" value="plain.css" name="Plain"/>
-              <item id="2" value="cards.css" name="Cards"/>
-            </moreinfo>
-          </design>
-        </designs>
-
-    Names match with their case, at any depth, without a prefix; the root may have any name. Of several `design`
-    elements the last one counts. An item without an attribute has the value of the item before it in the same
-    `moreinfo`; at first 0 and empty texts. A stop ends the reading: the list then has the items read so far.
-    Returns: 1 when a `design` element was read; 0 when there is none, when the document does not load (the list is
-    then empty), and when there is no file at `path` (the list is kept).
-    Raises Error: _com_error  as MSXMLFuncs::LoadXmlFile does.
     """
     return call("vyr_style_get_design_items_list", List(Record(Item)))

@@ -51,120 +51,90 @@ def set_type(type: str) -> None:
 
 def get_type() -> str:
     r"""GetType
-
-    The settings from the update document, as texts, each with its setter.
     """
     return call("vyr_updates_get_type", TEXT)
 
 
 def set_product_name(product_name: str) -> None:
     r"""SetProductName
-
-    The settings from the update document, as texts, each with its setter.
     """
     return call("vyr_updates_set_product_name", NOTHING, (TEXT, product_name))
 
 
 def get_product_name() -> str:
     r"""GetProductName
-
-    The settings from the update document, as texts, each with its setter.
     """
     return call("vyr_updates_get_product_name", TEXT)
 
 
 def set_version(version: str) -> None:
     r"""SetVersion
-
-    The settings from the update document, as texts, each with its setter.
     """
     return call("vyr_updates_set_version", NOTHING, (TEXT, version))
 
 
 def get_version() -> str:
     r"""GetVersion
-
-    The settings from the update document, as texts, each with its setter.
     """
     return call("vyr_updates_get_version", TEXT)
 
 
 def set_edition(edition: str) -> None:
     r"""SetEdition
-
-    The settings from the update document, as texts, each with its setter.
     """
     return call("vyr_updates_set_edition", NOTHING, (TEXT, edition))
 
 
 def get_edition() -> str:
     r"""GetEdition
-
-    The settings from the update document, as texts, each with its setter.
     """
     return call("vyr_updates_get_edition", TEXT)
 
 
 def set_platform_bit(platform_bit: str) -> None:
     r"""SetPlatformBit
-
-    The settings from the update document, as texts, each with its setter.
     """
     return call("vyr_updates_set_platform_bit", NOTHING, (TEXT, platform_bit))
 
 
 def get_platform_bit() -> str:
     r"""GetPlatformBit
-
-    The settings from the update document, as texts, each with its setter.
     """
     return call("vyr_updates_get_platform_bit", TEXT)
 
 
 def set_details_url(details_url: str) -> None:
     r"""SetDetailsURL
-
-    The settings from the update document, as texts, each with its setter.
     """
     return call("vyr_updates_set_details_url", NOTHING, (TEXT, details_url))
 
 
 def get_details_url() -> str:
     r"""GetDetailsURL
-
-    The settings from the update document, as texts, each with its setter.
     """
     return call("vyr_updates_get_details_url", TEXT)
 
 
 def set_download_url(download_url: str) -> None:
     r"""SetDownloadURL
-
-    The settings from the update document, as texts, each with its setter.
     """
     return call("vyr_updates_set_download_url", NOTHING, (TEXT, download_url))
 
 
 def get_download_url() -> str:
     r"""GetDownloadURL
-
-    The settings from the update document, as texts, each with its setter.
     """
     return call("vyr_updates_get_download_url", TEXT)
 
 
 def set_update_items_list(items: Sequence[Item]) -> None:
     r"""SetUpdateItemsList
-
-    The settings from the update document, as texts, each with its setter.
     """
     return call("vyr_updates_set_update_items_list", NOTHING, (List(Record(Item)), items))
 
 
 def get_update_items_list() -> ListType[Item]:
     r"""GetUpdateItemsList
-
-    The settings from the update document, as texts, each with its setter.
     """
     return call("vyr_updates_get_update_items_list", List(Record(Item)))
 
@@ -179,8 +149,6 @@ def set_checked_date(checked_date: str) -> None:
 
 def get_checked_date() -> str:
     r"""GetCheckedDate
-
-    The date of the last check, in the form of DateTimeUtils::GetCurrentDateTime; empty when it is unknown.
     """
     return call("vyr_updates_get_checked_date", TEXT)
 
