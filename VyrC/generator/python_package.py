@@ -38,7 +38,8 @@ def python_kind(owner, kind):
 def in_words(lines):
     """A header's comment as it stands in a docstring."""
     text = "\n".join(lines)
-    text = re.sub(r"^@param (\w+(?:,\w+)*) +", lambda found: ", ".join(map(python_name, found[1].split(","))) + ": ", text, flags=re.M)
+    text = re.sub(r"^@param +(\w+(?:, ?\w+)*) +",
+                  lambda found: ", ".join(map(python_name, re.findall(r"\w+", found[1]))) + ": ", text, flags=re.M)
     text = re.sub(r"^@return ", "Returns: ", text, flags=re.M)
     return re.sub(r"^@throws ", "Raises Error: ", text, flags=re.M).splitlines()
 

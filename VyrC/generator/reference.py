@@ -31,9 +31,8 @@ def in_markdown(lines):
             # A list begins behind an empty line.
             shown.append("")
         in_list = True
-        names, _, words = re.sub(r", +", ",", command[2]).partition(" ")
-        shown.append({"param": f"- `{names}`: {words.strip()}", "return": f"- Result: {command[2]}",
-                      "throws": f"- Fails with: {command[2]}"}[command[1]])
+        rule = re.sub(r"^(\w+(?:, ?\w+)*) +", r"`\1`: ", command[2]) if command[1] == "param" else command[2]
+        shown.append("- " + {"param": "", "return": "Result: ", "throws": "Fails with: "}[command[1]] + rule)
     return shown
 
 

@@ -85,7 +85,7 @@ def set_modified_file_date_time(path: str, created: Optional[datetime.datetime],
 
     A read-only file is refused. A failure writes one line to the log: the name of this operation, the path and the
     system's text of the error.
-    @param created, modified, accessed  null, or the zero file time, keeps that time. On Linux the creation time is
+    created, modified, accessed: null, or the zero file time, keeps that time. On Linux the creation time is
     kept in extended attributes; where the file system has none, the operation fails.
     Returns: nonzero on success, else 0.
     """
@@ -115,7 +115,7 @@ def get_cal_date_time(date_time: Optional[datetime.datetime], years: int, months
 
     The last day of a month stays the last day: 31 January plus one month is 28 or 29 February, 30 April plus one
     month is 31 May. Any other day keeps its number, limited to the month's length.
-    @param years, months, days  each may be negative.
+    years, months, days: each may be negative.
     Returns: `dateTime` unchanged when it is invalid, or when it or a step is outside the years 1400 to 9999; then a
     line with the calendar's text, such as "Year is out of valid range: 1400..9999", is written to the log.
 

@@ -21,6 +21,31 @@ build_preview_host() {
     cmake --build "$folder/build"
 }
 
+# build_host_in_c PREFIX FOLDER [ARGUMENT of cmake]...: makes a host in C alone, host.c, and builds it in FOLDER by CMake's
+# target. It ends with 0 when the library is of its version.
+build_host_in_c() {
+    local prefix=$1 folder=$2
+    shift 2
+    mkdir -p "$folder"
+    cat >"$folder/host.c" <<'END'
+#include <vyr.h>
+
+int main(void)
+{
+    return vyr_version() == VYR_VERSION ? 0 : 1;
+}
+END
+    cat >"$folder/CMakeLists.txt" <<'END'
+cmake_minimum_required(VERSION 3.25)
+project(HostInC LANGUAGES C)
+find_package(VyrLibrary REQUIRED)
+add_executable(host host.c)
+target_link_libraries(host PRIVATE Vyr::C)
+END
+    cmake -G Ninja -S "$folder" -B "$folder/build" -DVyrLibrary_DIR="$prefix/lib/cmake/VyrLibrary" "$@" >/dev/null
+    cmake --build "$folder/build" >/dev/null
+}
+
 # make_files FOLDER: what the host is to preview.
 make_files() {
     mkdir -p "$1/folder"
