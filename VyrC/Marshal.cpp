@@ -168,7 +168,7 @@ vyr_status TextResult::Give(const CString& text) const
     *m_length = view.size();
     if (view.size() >= m_capacity)
         return Fail(VYR_BUFFER_TOO_SMALL, u"the buffer is too small");
-    std::memcpy(m_buffer, view.data(), view.size() * sizeof *m_buffer);
+    std::memcpy(m_buffer, text.GetString(), view.size() * sizeof *m_buffer);
     m_buffer[view.size()] = 0;
     return VYR_OK;
 }
