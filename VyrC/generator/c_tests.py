@@ -1,5 +1,5 @@
 """Tests: calls with wrong arguments, the same calls in C and in C++, and the layout of the structures."""
-from .description import C, CPP, HANDLES, NOTE, NUMBERS, given_records, is_list, record_of, snake, taken_records
+from .description import C, CPP, HANDLES, NOTE, given_records, is_list, record_of, taken_records
 
 # Calls with wrong arguments.
 
@@ -165,95 +165,158 @@ def write_hostile(classes):
 # The same calls in C and in C++.
 
 
+def compared(classes):
+    """The operations that are called in both. On Windows the library for C has settings of its own, so operations that set
+    them come first. The classes for hosts in C have no others to be compared with."""
+    operations = [operation for item in classes if not item.is_own for operation in item.operations if not operation.acts]
+    return sorted(operations, key=lambda operation: operation.result != "nothing")
+
+
+def next_in_c(kind):
+    """The next value of a type, in C; `values` is a pointer."""
+    name = {"text": "text", "date_time": "date_time", "guid": "guid", "text+int": "text_and_number"}.get(kind)
+    return f"next_{name}(values)" if name else f"({C[kind]})next_number(values)"
+
+
+def shown_in_c(kind, value):
+    """The statement that shows a value in C."""
+    shows = {"text": "show_text", "date_time": "show_date_time", "guid": "show_guid", "int": "show_signed",
+             "int64": "show_signed", "xml_document": "show_object"}
+    return f"{shows.get(kind, 'show_unsigned')}({value});"
+
+
+def write_calls_in_c(classes):
+    lines = [f"/* Calls each operation with the shared values; {NOTE}. */", '#include "SameInC.h"', "",
+             '#include "SharedValues.h"', "", "#include <stdlib.h>", ""]
+    used = {record_of(operation.owner, kind) for operation in compared(classes) for kind, _ in operation.arguments}
+    for item in classes:
+        for record in [record for record in item.records.values() if record in used]:
+            lines += [f"static {record.c} make_{record.c}(shared_values* values)", "{", f"    {record.c} record = {{0}};",
+                      "    record.struct_size = sizeof record;"]
+            lines += [f"    record.{field.c} = {next_in_c(field.kind)};" for field in record.fields]
+            lines += ["    return record;", "}", ""]
+    for operation in compared(classes):
+        lines += call_in_c(operation)
+    return "\n".join(lines)
+
+
+def write_calls_header(classes):
+    lines = ["/* clang-format off */", f"/* Each calls an operation with the values of a round, and gives what came of it; {NOTE}. */",
+             "#ifndef SAME_IN_C_H", "#define SAME_IN_C_H", "", "#include <stddef.h>", "", "#ifdef __cplusplus",
+             'extern "C" {', "#endif", ""]
+    lines += [f"const char* same_{operation.c[4:]}(size_t round);" for operation in compared(classes)]
+    return "\n".join(lines + ["", "#ifdef __cplusplus", "}", "#endif", "", "#endif", ""])
+
+
+def call_in_c(operation):
+    """The function that calls one operation."""
+    item = operation.owner
+    lines = [f"const char* same_{operation.c[4:]}(size_t round)", "{", "    shared_values all = {0};",
+             "    shared_values* const values = &all;", "    vyr_status status;"]
+    made, given = ["    all.next = round;", "    begin_showing();"], []
+    for number, (kind, name) in enumerate(operation.arguments):
+        record, value = record_of(item, kind), f"a{number}"
+        if kind.endswith("[]"):
+            c = list_of(item, kind)
+            lines.append(f"    {c} {value}[2];")
+            source = f"make_{c}(values)" if record else next_in_c(kind[:-2])
+            made += [f"    {value}[{at}] = {source};" for at in (0, 1)]
+            given.append(f"{value}, 2")
+        elif record or kind in ("guid", "text", "date_time"):
+            c = record.c if record else C[kind]
+            lines.append(f"    {c} {value};")
+            made.append(f"    {value} = {f'make_{c}(values)' if record else next_in_c(kind)};")
+            given.append({"text": f"{value}.units, {value}.length", "date_time": f"{value}.days, {value}.status"}.get(kind, f"&{value}"))
+        elif kind == "list_control":
+            given.append("0")
+        elif kind in HANDLES:
+            lines.append(f"    intptr_t {value};")
+            made.append(f"    {value} = next_handle(values);")
+            given.append(value)
+        else:
+            lines.append(f"    {C[kind]} {value};")
+            made.append(f"    {value} = {next_in_c(kind)};")
+            given.append(value)
+    result, record = operation.result, record_of(item, operation.result)
+    if result in ("text", "text+int"):
+        more = ", &number" if result == "text+int" else ""
+        lines += ["    vyr_text text = {0, 0};", "    uint16_t* buffer = 0;", "    size_t length = 0;"]
+        lines += ["    int32_t number = 0;"] * bool(more)
+        first = ", ".join(given + ["0, 0, &length"]) + more
+        again = ", ".join(given + ["buffer, length + 1, &length"]) + more
+        made += [f"    status = {operation.c}({first});", "    if (status == VYR_BUFFER_TOO_SMALL) {",
+                 "        buffer = malloc((length + 1) * sizeof *buffer);", f"        status = {operation.c}({again});",
+                 "    }", "    text.units = buffer;", "    text.length = (ptrdiff_t)length;", "    if (status != VYR_OK)",
+                 "        show_failure(status);", "    else", "        show_text(text);"]
+        made += ['    show_word("/");', "    show_signed(number);"] * bool(more)
+        made.append("    free(buffer);")
+    elif result == "nothing":
+        made += [f"    status = {operation.c}({', '.join(given)});", "    if (status != VYR_OK)", "        show_failure(status);",
+                 "    else", '        show_word("done");']
+    elif is_list(item, result):
+        c = record.c if record else "vyr_text"
+        lines += ["    vyr_list list = 0;", "    size_t count = 0;", "    size_t index;", f"    {c} found = {{0}};"]
+        made += [f"    status = {operation.c}({', '.join(given + ['&list'])});", "    if (status != VYR_OK)",
+                 "        show_failure(status);", "    else", "        status = vyr_list_get_count(list, &count);"]
+        made += ["    found.struct_size = sizeof found;"] * bool(record)
+        made += ["    for (index = 0; index < count; ++index) {",
+                 f"        if ({c}_get(list, index, &found) != VYR_OK)", '            show_word("no record");']
+        shown = [shown_in_c(field.kind, f"found.{field.c}") for field in record.fields] if record else ["show_text(found);"]
+        for number, statement in enumerate(shown):
+            made += ['        show_word("|");'] * bool(number) + [f"        {statement}"]
+        made += ['        show_word("\\n");', "    }", "    if (status == VYR_OK && vyr_list_release(list) != VYR_OK)",
+                 '        show_word("not released");']
+    else:
+        pointer = "0" if C[result].endswith("*") else "{0}" if result in ("date_time", "guid") else "0"
+        lines.append(f"    {C[result]} result = {pointer};")
+        made += [f"    status = {operation.c}({', '.join(given + ['&result'])});", "    if (status != VYR_OK)",
+                 "        show_failure(status);", "    else", f"        {shown_in_c(result, 'result')}"]
+    unused = ["    (void)values;"] if not any("values" in line for line in made) else []
+    return lines + made + unused + ["    return all_shown();", "}", ""]
+
+
 def write_comparison(classes):
-    # The classes for hosts in C have no others to be compared with.
     classes = [item for item in classes if not item.is_own]
     lines = [f"// Calls each operation through C and in C++ with the same values; {NOTE}.", "// clang-format off",
-             '#include "SameValues.h"', ""]
+             '#include "SameInC.h"', '#include "SameValues.h"', ""]
     lines += [f"#include <{item.header}>" for item in classes]
     lines += ["", "using namespace VyrLibraryFuncs;", "", "namespace VyrCTests {", ""]
     for item in classes:
-        for record in item.records.values():
-            if record in taken_records(item):
-                lines += [f"inline {record.cpp} Make(Values& values, const {record.cpp}*)", "{", f"    {record.cpp} record;"]
-                lines += [f"    record.{field.name} = values.Next<{CPP[field.kind]}>();" for field in record.fields]
-                lines += ["    return record;", "}", f"inline {record.c} InC(const {record.cpp}& record)", "{", f"    {record.c} made{{}};",
-                          "    made.struct_size = sizeof made;"]
-                lines += [f"    made.{field.c} = {f'record.{field.name}' if field.kind in NUMBERS else f'InC(record.{field.name})'};"
-                          for field in record.fields]
-                lines += ["    return made;", "}"]
+        for record in taken_records(item):
+            lines += [f"inline {record.cpp} Make(Values& values, const {record.cpp}*)", "{", f"    {record.cpp} record;"]
+            lines += [f"    record.{field.name} = values.Next<{CPP[field.kind]}>();" for field in record.fields]
+            lines += ["    return record;", "}"]
     for _, record in given_records(classes):
         lines += [f"inline std::string Show(const {record.cpp}& record)", "{", "    return "
-                  + ' + "|" + '.join(f"Show(record.{field.name})" for field in record.fields) + ";", "}",
-                  f"inline std::string Show(const {record.c}& record)", "{", "    return "
-                  + ' + "|" + '.join(f"Show(record.{field.c})" for field in record.fields) + ";", "}"]
+                  + ' + "|" + '.join(f"Show(record.{field.name})" for field in record.fields) + ";", "}"]
     lines += ["", "} // namespace VyrCTests", "", '#include "SameCalls.h"', "", "using namespace VyrCTests;", ""]
-    # On Windows the library for C has settings of its own, so operations that set them come first in both.
-    compared = [operation for item in classes for operation in item.operations if not operation.acts]
-    for operation in sorted(compared, key=lambda operation: operation.result != "nothing"):
-        lines += compared_calls(operation)
-    return "\n".join(line for line in lines if line is not None)
+    for operation in compared(classes):
+        lines += compared_call(operation)
+    return "\n".join(lines)
 
 
-def compared_calls(operation):
+def compared_call(operation):
     """The test that compares one operation."""
-    item = operation.owner
-    lines = [f"TEST(SameInCAndCpp, {operation.c[4:]})", "{", "    for (int round = 0; round < rounds; ++round) {",
-             "        ExpectSame([&] {", "            Values values(round);"]
-    given, own = [], []
+    item, result = operation.owner, operation.result
+    lines, own = [], []
     for number, (kind, name) in enumerate(operation.arguments):
-        record = record_of(item, kind)
-        value = f"a{number}"
+        record, value = record_of(item, kind), f"a{number}"
         if kind.endswith("[]"):
             cpp = CPP.get(kind[:-2], record.cpp if record else "")
-            lines += [f"            const std::vector<{cpp}> {value}{{values.Next<{cpp}>(), values.Next<{cpp}>()}};",
-                      f"            const {list_of(item, kind)} c{number}[] = {{InC({value}[0]), InC({value}[1])}};"]
-            given.append(f"c{number}, 2")
-        elif record or kind == "guid":
-            cpp, c = (record.cpp, record.c) if record else ("GUID", "vyr_guid")
-            lines += [f"            const auto {value} = values.Next<{cpp}>();",
-                      f"            const {c} c{number} = InC({value});"]
-            given.append(f"&c{number}")
-        elif kind == "text":
-            lines.append(f"            const auto {value} = values.Next<CString>();")
-            given.append(f"InC({value}).units, InC({value}).length")
-        elif kind == "date_time":
-            lines.append(f"            const auto {value} = values.Next<COleDateTime>();")
-            given.append(f"InC({value}).days, InC({value}).status")
+            lines.append(f"        const std::vector<{cpp}> {value}{{values.Next<{cpp}>(), values.Next<{cpp}>()}};")
         elif kind == "list_control":
-            lines.append(f"            CListCtrl {value};")
-            given.append("0")
-        elif kind in HANDLES:
-            lines.append(f"            const auto {value} = values.Next<{CPP[kind]}>();")
-            given.append(f"reinterpret_cast<std::intptr_t>({value})")
+            lines.append(f"        CListCtrl {value};")
         else:
-            lines.append(f"            const auto {value} = values.Next<{CPP[kind]}>();")
-            given.append(value)
+            lines.append(f"        const auto {value} = values.Next<{record.cpp if record else CPP[kind]}>();")
         own.append(value)
     call = f"{item.name}::{operation.name}({', '.join(own)})"
     if operation.repeats:
         call = f"Each({own[0]}, &{item.name}::{operation.repeats.name})"
-    result = operation.result
-    record = record_of(item, result)
-    if result in ("text", "text+int"):
-        more = given + ["buffer", "capacity", "length"] + (["&number"] if result == "text+int" else [])
-        lines.append("            std::int32_t number = 0;" if result == "text+int" else "")
-        seen = "ShowText" if result == "text" else "ShowTextAndNumber"
-        extra = ", number" if result == "text+int" else ""
-        lines.append(f"            return Pair{{{seen}([&](std::uint16_t* buffer, std::size_t capacity, std::size_t* length) "
-                     f"{{ return {operation.c}({', '.join(more)}); }}{extra}), ShowCpp([&] {{ return {call}; }})}};")
-    elif result == "nothing":
-        lines.append(f"            return Pair{{ShowStatus({operation.c}({', '.join(given)})), "
-                     f"ShowNothing([&] {{ {call}; }})}};")
-    elif is_list(item, result):
-        c, get = (record.c, f"{record.c}_get") if record else ("vyr_text", "vyr_text_get")
-        lines.append(f"            return Pair{{ShowList<{c}>([&](vyr_list* list) "
-                     f"{{ return {operation.c}({', '.join(given + ['list'])}); }}, &{get}), "
-                     f"ShowCpp([&] {{ return {call if '[]' in result else f'std::vector{{{call}}}'}; }})}};")
-    else:
-        lines.append(f"            return Pair{{ShowNumber<{C[result]}>([&]({C[result]}* place) "
-                     f"{{ return {operation.c}({', '.join(given + ['place'])}); }}), ShowCpp([&] {{ return {call}; }})}};")
-    return lines + ["        });", "    }", "}", ""]
+    if record_of(item, result) and "[]" not in result:
+        call = f"std::vector{{{call}}}"
+    values = "values" if any("values." in line for line in lines) else ""
+    return [f"TEST(SameInCAndCpp, {operation.c[4:]})", "{", f"    ExpectSame(&same_{operation.c[4:]}, [](Values& {values}) {{", *lines,
+            f"        return ShowCpp([&] {{ return {call}; }});", "    });", "}", ""]
 
 
 # The layout, for every compiler with 64-bit pointers.

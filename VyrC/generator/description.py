@@ -99,6 +99,8 @@ def read_interface():
             result, name, arguments, c_name, acts, on_many, since = match.groups()
             arguments = [tuple(argument.split(" ")) for argument in arguments.split(", ") if argument]
             operation = Operation(classes[-1], result, name, arguments, c_name, bool(acts), since or "")
+            if acts and result.startswith("text"):
+                sys.exit(f"interface.txt: {name}: what acts is not called again for a larger buffer, so it gives no text")
             classes[-1].operations.append(operation)
             if on_many:
                 (kind, argument), = arguments

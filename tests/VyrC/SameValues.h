@@ -1,125 +1,78 @@
-// For tests: values for all types of the C interface, and how they are shown to be compared.
+// For tests: the shared values as those of C++, and how results of C++ are shown to be compared.
 #pragma once
 
-#include <VyrC/vyr.h>
+#include "SharedValues.h"
+
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/controls/CListCtrl.h>
 #include <VyrPlatform/documents/XmlTypes.h>
 #include <VyrPlatform/text/CString.h>
-#include <VyrPlatform/text/Encoding.h>
 #include <VyrPlatform/time/COleDateTime.h>
 
 #include <array>
-#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
 #include <cstring>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace VyrCTests {
 
-/// The values of one round, each other than the last of its type. None is the path of a file that is there.
+/// The values of one round.
 class Values
 {
 public:
-    explicit Values(int round) : m_next(static_cast<std::size_t>(round)) {}
+    explicit Values(int round) : m_values{static_cast<std::size_t>(round)} {}
 
     template <class Type>
     Type Next()
     {
-        const std::size_t number = m_next;
-        m_next += 5;
         if constexpr (std::is_same_v<Type, CString>) {
-            static const std::array<CString, 7> texts = {
-                u"",        u"/no such/a b.txt",    u"IMG_0001.JPG", u"<Folder>%s", u"C:\\none\\x.y.z",
-                u"1.2.3.4", CString(u'\x4e2d', 300)};
-            return texts[number % texts.size()];
+            const vyr_text text = next_text(&m_values);
+            return std::u16string_view(reinterpret_cast<const char16_t*>(text.units),
+                                       static_cast<std::size_t>(text.length));
         } else if constexpr (std::is_same_v<Type, COleDateTime>) {
-            static const std::array<double, 5> days = {0.0, 45322.25, -1.75, 2.5, 45000.9999};
-            COleDateTime moment(days[number % days.size()]);
-            if (number % 7 == 6)
-                moment.SetStatus(COleDateTime::null);
+            const vyr_date_time given = next_date_time(&m_values);
+            COleDateTime moment(given.days);
+            if (given.status != 0)
+                moment.SetStatus(static_cast<COleDateTime::DateTimeStatus>(given.status));
             return moment;
         } else if constexpr (std::is_same_v<Type, GUID>) {
-            return {static_cast<std::uint32_t>(number), 2, 3, {4, 5, 6, 7, 8, 9, 10, 11}};
+            const vyr_guid given = next_guid(&m_values);
+            GUID id{given.data1, given.data2, given.data3, {}};
+            std::memcpy(id.Data4, given.data4, sizeof id.Data4);
+            return id;
         } else if constexpr (std::is_same_v<Type, std::pair<CString, int>>) {
             return {Next<CString>(), Next<int>()};
         } else if constexpr (std::is_pointer_v<Type>) {
-            return reinterpret_cast<Type>(static_cast<std::intptr_t>(number % 3));
+            return reinterpret_cast<Type>(next_handle(&m_values));
         } else if constexpr (std::is_integral_v<Type>) {
-            static const std::array<int, 7> numbers = {0, 1, 2, 3, -1, 4, 260};
-            return static_cast<Type>(numbers[number % numbers.size()]);
+            return static_cast<Type>(next_number(&m_values));
         } else {
             return Make(*this, static_cast<const Type*>(nullptr));
         }
     }
 
 private:
-    std::size_t m_next;
+    shared_values m_values;
 };
-
-inline vyr_text InC(const CString& text)
-{
-    return {reinterpret_cast<const std::uint16_t*>(text.GetString()), text.GetLength()};
-}
-
-inline vyr_date_time InC(const COleDateTime& moment)
-{
-    return {moment, moment.GetStatus()};
-}
-
-inline vyr_guid InC(const GUID& id)
-{
-    vyr_guid made{};
-    static_assert(sizeof made == sizeof id);
-    std::memcpy(&made, &id, sizeof made);
-    return made;
-}
-
-inline vyr_text_and_number InC(const std::pair<CString, int>& both)
-{
-    return {InC(both.first), both.second};
-}
 
 inline std::string Show(const CString& text)
 {
-    return VyrPlatform::Encoding::ToNameBytes(text);
-}
-
-inline std::string Show(const vyr_text& text)
-{
-    return Show(CString(
-        std::u16string_view(reinterpret_cast<const char16_t*>(text.units), static_cast<std::size_t>(text.length))));
-}
-
-inline std::string Show(const vyr_date_time& moment)
-{
-    return std::to_string(moment.days) + '/' + std::to_string(moment.status);
-}
-
-inline std::string Show(const COleDateTime& moment)
-{
-    return Show(InC(moment));
-}
-
-inline std::string Show(const FILETIME& moment)
-{
-    return std::to_string(std::uint64_t{moment.dwHighDateTime} << 32 | moment.dwLowDateTime);
-}
-
-inline std::string Show(const vyr_guid& id)
-{
     std::string shown;
-    for (const unsigned char byte : std::bit_cast<std::array<unsigned char, sizeof id>>(id))
-        shown += std::to_string(byte) + ' ';
+    for (const char16_t unit : text.View()) {
+        std::array<char, 8> part{};
+        if (unit > 31 && unit < 127)
+            part[0] = static_cast<char>(unit);
+        else
+            std::snprintf(part.data(), part.size(), "\\%04x", static_cast<unsigned>(unit));
+        shown += part.data();
+    }
     return shown;
-}
-
-inline std::string Show(const GUID& id)
-{
-    return Show(InC(id));
 }
 
 template <class Number>
@@ -128,19 +81,32 @@ requires std::is_arithmetic_v<Number> std::string Show(Number number)
     return std::to_string(number);
 }
 
-inline std::string Show(const void* object)
+inline std::string Show(const COleDateTime& moment)
 {
-    return object ? "object" : "none";
+    return Show(static_cast<double>(moment)) + '/' + Show(static_cast<int>(moment.GetStatus()));
+}
+
+inline std::string Show(const FILETIME& moment)
+{
+    return std::to_string(std::uint64_t{moment.dwHighDateTime} << 32 | moment.dwLowDateTime);
+}
+
+inline std::string Show(const GUID& id)
+{
+    std::string shown = Show(id.Data1) + ' ' + Show(id.Data2) + ' ' + Show(id.Data3);
+    for (const unsigned char byte : id.Data4)
+        shown += ' ' + Show(byte);
+    return shown;
 }
 
 inline std::string Show(const MSXML2::IXMLDOMDocumentPtr& document)
 {
-    return Show(static_cast<const void*>(document.GetInterfacePtr()));
+    return document ? "object" : "none";
 }
 
 inline std::string Show(const std::pair<CString, int>& both)
 {
-    return Show(both.first) + '/' + std::to_string(both.second);
+    return Show(both.first) + '/' + Show(both.second);
 }
 
 } // namespace VyrCTests
