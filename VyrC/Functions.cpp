@@ -3384,8 +3384,7 @@ vyr_status vyr_xml_get_root(void* document, void** result)
 {
     return Guard([&] {
         const NumberResult numberResult(result);
-        RequireObject(document, "document");
-        auto argument0 = static_cast<IDispatch*>(document);
+        auto argument0 = GivenObject(document, "document");
         return numberResult.Give(ToC(XmlNodes::GetRoot(argument0)));
     });
 }
@@ -3394,8 +3393,7 @@ vyr_status vyr_xml_get_text(void* element, uint16_t* buffer, size_t capacity, si
 {
     return Guard([&] {
         const TextResult textResult(buffer, capacity, length);
-        RequireObject(element, "element");
-        auto argument0 = static_cast<IDispatch*>(element);
+        auto argument0 = GivenObject(element, "element");
         return textResult.Give(XmlNodes::GetText(argument0));
     });
 }
@@ -3410,8 +3408,7 @@ vyr_status vyr_xml_get_attribute(
 {
     return Guard([&] {
         const TextResult textResult(buffer, capacity, length);
-        RequireObject(element, "element");
-        auto argument0 = static_cast<IDispatch*>(element);
+        auto argument0 = GivenObject(element, "element");
         auto argument1 = ToText(name, name_length, "name");
         return textResult.Give(XmlNodes::GetAttribute(argument0, std::move(argument1)));
     });
@@ -3421,8 +3418,7 @@ vyr_status vyr_xml_count_elements(void* element, const uint16_t* name, ptrdiff_t
 {
     return Guard([&] {
         const NumberResult numberResult(result);
-        RequireObject(element, "element");
-        auto argument0 = static_cast<IDispatch*>(element);
+        auto argument0 = GivenObject(element, "element");
         auto argument1 = ToText(name, name_length, "name");
         return numberResult.Give(XmlNodes::CountElements(argument0, std::move(argument1)));
     });
@@ -3432,8 +3428,7 @@ vyr_status vyr_xml_get_element(void* element, const uint16_t* name, ptrdiff_t na
 {
     return Guard([&] {
         const NumberResult numberResult(result);
-        RequireObject(element, "element");
-        auto argument0 = static_cast<IDispatch*>(element);
+        auto argument0 = GivenObject(element, "element");
         auto argument1 = ToText(name, name_length, "name");
         return numberResult.Give(ToC(XmlNodes::GetElement(argument0, std::move(argument1), index)));
     });
@@ -3442,8 +3437,7 @@ vyr_status vyr_xml_get_element(void* element, const uint16_t* name, ptrdiff_t na
 vyr_status vyr_xml_release(void* object)
 {
     return Guard([&] {
-        RequireObject(object, "object");
-        auto argument0 = static_cast<IDispatch*>(object);
+        auto argument0 = GivenObject(object, "object");
         XmlNodes::Release(argument0);
         return VYR_OK;
     });

@@ -45,6 +45,14 @@ Lists& AllLists()
     return lists;
 }
 
+/// How many references the host has to each object that it was given, by its address. Such objects belong to the thread
+/// that read the document.
+std::map<const void*, int>& GivenObjects()
+{
+    thread_local std::map<const void*, int> objects;
+    return objects;
+}
+
 void Release(vyr_list handle)
 {
     // Destroyed outside the lock.
@@ -104,6 +112,23 @@ CString ToText(const std::uint16_t* units, std::ptrdiff_t length, const char* ar
     if (view.size() > INT_MAX)
         Refuse(argument);
     return view;
+}
+
+IDispatch* GivenObject(void* object, const char* argument)
+{
+    if (!object)
+        return nullptr;
+    const auto found = GivenObjects().find(object);
+    if (found == GivenObjects().end())
+        Refuse(argument);
+    return static_cast<IDispatch*>(object);
+}
+
+void TakeBack(IDispatch* object)
+{
+    const auto found = GivenObjects().find(object);
+    if (found != GivenObjects().end() && --found->second == 0)
+        GivenObjects().erase(found);
 }
 
 COleDateTime ToDateTime(double days, std::int32_t status, const char* argument)
@@ -192,6 +217,8 @@ vyr_guid ToC(const GUID& id)
 
 void* ToC(IDispatch* object)
 {
+    if (object)
+        ++GivenObjects()[object];
     return object;
 }
 
@@ -199,7 +226,7 @@ void* ToC(const MSXML2::IXMLDOMDocumentPtr& document)
 {
     if (document)
         document->AddRef();
-    return static_cast<IDispatch*>(document.GetInterfacePtr());
+    return ToC(static_cast<IDispatch*>(document.GetInterfacePtr()));
 }
 
 vyr_text ToC(const CString& text)

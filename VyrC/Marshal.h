@@ -102,6 +102,10 @@ template <class Record>
         [[unlikely]]
         kept = ToText(text, argument);
 }
+/// Refuses an object that the host was not given, or has released; a null pointer is accepted.
+[[nodiscard]] IDispatch* GivenObject(void* object, const char* argument);
+/// The host has one reference less.
+void TakeBack(IDispatch* object);
 [[nodiscard]] COleDateTime ToDateTime(double days, std::int32_t status, const char* argument);
 [[nodiscard]] inline COleDateTime ToDateTime(const vyr_date_time& moment, const char* argument)
 {
@@ -203,6 +207,7 @@ private:
 }
 /// The host gets the reference.
 [[nodiscard]] void* ToC(IDispatch* object);
+/// The host gets one of its own.
 [[nodiscard]] void* ToC(const MSXML2::IXMLDOMDocumentPtr& document);
 /// Valid as long as `text` lives.
 [[nodiscard]] vyr_text ToC(const CString& text);

@@ -1,5 +1,6 @@
 #include <VyrC/XmlNodes.h>
 
+#include <VyrC/Marshal.h>
 #include <VyrPlatform/documents/ComText.h>
 
 using MSXML2::IXMLDOMDocumentPtr;
@@ -84,8 +85,10 @@ IDispatch* XmlNodes::GetElement(IDispatch* element, CString name, int index)
 
 void XmlNodes::Release(IDispatch* object)
 {
-    if (object)
-        object->Release();
+    if (!object)
+        return;
+    TakeBack(object);
+    object->Release();
 }
 
 } // namespace VyrC

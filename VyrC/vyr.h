@@ -17,9 +17,10 @@
  *            record live as long as the list.
  * Date-time  Days since 30 December 1899, local time, and a status: 0 valid, 1 invalid, 2 null.
  * File time  Intervals of 100 nanoseconds since 1 January 1601 UTC; 0 is none.
- * Object     On Windows a pointer to an interface of COM. On Linux a pointer that the library gave out, or one to an
- *            object of the host whose first word is the address of a table of functions, in the order of COM's interface.
- *            It is trusted. The host releases what it was given, with vyr_xml_release.
+ * Object     An XML document or element that the library gave out: on Windows an interface of COM, on Linux the library's
+ *            own. The host gives it back with vyr_xml_release, on the same thread. Any other pointer is a wrong argument.
+ *            A page's document object is the host's own: on Windows an interface of COM, on Linux an object whose first
+ *            word is the address of a table of functions in the order of that interface. It is trusted.
  * Version    A function that came after the first version says so in its name in the library, as
  *            vyr_name_of_operation_since_0_2: a host that needs it does not link with an older library.
  * Yes, no    1 and 0, as an int32_t.

@@ -35,6 +35,8 @@ def parameters(operation):
             written.append(f"const vyr_{kind}* {name}")
         elif kind == "value?":
             written.append(f"const vyr_value* {name}")
+        elif kind == "document":
+            written.append(f"void* {name}")
         else:
             written.append(f"{C[kind]} {name}")
     text = ["uint16_t* buffer", "size_t capacity", "size_t* length"]
@@ -125,8 +127,10 @@ def converted(operation, kind, name):
         return f"{c_name}_made", [f"CListCtrl {c_name}_made = ToListControl({c_name});"]
     if kind in HANDLES:
         return f"ToHandle<{CPP[kind]}>({c_name})", []
-    if kind == "object":
+    if kind == "document":
         return f"static_cast<IDispatch*>({c_name})", [f'RequireObject({c_name}, "{c_name}");']
+    if kind == "object":
+        return f'GivenObject({c_name}, "{c_name}")', []
     if kind == "drain":
         return f"ToDrain({c_name}, context)", []
     if kind == "rect":
@@ -163,7 +167,7 @@ def body(operation):
             arguments.append(f"argument{number}")
         else:
             lines.append(f"auto argument{number} = {expression};")
-            arguments.append(f"argument{number}" if kind in HANDLES + ("object",) else f"std::move(argument{number})")
+            arguments.append(f"argument{number}" if kind in HANDLES + ("document", "object") else f"std::move(argument{number})")
     call = f"{operation.owner.name}::{operation.name}({', '.join(arguments)})"
     if operation.repeats:
         lines.append(f"return listResult.Give({arguments[0]});")

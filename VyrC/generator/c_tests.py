@@ -56,8 +56,10 @@ def good_and_bad(operation):
                                  ("&unknown_value", f"unknown type of {name}"), ("&null_text_value", f"null text in {name}"),
                                  ("&wide_value", f"{name} that its type cannot hold"),
                                  ("&null_bytes_value", f"null bytes in {name}")]))
-        elif kind == "object":
+        elif kind == "document":
             groups.append(("0", [("misaligned", f"misaligned {name}")]))
+        elif kind == "object":
+            groups.append(("0", [("misaligned", f"misaligned {name}"), ("space", f"{name} that the library did not give")]))
         elif kind == "drain":
             groups.append(("0, 0", []))
         elif kind in ("rect", "guid"):

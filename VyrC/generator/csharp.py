@@ -36,7 +36,7 @@ def parameters(operation):
             written += [f"double {name}", f"int {bare}_status"]
         elif kind == "file_time?":
             written.append(f"ulong[] {name}")
-        elif kind in HANDLES:
+        elif kind in HANDLES + ("document",):
             written.append(f"IntPtr {name}")
         elif kind == "drain":
             written += [f"Drain {name}", "IntPtr context"]

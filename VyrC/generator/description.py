@@ -11,7 +11,7 @@ NOTE = "written by VyrC/generate from VyrC/interface.txt"
 # The type in C++, and in C as a field of a record and as a result.
 CPP = {"text": "CString", "int": "int", "uint32": "std::uint32_t", "int64": "std::int64_t", "uint64": "std::uint64_t",
        "date_time": "COleDateTime", "file_time": "FILETIME", "file_time?": "const FILETIME*", "window": "HWND",
-       "list_control": "CListCtrl&", "key": "HKEY", "object": "IDispatch*", "rect": "CRect", "guid": "GUID",
+       "list_control": "CListCtrl&", "key": "HKEY", "document": "IDispatch*", "object": "IDispatch*", "rect": "CRect", "guid": "GUID",
        "value?": "PROPVARIANT*", "xml_document": "MSXML2::IXMLDOMDocumentPtr",
        "drain": "VyrPlatform::MessageQueue::MainLoopPass", "text+int": "std::pair<CString, int>", "nothing": "void"}
 C = {"int": "int32_t", "uint32": "uint32_t", "int64": "int64_t", "uint64": "uint64_t", "text": "vyr_text",

@@ -12,7 +12,7 @@ PYTHON = {"text": ("TEXT", "str", '""'), "int": ("INT", "int", "0"), "uint32": (
           "file_time?": ("FILE_TIME", "Optional[datetime.datetime]", "None"),
           "text+int": ("TEXT_AND_INT", "Tuple[str, int]", ""), "nothing": ("NOTHING", "None", ""),
           "rect": ("RECT", "Tuple[int, int, int, int]", ""), "window": ("HANDLE", "int", "0"), "key": ("HANDLE", "int", "0"),
-          "list_control": ("HANDLE", "int", "0"), "object": ("OBJECT", "Optional[Object]", ""),
+          "list_control": ("HANDLE", "int", "0"), "document": ("HANDLE", "int", "0"), "object": ("OBJECT", "Optional[Object]", ""),
           "xml_document": ("OBJECT", "Optional[Object]", ""), "guid": ("GUID", "uuid.UUID", "NO_ID"),
           "value?": ("VALUE", "Value", ""), "drain": ("DRAIN", "Optional[Callable[[], bool]]", "")}
 

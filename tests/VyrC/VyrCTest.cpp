@@ -165,6 +165,10 @@ TEST(VyrCTest, DocumentIsReadByItsElements)
     EXPECT_FALSE(missing) << "an element is no document";
     for (void* const object : {element, root, document})
         EXPECT_EQ(vyr_xml_release(object), VYR_OK);
+    EXPECT_EQ(vyr_xml_release(document), VYR_WRONG_ARGUMENT) << "it was released";
+    EXPECT_EQ(vyr_xml_get_root(document, &missing), VYR_WRONG_ARGUMENT);
+    EXPECT_EQ(vyr_xml_get_text(&count, text, std::size(text), &length), VYR_WRONG_ARGUMENT);
+    EXPECT_EQ(vyr_xml_release(nullptr), VYR_OK);
 
     const CString nothing = scratch.Path(u"missing.xml");
     EXPECT_EQ(vyr_msxml_load_xslt_file(Units(nothing), -1, &document), VYR_OK);

@@ -2380,10 +2380,12 @@ static int call_xml(report_function report)
     int count = 0;
     (void)report;
     EXPECT_WRONG(vyr_xml_get_root(misaligned, &void_pointer_place), "misaligned document");
+    EXPECT_WRONG(vyr_xml_get_root(space, &void_pointer_place), "document that the library did not give");
     EXPECT_WRONG(vyr_xml_get_root(0, 0), "null result");
     EXPECT_WRONG(vyr_xml_get_root(0, (void**)misaligned), "misaligned result");
     EXPECT_ANSWER(vyr_xml_get_root(0, &void_pointer_place), "good arguments");
     EXPECT_WRONG(vyr_xml_get_text(misaligned, buffer, 64, &length), "misaligned element");
+    EXPECT_WRONG(vyr_xml_get_text(space, buffer, 64, &length), "element that the library did not give");
     EXPECT_WRONG(vyr_xml_get_text(0, 0, 64, &length), "null buffer");
     EXPECT_WRONG(vyr_xml_get_text(0, buffer, 64, 0), "null length");
     EXPECT_WRONG(vyr_xml_get_text(0, (uint16_t*)misaligned, 64, &length), "misaligned buffer");
@@ -2391,6 +2393,7 @@ static int call_xml(report_function report)
     EXPECT_ANSWER(vyr_xml_get_text(0, buffer, 64, &length), "good arguments");
     EXPECT_ANSWER(vyr_xml_get_text(0, buffer, 1, &length), "small buffer");
     EXPECT_WRONG(vyr_xml_get_attribute(misaligned, text, -1, buffer, 64, &length), "misaligned element");
+    EXPECT_WRONG(vyr_xml_get_attribute(space, text, -1, buffer, 64, &length), "element that the library did not give");
     EXPECT_WRONG(vyr_xml_get_attribute(0, 0, -1, buffer, 64, &length), "null name");
     EXPECT_WRONG(vyr_xml_get_attribute(0, 0, 7, buffer, 64, &length), "null name with a length");
     EXPECT_WRONG(vyr_xml_get_attribute(0, text, PTRDIFF_MAX, buffer, 64, &length), "name longer than there can be");
@@ -2402,6 +2405,7 @@ static int call_xml(report_function report)
     EXPECT_ANSWER(vyr_xml_get_attribute(0, text, -1, buffer, 64, &length), "good arguments");
     EXPECT_ANSWER(vyr_xml_get_attribute(0, text, -1, buffer, 1, &length), "small buffer");
     EXPECT_WRONG(vyr_xml_count_elements(misaligned, text, -1, &int32_t_place), "misaligned element");
+    EXPECT_WRONG(vyr_xml_count_elements(space, text, -1, &int32_t_place), "element that the library did not give");
     EXPECT_WRONG(vyr_xml_count_elements(0, 0, -1, &int32_t_place), "null name");
     EXPECT_WRONG(vyr_xml_count_elements(0, 0, 7, &int32_t_place), "null name with a length");
     EXPECT_WRONG(vyr_xml_count_elements(0, text, PTRDIFF_MAX, &int32_t_place), "name longer than there can be");
@@ -2410,6 +2414,7 @@ static int call_xml(report_function report)
     EXPECT_WRONG(vyr_xml_count_elements(0, text, -1, (int32_t*)misaligned), "misaligned result");
     EXPECT_ANSWER(vyr_xml_count_elements(0, text, -1, &int32_t_place), "good arguments");
     EXPECT_WRONG(vyr_xml_get_element(misaligned, text, -1, 0, &void_pointer_place), "misaligned element");
+    EXPECT_WRONG(vyr_xml_get_element(space, text, -1, 0, &void_pointer_place), "element that the library did not give");
     EXPECT_WRONG(vyr_xml_get_element(0, 0, -1, 0, &void_pointer_place), "null name");
     EXPECT_WRONG(vyr_xml_get_element(0, 0, 7, 0, &void_pointer_place), "null name with a length");
     EXPECT_WRONG(vyr_xml_get_element(0, text, PTRDIFF_MAX, 0, &void_pointer_place), "name longer than there can be");
@@ -2420,6 +2425,7 @@ static int call_xml(report_function report)
     EXPECT_ANSWER(vyr_xml_get_element(0, text, -1, INT32_MIN, &void_pointer_place), "index INT32_MIN");
     EXPECT_ANSWER(vyr_xml_get_element(0, text, -1, INT32_MAX, &void_pointer_place), "index INT32_MAX");
     EXPECT_WRONG(vyr_xml_release(misaligned), "misaligned object");
+    EXPECT_WRONG(vyr_xml_release(space), "object that the library did not give");
     EXPECT_ANSWER(vyr_xml_release(0), "good arguments");
     return count;
 }

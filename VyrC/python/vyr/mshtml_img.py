@@ -17,7 +17,7 @@ ZERO = datetime.datetime(1899, 12, 30)
 NO_ID = uuid.UUID(int=0)
 
 
-def set_resize_img_style(document: Optional[Object], client: Tuple[int, int, int, int]) -> None:
+def set_resize_img_style(document: int, client: Tuple[int, int, int, int]) -> None:
     r"""SetResizeImgStyle
 
     Gives each picture that is shown larger than `client` a style that makes it fit. One that is wider in proportion
@@ -33,4 +33,4 @@ def set_resize_img_style(document: Optional[Object], client: Tuple[int, int, int
     client: the part of the window that shows the page. With an empty one every picture gets the width "100%".
     Raises Error: _com_error with E_OUTOFMEMORY when there is no memory for the text of a style.
     """
-    return call("vyr_mshtml_img_set_resize_img_style", NOTHING, (OBJECT, document), (RECT, client))
+    return call("vyr_mshtml_img_set_resize_img_style", NOTHING, (HANDLE, document), (RECT, client))
