@@ -1,4 +1,5 @@
-// Measures the preview of one sequence-number rename through the C interface and by the C++ operation.
+// Measures the preview of one sequence-number rename through the C interface and by the C++ operation; then the same
+// for a thousand files in turn, whose names differ, so that C must copy those.
 #include <VyrC/vyr.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 
@@ -6,7 +7,9 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <string_view>
+#include <vector>
 
 using VyrLibraryFuncs::NameFuncs;
 
@@ -34,24 +37,47 @@ vyr_text InC(const CString& text)
     return {reinterpret_cast<const std::uint16_t*>(text.GetString()), text.GetLength()};
 }
 
-/// The same texts and numbers.
-vyr_name_item SampleInC()
+/// The same texts and numbers; `given` must outlive it.
+vyr_name_item InC(const NameFuncs::ITEM& given)
 {
     vyr_name_item item{};
     item.struct_size = sizeof item;
-    item.file_path = InC(inCpp.filePath);
-    item.dir_path = InC(inCpp.dirPath);
-    item.file_name = InC(inCpp.fileName);
-    item.extension = InC(inCpp.extension);
-    item.index = inCpp.index;
-    item.number_text1 = InC(inCpp.numberText1);
-    item.start_number = inCpp.startNumber;
-    item.digits = inCpp.digits;
-    item.step = inCpp.step;
+    item.file_path = InC(given.filePath);
+    item.dir_path = InC(given.dirPath);
+    item.file_name = InC(given.fileName);
+    item.extension = InC(given.extension);
+    item.index = given.index;
+    item.number_text1 = InC(given.numberText1);
+    item.start_number = given.startNumber;
+    item.digits = given.digits;
+    item.step = given.step;
     return item;
 }
 
-const vyr_name_item inC = SampleInC();
+const vyr_name_item inC = InC(inCpp);
+
+std::vector<NameFuncs::ITEM> SamplesInCpp()
+{
+    std::vector<NameFuncs::ITEM> items(1000, inCpp);
+    for (NameFuncs::ITEM& item : items) {
+        item.index = static_cast<int>(&item - items.data());
+        item.fileName.Format(u"IMG_%04d", item.index);
+        item.filePath = item.dirPath + item.fileName + item.extension;
+    }
+    return items;
+}
+
+const std::vector<NameFuncs::ITEM> manyInCpp = SamplesInCpp();
+
+std::vector<vyr_name_item> SamplesInC()
+{
+    std::vector<vyr_name_item> items;
+    for (const NameFuncs::ITEM& item : manyInCpp)
+        items.push_back(InC(item));
+    return items;
+}
+
+const std::vector<vyr_name_item> manyInC = SamplesInC();
 
 void InCpp(benchmark::State& state)
 {
@@ -69,8 +95,29 @@ void ThroughC(benchmark::State& state)
     }
 }
 
+void ManyInCpp(benchmark::State& state)
+{
+    std::size_t index = 0;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(NameFuncs::GetRenameFilePath(manyInCpp[index++ % manyInCpp.size()]));
+}
+
+void ManyThroughC(benchmark::State& state)
+{
+    std::uint16_t path[512];
+    std::size_t length = 0;
+    std::size_t index = 0;
+    for (auto _ : state) {
+        const vyr_name_item& item = manyInC[index++ % manyInC.size()];
+        benchmark::DoNotOptimize(vyr_name_get_rename_file_path(&item, path, std::size(path), &length));
+        benchmark::ClobberMemory();
+    }
+}
+
 BENCHMARK(InCpp);
 BENCHMARK(ThroughC);
+BENCHMARK(ManyInCpp);
+BENCHMARK(ManyThroughC);
 
 bool ResultsAgree()
 {
