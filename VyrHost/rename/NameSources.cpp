@@ -114,6 +114,7 @@ Reason RuleNames::Run(const Model::EntryList& list, const Model::Entry& entry, i
     m_workingFolder.Enter(list.folders[dated.folder].path);
     m_subject.isFolder = entry.kind == Kind::Folder;
     m_subject.index = index;
+    m_subject.groups.Clear();
     m_subject.cause.Empty();
     m_subject.dateRank = 0;
     m_subject.datesTaken = {};

@@ -4,6 +4,7 @@
 
 #include <VyrHost/model/DateSource.h>
 #include <VyrHost/rename/Decision.h>
+#include <VyrHost/rename/PatternGroups.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrPlatform/text/CString.h>
 
@@ -28,6 +29,9 @@ struct Subject
     CString folder;
     CString name;
     CString extension;
+
+    /// What the last pattern matched.
+    PatternGroups groups = {};
 
     /// Set by a rule that gives no name: what there is to say beyond the reason.
     CString cause = {};
