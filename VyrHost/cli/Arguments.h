@@ -5,9 +5,7 @@
 #include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
-#include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace CLI {
@@ -47,9 +45,5 @@ struct Argument
 /// @param command  CommandOf the arguments.
 /// @throws UsageError
 void RefuseUnknownWords(const CLI::App& program, const CLI::App& command, const std::vector<Argument>& arguments);
-
-/// The one of `words` that `typed` was probably meant to be: with few letters added, left out, changed or swapped, or
-/// one that it begins; empty where none is near. Example: "renmae" is "rename".
-[[nodiscard]] std::string_view NearestWord(std::string_view typed, std::span<const std::string> words);
 
 } // namespace VyrHost::Cli

@@ -1,8 +1,8 @@
-#include <VyrHost/cli/Arguments.h>
+#include <VyrHost/text/NearestWord.h>
 
 #include <gtest/gtest.h>
 
-using namespace VyrHost::Cli;
+using namespace VyrHost::Text;
 
 TEST(NearestWord, IsTheOneWithTheFewestTypingErrors)
 {

@@ -1,0 +1,15 @@
+/// @file
+/// Finds the word that a misspelt one was meant to be.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace VyrHost::Text {
+
+/// The one of `words` that `typed` was probably meant to be: with few letters added, left out, changed or swapped, or
+/// one that it begins; empty where none is near. Example: "renmae" is "rename".
+[[nodiscard]] std::string_view NearestWord(std::string_view typed, std::span<const std::string> words);
+
+} // namespace VyrHost::Text
