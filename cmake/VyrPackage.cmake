@@ -79,7 +79,8 @@ if(WIN32)
   # The compiler's run-time DLLs, and the terms of all that is not this project's own and is in the package.
   install(FILES ${VYR_RUNTIME_DLLS} DESTINATION "${CMAKE_INSTALL_BINDIR}")
   install(FILES licences/README.txt /usr/share/common-licenses/GPL-3 DESTINATION licences)
-  foreach(package gcc-mingw-w64-x86-64-posix-runtime mingw-w64-common libboost-dev libcli11-dev libz-mingw-w64-dev)
+  foreach(package gcc-mingw-w64-x86-64-posix-runtime mingw-w64-common libboost-dev libcli11-dev libpcre2-dev
+      libz-mingw-w64-dev)
     install(FILES "/usr/share/doc/${package}/copyright" DESTINATION licences RENAME "${package}.txt")
   endforeach()
 else()

@@ -38,8 +38,10 @@ struct Given
 {
     const RuleOption* option;
     std::vector<CString> values;
-    Rename::NumberSettings number;
-    std::optional<std::vector<Model::DateSource>> dates;
+    Rename::NumberSettings number = {};
+    std::optional<std::vector<Model::DateSource>> dates = {};
+    Rename::PatternRuleSettings pattern = {};
+    bool hasNamePart = false;
 };
 
 /// Makes rules of the one value.
@@ -65,6 +67,11 @@ constexpr RuleOption ruleOptions[] = {
      [](const Given& given) {
          return Rename::ReplaceRules(given.values[0], given.values[1]);
      }},
+    {"--regex", "FIND WITH", 2,
+     "Put WITH in place of every match of the pattern FIND; $1, ${name}, \\U, \\L, \\E, \\u and \\l work in WITH",
+     [](const Given& given) {
+         return Rename::PatternRules(given.values[0], given.values[1], given.pattern);
+     }},
     {"--prefix", "TEXT", 1, "Put TEXT before the name", FromValue<Rename::PrefixRules>},
     {"--suffix", "TEXT", 1, "Put TEXT after the name, before the extension", FromValue<Rename::SuffixRules>},
     {"--insert", "PLACE:TEXT", 1, "Put TEXT in after the first PLACE characters; -PLACE counts from the end",
@@ -76,8 +83,23 @@ constexpr RuleOption ruleOptions[] = {
     {"--delete-last", "COUNT", 1, "Delete the last COUNT characters", FromValue<Rename::DeleteLastRules>},
     {"--keep-first", "COUNT", 1, "Keep only the first COUNT characters", FromValue<Rename::KeepFirstRules>},
     {"--keep-last", "COUNT", 1, "Keep only the last COUNT characters", FromValue<Rename::KeepLastRules>},
-    {"--case", "first|upper|lower", 1, "Make the first letter a capital, or all letters capital or small",
+    {"--case", "first|upper|lower|title|title-en|sentence", 1,
+     "Make the first letter a capital, all letters capital or small, or words begin as in a title or a sentence",
      FromValue<Rename::CaseRules>},
+    {"--pad", "N", 1, "Fill every number up to N digits with zeros; first:N or last:N only that one",
+     FromValue<Rename::PadRules>},
+    {"--ascii", "", 0, "Spell out accents and ligatures of Latin letters; other scripts stay",
+     [](const Given&) {
+         return Rename::AsciiRules();
+     }},
+    {"--trim", "", 0, "Remove blanks at both ends of the name",
+     [](const Given&) {
+         return Rename::TrimRules();
+     }},
+    {"--collapse", "", 0, "Make each run of blanks one space",
+     [](const Given&) {
+         return Rename::CollapseRules();
+     }},
     {"--extension", "NEW", 1, "Change the extension to NEW (files only)", FromValue<Rename::ExtensionRules>},
     {"--extension-case", "upper|lower", 1, "Make the extension's letters capital or small",
      FromValue<Rename::ExtensionCaseRules>},
@@ -91,6 +113,7 @@ constexpr RuleOption ruleOptions[] = {
 struct SettingOption
 {
     const char* name;
+    /// What its value is called; empty when it has none.
     const char* value;
     const char* help;
     /// The rule that it belongs to.
@@ -105,6 +128,13 @@ bool SetNumber(std::optional<int>& setting, const CString& value, int least, con
         return false;
     setting = Rename::ParseNumber(value, least, name);
     return true;
+}
+
+bool SetNth(Given& given, int nth)
+{
+    const bool isFirst = !given.pattern.nth;
+    given.pattern.nth = nth;
+    return isFirst;
 }
 
 constexpr SettingOption settingOptions[] = {
@@ -127,6 +157,23 @@ constexpr SettingOption settingOptions[] = {
              return false;
          given.dates = Rename::ParseDateSources(value);
          return true;
+     }},
+    {"--ignore-case", "", "Let --regex find letters in either case", "--regex",
+     [](Given& given, const CString&) {
+         return !std::exchange(given.pattern.ignoresCase, true);
+     }},
+    {"--first-only", "", "Replace only the first match of --regex in a name", "--regex",
+     [](Given& given, const CString&) {
+         return SetNth(given, 1);
+     }},
+    {"--nth", "N", "Replace only the match with this number; -1 is the last", "--regex",
+     [](Given& given, const CString& value) {
+         return SetNth(given, Rename::ParseNth(value));
+     }},
+    {"--regex-in", "name|extension|all", "What --regex looks at (name)", "--regex",
+     [](Given& given, const CString& value) {
+         given.pattern.part = Rename::ParseNamePart(value);
+         return !std::exchange(given.hasNamePart, true);
      }},
 };
 
@@ -176,7 +223,7 @@ private:
 
     void AddRule(const RuleOption& rule, std::vector<CString> values)
     {
-        m_given.push_back({&rule, std::move(values), {}, {}});
+        m_given.push_back({.option = &rule, .values = std::move(values)});
     }
 
     void AddSetting(const SettingOption& setting, const CString& value)
@@ -213,20 +260,25 @@ private:
     std::vector<std::pair<const SettingOption*, CString>> m_early;
 };
 
+void Declare(CLI::App& command, const char* name, const char* values, int count, const std::string& help,
+             const char* group)
+{
+    if (count > 0)
+        AddTexts(command, name, values, help, group, count);
+    else
+        command.add_flag(name, help)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)->group(group);
+}
+
 } // namespace
 
 RuleOptions::RuleOptions(CLI::App& command) : m_command(command)
 {
     constexpr const char* group = "Rules, applied in the order given";
-    for (const RuleOption& option : ruleOptions) {
-        const std::string help = option.help;
-        if (option.count > 0)
-            AddTexts(command, option.name, option.values, help, group, option.count);
-        else
-            command.add_flag(option.name, help)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)->group(group);
-    }
+    for (const RuleOption& option : ruleOptions)
+        Declare(command, option.name, option.values, option.count, option.help, group);
+    constexpr const char* settingsGroup = "Settings of the rule before them";
     for (const SettingOption& setting : settingOptions)
-        AddTexts(command, setting.name, setting.value, setting.help, "Settings of the rule before them");
+        Declare(command, setting.name, setting.value, *setting.value ? 1 : 0, setting.help, settingsGroup);
 }
 
 Rename::Rules RuleOptions::Make() const

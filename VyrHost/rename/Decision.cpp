@@ -51,6 +51,8 @@ std::u16string_view WordsFor(Reason reason)
         return u"it must stay where it is";
     case Reason::BeyondName:
         return u"the place or count is beyond the name";
+    case Reason::PatternGaveUp:
+        return u"the pattern runs away on this name";
     case Reason::EmptyName:
         return u"the new name would be empty";
     case Reason::TargetExists:

@@ -41,6 +41,8 @@ enum class Reason : std::uint8_t
     MustStay,
     /// A rule inserts or deletes behind the end of the name; the cause tells how long it is.
     BeyondName,
+    /// A pattern takes too many steps for the name; the cause tells which bound it met.
+    PatternGaveUp,
     EmptyName,
     /// Something that the batch leaves in place has the name.
     TargetExists,

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <VyrHost/rename/Rule.h>
+#include <VyrHost/rename/Words.h>
 
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -40,9 +42,45 @@ struct NumberSettings
 [[nodiscard]] Rules KeepFirstRules(const CString& text);
 [[nodiscard]] Rules KeepLastRules(const CString& text);
 
-/// "first", "upper" or "lower".
+/// "first", "upper", "lower", "title", "title-en" or "sentence".
 [[nodiscard]] Rules CaseRules(const CString& text);
 [[nodiscard]] Rules ReplaceRules(const CString& find, const CString& replacement);
+
+/// See Words.h.
+[[nodiscard]] Rules TitleCaseRules(TitleStyle style);
+[[nodiscard]] Rules SentenceCaseRules();
+/// The least number of digits of every number in the name; "first:N" and "last:N" mean one number alone.
+[[nodiscard]] Rules PadRules(const CString& text);
+/// Spells the letters of Latin script out in ASCII.
+[[nodiscard]] Rules AsciiRules();
+[[nodiscard]] Rules TrimRules();
+[[nodiscard]] Rules CollapseRules();
+
+/// What a pattern is looked for in.
+enum class NamePart : std::uint8_t
+{
+    /// The name before the extension.
+    Name,
+    /// The extension without its dot.
+    Extension,
+    All
+};
+
+/// Settings of a pattern.
+struct PatternRuleSettings
+{
+    bool ignoresCase = false;
+    /// Which match is replaced, from 1 on, or -1 for the last; every one when not given.
+    std::optional<int> nth = {};
+    NamePart part = NamePart::Name;
+};
+
+/// Puts `replacement` (Replacement) in for what the pattern `find` (Pattern) matches.
+[[nodiscard]] Rules PatternRules(const CString& find, const CString& replacement, const PatternRuleSettings& settings);
+/// A whole number other than 0.
+[[nodiscard]] int ParseNth(const CString& text);
+/// "name", "extension" or "all".
+[[nodiscard]] NamePart ParseNamePart(const CString& text);
 
 /// An extension, with or without its dot.
 [[nodiscard]] Rules ExtensionRules(const CString& text);

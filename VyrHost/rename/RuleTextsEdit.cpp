@@ -179,7 +179,13 @@ Rules CaseRules(const CString& text)
         return CaseRule(NameFuncs::ConvertType::Upper);
     if (text == u"lower")
         return CaseRule(NameFuncs::ConvertType::Lower);
-    Text::RefuseValue("--case", text, "first, upper or lower is expected");
+    if (text == u"title")
+        return TitleCaseRules(TitleStyle::EveryWord);
+    if (text == u"title-en")
+        return TitleCaseRules(TitleStyle::English);
+    if (text == u"sentence")
+        return SentenceCaseRules();
+    Text::RefuseValue("--case", text, "first, upper, lower, title, title-en or sentence is expected");
 }
 
 Rules ReplaceRules(const CString& find, const CString& replacement)

@@ -97,6 +97,8 @@ public:
             {u"--keep-last", Number(0, 4)},
             {u"--case", Below(2) == 0 ? u"upper" : u"first"},
             {u"--replace", Text(u"ab1"), Text(letters)},
+            {u"--regex", u"([ab])(.?)", u"$2\\u$1"},
+            {u"--regex", u"(.)\\.", u".$1", u"--regex-in", u"all", u"--nth", u"-1"},
             {u"--extension", Below(2) == 0 ? u"txt" : u"b"},
             {u"--extension-case", u"upper"},
             {u"--drop-extension"},

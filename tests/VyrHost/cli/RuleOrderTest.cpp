@@ -43,6 +43,14 @@ TEST_F(RuleOrder, EveryRuleGivesTheDocumentedName)
           Case{{u"--replace", u"C", u"x"}, "="},
           Case{{u"--replace", u"Txt", u"x"}, "="},
 
+          Case{{u"--regex", u"([bd])(.)", u"$2$1"}, "acbedf.Txt"},
+          Case{{u"--regex", u"[A-C]", u"x"}, "="},
+          Case{{u"--regex", u"[A-C]", u"x", u"--ignore-case"}, "xxxdef.Txt"},
+          Case{{u"--regex", u"[a-c]", u"x", u"--first-only"}, "xbcdef.Txt"},
+          Case{{u"--regex", u"[a-c]", u"x", u"--nth", u"-1"}, "abxdef.Txt"},
+          Case{{u"--regex", u"t", u"T", u"--regex-in", u"extension"}, "abcdef.TxT"},
+          Case{{u"--regex", u"f.T", u"-", u"--regex-in", u"all"}, "abcde-xt"},
+
           Case{{u"--prefix", u"-"}, "-abcdef.Txt"},
           Case{{u"--suffix", u"."}, "abcdef..Txt"},
           Case{{u"--insert", u"3:X"}, "abcXdef.Txt"},
@@ -98,4 +106,34 @@ TEST_F(RuleOrder, ExtensionRulesDoNotChangeFolders)
     EXPECT_EQ(Made({u"--drop-extension"}, u"my.folder"), "=");
     EXPECT_EQ(Made({u"--extension", u"jpg", u"--suffix", u"!", u"--case", u"upper"}, u"my.folder"), "MY.FOLDER!");
     EXPECT_EQ(Made({u"--keep-last", u"6"}, u"my.folder"), "folder");
+}
+
+TEST_F(RuleOrder, APatternThatRunsAwayIsRefusedInItsRow)
+{
+    const std::u16string runsAway = std::u16string(60, u'a') + u"!";
+    WriteNamed({u"aaa", runsAway});
+    const ProgramResult result = Rename({u"--regex", u"^(a+)+$", u"b", u"-r", u"."});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.output, HasSubstr("aaa "));
+    EXPECT_THAT(result.output, HasSubstr("->  b\n"));
+    EXPECT_THAT(result.output, HasSubstr("refused: the pattern runs away on this name: match limit exceeded\n"));
+}
+
+TEST_F(RuleOrder, SettingsOfAPatternBelongToTheOneBeforeThem)
+{
+    WriteNamed({u"aab"});
+    EXPECT_EQ(Made({u"--regex", u"a", u"x", u"--first-only", u"--regex", u"B", u"y", u"--ignore-case"}, u"aab"), "xay");
+    for (const std::vector<CString>& twice :
+         std::vector<std::vector<CString>>{{u"--first-only", u"--first-only"},
+                                           {u"--first-only", u"--nth=2"},
+                                           {u"--ignore-case", u"--ignore-case"},
+                                           {u"--regex-in=all", u"--regex-in=all"}}) {
+        std::vector<CString> call = {u"--regex", u"a", u"b"};
+        call.insert(call.end(), twice.begin(), twice.end());
+        call.emplace_back(u"aab");
+        const ProgramResult result = Rename(call);
+        EXPECT_EQ(result.exitCode, 2);
+        EXPECT_THAT(result.errors, HasSubstr("is given twice for one --regex"));
+    }
+    EXPECT_EQ(Rename({u"--prefix", u"x", u"--ignore-case", u"aab"}).exitCode, 2);
 }

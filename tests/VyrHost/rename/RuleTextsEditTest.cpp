@@ -104,7 +104,7 @@ TEST(EditTexts, TextsThatMakeNoSenseAreRefused)
         EXPECT_THROW((void)DeleteFirstRules(text), UsageError);
     EXPECT_THROW((void)PrefixRules(u""), UsageError);
     EXPECT_THROW((void)KeepFirstRules(u"-1"), UsageError);
-    EXPECT_THROW((void)CaseRules(u"title"), UsageError);
+    EXPECT_THROW((void)CaseRules(u"titel"), UsageError);
     EXPECT_THROW((void)ReplaceRules(u"", u"x"), UsageError);
     EXPECT_THROW((void)ReplaceRules(u"x", u"a/b"), UsageError);
     EXPECT_THROW((void)ExtensionRules(u""), UsageError);

@@ -1,0 +1,82 @@
+// Makes rules that change a name as a text: letter case by words, numbers, accents and blanks.
+#include <VyrHost/rename/RuleTexts.h>
+
+#include <VyrHost/rename/Words.h>
+#include <VyrHost/text/Latin.h>
+
+#include <functional>
+#include <utility>
+
+namespace VyrHost::Rename {
+
+namespace {
+
+class TextRule final : public Rule
+{
+public:
+    using Change = std::function<CString(const CString& name)>;
+
+    TextRule(Change change, bool mayNumber) : m_change(std::move(change)), m_mayNumber(mayNumber) {}
+
+    Reason Apply(Subject& subject) override
+    {
+        subject.name = m_change(subject.name);
+        return Reason::None;
+    }
+
+    [[nodiscard]] bool MayNumber() const override { return m_mayNumber; }
+
+private:
+    Change m_change;
+    bool m_mayNumber;
+};
+
+Rules Changing(TextRule::Change change, bool mayNumber = true)
+{
+    Rules rules;
+    rules.push_back(std::make_unique<TextRule>(std::move(change), mayNumber));
+    return rules;
+}
+
+} // namespace
+
+Rules TitleCaseRules(TitleStyle style)
+{
+    return Changing([style](const CString& name) { return TitleCase(name, style); }, false);
+}
+
+Rules SentenceCaseRules()
+{
+    return Changing(SentenceCase, false);
+}
+
+Rules PadRules(const CString& text)
+{
+    const int colon = text.Find(u":");
+    const CString word = text.Left(colon);
+    WhichNumbers which = WhichNumbers::All;
+    if (word == u"first")
+        which = WhichNumbers::First;
+    else if (word == u"last")
+        which = WhichNumbers::Last;
+    const bool hasWord = which != WhichNumbers::All;
+    const int width = ParseDigits(hasWord ? text.Mid(colon + 1) : text, "--pad");
+    return Changing([width, which](const CString& name) { return PadNumbers(name, width, which); });
+}
+
+Rules AsciiRules()
+{
+    return Changing(Text::SpellOutLatin);
+}
+
+Rules TrimRules()
+{
+    return Changing(TrimBlanks);
+}
+
+Rules CollapseRules()
+{
+    return Changing(CollapseBlanks);
+}
+
+} // namespace VyrHost::Rename
