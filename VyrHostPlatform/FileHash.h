@@ -14,7 +14,7 @@ struct FileHash
 {
     /// 64 hexadecimal digits in small letters; empty where the file cannot be read to its end.
     std::string digits;
-    /// The system's code then, else 0.
+    /// The system's code where the file cannot be opened, else 0.
     std::uint32_t error = 0;
 };
 

@@ -18,7 +18,7 @@ enum class ExifTag : std::uint8_t
 {
 };
 
-inline constexpr std::size_t exifTagCount = 60;
+inline constexpr std::size_t exifTagCount = 65;
 
 using ExifTagSet = std::bitset<exifTagCount>;
 

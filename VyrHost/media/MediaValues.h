@@ -38,7 +38,7 @@ struct MediaQuestion
     /// `taken` and `digitized`.
     bool exifDates = false;
     bool xmpDate = false;
-    ExifTagSet exif;
+    ExifTagSet exif = {};
 };
 
 /// What the file tells of what was asked. A text that is missing is empty, a number that is missing 0.

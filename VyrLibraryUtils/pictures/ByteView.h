@@ -2,6 +2,7 @@
 /// A bounded part of a picture's bytes, and a cursor that reads numbers from it.
 #pragma once
 
+#include <VyrLibraryUtils/Export.h>
 #include <VyrLibraryUtils/pictures/ByteSource.h>
 
 #include <cstddef>
@@ -19,7 +20,7 @@ enum class ByteOrder : std::uint8_t
 };
 
 /// A part of a source. Bytes outside it cannot be read through it, nor through its own parts.
-class ByteView
+class VYR_UTILS_API ByteView
 {
 public:
     /// All of `source`, which must outlive the view.
@@ -55,7 +56,7 @@ private:
 
 /// Reads a view from its start to its end. A read past the end gives zero, and so does every later read: one test of
 /// Failed after several reads is enough.
-class ByteCursor
+class VYR_UTILS_API ByteCursor
 {
 public:
     ByteCursor(ByteView view, ByteOrder order) : m_view(view), m_order(order) {}

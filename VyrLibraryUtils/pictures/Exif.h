@@ -14,6 +14,9 @@ namespace VyrLibraryUtils::Pictures {
 /// than 64 KiB; converters from other formats write more.
 constexpr std::size_t longestExif = 1 << 20;
 
+/// The longest packet of XMP that is copied, in bytes: what goes into one segment of a JPEG.
+constexpr std::size_t longestXmp = 65536;
+
 /// The text of `tag` in `block`: a TIFF structure, with or without JPEG's identifier "Exif" and two NULs before it.
 [[nodiscard]] std::string ReadExif(const ByteView& block, PictureTag tag);
 

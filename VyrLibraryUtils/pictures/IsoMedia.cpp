@@ -12,6 +12,9 @@
 namespace VyrLibraryUtils::Pictures {
 namespace {
 
+/// The identifier of boxes that hold a packet of XMP. Source: XMP Specification Part 3, section 1.2.7.1.
+constexpr std::string_view xmpUuid("\xBE\x7A\xCF\xCB\x97\xA9\x42\xE8\x9C\x71\x99\x94\x91\xE3\xAF\xAC", 16);
+
 /// A version and flags come first in many boxes.
 std::uint8_t TakeVersion(ByteCursor& box)
 {
@@ -20,8 +23,8 @@ std::uint8_t TakeVersion(ByteCursor& box)
     return version;
 }
 
-/// The id of the item that an item-info entry describes, when it is an Exif item.
-std::optional<std::uint32_t> ExifItemOf(const ByteView& entry)
+/// The id of the item that an item-info entry describes, when it is of `wanted` type.
+std::optional<std::uint32_t> ItemOf(const ByteView& entry, std::uint32_t wanted)
 {
     ByteCursor cursor(entry, ByteOrder::Big);
     const std::uint8_t version = TakeVersion(cursor);
@@ -31,19 +34,19 @@ std::optional<std::uint32_t> ExifItemOf(const ByteView& entry)
     const std::uint32_t id = version == 2 ? cursor.U16() : cursor.U32();
     const std::uint16_t protection = cursor.U16();
     const std::uint32_t type = cursor.U32();
-    if (cursor.Failed() || protection != 0 || type != FourCc("Exif"))
+    if (cursor.Failed() || protection != 0 || type != wanted)
         return std::nullopt;
     return id;
 }
 
-std::optional<std::uint32_t> FindExifItem(const ByteView& itemInfo)
+std::optional<std::uint32_t> FindItem(const ByteView& itemInfo, std::uint32_t type)
 {
     ByteCursor cursor(itemInfo, ByteOrder::Big);
     const std::size_t countSize = TakeVersion(cursor) == 0 ? 2 : 4;
     cursor.Skip(countSize);
     while (const std::optional<IsoBox> entry = NextBox(cursor))
         if (entry->type == FourCc("infe"))
-            if (const std::optional<std::uint32_t> id = ExifItemOf(entry->content))
+            if (const std::optional<std::uint32_t> id = ItemOf(entry->content, type))
                 return id;
     return std::nullopt;
 }
@@ -58,8 +61,8 @@ public:
           m_widths(m_cursor.U16())
     {}
 
-    /// The text of `tag` in the Exif item `id`.
-    std::string ReadExifItemOf(std::uint32_t id, PictureTag tag);
+    /// The text of `tag` in the item `id`: an Exif item, or the packet of XMP itself.
+    std::string ReadItem(std::uint32_t id, PictureTag tag);
 
 private:
     struct Item
@@ -127,7 +130,12 @@ std::string ItemLocations::Join(const Item& item, const ByteView& origin)
     return joined;
 }
 
-std::string ItemLocations::ReadExifItemOf(std::uint32_t id, PictureTag tag)
+std::string ReadItemIn(const ByteView& item, PictureTag tag)
+{
+    return tag == PictureTag::Xmp ? item.Copy(longestXmp) : ReadExifItem(item, tag);
+}
+
+std::string ItemLocations::ReadItem(std::uint32_t id, PictureTag tag)
 {
     if (m_version > 2 || !WidthsAreSound())
         return {};
@@ -144,11 +152,11 @@ std::string ItemLocations::ReadExifItemOf(std::uint32_t id, PictureTag tag)
         const ByteView origin = (item.constructionMethod == 1 ? m_itemData : m_file).From(item.baseOffset);
         if (item.extentCount == 1) {
             const std::optional<ByteView> extent = NextExtent(origin);
-            return extent ? ReadExifItem(*extent, tag) : std::string();
+            return extent ? ReadItemIn(*extent, tag) : std::string();
         }
         const std::string joined = Join(item, origin);
         MemorySource source(joined);
-        return ReadExifItem(ByteView(source), tag);
+        return ReadItemIn(ByteView(source), tag);
     }
     return {};
 }
@@ -169,18 +177,24 @@ std::string ReadMeta(const ByteView& meta, const ByteView& file, PictureTag tag)
         else if (box->type == FourCc("idat"))
             itemData = box->content;
     }
-    const std::optional<std::uint32_t> item = FindExifItem(itemInfo);
-    return item ? ItemLocations(itemLocation, file, itemData).ReadExifItemOf(*item, tag) : std::string();
+    // Packets of XMP are the only MIME items that are met.
+    const std::optional<std::uint32_t> item =
+        FindItem(itemInfo, tag == PictureTag::Xmp ? FourCc("mime") : FourCc("Exif"));
+    return item ? ItemLocations(itemLocation, file, itemData).ReadItem(*item, tag) : std::string();
 }
 
-/// CR3 keeps the first directory and the Exif directory as TIFF structures of their own.
+/// CR3 keeps each directory as a TIFF structure of its own.
 std::string ReadCanonTags(const ByteView& boxes, PictureTag tag)
 {
-    const bool isDate = tag == PictureTag::DateTimeOriginal;
+    std::uint32_t type = FourCc("CMT1");
+    if (IsOfPlace(tag))
+        type = FourCc("CMT4");
+    else if (IsInExif(tag))
+        type = FourCc("CMT2");
     ByteCursor cursor(boxes, ByteOrder::Big);
     while (const std::optional<IsoBox> box = NextBox(cursor))
-        if (box->type == (isDate ? FourCc("CMT2") : FourCc("CMT1")))
-            return ReadTiff(box->content, tag, isDate ? FirstDirectory::Exif : FirstDirectory::Image);
+        if (box->type == type)
+            return ReadTiff(box->content, tag, FirstDirectory::Linked);
     return {};
 }
 
@@ -207,6 +221,8 @@ std::string ReadIsoMedia(const ByteView& media, PictureTag tag)
             text = ReadMeta(box->content, media, tag);
         else if (box->type == FourCc("moov"))
             text = ReadMovie(box->content, tag);
+        else if (tag == PictureTag::Xmp && box->type == FourCc("uuid") && box->content.StartsWith(xmpUuid))
+            text = box->content.From(xmpUuid.size()).Copy(longestXmp);
         if (!text.empty())
             break;
     }

@@ -1,6 +1,7 @@
 // Skips the segments of a JPEG up to the one with the Exif tags, or with the size.
 #include <VyrLibraryUtils/pictures/Jpeg.h>
 
+#include <VyrLibraryUtils/pictures/Exif.h>
 #include <VyrLibraryUtils/pictures/Tiff.h>
 
 #include <optional>
@@ -14,8 +15,10 @@ constexpr std::uint8_t firstRestart = 0xD0;
 constexpr std::uint8_t startOfImage = 0xD8;
 constexpr std::uint8_t endOfImage = 0xD9;
 constexpr std::uint8_t startOfScan = 0xDA;
-constexpr std::uint8_t exifSegment = 0xE1;
+/// Exif, and packets of XMP.
+constexpr std::uint8_t applicationSegment = 0xE1;
 constexpr std::string_view exifIdentifier("Exif\0", 5);
+constexpr std::string_view xmpIdentifier("http://ns.adobe.com/xap/1.0/\0", 29);
 /// The identifier and one byte of padding, whose value varies.
 constexpr std::uint64_t exifHeaderSize = 6;
 /// More than any writer leaves. It bounds the search in a recovered file that holds only fill bytes.
@@ -86,7 +89,11 @@ std::string ReadJpeg(const ByteView& jpeg, PictureTag tag)
 {
     ByteCursor cursor(jpeg, ByteOrder::Big);
     while (const std::optional<Segment> segment = NextSegment(cursor)) {
-        if (segment->marker != exifSegment || !segment->content.StartsWith(exifIdentifier))
+        if (segment->marker != applicationSegment)
+            continue;
+        if (tag == PictureTag::Xmp && segment->content.StartsWith(xmpIdentifier))
+            return segment->content.From(xmpIdentifier.size()).Copy(longestXmp);
+        if (!segment->content.StartsWith(exifIdentifier))
             continue;
         std::string text = ReadTiff(segment->content.From(exifHeaderSize), tag);
         if (!text.empty())

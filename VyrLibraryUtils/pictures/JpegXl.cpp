@@ -36,7 +36,9 @@ std::string ReadJpegXl(const ByteView& jpegXl, PictureTag tag)
     int packedLeft = mostPackedBoxes;
     while (const std::optional<IsoBox> box = NextBox(cursor)) {
         std::string text;
-        if (box->type == FourCc("Exif"))
+        if (tag == PictureTag::Xmp)
+            text = box->type == FourCc("xml ") ? box->content.Copy(longestXmp) : std::string();
+        else if (box->type == FourCc("Exif"))
             text = ReadExifItem(box->content, tag);
         else if (IsPackedExif(*box) && packedLeft-- > 0)
             text = ReadPackedBox(box->content, tag);

@@ -13,6 +13,8 @@ constexpr std::uint64_t checksumSize = 4;
 /// The keywords, with the NUL that ends them.
 constexpr std::string_view exifKeyword("Raw profile type exif\0", 22);
 constexpr std::string_view appKeyword("Raw profile type APP1\0", 22);
+/// The keyword, no packing, and neither a language nor a translation.
+constexpr std::string_view xmpKeyword("XML:com.adobe.xmp\0\0\0\0\0", 22);
 static_assert(exifKeyword.size() == appKeyword.size());
 /// Two digits make one byte.
 constexpr std::size_t longestProfile = 2 * longestExif;
@@ -88,6 +90,10 @@ public:
 private:
     std::string ReadChunk(std::uint32_t type, const ByteView& chunk)
     {
+        if (m_tag == PictureTag::Xmp)
+            return type == FourCc("iTXt") && chunk.StartsWith(xmpKeyword)
+                       ? chunk.From(xmpKeyword.size()).Copy(longestXmp)
+                       : std::string();
         if (type == FourCc("eXIf"))
             return ReadExif(chunk, m_tag);
         if (type == FourCc("tEXt") && IsProfile(chunk))

@@ -23,9 +23,13 @@ std::string ReadWebP(const ByteView& webp, PictureTag tag)
 {
     ByteCursor cursor(webp.From(headerSize), ByteOrder::Little);
     for (int left = mostChunks; left > 0 && !cursor.Failed(); --left) {
-        const bool isExif = cursor.Bytes(4) == "EXIF";
+        const std::string_view name = cursor.Bytes(4);
+        const bool isExif = name == "EXIF";
+        const bool isXmp = tag == PictureTag::Xmp && name == "XMP ";
         const std::uint32_t size = cursor.U32();
         const ByteView chunk = cursor.Take(size);
+        if (isXmp)
+            return chunk.Copy(longestXmp);
         std::string text = isExif ? ReadExif(chunk, tag) : std::string();
         if (!text.empty())
             return text;

@@ -10,6 +10,7 @@ namespace VyrLibraryUtils::Pictures {
 namespace {
 
 constexpr std::uint16_t exifDirectoryLink = 0x8769;
+constexpr std::uint16_t placeDirectoryLink = 0x8825;
 /// How many bytes the thumbnail has; PictureTag::Thumbnail says where it stands.
 constexpr std::uint16_t thumbnailLength = 0x0202;
 constexpr std::size_t entrySize = 12;
@@ -18,10 +19,14 @@ constexpr std::size_t longestText = 65535;
 
 enum class ValueType : std::uint16_t
 {
+    Byte = 1,
     Ascii = 2,
     Short = 3,
     Long = 4,
+    Rational = 5,
     Undefined = 7,
+    SignedLong = 9,
+    SignedRational = 10,
     Directory = 13,
     Utf8 = 129
 };
@@ -47,11 +52,14 @@ public:
     }
     /// The first entry of `tag` in the directory at `offset`.
     [[nodiscard]] std::optional<Entry> Find(std::uint32_t offset, std::uint16_t tag) const;
-    /// The first entry of `tag` in the Exif directory that the directory at `offset` links to.
-    [[nodiscard]] std::optional<Entry> FindInExifDirectory(std::uint32_t offset, std::uint16_t tag) const;
+    /// The first entry of `tag` in the directory that the entry `link` of the directory at `offset` links to.
+    [[nodiscard]] std::optional<Entry> FindBehind(std::uint16_t link, std::uint32_t offset, std::uint16_t tag) const;
     /// The offset of the directory that `entry` links to; 0 when there is none.
     [[nodiscard]] std::uint32_t LinkedDirectory(const Entry& entry) const;
     [[nodiscard]] std::string Text(const Entry& entry) const;
+    [[nodiscard]] std::string Bytes(const Entry& entry) const;
+    /// The numbers of `entry`, with blanks between them; a fraction is "1/250". Empty where it holds none.
+    [[nodiscard]] std::string Numbers(const Entry& entry) const;
     /// The thumbnail that the directory behind the one at `offset` refers to.
     [[nodiscard]] std::string Thumbnail(std::uint32_t offset) const;
 
@@ -60,7 +68,6 @@ private:
     {
         return static_cast<std::uint32_t>(ToUnsigned(bytes.substr(place, width), m_order));
     }
-    [[nodiscard]] std::string Bytes(const Entry& entry) const;
     /// The offset of the directory behind the one at `offset`; 0 when there is none.
     [[nodiscard]] std::uint32_t NextDirectory(std::uint32_t offset) const;
     /// The number in the entry of `tag` in the directory at `offset`; 0 when there is none.
@@ -99,10 +106,10 @@ std::uint32_t TiffReader::LinkedDirectory(const Entry& entry) const
     return isLink ? entry.valueOrOffset : 0;
 }
 
-std::optional<Entry> TiffReader::FindInExifDirectory(std::uint32_t offset, std::uint16_t tag) const
+std::optional<Entry> TiffReader::FindBehind(std::uint16_t link, std::uint32_t offset, std::uint16_t tag) const
 {
-    const std::optional<Entry> link = Find(offset, exifDirectoryLink);
-    const std::uint32_t linked = link ? LinkedDirectory(*link) : 0;
+    const std::optional<Entry> entry = Find(offset, link);
+    const std::uint32_t linked = entry ? LinkedDirectory(*entry) : 0;
     return linked == 0 || linked == offset ? std::nullopt : Find(linked, tag);
 }
 
@@ -111,6 +118,51 @@ std::string TiffReader::Bytes(const Entry& entry) const
     const std::uint64_t offset = entry.count <= 4 ? entry.valueField : entry.valueOrOffset;
     const ByteView value = m_tiff.Part(offset, entry.count);
     return value.Size() == entry.count ? value.Copy(longestText) : std::string();
+}
+
+/// How many bytes a number of that type has; 0 for types that hold no numbers.
+std::size_t WidthOf(ValueType type)
+{
+    switch (type) {
+    case ValueType::Byte:
+        return 1;
+    case ValueType::Short:
+        return 2;
+    case ValueType::Long:
+    case ValueType::SignedLong:
+        return 4;
+    case ValueType::Rational:
+    case ValueType::SignedRational:
+        return 8;
+    default:
+        return 0;
+    }
+}
+
+std::string TiffReader::Numbers(const Entry& entry) const
+{
+    // No tag of Exif has more.
+    constexpr std::uint32_t mostNumbers = 16;
+    const std::size_t width = WidthOf(entry.type);
+    const bool isSigned = entry.type == ValueType::SignedLong || entry.type == ValueType::SignedRational;
+    const auto append = [this, isSigned](std::string& text, std::string_view bytes) {
+        const auto number = static_cast<std::uint32_t>(ToUnsigned(bytes, m_order));
+        text += isSigned ? std::to_string(static_cast<std::int32_t>(number)) : std::to_string(number);
+    };
+    if (width == 0 || entry.count == 0 || entry.count > mostNumbers)
+        return {};
+    const std::size_t size = entry.count * width;
+    const std::string_view bytes = m_tiff.Fetch(size <= 4 ? entry.valueField : entry.valueOrOffset, size);
+    std::string text;
+    for (std::size_t place = 0; place < bytes.size(); place += width) {
+        if (place > 0)
+            text += ' ';
+        const bool isFraction = width == 8;
+        append(text, bytes.substr(place, isFraction ? 4 : width));
+        if (isFraction)
+            append(text += '/', bytes.substr(place + 4, 4));
+    }
+    return text;
 }
 
 std::string TiffReader::Text(const Entry& entry) const
@@ -122,9 +174,8 @@ std::string TiffReader::Text(const Entry& entry) const
         return Bytes(entry);
     // The writer took the wrong type; the tag holds a number only.
     case ValueType::Short:
-        return entry.count == 1 ? std::to_string(ToUnsigned(m_tiff.Fetch(entry.valueField, 2), m_order)) : "";
     case ValueType::Long:
-        return entry.count == 1 ? std::to_string(entry.valueOrOffset) : "";
+        return entry.count == 1 ? Numbers(entry) : std::string();
     default:
         return {};
     }
@@ -149,7 +200,7 @@ std::string TiffReader::Thumbnail(std::uint32_t offset) const
     if (next == 0 || next == offset)
         return {};
     const std::uint32_t length = LongIn(next, thumbnailLength);
-    const ByteView bytes = m_tiff.Part(LongIn(next, static_cast<std::uint16_t>(PictureTag::Thumbnail)), length);
+    const ByteView bytes = m_tiff.Part(LongIn(next, NumberOf(PictureTag::Thumbnail)), length);
     const bool isSound = length <= largestThumbnail && bytes.Size() == length && IsJpeg(bytes);
     return isSound ? bytes.Copy(length) : std::string();
 }
@@ -167,6 +218,20 @@ bool IsBlankDate(const std::string& date)
     return date.find_first_of("123456789") == std::string::npos;
 }
 
+/// A structure whose first directory is `Linked` itself has no other.
+std::optional<Entry> FindTag(const TiffReader& reader, std::uint32_t directory, PictureTag tag, FirstDirectory first)
+{
+    const std::uint16_t number = NumberOf(tag);
+    if (first == FirstDirectory::Linked)
+        return reader.Find(directory, number);
+    if (IsOfPlace(tag))
+        return reader.FindBehind(placeDirectoryLink, directory, number);
+    std::optional<Entry> entry;
+    if (IsInExif(tag))
+        entry = reader.FindBehind(exifDirectoryLink, directory, number);
+    return entry ? entry : reader.Find(directory, number);
+}
+
 } // namespace
 
 bool IsTiff(const ByteView& bytes)
@@ -182,19 +247,19 @@ std::string ReadTiff(const ByteView& tiff, PictureTag tag, FirstDirectory first)
     if (!IsTiff(tiff))
         return {};
     const TiffReader reader(tiff, tiff.StartsWith("II") ? ByteOrder::Little : ByteOrder::Big);
-    const bool isDate = tag == PictureTag::DateTimeOriginal;
 
     const std::uint32_t directory = reader.FirstDirectoryOffset();
     if (tag == PictureTag::Thumbnail)
         return reader.Thumbnail(directory);
-    std::optional<Entry> entry;
-    if (isDate && first == FirstDirectory::Image)
-        entry = reader.FindInExifDirectory(directory, static_cast<std::uint16_t>(tag));
-    // Some programs write the date into the first directory.
+    const std::optional<Entry> entry = FindTag(reader, directory, tag, first);
     if (!entry)
-        entry = reader.Find(directory, static_cast<std::uint16_t>(tag));
-    const std::string text = entry ? TrimmedText(reader.Text(*entry)) : std::string();
-    return isDate && IsBlankDate(text) ? std::string() : text;
+        return {};
+    if (IsAsBytes(tag))
+        return reader.Bytes(*entry);
+    if (IsAsNumbers(tag))
+        return reader.Numbers(*entry);
+    const std::string text = TrimmedText(reader.Text(*entry));
+    return tag == PictureTag::DateTimeOriginal && IsBlankDate(text) ? std::string() : text;
 }
 
 } // namespace VyrLibraryUtils::Pictures

@@ -14,7 +14,7 @@ namespace VyrLibraryUtils::Pictures {
 enum class FirstDirectory : std::uint8_t
 {
     Image, ///< the picture's own tags, and a link to its Exif directory
-    Exif   ///< the Exif tags themselves (a box of CR3)
+    Linked ///< the tags of a directory that others link to (boxes of CR3)
 };
 
 /// Whether `bytes` begin as a TIFF structure does: TIFF itself, and raw formats that have another number in the place
@@ -25,8 +25,8 @@ enum class FirstDirectory : std::uint8_t
 constexpr std::size_t largestThumbnail = 65536;
 
 /// The text of `tag` in the TIFF structure that begins at the first byte of `tiff`, without trailing blanks and NULs.
-/// Empty when the tag is missing or blank, and when a date has no digit but 0. The date comes from the Exif directory,
-/// or from the first directory when the Exif directory has none. At most two directories are read.
+/// Empty when the tag is missing or blank, and when DateTimeOriginal has no digit but 0. A tag of the Exif directory
+/// comes from there, or from the first directory when the Exif directory has none. At most two directories are read.
 /// PictureTag::Thumbnail gives the bytes of the thumbnail as they are; nothing unless they lie within the structure,
 /// begin as a JPEG and are at most `largestThumbnail`. Source: TIFF 6.0, section 2; Exif 2.32, section 4.5.
 [[nodiscard]] std::string ReadTiff(const ByteView& tiff, PictureTag tag, FirstDirectory first = FirstDirectory::Image);

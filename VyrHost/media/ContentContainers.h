@@ -1,0 +1,40 @@
+/// @file
+/// What the containers that many kinds of files share hold.
+#pragma once
+
+#include <VyrLibraryUtils/pictures/ByteView.h>
+
+#include <string_view>
+
+namespace VyrHost::Media {
+
+/// Each gives the usual extension of what `file` holds, and nothing for what is not known. The view begins as a file of
+/// that container does.
+
+/// ZIP: documents, books and programs are told by their members' names, or by what the member "mimetype" says. Source:
+/// PKWARE's APPNOTE 6.3.10, section 4.3; OpenDocument 1.3, part 2, section 3.3; EPUB OCF 3.3, section 4.3.
+[[nodiscard]] std::u16string_view KindOfZip(const VyrLibraryUtils::Pictures::ByteView& file);
+
+/// A compound document, by the names in its directory. Source: MS-CFB, sections 2.2 and 2.6.
+[[nodiscard]] std::u16string_view KindOfCompound(const VyrLibraryUtils::Pictures::ByteView& file);
+
+/// The ISO base media format, by its brands. Source: ISO/IEC 14496-12, section 4.3; the registry of brands at
+/// mp4ra.org.
+[[nodiscard]] std::u16string_view KindOfIsoMedia(const VyrLibraryUtils::Pictures::ByteView& file);
+
+/// RIFF: WAV, AVI, WebP and others.
+[[nodiscard]] std::u16string_view KindOfRiff(const VyrLibraryUtils::Pictures::ByteView& file);
+
+/// Ogg, by its first codec. Source: RFC 5334 and RFC 7845.
+[[nodiscard]] std::u16string_view KindOfOgg(const VyrLibraryUtils::Pictures::ByteView& file);
+
+/// Matroska, by the type of its head: WebM is one.
+[[nodiscard]] std::u16string_view KindOfMatroska(const VyrLibraryUtils::Pictures::ByteView& file);
+
+/// ASF: films have a stream of pictures. Source: the Advanced Systems Format Specification, section 3.3.
+[[nodiscard]] std::u16string_view KindOfAsf(const VyrLibraryUtils::Pictures::ByteView& file);
+
+/// TIFF, and raw pictures in the same form.
+[[nodiscard]] std::u16string_view KindOfTiff(VyrLibraryUtils::Pictures::ByteSource& file);
+
+} // namespace VyrHost::Media

@@ -1,0 +1,253 @@
+// Reads the head of Matroska and WebM files.
+#include <VyrHost/media/Movie.h>
+
+#include <VyrHost/media/Instants.h>
+
+#include <bit>
+#include <cmath>
+
+namespace VyrHost::Media {
+
+namespace {
+
+using namespace VyrLibraryUtils::Pictures;
+
+/// Elements, by the numbers of RFC 9559.
+enum class Id : std::uint32_t
+{
+    Segment = 0x18538067,
+    SeekHead = 0x114D9B74,
+    Seek = 0x4DBB,
+    SeekId = 0x53AB,
+    SeekPosition = 0x53AC,
+    Info = 0x1549A966,
+    TimestampScale = 0x2AD7B1,
+    Duration = 0x4489,
+    DateUtc = 0x4461,
+    Title = 0x7BA9,
+    Tracks = 0x1654AE6B,
+    TrackEntry = 0xAE,
+    Video = 0xE0,
+    PixelWidth = 0xB0,
+    PixelHeight = 0xBA,
+    Cluster = 0x1F43B675
+};
+
+/// It bounds the search in a file of empty elements.
+constexpr int mostElements = 10000;
+
+struct Element
+{
+    Id id;
+    ByteView content;
+};
+
+/// How many bytes a number has whose first byte is `first`; 9 for a first byte of 0.
+std::size_t WidthOf(std::uint8_t first)
+{
+    return static_cast<std::size_t>(std::countl_zero(first)) + 1;
+}
+
+/// The element at the cursor, which is skipped; nothing at the end and where there is none. A size of ones is unknown:
+/// the element reaches to the end.
+std::optional<Element> NextElement(ByteCursor& cursor)
+{
+    const std::uint8_t firstOfId = cursor.U8();
+    const std::size_t idWidth = WidthOf(firstOfId);
+    if (cursor.Failed() || idWidth > 4)
+        return std::nullopt;
+    const std::uint64_t id = std::uint64_t{firstOfId} << 8 * (idWidth - 1) | cursor.Unsigned(idWidth - 1);
+    const std::uint8_t firstOfSize = cursor.U8();
+    const std::size_t sizeWidth = WidthOf(firstOfSize);
+    if (cursor.Failed() || sizeWidth > 8)
+        return std::nullopt;
+    const std::uint64_t mostBits = (std::uint64_t{1} << 7 * sizeWidth) - 1;
+    const std::uint64_t bits = std::uint64_t{firstOfSize} << 8 * (sizeWidth - 1) | cursor.Unsigned(sizeWidth - 1);
+    std::uint64_t size = bits & mostBits;
+    if (cursor.Failed())
+        return std::nullopt;
+    if (size == mostBits)
+        size = cursor.Remaining();
+    return Element{static_cast<Id>(id), cursor.Take(size)};
+}
+
+/// Hands each element of `elements` to `use`, until that returns false.
+template <class Use>
+void ForEachElement(const ByteView& elements, Use use)
+{
+    ByteCursor cursor(elements, ByteOrder::Big);
+    for (int left = mostElements; left > 0; --left) {
+        const std::optional<Element> element = NextElement(cursor);
+        if (!element || !use(*element))
+            return;
+    }
+}
+
+std::uint64_t NumberIn(const ByteView& content)
+{
+    return content.Size() <= 8 ? ByteCursor(content, ByteOrder::Big).Unsigned(static_cast<std::size_t>(content.Size()))
+                               : 0;
+}
+
+double RealIn(const ByteView& content)
+{
+    const std::uint64_t bits = NumberIn(content);
+    return content.Size() == 4 ? double{std::bit_cast<float>(static_cast<std::uint32_t>(bits))}
+                               : std::bit_cast<double>(bits);
+}
+
+std::optional<VyrPlatform::FileTicks> DateIn(const ByteView& content)
+{
+    constexpr std::int64_t nanosecondsPerSecond = 1'000'000'000;
+    if (content.Size() != 8)
+        return std::nullopt;
+    const auto nanoseconds = static_cast<std::int64_t>(NumberIn(content));
+    // Towards the past, so that fractions are dropped alike on both sides.
+    const std::int64_t seconds = nanoseconds / nanosecondsPerSecond - (nanoseconds % nanosecondsPerSecond < 0 ? 1 : 0);
+    return InstantOf(secondsTo2001 + seconds);
+}
+
+void ReadInfo(const ByteView& info, Movie& movie)
+{
+    constexpr std::size_t longestTitle = 65536;
+    std::uint64_t scale = 1'000'000;
+    double duration = 0;
+    ForEachElement(info, [&](const Element& element) {
+        switch (element.id) {
+        case Id::TimestampScale:
+            scale = NumberIn(element.content);
+            break;
+        case Id::Duration:
+            duration = RealIn(element.content);
+            break;
+        case Id::DateUtc:
+            movie.created = DateIn(element.content);
+            break;
+        case Id::Title:
+            movie.title = element.content.Copy(longestTitle);
+            break;
+        default:
+            break;
+        }
+        return true;
+    });
+    constexpr double nanosecondsPerMillisecond = 1e6;
+    constexpr double mostMilliseconds = 1e15;
+    const double milliseconds = duration * static_cast<double>(scale) / nanosecondsPerMillisecond;
+    if (milliseconds > 0 && milliseconds < mostMilliseconds)
+        movie.duration = static_cast<std::uint64_t>(std::llround(milliseconds));
+}
+
+void ReadVideo(const ByteView& video, Movie& movie)
+{
+    std::uint64_t width = 0;
+    std::uint64_t height = 0;
+    ForEachElement(video, [&](const Element& element) {
+        if (element.id == Id::PixelWidth)
+            width = NumberIn(element.content);
+        else if (element.id == Id::PixelHeight)
+            height = NumberIn(element.content);
+        return true;
+    });
+    if (width > 0 && height > 0 && width <= UINT32_MAX && height <= UINT32_MAX) {
+        movie.width = static_cast<std::uint32_t>(width);
+        movie.height = static_cast<std::uint32_t>(height);
+    }
+}
+
+void ReadTracks(const ByteView& tracks, Movie& movie)
+{
+    ForEachElement(tracks, [&movie](const Element& track) {
+        if (track.id == Id::TrackEntry)
+            ForEachElement(track.content, [&movie](const Element& element) {
+                if (element.id == Id::Video)
+                    ReadVideo(element.content, movie);
+                return movie.width == 0;
+            });
+        return movie.width == 0;
+    });
+}
+
+/// Where the directory of the segment says that `wanted` stands.
+std::optional<std::uint64_t> PlaceOf(Id wanted, const ByteView& directory)
+{
+    std::optional<std::uint64_t> place;
+    ForEachElement(directory, [&](const Element& seek) {
+        std::uint64_t id = 0;
+        std::uint64_t position = 0;
+        if (seek.id == Id::Seek)
+            ForEachElement(seek.content, [&](const Element& element) {
+                if (element.id == Id::SeekId)
+                    id = NumberIn(element.content);
+                else if (element.id == Id::SeekPosition)
+                    position = NumberIn(element.content);
+                return true;
+            });
+        if (id == static_cast<std::uint32_t>(wanted))
+            place = position;
+        return !place;
+    });
+    return place;
+}
+
+/// What writers put behind the pictures is found by the directory of the segment.
+template <class Read>
+void ReadByDirectory(Id wanted, const ByteView& directory, const ByteView& segment, Read read)
+{
+    const std::optional<std::uint64_t> place = PlaceOf(wanted, directory);
+    if (!place)
+        return;
+    ByteCursor cursor(segment.From(*place), ByteOrder::Big);
+    const std::optional<Element> element = NextElement(cursor);
+    if (element && element->id == wanted)
+        read(element->content);
+}
+
+void ReadSegment(const ByteView& segment, Movie& movie)
+{
+    ByteView directory = segment.Part(0, 0);
+    bool hasInfo = false;
+    bool hasTracks = false;
+    const auto readInfo = [&](const ByteView& info) {
+        hasInfo = true;
+        ReadInfo(info, movie);
+    };
+    const auto readTracks = [&](const ByteView& tracks) {
+        hasTracks = true;
+        ReadTracks(tracks, movie);
+    };
+    ForEachElement(segment, [&](const Element& element) {
+        if (element.id == Id::SeekHead)
+            directory = element.content;
+        else if (element.id == Id::Info)
+            readInfo(element.content);
+        else if (element.id == Id::Tracks)
+            readTracks(element.content);
+        // From here on come the pictures.
+        return element.id != Id::Cluster && !(hasInfo && hasTracks);
+    });
+    if (!hasInfo)
+        ReadByDirectory(Id::Info, directory, segment, readInfo);
+    if (!hasTracks)
+        ReadByDirectory(Id::Tracks, directory, segment, readTracks);
+}
+
+} // namespace
+
+bool IsMatroska(const ByteView& bytes)
+{
+    return bytes.StartsWith("\x1A\x45\xDF\xA3");
+}
+
+Movie ReadMatroska(const ByteView& file)
+{
+    Movie movie;
+    ForEachElement(file, [&movie](const Element& element) {
+        if (element.id == Id::Segment)
+            ReadSegment(element.content, movie);
+        return element.id != Id::Segment;
+    });
+    return movie;
+}
+
+} // namespace VyrHost::Media

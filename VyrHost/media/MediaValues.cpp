@@ -1,0 +1,176 @@
+// Opens a file once and asks the readers of its format.
+#include <VyrHost/media/MediaValues.h>
+
+#include <VyrHost/media/ExifTagReader.h>
+#include <VyrHost/media/Movie.h>
+#include <VyrHost/media/Music.h>
+#include <VyrHost/media/OpenFile.h>
+#include <VyrHost/media/PictureDates.h>
+#include <VyrHost/media/Texts.h>
+#include <VyrLibraryUtils/pictures/Picture.h>
+#include <VyrLibraryUtils/pictures/PictureSize.h>
+#include <VyrPlatform/files/FileSystem.h>
+
+#include <algorithm>
+#include <charconv>
+#include <string>
+
+namespace VyrHost::Media {
+
+namespace {
+
+namespace Pictures = VyrLibraryUtils::Pictures;
+
+bool IsPacket(const Pictures::ByteView& bytes)
+{
+    return bytes.StartsWith("<?xpacket") || bytes.StartsWith("<x:xmpmeta") || bytes.StartsWith("<?xml");
+}
+
+/// The packet of XMP in the file, or the file itself where it is a sidecar.
+std::string PacketIn(Pictures::ByteSource& source)
+{
+    constexpr std::size_t longestSidecar = std::size_t{1} << 20;
+    const Pictures::ByteView bytes(source);
+    return IsPacket(bytes) ? bytes.Copy(longestSidecar) : Pictures::ReadPicture(source, Pictures::PictureTag::Xmp);
+}
+
+std::string PacketBeside(const CString& path)
+{
+    const std::u16string_view whole = path;
+    const auto separator = std::find_if(whole.rbegin(), whole.rend(), VyrPlatform::FileSystem::IsSeparator);
+    const auto nameAt = static_cast<std::size_t>(separator.base() - whole.begin());
+    const std::size_t dot = whole.rfind(u'.');
+    const bool hasExtension = dot != std::u16string_view::npos && dot > nameAt;
+    for (const std::u16string_view stem : {whole, hasExtension ? whole.substr(0, dot) : whole}) {
+        OpenFile sidecar(CString::Join({stem, u".xmp"}));
+        if (sidecar.IsOpen() && IsPacket(Pictures::ByteView(sidecar.Source())))
+            return PacketIn(sidecar.Source());
+    }
+    return {};
+}
+
+/// The size of a TIFF picture. The first directory of a raw one may describe a small preview, which says so.
+Pictures::PictureSize TiffSize(Pictures::ByteSource& source)
+{
+    const auto number = [&source](Pictures::PictureTag tag) {
+        const std::string digits = Pictures::ReadPicture(source, AsNumbers(tag));
+        std::uint32_t value = 0;
+        std::from_chars(digits.data(), digits.data() + digits.size(), value);
+        return value;
+    };
+    constexpr std::uint16_t kind = 0x00FE;
+    const bool isPreview = (number(Pictures::ImageTag(kind)) & 1) != 0;
+    if (isPreview)
+        return {number(Pictures::ExifTag(0xA002)), number(Pictures::ExifTag(0xA003))};
+    return {number(Pictures::ImageTag(0x0100)), number(Pictures::ImageTag(0x0101))};
+}
+
+bool IsTiff(const Pictures::ByteView& bytes)
+{
+    return bytes.StartsWith(std::string_view("II*\0", 4)) || bytes.StartsWith(std::string_view("MM\0*", 4));
+}
+
+class Reading
+{
+public:
+    Reading(const CString& path, OpenFile& file, const MediaQuestion& question)
+        : m_path(path), m_file(file), m_source(file.Source()), m_bytes(m_source), m_question(question)
+    {}
+
+    MediaValues Run()
+    {
+        if (m_question.size || m_question.duration || m_question.tags || m_question.videoCreated)
+            ReadMovieOrMusic();
+        if (m_question.exifDates) {
+            m_values.taken = ReadTaken(m_source);
+            m_values.digitized = ReadDigitized(m_source);
+        }
+        if (m_question.xmpDate || ExifTagReader::AsksForXmp(m_question.exif))
+            m_packet = PacketIn(m_source);
+        if (m_question.xmpDate)
+            ReadDateOfPacket();
+        if (m_question.exif.any())
+            ReadExifTags();
+        return std::move(m_values);
+    }
+
+private:
+    void ReadMovieOrMusic()
+    {
+        if (m_question.size && TakePictureSize())
+            return;
+        if (IsIsoMedia(m_bytes))
+            Take(ReadIsoMovie(m_bytes));
+        else if (IsMatroska(m_bytes))
+            Take(ReadMatroska(m_bytes));
+        else if (IsAvi(m_bytes))
+            Take(ReadAvi(m_bytes));
+        const bool isDurationMissing = m_question.duration && !m_values.duration;
+        if ((isDurationMissing || m_question.tags) && !IsMatroska(m_bytes) && !IsAvi(m_bytes))
+            ReadMusic(m_file, {.duration = isDurationMissing, .tags = m_question.tags}, m_values);
+    }
+
+    /// Whether the file is a picture, which has neither a duration nor tags of music.
+    bool TakePictureSize()
+    {
+        auto size = Pictures::ReadPictureSize(m_source);
+        if (!size && IsTiff(m_bytes))
+            size = TiffSize(m_source);
+        if (!size)
+            return false;
+        m_values.width = size->width;
+        m_values.height = size->height;
+        return true;
+    }
+
+    void Take(const Movie& movie)
+    {
+        if (m_question.size) {
+            m_values.width = movie.width;
+            m_values.height = movie.height;
+        }
+        if (m_question.duration)
+            m_values.duration = movie.duration;
+        if (m_question.videoCreated)
+            m_values.videoCreated = movie.created;
+        if (m_question.tags)
+            m_values.title = TextOf(movie.title);
+    }
+
+    void ReadDateOfPacket()
+    {
+        m_values.xmpCreated = ReadXmpDate(m_packet);
+        if (!m_values.xmpCreated)
+            m_values.xmpCreated = ReadXmpDate(PacketBeside(m_path));
+    }
+
+    void ReadExifTags()
+    {
+        ExifTagReader reader(m_source, m_packet);
+        for (std::size_t tag = 0; tag < exifTagCount; ++tag)
+            if (m_question.exif[tag])
+                m_values.exif[tag] = reader.Read(static_cast<ExifTag>(tag));
+    }
+
+    const CString& m_path;
+    OpenFile& m_file;
+    Pictures::ByteSource& m_source;
+    Pictures::ByteView m_bytes;
+    const MediaQuestion& m_question;
+    std::string m_packet;
+    MediaValues m_values;
+};
+
+} // namespace
+
+MediaValues ReadMedia(const CString& path, const MediaQuestion& question)
+{
+    OpenFile file(path);
+    if (file.IsOpen())
+        return Reading(path, file, question).Run();
+    MediaValues values;
+    values.error = file.ErrorFor(path);
+    return values;
+}
+
+} // namespace VyrHost::Media

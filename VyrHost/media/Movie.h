@@ -1,0 +1,44 @@
+/// @file
+/// Films: MP4, MOV, M4V and what is made like them, Matroska and WebM, AVI.
+#pragma once
+
+#include <VyrLibraryUtils/pictures/ByteView.h>
+#include <VyrPlatform/files/FileTimes.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace VyrHost::Media {
+
+/// What the head of a film tells. What it does not tell is missing, 0 or empty.
+struct Movie
+{
+    std::optional<VyrPlatform::FileTicks> created;
+    /// In milliseconds.
+    std::optional<std::uint64_t> duration;
+    /// Of the first track with pictures, in points, as they are stored.
+    std::uint32_t width = 0;
+    std::uint32_t height = 0;
+    /// UTF-8.
+    std::string title;
+};
+
+/// Whether `bytes` begin with a box of a film, of music in the same boxes, or of a HEIC or AVIF picture.
+[[nodiscard]] bool IsIsoMedia(const VyrLibraryUtils::Pictures::ByteView& bytes);
+[[nodiscard]] bool IsMatroska(const VyrLibraryUtils::Pictures::ByteView& bytes);
+[[nodiscard]] bool IsAvi(const VyrLibraryUtils::Pictures::ByteView& bytes);
+
+/// A film in boxes. A date of 0 is no date; one before 1970 counts from 1970, as those writers meant that took the
+/// wrong year to count from. Of a HEIC or AVIF picture the size of the largest of its pictures. Source: ISO/IEC
+/// 14496-12, sections 8.2.2, 8.3.2, 8.4.3, 8.5.2 and 8.8.2; ISO/IEC 23008-12, section 6.5.3.
+[[nodiscard]] Movie ReadIsoMovie(const VyrLibraryUtils::Pictures::ByteView& file);
+
+/// Matroska and WebM. Source: RFC 9559, sections 5.1.2 and 5.1.4; RFC 8794.
+[[nodiscard]] Movie ReadMatroska(const VyrLibraryUtils::Pictures::ByteView& file);
+
+/// AVI. Its date is the local one of its chunk IDIT, else a whole date in ICRD. Source: the RIFF MCI specification
+/// of 1991; OpenDML AVI file format extensions 1.02.
+[[nodiscard]] Movie ReadAvi(const VyrLibraryUtils::Pictures::ByteView& file);
+
+} // namespace VyrHost::Media

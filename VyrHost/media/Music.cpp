@@ -1,0 +1,151 @@
+// Lends TagLib the bytes of a file: by TagLib's own streams, the names of files would differ between the systems, and
+// nothing would bound what a damaged file makes it read.
+#include <VyrHost/media/Music.h>
+
+#include <VyrHost/media/Texts.h>
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+#include <span>
+#include <string>
+
+#include <taglib/fileref.h>
+#include <taglib/tag.h>
+#include <taglib/tiostream.h>
+#include <taglib/tpropertymap.h>
+
+namespace VyrHost::Media {
+
+namespace {
+
+/// More than any tag with its pictures has.
+constexpr std::uint64_t mostBytesAtOnce = std::uint64_t{32} << 20;
+constexpr std::uint64_t mostBytesInAll = std::uint64_t{64} << 20;
+/// TagLib reads many small blocks close to one another.
+constexpr std::size_t windowSize = 4096;
+
+class BoundedStream final : public TagLib::IOStream
+{
+public:
+    explicit BoundedStream(const MusicBytes& bytes) : m_bytes(bytes), m_size(ToLong(bytes.Size())) {}
+
+    /// The name is not to decide.
+    TagLib::FileName name() const override { return ""; }
+
+    TagLib::ByteVector readBlock(unsigned long length) override
+    {
+        const auto rest = static_cast<std::uint64_t>(m_at < m_size ? m_size - m_at : 0);
+        const std::uint64_t count = std::min<std::uint64_t>(length, rest);
+        if (count == 0 || count > mostBytesAtOnce || m_bytesRead > mostBytesInAll)
+            return {};
+        TagLib::ByteVector block(static_cast<unsigned int>(count), 0);
+        const std::size_t read = Read(std::as_writable_bytes(std::span(block.data(), count)));
+        m_at += static_cast<long>(read);
+        return block.resize(static_cast<unsigned int>(read));
+    }
+
+    void writeBlock(const TagLib::ByteVector&) override {}
+    void insert(const TagLib::ByteVector&, unsigned long, unsigned long) override {}
+    void removeBlock(unsigned long, unsigned long) override {}
+    void truncate(long) override {}
+    bool readOnly() const override { return true; }
+    bool isOpen() const override { return true; }
+
+    void seek(long offset, Position from) override
+    {
+        const long origin = from == Beginning ? 0 : from == Current ? m_at : m_size;
+        long place = 0;
+        if (!__builtin_add_overflow(origin, offset, &place))
+            m_at = std::max(place, 0L);
+    }
+    long tell() const override { return m_at; }
+    long length() override { return m_size; }
+
+private:
+    static long ToLong(std::uint64_t size)
+    {
+        return static_cast<long>(
+            std::min<std::uint64_t>(size, static_cast<std::uint64_t>(std::numeric_limits<long>::max())));
+    }
+
+    std::size_t Read(std::span<std::byte> buffer)
+    {
+        const auto place = static_cast<std::uint64_t>(m_at);
+        if (buffer.size() > windowSize / 2) {
+            m_bytesRead += buffer.size();
+            return m_bytes.ReadAt(place, buffer);
+        }
+        if (place < m_windowAt || place + buffer.size() > m_windowAt + m_windowFill) {
+            m_windowAt = place;
+            m_windowFill = m_bytes.ReadAt(place, m_window);
+            m_bytesRead += m_windowFill;
+        }
+        const std::size_t skipped = static_cast<std::size_t>(place - m_windowAt);
+        const std::size_t count = std::min(buffer.size(), m_windowFill - std::min(skipped, m_windowFill));
+        std::copy_n(m_window.begin() + static_cast<std::ptrdiff_t>(skipped), count, buffer.begin());
+        return count;
+    }
+
+    const MusicBytes& m_bytes;
+    long m_size;
+    long m_at = 0;
+    std::uint64_t m_bytesRead = 0;
+    std::uint64_t m_windowAt = 0;
+    std::size_t m_windowFill = 0;
+    std::array<std::byte, windowSize> m_window;
+};
+
+CString ToText(const TagLib::String& text)
+{
+    return TextOf(text.to8Bit(true));
+}
+
+/// All values of one property; of `other` where there are none.
+CString TextOfProperty(const TagLib::PropertyMap& properties, const char* name, const TagLib::String& other)
+{
+    const TagLib::StringList values = properties.contains(name) ? properties[name] : TagLib::StringList();
+    return ToText(values.isEmpty() ? other : values.toString(", "));
+}
+
+/// "1/2" is 1.
+unsigned NumberAtFront(const TagLib::PropertyMap& properties, const char* name)
+{
+    const TagLib::StringList values = properties.contains(name) ? properties[name] : TagLib::StringList();
+    const std::string text = values.isEmpty() ? std::string() : values.front().to8Bit();
+    unsigned number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+void TakeTags(const TagLib::FileRef& music, MediaValues& values)
+{
+    const TagLib::Tag* const tag = music.tag();
+    if (tag == nullptr)
+        return;
+    const TagLib::PropertyMap properties = music.file()->properties();
+    values.title = TextOfProperty(properties, "TITLE", tag->title());
+    values.artist = TextOfProperty(properties, "ARTIST", tag->artist());
+    values.album = TextOfProperty(properties, "ALBUM", tag->album());
+    values.genre = TextOfProperty(properties, "GENRE", tag->genre());
+    values.track = tag->track();
+    values.year = tag->year();
+    values.disc = NumberAtFront(properties, "DISCNUMBER");
+}
+
+} // namespace
+
+void ReadMusic(const MusicBytes& bytes, const MediaQuestion& question, MediaValues& values)
+{
+    BoundedStream stream(bytes);
+    const TagLib::FileRef music(&stream, question.duration, TagLib::AudioProperties::Fast);
+    if (music.isNull())
+        return;
+    if (question.tags)
+        TakeTags(music, values);
+    const TagLib::AudioProperties* const sound = question.duration ? music.audioProperties() : nullptr;
+    if (sound != nullptr && sound->lengthInMilliseconds() > 0)
+        values.duration = static_cast<std::uint64_t>(sound->lengthInMilliseconds());
+}
+
+} // namespace VyrHost::Media

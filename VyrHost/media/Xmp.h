@@ -1,0 +1,25 @@
+/// @file
+/// Properties in a packet of XMP.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace VyrHost::Media {
+
+/// The namespaces of the properties that are read.
+namespace XmpSpace {
+inline constexpr std::string_view dublinCore = "http://purl.org/dc/elements/1.1/";
+inline constexpr std::string_view basic = "http://ns.adobe.com/xap/1.0/";
+inline constexpr std::string_view photoshop = "http://ns.adobe.com/photoshop/1.0/";
+inline constexpr std::string_view iptcCore = "http://iptc.org/std/Iptc4xmpCore/1.0/xmlns/";
+inline constexpr std::string_view auxiliary = "http://ns.adobe.com/exif/1.0/aux/";
+} // namespace XmpSpace
+
+/// The value of the property `name` of the namespace `space`, in UTF-8: an attribute, or the text of an element. The
+/// items of a list are joined by ", "; of a text in several languages the first counts, which is the default. Empty
+/// where the packet lacks it. A packet that is cut off or is not well-formed gives what is before that place. Source:
+/// XMP Specification Part 1, section 7.
+[[nodiscard]] std::string XmpProperty(std::string_view packet, std::string_view space, std::string_view name);
+
+} // namespace VyrHost::Media

@@ -1,0 +1,11 @@
+# Provides TagLib as VyrTagLib. On Windows it is linked statically, from what scripts/build-windows-libraries has built.
+add_library(VyrTagLib INTERFACE)
+if(WIN32)
+  set(VYR_WINDOWS_LIBRARIES "${PROJECT_SOURCE_DIR}/build/windows-libraries" CACHE PATH "What scripts/build-windows-libraries has built")
+  target_include_directories(VyrTagLib SYSTEM INTERFACE "${VYR_WINDOWS_LIBRARIES}/include")
+  target_link_libraries(VyrTagLib INTERFACE "${VYR_WINDOWS_LIBRARIES}/lib/libtag.a")
+  target_compile_definitions(VyrTagLib INTERFACE TAGLIB_STATIC)
+else()
+  find_library(VYR_TAGLIB tag REQUIRED)
+  target_link_libraries(VyrTagLib INTERFACE ${VYR_TAGLIB})
+endif()
