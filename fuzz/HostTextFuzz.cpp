@@ -53,7 +53,7 @@ void CheckRules(std::uint8_t choice, const CString& text)
         ExtensionRules,
         ExtensionCaseRules,
         [](const CString& pattern) { return NumberRules(pattern, {}); },
-        [](const CString& format) { return DateRules(format, {VyrHost::Model::DateSource::Modified}); },
+        [](const CString& format) { return DateRules(format, {}); },
         [](const CString& either) {
             return ReplaceRules(either, either);
         }};

@@ -15,7 +15,6 @@
 #include <VyrHostPlatform/Console.h>
 #include <VyrHostPlatform/Editor.h>
 #include <VyrHostPlatform/Interrupt.h>
-#include <VyrHostPlatform/ReadToEnd.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/text/CString.h>
 
@@ -68,24 +67,9 @@ std::unordered_map<std::uint32_t, CString> EditNames(const std::vector<CString>&
     }
 }
 
-std::string ReadPairsFile(const CString& path)
-{
-    if (path != u"-") {
-        std::uint32_t error = 0;
-        std::optional<std::string> bytes = VyrHostPlatform::ReadToEnd(path, error);
-        if (!bytes)
-            throw Text::UsageError("cannot read '" + Text::SafeText(path) +
-                                   "': " + Text::SafeText(Text::ErrorText(error)));
-        return std::move(*bytes);
-    }
-    std::string bytes;
-    Text::ReadStandardInput([&bytes](std::string_view piece) { bytes += piece; });
-    return bytes;
-}
-
 std::vector<Rename::NamePair> ReadPairs(const CString& path)
 {
-    std::vector<Rename::NamePair> pairs = Rename::ParsePairs(ReadPairsFile(path));
+    std::vector<Rename::NamePair> pairs = Rename::ParsePairs(Text::ReadInputFile(path));
     if (pairs.empty())
         throw Text::UsageError("there are no pairs of names in " +
                                (path == u"-" ? std::string("the standard input") : "'" + Text::SafeText(path) + "'"));

@@ -3,8 +3,11 @@
 
 #include <VyrHost/cli/Arguments.h>
 #include <VyrHost/cli/Options.h>
+#include <VyrHost/metadata/Shift.h>
+#include <VyrHost/rename/CsvData.h>
 #include <VyrHost/rename/RuleTexts.h>
 #include <VyrHost/text/Errors.h>
+#include <VyrHost/text/Input.h>
 
 #include <CLI/CLI.hpp>
 
@@ -40,9 +43,32 @@ struct Given
     std::vector<CString> values;
     Rename::NumberSettings number = {};
     std::optional<std::vector<Model::DateSource>> dates = {};
-    Rename::PatternRuleSettings pattern = {};
-    bool hasNamePart = false;
+    std::optional<Metadata::Amounts> shift = {};
+    std::optional<int> minutesAhead = {};
+    std::optional<CString> csv = {};
+    /// The pattern of the last rule that has one.
+    std::optional<Rename::PatternShape> lastPattern = {};
 };
+
+Rename::DateSettings DatesOf(const Given& given)
+{
+    Rename::DateSettings settings;
+    if (given.dates)
+        settings.sources = *given.dates;
+    settings.shift = given.shift;
+    settings.minutesAhead = given.minutesAhead;
+    return settings;
+}
+
+Rename::TemplateSettings TemplateOf(const Given& given)
+{
+    Rename::TemplateSettings settings;
+    settings.dates = DatesOf(given);
+    if (given.csv)
+        settings.csv = std::make_shared<Rename::CsvData>(Text::ReadInputFile(*given.csv));
+    settings.pattern = given.lastPattern;
+    return settings;
+}
 
 /// Makes rules of the one value.
 template <Rename::Rules (*Make)(const CString&)>
@@ -61,7 +87,12 @@ constexpr RuleOption ruleOptions[] = {
      "A date of the file: \"yyyy-MM-dd HHmmss\". <Name> keeps the old name, <Make> and <Model> are the camera, "
      "<Folder> ends the name of a folder to move into",
      [](const Given& given) {
-         return Rename::DateRules(given.values.front(), given.dates.value_or(std::vector{Model::DateSource::Modified}));
+         return Rename::DateRules(given.values.front(), DatesOf(given));
+     }},
+    {"--name", "TEMPLATE", 1,
+     "The whole new name, by tokens: \"<Taken:yyyy-MM-dd> <Model> <###>\". The extension stays",
+     [](const Given& given) {
+         return Rename::NameRules(given.values.front(), TemplateOf(given));
      }},
     {"--replace", "FIND WITH", 2, "Put WITH in place of every FIND (upper and lower case differ)",
      [](const Given& given) {
@@ -116,18 +147,23 @@ struct SettingOption
     /// What its value is called; empty when it has none.
     const char* value;
     const char* help;
-    /// The rule that it belongs to.
+    /// The rule that it belongs to, or several in words.
     const char* rule;
     /// @return false when the rule has the setting already.
     bool (*set)(Given& given, const CString& value);
 };
 
+template <class Value>
+bool SetOnce(std::optional<Value>& setting, Value value)
+{
+    const bool isFirst = !setting;
+    setting = std::move(value);
+    return isFirst;
+}
+
 bool SetNumber(std::optional<int>& setting, const CString& value, int least, const char* name)
 {
-    if (setting)
-        return false;
-    setting = Rename::ParseNumber(value, least, name);
-    return true;
+    return SetOnce(setting, Rename::ParseNumber(value, least, name));
 }
 
 bool SetNth(Given& given, int nth)
@@ -151,12 +187,23 @@ constexpr SettingOption settingOptions[] = {
          return SetNumber(given.number.digits, value, 0, "--digits");
      }},
     {"--date-from", "LIST",
-     "Dates for --date, the first that a file has: picture, modified, created, accessed (modified)", "--date",
+     "Dates for --date and <Date>, the first that a file has: picture, digitized, xmp, video, name, modified, "
+     "created, accessed (modified)",
+     "--date or --name",
      [](Given& given, const CString& value) {
-         if (given.dates)
-             return false;
-         given.dates = Rename::ParseDateSources(value);
-         return true;
+         return SetOnce(given.dates, Rename::ParseDateSources(value));
+     }},
+    {"--date-shift", "AMOUNT", "Shift the dates by that much, such as +1h, -30m or 1y2mo3d", "--date or --name",
+     [](Given& given, const CString& value) {
+         return SetOnce(given.shift, Metadata::ParseAmounts(value, "--date-shift"));
+     }},
+    {"--time-zone", "ZONE", "The clock for dates whose instant is known: UTC, +02:00, -9:30", "--date or --name",
+     [](Given& given, const CString& value) {
+         return SetOnce(given.minutesAhead, Rename::ParseTimeZone(value));
+     }},
+    {"--csv-data", "FILE", "The table for <Csv:COLUMN>; its first column names the files", "--name",
+     [](Given& given, const CString& value) {
+         return SetOnce(given.csv, value);
      }},
     {"--ignore-case", "", "Let --regex find letters in either case", "--regex",
      [](Given& given, const CString&) {
@@ -176,6 +223,12 @@ constexpr SettingOption settingOptions[] = {
          return !std::exchange(given.hasNamePart, true);
      }},
 };
+
+bool BelongsTo(const SettingOption& setting, const RuleOption& rule)
+{
+    const std::string rules = std::string(" ") + setting.rule + " ";
+    return rules.find(std::string(" ") + rule.name + " ") != std::string::npos;
+}
 
 template <class Options>
 auto* FindByName(const Options& options, const CLI::Option& option)
@@ -229,7 +282,7 @@ private:
     void AddSetting(const SettingOption& setting, const CString& value)
     {
         const auto rule = std::find_if(m_given.rbegin(), m_given.rend(), [&setting](const Given& given) {
-            return std::string_view(given.option->name) == setting.rule;
+            return BelongsTo(setting, *given.option);
         });
         if (rule == m_given.rend())
             m_early.emplace_back(&setting, value);
@@ -240,7 +293,7 @@ private:
     Given& First(const SettingOption& setting)
     {
         const auto rule = std::find_if(m_given.begin(), m_given.end(), [&setting](const Given& given) {
-            return std::string_view(given.option->name) == setting.rule;
+            return BelongsTo(setting, *given.option);
         });
         if (rule == m_given.end())
             throw Text::UsageError(WithoutEffect(setting.name, setting.rule));
@@ -284,8 +337,13 @@ RuleOptions::RuleOptions(CLI::App& command) : m_command(command)
 Rename::Rules RuleOptions::Make() const
 {
     Rename::Rules all;
-    for (const Given& given : Collector(m_command).Run()) {
+    std::optional<Rename::PatternShape> lastPattern;
+    for (Given& given : Collector(m_command).Run()) {
+        given.lastPattern = lastPattern;
         Rename::Rules made = given.option->make(given);
+        for (const auto& rule : made)
+            if (auto pattern = rule->Pattern())
+                lastPattern = std::move(pattern);
         std::move(made.begin(), made.end(), std::back_inserter(all));
     }
     return all;

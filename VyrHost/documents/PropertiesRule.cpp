@@ -6,6 +6,7 @@
 #include <VyrHost/model/FolderSet.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
+#include <VyrHost/text/Template.h>
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/documents/PropertyStorage.h>
 #include <VyrPlatform/files/FileReader.h>
@@ -26,8 +27,8 @@ using VyrPlatform::FileSystem::Kind;
 namespace Id = VyrPlatform::SummaryId;
 namespace Result = VyrPlatform::PropertyStorage::Result;
 
-constexpr std::u16string_view nameToken = u"<Name>";
-constexpr std::u16string_view parentToken = u"<Parent>";
+constexpr std::u16string_view nameWord = u"Name";
+constexpr std::u16string_view parentWord = u"Parent";
 
 std::string ListOfNames(bool areTextsOnly)
 {
@@ -38,22 +39,14 @@ std::string ListOfNames(bool areTextsOnly)
     return list;
 }
 
-bool IsLetter(char16_t unit)
-{
-    return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
-}
-
 /// Refuses a word in angle brackets that stands for nothing.
 void RequireTokens(std::u16string_view text)
 {
-    for (std::size_t begin = text.find(u'<'); begin != text.npos; begin = text.find(u'<', begin + 1)) {
-        const auto word = text.begin() + static_cast<std::ptrdiff_t>(begin) + 1;
-        const auto end = std::find_if_not(word, text.end(), IsLetter);
-        if (end == word || end == text.end() || *end != u'>')
-            continue;
-        const std::u16string_view token = text.substr(begin, static_cast<std::size_t>(end - word) + 2);
-        if (token != nameToken && token != parentToken)
-            Text::RefuseValue("--set", text, "it knows no " + Text::SafeText(token) + ", only <Name> and <Parent>");
+    for (const Text::TemplatePart& part : Text::CutTemplate(text)) {
+        const auto* const token = std::get_if<Text::Token>(&part);
+        if (token && token->IsBareWord() && token->word != nameWord && token->word != parentWord)
+            Text::RefuseValue("--set", text,
+                              "it knows no " + Text::SafeText(token->whole) + ", only <Name> and <Parent>");
     }
 }
 
@@ -62,14 +55,6 @@ void Add(const PropertyName& property, const std::optional<CString>& text, std::
 {
     if (!request.values.emplace(property.id, text).second)
         Text::RefuseValue(option, given, VyrPlatform::Encoding::ToUtf8(property.name) + " is named more than once");
-}
-
-/// The name of the folder that the file at `path` is in; empty for a root.
-CString ParentOf(const CString& path)
-{
-    const std::u16string_view folder = Model::FolderPart(path);
-    const std::u16string_view without = folder.substr(0, folder.empty() ? 0 : folder.size() - 1);
-    return without.substr(Model::FolderPart(without).size());
 }
 
 bool HasProperty(const DocumentProperties& properties, std::uint32_t id)
@@ -83,22 +68,23 @@ bool HasAny(const DocumentProperties& properties)
     return !properties.texts.empty() || !properties.times.empty() || properties.others > 0;
 }
 
-/// `text` with what its tokens stand for. A name that looks like a token stays what it is.
+/// What a part of a text stands for. A name that looks like a token stays what it is.
+CString TextOf(const Text::TemplatePart& part, const CString& path, const Model::Entry& entry)
+{
+    const auto* const token = std::get_if<Text::Token>(&part);
+    if (!token)
+        return std::get<CString>(part);
+    if (!token->IsBareWord())
+        return token->whole;
+    return token->word == nameWord ? Model::Split(path, entry).name : CString(Model::ParentName(path, 1));
+}
+
+/// `text` with what its tokens stand for.
 CString FillIn(std::u16string_view text, const CString& path, const Model::Entry& entry)
 {
     CString filled;
-    while (!text.empty()) {
-        const bool isName = text.starts_with(nameToken);
-        const bool isParent = text.starts_with(parentToken);
-        if (!isName && !isParent) {
-            const std::size_t plain = std::min(text.find(u'<', 1), text.size());
-            filled += text.substr(0, plain);
-            text.remove_prefix(plain);
-            continue;
-        }
-        filled += isName ? Model::Split(path, entry).name : ParentOf(path);
-        text.remove_prefix(isName ? nameToken.size() : parentToken.size());
-    }
+    for (const Text::TemplatePart& part : Text::CutTemplate(text))
+        filled += TextOf(part, path, entry);
     return filled;
 }
 

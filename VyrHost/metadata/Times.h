@@ -4,6 +4,7 @@
 
 #include <VyrHost/metadata/Changes.h>
 #include <VyrHost/metadata/Dates.h>
+#include <VyrHost/metadata/Shift.h>
 #include <VyrHost/model/Change.h>
 #include <VyrHost/text/TypedDateTime.h>
 
@@ -78,24 +79,6 @@ struct TimeSource
 /// `from:name`.
 /// @throws UsageError for any other text.
 [[nodiscard]] TimeSource ParseTimeSource(std::u16string_view text, const char* option);
-
-/// How far times are shifted.
-struct Amounts
-{
-    int years = 0;
-    int months = 0;
-    int days = 0;
-    int hours = 0;
-    int minutes = 0;
-    int seconds = 0;
-
-    friend bool operator==(const Amounts&, const Amounts&) = default;
-};
-
-/// Reads numbers with the units y (years), mo (months), d, h, m (minutes), s, each unit at most once, such as `1h30m`,
-/// `-1y 6mo` or `+2d`; a sign in front applies to all.
-/// @throws UsageError for any other text, and where all numbers are 0.
-[[nodiscard]] Amounts ParseAmounts(std::u16string_view text, const char* option);
 
 struct TimesSettings
 {

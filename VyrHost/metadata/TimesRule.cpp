@@ -3,7 +3,6 @@
 
 #include <VyrHost/metadata/Dates.h>
 #include <VyrHost/text/Errors.h>
-#include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/ImageUtils.h>
 #include <VyrPlatform/WinTypes.h>
@@ -22,7 +21,6 @@ namespace VyrHost::Metadata {
 namespace {
 
 namespace FileTimes = VyrPlatform::FileTimes;
-using VyrLibraryFuncs::DateTimeFuncs;
 using VyrLibraryUtils::DateTimeUtils;
 using VyrPlatform::FileTicks;
 using VyrPlatform::ExactState::Part;
@@ -137,39 +135,15 @@ Amounts Times(const Amounts& amounts, std::size_t count)
     return product;
 }
 
-/// `local` shifted by `amounts`, which are not all 0, by the library. The library does not change a date that would
-/// leave the calendar.
-COleDateTime Moved(const COleDateTime& local, const Amounts& amounts)
-{
-    constexpr int sameForAll = 1;
-    DateTimeFuncs::STAGGERITEM item;
-    item.numberingMode = sameForAll;
-    item.years = amounts.years;
-    item.months = amounts.months;
-    item.days = amounts.days;
-    item.hours = amounts.hours;
-    item.minutes = amounts.minutes;
-    item.seconds = amounts.seconds;
-    const FILETIME time = DateTimeFuncs::GetStaggerFileDateTime(0, 1, local, item);
-    const auto ticks =
-        static_cast<FileTicks>(std::uint64_t{time.dwHighDateTime} << 32 | std::uint64_t{time.dwLowDateTime});
-    // The library converts local time to an instant by the system's conversion; this is the inverse.
-    const COleDateTime moved = FileTimes::ToLocalForWriting(ticks);
-    if (ticks == 0 || !IsValid(moved) || moved == local)
-        throw Refusal{outOfCalendar};
-    return moved;
-}
-
-/// Shifts `local` on the clock, and then by the calendar.
 void Move(LocalTime& local, const Amounts& amounts)
 {
-    const Amounts onTheClock{0, 0, 0, amounts.hours, amounts.minutes, amounts.seconds};
-    const Amounts byTheCalendar{amounts.years, amounts.months, amounts.days, 0, 0, 0};
-    for (const Amounts& part : {onTheClock, byTheCalendar})
-        if (part != Amounts()) {
-            local.value = Moved(local.value, part);
-            local.exact = 0;
-        }
+    if (amounts == Amounts())
+        return;
+    const auto moved = Shifted(local.value, amounts);
+    if (!moved)
+        throw Refusal{outOfCalendar};
+    local.value = *moved;
+    local.exact = 0;
 }
 
 /// The instant at which clocks show `local`.
@@ -250,44 +224,6 @@ TimeSource ParseTimeSource(std::u16string_view text, const char* option)
                           "a date-time (\"2024-01-05 10:30\"), a date, a time of day, from:modified, from:created, "
                           "from:accessed, from:picture or from:name is expected");
     return {TimeSource::Kind::Typed, *typed};
-}
-
-Amounts ParseAmounts(std::u16string_view text, const char* option)
-{
-    constexpr std::pair<std::u16string_view, int Amounts::*> units[] = {
-        {u"mo", &Amounts::months}, {u"y", &Amounts::years},   {u"d", &Amounts::days},
-        {u"h", &Amounts::hours},   {u"m", &Amounts::minutes}, {u"s", &Amounts::seconds},
-    };
-    constexpr const char* expected = "numbers with units are expected, such as 1h30m, -1y, 6mo or 2d (y, mo, d, h, m, "
-                                     "s), each unit once and not all 0";
-    constexpr int most = 1'000'000;
-    std::u16string_view rest = text;
-    const bool isNegative = rest.starts_with(u'-');
-    if (isNegative || rest.starts_with(u'+'))
-        rest.remove_prefix(1);
-    Amounts amounts;
-    std::vector<int Amounts::*> given;
-    while (!rest.empty()) {
-        int number = 0;
-        std::size_t count = 0;
-        for (; count < rest.size() && rest[count] >= u'0' && rest[count] <= u'9' && number <= most; ++count)
-            number = number * 10 + (rest[count] - u'0');
-        if (count == 0 || number > most)
-            Text::RefuseValue(option, text, expected);
-        rest.remove_prefix(count);
-        const auto* const unit = std::find_if(std::begin(units), std::end(units),
-                                              [rest](const auto& known) { return rest.starts_with(known.first); });
-        if (unit == std::end(units) || std::find(given.begin(), given.end(), unit->second) != given.end())
-            Text::RefuseValue(option, text, expected);
-        given.push_back(unit->second);
-        amounts.*unit->second = isNegative ? -number : number;
-        rest.remove_prefix(unit->first.size());
-        if (rest.size() > 1 && rest.front() == u' ')
-            rest.remove_prefix(1);
-    }
-    if (amounts == Amounts())
-        Text::RefuseValue(option, text, expected);
-    return amounts;
 }
 
 } // namespace VyrHost::Metadata

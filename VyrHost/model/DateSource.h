@@ -2,15 +2,33 @@
 /// The dates of an entry that a rule may take, and whether its picture can be asked for them.
 #pragma once
 
-#include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrPlatform/text/CString.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
 namespace VyrHost::Model {
 
-using DateSource = VyrLibraryFuncs::NameFuncs::DateTimeTarget;
+/// Where the date of an entry is taken from.
+enum class DateSource : std::uint8_t
+{
+    /// When a picture was taken: Exif's DateTimeOriginal.
+    PictureTaken,
+    /// When a picture was digitized: Exif's DateTimeDigitized.
+    Digitized,
+    /// When XMP says that it was made: in the picture, or in the sidecar beside it.
+    Xmp,
+    /// When a film was made.
+    Video,
+    /// The date in the name.
+    Name,
+    Modified,
+    Created,
+    Accessed
+};
+
+inline constexpr std::size_t dateSourceCount = static_cast<std::size_t>(DateSource::Accessed) + 1;
 
 /// Every date source and the word for it, the same in options and in the output.
 struct DateSourceWord
@@ -19,10 +37,11 @@ struct DateSourceWord
     std::u16string_view word;
 };
 
-inline constexpr DateSourceWord dateSourceWords[] = {{DateSource::PictureTaken, u"picture"},
-                                                     {DateSource::Modified, u"modified"},
-                                                     {DateSource::Created, u"created"},
-                                                     {DateSource::Accessed, u"accessed"}};
+inline constexpr DateSourceWord dateSourceWords[] = {
+    {DateSource::PictureTaken, u"picture"}, {DateSource::Digitized, u"digitized"}, {DateSource::Xmp, u"xmp"},
+    {DateSource::Video, u"video"},          {DateSource::Name, u"name"},           {DateSource::Modified, u"modified"},
+    {DateSource::Created, u"created"},      {DateSource::Accessed, u"accessed"},
+};
 
 /// A set of date sources, in one byte.
 class DateSourceSet

@@ -28,6 +28,18 @@ std::u16string_view FolderPart(std::u16string_view path)
     return path.substr(0, static_cast<std::size_t>(path.rend() - behind));
 }
 
+std::u16string_view ParentName(std::u16string_view path, int level)
+{
+    for (std::u16string_view folder = FolderPart(path); !folder.empty(); --level) {
+        folder.remove_suffix(1);
+        const std::u16string_view above = FolderPart(folder);
+        if (level <= 1 || above.empty())
+            return above.empty() ? above : folder.substr(above.size());
+        folder = above;
+    }
+    return {};
+}
+
 std::uint32_t FolderSet::Open(const CString& path, const CString& shown)
 {
     if (const auto known = m_byPath.find(path); known != m_byPath.end() && m_folders[known->second].wasOpened)

@@ -35,6 +35,10 @@ std::u16string_view WordsFor(Reason reason)
         return u"its folder cannot be read";
     case Reason::NoDate:
         return u"it has no date of the kind asked for";
+    case Reason::DateOutOfRange:
+        return u"its date would leave the calendar's range";
+    case Reason::NoValue:
+        return u"it has no value for a token";
     case Reason::PictureNotRead:
         return u"the picture cannot be read";
     case Reason::NamelessFolder:

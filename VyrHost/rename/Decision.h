@@ -25,8 +25,12 @@ enum class Reason : std::uint8_t
     /// The entry's folder, or the one that it would move into, cannot be read.
     FolderNotRead,
     NoDate,
+    /// Its date cannot be shifted as far as it was asked to be.
+    DateOutOfRange,
     /// The picture whose date or camera was asked for cannot be read; the cause says why.
     PictureNotRead,
+    /// A token of a template has no value for it; the cause names the token.
+    NoValue,
     /// The rules give a folder to move into no name that a folder can have on any system.
     NamelessFolder,
     /// A folder to move into cannot be made: this system does not allow its name, or something else has it.

@@ -22,6 +22,7 @@ void RuleNames::Name(const Model::EntryList& list, const Groups& groups, std::sp
                      std::vector<WantedName>& names)
 {
     const int index = TakeIndex(list.entries[members.front()].folder);
+    ++m_group;
     names.assign(members.size(), {});
     if (members.size() == 1)
         NameOne(list, list.entries[members.front()], index, names.front());
@@ -114,6 +115,8 @@ Reason RuleNames::Run(const Model::EntryList& list, const Model::Entry& entry, i
     m_workingFolder.Enter(list.folders[dated.folder].path);
     m_subject.isFolder = entry.kind == Kind::Folder;
     m_subject.index = index;
+    m_subject.group = m_group;
+    m_subject.isFollower = &dated != &entry;
     m_subject.groups.Clear();
     m_subject.cause.Empty();
     m_subject.dateRank = 0;

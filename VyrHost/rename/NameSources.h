@@ -83,6 +83,8 @@ private:
     const Counting m_counting;
     /// By folder; the whole list counts as the folder 0.
     std::vector<int> m_next;
+    /// How many groups were named.
+    std::size_t m_group = 0;
     Subject m_subject;
     /// Where the files are that dates and picture data come from.
     VyrPlatform::WorkingFolder m_workingFolder;

@@ -18,6 +18,14 @@ struct GroupName
     std::size_t number = 0;
 };
 
+/// Which groups a pattern has.
+struct PatternShape
+{
+    /// How many, the whole match left out.
+    std::size_t count = 0;
+    std::vector<GroupName> names = {};
+};
+
 /// The groups of the last match of a pattern in one name. Numbers count from 1 on; 0 is the whole match.
 class PatternGroups
 {

@@ -1,9 +1,7 @@
 // Fills the engine's record, calls the engine, and splits its result.
 #include <VyrHost/rename/Rule.h>
 
-#include <VyrHost/model/DateSource.h>
 #include <VyrHost/rename/TemplateTokens.h>
-#include <VyrLibraryUtils/ImageUtils.h>
 #include <VyrPlatform/files/FileSystem.h>
 
 #include <algorithm>
@@ -67,39 +65,6 @@ void EngineRule::Compute(Subject& subject)
 
 namespace {
 
-using VyrLibraryUtils::ImageUtils;
-
-using Position = NameFuncs::DateTimePosition;
-
-/// Where the date goes.
-Position PositionOf(const NameFuncs::ITEM& item)
-{
-    return static_cast<Position>(item.dateTimePosition);
-}
-
-/// How long the part of the engine's name is that is the old name.
-int LengthOfOldName(const NameFuncs::ITEM& item, const CString& oldName)
-{
-    return PositionOf(item) == Position::Alone ? 0 : oldName.GetLength();
-}
-
-bool IsPortable(char16_t unit)
-{
-    constexpr std::u16string_view forbidden = u"<>:\"/\\|?*";
-    return unit >= u' ' && unit != 0x7F && forbidden.find(unit) == std::u16string_view::npos;
-}
-
-/// The camera's maker or model, as a part of a name that every system allows.
-CString AsNamePart(const CString& text)
-{
-    std::u16string part(text.View());
-    std::replace_if(
-        part.begin(), part.end(), [](char16_t unit) { return !IsPortable(unit); }, u'_');
-    part.erase(0, part.find_first_not_of(u' '));
-    part.erase(part.find_last_not_of(u' ') + 1);
-    return std::u16string_view(part);
-}
-
 /// Whether a text is at the start or the end of a name.
 struct Edges
 {
@@ -131,80 +96,77 @@ CString PutIn(const CString& text, std::u16string_view token, std::u16string_vie
 
 } // namespace
 
-DateRule::DateRule(NameFuncs::ITEM settings, std::vector<Model::DateSource> sources)
-    : EngineRule(std::move(settings)), m_sources(std::move(sources)),
-      m_hasMake(m_item.dateTimeFormat.Find(Token::make) >= 0),
-      m_hasModel(m_item.dateTimeFormat.Find(Token::model) >= 0),
-      m_hasFolder(m_item.dateTimeFormat.Find(Token::folder) >= 0)
+FileValues& FileValuesOf(Subject& subject)
+{
+    subject.values.Enter(subject.path);
+    return subject.values;
+}
+
+Reason StepDown(Subject& subject, const CString& name)
+{
+    if (name.IsEmpty() || name == u"." || name == u"..")
+        return Reason::NamelessFolder;
+    const char16_t separator = VyrPlatform::FileSystem::Separator();
+    subject.folder = CString::Join({subject.folder, name, std::u16string_view(&separator, 1)});
+    return Reason::None;
+}
+
+DateRule::DateRule(std::u16string_view format, Position position, DateSettings settings)
+    : m_format(format), m_position(position), m_settings(std::move(settings)),
+      m_hasMake(format.find(Token::make) != format.npos), m_hasModel(format.find(Token::model) != format.npos),
+      m_hasFolder(format.find(Token::folder) != format.npos)
 {}
 
 Reason DateRule::Apply(Subject& subject)
 {
-    const CString oldName = subject.name;
-    Reason fault = ComputeDated(subject);
-    if (fault != Reason::None || (!m_hasMake && !m_hasModel && !m_hasFolder))
-        return fault;
-
-    const Position position = PositionOf(m_item);
-    const int textLength = subject.name.GetLength() - LengthOfOldName(m_item, oldName);
-    subject.name = position == Position::AfterName ? subject.name.Right(textLength) : subject.name.Left(textLength);
-    fault = PutInCamera(subject, subject.name);
+    CString text;
+    Reason fault = WriteDate(subject, text);
+    if (fault == Reason::None)
+        fault = PutInCamera(subject, text);
     if (fault == Reason::None && m_hasFolder)
-        fault = TakeFolders(subject);
-    if (position == Position::BeforeName)
-        subject.name += oldName;
-    else if (position == Position::AfterName)
-        subject.name = oldName + subject.name;
-    return fault;
+        fault = TakeFolders(subject, text);
+    if (fault != Reason::None)
+        return fault;
+    if (m_position == Position::BeforeName)
+        text += subject.name;
+    else if (m_position == Position::AfterName)
+        text = subject.name + text;
+    subject.name = text;
+    return Reason::None;
 }
 
-Reason DateRule::ComputeDated(Subject& subject)
+Reason DateRule::WriteDate(Subject& subject, CString& text) const
 {
-    const CString oldName = subject.name;
-    const int oldLength = LengthOfOldName(m_item, oldName);
-    for (std::size_t rank = 0; rank < m_sources.size(); ++rank) {
-        m_item.dateTimeTarget = static_cast<int>(m_sources[rank]);
-        Compute(subject);
-        // The engine writes nothing for a date that is not there.
-        if (subject.name.GetLength() > oldLength) {
-            subject.dateRank = std::max(subject.dateRank, rank);
-            if (m_sources.size() > 1)
-                subject.datesTaken.Add(m_sources[rank]);
-            return Reason::None;
-        }
-        subject.name = oldName;
-        if (m_sources[rank] == Model::DateSource::PictureTaken && Model::PictureReadError(subject.path) != 0) {
-            subject.dateRank = std::max(subject.dateRank, rank);
-            return Reason::PictureNotRead;
-        }
-    }
-    return Reason::NoDate;
+    const FoundDate date = FindDate(FileValuesOf(subject), m_settings);
+    subject.dateRank = std::max(subject.dateRank, date.rank);
+    if (date.reason != Reason::None)
+        return date.reason;
+    if (m_settings.sources.size() > 1)
+        subject.datesTaken.Add(m_settings.sources[date.rank]);
+    text = m_format.Write(date.moment);
+    return Reason::None;
 }
 
-Reason DateRule::PutInCamera(const Subject& subject, CString& text) const
+Reason DateRule::PutInCamera(Subject& subject, CString& text) const
 {
-    const CString make = m_hasMake ? AsNamePart(ImageUtils::GetEquipMake(subject.path)) : CString();
-    const CString model = m_hasModel ? AsNamePart(ImageUtils::GetEquipModel(subject.path)) : CString();
+    FileValues& values = FileValuesOf(subject);
+    const CString make = m_hasMake ? values.Make() : CString();
+    const CString model = m_hasModel ? values.Model() : CString();
     const bool isSilent = (m_hasMake && make.IsEmpty()) || (m_hasModel && model.IsEmpty());
-    if (isSilent && Model::PictureReadError(subject.path) != 0)
+    if (isSilent && values.ReadError() != 0)
         return Reason::PictureNotRead;
-    const Edges edges{PositionOf(m_item) != Position::AfterName, PositionOf(m_item) != Position::BeforeName};
+    const Edges edges{m_position != Position::AfterName, m_position != Position::BeforeName};
     text = PutIn(PutIn(text, Token::make, make, edges), Token::model, model, edges);
     return Reason::None;
 }
 
-Reason DateRule::TakeFolders(Subject& subject)
+Reason DateRule::TakeFolders(Subject& subject, CString& text)
 {
-    const char16_t separator = VyrPlatform::FileSystem::Separator();
-    CString rest = subject.name;
-    for (int end = rest.Find(Token::folder); end >= 0; end = rest.Find(Token::folder)) {
-        const CString step = rest.Left(end);
-        if (step.IsEmpty() || step == u"." || step == u"..")
-            return Reason::NamelessFolder;
-        subject.folder = CString::Join({subject.folder, step, std::u16string_view(&separator, 1)});
-        rest = rest.Mid(end + static_cast<int>(Token::folder.size()));
+    for (int end = text.Find(Token::folder); end >= 0; end = text.Find(Token::folder)) {
+        if (const Reason fault = StepDown(subject, text.Left(end)); fault != Reason::None)
+            return fault;
+        text = text.Mid(end + static_cast<int>(Token::folder.size()));
     }
-    subject.name = rest;
     return Reason::None;
 }
 

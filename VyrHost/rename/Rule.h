@@ -4,6 +4,8 @@
 
 #include <VyrHost/model/DateSource.h>
 #include <VyrHost/rename/Decision.h>
+#include <VyrHost/rename/FileDates.h>
+#include <VyrHost/rename/FileValues.h>
 #include <VyrHost/rename/PatternGroups.h>
 #include <VyrLibraryFuncs/name/NameFuncs.h>
 #include <VyrPlatform/text/CString.h>
@@ -11,6 +13,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -24,6 +27,9 @@ struct Subject
     bool isFolder = false;
     /// The place that counts for sequence numbers, from 0.
     int index = 0;
+    /// The number of the entries that it keeps together with, and whether another one of them decides for it.
+    std::size_t group = 0;
+    bool isFollower = false;
 
     /// What the rules have made of it so far. The folder ends in its separator, the extension begins with its dot.
     CString folder;
@@ -32,6 +38,9 @@ struct Subject
 
     /// What the last pattern matched.
     PatternGroups groups = {};
+
+    /// What the file at `path` tells (FileValuesOf).
+    FileValues values = {};
 
     /// Set by a rule that gives no name: what there is to say beyond the reason.
     CString cause = {};
@@ -51,7 +60,15 @@ public:
     virtual Reason Apply(Subject& subject) = 0;
     /// Whether names that clash under this rule are to be numbered.
     [[nodiscard]] virtual bool MayNumber() const = 0;
+    /// The groups of its pattern, for the templates of later rules; nothing for a rule without one.
+    [[nodiscard]] virtual std::optional<PatternShape> Pattern() const { return std::nullopt; }
 };
+
+/// What the file at the subject's path tells.
+[[nodiscard]] FileValues& FileValuesOf(Subject& subject);
+
+/// Moves the subject into the folder `name` of the folder that it is in; none is called "", "." or "..".
+[[nodiscard]] Reason StepDown(Subject& subject, const CString& name);
 
 using Rules = std::vector<std::unique_ptr<Rule>>;
 
@@ -82,23 +99,28 @@ protected:
 /// Writes the first date that an entry has, of those asked for, and replaces the tokens: "<Make>" and
 /// "<Model>" the camera, "<Folder>" a step down into a folder. A blank beside a "<Make>" or "<Model>" that the picture
 /// does not tell goes with it. A picture that cannot be read is a fault, not one without a date.
-class DateRule : public EngineRule
+class DateRule : public Rule
 {
 public:
-    /// `settings` is a record of the kind DateTime with its format and position.
-    DateRule(VyrLibraryFuncs::NameFuncs::ITEM settings, std::vector<Model::DateSource> sources);
+    using Position = VyrLibraryFuncs::NameFuncs::DateTimePosition;
+
+    /// @param position  where the date goes.
+    DateRule(std::u16string_view format, Position position, DateSettings settings);
 
     Reason Apply(Subject& subject) override;
+    [[nodiscard]] bool MayNumber() const override { return true; }
 
 private:
-    /// Puts the first date that is there into the name.
-    [[nodiscard]] Reason ComputeDated(Subject& subject);
-    /// Puts the camera into `text`, which stands in the new name where the record says.
-    [[nodiscard]] Reason PutInCamera(const Subject& subject, CString& text) const;
-    /// Moves the subject down the folders that its name begins with.
-    static Reason TakeFolders(Subject& subject);
+    /// Writes the first date that is there.
+    [[nodiscard]] Reason WriteDate(Subject& subject, CString& text) const;
+    /// Puts the camera into `text`, which stands in the new name where the position says.
+    [[nodiscard]] Reason PutInCamera(Subject& subject, CString& text) const;
+    /// Moves the subject down the folders that `text` begins with, which are taken off it.
+    static Reason TakeFolders(Subject& subject, CString& text);
 
-    std::vector<Model::DateSource> m_sources;
+    DateWriter m_format;
+    Position m_position;
+    DateSettings m_settings;
     bool m_hasMake;
     bool m_hasModel;
     bool m_hasFolder;

@@ -2,6 +2,7 @@
 /// Makes rules of the texts in which users write them. Each throws UsageError for a text that makes no sense.
 #pragma once
 
+#include <VyrHost/rename/NameTokens.h>
 #include <VyrHost/rename/Rule.h>
 #include <VyrHost/rename/Words.h>
 
@@ -28,7 +29,10 @@ struct NumberSettings
 [[nodiscard]] Rules NumberRules(const CString& text, const NumberSettings& settings);
 
 /// A date format in which "<Name>", the name so far, may stand once.
-[[nodiscard]] Rules DateRules(const CString& text, const std::vector<Model::DateSource>& sources);
+[[nodiscard]] Rules DateRules(const CString& text, const DateSettings& settings);
+
+/// The whole new name, by the tokens of TokenTable.
+[[nodiscard]] Rules NameRules(const CString& text, const TemplateSettings& settings);
 
 /// "PLACE:TEXT" inserts TEXT: PLACE counts from the start, with a minus sign from the end ("-0" is the end).
 [[nodiscard]] Rules InsertRules(const CString& text);
@@ -90,6 +94,8 @@ struct PatternRuleSettings
 
 /// The dates named in "picture,modified" and the like, in that order.
 [[nodiscard]] std::vector<Model::DateSource> ParseDateSources(const CString& text);
+/// "UTC", or how far a clock is ahead of it in hours and minutes, such as "+02:00", "-9:30" or "+1"; in minutes.
+[[nodiscard]] int ParseTimeZone(const CString& text);
 /// A number of digits, 0 to 255, given with `option`.
 [[nodiscard]] int ParseDigits(const CString& text, const char* option);
 /// A whole number in decimal, from `least` on. `what` names it in the message.

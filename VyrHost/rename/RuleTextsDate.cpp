@@ -6,7 +6,6 @@
 #include <VyrHost/text/SafeText.h>
 
 #include <string>
-#include <utility>
 
 namespace VyrHost::Rename {
 
@@ -19,16 +18,13 @@ using VyrLibraryFuncs::NameFuncs;
     Text::RefuseValue("--date", text, reason);
 }
 
-using Position = NameFuncs::DateTimePosition;
+using Position = DateRule::Position;
 
-void Append(Rules& rules, Position position, std::u16string_view format, const std::vector<Model::DateSource>& sources)
+void Append(Rules& rules, Position position, std::u16string_view format, const DateSettings& settings)
 {
     if (NameFuncs::GetRenameToSampleFormated(format).IsEmpty())
         Refuse(format, "the format gives no text");
-    NameFuncs::ITEM item = NewItem(NameFuncs::RenameType::DateTime);
-    item.dateTimePosition = static_cast<int>(position);
-    item.dateTimeFormat = format;
-    rules.push_back(std::make_unique<DateRule>(std::move(item), sources));
+    rules.push_back(std::make_unique<DateRule>(format, position, settings));
 }
 
 /// Refuses folders whose names would be empty or "." or ".." for any date.
@@ -45,7 +41,7 @@ void RequireFolderNames(std::u16string_view format)
 
 } // namespace
 
-Rules DateRules(const CString& text, const std::vector<Model::DateSource>& sources)
+Rules DateRules(const CString& text, const DateSettings& settings)
 {
     constexpr auto none = std::u16string_view::npos;
     const std::u16string_view all = text;
@@ -57,7 +53,7 @@ Rules DateRules(const CString& text, const std::vector<Model::DateSource>& sourc
     const std::size_t name = all.find(Token::name);
     Rules rules;
     if (name == none) {
-        Append(rules, Position::Alone, all, sources);
+        Append(rules, Position::Alone, all, settings);
         return rules;
     }
     const std::u16string_view before = all.substr(0, name);
@@ -69,9 +65,9 @@ Rules DateRules(const CString& text, const std::vector<Model::DateSource>& sourc
     if (before.empty() && after.empty())
         Refuse(all, "it has no date");
     if (!before.empty())
-        Append(rules, Position::BeforeName, before, sources);
+        Append(rules, Position::BeforeName, before, settings);
     if (!after.empty())
-        Append(rules, Position::AfterName, after, sources);
+        Append(rules, Position::AfterName, after, settings);
     return rules;
 }
 

@@ -3,12 +3,15 @@
 
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
+#include <VyrHost/text/Template.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrPlatform/files/FileSystem.h>
 
 #include <algorithm>
 #include <initializer_list>
+#include <span>
 #include <string>
+#include <variant>
 
 namespace VyrHost::Rename {
 
@@ -18,6 +21,7 @@ using VyrLibraryUtils::DateTimeUtils;
 
 constexpr std::u16string_view dateTokens[] = {Token::name, Token::make, Token::model, Token::folder};
 constexpr std::u16string_view numberTokens[] = {Token::name, Token::number};
+constexpr std::u16string_view millisecondLetters = u"SSS";
 constexpr auto none = std::u16string_view::npos;
 constexpr const char* dateLetters =
     "yyyy-MM-dd HH.mm.ss is a date with its time, and \"vyr rename --help\" has all letters";
@@ -44,7 +48,10 @@ std::string ListOf(std::span<const std::u16string_view> tokens)
 class DateFormatCheck
 {
 public:
-    explicit DateFormatCheck(std::u16string_view format) : m_format(format), m_rest(format) {}
+    /// @param shown  what the error names.
+    DateFormatCheck(std::u16string_view format, const char* option, std::u16string_view shown)
+        : m_option(option), m_shown(shown), m_rest(format)
+    {}
 
     void Run()
     {
@@ -64,7 +71,7 @@ private:
         std::string reason;
         for (const std::string_view part : parts)
             reason += part;
-        Text::RefuseValue("--date", m_format, reason);
+        Text::RefuseValue(m_option, m_shown, reason);
     }
 
     std::u16string_view Take(std::size_t length)
@@ -97,6 +104,12 @@ private:
 
     void CheckPlain(std::u16string_view text) const
     {
+        for (const std::u16string_view piece : CutAtMilliseconds(text))
+            CheckLetters(piece);
+    }
+
+    void CheckLetters(std::u16string_view text) const
+    {
         for (std::size_t sign = text.find(u'%'); sign != none; sign = text.find(u'%', sign + 1))
             if (sign + 1 < text.size() && IsLetter(text[sign + 1]))
                 Refuse({"a percent sign is text here; ", dateLetters});
@@ -116,7 +129,8 @@ private:
         }
     }
 
-    const std::u16string_view m_format;
+    const char* const m_option;
+    const std::u16string_view m_shown;
     std::u16string_view m_rest;
     bool m_hasEnd = true;
 };
@@ -125,20 +139,40 @@ private:
 
 void RequireDateFormat(std::u16string_view format)
 {
-    DateFormatCheck(format).Run();
+    DateFormatCheck(format, "--date", format).Run();
+}
+
+void RequireDateOption(std::u16string_view format, const char* option, std::u16string_view shown)
+{
+    DateFormatCheck(format, option, shown).Run();
+}
+
+std::vector<std::u16string_view> CutAtMilliseconds(std::u16string_view format)
+{
+    std::vector<std::u16string_view> pieces;
+    bool isQuoted = false;
+    std::size_t begin = 0;
+    for (std::size_t at = 0; at < format.size();) {
+        isQuoted = isQuoted != (format[at] == u'\'');
+        if (!isQuoted && format.substr(at).starts_with(millisecondLetters)) {
+            pieces.push_back(format.substr(begin, at - begin));
+            at += millisecondLetters.size();
+            begin = at;
+        } else {
+            ++at;
+        }
+    }
+    pieces.push_back(format.substr(begin));
+    return pieces;
 }
 
 void RequireNumberTokens(std::u16string_view text)
 {
-    for (std::size_t begin = text.find(u'<'); begin != none; begin = text.find(u'<', begin + 1)) {
-        const auto word = text.begin() + static_cast<std::ptrdiff_t>(begin) + 1;
-        const auto end = std::find_if_not(word, text.end(), IsLetter);
-        if (end == word || end == text.end() || *end != u'>')
-            continue;
-        const std::u16string_view token = text.substr(begin, static_cast<std::size_t>(end - word) + 2);
-        if (!IsKnown(token, numberTokens))
+    for (const Text::TemplatePart& part : Text::CutTemplate(text)) {
+        const auto* const token = std::get_if<Text::Token>(&part);
+        if (token && token->IsBareWord() && !IsKnown(token->whole, numberTokens))
             Text::RefuseValue("--number", text,
-                              "it knows no " + Text::SafeText(token) + ", only " + ListOf(numberTokens));
+                              "it knows no " + Text::SafeText(token->whole) + ", only " + ListOf(numberTokens));
     }
 }
 

@@ -2,8 +2,8 @@
 /// What the texts of rules may hold: the words in angle brackets, the letters of dates, the characters of names.
 #pragma once
 
-#include <span>
 #include <string_view>
+#include <vector>
 
 namespace VyrHost::Rename {
 
@@ -27,6 +27,14 @@ inline constexpr std::u16string_view model = u"<Model>";
 ///
 /// Example: "yyyy 'Trip' MM" passes; "YYYY", "%Y", "yyyy Trip" and "yyyy <Maker>" do not.
 void RequireDateFormat(std::u16string_view format);
+
+/// Refuses a date format that is the option of a token (RefuseValue for `option` and `shown`) likewise; it has no tokens
+/// itself.
+void RequireDateOption(std::u16string_view format, const char* option, std::u16string_view shown);
+
+/// The pieces of a date format between which its milliseconds stand ("SSS" outside apostrophes): one more than there
+/// are. No token may hold "SSS".
+[[nodiscard]] std::vector<std::u16string_view> CutAtMilliseconds(std::u16string_view format);
 
 /// Refuses a sequence number's template with a word in angle brackets that is no token: "<Nmae> ###". "<", and "<" with
 /// anything but ASCII letters up to the ">", is text.

@@ -1,13 +1,15 @@
-// Reads the standard input to its end.
+// Reads input to its end.
 #include <VyrHost/text/Input.h>
 
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHostPlatform/Console.h>
+#include <VyrHostPlatform/ReadToEnd.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <string>
+#include <utility>
 
 namespace VyrHost::Text {
 
@@ -19,6 +21,20 @@ void ReadStandardInput(const std::function<void(std::string_view piece)>& use)
         use(piece);
     if (error != 0)
         throw UsageError("cannot read the standard input: " + SafeText(ErrorText(error)));
+}
+
+std::string ReadInputFile(const CString& path)
+{
+    std::string bytes;
+    if (path == u"-") {
+        ReadStandardInput([&bytes](std::string_view piece) { bytes += piece; });
+        return bytes;
+    }
+    std::uint32_t error = 0;
+    auto content = VyrHostPlatform::ReadToEnd(path, error);
+    if (!content)
+        throw UsageError("cannot read '" + SafeText(path) + "': " + SafeText(ErrorText(error)));
+    return std::move(*content);
 }
 
 CString NameReader::Name() const

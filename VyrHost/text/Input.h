@@ -21,6 +21,10 @@ namespace VyrHost::Text {
 /// @throws UsageError where it cannot be read.
 void ReadStandardInput(const std::function<void(std::string_view piece)>& use);
 
+/// The content of the file or pipe that the user named; "-" is the standard input.
+/// @throws UsageError where it cannot be read.
+[[nodiscard]] std::string ReadInputFile(const CString& path);
+
 /// Splits a stream of bytes, which comes in pieces, into names.
 class NameReader
 {

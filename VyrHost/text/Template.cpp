@@ -13,10 +13,14 @@ namespace {
 
 constexpr auto none = std::u16string_view::npos;
 
+bool IsLetter(char16_t unit)
+{
+    return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
+}
+
 bool IsWordUnit(char16_t unit)
 {
-    return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z') || (unit >= u'0' && unit <= u'9') ||
-           unit == u'_';
+    return IsLetter(unit) || (unit >= u'0' && unit <= u'9') || unit == u'_';
 }
 
 bool IsWord(std::u16string_view text)
@@ -68,6 +72,12 @@ void AppendText(std::vector<TemplatePart>& parts, std::u16string_view text)
 }
 
 } // namespace
+
+bool Token::IsBareWord() const
+{
+    const std::u16string_view letters = word;
+    return !option && !otherwise && changes.empty() && std::all_of(letters.begin(), letters.end(), IsLetter);
+}
 
 std::vector<TemplatePart> CutTemplate(std::u16string_view text)
 {

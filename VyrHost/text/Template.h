@@ -25,8 +25,8 @@ struct Token
     std::optional<CString> otherwise = {};
     std::vector<CString> changes = {};
 
-    /// Whether it is a word alone.
-    [[nodiscard]] bool IsPlain() const { return !option && !otherwise && changes.empty(); }
+    /// Whether it is ASCII letters in brackets, and nothing else.
+    [[nodiscard]] bool IsBareWord() const;
 };
 
 /// Plain text, or a token.

@@ -27,6 +27,16 @@ CString WithSeparator(const CString& path)
     return path + CString(VyrPlatform::FileSystem::Separator(), 1);
 }
 
+TEST(ParentName, IsThatOfTheFolderSoManyLevelsUp)
+{
+    EXPECT_EQ(ParentName(u"/one/two/three.txt", 1), u"two");
+    EXPECT_EQ(ParentName(u"/one/two/three.txt", 2), u"one");
+    EXPECT_EQ(ParentName(u"/one/two/three.txt", 3), u"");
+    EXPECT_EQ(ParentName(u"/one/two/three.txt", 1000000), u"");
+    EXPECT_EQ(ParentName(u"/root.txt", 1), u"");
+    EXPECT_EQ(ParentName(u"", 1), u"");
+}
+
 TEST(FolderSet, ListsAFolderInNaturalOrder)
 {
     constexpr char16_t units[] = {u'0', u'0', u'1', u'2', u'9', u'a', u'b', u'z', u'-', u'~', u'.', u' ', u'\u00E9'};

@@ -136,7 +136,7 @@ TEST_F(PreviewTest, RefusesAnEmptyName)
 TEST_F(PreviewTest, RefusesAPictureWithoutADate)
 {
     Write({u"a.jpg"});
-    EXPECT_EQ(DecideNamed({u"a.jpg"}, DateRules(u"yyyy", {DateSource::PictureTaken})), Strings{No(Reason::NoDate)});
+    EXPECT_EQ(DecideNamed({u"a.jpg"}, DateRules(u"yyyy", {{DateSource::PictureTaken}})), Strings{No(Reason::NoDate)});
 }
 
 TEST_F(PreviewTest, NumbersTwoEntriesThatWantOneName)
@@ -268,7 +268,7 @@ TEST_F(PreviewTest, TakesTheDateOfTheFirstOfAGroupThatHasOne)
 {
     Write({u"a.xmp", u"b.xmp"});
     m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
-    EXPECT_EQ(DecideTogether({u"a.xmp", u"a.jpg", u"b.xmp"}, DateRules(u"yyyy", {DateSource::PictureTaken})),
+    EXPECT_EQ(DecideTogether({u"a.xmp", u"a.jpg", u"b.xmp"}, DateRules(u"yyyy", {{DateSource::PictureTaken}})),
               (Strings{"2024.xmp", "2024.jpg", No(Reason::NoDate)}));
 }
 
@@ -355,13 +355,13 @@ TEST_F(PreviewTest, MovesIntoExistingAndNewFolders)
     m_folder.WriteFile(u"b.jpg", BuildJpeg(PictureFacts{}));
     m_folder.WriteFile(u"2024/a.jpg");
     CollectedEntries collected = CollectNamed({u"a.jpg", u"b.jpg"});
-    const Rules rules = DateRules(u"yyyy<Folder><Name>", {DateSource::PictureTaken});
+    const Rules rules = DateRules(u"yyyy<Folder><Name>", {{DateSource::PictureTaken}});
     const std::vector<Decision> decisions = DecideByRules(collected.list, rules, OnConflict::Number);
     // An entry of the existing folder counts.
     EXPECT_EQ(Told(decisions[0]), "a (1).jpg #");
     EXPECT_EQ(Told(decisions[1]), "b.jpg");
     collected = CollectNamed({u"a.jpg", u"b.jpg"});
-    const Rules deep = DateRules(u"MM<Folder>dd<Folder><Name>", {DateSource::PictureTaken});
+    const Rules deep = DateRules(u"MM<Folder>dd<Folder><Name>", {{DateSource::PictureTaken}});
     RuleNames names(deep, Counting::WholeList);
     const RenamePlan plan =
         MakePreview(collected.list, Groups::OfOne(collected.list), names, Mode(OnConflict::Number)).plan;
@@ -381,7 +381,7 @@ TEST_F(PreviewTest, RefusesToMoveIntoAFile)
 {
     m_folder.WriteFile(u"a.jpg", BuildJpeg(PictureFacts{}));
     m_folder.WriteFile(u"2024");
-    EXPECT_EQ(DecideNamed({u"a.jpg"}, DateRules(u"yyyy<Folder><Name>", {DateSource::PictureTaken})),
+    EXPECT_EQ(DecideNamed({u"a.jpg"}, DateRules(u"yyyy<Folder><Name>", {{DateSource::PictureTaken}})),
               Strings{No(Reason::BadFolder)});
 }
 
@@ -394,7 +394,7 @@ TEST_F(PreviewTest, RefusesFoldersWithoutAName)
     };
     m_folder.WriteFile(u"a.jpg", camera(".."));
     m_folder.WriteFile(u"b.jpg", camera(" "));
-    EXPECT_EQ(DecideNamed({u"a.jpg", u"b.jpg"}, DateRules(u"<Make><Folder><Name>", {DateSource::PictureTaken})),
+    EXPECT_EQ(DecideNamed({u"a.jpg", u"b.jpg"}, DateRules(u"<Make><Folder><Name>", {{DateSource::PictureTaken}})),
               (Strings{No(Reason::NamelessFolder), No(Reason::NamelessFolder)}));
 }
 

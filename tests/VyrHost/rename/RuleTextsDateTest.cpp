@@ -40,7 +40,7 @@ protected:
 
     [[nodiscard]] CString Dated(const CString& format, const CString& name = u"dated") const
     {
-        return Apply(DateRules(format, {DateSource::PictureTaken}), SubjectOf(name));
+        return Apply(DateRules(format, {{DateSource::PictureTaken}}), SubjectOf(name));
     }
 
     ScratchFolder m_folder;
@@ -71,8 +71,8 @@ TEST_F(DateFormat, TakesTheFirstDateThatTheFileHas)
     const auto moment = file_clock::from_sys(sys_seconds{sys_days{year{2001} / 2 / 3}});
     std::filesystem::last_write_time(ToStdPath(m_folder.Path(u"plain.jpg")), moment);
     const std::vector<DateSource> sources = {DateSource::PictureTaken, DateSource::Modified};
-    EXPECT_EQ(Apply(DateRules(u"yyyy", sources), SubjectOf(u"dated")), u"/d/2024.jpg");
-    EXPECT_EQ(Apply(DateRules(u"yyyy", sources), SubjectOf(u"plain")), u"/d/2001.jpg");
+    EXPECT_EQ(Apply(DateRules(u"yyyy", {sources}), SubjectOf(u"dated")), u"/d/2024.jpg");
+    EXPECT_EQ(Apply(DateRules(u"yyyy", {sources}), SubjectOf(u"plain")), u"/d/2001.jpg");
 }
 
 TEST_F(DateFormat, InsertsMakerAndModelOfTheCamera)
@@ -125,19 +125,19 @@ TEST_F(DateFormat, RemovesABlankBesideATokenWithoutAValue)
 TEST_F(DateFormat, ReportsWhichDatesWereTaken)
 {
     Subject subject = SubjectOf(u"plain");
-    EXPECT_EQ(DateRules(u"yyyy", {DateSource::PictureTaken, DateSource::Modified}).front()->Apply(subject),
+    EXPECT_EQ(DateRules(u"yyyy", {{DateSource::PictureTaken, DateSource::Modified}}).front()->Apply(subject),
               Reason::None);
     EXPECT_TRUE(subject.datesTaken.Has(DateSource::Modified));
     EXPECT_FALSE(subject.datesTaken.Has(DateSource::PictureTaken));
     Subject dated = SubjectOf(u"dated");
-    EXPECT_EQ(DateRules(u"yyyy", {DateSource::PictureTaken, DateSource::Modified}).front()->Apply(dated), Reason::None);
-    EXPECT_EQ(DateRules(u"MM<Name>", {DateSource::Created, DateSource::PictureTaken}).front()->Apply(dated),
+    EXPECT_EQ(DateRules(u"yyyy", {{DateSource::PictureTaken, DateSource::Modified}}).front()->Apply(dated), Reason::None);
+    EXPECT_EQ(DateRules(u"MM<Name>", {{DateSource::Created, DateSource::PictureTaken}}).front()->Apply(dated),
               Reason::None);
     EXPECT_TRUE(dated.datesTaken.Has(DateSource::PictureTaken));
     EXPECT_TRUE(dated.datesTaken.Has(DateSource::Created));
     EXPECT_FALSE(dated.datesTaken.Has(DateSource::Modified));
     Subject without = SubjectOf(u"dated");
-    EXPECT_EQ(DateRules(u"yyyy", {DateSource::PictureTaken}).front()->Apply(without), Reason::None);
+    EXPECT_EQ(DateRules(u"yyyy", {{DateSource::PictureTaken}}).front()->Apply(without), Reason::None);
     EXPECT_TRUE(without.datesTaken.IsEmpty());
 }
 
@@ -153,7 +153,7 @@ TEST_F(DateFormat, DoesNotReplaceTokensInTheOldName)
 {
     Subject subject = SubjectOf(u"dated");
     subject.name = u"<Folder><Make>";
-    EXPECT_EQ(Apply(DateRules(u"yyyy<Folder>MM<Make> <Name>", {DateSource::PictureTaken}), subject),
+    EXPECT_EQ(Apply(DateRules(u"yyyy<Folder>MM<Make> <Name>", {{DateSource::PictureTaken}}), subject),
               CString(u"/d/2024") + Slash + u"07Testmaker <Folder><Make>.jpg");
 }
 
@@ -161,8 +161,8 @@ TEST_F(DateFormat, FormatsThatMakeNoSenseAreRefused)
 {
     for (const char16_t* const text :
          {u"", u"<Name>", u"'", u"yyyy/MM", u"yyyy<Folder>", u"<Name>yy<Name>", u"<Name><Folder>yyyy", u"YYYY"})
-        EXPECT_THROW((void)DateRules(text, {DateSource::Modified}), UsageError);
-    EXPECT_THROW((void)DateRules(std::u16string_view(u"yy\0yy", 5), {DateSource::Modified}), UsageError);
+        EXPECT_THROW((void)DateRules(text, {{DateSource::Modified}}), UsageError);
+    EXPECT_THROW((void)DateRules(std::u16string_view(u"yy\0yy", 5), {{DateSource::Modified}}), UsageError);
 }
 
 TEST(DateSources, AreNamedInAList)

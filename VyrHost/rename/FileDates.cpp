@@ -1,0 +1,97 @@
+// Asks for one date after the other, and has the library write the one that is there.
+#include <VyrHost/rename/FileDates.h>
+
+#include <VyrHost/rename/TemplateTokens.h>
+#include <VyrLibraryUtils/DateTimeUtils.h>
+
+#include <chrono>
+
+namespace VyrHost::Rename {
+
+namespace {
+
+using Model::DateSource;
+using VyrLibraryUtils::DateTimeUtils;
+using VyrPlatform::FileTicks;
+
+/// What a clock shows at `instant` that is so far ahead of UTC.
+COleDateTime OnClock(FileTicks instant, int minutesAhead)
+{
+    using namespace std::chrono;
+    using Ticks = duration<FileTicks, std::ratio<1, 10'000'000>>;
+    constexpr sys_days firstDay = year{1601} / 1 / 1;
+    const auto time = firstDay + floor<seconds>(Ticks{instant}) + minutes{minutesAhead};
+    const auto day = floor<days>(time);
+    const year_month_day date{day};
+    const hh_mm_ss clock{time - day};
+    return {static_cast<int>(date.year()),
+            static_cast<int>(static_cast<unsigned>(date.month())),
+            static_cast<int>(static_cast<unsigned>(date.day())),
+            static_cast<int>(clock.hours().count()),
+            static_cast<int>(clock.minutes().count()),
+            static_cast<int>(clock.seconds().count())};
+}
+
+bool IsInContent(DateSource source)
+{
+    return source == DateSource::PictureTaken || source == DateSource::Digitized || source == DateSource::Xmp ||
+           source == DateSource::Video;
+}
+
+/// `moment` on the clock that is asked for, and shifted; false where it would leave the calendar.
+bool Adjust(FileMoment& moment, const DateSettings& settings)
+{
+    if (settings.minutesAhead && moment.instant)
+        moment.local = OnClock(*moment.instant, *settings.minutesAhead);
+    if (settings.shift) {
+        const auto shifted = Metadata::Shifted(moment.local, *settings.shift);
+        if (!shifted)
+            return false;
+        moment.local = *shifted;
+    }
+    return moment.local.GetStatus() == COleDateTime::valid;
+}
+
+} // namespace
+
+FoundDate FindDate(FileValues& values, const DateSettings& settings)
+{
+    FoundDate found;
+    for (std::size_t rank = 0; rank < settings.sources.size(); ++rank) {
+        const DateSource source = settings.sources[rank];
+        if (const auto moment = values.Moment(source)) {
+            found.rank = rank;
+            found.moment = *moment;
+            found.reason = Adjust(found.moment, settings) ? Reason::None : Reason::DateOutOfRange;
+            return found;
+        }
+        if (IsInContent(source) && values.ReadError() != 0) {
+            found.rank = rank;
+            found.reason = Reason::PictureNotRead;
+            return found;
+        }
+    }
+    return found;
+}
+
+DateWriter::DateWriter(std::u16string_view format)
+{
+    for (const std::u16string_view piece : CutAtMilliseconds(format))
+        m_patterns.push_back(DateTimeUtils::GetDateTimeFormat(piece, {}));
+}
+
+CString DateWriter::Write(const FileMoment& moment) const
+{
+    CString text;
+    for (const CString& pattern : m_patterns) {
+        if (&pattern != m_patterns.data()) {
+            CString milliseconds;
+            milliseconds.Format(u"%03d", moment.milliseconds);
+            text += milliseconds;
+        }
+        text += DateTimeUtils::GetOleDateTimeFormat(moment.local, pattern);
+    }
+    return text;
+}
+
+} // namespace VyrHost::Rename

@@ -1,0 +1,315 @@
+// Makes readers of tokens, each of which asks the entry for one value.
+#include <VyrHost/rename/NameTokens.h>
+
+#include <VyrHost/model/FolderSet.h>
+#include <VyrHost/rename/RuleTexts.h>
+#include <VyrHost/rename/TemplateTokens.h>
+#include <VyrHost/text/Errors.h>
+#include <VyrHost/text/NearestWord.h>
+#include <VyrHost/text/SafeText.h>
+#include <VyrPlatform/text/Encoding.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <iterator>
+#include <random>
+#include <utility>
+#include <vector>
+
+namespace VyrHost::Rename {
+
+namespace {
+
+using Model::DateSource;
+using VyrPlatform::Encoding::FromUtf8;
+using VyrPlatform::Encoding::ToUtf8;
+
+constexpr const char* option = "--name";
+
+/// A token that is being read.
+struct Making
+{
+    const Text::Token& token;
+    const TemplateSettings& settings;
+    /// The whole template.
+    std::u16string_view text;
+
+    [[noreturn]] void Refuse(const std::string& reason) const
+    {
+        Text::RefuseValue(option, text, Text::SafeText(token.whole) + ": " + reason);
+    }
+    void RequireNoOption() const
+    {
+        if (token.option)
+            Refuse("it takes nothing behind a colon");
+    }
+    /// A whole number from 1 to `most` behind the colon; `usual` without one.
+    [[nodiscard]] int Number(int usual, int most) const
+    {
+        if (!token.option)
+            return usual;
+        const int number = ParseNumber(*token.option, 1, option);
+        if (number > most)
+            Refuse("a number from 1 to " + std::to_string(most) + " is expected behind the colon");
+        return number;
+    }
+};
+
+/// A value that is missing where it is empty.
+TokenAnswer Told(const CString& text)
+{
+    return text.IsEmpty() ? TokenAnswer{} : TokenAnswer{text};
+}
+
+/// A value of the file's content.
+TokenAnswer ToldByContent(const CString& text, FileValues& values)
+{
+    if (text.IsEmpty() && values.ReadError() != 0)
+        return {std::nullopt, Reason::PictureNotRead};
+    return Told(text);
+}
+
+/// Asks the file for a value of its content.
+template <CString (FileValues::*Ask)()>
+TokenReader MakeContent(const Making& making)
+{
+    making.RequireNoOption();
+    return [](Subject& subject) {
+        FileValues& values = FileValuesOf(subject);
+        return ToldByContent((values.*Ask)(), values);
+    };
+}
+
+TokenReader MakeName(const Making& making)
+{
+    making.RequireNoOption();
+    return [](Subject& subject) {
+        return Told(subject.name);
+    };
+}
+
+TokenReader MakeExtension(const Making& making)
+{
+    making.RequireNoOption();
+    return [](Subject& subject) {
+        return Told(subject.extension.Mid(1));
+    };
+}
+
+TokenReader MakeParent(const Making& making)
+{
+    constexpr int mostLevels = 1000;
+    return [level = making.Number(1, mostLevels)](Subject& subject) {
+        return Told(Model::ParentName(subject.path, level));
+    };
+}
+
+/// The format behind the colon.
+DateWriter FormatOf(const Making& making)
+{
+    const CString format = making.token.option.value_or(u"yyyy-MM-dd");
+    RequireDateOption(format, option, making.text);
+    if (format.IsEmpty())
+        making.Refuse("the format gives no text");
+    return DateWriter(format);
+}
+
+TokenReader DateReader(const Making& making, std::vector<DateSource> sources)
+{
+    DateSettings settings = making.settings.dates;
+    settings.sources = std::move(sources);
+    return [format = FormatOf(making), settings](Subject& subject) {
+        const FoundDate date = FindDate(FileValuesOf(subject), settings);
+        subject.dateRank = std::max(subject.dateRank, date.rank);
+        if (date.reason != Reason::None)
+            return TokenAnswer{std::nullopt, date.reason};
+        if (settings.sources.size() > 1)
+            subject.datesTaken.Add(settings.sources[date.rank]);
+        return TokenAnswer{format.Write(date.moment), Reason::None, date.moment};
+    };
+}
+
+template <DateSource Source>
+TokenReader MakeDate(const Making& making)
+{
+    return DateReader(making, {Source});
+}
+
+TokenReader MakeChosenDate(const Making& making)
+{
+    return DateReader(making, making.settings.dates.sources);
+}
+
+TokenReader MakeSize(const Making& making)
+{
+    making.RequireNoOption();
+    return [](Subject& subject) {
+        const auto size = FileValuesOf(subject).Size();
+        return size ? TokenAnswer{FromUtf8(std::to_string(*size))} : TokenAnswer{};
+    };
+}
+
+/// `count` characters of `signs`, by chance.
+CString ByChance(std::u16string_view signs, int count)
+{
+    static std::random_device device;
+    std::uniform_int_distribution<std::size_t> next(0, signs.size() - 1);
+    std::u16string text;
+    for (; count > 0; --count)
+        text += signs[next(device)];
+    return std::u16string_view(text);
+}
+
+TokenReader MakeRandom(const Making& making)
+{
+    constexpr int usual = 8;
+    constexpr int most = 64;
+    return [count = making.Number(usual, most)](Subject&) {
+        return TokenAnswer{ByChance(u"0123456789abcdefghijklmnopqrstuvwxyz", count)};
+    };
+}
+
+/// Version 4 of RFC 9562.
+TokenReader MakeUuid(const Making& making)
+{
+    making.RequireNoOption();
+    return [](Subject&) {
+        constexpr std::u16string_view digits = u"0123456789abcdef";
+        return TokenAnswer{CString::Join({ByChance(digits, 8), u"-", ByChance(digits, 4), u"-4", ByChance(digits, 3),
+                                          u"-", ByChance(u"89ab", 1), ByChance(digits, 3), u"-",
+                                          ByChance(digits, 12)})};
+    };
+}
+
+TokenReader MakeCsv(const Making& making)
+{
+    if (!making.settings.csv)
+        making.Refuse("--csv-data FILE is needed for it");
+    if (!making.token.option)
+        making.Refuse("the name of a column is expected behind a colon");
+    const CsvData& csv = *making.settings.csv;
+    const auto column = csv.FindColumn(*making.token.option);
+    if (!column) {
+        const std::string_view nearest = Text::NearestWord(ToUtf8(*making.token.option), csv.Columns());
+        making.Refuse("the CSV data have no such column" +
+                      (nearest.empty() ? std::string() : "; did you mean <Csv:" + std::string(nearest) + ">?"));
+    }
+    return [data = making.settings.csv, column = *column](Subject& subject) {
+        return Told(AsNamePart(data->Find(subject.path, column)));
+    };
+}
+
+struct TokenKind
+{
+    const char* word;
+    TokenReader (*make)(const Making& making);
+};
+
+constexpr TokenKind kinds[] = {
+    {"Name", MakeName},
+    {"Extension", MakeExtension},
+    {"Parent", MakeParent},
+    {"Taken", MakeDate<DateSource::PictureTaken>},
+    {"Modified", MakeDate<DateSource::Modified>},
+    {"Created", MakeDate<DateSource::Created>},
+    {"Date", MakeChosenDate},
+    {"Make", MakeContent<&FileValues::Make>},
+    {"Model", MakeContent<&FileValues::Model>},
+    {"Size", MakeSize},
+    {"Uuid", MakeUuid},
+    {"Random", MakeRandom},
+    {"Csv", MakeCsv},
+};
+
+constexpr TokenHelp table[] = {
+    {"<Name>", "the name so far, without its extension"},
+    {"<Extension>", "the extension without its dot; a template that ends in .<Extension> gives it itself"},
+    {"<Parent>", "the folder that the entry is in; <Parent:2> the one above it"},
+    {"<Folder>", "ends the name of a folder to move into"},
+    {"<#>", "a counter, as wide as it has # at least: <###:start 5 step 2 per day>"},
+    {"<Taken:FORMAT>", "when the picture was taken, such as <Taken:yyyy-MM-dd>"},
+    {"<Modified:FORMAT>", "when the file was last changed"},
+    {"<Created:FORMAT>", "when the file was made"},
+    {"<Date:FORMAT>", "the first date of --date-from that the file has"},
+    {"<Make>", "the maker of the camera"},
+    {"<Model>", "the model of the camera"},
+    {"<Size>", "the size in bytes"},
+    {"<1>", "a group of the last --regex, by its number or its name"},
+    {"<Csv:COLUMN>", "the field of that column in the line of --csv-data for the file"},
+    {"<Uuid>", "a random identifier of 36 characters"},
+    {"<Random:8>", "so many digits and small letters by chance"},
+};
+
+bool IsNumber(std::u16string_view word)
+{
+    return std::all_of(word.begin(), word.end(), [](char16_t unit) { return unit >= u'0' && unit <= u'9'; });
+}
+
+std::string TokenHintOf(const Text::Token& token)
+{
+    std::vector<std::string> words = {"Folder"};
+    for (const TokenKind& kind : kinds)
+        words.emplace_back(kind.word);
+    return Text::TokenHint(token, words);
+}
+
+TokenReader MakeGroup(const Making& making, std::size_t number)
+{
+    making.RequireNoOption();
+    return [number](Subject& subject) {
+        const auto text = subject.groups.Find(number);
+        return Told(CString(text.value_or(std::u16string_view())));
+    };
+}
+
+TokenReader MakeNumberedGroup(const Making& making)
+{
+    const auto& pattern = making.settings.pattern;
+    if (!pattern)
+        making.Refuse("there is no --regex before it");
+    const int number = ParseNumber(making.token.word, 0, option);
+    if (static_cast<std::size_t>(number) > pattern->count)
+        making.Refuse("the last --regex has " + std::to_string(pattern->count) +
+                      (pattern->count == 1 ? " group" : " groups"));
+    return MakeGroup(making, static_cast<std::size_t>(number));
+}
+
+/// The reader of a group with the token's word for its name; nothing where there is no such group.
+TokenReader MakeNamedGroup(const Making& making)
+{
+    const auto& pattern = making.settings.pattern;
+    const auto hasName = [&making](const GroupName& group) {
+        return group.name == making.token.word;
+    };
+    if (!pattern || std::none_of(pattern->names.begin(), pattern->names.end(), hasName))
+        return nullptr;
+    making.RequireNoOption();
+    return [name = making.token.word](Subject& subject) {
+        const auto text = subject.groups.Find(name.View());
+        return Told(CString(text.value_or(std::u16string_view())));
+    };
+}
+
+} // namespace
+
+std::span<const TokenHelp> TokenTable()
+{
+    return table;
+}
+
+TokenReader ReaderOf(const Text::Token& token, const TemplateSettings& settings, std::u16string_view text)
+{
+    const Making making{token, settings, text};
+    if (IsNumber(token.word))
+        return MakeNumberedGroup(making);
+    const std::string word = ToUtf8(token.word);
+    for (const TokenKind& kind : kinds)
+        if (word == kind.word)
+            return kind.make(making);
+    if (TokenReader group = MakeNamedGroup(making))
+        return group;
+    Text::RefuseValue(option, text, "it knows no " + Text::SafeText(token.whole) + TokenHintOf(token));
+}
+
+} // namespace VyrHost::Rename

@@ -1,0 +1,138 @@
+// Reads changes, and has the text functions of the rules carry them out.
+#include <VyrHost/rename/TextChange.h>
+
+#include <VyrHost/text/NearestWord.h>
+#include <VyrHost/text/SafeText.h>
+#include <VyrPlatform/text/Encoding.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace VyrHost::Rename {
+
+namespace {
+
+/// The argument in apostrophes that `text` begins with; nothing where it has no end.
+std::optional<CString> TakeQuoted(std::u16string_view& text)
+{
+    CString argument;
+    do {
+        text.remove_prefix(1);
+        const std::size_t end = text.find(u'\'');
+        if (end == text.npos)
+            return std::nullopt;
+        argument += text.substr(0, end);
+        text.remove_prefix(end + 1);
+        if (text.starts_with(u'\''))
+            argument += u'\'';
+    } while (text.starts_with(u'\''));
+    return argument;
+}
+
+/// The word and the arguments; nothing for apostrophes without an end, or in the middle of an argument.
+std::optional<std::vector<CString>> CutArguments(std::u16string_view text)
+{
+    std::vector<CString> arguments;
+    while (!text.empty()) {
+        if (text.front() == u' ') {
+            text.remove_prefix(1);
+            continue;
+        }
+        if (text.front() == u'\'') {
+            auto quoted = TakeQuoted(text);
+            if (!quoted || (!text.empty() && text.front() != u' '))
+                return std::nullopt;
+            arguments.push_back(std::move(*quoted));
+            continue;
+        }
+        const std::size_t end = std::min(text.find(u' '), text.size());
+        arguments.emplace_back(text.substr(0, end));
+        text.remove_prefix(end);
+    }
+    return arguments;
+}
+
+using Arguments = std::vector<CString>;
+
+struct KnownChange
+{
+    const char* word;
+    /// How many arguments it takes.
+    std::size_t count;
+    /// Null where the arguments are wrong.
+    TextChange (*make)(const Arguments& arguments);
+};
+
+TextChange MakeReplace(const Arguments& arguments)
+{
+    if (arguments[0].IsEmpty())
+        return nullptr;
+    return [find = arguments[0], replacement = arguments[1]](const CString& text) {
+        CString changed = text;
+        changed.Replace(find, replacement);
+        return changed;
+    };
+}
+
+constexpr KnownChange knownChanges[] = {
+    {"upper", 0,
+     [](const Arguments&) -> TextChange {
+         return [](const CString& text) {
+             return CString(text).MakeUpper();
+         };
+     }},
+    {"lower", 0,
+     [](const Arguments&) -> TextChange {
+         return [](const CString& text) {
+             return CString(text).MakeLower();
+         };
+     }},
+    {"replace", 2, MakeReplace},
+};
+
+constexpr const char* knownWords = "upper, lower, and replace A B";
+
+std::string UnknownChange(const CString& word)
+{
+    std::vector<std::string> words;
+    std::transform(std::begin(knownChanges), std::end(knownChanges), std::back_inserter(words),
+                   [](const KnownChange& known) { return std::string(known.word); });
+    const std::string_view nearest = Text::NearestWord(VyrPlatform::Encoding::ToUtf8(word), words);
+    return "there is no change '" + Text::SafeText(word) + "', only " + knownWords +
+           (nearest.empty() ? std::string() : "; did you mean " + std::string(nearest) + "?");
+}
+
+} // namespace
+
+TextChange ParseChange(std::u16string_view text, std::string& fault)
+{
+    const auto cut = CutArguments(text);
+    if (!cut) {
+        fault = "apostrophes stand around an argument, such as ' '";
+        return nullptr;
+    }
+    if (cut->empty()) {
+        fault.assign("there is no change behind a |, such as ").append(knownWords);
+        return nullptr;
+    }
+    const CString& word = cut->front();
+    const auto* const known =
+        std::find_if(std::begin(knownChanges), std::end(knownChanges), [&word](const KnownChange& change) {
+            return word == VyrPlatform::Encoding::FromUtf8(change.word);
+        });
+    if (known == std::end(knownChanges)) {
+        fault = UnknownChange(word);
+        return nullptr;
+    }
+    const Arguments arguments(cut->begin() + 1, cut->end());
+    TextChange change = arguments.size() == known->count ? known->make(arguments) : nullptr;
+    if (!change)
+        fault.assign("'").append(Text::SafeText(text)).append("' is no change; the changes are ").append(knownWords);
+    return change;
+}
+
+} // namespace VyrHost::Rename

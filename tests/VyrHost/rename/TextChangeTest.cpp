@@ -1,0 +1,49 @@
+// Changes of the values of tokens.
+#include <VyrHost/rename/TextChange.h>
+
+#include <VyrPlatform/text/Encoding.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace VyrHost::Rename;
+using testing::HasSubstr;
+
+namespace {
+
+/// `text` as `change` makes it, or what is wrong with the change.
+std::string Changed(std::u16string_view change, const CString& text)
+{
+    std::string fault;
+    const TextChange made = ParseChange(change, fault);
+    EXPECT_EQ(fault.empty(), static_cast<bool>(made));
+    return made ? VyrPlatform::Encoding::ToUtf8(made(text)) : fault;
+}
+
+} // namespace
+
+TEST(TextChange, ConvertsLetters)
+{
+    EXPECT_EQ(Changed(u"upper", u"a\u00e4 1"), "A\u00c4 1");
+    EXPECT_EQ(Changed(u"lower", u"A\u00c4 1"), "a\u00e4 1");
+}
+
+TEST(TextChange, ReplacesTexts)
+{
+    EXPECT_EQ(Changed(u"replace a bb", u"banana"), "bbbnbbnbb");
+    EXPECT_EQ(Changed(u" replace  ' ' _ ", u"a b c"), "a_b_c");
+    EXPECT_EQ(Changed(u"replace a ''", u"banana"), "bnn");
+    EXPECT_EQ(Changed(u"replace '''' 'it''s'", u"a'b"), "ait'sb");
+}
+
+TEST(TextChange, RefusesWhatIsNone)
+{
+    EXPECT_THAT(Changed(u"", u""), HasSubstr("there is no change behind a |"));
+    EXPECT_THAT(Changed(u"uper", u""), HasSubstr("did you mean upper?"));
+    EXPECT_THAT(Changed(u"Quite", u""), HasSubstr("there is no change 'Quite'"));
+    EXPECT_THAT(Changed(u"upper now", u""), HasSubstr("'upper now' is no change"));
+    EXPECT_THAT(Changed(u"replace a", u""), HasSubstr("is no change"));
+    EXPECT_THAT(Changed(u"replace '' a", u""), HasSubstr("is no change"));
+    EXPECT_THAT(Changed(u"replace 'a b", u""), HasSubstr("apostrophes stand around an argument"));
+    EXPECT_THAT(Changed(u"replace 'a'b c", u""), HasSubstr("apostrophes stand around an argument"));
+}
