@@ -40,23 +40,22 @@ bool IsTaken(const std::function<void()>& read)
 void CheckRules(std::uint8_t choice, const CString& text)
 {
     using Make = Rules (*)(const CString&);
-    constexpr std::array<Make, 14> makers{
-        InsertRules,
-        PrefixRules,
-        SuffixRules,
-        DeleteRules,
-        DeleteFirstRules,
-        DeleteLastRules,
-        KeepFirstRules,
-        KeepLastRules,
-        CaseRules,
-        ExtensionRules,
-        ExtensionCaseRules,
-        [](const CString& pattern) { return NumberRules(pattern, {}); },
-        [](const CString& format) { return DateRules(format, {}); },
-        [](const CString& either) {
-            return ReplaceRules(either, either);
-        }};
+    constexpr std::array<Make, 14> makers{InsertRules,
+                                          PrefixRules,
+                                          SuffixRules,
+                                          DeleteRules,
+                                          DeleteFirstRules,
+                                          DeleteLastRules,
+                                          KeepFirstRules,
+                                          KeepLastRules,
+                                          CaseRules,
+                                          ExtensionRules,
+                                          ExtensionCaseRules,
+                                          [](const CString& pattern) { return NumberRules(pattern, {}); },
+                                          [](const CString& format) { return DateRules(format, {}); },
+                                          [](const CString& either) {
+                                              return ReplaceRules(either, either);
+                                          }};
     IsTaken([&] { Require(!makers[choice % makers.size()](text).empty()); });
 }
 

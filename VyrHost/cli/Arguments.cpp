@@ -150,7 +150,8 @@ void RefuseUnknownWords(const CLI::App& program, const CLI::App& command, const 
         for (const CLI::Option* const one : command.get_options())
             for (const std::string& longName : one->get_lnames())
                 known.push_back("--" + longName);
-        const std::string_view nearest = option.starts_with("--") ? Text::NearestWord(option, known) : std::string_view();
+        const std::string_view nearest =
+            option.starts_with("--") ? Text::NearestWord(option, known) : std::string_view();
         throw Text::UsageError(name + " has no option " + Shown(option) + Hint(nearest) + "\n" + name +
                                " --help lists its options.");
     }

@@ -281,9 +281,8 @@ private:
 
     void AddSetting(const SettingOption& setting, const CString& value)
     {
-        const auto rule = std::find_if(m_given.rbegin(), m_given.rend(), [&setting](const Given& given) {
-            return BelongsTo(setting, *given.option);
-        });
+        const auto rule = std::find_if(m_given.rbegin(), m_given.rend(),
+                                       [&setting](const Given& given) { return BelongsTo(setting, *given.option); });
         if (rule == m_given.rend())
             m_early.emplace_back(&setting, value);
         else
@@ -292,9 +291,8 @@ private:
 
     Given& First(const SettingOption& setting)
     {
-        const auto rule = std::find_if(m_given.begin(), m_given.end(), [&setting](const Given& given) {
-            return BelongsTo(setting, *given.option);
-        });
+        const auto rule = std::find_if(m_given.begin(), m_given.end(),
+                                       [&setting](const Given& given) { return BelongsTo(setting, *given.option); });
         if (rule == m_given.end())
             throw Text::UsageError(WithoutEffect(setting.name, setting.rule));
         return *rule;

@@ -85,8 +85,7 @@ private:
         if (word == u"per")
             return TakeScope(form.scope);
         const auto style = FindWord<CounterStyle>(
-            word,
-            {{u"roman", CounterStyle::Roman}, {u"letters", CounterStyle::Letters}, {u"hex", CounterStyle::Hex}});
+            word, {{u"roman", CounterStyle::Roman}, {u"letters", CounterStyle::Letters}, {u"hex", CounterStyle::Hex}});
         if (!style)
             return "a counter knows start N, step N, per folder, per day, per name, roman, letters and hex";
         if (std::exchange(m_hasStyle, true))

@@ -54,12 +54,17 @@ bool Adjust(FileMoment& moment, const DateSettings& settings)
 
 } // namespace
 
-FoundDate FindDate(FileValues& values, const DateSettings& settings)
+Media::MediaQuestion QuestionFor(const DateSettings& settings)
+{
+    return settings.sources.empty() ? Media::MediaQuestion() : QuestionFor(settings.sources.front());
+}
+
+FoundDate FindDate(FileValues& values, const DateSettings& settings, const Media::MediaQuestion& question)
 {
     FoundDate found;
     for (std::size_t rank = 0; rank < settings.sources.size(); ++rank) {
         const DateSource source = settings.sources[rank];
-        if (const auto moment = values.Moment(source)) {
+        if (const auto moment = values.Moment(source, question)) {
             found.rank = rank;
             found.moment = *moment;
             found.reason = Adjust(found.moment, settings) ? Reason::None : Reason::DateOutOfRange;

@@ -37,8 +37,14 @@ struct FoundDate
     FileMoment moment = {};
 };
 
+/// What is asked of the content of every file for those dates: for the first, as the others are asked for only where it
+/// is missing.
+[[nodiscard]] Media::MediaQuestion QuestionFor(const DateSettings& settings);
+
 /// The date that `settings` ask for. A file whose content cannot be read is a fault, not one without a date.
-[[nodiscard]] FoundDate FindDate(FileValues& values, const DateSettings& settings);
+/// @param question  all that the rule asks of the content of every file.
+[[nodiscard]] FoundDate FindDate(FileValues& values, const DateSettings& settings,
+                                 const Media::MediaQuestion& question);
 
 /// A date format, ready to write many dates.
 class DateWriter

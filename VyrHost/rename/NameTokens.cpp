@@ -34,6 +34,8 @@ struct Making
     const TemplateSettings& settings;
     /// The whole template.
     std::u16string_view text;
+    /// What the template asks of the content of every file.
+    Media::MediaQuestion& question;
 
     [[noreturn]] void Refuse(const std::string& reason) const
     {
@@ -70,14 +72,129 @@ TokenAnswer ToldByContent(const CString& text, FileValues& values)
     return Told(text);
 }
 
-/// Asks the file for a value of its content.
+/// At least as wide as `width`; empty for 0.
+CString NumberText(std::uint64_t number, int width = 1)
+{
+    std::string digits = std::to_string(number);
+    digits.insert(0, std::max(static_cast<std::size_t>(width), digits.size()) - digits.size(), '0');
+    return number == 0 ? CString() : FromUtf8(digits);
+}
+
+/// Reads a text of the file's content.
+TokenReader ContentReader(const Making& making, const Media::MediaQuestion& more,
+                          std::function<CString(FileValues& values, const Media::MediaQuestion& question)> ask)
+{
+    AddTo(making.question, more);
+    return [&question = std::as_const(making.question), ask = std::move(ask)](Subject& subject) {
+        FileValues& values = FileValuesOf(subject);
+        return ToldByContent(ask(values, question), values);
+    };
+}
+
 template <CString (FileValues::*Ask)()>
-TokenReader MakeContent(const Making& making)
+TokenReader MakeCamera(const Making& making)
 {
     making.RequireNoOption();
     return [](Subject& subject) {
         FileValues& values = FileValuesOf(subject);
         return ToldByContent((values.*Ask)(), values);
+    };
+}
+
+template <std::uint32_t Media::MediaValues::*Length>
+TokenReader MakeLength(const Making& making)
+{
+    making.RequireNoOption();
+    Media::MediaQuestion question;
+    question.size = true;
+    return ContentReader(making, question, [](FileValues& values, const Media::MediaQuestion& all) {
+        return NumberText(values.Content(all).*Length);
+    });
+}
+
+/// "01.02.03": hours, minutes and seconds; with "s" behind the colon all in seconds.
+TokenReader MakeDuration(const Making& making)
+{
+    if (making.token.option && *making.token.option != u"s")
+        making.Refuse("s, for seconds, is all that it takes behind a colon");
+    Media::MediaQuestion question;
+    question.duration = true;
+    return ContentReader(
+        making, question,
+        [inSeconds = making.token.option.has_value()](FileValues& values, const Media::MediaQuestion& all) {
+            constexpr std::uint64_t millisecondsPerSecond = 1000;
+            constexpr std::uint64_t secondsPerMinute = 60;
+            constexpr std::uint64_t minutesPerHour = 60;
+            const auto& duration = values.Content(all).duration;
+            if (!duration)
+                return CString();
+            const std::uint64_t seconds = *duration / millisecondsPerSecond;
+            if (inSeconds)
+                return FromUtf8(std::to_string(seconds));
+            const std::uint64_t minutes = seconds / secondsPerMinute;
+            CString text;
+            text.Format(u"%02u.%02u.%02u", minutes / minutesPerHour, minutes % minutesPerHour,
+                        seconds % secondsPerMinute);
+            return text;
+        });
+}
+
+TokenReader MakeExif(const Making& making)
+{
+    const CString name = making.token.option.value_or(CString());
+    const auto tag = Media::FindExifTag(name);
+    if (!tag) {
+        std::vector<std::string> known;
+        for (const std::u16string_view one : Media::ExifTagNames())
+            known.push_back(ToUtf8(one));
+        const std::string_view nearest = Text::NearestWord(ToUtf8(name), known);
+        making.Refuse("the name of a tag is expected behind a colon, such as LensModel" +
+                      (nearest.empty() ? std::string() : "; did you mean <Exif:" + std::string(nearest) + ">?"));
+    }
+    Media::MediaQuestion question;
+    question.exif.set(static_cast<std::size_t>(*tag));
+    return ContentReader(making, question, [tag = *tag](FileValues& values, const Media::MediaQuestion& all) {
+        return AsNamePart(values.Content(all).Exif(tag));
+    });
+}
+
+Media::MediaQuestion QuestionForWork()
+{
+    Media::MediaQuestion question;
+    question.tags = true;
+    return question;
+}
+
+template <CString WorkValues::*Text>
+TokenReader MakeWorkText(const Making& making)
+{
+    making.RequireNoOption();
+    return ContentReader(making, QuestionForWork(), [](FileValues& values, const Media::MediaQuestion& question) {
+        return AsNamePart(values.Work(question).*Text);
+    });
+}
+
+/// As wide as the option has "#".
+template <unsigned WorkValues::*Number>
+TokenReader MakeWorkNumber(const Making& making)
+{
+    constexpr std::size_t mostDigits = 9;
+    const std::u16string_view width = making.token.option ? making.token.option->View() : u"#";
+    if (width.empty() || width.size() > mostDigits || width.find_first_not_of(u'#') != width.npos)
+        making.Refuse("as many # as it has digits are expected behind a colon, such as ##");
+    return ContentReader(
+        making, QuestionForWork(),
+        [digits = static_cast<int>(width.size())](FileValues& values, const Media::MediaQuestion& question) {
+            return NumberText(values.Work(question).*Number, digits);
+        });
+}
+
+TokenReader MakeHash(const Making& making)
+{
+    constexpr int allDigits = 64;
+    return [count = making.Number(allDigits, allDigits)](Subject& subject) {
+        FileValues& values = FileValuesOf(subject);
+        return ToldByContent(values.Hash().Left(count), values);
     };
 }
 
@@ -119,8 +236,9 @@ TokenReader DateReader(const Making& making, std::vector<DateSource> sources)
 {
     DateSettings settings = making.settings.dates;
     settings.sources = std::move(sources);
-    return [format = FormatOf(making), settings](Subject& subject) {
-        const FoundDate date = FindDate(FileValuesOf(subject), settings);
+    AddTo(making.question, QuestionFor(settings));
+    return [format = FormatOf(making), settings, &question = std::as_const(making.question)](Subject& subject) {
+        const FoundDate date = FindDate(FileValuesOf(subject), settings, question);
         subject.dateRank = std::max(subject.dateRank, date.rank);
         if (date.reason != Reason::None)
             return TokenAnswer{std::nullopt, date.reason};
@@ -176,9 +294,9 @@ TokenReader MakeUuid(const Making& making)
     making.RequireNoOption();
     return [](Subject&) {
         constexpr std::u16string_view digits = u"0123456789abcdef";
-        return TokenAnswer{CString::Join({ByChance(digits, 8), u"-", ByChance(digits, 4), u"-4", ByChance(digits, 3),
-                                          u"-", ByChance(u"89ab", 1), ByChance(digits, 3), u"-",
-                                          ByChance(digits, 12)})};
+        return TokenAnswer{
+            CString::Join({ByChance(digits, 8), u"-", ByChance(digits, 4), u"-4", ByChance(digits, 3), u"-",
+                           ByChance(u"89ab", 1), ByChance(digits, 3), u"-", ByChance(digits, 12)})};
     };
 }
 
@@ -214,8 +332,20 @@ constexpr TokenKind kinds[] = {
     {"Modified", MakeDate<DateSource::Modified>},
     {"Created", MakeDate<DateSource::Created>},
     {"Date", MakeChosenDate},
-    {"Make", MakeContent<&FileValues::Make>},
-    {"Model", MakeContent<&FileValues::Model>},
+    {"Make", MakeCamera<&FileValues::Make>},
+    {"Model", MakeCamera<&FileValues::Model>},
+    {"Width", MakeLength<&Media::MediaValues::width>},
+    {"Height", MakeLength<&Media::MediaValues::height>},
+    {"Duration", MakeDuration},
+    {"Exif", MakeExif},
+    {"Title", MakeWorkText<&WorkValues::title>},
+    {"Artist", MakeWorkText<&WorkValues::artist>},
+    {"Album", MakeWorkText<&WorkValues::album>},
+    {"Genre", MakeWorkText<&WorkValues::genre>},
+    {"Track", MakeWorkNumber<&WorkValues::track>},
+    {"Disc", MakeWorkNumber<&WorkValues::disc>},
+    {"Year", MakeWorkNumber<&WorkValues::year>},
+    {"Hash", MakeHash},
     {"Size", MakeSize},
     {"Uuid", MakeUuid},
     {"Random", MakeRandom},
@@ -234,7 +364,19 @@ constexpr TokenHelp table[] = {
     {"<Date:FORMAT>", "the first date of --date-from that the file has"},
     {"<Make>", "the maker of the camera"},
     {"<Model>", "the model of the camera"},
+    {"<Width>", "the width of a picture or film in points"},
+    {"<Height>", "the height of a picture or film in points"},
+    {"<Duration>", "of a film or a piece of music: hours.minutes.seconds; <Duration:s> in seconds"},
+    {"<Exif:TAG>", "a tag of a picture by exiftool's name, such as <Exif:LensModel>"},
+    {"<Title>", "of music, a film or a document"},
+    {"<Artist>", "of music; the author of a document"},
+    {"<Album>", "of music"},
+    {"<Track:##>", "the track of music, as wide as it has # at least"},
+    {"<Disc>", "the disc of music"},
+    {"<Year>", "of music; the year in which a document was made"},
+    {"<Genre>", "of music"},
     {"<Size>", "the size in bytes"},
+    {"<Hash:8>", "so many digits of the SHA-256 of the content; without a number all 64"},
     {"<1>", "a group of the last --regex, by its number or its name"},
     {"<Csv:COLUMN>", "the field of that column in the line of --csv-data for the file"},
     {"<Uuid>", "a random identifier of 36 characters"},
@@ -298,9 +440,10 @@ std::span<const TokenHelp> TokenTable()
     return table;
 }
 
-TokenReader ReaderOf(const Text::Token& token, const TemplateSettings& settings, std::u16string_view text)
+TokenReader ReaderOf(const Text::Token& token, const TemplateSettings& settings, std::u16string_view text,
+                     Media::MediaQuestion& question)
 {
-    const Making making{token, settings, text};
+    const Making making{token, settings, text, question};
     if (IsNumber(token.word))
         return MakeNumberedGroup(making);
     const std::string word = ToUtf8(token.word);

@@ -114,7 +114,7 @@ Reason StepDown(Subject& subject, const CString& name)
 DateRule::DateRule(std::u16string_view format, Position position, DateSettings settings)
     : m_format(format), m_position(position), m_settings(std::move(settings)),
       m_hasMake(format.find(Token::make) != format.npos), m_hasModel(format.find(Token::model) != format.npos),
-      m_hasFolder(format.find(Token::folder) != format.npos)
+      m_hasFolder(format.find(Token::folder) != format.npos), m_question(QuestionFor(m_settings))
 {}
 
 Reason DateRule::Apply(Subject& subject)
@@ -137,7 +137,7 @@ Reason DateRule::Apply(Subject& subject)
 
 Reason DateRule::WriteDate(Subject& subject, CString& text) const
 {
-    const FoundDate date = FindDate(FileValuesOf(subject), m_settings);
+    const FoundDate date = FindDate(FileValuesOf(subject), m_settings, m_question);
     subject.dateRank = std::max(subject.dateRank, date.rank);
     if (date.reason != Reason::None)
         return date.reason;

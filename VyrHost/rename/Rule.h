@@ -124,6 +124,7 @@ private:
     bool m_hasMake;
     bool m_hasModel;
     bool m_hasFolder;
+    Media::MediaQuestion m_question;
 };
 
 } // namespace VyrHost::Rename

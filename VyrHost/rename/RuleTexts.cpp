@@ -15,7 +15,8 @@ namespace VyrHost::Rename {
 
 namespace {
 
-constexpr const char* zoneExpected = "UTC, or hours and minutes ahead of it such as +02:00 or -9:30 are expected, 14 at most";
+constexpr const char* zoneExpected =
+    "UTC, or hours and minutes ahead of it such as +02:00 or -9:30 are expected, 14 at most";
 
 } // namespace
 

@@ -23,8 +23,8 @@ std::size_t QuotedLength(std::string_view rest)
     std::size_t end = rest.find('"', 1);
     while (end != std::string_view::npos && rest.substr(end + 1).starts_with('"'))
         end = rest.find('"', end + 2);
-    const bool isWhole = end != std::string_view::npos &&
-                         (end + 1 == rest.size() || rest.find_first_of(",;\t\r\n", end + 1) == end + 1);
+    const bool isWhole =
+        end != std::string_view::npos && (end + 1 == rest.size() || rest.find_first_of(",;\t\r\n", end + 1) == end + 1);
     return isWhole ? end + 1 : 0;
 }
 
@@ -62,8 +62,8 @@ char SeparatorOf(std::string_view rest, TableReader::Columns columns)
     const FirstLine line = CountSeparators(rest);
     if (line.tabs > 0)
         return '\t';
-    const bool areSemicolons = columns == TableReader::Columns::Two ? line.semicolons == 1 && line.commas != 1
-                                                                    : line.semicolons > line.commas;
+    const bool areSemicolons =
+        columns == TableReader::Columns::Two ? line.semicolons == 1 && line.commas != 1 : line.semicolons > line.commas;
     return areSemicolons ? ';' : ',';
 }
 

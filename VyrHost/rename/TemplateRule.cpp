@@ -61,8 +61,7 @@ Reason Change(const std::vector<TextChange>& changes, CString& text)
 void SplitExtension(Subject& subject)
 {
     const CString whole = subject.name;
-    subject.extension =
-        subject.isFolder ? CString() : VyrLibraryUtils::FileUtils::GetSplitExtension(whole, 1);
+    subject.extension = subject.isFolder ? CString() : VyrLibraryUtils::FileUtils::GetSplitExtension(whole, 1);
     subject.name = whole.Left(whole.GetLength() - subject.extension.GetLength());
 }
 
@@ -111,7 +110,7 @@ void TemplateRule::Add(const Text::Token& token, const TemplateSettings& setting
         m_parts.emplace_back(std::move(counter));
         return;
     }
-    m_parts.emplace_back(Value{std::move(finish), ReaderOf(token, settings, text)});
+    m_parts.emplace_back(Value{std::move(finish), ReaderOf(token, settings, text, m_question)});
 }
 
 void TemplateRule::RequireSense(std::u16string_view text) const
@@ -188,7 +187,7 @@ Reason TemplateRule::FillValue(const Value& value, Subject& subject, CString& te
 Reason TemplateRule::FillCounters(Subject& subject)
 {
     if (m_countsDays && !m_day) {
-        const FoundDate date = FindDate(FileValuesOf(subject), m_dates);
+        const FoundDate date = FindDate(FileValuesOf(subject), m_dates, m_question);
         if (date.reason != Reason::None)
             return date.reason;
         m_day = DayOf(date.moment);
@@ -236,7 +235,8 @@ CString TemplateRule::KeyOf(CounterScope scope, const Subject& subject) const
             step.Empty();
         }
     }
-    return scope == CounterScope::Folder ? key : CString::Join({key, step, m_givesExtension ? CString() : subject.extension});
+    return scope == CounterScope::Folder ? key
+                                         : CString::Join({key, step, m_givesExtension ? CString() : subject.extension});
 }
 
 Reason TemplateRule::Compose(Subject& subject) const

@@ -20,6 +20,8 @@ class TemplateRule final : public Rule
 public:
     /// @throws UsageError for a template that makes no sense.
     TemplateRule(std::u16string_view text, const TemplateSettings& settings);
+    TemplateRule(const TemplateRule&) = delete;
+    TemplateRule& operator=(const TemplateRule&) = delete;
 
     Reason Apply(Subject& subject) override;
     [[nodiscard]] bool MayNumber() const override { return true; }
@@ -46,8 +48,7 @@ private:
     };
     /// Ends the name of a folder.
     struct FolderEnd
-    {
-    };
+    {};
     using Part = std::variant<CString, Value, Counter, FolderEnd>;
 
     void Add(const Text::Token& token, const TemplateSettings& settings, std::u16string_view text);
@@ -63,11 +64,13 @@ private:
 
     std::vector<Part> m_parts;
     const DateSettings m_dates;
+    /// What all tokens ask of the content of every file.
+    Media::MediaQuestion m_question;
     bool m_givesExtension = false;
     bool m_countsDays = false;
 
-    /// Of the present entry: the text of each part, and the day of the first date in it; nothing for a date that it does
-    /// not have.
+    /// Of the present entry: the text of each part, and the day of the first date in it; nothing for a date that it
+    /// does not have.
     std::vector<CString> m_texts;
     std::optional<CString> m_day;
 };

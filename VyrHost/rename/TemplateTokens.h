@@ -28,8 +28,8 @@ inline constexpr std::u16string_view model = u"<Model>";
 /// Example: "yyyy 'Trip' MM" passes; "YYYY", "%Y", "yyyy Trip" and "yyyy <Maker>" do not.
 void RequireDateFormat(std::u16string_view format);
 
-/// Refuses a date format that is the option of a token (RefuseValue for `option` and `shown`) likewise; it has no tokens
-/// itself.
+/// Refuses a date format that is the option of a token (RefuseValue for `option` and `shown`) likewise; it has no
+/// tokens itself.
 void RequireDateOption(std::u16string_view format, const char* option, std::u16string_view shown);
 
 /// The pieces of a date format between which its milliseconds stand ("SSS" outside apostrophes): one more than there

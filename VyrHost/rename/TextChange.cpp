@@ -1,7 +1,10 @@
 // Reads changes, and has the text functions of the rules carry them out.
 #include <VyrHost/rename/TextChange.h>
 
+#include <VyrHost/rename/Words.h>
+#include <VyrHost/text/Latin.h>
 #include <VyrHost/text/NearestWord.h>
+#include <VyrHost/text/NormalForm.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrPlatform/text/Encoding.h>
 
@@ -71,30 +74,58 @@ TextChange MakeReplace(const Arguments& arguments)
 {
     if (arguments[0].IsEmpty())
         return nullptr;
-    return [find = arguments[0], replacement = arguments[1]](const CString& text) {
-        CString changed = text;
-        changed.Replace(find, replacement);
-        return changed;
+    return [find = Text::Composed(arguments[0]), replacement = arguments[1]](const CString& text) {
+        return Text::ReplaceComposed(text, find, replacement);
     };
 }
 
+TextChange MakePad(const Arguments& arguments)
+{
+    constexpr std::size_t mostDigits = 3;
+    constexpr int most = 255;
+    int width = 0;
+    for (const char16_t unit : arguments[0].View().substr(0, mostDigits + 1)) {
+        if (unit < u'0' || unit > u'9')
+            return nullptr;
+        width = width * 10 + (unit - u'0');
+    }
+    if (arguments[0].IsEmpty() || width > most)
+        return nullptr;
+    return [width](const CString& text) {
+        return PadNumbers(text, width, WhichNumbers::All);
+    };
+}
+
+/// A change without arguments.
+template <CString (*Function)(const CString&)>
+TextChange MakePlain(const Arguments& /*arguments*/)
+{
+    return Function;
+}
+
+CString InCapitals(const CString& text)
+{
+    return CString(text).MakeUpper();
+}
+
+CString InSmallLetters(const CString& text)
+{
+    return CString(text).MakeLower();
+}
+
+CString AsTitle(const CString& text)
+{
+    return TitleCase(text, TitleStyle::EveryWord);
+}
+
 constexpr KnownChange knownChanges[] = {
-    {"upper", 0,
-     [](const Arguments&) -> TextChange {
-         return [](const CString& text) {
-             return CString(text).MakeUpper();
-         };
-     }},
-    {"lower", 0,
-     [](const Arguments&) -> TextChange {
-         return [](const CString& text) {
-             return CString(text).MakeLower();
-         };
-     }},
+    {"upper", 0, MakePlain<InCapitals>}, {"lower", 0, MakePlain<InSmallLetters>},
+    {"title", 0, MakePlain<AsTitle>},    {"ascii", 0, MakePlain<Text::SpellOutLatin>},
+    {"trim", 0, MakePlain<TrimBlanks>},  {"pad", 1, MakePad},
     {"replace", 2, MakeReplace},
 };
 
-constexpr const char* knownWords = "upper, lower, and replace A B";
+constexpr const char* knownWords = "upper, lower, title, ascii, trim, pad N and replace A B";
 
 std::string UnknownChange(const CString& word)
 {

@@ -25,8 +25,7 @@ bool IsWordUnit(char16_t unit)
 
 bool IsWord(std::u16string_view text)
 {
-    return !text.empty() &&
-           (std::all_of(text.begin(), text.end(), IsWordUnit) || text.find_first_not_of(u'#') == none);
+    return !text.empty() && (std::all_of(text.begin(), text.end(), IsWordUnit) || text.find_first_not_of(u'#') == none);
 }
 
 /// Cuts off what stands before the first of `marks`.

@@ -70,5 +70,8 @@ TEST(CsvData, RefusesTablesThatMakeNoSense)
     EXPECT_THAT(ErrorOf("file,x\n,b\n"), HasSubstr("the name of a file, is empty"));
     EXPECT_THAT(ErrorOf("file,x\na,b\n\na,c\n"), HasSubstr("line 4 of the CSV data: there is a line for that file"));
     EXPECT_THAT(ErrorOf("file,x\na,\"b\n"), HasSubstr("double quotes has no end"));
-    EXPECT_THAT(ErrorOf(std::string_view("\xFF\xFE" "f\0", 4)), HasSubstr("UTF-16"));
+    EXPECT_THAT(ErrorOf(std::string_view("\xFF\xFE"
+                                         "f\0",
+                                         4)),
+                HasSubstr("UTF-16"));
 }

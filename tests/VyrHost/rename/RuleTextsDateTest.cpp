@@ -130,7 +130,8 @@ TEST_F(DateFormat, ReportsWhichDatesWereTaken)
     EXPECT_TRUE(subject.datesTaken.Has(DateSource::Modified));
     EXPECT_FALSE(subject.datesTaken.Has(DateSource::PictureTaken));
     Subject dated = SubjectOf(u"dated");
-    EXPECT_EQ(DateRules(u"yyyy", {{DateSource::PictureTaken, DateSource::Modified}}).front()->Apply(dated), Reason::None);
+    EXPECT_EQ(DateRules(u"yyyy", {{DateSource::PictureTaken, DateSource::Modified}}).front()->Apply(dated),
+              Reason::None);
     EXPECT_EQ(DateRules(u"MM<Name>", {{DateSource::Created, DateSource::PictureTaken}}).front()->Apply(dated),
               Reason::None);
     EXPECT_TRUE(dated.datesTaken.Has(DateSource::PictureTaken));

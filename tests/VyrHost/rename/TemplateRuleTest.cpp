@@ -189,8 +189,8 @@ TEST_F(NameTemplate, CountsAnewForEachFolderThatItGetsInto)
     Rules rules = NameRules(u"<Name|replace 1 ''|replace 2 ''><Folder><#:per folder>", {});
     const CString a = CString(u"a") + Slash;
     const CString b = CString(u"b") + Slash;
-    EXPECT_EQ(NamedInOrder(std::move(rules), {FileSubject(u"a1", u""), FileSubject(u"b1", u""),
-                                              FileSubject(u"a2", u""), FileSubject(u"b2", u"")}),
+    EXPECT_EQ(NamedInOrder(std::move(rules), {FileSubject(u"a1", u""), FileSubject(u"b1", u""), FileSubject(u"a2", u""),
+                                              FileSubject(u"b2", u"")}),
               (Names{a + u"1", b + u"1", a + u"2", b + u"2"}));
 }
 
