@@ -37,6 +37,8 @@ std::u16string_view WordsFor(Reason reason)
         return u"it has no date of the kind asked for";
     case Reason::DateOutOfRange:
         return u"its date would leave the calendar's range";
+    case Reason::FileNotRead:
+        return u"it cannot be read";
     case Reason::NoValue:
         return u"it has no value for a token";
     case Reason::PictureNotRead:
@@ -124,7 +126,7 @@ std::uint32_t RenameResults::CauseOf(std::uint32_t entry) const
     const Decision& decision = m_decisions[entry];
     if (decision.reason == Reason::FolderNotRead)
         return m_list.folders[decision.folder].error;
-    if (decision.reason == Reason::PictureNotRead)
+    if (decision.reason == Reason::PictureNotRead || decision.reason == Reason::FileNotRead)
         return Model::PictureReadError(m_list.PathOf(m_list.entries[entry]));
     return 0;
 }

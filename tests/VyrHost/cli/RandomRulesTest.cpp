@@ -107,6 +107,9 @@ public:
             {u"--date", u"yyyy<Folder><Name>"},
             {u"--date", u"'b'<Folder><Name>"},
             {u"--date", u"<Name> MM"},
+            {u"--name", u"<Name|replace a b><#:per name>"},
+            {u"--name", u"<Name> <#:per folder letters>"},
+            {u"--name", u"<Extension?b><Folder><Name|upper>.<Extension?x|replace . ''>"},
         };
         const std::vector<CString>& rule = rules[Below(rules.size())];
         call.insert(call.end(), rule.begin(), rule.end());
