@@ -131,7 +131,8 @@ constexpr RuleOption ruleOptions[] = {
      [](const Given&) {
          return Rename::CollapseRules();
      }},
-    {"--extension", "NEW", 1, "Change the extension to NEW (files only)", FromValue<Rename::ExtensionRules>},
+    {"--extension", "NEW", 1, "Change the extension to NEW (files only); auto is the one that the content asks for",
+     FromValue<Rename::ExtensionRules>},
     {"--extension-case", "upper|lower", 1, "Make the extension's letters capital or small",
      FromValue<Rename::ExtensionCaseRules>},
     {"--drop-extension", "", 0, "Remove the extension",

@@ -1,6 +1,7 @@
 // Looks into the containers that many kinds of files share.
 #include <VyrHost/media/ContentContainers.h>
 
+#include <VyrHost/media/Movie.h>
 #include <VyrLibraryUtils/pictures/FourCc.h>
 #include <VyrLibraryUtils/pictures/IsoBox.h>
 
@@ -135,13 +136,13 @@ std::u16string_view MeaningOfType(std::string_view type)
     return Find(types, type);
 }
 
-/// The names of a compound document's entries that tell its kind.
+/// The names of a compound document's entries that tell its kind, in small letters: the format tells none apart.
 std::u16string_view MeaningOfEntry(std::string_view name)
 {
-    constexpr Meaning names[] = {{"WordDocument", u"doc"},  {"Workbook", u"xls"},
-                                 {"Book", u"xls"},          {"PowerPoint Document", u"ppt"},
-                                 {"VisioDocument", u"vsd"}, {"__properties_version1.0", u"msg"},
-                                 {"Quill", u"pub"}};
+    constexpr Meaning names[] = {{"worddocument", u"doc"},  {"workbook", u"xls"},
+                                 {"book", u"xls"},          {"powerpoint document", u"ppt"},
+                                 {"visiodocument", u"vsd"}, {"__properties_version1.0", u"msg"},
+                                 {"quill", u"pub"}};
     return Find(names, name);
 }
 
@@ -203,7 +204,12 @@ private:
     int m_count = 0;
 };
 
-/// The name of a directory entry, of its ASCII characters.
+char Small(char letter)
+{
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + ('a' - 'A')) : letter;
+}
+
+/// The name of a directory entry in small letters, of its ASCII characters.
 std::string NameOfEntry(const ByteView& entry)
 {
     constexpr std::uint64_t lengthField = 64;
@@ -213,7 +219,7 @@ std::string NameOfEntry(const ByteView& entry)
     ByteCursor cursor(entry, ByteOrder::Little);
     std::string name;
     for (std::uint16_t at = 2; at < size; at = static_cast<std::uint16_t>(at + 2))
-        name += static_cast<char>(std::min<std::uint16_t>(cursor.U16(), 0x7F));
+        name += Small(static_cast<char>(std::min<std::uint16_t>(cursor.U16(), 0x7F)));
     return name;
 }
 
@@ -221,25 +227,35 @@ std::string NameOfEntry(const ByteView& entry)
 
 std::u16string_view KindOfZip(const ByteView& file)
 {
-    ZipHeads heads(file);
-    const auto first = heads.Next();
-    if (!first)
-        return u"zip";
     constexpr std::size_t longestType = 100;
-    if (first->name == "mimetype" && !first->isPacked)
+    const auto first = ZipHeads(file).Next();
+    if (first && first->name == "mimetype" && !first->isPacked)
         if (const auto kind = MeaningOfType(first->content.Copy(longestType)); !kind.empty())
             return kind;
-    constexpr int mostNames = 1000;
     bool hasManifest = false;
+    const auto fromNames = [&hasManifest](auto next) -> std::u16string_view {
+        constexpr int mostNames = 1000;
+        for (int left = mostNames; left > 0; --left) {
+            const std::optional<std::string> name = next();
+            if (!name)
+                break;
+            if (const auto kind = MeaningOfMember(*name); !kind.empty())
+                return kind;
+            hasManifest = hasManifest || *name == "META-INF/MANIFEST.MF";
+        }
+        return {};
+    };
     ZipDirectory directory(file);
-    for (int left = mostNames; left > 0; --left) {
-        const auto name = directory.Next();
-        if (!name)
-            break;
-        if (const auto kind = MeaningOfMember(*name); !kind.empty())
-            return kind;
-        hasManifest = hasManifest || *name == "META-INF/MANIFEST.MF";
-    }
+    if (const auto kind = fromNames([&directory] { return directory.Next(); }); !kind.empty())
+        return kind;
+    // The directory of a damaged archive is missing.
+    ZipHeads heads(file);
+    const auto kind = fromNames([&heads] {
+        auto member = heads.Next();
+        return member ? std::optional(std::move(member->name)) : std::nullopt;
+    });
+    if (!kind.empty())
+        return kind;
     return hasManifest ? u"jar"sv : u"zip"sv;
 }
 
@@ -259,10 +275,9 @@ std::u16string_view KindOfIsoMedia(const ByteView& file)
     constexpr Meaning brands[] = {{"qt  ", u"mov"},  {"M4V ", u"m4v"},  {"M4VH", u"m4v"},  {"M4VP", u"m4v"},
                                   {"M4A ", u"m4a"},  {"M4B ", u"m4b"},  {"heic", u"heic"}, {"heix", u"heic"},
                                   {"heim", u"heic"}, {"heis", u"heic"}, {"hevc", u"heic"}, {"hevx", u"heic"},
-                                  {"avif", u"avif"}, {"avis", u"avif"}, {"crx ", u"cr3"},  {"isom", u"mp4"},
-                                  {"iso2", u"mp4"},  {"iso4", u"mp4"},  {"iso5", u"mp4"},  {"iso6", u"mp4"},
-                                  {"mp41", u"mp4"},  {"mp42", u"mp4"},  {"avc1", u"mp4"},  {"dash", u"mp4"},
-                                  {"MSNV", u"mp4"},  {"f4v ", u"f4v"}};
+                                  {"avif", u"avif"}, {"avis", u"avif"}, {"crx ", u"cr3"},  {"mp41", u"mp4"},
+                                  {"mp42", u"mp4"},  {"avc1", u"mp4"},  {"dash", u"mp4"},  {"MSNV", u"mp4"},
+                                  {"f4v ", u"f4v"}};
     ByteCursor cursor(file, ByteOrder::Big);
     const auto box = NextBox(cursor);
     // Films from before the box with the brands.
@@ -272,6 +287,8 @@ std::u16string_view KindOfIsoMedia(const ByteView& file)
         const std::string_view brand = box->content.Fetch(at, 4);
         if (brand.starts_with("3gp") || brand.starts_with("3g2"))
             return brand[2] == 'p' ? u"3gp" : u"3g2";
+        if (brand.starts_with("iso"))
+            return u"mp4";
         return Find(brands, brand);
     };
     if (const auto kind = meaningAt(0); !kind.empty())
@@ -314,16 +331,8 @@ std::u16string_view KindOfOgg(const ByteView& file)
 
 std::u16string_view KindOfMatroska(const ByteView& file)
 {
-    constexpr std::size_t headSize = 64;
-    constexpr std::string_view typeElement = "\x42\x82";
-    const std::string head = file.Copy(headSize);
-    const std::size_t at = head.find(typeElement);
-    if (at == std::string::npos)
-        return {};
-    const std::string_view type = std::string_view(head).substr(std::min(at + 3, head.size()));
-    if (type.starts_with("webm"))
-        return u"webm";
-    return type.starts_with("matroska") ? u"mkv" : u"";
+    constexpr Meaning types[] = {{"matroska", u"mkv"}, {"webm", u"webm"}};
+    return Find(types, MatroskaType(file));
 }
 
 std::u16string_view KindOfAsf(const ByteView& file)

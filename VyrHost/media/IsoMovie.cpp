@@ -135,6 +135,20 @@ void ReadExtension(const ByteView& extension, std::uint32_t unitsPerSecond, Movi
     movie.duration = Milliseconds(cursor.Unsigned(TakeIsLong(cursor) ? 8 : 4), unitsPerSecond);
 }
 
+/// The title that QuickTime keeps among the user's data: a length, a language, the text. Source: QuickTime File Format
+/// Specification, "User Data Text Strings".
+std::string TitleIn(const ByteView& userData)
+{
+    constexpr std::uint32_t name = 0xA96E616D;
+    const auto box = FindBox(userData, name);
+    if (!box)
+        return {};
+    ByteCursor cursor(*box, ByteOrder::Big);
+    const std::uint16_t length = cursor.U16();
+    cursor.Skip(2);
+    return cursor.Take(length).Copy(length);
+}
+
 void ReadMovieBox(const ByteView& content, Movie& movie)
 {
     std::uint32_t unitsPerSecond = 0;
@@ -143,6 +157,8 @@ void ReadMovieBox(const ByteView& content, Movie& movie)
             unitsPerSecond = ReadMovieHeader(box.content, movie);
         else if (box.type == FourCc("trak"))
             ReadTrack(box.content, movie);
+        else if (box.type == FourCc("udta"))
+            movie.title = TitleIn(box.content);
         else if (box.type == FourCc("mvex") && !movie.duration)
             ReadExtension(box.content, unitsPerSecond, movie);
         return true;

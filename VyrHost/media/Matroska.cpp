@@ -15,6 +15,8 @@ using namespace VyrLibraryUtils::Pictures;
 /// Elements, by the numbers of RFC 9559.
 enum class Id : std::uint32_t
 {
+    Head = 0x1A45DFA3,
+    DocType = 0x4282,
     Segment = 0x18538067,
     SeekHead = 0x114D9B74,
     Seek = 0x4DBB,
@@ -237,6 +239,21 @@ void ReadSegment(const ByteView& segment, Movie& movie)
 bool IsMatroska(const ByteView& bytes)
 {
     return bytes.StartsWith("\x1A\x45\xDF\xA3");
+}
+
+std::string MatroskaType(const ByteView& bytes)
+{
+    constexpr std::size_t longestType = 32;
+    std::string type;
+    ByteCursor cursor(bytes, ByteOrder::Big);
+    if (const auto head = NextElement(cursor); head && head->id == Id::Head)
+        ForEachElement(head->content, [&type](const Element& element) {
+            if (element.id == Id::DocType)
+                type = element.content.Copy(longestType);
+            return type.empty();
+        });
+    // Zeros may fill it up.
+    return type.substr(0, type.find('\0'));
 }
 
 Movie ReadMatroska(const ByteView& file)

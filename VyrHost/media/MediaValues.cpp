@@ -107,7 +107,15 @@ private:
             Take(ReadAvi(m_bytes));
         const bool isDurationMissing = m_question.duration && !m_values.duration;
         if ((isDurationMissing || m_question.tags) && !IsMatroska(m_bytes) && !IsAvi(m_bytes))
-            ReadMusic(m_file, {.duration = isDurationMissing, .tags = m_question.tags}, m_values);
+            ReadTagsOfMusic(isDurationMissing);
+    }
+
+    void ReadTagsOfMusic(bool asksForDuration)
+    {
+        const CString titleOfMovie = m_values.title;
+        ReadMusic(m_file, {.duration = asksForDuration, .tags = m_question.tags}, m_values);
+        if (m_values.title.IsEmpty())
+            m_values.title = titleOfMovie;
     }
 
     /// Whether the file is a picture, which has neither a duration nor tags of music.

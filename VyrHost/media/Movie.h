@@ -27,6 +27,8 @@ struct Movie
 /// Whether `bytes` begin with a box of a film, of music in the same boxes, or of a HEIC or AVIF picture.
 [[nodiscard]] bool IsIsoMedia(const VyrLibraryUtils::Pictures::ByteView& bytes);
 [[nodiscard]] bool IsMatroska(const VyrLibraryUtils::Pictures::ByteView& bytes);
+/// The type in the head of a file that IsMatroska: "matroska", "webm".
+[[nodiscard]] std::string MatroskaType(const VyrLibraryUtils::Pictures::ByteView& bytes);
 [[nodiscard]] bool IsAvi(const VyrLibraryUtils::Pictures::ByteView& bytes);
 
 /// A film in boxes. A date of 0 is no date; one before 1970 counts from 1970, as those writers meant that took the

@@ -59,6 +59,10 @@ std::u16string_view WordsFor(Reason reason)
         return u"the place or count is beyond the name";
     case Reason::PatternGaveUp:
         return u"the pattern runs away on this name";
+    case Reason::ContentNotRead:
+        return u"it cannot be read";
+    case Reason::UnknownContent:
+        return u"its content is of no kind that is known";
     case Reason::EmptyName:
         return u"the new name would be empty";
     case Reason::TargetExists:
@@ -126,7 +130,7 @@ std::uint32_t RenameResults::CauseOf(std::uint32_t entry) const
     const Decision& decision = m_decisions[entry];
     if (decision.reason == Reason::FolderNotRead)
         return m_list.folders[decision.folder].error;
-    if (decision.reason == Reason::PictureNotRead || decision.reason == Reason::FileNotRead)
+    if (decision.reason == Reason::PictureNotRead || decision.reason == Reason::ContentNotRead)
         return Model::PictureReadError(m_list.PathOf(m_list.entries[entry]));
     return 0;
 }

@@ -49,6 +49,10 @@ enum class Reason : std::uint8_t
     BeyondName,
     /// A pattern takes too many steps for the name; the cause tells which bound it met.
     PatternGaveUp,
+    /// The content of the file, which was asked for, cannot be read; the cause says why.
+    ContentNotRead,
+    /// The content of the file tells no kind whose extension is known.
+    UnknownContent,
     EmptyName,
     /// Something that the batch leaves in place has the name.
     TargetExists,

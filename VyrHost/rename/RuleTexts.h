@@ -86,8 +86,10 @@ struct PatternRuleSettings
 /// "name", "extension" or "all".
 [[nodiscard]] NamePart ParseNamePart(const CString& text);
 
-/// An extension, with or without its dot.
+/// An extension, with or without its dot; "auto" for the one that the content of each file asks for.
 [[nodiscard]] Rules ExtensionRules(const CString& text);
+/// Gives a file the usual extension of what it contains. One that such a file may have stays, and links are followed.
+[[nodiscard]] Rules ContentExtensionRules();
 /// "upper" or "lower".
 [[nodiscard]] Rules ExtensionCaseRules(const CString& text);
 [[nodiscard]] Rules DropExtensionRules();

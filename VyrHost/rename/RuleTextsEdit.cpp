@@ -204,6 +204,8 @@ Rules ReplaceRules(const CString& find, const CString& replacement)
 Rules ExtensionRules(const CString& text)
 {
     RequireNameText(text, "--extension");
+    if (text == u"auto")
+        return ContentExtensionRules();
     const CString extension = text.Find(u".") == 0 ? text.Mid(1) : text;
     if (extension.IsEmpty())
         throw Text::UsageError("--extension: there is no extension; --drop-extension takes the old one away");

@@ -63,7 +63,7 @@ private:
 };
 
 /// Bytes in memory.
-class MemorySource final : public ByteSource
+class VYR_UTILS_API MemorySource final : public ByteSource
 {
 public:
     /// `bytes` must outlive this source.

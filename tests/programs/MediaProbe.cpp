@@ -1,4 +1,4 @@
-// Prints what the content of each file tells, a line each of name and value.
+// Prints what the content of each file tells, a line each of name and value: MediaProbe all|tags FILE...
 #include <VyrHost/media/ContentKind.h>
 #include <VyrHost/media/MediaValues.h>
 #include <VyrHostPlatform/FileHash.h>
@@ -40,9 +40,8 @@ void Print(std::string_view name, const std::optional<PictureDate>& date)
         std::printf("%s.ahead\t%d\n", std::string(name).c_str(), *date->minutesAhead);
 }
 
-void PrintAll(const CString& path)
+void PrintValues(const CString& path, const MediaQuestion& question)
 {
-    MediaQuestion question{true, true, true, true, true, true, ExifTagSet().set()};
     const MediaValues values = ReadMedia(path, question);
     Print("error", values.error);
     Print("width", values.width);
@@ -62,6 +61,10 @@ void PrintAll(const CString& path)
     Print("xmpCreated", values.xmpCreated);
     for (std::size_t tag = 0; tag < exifTagCount; ++tag)
         Print("Exif:" + VyrPlatform::Encoding::ToUtf8(ExifTagNames()[tag]), values.exif[tag]);
+}
+
+void PrintKindAndHash(const CString& path)
+{
     const FileKind kind = KindOf(path);
     Print("extension", kind.kind != nullptr ? kind.kind->extension : u"");
     Print("sha256", VyrPlatform::Encoding::FromUtf8(VyrHostPlatform::Sha256Of(path).digits));
@@ -71,8 +74,15 @@ void PrintAll(const CString& path)
 
 int main(int count, char** arguments)
 {
-    for (int argument = 1; argument < count; ++argument) {
+    const bool isAll = count > 1 && std::string_view(arguments[1]) == "all";
+    MediaQuestion question{.tags = true};
+    if (isAll)
+        question = {true, true, true, true, true, true, ExifTagSet().set()};
+    for (int argument = 2; argument < count; ++argument) {
         std::printf("file\t%s\n", arguments[argument]);
-        PrintAll(VyrPlatform::Encoding::FromNameBytes(arguments[argument]));
+        const CString path = VyrPlatform::Encoding::FromNameBytes(arguments[argument]);
+        PrintValues(path, question);
+        if (isAll)
+            PrintKindAndHash(path);
     }
 }

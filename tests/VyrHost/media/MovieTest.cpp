@@ -103,6 +103,13 @@ TEST(Movies, AHeicTellsTheSizeOfItsLargestPicture)
     EXPECT_EQ(values.height, 3024U);
 }
 
+TEST(Movies, AQuickTimeFilmTellsItsTitle)
+{
+    const Bytes text = Number(6, 2, Endian::Big) + Number(0, 2, Endian::Big) + "T\xC3\xAFtle";
+    const Bytes film = Box("ftyp", "qt  ") + Box("moov", MovieHeader({}) + Box("udta", Box("\xA9nam", text)));
+    EXPECT_EQ(ReadAll(film).title, CString(u"T\u00EFtle"));
+}
+
 TEST(Movies, MatroskaAndWebMTellTheSame)
 {
     for (const char* const type : {"matroska", "webm"}) {
