@@ -8,6 +8,7 @@
 #include <VyrHost/cli/ReportOptions.h>
 #include <VyrHost/cli/RuleOptions.h>
 #include <VyrHost/cli/SourceOptions.h>
+#include <VyrHost/cli/TokensTopic.h>
 #include <VyrHost/rename/RuleTexts.h>
 #include <VyrHost/rename/TemplateTokens.h>
 #include <VyrHost/text/Errors.h>
@@ -57,12 +58,12 @@ constexpr DependentOption dependent[] = {
 };
 
 /// docs/date-time-formats.md says the same; a test compares them.
-constexpr const char* dateLetters = "Letters of --date (text goes in apostrophes):\n"
+constexpr const char* dateLetters = "Letters of --date and of <Taken:FORMAT> (text goes in apostrophes):\n"
                                     "  yyyy yy        year              HH H  hour, 0 to 23\n"
                                     "  MMMM MMM MM M  month             hh h  hour, 1 to 12\n"
                                     "  dd d           day               mm m  minute\n"
                                     "  EEEE EEE       day of the week   ss s  second\n"
-                                    "                                   a     before or after noon\n\n";
+                                    "  SSS            milliseconds      a     before or after noon\n\n";
 
 /// The options that say what becomes of an entry whose new name is taken. Not to be moved once it has added them.
 class ConflictOptions
@@ -183,7 +184,7 @@ RenameCommand::RenameCommand(CLI::App& program)
             "--date-from that one of them has",
             orderGroup);
     m_command.footer(
-        HelpFooter("rename", std::string(dateLetters) +
+        HelpFooter("rename", std::string(dateLetters) + TokensTopic() +
                                  "Without --apply nothing is renamed. What --apply renamed, \"vyr undo\" undoes.\n\n"));
 }
 

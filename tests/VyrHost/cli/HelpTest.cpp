@@ -1,6 +1,8 @@
 // Tests of the program: its help and version, and that the examples in the help work.
 #include "VyrProgram.h"
 
+#include <VyrHost/rename/NameTokens.h>
+
 #include <gmock/gmock.h>
 #include <tests/support/FileState.h>
 #include <tests/support/PictureBuilder.h>
@@ -106,9 +108,16 @@ TEST_F(Help, ListsTheLettersOfDates)
     const std::string help = Run({u"rename", u"--help"}).output;
     const std::string letters = help.substr(help.find("Letters of --date"));
     // The table of docs/date-time-formats.md.
-    for (const char* const letter : {"yyyy", "yy", "MMMM", "MMM", "MM", "M", "dd", "d", "EEEE", "EEE", "HH", "H", "hh",
-                                     "h", "mm", "m", "ss", "s", "a"})
+    for (const char* const letter : {"yyyy", "SSS", "yy", "MMMM", "MMM", "MM", "M", "dd", "d", "EEEE",
+                                     "EEE",  "HH",  "H",  "hh",   "h",   "mm", "m", "ss", "s", "a"})
         EXPECT_THAT(letters, HasSubstr(std::string(" ") + letter + " ")) << letter;
+}
+
+TEST_F(Help, ListsTheTokensOfNames)
+{
+    const std::string help = Run({u"rename", u"--help"}).output;
+    for (const VyrHost::Rename::TokenHelp& token : VyrHost::Rename::TokenTable())
+        EXPECT_THAT(help, HasSubstr(std::string("\n  ") + token.form + " ")) << token.form;
 }
 
 TEST_F(Help, SaysThatNothingToUndoIsTheExitCodeFour)
