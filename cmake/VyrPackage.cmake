@@ -15,6 +15,13 @@ if(NOT WIN32)
   add_custom_command(OUTPUT "${manual}"
     COMMAND gzip -9nc "${PROJECT_SOURCE_DIR}/docs/vyr.1" > "${manual}" DEPENDS docs/vyr.1)
   add_custom_target(VyrManual ALL DEPENDS "${manual}")
+  install(FILES "${manual}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT vyr)
+  install(FILES docs/vyr.bash
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME vyr COMPONENT vyr)
+  install(FILES docs/vyr.fish DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d" COMPONENT vyr)
+  install(FILES docs/_vyr DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions" COMPONENT vyr)
+  # The name under which Debian looks for a package's terms.
+  install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/vyrlibrary" RENAME copyright COMPONENT vyr)
 endif()
 
 # vyr_install_program(COMPONENT [EXCLUDE_FROM_ALL]): the program and what it reads.

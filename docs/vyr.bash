@@ -21,9 +21,19 @@ _vyr()
         fi
     done
     local help value=
-    help=$("$1" $command --help 2>/dev/null)
+    # The help of "vyr rename" is short; all its options are in another one.
+    if [[ $command == rename ]]; then
+        help=$("$1" help rename 2>/dev/null)
+    else
+        help=$("$1" $command --help 2>/dev/null)
+    fi
     if [[ -z $command && $cur != -* ]]; then
         COMPREPLY=($(compgen -W "$(sed -n '/^Subcommands:/,$s/^  \([a-z][a-z]*\) .*/\1/p' <<<"$help")" -- "$cur"))
+        return
+    fi
+    if [[ $command == help ]]; then
+        COMPREPLY=($(compgen -W "$("$1" help | sed -n 's/^  vyr help \([a-z]*\) .*/\1/p'
+            "$1" --help | sed -n '/^Subcommands:/,$s/^  \([a-z][a-z]*\) .*/\1/p')" -- "$cur"))
         return
     fi
     # What stands behind an option in the help is its value: a choice such as a|b, or what it holds, in capitals.

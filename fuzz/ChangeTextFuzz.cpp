@@ -6,6 +6,7 @@
 #include <VyrHost/metadata/Dates.h>
 #include <VyrHost/metadata/Marks.h>
 #include <VyrHost/metadata/Times.h>
+#include <VyrHost/rename/EmptiedFolders.h>
 #include <VyrHost/text/Errors.h>
 
 #include <VyrPlatform/text/Encoding.h>
@@ -33,6 +34,7 @@ void CheckJournal(std::uint8_t choice, std::string_view bytes)
     static const VyrHost::Model::ChangeKinds kinds = [] {
         VyrHost::Model::ChangeKinds all = Kinds();
         all.merge(VyrHost::Documents::Kinds());
+        all.merge(VyrHost::Rename::Kinds());
         return all;
     }();
     const auto& [name, read] = *std::next(kinds.begin(), choice % static_cast<std::ptrdiff_t>(kinds.size()));

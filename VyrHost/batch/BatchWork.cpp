@@ -165,7 +165,8 @@ bool BatchWork::BeginRedo()
     return MayGoOn(error ? error : m_folder.Flush());
 }
 
-/// Changes are done to the files where they stand before the renames, and taken back there.
+/// Changes are done to the files where they stand before the renames, and taken back there, unless they follow the
+/// renames.
 void BatchWork::Run(Direction direction, const Report& report, const StopRequest& isStopAsked)
 {
     const auto isAsked = [&isStopAsked] {
@@ -173,18 +174,17 @@ void BatchWork::Run(Direction direction, const Report& report, const StopRequest
     };
     const Report counted = CountAnd(report);
     bool isWhole = true;
-    const auto runChanges = [&] {
+    const auto runChanges = [&](bool followRenames) {
         const auto reportChange = [&](std::size_t index, const Model::Outcome& result) {
             counted(m_journal.plan.entries.size() + index, result);
         };
         // Once the user has asked to stop, the question is not repeated.
-        isWhole &= m_changes.Run(direction, reportChange, [&] { return !isWhole || isAsked(); });
+        isWhole &= m_changes.Run(direction, followRenames, reportChange, [&] { return !isWhole || isAsked(); });
     };
-    if (direction == Direction::Forward)
-        runChanges();
+    const bool isBackward = direction == Direction::Backward;
+    runChanges(isBackward);
     isWhole &= m_executor.Run(direction, counted, [&] { return !isWhole || isAsked(); });
-    if (direction == Direction::Backward)
-        runChanges();
+    runChanges(!isBackward);
     m_summary.wasStopped = !isWhole;
     FlushReplaced();
     CheckListings(direction == Direction::Forward ? Location::After : Location::Before);

@@ -32,9 +32,10 @@ public:
     [[nodiscard]] bool IsAnyFound() const;
 
     /// Applies the changes, or takes them back in reverse order. What another program has changed since stays.
-    /// @param report called once for each change.
+    /// @param followRenames  which changes: those that follow the renames, or the others.
+    /// @param report called once for each of them.
     /// @return false when it was stopped before the end.
-    bool Run(Direction direction, const Report& report, const Executor::StopRequest& isStopAsked);
+    bool Run(Direction direction, bool followRenames, const Report& report, const Executor::StopRequest& isStopAsked);
     /// After Locate: what Run would report of a change.
     [[nodiscard]] Model::Outcome Foresee(std::size_t index, Direction direction) const;
 

@@ -64,12 +64,13 @@ bool ChangeWork::IsAnyFound() const
     return false;
 }
 
-bool ChangeWork::Run(Direction direction, const Report& report, const Executor::StopRequest& isStopAsked)
+bool ChangeWork::Run(Direction direction, bool followRenames, const Report& report,
+                     const Executor::StopRequest& isStopAsked)
 {
     bool isStopped = false;
     for (std::size_t count = 0; count < m_looks.size(); ++count) {
         const std::size_t index = direction == Direction::Forward ? count : m_looks.size() - 1 - count;
-        if (m_isKept[index])
+        if (m_isKept[index] || m_journal.changes[index].change->FollowsRenames() != followRenames)
             continue;
         isStopped = isStopped || isStopAsked();
         report(index, isStopped ? Outcome() : Perform(index, direction));

@@ -235,12 +235,14 @@ BatchSummary Batches::Apply(const std::function<NewBatch()>& make, const RenameR
     return summary;
 }
 
-BatchSummary Batches::Apply(Model::RenamePlan plan, const RenameReport& report, const StopRequest& isStopAsked)
+BatchSummary Batches::Apply(Model::RenamePlan plan, std::vector<PlannedChange> changes, const RenameReport& report,
+                            const StopRequest& isStopAsked)
 {
-    const std::size_t count = plan.entries.size();
-    const auto make = [this, &plan]() -> NewBatch {
+    const std::size_t count = plan.entries.size() + changes.size();
+    const auto make = [this, &plan, &changes]() -> NewBatch {
         std::vector<FileState> states = LookAtSources(plan, *m_files);
-        return {.command = u"rename", .plan = std::move(plan), .states = std::move(states), .changes = {}};
+        return {
+            .command = u"rename", .plan = std::move(plan), .states = std::move(states), .changes = std::move(changes)};
     };
     BatchSummary summary = Apply(make, report, isStopAsked);
     if (!summary.wasBegun)

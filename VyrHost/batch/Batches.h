@@ -222,8 +222,9 @@ public:
     ///     the summary's error says that nothing was begun; those count as not reached then.
     BatchSummary Apply(const std::function<NewBatch()>& make, const RenameReport& report,
                        const StopRequest& isStopAsked);
-    /// Does the renames of `plan`, which has one, likewise.
-    BatchSummary Apply(Model::RenamePlan plan, const RenameReport& report, const StopRequest& isStopAsked);
+    /// Does the renames of `plan`, which has one, and `changes`, likewise.
+    BatchSummary Apply(Model::RenamePlan plan, std::vector<PlannedChange> changes, const RenameReport& report,
+                       const StopRequest& isStopAsked);
 
     /// Tells of an entry, by its folder's path (a separator at its end), name and kind, why no batch may rename it:
     /// the journal needs it where it is. Gives an empty text for all others.

@@ -7,6 +7,7 @@
 #include <VyrHost/cli/SourceOptions.h>
 #include <VyrHost/documents/Properties.h>
 #include <VyrHost/metadata/Changes.h>
+#include <VyrHost/rename/EmptiedFolders.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/ui/ResultOutput.h>
 #include <VyrHostPlatform/Console.h>
@@ -72,6 +73,7 @@ Batch::Batches OpenBatches(const Batch::LockWait& wait)
     settings.wait = wait;
     settings.kinds = Metadata::Kinds();
     settings.kinds.merge(Documents::Kinds());
+    settings.kinds.merge(Rename::Kinds());
     return {Batch::SystemFiles(), std::move(settings)};
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <VyrHost/batch/Batches.h>
+#include <VyrHost/cli/HelpTopics.h>
 #include <VyrHost/collect/CollectEntries.h>
 #include <VyrHost/model/Result.h>
 #include <VyrHost/ui/Terminal.h>
@@ -61,7 +62,7 @@ public:
     };
 
     /// @param group  of the help; that of options without a group where it is null.
-    RunOptions(CLI::App& command, const Help& help, const char* group = "What is done and shown");
+    RunOptions(CLI::App& command, const Help& help, const char* group = OptionGroup::run);
     RunOptions(const RunOptions&) = delete;
     RunOptions& operator=(const RunOptions&) = delete;
 

@@ -15,7 +15,7 @@ std::vector<std::unique_ptr<Command>> AddCommands(CLI::App& program)
     std::vector<std::unique_ptr<Command>> commands;
     for (const auto add : {AddRenameCommand, AddListCommand, AddTimesCommand, AddAttributesCommand, AddUnblockCommand,
                            AddPropertiesCommand, AddCopyCommand, AddMoveCommand, AddUndoCommand, AddRecoverCommand,
-                           AddProgramsCommand, AddBrowsersCommand, AddUpdatesCommand})
+                           AddProgramsCommand, AddBrowsersCommand, AddRulesCommand, AddUpdatesCommand, AddHelpCommand})
         commands.push_back(add(program));
     return commands;
 }

@@ -58,5 +58,9 @@ protected:
 [[nodiscard]] std::unique_ptr<Command> AddBrowsersCommand(CLI::App& program);
 /// Tells whether a newer release is offered.
 [[nodiscard]] std::unique_ptr<Command> AddUpdatesCommand(CLI::App& program);
+/// Lists the rules that are kept, or shows one of them.
+[[nodiscard]] std::unique_ptr<Command> AddRulesCommand(CLI::App& program);
+/// Explains topics and lists the options of commands.
+[[nodiscard]] std::unique_ptr<Command> AddHelpCommand(CLI::App& program);
 
 } // namespace VyrHost::Cli

@@ -3,6 +3,7 @@
 
 #include <VyrHost/cli/Messages.h>
 
+#include <iterator>
 #include <sstream>
 #include <utility>
 
@@ -89,6 +90,8 @@ constexpr Example examples[] = {
     {"vyr recover", "do what is left of the batch that was cut off"},
     {"vyr recover --take-back", "restore what was before it"},
     {"vyr recover --abandon", "go on without a batch that can be neither finished nor undone"},
+    {"vyr rules", "the names of all, with what they do"},
+    {"vyr rules titles", "the rules that are kept under the name titles"},
     {"vyr programs", "of this machine, or of your Wine prefix"},
     {"vyr programs /mnt/windows --sort size --descending", "of a mounted Windows disk, the largest first"},
     {"vyr programs --wine prefix --columns name,version,key", "of a Wine prefix, with the keys of the registry"},
@@ -99,13 +102,20 @@ constexpr Example examples[] = {
 
 } // namespace
 
+std::string ExamplesOf(const std::string& command, std::size_t most)
+{
+    std::string text = "Examples:\n";
+    for (const Example& example : examples)
+        if (most > 0 && (std::string(example.call) + " ").find("vyr " + command + " ") != std::string::npos) {
+            text.append("  ").append(example.call).append("\n        ").append(example.meaning).append("\n");
+            --most;
+        }
+    return text;
+}
+
 std::string HelpFooter(const std::string& command, const std::string& text)
 {
-    std::string footer = text + "Examples:\n";
-    for (const Example& example : examples)
-        if ((std::string(example.call) + " ").find("vyr " + command + " ") != std::string::npos)
-            footer.append("  ").append(example.call).append("\n        ").append(example.meaning).append("\n");
-    return footer + "\n" + ExitCode::table;
+    return text + ExamplesOf(command, std::size(examples)) + "\n" + ExitCode::table;
 }
 
 } // namespace VyrHost::Cli

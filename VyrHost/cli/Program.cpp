@@ -4,6 +4,7 @@
 #include <VyrHost/cli/Arguments.h>
 #include <VyrHost/cli/Commands.h>
 #include <VyrHost/cli/Help.h>
+#include <VyrHost/cli/HelpTopics.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
@@ -77,7 +78,8 @@ int RunProgram(const std::vector<CString>& arguments)
     } catch (const CLI::CallForVersion&) {
         return WriteOut(VersionText() + "\n");
     } catch (const CLI::CallForHelp&) {
-        return WriteOut(WrapHelp(program.help()));
+        const std::string text = ShortHelp(CommandOf(program, arguments).get_name());
+        return WriteOut(text.empty() ? WrapHelp(program.help()) : text);
     } catch (const CLI::ParseError& error) {
         return RefuseCall(std::string(error.what()) + "\nvyr --help and vyr COMMAND --help say more.");
     } catch (const Text::UsageError& error) {

@@ -3,6 +3,8 @@
 
 #include <VyrHost/cli/Arguments.h>
 #include <VyrHost/cli/Help.h>
+#include <VyrHost/cli/HelpTopics.h>
+#include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/Options.h>
 #include <VyrHost/cli/RenameRun.h>
 #include <VyrHost/cli/ReportOptions.h>
@@ -31,7 +33,6 @@ int ReadNumber(const std::optional<std::string>& text, int usual, const char* op
     return text ? Rename::ParseNumber(FromParser(*text), std::numeric_limits<int>::min(), option) : usual;
 }
 
-constexpr const char* orderGroup = "Order and numbers";
 constexpr const char* namesItself = "--pairs names the entries itself";
 constexpr const char* givesNames = "--pairs gives each new name itself";
 
@@ -49,6 +50,8 @@ constexpr ExclusivePair exclusive[] = {
     {"--pairs", "--edit", givesNames},
     {"--pairs", "--together", givesNames},
     {"--pairs", "--number-per-folder", givesNames},
+    {"--pairs", "--into", givesNames},
+    {"--pairs", "--max-depth", namesItself},
     {"--pairs", "--sort", "the order of the pairs counts"},
     {"--pairs", "--descending", "the order of the pairs counts"},
 };
@@ -56,14 +59,6 @@ constexpr ExclusivePair exclusive[] = {
 constexpr DependentOption dependent[] = {
     {"--number-per-folder", "--number"},
 };
-
-/// docs/date-time-formats.md says the same; a test compares them.
-constexpr const char* dateLetters = "Letters of --date and of <Taken:FORMAT> (text goes in apostrophes):\n"
-                                    "  yyyy yy        year              HH H  hour, 0 to 23\n"
-                                    "  MMMM MMM MM M  month             hh h  hour, 1 to 12\n"
-                                    "  dd d           day               mm m  minute\n"
-                                    "  EEEE EEE       day of the week   ss s  second\n"
-                                    "  SSS            milliseconds      a     before or after noon\n\n";
 
 /// The options that say what becomes of an entry whose new name is taken. Not to be moved once it has added them.
 class ConflictOptions
@@ -108,6 +103,8 @@ private:
     ReportOptions m_page;
     std::optional<std::string> m_pairs;
     bool m_countsPerFolder = false;
+    std::optional<std::string> m_into;
+    bool m_removesEmpty = false;
     bool m_together = false;
     bool m_edit = false;
 };
@@ -116,7 +113,7 @@ private:
 
 ConflictOptions::ConflictOptions(CLI::App& command)
 {
-    constexpr const char* group = "When a name is taken";
+    constexpr const char* group = OptionGroup::conflicts;
     AddText(command, "--on-conflict", m_onConflict, "number|skip|fail",
             "Number the name where the rules allow that (the default), skip the entry, or rename nothing at all",
             group);
@@ -167,25 +164,30 @@ void ConflictOptions::ReadNumbering(Rename::ConflictSettings& settings) const
 
 RenameCommand::RenameCommand(CLI::App& program)
     : Command(*program.add_subcommand("rename", "Rename files and folders by rules; shows the result first")),
-      m_rules(m_command), m_sources(m_command, "rename"), m_order(m_command, orderGroup), m_conflicts(m_command),
-      m_run(m_command, {"Rename; without it the result is only shown",
-                        "Write one JSON object for each entry: from, to, status, reason",
-                        "Show only what does not get its new name"}),
+      m_rules(m_command), m_sources(m_command, "rename"), m_order(m_command, OptionGroup::order),
+      m_conflicts(m_command), m_run(m_command, {"Rename; without it the result is only shown",
+                                                "Write one JSON object for each entry: from, to, status, reason",
+                                                "Show only what does not get its new name"}),
       m_page(m_command, RowsAbout::Files)
 {
-    constexpr const char* sourceGroup = "What to rename";
+    constexpr const char* sourceGroup = OptionGroup::sources;
     AddText(m_command, "--pairs", m_pairs, "FILE",
             "Read pairs of old and new names, separated by a comma, a semicolon or a tab; - is the standard input",
             sourceGroup);
     AddFlag(m_command, "--edit", m_edit, "Look through the new names in your editor ($VISUAL, $EDITOR)", sourceGroup);
-    AddFlag(m_command, "--number-per-folder", m_countsPerFolder, "Start the numbers anew in each folder", orderGroup);
+    AddText(m_command, "--into", m_into, "FOLDER",
+            "Move the entries into FOLDER, which is made where it is missing, under their new names",
+            OptionGroup::where);
+    AddFlag(m_command, "--remove-empty", m_removesEmpty, "Remove the folders that this empties", OptionGroup::where);
+    AddFlag(m_command, "--number-per-folder", m_countsPerFolder, "Start the numbers anew in each folder",
+            OptionGroup::order);
     AddFlag(m_command, "--together", m_together,
             "Give files that differ in their extensions alone (raw, JPEG, sidecar) one new name, by the first date of "
             "--date-from that one of them has",
-            orderGroup);
-    m_command.footer(
-        HelpFooter("rename", std::string(dateLetters) + TokensTopic() +
-                                 "Without --apply nothing is renamed. What --apply renamed, \"vyr undo\" undoes.\n\n"));
+            OptionGroup::order);
+    m_command.footer(HelpFooter("rename",
+                                "Without --apply nothing is renamed. What --apply renamed, \"vyr undo\" undoes. "
+                                "\"vyr help\" lists topics that say more.\n\n"));
 }
 
 RenameRequest RenameCommand::Read() const
@@ -195,7 +197,7 @@ RenameRequest RenameCommand::Read() const
     m_page.Check();
     request.page = m_page.IsAskedFor() ? &m_page : nullptr;
     CheckOptionPairs(m_command, exclusive, dependent);
-    if (!m_pairs && !m_sources.NamesAny())
+    if (!m_pairs && !m_sources.NamesAny() && !m_rules.Keeps())
         throw Text::UsageError("nothing to rename is named");
     request.sources = m_sources.Read();
     if (m_pairs)
@@ -203,6 +205,9 @@ RenameRequest RenameCommand::Read() const
     request.order = m_order.Read();
     request.counting = m_countsPerFolder ? Rename::Counting::EachFolder : Rename::Counting::WholeList;
     request.together = m_together;
+    if (m_into)
+        request.into = FromParser(*m_into);
+    request.removesEmpty = m_removesEmpty;
     request.conflicts = m_conflicts.Read();
     request.edit = m_edit;
     request.rules = m_rules.Make();
@@ -214,10 +219,15 @@ int RenameCommand::Run() const
     const RenameRequest request = Read();
     if (request.pairs && !request.rules.empty())
         throw Text::UsageError("--pairs gives each new name itself; rules do not go with it");
-    if (!request.pairs && !request.edit && request.rules.empty())
+    if (request.into && request.into->IsEmpty())
+        throw Text::UsageError("--into: the name of the folder is empty");
+    if (!request.pairs && !request.edit && !request.into && request.rules.empty())
         throw Text::UsageError("no rule is given, such as --number or --date");
-    const bool mayNumber = std::any_of(request.rules.begin(), request.rules.end(),
-                                       [](const std::unique_ptr<Rename::Rule>& rule) { return rule->MayNumber(); });
+    if (!request.pairs && !m_sources.NamesAny())
+        return ExitCode::success;
+    const bool mayNumber =
+        request.into || std::any_of(request.rules.begin(), request.rules.end(),
+                                    [](const std::unique_ptr<Rename::Rule>& rule) { return rule->MayNumber(); });
     if (m_conflicts.AskForNumbering() && !mayNumber)
         throw Text::UsageError(
             "--conflict-pattern, -digits, -position, -start and -step say how names are numbered, which is "

@@ -4,6 +4,7 @@
 #include <VyrHost/cli/BatchRun.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/SourceOptions.h>
+#include <VyrHost/rename/EmptiedFolders.h>
 #include <VyrHost/rename/NameLists.h>
 #include <VyrHost/rename/NameSources.h>
 #include <VyrHost/reports/ResultTable.h>
@@ -16,6 +17,7 @@
 #include <VyrHostPlatform/Editor.h>
 #include <VyrHostPlatform/Interrupt.h>
 #include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/files/FullPath.h>
 #include <VyrPlatform/text/CString.h>
 
 #include <algorithm>
@@ -83,11 +85,24 @@ struct RenameTask
     std::unique_ptr<Rename::NameSource> names;
 };
 
+/// `folder` with a separator at its end.
+CString AsFolder(const CString& folder)
+{
+    return VyrPlatform::FileSystem::JoinPath(folder, u"");
+}
+
+std::optional<Rename::RuleNames::Destination> DestinationOf(const RenameRequest& request)
+{
+    if (!request.into)
+        return {};
+    return Rename::RuleNames::Destination{AsFolder(VyrPlatform::GetFullPath(*request.into)), AsFolder(*request.into)};
+}
+
 RenameTask MakeTask(const RenameRequest& request)
 {
     if (!request.pairs)
         return {TakeEntries(request.sources, request.order),
-                std::make_unique<Rename::RuleNames>(request.rules, request.counting)};
+                std::make_unique<Rename::RuleNames>(request.rules, request.counting, DestinationOf(request))};
     std::unordered_map<std::uint32_t, CString> names;
     Collect::SourceSettings sources;
     sources.areNames = true;
@@ -134,6 +149,49 @@ Rename::Preview DecideEdited(Model::EntryList& list, const Rename::Preview& prev
     return Decide(list, Rename::Groups::OfOne(list), edited, request);
 }
 
+/// The folders that are removed because the batch empties them.
+class Removals
+{
+public:
+    Removals(const Model::RenamePlan& plan, const Model::FolderSet& folders, bool areWanted)
+    {
+        if (!areWanted)
+            return;
+        for (Rename::EmptiedFolder& emptied : Rename::FindEmptied(plan, folders)) {
+            m_changes.push_back({emptied.place, std::move(emptied.removal)});
+            m_paths.push_back(
+                VyrPlatform::FileSystem::JoinPath(Model::PathBefore(plan, emptied.place.folder), emptied.place.name));
+        }
+    }
+
+    [[nodiscard]] std::size_t Count() const { return m_paths.size(); }
+    [[nodiscard]] const std::vector<Batch::PlannedChange>& Changes() const { return m_changes; }
+
+    /// Complains of one that stays.
+    void Note(std::size_t removal, const Model::Outcome& outcome) const
+    {
+        if (outcome.status == Model::Status::Failed || outcome.status == Model::Status::Refused)
+            Complain("the folder '" + Text::SafeText(m_paths[removal]) + "' stays: " + Text::SafeText(outcome.reason));
+    }
+
+    /// A line; empty where there is none to remove.
+    [[nodiscard]] std::string Notice(bool isPreview) const
+    {
+        if (m_paths.empty())
+            return {};
+        const bool isOne = m_paths.size() == 1;
+        return std::to_string(m_paths.size()) + (isOne ? " folder that becomes" : " folders that become") + " empty " +
+               (isPreview ? "will be"
+                : isOne   ? "is"
+                          : "are") +
+               " removed.\n";
+    }
+
+private:
+    std::vector<Batch::PlannedChange> m_changes;
+    std::vector<CString> m_paths;
+};
+
 } // namespace
 
 int RunRename(const RenameRequest& request)
@@ -150,14 +208,21 @@ int RunRename(const RenameRequest& request)
     if (isStopped)
         Complain("a name is taken, and --on-conflict=fail was asked for: nothing is renamed");
     Rename::RenameResults results(list, std::move(preview.decisions), std::move(preview.causes));
-    const auto apply = [&preview](Batch::Batches& batches, const Batch::RenameReport& report) {
-        return batches.Apply(std::move(preview.plan), report, VyrHostPlatform::Interrupt::WasAsked);
+    Removals removals(preview.plan, list.folders, request.removesEmpty);
+    const auto apply = [&](Batch::Batches& batches, const Batch::RenameReport& report) {
+        return batches.Apply(std::move(preview.plan), removals.Changes(), report, VyrHostPlatform::Interrupt::WasAsked);
     };
     const auto note = [&](Model::PlanIndex change, const Model::Outcome& outcome) {
-        results.Set(preview.entries[change], outcome);
+        if (change < preview.entries.size())
+            results.Set(preview.entries[change], outcome);
+        else
+            removals.Note(change - preview.entries.size(), outcome);
     };
-    const int code = ApplyAndReport({"renaming", "renamed", preview.entries.size(), isStopped, apply, note}, results,
-                                    request.style, task.collected);
+    ReportStyle style = request.style;
+    style.remark = removals.Notice(style.isPreview);
+    const int code =
+        ApplyAndReport({"renaming", "renamed", preview.entries.size() + removals.Count(), isStopped, apply, note},
+                       results, style, task.collected);
     if (!request.page || code == ExitCode::blocked)
         return code;
     return request.page->Write(Reports::TableOfResults(results, request.style.isPreview),

@@ -23,6 +23,10 @@ struct RenameRequest
     Collect::SortSettings order;
     Rename::Counting counting = Rename::Counting::WholeList;
     bool together = false;
+    /// The folder that all entries move into, as the user named it.
+    std::optional<CString> into;
+    /// The folders that the batch empties are removed.
+    bool removesEmpty = false;
     /// With OnConflict::Refuse any name that is taken stops the whole.
     Rename::ConflictSettings conflicts;
     /// The user looks through the new names in an editor.

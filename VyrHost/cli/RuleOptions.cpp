@@ -2,12 +2,14 @@
 #include <VyrHost/cli/RuleOptions.h>
 
 #include <VyrHost/cli/Arguments.h>
+#include <VyrHost/cli/HelpTopics.h>
+#include <VyrHost/cli/KeptRules.h>
 #include <VyrHost/cli/Options.h>
-#include <VyrHost/metadata/Shift.h>
-#include <VyrHost/rename/CsvData.h>
+#include <VyrHost/rename/OptionLines.h>
 #include <VyrHost/rename/RuleTexts.h>
 #include <VyrHost/text/Errors.h>
-#include <VyrHost/text/Input.h>
+#include <VyrHost/text/SafeText.h>
+#include <VyrPlatform/text/Encoding.h>
 
 #include <CLI/CLI.hpp>
 
@@ -15,8 +17,11 @@
 #include <iterator>
 #include <limits>
 #include <map>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace VyrHost::Cli {
 
@@ -232,54 +237,104 @@ bool BelongsTo(const SettingOption& setting, const RuleOption& rule)
 }
 
 template <class Options>
-auto* FindByName(const Options& options, const CLI::Option& option)
+auto* FindByName(const Options& options, std::string_view name)
 {
-    const auto found = std::find_if(std::begin(options), std::end(options),
-                                    [&option](const auto& known) { return option.check_name(known.name); });
+    const auto found =
+        std::find_if(std::begin(options), std::end(options), [name](const auto& known) { return known.name == name; });
     return found == std::end(options) ? nullptr : &*found;
 }
 
-/// Walks the options in the order given; each with the values of that one time.
+constexpr std::string_view keptRules = "--rules";
+
+/// How many values the option `name` has; nothing for one that is neither a rule nor a setting.
+std::optional<std::size_t> CountValues(std::string_view name)
+{
+    if (const RuleOption* const rule = FindByName(ruleOptions, name))
+        return static_cast<std::size_t>(rule->count);
+    if (const SettingOption* const setting = FindByName(settingOptions, name))
+        return *setting->value ? 1 : 0;
+    return {};
+}
+
+/// An option with its values.
+struct OptionWords
+{
+    std::string name;
+    std::vector<CString> values;
+};
+
+/// The rules, settings and names of kept rules in the order given.
+std::vector<OptionWords> TakeGiven(const CLI::App& command)
+{
+    std::vector<OptionWords> given;
+    std::map<const CLI::Option*, std::size_t> takenOf;
+    const std::vector<CLI::Option*>& order = command.parse_order();
+    for (std::size_t index = 0; index < order.size();) {
+        const CLI::Option& option = *order[index];
+        const std::string name = option.get_name();
+        const std::optional<std::size_t> count = name == keptRules ? 1 : CountValues(name);
+        // The parser notes an option once for each of its values.
+        const std::size_t noted = std::max<std::size_t>(count.value_or(1), 1);
+        index += noted;
+        if (!count)
+            continue;
+        std::size_t& taken = takenOf[&option];
+        OptionWords words{name, {}};
+        for (std::size_t value = 0; value < *count; ++value)
+            words.values.push_back(FromParser(option.results().at(taken + value)));
+        taken += noted;
+        given.push_back(std::move(words));
+    }
+    return given;
+}
+
+/// The options of a text of kept rules.
+/// @throws UsageError for a line that is no rule and no setting.
+std::vector<OptionWords> ReadKept(std::string_view text)
+{
+    std::vector<OptionWords> given;
+    for (const Rename::OptionLine& line : Rename::ReadOptionLines(text)) {
+        const std::string name = VyrPlatform::Encoding::ToNameBytes(line.words.front());
+        const std::optional<std::size_t> count = CountValues(name);
+        if (!count) {
+            std::vector<std::string> known;
+            for (const RuleOption& rule : ruleOptions)
+                known.emplace_back(rule.name);
+            for (const SettingOption& setting : settingOptions)
+                known.emplace_back(setting.name);
+            Rename::RefuseLine(line.number, "'" + Text::SafeText(line.words.front()) +
+                                                "' is no rule and no setting of one" +
+                                                HintAt(NearestWord(name, known)));
+        }
+        if (line.words.size() != *count + 1)
+            Rename::RefuseLine(line.number, name + " takes " + std::to_string(*count) +
+                                                (*count == 1 ? " value" : " values") + ", not " +
+                                                std::to_string(line.words.size() - 1));
+        given.push_back({name, {line.words.begin() + 1, line.words.end()}});
+    }
+    return given;
+}
+
+/// Joins settings to their rules.
 class Collector
 {
 public:
-    explicit Collector(const CLI::App& command) : m_command(command) {}
-
-    std::vector<Given> Run()
+    void Add(const OptionWords& words)
     {
-        const std::vector<CLI::Option*>& order = m_command.parse_order();
-        for (std::size_t index = 0; index < order.size();) {
-            const CLI::Option& option = *order[index];
-            // The parser notes an option once for each of its values.
-            std::size_t noted = 1;
-            if (const RuleOption* const rule = FindByName(ruleOptions, option)) {
-                noted = static_cast<std::size_t>(std::max(rule->count, 1));
-                AddRule(*rule, TakeValues(option, noted));
-            } else if (const SettingOption* const setting = FindByName(settingOptions, option)) {
-                AddSetting(*setting, TakeValues(option, 1).front());
-            }
-            index += noted;
-        }
+        if (const RuleOption* const rule = FindByName(ruleOptions, words.name))
+            m_given.push_back({.option = rule, .values = words.values});
+        else if (const SettingOption* const setting = FindByName(settingOptions, words.name))
+            AddSetting(*setting, words.values.empty() ? CString() : words.values.front());
+    }
+
+    std::vector<Given> Finish()
+    {
         for (const auto& [setting, value] : m_early)
             Set(*setting, value, First(*setting));
         return std::move(m_given);
     }
 
 private:
-    std::vector<CString> TakeValues(const CLI::Option& option, std::size_t count)
-    {
-        std::size_t& taken = m_taken[&option];
-        std::vector<CString> values;
-        for (std::size_t end = taken + count; taken < end; ++taken)
-            values.push_back(FromParser(option.results().at(taken)));
-        return values;
-    }
-
-    void AddRule(const RuleOption& rule, std::vector<CString> values)
-    {
-        m_given.push_back({.option = &rule, .values = std::move(values)});
-    }
-
     void AddSetting(const SettingOption& setting, const CString& value)
     {
         const auto rule = std::find_if(m_given.rbegin(), m_given.rend(),
@@ -305,12 +360,53 @@ private:
             throw Text::UsageError(std::string(setting.name) + " is given twice for one " + setting.rule);
     }
 
-    const CLI::App& m_command;
-    std::map<const CLI::Option*, std::size_t> m_taken;
     std::vector<Given> m_given;
     /// Settings that stand before every rule of their kind.
     std::vector<std::pair<const SettingOption*, CString>> m_early;
 };
+
+Rename::Rules MakeRules(const std::vector<OptionWords>& options)
+{
+    Collector collector;
+    for (const OptionWords& words : options)
+        collector.Add(words);
+    Rename::Rules all;
+    for (const Given& given : collector.Finish()) {
+        Rename::Rules made = given.option->make(given);
+        std::move(made.begin(), made.end(), std::back_inserter(all));
+    }
+    return all;
+}
+
+/// The options of the kept rules `name`.
+/// @throws UsageError, with the name in front, where they make no sense.
+std::vector<OptionWords> LoadKept(const CString& name)
+{
+    const std::string text = LoadRules(name);
+    try {
+        std::vector<OptionWords> given = ReadKept(text);
+        // Settings must find their rules within the text.
+        (void)MakeRules(given);
+        return given;
+    } catch (const Text::UsageError& error) {
+        throw Text::UsageError("the rules '" + Text::SafeText(name) + "': " + error.what());
+    }
+}
+
+/// `given` with the kept rules in place of their names.
+std::vector<OptionWords> WithKept(std::vector<OptionWords> given)
+{
+    std::vector<OptionWords> all;
+    for (OptionWords& words : given) {
+        if (words.name != keptRules) {
+            all.push_back(std::move(words));
+            continue;
+        }
+        std::vector<OptionWords> kept = LoadKept(words.values.front());
+        std::move(kept.begin(), kept.end(), std::back_inserter(all));
+    }
+    return all;
+}
 
 void Declare(CLI::App& command, const char* name, const char* values, int count, const std::string& help,
              const char* group)
@@ -325,27 +421,39 @@ void Declare(CLI::App& command, const char* name, const char* values, int count,
 
 RuleOptions::RuleOptions(CLI::App& command) : m_command(command)
 {
-    constexpr const char* group = "Rules, applied in the order given";
+    constexpr const char* group = OptionGroup::rules;
     for (const RuleOption& option : ruleOptions)
         Declare(command, option.name, option.values, option.count, option.help, group);
-    constexpr const char* settingsGroup = "Settings of the rule before them";
+    constexpr const char* settingsGroup = OptionGroup::settings;
     for (const SettingOption& setting : settingOptions)
         Declare(command, setting.name, setting.value, *setting.value ? 1 : 0, setting.help, settingsGroup);
+    AddTexts(command, std::string(keptRules).c_str(), "NAME|FILE",
+             "Apply kept rules here: those of a name, or of a file (.rules)", group);
+    AddText(command, "--save-rules", m_saveAs, "NAME|FILE", "Keep the rules of this call; \"vyr rules\" lists them",
+            group);
 }
 
 Rename::Rules RuleOptions::Make() const
 {
-    Rename::Rules all;
-    std::optional<Rename::PatternShape> lastPattern;
-    for (Given& given : Collector(m_command).Run()) {
-        given.lastPattern = lastPattern;
-        Rename::Rules made = given.option->make(given);
-        for (const auto& rule : made)
-            if (auto pattern = rule->Pattern())
-                lastPattern = std::move(pattern);
-        std::move(made.begin(), made.end(), std::back_inserter(all));
+    const std::vector<OptionWords> given = WithKept(TakeGiven(m_command));
+    Rename::Rules rules = MakeRules(given);
+    if (!m_saveAs)
+        return rules;
+    if (rules.empty())
+        throw Text::UsageError("--save-rules: there is no rule to keep");
+    std::string text;
+    for (const OptionWords& words : given) {
+        std::vector<CString> line = {VyrPlatform::Encoding::FromUtf8(words.name)};
+        line.insert(line.end(), words.values.begin(), words.values.end());
+        text += Rename::WriteOptionLine(line);
     }
-    return all;
+    SaveRules(FromParser(*m_saveAs), text);
+    return rules;
+}
+
+Rename::Rules MakeKeptRules(std::string_view text)
+{
+    return MakeRules(ReadKept(text));
 }
 
 } // namespace VyrHost::Cli

@@ -4,25 +4,40 @@
 
 #include <VyrHost/rename/Rule.h>
 
+#include <optional>
+#include <string>
+#include <string_view>
+
 namespace CLI {
 class App;
 }
 
 namespace VyrHost::Cli {
 
-/// Adds an option for each rule, and for their settings, to a command and makes rules of what was given.
+/// Adds an option for each rule, and for their settings, to a command and makes rules of what was given. Not to be
+/// moved once it has added them.
 class RuleOptions
 {
 public:
     explicit RuleOptions(CLI::App& command);
+    RuleOptions(const RuleOptions&) = delete;
+    RuleOptions& operator=(const RuleOptions&) = delete;
 
     /// The rules in the order in which they were given. A setting belongs to the rule of its kind before it; one that
     /// stands before all of them belongs to the first.
-    /// @throws UsageError for a text that makes no sense, and a setting without its rule.
+    /// Kept rules stand where they are named. Keeps the rules where that was asked for.
+    /// @throws UsageError for a text that makes no sense, a setting without its rule, and rules that cannot be kept.
     [[nodiscard]] Rename::Rules Make() const;
+    /// Whether the rules are to be kept.
+    [[nodiscard]] bool Keeps() const { return m_saveAs.has_value(); }
 
 private:
     CLI::App& m_command;
+    std::optional<std::string> m_saveAs;
 };
+
+/// The rules of a text of kept rules (rename/OptionLines.h).
+/// @throws UsageError for one that makes no sense, with the number of the line where that is known.
+[[nodiscard]] Rename::Rules MakeKeptRules(std::string_view text);
 
 } // namespace VyrHost::Cli

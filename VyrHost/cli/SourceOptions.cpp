@@ -2,9 +2,11 @@
 #include <VyrHost/cli/SourceOptions.h>
 
 #include <VyrHost/cli/Arguments.h>
+#include <VyrHost/cli/HelpTopics.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/cli/Options.h>
 #include <VyrHost/collect/Choice.h>
+#include <VyrHost/rename/RuleTexts.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
 
@@ -18,7 +20,7 @@ namespace VyrHost::Cli {
 
 namespace {
 
-constexpr const char* choiceGroup = "Which of them";
+constexpr const char* choiceGroup = OptionGroup::choice;
 constexpr const char* oneDate = "one date in a call";
 
 constexpr ExclusivePair exclusiveDates[] = {
@@ -111,6 +113,8 @@ SourceOptions::SourceOptions(CLI::App& command, const std::string& verb) : m_com
     AddFlag(command, "-r,--recursive", m_recursive, "Take what is below a folder instead of the folder itself",
             group.c_str());
     AddText(command, "--only", m_pick, "files|folders|all", "With --recursive: what is taken (files)", group.c_str());
+    AddText(command, "--max-depth", m_maxDepth, "N",
+            "With --recursive: go N folders deep; 1 takes what is in a folder itself", group.c_str());
     AddFlag(command, "--hidden", m_hidden, "With --recursive and wildcards: names that begin with a dot, too",
             group.c_str());
     AddFlag(command, "--stdin", m_lines, "Read names from the standard input, one a line", group.c_str());
@@ -126,7 +130,7 @@ bool SourceOptions::NamesAny() const
 Collect::SourceSettings SourceOptions::Read() const
 {
     constexpr ExclusivePair exclusive[] = {{"--stdin", "--stdin0"}};
-    constexpr DependentOption dependent[] = {{"--only", "--recursive"}};
+    constexpr DependentOption dependent[] = {{"--only", "--recursive"}, {"--max-depth", "--recursive"}};
     CheckOptionPairs(m_command, exclusive, dependent);
     Collect::SourceSettings settings;
     for (const std::string& path : m_paths)
@@ -137,6 +141,8 @@ Collect::SourceSettings SourceOptions::Read() const
     settings.pick = ReadWord<Collect::Pick>(
         m_pick, "--only",
         {{"files", Collect::Pick::Files}, {"folders", Collect::Pick::Folders}, {"all", Collect::Pick::All}});
+    if (m_maxDepth)
+        settings.maxDepth = Rename::ParseNumber(FromParser(*m_maxDepth), 1, "--max-depth");
     settings.hidden = m_hidden;
     settings.choice = m_choice.Read();
     if (m_lines || m_terminated)

@@ -55,6 +55,7 @@ private:
     ChoiceOptions m_choice;
     std::vector<std::string> m_paths;
     std::optional<std::string> m_pick;
+    std::optional<std::string> m_maxDepth;
     bool m_recursive = false;
     bool m_hidden = false;
     bool m_lines = false;

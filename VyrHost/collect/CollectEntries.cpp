@@ -129,7 +129,7 @@ private:
                 return;
             const CString full = WithSeparator(VyrPlatform::GetFullPath(path));
             NoteSourceFolder(full, path);
-            Walk(full, Shown(path));
+            Walk(full, Shown(path), 1);
             return;
         }
         const CutPath cut = Cut(path);
@@ -194,7 +194,7 @@ private:
         if (isFolder)
             NoteSourceFolder(path, shown);
         if (isFolder && m_settings.recursive)
-            Walk(path, WithSeparator(shown));
+            Walk(path, WithSeparator(shown), 1);
         else if (!m_settings.recursive || IsPicked(record))
             AddListed(folder, record);
     }
@@ -244,7 +244,8 @@ private:
         List().entries.push_back({record.name, folder, record.kind});
     }
 
-    void Walk(const CString& path, const CString& shown)
+    /// @param depth  of what is in the folder; 1 in one that was named.
+    void Walk(const CString& path, const CString& shown, int depth)
     {
         const std::uint32_t number = List().folders.Open(path, shown);
         Model::Folder& folder = List().folders[number];
@@ -254,17 +255,18 @@ private:
             return;
         }
         MakeRoom(folder.names.Records().size());
+        const bool entersFolders = !m_settings.maxDepth || depth < *m_settings.maxDepth;
         std::vector<std::u16string_view> below;
         for (Model::NameRecord& record : folder.names.Records()) {
             if (!IsShown(record))
                 continue;
             if (IsPicked(record))
                 AddListed(number, record);
-            if (record.kind == Kind::Folder && !record.isLink && MayEnter(record.name))
+            if (entersFolders && record.kind == Kind::Folder && !record.isLink && MayEnter(record.name))
                 below.push_back(record.name);
         }
         for (const std::u16string_view name : below)
-            Walk(WithSeparator(CString::Join({path, name})), WithSeparator(CString::Join({shown, name})));
+            Walk(WithSeparator(CString::Join({path, name})), WithSeparator(CString::Join({shown, name})), depth + 1);
     }
 
     void MakeRoom(std::size_t count)

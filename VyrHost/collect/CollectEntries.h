@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace VyrHost::Collect {
@@ -39,6 +40,8 @@ struct SourceSettings
     Pick pick = Pick::Files;
     /// The paths have no wildcards: all characters are literal.
     bool areNames = false;
+    /// How deep recursion goes: 1 takes what is in a named folder itself. Any depth when not given.
+    std::optional<int> maxDepth;
     /// Recursion also takes and enters entries that begin with a dot.
     bool hidden = false;
     /// Also applies to named entries, but not to a path that does not exist.

@@ -56,6 +56,10 @@ public:
     [[nodiscard]] virtual CString ShownBefore() const = 0;
     [[nodiscard]] virtual CString ShownAfter() const = 0;
 
+    /// Whether it is done to the file after the renames of its batch, where the file stands then, and taken back before
+    /// they are undone; otherwise the other way round.
+    [[nodiscard]] virtual bool FollowsRenames() const { return false; }
+
     /// Where the work on the file was cut off: restores what it had been changed in for the time of the work alone,
     /// such as its protection against writing. Called before Look.
     virtual void Mend(const CString& /*path*/) const {}

@@ -60,6 +60,12 @@ std::uint32_t FolderSet::Open(const CString& path, const CString& shown)
     return number;
 }
 
+std::optional<std::uint32_t> FolderSet::FindOpened(const CString& path) const
+{
+    const auto known = m_byPath.find(path);
+    return known != m_byPath.end() && m_folders[known->second].wasOpened ? std::optional(known->second) : std::nullopt;
+}
+
 /// The number of the folder at `path`; those of the folders that it stands in are lower.
 std::uint32_t FolderSet::NumberOf(const CString& path)
 {

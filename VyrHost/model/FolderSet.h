@@ -68,6 +68,9 @@ public:
     /// that it stands in get numbers, too.
     std::uint32_t Open(const CString& path, const CString& shown);
 
+    /// The number of the folder `path`, where it was opened under that path; nothing otherwise.
+    [[nodiscard]] std::optional<std::uint32_t> FindOpened(const CString& path) const;
+
     [[nodiscard]] Folder& operator[](std::uint32_t folder) { return m_folders[folder]; }
     [[nodiscard]] const Folder& operator[](std::uint32_t folder) const { return m_folders[folder]; }
     [[nodiscard]] std::uint32_t Count() const { return static_cast<std::uint32_t>(m_folders.size()); }

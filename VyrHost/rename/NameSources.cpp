@@ -15,7 +15,8 @@ using VyrPlatform::FileSystem::Kind;
 
 bool RuleNames::MayNumber() const
 {
-    return std::any_of(m_rules.begin(), m_rules.end(), [](const auto& rule) { return rule->MayNumber(); });
+    // Entries of several folders come together in one.
+    return m_into || std::any_of(m_rules.begin(), m_rules.end(), [](const auto& rule) { return rule->MayNumber(); });
 }
 
 void RuleNames::Name(const Model::EntryList& list, const Groups& groups, std::span<const std::uint32_t> members,
@@ -105,7 +106,7 @@ int RuleNames::TakeIndex(std::uint32_t folder)
 /// @param dated  whose dates and picture data count.
 Reason RuleNames::Run(const Model::EntryList& list, const Model::Entry& entry, int index, const Model::Entry& dated)
 {
-    m_subject.folder = list.folders[entry.folder].path;
+    m_subject.folder = m_into ? m_into->path : list.folders[entry.folder].path;
     m_subject.path = list.PathOf(entry);
     Model::SplitName split = Model::Split(m_subject.path, entry);
     m_subject.name.Swap(split.name);
@@ -136,9 +137,9 @@ WantedName RuleNames::Wanted(const Model::EntryList& list, const Model::Entry& e
     }
     const Model::Folder& now = list.folders[entry.folder];
     wanted.folder = m_subject.folder;
-    wanted.shownFolder = now.shown;
-    if (wanted.folder != now.path)
-        wanted.shownFolder = now.shown + m_subject.folder.Mid(now.path.GetLength());
+    const CString& base = m_into ? m_into->path : now.path;
+    const CString& shownBase = m_into ? m_into->shown : now.shown;
+    wanted.shownFolder = shownBase + m_subject.folder.Mid(base.GetLength());
     wanted.name = m_subject.name + m_subject.extension;
     wanted.datesTaken = m_subject.datesTaken;
     return wanted;

@@ -10,8 +10,10 @@
 #include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace VyrHost::Rename {
@@ -60,7 +62,17 @@ enum class Counting : std::uint8_t
 class RuleNames : public NameSource
 {
 public:
-    RuleNames(const Rules& rules, Counting counting) : m_rules(rules), m_counting(counting) {}
+    /// A folder to move all entries into; the folders that rules make are below it.
+    struct Destination
+    {
+        /// Absolute, its separator at the end; and how it is shown.
+        CString path;
+        CString shown;
+    };
+
+    RuleNames(const Rules& rules, Counting counting, std::optional<Destination> into = {})
+        : m_rules(rules), m_counting(counting), m_into(std::move(into))
+    {}
 
     void Name(const Model::EntryList& list, const Groups& groups, std::span<const std::uint32_t> members,
               std::vector<WantedName>& names) override;
@@ -81,6 +93,7 @@ private:
 
     const Rules& m_rules;
     const Counting m_counting;
+    const std::optional<Destination> m_into;
     /// By folder; the whole list counts as the folder 0.
     std::vector<int> m_next;
     /// How many groups were named.

@@ -24,7 +24,7 @@ constexpr std::u16string_view numberTokens[] = {Token::name, Token::number};
 constexpr std::u16string_view millisecondLetters = u"SSS";
 constexpr auto none = std::u16string_view::npos;
 constexpr const char* dateLetters =
-    "yyyy-MM-dd HH.mm.ss is a date with its time, and \"vyr rename --help\" has all letters";
+    "yyyy-MM-dd HH.mm.ss is a date with its time, and \"vyr help dates\" has all letters";
 
 bool IsLetter(char16_t unit)
 {

@@ -114,7 +114,7 @@ BatchSummary BatchScene::Apply(const StopRequest& isStopAsked)
         return {};
     std::vector<int> calls(planned.entries.size());
     BatchSummary summary = batches.Apply(
-        planned.plan,
+        planned.plan, {},
         [&](PlanIndex entry, const Outcome& result) {
             results[planned.entries[entry]] = result;
             ++calls[entry];

@@ -486,7 +486,7 @@ TEST(Batches, ReportANewNameThatItsFolderDoesNotList)
         if (change.newName == u"x")
             std::filesystem::rename(ToStdPath(scene.Path(u"x")), ToStdPath(scene.Path(u"kept otherwise")));
     };
-    const BatchSummary summary = scene.batches.Apply(scene.Plan().plan, [](PlanIndex, const Outcome&) {}, {});
+    const BatchSummary summary = scene.batches.Apply(scene.Plan().plan, {}, [](PlanIndex, const Outcome&) {}, {});
     EXPECT_EQ(summary.done, 2u);
     EXPECT_THAT(summary.missing, ElementsAre(scene.Path(u"x")));
 }

@@ -8,6 +8,9 @@
 #include <tests/support/PictureBuilder.h>
 #include <tests/support/RemoveTree.h>
 
+#include <algorithm>
+#include <regex>
+#include <set>
 #include <sstream>
 
 using namespace VyrTests;
@@ -54,6 +57,18 @@ std::vector<std::string> Examples(const std::string& help)
     return examples;
 }
 
+constexpr std::u16string_view topics[] = {u"rules", u"tokens", u"dates", u"choosing", u"undo"};
+
+/// The options that a help text names.
+std::set<std::string> OptionsIn(const std::string& help)
+{
+    std::set<std::string> options;
+    const std::regex word("--[a-z0-9-]+");
+    for (std::sregex_iterator found(help.begin(), help.end(), word), end; found != end; ++found)
+        options.insert(found->str());
+    return options;
+}
+
 } // namespace
 
 TEST_F(Help, TellsTheVersionThatTheProgramCarries)
@@ -94,6 +109,10 @@ TEST_F(Help, FitsInto80Columns)
         if (line.starts_with("  ") && line[2] != ' ')
             calls.push_back({VyrPlatform::Encoding::FromUtf8(line.substr(2, line.find(' ', 2) - 2)), u"--help"});
     EXPECT_GE(calls.size(), 6u);
+    for (const std::u16string_view topic : topics)
+        calls.push_back({u"help", topic});
+    calls.push_back({u"help"});
+    calls.push_back({u"help", u"rename"});
     for (const std::vector<CString>& call : calls) {
         const ProgramResult result = Run(call);
         EXPECT_EQ(result.exitCode, 0);
@@ -105,7 +124,7 @@ TEST_F(Help, FitsInto80Columns)
 
 TEST_F(Help, ListsTheLettersOfDates)
 {
-    const std::string help = Run({u"rename", u"--help"}).output;
+    const std::string help = Run({u"help", u"dates"}).output;
     const std::string letters = help.substr(help.find("Letters of --date"));
     // The table of docs/date-time-formats.md.
     for (const char* const letter : {"yyyy", "SSS", "yy", "MMMM", "MMM", "MM", "M", "dd", "d", "EEEE",
@@ -147,7 +166,7 @@ TEST_F(Help, EveryExampleOfRenameRuns)
     for (const char16_t* const name :
          {u"IMG_1.jpg", u"IMG_2.jpg", u"one.pdf", u"two.pdf", u"old.txt", u"new.txt", u"SCAN.JPG", u"trip/a.jpg"})
         m_folder.WriteFile(name);
-    const std::vector<std::string> examples = Examples(Run({u"rename", u"--help"}).output);
+    const std::vector<std::string> examples = Examples(Run({u"help", u"rename"}).output);
     EXPECT_GE(examples.size(), 5u);
     for (const std::string& example : examples) {
         // Before a pipe there is another program, which writes names that each end in a NUL.
@@ -244,5 +263,61 @@ TEST_F(Help, EveryExampleOfRecoverRunsWithNothingCutOff)
         const ProgramResult result = Run(arguments);
         EXPECT_EQ(result.exitCode, 0) << example << '\n' << result.errors;
         EXPECT_THAT(result.output, HasSubstr("No batch was cut off.")) << example;
+    }
+}
+
+TEST_F(Help, OfRenameIsShortAndNamesOnlyOptionsThatThereAre)
+{
+    const std::string help = Run({u"rename", u"--help"}).output;
+    EXPECT_LE(std::count(help.begin(), help.end(), '\n'), 48);
+    const std::set<std::string> all = OptionsIn(Run({u"help", u"rename"}).output);
+    EXPECT_GE(all.size(), 40u);
+    const std::set<std::string> named = OptionsIn(help);
+    EXPECT_GE(named.size(), 30u);
+    EXPECT_TRUE(std::includes(all.begin(), all.end(), named.begin(), named.end())) << help;
+}
+
+TEST_F(Help, HasTopicsThatTogetherDescribeEveryOptionOfRename)
+{
+    const std::string list = Run({u"help"}).output;
+    std::string texts;
+    for (const std::u16string_view topic : topics) {
+        EXPECT_THAT(list, HasSubstr("vyr help " + VyrPlatform::Encoding::ToUtf8(topic)));
+        const ProgramResult result = Run({u"help", topic});
+        EXPECT_EQ(result.exitCode, 0);
+        EXPECT_THAT(result.output, HasSubstr(topic == u"undo" ? "Exit codes:" : "Examples:"));
+        texts += result.output;
+    }
+    const std::set<std::string> named = OptionsIn(texts);
+    for (const std::string& option : OptionsIn(Run({u"help", u"rename"}).output)) {
+        const bool isOfThePage =
+            option == "--html" || option.starts_with("--design") || option == "--thumbnails" || option == "--overwrite";
+        EXPECT_TRUE(named.contains(option) || isOfThePage || option == "--help") << option;
+    }
+    const ProgramResult unknown = Run({u"help", u"ruels"});
+    EXPECT_EQ(unknown.exitCode, 2);
+    EXPECT_THAT(unknown.errors, HasSubstr("did you mean rules?"));
+}
+
+TEST_F(Help, OfACommandListsItsOptions)
+{
+    EXPECT_EQ(Run({u"help", u"copy"}).output, Run({u"copy", u"--help"}).output);
+    EXPECT_THAT(Run({u"help", u"rename"}).output, HasSubstr("--conflict-position"));
+    EXPECT_THAT(Rename({u"--prefxi", u"x"}).errors, HasSubstr("vyr help rename lists its options."));
+}
+
+TEST_F(Help, EveryExampleOfRulesRuns)
+{
+    const ScratchFolder rules;
+    m_environment[u"VYR_RULES_DIR"] = rules.Path();
+    ASSERT_EQ(Rename({u"--case=title-en", u"--save-rules=titles"}).exitCode, 0);
+    const std::vector<std::string> examples = Examples(Run({u"rules", u"--help"}).output);
+    EXPECT_GE(examples.size(), 2u);
+    for (const std::string& example : examples) {
+        std::vector<CString> arguments = Arguments(example);
+        arguments.erase(arguments.begin());
+        const ProgramResult result = Run(arguments);
+        EXPECT_EQ(result.exitCode, 0) << example << '\n' << result.errors;
+        EXPECT_THAT(result.output, HasSubstr("--case title-en")) << example;
     }
 }

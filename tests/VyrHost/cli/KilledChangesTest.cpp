@@ -1,5 +1,5 @@
-// Tests of the program: vyr times, attributes, unblock and properties, and the undo of each, killed between any two of
-// their changes on the disk, also between the parts of what is done to one file.
+// Tests of the program: vyr times, attributes and unblock, and renames that empty folders, and the undo of each, killed
+// between any two of their changes on the disk, also between the parts of what is done to one file.
 #include <tests/VyrHost/cli/VyrProgram.h>
 
 #include <VyrPlatform/files/FileAttributes.h>
@@ -111,9 +111,6 @@ protected:
         EXPECT_GT(recovered, 4);
     }
 
-    /// Looks at what stands there between the end of the program and the recovery.
-    virtual void JudgeCutOff(const Tree& /*after*/) const {}
-
     Tree m_before;
 
 private:
@@ -184,23 +181,11 @@ TEST_F(KilledChanges, MarksAreRecovered)
     KillEverywhere({u"unblock", u"--apply", u"plain", u"protected"});
 }
 
-TEST_F(KilledDocuments, CompoundOneIsTheOldOrTheNewOneAndIsRecovered)
+TEST_F(KilledChanges, FoldersThatRenamesEmptyAreRecovered)
 {
-    CompoundDocument document;
-    document.streams[summaryName] = BuildSummary({{1, StoredCodePage(1252)}, {2, StoredByteText("Old title")}});
-    document.streams[u"Body"] = std::string(5'000, 'b');
-    Place(u"a.doc", document.Bytes());
-    KillEverywhere({u"properties", u"--set=title=Another title", u"--set=author=Ann", u"--apply", u"a.doc"});
-}
-
-TEST_F(KilledDocuments, PackageIsTheOldOrTheNewOneAndIsRecovered)
-{
-    if (!HasPackageHandlers())
-        GTEST_SKIP() << "no handler of such documents is registered";
-    const std::string meta = R"(<o:document-meta xmlns:o="urn:oasis:names:tc:opendocument:xmlns:office:1.0"><o:meta/>)"
-                             R"(</o:document-meta>)";
-    Place(u"b.odt", BuildArchive({{"mimetype", "application/vnd.oasis.opendocument.text"},
-                                  {"content.xml", std::string(5'000, 'c')},
-                                  {"meta.xml", meta}}));
-    KillEverywhere({u"properties", u"--set=title=Another title", u"--apply", u"b.odt"});
+    m_folder.WriteFile(u"a/b/c/1", "1");
+    m_folder.WriteFile(u"a/2", "2");
+    ASSERT_EQ(VyrPlatform::FileAttributes::Set(m_folder.Path(u"a/b"), 0x12), 0U);
+    m_before = Now();
+    KillEverywhere({u"rename", u"--into=out", u"--remove-empty", u"-r", u"a", u"--apply"});
 }

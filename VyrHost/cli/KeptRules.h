@@ -1,0 +1,30 @@
+/// @file
+/// Rules that the user keeps under a name: texts of options (rename/OptionLines.h) in a folder of the user's settings.
+#pragma once
+
+#include <VyrPlatform/text/CString.h>
+
+#include <string>
+#include <vector>
+
+namespace VyrHost::Cli {
+
+/// The folder that VYR_RULES_DIR names, else "rules" among the user's settings.
+[[nodiscard]] CString KeptRulesFolder();
+
+/// The names of all kept rules, sorted.
+[[nodiscard]] std::vector<CString> NamesOfKeptRules();
+
+/// The file of the rules `name`: a path where it has a folder separator or ends in ".rules", else a name in the folder.
+/// @throws UsageError for what can be neither.
+[[nodiscard]] CString PathOfKeptRules(const CString& name);
+
+/// The text of the rules `name` (see PathOfKeptRules).
+/// @throws UsageError where they are not there or cannot be read.
+[[nodiscard]] std::string LoadRules(const CString& name);
+
+/// Keeps `text` under `name`, flushed to the disk.
+/// @throws UsageError where other rules have that name, and where it cannot be written.
+void SaveRules(const CString& name, const std::string& text);
+
+} // namespace VyrHost::Cli

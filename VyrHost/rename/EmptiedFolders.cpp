@@ -1,0 +1,164 @@
+// Counts what a plan leaves in folders, and removes those where nothing is left.
+#include <VyrHost/rename/EmptiedFolders.h>
+
+#include <VyrHostPlatform/FolderState.h>
+#include <VyrHostPlatform/RenameFile.h>
+#include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/process/Process.h>
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <unordered_set>
+
+namespace VyrHost::Rename {
+
+using VyrPlatform::FileSystem::Kind;
+
+std::shared_ptr<const Model::Change> FolderRemoval::Read(const CString& before, const CString& after)
+{
+    return after == u"removed" && VyrHostPlatform::IsFolderState(before) ? std::make_shared<FolderRemoval>(before)
+                                                                         : nullptr;
+}
+
+Model::ChangeLook FolderRemoval::Look(const CString& path) const
+{
+    std::uint32_t error = 0;
+    switch (VyrPlatform::LookAtFile(path).kind) {
+    case Kind::Folder:
+        return {VyrHostPlatform::ReadFolderState(path, error) == m_state ? Model::ChangeState::Before
+                                                                         : Model::ChangeState::Partly,
+                0};
+    case Kind::Missing:
+        return {Model::ChangeState::After, 0};
+    default:
+        return {Model::ChangeState::Other, 0};
+    }
+}
+
+namespace {
+
+/// A folder by the one that it stands in.
+struct CutPath
+{
+    CString folder;
+    std::u16string_view name;
+};
+
+CutPath Cut(const CString& path)
+{
+    const std::u16string_view folder = Model::FolderPart(path);
+    return {folder, path.View().substr(folder.size())};
+}
+
+} // namespace
+
+std::uint32_t FolderRemoval::Apply(const CString& path) const
+{
+    const auto [parent, name] = Cut(path);
+    const VyrHostPlatform::OpenFolder folder(parent);
+    return folder.IsOpen() ? folder.RemoveEmptyFolder(name) : folder.Error();
+}
+
+std::uint32_t FolderRemoval::TakeBack(const CString& path) const
+{
+    const auto [parent, name] = Cut(path);
+    const VyrHostPlatform::OpenFolder folder(parent);
+    if (!folder.IsOpen())
+        return folder.Error();
+    // One that is there was made when the work was cut off.
+    if (folder.Look(name).kind != Kind::Folder)
+        if (const std::uint32_t error = folder.MakeFolder(name))
+            return error;
+    return VyrHostPlatform::RestoreFolderState(path, m_state);
+}
+
+namespace {
+
+using Identities = std::unordered_set<VyrPlatform::FileIdentity, Model::IdentityHash>;
+
+/// The current folder and those that it stands in.
+Identities FindCurrent()
+{
+    Identities current;
+    CString path = VyrPlatform::Process::GetCurrentFolder();
+    for (auto state = VyrPlatform::LookAtFile(path);
+         state.kind == Kind::Folder && current.insert(state.identity).second; state = VyrPlatform::LookAtFile(path))
+        path = VyrPlatform::FileSystem::JoinPath(path, u"..");
+    return current;
+}
+
+class EmptiedSearch
+{
+public:
+    EmptiedSearch(const Model::RenamePlan& plan, const Model::FolderSet& folders)
+        : m_plan(plan), m_folders(folders), m_left(plan.folders.size()), m_gains(plan.folders.size())
+    {
+        for (const Model::PlanEntry& entry : plan.entries) {
+            if (entry.from.folder == entry.to.folder)
+                continue;
+            ++m_left[entry.from.folder];
+            m_gains[entry.to.folder] = true;
+        }
+        for (const Model::PlanFolder& folder : plan.folders)
+            if (folder.isNew)
+                m_gains[folder.place.folder] = true;
+    }
+
+    std::vector<EmptiedFolder> Run()
+    {
+        // Every folder stands behind the one that it is in.
+        for (std::size_t folder = m_plan.folders.size(); folder-- > 0;)
+            if (m_left[folder] > 0 && IsEmptied(static_cast<Model::PlanIndex>(folder)))
+                Take(m_plan.folders[folder].place, Model::PathBefore(m_plan, static_cast<Model::PlanIndex>(folder)));
+        return std::move(m_emptied);
+    }
+
+private:
+    [[nodiscard]] bool IsEmptied(Model::PlanIndex index)
+    {
+        const Model::PlanFolder& planned = m_plan.folders[index];
+        if (planned.isNew || planned.entry != Model::none || planned.place.folder == Model::none || m_gains[index])
+            return false;
+        const std::optional<std::uint32_t> number =
+            m_folders.FindOpened(VyrPlatform::FileSystem::JoinPath(Model::PathBefore(m_plan, index), u""));
+        return number && m_folders[*number].exists && m_folders[*number].names.Records().size() == m_left[index];
+    }
+
+    void Take(const Model::Place& place, const CString& path)
+    {
+        const VyrPlatform::FileState state = VyrPlatform::LookAtFile(path);
+        if (!m_current)
+            m_current = FindCurrent();
+        std::uint32_t error = 0;
+        const std::optional<CString> kept = VyrHostPlatform::ReadFolderState(path, error);
+        if (state.kind != Kind::Folder || m_current->contains(state.identity) || !kept)
+            return;
+        m_emptied.push_back({place, std::make_shared<FolderRemoval>(*kept)});
+        ++m_left[place.folder];
+    }
+
+    const Model::RenamePlan& m_plan;
+    const Model::FolderSet& m_folders;
+    /// For each folder of the plan how many of its entries leave it.
+    std::vector<std::size_t> m_left;
+    /// For each folder of the plan whether something comes into it.
+    std::vector<bool> m_gains;
+    std::optional<Identities> m_current;
+    std::vector<EmptiedFolder> m_emptied;
+};
+
+} // namespace
+
+std::vector<EmptiedFolder> FindEmptied(const Model::RenamePlan& plan, const Model::FolderSet& folders)
+{
+    return EmptiedSearch(plan, folders).Run();
+}
+
+Model::ChangeKinds Kinds()
+{
+    return {{std::string(FolderRemoval::kind), FolderRemoval::Read}};
+}
+
+} // namespace VyrHost::Rename
