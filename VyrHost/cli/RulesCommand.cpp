@@ -31,15 +31,16 @@ private:
     std::optional<std::string> m_name;
 };
 
-/// The lines of the rules `name` that say something, each with `end` behind it.
+/// The lines of the rules `name` that say something, with `between` between them.
 /// @throws UsageError where they cannot be read.
-std::string LinesOf(const CString& name, char end)
+std::string LinesOf(const CString& name, char between)
 {
     std::string text;
     for (const Rename::OptionLine& line : Rename::ReadOptionLines(LoadRules(name))) {
         const std::string written = Rename::WriteOptionLine(line.words);
+        if (!text.empty())
+            text += between;
         text += Text::SafeText(VyrPlatform::Encoding::FromNameBytes(written.substr(0, written.size() - 1)));
-        text += end;
     }
     return text;
 }
@@ -65,7 +66,7 @@ int RulesCommand::Run() const
 {
     Ui::OutputBuffer output;
     if (m_name) {
-        output << LinesOf(FromParser(*m_name), '\n');
+        output << LinesOf(FromParser(*m_name), '\n') << "\n";
         return Finish(output, ExitCode::success);
     }
     const std::vector<CString> names = NamesOfKeptRules();

@@ -43,7 +43,7 @@ TEST_F(KeptRules, AreListedAndShown)
     EXPECT_THAT(Run(std::vector<CString>{u"rules"}).output, HasSubstr("No rules are kept"));
     EXPECT_EQ(Rename({u"--trim", u"--save-rules=b"}).exitCode, 0);
     EXPECT_EQ(Rename({u"--prefix", u"a b", u"--collapse", u"--save-rules=a"}).exitCode, 0);
-    EXPECT_EQ(Run(std::vector<CString>{u"rules"}).output, "a  --prefix \"a b\" --collapse \nb  --trim \n");
+    EXPECT_EQ(Run(std::vector<CString>{u"rules"}).output, "a  --prefix \"a b\" --collapse\nb  --trim\n");
     EXPECT_EQ(Run({u"rules", u"a"}).output, "--prefix \"a b\"\n--collapse\n");
     const ProgramResult unknown = Run({u"rules", u"titels"});
     EXPECT_EQ(unknown.exitCode, 2);
