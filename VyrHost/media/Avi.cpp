@@ -17,6 +17,8 @@ namespace {
 
 using namespace VyrLibraryUtils::Pictures;
 
+/// More than any film has, and far from what a number cannot hold.
+constexpr double mostMilliseconds = 1e15;
 /// It bounds the search in a file of empty chunks.
 constexpr int mostChunks = 10000;
 
@@ -162,7 +164,7 @@ bool ReadStream(const ByteView& stream, Movie& movie)
         // The product of three such numbers may be too large.
         const double milliseconds =
             rate == 0 ? 0 : 1000.0 * static_cast<double>(length * scale) / static_cast<double>(rate);
-        if (milliseconds > 0)
+        if (milliseconds > 0 && milliseconds < mostMilliseconds)
             movie.duration = static_cast<std::uint64_t>(milliseconds + 0.5);
         return true;
     });

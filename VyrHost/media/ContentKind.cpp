@@ -137,8 +137,8 @@ constexpr Mark marks[] = {
     {0, "\xFF\xD8\xFF"sv, u"jpg"},
     {0, "\x89PNG\r\n\x1A\n"sv, u"png"},
     // TIFF with 64-bit offsets.
-    {0, "II+\0\x08\0"sv, u"tif"},
-    {0, "MM\0+\0\x08"sv, u"tif"},
+    {0, "II+\0"sv, u"tif"},
+    {0, "MM\0+"sv, u"tif"},
     {0, "GIF87a"sv, u"gif"},
     {0, "GIF89a"sv, u"gif"},
     {0, "\0\0\0\x0CJXL \r\n\x87\n"sv, u"jxl"},

@@ -10,6 +10,11 @@ namespace VyrHost::Media {
 namespace {
 
 constexpr std::string_view blanks = " \t\r\n";
+/// They bound the work on a hostile packet, which may repeat an unfinished part thousands of times.
+constexpr std::size_t longestDeclaration = 256;
+constexpr int mostElements = 8;
+constexpr int mostItems = 200;
+constexpr std::size_t longestItem = 16384;
 
 /// The text between `from` and `to`; without them it is empty.
 std::string_view Between(std::string_view text, std::string_view from, std::string_view to)
@@ -27,11 +32,11 @@ std::string_view PrefixOf(std::string_view packet, std::string_view space)
     constexpr std::string_view declaration = "xmlns:";
     for (std::size_t at = packet.find(declaration); at != std::string_view::npos; at = packet.find(declaration, at)) {
         at += declaration.size();
-        const std::string_view rest = packet.substr(at);
+        const std::string_view rest = packet.substr(at, longestDeclaration);
         const std::size_t end = rest.find_first_of("= \t\r\n");
         const std::size_t quote = rest.find_first_of("\"'");
         if (end == std::string_view::npos || quote == std::string_view::npos)
-            return {};
+            continue;
         if (rest.substr(quote + 1).starts_with(space) && rest.substr(quote + 1 + space.size()).starts_with(rest[quote]))
             return rest.substr(0, end);
     }
@@ -102,8 +107,9 @@ std::string TextOfContent(std::string_view content)
         return Plain(content);
     const bool isAlternatives = content.find("<rdf:Alt") != std::string_view::npos;
     std::string text;
-    for (std::size_t at = content.find(item); at != std::string_view::npos; at = content.find(item, at + 1)) {
-        const std::string one = Plain(Between(content.substr(at), ">", "</rdf:li"));
+    std::size_t at = content.find(item);
+    for (int left = mostItems; left > 0 && at != std::string_view::npos; --left, at = content.find(item, at + 1)) {
+        const std::string one = Plain(Between(content.substr(at, longestItem), ">", "</rdf:li"));
         if (!one.empty())
             text += (text.empty() ? "" : ", ") + one;
         if (isAlternatives)
@@ -131,7 +137,8 @@ std::string AttributeOf(std::string_view packet, std::string_view name)
 std::string ElementOf(std::string_view packet, const std::string& name)
 {
     const std::string begin = "<" + name;
-    for (std::size_t at = packet.find(begin); at != std::string_view::npos; at = packet.find(begin, at + 1)) {
+    std::size_t at = packet.find(begin);
+    for (int left = mostElements; left > 0 && at != std::string_view::npos; --left, at = packet.find(begin, at + 1)) {
         const std::string_view rest = packet.substr(at + begin.size());
         if (rest.empty() || (blanks.find(rest.front()) == std::string_view::npos && rest.front() != '>'))
             continue;

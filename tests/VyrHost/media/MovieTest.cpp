@@ -167,6 +167,16 @@ TEST(Movies, AviTellsItsDateInTheFormsThatCamerasAndProgramsWrite)
         EXPECT_EQ(ReadAll(BuildAvi(1, 8, 8, RiffChunk("IDIT", date))).videoCreated, std::nullopt) << date;
 }
 
+TEST(Movies, AnAviOfAnImpossibleLengthHasTheDurationOfItsMainHeader)
+{
+    const Bytes stream = RiffChunk("strh", "vidsMJPG" + Bytes(12, '\0') + Number(UINT32_MAX, 4, Endian::Little) +
+                                               Number(1, 4, Endian::Little) + Bytes(4, '\0') +
+                                               Number(UINT32_MAX, 4, Endian::Little) + Bytes(20, '\0'));
+    const Bytes film = BuildAvi(50, 640, 480);
+    const std::size_t place = film.find("strh");
+    EXPECT_EQ(ReadAll(Bytes(film).replace(place, stream.size(), stream)).duration, 2000U);
+}
+
 TEST(Movies, FilmsThatAreCutOffOrLieAboutSizesTellWhatIsThere)
 {
     const Bytes films[] = {BuildMp4({.created = from1904}), BuildMatroska({.created = from2001}, "matroska"),

@@ -265,6 +265,16 @@ TEST(PictureValues, PacketsThatAreCutOffTellWhatIsThere)
     }
 }
 
+TEST(PictureValues, APacketOfUnfinishedPartsIsReadInBoundedTime)
+{
+    for (const char* const part : {"<rdf:li>", "<dc:creator>", "xmlns:a=", "<dc:creator><rdf:li>", "&#x41", "<x:"}) {
+        std::string inside = "><dc:creator>";
+        while (inside.size() < 1000000)
+            inside += part;
+        EXPECT_LE(ReadAll(Packet(inside)).Exif(*FindExifTag(u"Creator")).GetLength(), 4096);
+    }
+}
+
 TEST(PictureValues, SizesOfTiffAreThoseOfTheWholePicture)
 {
     TiffParts parts;
