@@ -50,7 +50,7 @@ void FilmDates(benchmark::State& state)
             benchmark::DoNotOptimize(ReadMedia(film, {.videoCreated = true}));
 }
 
-/// The head of each film, and what stands behind its data: a read each, as any reader needs them.
+/// The head of each film alone; where the movie box stands behind the data, a reader needs one read more.
 void BareReads(benchmark::State& state)
 {
     std::array<std::byte, 2048> head;

@@ -121,7 +121,9 @@ std::optional<VyrPlatform::FileTicks> DateOf(std::string_view text)
     }
     const int second = std::max(time.third, 0);
     const COleDateTime local(day.first, day.second, day.third, time.first, time.second, second);
-    return VyrPlatform::FileTimes::FromLocal(local);
+    const auto instant = VyrPlatform::FileTimes::FromLocal(local);
+    // File times begin in 1601.
+    return instant && *instant > 0 ? instant : std::nullopt;
 }
 
 /// The main header: microseconds for each picture, how many pictures, and their size.

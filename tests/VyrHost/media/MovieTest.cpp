@@ -163,7 +163,8 @@ TEST(Movies, AviTellsItsDateInTheFormsThatCamerasAndProgramsWrite)
         EXPECT_EQ(ReadAll(BuildAvi(1, 8, 8, RiffChunk("IDIT", date))).videoCreated, instant) << date;
         EXPECT_EQ(ReadAll(BuildAvi(1, 8, 8, "", RiffChunk("ICRD", date))).videoCreated, instant) << date;
     }
-    for (const char* const date : {"", "2024", "2024-13-01", "Fri Xyz 05 10:30:00 2024", "0000:00:00 00:00:00"})
+    for (const char* const date :
+         {"", "2024", "2024-13-01", "Fri Xyz 05 10:30:00 2024", "Fri Jan 05 10:30:00 202", "0000:00:00 00:00:00"})
         EXPECT_EQ(ReadAll(BuildAvi(1, 8, 8, RiffChunk("IDIT", date))).videoCreated, std::nullopt) << date;
 }
 
