@@ -100,12 +100,20 @@ CString AttributesChange::ShownAfter() const
     return AttributeLetters((m_bits.before & ~m_bits.mask) | m_bits.value);
 }
 
-/// A file may have lost its protection only, or, of its permissions to write, all but the owner's.
+/// A file may have lost its protection only, or, of its permissions to write, all but the owner's. One that becomes
+/// read-only may have the attribute, and still be writable.
 void AttributesChange::Mend(const CString& path) const
 {
+    namespace FileAttributes = VyrPlatform::FileAttributes;
     constexpr std::uint32_t readOnly = 0x1;
+    if ((m_bits.value & readOnly) && FileAttributes::IsReadOnly(path)) {
+        const std::uint32_t now = FileAttributes::Get(path);
+        if (FileAttributes::Set(path, now & ~readOnly) == 0)
+            static_cast<void>(FileAttributes::Set(path, now));
+        return;
+    }
     const bool wasProtected = (m_bits.before & ~m_bits.mask & readOnly) != 0;
-    const bool isUnprotected = wasProtected && !VyrPlatform::FileAttributes::IsReadOnly(path);
+    const bool isUnprotected = wasProtected && !FileAttributes::IsReadOnly(path);
     // Where it cannot be restored, the file stays as it is, and the work on it tells why.
     if (isUnprotected || Look(path).state == ChangeState::Before)
         static_cast<void>(VyrPlatform::ExactState::Restore(path, Part::Attributes, m_bits.beforeState));
