@@ -4,6 +4,7 @@
 #include <VyrHost/rename/NameTokens.h>
 
 #include <gmock/gmock.h>
+#include <tests/support/CommandLine.h>
 #include <tests/support/FileState.h>
 #include <tests/support/PictureBuilder.h>
 #include <tests/support/RemoveTree.h>
@@ -21,29 +22,6 @@ using testing::StartsWith;
 namespace {
 
 using Help = VyrProgram;
-
-/// The arguments of a command line whose only quotes are double ones.
-std::vector<CString> Arguments(const std::string& command)
-{
-    std::vector<CString> arguments;
-    std::u16string argument;
-    bool isQuoted = false;
-    bool isOpen = false;
-    for (const char unit : command + ' ') {
-        if (unit == '"') {
-            isQuoted = !isQuoted;
-            isOpen = true;
-        } else if (unit != ' ' || isQuoted) {
-            argument += static_cast<char16_t>(unit);
-            isOpen = true;
-        } else if (isOpen) {
-            arguments.emplace_back(std::u16string_view(argument));
-            argument.clear();
-            isOpen = false;
-        }
-    }
-    return arguments;
-}
 
 /// The command lines of the examples in a help text.
 std::vector<std::string> Examples(const std::string& help)
@@ -134,7 +112,7 @@ TEST_F(Help, ListsTheLettersOfDates)
 
 TEST_F(Help, ListsTheTokensOfNames)
 {
-    const std::string help = Run({u"rename", u"--help"}).output;
+    const std::string help = Run({u"help", u"tokens"}).output;
     for (const VyrHost::Rename::TokenHelp& token : VyrHost::Rename::TokenTable())
         EXPECT_THAT(help, HasSubstr(std::string("\n  ") + token.form + " ")) << token.form;
 }
@@ -172,7 +150,7 @@ TEST_F(Help, EveryExampleOfRenameRuns)
         // Before a pipe there is another program, which writes names that each end in a NUL.
         const std::size_t pipe = example.find("| ");
         const bool hasInput = pipe != std::string::npos;
-        std::vector<CString> arguments = Arguments(hasInput ? example.substr(pipe + 2) : example);
+        std::vector<CString> arguments = WordsOf(hasInput ? example.substr(pipe + 2) : example);
         ASSERT_EQ(arguments.at(0), u"vyr") << example;
         arguments.erase(arguments.begin());
         const ProgramResult result = Run(arguments, hasInput ? std::string("old.txt\0new.txt\0", 16) : std::string());
@@ -191,7 +169,7 @@ TEST_F(Help, EveryExampleOfUndoRunsAfterABatch)
         m_environment[u"VYR_JOURNAL_DIR"] = journal.Path();
         m_folder.WriteFile(u"old.txt");
         ASSERT_EQ(Run({u"rename", u"--prefix", u"new ", u"--apply", u"old.txt"}).exitCode, 0);
-        std::vector<CString> arguments = Arguments(example);
+        std::vector<CString> arguments = WordsOf(example);
         arguments.erase(arguments.begin());
         const ProgramResult result = Run(arguments);
         EXPECT_EQ(result.exitCode, 0) << example << '\n' << result.output << result.errors;
@@ -216,7 +194,7 @@ TEST_F(Help, EveryExampleThatShowsOrChangesFilesInPlaceRuns)
         const std::vector<std::string> examples = Examples(Run({command, u"--help"}).output);
         EXPECT_GE(examples.size(), 2u);
         for (const std::string& example : examples) {
-            std::vector<CString> arguments = Arguments(example);
+            std::vector<CString> arguments = WordsOf(example);
             arguments.erase(arguments.begin());
             ASSERT_EQ(arguments.at(0), command) << example;
             const ProgramResult result = Run(arguments);
@@ -241,7 +219,7 @@ TEST_F(Help, EveryExampleOfCopyAndMoveRuns)
             m_folder.WriteFile(u"Pictures/a.jpg", "a");
             m_folder.WriteFile(u"Scans/b.tif", "b");
             m_folder.MakeFolder(u"Backup");
-            std::vector<CString> arguments = Arguments(example);
+            std::vector<CString> arguments = WordsOf(example);
             arguments.erase(arguments.begin());
             const ProgramResult result = Run(arguments);
             EXPECT_EQ(result.exitCode, 0) << example << '\n' << result.output << result.errors;
@@ -258,7 +236,7 @@ TEST_F(Help, EveryExampleOfRecoverRunsWithNothingCutOff)
     const std::vector<std::string> examples = Examples(Run({u"recover", u"--help"}).output);
     EXPECT_GE(examples.size(), 2u);
     for (const std::string& example : examples) {
-        std::vector<CString> arguments = Arguments(example);
+        std::vector<CString> arguments = WordsOf(example);
         arguments.erase(arguments.begin());
         const ProgramResult result = Run(arguments);
         EXPECT_EQ(result.exitCode, 0) << example << '\n' << result.errors;
@@ -314,7 +292,7 @@ TEST_F(Help, EveryExampleOfRulesRuns)
     const std::vector<std::string> examples = Examples(Run({u"rules", u"--help"}).output);
     EXPECT_GE(examples.size(), 2u);
     for (const std::string& example : examples) {
-        std::vector<CString> arguments = Arguments(example);
+        std::vector<CString> arguments = WordsOf(example);
         arguments.erase(arguments.begin());
         const ProgramResult result = Run(arguments);
         EXPECT_EQ(result.exitCode, 0) << example << '\n' << result.errors;
