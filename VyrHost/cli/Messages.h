@@ -34,7 +34,7 @@ inline constexpr const char* table = "Exit codes:\n"
                                      "  4    nothing was done: there is nothing to undo, a batch that was cut off\n"
                                      "       waits for \"vyr recover\", another vyr is at work, the journal cannot be\n"
                                      "       kept, or update information cannot be read\n"
-                                     "  130  interrupted (Ctrl-C); what was done was said\n";
+                                     "  130  interrupted (Ctrl-C); the output says what was done\n";
 
 } // namespace ExitCode
 

@@ -43,7 +43,7 @@ public:
         if (IsStopAsked() && !std::exchange(m_isTold, true)) {
             m_progress->Close();
             Complain("interrupted; '" + Text::SafeText(m_source) +
-                     "' is brought to its end first (a second interrupt ends that, too)");
+                     "' is finished first (a second interrupt stops that, too)");
         }
         m_progress->Show(made);
     }
@@ -65,9 +65,9 @@ CLI::App& AddCommand(CLI::App& program, FolderCopy::TransferAction action)
 }
 
 constexpr const char* terms =
-    "Nothing is overwritten: while anything is in the way, nothing is done at all. A folder of the same name at the "
-    "destination takes up the entries. Links are not followed. A folder that is begun is brought to its end, Ctrl-C or "
-    "not; \"vyr undo\" does not undo it.\n\n";
+    "Nothing is overwritten: while anything is in the way, nothing is done at all. Folders of the same name are "
+    "merged. "
+    "Links are not followed. A folder that is begun is finished, even after Ctrl-C; \"vyr undo\" does not undo it.\n\n";
 
 /// Previews the copying or moving of folders, or does it.
 class TransferCommand final : public Command
@@ -100,7 +100,7 @@ TransferCommand::TransferCommand(CLI::App& program, FolderCopy::TransferAction a
     m_command
         .add_option("FOLDER", m_paths,
                     "The folders to " + m_command.get_name() +
-                        ", and behind them the destination: a folder that is there, to go into; or the new path of "
+                        ", then the destination: an existing folder to go into, or the new path of "
                         "the one folder")
         ->type_name("");
     m_command.footer(HelpFooter(m_command.get_name(), terms));

@@ -102,7 +102,7 @@ void NameConditions::Add(const CString& text, const char* option)
         item.enabled = 1;
         item.text = Text::Composed(text.View().substr(prefix.size()));
         if (item.text.IsEmpty())
-            Text::RefuseValue(option, text, "a text is expected behind the colon");
+            Text::RefuseValue(option, text, "a text is expected after the colon");
         item.condition = static_cast<int>(condition);
         item.matchCase = m_matchCase ? 1 : 0;
         m_texts.push_back(item);

@@ -77,8 +77,7 @@ Text::TypedDateTime ReadBound(std::u16string_view bound, std::u16string_view tex
     const auto typed = Text::ReadTypedDateTime(bound);
     if (!typed || !typed->hasDate)
         Text::RefuseValue(option, text,
-                          "a bound is no date; 2024-01-05 and \"2024-01-05 10:30\" are, for example, where such a day "
-                          "exists");
+                          "FROM and TO are dates, such as 2024-01-05 or \"2024-01-05 10:30\" of days that exist");
     return *typed;
 }
 
@@ -152,7 +151,7 @@ std::int64_t ReadSizeBound(std::u16string_view bound, std::int64_t open, std::u1
         return open;
     const std::int64_t size = ReadSize(bound);
     if (size < 0)
-        Text::RefuseValue(option, text, "a bound is no size; 500, 16KB and \"1.5 GB\" are, for example");
+        Text::RefuseValue(option, text, "FROM and TO are sizes, such as 500, 16KB or \"1.5 GB\"");
     return size;
 }
 

@@ -135,7 +135,7 @@ private:
         const CutPath cut = Cut(path);
         if (cut.name.IsEmpty() || LeadsUp(path))
             throw Text::UsageError("'" + Text::SafeText(path) +
-                                   "' is no name that could be changed; --recursive renames what is in a folder");
+                                   "' has no name that can be changed; --recursive renames what is in the folder");
         AddNamed(OpenParent(cut.folder), cut.name, mayBePattern);
     }
 

@@ -146,8 +146,7 @@ private:
     {
         const CString name = FileUtils::GetSplitFileName(task.source);
         if (m_goesInto && name.IsEmpty())
-            throw Text::UsageError(Quoted(task.shownSource) + " has no name that it could have in " +
-                                   Quoted(m_destination));
+            throw Text::UsageError(Quoted(task.shownSource) + " has no name to use in " + Quoted(m_destination));
         task.target = m_goesInto ? FileUtils::GetCombinePath(m_folder, name) : m_newPath;
         task.shownTarget = m_goesInto ? FileUtils::GetCombinePath(m_destination, name) : m_destination;
         if (m_goesInto && !m_names.insert(VyrHostPlatform::FoldName(name, Folding())).second)

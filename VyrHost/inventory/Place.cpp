@@ -261,7 +261,7 @@ Place FindUsualPrefix()
 void ChooseUser(Place& place, const CString& user)
 {
     if (place.kind != PlaceKind::Disk)
-        Text::RefuseValue("--user", user, "only a disk has users to choose from");
+        Text::RefuseValue("--user", user, "users can be chosen on a disk only");
     std::vector<CString> names;
     for (const UserHives& one : place.users)
         names.push_back(one.name);
@@ -284,7 +284,7 @@ std::string FailureOf(const OpenResult& result)
     case OpenResult::Outcome::NotSupported:
         return file + " cannot be read: only vyr for Linux reads the registry of another Windows";
     default:
-        return file + " is no registry, or it is damaged";
+        return file + " is not a registry file, or is damaged";
     }
 }
 
@@ -296,7 +296,7 @@ Place FindPlace(const PlaceRequest& request)
     if (request.path)
         place = FindAt(*request.path, request.kind);
     else if (request.kind)
-        throw Text::UsageError("the folder is missing that is to be looked at");
+        throw Text::UsageError("name the folder to look in");
     else if (!HasOwnRegistry())
         place = FindUsualPrefix();
     if (request.user)

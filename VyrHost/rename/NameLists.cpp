@@ -44,7 +44,7 @@ namespace {
 
 constexpr std::string_view explanation =
     "# Change the names behind the tabs and save; leave the numbers as they are.\n"
-    "# The entry of a line that is taken out keeps its name. Save nothing to change nothing.\n"
+    "# An entry whose line you remove keeps its name. Save an empty text to change nothing.\n"
     "# In a name \\\\ is a backslash, \\n a line end, \\t a tab.\n";
 
 /// Takes the escape that `text` begins with; 0 when EscapeName does not write such an escape.

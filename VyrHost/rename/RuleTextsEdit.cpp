@@ -78,7 +78,7 @@ Rules InsertRule(Edit type, int position, const CString& text, const char* optio
 {
     RequireNameText(text, option);
     if (text.IsEmpty())
-        throw Text::UsageError(std::string(option) + ": there is no text to put in");
+        throw Text::UsageError(std::string(option) + ": the text to insert is empty");
     return Placed(InsertItem(type, position, text));
 }
 
@@ -192,7 +192,7 @@ Rules ReplaceRules(const CString& find, const CString& replacement)
 {
     RequireNameText(replacement, "--replace");
     if (find.IsEmpty())
-        throw Text::UsageError("--replace: there is no text to look for");
+        throw Text::UsageError("--replace: FIND is empty");
     NameFuncs::ITEM item = NewItem(NameFuncs::RenameType::Replace);
     item.findText = find;
     item.replaceText = replacement;
@@ -208,7 +208,7 @@ Rules ExtensionRules(const CString& text)
         return ContentExtensionRules();
     const CString extension = text.Find(u".") == 0 ? text.Mid(1) : text;
     if (extension.IsEmpty())
-        throw Text::UsageError("--extension: there is no extension; --drop-extension takes the old one away");
+        throw Text::UsageError("--extension: NEW is empty; --drop-extension removes the extension");
     return ExtensionRule(NameFuncs::ExtensionType::Replace, extension);
 }
 

@@ -119,7 +119,7 @@ void AppendAfterName(Rules& rules, NameFuncs::ITEM number, std::u16string_view s
 int Digits(std::u16string_view text, const NumberSpot& spot, const NumberSettings& settings)
 {
     if (settings.digits && spot.digits)
-        Refuse(text, "it tells the width by its #, so --digits says it twice; write a single #");
+        Refuse(text, "its # tell the width already; write a single # with --digits");
     const int digits = settings.digits.value_or(spot.digits.value_or(1));
     if (digits > mostDigits)
         Refuse(text, "more than 255 digits");

@@ -89,7 +89,7 @@ TEST_F(BadInput, EmptyOptions)
         ExpectRefused({u"--suffix", u"!", option, u"", u"a"}, VyrPlatform::Encoding::ToUtf8(option));
     ExpectRefused({u"--suffix", u"!", u"-r", u"--only", u"", u"."}, "--only");
     ExpectRefused({u"--date", u"yyyy", u"--date-from", u"", u"a"}, "--date-from");
-    ExpectRefused({u"--suffix", u"!", u""}, "no name that could be changed");
+    ExpectRefused({u"--suffix", u"!", u""}, "no name that can be changed");
 }
 
 TEST_F(BadInput, PatternsThatCanNeverGiveAFreeName)

@@ -57,7 +57,7 @@ TEST_F(TransferCommandLinux, InterruptInAFolderFinishesItAndIsReported)
         std::exit(VyrHost::Cli::RunProgram(call));
     };
     EXPECT_EXIT(runInterrupted(), testing::ExitedWithCode(130),
-                "vyr: interrupted; '.*one' is brought to its end first .*\n.*vyr: '.*two' not reached\n$");
+                "vyr: interrupted; '.*one' is finished first .*\n.*vyr: '.*two' not reached\n$");
     EXPECT_EQ(m_folder.ReadFile(u"to/one/a"), "1");
     EXPECT_EQ(m_folder.ReadFile(u"to/one/b/c"), "2");
     EXPECT_FALSE(m_folder.Has(u"one"));

@@ -170,7 +170,8 @@ TEST(Place, NamesTheUsersWhereTheGivenOneIsUnknown)
     EXPECT_THAT(UsersOf(FindPlace({disk.Path(), {}, CString(u"eva")})), ElementsAre(u"Eva"));
     EXPECT_THAT(RefusalOf({disk.Path(), {}, CString(u"Ann")}), HasSubstr("the users of the disk are 'Eva', 'Tom'"));
     disk.WriteHive(u"SOFTWARE", nothing);
-    EXPECT_THAT(RefusalOf({disk.Path(), PlaceKind::Hives, CString(u"Eva")}), HasSubstr("only a disk has users"));
+    EXPECT_THAT(RefusalOf({disk.Path(), PlaceKind::Hives, CString(u"Eva")}),
+                HasSubstr("users can be chosen on a disk"));
 }
 
 TEST(OpenedPlaces, ReportHivesThatCannotBeRead)
@@ -178,9 +179,10 @@ TEST(OpenedPlaces, ReportHivesThatCannotBeRead)
     const WindowsDisk disk;
     disk.WriteSoftware(nothing);
     const std::string whole = BuildHive(nothing).bytes;
-    const std::pair<std::string, std::string> hives[] = {{"", " is empty"},
-                                                         {whole.substr(0, whole.size() / 2), " is cut short"},
-                                                         {std::string(9000, 'x'), " is no registry, or it is damaged"}};
+    const std::pair<std::string, std::string> hives[] = {
+        {"", " is empty"},
+        {whole.substr(0, whole.size() / 2), " is cut short"},
+        {std::string(9000, 'x'), " is not a registry file, or is damaged"}};
     for (const auto& [bytes, words] : hives) {
         const CString path = disk.Folder().WriteFile(u"Users/Eva/NTUSER.DAT", bytes);
         Notes notes;
