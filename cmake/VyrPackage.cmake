@@ -15,13 +15,6 @@ if(NOT WIN32)
   add_custom_command(OUTPUT "${manual}"
     COMMAND gzip -9nc "${PROJECT_SOURCE_DIR}/docs/vyr.1" > "${manual}" DEPENDS docs/vyr.1)
   add_custom_target(VyrManual ALL DEPENDS "${manual}")
-  install(FILES "${manual}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT vyr)
-  install(FILES docs/vyr.bash
-    DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME vyr COMPONENT vyr)
-  install(FILES docs/vyr.fish DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d" COMPONENT vyr)
-  install(FILES docs/_vyr DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions" COMPONENT vyr)
-  # The name under which Debian looks for a package's terms.
-  install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/vyrlibrary" RENAME copyright COMPONENT vyr)
 endif()
 
 # vyr_install_program(COMPONENT [EXCLUDE_FROM_ALL]): the program and what it reads.
@@ -35,6 +28,8 @@ function(vyr_install_program)
   install(FILES "${manual}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT ${ARGV})
   install(FILES docs/vyr.bash
     DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME vyr COMPONENT ${ARGV})
+  install(FILES docs/vyr.fish DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d" COMPONENT ${ARGV})
+  install(FILES docs/_vyr DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions" COMPONENT ${ARGV})
 endfunction()
 vyr_install_program(program)
 vyr_install_program(vyr EXCLUDE_FROM_ALL)
@@ -86,7 +81,7 @@ if(WIN32)
   # The compiler's run-time DLLs, and the terms of all that is not this project's own and is in the package.
   install(FILES ${VYR_RUNTIME_DLLS} DESTINATION "${CMAKE_INSTALL_BINDIR}")
   install(FILES licences/README.txt /usr/share/common-licenses/GPL-3 DESTINATION licences)
-  foreach(package gcc-mingw-w64-x86-64-posix-runtime mingw-w64-common libboost-dev libcli11-dev libpcre2-dev
+  foreach(package gcc-mingw-w64-x86-64-posix-runtime mingw-w64-common libboost-dev libcli11-dev libpcre2-dev libtag1-dev libutfcpp-dev
       libz-mingw-w64-dev)
     install(FILES "/usr/share/doc/${package}/copyright" DESTINATION licences RENAME "${package}.txt")
   endforeach()

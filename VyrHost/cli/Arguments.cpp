@@ -108,33 +108,12 @@ CString FromParser(const std::string& bytes)
     return VyrPlatform::Encoding::FromNameBytes(text);
 }
 
-namespace {
-
-/// How many letters must be added, left out, changed or swapped with their neighbours (each once) to make `left` of
-/// `right`: the optimal string alignment distance.
-std::size_t Distance(std::string_view left, std::string_view right)
+std::string Hint(std::string_view nearest)
 {
-    const std::size_t width = right.size() + 1;
-    std::vector<std::size_t> table((left.size() + 1) * width);
-    const auto at = [&table, width](std::size_t row, std::size_t column) -> std::size_t& {
-        return table[row * width + column];
-    };
-    for (std::size_t row = 0; row <= left.size(); ++row) {
-        for (std::size_t column = 0; column < width; ++column) {
-            if (row == 0 || column == 0) {
-                at(row, column) = row + column;
-                continue;
-            }
-            const bool isSame = left[row - 1] == right[column - 1];
-            std::size_t& cell = at(row, column);
-            cell = std::min(
-                {at(row - 1, column) + 1, at(row, column - 1) + 1, at(row - 1, column - 1) + (isSame ? 0U : 1U)});
-            if (row > 1 && column > 1 && left[row - 1] == right[column - 2] && left[row - 2] == right[column - 1])
-                cell = std::min(cell, at(row - 2, column - 2) + 1);
-        }
-    }
-    return table.back();
+    return nearest.empty() ? std::string() : "; did you mean " + std::string(nearest) + "?";
 }
+
+namespace {
 
 std::string Shown(const std::string& bytes)
 {
@@ -146,7 +125,7 @@ void RefuseUnknownCommand(const CLI::App& program, const Argument& first)
     std::vector<std::string> names;
     for (const CLI::App* const command : program.get_subcommands([](const CLI::App*) { return true; }))
         names.push_back(command->get_name());
-    throw Text::UsageError("there is no command " + Shown(first.bytes) + HintAt(NearestWord(first.bytes, names)) +
+    throw Text::UsageError("there is no command " + Shown(first.bytes) + Hint(Text::NearestWord(first.bytes, names)) +
                            "\nvyr --help lists the commands.");
 }
 
@@ -172,36 +151,13 @@ void RefuseUnknownWords(const CLI::App& program, const CLI::App& command, const 
         for (const CLI::Option* const one : command.get_options())
             for (const std::string& longName : one->get_lnames())
                 known.push_back("--" + longName);
-        const std::string_view nearest = option.starts_with("--") ? NearestWord(option, known) : std::string_view();
+        const std::string_view nearest =
+            option.starts_with("--") ? Text::NearestWord(option, known) : std::string_view();
         throw Text::UsageError(
-            name + " has no option " + Shown(option) + HintAt(nearest) + "\n" +
+            name + " has no option " + Shown(option) + Hint(nearest) + "\n" +
             (ShortHelp(command.get_name()).empty() ? name + " --help" : "vyr help " + command.get_name()) +
             " lists its options.");
     }
-}
-
-std::string_view NearestWord(std::string_view typed, std::span<const std::string> words)
-{
-    std::string_view nearest;
-    // A third of the letters may be wrong; what begins a word is as near as one wrong letter.
-    std::size_t least = std::max<std::size_t>(typed.size() / 3, 1) + 1;
-    for (const std::string& word : words) {
-        // A text may have any length; one that is far too long is not compared.
-        if (typed.size() > 2 * word.size())
-            continue;
-        const bool begins = typed.size() > 1 && word.starts_with(typed);
-        const std::size_t distance = begins ? 1 : Distance(typed, word);
-        if (distance < least) {
-            least = distance;
-            nearest = word;
-        }
-    }
-    return nearest;
-}
-
-std::string HintAt(std::string_view nearest)
-{
-    return nearest.empty() ? std::string() : "; did you mean " + std::string(nearest) + "?";
 }
 
 } // namespace VyrHost::Cli

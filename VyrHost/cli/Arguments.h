@@ -46,11 +46,7 @@ struct Argument
 /// @throws UsageError
 void RefuseUnknownWords(const CLI::App& program, const CLI::App& command, const std::vector<Argument>& arguments);
 
-/// The one of `words` that `typed` was probably meant to be: with few letters added, left out, changed or swapped, or
-/// one that it begins; empty where none is near. Example: "renmae" is "rename".
-[[nodiscard]] std::string_view NearestWord(std::string_view typed, std::span<const std::string> words);
-
 /// The question whether `nearest` was meant, for the end of a message; empty where it is.
-[[nodiscard]] std::string HintAt(std::string_view nearest);
+[[nodiscard]] std::string Hint(std::string_view nearest);
 
 } // namespace VyrHost::Cli

@@ -6,6 +6,7 @@
 #include <VyrHost/cli/HelpTopics.h>
 #include <VyrHost/cli/Messages.h>
 #include <VyrHost/text/Errors.h>
+#include <VyrHost/text/NearestWord.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/ui/Output.h>
 
@@ -82,7 +83,7 @@ std::string HelpCommand::TextOf(const HelpTopic& topic) const
             return option->get_group() == group && option->nonpositional();
         }));
     text.erase(0, text.find_first_not_of('\n'));
-    return text + (text.empty() ? "" : "\n") + topic.text;
+    return text + (text.empty() ? "" : "\n") + topic.text();
 }
 
 void HelpCommand::Refuse() const
@@ -93,7 +94,7 @@ void HelpCommand::Refuse() const
     for (const CLI::App* const command : m_program.get_subcommands([](const CLI::App*) { return true; }))
         words.push_back(command->get_name());
     throw Text::UsageError("there is no topic and no command '" + Text::SafeText(FromParser(*m_topic)) + "'" +
-                           HintAt(NearestWord(*m_topic, words)) + "\nvyr help lists the topics.");
+                           Hint(Text::NearestWord(*m_topic, words)) + "\nvyr help lists the topics.");
 }
 
 } // namespace

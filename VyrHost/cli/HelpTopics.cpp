@@ -2,6 +2,7 @@
 #include <VyrHost/cli/HelpTopics.h>
 
 #include <VyrHost/cli/Help.h>
+#include <VyrHost/cli/TokensTopic.h>
 
 namespace VyrHost::Cli {
 
@@ -12,6 +13,7 @@ constexpr const char* renameHelp =
 Usage: vyr rename RULE... [OPTION...] PATH...
 
 Rules, applied in the order given (vyr help rules):
+  --name TEMPLATE         The whole new name: "<Taken:yyyy> <Model> <##>"
   --number TEMPLATE       A sequence number: "Trip ###", "<Name>-#"
   --date FORMAT           A date of the file: "yyyy-MM-dd <Name>"
   --replace FIND WITH     Put WITH in place of FIND
@@ -25,7 +27,8 @@ Rules, applied in the order given (vyr help rules):
   --extension NEW         Also --extension-case, --drop-extension
   --rules NAME            Kept rules; --save-rules NAME keeps those of a call
 Settings of the rule before them:
-  --start N, --step N     Of --number; --date-from LIST of --date
+  --start N, --step N     Of --number; --date-from LIST of --date,
+                          as --date-shift, --time-zone; --csv-data of --name
   --ignore-case           Of --regex, as --first-only, --nth, --regex-in
 
 Which files (vyr help choosing):
@@ -83,9 +86,7 @@ Examples:
 )~";
 
 constexpr const char* tokensText =
-    R"~(Words in angle brackets stand for what is not the same for every file.
-
-In --number:
+    R"~(In --number:
   ### #             the number; each # is a digit at least
   <Number>          the number, where # is text
   <Name>            the name so far
@@ -95,6 +96,8 @@ In --date:
   <Folder>          ends the name of a folder to move into
 
 Examples:
+  vyr rename --name "<Taken:yyyy-MM-dd> <##:per day>" *.jpg
+        2024-07-19 01.jpg, 2024-07-19 02.jpg, ...
   vyr rename --number "<Name> (#)" --start 10 *.pdf
         letter (10).pdf, list (11).pdf, ...
   vyr rename --date "yyyy<Folder>MM<Folder><Name>" *.jpg
@@ -103,18 +106,25 @@ Examples:
 
 /// docs/date-time-formats.md says the same; a test compares them.
 constexpr const char* datesText =
-    R"~(Letters of --date (text goes in apostrophes):
+    R"~(Letters of --date and of <Taken:FORMAT> (text goes in apostrophes):
   yyyy yy        year              HH H  hour, 0 to 23
   MMMM MMM MM M  month             hh h  hour, 1 to 12
   dd d           day               mm m  minute
   EEEE EEE       day of the week   ss s  second
-                                   a     before or after noon
+  SSS            milliseconds      a     before or after noon
 
 --date-from names the dates to look for, the first that a file has is taken:
   picture   when the picture was taken
+  digitized when it was digitized
+  xmp       the date in its XMP, or in the sidecar beside it
+  video     when the film was made
+  name      the date in the name: IMG_20240105_103000
   modified  the last change (unless given)
   created   when the file was created
   accessed  the last access
+--date-shift moves these dates (+1h, -30m, 1y2mo3d). --time-zone gives the clock
+for dates whose instant is known (UTC, +02:00).
+
 A file without such a date is refused in its row. With --together one date
 serves a raw file, its JPEG and its sidecar.
 
@@ -158,12 +168,23 @@ Exit codes:
   130  interrupted (Ctrl-C)
 )~";
 
+template <const char* const& Text>
+std::string TextOf()
+{
+    return Text;
+}
+
 constexpr HelpTopic topics[] = {
-    {"rules", "the rules of vyr rename, and where entries go", ruleGroups, rulesText},
-    {"tokens", "the words in angle brackets", {}, tokensText},
-    {"dates", "the letters of dates, and where dates come from", {}, datesText},
-    {"choosing", "which files are meant, and their order", choosingGroups, choosingText},
-    {"undo", "what is done and shown, names that are taken, undo", undoGroups, undoText},
+    {"rules", "the rules of vyr rename, and where entries go", ruleGroups, TextOf<rulesText>},
+    {"tokens",
+     "the words in angle brackets",
+     {},
+     [] {
+         return TokensTopic() + tokensText;
+     }},
+    {"dates", "the letters of dates, and where dates come from", {}, TextOf<datesText>},
+    {"choosing", "which files are meant, and their order", choosingGroups, TextOf<choosingText>},
+    {"undo", "what is done and shown, names that are taken, undo", undoGroups, TextOf<undoText>},
 };
 
 } // namespace

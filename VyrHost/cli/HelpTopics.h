@@ -16,7 +16,8 @@ struct HelpTopic
     const char* summary;
     /// The groups of options of "vyr rename" that belong to it; their descriptions stand in front of the text.
     std::span<const char* const> groups;
-    const char* text;
+    /// Makes its text.
+    std::string (*text)();
 };
 
 [[nodiscard]] std::span<const HelpTopic> HelpTopics();

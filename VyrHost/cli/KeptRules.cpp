@@ -2,6 +2,7 @@
 
 #include <VyrHost/cli/Arguments.h>
 #include <VyrHost/text/Errors.h>
+#include <VyrHost/text/NearestWord.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHostPlatform/DurableFile.h>
 #include <VyrHostPlatform/NameRules.h>
@@ -96,7 +97,7 @@ std::string LoadRules(const CString& name)
         for (const CString& one : NamesOfKeptRules())
             known.push_back(VyrPlatform::Encoding::ToNameBytes(one));
         throw Text::UsageError("no rules are kept under the name '" + Text::SafeText(name) + "'" +
-                               HintAt(NearestWord(VyrPlatform::Encoding::ToNameBytes(name), known)) +
+                               Hint(Text::NearestWord(VyrPlatform::Encoding::ToNameBytes(name), known)) +
                                "\nvyr rules lists the names.");
     }
     std::uint32_t error = 0;

@@ -10,7 +10,6 @@
 #include <VyrHost/cli/ReportOptions.h>
 #include <VyrHost/cli/RuleOptions.h>
 #include <VyrHost/cli/SourceOptions.h>
-#include <VyrHost/cli/TokensTopic.h>
 #include <VyrHost/rename/RuleTexts.h>
 #include <VyrHost/rename/TemplateTokens.h>
 #include <VyrHost/text/Errors.h>
@@ -151,7 +150,7 @@ void ConflictOptions::ReadNumbering(Rename::ConflictSettings& settings) const
     numbering.numberFormat = m_pattern ? FromParser(*m_pattern) : CString(u" (?)");
     Rename::RequireNameText(numbering.numberFormat, "--conflict-pattern");
     if (numbering.numberFormat.Find(u"?") < 0)
-        throw Text::UsageError("--conflict-pattern: it has no ? for the number, so it could never give a free name");
+        throw Text::UsageError("--conflict-pattern: it has no ? for the number, so it never gives a free name");
     if (m_digits)
         settings.digits = Rename::ParseDigits(FromParser(*m_digits), "--conflict-digits");
     numbering.position = static_cast<int>(ReadWord<Position>(
@@ -159,7 +158,7 @@ void ConflictOptions::ReadNumbering(Rename::ConflictSettings& settings) const
     numbering.startNumber = ReadNumber(m_start, 1, "--conflict-start");
     numbering.step = ReadNumber(m_step, 1, "--conflict-step");
     if (numbering.step == 0)
-        throw Text::UsageError("--conflict-step: a step of 0 could never give a free name");
+        throw Text::UsageError("--conflict-step: a step of 0 never gives a free name");
 }
 
 RenameCommand::RenameCommand(CLI::App& program)
@@ -231,7 +230,7 @@ int RenameCommand::Run() const
     if (m_conflicts.AskForNumbering() && !mayNumber)
         throw Text::UsageError(
             "--conflict-pattern, -digits, -position, -start and -step say how names are numbered, which is "
-            "not done to names that are given or come of --replace, --case, --extension-case and "
+            "with names that are given, or that --replace, --case, --extension-case and "
             "--drop-extension alone");
     return RunRename(request);
 }

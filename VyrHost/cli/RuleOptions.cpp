@@ -5,9 +5,13 @@
 #include <VyrHost/cli/HelpTopics.h>
 #include <VyrHost/cli/KeptRules.h>
 #include <VyrHost/cli/Options.h>
+#include <VyrHost/metadata/Shift.h>
+#include <VyrHost/rename/CsvData.h>
 #include <VyrHost/rename/OptionLines.h>
 #include <VyrHost/rename/RuleTexts.h>
 #include <VyrHost/text/Errors.h>
+#include <VyrHost/text/Input.h>
+#include <VyrHost/text/NearestWord.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrPlatform/text/Encoding.h>
 
@@ -53,6 +57,8 @@ struct Given
     std::optional<CString> csv = {};
     /// The pattern of the last rule that has one.
     std::optional<Rename::PatternShape> lastPattern = {};
+    Rename::PatternRuleSettings pattern = {};
+    bool hasNamePart = false;
 };
 
 Rename::DateSettings DatesOf(const Given& given)
@@ -304,7 +310,7 @@ std::vector<OptionWords> ReadKept(std::string_view text)
                 known.emplace_back(setting.name);
             Rename::RefuseLine(line.number, "'" + Text::SafeText(line.words.front()) +
                                                 "' is no rule and no setting of one" +
-                                                HintAt(NearestWord(name, known)));
+                                                Hint(Text::NearestWord(name, known)));
         }
         if (line.words.size() != *count + 1)
             Rename::RefuseLine(line.number, name + " takes " + std::to_string(*count) +
@@ -327,11 +333,11 @@ public:
             AddSetting(*setting, words.values.empty() ? CString() : words.values.front());
     }
 
-    std::vector<Given> Finish()
+    std::vector<Given>& Finish()
     {
         for (const auto& [setting, value] : m_early)
             Set(*setting, value, First(*setting));
-        return std::move(m_given);
+        return m_given;
     }
 
 private:
@@ -371,8 +377,13 @@ Rename::Rules MakeRules(const std::vector<OptionWords>& options)
     for (const OptionWords& words : options)
         collector.Add(words);
     Rename::Rules all;
-    for (const Given& given : collector.Finish()) {
+    std::optional<Rename::PatternShape> lastPattern;
+    for (Given& given : collector.Finish()) {
+        given.lastPattern = lastPattern;
         Rename::Rules made = given.option->make(given);
+        for (const auto& rule : made)
+            if (auto pattern = rule->ShapeOfPattern())
+                lastPattern = std::move(pattern);
         std::move(made.begin(), made.end(), std::back_inserter(all));
     }
     return all;

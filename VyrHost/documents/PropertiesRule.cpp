@@ -74,9 +74,11 @@ CString TextOf(const Text::TemplatePart& part, const CString& path, const Model:
     const auto* const token = std::get_if<Text::Token>(&part);
     if (!token)
         return std::get<CString>(part);
-    if (!token->IsBareWord())
-        return token->whole;
-    return token->word == nameWord ? Model::Split(path, entry).name : CString(Model::ParentName(path, 1));
+    if (token->IsBareWord() && token->word == nameWord)
+        return Model::Split(path, entry).name;
+    if (token->IsBareWord() && token->word == parentWord)
+        return Model::ParentName(path, 1);
+    return token->whole;
 }
 
 /// `text` with what its tokens stand for.

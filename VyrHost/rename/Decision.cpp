@@ -37,8 +37,6 @@ std::u16string_view WordsFor(Reason reason)
         return u"it has no date of the kind asked for";
     case Reason::DateOutOfRange:
         return u"its date would leave the calendar's range";
-    case Reason::FileNotRead:
-        return u"it cannot be read";
     case Reason::NoValue:
         return u"it has no value for a token";
     case Reason::PictureNotRead:

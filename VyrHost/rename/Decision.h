@@ -29,8 +29,6 @@ enum class Reason : std::uint8_t
     DateOutOfRange,
     /// The picture whose date or camera was asked for cannot be read; the cause says why.
     PictureNotRead,
-    /// What a token of a template asks of its content cannot be read; the cause says why.
-    FileNotRead,
     /// A token of a template has no value for it; the cause names the token.
     NoValue,
     /// The rules give a folder to move into no name that a folder can have on any system.

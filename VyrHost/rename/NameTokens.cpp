@@ -68,7 +68,7 @@ TokenAnswer Told(const CString& text)
 TokenAnswer ToldByContent(const CString& text, FileValues& values)
 {
     if (text.IsEmpty() && values.ReadError() != 0)
-        return {std::nullopt, Reason::FileNotRead};
+        return {std::nullopt, Reason::ContentNotRead};
     return Told(text);
 }
 

@@ -61,7 +61,7 @@ public:
     /// Whether names that clash under this rule are to be numbered.
     [[nodiscard]] virtual bool MayNumber() const = 0;
     /// The groups of its pattern, for the templates of later rules; nothing for a rule without one.
-    [[nodiscard]] virtual std::optional<PatternShape> Pattern() const { return std::nullopt; }
+    [[nodiscard]] virtual std::optional<PatternShape> ShapeOfPattern() const { return std::nullopt; }
 };
 
 /// What the file at the subject's path tells.

@@ -39,6 +39,10 @@ public:
     }
 
     [[nodiscard]] bool MayNumber() const override { return true; }
+    [[nodiscard]] std::optional<PatternShape> ShapeOfPattern() const override
+    {
+        return PatternShape{m_pattern.GroupCount(), m_pattern.GroupNames()};
+    }
 
 private:
     [[nodiscard]] CString TextOf(const Subject& subject) const
