@@ -1,5 +1,4 @@
 # What is installed, for whom, and the packages that are made of it.
-include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 # The components "program", "libraries" and "development" are everything, and a package each on Debian. The component "vyr"

@@ -43,7 +43,7 @@ add_executable(host host.c)
 target_link_libraries(host PRIVATE Vyr::C)
 END
     cmake -G Ninja -S "$folder" -B "$folder/build" -DVyrLibrary_DIR="$prefix/lib/cmake/VyrLibrary" "$@" >/dev/null
-    cmake --build "$folder/build" >/dev/null
+    cmake --build "$folder/build"
 }
 
 # make_files FOLDER: what the host is to preview.
