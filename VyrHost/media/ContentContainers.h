@@ -31,7 +31,7 @@ namespace VyrHost::Media {
 /// Matroska, by the type of its head: WebM is one.
 [[nodiscard]] std::u16string_view KindOfMatroska(const VyrLibraryUtils::Pictures::ByteView& file);
 
-/// ASF: films have a stream of pictures. Source: the Advanced Systems Format Specification, section 3.3.
+/// ASF: films have a stream of pictures. Source: Microsoft, Advanced Systems Format, section 3.3.
 [[nodiscard]] std::u16string_view KindOfAsf(const VyrLibraryUtils::Pictures::ByteView& file);
 
 /// TIFF, and raw pictures in the same form.

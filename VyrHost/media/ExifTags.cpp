@@ -128,7 +128,7 @@ struct XmpRow
     std::string_view property;
 };
 
-/// Sources: XMP Specification Part 1, section 8.3 to 8.4, and Part 2; the IPTC Photo Metadata Standard.
+/// Sources: ISO 16684-1, sections 8.3 and 8.4; Adobe, XMP additional properties; the IPTC Photo Metadata Standard.
 constexpr XmpRow xmpRows[] = {
     {u"Title", XmpSpace::dublinCore, "title"},      {u"Description", XmpSpace::dublinCore, "description"},
     {u"Creator", XmpSpace::dublinCore, "creator"},  {u"Subject", XmpSpace::dublinCore, "subject"},

@@ -135,8 +135,8 @@ void ReadExtension(const ByteView& extension, std::uint32_t unitsPerSecond, Movi
     movie.duration = Milliseconds(cursor.Unsigned(TakeIsLong(cursor) ? 8 : 4), unitsPerSecond);
 }
 
-/// The title that QuickTime keeps among the user's data: a length, a language, the text. Source: QuickTime File Format
-/// Specification, "User Data Text Strings".
+/// The title that QuickTime keeps among the user's data: a length, a language, the text. Source: Apple, QuickTime File
+/// Format, "User Data Text Strings".
 std::string TitleIn(const ByteView& userData)
 {
     constexpr std::uint32_t name = 0xA96E616D;

@@ -39,8 +39,8 @@ struct Movie
 /// Matroska and WebM. Source: RFC 9559, sections 5.1.2 and 5.1.4; RFC 8794.
 [[nodiscard]] Movie ReadMatroska(const VyrLibraryUtils::Pictures::ByteView& file);
 
-/// AVI. Its date is the local one of its chunk IDIT, else a whole date in ICRD. Source: the RIFF MCI specification
-/// of 1991; OpenDML AVI file format extensions 1.02.
+/// AVI. Its date is the local one of its chunk IDIT, else a whole date in ICRD. Sources: the RIFF
+/// documents of Microsoft and IBM, 1991; OpenDML AVI file format extensions 1.02.
 [[nodiscard]] Movie ReadAvi(const VyrLibraryUtils::Pictures::ByteView& file);
 
 } // namespace VyrHost::Media

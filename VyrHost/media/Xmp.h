@@ -19,7 +19,7 @@ inline constexpr std::string_view auxiliary = "http://ns.adobe.com/exif/1.0/aux/
 /// The value of the property `name` of the namespace `space`, in UTF-8: an attribute, or the text of an element. The
 /// items of a list are joined by ", "; of a text in several languages the first counts, which is the default. Empty
 /// where the packet lacks it. At most 200 items count. A packet that is cut off or is not well-formed gives what is
-/// before that place. Source: XMP Specification Part 1, section 7.
+/// before that place. Source: ISO 16684-1, section 7.
 [[nodiscard]] std::string XmpProperty(std::string_view packet, std::string_view space, std::string_view name);
 
 } // namespace VyrHost::Media

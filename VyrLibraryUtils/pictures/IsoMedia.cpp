@@ -12,7 +12,7 @@
 namespace VyrLibraryUtils::Pictures {
 namespace {
 
-/// The identifier of boxes that hold a packet of XMP. Source: XMP Specification Part 3, section 1.2.7.1.
+/// The identifier of boxes that hold a packet of XMP. Source: Adobe, XMP storage in files, section 1.2.7.1.
 constexpr std::string_view xmpUuid("\xBE\x7A\xCF\xCB\x97\xA9\x42\xE8\x9C\x71\x99\x94\x91\xE3\xAF\xAC", 16);
 
 /// A version and flags come first in many boxes.

@@ -7,7 +7,7 @@
 namespace VyrLibraryUtils::Pictures {
 
 /// What is asked of a picture: a tag's number, and in the bits above it where the tag stands. Source: Exif 2.32,
-/// sections 4.6.4 to 4.6.6 and 4.5.7; XMP Specification Part 3, section 3.
+/// sections 4.6.4 to 4.6.6 and 4.5.7; Adobe, XMP storage in files, section 3.
 enum class PictureTag : std::uint32_t
 {
     Make = 0x010F,              ///< of the first directory
