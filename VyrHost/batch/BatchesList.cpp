@@ -81,7 +81,7 @@ bool LiesIn(const CString& path, const FileState& folder)
 Model::ResultPath PathOf(const CString& path)
 {
     const std::u16string_view folder = Model::FolderPart(path);
-    return {folder, folder, path.View().substr(folder.size())};
+    return {folder, folder, Model::NamePart(path)};
 }
 
 } // namespace

@@ -44,7 +44,7 @@ bool IsPlain(std::u16string_view path, std::u16string_view name)
 
 std::u16string_view LastStep(std::u16string_view path)
 {
-    const std::u16string_view step = path.substr(Model::FolderPart(path).size());
+    const std::u16string_view step = Model::NamePart(path);
     const std::size_t drive = IsSeparator(u'\\') ? step.find(u':') : std::u16string_view::npos;
     return drive == std::u16string_view::npos ? step : step.substr(drive + 1);
 }
@@ -62,11 +62,9 @@ bool LeadsUp(std::u16string_view path)
 
 CutPath Cut(const CString& path)
 {
-    const std::u16string_view text = path;
-    const std::u16string_view before = Model::FolderPart(text);
-    const std::u16string_view name = text.substr(before.size());
-    if (IsPlain(text, name))
-        return {before, name};
+    const std::u16string_view name = Model::NamePart(path);
+    if (IsPlain(path, name))
+        return {Model::FolderPart(path), name};
     const CString full = VyrPlatform::GetFullPath(path);
     const CString folder = FileUtils::GetSplitDirPath(full);
     return {folder, full.Mid(folder.GetLength())};

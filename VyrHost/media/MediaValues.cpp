@@ -7,9 +7,9 @@
 #include <VyrHost/media/OpenFile.h>
 #include <VyrHost/media/PictureDates.h>
 #include <VyrHost/media/Texts.h>
+#include <VyrHost/model/FolderSet.h>
 #include <VyrLibraryUtils/pictures/Picture.h>
 #include <VyrLibraryUtils/pictures/PictureSize.h>
-#include <VyrPlatform/files/FileSystem.h>
 
 #include <algorithm>
 #include <charconv>
@@ -37,12 +37,11 @@ std::string PacketIn(Pictures::ByteSource& source)
 std::string PacketBeside(const CString& path)
 {
     const std::u16string_view whole = path;
-    const auto separator = std::find_if(whole.rbegin(), whole.rend(), VyrPlatform::FileSystem::IsSeparator);
-    const auto nameAt = static_cast<std::size_t>(separator.base() - whole.begin());
-    const std::size_t dot = whole.rfind(u'.');
-    const bool hasExtension = dot != std::u16string_view::npos && dot > nameAt;
-    for (const std::u16string_view stem : {whole, hasExtension ? whole.substr(0, dot) : whole}) {
-        OpenFile sidecar(CString::Join({stem, u".xmp"}));
+    const std::size_t dot = Model::NamePart(whole).rfind(u'.');
+    const bool hasExtension = dot != std::u16string_view::npos && dot > 0;
+    const std::u16string_view stem = hasExtension ? whole.substr(0, Model::FolderPart(whole).size() + dot) : whole;
+    for (const std::u16string_view before : {whole, stem}) {
+        OpenFile sidecar(CString::Join({before, u".xmp"}));
         if (sidecar.IsOpen() && IsPacket(Pictures::ByteView(sidecar.Source())))
             return PacketIn(sidecar.Source());
     }

@@ -28,6 +28,11 @@ std::u16string_view FolderPart(std::u16string_view path)
     return path.substr(0, static_cast<std::size_t>(path.rend() - behind));
 }
 
+std::u16string_view NamePart(std::u16string_view path)
+{
+    return path.substr(FolderPart(path).size());
+}
+
 std::u16string_view ParentName(std::u16string_view path, int level)
 {
     for (std::u16string_view folder = FolderPart(path); !folder.empty(); --level) {

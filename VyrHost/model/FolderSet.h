@@ -19,6 +19,9 @@ namespace VyrHost::Model {
 /// All of `path` up to its last separator, which is part of it; empty when there is none. The text alone counts.
 [[nodiscard]] std::u16string_view FolderPart(std::u16string_view path);
 
+/// What follows that folder in `path`: the name. All of it when there is no separator.
+[[nodiscard]] std::u16string_view NamePart(std::u16string_view path);
+
 /// The name of the folder that `path` (absolute) is in; with a `level` above 1 that of the folder so many levels above
 /// it. Empty where that is a root, or there is none.
 [[nodiscard]] std::u16string_view ParentName(std::u16string_view path, int level);

@@ -62,7 +62,7 @@ CString CsvData::Find(const CString& path, std::size_t column) const
 {
     auto line = m_lines.find(Text::Composed(path));
     if (line == m_lines.end())
-        line = m_lines.find(Text::Composed(path.View().substr(Model::FolderPart(path).size())));
+        line = m_lines.find(Text::Composed(Model::NamePart(path)));
     return line == m_lines.end() ? CString() : FromNameBytes(line->second[column]);
 }
 

@@ -1,6 +1,7 @@
 // Counts what a plan leaves in folders, and removes those where nothing is left.
 #include <VyrHost/rename/EmptiedFolders.h>
 
+#include <VyrHost/model/FolderSet.h>
 #include <VyrHostPlatform/FolderState.h>
 #include <VyrHostPlatform/RenameFile.h>
 #include <VyrPlatform/files/FileIdentity.h>
@@ -37,34 +38,16 @@ Model::ChangeLook FolderRemoval::Look(const CString& path) const
     }
 }
 
-namespace {
-
-/// A folder by the one that it stands in.
-struct CutPath
-{
-    CString folder;
-    std::u16string_view name;
-};
-
-CutPath Cut(const CString& path)
-{
-    const std::u16string_view folder = Model::FolderPart(path);
-    return {folder, path.View().substr(folder.size())};
-}
-
-} // namespace
-
 std::uint32_t FolderRemoval::Apply(const CString& path) const
 {
-    const auto [parent, name] = Cut(path);
-    const VyrHostPlatform::OpenFolder folder(parent);
-    return folder.IsOpen() ? folder.RemoveEmptyFolder(name) : folder.Error();
+    const VyrHostPlatform::OpenFolder folder(Model::FolderPart(path));
+    return folder.IsOpen() ? folder.RemoveEmptyFolder(Model::NamePart(path)) : folder.Error();
 }
 
 std::uint32_t FolderRemoval::TakeBack(const CString& path) const
 {
-    const auto [parent, name] = Cut(path);
-    const VyrHostPlatform::OpenFolder folder(parent);
+    const std::u16string_view name = Model::NamePart(path);
+    const VyrHostPlatform::OpenFolder folder(Model::FolderPart(path));
     if (!folder.IsOpen())
         return folder.Error();
     // One that is there was made when the work was cut off.

@@ -161,7 +161,7 @@ WantedName NameFor(const Model::Folder& now, const CString& given)
     const CString full = VyrPlatform::GetFullPath(given);
     wanted.folder = FileUtils::GetSplitDirPath(full);
     wanted.shownFolder = folder;
-    wanted.name = given.View().substr(folder.size());
+    wanted.name = Model::NamePart(given);
     if (wanted.name.IsEmpty())
         wanted.reason = Reason::EmptyName;
     return wanted;
