@@ -1,8 +1,6 @@
 /// @file
-/// The dates of an entry that a rule may take, and whether its picture can be asked for them.
+/// The dates of an entry that a rule may take.
 #pragma once
-
-#include <VyrPlatform/text/CString.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -56,9 +54,5 @@ private:
 
     std::uint8_t m_bits = 0;
 };
-
-/// Why the file at `path` cannot be read (the system's code): no permission, a bad sector at its beginning. 0 where it
-/// can be read, and for folders, pipes and devices, which are no pictures.
-[[nodiscard]] std::uint32_t PictureReadError(const CString& path);
 
 } // namespace VyrHost::Model

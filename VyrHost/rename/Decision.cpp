@@ -1,7 +1,7 @@
 // The words for decisions, and the results made of them.
 #include <VyrHost/rename/Decision.h>
 
-#include <VyrHost/model/DateSource.h>
+#include <VyrHost/media/MediaValues.h>
 #include <VyrHost/text/Errors.h>
 
 #include <utility>
@@ -129,7 +129,7 @@ std::uint32_t RenameResults::CauseOf(std::uint32_t entry) const
     if (decision.reason == Reason::FolderNotRead)
         return m_list.folders[decision.folder].error;
     if (decision.reason == Reason::PictureNotRead || decision.reason == Reason::ContentNotRead)
-        return Model::PictureReadError(m_list.PathOf(m_list.entries[entry]));
+        return Media::ReadMedia(m_list.PathOf(m_list.entries[entry]), {}).error;
     return 0;
 }
 

@@ -81,8 +81,7 @@ std::optional<FileMoment> MomentOf(const std::optional<Media::PictureDate>& date
 std::optional<FileMoment> DateInName(const CString& path)
 {
     Metadata::NameDateProblem problem = Metadata::NameDateProblem::None;
-    const std::u16string_view name = path.View().substr(Model::FolderPart(path).size());
-    const auto found = Metadata::FindNameDate(name, problem);
+    const auto found = Metadata::FindNameDate(Model::NamePart(path), problem);
     return found ? std::optional(FileMoment{found->value}) : std::nullopt;
 }
 
@@ -231,9 +230,7 @@ const CString& FileValues::Hash()
 
 std::uint32_t FileValues::ReadError()
 {
-    if (!m_readError)
-        m_readError = Model::PictureReadError(m_path);
-    return *m_readError;
+    return Content({}).error;
 }
 
 } // namespace VyrHost::Rename

@@ -82,7 +82,6 @@ private:
     std::optional<CString> m_make;
     std::optional<CString> m_model;
     std::optional<CString> m_hash;
-    std::optional<std::uint32_t> m_readError;
 };
 
 /// `text` as a part of a name that every system allows: what Windows forbids becomes "_", blanks around it go.
