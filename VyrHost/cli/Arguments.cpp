@@ -108,11 +108,6 @@ CString FromParser(const std::string& bytes)
     return VyrPlatform::Encoding::FromNameBytes(text);
 }
 
-std::string Hint(std::string_view nearest)
-{
-    return nearest.empty() ? std::string() : "; did you mean " + std::string(nearest) + "?";
-}
-
 namespace {
 
 std::string Shown(const std::string& bytes)
@@ -125,7 +120,7 @@ void RefuseUnknownCommand(const CLI::App& program, const Argument& first)
     std::vector<std::string> names;
     for (const CLI::App* const command : program.get_subcommands([](const CLI::App*) { return true; }))
         names.push_back(command->get_name());
-    throw Text::UsageError("there is no command " + Shown(first.bytes) + Hint(Text::NearestWord(first.bytes, names)) +
+    throw Text::UsageError("there is no command " + Shown(first.bytes) + Text::Hint(first.bytes, names) +
                            "\nvyr --help lists the commands.");
 }
 
@@ -151,10 +146,9 @@ void RefuseUnknownWords(const CLI::App& program, const CLI::App& command, const 
         for (const CLI::Option* const one : command.get_options())
             for (const std::string& longName : one->get_lnames())
                 known.push_back("--" + longName);
-        const std::string_view nearest =
-            option.starts_with("--") ? Text::NearestWord(option, known) : std::string_view();
         throw Text::UsageError(
-            name + " has no option " + Shown(option) + Hint(nearest) + "\n" +
+            name + " has no option " + Shown(option) +
+            (option.starts_with("--") ? Text::Hint(option, known) : std::string()) + "\n" +
             (ShortHelp(command.get_name()).empty() ? name + " --help" : "vyr help " + command.get_name()) +
             " lists its options.");
     }

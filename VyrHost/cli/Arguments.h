@@ -46,7 +46,4 @@ struct Argument
 /// @throws UsageError
 void RefuseUnknownWords(const CLI::App& program, const CLI::App& command, const std::vector<Argument>& arguments);
 
-/// The question whether `nearest` was meant, for the end of a message; empty where it is.
-[[nodiscard]] std::string Hint(std::string_view nearest);
-
 } // namespace VyrHost::Cli

@@ -83,7 +83,8 @@ std::string HelpCommand::TextOf(const HelpTopic& topic) const
             return option->get_group() == group && option->nonpositional();
         }));
     text.erase(0, text.find_first_not_of('\n'));
-    return text + (text.empty() ? "" : "\n") + topic.text();
+    text += text.empty() ? "" : "\n";
+    return text + (topic.table ? topic.table() : std::string()) + topic.text;
 }
 
 void HelpCommand::Refuse() const
@@ -94,7 +95,7 @@ void HelpCommand::Refuse() const
     for (const CLI::App* const command : m_program.get_subcommands([](const CLI::App*) { return true; }))
         words.push_back(command->get_name());
     throw Text::UsageError("there is no topic and no command '" + Text::SafeText(FromParser(*m_topic)) + "'" +
-                           Hint(Text::NearestWord(*m_topic, words)) + "\nvyr help lists the topics.");
+                           Text::Hint(*m_topic, words) + "\nvyr help lists the topics.");
 }
 
 } // namespace

@@ -168,23 +168,12 @@ Exit codes:
   130  interrupted (Ctrl-C)
 )~";
 
-template <const char* const& Text>
-std::string TextOf()
-{
-    return Text;
-}
-
 constexpr HelpTopic topics[] = {
-    {"rules", "the rules of vyr rename, and where entries go", ruleGroups, TextOf<rulesText>},
-    {"tokens",
-     "the words in angle brackets",
-     {},
-     [] {
-         return TokensTopic() + tokensText;
-     }},
-    {"dates", "the letters of dates, and where dates come from", {}, TextOf<datesText>},
-    {"choosing", "which files are meant, and their order", choosingGroups, TextOf<choosingText>},
-    {"undo", "what is done and shown, names that are taken, undo", undoGroups, TextOf<undoText>},
+    {"rules", "the rules of vyr rename, and where entries go", ruleGroups, rulesText},
+    {"tokens", "the words in angle brackets", {}, tokensText, TokensTopic},
+    {"dates", "the letters of dates, and where dates come from", {}, datesText},
+    {"choosing", "which files are meant, and their order", choosingGroups, choosingText},
+    {"undo", "what is done and shown, names that are taken, undo", undoGroups, undoText},
 };
 
 } // namespace

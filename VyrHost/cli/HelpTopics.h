@@ -16,8 +16,9 @@ struct HelpTopic
     const char* summary;
     /// The groups of options of "vyr rename" that belong to it; their descriptions stand in front of the text.
     std::span<const char* const> groups;
-    /// Makes its text.
-    std::string (*text)();
+    const char* text;
+    /// Makes the table in front of the text; null for a topic without one.
+    std::string (*table)() = nullptr;
 };
 
 [[nodiscard]] std::span<const HelpTopic> HelpTopics();

@@ -97,7 +97,7 @@ std::string LoadRules(const CString& name)
         for (const CString& one : NamesOfKeptRules())
             known.push_back(VyrPlatform::Encoding::ToNameBytes(one));
         throw Text::UsageError("no rules are kept under the name '" + Text::SafeText(name) + "'" +
-                               Hint(Text::NearestWord(VyrPlatform::Encoding::ToNameBytes(name), known)) +
+                               Text::Hint(VyrPlatform::Encoding::ToNameBytes(name), known) +
                                "\nvyr rules lists the names.");
     }
     std::uint32_t error = 0;

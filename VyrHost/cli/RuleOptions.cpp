@@ -309,8 +309,7 @@ std::vector<OptionWords> ReadKept(std::string_view text)
             for (const SettingOption& setting : settingOptions)
                 known.emplace_back(setting.name);
             Rename::RefuseLine(line.number, "'" + Text::SafeText(line.words.front()) +
-                                                "' is no rule and no setting of one" +
-                                                Hint(Text::NearestWord(name, known)));
+                                                "' is no rule and no setting of one" + Text::Hint(name, known));
         }
         if (line.words.size() != *count + 1)
             Rename::RefuseLine(line.number, name + " takes " + std::to_string(*count) +

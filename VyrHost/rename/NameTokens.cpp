@@ -147,9 +147,8 @@ TokenReader MakeExif(const Making& making)
         std::vector<std::string> known;
         for (const std::u16string_view one : Media::ExifTagNames())
             known.push_back(ToUtf8(one));
-        const std::string_view nearest = Text::NearestWord(ToUtf8(name), known);
         making.Refuse("the name of a tag is expected behind a colon, such as LensModel" +
-                      (nearest.empty() ? std::string() : "; did you mean <Exif:" + std::string(nearest) + ">?"));
+                      Text::Hint(ToUtf8(name), known, "<Exif:", ">"));
     }
     Media::MediaQuestion question;
     question.exif.set(static_cast<std::size_t>(*tag));
@@ -308,11 +307,9 @@ TokenReader MakeCsv(const Making& making)
         making.Refuse("the name of a column is expected behind a colon");
     const CsvData& csv = *making.settings.csv;
     const auto column = csv.FindColumn(*making.token.option);
-    if (!column) {
-        const std::string_view nearest = Text::NearestWord(ToUtf8(*making.token.option), csv.Columns());
+    if (!column)
         making.Refuse("the CSV data have no such column" +
-                      (nearest.empty() ? std::string() : "; did you mean <Csv:" + std::string(nearest) + ">?"));
-    }
+                      Text::Hint(ToUtf8(*making.token.option), csv.Columns(), "<Csv:", ">"));
     return [data = making.settings.csv, column = *column](Subject& subject) {
         return Told(AsNamePart(data->Find(subject.path, column)));
     };

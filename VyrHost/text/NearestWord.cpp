@@ -56,4 +56,12 @@ std::string_view NearestWord(std::string_view typed, std::span<const std::string
     return nearest;
 }
 
+std::string Hint(std::string_view typed, std::span<const std::string> words, std::string_view before,
+                 std::string_view behind)
+{
+    const std::string_view nearest = NearestWord(typed, words);
+    return nearest.empty() ? std::string()
+                           : "; did you mean " + std::string(before) + std::string(nearest) + std::string(behind) + "?";
+}
+
 } // namespace VyrHost::Text

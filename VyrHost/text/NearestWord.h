@@ -12,4 +12,9 @@ namespace VyrHost::Text {
 /// one that it begins; empty where none is near. Example: "renmae" is "rename".
 [[nodiscard]] std::string_view NearestWord(std::string_view typed, std::span<const std::string> words);
 
+/// "; did you mean rename?" for that word, in `before` and `behind`; empty where none is near. Example: with "<" and
+/// ">" it is "; did you mean <Name>?".
+[[nodiscard]] std::string Hint(std::string_view typed, std::span<const std::string> words, std::string_view before = {},
+                               std::string_view behind = {});
+
 } // namespace VyrHost::Text

@@ -97,8 +97,7 @@ std::vector<TemplatePart> CutTemplate(std::u16string_view text)
 
 std::string TokenHint(const Token& token, const std::vector<std::string>& words)
 {
-    const std::string_view nearest = NearestWord(VyrPlatform::Encoding::ToUtf8(token.word), words);
-    return nearest.empty() ? std::string() : "; did you mean <" + std::string(nearest) + ">?";
+    return Hint(VyrPlatform::Encoding::ToUtf8(token.word), words, "<", ">");
 }
 
 } // namespace VyrHost::Text
