@@ -2,6 +2,7 @@
 #include <VyrHost/rename/Rule.h>
 
 #include <VyrHost/rename/TemplateTokens.h>
+#include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FileSystem.h>
 
 #include <algorithm>
@@ -11,6 +12,12 @@
 namespace VyrHost::Rename {
 
 using VyrLibraryFuncs::NameFuncs;
+
+void SetWholeName(Subject& subject, const CString& whole)
+{
+    subject.extension = subject.isFolder ? CString() : VyrLibraryUtils::FileUtils::GetSplitExtension(whole, 1);
+    subject.name = whole.Left(whole.GetLength() - subject.extension.GetLength());
+}
 
 NameFuncs::ITEM NewItem(NameFuncs::RenameType kind)
 {

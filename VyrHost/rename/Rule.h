@@ -15,6 +15,7 @@
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace VyrHost::Rename {
@@ -70,7 +71,22 @@ public:
 /// Moves the subject into the folder `name` of the folder that it is in; none is called "", "." or "..".
 [[nodiscard]] Reason StepDown(Subject& subject, const CString& name);
 
+/// The longest text that a rule makes for a name, in code units; more than any of the systems takes.
+inline constexpr int longestText = 32'767;
+
+/// Makes `whole` the subject's name and extension. A folder has no extension.
+void SetWholeName(Subject& subject, const CString& whole);
+
 using Rules = std::vector<std::unique_ptr<Rule>>;
+
+/// A single rule of the class `Made`, made of `arguments`.
+template <typename Made, typename... Arguments>
+[[nodiscard]] Rules OneRule(Arguments&&... arguments)
+{
+    Rules rules;
+    rules.push_back(std::make_unique<Made>(std::forward<Arguments>(arguments)...));
+    return rules;
+}
 
 /// A record of the engine for `kind` without any settings yet.
 [[nodiscard]] VyrLibraryFuncs::NameFuncs::ITEM NewItem(VyrLibraryFuncs::NameFuncs::RenameType kind);

@@ -35,9 +35,7 @@ public:
 
 Rules ContentExtensionRules()
 {
-    Rules rules;
-    rules.push_back(std::make_unique<ContentExtensionRule>());
-    return rules;
+    return OneRule<ContentExtensionRule>();
 }
 
 } // namespace VyrHost::Rename

@@ -17,13 +17,6 @@ using VyrLibraryFuncs::NameFuncs;
 
 using Edit = NameFuncs::AddDeleteType;
 
-Rules One(NameFuncs::ITEM item)
-{
-    Rules rules;
-    rules.push_back(std::make_unique<EngineRule>(std::move(item)));
-    return rules;
-}
-
 /// Finds the text whatever normal form the name is written in.
 class ReplaceRule final : public EngineRule
 {
@@ -58,20 +51,14 @@ public:
     }
 };
 
-Rules Placed(NameFuncs::ITEM item)
-{
-    Rules rules;
-    rules.push_back(std::make_unique<PlacedRule>(std::move(item)));
-    return rules;
-}
-
 Rules DeleteRule(Edit type, int position, int count)
 {
     NameFuncs::ITEM item = NewItem(NameFuncs::RenameType::AddDelete);
     item.addDeleteType = static_cast<int>(type);
     item.position = position;
     item.deleteCount = count;
-    return type == Edit::KeepFirst || type == Edit::KeepLast ? One(std::move(item)) : Placed(std::move(item));
+    return type == Edit::KeepFirst || type == Edit::KeepLast ? OneRule<EngineRule>(std::move(item))
+                                                             : OneRule<PlacedRule>(std::move(item));
 }
 
 Rules InsertRule(Edit type, int position, const CString& text, const char* option)
@@ -79,7 +66,7 @@ Rules InsertRule(Edit type, int position, const CString& text, const char* optio
     RequireNameText(text, option);
     if (text.IsEmpty())
         throw Text::UsageError(std::string(option) + ": the text to insert is empty");
-    return Placed(InsertItem(type, position, text));
+    return OneRule<PlacedRule>(InsertItem(type, position, text));
 }
 
 /// A place in a name, counted from its start or, with a minus sign, from its end; and what stands behind the colon.
@@ -109,7 +96,7 @@ Rules CaseRule(NameFuncs::ConvertType type)
 {
     NameFuncs::ITEM item = NewItem(NameFuncs::RenameType::Convert);
     item.convertType = static_cast<int>(type);
-    return One(std::move(item));
+    return OneRule<EngineRule>(std::move(item));
 }
 
 Rules ExtensionRule(int type, const CString& newExtension = {})
@@ -117,7 +104,7 @@ Rules ExtensionRule(int type, const CString& newExtension = {})
     NameFuncs::ITEM item = NewItem(NameFuncs::RenameType::Extension);
     item.extensionType = type;
     item.newExtension = newExtension;
-    return One(std::move(item));
+    return OneRule<EngineRule>(std::move(item));
 }
 
 Rules ExtensionRule(NameFuncs::ExtensionType type, const CString& newExtension = {})
@@ -196,9 +183,7 @@ Rules ReplaceRules(const CString& find, const CString& replacement)
     NameFuncs::ITEM item = NewItem(NameFuncs::RenameType::Replace);
     item.findText = find;
     item.replaceText = replacement;
-    Rules rules;
-    rules.push_back(std::make_unique<ReplaceRule>(std::move(item)));
-    return rules;
+    return OneRule<ReplaceRule>(std::move(item));
 }
 
 Rules ExtensionRules(const CString& text)

@@ -3,7 +3,6 @@
 
 #include <VyrHost/rename/Pattern.h>
 #include <VyrHost/text/Errors.h>
-#include <VyrLibraryUtils/FileUtils.h>
 
 #include <optional>
 #include <string>
@@ -12,9 +11,6 @@
 namespace VyrHost::Rename {
 
 namespace {
-
-/// In code units; more than any of the systems takes.
-constexpr std::size_t longestName = 32'767;
 
 class PatternRule final : public Rule
 {
@@ -60,14 +56,12 @@ private:
 
     void PutBack(Subject& subject, const CString& text) const
     {
-        using VyrLibraryUtils::FileUtils;
         switch (m_settings.part) {
         case NamePart::Extension:
             subject.extension = text.IsEmpty() ? CString() : u"." + text;
             break;
         case NamePart::All:
-            subject.extension = subject.isFolder ? CString() : FileUtils::GetSplitExtension(text, 1);
-            subject.name = text.Left(text.GetLength() - subject.extension.GetLength());
+            SetWholeName(subject, text);
             break;
         case NamePart::Name:
             subject.name = text;
@@ -122,7 +116,7 @@ private:
             m_made += units.substr(copied, m_pattern.Groups().front().begin - copied);
             m_replacement.AppendTo(m_made, subject.groups);
             copied = start;
-            if (m_made.size() > longestName)
+            if (m_made.size() > std::size_t{longestText})
                 return Reason::TooLong;
         }
         if (result == Pattern::Result::GaveUp)
@@ -150,9 +144,7 @@ Rules PatternRules(const CString& find, const CString& replacement, const Patter
 {
     if (find.IsEmpty())
         throw Text::UsageError("--regex: there is no pattern to look for");
-    Rules rules;
-    rules.push_back(std::make_unique<PatternRule>(find, replacement, settings));
-    return rules;
+    return OneRule<PatternRule>(find, replacement, settings);
 }
 
 int ParseNth(const CString& text)

@@ -16,7 +16,7 @@ class TextRule final : public Rule
 public:
     using Change = std::function<CString(const CString& name)>;
 
-    TextRule(Change change, bool mayNumber) : m_change(std::move(change)), m_mayNumber(mayNumber) {}
+    explicit TextRule(Change change, bool mayNumber = true) : m_change(std::move(change)), m_mayNumber(mayNumber) {}
 
     Reason Apply(Subject& subject) override
     {
@@ -31,23 +31,16 @@ private:
     bool m_mayNumber;
 };
 
-Rules Changing(TextRule::Change change, bool mayNumber = true)
-{
-    Rules rules;
-    rules.push_back(std::make_unique<TextRule>(std::move(change), mayNumber));
-    return rules;
-}
-
 } // namespace
 
 Rules TitleCaseRules(TitleStyle style)
 {
-    return Changing([style](const CString& name) { return TitleCase(name, style); }, false);
+    return OneRule<TextRule>([style](const CString& name) { return TitleCase(name, style); }, false);
 }
 
 Rules SentenceCaseRules()
 {
-    return Changing(SentenceCase, false);
+    return OneRule<TextRule>(SentenceCase, false);
 }
 
 Rules PadRules(const CString& text)
@@ -61,22 +54,22 @@ Rules PadRules(const CString& text)
         which = WhichNumbers::Last;
     const bool hasWord = which != WhichNumbers::All;
     const int width = ParseDigits(hasWord ? text.Mid(colon + 1) : text, "--pad");
-    return Changing([width, which](const CString& name) { return PadNumbers(name, width, which); });
+    return OneRule<TextRule>([width, which](const CString& name) { return PadNumbers(name, width, which); });
 }
 
 Rules AsciiRules()
 {
-    return Changing(Text::SpellOutLatin);
+    return OneRule<TextRule>(Text::SpellOutLatin);
 }
 
 Rules TrimRules()
 {
-    return Changing(TrimBlanks);
+    return OneRule<TextRule>(TrimBlanks);
 }
 
 Rules CollapseRules()
 {
-    return Changing(CollapseBlanks);
+    return OneRule<TextRule>(CollapseBlanks);
 }
 
 } // namespace VyrHost::Rename

@@ -5,7 +5,6 @@
 #include <VyrHost/rename/TemplateTokens.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
-#include <VyrLibraryUtils/FileUtils.h>
 
 #include <algorithm>
 #include <string>
@@ -14,9 +13,6 @@
 namespace VyrHost::Rename {
 
 namespace {
-
-/// In code units; more than any of the systems takes.
-constexpr int longestName = 32'767;
 
 [[noreturn]] void Refuse(std::u16string_view text, const std::string& reason)
 {
@@ -50,19 +46,11 @@ Reason Change(const std::vector<TextChange>& changes, CString& text)
 {
     for (const TextChange& change : changes) {
         // A change may double what it gets.
-        if (text.GetLength() > longestName)
+        if (text.GetLength() > longestText)
             return Reason::TooLong;
         text = change(text);
     }
     return Reason::None;
-}
-
-/// Moves the extension out of the name.
-void SplitExtension(Subject& subject)
-{
-    const CString whole = subject.name;
-    subject.extension = subject.isFolder ? CString() : VyrLibraryUtils::FileUtils::GetSplitExtension(whole, 1);
-    subject.name = whole.Left(whole.GetLength() - subject.extension.GetLength());
 }
 
 CString DayOf(const FileMoment& moment)
@@ -130,9 +118,7 @@ void TemplateRule::RequireSense(std::u16string_view text) const
 
 Rules NameRules(const CString& text, const TemplateSettings& settings)
 {
-    Rules rules;
-    rules.push_back(std::make_unique<TemplateRule>(text, settings));
-    return rules;
+    return OneRule<TemplateRule>(text, settings);
 }
 
 Reason TemplateRule::Apply(Subject& subject)
@@ -244,7 +230,7 @@ Reason TemplateRule::Compose(Subject& subject) const
     CString name;
     for (std::size_t index = 0; index < m_parts.size(); ++index) {
         name += m_texts[index];
-        if (name.GetLength() > longestName)
+        if (name.GetLength() > longestText)
             return Reason::TooLong;
         if (std::holds_alternative<FolderEnd>(m_parts[index])) {
             if (const Reason fault = StepDown(subject, name); fault != Reason::None)
@@ -252,9 +238,10 @@ Reason TemplateRule::Compose(Subject& subject) const
             name.Empty();
         }
     }
-    subject.name = name;
     if (m_givesExtension)
-        SplitExtension(subject);
+        SetWholeName(subject, name);
+    else
+        subject.name = name;
     return Reason::None;
 }
 
