@@ -1,8 +1,9 @@
 // Reads the words of counters, and writes numbers in other ways than digits.
 #include <VyrHost/rename/Counter.h>
 
+#include <VyrHost/metadata/Changes.h>
+
 #include <algorithm>
-#include <limits>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,29 +17,10 @@ constexpr std::size_t mostWidth = 255;
 std::vector<std::u16string_view> WordsOf(std::u16string_view text)
 {
     std::vector<std::u16string_view> words;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find(u' '), text.size());
-        if (end > 0)
-            words.push_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
+    while (!text.empty())
+        if (const std::u16string_view word = Metadata::TakeUpTo(text, u' '); !word.empty())
+            words.push_back(word);
     return words;
-}
-
-/// A whole number that an int holds.
-std::optional<int> ReadInt(std::u16string_view text)
-{
-    const bool isNegative = text.starts_with(u'-');
-    text.remove_prefix(isNegative ? 1 : 0);
-    std::int64_t number = 0;
-    for (const char16_t unit : text) {
-        if (unit < u'0' || unit > u'9' || number > std::numeric_limits<int>::max())
-            return std::nullopt;
-        number = number * 10 + (unit - u'0');
-    }
-    number = isNegative ? -number : number;
-    const bool fits = number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max();
-    return !text.empty() && fits ? std::optional(static_cast<int>(number)) : std::nullopt;
 }
 
 template <class Value>
@@ -96,9 +78,10 @@ private:
 
     const char* TakeNumber(int& number)
     {
-        const auto read = ReadInt(Take());
-        number = read.value_or(number);
-        return read ? nullptr : "a whole number follows start and step";
+        const auto read = Metadata::ReadWhole(Take());
+        const bool isNumber = read && std::in_range<int>(*read);
+        number = isNumber ? static_cast<int>(*read) : number;
+        return isNumber ? nullptr : "a whole number follows start and step";
     }
 
     const char* TakeScope(CounterScope& scope)

@@ -2,6 +2,7 @@
 
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/Input.h>
+#include <VyrHost/text/QuotedText.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <algorithm>
@@ -30,22 +31,12 @@ void SkipBlanks(std::string_view& line)
 
 std::string TakeQuoted(std::string_view& line, std::size_t number)
 {
-    std::string word;
-    line.remove_prefix(1);
-    for (;;) {
-        const std::size_t end = line.find('"');
-        if (end == std::string_view::npos)
-            RefuseLine(number, "a double quote is not closed");
-        word += line.substr(0, end);
-        line.remove_prefix(end + 1);
-        if (!line.starts_with('"'))
-            break;
-        word += '"';
-        line.remove_prefix(1);
-    }
+    auto word = Text::TakeQuoted(line);
+    if (!word)
+        RefuseLine(number, "a double quote is not closed");
     if (!line.empty() && blanks.find(line.front()) == std::string_view::npos)
         RefuseLine(number, "a blank is missing behind a double quote; two of them within quotes are one");
-    return word;
+    return *std::move(word);
 }
 
 std::string TakeWord(std::string_view& line, std::size_t number)

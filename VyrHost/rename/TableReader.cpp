@@ -3,6 +3,7 @@
 
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/Input.h>
+#include <VyrHost/text/QuotedText.h>
 
 #include <algorithm>
 
@@ -121,24 +122,15 @@ std::string TableReader::TakePlain()
 
 std::string TableReader::TakeQuoted()
 {
-    m_rest.remove_prefix(1);
-    std::string field;
-    for (;;) {
-        const std::size_t quote = m_rest.find('"');
-        if (quote == std::string_view::npos)
-            Refuse("a field in double quotes has no end");
-        field += m_rest.substr(0, quote);
-        m_line += static_cast<std::size_t>(
-            std::count(m_rest.begin(), m_rest.begin() + static_cast<std::ptrdiff_t>(quote), '\n'));
-        m_rest.remove_prefix(quote + 1);
-        if (!m_rest.starts_with('"'))
-            break;
-        field += '"';
-        m_rest.remove_prefix(1);
-    }
+    const std::string_view before = m_rest;
+    auto field = Text::TakeQuoted(m_rest);
+    if (!field)
+        Refuse("a field in double quotes has no end");
+    const auto taken = static_cast<std::ptrdiff_t>(before.size() - m_rest.size());
+    m_line += static_cast<std::size_t>(std::count(before.begin(), before.begin() + taken, '\n'));
     if (!m_rest.empty() && m_rest.find_first_of(std::string{m_separator, '\r', '\n'}) != 0)
         Refuse("something follows the end of a field in double quotes");
-    return field;
+    return *std::move(field);
 }
 
 bool TableReader::TakeSeparator()

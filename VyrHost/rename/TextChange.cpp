@@ -1,10 +1,12 @@
 // Reads changes, and has the text functions of the rules carry them out.
 #include <VyrHost/rename/TextChange.h>
 
+#include <VyrHost/metadata/Changes.h>
 #include <VyrHost/rename/Words.h>
 #include <VyrHost/text/Latin.h>
 #include <VyrHost/text/NearestWord.h>
 #include <VyrHost/text/NormalForm.h>
+#include <VyrHost/text/QuotedText.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrPlatform/text/Encoding.h>
 
@@ -19,23 +21,6 @@ namespace VyrHost::Rename {
 
 namespace {
 
-/// The argument in apostrophes that `text` begins with; nothing where it has no end.
-std::optional<CString> TakeQuoted(std::u16string_view& text)
-{
-    CString argument;
-    do {
-        text.remove_prefix(1);
-        const std::size_t end = text.find(u'\'');
-        if (end == text.npos)
-            return std::nullopt;
-        argument += text.substr(0, end);
-        text.remove_prefix(end + 1);
-        if (text.starts_with(u'\''))
-            argument += u'\'';
-    } while (text.starts_with(u'\''));
-    return argument;
-}
-
 /// The word and the arguments; nothing for apostrophes without an end, or in the middle of an argument.
 std::optional<std::vector<CString>> CutArguments(std::u16string_view text)
 {
@@ -46,10 +31,10 @@ std::optional<std::vector<CString>> CutArguments(std::u16string_view text)
             continue;
         }
         if (text.front() == u'\'') {
-            auto quoted = TakeQuoted(text);
+            const auto quoted = Text::TakeQuoted(text);
             if (!quoted || (!text.empty() && text.front() != u' '))
                 return std::nullopt;
-            arguments.push_back(std::move(*quoted));
+            arguments.emplace_back(std::u16string_view(*quoted));
             continue;
         }
         const std::size_t end = std::min(text.find(u' '), text.size());
@@ -81,18 +66,12 @@ TextChange MakeReplace(const Arguments& arguments)
 
 TextChange MakePad(const Arguments& arguments)
 {
-    constexpr std::size_t mostDigits = 3;
     constexpr int most = 255;
-    int width = 0;
-    for (const char16_t unit : arguments[0].View().substr(0, mostDigits + 1)) {
-        if (unit < u'0' || unit > u'9')
-            return nullptr;
-        width = width * 10 + (unit - u'0');
-    }
-    if (arguments[0].IsEmpty() || width > most)
+    const auto width = Metadata::ReadWhole(arguments[0]);
+    if (!width || *width < 0 || *width > most)
         return nullptr;
-    return [width](const CString& text) {
-        return PadNumbers(text, width, WhichNumbers::All);
+    return [digits = static_cast<int>(*width)](const CString& text) {
+        return PadNumbers(text, digits, WhichNumbers::All);
     };
 }
 
@@ -132,9 +111,8 @@ std::string UnknownChange(const CString& word)
     std::vector<std::string> words;
     std::transform(std::begin(knownChanges), std::end(knownChanges), std::back_inserter(words),
                    [](const KnownChange& known) { return std::string(known.word); });
-    const std::string_view nearest = Text::NearestWord(VyrPlatform::Encoding::ToUtf8(word), words);
     return "there is no change '" + Text::SafeText(word) + "', only " + knownWords +
-           (nearest.empty() ? std::string() : "; did you mean " + std::string(nearest) + "?");
+           Text::Hint(VyrPlatform::Encoding::ToUtf8(word), words);
 }
 
 } // namespace

@@ -36,8 +36,16 @@ TEST(TextChange, ReplacesTexts)
     EXPECT_EQ(Changed(u"replace '''' 'it''s'", u"a'b"), "ait'sb");
 }
 
+TEST(TextChange, PadsNumbers)
+{
+    EXPECT_EQ(Changed(u"pad 3", u"a 1-22"), "a 001-022");
+    EXPECT_EQ(Changed(u"pad 00005", u"7"), "00007");
+}
+
 TEST(TextChange, RefusesWhatIsNone)
 {
+    for (const std::u16string_view width : {u"x", u"-1", u"256", u"99999999999999999999"})
+        EXPECT_THAT(Changed(CString::Join({u"pad ", width}), u"1"), HasSubstr("is no change"));
     EXPECT_THAT(Changed(u"", u""), HasSubstr("there is no change behind a |"));
     EXPECT_THAT(Changed(u"uper", u""), HasSubstr("did you mean upper?"));
     EXPECT_THAT(Changed(u"Quite", u""), HasSubstr("there is no change 'Quite'"));
