@@ -83,8 +83,7 @@ protected:
         ASSERT_NE(after, m_before);
         const int changesOfUndo = CountChanges(CallOf({u"undo"}));
         ASSERT_EQ(Now(), m_before);
-        // A sanitizer makes changes of its own before the program begins.
-        const int first = CountChanges(CallOf({u"--version"}));
+        const int first = FirstOwnChange();
         ASSERT_LT(first, changes);
         int recovered = 0;
         for (int made = first; made < changes; ++made) {

@@ -23,9 +23,6 @@ protected:
 
     using FolderSnapshot = std::map<std::string, std::string>;
 
-    /// A sanitizer makes changes of its own before the program begins.
-    [[nodiscard]] int FirstOwnChange() const { return CountChanges(CallOf({u"--version"})); }
-
     /// Between the plain renames there are swaps and cycles, so that each sort is cut off.
     void Arrange()
     {

@@ -49,6 +49,9 @@ protected:
         return Run(std::move(all), input);
     }
 
+    /// How many changes the program makes before its own begin: a sanitizer makes some.
+    [[nodiscard]] int FirstOwnChange() const { return CountChanges(CallOf({u"--version"})); }
+
     /// Writes files of these names, each with its name as content.
     void WriteNamed(const std::vector<std::u16string_view>& names) const
     {
