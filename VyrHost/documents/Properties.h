@@ -28,8 +28,8 @@ struct Fingerprint
     friend bool operator==(const Fingerprint&, const Fingerprint&) = default;
 };
 
-/// The fingerprint of what stands in the file from `offset` on; nothing when it cannot be read to its end.
-[[nodiscard]] std::optional<Fingerprint> FingerprintOf(const VyrPlatform::FileReader& reader, std::uint64_t offset = 0);
+/// The fingerprint of the file; nothing when it cannot be read to its end.
+[[nodiscard]] std::optional<Fingerprint> FingerprintOf(const VyrPlatform::FileReader& reader);
 
 /// Writes a document anew with other properties. The whole old document is kept with the journal, together with the
 /// fingerprint of the new one, so that it is restored byte for byte, and only where nobody has written to it since.
@@ -45,7 +45,7 @@ public:
         VyrPlatform::PropertyEdit edit;
     };
 
-    /// @param kept  where the batch keeps the old document; empty outside a batch.
+    /// @param kept  how the path begins at which the batch keeps the old document; empty outside a batch.
     explicit PropertiesChange(std::shared_ptr<const Document> document, const CString& kept = {})
         : m_document(std::move(document)), m_kept(kept)
     {}
@@ -66,7 +66,7 @@ public:
     [[nodiscard]] std::uint32_t TakeBack(const CString& path) const override;
 
 private:
-    [[nodiscard]] std::uint32_t Keep(const CString& path, const Fingerprint& newDocument) const;
+    [[nodiscard]] std::uint32_t Keep(VyrPlatform::DocumentReplacement& replacement) const;
 
     std::shared_ptr<const Document> m_document;
     CString m_kept;

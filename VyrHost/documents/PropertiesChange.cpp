@@ -4,17 +4,21 @@
 // and ";NAME" for each that is removed, ";NAME TEXT" for each that is set. Texts are the hexadecimal digits of their
 // UTF-16 units, the low byte first.
 //
-// The kept file begins with the line "SIZE CHECK" of the new document; the old document stands behind it.
+// The name of the old document that is kept ends with "SIZE CHECK" of the new one.
 #include <VyrHost/documents/Properties.h>
 
 #include <VyrHost/documents/Document.h>
 #include <VyrHost/metadata/Changes.h>
 #include <VyrHost/model/FolderSet.h>
 #include <VyrHostPlatform/DurableFile.h>
+#include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/FolderUtils.h>
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/documents/PropertyStorage.h>
+#include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/files/FileReader.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/files/FolderListing.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <algorithm>
@@ -34,8 +38,10 @@ using Metadata::TakeUpTo;
 using Metadata::ToHex;
 using Model::ChangeLook;
 using Model::ChangeState;
+using VyrLibraryUtils::FileUtils;
 using VyrPlatform::DocumentReplacement;
 using VyrPlatform::FileReader;
+using VyrPlatform::FolderListing;
 namespace DurableFile = VyrHostPlatform::DurableFile;
 namespace Result = VyrPlatform::PropertyStorage::Result;
 
@@ -77,41 +83,24 @@ std::optional<Fingerprint> ReadFingerprint(std::u16string_view text)
     return Fingerprint{static_cast<std::uint64_t>(*size), static_cast<std::uint32_t>(*check)};
 }
 
-/// Reads the file on from `offset`, piece by piece.
-/// @return the fingerprint of what was read; nothing when it could not be read to its end.
-std::optional<Fingerprint> Walk(const FileReader& reader, std::uint64_t offset, const DurableFile::TakePiece& take)
+/// Where the old document is kept for a new one, which is thus known again.
+CString KeptPath(const CString& kept, const Fingerprint& newDocument)
 {
-    Fingerprint fingerprint;
-    std::string piece(std::size_t{1} << 16, '\0');
-    for (; offset + fingerprint.size < reader.Size();) {
-        const std::size_t count = reader.ReadAt(offset + fingerprint.size, std::as_writable_bytes(std::span(piece)));
-        if (count == 0)
-            return std::nullopt;
-        const auto* const bytes = reinterpret_cast<const unsigned char*>(piece.data());
-        fingerprint.check = static_cast<std::uint32_t>(crc32_z(fingerprint.check, bytes, count));
-        fingerprint.size += count;
-        take(std::string_view(piece).substr(0, count));
-    }
-    return fingerprint;
+    return CString::Join({kept, u".", TextOf(newDocument)});
 }
 
-/// The first line of a kept file, and its length with the line's end.
-struct KeptHeading
+/// Where a program was killed after it had kept a document, and before the new one took its place, the document has
+/// two names: removes the one that is not its own.
+void RemoveSecondName(const CString& path, const CString& kept)
 {
-    Fingerprint newDocument;
-    std::uint64_t length = 0;
-};
-
-std::optional<KeptHeading> ReadHeading(const CString& kept)
-{
-    constexpr std::size_t longest = 64;
-    const FileReader reader(kept);
-    std::string text(longest, '\0');
-    text.resize(reader.IsOpen() ? reader.ReadAt(0, std::as_writable_bytes(std::span(text))) : 0);
-    const std::size_t end = text.find('\n');
-    const auto fingerprint =
-        end == std::string::npos ? std::nullopt : ReadFingerprint(VyrPlatform::Encoding::FromUtf8(text.substr(0, end)));
-    return fingerprint ? std::optional(KeptHeading{*fingerprint, end + 1}) : std::nullopt;
+    const VyrPlatform::FileState state = VyrPlatform::LookAtFile(path);
+    if (state.kind == VyrPlatform::FileSystem::Kind::File && state.links == 1)
+        return;
+    const CString folder = Model::FolderPart(kept);
+    const CString beginning = kept.Mid(folder.GetLength()) + u".";
+    for (FolderListing listing(folder); listing.Next();)
+        if (listing.Name().View().starts_with(beginning.View()))
+            static_cast<void>(DurableFile::Remove(FileUtils::GetCombinePath(folder, listing.Name())));
 }
 
 CString Joined(const CString& list, std::initializer_list<std::u16string_view> parts)
@@ -170,9 +159,21 @@ bool ReadBefore(std::u16string_view text, PropertiesChange::Document& document)
 
 } // namespace
 
-std::optional<Fingerprint> FingerprintOf(const FileReader& reader, std::uint64_t offset)
+std::optional<Fingerprint> FingerprintOf(const FileReader& reader)
 {
-    return reader.IsOpen() ? Walk(reader, offset, [](std::string_view) {}) : std::nullopt;
+    if (!reader.IsOpen())
+        return std::nullopt;
+    Fingerprint fingerprint;
+    std::vector<std::byte> piece(std::size_t{1} << 16);
+    while (fingerprint.size < reader.Size()) {
+        const std::size_t count = reader.ReadAt(fingerprint.size, piece);
+        if (count == 0)
+            return std::nullopt;
+        const auto* const bytes = reinterpret_cast<const unsigned char*>(piece.data());
+        fingerprint.check = static_cast<std::uint32_t>(crc32_z(fingerprint.check, bytes, count));
+        fingerprint.size += count;
+    }
+    return fingerprint;
 }
 
 std::shared_ptr<const Model::Change> PropertiesChange::Read(const CString& before, const CString& after)
@@ -234,6 +235,7 @@ std::shared_ptr<const Model::Change> PropertiesChange::KeepingAt(const CString& 
 void PropertiesChange::Mend(const CString& path) const
 {
     DocumentReplacement::RemoveLeftover(path);
+    RemoveSecondName(path, m_kept);
 }
 
 ChangeLook PropertiesChange::Look(const CString& path) const
@@ -244,49 +246,40 @@ ChangeLook PropertiesChange::Look(const CString& path) const
     const auto now = FingerprintOf(reader);
     if (now == m_document->fingerprint)
         return {ChangeState::Before, 0};
-    const auto heading = ReadHeading(m_kept);
-    return {now && heading && *now == heading->newDocument ? ChangeState::After : ChangeState::Other, 0};
+    const bool isNew = now && VyrPlatform::FileSystem::Exists(KeptPath(m_kept, *now));
+    return {isNew ? ChangeState::After : ChangeState::Other, 0};
 }
 
 std::uint32_t PropertiesChange::Apply(const CString& path) const
 {
+    RemoveSecondName(path, m_kept);
     auto replacement = DocumentReplacement::WithProperties(path, m_document->edit, HandlerOf(path));
     if (replacement.Error() != Result::ok)
         return replacement.Error();
-    const auto newDocument = FingerprintOf(FileReader(replacement.NewPath()));
-    if (!newDocument)
-        return Result::writeFault;
-    const std::uint32_t error = Keep(path, *newDocument);
+    const std::uint32_t error = Keep(replacement);
     return error ? error : replacement.Commit();
 }
 
-/// The old document is on the disk before the new one takes its place.
-std::uint32_t PropertiesChange::Keep(const CString& path, const Fingerprint& newDocument) const
+std::uint32_t PropertiesChange::Keep(DocumentReplacement& replacement) const
 {
-    const CString folder = Model::FolderPart(m_kept);
-    if (VyrLibraryUtils::FolderUtils::CreateFolderPathExists(folder) == 0)
+    const auto newDocument = FingerprintOf(FileReader(replacement.NewPath()));
+    if (!newDocument || VyrLibraryUtils::FolderUtils::CreateFolderPathExists(Model::FolderPart(m_kept)) == 0)
         return Result::writeFault;
-    const FileReader reader(path);
-    if (!reader.IsOpen())
-        return reader.Error();
-    // Of an attempt that was cut off, or of the batch before it was undone.
-    static_cast<void>(DurableFile::Remove(m_kept));
-    std::optional<Fingerprint> kept;
-    const std::uint32_t error = DurableFile::WriteNew(m_kept, [&](const DurableFile::TakePiece& take) {
-        take(VyrPlatform::Encoding::ToUtf8(TextOf(newDocument)) + "\n");
-        kept = Walk(reader, 0, take);
-    });
-    if (error == 0 && kept != m_document->fingerprint)
-        return Result::shareViolation;
-    return error;
+    const CString kept = KeptPath(m_kept, *newDocument);
+    // Of the batch before it was undone.
+    static_cast<void>(DurableFile::Remove(kept));
+    if (const std::uint32_t error = replacement.Keep(kept))
+        return error;
+    return FingerprintOf(FileReader(kept)) == m_document->fingerprint ? std::uint32_t{Result::ok}
+                                                                      : std::uint32_t{Result::shareViolation};
 }
 
 std::uint32_t PropertiesChange::TakeBack(const CString& path) const
 {
-    const auto heading = ReadHeading(m_kept);
-    if (!heading)
-        return Result::fileNotFound;
-    auto replacement = DocumentReplacement::WithContent(path, m_kept, heading->length);
+    const auto newDocument = FingerprintOf(FileReader(path));
+    if (!newDocument)
+        return Result::writeFault;
+    auto replacement = DocumentReplacement::WithContent(path, KeptPath(m_kept, *newDocument));
     if (replacement.Error() != Result::ok)
         return replacement.Error();
     // A kept file that was written to is none.

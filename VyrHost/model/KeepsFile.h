@@ -17,8 +17,8 @@ public:
     KeepsFile& operator=(const KeepsFile&) = delete;
     virtual ~KeepsFile() = default;
 
-    /// The same change in a batch, which may write a file at `kept`. That is removed together with the journal. The
-    /// folder is made by the first change that keeps one.
+    /// The same change in a batch, which may keep files whose paths begin with `kept` and a dot. They are removed
+    /// together with the journal. The folder is made by the first change that keeps one.
     [[nodiscard]] virtual std::shared_ptr<const Change> KeepingAt(const CString& kept) const = 0;
 };
 

@@ -92,9 +92,8 @@ public:
     /// @param handler  as for ReadDocumentProperties.
     [[nodiscard]] static DocumentReplacement WithProperties(const CString& path, const PropertyEdit& edit,
                                                             const _GUID& handler);
-    /// Writes what stands from `offset` on in the file `source` as the document at `path`.
-    [[nodiscard]] static DocumentReplacement WithContent(const CString& path, const CString& source,
-                                                         std::uint64_t offset);
+    /// Writes the content of the file `source` as the document at `path`.
+    [[nodiscard]] static DocumentReplacement WithContent(const CString& path, const CString& source);
 
     /// Removes the new document that a program which was killed left beside the document at `path`, if there is one.
     /// Not while another program may be replacing that document.
@@ -106,7 +105,12 @@ public:
     [[nodiscard]] std::uint32_t Error() const noexcept { return m_error; }
     /// Where the new document stands. Only where there is one.
     [[nodiscard]] const CString& NewPath() const noexcept;
-    /// Waits until it is on the disk, and puts it in the place of the old one, unless that was written to meanwhile.
+    /// Keeps the old document at `path`, where nothing stands yet: on Linux as a hard link where possible, else as a
+    /// copy. It is removed with this object unless Commit succeeds.
+    /// @return a result code.
+    [[nodiscard]] std::uint32_t Keep(const CString& path);
+    /// Waits until the new document, and what is kept of the old one, are on the disk; reads the new one back, compares
+    /// it with the old one, and puts it in its place, unless that was written to meanwhile.
     /// The old one may be there again after a power failure until the folder is flushed, too.
     /// @return a result code; when it is a failure, the old document stands there unchanged.
     [[nodiscard]] std::uint32_t Commit();

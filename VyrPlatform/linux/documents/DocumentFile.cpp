@@ -3,6 +3,7 @@
 #include <VyrPlatform/common/files/TemporaryPath.h>
 #include <VyrPlatform/files/FileAttributes.h>
 #include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/linux/files/FileContent.h>
 #include <VyrPlatform/linux/files/FileMetadata.h>
 #include <VyrPlatform/linux/files/FlushFolder.h>
 #include <VyrPlatform/linux/files/NativePath.h>
@@ -15,6 +16,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <memory>
+#include <string>
 #include <sys/file.h>
 #include <unistd.h>
 
@@ -27,16 +29,6 @@ CString ResolveLinks(const CString& path)
 {
     const std::unique_ptr<char, decltype(&std::free)> resolved(realpath(NativePath(path).Get(), nullptr), &std::free);
     return resolved ? Encoding::FromNameBytes(resolved.get()) : CString();
-}
-
-/// Takes the lease that no program has which writes the file, and keeps others from opening it for writing. When one
-/// tries to, the system sends a signal: one that does nothing.
-/// @return 0, or EBUSY. Where the file system or the user has no leases, nobody can tell: 0.
-int TakeLease(int file) noexcept
-{
-    if (fcntl(file, F_SETSIG, SIGURG) != 0)
-        return 0;
-    return fcntl(file, F_SETLEASE, F_RDLCK) != 0 && errno == EAGAIN ? EBUSY : 0;
 }
 
 /// Whether another program has locked the file, in any of the ways that there are.
@@ -102,9 +94,18 @@ int DocumentFile::Open()
         return EACCES;
     if (m_status.st_nlink != 1)
         return EMLINK;
-    if (const int error = TakeLease(m_file->Get()))
+    if (const int error = TakeLease())
         return error;
     return IsLocked(m_path, m_file->Get()) ? EDEADLK : 0;
+}
+
+/// Takes the lease that is given only while no program can write the file, and that keeps others from opening it for
+/// writing. When one tries to, the system sends a signal: one that does nothing.
+/// @return 0, or EBUSY. Where the file system or the user has no leases, nobody can tell: 0.
+int DocumentFile::TakeLease()
+{
+    m_hasLease = fcntl(m_file->Get(), F_SETSIG, SIGURG) == 0 && fcntl(m_file->Get(), F_SETLEASE, F_RDLCK) == 0;
+    return !m_hasLease && errno == EAGAIN ? EBUSY : 0;
 }
 
 int DocumentFile::WriteNew(DocumentEdit& edit, int target) const
@@ -116,11 +117,7 @@ int DocumentFile::WriteNew(DocumentEdit& edit, int target) const
         return error;
     // On its way to the disk; Commit waits for it.
     static_cast<void>(sync_file_range(target, 0, 0, SYNC_FILE_RANGE_WRITE));
-    if (!HasKeptMetadata(source, target, m_status))
-        return EPERM;
-    if (!edit.IsWritten(source, target))
-        return EILSEQ;
-    return CheckUnchanged();
+    return HasKeptMetadata(source, target, m_status) ? 0 : EPERM;
 }
 
 int DocumentFile::CheckUnchanged() const
@@ -129,16 +126,21 @@ int DocumentFile::CheckUnchanged() const
     if (fstat(m_file->Get(), &now) != 0)
         return errno;
     const bool isChanged = now.st_size != m_status.st_size || now.st_mtim.tv_sec != m_status.st_mtim.tv_sec ||
-                           now.st_mtim.tv_nsec != m_status.st_mtim.tv_nsec || now.st_nlink != 1;
-    return isChanged ? EBUSY : 0;
+                           now.st_mtim.tv_nsec != m_status.st_mtim.tv_nsec || now.st_nlink != m_links;
+    const bool isAskedFor = m_hasLease && fcntl(m_file->Get(), F_GETLEASE) != F_RDLCK;
+    return isChanged || isAskedFor ? EBUSY : 0;
 }
 
 void DocumentFile::RemoveNew()
 {
-    if (!m_newPath.IsEmpty())
-        unlink(NativePath(m_newPath).Get());
-    m_newPath.Empty();
+    for (CString* const path : {&m_newPath, &m_keptPath}) {
+        if (!path->IsEmpty())
+            unlink(NativePath(*path).Get());
+        path->Empty();
+    }
     m_new.reset();
+    m_keptCopy.reset();
+    m_links = 1;
 }
 
 int DocumentFile::Prepare(DocumentEdit& edit)
@@ -156,17 +158,56 @@ int DocumentFile::Prepare(DocumentEdit& edit)
         return errno;
     m_new.emplace(created);
     m_newPath = newPath;
+    m_edit = &edit;
     const int error = WriteNew(edit, created);
     if (error != 0)
         RemoveNew();
     return error;
 }
 
+int DocumentFile::Keep(const CString& path)
+{
+    const NativePath native(path);
+    const std::string opened = "/proc/self/fd/" + std::to_string(m_file->Get());
+    if (m_hasLease && linkat(AT_FDCWD, opened.c_str(), AT_FDCWD, native.Get(), AT_SYMLINK_FOLLOW) == 0)
+        ++m_links;
+    else if (const int error = CopyTo(native))
+        return error;
+    m_keptPath = path;
+    return 0;
+}
+
+/// Nobody else may read the copy, which is out of the reach of the folder's permissions.
+int DocumentFile::CopyTo(const NativePath& path)
+{
+    const int created = open(path.Get(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (created < 0)
+        return errno;
+    m_keptCopy.emplace(created);
+    const int error = CopyContent(m_file->Get(), created, m_status);
+    if (error != 0)
+        unlink(path.Get());
+    return error;
+}
+
+/// The new document first: on most file systems that writes the name of a link to the old one, too. The old one may
+/// never have been flushed by who wrote it.
+int DocumentFile::Flush() const
+{
+    if (fsync(m_new->Get()) != 0)
+        return errno;
+    if (m_keptPath.IsEmpty())
+        return 0;
+    return fsync(m_keptCopy ? m_keptCopy->Get() : m_file->Get()) == 0 ? 0 : errno;
+}
+
 int DocumentFile::Commit()
 {
     if (m_newPath.IsEmpty())
         return EINVAL;
-    int error = fsync(m_new->Get()) == 0 ? 0 : errno;
+    int error = Flush();
+    if (error == 0 && !m_edit->IsWritten(m_file->Get(), m_new->Get()))
+        error = EILSEQ;
     if (const int closeError = m_new->Close(); error == 0)
         error = closeError;
     if (error == 0)
@@ -178,6 +219,9 @@ int DocumentFile::Commit()
         return error;
     }
     m_newPath.Empty();
+    m_keptPath.Empty();
+    m_keptCopy.reset();
+    m_links = 1;
     m_error = Open();
     return 0;
 }

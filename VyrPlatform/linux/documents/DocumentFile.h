@@ -3,6 +3,7 @@
 
 #include <VyrPlatform/Export.h>
 #include <VyrPlatform/linux/files/Descriptor.h>
+#include <VyrPlatform/linux/files/NativePath.h>
 #include <VyrPlatform/text/CString.h>
 
 #include <optional>
@@ -36,7 +37,7 @@ public:
     explicit DocumentFile(const CString& path);
     DocumentFile(const DocumentFile&) = delete;
     DocumentFile& operator=(const DocumentFile&) = delete;
-    /// Removes a new document that has not taken its place.
+    /// Removes a new document that has not taken its place, and what is kept of the old one for it.
     ~DocumentFile();
 
     /// 0 when the document may be replaced, else the error code: EBUSY when it is open for writing elsewhere, EDEADLK
@@ -49,10 +50,15 @@ public:
     /// @return 0, or the error code; the old document then stands there unchanged.
     [[nodiscard]] int Replace(DocumentEdit& edit);
 
-    /// The first half of that: the new document stands beside this one, at NewPath, whole.
+    /// The first half of that: the new document is written beside this one, to NewPath.
+    /// @param edit  must live until Commit.
     [[nodiscard]] int Prepare(DocumentEdit& edit);
     [[nodiscard]] const CString& NewPath() const noexcept { return m_newPath; }
-    /// The second half, which flushes it first.
+    /// In between: has Commit keep the old document at `path`, where nothing stands yet. It is a hard link where nobody
+    /// else can be writing to it, and the file system lets, else a copy.
+    [[nodiscard]] int Keep(const CString& path);
+    /// The second half: flushes the new document and what is kept of the old one, reads the new one back and compares,
+    /// and renames it.
     [[nodiscard]] int Commit();
 
     /// Removes the new document that a killed program left beside the one at `path`, if there is one.
@@ -60,8 +66,11 @@ public:
 
 private:
     [[nodiscard]] int Open();
+    [[nodiscard]] int TakeLease();
     [[nodiscard]] int WriteNew(DocumentEdit& edit, int target) const;
-    /// 0, or EBUSY when this document was written to since it was opened.
+    [[nodiscard]] int CopyTo(const NativePath& path);
+    [[nodiscard]] int Flush() const;
+    /// 0, or EBUSY when this document was written to since it was opened, or is about to be.
     [[nodiscard]] int CheckUnchanged() const;
     void RemoveNew();
 
@@ -72,7 +81,15 @@ private:
     std::optional<Descriptor> m_file;
     /// The new document.
     std::optional<Descriptor> m_new;
+    DocumentEdit* m_edit = nullptr;
+    /// Where the old one is kept; empty while it is not.
+    CString m_keptPath;
+    /// What is kept, unless it is this document itself.
+    std::optional<Descriptor> m_keptCopy;
     struct stat m_status = {};
+    /// How many names this document has.
+    nlink_t m_links = 1;
+    bool m_hasLease = false;
     int m_error;
 };
 

@@ -142,11 +142,13 @@ std::uint32_t EditPackage(PropertyFormat format, int file, const PropertyEdit& e
     return Result::ok;
 }
 
-/// What stands from a place on in another file.
+/// The content of another file.
 class ContentEdit : public DocumentEdit
 {
 public:
-    ContentEdit(int content, std::uint64_t offset) : m_content(content), m_offset(offset) {}
+    explicit ContentEdit(const CString& path) : m_content(open(NativePath(path).Get(), O_RDONLY | O_CLOEXEC)) {}
+
+    [[nodiscard]] bool IsOpen() const noexcept { return m_content.IsOpen(); }
 
     [[nodiscard]] int Write(int /*source*/, int target) override
     {
@@ -183,7 +185,7 @@ private:
     {
         std::string piece(std::size_t{1} << 16, '\0');
         for (std::uint64_t place = 0;;) {
-            const ssize_t count = pread(m_content, piece.data(), piece.size(), static_cast<off_t>(m_offset + place));
+            const ssize_t count = pread(m_content.Get(), piece.data(), piece.size(), static_cast<off_t>(place));
             if (count < 0 && errno == EINTR)
                 continue;
             if (count <= 0)
@@ -194,8 +196,7 @@ private:
         }
     }
 
-    int m_content;
-    std::uint64_t m_offset;
+    Descriptor m_content;
 };
 
 /// How the new document is made of the old one.
@@ -243,6 +244,7 @@ struct DocumentReplacement::State
 {
     explicit State(const CString& path) : file(path) {}
 
+    std::unique_ptr<DocumentEdit> edit;
     DocumentFile file;
 };
 
@@ -250,21 +252,20 @@ DocumentReplacement DocumentReplacement::WithProperties(const CString& path, con
                                                         const GUID& handler)
 {
     auto state = std::make_shared<State>(path);
-    std::unique_ptr<DocumentEdit> documentEdit;
-    std::uint32_t result = MakeEdit(state->file, edit, handler, documentEdit);
+    std::uint32_t result = MakeEdit(state->file, edit, handler, state->edit);
     if (result == Result::ok)
-        result = ToResult(state->file.Prepare(*documentEdit));
+        result = ToResult(state->file.Prepare(*state->edit));
     return {result == Result::ok ? std::move(state) : nullptr, result};
 }
 
-DocumentReplacement DocumentReplacement::WithContent(const CString& path, const CString& source, std::uint64_t offset)
+DocumentReplacement DocumentReplacement::WithContent(const CString& path, const CString& source)
 {
-    const Descriptor content(open(NativePath(source).Get(), O_RDONLY | O_CLOEXEC));
-    if (!content.IsOpen())
+    auto edit = std::make_unique<ContentEdit>(source);
+    if (!edit->IsOpen())
         return {nullptr, ToResult(errno)};
     auto state = std::make_shared<State>(path);
-    ContentEdit edit(content.Get(), offset);
-    const std::uint32_t result = ToResult(state->file.Prepare(edit));
+    state->edit = std::move(edit);
+    const std::uint32_t result = ToResult(state->file.Prepare(*state->edit));
     return {result == Result::ok ? std::move(state) : nullptr, result};
 }
 
@@ -276,6 +277,11 @@ void DocumentReplacement::RemoveLeftover(const CString& path)
 const CString& DocumentReplacement::NewPath() const noexcept
 {
     return m_state->file.NewPath();
+}
+
+std::uint32_t DocumentReplacement::Keep(const CString& path)
+{
+    return ToResult(m_state->file.Keep(path));
 }
 
 std::uint32_t DocumentReplacement::Commit()

@@ -306,7 +306,7 @@ void CopyPermissions(const LongPath& from, const LongPath& to)
         SetFileSecurityW(to.Get(), DACL_SECURITY_INFORMATION, descriptor.data());
 }
 
-/// Gives the new document the old one's times, and flushes it.
+/// Gives the file at `path` the old document's times, and flushes it.
 DWORD Finish(const LongPath& path, const BY_HANDLE_FILE_INFORMATION& old)
 {
     Handle file(CreateFileW(path.Get(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
@@ -316,8 +316,8 @@ DWORD Finish(const LongPath& path, const BY_HANDLE_FILE_INFORMATION& old)
     return file.Close();
 }
 
-/// Makes the content of the file `source` from `offset` on that of `target`.
-std::uint32_t WriteContent(const CString& source, std::uint64_t offset, const LongPath& target)
+/// Makes the content of the file `source` that of `target`.
+std::uint32_t WriteContent(const CString& source, const LongPath& target)
 {
     const FileReader reader(source);
     if (!reader.IsOpen())
@@ -327,7 +327,7 @@ std::uint32_t WriteContent(const CString& source, std::uint64_t offset, const Lo
     if (!file.IsOpen())
         return FromError(GetLastError());
     std::vector<std::byte> piece(std::size_t{1} << 16);
-    while (offset < reader.Size()) {
+    for (std::uint64_t offset = 0; offset < reader.Size();) {
         const std::size_t count = reader.ReadAt(offset, piece);
         DWORD written = 0;
         if (count == 0)
@@ -366,6 +366,8 @@ struct DocumentReplacement::State
     CString path;
     /// Empty while there is no new document.
     CString newPath;
+    /// Where the old one is kept; empty while it is not.
+    CString keptPath;
     OldDocument old;
 
     explicit State(const CString& document) : path(document), old(LookAt(document)) {}
@@ -373,8 +375,9 @@ struct DocumentReplacement::State
     State& operator=(const State&) = delete;
     ~State()
     {
-        if (!newPath.IsEmpty())
-            DeleteFileW(LongPath(newPath).Get());
+        for (const CString& left : {newPath, keptPath})
+            if (!left.IsEmpty())
+                DeleteFileW(LongPath(left).Get());
     }
 
     /// Copies the old document, and has `edit` make the new one of the copy.
@@ -413,11 +416,11 @@ DocumentReplacement DocumentReplacement::WithProperties(const CString& path, con
     return {result == Result::ok ? std::move(state) : nullptr, result};
 }
 
-DocumentReplacement DocumentReplacement::WithContent(const CString& path, const CString& source, std::uint64_t offset)
+DocumentReplacement DocumentReplacement::WithContent(const CString& path, const CString& source)
 {
     auto state = std::make_shared<State>(path);
     const std::uint32_t result =
-        state->Prepare([&](const CString& copy) { return WriteContent(source, offset, LongPath(copy)); });
+        state->Prepare([&](const CString& copy) { return WriteContent(source, LongPath(copy)); });
     return {result == Result::ok ? std::move(state) : nullptr, result};
 }
 
@@ -431,6 +434,16 @@ const CString& DocumentReplacement::NewPath() const noexcept
     return m_state->newPath;
 }
 
+std::uint32_t DocumentReplacement::Keep(const CString& path)
+{
+    const LongPath to(path);
+    DWORD error = ErrorOf(CopyFileW(LongPath(m_state->path).Get(), to.Get(), TRUE));
+    if (error != ERROR_SUCCESS)
+        return FromError(error);
+    m_state->keptPath = path;
+    return FromError(Finish(to, m_state->old.information));
+}
+
 std::uint32_t DocumentReplacement::Commit()
 {
     State& state = *m_state;
@@ -441,8 +454,10 @@ std::uint32_t DocumentReplacement::Commit()
         return Result::shareViolation;
     const DWORD error = ErrorOf(MoveFileExW(LongPath(state.newPath).Get(), LongPath(state.path).Get(),
                                             MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
-    if (error == ERROR_SUCCESS)
+    if (error == ERROR_SUCCESS) {
         state.newPath.Empty();
+        state.keptPath.Empty();
+    }
     return FromError(error);
 }
 

@@ -14,7 +14,11 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
+#include <vector>
 
 using namespace VyrHost::Documents;
 using namespace VyrTests;
@@ -63,6 +67,22 @@ protected:
         return PropertiesRule(RequestOf(set)).Propose(path, FileEntry(), 0);
     }
 
+    /// The one file in a folder.
+    std::filesystem::path KeptIn(std::u16string_view folder) const
+    {
+        std::vector<std::filesystem::path> files;
+        for (const auto& entry : std::filesystem::directory_iterator(ToStdPath(scratch.Path(folder))))
+            files.push_back(entry.path());
+        EXPECT_EQ(files.size(), 1U);
+        return files.empty() ? std::filesystem::path() : files.front();
+    }
+
+    static std::string ReadAll(const std::filesystem::path& file)
+    {
+        std::ifstream stream(file, std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+
     ComThread com;
     ScratchFolder scratch;
     CString path = scratch.WriteFile(u"a.doc", Sample());
@@ -93,18 +113,51 @@ TEST_F(Properties, ChangeIsReadAgainFromTheJournalAndGoesAndComesBack)
 
 TEST_F(Properties, KeptDocumentThatWasDamagedIsNotRestored)
 {
-    const CString folder = scratch.MakeFolder(u"kept");
-    const auto change = Keeping(Propose(u"title=New").change, folder);
+    const auto change = Keeping(Propose(u"title=New").change, scratch.Path(u"kept"));
     ASSERT_EQ(change->Apply(path), 0U);
     const std::string changed = scratch.ReadFile(u"a.doc");
-    std::string kept = scratch.ReadFile(u"kept/0");
-    const std::string heading = kept.substr(0, kept.find('\n') + 1);
-    scratch.WriteFile(u"kept/0", heading + "damaged");
+    const std::filesystem::path kept = KeptIn(u"kept");
+    std::ofstream(kept, std::ios::binary | std::ios::trunc) << "damaged";
     EXPECT_EQ(change->TakeBack(path), Result::damaged);
-    scratch.WriteFile(u"kept/0", "no heading");
+    std::filesystem::rename(kept, kept.parent_path() / "another name");
     EXPECT_EQ(change->Look(path).state, ChangeState::Other);
     EXPECT_NE(change->TakeBack(path), 0U);
     EXPECT_EQ(scratch.ReadFile(u"a.doc"), changed);
+}
+
+TEST_F(Properties, OldDocumentIsKeptWholeAndTheNewOneHasOneName)
+{
+    const auto change = Keeping(Propose(u"title=New").change, scratch.Path(u"kept"));
+    ASSERT_EQ(change->Apply(path), 0U);
+    EXPECT_EQ(ReadAll(KeptIn(u"kept")), Sample());
+    EXPECT_EQ(std::filesystem::hard_link_count(ToStdPath(path)), 1U);
+    // As often as it is undone and done again.
+    ASSERT_EQ(change->TakeBack(path), 0U);
+    ASSERT_EQ(change->Apply(path), 0U);
+    EXPECT_EQ(ReadAll(KeptIn(u"kept")), Sample());
+}
+
+TEST_F(Properties, DocumentThatCannotBeKeptStaysWithOneName)
+{
+    scratch.WriteFile(u"kept", "no folder");
+    const auto change = Keeping(Propose(u"title=New").change, scratch.Path(u"kept"));
+    EXPECT_NE(change->Apply(path), 0U);
+    EXPECT_EQ(scratch.ReadFile(u"a.doc"), Sample());
+    EXPECT_EQ(std::filesystem::hard_link_count(ToStdPath(path)), 1U);
+    EXPECT_EQ(change->Look(path).state, ChangeState::Before);
+}
+
+/// What a program leaves that is killed when the old document is kept, and the new one has not taken its place.
+TEST_F(Properties, DocumentThatIsKeptWhileItStillStandsThereIsFreedByTheRecovery)
+{
+    const auto change = Keeping(Propose(u"title=New").change, scratch.Path(u"kept"));
+    const std::filesystem::path folder = ToStdPath(scratch.MakeFolder(u"kept"));
+    std::filesystem::create_hard_link(ToStdPath(path), folder / "0.5 12345678");
+    change->Mend(path);
+    EXPECT_EQ(std::filesystem::hard_link_count(ToStdPath(path)), 1U);
+    std::filesystem::create_hard_link(ToStdPath(path), folder / "0.5 12345678");
+    EXPECT_EQ(change->Apply(path), 0U);
+    EXPECT_EQ(ReadAll(KeptIn(u"kept")), Sample());
 }
 
 TEST_F(Properties, DocumentThatWasWrittenToSinceItWasListedIsNotKept)

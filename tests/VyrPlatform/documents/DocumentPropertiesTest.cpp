@@ -199,10 +199,37 @@ TEST_F(DocumentPropertiesOf, DocumentIsNotReplacedBeforeItIsAskedFor)
     EXPECT_EQ(scratch.ReadFile(u"a.doc"), before.Bytes());
 }
 
+TEST_F(DocumentPropertiesOf, OldDocumentIsKeptWithTheNewOneOrNotAtAll)
+{
+    const std::string before = Sample().Bytes();
+    const CString path = Place(Sample());
+    {
+        DocumentReplacement given = DocumentReplacement::WithProperties(path, SetTitle(u"New"), noHandler);
+        ASSERT_EQ(given.Error(), Result::ok);
+        ASSERT_EQ(given.Keep(scratch.Path(u"kept")), Result::ok);
+        EXPECT_EQ(scratch.ReadFile(u"kept"), before);
+        EXPECT_EQ(Files(), 3);
+    }
+    EXPECT_EQ(Files(), 1);
+    EXPECT_EQ(scratch.ReadFile(u"a.doc"), before);
+    {
+        DocumentReplacement replacement = DocumentReplacement::WithProperties(path, SetTitle(u"New"), noHandler);
+        ASSERT_EQ(replacement.Keep(scratch.Path(u"kept")), Result::ok);
+        ASSERT_EQ(replacement.Commit(), Result::ok);
+    }
+    EXPECT_EQ(Read(path).texts[Id::title], u"New");
+    EXPECT_EQ(scratch.ReadFile(u"kept"), before);
+    EXPECT_EQ(Files(), 2);
+    DocumentReplacement another = DocumentReplacement::WithProperties(path, SetTitle(u"Newer"), noHandler);
+    ASSERT_EQ(another.Error(), Result::ok);
+    EXPECT_TRUE(VyrPlatform::PropertyStorage::IsFailure(another.Keep(scratch.Path(u"kept"))));
+    EXPECT_EQ(scratch.ReadFile(u"kept"), before) << "something stands there";
+}
+
 TEST_F(DocumentPropertiesOf, DocumentThatWasWrittenToMeanwhileStays)
 {
     const CString path = Place(Sample());
-    DocumentReplacement replacement = DocumentReplacement::WithContent(path, scratch.WriteFile(u"b", "new"), 0);
+    DocumentReplacement replacement = DocumentReplacement::WithContent(path, scratch.WriteFile(u"b", "new"));
     ASSERT_EQ(replacement.Error(), Result::ok);
     std::filesystem::remove(ToStdPath(path));
     scratch.WriteFile(u"a.doc", "another program's");
@@ -237,14 +264,14 @@ TEST_F(DocumentPropertiesOf, ContentOfAnotherFileTakesThePlace)
 {
     const CString path = scratch.WriteFile(u"a.doc", "old");
     StampFile(path, TicksOfUnixTime(1'000'000'000), TicksOfUnixTime(1'000'000'060));
-    const CString source = scratch.WriteFile(u"kept", "head" + std::string(200'000, 'k'));
-    DocumentReplacement replacement = DocumentReplacement::WithContent(path, source, 4);
+    const CString source = scratch.WriteFile(u"kept", std::string(200'000, 'k'));
+    DocumentReplacement replacement = DocumentReplacement::WithContent(path, source);
     ASSERT_EQ(replacement.Error(), Result::ok);
     ASSERT_EQ(replacement.Commit(), Result::ok);
     EXPECT_EQ(scratch.ReadFile(u"a.doc"), std::string(200'000, 'k'));
     EXPECT_EQ(VyrPlatform::FileTimes::GetModified(path), TicksOfUnixTime(1'000'000'000));
     EXPECT_EQ(Files(), 2);
-    const DocumentReplacement missing = DocumentReplacement::WithContent(path, scratch.Path(u"missing"), 0);
+    const DocumentReplacement missing = DocumentReplacement::WithContent(path, scratch.Path(u"missing"));
     EXPECT_EQ(missing.Error(), Result::fileNotFound);
 }
 
