@@ -196,9 +196,9 @@ PropertiesCommand::PropertiesCommand(CLI::App& program)
     AddValues(
         m_command, "--set", "NAME=TEXT",
         "Set title, subject, author, keywords, comments, lastAuthor, revision, template or application; <Name> in "
-        "the text stands for the file's name without its extension, <Parent> for its folder's name");
-    AddValues(m_command, "--clear", "LIST",
-              "Clear these, or created, saved, printed or thumbnail; several separated by commas");
+        "the text stands for the file's name without its extension, <Parent> for its folder's name. Or set created, "
+        "saved or printed to a date such as 2024-01-05 or \"2024-01-05 10:30\"");
+    AddValues(m_command, "--clear", "LIST", "Clear these, or the thumbnail; several separated by commas");
     AddFlag(
         m_command, "--clear-all", m_clearsAll,
         "Clear all of them but the thumbnail, and all others (company, category, manager and the user's own), except "

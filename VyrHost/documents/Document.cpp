@@ -21,19 +21,19 @@ namespace Id = VyrPlatform::SummaryId;
 namespace Result = VyrPlatform::PropertyStorage::Result;
 
 constexpr PropertyName names[] = {
-    {u"title", Id::title, true},
-    {u"subject", Id::subject, true},
-    {u"author", Id::author, true},
-    {u"keywords", Id::keywords, true},
-    {u"comments", Id::comments, true},
-    {u"lastAuthor", Id::lastAuthor, true},
-    {u"revision", Id::revision, true},
-    {u"template", Id::templateName, true},
-    {u"application", Id::application, true},
-    {u"created", Id::created, false},
-    {u"saved", Id::saved, false},
-    {u"printed", Id::printed, false},
-    {u"thumbnail", Id::thumbnail, false},
+    {u"title", Id::title, PropertyKind::Text},
+    {u"subject", Id::subject, PropertyKind::Text},
+    {u"author", Id::author, PropertyKind::Text},
+    {u"keywords", Id::keywords, PropertyKind::Text},
+    {u"comments", Id::comments, PropertyKind::Text},
+    {u"lastAuthor", Id::lastAuthor, PropertyKind::Text},
+    {u"revision", Id::revision, PropertyKind::Text},
+    {u"template", Id::templateName, PropertyKind::Text},
+    {u"application", Id::application, PropertyKind::Text},
+    {u"created", Id::created, PropertyKind::Time},
+    {u"saved", Id::saved, PropertyKind::Time},
+    {u"printed", Id::printed, PropertyKind::Time},
+    {u"thumbnail", Id::thumbnail, PropertyKind::Picture},
 };
 
 OfficePropertyFuncs::CLSID_ITEM Item(const char16_t* extension, const GUID& handler)

@@ -15,6 +15,13 @@ struct _GUID; // NOLINT(bugprone-reserved-identifier): the system's own tag
 
 namespace VyrHost::Documents {
 
+enum class PropertyKind : std::uint8_t
+{
+    Text,
+    Time,
+    Picture
+};
+
 /// A property as people name it.
 struct PropertyName
 {
@@ -22,11 +29,10 @@ struct PropertyName
     const char16_t* name;
     /// Of the summary information.
     std::uint32_t id;
-    /// It is a text, and not a date or a picture.
-    bool isText;
+    PropertyKind kind;
 };
 
-/// Those that can be set or cleared, in the order in which they are shown.
+/// Those that can be cleared, and set unless they are pictures, in the order in which they are shown.
 [[nodiscard]] std::span<const PropertyName> PropertyNames();
 
 /// The property that is called `name`, without regard to case; null for no such.

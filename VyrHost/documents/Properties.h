@@ -7,6 +7,7 @@
 #include <VyrHost/model/KeepsFile.h>
 #include <VyrPlatform/documents/DocumentProperties.h>
 #include <VyrPlatform/files/FileReader.h>
+#include <VyrPlatform/files/FileTimes.h>
 
 #include <cstdint>
 #include <map>
@@ -75,6 +76,9 @@ private:
 /// The kinds of change of this folder.
 [[nodiscard]] Model::ChangeKinds Kinds();
 
+/// A time as people read it, in local time.
+[[nodiscard]] CString ShownTime(VyrPlatform::FileTicks ticks);
+
 /// What the documents of a list get.
 struct PropertyRequest
 {
@@ -82,12 +86,14 @@ struct PropertyRequest
     /// Texts by the ids of their properties, with <Name> for the file's name without its extension, and <Parent> for
     /// the name of the folder that it is in; nothing clears the property.
     std::map<std::uint32_t, std::optional<CString>> values;
+    /// Times by the ids of their properties.
+    std::map<std::uint32_t, VyrPlatform::FileTicks> times;
     bool breaksSignatures = false;
 };
 
-/// Adds what `text`, such as "title=The <Name>", sets.
-/// @throws UsageError for a property that there is not or that cannot be set, one that is named twice, and a word in
-/// angle brackets that stands for nothing.
+/// Adds what `text`, such as "title=The <Name>" or "created=2024-01-05 10:30", sets.
+/// @throws UsageError for a property that there is not or that cannot be set, one that is named twice, a word in angle
+/// brackets that stands for nothing, and a time that is none.
 void ParseProperty(std::u16string_view text, PropertyRequest& request);
 /// Adds what `text`, names separated by commas, clears.
 /// @throws UsageError likewise.

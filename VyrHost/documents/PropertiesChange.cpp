@@ -1,8 +1,8 @@
 // Replaces documents, and writes the changes for the journal.
 //
 // Before: "SIZE CHECK", and ";TEXT" for each property that is changed: what it was, in words. After: "all" or "some",
-// and ";NAME" for each that is removed, ";NAME TEXT" for each that is set. Texts are the hexadecimal digits of their
-// UTF-16 units, the low byte first.
+// and ";NAME" for each that is removed, ";NAME TEXT" or ";NAME TICKS" for each that is set. Texts are the hexadecimal
+// digits of their UTF-16 units, the low byte first.
 //
 // The name of the old document that is kept ends with "SIZE CHECK" of the new one.
 #include <VyrHost/documents/Properties.h>
@@ -18,8 +18,10 @@
 #include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/files/FileReader.h>
 #include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/files/FolderListing.h>
 #include <VyrPlatform/text/Encoding.h>
+#include <VyrPlatform/time/COleDateTime.h>
 
 #include <algorithm>
 #include <cstring>
@@ -121,15 +123,19 @@ const PropertyName* FindById(std::uint32_t id)
     return found == names.end() ? nullptr : &*found;
 }
 
-/// Reads "NAME" or "NAME TEXT".
+/// Reads "NAME", "NAME TEXT" or "NAME TICKS".
 bool ReadValue(std::u16string_view piece, VyrPlatform::PropertyEdit& edit)
 {
-    const bool hasText = piece.find(u' ') != std::u16string_view::npos;
+    const bool isSet = piece.find(u' ') != std::u16string_view::npos;
     const PropertyName* const property = FindProperty(TakeUpTo(piece, u' '));
-    const auto text = hasText ? FromHexBytes(piece) : std::nullopt;
-    if (!property || hasText != text.has_value() || (hasText && !property->isText))
+    if (!property || edit.Names(property->id) || (isSet && property->kind == PropertyKind::Picture))
         return false;
-    return edit.values.emplace(property->id, text).second;
+    if (isSet && property->kind == PropertyKind::Time) {
+        const auto ticks = ReadWhole(piece);
+        return ticks && *ticks > 0 && edit.times.emplace(property->id, *ticks).second;
+    }
+    const auto text = isSet ? FromHexBytes(piece) : std::nullopt;
+    return isSet == text.has_value() && edit.values.emplace(property->id, text).second;
 }
 
 bool ReadAfter(std::u16string_view text, VyrPlatform::PropertyEdit& edit)
@@ -139,7 +145,7 @@ bool ReadAfter(std::u16string_view text, VyrPlatform::PropertyEdit& edit)
     bool isSound = first == allCleared || first == someCleared;
     while (isSound && !text.empty())
         isSound = ReadValue(TakeUpTo(text, u';'), edit);
-    return isSound && (edit.clearsAll || !edit.values.empty());
+    return isSound && (edit.clearsAll || edit.NamesAny());
 }
 
 bool ReadBefore(std::u16string_view text, PropertiesChange::Document& document)
@@ -176,6 +182,16 @@ std::optional<Fingerprint> FingerprintOf(const FileReader& reader)
     return fingerprint;
 }
 
+CString ShownTime(VyrPlatform::FileTicks ticks)
+{
+    const COleDateTime local = VyrPlatform::FileTimes::ToLocal(ticks);
+    CString text;
+    if (local.GetStatus() == COleDateTime::valid)
+        text.Format(u"%04d-%02d-%02d %02d:%02d:%02d", local.GetYear(), local.GetMonth(), local.GetDay(),
+                    local.GetHour(), local.GetMinute(), local.GetSecond());
+    return text;
+}
+
 std::shared_ptr<const Model::Change> PropertiesChange::Read(const CString& before, const CString& after)
 {
     auto document = std::make_shared<Document>();
@@ -200,6 +216,8 @@ CString PropertiesChange::After() const
         if (value)
             text += CString::Join({u" ", ToHex(HexBytes(*value))});
     }
+    for (const auto& [id, ticks] : m_document->edit.times)
+        text += CString::Join({u";", FindById(id)->name, u" ", VyrPlatform::Encoding::FromUtf8(std::to_string(ticks))});
     return text;
 }
 
@@ -222,6 +240,8 @@ CString PropertiesChange::ShownAfter() const
         else if (!clearsAll)
             text = Joined(text, {u"no ", name});
     }
+    for (const auto& [id, ticks] : m_document->edit.times)
+        text = Joined(text, {FindById(id)->name, u" ", ShownTime(ticks)});
     if (!clearsAll)
         return text;
     return text.IsEmpty() ? CString(u"no properties") : Joined(text, {u"nothing else"});

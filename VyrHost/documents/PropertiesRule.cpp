@@ -7,12 +7,12 @@
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/text/Template.h>
+#include <VyrHost/text/TypedDateTime.h>
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/documents/PropertyStorage.h>
 #include <VyrPlatform/files/FileReader.h>
 #include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/text/Encoding.h>
-#include <VyrPlatform/time/COleDateTime.h>
 
 #include <algorithm>
 #include <utility>
@@ -30,11 +30,11 @@ namespace Result = VyrPlatform::PropertyStorage::Result;
 constexpr std::u16string_view nameWord = u"Name";
 constexpr std::u16string_view parentWord = u"Parent";
 
-std::string ListOfNames(bool areTextsOnly)
+std::string ListOfNames(bool arePicturesToo)
 {
     std::string list;
     for (const PropertyName& property : PropertyNames())
-        if (property.isText || !areTextsOnly)
+        if (property.kind != PropertyKind::Picture || arePicturesToo)
             list.append(list.empty() ? "" : ", ").append(VyrPlatform::Encoding::ToUtf8(property.name));
     return list;
 }
@@ -50,10 +50,20 @@ void RequireTokens(std::u16string_view text)
     }
 }
 
-void Add(const PropertyName& property, const std::optional<CString>& text, std::u16string_view given,
-         const char* option, PropertyRequest& request)
+/// The given time; without a time of day the day's beginning.
+VyrPlatform::FileTicks ReadTime(std::u16string_view value, std::u16string_view given)
 {
-    if (!request.values.emplace(property.id, text).second)
+    const auto typed = Text::ReadTypedDateTime(value);
+    const auto ticks = typed && typed->hasDate ? VyrPlatform::FileTimes::FromLocal(typed->value) : std::nullopt;
+    if (!ticks)
+        Text::RefuseValue("--set", given, "a date is expected, such as 2024-01-05 or \"2024-01-05 10:30\"");
+    return *ticks;
+}
+
+void RequireNew(const PropertyName& property, std::u16string_view given, const char* option,
+                const PropertyRequest& request)
+{
+    if (request.values.contains(property.id) || request.times.contains(property.id))
         Text::RefuseValue(option, given, VyrPlatform::Encoding::ToUtf8(property.name) + " is named more than once");
 }
 
@@ -104,17 +114,11 @@ PropertyEdit WhatChanges(const PropertyRequest& request, const DocumentPropertie
         if (!isSo)
             edit.values.emplace(id, value);
     }
+    for (const auto& [id, ticks] : request.times)
+        if (const auto known = properties.times.find(id);
+            known == properties.times.end() || known->second != ticks || edit.clearsAll)
+            edit.times.emplace(id, ticks);
     return edit;
-}
-
-CString ShownDate(VyrPlatform::FileTicks ticks)
-{
-    const COleDateTime local = VyrPlatform::FileTimes::ToLocal(ticks);
-    CString text;
-    if (local.GetStatus() == COleDateTime::valid)
-        text.Format(u"%04d-%02d-%02d %02d:%02d:%02d", local.GetYear(), local.GetMonth(), local.GetDay(),
-                    local.GetHour(), local.GetMinute(), local.GetSecond());
-    return text;
 }
 
 CString ShownProperty(const PropertyName& property, const DocumentProperties& properties)
@@ -122,7 +126,7 @@ CString ShownProperty(const PropertyName& property, const DocumentProperties& pr
     if (const auto text = properties.texts.find(property.id); text != properties.texts.end())
         return CString::Join({property.name, u" \"", text->second, u"\""});
     if (const auto time = properties.times.find(property.id); time != properties.times.end())
-        return CString::Join({property.name, u" ", ShownDate(time->second)});
+        return CString::Join({property.name, u" ", ShownTime(time->second)});
     if (property.id == Id::thumbnail && properties.hasThumbnail)
         return u"a thumbnail";
     return CString::Join({u"no ", property.name});
@@ -134,7 +138,7 @@ std::vector<CString> ShownBefore(const DocumentProperties& properties, const Pro
     std::vector<CString> shown;
     for (const PropertyName& property : PropertyNames()) {
         const bool isCleared = edit.clearsAll && property.id != Id::thumbnail && HasProperty(properties, property.id);
-        if (isCleared || edit.values.contains(property.id))
+        if (isCleared || edit.Names(property.id))
             shown.push_back(ShownProperty(property, properties));
     }
     if (edit.clearsAll && properties.others > 0) {
@@ -166,15 +170,20 @@ void ParseProperty(std::u16string_view text, PropertyRequest& request)
     std::u16string_view value = text;
     const bool hasValue = text.find(u'=') != text.npos;
     const PropertyName* const property = FindProperty(Metadata::TakeUpTo(value, u'='));
-    if (!property || !property->isText || !hasValue)
-        Text::RefuseValue("--set", text, "NAME=TEXT is expected, where NAME is one of " + ListOfNames(true));
+    if (!property || property->kind == PropertyKind::Picture || !hasValue)
+        Text::RefuseValue("--set", text, "NAME=TEXT is expected, where NAME is one of " + ListOfNames(false));
     if (value.empty())
         Text::RefuseValue("--set", text, "there is no text; --clear clears a property");
+    RequireNew(*property, text, "--set", request);
+    if (property->kind == PropertyKind::Time) {
+        request.times.emplace(property->id, ReadTime(value, text));
+        return;
+    }
     const bool isNumber = value.find_first_not_of(u"0123456789") == value.npos;
     if (property->id == Id::revision && !isNumber)
         Text::RefuseValue("--set", text, "a revision is a whole number");
     RequireTokens(value);
-    Add(*property, CString(value), text, "--set", request);
+    request.values.emplace(property->id, CString(value));
 }
 
 void ParseCleared(std::u16string_view text, PropertyRequest& request)
@@ -183,8 +192,9 @@ void ParseCleared(std::u16string_view text, PropertyRequest& request)
         const bool isLast = rest.find(u',') == rest.npos;
         const PropertyName* const property = FindProperty(Metadata::TakeUpTo(rest, u','));
         if (!property)
-            Text::RefuseValue("--clear", text, ListOfNames(false) + " are known; several are separated by commas");
-        Add(*property, std::nullopt, text, "--clear", request);
+            Text::RefuseValue("--clear", text, ListOfNames(true) + " are known; several are separated by commas");
+        RequireNew(*property, text, "--clear", request);
+        request.values.emplace(property->id, std::nullopt);
         if (isLast)
             return;
     }
@@ -198,7 +208,7 @@ Metadata::Proposal PropertiesRule::Propose(const CString& path, const Model::Ent
     if (CString obstacle = FindObstacle(document, m_request); !obstacle.IsEmpty())
         return {nullptr, std::move(obstacle)};
     PropertyEdit edit = WhatChanges(m_request, document.properties, path, entry);
-    if (!edit.clearsAll && edit.values.empty())
+    if (!edit.clearsAll && !edit.NamesAny())
         return {};
     if (const std::uint32_t result = VyrPlatform::CheckDocumentEdit(path, edit, HandlerOf(path)); result != Result::ok)
         return {nullptr, Text::ErrorText(result)};

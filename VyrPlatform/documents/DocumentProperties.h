@@ -73,6 +73,12 @@ struct PropertyEdit
     bool clearsAll = false;
     /// New texts by their ids; nothing removes a property of any kind.
     std::map<std::uint32_t, std::optional<CString>> values;
+    /// New times by their ids, none of which has a text.
+    std::map<std::uint32_t, FileTicks> times;
+
+    /// Whether properties other than those that clearsAll removes are changed.
+    [[nodiscard]] bool NamesAny() const noexcept { return !values.empty() || !times.empty(); }
+    [[nodiscard]] bool Names(std::uint32_t id) const { return values.contains(id) || times.contains(id); }
 };
 
 /// A new document that has been written beside an old one, and that can take its place, flushed and at a stroke, with

@@ -170,6 +170,8 @@ std::uint32_t EditSummary(PropertySection& section, const PropertyEdit& edit)
             section.Set(id, StoreText(*text, *codePage));
         else
             return Result::notSupported;
+    for (const auto& [id, ticks] : edit.times)
+        section.Set(id, StoreTime(ticks));
     return Result::ok;
 }
 
@@ -201,7 +203,7 @@ std::uint32_t EditCompoundProperties(const RootStorage& root, const PropertyEdit
     std::optional<PropertySetStream> summary;
     const std::uint32_t result = ReadSet(root, summaryStream, summaryFormat, summary);
     // A document without a summary has nothing of it that could be cleared.
-    const bool isMissing = result == Result::fileNotFound && edit.clearsAll && edit.values.empty();
+    const bool isMissing = result == Result::fileNotFound && edit.clearsAll && !edit.NamesAny();
     if (result != Result::ok && !isMissing)
         return result;
     if (result == Result::ok) {

@@ -318,6 +318,14 @@ std::string StoreText(const CString& text, std::uint32_t codePage)
     return StoreBytes(VT_LPSTR, text, codePage);
 }
 
+std::string StoreTime(std::int64_t ticks)
+{
+    std::string data;
+    Append(data, std::uint32_t{VT_FILETIME});
+    Append(data, ticks);
+    return data;
+}
+
 std::optional<CString> ReadStoredText(std::string_view stored, std::uint32_t codePage)
 {
     const auto type = NumberAt<std::uint16_t>(stored, 0);

@@ -91,6 +91,9 @@ private:
 /// holds every character, else in UTF-16.
 [[nodiscard]] VYR_PLATFORM_API std::string StoreText(const CString& text, std::uint32_t codePage);
 
+/// A file time, in ticks since 1601, as it stands in a section.
+[[nodiscard]] VYR_PLATFORM_API std::string StoreTime(std::int64_t ticks);
+
 /// The text of a stored value, up to its first NUL; nothing when it has another type or is damaged.
 [[nodiscard]] VYR_PLATFORM_API std::optional<CString> ReadStoredText(std::string_view stored, std::uint32_t codePage);
 /// The integer of a stored value, also a Boolean or a flag; nothing when it has another type or is damaged.

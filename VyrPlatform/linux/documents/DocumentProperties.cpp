@@ -8,6 +8,7 @@
 #include "PropertySets.h"
 
 #include <VyrPlatform/WinTypes.h>
+#include <VyrPlatform/common/documents/PropertyWrites.h>
 #include <VyrPlatform/linux/files/NativePath.h>
 
 #include <algorithm>
@@ -24,7 +25,6 @@ namespace VyrPlatform {
 namespace {
 
 namespace Result = PropertyStorage::Result;
-using PropertyStorage::PropertyWrite;
 
 class OpenRoot : public RootStorage
 {
@@ -66,54 +66,38 @@ std::uint32_t ReadPackage(PropertyFormat format, int file, DocumentProperties& p
     return Result::ok;
 }
 
-/// The writes of `edit` to a part; its texts must live as long.
-std::vector<PropertyWrite> WritesTo(PropertyFormat format, const PropertyEdit& edit, std::vector<PROPVARIANT>& values)
-{
-    std::vector<PropertyWrite> writes;
-    values.reserve(edit.values.size());
-    for (const auto& [id, text] : edit.values) {
-        if (!HasPropertyElement(format, id))
-            continue;
-        PROPVARIANT& value = values.emplace_back();
-        value = {};
-        if (text) {
-            value.vt = VT_LPWSTR;
-            value.pwszVal = const_cast<char16_t*>(text->GetString());
-        }
-        writes.push_back({id, &value});
-    }
-    return writes;
-}
-
 EditedXml EditPart(PropertyFormat format, const std::string& text, const PropertyEdit& edit)
 {
-    std::vector<PROPVARIANT> values;
-    const std::vector<PropertyWrite> writes = WritesTo(format, edit, values);
+    const PropertyWrites writes(edit, [format](std::uint32_t id) { return HasPropertyElement(format, id); });
     if (!edit.clearsAll)
-        return EditPropertyXml(format, text, writes);
+        return EditPropertyXml(format, text, writes.Get());
     EditedXml cleared = ClearPropertyXml(format, text);
-    return cleared.result == Result::ok ? EditPropertyXml(format, cleared.text, writes) : cleared;
+    return cleared.result == Result::ok ? EditPropertyXml(format, cleared.text, writes.Get()) : cleared;
 }
 
-/// Whether the package has a place for each text that is to be set. To remove what no such document has is no fault.
+/// Whether the package has a place for what is to be set. To remove what no such document has is no fault.
 bool HasPlaces(PropertyFormat format, const std::vector<PackagePart>& further, const PropertyEdit& edit)
 {
-    for (const auto& [id, text] : edit.values) {
-        bool isKnown = HasPropertyElement(format, id);
-        for (const PackagePart& part : further)
-            isKnown = isKnown || HasPropertyElement(part.format, id);
-        if (!isKnown && (text || id == SummaryId::thumbnail))
-            return false;
-    }
-    return true;
+    const auto hasPlace = [&](std::uint32_t id) {
+        return HasPropertyElement(format, id) ||
+               std::any_of(further.begin(), further.end(),
+                           [id](const PackagePart& part) { return HasPropertyElement(part.format, id); });
+    };
+    return std::all_of(edit.values.begin(), edit.values.end(),
+                       [&](const auto& value) {
+                           return hasPlace(value.first) || (!value.second && value.first != SummaryId::thumbnail);
+                       }) &&
+           std::all_of(edit.times.begin(), edit.times.end(), [&](const auto& time) { return hasPlace(time.first); });
 }
 
 /// Whether the part is to be written; others stay as they are.
 bool Concerns(const PropertyEdit& edit, PropertyFormat format)
 {
-    return edit.clearsAll || std::any_of(edit.values.begin(), edit.values.end(), [format](const auto& value) {
-               return HasPropertyElement(format, value.first);
-           });
+    const auto isHere = [format](const auto& value) {
+        return HasPropertyElement(format, value.first);
+    };
+    return edit.clearsAll || std::any_of(edit.values.begin(), edit.values.end(), isHere) ||
+           std::any_of(edit.times.begin(), edit.times.end(), isHere);
 }
 
 /// @return a result code.

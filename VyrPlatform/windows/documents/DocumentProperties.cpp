@@ -6,6 +6,7 @@
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/common/documents/CompoundProperties.h>
 #include <VyrPlatform/common/documents/PropertySetStream.h>
+#include <VyrPlatform/common/documents/PropertyWrites.h>
 #include <VyrPlatform/common/files/TemporaryPath.h>
 #include <VyrPlatform/documents/PropertyStorage.h>
 #include <VyrPlatform/files/FileReader.h>
@@ -254,17 +255,8 @@ std::uint32_t EditByHandler(const CString& path, const GUID& handler, const Prop
     const auto set = PropertyStorage::PropertySet::Open(document.Get(), PropertyStorage::StandardSet::Summary);
     if (!set.IsOpen())
         return set.GetError();
-    std::vector<PROPVARIANT> values(edit.values.size());
-    std::vector<PropertyStorage::PropertyWrite> writes;
-    for (const auto& [id, text] : edit.values) {
-        PROPVARIANT& value = values[writes.size()];
-        if (text) {
-            value.vt = VT_LPWSTR;
-            value.pwszVal = const_cast<wchar_t*>(static_cast<const wchar_t*>(ToWide(*text)));
-        }
-        writes.push_back({id, &value});
-    }
-    return set.Write(writes);
+    const PropertyWrites writes(edit, [](std::uint32_t /*id*/) { return true; });
+    return set.Write(writes.Get());
 }
 
 /// The old document as it was when its replacement was begun.
@@ -296,14 +288,18 @@ bool IsSame(const BY_HANDLE_FILE_INFORMATION& left, const BY_HANDLE_FILE_INFORMA
            CompareFileTime(&left.ftLastWriteTime, &right.ftLastWriteTime) == 0;
 }
 
-/// Who may do what with the file `from`, for the file `to`, as far as the user may say so.
-void CopyPermissions(const LongPath& from, const LongPath& to)
+/// Gives the file `to` the owner and group of the file `from`, and says who may do what with it: each as far as the
+/// user may.
+void CopySecurity(const LongPath& from, const LongPath& to)
 {
-    DWORD needed = 0;
-    GetFileSecurityW(from.Get(), DACL_SECURITY_INFORMATION, nullptr, 0, &needed);
-    std::vector<std::byte> descriptor(needed);
-    if (needed != 0 && GetFileSecurityW(from.Get(), DACL_SECURITY_INFORMATION, descriptor.data(), needed, &needed))
-        SetFileSecurityW(to.Get(), DACL_SECURITY_INFORMATION, descriptor.data());
+    for (const DWORD part :
+         {DWORD{DACL_SECURITY_INFORMATION}, DWORD{GROUP_SECURITY_INFORMATION}, DWORD{OWNER_SECURITY_INFORMATION}}) {
+        DWORD needed = 0;
+        GetFileSecurityW(from.Get(), part, nullptr, 0, &needed);
+        std::vector<std::byte> descriptor(needed);
+        if (needed != 0 && GetFileSecurityW(from.Get(), part, descriptor.data(), needed, &needed))
+            SetFileSecurityW(to.Get(), part, descriptor.data());
+    }
 }
 
 /// Gives the file at `path` the old document's times, and flushes it.
@@ -399,7 +395,7 @@ struct DocumentReplacement::State
         const LongPath to(newPath);
         if (const std::uint32_t result = edit(newPath); result != Result::ok)
             return result;
-        CopyPermissions(from, to);
+        CopySecurity(from, to);
         return FromError(Finish(to, old.information));
     }
 };

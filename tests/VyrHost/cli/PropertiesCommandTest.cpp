@@ -194,13 +194,34 @@ TEST_F(PropertiesCommand, WhatIsKeptGoesWithItsJournal)
     EXPECT_EQ(KeptFiles(), 0U);
 }
 
+TEST_F(PropertiesCommand, DatesAreSetInLocalTimeAndTakenBack)
+{
+    const std::string before = Place(u"a.doc");
+    const ProgramResult set =
+        Run({u"properties", u"--set=created=2001-02-03 04:05:06", u"--set=printed=2002-03-04", u"a.doc", u"--apply"});
+    EXPECT_EQ(set.exitCode, 0) << set.output << set.errors;
+    EXPECT_THAT(set.output, HasSubstr("created 2024-01-05 10:30:00, no printed -> "));
+    EXPECT_THAT(set.output, HasSubstr("printed 2002-03-04 00:00:00, created 2001-02-03 04:05:06"));
+    const ProgramResult json = Run({u"properties", u"a.doc", u"--json"});
+    EXPECT_THAT(json.output, HasSubstr("\"created\":\"2001-02-03T04:05:06+00:00\""));
+    EXPECT_THAT(json.output, HasSubstr("\"printed\":\"2002-03-04T00:00:00+00:00\""));
+    EXPECT_THAT(Run({u"properties", u"--set=created=2001-02-03 04:05:06", u"a.doc", u"--apply"}).output,
+                HasSubstr("1 entry: 1 unchanged."));
+    EXPECT_EQ(Run({u"undo"}).exitCode, 0);
+    EXPECT_EQ(m_folder.ReadFile(u"a.doc"), before);
+}
+
 TEST_F(PropertiesCommand, CallsThatMakeNoSenseAreRefused)
 {
     Place(u"a.doc");
     const std::vector<std::vector<CString>> calls{{u"--set", u"title"},
                                                   {u"--set", u"titel=x"},
                                                   {u"--set", u"title="},
-                                                  {u"--set", u"created=2020-01-01"},
+                                                  {u"--set", u"created=soon"},
+                                                  {u"--set", u"created=10:30"},
+                                                  {u"--set", u"created=2020-02-30"},
+                                                  {u"--set", u"created=2020-01-01", u"--clear", u"created"},
+                                                  {u"--set", u"thumbnail=x"},
                                                   {u"--set", u"revision=new"},
                                                   {u"--set", u"title=<Nmae>"},
                                                   {u"--clear", u"titel"},

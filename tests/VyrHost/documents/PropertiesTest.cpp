@@ -198,11 +198,13 @@ TEST(PropertiesText, ThatNoChangeWritesIsRefused)
     for (const char16_t* const before :
          {u"", u"1", u"1 xyz", u"-1 00000000", u"1 123456789", u"1 00000000;0", u"1 0;zz"})
         EXPECT_FALSE(PropertiesChange::Read(before, u"some;title 4100")) << ToStdPath(before);
-    for (const char16_t* const after : {u"", u"some", u"any;title", u"some;titel", u"some;title 41", u"some;title zz00",
-                                        u"some;created 4100", u"some;title;title", u"some;"})
+    for (const char16_t* const after :
+         {u"", u"some", u"any;title", u"some;titel", u"some;title 41", u"some;title zz00", u"some;created 41x0",
+          u"some;created 0", u"some;created 4100;created", u"some;thumbnail 4100", u"some;title;title", u"some;"})
         EXPECT_FALSE(PropertiesChange::Read(u"1 00000000", after)) << ToStdPath(after);
     EXPECT_TRUE(PropertiesChange::Read(u"1 00000000", u"all"));
     EXPECT_TRUE(PropertiesChange::Read(u"1 00000000;4100", u"some;title 4100;created"));
+    EXPECT_TRUE(PropertiesChange::Read(u"1 00000000", u"all;created 4100"));
 }
 
 TEST(PropertyTokens, AreThoseOfTheFile)

@@ -133,10 +133,14 @@ protected:
         for (const PropertyName& property : PropertyNames()) {
             if (!IsLikely(4) || property.id == Id::thumbnail)
                 continue;
+            if (property.kind == PropertyKind::Time && !IsLikely(3)) {
+                request.times.emplace(property.id, TicksOfUnixTime(static_cast<std::int64_t>(Below(2'000'000'000))));
+                continue;
+            }
             std::optional<CString> value;
             if (property.id == Id::revision)
                 value = VyrPlatform::Encoding::FromUtf8(std::to_string(Below(1'000)));
-            else if (property.isText)
+            else if (property.kind == PropertyKind::Text)
                 value = CString(Text());
             request.values.emplace(property.id, IsLikely(3) ? std::nullopt : value);
         }
@@ -161,6 +165,8 @@ protected:
             if (value)
                 texts.emplace(id, *value);
         }
+        for (const auto& [id, ticks] : request.times)
+            times[id] = ticks;
         EXPECT_EQ(after.texts, texts);
         EXPECT_EQ(after.times, times);
         EXPECT_EQ(after.others, request.clearsAll ? 0U : before.others);

@@ -1,0 +1,59 @@
+// What is written to a document that a handler writes.
+#pragma once
+
+#include <VyrPlatform/WinTypes.h>
+#include <VyrPlatform/documents/DocumentProperties.h>
+#include <VyrPlatform/documents/PropertyStorage.h>
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace VyrPlatform {
+
+/// The writes of an edit, whose texts must live as long.
+class PropertyWrites
+{
+public:
+    /// Of those properties that `isWanted` takes.
+    template <class IsWanted>
+    PropertyWrites(const PropertyEdit& edit, const IsWanted& isWanted)
+    {
+        m_values.reserve(edit.values.size() + edit.times.size());
+        for (const auto& [id, text] : edit.values)
+            if (isWanted(id))
+                Add(id, text ? TextValue(*text) : PROPVARIANT{});
+        for (const auto& [id, ticks] : edit.times)
+            if (isWanted(id))
+                Add(id, TimeValue(ticks));
+    }
+
+    [[nodiscard]] std::span<const PropertyStorage::PropertyWrite> Get() const noexcept { return m_writes; }
+
+private:
+    [[nodiscard]] static PROPVARIANT TextValue(const CString& text)
+    {
+        PROPVARIANT value{};
+        value.vt = VT_LPWSTR;
+        value.pwszVal = reinterpret_cast<decltype(value.pwszVal)>(const_cast<char16_t*>(text.GetString()));
+        return value;
+    }
+    [[nodiscard]] static PROPVARIANT TimeValue(FileTicks ticks)
+    {
+        const auto bits = static_cast<std::uint64_t>(ticks);
+        PROPVARIANT value{};
+        value.vt = VT_FILETIME;
+        value.filetime = {static_cast<std::uint32_t>(bits), static_cast<std::uint32_t>(bits >> 32)};
+        return value;
+    }
+    void Add(std::uint32_t id, const PROPVARIANT& value)
+    {
+        m_values.push_back(value);
+        m_writes.push_back({id, &m_values.back()});
+    }
+
+    std::vector<PROPVARIANT> m_values;
+    std::vector<PropertyStorage::PropertyWrite> m_writes;
+};
+
+} // namespace VyrPlatform
