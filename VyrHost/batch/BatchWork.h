@@ -31,9 +31,11 @@ public:
     /// Whether there is one that is not kept, and whose file has the change or can get it.
     [[nodiscard]] bool IsAnyFound() const;
 
-    /// Applies the changes, or takes them back in reverse order. What another program has changed since stays.
+    /// Applies the changes, or takes them back in reverse order. What another program has changed since stays. Where
+    /// many are applied, and each is known to be of another file, two threads share them.
     /// @param followRenames  which changes: those that follow the renames, or the others.
-    /// @param report called once for each of them.
+    /// @param report called once for each of them, in their order.
+    /// @param isStopAsked asked before each change, or before many that two threads share.
     /// @return false when it was stopped before the end.
     bool Run(Direction direction, bool followRenames, const Report& report, const Executor::StopRequest& isStopAsked);
     /// After Locate: what Run would report of a change.
@@ -48,6 +50,8 @@ public:
 
 private:
     [[nodiscard]] bool IsDone(std::size_t index) const;
+    [[nodiscard]] std::vector<std::size_t> FindToDo(Direction direction, bool followRenames) const;
+    [[nodiscard]] bool AreOfDifferentFiles() const;
     [[nodiscard]] Model::Outcome Perform(std::size_t index, Direction direction);
 
     const Journal& m_journal;

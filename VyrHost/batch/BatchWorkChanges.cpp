@@ -2,7 +2,11 @@
 #include <VyrHost/batch/BatchWork.h>
 
 #include <VyrHost/model/SlotTable.h>
+#include <VyrHost/model/TwoThreads.h>
 #include <VyrHost/text/Errors.h>
+
+#include <algorithm>
+#include <utility>
 
 namespace VyrHost::Batch {
 
@@ -64,16 +68,52 @@ bool ChangeWork::IsAnyFound() const
     return false;
 }
 
+/// Those of Run, in their order.
+std::vector<std::size_t> ChangeWork::FindToDo(Direction direction, bool followRenames) const
+{
+    std::vector<std::size_t> toDo;
+    for (std::size_t index = 0; index < m_looks.size(); ++index)
+        if (!m_isKept[index] && m_journal.changes[index].change->FollowsRenames() == followRenames)
+            toDo.push_back(index);
+    if (direction == Direction::Backward)
+        std::reverse(toDo.begin(), toDo.end());
+    return toDo;
+}
+
+/// Whether each change is of a file of its own, so that their order makes no difference. Names may be links to one
+/// file.
+bool ChangeWork::AreOfDifferentFiles() const
+{
+    std::vector<std::pair<std::uint64_t, std::uint64_t>> files;
+    files.reserve(m_journal.changes.size());
+    for (const PlannedChange& planned : m_journal.changes) {
+        const auto file = planned.change->OnlyFile();
+        if (!file)
+            return false;
+        files.emplace_back(file->device, file->number);
+    }
+    std::sort(files.begin(), files.end());
+    return std::adjacent_find(files.begin(), files.end()) == files.end();
+}
+
 bool ChangeWork::Run(Direction direction, bool followRenames, const Report& report,
                      const Executor::StopRequest& isStopAsked)
 {
+    const std::vector<std::size_t> toDo = FindToDo(direction, followRenames);
+    const std::size_t together = direction == Direction::Forward && AreOfDifferentFiles() ? 1024 : 1;
+    std::vector<Outcome> outcomes(toDo.size());
+    const auto perform = [&](std::size_t at, std::size_t end) {
+        for (; at < end; ++at)
+            outcomes[at] = Perform(toDo[at], direction);
+    };
     bool isStopped = false;
-    for (std::size_t count = 0; count < m_looks.size(); ++count) {
-        const std::size_t index = direction == Direction::Forward ? count : m_looks.size() - 1 - count;
-        if (m_isKept[index] || m_journal.changes[index].change->FollowsRenames() != followRenames)
-            continue;
+    for (std::size_t first = 0; first < toDo.size(); first += together) {
+        const std::size_t end = std::min(first + together, toDo.size());
         isStopped = isStopped || isStopAsked();
-        report(index, isStopped ? Outcome() : Perform(index, direction));
+        if (!isStopped)
+            Model::OnTwoThreads(first, end, perform);
+        for (std::size_t at = first; at < end; ++at)
+            report(toDo[at], outcomes[at]);
     }
     return !isStopped;
 }

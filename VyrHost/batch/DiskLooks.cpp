@@ -3,14 +3,12 @@
 
 #include <VyrHost/batch/FileOperations.h>
 #include <VyrHost/model/SlotTable.h>
-
-#include <thread>
+#include <VyrHost/model/TwoThreads.h>
 
 namespace VyrHost::Batch {
 
 std::vector<VyrPlatform::FileState> LookAtSources(const Model::RenamePlan& plan, FileOperations& files)
 {
-    constexpr std::size_t enoughForTwo = 256;
     const PlanProgress before(plan, 0);
     std::vector<VyrPlatform::FileState> states(plan.entries.size());
     const auto look = [&](std::size_t first, std::size_t end) {
@@ -18,13 +16,7 @@ std::vector<VyrPlatform::FileState> LookAtSources(const Model::RenamePlan& plan,
         for (std::size_t entry = first; entry < end; ++entry)
             states[entry] = folders.Look(plan.entries[entry].from);
     };
-    std::size_t middle = 0;
-    std::jthread other;
-    if (states.size() >= enoughForTwo) {
-        middle = states.size() / 2;
-        other = std::jthread(look, 0, middle);
-    }
-    look(middle, states.size());
+    Model::OnTwoThreads(0, states.size(), look);
     return states;
 }
 

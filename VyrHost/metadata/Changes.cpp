@@ -4,9 +4,11 @@
 #include <VyrHost/metadata/Attributes.h>
 #include <VyrHost/metadata/Marks.h>
 #include <VyrHost/metadata/Times.h>
+#include <VyrHost/model/TwoThreads.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrPlatform/files/FileIdentity.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cstddef>
 #include <string>
@@ -15,18 +17,32 @@
 
 namespace VyrHost::Metadata {
 
+namespace {
+
+Proposal ProposeChange(const ChangeRule& rule, const Model::EntryList& list, std::size_t index)
+{
+    const Model::Entry& entry = list.entries[index];
+    const CString path = list.PathOf(entry);
+    if (entry.kind == VyrPlatform::FileSystem::Kind::Missing)
+        return {nullptr, Text::ErrorText(VyrPlatform::LookAtFile(path).error)};
+    return rule.Propose(path, entry, index);
+}
+
+} // namespace
+
 std::vector<Proposal> ProposeChanges(const ChangeRule& rule, const Model::EntryList& list,
                                      const std::function<void(std::size_t done)>& report)
 {
-    std::vector<Proposal> proposals;
-    proposals.reserve(list.entries.size());
-    for (const Model::Entry& entry : list.entries) {
-        const CString path = list.PathOf(entry);
-        if (entry.kind == VyrPlatform::FileSystem::Kind::Missing)
-            proposals.push_back({nullptr, Text::ErrorText(VyrPlatform::LookAtFile(path).error)});
-        else
-            proposals.push_back(rule.Propose(path, entry, proposals.size()));
-        report(proposals.size());
+    const std::size_t together = rule.IsThreadSafe() ? 1024 : 1;
+    std::vector<Proposal> proposals(list.entries.size());
+    const auto propose = [&](std::size_t index, std::size_t end) {
+        for (; index < end; ++index)
+            proposals[index] = ProposeChange(rule, list, index);
+    };
+    for (std::size_t first = 0; first < proposals.size(); first += together) {
+        const std::size_t end = std::min(first + together, proposals.size());
+        Model::OnTwoThreads(first, end, propose);
+        report(end);
     }
     return proposals;
 }

@@ -38,10 +38,12 @@ public:
 
     /// @param index  the index of the entry in the list.
     [[nodiscard]] virtual Proposal Propose(const CString& path, const Model::Entry& entry, std::size_t index) const = 0;
+    /// Whether two threads may call Propose at the same time.
+    [[nodiscard]] virtual bool IsThreadSafe() const { return false; }
 };
 
-/// Applies `rule` to each entry of `list`. Entries that do not exist on the disk are refused. Calls `report` after each
-/// entry with the number of entries done.
+/// Applies `rule` to each entry of `list`. Entries that do not exist on the disk are refused. Two threads share a long
+/// list, where the rule allows it. Calls `report` now and then, and at the end, with the number of entries done.
 [[nodiscard]] std::vector<Proposal> ProposeChanges(const ChangeRule& rule, const Model::EntryList& list,
                                                    const std::function<void(std::size_t done)>& report);
 

@@ -22,6 +22,20 @@ std::u16string_view WordFor(FileDate date)
     return u"accessed";
 }
 
+VyrPlatform::ExactState::Part PartOf(FileDate date)
+{
+    using VyrPlatform::ExactState::Part;
+    switch (date) {
+    case FileDate::Modified:
+        return Part::Modified;
+    case FileDate::Created:
+        return Part::Created;
+    case FileDate::Accessed:
+        break;
+    }
+    return Part::Accessed;
+}
+
 std::optional<VyrPlatform::FileTicks> TicksOf(const CString& path, FileDate date)
 {
     switch (date) {

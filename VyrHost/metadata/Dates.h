@@ -3,6 +3,7 @@
 #pragma once
 
 #include <VyrHost/text/TypedDateTime.h>
+#include <VyrPlatform/files/ExactState.h>
 #include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/text/CString.h>
 #include <VyrPlatform/time/COleDateTime.h>
@@ -27,6 +28,9 @@ inline constexpr std::array<FileDate, 3> fileDates{FileDate::Modified, FileDate:
 
 /// "modified", "created" or "accessed".
 [[nodiscard]] std::u16string_view WordFor(FileDate date);
+
+/// The time as a part of a file's exact state.
+[[nodiscard]] VyrPlatform::ExactState::Part PartOf(FileDate date);
 
 /// The time of the file or folder at `path`; nothing where it cannot be read.
 [[nodiscard]] std::optional<VyrPlatform::FileTicks> TicksOf(const CString& path, FileDate date);

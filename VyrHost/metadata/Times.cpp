@@ -19,20 +19,6 @@ namespace {
 using Model::ChangeLook;
 using Model::ChangeState;
 using VyrPlatform::FileTicks;
-using VyrPlatform::ExactState::Part;
-
-Part PartOf(FileDate date)
-{
-    switch (date) {
-    case FileDate::Modified:
-        return Part::Modified;
-    case FileDate::Created:
-        return Part::Created;
-    case FileDate::Accessed:
-        break;
-    }
-    return Part::Accessed;
-}
 
 /// The system's error code for a file whose times cannot be read.
 std::uint32_t ErrorOf(const CString& path)

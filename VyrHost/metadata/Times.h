@@ -34,7 +34,10 @@ class TimesChange final : public Model::Change
 {
 public:
     /// @param steps  at least one, each for another date.
-    explicit TimesChange(std::vector<TimeStep> steps) : m_steps(std::move(steps)) {}
+    /// @param file   the file itself, where it is known.
+    explicit TimesChange(std::vector<TimeStep> steps, const std::optional<VyrPlatform::FileIdentity>& file = {})
+        : m_steps(std::move(steps)), m_file(file)
+    {}
 
     static constexpr std::string_view kind = "times";
     /// Reads the texts of the journal; null for texts that are not of this kind.
@@ -45,6 +48,7 @@ public:
     [[nodiscard]] CString After() const override;
     [[nodiscard]] CString ShownBefore() const override;
     [[nodiscard]] CString ShownAfter() const override;
+    [[nodiscard]] std::optional<VyrPlatform::FileIdentity> OnlyFile() const override { return m_file; }
     [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;
     [[nodiscard]] std::uint32_t Apply(const CString& path) const override;
     [[nodiscard]] std::uint32_t TakeBack(const CString& path) const override;
@@ -53,6 +57,7 @@ public:
 
 private:
     std::vector<TimeStep> m_steps;
+    std::optional<VyrPlatform::FileIdentity> m_file;
 };
 
 /// The source of a new time.
@@ -102,6 +107,7 @@ public:
     explicit TimesRule(const TimesSettings& settings);
 
     [[nodiscard]] Proposal Propose(const CString& path, const Model::Entry& entry, std::size_t index) const override;
+    [[nodiscard]] bool IsThreadSafe() const override { return true; }
 
 private:
     TimesSettings m_settings;

@@ -23,7 +23,6 @@ namespace {
 namespace FileTimes = VyrPlatform::FileTimes;
 using VyrLibraryUtils::DateTimeUtils;
 using VyrPlatform::FileTicks;
-using VyrPlatform::ExactState::Part;
 
 constexpr FileTicks ticksPerSecond = 10'000'000;
 constexpr const char16_t* outOfCalendar = u"the new time lies out of the calendar's range";
@@ -159,11 +158,6 @@ FileTicks ToInstant(const LocalTime& local)
     return *ticks + local.fraction;
 }
 
-Part PartOf(FileDate date)
-{
-    return date == FileDate::Modified ? Part::Modified : date == FileDate::Created ? Part::Created : Part::Accessed;
-}
-
 } // namespace
 
 TimesRule::TimesRule(const TimesSettings& settings) : m_settings(settings)
@@ -177,6 +171,7 @@ TimesRule::TimesRule(const TimesSettings& settings) : m_settings(settings)
 Proposal TimesRule::Propose(const CString& path, const Model::Entry& entry, std::size_t index) const
 {
     std::vector<TimeStep> steps;
+    std::optional<VyrPlatform::FileIdentity> file;
     try {
         for (const FileDate date : fileDates) {
             const auto& source = m_settings.sources[static_cast<std::size_t>(date)];
@@ -198,6 +193,7 @@ Proposal TimesRule::Propose(const CString& path, const Model::Entry& entry, std:
                 throw Refusal{Text::ErrorText(error)};
             step.before = before->ticks;
             step.beforeState = std::move(before->state);
+            file = before->file;
         }
     } catch (const Refusal& refusal) {
         return {nullptr, refusal.reason};
@@ -205,7 +201,7 @@ Proposal TimesRule::Propose(const CString& path, const Model::Entry& entry, std:
     std::erase_if(steps, [](const TimeStep& step) { return step.before == step.after; });
     if (steps.empty())
         return {};
-    return {std::make_shared<TimesChange>(std::move(steps)), {}};
+    return {std::make_shared<TimesChange>(std::move(steps), file), {}};
 }
 
 TimeSource ParseTimeSource(std::u16string_view text, const char* option)

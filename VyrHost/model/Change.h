@@ -3,12 +3,14 @@
 /// recovered.
 #pragma once
 
+#include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -59,6 +61,10 @@ public:
     /// Whether it is done to the file after the renames of its batch, where the file stands then, and taken back before
     /// they are undone; otherwise the other way round.
     [[nodiscard]] virtual bool FollowsRenames() const { return false; }
+
+    /// The only file that the change touches, or nothing where that is not known. Changes of different files may be
+    /// applied on two threads at the same time.
+    [[nodiscard]] virtual std::optional<VyrPlatform::FileIdentity> OnlyFile() const { return std::nullopt; }
 
     /// Where the work on the file was cut off: restores what it had been changed in for the time of the work alone,
     /// such as its protection against writing. Called before Look.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <VyrPlatform/Export.h>
+#include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/text/CString.h>
 
@@ -34,6 +35,8 @@ struct TimeState
     FileTicks ticks = 0;
     /// What Read gives.
     CString state;
+    /// The file itself, where the same look tells it (on Linux).
+    std::optional<FileIdentity> file;
 };
 
 /// The time `part` (not Attributes) of the file or folder at `path`, and its exact state, both of one look.

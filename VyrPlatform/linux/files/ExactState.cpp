@@ -189,15 +189,16 @@ std::optional<TimeState> ReadTime(const CString& path, Part part, std::uint32_t&
 {
     const NativePath nativePath(path);
     struct statx status;
-    if (!AskStatus(nativePath, 0, STATX_MTIME | STATX_ATIME | STATX_BTIME, status)) {
+    if (!AskStatus(nativePath, 0, STATX_INO | STATX_MTIME | STATX_ATIME | STATX_BTIME, status)) {
         error = static_cast<std::uint32_t>(errno);
         return std::nullopt;
     }
     if (part == Part::Created)
         return TimeState{CreatedOf(nativePath, status),
-                         Encoding::FromUtf8(ToText(ReadKept(nativePath, Extended::ntfsCreatedName)))};
+                         Encoding::FromUtf8(ToText(ReadKept(nativePath, Extended::ntfsCreatedName))),
+                         IdentityOf(status)};
     const struct statx_timestamp& time = part == Part::Modified ? status.stx_mtime : status.stx_atime;
-    return TimeState{ToTicks(time), Encoding::FromUtf8(ToText(time))};
+    return TimeState{ToTicks(time), Encoding::FromUtf8(ToText(time)), IdentityOf(status)};
 }
 
 std::uint32_t Restore(const CString& path, Part part, const CString& state)

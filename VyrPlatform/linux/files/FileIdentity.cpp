@@ -27,8 +27,7 @@ FileState LookAtFile(int folder, const char* name) noexcept
         return state;
     }
     state.kind = KindOf(status.stx_mode);
-    state.identity.device = static_cast<std::uint64_t>(status.stx_dev_major) << 32 | status.stx_dev_minor;
-    state.identity.number = status.stx_ino;
+    state.identity = IdentityOf(status);
     state.size = state.kind == FileSystem::Kind::File ? static_cast<std::int64_t>(status.stx_size) : 0;
     state.modified = ToTicks(status.stx_mtime);
     state.links = status.stx_nlink;

@@ -3,6 +3,7 @@
 
 #include "NativePath.h"
 
+#include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/files/FileTimes.h>
 
 #include <fcntl.h>
@@ -22,6 +23,12 @@ namespace VyrPlatform {
 [[nodiscard]] inline bool MayBeNtfs(const struct statx& status) noexcept
 {
     return !(status.stx_attributes_mask & STATX_ATTR_NODUMP);
+}
+
+/// The identity of the file of `status`, which was asked for STATX_INO.
+[[nodiscard]] inline FileIdentity IdentityOf(const struct statx& status) noexcept
+{
+    return {static_cast<std::uint64_t>(status.stx_dev_major) << 32 | status.stx_dev_minor, status.stx_ino};
 }
 
 /// A time of the system as ticks, fractions rounded down; the nearest value for one out of range.

@@ -19,9 +19,13 @@
 #include <fstream>
 #include <functional>
 #include <memory>
+#include <mutex>
+#include <optional>
+#include <set>
 #include <span>
 #include <sstream>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -42,13 +46,18 @@ std::function<void(Moment moment)> onWrite;
 class ContentChange final : public Change
 {
 public:
-    ContentChange(const CString& before, const CString& after) : m_before(before), m_after(after) {}
+    ContentChange(const CString& before, const CString& after,
+                  const std::optional<VyrPlatform::FileIdentity>& file = {})
+        : m_before(before), m_after(after), m_file(file)
+    {}
 
     std::string_view Kind() const override { return "content"; }
     CString Before() const override { return m_before; }
     CString After() const override { return m_after; }
     CString ShownBefore() const override { return CString::Join({u"\"", m_before, u"\""}); }
     CString ShownAfter() const override { return CString::Join({u"\"", m_after, u"\""}); }
+
+    std::optional<VyrPlatform::FileIdentity> OnlyFile() const override { return m_file; }
 
     ChangeLook Look(const CString& path) const override
     {
@@ -79,6 +88,7 @@ private:
 
     CString m_before;
     CString m_after;
+    std::optional<VyrPlatform::FileIdentity> m_file;
 };
 
 ChangeKinds KindsOfTest()
@@ -138,6 +148,39 @@ protected:
                 m_results[index] = result;
             },
             isStopAsked);
+    }
+
+    /// Applies changes to 600 files, which `fileOf` tells by their index, and undoes them.
+    /// @return how many threads applied them.
+    std::size_t ApplyToMany(const std::function<std::uint64_t(std::size_t index)>& fileOf)
+    {
+        constexpr std::size_t count = 600;
+        std::vector<CString> names(count);
+        for (std::size_t index = 0; index < count; ++index) {
+            names[index].Format(u"many %u", index);
+            m_scene.Write(names[index], "old");
+        }
+        NewBatch batch = Make({names.begin(), names.end()});
+        for (std::size_t index = 0; index < count; ++index)
+            batch.changes[index].change =
+                std::make_shared<ContentChange>(u"old", u"new", VyrPlatform::FileIdentity{1, fileOf(index)});
+        std::mutex mutex;
+        std::set<std::thread::id> threads;
+        onWrite = [&](Moment) {
+            const std::lock_guard lock(mutex);
+            threads.insert(std::this_thread::get_id());
+        };
+        std::size_t reported = 0;
+        const auto report = [&reported](std::size_t index, const Outcome& result) {
+            EXPECT_EQ(index, reported++);
+            EXPECT_EQ(result.status, Status::Done);
+        };
+        EXPECT_EQ(m_scene.batches.Apply([&batch] { return std::move(batch); }, report, {}).done, count);
+        const std::size_t used = threads.size();
+        EXPECT_EQ(m_scene.Undo().done, count);
+        for (const auto& [name, content] : m_scene.Now())
+            EXPECT_EQ(content, "old") << name;
+        return used;
     }
 
     static FolderSnapshot AllAre(const std::string& content)
@@ -224,6 +267,16 @@ TEST_F(Changes, AreNotAppliedAfterAStop)
     EXPECT_EQ(m_scene.Now(), (FolderSnapshot{{"a", "new"}, {"b", "old"}, {"c", "old"}}));
     EXPECT_EQ(m_scene.Undo().done, 1u);
     EXPECT_EQ(m_scene.Now(), AllAre("old"));
+}
+
+TEST_F(Changes, OfManyFilesAreAppliedOnTwoThreads)
+{
+    EXPECT_EQ(ApplyToMany([](std::size_t index) { return index; }), 2u);
+}
+
+TEST_F(Changes, AreAppliedOneAfterTheOtherWhereTwoNamesAreOfOneFile)
+{
+    EXPECT_EQ(ApplyToMany([](std::size_t index) { return index == 500 ? 100 : index; }), 1u);
 }
 
 TEST_F(Changes, AreRecoveredWhereverTheyWereCutOff)

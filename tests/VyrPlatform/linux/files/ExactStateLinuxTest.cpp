@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <sys/stat.h>
@@ -124,4 +125,18 @@ TEST(ExactStateLinux, CreationTimeOfAReadOnlyFileIsRestored)
     EXPECT_EQ(Restore(path, Part::Created, created), 0U);
     EXPECT_EQ(Samba(path), std::nullopt);
     EXPECT_EQ(StatusOf(path).st_mode & 07777, 0444U);
+}
+
+TEST(ExactStateLinux, TimeTellsTheFileThatALinkLeadsTo)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    const CString link = scratch.Path(u"link");
+    std::filesystem::create_symlink(ToStdPath(path), ToStdPath(link));
+    for (const Part part : {Part::Modified, Part::Accessed, Part::Created}) {
+        std::uint32_t error = 0;
+        const auto time = VyrPlatform::ExactState::ReadTime(link, part, error);
+        ASSERT_TRUE(time) << error;
+        EXPECT_EQ(time->file, VyrPlatform::LookAtFile(path).identity);
+    }
 }
