@@ -145,13 +145,29 @@ bool BatchWork::Locate(const JournalFile& file, Direction direction, bool isPrev
     return isAnyFound;
 }
 
+/// A recovery then knows what to protect again. What an earlier work on the batch noted no longer counts.
+std::uint32_t BatchWork::NoteProtected()
+{
+    const std::vector<ProtectedFile> files = m_changes.FindProtected();
+    if (files.empty() && m_journal.protectedFiles.empty())
+        return 0;
+    return m_folder.Append(m_file, WriteProtected(files, m_journal.check));
+}
+
+bool BatchWork::BeginRecovery()
+{
+    return MayGoOn(NoteProtected());
+}
+
 bool BatchWork::BeginUndo()
 {
     // An undo that continues the last one keeps its number.
     const bool goesOn = m_journal.checkpoint && m_journal.checkpoint->isBackward;
     if (m_file.undo == 0 || !goesOn)
         m_file.undo = m_folder.NextNumber();
-    const std::uint32_t error = m_folder.SetPhase(m_file, BatchPhase::Undoing);
+    std::uint32_t error = NoteProtected();
+    if (!error)
+        error = m_folder.SetPhase(m_file, BatchPhase::Undoing);
     return MayGoOn(error ? error : m_folder.Flush());
 }
 
@@ -160,6 +176,8 @@ bool BatchWork::BeginUndo()
 bool BatchWork::BeginRedo()
 {
     std::uint32_t error = m_folder.Append(m_file, WriteCheckpoint(*m_journal.applied, m_journal.check));
+    if (!error)
+        error = NoteProtected();
     if (!error)
         error = m_folder.SetPhase(m_file, BatchPhase::Applying);
     return MayGoOn(error ? error : m_folder.Flush());

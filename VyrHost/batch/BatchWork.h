@@ -25,6 +25,8 @@ public:
 
     /// Believes the journal's checkpoint about the changes that are not done: they are left alone and not reported.
     void TrustCheckpoint();
+    /// The files that are protected against writing, and may lose that for the time of the work.
+    [[nodiscard]] std::vector<ProtectedFile> FindProtected() const;
     /// Looks at what every file has.
     /// @param mends  whether the work was cut off, and the files may be changed (Change::Mend).
     void Locate(bool mends);
@@ -49,6 +51,7 @@ public:
     [[nodiscard]] CString PathOf(std::size_t index) const;
 
 private:
+    void ProtectAgain() const;
     [[nodiscard]] bool IsDone(std::size_t index) const;
     [[nodiscard]] std::vector<std::size_t> FindToDo(Direction direction, bool followRenames) const;
     [[nodiscard]] bool AreOfDifferentFiles() const;
@@ -80,6 +83,9 @@ public:
     /// @param isPreview  the disk stays as it is, even where the work on the batch was cut off.
     /// @return false when nothing of it is found.
     [[nodiscard]] bool Locate(const JournalFile& file, Direction direction, bool isPreview = false);
+    /// Writes to the disk that a batch that was cut off is being worked on again.
+    /// @return false when that cannot be written.
+    [[nodiscard]] bool BeginRecovery();
     /// Writes to the disk that the batch is being undone.
     /// @return false when that cannot be written.
     [[nodiscard]] bool BeginUndo();
@@ -103,6 +109,7 @@ private:
     void Keep(Model::PlanIndex entry);
     void KeepJournalInPlace();
     bool MayGoOn(std::uint32_t journalError);
+    [[nodiscard]] std::uint32_t NoteProtected();
     [[nodiscard]] Report CountAnd(const Report& report);
     [[nodiscard]] Model::Outcome ForeseeEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace);
     /// Waits until the files that were replaced stand on the disk under their names.

@@ -4,6 +4,8 @@
 #include <VyrHost/model/SlotTable.h>
 #include <VyrHost/model/TwoThreads.h>
 #include <VyrHost/text/Errors.h>
+#include <VyrPlatform/files/ExactState.h>
+#include <VyrPlatform/files/FileAttributes.h>
 
 #include <algorithm>
 #include <utility>
@@ -12,6 +14,7 @@ namespace VyrHost::Batch {
 
 namespace {
 
+namespace ExactState = VyrPlatform::ExactState;
 using Model::Outcome;
 using Model::Status;
 
@@ -48,8 +51,35 @@ void ChangeWork::TrustCheckpoint()
             m_isKept[index] = true;
 }
 
+std::vector<ProtectedFile> ChangeWork::FindProtected() const
+{
+    std::vector<ProtectedFile> files;
+    for (std::size_t index = 0; index < m_looks.size(); ++index) {
+        const CString path = PathOf(index);
+        if (m_isKept[index] || !m_journal.changes[index].change->MayLiftProtection() ||
+            !VyrPlatform::FileAttributes::IsReadOnly(path))
+            continue;
+        std::uint32_t error = 0;
+        if (const auto state = ExactState::Read(path, ExactState::Part::Attributes, error))
+            files.push_back({static_cast<Model::PlanIndex>(index), *state});
+    }
+    return files;
+}
+
+/// Where the work that lifted a protection was cut off. Where it cannot be restored, the file stays as it is.
+void ChangeWork::ProtectAgain() const
+{
+    for (const ProtectedFile& file : m_journal.protectedFiles) {
+        const CString path = PathOf(file.change);
+        if (!VyrPlatform::FileAttributes::IsReadOnly(path))
+            static_cast<void>(ExactState::Restore(path, ExactState::Part::Attributes, file.state));
+    }
+}
+
 void ChangeWork::Locate(bool mends)
 {
+    if (mends)
+        ProtectAgain();
     for (std::size_t index = 0; index < m_looks.size(); ++index) {
         if (m_isKept[index])
             continue;

@@ -322,7 +322,7 @@ BatchSummary Batches::Recover(Recovery recovery, const BatchEntryReport& report,
     if (!work.Locate(*file, direction))
         summary.error =
             CString::Join({u"none of the batch's files is at one of its paths; nothing was changed", wayOut});
-    else
+    else if (work.BeginRecovery())
         work.Run(direction, Described(work, report), isStopAsked);
     return summary;
 }

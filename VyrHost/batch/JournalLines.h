@@ -172,35 +172,35 @@ public:
     explicit LineReader(std::string_view text) : m_text(text), m_unchecked(text.data()) {}
 
     /// Goes to the next line, whose first field must be `word`.
-    void Next(std::string_view word) { Begin(TakeLine(), word); }
+    void Next(std::string_view word)
+    {
+        Begin(TakeLine());
+        Require(word);
+    }
     /// Goes to the next line.
     /// @return its first field.
     std::string_view Next()
     {
-        m_fields = TakeLine();
-        m_isAtEnd = false;
+        Begin(TakeLine());
         return Word();
     }
     /// Goes to the next line, whose check, the last field, must be right.
     void NextChecked(std::string_view word)
     {
-        const std::string_view content = TakeCheckedLine();
-        m_check = Checksum(m_check, {m_unchecked, content.data() + content.size()});
-        m_unchecked = content.data() + content.size();
-        if (m_check != m_lineCheck)
-            Fail(u"the text up to here has been changed");
-        Begin(content, word);
+        BeginChecked();
+        Require(word);
     }
-    /// Goes to the next line if it is a whole checkpoint; else past it.
-    [[nodiscard]] bool NextMark(std::uint32_t check)
+    /// Goes to the next line if it is whole, with its own check started from `check`; else past it.
+    /// @return its first field; empty for a line that is not whole.
+    std::string_view NextAppended(std::uint32_t check)
     {
         try {
             m_check = check;
             m_unchecked = m_text.data();
-            NextChecked("mark");
-            return true;
+            BeginChecked();
+            return Word();
         } catch (const Damage&) {
-            return false;
+            return {};
         }
     }
     /// Goes past a line whose check cannot be told to be right or wrong.
@@ -282,10 +282,22 @@ public:
     [[noreturn]] void Fail(const CString& what) const { throw Damage{m_line, what}; }
 
 private:
-    void Begin(std::string_view content, std::string_view word)
+    void Begin(std::string_view content)
     {
         m_fields = content;
         m_isAtEnd = false;
+    }
+    void BeginChecked()
+    {
+        const std::string_view content = TakeCheckedLine();
+        m_check = Checksum(m_check, {m_unchecked, content.data() + content.size()});
+        m_unchecked = content.data() + content.size();
+        if (m_check != m_lineCheck)
+            Fail(u"the text up to here has been changed");
+        Begin(content);
+    }
+    void Require(std::string_view word)
+    {
         if (Word() != word)
             Fail(u"it is not the line that belongs there");
     }

@@ -20,6 +20,8 @@ constexpr std::string_view format = "vyr-journal";
 constexpr std::uint32_t version = 3;
 constexpr std::uint32_t versionWithoutKinds = 2;
 constexpr std::string_view renameKind = "rename";
+constexpr std::string_view checkpointWord = "mark";
+constexpr std::string_view protectedWord = "protected";
 /// How many fields a line of steps has at most.
 constexpr std::size_t stepsInLine = 1000;
 constexpr std::array<std::pair<bool, char>, 2> directions{{{false, 'f'}, {true, 'b'}}};
@@ -201,25 +203,44 @@ void ReadPlan(LineReader& reader, const Counts& counts, const Model::ChangeKinds
     LinkFolders(reader, journal.plan);
 }
 
-/// The last complete checkpoints. Earlier ones are not read, since each could name all entries.
-struct LastCheckpoints
+/// Of the complete lines that were appended, those that count. Earlier ones are not read, since each could name all
+/// entries.
+struct LastAppended
 {
-    std::optional<LineReader> last;
+    std::optional<LineReader> checkpoint;
     /// The last that is not of an undo.
     std::optional<LineReader> forward;
+    std::optional<LineReader> protectedFiles;
 };
 
-LastCheckpoints FindLastCheckpoints(LineReader& reader, std::uint32_t check)
+LastAppended FindLastAppended(LineReader& reader, std::uint32_t check)
 {
-    LastCheckpoints found;
+    LastAppended found;
     while (reader.HasMore()) {
-        if (!reader.NextMark(check))
+        const std::string_view word = reader.NextAppended(check);
+        if (word == protectedWord)
+            found.protectedFiles = reader;
+        if (word != checkpointWord)
             continue;
-        found.last = reader;
+        found.checkpoint = reader;
+        found.protectedFiles.reset();
         if (!LineReader(reader).Letter(directions))
             found.forward = reader;
     }
     return found;
+}
+
+std::vector<ProtectedFile> ReadProtected(std::optional<LineReader> reader, std::size_t changes)
+{
+    std::vector<ProtectedFile> files;
+    while (reader && reader->HasMoreFields()) {
+        ProtectedFile& file = files.emplace_back();
+        file.change = reader->Index();
+        if (file.change >= changes)
+            reader->Fail(u"a protected file is of no change");
+        file.state = reader->Name();
+    }
+    return files;
 }
 
 /// The checkpoint that `reader` stands at.
@@ -258,6 +279,23 @@ CheckpointOutline ReadCheckpointOutline(LineReader& reader, std::size_t entries)
     return checkpoint;
 }
 
+/// A line that is appended, with the fields that `write` writes.
+template <class Write>
+std::string WriteAppended(std::uint32_t check, Write write)
+{
+    // The line before may have been cut off.
+    std::string text = "\n";
+    const TakePiece add = [&text](std::string_view piece) {
+        text += piece;
+    };
+    LineWriter writer(check, add);
+    write(writer);
+    writer.Check();
+    writer.End();
+    writer.HandOn();
+    return text;
+}
+
 CString Describe(const Damage& damage)
 {
     CString text;
@@ -286,22 +324,22 @@ std::uint32_t WriteJournal(const Journal& journal, const TakePiece& use)
 
 std::string WriteCheckpoint(const Checkpoint& checkpoint, std::uint32_t check)
 {
-    // The line before may have been cut off.
-    std::string text = "\n";
-    const TakePiece add = [&text](std::string_view piece) {
-        text += piece;
-    };
-    LineWriter writer(check, add);
-    writer.Word("mark")
-        .Letter(LetterOf(directions, checkpoint.isBackward))
-        .Letter(LetterOf(ends, checkpoint.wasStopped));
-    writer.Ranges(checkpoint.entriesBefore).Ranges(checkpoint.entriesTemporary).Ranges(checkpoint.foldersMade);
-    if (!checkpoint.changesBefore.empty())
-        writer.Ranges(checkpoint.changesBefore);
-    writer.Check();
-    writer.End();
-    writer.HandOn();
-    return text;
+    return WriteAppended(check, [&checkpoint](LineWriter& writer) {
+        writer.Word(checkpointWord);
+        writer.Letter(LetterOf(directions, checkpoint.isBackward)).Letter(LetterOf(ends, checkpoint.wasStopped));
+        writer.Ranges(checkpoint.entriesBefore).Ranges(checkpoint.entriesTemporary).Ranges(checkpoint.foldersMade);
+        if (!checkpoint.changesBefore.empty())
+            writer.Ranges(checkpoint.changesBefore);
+    });
+}
+
+std::string WriteProtected(const std::vector<ProtectedFile>& files, std::uint32_t check)
+{
+    return WriteAppended(check, [&files](LineWriter& writer) {
+        writer.Word(protectedWord);
+        for (const ProtectedFile& file : files)
+            writer.Index(file.change).Name(file.state);
+    });
 }
 
 std::optional<Journal> ReadJournal(std::string_view text, CString& problem, const Model::ChangeKinds& kinds)
@@ -316,9 +354,10 @@ std::optional<Journal> ReadJournal(std::string_view text, CString& problem, cons
         problem = Model::FindPlanFault(journal.plan);
         if (!problem.IsEmpty())
             return {};
-        const LastCheckpoints checkpoints = FindLastCheckpoints(reader, journal.check);
-        journal.checkpoint = ReadCheckpoint(checkpoints.last, journal);
-        journal.applied = ReadCheckpoint(checkpoints.forward, journal);
+        const LastAppended appended = FindLastAppended(reader, journal.check);
+        journal.checkpoint = ReadCheckpoint(appended.checkpoint, journal);
+        journal.applied = ReadCheckpoint(appended.forward, journal);
+        journal.protectedFiles = ReadProtected(appended.protectedFiles, journal.changes.size());
         return journal;
     } catch (const Damage& damage) {
         problem = Describe(damage);
@@ -354,7 +393,7 @@ std::optional<CheckpointOutline> ReadLastCheckpoint(std::string_view checkpoints
     try {
         LineReader reader(checkpoints);
         const std::uint32_t check = reader.Skip();
-        std::optional<LineReader> last = FindLastCheckpoints(reader, check).last;
+        std::optional<LineReader> last = FindLastAppended(reader, check).checkpoint;
         return last ? ReadCheckpointOutline(*last, entries) : std::optional<CheckpointOutline>();
     } catch (const Damage&) {
         return {};

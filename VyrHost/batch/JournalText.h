@@ -14,6 +14,8 @@
 ///     end          check
 ///     mark         f(orward) or b(ackward)  e(nded) or s(topped)  entries that stand at their old paths
 ///                  entries under temporary names  folders that the batch has made  changes that are not done  check
+///     protected    for each change whose file was protected against writing when work on the batch began, and may lose
+///                  that for the time of the work: its number  the state to restore  and at last the check
 ///
 /// A change other than a rename has the name of its kind as its first word, and a before and after that only its kind
 /// can read (model/Change.h). The last field of a mark is missing where all changes are done.
@@ -22,9 +24,10 @@
 /// of changes. It is still read, and marks are appended to it.
 ///
 /// Numbers are decimal; folders, entries and changes are numbered from 0 in the order of their lines, "-" stands for
-/// none. A check is the CRC-32, in eight hexadecimal digits, of all the text before its tab; of a checkpoint, of its
-/// own line alone, started from the check of "end". A checkpoint is appended, behind an empty line, whenever work on
-/// the batch has ended; the last whole one counts.
+/// none. A check is the CRC-32, in eight hexadecimal digits, of all the text before its tab; of a line behind "end", of
+/// that line alone, started from the check of "end". Such lines are appended, each behind an empty one: a checkpoint
+/// ("mark") whenever work on the batch has ended, of which the last whole one counts, and "protected" before an undo, a
+/// redo or a recovery, which counts until the next checkpoint.
 #pragma once
 
 #include <VyrHost/model/Change.h>
@@ -91,6 +94,14 @@ struct PlannedChange
     std::shared_ptr<const Model::Change> change;
 };
 
+/// A file that was protected against writing when work on the batch began, and may lose that for the time of the work.
+struct ProtectedFile
+{
+    Model::PlanIndex change = 0;
+    /// What ExactState restores as its attributes.
+    CString state;
+};
+
 struct Journal
 {
     JournalHeading heading;
@@ -103,6 +114,8 @@ struct Journal
     std::optional<Checkpoint> checkpoint;
     /// The last one that is not of an undo: what the batch did. A redo does that again.
     std::optional<Checkpoint> applied;
+    /// Of the work since the last checkpoint.
+    std::vector<ProtectedFile> protectedFiles;
     /// The check of all lines up to "end"; checkpoints start from it.
     std::uint32_t check = 0;
 };
@@ -112,6 +125,7 @@ struct Journal
 std::uint32_t WriteJournal(const Journal& journal, const VyrHostPlatform::DurableFile::TakePiece& use);
 /// What is appended to the text with the check `check`.
 [[nodiscard]] std::string WriteCheckpoint(const Checkpoint& checkpoint, std::uint32_t check);
+[[nodiscard]] std::string WriteProtected(const std::vector<ProtectedFile>& files, std::uint32_t check);
 
 /// Reads a journal that may be anything: what it gives is a plan that can be worked with, every index in it in range,
 /// every name a single part of a path.

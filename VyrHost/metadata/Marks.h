@@ -50,6 +50,7 @@ public:
     [[nodiscard]] CString After() const override;
     [[nodiscard]] CString ShownBefore() const override;
     [[nodiscard]] CString ShownAfter() const override;
+    [[nodiscard]] bool MayLiftProtection() const override { return m_protection.IsEmpty(); }
     void Mend(const CString& path) const override;
     [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;
     [[nodiscard]] std::uint32_t Apply(const CString& path) const override;

@@ -140,6 +140,13 @@ CString TimesChange::ShownAfter() const
     });
 }
 
+/// A creation time may be kept where only a file that can be written to takes it; it is restored all the same.
+bool TimesChange::MayLiftProtection() const
+{
+    return std::any_of(m_steps.begin(), m_steps.end(),
+                       [](const TimeStep& step) { return step.date == FileDate::Created; });
+}
+
 ChangeLook TimesChange::Look(const CString& path) const
 {
     bool isBefore = false;

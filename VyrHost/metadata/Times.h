@@ -49,6 +49,7 @@ public:
     [[nodiscard]] CString ShownBefore() const override;
     [[nodiscard]] CString ShownAfter() const override;
     [[nodiscard]] std::optional<VyrPlatform::FileIdentity> OnlyFile() const override { return m_file; }
+    [[nodiscard]] bool MayLiftProtection() const override;
     [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;
     [[nodiscard]] std::uint32_t Apply(const CString& path) const override;
     [[nodiscard]] std::uint32_t TakeBack(const CString& path) const override;

@@ -66,6 +66,9 @@ public:
     /// applied on two threads at the same time.
     [[nodiscard]] virtual std::optional<VyrPlatform::FileIdentity> OnlyFile() const { return std::nullopt; }
 
+    /// Whether the work lifts the protection of the file against writing for its own time, where the change itself does
+    /// not keep what to restore.
+    [[nodiscard]] virtual bool MayLiftProtection() const { return false; }
     /// Where the work on the file was cut off: restores what it had been changed in for the time of the work alone,
     /// such as its protection against writing. Called before Look.
     virtual void Mend(const CString& /*path*/) const {}

@@ -18,6 +18,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -35,6 +36,7 @@ using namespace VyrHost::Model;
 using namespace VyrTests;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Pair;
 
 constexpr std::uint32_t missingFile = 2;
 constexpr const char* half = "half";
@@ -329,6 +331,38 @@ TEST_F(Changes, WithTextsThatTheirKindNeverWritesAreRefused)
     EXPECT_GE(problem.Find(u"a change is not as it can be"), 0);
     journal.changes[0] = {{0, journal.plan.texts->Intern(u"..")}, std::make_shared<ContentChange>(u"old", u"new")};
     EXPECT_FALSE(ReadJournal(TextOf(journal), problem, KindsOfTest()));
+}
+
+TEST_F(Changes, TellWhichFilesWereProtectedWhenTheLastWorkOnThemBegan)
+{
+    Journal journal;
+    NewBatch batch = Make({u"a", u"b", u"c"});
+    journal.plan = std::move(batch.plan);
+    journal.changes = std::move(batch.changes);
+    std::uint32_t check = 0;
+    std::string text = TextOf(journal, check);
+    const auto protectedFiles = [&text] {
+        CString problem;
+        const auto read = ReadJournal(text, problem, KindsOfTest());
+        EXPECT_TRUE(read) << VyrPlatform::Encoding::ToUtf8(problem);
+        std::map<PlanIndex, CString> files;
+        for (const ProtectedFile& file : read->protectedFiles)
+            files.emplace(file.change, file.state);
+        return files;
+    };
+    EXPECT_TRUE(protectedFiles().empty());
+    text += WriteProtected({{0, u"0444 - -"}, {2, u"0400 - -"}}, check);
+    EXPECT_THAT(protectedFiles(), ElementsAre(Pair(0u, CString(u"0444 - -")), Pair(2u, CString(u"0400 - -"))));
+    text += WriteProtected({{1, u"0444 - -"}}, check);
+    EXPECT_THAT(protectedFiles(), ElementsAre(Pair(1u, CString(u"0444 - -"))));
+    text += WriteProtected({}, check);
+    EXPECT_TRUE(protectedFiles().empty());
+    text += WriteProtected({{1, u"0444 - -"}}, check) + WriteCheckpoint(CheckpointAt({}), check);
+    EXPECT_TRUE(protectedFiles().empty());
+    text += WriteProtected({{3, u"0444 - -"}}, check);
+    CString problem;
+    EXPECT_FALSE(ReadJournal(text, problem, KindsOfTest()));
+    EXPECT_GE(problem.Find(u"a protected file is of no change"), 0);
 }
 
 TEST_F(Changes, AndRenamesOfTheSameFilesCanBeInOneBatch)

@@ -113,6 +113,37 @@ protected:
         EXPECT_GT(recovered, 4);
     }
 
+    /// Applies the call `arguments` to the file at `path`, protects the file, and undoes the call, killed before each
+    /// change that the undo makes; then recovers.
+    void KillUndoOfProtected(const CString& path, const std::vector<CString>& arguments)
+    {
+        SetReadOnly(path, true);
+        const Tree undone = Now();
+        const auto applyAndProtect = [&] {
+            SetReadOnly(path, false);
+            ASSERT_EQ(Now(), m_before);
+            BeginJournal();
+            ASSERT_EQ(Run(arguments).exitCode, 0);
+            SetReadOnly(path, true);
+        };
+        ASSERT_NO_FATAL_FAILURE(applyAndProtect());
+        const int changes = CountChanges(CallOf({u"undo"}));
+        ASSERT_EQ(Now(), undone);
+        int recovered = 0;
+        for (int made = CountChanges(CallOf({u"--version"})); made < changes; ++made) {
+            SCOPED_TRACE(made);
+            ASSERT_NO_FATAL_FAILURE(applyAndProtect());
+            ASSERT_NO_FATAL_FAILURE(KillAfter(made, {u"undo"}));
+            if (Recover(false))
+                ++recovered;
+            else
+                Run(std::vector<CString>{u"undo"});
+            ASSERT_EQ(Now(), undone);
+        }
+        SetReadOnly(path, false);
+        EXPECT_GT(recovered, 2);
+    }
+
     /// Looks at what stands there between the end of the program and the recovery.
     virtual void JudgeCutOff(const Tree& /*after*/) const {}
 
@@ -184,6 +215,22 @@ TEST_F(KilledChanges, AttributesAreRecovered)
 TEST_F(KilledChanges, MarksAreRecovered)
 {
     KillEverywhere({u"unblock", u"--apply", u"plain", u"protected"});
+}
+
+TEST_F(KilledChanges, CreationTimesOfFilesProtectedSinceAreRecovered)
+{
+    const CString probe = m_folder.WriteFile(u"probe");
+    const bool keepsCreated = KeepsCreationTime(probe);
+    ASSERT_TRUE(std::filesystem::remove(ToStdPath(probe)));
+    if (!keepsCreated)
+        GTEST_SKIP() << "creation times are not kept here";
+    KillUndoOfProtected(m_folder.Path(u"plain"),
+                        {u"times", u"--set-created=2019-09-09 09:09", u"--apply", u"plain", u"hidden"});
+}
+
+TEST_F(KilledChanges, MarksOfFilesProtectedSinceAreRecovered)
+{
+    KillUndoOfProtected(m_folder.Path(u"plain"), {u"unblock", u"--apply", u"plain", u"hidden"});
 }
 
 TEST_F(KilledDocuments, CompoundOneIsTheOldOrTheNewOneAndIsRecovered)
