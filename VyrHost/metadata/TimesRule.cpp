@@ -217,8 +217,8 @@ TimeSource ParseTimeSource(std::u16string_view text, const char* option)
     const auto typed = Text::ReadTypedDateTime(text);
     if (!typed)
         Text::RefuseValue(option, text,
-                          "a date-time (\"2024-01-05 10:30\"), a date, a time of day, from:modified, from:created, "
-                          "from:accessed, from:picture or from:name is expected");
+                          "a date-time (\"2024-01-05 10:30\") or a date, each of a day that exists, a time of day, "
+                          "from:modified, from:created, from:accessed, from:picture or from:name is expected");
     return {TimeSource::Kind::Typed, *typed};
 }
 
