@@ -24,6 +24,10 @@ using Model::ChangeState;
 using VyrLibraryFuncs::AttributesFuncs;
 using VyrPlatform::ExactState::Part;
 
+namespace FileAttributes = VyrPlatform::FileAttributes;
+
+constexpr std::uint32_t readOnly = 0x1;
+
 /// All letters of attributes, including those that cannot be set here.
 constexpr std::pair<char16_t, std::uint32_t> letters[] = {
     {u'R', 0x1},   {u'H', 0x2},   {u'S', 0x4},    {u'D', 0x10},   {u'A', 0x20},   {u'T', 0x100},   {u'P', 0x200},
@@ -41,7 +45,7 @@ std::uint32_t SettableBits()
 std::optional<std::uint32_t> ReadBits(std::u16string_view text)
 {
     const auto number = ReadWhole(text, 16);
-    if (!number || *number < 0 || *number >= VyrPlatform::FileAttributes::unknown)
+    if (!number || *number < 0 || *number >= FileAttributes::unknown)
         return std::nullopt;
     return static_cast<std::uint32_t>(*number);
 }
@@ -100,14 +104,24 @@ CString AttributesChange::ShownAfter() const
     return AttributeLetters((m_bits.before & ~m_bits.mask) | m_bits.value);
 }
 
+/// Whether the attributes that are not changed are as they were before.
+bool AttributesChange::HasOthersAsBefore(std::uint32_t now) const
+{
+    return ((now ^ m_bits.before) & ~m_bits.mask & SettableBits()) == 0;
+}
+
+/// A change that sets or clears the protection itself knows what was there before.
+bool AttributesChange::MayLiftProtection() const
+{
+    return (m_bits.mask & readOnly) == 0;
+}
+
 /// A file may have lost its protection only, or, of its permissions to write, all but the owner's. One that becomes
 /// read-only may have the attribute, and still be writable.
 void AttributesChange::Mend(const CString& path) const
 {
-    namespace FileAttributes = VyrPlatform::FileAttributes;
-    constexpr std::uint32_t readOnly = 0x1;
+    const std::uint32_t now = FileAttributes::Get(path);
     if ((m_bits.value & readOnly) && FileAttributes::IsReadOnly(path)) {
-        const std::uint32_t now = FileAttributes::Get(path);
         if (FileAttributes::Set(path, now & ~readOnly) == 0)
             static_cast<void>(FileAttributes::Set(path, now));
         return;
@@ -115,14 +129,14 @@ void AttributesChange::Mend(const CString& path) const
     const bool wasProtected = (m_bits.before & ~m_bits.mask & readOnly) != 0;
     const bool isUnprotected = wasProtected && !FileAttributes::IsReadOnly(path);
     // Where it cannot be restored, the file stays as it is, and the work on it tells why.
-    if (isUnprotected || Look(path).state == ChangeState::Before)
+    if (isUnprotected || (Look(path).state == ChangeState::Before && HasOthersAsBefore(now)))
         static_cast<void>(VyrPlatform::ExactState::Restore(path, Part::Attributes, m_bits.beforeState));
 }
 
 ChangeLook AttributesChange::Look(const CString& path) const
 {
-    const std::uint32_t now = VyrPlatform::FileAttributes::Get(path);
-    if (now == VyrPlatform::FileAttributes::unknown) {
+    const std::uint32_t now = FileAttributes::Get(path);
+    if (now == FileAttributes::unknown) {
         constexpr std::uint32_t missingFile = 2;
         const std::uint32_t error = VyrPlatform::LookAtFile(path).error;
         return {ChangeState::Unknown, error != 0 ? error : missingFile};
@@ -150,13 +164,17 @@ std::uint32_t AttributesChange::Apply(const CString& path) const
     if (AttributesFuncs::SetModifiedFileAttributes(path, item))
         return 0;
     // The library reports only that it failed; the service below it also gives the reason.
-    const std::uint32_t now = VyrPlatform::FileAttributes::Get(path);
-    return VyrPlatform::FileAttributes::Set(path, (now & ~m_bits.mask) | m_bits.value);
+    const std::uint32_t now = FileAttributes::Get(path);
+    return FileAttributes::Set(path, (now & ~m_bits.mask) | m_bits.value);
 }
 
 std::uint32_t AttributesChange::TakeBack(const CString& path) const
 {
-    return VyrPlatform::ExactState::Restore(path, Part::Attributes, m_bits.beforeState);
+    const std::uint32_t now = FileAttributes::Get(path);
+    const std::uint32_t error = VyrPlatform::ExactState::Restore(path, Part::Attributes, m_bits.beforeState);
+    if (error != 0 || HasOthersAsBefore(now))
+        return error;
+    return FileAttributes::Set(path, (now & ~m_bits.mask) | (m_bits.before & m_bits.mask));
 }
 
 namespace {
@@ -220,11 +238,11 @@ Proposal AttributesRule::Propose(const CString& path, const Model::Entry& /*entr
     if (!state)
         return {nullptr, Text::ErrorText(error)};
     AttributesChange::Bits bits;
-    bits.before = VyrPlatform::FileAttributes::Get(path);
+    bits.before = FileAttributes::Get(path);
     bits.beforeState = *state;
     bits.mask = (m_set & ~bits.before) | (m_clear & bits.before);
     bits.value = m_set & bits.mask;
-    if (bits.mask == 0 || bits.before == VyrPlatform::FileAttributes::unknown)
+    if (bits.mask == 0 || bits.before == FileAttributes::unknown)
         return {};
     return {std::make_shared<AttributesChange>(std::move(bits)), {}};
 }

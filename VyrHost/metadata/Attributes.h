@@ -55,14 +55,18 @@ public:
     [[nodiscard]] CString After() const override;
     [[nodiscard]] CString ShownBefore() const override;
     [[nodiscard]] CString ShownAfter() const override;
+    [[nodiscard]] bool MayLiftProtection() const override;
     void Mend(const CString& path) const override;
     /// An attribute has only two states, so a change by another program looks like a part of this change that is not
     /// done.
     [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;
     [[nodiscard]] std::uint32_t Apply(const CString& path) const override;
+    /// Keeps what another program has changed of the other attributes.
     [[nodiscard]] std::uint32_t TakeBack(const CString& path) const override;
 
 private:
+    [[nodiscard]] bool HasOthersAsBefore(std::uint32_t now) const;
+
     Bits m_bits;
 };
 

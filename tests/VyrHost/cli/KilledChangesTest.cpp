@@ -228,6 +228,11 @@ TEST_F(KilledChanges, CreationTimesOfFilesProtectedSinceAreRecovered)
                         {u"times", u"--set-created=2019-09-09 09:09", u"--apply", u"plain", u"hidden"});
 }
 
+TEST_F(KilledChanges, AttributesOfFilesProtectedSinceAreRecovered)
+{
+    KillUndoOfProtected(m_folder.Path(u"plain"), {u"attributes", u"--set=system", u"--apply", u"plain", u"hidden"});
+}
+
 TEST_F(KilledChanges, MarksOfFilesProtectedSinceAreRecovered)
 {
     KillUndoOfProtected(m_folder.Path(u"plain"), {u"unblock", u"--apply", u"plain", u"hidden"});

@@ -50,6 +50,23 @@ TEST(Attributes, ChosenOnesAreChangedAndOthersKept)
     EXPECT_EQ(FileAttributes::Get(path), before);
 }
 
+TEST(Attributes, ThatAnotherProgramHasChangedSinceAreNotTakenBack)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a", "x");
+    for (const bool isProtected : {false, true}) {
+        ASSERT_EQ(FileAttributes::Set(path, systemFile | (isProtected ? readOnly : 0)), 0U);
+        const Proposal proposal = Propose(path, hidden, systemFile);
+        ASSERT_TRUE(proposal.change);
+        ASSERT_EQ(proposal.change->Apply(path), 0U);
+        ASSERT_EQ(FileAttributes::Set(path, FileAttributes::Get(path) ^ readOnly), 0U);
+        EXPECT_EQ(proposal.change->TakeBack(path), 0U);
+        EXPECT_EQ(FileAttributes::Get(path) & (readOnly | hidden | systemFile),
+                  systemFile | (isProtected ? 0 : readOnly));
+    }
+    EXPECT_EQ(FileAttributes::Set(path, FileAttributes::Get(path) & ~readOnly), 0U);
+}
+
 TEST(Attributes, HalfAChangeIsUndone)
 {
     const ScratchFolder scratch;
