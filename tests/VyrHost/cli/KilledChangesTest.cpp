@@ -130,7 +130,7 @@ protected:
         const int changes = CountChanges(CallOf({u"undo"}));
         ASSERT_EQ(Now(), undone);
         int recovered = 0;
-        for (int made = CountChanges(CallOf({u"--version"})); made < changes; ++made) {
+        for (int made = FirstOwnChange(); made < changes; ++made) {
             SCOPED_TRACE(made);
             ASSERT_NO_FATAL_FAILURE(applyAndProtect());
             ASSERT_NO_FATAL_FAILURE(KillAfter(made, {u"undo"}));
