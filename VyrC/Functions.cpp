@@ -1511,8 +1511,7 @@ vyr_status vyr_html_get_td_pair_tag_with_class_name_id(
 vyr_status vyr_mshtml_img_set_resize_img_style(void* document, const vyr_rect* client)
 {
     return Guard([&] {
-        RequireObject(document, "document");
-        auto argument0 = static_cast<IDispatch*>(document);
+        auto argument0 = HostObject(document, "document");
         auto argument1 = ToRect(client, "client");
         MSHTMLImgFuncs::SetResizeImgStyle(argument0, std::move(argument1));
         return VYR_OK;

@@ -2,6 +2,7 @@
 
 #include <VyrPlatform/documents/ComPointer.h>
 #include <VyrPlatform/files/CFileException.h>
+#include <VyrPlatform/process/MemoryMap.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <algorithm>
@@ -51,6 +52,32 @@ std::map<const void*, int>& GivenObjects()
 {
     thread_local std::map<const void*, int> objects;
     return objects;
+}
+
+/// Also where a sanitizer knows that nothing is there any longer: then this is what was left.
+[[gnu::no_sanitize_address]] std::uintptr_t WordAt(std::uintptr_t address)
+{
+    return *reinterpret_cast<const volatile std::uintptr_t*>(address); // NOLINT(performance-no-int-to-ptr): checked
+}
+
+/// Whether `count` words can be read at `address`.
+bool HasWords(std::uintptr_t address, std::size_t count)
+{
+    return address % alignof(void*) == 0 && VyrPlatform::MemoryMap::IsReadable(address, count * sizeof(void*));
+}
+
+bool CanBeObject(std::uintptr_t address)
+{
+    constexpr std::size_t common = 3;
+    if (!HasWords(address, 1))
+        return false;
+    const std::uintptr_t table = WordAt(address);
+    if (!HasWords(table, common))
+        return false;
+    for (std::size_t index = 0; index < common; ++index)
+        if (!VyrPlatform::MemoryMap::IsCode(WordAt(table + index * sizeof(void*))))
+            return false;
+    return true;
 }
 
 void Release(vyr_list handle)
@@ -120,6 +147,13 @@ IDispatch* GivenObject(void* object, const char* argument)
         return nullptr;
     const auto found = GivenObjects().find(object);
     if (found == GivenObjects().end())
+        Refuse(argument);
+    return static_cast<IDispatch*>(object);
+}
+
+IDispatch* HostObject(void* object, const char* argument)
+{
+    if (object && !CanBeObject(reinterpret_cast<std::uintptr_t>(object)))
         Refuse(argument);
     return static_cast<IDispatch*>(object);
 }

@@ -53,12 +53,6 @@ void RequireAddress(const Type* pointer, const char* argument)
     RequireAligned(pointer, argument);
 }
 
-/// Refuses pointers that cannot be the address of an object; a null pointer is accepted.
-inline void RequireObject(const void* object, const char* argument)
-{
-    RequireAligned(static_cast<void* const*>(object), argument);
-}
-
 /// Refuses a null record, and one whose size no version of its structure has had. `first` is the size of the earliest.
 template <class Record>
 void RequireRecord(const Record* record, const char* argument, std::size_t first = sizeof(Record))
@@ -104,6 +98,9 @@ template <class Record>
 }
 /// Refuses an object that the host was not given, or has released; a null pointer is accepted.
 [[nodiscard]] IDispatch* GivenObject(void* object, const char* argument);
+/// Refuses what cannot be an object of COM that the host has: it begins with the address of a table, and the functions
+/// that all objects have come first in it. A null pointer is accepted.
+[[nodiscard]] IDispatch* HostObject(void* object, const char* argument);
 /// The host has one reference less.
 void TakeBack(IDispatch* object);
 [[nodiscard]] COleDateTime ToDateTime(double days, std::int32_t status, const char* argument);

@@ -128,7 +128,7 @@ def converted(operation, kind, name):
     if kind in HANDLES:
         return f"ToHandle<{CPP[kind]}>({c_name})", []
     if kind == "document":
-        return f"static_cast<IDispatch*>({c_name})", [f'RequireObject({c_name}, "{c_name}");']
+        return f'HostObject({c_name}, "{c_name}")', []
     if kind == "object":
         return f'GivenObject({c_name}, "{c_name}")', []
     if kind == "drain":

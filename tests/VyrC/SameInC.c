@@ -5,6 +5,19 @@
 
 #include <stdlib.h>
 
+static vyr_attributes_item make_vyr_attributes_item(shared_values* values)
+{
+    vyr_attributes_item record = {0};
+    record.struct_size = sizeof record;
+    record.read_only = (int32_t)next_number(values);
+    record.hidden = (int32_t)next_number(values);
+    record.system = (int32_t)next_number(values);
+    record.archive = (int32_t)next_number(values);
+    record.temporary = (int32_t)next_number(values);
+    record.not_content_indexed = (int32_t)next_number(values);
+    return record;
+}
+
 static vyr_date_time_stagger_item make_vyr_date_time_stagger_item(shared_values* values)
 {
     vyr_date_time_stagger_item record = {0};
@@ -182,6 +195,25 @@ static vyr_style_item make_vyr_style_item(shared_values* values)
     record.value = next_text(values);
     record.name = next_text(values);
     return record;
+}
+
+const char* same_mshtml_img_set_resize_img_style(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    void* a0;
+    vyr_rect a1;
+    all.next = round;
+    begin_showing();
+    a0 = next_page(values);
+    a1 = next_rect(values);
+    status = vyr_mshtml_img_set_resize_img_style(a0, &a1);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_word("done");
+    return all_shown();
 }
 
 const char* same_output_set_output_file_path(size_t round)
@@ -439,6 +471,210 @@ const char* same_search_set_size_to_size(size_t round)
     return all_shown();
 }
 
+const char* same_feature_control_set_feature_security_band(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    int32_t a0;
+    all.next = round;
+    begin_showing();
+    a0 = (int32_t)next_number(values);
+    status = vyr_feature_control_set_feature_security_band(a0);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_word("done");
+    return all_shown();
+}
+
+const char* same_feature_control_set_feature_weboc_popup_management(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    int32_t a0;
+    all.next = round;
+    begin_showing();
+    a0 = (int32_t)next_number(values);
+    status = vyr_feature_control_set_feature_weboc_popup_management(a0);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_word("done");
+    return all_shown();
+}
+
+const char* same_feature_control_set_feature_local_machine_lock_down(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    int32_t a0;
+    all.next = round;
+    begin_showing();
+    a0 = (int32_t)next_number(values);
+    status = vyr_feature_control_set_feature_local_machine_lock_down(a0);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_word("done");
+    return all_shown();
+}
+
+const char* same_feature_control_set_feature_restrict_file_download(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    int32_t a0;
+    all.next = round;
+    begin_showing();
+    a0 = (int32_t)next_number(values);
+    status = vyr_feature_control_set_feature_restrict_file_download(a0);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_word("done");
+    return all_shown();
+}
+
+const char* same_feature_control_set_feature_restrict_active_x_install(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    int32_t a0;
+    all.next = round;
+    begin_showing();
+    a0 = (int32_t)next_number(values);
+    status = vyr_feature_control_set_feature_restrict_active_x_install(a0);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_word("done");
+    return all_shown();
+}
+
+const char* same_feature_control_set_feature_tabbed_browsing(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    int32_t a0;
+    all.next = round;
+    begin_showing();
+    a0 = (int32_t)next_number(values);
+    status = vyr_feature_control_set_feature_tabbed_browsing(a0);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_word("done");
+    return all_shown();
+}
+
+const char* same_feature_control_set_feature_disable_navigation_sounds(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    int32_t a0;
+    all.next = round;
+    begin_showing();
+    a0 = (int32_t)next_number(values);
+    status = vyr_feature_control_set_feature_disable_navigation_sounds(a0);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_word("done");
+    return all_shown();
+}
+
+const char* same_feature_control_set_feature_feeds(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    int32_t a0;
+    all.next = round;
+    begin_showing();
+    a0 = (int32_t)next_number(values);
+    status = vyr_feature_control_set_feature_feeds(a0);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_word("done");
+    return all_shown();
+}
+
+const char* same_feature_control_set_feature_block_lmz_img(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    uint32_t a0;
+    all.next = round;
+    begin_showing();
+    a0 = (uint32_t)next_number(values);
+    status = vyr_feature_control_set_feature_block_lmz_img(a0);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_word("done");
+    return all_shown();
+}
+
+const char* same_feature_control_set_feature_block_lmz_object(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    uint32_t a0;
+    all.next = round;
+    begin_showing();
+    a0 = (uint32_t)next_number(values);
+    status = vyr_feature_control_set_feature_block_lmz_object(a0);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_word("done");
+    return all_shown();
+}
+
+const char* same_feature_control_set_feature_block_lmz_script(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    uint32_t a0;
+    all.next = round;
+    begin_showing();
+    a0 = (uint32_t)next_number(values);
+    status = vyr_feature_control_set_feature_block_lmz_script(a0);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_word("done");
+    return all_shown();
+}
+
+const char* same_feature_control_set_feature_browser_emulation(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    uint32_t a0;
+    all.next = round;
+    begin_showing();
+    a0 = (uint32_t)next_number(values);
+    status = vyr_feature_control_set_feature_browser_emulation(a0);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_word("done");
+    return all_shown();
+}
+
 const char* same_updates_initialize_updates_information(size_t round)
 {
     shared_values all = {0};
@@ -617,6 +853,22 @@ const char* same_updates_load_check_for_updates_date(size_t round)
     all.next = round;
     begin_showing();
     status = vyr_updates_load_check_for_updates_date();
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_word("done");
+    (void)values;
+    return all_shown();
+}
+
+const char* same_updates_save_check_for_updates_date(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    all.next = round;
+    begin_showing();
+    status = vyr_updates_save_check_for_updates_date();
     if (status != VYR_OK)
         show_failure(status);
     else
@@ -3068,6 +3320,26 @@ const char* same_output_get_dialog_property_width(size_t round)
     return all_shown();
 }
 
+const char* same_attributes_set_modified_file_attributes(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    vyr_text a0;
+    vyr_attributes_item a1;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_path(values);
+    a1 = make_vyr_attributes_item(values);
+    status = vyr_attributes_set_modified_file_attributes(a0.units, a0.length, &a1, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
+    return all_shown();
+}
+
 const char* same_attributes_get_selected_read_only_attributes(size_t round)
 {
     shared_values all = {0};
@@ -3176,6 +3448,126 @@ const char* same_attributes_get_selected_not_content_indexed_attributes(size_t r
     return all_shown();
 }
 
+const char* same_attributes_set_read_only_attributes(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    vyr_text a0;
+    int32_t a1;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_path(values);
+    a1 = (int32_t)next_number(values);
+    status = vyr_attributes_set_read_only_attributes(a0.units, a0.length, a1, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
+    return all_shown();
+}
+
+const char* same_attributes_set_hidden_attributes(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    vyr_text a0;
+    int32_t a1;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_path(values);
+    a1 = (int32_t)next_number(values);
+    status = vyr_attributes_set_hidden_attributes(a0.units, a0.length, a1, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
+    return all_shown();
+}
+
+const char* same_attributes_set_system_attributes(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    vyr_text a0;
+    int32_t a1;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_path(values);
+    a1 = (int32_t)next_number(values);
+    status = vyr_attributes_set_system_attributes(a0.units, a0.length, a1, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
+    return all_shown();
+}
+
+const char* same_attributes_set_archive_attributes(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    vyr_text a0;
+    int32_t a1;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_path(values);
+    a1 = (int32_t)next_number(values);
+    status = vyr_attributes_set_archive_attributes(a0.units, a0.length, a1, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
+    return all_shown();
+}
+
+const char* same_attributes_set_temporary_attributes(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    vyr_text a0;
+    int32_t a1;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_path(values);
+    a1 = (int32_t)next_number(values);
+    status = vyr_attributes_set_temporary_attributes(a0.units, a0.length, a1, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
+    return all_shown();
+}
+
+const char* same_attributes_set_not_content_indexed_attributes(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    vyr_text a0;
+    int32_t a1;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_path(values);
+    a1 = (int32_t)next_number(values);
+    status = vyr_attributes_set_not_content_indexed_attributes(a0.units, a0.length, a1, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
+    return all_shown();
+}
+
 const char* same_attributes_get_arrtibutes_priority(size_t round)
 {
     shared_values all = {0};
@@ -3268,6 +3660,33 @@ const char* same_date_time_get_modified_file_date_time(size_t round)
         show_failure(status);
     else
         show_unsigned(result);
+    return all_shown();
+}
+
+const char* same_date_time_set_modified_file_date_time(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    vyr_text a0;
+    uint64_t a1_place;
+    const uint64_t* a1;
+    uint64_t a2_place;
+    const uint64_t* a2;
+    uint64_t a3_place;
+    const uint64_t* a3;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_path(values);
+    a1 = next_file_time(values, &a1_place);
+    a2 = next_file_time(values, &a2_place);
+    a3 = next_file_time(values, &a3_place);
+    status = vyr_date_time_set_modified_file_date_time(a0.units, a0.length, a1, a2, a3, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
     return all_shown();
 }
 
@@ -3504,8 +3923,8 @@ const char* same_office_property_get_class_id_item_list(size_t round)
     status = vyr_office_property_get_class_id_item_list(a0, 2, &list);
     if (status != VYR_OK)
         show_failure(status);
-    else
-        status = vyr_list_get_count(list, &count);
+    if (status == VYR_OK && vyr_list_get_count(list, &count) != VYR_OK)
+        show_word("no count");
     found.struct_size = sizeof found;
     for (index = 0; index < count; ++index) {
         if (vyr_office_property_handler_get(list, index, &found) != VYR_OK)
@@ -3570,6 +3989,49 @@ const char* same_office_property_get_property_handler_reg_key(size_t round)
     return all_shown();
 }
 
+const char* same_office_property_set_dump_props(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    vyr_text a0;
+    uint32_t a1;
+    vyr_value a2_place;
+    const vyr_value* a2;
+    vyr_guid a3;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_path(values);
+    a1 = (uint32_t)next_number(values);
+    a2 = next_value(values, &a2_place);
+    a3 = next_handler(values);
+    status = vyr_office_property_set_dump_props(a0.units, a0.length, a1, a2, &a3, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
+    return all_shown();
+}
+
+const char* same_unblock_delete_zone_id(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    vyr_text a0;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_path(values);
+    status = vyr_unblock_delete_zone_id(a0.units, a0.length, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
+    return all_shown();
+}
+
 const char* same_name_get_rename_file_path(size_t round)
 {
     shared_values all = {0};
@@ -3614,8 +4076,8 @@ const char* same_name_get_rename_file_paths(size_t round)
     status = vyr_name_get_rename_file_paths(a0, 2, &list);
     if (status != VYR_OK)
         show_failure(status);
-    else
-        status = vyr_list_get_count(list, &count);
+    if (status == VYR_OK && vyr_list_get_count(list, &count) != VYR_OK)
+        show_word("no count");
     for (index = 0; index < count; ++index) {
         if (vyr_text_get(list, index, &found) != VYR_OK)
             show_word("no record");
@@ -3873,7 +4335,7 @@ const char* same_name_get_resolve_conflict_file_path(size_t round)
     size_t length = 0;
     all.next = round;
     begin_showing();
-    a0 = next_text(values);
+    a0 = next_free_path(values);
     a1 = make_vyr_name_conflict_item(values);
     status = vyr_name_get_resolve_conflict_file_path(a0.units, a0.length, &a1, 0, 0, &length);
     if (status == VYR_BUFFER_TOO_SMALL) {
@@ -4004,6 +4466,90 @@ const char* same_name_get_exif_format(size_t round)
     return all_shown();
 }
 
+const char* same_name_copy_folder(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    vyr_text a0;
+    vyr_text a1;
+    vyr_list a2 = 0;
+    vyr_name_rename_item found = {0};
+    size_t count = 0;
+    size_t index;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_path(values);
+    a1 = next_path(values);
+    status = vyr_name_copy_folder(a0.units, a0.length, a1.units, a1.length, &a2, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
+    show_word("\n");
+    if (status == VYR_OK && vyr_list_get_count(a2, &count) != VYR_OK)
+        show_word("no count");
+    found.struct_size = sizeof found;
+    for (index = 0; index < count; ++index) {
+        if (vyr_name_rename_item_get(a2, index, &found) != VYR_OK)
+            show_word("no record");
+        show_text(found.source_path);
+        show_word("|");
+        show_text(found.destination_path);
+        show_word("|");
+        show_date_time(found.date_created);
+        show_word("|");
+        show_date_time(found.date_modified);
+        show_word("\n");
+    }
+    if (status == VYR_OK && vyr_list_release(a2) != VYR_OK)
+        show_word("not released");
+    return all_shown();
+}
+
+const char* same_name_move_folder(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    vyr_text a0;
+    vyr_text a1;
+    vyr_list a2 = 0;
+    vyr_name_rename_item found = {0};
+    size_t count = 0;
+    size_t index;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_path(values);
+    a1 = next_path(values);
+    status = vyr_name_move_folder(a0.units, a0.length, a1.units, a1.length, &a2, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
+    show_word("\n");
+    if (status == VYR_OK && vyr_list_get_count(a2, &count) != VYR_OK)
+        show_word("no count");
+    found.struct_size = sizeof found;
+    for (index = 0; index < count; ++index) {
+        if (vyr_name_rename_item_get(a2, index, &found) != VYR_OK)
+            show_word("no record");
+        show_text(found.source_path);
+        show_word("|");
+        show_text(found.destination_path);
+        show_word("|");
+        show_date_time(found.date_created);
+        show_word("|");
+        show_date_time(found.date_modified);
+        show_word("\n");
+    }
+    if (status == VYR_OK && vyr_list_release(a2) != VYR_OK)
+        show_word("not released");
+    return all_shown();
+}
+
 const char* same_programs_get_programs_features_items_list(size_t round)
 {
     shared_values all = {0};
@@ -4022,8 +4568,8 @@ const char* same_programs_get_programs_features_items_list(size_t round)
     status = vyr_programs_get_programs_features_items_list(a0, a1, &list);
     if (status != VYR_OK)
         show_failure(status);
-    else
-        status = vyr_list_get_count(list, &count);
+    if (status == VYR_OK && vyr_list_get_count(list, &count) != VYR_OK)
+        show_word("no count");
     found.struct_size = sizeof found;
     for (index = 0; index < count; ++index) {
         if (vyr_programs_item_get(list, index, &found) != VYR_OK)
@@ -4136,8 +4682,8 @@ const char* same_programs_get_programs_features_windows_installer_items_list(siz
     status = vyr_programs_get_programs_features_windows_installer_items_list(a0, &list);
     if (status != VYR_OK)
         show_failure(status);
-    else
-        status = vyr_list_get_count(list, &count);
+    if (status == VYR_OK && vyr_list_get_count(list, &count) != VYR_OK)
+        show_word("no count");
     found.struct_size = sizeof found;
     for (index = 0; index < count; ++index) {
         if (vyr_programs_item_get(list, index, &found) != VYR_OK)
@@ -4277,8 +4823,8 @@ const char* same_programs_get_programs_features_installer_products_items_list(si
     status = vyr_programs_get_programs_features_installer_products_items_list(&list);
     if (status != VYR_OK)
         show_failure(status);
-    else
-        status = vyr_list_get_count(list, &count);
+    if (status == VYR_OK && vyr_list_get_count(list, &count) != VYR_OK)
+        show_word("no count");
     found.struct_size = sizeof found;
     for (index = 0; index < count; ++index) {
         if (vyr_programs_product_get(list, index, &found) != VYR_OK)
@@ -4463,7 +5009,7 @@ const char* same_programs_get_key_parent_name(size_t round)
     size_t length = 0;
     all.next = round;
     begin_showing();
-    a0 = next_handle(values);
+    a0 = next_key(values);
     status = vyr_programs_get_key_parent_name(a0, 0, 0, &length);
     if (status == VYR_BUFFER_TOO_SMALL) {
         buffer = malloc((length + 1) * sizeof *buffer);
@@ -4656,12 +5202,14 @@ const char* same_column_is_visible_column(size_t round)
     shared_values all = {0};
     shared_values* const values = &all;
     vyr_status status;
+    intptr_t a0;
     vyr_text a1;
     int32_t result = 0;
     all.next = round;
     begin_showing();
+    a0 = next_list(values);
     a1 = next_text(values);
-    status = vyr_column_is_visible_column(0, a1.units, a1.length, &result);
+    status = vyr_column_is_visible_column(a0, a1.units, a1.length, &result);
     if (status != VYR_OK)
         show_failure(status);
     else
@@ -4674,12 +5222,14 @@ const char* same_column_get_column_header_item(size_t round)
     shared_values all = {0};
     shared_values* const values = &all;
     vyr_status status;
+    intptr_t a0;
     vyr_text a1;
     int32_t result = 0;
     all.next = round;
     begin_showing();
+    a0 = next_list(values);
     a1 = next_text(values);
-    status = vyr_column_get_column_header_item(0, a1.units, a1.length, &result);
+    status = vyr_column_get_column_header_item(a0, a1.units, a1.length, &result);
     if (status != VYR_OK)
         show_failure(status);
     else
@@ -4692,12 +5242,14 @@ const char* same_column_get_column_item_order(size_t round)
     shared_values all = {0};
     shared_values* const values = &all;
     vyr_status status;
+    intptr_t a0;
     vyr_text a1;
     int32_t result = 0;
     all.next = round;
     begin_showing();
+    a0 = next_list(values);
     a1 = next_text(values);
-    status = vyr_column_get_column_item_order(0, a1.units, a1.length, &result);
+    status = vyr_column_get_column_item_order(a0, a1.units, a1.length, &result);
     if (status != VYR_OK)
         show_failure(status);
     else
@@ -4710,17 +5262,19 @@ const char* same_column_get_column_item_text(size_t round)
     shared_values all = {0};
     shared_values* const values = &all;
     vyr_status status;
+    intptr_t a0;
     int32_t a1;
     vyr_text text = {0, 0};
     uint16_t* buffer = 0;
     size_t length = 0;
     all.next = round;
     begin_showing();
+    a0 = next_list(values);
     a1 = (int32_t)next_number(values);
-    status = vyr_column_get_column_item_text(0, a1, 0, 0, &length);
+    status = vyr_column_get_column_item_text(a0, a1, 0, 0, &length);
     if (status == VYR_BUFFER_TOO_SMALL) {
         buffer = malloc((length + 1) * sizeof *buffer);
-        status = vyr_column_get_column_item_text(0, a1, buffer, length + 1, &length);
+        status = vyr_column_get_column_item_text(a0, a1, buffer, length + 1, &length);
     }
     text.units = buffer;
     text.length = (ptrdiff_t)length;
@@ -5112,8 +5666,8 @@ const char* same_browser_get_browser_items_list(size_t round)
     status = vyr_browser_get_browser_items_list(&list);
     if (status != VYR_OK)
         show_failure(status);
-    else
-        status = vyr_list_get_count(list, &count);
+    if (status == VYR_OK && vyr_list_get_count(list, &count) != VYR_OK)
+        show_word("no count");
     found.struct_size = sizeof found;
     for (index = 0; index < count; ++index) {
         if (vyr_browser_app_item_get(list, index, &found) != VYR_OK)
@@ -5149,8 +5703,8 @@ const char* same_browser_get_microsoft_edge_app_item(size_t round)
     status = vyr_browser_get_microsoft_edge_app_item(&list);
     if (status != VYR_OK)
         show_failure(status);
-    else
-        status = vyr_list_get_count(list, &count);
+    if (status == VYR_OK && vyr_list_get_count(list, &count) != VYR_OK)
+        show_word("no count");
     found.struct_size = sizeof found;
     for (index = 0; index < count; ++index) {
         if (vyr_browser_app_item_get(list, index, &found) != VYR_OK)
@@ -5186,6 +5740,42 @@ const char* same_browser_is_installed_microsoft_edge_chromium(size_t round)
     else
         show_signed(result);
     (void)values;
+    return all_shown();
+}
+
+const char* same_control_panel_exec_date_and_time(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    intptr_t a0;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_handle(values);
+    status = vyr_control_panel_exec_date_and_time(a0, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
+    return all_shown();
+}
+
+const char* same_control_panel_exec_programs_and_features(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    intptr_t a0;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_handle(values);
+    status = vyr_control_panel_exec_programs_and_features(a0, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
     return all_shown();
 }
 
@@ -5238,6 +5828,66 @@ const char* same_log_get_application_log_file_path(size_t round)
         show_text(text);
     free(buffer);
     (void)values;
+    return all_shown();
+}
+
+const char* same_log_write_with_path_level(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    vyr_text a0;
+    vyr_text a1;
+    int32_t a2;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_path(values);
+    a1 = next_text(values);
+    a2 = (int32_t)next_number(values);
+    status = vyr_log_write_with_path_level(a0.units, a0.length, a1.units, a1.length, a2, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
+    return all_shown();
+}
+
+const char* same_log_write_with_level(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    vyr_text a0;
+    int32_t a1;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_text(values);
+    a1 = (int32_t)next_number(values);
+    status = vyr_log_write_with_level(a0.units, a0.length, a1, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
+    return all_shown();
+}
+
+const char* same_log_write(size_t round)
+{
+    shared_values all = {0};
+    shared_values* const values = &all;
+    vyr_status status;
+    vyr_text a0;
+    int32_t result = 0;
+    all.next = round;
+    begin_showing();
+    a0 = next_text(values);
+    status = vyr_log_write(a0.units, a0.length, &result);
+    if (status != VYR_OK)
+        show_failure(status);
+    else
+        show_signed(result);
     return all_shown();
 }
 
@@ -5643,8 +6293,8 @@ const char* same_updates_get_update_items_list(size_t round)
     status = vyr_updates_get_update_items_list(&list);
     if (status != VYR_OK)
         show_failure(status);
-    else
-        status = vyr_list_get_count(list, &count);
+    if (status == VYR_OK && vyr_list_get_count(list, &count) != VYR_OK)
+        show_word("no count");
     found.struct_size = sizeof found;
     for (index = 0; index < count; ++index) {
         if (vyr_updates_item_get(list, index, &found) != VYR_OK)
@@ -5798,6 +6448,8 @@ const char* same_msxml_load_xml_file(size_t round)
         show_failure(status);
     else
         show_object(result);
+    if (vyr_xml_release(result) != VYR_OK)
+        show_word("not released");
     return all_shown();
 }
 
@@ -5816,6 +6468,8 @@ const char* same_msxml_load_xslt_file(size_t round)
         show_failure(status);
     else
         show_object(result);
+    if (vyr_xml_release(result) != VYR_OK)
+        show_word("not released");
     return all_shown();
 }
 
@@ -5851,8 +6505,8 @@ const char* same_style_get_design_items_list(size_t round)
     status = vyr_style_get_design_items_list(&list);
     if (status != VYR_OK)
         show_failure(status);
-    else
-        status = vyr_list_get_count(list, &count);
+    if (status == VYR_OK && vyr_list_get_count(list, &count) != VYR_OK)
+        show_word("no count");
     found.struct_size = sizeof found;
     for (index = 0; index < count; ++index) {
         if (vyr_style_item_get(list, index, &found) != VYR_OK)

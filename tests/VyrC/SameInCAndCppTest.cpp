@@ -234,6 +234,15 @@ inline std::string Show(const StyleFuncs::DESIGNITEM& record)
 
 using namespace VyrCTests;
 
+TEST(SameInCAndCpp, mshtml_img_set_resize_img_style)
+{
+    ExpectSame(&same_mshtml_img_set_resize_img_style, [](Values& values) {
+        auto a0 = values.NextPage();
+        const auto a1 = values.NextRect();
+        return ShowCpp([&] { return MSHTMLImgFuncs::SetResizeImgStyle(a0, a1); });
+    }, {.acts = true});
+}
+
 TEST(SameInCAndCpp, output_set_output_file_path)
 {
     ExpectSame(&same_output_set_output_file_path, [](Values& values) {
@@ -255,7 +264,7 @@ TEST(SameInCAndCpp, programs_set_output_file_path)
     ExpectSame(&same_programs_set_output_file_path, [](Values& values) {
         const auto a0 = values.Next<CString>();
         return ShowCpp([&] { return ProgramsFeaturesFuncs::SetOutputFilePath(a0); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, programs_set_open_output_file)
@@ -263,7 +272,7 @@ TEST(SameInCAndCpp, programs_set_open_output_file)
     ExpectSame(&same_programs_set_open_output_file, [](Values& values) {
         const auto a0 = values.Next<int>();
         return ShowCpp([&] { return ProgramsFeaturesFuncs::SetOpenOutputFile(a0); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, search_set_search_closed)
@@ -354,11 +363,107 @@ TEST(SameInCAndCpp, search_set_size_to_size)
     });
 }
 
+TEST(SameInCAndCpp, feature_control_set_feature_security_band)
+{
+    ExpectSame(&same_feature_control_set_feature_security_band, [](Values& values) {
+        const auto a0 = values.Next<int>();
+        return ShowCpp([&] { return FeatureControlFuncs::SetFeatureSecurityBand(a0); });
+    }, {.acts = true, .isSeen = false, .hasRegistry = true});
+}
+
+TEST(SameInCAndCpp, feature_control_set_feature_weboc_popup_management)
+{
+    ExpectSame(&same_feature_control_set_feature_weboc_popup_management, [](Values& values) {
+        const auto a0 = values.Next<int>();
+        return ShowCpp([&] { return FeatureControlFuncs::SetFeatureWebocPopupManagement(a0); });
+    }, {.acts = true, .isSeen = false, .hasRegistry = true});
+}
+
+TEST(SameInCAndCpp, feature_control_set_feature_local_machine_lock_down)
+{
+    ExpectSame(&same_feature_control_set_feature_local_machine_lock_down, [](Values& values) {
+        const auto a0 = values.Next<int>();
+        return ShowCpp([&] { return FeatureControlFuncs::SetFeatureLocalMachineLockDown(a0); });
+    }, {.acts = true, .isSeen = false, .hasRegistry = true});
+}
+
+TEST(SameInCAndCpp, feature_control_set_feature_restrict_file_download)
+{
+    ExpectSame(&same_feature_control_set_feature_restrict_file_download, [](Values& values) {
+        const auto a0 = values.Next<int>();
+        return ShowCpp([&] { return FeatureControlFuncs::SetFeatureRestrictFileDownload(a0); });
+    }, {.acts = true, .isSeen = false, .hasRegistry = true});
+}
+
+TEST(SameInCAndCpp, feature_control_set_feature_restrict_active_x_install)
+{
+    ExpectSame(&same_feature_control_set_feature_restrict_active_x_install, [](Values& values) {
+        const auto a0 = values.Next<int>();
+        return ShowCpp([&] { return FeatureControlFuncs::SetFeatureRestrictActiveXInstall(a0); });
+    }, {.acts = true, .isSeen = false, .hasRegistry = true});
+}
+
+TEST(SameInCAndCpp, feature_control_set_feature_tabbed_browsing)
+{
+    ExpectSame(&same_feature_control_set_feature_tabbed_browsing, [](Values& values) {
+        const auto a0 = values.Next<int>();
+        return ShowCpp([&] { return FeatureControlFuncs::SetFeatureTabbedBrowsing(a0); });
+    }, {.acts = true, .isSeen = false, .hasRegistry = true});
+}
+
+TEST(SameInCAndCpp, feature_control_set_feature_disable_navigation_sounds)
+{
+    ExpectSame(&same_feature_control_set_feature_disable_navigation_sounds, [](Values& values) {
+        const auto a0 = values.Next<int>();
+        return ShowCpp([&] { return FeatureControlFuncs::SetFeatureDisableNavigationSounds(a0); });
+    }, {.acts = true, .isSeen = false, .hasRegistry = true});
+}
+
+TEST(SameInCAndCpp, feature_control_set_feature_feeds)
+{
+    ExpectSame(&same_feature_control_set_feature_feeds, [](Values& values) {
+        const auto a0 = values.Next<int>();
+        return ShowCpp([&] { return FeatureControlFuncs::SetFeatureFeeds(a0); });
+    }, {.acts = true, .isSeen = false, .hasRegistry = true});
+}
+
+TEST(SameInCAndCpp, feature_control_set_feature_block_lmz_img)
+{
+    ExpectSame(&same_feature_control_set_feature_block_lmz_img, [](Values& values) {
+        const auto a0 = values.Next<std::uint32_t>();
+        return ShowCpp([&] { return FeatureControlFuncs::SetFeatureBlockLMZImg(a0); });
+    }, {.acts = true, .hasRegistry = true});
+}
+
+TEST(SameInCAndCpp, feature_control_set_feature_block_lmz_object)
+{
+    ExpectSame(&same_feature_control_set_feature_block_lmz_object, [](Values& values) {
+        const auto a0 = values.Next<std::uint32_t>();
+        return ShowCpp([&] { return FeatureControlFuncs::SetFeatureBlockLMZObject(a0); });
+    }, {.acts = true, .hasRegistry = true});
+}
+
+TEST(SameInCAndCpp, feature_control_set_feature_block_lmz_script)
+{
+    ExpectSame(&same_feature_control_set_feature_block_lmz_script, [](Values& values) {
+        const auto a0 = values.Next<std::uint32_t>();
+        return ShowCpp([&] { return FeatureControlFuncs::SetFeatureBlockLMZScript(a0); });
+    }, {.acts = true, .hasRegistry = true});
+}
+
+TEST(SameInCAndCpp, feature_control_set_feature_browser_emulation)
+{
+    ExpectSame(&same_feature_control_set_feature_browser_emulation, [](Values& values) {
+        const auto a0 = values.Next<std::uint32_t>();
+        return ShowCpp([&] { return FeatureControlFuncs::SetFeatureBrowserEmulation(a0); });
+    }, {.acts = true, .hasRegistry = true});
+}
+
 TEST(SameInCAndCpp, updates_initialize_updates_information)
 {
     ExpectSame(&same_updates_initialize_updates_information, [](Values& ) {
         return ShowCpp([&] { return UpdatesFuncs::InitializeUpdatesInformation(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, updates_set_type)
@@ -437,14 +542,21 @@ TEST(SameInCAndCpp, updates_load_check_for_updates_date)
 {
     ExpectSame(&same_updates_load_check_for_updates_date, [](Values& ) {
         return ShowCpp([&] { return UpdatesFuncs::LoadCheckForUpdatesDate(); });
-    });
+    }, {.rounds = 1});
+}
+
+TEST(SameInCAndCpp, updates_save_check_for_updates_date)
+{
+    ExpectSame(&same_updates_save_check_for_updates_date, [](Values& ) {
+        return ShowCpp([&] { return UpdatesFuncs::SaveCheckForUpdatesDate(); });
+    }, {.rounds = 1, .acts = true});
 }
 
 TEST(SameInCAndCpp, style_initialize_styles_information)
 {
     ExpectSame(&same_style_initialize_styles_information, [](Values& ) {
         return ShowCpp([&] { return StyleFuncs::InitializeStylesInformation(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, style_set_design_items_list)
@@ -459,14 +571,14 @@ TEST(SameInCAndCpp, html_get_doctype_tag)
 {
     ExpectSame(&same_html_get_doctype_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetDoctypeTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_saved_from_url_tag)
 {
     ExpectSame(&same_html_get_saved_from_url_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetSavedFromUrlTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_html_tag)
@@ -481,21 +593,21 @@ TEST(SameInCAndCpp, html_get_html_closing_tag)
 {
     ExpectSame(&same_html_get_html_closing_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetHtmlClosingTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_head_tag)
 {
     ExpectSame(&same_html_get_head_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetHeadTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_head_closing_tag)
 {
     ExpectSame(&same_html_get_head_closing_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetHeadClosingTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_meta_xua_compatible_tag)
@@ -542,7 +654,7 @@ TEST(SameInCAndCpp, html_get_script_closing_tag)
 {
     ExpectSame(&same_html_get_script_closing_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetScriptClosingTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_script_src_pair_tag)
@@ -565,7 +677,7 @@ TEST(SameInCAndCpp, html_get_body_tag)
 {
     ExpectSame(&same_html_get_body_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetBodyTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_body_tag_with_attributes)
@@ -580,7 +692,7 @@ TEST(SameInCAndCpp, html_get_body_closing_tag)
 {
     ExpectSame(&same_html_get_body_closing_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetBodyClosingTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_header_tag)
@@ -596,7 +708,7 @@ TEST(SameInCAndCpp, html_get_header_closing_tag)
 {
     ExpectSame(&same_html_get_header_closing_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetHeaderClosingTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_footer_tag)
@@ -612,7 +724,7 @@ TEST(SameInCAndCpp, html_get_footer_closing_tag)
 {
     ExpectSame(&same_html_get_footer_closing_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetFooterClosingTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_h1_tag)
@@ -627,7 +739,7 @@ TEST(SameInCAndCpp, html_get_h1_closing_tag)
 {
     ExpectSame(&same_html_get_h1_closing_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetH1ClosingTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_h1_pair_tag)
@@ -643,7 +755,7 @@ TEST(SameInCAndCpp, html_get_p_tag)
 {
     ExpectSame(&same_html_get_p_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetPTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_p_tag_with_class_name)
@@ -658,14 +770,14 @@ TEST(SameInCAndCpp, html_get_p_closing_tag)
 {
     ExpectSame(&same_html_get_p_closing_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetPClosingTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_span_tag)
 {
     ExpectSame(&same_html_get_span_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetSpanTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_span_tag_with_class_name)
@@ -718,7 +830,7 @@ TEST(SameInCAndCpp, html_get_div_tag)
 {
     ExpectSame(&same_html_get_div_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetDivTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_div_tag_with_class_name)
@@ -828,7 +940,7 @@ TEST(SameInCAndCpp, html_get_a_closing_tag)
 {
     ExpectSame(&same_html_get_a_closing_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetAClosingTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_a_pair_tag)
@@ -924,42 +1036,42 @@ TEST(SameInCAndCpp, html_get_table_closing_tag)
 {
     ExpectSame(&same_html_get_table_closing_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetTableClosingTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_thead_tag)
 {
     ExpectSame(&same_html_get_thead_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetTheadTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_thead_closing_tag)
 {
     ExpectSame(&same_html_get_thead_closing_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetTheadClosingTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_tbody_tag)
 {
     ExpectSame(&same_html_get_tbody_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetTbodyTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_tbody_closing_tag)
 {
     ExpectSame(&same_html_get_tbody_closing_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetTbodyClosingTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_tr_tag)
 {
     ExpectSame(&same_html_get_tr_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetTrTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_tr_tag_with_class_name)
@@ -983,7 +1095,7 @@ TEST(SameInCAndCpp, html_get_tr_closing_tag)
 {
     ExpectSame(&same_html_get_tr_closing_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetTrClosingTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_tr_pair_tag)
@@ -1025,7 +1137,7 @@ TEST(SameInCAndCpp, html_get_th_closing_tag)
 {
     ExpectSame(&same_html_get_th_closing_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetThClosingTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_th_pair_tag)
@@ -1041,7 +1153,7 @@ TEST(SameInCAndCpp, html_get_td_tag)
 {
     ExpectSame(&same_html_get_td_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetTdTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_td_tag_with_class_name)
@@ -1105,7 +1217,7 @@ TEST(SameInCAndCpp, html_get_td_closing_tag)
 {
     ExpectSame(&same_html_get_td_closing_tag, [](Values& ) {
         return ShowCpp([&] { return HtmlFuncs::GetTdClosingTag(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, html_get_td_pair_tag)
@@ -1139,21 +1251,21 @@ TEST(SameInCAndCpp, output_get_output_file_path)
 {
     ExpectSame(&same_output_get_output_file_path, [](Values& ) {
         return ShowCpp([&] { return OutputFuncs::GetOutputFilePath(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, output_get_output_filter_index)
 {
     ExpectSame(&same_output_get_output_filter_index, [](Values& ) {
         return ShowCpp([&] { return OutputFuncs::GetOutputFilterIndex(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, output_get_generator_output_string)
 {
     ExpectSame(&same_output_get_generator_output_string, [](Values& ) {
         return ShowCpp([&] { return OutputFuncs::GetGeneratorOutputString(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, output_get_generator_output_string_with_name)
@@ -1179,6 +1291,15 @@ TEST(SameInCAndCpp, output_get_dialog_property_width)
         const auto a0 = values.Next<int>();
         return ShowCpp([&] { return OutputFuncs::GetDialogPropertyWidth(a0); });
     });
+}
+
+TEST(SameInCAndCpp, attributes_set_modified_file_attributes)
+{
+    ExpectSame(&same_attributes_set_modified_file_attributes, [](Values& values) {
+        const auto a0 = values.NextPath();
+        const auto a1 = values.Next<AttributesFuncs::ATTRIBUTESITEM>();
+        return ShowCpp([&] { return AttributesFuncs::SetModifiedFileAttributes(a0, a1); });
+    }, {.acts = true});
 }
 
 TEST(SameInCAndCpp, attributes_get_selected_read_only_attributes)
@@ -1229,6 +1350,60 @@ TEST(SameInCAndCpp, attributes_get_selected_not_content_indexed_attributes)
     });
 }
 
+TEST(SameInCAndCpp, attributes_set_read_only_attributes)
+{
+    ExpectSame(&same_attributes_set_read_only_attributes, [](Values& values) {
+        const auto a0 = values.NextPath();
+        const auto a1 = values.Next<int>();
+        return ShowCpp([&] { return AttributesFuncs::SetReadOnlyAttributes(a0, a1); });
+    }, {.acts = true});
+}
+
+TEST(SameInCAndCpp, attributes_set_hidden_attributes)
+{
+    ExpectSame(&same_attributes_set_hidden_attributes, [](Values& values) {
+        const auto a0 = values.NextPath();
+        const auto a1 = values.Next<int>();
+        return ShowCpp([&] { return AttributesFuncs::SetHiddenAttributes(a0, a1); });
+    }, {.acts = true});
+}
+
+TEST(SameInCAndCpp, attributes_set_system_attributes)
+{
+    ExpectSame(&same_attributes_set_system_attributes, [](Values& values) {
+        const auto a0 = values.NextPath();
+        const auto a1 = values.Next<int>();
+        return ShowCpp([&] { return AttributesFuncs::SetSystemAttributes(a0, a1); });
+    }, {.acts = true});
+}
+
+TEST(SameInCAndCpp, attributes_set_archive_attributes)
+{
+    ExpectSame(&same_attributes_set_archive_attributes, [](Values& values) {
+        const auto a0 = values.NextPath();
+        const auto a1 = values.Next<int>();
+        return ShowCpp([&] { return AttributesFuncs::SetArchiveAttributes(a0, a1); });
+    }, {.acts = true});
+}
+
+TEST(SameInCAndCpp, attributes_set_temporary_attributes)
+{
+    ExpectSame(&same_attributes_set_temporary_attributes, [](Values& values) {
+        const auto a0 = values.NextPath();
+        const auto a1 = values.Next<int>();
+        return ShowCpp([&] { return AttributesFuncs::SetTemporaryAttributes(a0, a1); });
+    }, {.acts = true});
+}
+
+TEST(SameInCAndCpp, attributes_set_not_content_indexed_attributes)
+{
+    ExpectSame(&same_attributes_set_not_content_indexed_attributes, [](Values& values) {
+        const auto a0 = values.NextPath();
+        const auto a1 = values.Next<int>();
+        return ShowCpp([&] { return AttributesFuncs::SetNotContentIndexedAttributes(a0, a1); });
+    }, {.acts = true});
+}
+
 TEST(SameInCAndCpp, attributes_get_arrtibutes_priority)
 {
     ExpectSame(&same_attributes_get_arrtibutes_priority, [](Values& values) {
@@ -1266,6 +1441,17 @@ TEST(SameInCAndCpp, date_time_get_modified_file_date_time)
         const auto a4 = values.Next<int>();
         return ShowCpp([&] { return DateTimeFuncs::GetModifiedFileDateTime(a0, a1, a2, a3, a4); });
     });
+}
+
+TEST(SameInCAndCpp, date_time_set_modified_file_date_time)
+{
+    ExpectSame(&same_date_time_set_modified_file_date_time, [](Values& values) {
+        const auto a0 = values.NextPath();
+        const auto a1 = values.NextFileTime();
+        const auto a2 = values.NextFileTime();
+        const auto a3 = values.NextFileTime();
+        return ShowCpp([&] { return DateTimeFuncs::SetModifiedFileDateTime(a0, a1 ? &*a1 : nullptr, a2 ? &*a2 : nullptr, a3 ? &*a3 : nullptr); });
+    }, {.acts = true});
 }
 
 TEST(SameInCAndCpp, date_time_get_stagger_file_date_time)
@@ -1370,7 +1556,7 @@ TEST(SameInCAndCpp, office_property_get_class_id_item_list)
     ExpectSame(&same_office_property_get_class_id_item_list, [](Values& values) {
         const std::vector<std::pair<CString, int>> a0{values.Next<std::pair<CString, int>>(), values.Next<std::pair<CString, int>>()};
         return ShowCpp([&] { return OfficePropertyFuncs::GetClassIdItemList(a0); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, office_property_get_class_id)
@@ -1379,7 +1565,7 @@ TEST(SameInCAndCpp, office_property_get_class_id)
         const auto a0 = values.Next<CString>();
         const std::vector<OfficePropertyFuncs::CLSID_ITEM> a1{values.Next<OfficePropertyFuncs::CLSID_ITEM>(), values.Next<OfficePropertyFuncs::CLSID_ITEM>()};
         return ShowCpp([&] { return OfficePropertyFuncs::GetClassId(a0, a1); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, office_property_get_property_handler_reg_key)
@@ -1387,7 +1573,26 @@ TEST(SameInCAndCpp, office_property_get_property_handler_reg_key)
     ExpectSame(&same_office_property_get_property_handler_reg_key, [](Values& values) {
         const auto a0 = values.Next<CString>();
         return ShowCpp([&] { return OfficePropertyFuncs::GetPropertyHandlerRegKey(a0); });
-    });
+    }, {.hasRegistry = true});
+}
+
+TEST(SameInCAndCpp, office_property_set_dump_props)
+{
+    ExpectSame(&same_office_property_set_dump_props, [](Values& values) {
+        const auto a0 = values.NextPath();
+        const auto a1 = values.Next<std::uint32_t>();
+        auto a2 = values.NextValue();
+        const auto a3 = values.NextHandler();
+        return ShowCpp([&] { return OfficePropertyFuncs::SetDumpProps(a0, a1, a2.Get(), a3); });
+    }, {.acts = true, .hasRegistry = true});
+}
+
+TEST(SameInCAndCpp, unblock_delete_zone_id)
+{
+    ExpectSame(&same_unblock_delete_zone_id, [](Values& values) {
+        const auto a0 = values.NextPath();
+        return ShowCpp([&] { return UnblockFuncs::DeleteZoneId(a0); });
+    }, {.acts = true});
 }
 
 TEST(SameInCAndCpp, name_get_rename_file_path)
@@ -1481,7 +1686,7 @@ TEST(SameInCAndCpp, name_get_extension_file_path)
 TEST(SameInCAndCpp, name_get_resolve_conflict_file_path)
 {
     ExpectSame(&same_name_get_resolve_conflict_file_path, [](Values& values) {
-        const auto a0 = values.Next<CString>();
+        const auto a0 = values.NextFreePath();
         const auto a1 = values.Next<NameFuncs::CONFLICTITEM>();
         return ShowCpp([&] { return NameFuncs::GetResolveConflictFilePath(a0, a1); });
     });
@@ -1522,13 +1727,35 @@ TEST(SameInCAndCpp, name_get_exif_format)
     });
 }
 
+TEST(SameInCAndCpp, name_copy_folder)
+{
+    ExpectSame(&same_name_copy_folder, [](Values& values) {
+        const auto a0 = values.NextPath();
+        const auto a1 = values.NextPath();
+        std::list<NameFuncs::RENAMEITEM> a2;
+        const std::string given = ShowCpp([&] { return NameFuncs::CopyFolder(a0, a1, &a2); });
+        return given + '\n' + Show(a2);
+    }, {.acts = true});
+}
+
+TEST(SameInCAndCpp, name_move_folder)
+{
+    ExpectSame(&same_name_move_folder, [](Values& values) {
+        const auto a0 = values.NextPath();
+        const auto a1 = values.NextPath();
+        std::list<NameFuncs::RENAMEITEM> a2;
+        const std::string given = ShowCpp([&] { return NameFuncs::MoveFolder(a0, a1, &a2); });
+        return given + '\n' + Show(a2);
+    }, {.acts = true});
+}
+
 TEST(SameInCAndCpp, programs_get_programs_features_items_list)
 {
     ExpectSame(&same_programs_get_programs_features_items_list, [](Values& values) {
         const auto a0 = values.Next<int>();
         const auto a1 = values.Next<int>();
         return ShowCpp([&] { return ProgramsFeaturesFuncs::GetProgramsFeaturesItemsList(a0, a1); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, programs_get_programs_features_windows_installer_items_list)
@@ -1536,7 +1763,7 @@ TEST(SameInCAndCpp, programs_get_programs_features_windows_installer_items_list)
     ExpectSame(&same_programs_get_programs_features_windows_installer_items_list, [](Values& values) {
         const auto a0 = values.Next<int>();
         return ShowCpp([&] { return ProgramsFeaturesFuncs::GetProgramsFeaturesWindowsInstallerItemsList(a0); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, programs_get_list_view_item_text)
@@ -1545,14 +1772,14 @@ TEST(SameInCAndCpp, programs_get_list_view_item_text)
         const auto a0 = values.Next<int>();
         const auto a1 = values.Next<ProgramsFeaturesFuncs::ITEM>();
         return ShowCpp([&] { return ProgramsFeaturesFuncs::GetListViewItemText(a0, a1); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, programs_get_programs_features_installer_products_items_list)
 {
     ExpectSame(&same_programs_get_programs_features_installer_products_items_list, [](Values& ) {
         return ShowCpp([&] { return ProgramsFeaturesFuncs::GetProgramsFeaturesInstallerProductsItemsList(); });
-    });
+    }, {.rounds = 1, .hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, programs_get_product_icon)
@@ -1562,7 +1789,7 @@ TEST(SameInCAndCpp, programs_get_product_icon)
         const auto a1 = values.Next<CString>();
         const std::vector<ProgramsFeaturesFuncs::INSTALLER_PRODUCTS_ITEM> a2{values.Next<ProgramsFeaturesFuncs::INSTALLER_PRODUCTS_ITEM>(), values.Next<ProgramsFeaturesFuncs::INSTALLER_PRODUCTS_ITEM>()};
         return ShowCpp([&] { return ProgramsFeaturesFuncs::GetProductIcon(a0, a1, a2); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, programs_get_application_icon)
@@ -1570,7 +1797,7 @@ TEST(SameInCAndCpp, programs_get_application_icon)
     ExpectSame(&same_programs_get_application_icon, [](Values& values) {
         const auto a0 = values.Next<CString>();
         return ShowCpp([&] { return ProgramsFeaturesFuncs::GetApplicationIcon(a0); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, programs_get_install_date)
@@ -1579,7 +1806,7 @@ TEST(SameInCAndCpp, programs_get_install_date)
         const auto a0 = values.Next<CString>();
         const auto a1 = values.Next<CString>();
         return ShowCpp([&] { return ProgramsFeaturesFuncs::GetInstallDate(a0, a1); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, programs_get_formated_size)
@@ -1589,7 +1816,7 @@ TEST(SameInCAndCpp, programs_get_formated_size)
         const auto a1 = values.Next<std::uint64_t>();
         const auto a2 = values.Next<int>();
         return ShowCpp([&] { return ProgramsFeaturesFuncs::GetFormatedSize(a0, a1, a2); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, programs_compare_reg_key)
@@ -1601,15 +1828,15 @@ TEST(SameInCAndCpp, programs_compare_reg_key)
         const auto a3 = values.Next<int>();
         const auto a4 = values.Next<int>();
         return ShowCpp([&] { return ProgramsFeaturesFuncs::CompareRegKey(a0, a1, a2, a3, a4); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, programs_get_key_parent_name)
 {
     ExpectSame(&same_programs_get_key_parent_name, [](Values& values) {
-        const auto a0 = values.Next<HKEY>();
+        const auto a0 = values.NextKey();
         return ShowCpp([&] { return ProgramsFeaturesFuncs::GetKeyParentName(a0); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, programs_is_wow6432_node)
@@ -1617,28 +1844,28 @@ TEST(SameInCAndCpp, programs_is_wow6432_node)
     ExpectSame(&same_programs_is_wow6432_node, [](Values& values) {
         const auto a0 = values.Next<CString>();
         return ShowCpp([&] { return ProgramsFeaturesFuncs::IsWow6432Node(a0); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, programs_get_icon_folder_name)
 {
     ExpectSame(&same_programs_get_icon_folder_name, [](Values& ) {
         return ShowCpp([&] { return ProgramsFeaturesFuncs::GetIconFolderName(); });
-    });
+    }, {.rounds = 1, .hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, programs_get_output_file_path)
 {
     ExpectSame(&same_programs_get_output_file_path, [](Values& ) {
         return ShowCpp([&] { return ProgramsFeaturesFuncs::GetOutputFilePath(); });
-    });
+    }, {.rounds = 1, .hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, programs_get_open_output_file)
 {
     ExpectSame(&same_programs_get_open_output_file, [](Values& ) {
         return ShowCpp([&] { return ProgramsFeaturesFuncs::GetOpenOutputFile(); });
-    });
+    }, {.rounds = 1, .hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, registry_get_product_reg_key)
@@ -1648,7 +1875,7 @@ TEST(SameInCAndCpp, registry_get_product_reg_key)
         const auto a1 = values.Next<CString>();
         const auto a2 = values.Next<int>();
         return ShowCpp([&] { return RegistryFuncs::GetProductRegKey(a0, a1, a2); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, registry_get_uninstall_product_reg_key)
@@ -1656,7 +1883,7 @@ TEST(SameInCAndCpp, registry_get_uninstall_product_reg_key)
     ExpectSame(&same_registry_get_uninstall_product_reg_key, [](Values& values) {
         const auto a0 = values.Next<CString>();
         return ShowCpp([&] { return RegistryFuncs::GetUninstallProductRegKey(a0); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, registry_get_product_install_date)
@@ -1664,43 +1891,43 @@ TEST(SameInCAndCpp, registry_get_product_install_date)
     ExpectSame(&same_registry_get_product_install_date, [](Values& values) {
         const auto a0 = values.Next<CString>();
         return ShowCpp([&] { return RegistryFuncs::GetProductInstallDate(a0); });
-    });
+    }, {.hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, column_is_visible_column)
 {
     ExpectSame(&same_column_is_visible_column, [](Values& values) {
-        CListCtrl a0;
+        auto a0 = values.NextList();
         const auto a1 = values.Next<CString>();
         return ShowCpp([&] { return ColumnFuncs::IsVisibleColumn(a0, a1); });
-    });
+    }, {.hasList = true});
 }
 
 TEST(SameInCAndCpp, column_get_column_header_item)
 {
     ExpectSame(&same_column_get_column_header_item, [](Values& values) {
-        CListCtrl a0;
+        auto a0 = values.NextList();
         const auto a1 = values.Next<CString>();
         return ShowCpp([&] { return ColumnFuncs::GetColumnHeaderItem(a0, a1); });
-    });
+    }, {.hasList = true});
 }
 
 TEST(SameInCAndCpp, column_get_column_item_order)
 {
     ExpectSame(&same_column_get_column_item_order, [](Values& values) {
-        CListCtrl a0;
+        auto a0 = values.NextList();
         const auto a1 = values.Next<CString>();
         return ShowCpp([&] { return ColumnFuncs::GetColumnItemOrder(a0, a1); });
-    });
+    }, {.hasList = true});
 }
 
 TEST(SameInCAndCpp, column_get_column_item_text)
 {
     ExpectSame(&same_column_get_column_item_text, [](Values& values) {
-        CListCtrl a0;
+        auto a0 = values.NextList();
         const auto a1 = values.Next<int>();
         return ShowCpp([&] { return ColumnFuncs::GetColumnItemText(a0, a1); });
-    });
+    }, {.hasList = true});
 }
 
 TEST(SameInCAndCpp, filter_is_match)
@@ -1786,245 +2013,288 @@ TEST(SameInCAndCpp, search_get_search_closed)
 {
     ExpectSame(&same_search_get_search_closed, [](Values& ) {
         return ShowCpp([&] { return SearchFuncs::GetSearchClosed(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, search_get_date_time_search)
 {
     ExpectSame(&same_search_get_date_time_search, [](Values& ) {
         return ShowCpp([&] { return SearchFuncs::GetDateTimeSearch(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, search_get_date_time_target)
 {
     ExpectSame(&same_search_get_date_time_target, [](Values& ) {
         return ShowCpp([&] { return SearchFuncs::GetDateTimeTarget(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, search_get_date_time_range)
 {
     ExpectSame(&same_search_get_date_time_range, [](Values& ) {
         return ShowCpp([&] { return SearchFuncs::GetDateTimeRange(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, search_get_date_time_from_date_time)
 {
     ExpectSame(&same_search_get_date_time_from_date_time, [](Values& ) {
         return ShowCpp([&] { return SearchFuncs::GetDateTimeFromDateTime(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, search_get_date_time_to_date_time)
 {
     ExpectSame(&same_search_get_date_time_to_date_time, [](Values& ) {
         return ShowCpp([&] { return SearchFuncs::GetDateTimeToDateTime(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, search_get_size_search)
 {
     ExpectSame(&same_search_get_size_search, [](Values& ) {
         return ShowCpp([&] { return SearchFuncs::GetSizeSearch(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, search_get_size_target)
 {
     ExpectSame(&same_search_get_size_target, [](Values& ) {
         return ShowCpp([&] { return SearchFuncs::GetSizeTarget(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, search_get_size_range)
 {
     ExpectSame(&same_search_get_size_range, [](Values& ) {
         return ShowCpp([&] { return SearchFuncs::GetSizeRange(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, search_get_size_from_size)
 {
     ExpectSame(&same_search_get_size_from_size, [](Values& ) {
         return ShowCpp([&] { return SearchFuncs::GetSizeFromSize(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, search_get_size_to_size)
 {
     ExpectSame(&same_search_get_size_to_size, [](Values& ) {
         return ShowCpp([&] { return SearchFuncs::GetSizeToSize(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, browser_get_browser_items_list)
 {
     ExpectSame(&same_browser_get_browser_items_list, [](Values& ) {
         return ShowCpp([&] { return BrowserFuncs::GetBrowserItemsList(); });
-    });
+    }, {.rounds = 1, .hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, browser_get_microsoft_edge_app_item)
 {
     ExpectSame(&same_browser_get_microsoft_edge_app_item, [](Values& ) {
         return ShowCpp([&] { return std::vector{BrowserFuncs::GetMicrosoftEdgeAppItem()}; });
-    });
+    }, {.rounds = 1, .hasRegistry = true});
 }
 
 TEST(SameInCAndCpp, browser_is_installed_microsoft_edge_chromium)
 {
     ExpectSame(&same_browser_is_installed_microsoft_edge_chromium, [](Values& ) {
         return ShowCpp([&] { return BrowserFuncs::IsInstalledMicrosoftEdgeChromium(); });
-    });
+    }, {.rounds = 1, .hasRegistry = true});
+}
+
+TEST(SameInCAndCpp, control_panel_exec_date_and_time)
+{
+    ExpectSame(&same_control_panel_exec_date_and_time, [](Values& values) {
+        const auto a0 = values.Next<HWND>();
+        return ShowCpp([&] { return ControlPanelFuncs::ExecDateAndTime(a0); });
+    }, {.rounds = 2, .acts = true});
+}
+
+TEST(SameInCAndCpp, control_panel_exec_programs_and_features)
+{
+    ExpectSame(&same_control_panel_exec_programs_and_features, [](Values& values) {
+        const auto a0 = values.Next<HWND>();
+        return ShowCpp([&] { return ControlPanelFuncs::ExecProgramsAndFeatures(a0); });
+    }, {.rounds = 2, .acts = true});
 }
 
 TEST(SameInCAndCpp, log_get_log_file_name)
 {
     ExpectSame(&same_log_get_log_file_name, [](Values& ) {
         return ShowCpp([&] { return LogFuncs::GetLogFileName(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, log_get_application_log_file_path)
 {
     ExpectSame(&same_log_get_application_log_file_path, [](Values& ) {
         return ShowCpp([&] { return LogFuncs::GetApplicationLogFilePath(); });
-    });
+    }, {.rounds = 1});
+}
+
+TEST(SameInCAndCpp, log_write_with_path_level)
+{
+    ExpectSame(&same_log_write_with_path_level, [](Values& values) {
+        const auto a0 = values.NextPath();
+        const auto a1 = values.Next<CString>();
+        const auto a2 = values.Next<int>();
+        return ShowCpp([&] { return LogFuncs::Write(a0, a1, a2); });
+    }, {.acts = true});
+}
+
+TEST(SameInCAndCpp, log_write_with_level)
+{
+    ExpectSame(&same_log_write_with_level, [](Values& values) {
+        const auto a0 = values.Next<CString>();
+        const auto a1 = values.Next<int>();
+        return ShowCpp([&] { return LogFuncs::Write(a0, a1); });
+    }, {.acts = true});
+}
+
+TEST(SameInCAndCpp, log_write)
+{
+    ExpectSame(&same_log_write, [](Values& values) {
+        const auto a0 = values.Next<CString>();
+        return ShowCpp([&] { return LogFuncs::Write(a0); });
+    }, {.acts = true});
 }
 
 TEST(SameInCAndCpp, application_get_local_data_application_version)
 {
     ExpectSame(&same_application_get_local_data_application_version, [](Values& ) {
         return ShowCpp([&] { return ApplicationFuncs::GetLocalDataApplicationVersion(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, application_is_alpha_version)
 {
     ExpectSame(&same_application_is_alpha_version, [](Values& ) {
         return ShowCpp([&] { return ApplicationFuncs::IsAlphaVersion(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, application_is_beta_version)
 {
     ExpectSame(&same_application_is_beta_version, [](Values& ) {
         return ShowCpp([&] { return ApplicationFuncs::IsBetaVersion(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, application_is_release_candidate_version)
 {
     ExpectSame(&same_application_is_release_candidate_version, [](Values& ) {
         return ShowCpp([&] { return ApplicationFuncs::IsReleaseCandidateVersion(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, application_is_release_to_manufacturing_version)
 {
     ExpectSame(&same_application_is_release_to_manufacturing_version, [](Values& ) {
         return ShowCpp([&] { return ApplicationFuncs::IsReleaseToManufacturingVersion(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, application_is_release_version)
 {
     ExpectSame(&same_application_is_release_version, [](Values& ) {
         return ShowCpp([&] { return ApplicationFuncs::IsReleaseVersion(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, application_is_product_release_version)
 {
     ExpectSame(&same_application_is_product_release_version, [](Values& ) {
         return ShowCpp([&] { return ApplicationFuncs::IsProductReleaseVersion(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, application_get_online_support_url)
 {
     ExpectSame(&same_application_get_online_support_url, [](Values& ) {
         return ShowCpp([&] { return ApplicationFuncs::GetOnlineSupportUrl(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, application_get_send_feedback_url)
 {
     ExpectSame(&same_application_get_send_feedback_url, [](Values& ) {
         return ShowCpp([&] { return ApplicationFuncs::GetSendFeedbackUrl(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, application_get_send_questionnaire_url)
 {
     ExpectSame(&same_application_get_send_questionnaire_url, [](Values& ) {
         return ShowCpp([&] { return ApplicationFuncs::GetSendQuestionnaireUrl(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, updates_get_type)
 {
     ExpectSame(&same_updates_get_type, [](Values& ) {
         return ShowCpp([&] { return UpdatesFuncs::GetType(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, updates_get_product_name)
 {
     ExpectSame(&same_updates_get_product_name, [](Values& ) {
         return ShowCpp([&] { return UpdatesFuncs::GetProductName(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, updates_get_version)
 {
     ExpectSame(&same_updates_get_version, [](Values& ) {
         return ShowCpp([&] { return UpdatesFuncs::GetVersion(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, updates_get_edition)
 {
     ExpectSame(&same_updates_get_edition, [](Values& ) {
         return ShowCpp([&] { return UpdatesFuncs::GetEdition(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, updates_get_platform_bit)
 {
     ExpectSame(&same_updates_get_platform_bit, [](Values& ) {
         return ShowCpp([&] { return UpdatesFuncs::GetPlatformBit(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, updates_get_details_url)
 {
     ExpectSame(&same_updates_get_details_url, [](Values& ) {
         return ShowCpp([&] { return UpdatesFuncs::GetDetailsURL(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, updates_get_download_url)
 {
     ExpectSame(&same_updates_get_download_url, [](Values& ) {
         return ShowCpp([&] { return UpdatesFuncs::GetDownloadURL(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, updates_get_update_items_list)
 {
     ExpectSame(&same_updates_get_update_items_list, [](Values& ) {
         return ShowCpp([&] { return UpdatesFuncs::GetUpdateItemsList(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, updates_get_checked_date)
 {
     ExpectSame(&same_updates_get_checked_date, [](Values& ) {
         return ShowCpp([&] { return UpdatesFuncs::GetCheckedDate(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, updates_check_for_updates)
@@ -2039,14 +2309,14 @@ TEST(SameInCAndCpp, updates_get_check_for_updates_url)
 {
     ExpectSame(&same_updates_get_check_for_updates_url, [](Values& ) {
         return ShowCpp([&] { return UpdatesFuncs::GetCheckForUpdatesUrl(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, updates_get_agree_ignore_server)
 {
     ExpectSame(&same_updates_get_agree_ignore_server, [](Values& ) {
         return ShowCpp([&] { return UpdatesFuncs::GetAgreeIgnoreServer(); });
-    });
+    }, {.rounds = 1});
 }
 
 TEST(SameInCAndCpp, updates_get_updates_information)
@@ -2093,5 +2363,5 @@ TEST(SameInCAndCpp, style_get_design_items_list)
 {
     ExpectSame(&same_style_get_design_items_list, [](Values& ) {
         return ShowCpp([&] { return StyleFuncs::GetDesignItemsList(); });
-    });
+    }, {.rounds = 1});
 }

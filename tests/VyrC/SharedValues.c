@@ -7,13 +7,21 @@
 
 enum
 {
-    step = 5,
+    step = 11,
     text_count = 7,
+    placed_count = 3,
     longest = 301
 };
 
-static const char* const texts[text_count - 1] = {
-    "", "/no such/a b.txt", "IMG_0001.JPG", "<Folder>%s", "C:\\none\\x.y.z", "1.2.3.4"};
+static const char* const texts[text_count - 1] = {"",           "/no such/a b.txt", "IMG_0001.JPG",
+                                                  "<Folder>%s", "C:\\none\\x.y.z",  "1.2.3.4"};
+
+static shared_places places;
+
+void set_places(const shared_places* given)
+{
+    places = *given;
+}
 
 static size_t take(shared_values* values)
 {
@@ -37,13 +45,30 @@ static const uint16_t* wide_text(size_t number)
     return text;
 }
 
-vyr_text next_text(shared_values* values)
+static vyr_text text_at(size_t number)
 {
-    const size_t number = take(values) % text_count;
     vyr_text text;
     text.units = wide_text(number);
     text.length = number == text_count - 1 ? longest - 1 : (ptrdiff_t)strlen(texts[number]);
     return text;
+}
+
+vyr_text next_text(shared_values* values)
+{
+    const vyr_text* const placed[placed_count] = {&places.updates, &places.designs, &places.document};
+    const size_t number = take(values) % (text_count + placed_count);
+    return number < text_count ? text_at(number) : *placed[number - text_count];
+}
+
+vyr_text next_free_path(shared_values* values)
+{
+    return text_at(take(values) % text_count);
+}
+
+vyr_text next_path(shared_values* values)
+{
+    const vyr_text* const paths[] = {&places.document, &places.target, &places.source, &places.missing};
+    return *paths[take(values) % (sizeof paths / sizeof *paths)];
 }
 
 vyr_date_time next_date_time(shared_values* values)
@@ -74,6 +99,59 @@ vyr_text_and_number next_text_and_number(shared_values* values)
 intptr_t next_handle(shared_values* values)
 {
     return (intptr_t)(take(values) % 3);
+}
+
+intptr_t next_key(shared_values* values)
+{
+    const size_t number = take(values) % 3;
+    return number == 0 ? places.key : (intptr_t)number;
+}
+
+intptr_t next_list(shared_values* values)
+{
+    return take(values) % 4 == 3 ? 0 : places.list;
+}
+
+void* next_page(shared_values* values)
+{
+    return take(values) % 4 == 3 ? 0 : places.page;
+}
+
+const uint64_t* next_file_time(shared_values* values, uint64_t* place)
+{
+    const size_t number = take(values);
+    if (number % 3 == 0)
+        return 0;
+    /* Days of 2024. */
+    *place = 133485408000000000U + number * 864000000000U;
+    return place;
+}
+
+vyr_rect next_rect(shared_values* values)
+{
+    vyr_rect rectangle = {0, 0, 800, 600};
+    rectangle.right += (int32_t)take(values);
+    return rectangle;
+}
+
+const vyr_value* next_value(shared_values* values, vyr_value* place)
+{
+    static const vyr_value none = {0};
+    const size_t number = take(values);
+    *place = none;
+    place->struct_size = sizeof *place;
+    place->type = number % 3 == 1 ? 31 : 3;
+    place->text.units = wide_text(3);
+    place->text.length = 8;
+    place->number = (int64_t)number;
+    return number % 3 == 2 ? 0 : place;
+}
+
+vyr_guid next_handler(shared_values* values)
+{
+    static const vyr_guid none = {0, 0, 0, {0}};
+    const vyr_guid id = next_guid(values);
+    return id.data1 % 4 == 3 ? id : none;
 }
 
 int64_t next_number(shared_values* values)

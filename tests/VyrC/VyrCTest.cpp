@@ -1,5 +1,6 @@
 // The functions for C as hosts in C call them, on real files, lists and registries.
 #include "CalledFromC.h"
+#include "RegistryFiles.h"
 
 #include <VyrC/vyr.h>
 #include <VyrPlatform/text/CString.h>
@@ -11,10 +12,12 @@
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
 
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -36,6 +39,11 @@ const std::uint16_t* Units(const CString& text)
     return reinterpret_cast<const std::uint16_t*>(text.GetString());
 }
 
+vyr_text InC(const CString& text)
+{
+    return {Units(text), text.GetLength()};
+}
+
 CString Text(const vyr_text& text)
 {
     return std::u16string_view(reinterpret_cast<const char16_t*>(text.units), static_cast<std::size_t>(text.length));
@@ -51,6 +59,18 @@ TEST(VyrCTest, WrongArgumentsAreReportedAndNothingElseHappens)
 TEST(VyrCTest, HostInCGetsTheKnownResults)
 {
     EXPECT_GT(call_with_known_answers(&Report), 30);
+}
+
+TEST(VyrCTest, HostInCDescribesItsListsRegistriesAndDrainAndReadsDocuments)
+{
+    const VyrTests::ComThread com;
+    const ScratchFolder scratch;
+    const VyrCTests::RegistryFiles registry = VyrCTests::MakeRegistryFiles(scratch);
+    const CString document =
+        scratch.WriteFile(u"a.xml", R"(<updates product="V"><item id="1">one</item><x><item>two</item></x></updates>)");
+    const host_files files{registry.areOpened, InC(registry.software), InC(registry.user), InC(registry.prefix),
+                           InC(document)};
+    EXPECT_GT(call_with_host_models(&files, &Report), 30);
 }
 
 TEST(VyrCTest, CopiedFoldersAreReturnedAsAList)
@@ -132,45 +152,12 @@ TEST(VyrCTest, ManyPathsArePreviewedByOneCall)
     EXPECT_EQ(vyr_list_release(list), VYR_OK);
 }
 
-TEST(VyrCTest, DocumentIsReadByItsElements)
+TEST(VyrCTest, MissingStyleSheetIsNoDocument)
 {
     const VyrTests::ComThread com;
     const ScratchFolder scratch;
-    const CString path =
-        scratch.WriteFile(u"a.xml", R"(<updates product="V"><item id="1">one</item><x><item>two</item></x></updates>)");
-    void* document = nullptr;
-    ASSERT_EQ(vyr_msxml_load_xml_file(Units(path), -1, &document), VYR_OK);
-    ASSERT_TRUE(document);
-    void* root = nullptr;
-    ASSERT_EQ(vyr_xml_get_root(document, &root), VYR_OK);
-    ASSERT_TRUE(root);
-    std::uint16_t text[64];
-    std::size_t length = 0;
-    const CString product = u"product";
-    EXPECT_EQ(vyr_xml_get_attribute(root, Units(product), -1, text, std::size(text), &length), VYR_OK);
-    EXPECT_EQ(Text({text, static_cast<std::ptrdiff_t>(length)}), u"V");
-    const CString name = u"item";
-    std::int32_t count = 0;
-    EXPECT_EQ(vyr_xml_count_elements(root, Units(name), -1, &count), VYR_OK);
-    EXPECT_EQ(count, 2);
-    void* element = nullptr;
-    ASSERT_EQ(vyr_xml_get_element(root, Units(name), -1, 1, &element), VYR_OK);
-    ASSERT_TRUE(element);
-    EXPECT_EQ(vyr_xml_get_text(element, text, std::size(text), &length), VYR_OK);
-    EXPECT_EQ(Text({text, static_cast<std::ptrdiff_t>(length)}), u"two");
-    void* missing = &count;
-    EXPECT_EQ(vyr_xml_get_element(root, Units(name), -1, 2, &missing), VYR_OK);
-    EXPECT_FALSE(missing);
-    EXPECT_EQ(vyr_xml_get_root(element, &missing), VYR_OK);
-    EXPECT_FALSE(missing) << "an element is no document";
-    for (void* const object : {element, root, document})
-        EXPECT_EQ(vyr_xml_release(object), VYR_OK);
-    EXPECT_EQ(vyr_xml_release(document), VYR_WRONG_ARGUMENT) << "it was released";
-    EXPECT_EQ(vyr_xml_get_root(document, &missing), VYR_WRONG_ARGUMENT);
-    EXPECT_EQ(vyr_xml_get_text(&count, text, std::size(text), &length), VYR_WRONG_ARGUMENT);
-    EXPECT_EQ(vyr_xml_release(nullptr), VYR_OK);
-
     const CString nothing = scratch.Path(u"missing.xml");
+    void* document = &reports;
     EXPECT_EQ(vyr_msxml_load_xslt_file(Units(nothing), -1, &document), VYR_OK);
     EXPECT_FALSE(document);
 }
@@ -186,6 +173,23 @@ TEST(VyrCTest, PicturesOfAPageGetAStyle)
     const vyr_rect client{0, 0, 800, 600};
     EXPECT_EQ(vyr_mshtml_img_set_resize_img_style(page.Document(), &client), VYR_OK);
     EXPECT_EQ(page.Elements()[0].styleWidth, CString(u"100%"));
+}
+
+TEST(VyrCTest, PageThatIsGoneOrDamagedIsRefused)
+{
+    const vyr_rect client{0, 0, 800, 600};
+    VyrTests::HtmlPage page({});
+    std::uintptr_t damaged = 0;
+    std::memcpy(&damaged, page.Document(), sizeof damaged);
+    damaged ^= std::uintptr_t{5} << 56;
+    EXPECT_EQ(vyr_mshtml_img_set_resize_img_style(&damaged, &client), VYR_WRONG_ARGUMENT) << "its table is nowhere";
+    auto freed = std::make_unique<std::uintptr_t[]>(64);
+    void* const address = freed.get();
+    freed.reset();
+    EXPECT_EQ(vyr_mshtml_img_set_resize_img_style(address, &client), VYR_WRONG_ARGUMENT) << "it was freed";
+    EXPECT_EQ(vyr_mshtml_img_set_resize_img_style(reinterpret_cast<void*>(&vyr_version), &client), VYR_WRONG_ARGUMENT)
+        << "it is a function";
+    EXPECT_EQ(vyr_mshtml_img_set_resize_img_style(nullptr, &client), VYR_OK) << "no page";
 }
 
 TEST(VyrCTest, PropertiesOfEveryTypeAreWrittenToADocument)
@@ -232,30 +236,6 @@ TEST(VyrCTest, PropertiesOfEveryTypeAreWrittenToADocument)
     std::int32_t isWritten = 1;
     EXPECT_EQ(vyr_office_property_set_dump_props(Units(path), -1, 2, nullptr, &none, &isWritten), VYR_OK);
     EXPECT_EQ(isWritten, 0) << "no value is refused";
-}
-
-TEST(VyrCTest, DrainOfTheHostIsCalledUntilItIsTakenAway)
-{
-    static int calls;
-    calls = 0;
-    const CString extension = u".doc";
-    const vyr_text_and_number extensions[] = {{{Units(extension), -1}, 0}, {{Units(extension), -1}, 0}};
-    const auto list = [&] {
-        vyr_list handlers = 0;
-        EXPECT_EQ(vyr_office_property_get_class_id_item_list(extensions, 2, &handlers), VYR_OK);
-        EXPECT_EQ(vyr_list_release(handlers), VYR_OK);
-    };
-    int steps = 5;
-    const vyr_drain drain = [](void* context) -> std::int32_t {
-        calls += *static_cast<int*>(context);
-        return 0;
-    };
-    ASSERT_EQ(vyr_host_queue_set_drain(drain, &steps), VYR_OK);
-    list();
-    EXPECT_EQ(calls, 10) << "one call for each entry";
-    ASSERT_EQ(vyr_host_queue_set_drain(nullptr, nullptr), VYR_OK);
-    list();
-    EXPECT_EQ(calls, 10);
 }
 
 TEST(VyrCTest, ColumnsOfAListAreFound)

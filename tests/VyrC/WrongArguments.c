@@ -37,6 +37,8 @@ static vyr_guid vyr_guid_place;
 static const vyr_text null_vyr_text = {0, 3};
 static const vyr_text_and_number null_vyr_text_and_number = {{0, 3}, 0};
 static uint64_t space[8];
+static void* table[3] = {space + 1, space, space};
+static void* no_object = table;
 /* Its address is odd. */
 static void* misaligned;
 
@@ -1052,6 +1054,10 @@ static int call_mshtml_img(report_function report)
     int count = 0;
     (void)report;
     EXPECT_WRONG(vyr_mshtml_img_set_resize_img_style(misaligned, &rect), "misaligned document");
+    EXPECT_WRONG(vyr_mshtml_img_set_resize_img_style(space, &rect), "document without a table");
+    EXPECT_WRONG(vyr_mshtml_img_set_resize_img_style((void*)16, &rect), "document where nothing is");
+    EXPECT_WRONG(vyr_mshtml_img_set_resize_img_style(table, &rect), "document whose table is nowhere");
+    EXPECT_WRONG(vyr_mshtml_img_set_resize_img_style(&no_object, &rect), "document whose functions are none");
     EXPECT_WRONG(vyr_mshtml_img_set_resize_img_style(0, 0), "null client");
     EXPECT_WRONG(vyr_mshtml_img_set_resize_img_style(0, (const vyr_rect*)misaligned), "misaligned client");
     return count;
