@@ -29,7 +29,8 @@ Rules, applied in the order given (vyr help rules):
 Settings of the rule before them:
   --start N, --step N     Of --number; --date-from LIST of --date,
                           as --date-shift, --time-zone; --csv-data of --name
-  --ignore-case           Of --regex, as --first-only, --nth, --regex-in
+  --ignore-case           Of --replace and --regex; --regex has --first-only,
+                          --nth, --regex-in as well
 
 Which files (vyr help choosing):
   -r, --recursive         What is below folders; --only, --max-depth, --hidden

@@ -53,12 +53,13 @@ struct Given
     Rename::NumberSettings number = {};
     std::optional<std::vector<Model::DateSource>> dates = {};
     std::optional<Metadata::Amounts> shift = {};
-    std::optional<int> minutesAhead = {};
+    std::optional<Rename::ZoneClock> clock = {};
     std::optional<CString> csv = {};
     /// The pattern of the last rule that has one.
     std::optional<Rename::PatternShape> lastPattern = {};
     Rename::PatternRuleSettings pattern = {};
     bool hasNamePart = false;
+    bool ignoresCase = false;
 };
 
 Rename::DateSettings DatesOf(const Given& given)
@@ -67,7 +68,14 @@ Rename::DateSettings DatesOf(const Given& given)
     if (given.dates)
         settings.sources = *given.dates;
     settings.shift = given.shift;
-    settings.minutesAhead = given.minutesAhead;
+    settings.clock = given.clock;
+    return settings;
+}
+
+Rename::PatternRuleSettings PatternOf(const Given& given)
+{
+    Rename::PatternRuleSettings settings = given.pattern;
+    settings.ignoresCase = given.ignoresCase;
     return settings;
 }
 
@@ -107,12 +115,12 @@ constexpr RuleOption ruleOptions[] = {
      }},
     {"--replace", "FIND WITH", 2, "Put WITH in place of every FIND (upper and lower case differ)",
      [](const Given& given) {
-         return Rename::ReplaceRules(given.values[0], given.values[1]);
+         return Rename::ReplaceRules(given.values[0], given.values[1], given.ignoresCase);
      }},
     {"--regex", "FIND WITH", 2,
      "Put WITH in place of every match of the pattern FIND; $1, ${name}, \\U, \\L, \\E, \\u and \\l work in WITH",
      [](const Given& given) {
-         return Rename::PatternRules(given.values[0], given.values[1], given.pattern);
+         return Rename::PatternRules(given.values[0], given.values[1], PatternOf(given));
      }},
     {"--prefix", "TEXT", 1, "Put TEXT before the name", FromValue<Rename::PrefixRules>},
     {"--suffix", "TEXT", 1, "Put TEXT after the name, before the extension", FromValue<Rename::SuffixRules>},
@@ -209,17 +217,18 @@ constexpr SettingOption settingOptions[] = {
      [](Given& given, const CString& value) {
          return SetOnce(given.shift, Metadata::ParseAmounts(value, "--date-shift"));
      }},
-    {"--time-zone", "ZONE", "The clock for dates whose instant is known: UTC, +02:00, -9:30", "--date or --name",
+    {"--time-zone", "ZONE", "The clock for dates whose instant is known: UTC, Europe/Berlin, +02:00",
+     "--date or --name",
      [](Given& given, const CString& value) {
-         return SetOnce(given.minutesAhead, Rename::ParseTimeZone(value));
+         return SetOnce(given.clock, Rename::ParseTimeZone(value));
      }},
     {"--csv-data", "FILE", "The table for <Csv:COLUMN>; its first column names the files", "--name",
      [](Given& given, const CString& value) {
          return SetOnce(given.csv, value);
      }},
-    {"--ignore-case", "", "Let --regex find letters in either case", "--regex",
+    {"--ignore-case", "", "Let --replace or --regex find letters in either case", "--replace or --regex",
      [](Given& given, const CString&) {
-         return !std::exchange(given.pattern.ignoresCase, true);
+         return !std::exchange(given.ignoresCase, true);
      }},
     {"--first-only", "", "Replace only the first match of --regex in a name", "--regex",
      [](Given& given, const CString&) {

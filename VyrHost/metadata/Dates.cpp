@@ -129,12 +129,18 @@ bool TakeDay(Front& front, Day& day)
     return front.TakeNumber(2, day.day);
 }
 
+struct Time
+{
+    COleDateTime dateTime;
+    int milliseconds = 0;
+};
+
 /// The time of day at the front of `text`, on `day`; invalid where there is none.
-COleDateTime TakeTime(Front front, const Day& day)
+Time TakeTime(Front front, const Day& day)
 {
     constexpr std::u16string_view separators = u"-_.:";
-    COleDateTime none;
-    none.SetStatus(COleDateTime::invalid);
+    Time none;
+    none.dateTime.SetStatus(COleDateTime::invalid);
     int hour = 0;
     int minute = 0;
     int second = 0;
@@ -151,7 +157,10 @@ COleDateTime TakeTime(Front front, const Day& day)
     const std::size_t behind = front.CountDigits();
     if ((!hasSecond && !isSeparated) || (behind != 0 && behind != digitsOfFraction))
         return none;
-    return COleDateTime(day.year, day.month, day.day, hour, minute, second);
+    int milliseconds = 0;
+    if (hasSecond && (behind != 0 || front.TakeSeparator(u".,") != 0) && front.CountDigits() == digitsOfFraction)
+        front.TakeNumber(digitsOfFraction, milliseconds);
+    return {COleDateTime(day.year, day.month, day.day, hour, minute, second), milliseconds};
 }
 
 bool IsPossible(const COleDateTime& dateTime)
@@ -161,7 +170,7 @@ bool IsPossible(const COleDateTime& dateTime)
 
 } // namespace
 
-std::optional<Text::TypedDateTime> FindNameDate(std::u16string_view name, NameDateProblem& problem)
+std::optional<NameDate> FindNameDate(std::u16string_view name, NameDateProblem& problem)
 {
     problem = NameDateProblem::NoDate;
     for (std::size_t at = 0; at < name.size(); ++at) {
@@ -172,17 +181,17 @@ std::optional<Text::TypedDateTime> FindNameDate(std::u16string_view name, NameDa
         if (!TakeDay(front, day))
             continue;
         const COleDateTime date(day.year, day.month, day.day, 0, 0, 0);
-        const COleDateTime dateTime = TakeTime(front, day);
+        const Time time = TakeTime(front, day);
+        const bool hasTime = IsPossible(time.dateTime);
         // More digits that are not a time belong to a number of another sort.
-        if (front.StartsWithDigit() && !IsPossible(dateTime))
+        if (front.StartsWithDigit() && !hasTime)
             continue;
         if (!IsPossible(date)) {
             problem = NameDateProblem::NoSuchDay;
             continue;
         }
         problem = NameDateProblem::None;
-        const bool hasTime = IsPossible(dateTime);
-        return Text::TypedDateTime{hasTime ? dateTime : date, true, hasTime};
+        return NameDate{hasTime ? time.dateTime : date, hasTime, hasTime ? time.milliseconds : 0};
     }
     return std::nullopt;
 }

@@ -2,7 +2,6 @@
 /// The times of a file as text, and the date in its name.
 #pragma once
 
-#include <VyrHost/text/TypedDateTime.h>
 #include <VyrPlatform/files/ExactState.h>
 #include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/text/CString.h>
@@ -49,14 +48,24 @@ enum class NameDateProblem : std::uint8_t
     NoSuchDay
 };
 
+/// A date in a name.
+struct NameDate
+{
+    /// Local time; midnight for a date alone.
+    COleDateTime value;
+    bool hasTime = false;
+    int milliseconds = 0;
+};
+
 /// Finds the first date in `name`: a year from 1900 to 2099, a month and a day, without separators or with the same one
 /// of `-`, `_`, `.` and blank between them, and with no digit before it. A time of day may follow directly or after one
 /// of `-`, `_`, `.`, `T` and blank: two digits each for hour, minute and optionally second, without separators or with
-/// `-`, `_`, `.` or `:` between them; three digits of milliseconds may follow. An impossible time is ignored.
+/// `-`, `_`, `.` or `:` between them; three digits of milliseconds may follow, also after `.` or `,`. An impossible
+/// time is ignored.
 ///
 /// "IMG_20240105_103000.jpg" and "2024-01-05 10.30.00.jpg" contain 5 January 2024 10:30:00, "IMG-20240105-WA0001.jpg"
 /// contains 5 January 2024 without a time.
 /// @param problem  gets the reason when there is no result.
-[[nodiscard]] std::optional<Text::TypedDateTime> FindNameDate(std::u16string_view name, NameDateProblem& problem);
+[[nodiscard]] std::optional<NameDate> FindNameDate(std::u16string_view name, NameDateProblem& problem);
 
 } // namespace VyrHost::Metadata

@@ -93,7 +93,7 @@ Text::TypedDateTime DateOfName(std::u16string_view name)
     if (!found)
         throw Refusal{problem == NameDateProblem::NoSuchDay ? u"the date in its name does not exist"
                                                             : u"its name holds no date"};
-    return *found;
+    return {found->value, true, found->hasTime};
 }
 
 LocalTime FromSource(const TimeSource& source, const CString& path, const Model::Entry& entry, FileDate date)

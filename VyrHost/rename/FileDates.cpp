@@ -14,13 +14,14 @@ using Model::DateSource;
 using VyrLibraryUtils::DateTimeUtils;
 using VyrPlatform::FileTicks;
 
-/// What a clock shows at `instant` that is so far ahead of UTC.
-COleDateTime OnClock(FileTicks instant, int minutesAhead)
+/// What `zone` shows at `instant`.
+COleDateTime OnClock(FileTicks instant, const ZoneClock& zone)
 {
     using namespace std::chrono;
     using Ticks = duration<FileTicks, std::ratio<1, 10'000'000>>;
     constexpr sys_days firstDay = year{1601} / 1 / 1;
-    const auto time = firstDay + floor<seconds>(Ticks{instant}) + minutes{minutesAhead};
+    const sys_seconds universal = firstDay + floor<seconds>(Ticks{instant});
+    const auto time = universal + seconds{zone.SecondsAhead(universal.time_since_epoch().count())};
     const auto day = floor<days>(time);
     const year_month_day date{day};
     const hh_mm_ss clock{time - day};
@@ -41,8 +42,8 @@ bool IsInContent(DateSource source)
 /// `moment` on the clock that is asked for, and shifted; false where it would leave the calendar.
 bool Adjust(FileMoment& moment, const DateSettings& settings)
 {
-    if (settings.minutesAhead && moment.instant)
-        moment.local = OnClock(*moment.instant, *settings.minutesAhead);
+    if (settings.clock && moment.instant)
+        moment.local = OnClock(*moment.instant, *settings.clock);
     if (settings.shift) {
         const auto shifted = Metadata::Shifted(moment.local, *settings.shift);
         if (!shifted)

@@ -6,6 +6,7 @@
 #include <VyrHost/model/DateSource.h>
 #include <VyrHost/rename/Decision.h>
 #include <VyrHost/rename/FileValues.h>
+#include <VyrHost/rename/ZoneClock.h>
 #include <VyrPlatform/text/CString.h>
 
 #include <cstddef>
@@ -23,9 +24,8 @@ struct DateSettings
     std::vector<Model::DateSource> sources = {Model::DateSource::Modified};
     /// How far every date is shifted.
     std::optional<Metadata::Amounts> shift = {};
-    /// How far the clock is ahead of UTC that shows a date whose instant is known, in minutes; nothing for the clock
-    /// that the date was taken from.
-    std::optional<int> minutesAhead = {};
+    /// The clock that shows a date whose instant is known; nothing for the one that the date was taken from.
+    std::optional<ZoneClock> clock = {};
 };
 
 struct FoundDate

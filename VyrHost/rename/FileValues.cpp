@@ -82,7 +82,7 @@ std::optional<FileMoment> DateInName(const CString& path)
 {
     Metadata::NameDateProblem problem = Metadata::NameDateProblem::None;
     const auto found = Metadata::FindNameDate(Model::NamePart(path), problem);
-    return found ? std::optional(FileMoment{found->value}) : std::nullopt;
+    return found ? std::optional(FileMoment{found->value, found->milliseconds}) : std::nullopt;
 }
 
 bool IsEmpty(const WorkValues& work)

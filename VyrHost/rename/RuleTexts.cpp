@@ -13,13 +13,6 @@
 
 namespace VyrHost::Rename {
 
-namespace {
-
-constexpr const char* zoneExpected =
-    "UTC, or hours and minutes ahead of it such as +02:00 or -9:30 are expected, 14 at most";
-
-} // namespace
-
 int ParseNumber(const CString& text, int least, const char* what)
 {
     std::string digits;
@@ -80,32 +73,6 @@ std::vector<Model::DateSource> ParseDateSources(const CString& text)
         rest.remove_prefix(more ? end + 1 : rest.size());
     }
     return sources;
-}
-
-int ParseTimeZone(const CString& text)
-{
-    constexpr int minutesPerHour = 60;
-    constexpr int most = 14 * minutesPerHour;
-    const std::u16string_view zone = text;
-    if (zone == u"UTC")
-        return 0;
-    const auto isDigit = [](char16_t unit) {
-        return unit >= u'0' && unit <= u'9';
-    };
-    const std::size_t colon = std::min(zone.find(u':'), zone.size());
-    const std::u16string_view hours = zone.substr(std::min<std::size_t>(1, zone.size()), colon > 0 ? colon - 1 : 0);
-    const std::u16string_view minutes = zone.substr(std::min(colon + 1, zone.size()));
-    const bool hasSign = zone.starts_with(u'+') || zone.starts_with(u'-');
-    const bool areNumbers = !hours.empty() && hours.size() <= 2 && std::all_of(hours.begin(), hours.end(), isDigit) &&
-                            (colon == zone.size() || minutes.size() == 2) &&
-                            std::all_of(minutes.begin(), minutes.end(), isDigit);
-    if (!hasSign || !areNumbers)
-        Text::RefuseValue("--time-zone", text, zoneExpected);
-    const int rest = minutes.empty() ? 0 : ParseNumber(minutes, 0, "--time-zone");
-    const int ahead = ParseNumber(hours, 0, "--time-zone") * minutesPerHour + rest;
-    if (rest >= minutesPerHour || ahead > most)
-        Text::RefuseValue("--time-zone", text, zoneExpected);
-    return zone.front() == u'-' ? -ahead : ahead;
 }
 
 } // namespace VyrHost::Rename

@@ -48,7 +48,7 @@ struct NumberSettings
 
 /// "first", "upper", "lower", "title", "title-en" or "sentence".
 [[nodiscard]] Rules CaseRules(const CString& text);
-[[nodiscard]] Rules ReplaceRules(const CString& find, const CString& replacement);
+[[nodiscard]] Rules ReplaceRules(const CString& find, const CString& replacement, bool ignoresCase = false);
 
 /// See Words.h.
 [[nodiscard]] Rules TitleCaseRules(TitleStyle style);
@@ -96,8 +96,9 @@ struct PatternRuleSettings
 
 /// The dates named in "picture,modified" and the like, in that order.
 [[nodiscard]] std::vector<Model::DateSource> ParseDateSources(const CString& text);
-/// "UTC", or how far a clock is ahead of it in hours and minutes, such as "+02:00", "-9:30" or "+1"; in minutes.
-[[nodiscard]] int ParseTimeZone(const CString& text);
+/// "UTC", the name of a zone such as "Europe/Berlin", or how far a clock is ahead of UTC in hours and minutes, such as
+/// "+02:00", "-9:30" or "+1".
+[[nodiscard]] ZoneClock ParseTimeZone(const CString& text);
 /// A number of digits, 0 to 255, given with `option`.
 [[nodiscard]] int ParseDigits(const CString& text, const char* option);
 /// A whole number in decimal, from `least` on. `what` names it in the message.

@@ -21,18 +21,23 @@ using Edit = NameFuncs::AddDeleteType;
 class ReplaceRule final : public EngineRule
 {
 public:
-    explicit ReplaceRule(NameFuncs::ITEM settings) : EngineRule(std::move(settings))
+    ReplaceRule(NameFuncs::ITEM settings, bool ignoresCase)
+        : EngineRule(std::move(settings)), m_ignoresCase(ignoresCase)
     {
         m_item.findText = Text::Composed(m_item.findText);
     }
 
     Reason Apply(Subject& subject) override
     {
-        if (Text::IsComposed(subject.name))
+        if (!m_ignoresCase && Text::IsComposed(subject.name))
             return EngineRule::Apply(subject);
-        subject.name = Text::ReplaceComposed(subject.name, m_item.findText, m_item.replaceText);
+        const auto replace = m_ignoresCase ? Text::ReplaceComposedNoCase : Text::ReplaceComposed;
+        subject.name = replace(subject.name, m_item.findText, m_item.replaceText);
         return Reason::None;
     }
+
+private:
+    bool m_ignoresCase;
 };
 
 /// Inserts or deletes at a place that a short name does not have: the engine would leave such a name as it is.
@@ -175,7 +180,7 @@ Rules CaseRules(const CString& text)
     Text::RefuseValue("--case", text, "first, upper, lower, title, title-en or sentence is expected");
 }
 
-Rules ReplaceRules(const CString& find, const CString& replacement)
+Rules ReplaceRules(const CString& find, const CString& replacement, bool ignoresCase)
 {
     RequireNameText(replacement, "--replace");
     if (find.IsEmpty())
@@ -183,7 +188,7 @@ Rules ReplaceRules(const CString& find, const CString& replacement)
     NameFuncs::ITEM item = NewItem(NameFuncs::RenameType::Replace);
     item.findText = find;
     item.replaceText = replacement;
-    return OneRule<ReplaceRule>(std::move(item));
+    return OneRule<ReplaceRule>(std::move(item), ignoresCase);
 }
 
 Rules ExtensionRules(const CString& text)

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <string>
 
 namespace VyrHost::Text {
@@ -22,6 +23,26 @@ std::vector<CString> ComposedPieces(std::u16string_view text)
     for (const std::u16string_view piece : CutForComposing(text))
         composed.push_back(Composed(piece));
     return composed;
+}
+
+template <class IsSame>
+CString Replace(const CString& name, const CString& composedText, const CString& replacement, IsSame isSame)
+{
+    const std::vector<std::u16string_view> pieces = CutForComposing(name);
+    const std::vector<CString> composed = ComposedPieces(name);
+    const std::vector<CString> wanted = ComposedPieces(composedText);
+    std::u16string result;
+    for (std::size_t place = 0; place < pieces.size();) {
+        const std::size_t left = composed.size() - place;
+        const auto here = composed.begin() + static_cast<std::ptrdiff_t>(place);
+        if (!wanted.empty() && wanted.size() <= left && std::equal(wanted.begin(), wanted.end(), here, isSame)) {
+            result += replacement.View();
+            place += wanted.size();
+        } else {
+            result += pieces[place++];
+        }
+    }
+    return std::u16string_view(result);
 }
 
 } // namespace
@@ -61,21 +82,13 @@ std::vector<std::u16string_view> CutForComposing(std::u16string_view text)
 
 CString ReplaceComposed(const CString& name, const CString& composedText, const CString& replacement)
 {
-    const std::vector<std::u16string_view> pieces = CutForComposing(name);
-    const std::vector<CString> composed = ComposedPieces(name);
-    const std::vector<CString> wanted = ComposedPieces(composedText);
-    std::u16string result;
-    for (std::size_t place = 0; place < pieces.size();) {
-        const std::size_t left = composed.size() - place;
-        const auto here = composed.begin() + static_cast<std::ptrdiff_t>(place);
-        if (!wanted.empty() && wanted.size() <= left && std::equal(wanted.begin(), wanted.end(), here)) {
-            result += replacement.View();
-            place += wanted.size();
-        } else {
-            result += pieces[place++];
-        }
-    }
-    return std::u16string_view(result);
+    return Replace(name, composedText, replacement, std::equal_to<CString>());
+}
+
+CString ReplaceComposedNoCase(const CString& name, const CString& composedText, const CString& replacement)
+{
+    return Replace(name, composedText, replacement,
+                   [](const CString& left, const CString& right) { return left.CompareNoCase(right) == 0; });
 }
 
 } // namespace VyrHost::Text

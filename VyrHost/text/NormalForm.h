@@ -22,5 +22,8 @@ namespace VyrHost::Text {
 /// `name` with every occurrence of `composedText` in its composed form replaced by `replacement`; the rest keeps its
 /// form. Example: "é" (one letter) is found in the name "e, U+0301", and "e" is not.
 [[nodiscard]] CString ReplaceComposed(const CString& name, const CString& composedText, const CString& replacement);
+/// The same without regard to letter case.
+[[nodiscard]] CString ReplaceComposedNoCase(const CString& name, const CString& composedText,
+                                            const CString& replacement);
 
 } // namespace VyrHost::Text

@@ -119,6 +119,13 @@ TEST_F(RuleOrder, APatternThatRunsAwayIsRefusedInItsRow)
     EXPECT_THAT(result.output, HasSubstr("refused: the pattern runs away on this name: match limit exceeded\n"));
 }
 
+TEST_F(RuleOrder, IgnoringCaseBelongsToTheReplacementOrPatternBeforeIt)
+{
+    WriteNamed({u"aab"});
+    EXPECT_EQ(Made({u"--replace", u"A", u"x", u"--ignore-case", u"--replace", u"B", u"y"}, u"aab"), "xxb");
+    EXPECT_EQ(Made({u"--regex", u"A", u"x", u"--replace", u"B", u"y", u"--ignore-case"}, u"aab"), "aay");
+}
+
 TEST_F(RuleOrder, SettingsOfAPatternBelongToTheOneBeforeThem)
 {
     WriteNamed({u"aab"});
@@ -133,7 +140,7 @@ TEST_F(RuleOrder, SettingsOfAPatternBelongToTheOneBeforeThem)
         call.emplace_back(u"aab");
         const ProgramResult result = Rename(call);
         EXPECT_EQ(result.exitCode, 2);
-        EXPECT_THAT(result.errors, HasSubstr("is given twice for one --regex"));
+        EXPECT_THAT(result.errors, AllOf(HasSubstr(" is given twice for one "), HasSubstr("--regex\n")));
     }
     EXPECT_EQ(Rename({u"--prefix", u"x", u"--ignore-case", u"aab"}).exitCode, 2);
 }

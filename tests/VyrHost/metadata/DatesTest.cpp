@@ -44,6 +44,22 @@ TEST(NameDate, FormsOfCamerasAndProgramsAreRead)
         EXPECT_EQ(DateIn(name), date) << VyrPlatform::Encoding::ToUtf8(name);
 }
 
+TEST(NameDate, ThreeDigitsBehindTheSecondsAreMilliseconds)
+{
+    const std::pair<const char16_t*, int> names[] = {
+        {u"PXL_20240105_103000123.jpg", 123},  {u"2024-01-05 10.30.00.045", 45},
+        {u"2024-01-05 10-30-00,007 x.jpg", 7}, {u"20240105_103000.999.jpg", 999},
+        {u"2024-01-05 10.30.00.1234.jpg", 0},  {u"2024-01-05 10.30.00-001.jpg", 0},
+        {u"2024-01-05 25.30.00.123.jpg", 0},   {u"2024-01-05 10.30.jpg", 0},
+    };
+    for (const auto& [name, milliseconds] : names) {
+        NameDateProblem problem = NameDateProblem::None;
+        const auto found = FindNameDate(name, problem);
+        ASSERT_TRUE(found) << VyrPlatform::Encoding::ToUtf8(name);
+        EXPECT_EQ(found->milliseconds, milliseconds) << VyrPlatform::Encoding::ToUtf8(name);
+    }
+}
+
 TEST(NameDate, ImpossibleTimesAreIgnored)
 {
     EXPECT_EQ(DateIn(u"2024-01-05 25.00.00.jpg"), "2024-01-05");

@@ -85,7 +85,7 @@ TemplateSettings DatesFrom(DateSource source)
 {
     TemplateSettings settings;
     settings.dates.sources = {source};
-    settings.dates.minutesAhead = 0;
+    settings.dates.clock = ZoneClock(0);
     return settings;
 }
 

@@ -69,6 +69,19 @@ TEST(EditTexts, ReplacesATextInNamesOfAnyNormalForm)
         EXPECT_EQ(Apply(ReplaceRules(u"e", u"x"), FileSubject(name, u".txt")), u"/d/" + name + u".txt");
 }
 
+TEST(EditTexts, ReplacesATextInEitherCaseWhereThatIsAskedFor)
+{
+    const auto replaced = [](const CString& find, const CString& name) {
+        return Apply(ReplaceRules(find, u"-", true), FileSubject(name, u".AB"));
+    };
+    EXPECT_EQ(replaced(u"aB", u"abxAB aB"), u"/d/-x- -.AB");
+    EXPECT_EQ(replaced(u"\u00c9", u"\u00e9 e\u0301 e"), u"/d/- - e.AB");
+    EXPECT_EQ(replaced(u"\u0436", u"\u0416\u0436"), u"/d/--.AB");
+    EXPECT_EQ(replaced(u"aa", u"AaA"), u"/d/-A.AB");
+    // What is not found keeps its case.
+    EXPECT_EQ(replaced(u"x", u"aBc"), u"/d/aBc.AB");
+}
+
 TEST(EditTexts, ChangesTheExtensionOfFilesOnly)
 {
     const Subject file = FileSubject(u"a.b", u".JPEG");
