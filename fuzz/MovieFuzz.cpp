@@ -31,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     VyrLibraryUtils::Pictures::MemorySource source(std::string_view(reinterpret_cast<const char*>(data), size));
     const VyrLibraryUtils::Pictures::ByteView bytes(source);
     if (IsIsoMedia(bytes))
-        Check(ReadIsoMovie(bytes));
+        Check(ReadIsoMovie(bytes, true));
     if (IsMatroska(bytes))
         Check(ReadMatroska(bytes));
     if (IsAvi(bytes))

@@ -8,6 +8,7 @@
 #include <array>
 #include <charconv>
 #include <cstdlib>
+#include <iterator>
 #include <string_view>
 #include <vector>
 
@@ -187,14 +188,30 @@ void ReadHeaders(const ByteView& headers, Movie& movie)
     });
 }
 
+/// The text of a movie that the chunk `name` tells; null where it tells none.
+std::string* TextFor(std::string_view name, Movie& movie)
+{
+    struct Known
+    {
+        std::string_view name;
+        std::string Movie::*text;
+    };
+    constexpr Known known[] = {
+        {"INAM", &Movie::title}, {"IART", &Movie::artist}, {"IPRD", &Movie::album}, {"IGNR", &Movie::genre},
+        {"ICRD", &Movie::year},  {"ITRK", &Movie::track},  {"IPRT", &Movie::track},
+    };
+    const auto* const found = std::ranges::find(known, name, &Known::name);
+    return found == std::end(known) ? nullptr : &(movie.*(found->text));
+}
+
 void ReadInformation(const ByteView& information, Movie& movie)
 {
-    constexpr std::size_t longestTitle = 65536;
+    constexpr std::size_t longestText = 65536;
     ForEachChunk(information, [&movie](const Chunk& chunk) {
+        if (std::string* const text = TextFor(chunk.name, movie))
+            *text = chunk.content.Copy(longestText);
         if (chunk.name == "ICRD" && !movie.created)
             movie.created = DateOf(chunk.content.Copy(64));
-        else if (chunk.name == "INAM")
-            movie.title = chunk.content.Copy(longestTitle);
         return true;
     });
 }
@@ -215,8 +232,7 @@ Movie ReadAvi(const ByteView& file)
             ReadHeaders(chunk.content, movie);
         else if (chunk.form == "INFO")
             ReadInformation(chunk.content, movie);
-        // From here on come the pictures, with nothing behind them but an index.
-        return chunk.form != "movi";
+        return true;
     });
     return movie;
 }

@@ -2,51 +2,19 @@
 #include <VyrHost/media/Movie.h>
 
 #include <VyrHost/media/Instants.h>
+#include <VyrHost/media/IsoBoxes.h>
+#include <VyrHost/media/IsoFragments.h>
 #include <VyrLibraryUtils/pictures/FourCc.h>
-#include <VyrLibraryUtils/pictures/IsoBox.h>
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace VyrHost::Media {
 
 namespace {
 
 using namespace VyrLibraryUtils::Pictures;
-
-/// More boxes than a sound file has beside one another; it bounds the search in a file of empty boxes.
-constexpr int mostBoxes = 10000;
-
-/// Hands each box of `boxes` to `use`, until that returns false.
-template <class Use>
-void ForEachBox(const ByteView& boxes, Use use)
-{
-    ByteCursor cursor(boxes, ByteOrder::Big);
-    for (int left = mostBoxes; left > 0; --left) {
-        const std::optional<IsoBox> box = NextBox(cursor);
-        if (!box || !use(*box))
-            return;
-    }
-}
-
-std::optional<ByteView> FindBox(const ByteView& boxes, std::uint32_t type)
-{
-    std::optional<ByteView> found;
-    ForEachBox(boxes, [&found, type](const IsoBox& box) {
-        if (box.type == type)
-            found = box.content;
-        return !found;
-    });
-    return found;
-}
-
-/// Whether the box at the cursor has 64-bit numbers. Skips its flags.
-bool TakeIsLong(ByteCursor& box)
-{
-    const bool isLong = box.U8() == 1;
-    box.Skip(3);
-    return isLong;
-}
 
 std::optional<VyrPlatform::FileTicks> CreationTime(std::uint64_t seconds)
 {
@@ -57,16 +25,6 @@ std::optional<VyrPlatform::FileTicks> CreationTime(std::uint64_t seconds)
         return std::nullopt;
     const std::int64_t origin = seconds < from1904To1970 ? secondsTo1970 : secondsTo1904;
     return InstantOf(origin + static_cast<std::int64_t>(seconds));
-}
-
-std::optional<std::uint64_t> Milliseconds(std::uint64_t duration, std::uint32_t unitsPerSecond)
-{
-    // All ones stand for an unknown duration.
-    if (duration == 0 || duration == UINT32_MAX || duration > UINT64_MAX / 1000 || unitsPerSecond == 0)
-        return std::nullopt;
-    const std::uint64_t whole = duration / unitsPerSecond;
-    const std::uint64_t rest = duration % unitsPerSecond;
-    return whole * 1000 + (rest * 1000 + unitsPerSecond / 2) / unitsPerSecond;
 }
 
 /// The size of the pictures in a track's sample descriptions.
@@ -135,18 +93,30 @@ void ReadExtension(const ByteView& extension, std::uint32_t unitsPerSecond, Movi
     movie.duration = Milliseconds(cursor.Unsigned(TakeIsLong(cursor) ? 8 : 4), unitsPerSecond);
 }
 
-/// The title that QuickTime keeps among the user's data: a length, a language, the text. Source: Apple, QuickTime File
-/// Format, "User Data Text Strings".
-std::string TitleIn(const ByteView& userData)
+/// What QuickTime keeps among the user's data: a length, a language, the text. Source: Apple, QuickTime File Format,
+/// "User Data Text Strings".
+void ReadUserData(const ByteView& userData, Movie& movie)
 {
-    constexpr std::uint32_t name = 0xA96E616D;
-    const auto box = FindBox(userData, name);
-    if (!box)
-        return {};
-    ByteCursor cursor(*box, ByteOrder::Big);
-    const std::uint16_t length = cursor.U16();
-    cursor.Skip(2);
-    return cursor.Take(length).Copy(length);
+    struct Known
+    {
+        std::uint32_t type;
+        std::string Movie::*text;
+    };
+    // "(c)nam" and its like, in Mac Roman.
+    constexpr Known known[] = {
+        {0xA96E616D, &Movie::title}, {0xA9415254, &Movie::artist}, {0xA9616C62, &Movie::album},
+        {0xA967656E, &Movie::genre}, {0xA9646179, &Movie::year},
+    };
+    ForEachBox(userData, [&](const IsoBox& box) {
+        const auto* const found = std::ranges::find(known, box.type, &Known::type);
+        if (found == std::end(known))
+            return true;
+        ByteCursor cursor(box.content, ByteOrder::Big);
+        const std::uint16_t length = cursor.U16();
+        cursor.Skip(2);
+        movie.*(found->text) = cursor.Take(length).Copy(length);
+        return true;
+    });
 }
 
 void ReadMovieBox(const ByteView& content, Movie& movie)
@@ -158,7 +128,7 @@ void ReadMovieBox(const ByteView& content, Movie& movie)
         else if (box.type == FourCc("trak"))
             ReadTrack(box.content, movie);
         else if (box.type == FourCc("udta"))
-            movie.title = TitleIn(box.content);
+            ReadUserData(box.content, movie);
         else if (box.type == FourCc("mvex") && !movie.duration)
             ReadExtension(box.content, unitsPerSecond, movie);
         return true;
@@ -199,18 +169,27 @@ bool IsIsoMedia(const ByteView& bytes)
     return std::find(first.begin(), first.end(), cursor.U32()) != first.end();
 }
 
-Movie ReadIsoMovie(const ByteView& file)
+Movie ReadIsoMovie(const ByteView& file, bool asksForDuration)
 {
     Movie movie;
-    ForEachBox(file, [&movie](const IsoBox& box) {
+    std::optional<IsoFragments> fragments;
+    ForEachBox(file, [&](const IsoBox& box) {
         if (!IsFourCc(box.type))
             return false;
-        if (box.type == FourCc("meta"))
+        if (box.type == FourCc("meta")) {
             ReadPictureBox(box.content, movie);
-        else if (box.type == FourCc("moov"))
+        } else if (box.type == FourCc("moov")) {
             ReadMovieBox(box.content, movie);
-        return box.type != FourCc("moov");
+            if (movie.duration || !asksForDuration || !FindBox(box.content, FourCc("mvex")))
+                return false;
+            fragments.emplace(box.content);
+        } else if (box.type == FourCc("moof") && fragments) {
+            return fragments->Add(box.content);
+        }
+        return true;
     });
+    if (fragments)
+        movie.duration = fragments->Duration();
     return movie;
 }
 

@@ -3,8 +3,12 @@
 
 #include <VyrHost/media/Instants.h>
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
+#include <iterator>
+#include <string_view>
+#include <utility>
 
 namespace VyrHost::Media {
 
@@ -32,11 +36,22 @@ enum class Id : std::uint32_t
     Video = 0xE0,
     PixelWidth = 0xB0,
     PixelHeight = 0xBA,
+    Tags = 0x1254C367,
+    Tag = 0x7373,
+    Targets = 0x63C0,
+    TagTrackUid = 0x63C5,
+    TagEditionUid = 0x63C9,
+    TagChapterUid = 0x63C4,
+    TagAttachmentUid = 0x63C6,
+    SimpleTag = 0x67C8,
+    TagName = 0x45A3,
+    TagString = 0x4487,
     Cluster = 0x1F43B675
 };
 
 /// It bounds the search in a file of empty elements.
 constexpr int mostElements = 10000;
+constexpr std::size_t longestText = 65536;
 
 struct Element
 {
@@ -111,7 +126,6 @@ std::optional<VyrPlatform::FileTicks> DateIn(const ByteView& content)
 
 void ReadInfo(const ByteView& info, Movie& movie)
 {
-    constexpr std::size_t longestTitle = 65536;
     std::uint64_t scale = 1'000'000;
     double duration = 0;
     ForEachElement(info, [&](const Element& element) {
@@ -126,7 +140,7 @@ void ReadInfo(const ByteView& info, Movie& movie)
             movie.created = DateIn(element.content);
             break;
         case Id::Title:
-            movie.title = element.content.Copy(longestTitle);
+            movie.title = element.content.Copy(longestText);
             break;
         default:
             break;
@@ -170,6 +184,74 @@ void ReadTracks(const ByteView& tracks, Movie& movie)
     });
 }
 
+/// The text of a movie that the tag `name` tells; null where it tells none.
+std::string* TextFor(std::string_view name, Movie& movie)
+{
+    struct Known
+    {
+        std::string_view name;
+        std::string Movie::*text;
+    };
+    constexpr Known known[] = {
+        {"TITLE", &Movie::title},       {"ARTIST", &Movie::artist},      {"ALBUM", &Movie::album},
+        {"GENRE", &Movie::genre},       {"DATE_RELEASED", &Movie::year}, {"DATE_RECORDED", &Movie::year},
+        {"DATE", &Movie::year},         {"PART_NUMBER", &Movie::track},  {"TRACK", &Movie::track},
+        {"TRACKNUMBER", &Movie::track}, {"DISC", &Movie::disc},          {"DISCNUMBER", &Movie::disc},
+    };
+    const auto* const found = std::ranges::find(known, name, &Known::name);
+    return found == std::end(known) ? nullptr : &(movie.*(found->text));
+}
+
+void ReadSimpleTag(const ByteView& tag, Movie& movie)
+{
+    constexpr std::size_t longestName = 64;
+    std::string name;
+    std::string value;
+    ForEachElement(tag, [&](const Element& element) {
+        if (element.id == Id::TagName)
+            name = element.content.Copy(longestName);
+        else if (element.id == Id::TagString)
+            value = element.content.Copy(longestText);
+        return true;
+    });
+    std::ranges::transform(name, name.begin(), [](char letter) {
+        return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+    });
+    std::string* const text = TextFor(name.substr(0, name.find('\0')), movie);
+    if (text != nullptr && text->empty())
+        *text = std::move(value);
+}
+
+/// Whether a tag is of the whole film: not of one of its tracks, editions, chapters or attachments.
+bool IsOfAll(const ByteView& tag)
+{
+    bool isOfAll = true;
+    ForEachElement(tag, [&isOfAll](const Element& targets) {
+        if (targets.id == Id::Targets)
+            ForEachElement(targets.content, [&isOfAll](const Element& target) {
+                const bool isOfPart = target.id == Id::TagTrackUid || target.id == Id::TagEditionUid ||
+                                      target.id == Id::TagChapterUid || target.id == Id::TagAttachmentUid;
+                isOfAll = isOfAll && !(isOfPart && NumberIn(target.content) != 0);
+                return isOfAll;
+            });
+        return isOfAll;
+    });
+    return isOfAll;
+}
+
+void ReadTags(const ByteView& tags, Movie& movie)
+{
+    ForEachElement(tags, [&movie](const Element& tag) {
+        if (tag.id == Id::Tag && IsOfAll(tag.content))
+            ForEachElement(tag.content, [&movie](const Element& element) {
+                if (element.id == Id::SimpleTag)
+                    ReadSimpleTag(element.content, movie);
+                return true;
+            });
+        return true;
+    });
+}
+
 /// Where the directory of the segment says that `wanted` stands.
 std::optional<std::uint64_t> PlaceOf(Id wanted, const ByteView& directory)
 {
@@ -193,45 +275,44 @@ std::optional<std::uint64_t> PlaceOf(Id wanted, const ByteView& directory)
 }
 
 /// What writers put behind the pictures is found by the directory of the segment.
-template <class Read>
-void ReadByDirectory(Id wanted, const ByteView& directory, const ByteView& segment, Read read)
+std::optional<ByteView> FindByDirectory(Id wanted, const ByteView& directory, const ByteView& segment)
 {
     const std::optional<std::uint64_t> place = PlaceOf(wanted, directory);
     if (!place)
-        return;
+        return std::nullopt;
     ByteCursor cursor(segment.From(*place), ByteOrder::Big);
     const std::optional<Element> element = NextElement(cursor);
-    if (element && element->id == wanted)
-        read(element->content);
+    return element && element->id == wanted ? std::optional(element->content) : std::nullopt;
 }
+
+/// The parts of a segment that are read, each once: the tags behind the head, whose title comes first.
+struct SegmentPart
+{
+    Id id;
+    void (*read)(const ByteView& content, Movie& movie);
+};
+constexpr SegmentPart segmentParts[] = {{Id::Info, ReadInfo}, {Id::Tracks, ReadTracks}, {Id::Tags, ReadTags}};
 
 void ReadSegment(const ByteView& segment, Movie& movie)
 {
     ByteView directory = segment.Part(0, 0);
-    bool hasInfo = false;
-    bool hasTracks = false;
-    const auto readInfo = [&](const ByteView& info) {
-        hasInfo = true;
-        ReadInfo(info, movie);
-    };
-    const auto readTracks = [&](const ByteView& tracks) {
-        hasTracks = true;
-        ReadTracks(tracks, movie);
-    };
+    std::optional<ByteView> found[std::size(segmentParts)];
     ForEachElement(segment, [&](const Element& element) {
         if (element.id == Id::SeekHead)
             directory = element.content;
-        else if (element.id == Id::Info)
-            readInfo(element.content);
-        else if (element.id == Id::Tracks)
-            readTracks(element.content);
+        for (std::size_t part = 0; part < std::size(segmentParts); ++part)
+            if (element.id == segmentParts[part].id && !found[part])
+                found[part] = element.content;
         // From here on come the pictures.
-        return element.id != Id::Cluster && !(hasInfo && hasTracks);
+        return element.id != Id::Cluster;
     });
-    if (!hasInfo)
-        ReadByDirectory(Id::Info, directory, segment, readInfo);
-    if (!hasTracks)
-        ReadByDirectory(Id::Tracks, directory, segment, readTracks);
+    for (std::size_t part = 0; part < std::size(segmentParts); ++part) {
+        const auto& [id, read] = segmentParts[part];
+        if (!found[part])
+            found[part] = FindByDirectory(id, directory, segment);
+        if (found[part])
+            read(*found[part], movie);
+    }
 }
 
 } // namespace

@@ -6,13 +6,12 @@
 #include <VyrHost/media/Music.h>
 #include <VyrHost/media/OpenFile.h>
 #include <VyrHost/media/PictureDates.h>
+#include <VyrHost/media/PictureSizes.h>
 #include <VyrHost/media/Texts.h>
 #include <VyrHost/model/FolderSet.h>
 #include <VyrLibraryUtils/pictures/Picture.h>
-#include <VyrLibraryUtils/pictures/PictureSize.h>
 
 #include <algorithm>
-#include <charconv>
 #include <string>
 
 namespace VyrHost::Media {
@@ -48,27 +47,6 @@ std::string PacketBeside(const CString& path)
     return {};
 }
 
-/// The size of a TIFF picture. The first directory of a raw one may describe a small preview, which says so.
-Pictures::PictureSize TiffSize(Pictures::ByteSource& source)
-{
-    const auto number = [&source](Pictures::PictureTag tag) {
-        const std::string digits = Pictures::ReadPicture(source, AsNumbers(tag));
-        std::uint32_t value = 0;
-        std::from_chars(digits.data(), digits.data() + digits.size(), value);
-        return value;
-    };
-    constexpr std::uint16_t kind = 0x00FE;
-    const bool isPreview = (number(Pictures::ImageTag(kind)) & 1) != 0;
-    if (isPreview)
-        return {number(Pictures::ExifTag(0xA002)), number(Pictures::ExifTag(0xA003))};
-    return {number(Pictures::ImageTag(0x0100)), number(Pictures::ImageTag(0x0101))};
-}
-
-bool IsTiff(const Pictures::ByteView& bytes)
-{
-    return bytes.StartsWith(std::string_view("II*\0", 4)) || bytes.StartsWith(std::string_view("MM\0*", 4));
-}
-
 class Reading
 {
 public:
@@ -99,7 +77,7 @@ private:
         if (m_question.size && TakePictureSize())
             return;
         if (IsIsoMedia(m_bytes))
-            Take(ReadIsoMovie(m_bytes));
+            Take(ReadIsoMovie(m_bytes, m_question.duration));
         else if (IsMatroska(m_bytes))
             Take(ReadMatroska(m_bytes));
         else if (IsAvi(m_bytes))
@@ -111,18 +89,20 @@ private:
 
     void ReadTagsOfMusic(bool asksForDuration)
     {
-        const CString titleOfMovie = m_values.title;
+        const MediaValues ofMovie = m_values;
         ReadMusic(m_file, {.duration = asksForDuration, .tags = m_question.tags}, m_values);
-        if (m_values.title.IsEmpty())
-            m_values.title = titleOfMovie;
+        for (CString MediaValues::*const text :
+             {&MediaValues::title, &MediaValues::artist, &MediaValues::album, &MediaValues::genre})
+            if ((m_values.*text).IsEmpty())
+                m_values.*text = ofMovie.*text;
+        if (m_values.year == 0)
+            m_values.year = ofMovie.year;
     }
 
     /// Whether the file is a picture, which has neither a duration nor tags of music.
     bool TakePictureSize()
     {
-        auto size = Pictures::ReadPictureSize(m_source);
-        if (!size && IsTiff(m_bytes))
-            size = TiffSize(m_source);
+        const auto size = ReadSizeOfPicture(m_source);
         if (!size)
             return false;
         m_values.width = size->width;
@@ -141,7 +121,18 @@ private:
         if (m_question.videoCreated)
             m_values.videoCreated = movie.created;
         if (m_question.tags)
-            m_values.title = TextOf(movie.title);
+            TakeTags(movie);
+    }
+
+    void TakeTags(const Movie& movie)
+    {
+        m_values.title = TextOf(movie.title);
+        m_values.artist = TextOf(movie.artist);
+        m_values.album = TextOf(movie.album);
+        m_values.genre = TextOf(movie.genre);
+        m_values.track = NumberAtFront(movie.track);
+        m_values.disc = NumberAtFront(movie.disc);
+        m_values.year = NumberAtFront(movie.year);
     }
 
     void ReadDateOfPacket()

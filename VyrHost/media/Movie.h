@@ -20,8 +20,14 @@ struct Movie
     /// Of the first track with pictures, in points, as they are stored.
     std::uint32_t width = 0;
     std::uint32_t height = 0;
-    /// UTF-8.
+    /// UTF-8. A year and a track are those that the text begins with.
     std::string title;
+    std::string artist;
+    std::string album;
+    std::string genre;
+    std::string year;
+    std::string track;
+    std::string disc;
 };
 
 /// Whether `bytes` begin with a box of a film, of music in the same boxes, or of a HEIC or AVIF picture.
@@ -32,9 +38,10 @@ struct Movie
 [[nodiscard]] bool IsAvi(const VyrLibraryUtils::Pictures::ByteView& bytes);
 
 /// A film in boxes. A date of 0 is no date; one before 1970 counts from 1970, as those writers meant that took the
-/// wrong year to count from. Of a HEIC or AVIF picture the size of the largest of its pictures. Source: ISO/IEC
+/// wrong year to count from. The duration of a film in fragments that tells none in front is looked for in all of the
+/// file, where it is asked for. Of a HEIC or AVIF picture the size of the largest of its pictures. Source: ISO/IEC
 /// 14496-12, sections 8.2.2, 8.3.2, 8.4.3, 8.5.2 and 8.8.2; ISO/IEC 23008-12, section 6.5.3.
-[[nodiscard]] Movie ReadIsoMovie(const VyrLibraryUtils::Pictures::ByteView& file);
+[[nodiscard]] Movie ReadIsoMovie(const VyrLibraryUtils::Pictures::ByteView& file, bool asksForDuration);
 
 /// Matroska and WebM. Source: RFC 9559, sections 5.1.2 and 5.1.4; RFC 8794.
 [[nodiscard]] Movie ReadMatroska(const VyrLibraryUtils::Pictures::ByteView& file);

@@ -5,7 +5,6 @@
 #include <VyrHost/media/Texts.h>
 
 #include <algorithm>
-#include <charconv>
 #include <limits>
 #include <span>
 #include <string>
@@ -108,14 +107,11 @@ CString TextOfProperty(const TagLib::PropertyMap& properties, const char* name, 
     return ToText(values.isEmpty() ? other : values.toString(", "));
 }
 
-/// "1/2" is 1.
-unsigned NumberAtFront(const TagLib::PropertyMap& properties, const char* name)
+unsigned DiscOf(const TagLib::PropertyMap& properties)
 {
+    constexpr const char* name = "DISCNUMBER";
     const TagLib::StringList values = properties.contains(name) ? properties[name] : TagLib::StringList();
-    const std::string text = values.isEmpty() ? std::string() : values.front().to8Bit();
-    unsigned number = 0;
-    std::from_chars(text.data(), text.data() + text.size(), number);
-    return number;
+    return values.isEmpty() ? 0 : NumberAtFront(values.front().to8Bit());
 }
 
 void TakeTags(const TagLib::FileRef& music, MediaValues& values)
@@ -130,7 +126,7 @@ void TakeTags(const TagLib::FileRef& music, MediaValues& values)
     values.genre = TextOfProperty(properties, "GENRE", tag->genre());
     values.track = tag->track();
     values.year = tag->year();
-    values.disc = NumberAtFront(properties, "DISCNUMBER");
+    values.disc = DiscOf(properties);
 }
 
 } // namespace

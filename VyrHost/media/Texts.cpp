@@ -3,6 +3,7 @@
 #include <VyrPlatform/text/Encoding.h>
 
 #include <algorithm>
+#include <charconv>
 #include <string>
 
 namespace VyrHost::Media {
@@ -95,6 +96,13 @@ CString CleanText(std::u16string_view text)
     if (clean.ends_with(u' '))
         clean.pop_back();
     return CString(std::u16string_view(clean));
+}
+
+unsigned NumberAtFront(std::string_view text)
+{
+    unsigned number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
 }
 
 } // namespace VyrHost::Media

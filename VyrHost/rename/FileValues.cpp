@@ -102,6 +102,7 @@ WorkValues WorkOfDocument(const CString& path)
     WorkValues work;
     work.title = text(Id::title);
     work.artist = text(Id::author);
+    work.genre = text(Id::keywords);
     if (const auto created = properties.times.find(Id::created); created != properties.times.end())
         if (const auto moment = MomentAt(created->second))
             work.year = static_cast<unsigned>(moment->local.GetYear());

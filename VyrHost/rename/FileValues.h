@@ -54,7 +54,7 @@ public:
     /// What the content tells.
     /// @param question  all that a rule may ask, so that the file is read once.
     [[nodiscard]] const Media::MediaValues& Content(const Media::MediaQuestion& question);
-    /// The tags in the content, or the properties of a document: its author is the artist.
+    /// The tags in the content, or the properties of a document: its author is the artist, its keywords the genre.
     [[nodiscard]] const WorkValues& Work(const Media::MediaQuestion& question);
     /// The date of that source; nothing where the file does not tell it.
     [[nodiscard]] std::optional<FileMoment> Moment(Model::DateSource source, const Media::MediaQuestion& question);

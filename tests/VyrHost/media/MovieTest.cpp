@@ -103,11 +103,59 @@ TEST(Movies, AHeicTellsTheSizeOfItsLargestPicture)
     EXPECT_EQ(values.height, 3024U);
 }
 
-TEST(Movies, AQuickTimeFilmTellsItsTitle)
+TEST(Movies, AFragmentedFilmWithoutAnExtensionLastsAsLongAsItsSamples)
 {
-    const Bytes text = Number(6, 2, Endian::Big) + Number(0, 2, Endian::Big) + "T\xC3\xAFtle";
-    const Bytes film = Box("ftyp", "qt  ") + Box("moov", MovieHeader({}) + Box("udta", Box("\xA9nam", text)));
-    EXPECT_EQ(ReadAll(film).title, CString(u"T\u00EFtle"));
+    const auto big = [](std::uint64_t value) {
+        return Number(value, 4, Endian::Big);
+    };
+    const auto track = [&](std::uint64_t id, std::uint64_t unitsPerSecond) {
+        return Box("trak", Box("tkhd", big(0) + big(0) + big(0) + big(id)) +
+                               Box("mdia", Box("mdhd", big(0) + big(0) + big(0) + big(unitsPerSecond))));
+    };
+    const auto usual = [&](std::uint64_t id, std::uint64_t duration) {
+        return Box("trex", big(0) + big(id) + big(1) + big(duration) + big(0) + big(0));
+    };
+    const auto part = [&](const Bytes& header, const Bytes& run) {
+        return Box("moof", Box("mfhd", big(0) + big(1)) + Box("traf", Box("tfhd", header) + Box("trun", run)));
+    };
+    const Bytes head =
+        Film(MovieHeader({.duration = 0}) + track(1, 600) + track(2, 1000) + Box("mvex", usual(1, 60) + usual(2, 10)));
+    // Ten samples as long as the track says, and five as long as the fragment says.
+    const Bytes fragments = part(big(0) + big(1), big(0) + big(10)) + Box("mdat", "data") +
+                            part(big(8) + big(1) + big(30), big(0) + big(5));
+    EXPECT_EQ(ReadAll(head + fragments).duration, 1250U);
+    // Samples that tell themselves how long they last, with their sizes, behind an offset.
+    const Bytes told = part(big(0) + big(2),
+                            big(0x301) + big(3) + big(99) + big(500) + big(7) + big(400) + big(7) + big(600) + big(7));
+    EXPECT_EQ(ReadAll(head + fragments + told).duration, 1500U);
+    // One that is cut off, or of another track, adds nothing that is not there.
+    EXPECT_EQ(ReadAll(head + told + part(big(0) + big(2), big(0x100) + big(UINT32_MAX) + big(10))).duration, 1510U);
+    EXPECT_EQ(ReadAll(head + part(big(0) + big(3), big(0) + big(10))).duration, std::nullopt);
+    EXPECT_EQ(ReadAll(head).duration, std::nullopt);
+}
+
+TEST(Movies, AQuickTimeFilmTellsItsTags)
+{
+    const auto text = [](const char* type, const Bytes& value) {
+        return Box(type, Number(value.size(), 2, Endian::Big) + Number(0, 2, Endian::Big) + value);
+    };
+    const Bytes data = text("\xA9nam", "T\xC3\xAFtle") +
+                       text("\xA9"
+                            "ART",
+                            "Artist") +
+                       text("\xA9"
+                            "alb",
+                            "Album") +
+                       text("\xA9gen", "Genre") +
+                       text("\xA9"
+                            "day",
+                            "2019-05-06");
+    const MediaValues values = ReadAll(Box("ftyp", "qt  ") + Box("moov", MovieHeader({}) + Box("udta", data)));
+    EXPECT_EQ(values.title, CString(u"T\u00EFtle"));
+    EXPECT_EQ(values.artist, CString(u"Artist"));
+    EXPECT_EQ(values.album, CString(u"Album"));
+    EXPECT_EQ(values.genre, CString(u"Genre"));
+    EXPECT_EQ(values.year, 2019U);
 }
 
 TEST(Movies, MatroskaAndWebMTellTheSame)
@@ -120,6 +168,46 @@ TEST(Movies, MatroskaAndWebMTellTheSame)
         EXPECT_EQ(values.duration, 2500U);
         EXPECT_EQ(values.title, CString(u"T\u00EFtle"));
     }
+}
+
+TEST(Movies, MatroskaTellsTheTagsOfTheWholeFilm)
+{
+    const auto tag = [](const Bytes& name, const Bytes& value) {
+        return EbmlElement("\x67\xC8", EbmlElement("\x45\xA3", name) + EbmlElement("\x44\x87", value));
+    };
+    const auto tags = [](const Bytes& targets, const Bytes& simple) {
+        return EbmlElement("\x73\x73", EbmlElement("\x63\xC0", targets) + simple);
+    };
+    const Bytes ofTrack = tags(EbmlElement("\x63\xC5", "\1"), tag("ARTIST", "Of a track"));
+    const Bytes ofAll = tags("", tag("Artist", "\xD0\x9F\xD0\xB0") + tag("ALBUM", "Album") + tag("GENRE", "Jazz") +
+                                     tag("DATE_RELEASED", "2019-05-06") + tag("PART_NUMBER", "3/12") +
+                                     tag("DISC", "2") + tag("TITLE", "Other") + tag("BPS", "1"));
+    const Bytes all = EbmlElement("\x12\x54\xC3\x67", ofTrack + ofAll);
+    const FilmFacts facts{.created = from2001};
+    const Bytes film = EbmlHead("matroska") +
+                       EbmlElement("\x18\x53\x80\x67", all + MatroskaInfo(facts, "Title") + MatroskaTracks(facts));
+    const MediaValues values = ReadAll(film);
+    EXPECT_EQ(values.title, CString(u"Title")) << "the head's own title comes first";
+    EXPECT_EQ(values.artist, CString(u"\u041F\u0430"));
+    EXPECT_EQ(values.album, CString(u"Album"));
+    EXPECT_EQ(values.genre, CString(u"Jazz"));
+    EXPECT_EQ(values.year, 2019U);
+    EXPECT_EQ(values.track, 3U);
+    EXPECT_EQ(values.disc, 2U);
+}
+
+TEST(Movies, AviTellsItsTags)
+{
+    const Bytes tags = RiffChunk("INAM", Bytes("Title\0", 6)) + RiffChunk("IART", "Artist") +
+                       RiffChunk("IPRD", "Album") + RiffChunk("IGNR", "Jazz") + RiffChunk("ICRD", "2019") +
+                       RiffChunk("ITRK", "3");
+    const MediaValues values = ReadAll(BuildAvi(1, 8, 8, "", tags));
+    EXPECT_EQ(values.title, CString(u"Title"));
+    EXPECT_EQ(values.artist, CString(u"Artist"));
+    EXPECT_EQ(values.album, CString(u"Album"));
+    EXPECT_EQ(values.genre, CString(u"Jazz"));
+    EXPECT_EQ(values.year, 2019U);
+    EXPECT_EQ(values.track, 3U);
 }
 
 TEST(Movies, WhatMatroskaKeepsBehindItsPicturesIsFoundByItsDirectory)

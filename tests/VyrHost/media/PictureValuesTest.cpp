@@ -42,6 +42,12 @@ MediaValues ReadAll(const Bytes& picture)
     return ReadMedia(folder.WriteFile(u"picture", picture), question);
 }
 
+std::string SizeOf(const Bytes& picture)
+{
+    const MediaValues values = ReadAll(picture);
+    return std::to_string(values.width) + "x" + std::to_string(values.height);
+}
+
 /// The text of the tag `name` in a picture whose Exif directory has `entry`.
 CString TagOf(std::u16string_view name, const TiffEntry& entry)
 {
@@ -288,6 +294,49 @@ TEST(PictureValues, SizesOfTiffAreThoseOfTheWholePicture)
     values = ReadAll(BuildTiff(parts));
     EXPECT_EQ(values.width, 6000U);
     EXPECT_EQ(values.height, 4000U);
+}
+
+TEST(PictureValues, SizesOfRawPicturesAreThoseOfTheirOwnFields)
+{
+    TiffParts orf;
+    orf.signature = "IIRO";
+    orf.image = {Short(0x0100, 640), Short(0x0101, 480)};
+    EXPECT_EQ(SizeOf(BuildTiff(orf)), "640x480");
+    // The borders of the sensor.
+    TiffParts rw2;
+    rw2.signature = Bytes("IIU\0", 4);
+    rw2.image = {Short(4, 10), Short(5, 8), Short(6, 490), Short(7, 648)};
+    EXPECT_EQ(SizeOf(BuildTiff(rw2)), "640x480");
+    rw2.image = {Short(4, 10), Short(5, 8), Short(6, 9), Short(7, 648)};
+    EXPECT_EQ(SizeOf(BuildTiff(rw2)), "0x0");
+    const Bytes frame("\xFF\xC0\0\x11\x08\0\x08\0\x10", 9);
+    EXPECT_EQ(SizeOf(BuildRaf(BuildJpeg(frame + Bytes(10, '\0')))), "16x8");
+    EXPECT_EQ(SizeOf(BuildRaf("no JPEG")), "0x0");
+}
+
+TEST(PictureValues, SizesOfPsdAreRead)
+{
+    const Bytes psd = Bytes("8BPS\0\1", 6) + Bytes(8, '\0') + Number(480, 4, Endian::Big) + Number(640, 4, Endian::Big);
+    EXPECT_EQ(SizeOf(psd), "640x480");
+    EXPECT_EQ(SizeOf(psd.substr(0, 20)), "0x0");
+}
+
+TEST(PictureValues, SizesOfJpegXlAreReadFromItsBits)
+{
+    const auto stream = [](std::uint64_t bits) {
+        return "\xFF\x0A" + Little(bits, 8);
+    };
+    // Eight times one, and twice as wide as high.
+    const Bytes small = stream(1 | 7 << 6);
+    EXPECT_EQ(SizeOf(small), "16x8");
+    // Nine and thirteen bits, without a proportion.
+    EXPECT_EQ(SizeOf(stream(478U << 3 | 1U << 15 | std::uint64_t{640} << 17)), "641x479");
+    // 16 to 9, of thirteen bits.
+    EXPECT_EQ(SizeOf(stream(1U << 1 | 1079U << 3 | 5U << 16)), "1920x1080");
+    const Bytes signature("\0\0\0\x0CJXL \r\n\x87\n", 12);
+    EXPECT_EQ(SizeOf(signature + Box("Exif", "none") + Box("jxlc", small)), "16x8");
+    EXPECT_EQ(SizeOf(signature + Box("jxlp", Bytes(4, '\0') + small)), "16x8");
+    EXPECT_EQ(SizeOf(signature + Box("jxlc", "")), "0x0");
 }
 
 TEST(PictureValues, AFileThatIsMissingGivesTheSystemsCode)

@@ -175,9 +175,11 @@ TEST_F(ContentTokens, TellThePropertiesOfDocuments)
     document.streams[summaryName] = BuildSummary({{1, StoredCodePage(1252)},
                                                   {Id::title, StoredByteText("A: title")},
                                                   {Id::author, StoredByteText("Somebody")},
+                                                  {Id::keywords, StoredByteText("letters; 2024")},
                                                   {Id::created, StoredTime(133'489'242'000'000'000)}});
     m_folder.WriteFile(u"d.doc", document.Bytes());
     EXPECT_EQ(Named(u"<Artist> - <Title> <Year>", u"d", u".doc"), u"Somebody - A_ title 2024.doc");
+    EXPECT_EQ(Named(u"<Genre>", u"d", u".doc"), u"letters; 2024.doc");
     EXPECT_EQ(Named(u"<Album>", u"d", u".doc"), u"!");
 }
 
