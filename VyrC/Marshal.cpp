@@ -128,7 +128,7 @@ vyr_status StatusOfException() noexcept
     }
 }
 
-CString ToText(const std::uint16_t* units, std::ptrdiff_t length, const char* argument)
+std::u16string_view ToView(const std::uint16_t* units, std::ptrdiff_t length, const char* argument)
 {
     if (!units && length == 0)
         return {};

@@ -72,7 +72,11 @@ template <class Record>
 
 // From the host to the library.
 
-[[nodiscard]] CString ToText(const std::uint16_t* units, std::ptrdiff_t length, const char* argument);
+[[nodiscard]] std::u16string_view ToView(const std::uint16_t* units, std::ptrdiff_t length, const char* argument);
+[[nodiscard]] inline CString ToText(const std::uint16_t* units, std::ptrdiff_t length, const char* argument)
+{
+    return ToView(units, length, argument);
+}
 [[nodiscard]] inline CString ToText(const vyr_text& text, const char* argument)
 {
     return ToText(text.units, text.length, argument);
@@ -86,7 +90,8 @@ template <class Record>
     return last;
 }
 
-/// Makes `kept` the text. Texts mostly come again with the next record, and are then not copied.
+/// Makes `kept` the text. Texts mostly come again with the next record, and are then not copied; others go into the
+/// memory of the last.
 [[gnu::always_inline]] inline void Keep(CString& kept, const vyr_text& text, const char* argument)
 {
     RequireAligned(text.units, argument);
@@ -94,7 +99,7 @@ template <class Record>
     if (text.length != static_cast<std::ptrdiff_t>(last.size()) ||
         (!last.empty() && (!text.units || std::memcmp(text.units, last.data(), last.size() * sizeof *text.units) != 0)))
         [[unlikely]]
-        kept = ToText(text, argument);
+        kept.Assign(ToView(text.units, text.length, argument));
 }
 /// Refuses an object that the host was not given, or has released; a null pointer is accepted.
 [[nodiscard]] IDispatch* GivenObject(void* object, const char* argument);

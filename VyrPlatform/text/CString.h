@@ -85,6 +85,8 @@ public:
     /// The code unit at `index`, 0 to GetLength() - 1.
     [[nodiscard]] char16_t operator[](int index) const noexcept { return GetString()[index]; }
 
+    /// Makes the string a copy of `text`, which is no part of it, in its own allocation where that is large enough.
+    void Assign(std::u16string_view text);
     /// Makes the string empty.
     void Empty() noexcept { CString().Swap(*this); }
     void Swap(CString& other) noexcept

@@ -153,6 +153,17 @@ char16_t* CString::Writable()
     return m_buffer ? m_buffer->Text() : nullptr;
 }
 
+void CString::Assign(std::u16string_view text)
+{
+    if (text.empty() || !m_buffer || m_buffer->capacity < text.size() ||
+        __atomic_load_n(&m_buffer->owners, __ATOMIC_ACQUIRE) != 1) {
+        CString(text).Swap(*this);
+        return;
+    }
+    *AppendTo(m_buffer->Text(), text) = u'\0';
+    m_buffer->length = static_cast<std::uint32_t>(text.size());
+}
+
 CString& CString::operator+=(std::u16string_view text)
 {
     if (text.empty())

@@ -296,3 +296,27 @@ TEST(CString, ALongRunOfAppendsKeepsEveryUnit)
         text += u'x';
     EXPECT_EQ(text, CString(u'x', 1'000'000));
 }
+
+TEST(CString, AssignKeepsTheMemoryOfOneOwnerAlone)
+{
+    CString text = u"a long name";
+    const char16_t* const memory = text.GetString();
+    text.Assign(u"short");
+    EXPECT_EQ(text, u"short");
+    EXPECT_EQ(text.GetString(), memory);
+    EXPECT_EQ(memory[5], u'\0');
+    text.Assign(u"as long now");
+    EXPECT_EQ(text, u"as long now");
+    EXPECT_EQ(text.GetString(), memory);
+
+    const CString copy = text;
+    text.Assign(u"other");
+    EXPECT_EQ(copy, u"as long now");
+    EXPECT_EQ(text, u"other");
+    text.Assign(u"longer than any before");
+    EXPECT_EQ(text, u"longer than any before");
+    text.Assign({});
+    EXPECT_TRUE(text.IsEmpty());
+    text.Assign(u"a");
+    EXPECT_EQ(text, u"a");
+}
