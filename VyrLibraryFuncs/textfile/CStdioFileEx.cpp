@@ -25,6 +25,51 @@ std::u16string_view WithoutCarriageReturn(std::u16string_view text) noexcept
     return text;
 }
 
+std::uint32_t CodePageOf(const CStdioFileEx& file)
+{
+    return file.m_nCodePage == systemCodePage ? VyrPlatform::CodePage::GetAnsi() : file.m_nCodePage;
+}
+
+/// Skips the mark. That of UTF-8 is not checked: the first bytes are skipped in any case.
+void DropMark(CStdioFileEx& file)
+{
+    char mark[std::max(utf16Mark.size(), utf8Mark.size())];
+    if (file.m_bUnicode)
+        file.Read(mark, utf16Mark.size());
+    else if (file.m_nCodePage == VyrPlatform::CodePage::utf8)
+        file.Read(mark, utf8Mark.size());
+}
+
+void WriteMark(CStdioFileEx& file)
+{
+    if (file.m_nOpenFlags & CStdioFileEx::modeUnicode)
+        file.Write(utf16Mark.data(), utf16Mark.size());
+    else if (file.m_nCodePage == VyrPlatform::CodePage::utf8)
+        file.Write(utf8Mark.data(), utf8Mark.size());
+}
+
+/// Reads a line into `line`, which has a buffer of `capacity` code units, and replaces its line feed by a NUL.
+/// @param readLine  reads up to so many code units into a buffer, as far as a line feed, and ends them with a NUL.
+/// @return false at the end of the file.
+template <class Unit, class ReadLine>
+bool ReadWholeLine(CTemplateSmartPtrArray<Unit>& line, std::size_t capacity, const ReadLine& readLine)
+{
+    std::size_t length = readLine(line.Get(), capacity - 1);
+    const bool isAnyRead = length > 0;
+    for (std::size_t count = length; count > 0 && line.Get()[length - 1] != Unit('\n'); length += count) {
+        // Capacity grows ahead, so that a line of any length is copied only a few times.
+        if (capacity <= length + growth) {
+            capacity *= 2;
+            line.Allocate(capacity, length);
+        }
+        count = readLine(line.Get() + length, growth);
+    }
+    if (isAnyRead && line.Get()[length - 1] == Unit('\n'))
+        --length;
+    line.Get()[length] = Unit();
+    return isAnyRead;
+}
+
 } // namespace
 
 CStdioFileEx::CStdioFileEx() = default;
@@ -62,16 +107,16 @@ void CStdioFileEx::WriteString(const char16_t* text)
     if (!text)
         throw CInvalidArgException();
     if (m_bWriteBOM && (!HasStream() || GetPosition() == 0))
-        WriteMark();
+        WriteMark(*this);
     if (m_nOpenFlags & modeUnicode) {
         CStdioFile::WriteString(text);
         return;
     }
     CTemplateSmartPtrArray<char> bytes(m_narrowBuffer);
-    const std::size_t size = VyrPlatform::CodePage::ToBytes(CodePage(), text, m_chDefault, m_narrowBuffer);
+    const std::size_t size = VyrPlatform::CodePage::ToBytes(CodePageOf(*this), text, m_chDefault, m_narrowBuffer);
     if (size > bufferSize) {
         bytes.Allocate(size);
-        static_cast<void>(VyrPlatform::CodePage::ToBytes(CodePage(), text, m_chDefault, {bytes.Get(), size}));
+        static_cast<void>(VyrPlatform::CodePage::ToBytes(CodePageOf(*this), text, m_chDefault, {bytes.Get(), size}));
     }
     // The size counts the terminator; it is 0 where the conversion failed.
     if (size > 1)
@@ -82,18 +127,21 @@ int CStdioFileEx::ReadString(CString& line)
 {
     line.Empty();
     if (m_bAtStart && GetPosition() == 0)
-        DropMark();
+        DropMark(*this);
     CTemplateSmartPtrArray<char16_t> text(m_wideBuffer);
+    const auto readLine = [this](auto* units, std::size_t most) {
+        return ReadLine(units, most);
+    };
     bool isAnyRead = false;
     if (m_bUnicode) {
-        isAnyRead = ReadWholeLine(text);
+        isAnyRead = ReadWholeLine(text, bufferSize, readLine);
     } else {
         CTemplateSmartPtrArray<char> bytes(m_narrowBuffer);
-        isAnyRead = ReadWholeLine(bytes);
-        const std::size_t size = VyrPlatform::CodePage::ToText(CodePage(), bytes.Get(), m_wideBuffer);
+        isAnyRead = ReadWholeLine(bytes, bufferSize, readLine);
+        const std::size_t size = VyrPlatform::CodePage::ToText(CodePageOf(*this), bytes.Get(), m_wideBuffer);
         if (size > bufferSize) {
             text.Allocate(size);
-            static_cast<void>(VyrPlatform::CodePage::ToText(CodePage(), bytes.Get(), {text.Get(), size}));
+            static_cast<void>(VyrPlatform::CodePage::ToText(CodePageOf(*this), bytes.Get(), {text.Get(), size}));
         } else if (size == 0) {
             *text.Get() = u'\0';
         }
@@ -107,49 +155,4 @@ int CStdioFileEx::ReadString(CString& line)
 char16_t* CStdioFileEx::ReadString(char16_t* buffer, std::uint32_t capacity)
 {
     return CStdioFile::ReadString(buffer, capacity);
-}
-
-std::uint32_t CStdioFileEx::CodePage() const
-{
-    return m_nCodePage == systemCodePage ? VyrPlatform::CodePage::GetAnsi() : m_nCodePage;
-}
-
-/// Skips the mark. That of UTF-8 is not checked: the first bytes are skipped in any case.
-void CStdioFileEx::DropMark()
-{
-    char mark[std::max(utf16Mark.size(), utf8Mark.size())];
-    if (m_bUnicode)
-        Read(mark, utf16Mark.size());
-    else if (m_nCodePage == VyrPlatform::CodePage::utf8)
-        Read(mark, utf8Mark.size());
-}
-
-void CStdioFileEx::WriteMark()
-{
-    if (m_nOpenFlags & modeUnicode)
-        Write(utf16Mark.data(), utf16Mark.size());
-    else if (m_nCodePage == VyrPlatform::CodePage::utf8)
-        Write(utf8Mark.data(), utf8Mark.size());
-}
-
-/// Reads a line into `line`, which has a buffer of bufferSize code units, and replaces its line feed by a NUL.
-/// @return false at the end of the file.
-template <class Unit>
-bool CStdioFileEx::ReadWholeLine(CTemplateSmartPtrArray<Unit>& line)
-{
-    std::size_t capacity = bufferSize;
-    std::size_t length = ReadLine(line.Get(), capacity - 1);
-    const bool isAnyRead = length > 0;
-    for (std::size_t count = length; count > 0 && line.Get()[length - 1] != Unit('\n'); length += count) {
-        // Capacity grows ahead, so that a line of any length is copied only a few times.
-        if (capacity <= length + growth) {
-            capacity *= 2;
-            line.Allocate(capacity, length);
-        }
-        count = ReadLine(line.Get() + length, growth);
-    }
-    if (isAnyRead && line.Get()[length - 1] == Unit('\n'))
-        --length;
-    line.Get()[length] = Unit();
-    return isAnyRead;
 }

@@ -46,8 +46,7 @@ public:
     int Open(const char16_t* name, std::uint32_t flags, CFileException* error = nullptr) override;
     /// Like the base class; at the beginning of the file the next ReadString skips the mark again.
     std::uint64_t Seek(std::int64_t offset, std::uint32_t origin) override;
-    /// Writes the text; it includes its line end, and "
-    /// " is written unchanged.
+    /// Writes the text; it includes its line end, and "\n" is written unchanged.
     ///
     /// At the beginning of the file the mark is written first, if m_bWriteBOM is set: that of UTF-16 with modeUnicode,
     /// that of UTF-8 with code page 65001, none otherwise. 8-bit text is converted by VyrPlatform::CodePage::ToBytes.
@@ -77,12 +76,6 @@ public:
     bool m_bWriteBOM = true;
 
 private:
-    [[nodiscard]] std::uint32_t CodePage() const;
-    void DropMark();
-    void WriteMark();
-    template <class Unit>
-    bool ReadWholeLine(CTemplateSmartPtrArray<Unit>& line);
-
     enum : std::size_t
     {
         bufferSize = 4096

@@ -21,6 +21,7 @@
 #include <iterator>
 #include <map>
 #include <memory>
+#include <regex>
 #include <set>
 #include <string_view>
 #include <vector>
@@ -63,17 +64,13 @@ std::map<std::string, std::string> ReadableExports(const DynamicLibrary& library
     return exports;
 }
 
-/// Whether the export is an operation of a function class: neither constructor, destructor nor assignment.
+/// Whether the export is an operation of a function class or of the text file: neither constructor, destructor nor
+/// assignment.
 bool IsOperation(const std::string& readable)
 {
-    const std::string space = "VyrLibraryFuncs::";
-    const std::size_t end = readable.find("Funcs::", space.size());
-    const std::size_t name = end == std::string::npos ? end : end + std::string_view("Funcs::").size();
-    const bool isFunction = readable.find('(') != std::string::npos;
-    if (!readable.starts_with(space) || !isFunction || name >= readable.size() || readable[name] == '~')
-        return false;
-    const std::string own = readable.substr(space.size(), name - 2 - space.size());
-    return !readable.substr(name).starts_with(own + '(') && !readable.substr(name).starts_with("operator=");
+    static const std::regex operation(
+        R"((?:VyrLibraryFuncs::(\w+Funcs)|(CStdioFileEx))::(?!\1\(|\2\(|operator=)\w.*\(.*)");
+    return std::regex_match(readable, operation);
 }
 
 /// `operation` as both systems spell it: 64 bits are "long" on one and "long long" on the other, and a pointer to an
