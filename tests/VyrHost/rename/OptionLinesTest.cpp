@@ -55,6 +55,7 @@ TEST(OptionLines, AreWrittenSoThatTheyAreReadTheSame)
          std::vector<Words>{{u"--trim"},
                             {u"--prefix", u""},
                             {u"--prefix", u"a b"},
+                            {u"\uFEFF", u"\uFEFFa"},
                             {u"--prefix", u"\"", u"#", u"\\", u"\t", u"\"\"x"},
                             {u"--prefix", u"\u00e9\u4e2d\U0001F600", CString(char16_t{0xDCFF}, 1)}})
         EXPECT_EQ(WordsIn(WriteOptionLine(words)), std::vector<Words>{words});
