@@ -5,6 +5,7 @@
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
 
+#include <tests/support/linux/MemoryFolder.h>
 #include <tests/support/linux/Unprivileged.h>
 
 #include <gtest/gtest.h>
@@ -22,6 +23,7 @@
 #include <utility>
 
 using VyrLibraryFuncs::NameFuncs;
+using VyrTests::MemoryFolder;
 using VyrTests::ScratchFolder;
 
 namespace fs = std::filesystem;
@@ -81,21 +83,6 @@ dev_t DeviceOf(const fs::path& path)
     EXPECT_EQ(stat(path.c_str(), &status), 0);
     return status.st_dev;
 }
-
-/// A folder on the file system in memory, removed at the end.
-class MemoryFolder
-{
-public:
-    MemoryFolder() : m_path("/dev/shm/vyr-folder-test-" + std::to_string(getpid())) { fs::create_directory(m_path); }
-    MemoryFolder(const MemoryFolder&) = delete;
-    MemoryFolder& operator=(const MemoryFolder&) = delete;
-    ~MemoryFolder() { fs::remove_all(m_path); }
-
-    [[nodiscard]] const fs::path& Path() const noexcept { return m_path; }
-
-private:
-    fs::path m_path;
-};
 
 } // namespace
 

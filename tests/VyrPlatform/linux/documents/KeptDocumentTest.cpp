@@ -1,6 +1,7 @@
 // How an old document is kept on Linux: as another name of the same file where nobody can be writing to it.
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
+#include <tests/support/linux/MemoryFolder.h>
 
 #include <VyrPlatform/documents/DocumentProperties.h>
 #include <VyrPlatform/documents/PropertyStorage.h>
@@ -14,7 +15,6 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <unistd.h>
 
 using namespace VyrTests;
 using VyrPlatform::Descriptor;
@@ -44,21 +44,6 @@ bool HasLeases(const std::string& path)
     const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
     return fcntl(file.Get(), F_SETLEASE, F_RDLCK) == 0;
 }
-
-/// A folder on another file system.
-class MemoryFolder
-{
-public:
-    MemoryFolder() : m_path("/dev/shm/vyr-kept-test-" + std::to_string(getpid())) { fs::create_directory(m_path); }
-    MemoryFolder(const MemoryFolder&) = delete;
-    MemoryFolder& operator=(const MemoryFolder&) = delete;
-    ~MemoryFolder() { fs::remove_all(m_path); }
-
-    [[nodiscard]] const fs::path& Path() const noexcept { return m_path; }
-
-private:
-    fs::path m_path;
-};
 
 } // namespace
 
