@@ -8,6 +8,7 @@
 #include <VyrPlatform/files/FileAttributes.h>
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
 namespace VyrHost::Batch {
@@ -131,19 +132,19 @@ bool ChangeWork::Run(Direction direction, bool followRenames, const Report& repo
 {
     const std::vector<std::size_t> toDo = FindToDo(direction, followRenames);
     const std::size_t together = direction == Direction::Forward && AreOfDifferentFiles() ? 1024 : 1;
-    std::vector<Outcome> outcomes(toDo.size());
-    const auto perform = [&](std::size_t at, std::size_t end) {
-        for (; at < end; ++at)
-            outcomes[at] = Perform(toDo[at], direction);
-    };
     bool isStopped = false;
-    for (std::size_t first = 0; first < toDo.size(); first += together) {
-        const std::size_t end = std::min(first + together, toDo.size());
+    for (std::span<const std::size_t> rest = toDo; !rest.empty();) {
+        const auto group = rest.first(std::min(together, rest.size()));
+        rest = rest.subspan(group.size());
+        std::vector<Outcome> outcomes(group.size());
         isStopped = isStopped || isStopAsked();
         if (!isStopped)
-            Model::OnTwoThreads(first, end, perform);
-        for (std::size_t at = first; at < end; ++at)
-            report(toDo[at], outcomes[at]);
+            Model::OnTwoThreads(0, group.size(), [&](std::size_t at, std::size_t end) {
+                for (; at < end; ++at)
+                    outcomes[at] = Perform(group[at], direction);
+            });
+        for (std::size_t at = 0; at < group.size(); ++at)
+            report(group[at], outcomes[at]);
     }
     return !isStopped;
 }
