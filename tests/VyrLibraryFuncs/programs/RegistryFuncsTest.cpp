@@ -20,12 +20,12 @@ namespace {
 const CString uninstall = u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
 const CString uninstall32 = u"SOFTWARE\\Wow6432Node\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
 
-/// The texts of all seconds from `first` to now.
+/// The texts of all seconds from that of `first` to that of now.
 std::vector<CString> TextsSince(const COleDateTime& first)
 {
     constexpr double second = 1.0 / 86'400;
     std::vector<CString> texts;
-    for (double moment = first; moment <= VyrPlatform::Clock::Now() + second / 2; moment += second)
+    for (double moment = first; moment <= VyrPlatform::Clock::Now() + second; moment += second)
         texts.push_back(DateTimeUtils::GetFormatedDateTime(COleDateTime(moment)));
     return texts;
 }
