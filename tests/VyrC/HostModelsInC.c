@@ -1,17 +1,7 @@
 /* A host in C: what it describes to the library, and the documents that the library gives it. */
-#include "CalledFromC.h"
+#include "ExpectInC.h"
 
 #include <VyrC/vyr.h>
-
-static int count;
-static report_function report_to;
-
-#define EXPECT(condition)                                                                                              \
-    do {                                                                                                               \
-        ++count;                                                                                                       \
-        if (!(condition))                                                                                              \
-            report_to(#condition, "known answer");                                                                     \
-    } while (0)
 
 enum
 {
