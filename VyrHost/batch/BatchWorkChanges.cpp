@@ -56,9 +56,10 @@ std::vector<ProtectedFile> ChangeWork::FindProtected() const
 {
     std::vector<ProtectedFile> files;
     for (std::size_t index = 0; index < m_looks.size(); ++index) {
+        if (m_isKept[index] || !m_journal.changes[index].change->MayLiftProtection())
+            continue;
         const CString path = PathOf(index);
-        if (m_isKept[index] || !m_journal.changes[index].change->MayLiftProtection() ||
-            !VyrPlatform::FileAttributes::IsReadOnly(path))
+        if (!VyrPlatform::FileAttributes::IsReadOnly(path))
             continue;
         std::uint32_t error = 0;
         if (const auto state = ExactState::Read(path, ExactState::Part::Attributes, error))
@@ -132,11 +133,12 @@ bool ChangeWork::Run(Direction direction, bool followRenames, const Report& repo
 {
     const std::vector<std::size_t> toDo = FindToDo(direction, followRenames);
     const std::size_t together = direction == Direction::Forward && AreOfDifferentFiles() ? 1024 : 1;
+    std::vector<Outcome> outcomes;
     bool isStopped = false;
     for (std::span<const std::size_t> rest = toDo; !rest.empty();) {
         const auto group = rest.first(std::min(together, rest.size()));
         rest = rest.subspan(group.size());
-        std::vector<Outcome> outcomes(group.size());
+        outcomes.assign(group.size(), Outcome());
         isStopped = isStopped || isStopAsked();
         if (!isStopped)
             Model::OnTwoThreads(0, group.size(), [&](std::size_t at, std::size_t end) {
