@@ -16,7 +16,7 @@ namespace VyrHost::Cli {
 
 namespace {
 
-constexpr const char* group = "Which attributes they get";
+constexpr const char* attributesGroup = "Which attributes they get";
 
 std::uint32_t ReadAttributes(const CLI::App& command, const char* option)
 {
@@ -47,9 +47,9 @@ AttributesCommand::AttributesCommand(CLI::App& program)
     AddTexts(m_command, "--set", "LIST",
              "Set read-only, hidden, system, archive, temporary, not-indexed, or their letters R, H, S, A, T, I; "
              "several separated by commas",
-             group);
-    AddTexts(m_command, "--clear", "LIST", "Clear them likewise", group);
-    AddFlag(m_command, "--clear-all", m_clearsAll, "Clear all six but those that --set names", group);
+             attributesGroup);
+    AddTexts(m_command, "--clear", "LIST", "Clear them likewise", attributesGroup);
+    AddFlag(m_command, "--clear-all", m_clearsAll, "Clear all six but those that --set names", attributesGroup);
     m_command.footer(HelpFooter(
         "attributes", "Without an option that sets or clears an attribute they are shown. All others stay. Without "
                       "--apply nothing is changed. What --apply changed, \"vyr undo\" undoes.\n\n"));

@@ -95,16 +95,16 @@ Inventory::PlaceRequest PlaceOptions::Read() const
 
 /// Says what could not be read, and what may be missing.
 /// @return the exit code that tells it.
-int Complain(const Inventory::Notes& notes)
+int ComplainOf(const Inventory::Notes& notes)
 {
     for (const std::string& warning : notes.warnings)
-        Cli::Complain(warning);
+        Complain(warning);
     for (const std::string& failure : notes.failures)
-        Cli::Complain(failure);
+        Complain(failure);
     return notes.failures.empty() ? ExitCode::success : ExitCode::partly;
 }
 
-constexpr const char* group = "What to list";
+constexpr const char* inventoryGroup = "What to list";
 
 constexpr ExclusivePair exclusive[] = {
     {"--installer", "--show-hidden", "no installer product is hidden"},
@@ -191,22 +191,23 @@ ProgramsCommand::ProgramsCommand(CLI::App& program)
     : Command(*program.add_subcommand("programs", "List the programs that are installed in a Windows")),
       m_place(m_command), m_records(m_command, Ui::ProgramColumns())
 {
-    AddText(m_command, "--user", m_user, "NAME", "Of a disk: list what this user has, beside what all have", group);
+    AddText(m_command, "--user", m_user, "NAME", "Of a disk: list what this user has, beside what all have",
+            inventoryGroup);
     AddText(m_command, "--scope", m_scope, "all|user|machine",
-            "Whose programs: those of users, those of the machine, or all (the default)", group);
+            "Whose programs: those of users, those of the machine, or all (the default)", inventoryGroup);
     AddText(m_command, "--find", m_find, "TEXT", "Only those whose name or publisher holds the text, in any case",
-            group);
-    AddFlag(m_command, "--no-32-bit", m_no32Bit, "Leave out those in the keys of 32-bit programs", group);
+            inventoryGroup);
+    AddFlag(m_command, "--no-32-bit", m_no32Bit, "Leave out those in the keys of 32-bit programs", inventoryGroup);
     m_command
         .add_flag("--show-hidden", m_showHidden,
                   "Also those that the system's own list hides: without a name, components of the system, parts of "
                   "other programs")
-        ->group(group);
+        ->group(inventoryGroup);
     m_command
         .add_flag("--installer", m_installer,
                   "List the products of Windows Installer instead; their columns are " +
                       Ui::NamesOf(Ui::ProductColumns()))
-        ->group(group);
+        ->group(inventoryGroup);
     AddOpenSettings(m_command, "Open the system's own list of programs (on Windows), and list nothing", m_openSettings);
     m_command.footer(HelpFooter("programs"));
 }
@@ -233,7 +234,7 @@ int ProgramsCommand::WritePrograms(const Inventory::Place& place, Scope scope) c
 {
     Inventory::Notes notes;
     std::vector<Inventory::Program> programs = Inventory::ListPrograms(place, scope, !m_no32Bit, notes);
-    const int code = Complain(notes);
+    const int code = ComplainOf(notes);
     Filter(programs, m_find);
     std::size_t hidden = 0;
     if (!m_showHidden)
@@ -247,7 +248,7 @@ int ProgramsCommand::WriteProducts(const Inventory::Place& place, Scope scope) c
 {
     Inventory::Notes notes;
     std::vector<Inventory::Product> products = Inventory::ListProducts(place, scope, notes);
-    const int code = Complain(notes);
+    const int code = ComplainOf(notes);
     Filter(products, m_find);
     Ui::RecordTable table = Ui::TableOfProducts(products);
     Arrange(table, place);
@@ -258,7 +259,7 @@ BrowsersCommand::BrowsersCommand(CLI::App& program)
     : Command(*program.add_subcommand("browsers", "List the browsers that are installed in a Windows")),
       m_place(m_command), m_records(m_command, Ui::BrowserColumns())
 {
-    AddText(m_command, "--find", m_find, "TEXT", "Only those whose name holds the text, in any case", group);
+    AddText(m_command, "--find", m_find, "TEXT", "Only those whose name holds the text, in any case", inventoryGroup);
     m_command.footer(HelpFooter("browsers"));
 }
 
@@ -268,7 +269,7 @@ int BrowsersCommand::Run() const
     const Inventory::Place place = Inventory::FindPlace(m_place.Read());
     Inventory::Notes notes;
     std::vector<Inventory::Browser> browsers = Inventory::ListBrowsers(place, notes);
-    const int code = Complain(notes);
+    const int code = ComplainOf(notes);
     Filter(browsers, m_find);
     return m_records.Write(Ui::TableOfBrowsers(browsers), CountedNoun(browsers.size(), "browser", "browsers") + ".",
                            code);

@@ -34,7 +34,7 @@ using Ui::RecordValue;
 using VyrPlatform::FileSystem::Kind;
 namespace Id = VyrPlatform::SummaryId;
 
-constexpr const char* group = "Which properties they get";
+constexpr const char* propertiesGroup = "Which properties they get";
 
 /// A document of the list.
 struct ListedDocument
@@ -165,7 +165,7 @@ void AddValues(CLI::App& command, const char* name, const char* value, const std
         ->expected(1)
         ->allow_extra_args(false)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
-        ->group(group);
+        ->group(propertiesGroup);
 }
 
 /// Shows the properties of documents, or sets and clears them.
@@ -203,8 +203,8 @@ PropertiesCommand::PropertiesCommand(CLI::App& program)
         m_command, "--clear-all", m_clearsAll,
         "Clear all of them but the thumbnail, and all others (company, category, manager and the user's own), except "
         "what --set names",
-        group);
-    AddFlag(m_command, "--break-signature", m_breaksSignatures, "Change signed documents, too", group);
+        propertiesGroup);
+    AddFlag(m_command, "--break-signature", m_breaksSignatures, "Change signed documents, too", propertiesGroup);
     AddFlag(m_command, "--apply", m_apply, "Change the documents; without it the result is only shown",
             "What is done and shown");
     m_command.footer(

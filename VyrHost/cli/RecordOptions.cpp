@@ -18,7 +18,7 @@ namespace VyrHost::Cli {
 
 namespace {
 
-constexpr const char* group = "How the list is shown";
+constexpr const char* viewGroup = "How the list is shown";
 
 } // namespace
 
@@ -30,19 +30,19 @@ RecordOptions::RecordOptions(CLI::App& command, std::vector<Ui::RecordColumn> co
             "--columns", [this](const std::string& text) { m_chosen = text; },
             "The columns, separated by commas, or all; they are " + Ui::NamesOf(m_columns))
         ->type_name("LIST")
-        ->group(group);
+        ->group(viewGroup);
     command
         .add_option_function<std::string>(
             "--sort", [this](const std::string& text) { m_sort = text; },
             "Sort by a column; what has no value there comes last")
         ->type_name("COLUMN")
-        ->group(group);
-    command.add_flag("--descending", m_descending, "Reverse the order")->group(group);
+        ->group(viewGroup);
+    command.add_flag("--descending", m_descending, "Reverse the order")->group(viewGroup);
     command.add_flag("--csv", m_csv, "Write a table for spreadsheets (CSV), with all columns unless some are chosen")
-        ->group(group);
+        ->group(viewGroup);
     command.add_flag("--json", m_json, "Write one JSON object a line, with all columns unless some are chosen")
-        ->group(group);
-    command.add_flag("-q,--quiet", m_quiet, "Show no headings and no total")->group(group);
+        ->group(viewGroup);
+    command.add_flag("-q,--quiet", m_quiet, "Show no headings and no total")->group(viewGroup);
 }
 
 void RecordOptions::Check(std::span<const Ui::RecordColumn> columns) const

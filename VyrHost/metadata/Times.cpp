@@ -9,7 +9,9 @@
 #include <VyrPlatform/files/FileIdentity.h>
 
 #include <algorithm>
+#include <charconv>
 #include <cstddef>
+#include <iterator>
 #include <optional>
 
 namespace VyrHost::Metadata {
@@ -67,9 +69,10 @@ std::optional<TimeStep> StepOf(std::u16string_view before, std::u16string_view a
 
 CString NumberText(FileTicks ticks)
 {
-    CString text;
-    text.Format(u"%d", ticks);
-    return text;
+    char digits[20];
+    const auto [end, error] = std::to_chars(std::begin(digits), std::end(digits), ticks);
+    char16_t text[std::size(digits)];
+    return std::u16string_view(text, static_cast<std::size_t>(std::copy(std::begin(digits), end, text) - text));
 }
 
 FILETIME ToFileTime(FileTicks ticks)

@@ -6,7 +6,6 @@
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FolderListing.h>
 
-#include <algorithm>
 #include <vector>
 
 namespace VyrHost::Model {
@@ -24,8 +23,10 @@ struct Listed
 
 std::u16string_view FolderPart(std::u16string_view path)
 {
-    const auto behind = std::find_if(path.rbegin(), path.rend(), VyrPlatform::FileSystem::IsSeparator);
-    return path.substr(0, static_cast<std::size_t>(path.rend() - behind));
+    // Asked once, not for each character: a call into another library costs more than the comparison.
+    static const std::u16string_view separators = VyrPlatform::FileSystem::IsSeparator(u'\\') ? u"\\/" : u"/";
+    const std::size_t last = path.find_last_of(separators);
+    return path.substr(0, last == std::u16string_view::npos ? 0 : last + 1);
 }
 
 std::u16string_view NamePart(std::u16string_view path)

@@ -16,6 +16,7 @@ namespace {
 // there is given what the instruction does, so that the breakpoint stays for the other threads.
 constexpr std::array<unsigned char, 3> firstInstruction = {0x4c, 0x8b, 0xd1};
 constexpr unsigned char breakpoint = 0xcc;
+constexpr DWORD patience = 120'000;
 
 // Documented for drivers; what is not here changes no file, as the position in it.
 constexpr std::uint64_t changingInformation[] = {4, 10, 11, 13, 19, 20, 64, 65, 72};
@@ -39,7 +40,11 @@ bool ChangeStops::GoToNext()
         Require(::ContinueDebugEvent(m_event.dwProcessId, m_event.dwThreadId, DBG_CONTINUE), "ContinueDebugEvent");
     }
     while (!m_hasEnded) {
-        Require(::WaitForDebugEvent(&m_event, INFINITE), "WaitForDebugEvent");
+        // One that makes no event is left to who waits for its end.
+        if (!::WaitForDebugEvent(&m_event, patience)) {
+            m_hasEnded = true;
+            return false;
+        }
         DWORD answer = DBG_CONTINUE;
         if (m_event.dwDebugEventCode == EXCEPTION_DEBUG_EVENT)
             answer = HandleException(m_event.dwThreadId, m_event.u.Exception.ExceptionRecord);

@@ -16,7 +16,8 @@ public:
     /// `process` and `streams`, its standard streams, belong to the caller. What it writes to them is no change.
     ChangeStops(HANDLE process, std::set<HANDLE> streams) : m_process(process), m_streams(std::move(streams)) {}
 
-    /// Lets it work until it is about to make another change, and holds it there; false when it ended instead.
+    /// Lets it work until it is about to make another change, and holds it there; false when it ended instead, or made
+    /// nothing known for two minutes.
     bool GoToNext();
     /// An interrupt is on its way to the program, which is held: it goes on when it knows of it.
     void AwaitInterrupt() noexcept { m_awaitsInterrupt = true; }
