@@ -174,7 +174,7 @@ Outcome ChangeWork::Foresee(std::size_t index, Direction direction) const
                 .error = 0,
                 .reason = direction == Direction::Forward ? u"it is no longer what it was when it was listed"
                                                           : u"another program has changed it since"};
-    return {.status = Status::Done, .error = 0, .reason = {}};
+    return {.status = Status::Done, .error = 0, .reason = direction == Direction::Backward ? look.left : u""};
 }
 
 bool ChangeWork::IsDone(std::size_t index) const

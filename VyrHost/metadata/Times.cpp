@@ -30,14 +30,25 @@ std::uint32_t ErrorOf(const CString& path)
     return error != 0 ? error : missingFile;
 }
 
+/// Whether a file system may have stored `now` for `wanted`: as a whole number of the microseconds, hundredths of a
+/// second, seconds or pairs of seconds in which it counts, the next one below or above.
+bool MayBeStoredFor(FileTicks wanted, FileTicks now)
+{
+    constexpr FileTicks ticksPerMicrosecond = 10;
+    constexpr FileTicks steps[] = {1, 10'000, 1'000'000, 2'000'000};
+    return std::any_of(std::begin(steps), std::end(steps), [wanted, now](FileTicks microseconds) {
+        const FileTicks step = microseconds * ticksPerMicrosecond;
+        return now % step == 0 && now > wanted - step && now < wanted + step;
+    });
+}
+
 ChangeState StateOf(const TimeStep& step, FileTicks now)
 {
-    constexpr FileTicks coarsest = 2 * FileTicks{10'000'000};
     if (now == step.after)
         return ChangeState::After;
     if (now == step.before)
         return ChangeState::Before;
-    return std::max(now, step.after) - std::min(now, step.after) < coarsest ? ChangeState::After : ChangeState::Other;
+    return MayBeStoredFor(step.after, now) ? ChangeState::After : ChangeState::Other;
 }
 
 std::optional<FileDate> DateOf(std::u16string_view word)
@@ -152,20 +163,21 @@ bool TimesChange::MayLiftProtection() const
 
 ChangeLook TimesChange::Look(const CString& path) const
 {
-    bool isBefore = false;
-    bool isAfter = false;
+    ChangeLook look{ChangeState::Other, 0};
     for (const TimeStep& step : m_steps) {
         const auto now = TicksOf(path, step.date);
         if (!now)
             return {ChangeState::Unknown, ErrorOf(path)};
         const ChangeState state = StateOf(step, *now);
-        if (state == ChangeState::Other)
+        // Who reads a file changes the time of the last access; the other times are judged without it.
+        if (state == ChangeState::Other && step.date == FileDate::Accessed)
+            look.left = u"the time of the last access, which has changed since, stays";
+        else if (state == ChangeState::Other)
             return {ChangeState::Other, 0};
-        (state == ChangeState::Before ? isBefore : isAfter) = true;
+        else
+            look.state = look.state == ChangeState::Other || look.state == state ? state : ChangeState::Partly;
     }
-    if (isBefore && isAfter)
-        return {ChangeState::Partly, 0};
-    return {isBefore ? ChangeState::Before : ChangeState::After, 0};
+    return look;
 }
 
 std::uint32_t TimesChange::Apply(const CString& path) const

@@ -29,7 +29,8 @@ struct TimeStep
 
 /// Sets times by DateTimeFuncs::SetModifiedFileDateTime, and restores them to the file system's precision.
 ///
-/// A time is regarded as set where the file system has stored it within two seconds.
+/// A time is regarded as set where the file has it as the file system counts: in microseconds, hundredths of a second,
+/// seconds or pairs of seconds. One of the last access that has changed since is left, and the others are undone.
 class TimesChange final : public Model::Change
 {
 public:

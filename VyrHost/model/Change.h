@@ -36,6 +36,8 @@ struct ChangeLook
     ChangeState state = ChangeState::Unknown;
     /// The system's error code; 0 unless the state is Unknown.
     std::uint32_t error = 0;
+    /// What another program has changed and an undo leaves as it is, for people; empty where there is nothing.
+    std::u16string_view left = {};
 };
 
 /// One change of one file or folder, with what it sets and what was there before. It holds no path: the batch knows

@@ -229,9 +229,48 @@ TEST_F(Times, TimesSetByAnotherProgramAreNotUndone)
     EXPECT_EQ(FileTimes::GetModified(m_path), before);
     StampFile(m_path, after + 100 * FileTicks{10'000'000}, accessed);
     EXPECT_EQ(proposal.change->Look(m_path).state, ChangeState::Other);
-    // A file system may keep times to two seconds.
-    StampFile(m_path, after + FileTicks{10'000'000}, after);
+    StampFile(m_path, after + FileTicks{19'000'000}, after);
+    EXPECT_EQ(proposal.change->Look(m_path).state, ChangeState::Other) << "also less than two seconds later";
+}
+
+TEST_F(Times, TimeIsTheOneThatWasSetAlsoWhereTheFileSystemCountsInLargerSteps)
+{
+    using VyrHost::Model::ChangeState;
+    constexpr FileTicks second = 10'000'000;
+    const FileTicks whole = FileTimes::FromLocal(COleDateTime(2024, 1, 5, 10, 30, 0)).value_or(0);
+    const FileTicks set = whole + second + 1'234'567;
+    VyrHost::Metadata::TimesChange change(
+        std::vector<VyrHost::Metadata::TimeStep>{{FileDate::Modified, whole - second * 100, u"0.000000000", set}});
+    // Microseconds, hundredths of a second, seconds, pairs of seconds; the next below and the next above.
+    for (const FileTicks stored :
+         {set - 7, set + 3, set - 34'567, set + 65'433, whole + second, whole + 2 * second, whole}) {
+        StampFile(m_path, stored, stored);
+        EXPECT_EQ(change.Look(m_path).state, ChangeState::After) << stored - set;
+    }
+    for (const FileTicks stored : {set - 1, set + 10'000, whole + second / 2, whole - second, whole + 3 * second}) {
+        StampFile(m_path, stored, stored);
+        EXPECT_EQ(change.Look(m_path).state, ChangeState::Other) << stored - set;
+    }
+}
+
+TEST_F(Times, AccessSinceTheyWereSetKeepsNoOtherTimeFromUndo)
+{
+    using VyrHost::Model::ChangeState;
+    Set(FileDate::Modified, u"2024-01-05 10:30");
+    Set(FileDate::Accessed, u"2024-01-05 10:30");
+    VyrHost::Model::Entry entry;
+    const Proposal proposal = TimesRule(m_settings).Propose(m_path, entry, 0);
+    ASSERT_TRUE(proposal.change);
+    const FileTicks before = FileTimes::GetModified(m_path).value_or(0);
+    ASSERT_EQ(proposal.change->Apply(m_path), 0U);
+    const FileTicks after = FileTimes::GetModified(m_path).value_or(0);
+    const FileTicks accessed = after + 100 * FileTicks{10'000'000};
+    StampFile(m_path, after, accessed);
     EXPECT_EQ(proposal.change->Look(m_path).state, ChangeState::After);
+    EXPECT_EQ(proposal.change->Look(m_path).left, u"the time of the last access, which has changed since, stays");
+    EXPECT_EQ(proposal.change->TakeBack(m_path), 0U);
+    EXPECT_EQ(FileTimes::GetModified(m_path), before);
+    EXPECT_EQ(FileTimes::GetAccessed(m_path), accessed);
 }
 
 TEST(TimesTexts, SourcesAreReadOrRefused)
