@@ -165,7 +165,11 @@ std::uint32_t AttributesChange::Apply(const CString& path) const
         return 0;
     // The library reports only that it failed; the service below it also gives the reason.
     const std::uint32_t now = FileAttributes::Get(path);
-    return FileAttributes::Set(path, (now & ~m_bits.mask) | m_bits.value);
+    const std::uint32_t error = FileAttributes::Set(path, (now & ~m_bits.mask) | m_bits.value);
+    // Of several attributes some may have been set.
+    if (error != 0 && Look(path).state != ChangeState::Before)
+        static_cast<void>(TakeBack(path));
+    return error;
 }
 
 std::uint32_t AttributesChange::TakeBack(const CString& path) const

@@ -1,5 +1,5 @@
-// Removes and restores marks, and writes them for the journal: "NAME BYTES" for each form before, separated by
-// semicolons, the bytes in hexadecimal; "none" after.
+// Removes and restores marks, and writes them for the journal: "NAME BYTES STATE" for each form before, separated by
+// semicolons, the bytes in hexadecimal, without the last word where there is no state; "none" after.
 #include <VyrHost/metadata/Marks.h>
 
 #include <VyrHost/metadata/Changes.h>
@@ -95,10 +95,11 @@ std::shared_ptr<const Model::Change> MarkChange::Read(const CString& before, con
             protection = piece;
             continue;
         }
-        const auto bytes = FromHex(piece);
-        if (!bytes || form.name.IsEmpty())
+        const auto bytes = FromHex(TakeUpTo(piece, u' '));
+        if (!bytes || form.name.IsEmpty() || form.name == protectionWord)
             return nullptr;
         form.bytes = *bytes;
+        form.state = piece;
         forms.push_back(std::move(form));
     }
     return forms.empty() || after != noMark ? nullptr : std::make_shared<MarkChange>(std::move(forms), protection);
@@ -112,7 +113,7 @@ CString MarkChange::Before() const
     for (const ZoneForm& form : m_forms) {
         if (!text.IsEmpty())
             text += u';';
-        text += CString::Join({form.name, u" ", ToHex(form.bytes)});
+        text += CString::Join({form.name, u" ", ToHex(form.bytes), form.state.IsEmpty() ? u"" : u" ", form.state});
     }
     return text;
 }
@@ -150,15 +151,16 @@ ChangeLook MarkChange::Look(const CString& path) const
         return {ChangeState::After, 0};
     if (*now == m_forms)
         return {ChangeState::Before, 0};
-    // Of the last form that was written there may be the beginning only.
-    const auto isPartOf = [](const ZoneForm& part, const ZoneForm& whole) {
-        return part.name == whole.name && whole.bytes.starts_with(part.bytes);
-    };
-    const bool isPart = std::all_of(now->begin(), now->end(), [&](const ZoneForm& form) {
-        return std::any_of(m_forms.begin(), m_forms.end(),
-                           [&](const ZoneForm& whole) { return isPartOf(form, whole); });
-    });
+    const bool isPart = std::all_of(now->begin(), now->end(), [this](const ZoneForm& form) { return IsPart(form); });
     return {isPart ? ChangeState::Partly : ChangeState::Other, 0};
+}
+
+/// Whether it is a form of before, or one whose writing was cut off: that is empty.
+bool MarkChange::IsPart(const ZoneForm& form) const
+{
+    return std::any_of(m_forms.begin(), m_forms.end(), [&form](const ZoneForm& before) {
+        return form == before || (form.name == before.name && form.bytes.empty());
+    });
 }
 
 std::uint32_t MarkChange::Apply(const CString& path) const
@@ -167,16 +169,33 @@ std::uint32_t MarkChange::Apply(const CString& path) const
         return 0;
     // The library reports only that it failed; the service below it also gives the reason.
     const VyrPlatform::FileAttributes::LiftedReadOnly lifted(path);
-    return VyrPlatform::NamedStreams::DeleteZoneMark(path);
+    const std::uint32_t error = VyrPlatform::NamedStreams::DeleteZoneMark(path);
+    if (error != 0 && Look(path).state == ChangeState::Partly)
+        static_cast<void>(WriteMissing(path));
+    return error;
 }
 
 std::uint32_t MarkChange::TakeBack(const CString& path) const
 {
     const VyrPlatform::FileAttributes::LiftedReadOnly lifted(path);
-    for (const ZoneForm& form : m_forms)
-        if (const std::uint32_t error = VyrPlatform::NamedStreams::WriteZoneForm(path, form))
-            return error;
-    return 0;
+    return WriteMissing(path);
+}
+
+/// Writes the forms that are not as they were before, also those behind one that cannot be written.
+/// @return 0, or the first error.
+std::uint32_t MarkChange::WriteMissing(const CString& path) const
+{
+    std::uint32_t firstError = 0;
+    const auto now = VyrPlatform::NamedStreams::ReadZoneMark(path, firstError);
+    if (!now)
+        return firstError;
+    for (const ZoneForm& form : m_forms) {
+        if (std::find(now->begin(), now->end(), form) != now->end())
+            continue;
+        const std::uint32_t error = VyrPlatform::NamedStreams::WriteZoneForm(path, form);
+        firstError = firstError != 0 ? firstError : error;
+    }
+    return firstError;
 }
 
 Proposal MarkRule::Propose(const CString& path, const Model::Entry& /*entry*/, std::size_t /*index*/) const

@@ -57,6 +57,9 @@ public:
     [[nodiscard]] std::uint32_t TakeBack(const CString& path) const override;
 
 private:
+    [[nodiscard]] bool IsPart(const VyrPlatform::NamedStreams::ZoneForm& form) const;
+    [[nodiscard]] std::uint32_t WriteMissing(const CString& path) const;
+
     ZoneForms m_forms;
     CString m_protection;
 };

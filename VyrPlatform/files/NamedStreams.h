@@ -24,8 +24,15 @@ struct ZoneForm
     CString name;
     /// Its content, at most 64 KiB.
     std::string bytes;
+    /// What else is restored when it is written, in this system's words; empty where there is nothing. For a file
+    /// beside the marked one: its permissions, and when it was last changed and read.
+    CString state = {};
 
-    friend bool operator==(const ZoneForm&, const ZoneForm&) = default;
+    /// Whether both say the same of the download; their states may differ.
+    friend bool operator==(const ZoneForm& left, const ZoneForm& right) noexcept
+    {
+        return left.name == right.name && left.bytes == right.bytes;
+    }
 };
 
 /// All forms of the mark of the file at `path`; empty where it has no mark.
@@ -35,7 +42,7 @@ struct ZoneForm
                                                                                  std::uint32_t& error);
 
 /// Writes one form of the mark of the file at `path`, and replaces the present one. The file's times stay.
-/// @return 0, else the system's error code: invalid argument for a form that this system does not know.
+/// @return 0, else the system's error code: invalid argument for a form or a state that this system does not know.
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t WriteZoneForm(const CString& path, const ZoneForm& form);
 
 /// Removes the mark that the file at `path` was downloaded, in every form that this system knows. The file's times

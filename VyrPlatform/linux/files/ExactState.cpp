@@ -5,6 +5,7 @@
 #include "DosAttribute.h"
 #include "ExtendedAttributes.h"
 #include "FileStatus.h"
+#include "TimeText.h"
 
 #include <VyrPlatform/common/files/StateText.h>
 #include <VyrPlatform/files/FileAttributes.h>
@@ -32,25 +33,6 @@ constexpr std::string_view noValue = "-";
 std::span<const std::byte> Bytes(const std::optional<std::string>& value) noexcept
 {
     return value ? std::as_bytes(std::span(*value)) : std::span<const std::byte>();
-}
-
-std::string ToText(const struct statx_timestamp& time)
-{
-    char text[48];
-    const int length = std::snprintf(text, sizeof text, "%lld.%09u", static_cast<long long>(time.tv_sec), time.tv_nsec);
-    return {text, static_cast<std::size_t>(length)};
-}
-
-std::optional<struct timespec> ToTime(std::string_view text)
-{
-    const std::size_t point = text.find('.');
-    if (point == std::string_view::npos)
-        return std::nullopt;
-    const auto seconds = ReadWhole(text.substr(0, point));
-    const auto nanoseconds = ReadWhole(text.substr(point + 1));
-    if (!seconds || !nanoseconds || *nanoseconds < 0 || *nanoseconds > 999'999'999)
-        return std::nullopt;
-    return timespec{static_cast<time_t>(*seconds), static_cast<long>(*nanoseconds)};
 }
 
 std::string ToText(const std::optional<std::string>& value)
@@ -113,7 +95,7 @@ int RestoreKept(const NativePath& path, const Kept& kept, const char* ntfsName, 
 
 int RestoreTime(const NativePath& path, Part part, std::string_view text)
 {
-    const auto time = ToTime(text);
+    const auto time = ReadTimeText(text);
     struct statx now;
     if (!time)
         return EINVAL;
@@ -198,7 +180,7 @@ std::optional<TimeState> ReadTime(const CString& path, Part part, std::uint32_t&
                          Encoding::FromUtf8(ToText(ReadKept(nativePath, Extended::ntfsCreatedName))),
                          IdentityOf(status)};
     const struct statx_timestamp& time = part == Part::Modified ? status.stx_mtime : status.stx_atime;
-    return TimeState{ToTicks(time), Encoding::FromUtf8(ToText(time)), IdentityOf(status)};
+    return TimeState{ToTicks(time), Encoding::FromUtf8(ToTimeText({time.tv_sec, time.tv_nsec})), IdentityOf(status)};
 }
 
 std::uint32_t Restore(const CString& path, Part part, const CString& state)

@@ -3,13 +3,17 @@
 
 #include "Descriptor.h"
 #include "NativePath.h"
+#include "TimeText.h"
 
+#include <VyrPlatform/common/files/StateText.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstddef>
+#include <cstdint>
+#include <cstdio>
 #include <fcntl.h>
 #include <iterator>
 #include <sys/stat.h>
@@ -73,11 +77,42 @@ struct FoundForm
     std::optional<std::string> bytes;
     /// 0 where the file has no such form.
     int error = 0;
+    CString state = {};
 };
 
 FoundForm NotFound(int error)
 {
     return {std::nullopt, MeansNone(error) ? 0 : error};
+}
+
+constexpr mode_t permissions = 07777;
+
+/// What is kept of a file beside the marked one: "MODE MODIFIED ACCESSED", the mode in octal digits.
+CString StateOf(const struct stat& status)
+{
+    char mode[16];
+    std::snprintf(mode, sizeof mode, "%04o", status.st_mode & permissions);
+    return Encoding::FromUtf8(std::string(mode) + ' ' + ToTimeText(status.st_mtim) + ' ' + ToTimeText(status.st_atim));
+}
+
+struct SiblingState
+{
+    mode_t mode = 0;
+    /// Last access and last write, as futimens takes them.
+    struct timespec times[2] = {};
+};
+
+/// The inverse of StateOf; nothing for another text.
+std::optional<SiblingState> ReadState(const CString& state)
+{
+    const std::string bytes = StateBytes(state);
+    std::string_view text = bytes;
+    const auto mode = ReadWhole(TakeWord(text), 8);
+    const auto modified = ReadTimeText(TakeWord(text));
+    const auto accessed = ReadTimeText(text);
+    if (!mode || *mode < 0 || *mode > static_cast<std::int64_t>(permissions) || !modified || !accessed)
+        return std::nullopt;
+    return SiblingState{static_cast<mode_t>(*mode), {*accessed, *modified}};
 }
 
 FoundForm ReadSibling(std::u16string_view path)
@@ -99,7 +134,7 @@ FoundForm ReadSibling(std::u16string_view path)
     if (size > mostBytes)
         return NotFound(EFBIG);
     bytes.resize(size);
-    return {std::move(bytes)};
+    return {std::move(bytes), 0, StateOf(status)};
 }
 
 FoundForm ReadAttribute(const NativePath& path, const char* name)
@@ -116,19 +151,36 @@ FoundForm ReadAttribute(const NativePath& path, const char* name)
     return {std::move(bytes)};
 }
 
-int WriteSibling(std::u16string_view path, const std::string& bytes)
+int WriteAll(int file, std::string_view bytes)
 {
-    constexpr mode_t usual = 0666;
-    const NativePath sibling(WithoutSeparatorsAtEnd(path), siblingSuffix);
-    Descriptor file(open(sibling.Get(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW, usual));
-    if (!file.IsOpen())
-        return errno;
-    for (std::size_t written = 0; written < bytes.size();) {
-        const ssize_t count = write(file.Get(), bytes.data() + written, bytes.size() - written);
+    while (!bytes.empty()) {
+        const ssize_t count = write(file, bytes.data(), bytes.size());
         if (count < 0)
             return errno;
-        written += static_cast<std::size_t>(count);
+        bytes.remove_prefix(static_cast<std::size_t>(count));
     }
+    return 0;
+}
+
+/// One that is not written to its end is left empty, which nobody takes for another mark.
+int WriteSibling(std::u16string_view path, const ZoneForm& form)
+{
+    constexpr mode_t usual = 0666;
+    const auto state = ReadState(form.state);
+    if (!state && !form.state.IsEmpty())
+        return EINVAL;
+    const NativePath sibling(WithoutSeparatorsAtEnd(path), siblingSuffix);
+    // Nobody reads before its permissions are there what only some may read.
+    const mode_t mode = state ? state->mode & usual : usual;
+    Descriptor file(open(sibling.Get(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW, mode));
+    if (!file.IsOpen())
+        return errno;
+    if (const int error = WriteAll(file.Get(), form.bytes)) {
+        static_cast<void>(ftruncate(file.Get(), 0) == 0);
+        return error;
+    }
+    if (state && (fchmod(file.Get(), state->mode) != 0 || futimens(file.Get(), state->times) != 0))
+        return errno;
     return file.Close();
 }
 
@@ -144,7 +196,7 @@ std::optional<std::vector<ZoneForm>> ReadZoneMark(const CString& path, std::uint
     std::vector<ZoneForm> forms;
     const auto take = [&forms, &error](const CString& name, FoundForm found) {
         if (found.bytes)
-            forms.push_back({name, std::move(*found.bytes)});
+            forms.push_back({name, std::move(*found.bytes), found.state});
         error = static_cast<std::uint32_t>(found.error);
         return found.error == 0;
     };
@@ -162,7 +214,9 @@ std::uint32_t WriteZoneForm(const CString& path, const ZoneForm& form)
     if (access(nativePath.Get(), F_OK) != 0)
         return static_cast<std::uint32_t>(errno);
     if (form.name == zoneStream)
-        return static_cast<std::uint32_t>(WriteSibling(path, form.bytes));
+        return static_cast<std::uint32_t>(WriteSibling(path, form));
+    if (!form.state.IsEmpty())
+        return EINVAL;
     const std::string wanted = Encoding::ToUtf8(form.name);
     const auto* const name = std::find(std::begin(attributeNames), std::end(attributeNames), wanted);
     if (name == std::end(attributeNames))

@@ -85,7 +85,7 @@ std::optional<std::vector<ZoneForm>> ReadZoneMark(const CString& path, std::uint
 
 std::uint32_t WriteZoneForm(const CString& path, const ZoneForm& form)
 {
-    if (form.name != zoneStream)
+    if (form.name != zoneStream || !form.state.IsEmpty())
         return ERROR_INVALID_PARAMETER;
     if (!FileSystem::Exists(path))
         return ERROR_FILE_NOT_FOUND;

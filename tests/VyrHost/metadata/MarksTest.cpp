@@ -82,18 +82,16 @@ TEST(Mark, OfAReadOnlyFileIsRemovedAndRestored)
     VyrTests::SetReadOnly(path, false);
 }
 
-TEST(Mark, OfWhichTheBeginningOnlyWasWrittenIsAPart)
+TEST(Mark, WhoseWritingWasCutOffIsEmptyAndAPart)
 {
     const ScratchFolder scratch;
     const CString path = scratch.WriteFile(u"a", "content");
     const ZoneForm whole = Stream("[ZoneTransfer]\r\nZoneId=3\r\n");
     const MarkChange change({whole});
-    for (const std::size_t length : {std::size_t{0}, std::size_t{1}, whole.bytes.size() - 1}) {
-        ASSERT_EQ(VyrPlatform::NamedStreams::WriteZoneForm(path, Stream(whole.bytes.substr(0, length))), 0U);
-        EXPECT_EQ(change.Look(path).state, ChangeState::Partly) << length;
-        EXPECT_EQ(change.TakeBack(path), 0U);
-        EXPECT_EQ(FormsOf(path), ZoneForms{whole});
-    }
+    ASSERT_EQ(VyrPlatform::NamedStreams::WriteZoneForm(path, Stream("")), 0U);
+    EXPECT_EQ(change.Look(path).state, ChangeState::Partly);
+    EXPECT_EQ(change.TakeBack(path), 0U);
+    EXPECT_EQ(FormsOf(path), ZoneForms{whole});
 }
 
 TEST(Mark, ChangedByAnotherProgramIsNotTouched)
@@ -104,8 +102,10 @@ TEST(Mark, ChangedByAnotherProgramIsNotTouched)
     const Proposal proposal = Propose(path);
     ASSERT_TRUE(proposal.change);
     ASSERT_EQ(proposal.change->Apply(path), 0U);
-    ASSERT_EQ(VyrPlatform::NamedStreams::WriteZoneForm(path, Stream("[ZoneTransfer]\r\nZoneId=4\r\n")), 0U);
-    EXPECT_EQ(proposal.change->Look(path).state, ChangeState::Other);
+    for (const char* const bytes : {"[ZoneTransfer]\r\nZoneId=4\r\n", "[ZoneTransfer]\r\n"}) {
+        ASSERT_EQ(VyrPlatform::NamedStreams::WriteZoneForm(path, Stream(bytes)), 0U);
+        EXPECT_EQ(proposal.change->Look(path).state, ChangeState::Other) << bytes;
+    }
 }
 
 TEST(Mark, TellsTheZoneAndTheOriginOfTheFile)
@@ -129,6 +129,9 @@ TEST(Mark, JournalTextsThatAreWrongAreRefused)
     EXPECT_TRUE(MarkChange::Read(u":Zone.Identifier 00ff", u"none"));
     EXPECT_TRUE(MarkChange::Read(u"a ;b 00", u"none")) << "a form may be empty";
     EXPECT_TRUE(MarkChange::Read(u"attributes 0444 - -;a 00", u"none"));
+    const auto withState = MarkChange::Read(u":Zone.Identifier 00 0600 1.000000005 2.000000000;b 01", u"none");
+    ASSERT_TRUE(withState);
+    EXPECT_EQ(withState->Before(), u":Zone.Identifier 00 0600 1.000000005 2.000000000;b 01");
     EXPECT_FALSE(MarkChange::Read(u"attributes 0444 - -", u"none"));
     EXPECT_FALSE(MarkChange::Read(u"attributes 0444 - -;attributes 0444 - -;a 00", u"none"));
     for (const char16_t* const text : {u"", u" 00", u"a 0", u"a 0g", u"a 00;;"})

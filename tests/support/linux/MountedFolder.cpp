@@ -79,9 +79,17 @@ MountedFolder::MountedFolder(Kind kind, const std::string& options)
     else if (kind == Kind::Memory)
         m_whyNot = MountMemory(folder, options);
     else if (kind == Kind::PassedThrough)
-        m_whyNot = Run("bindfs", {m_scratch.MakeFolder(u"behind"), folder});
+        m_whyNot = MountPassedThrough(folder, options);
     else
         m_whyNot = MountExfat();
+}
+
+std::string MountedFolder::MountPassedThrough(const CString& folder, const std::string& options)
+{
+    std::vector<CString> arguments{m_scratch.MakeFolder(u"behind"), folder};
+    if (!options.empty())
+        arguments.push_back(VyrPlatform::Encoding::FromUtf8(options));
+    return Run("bindfs", arguments);
 }
 
 std::string MountedFolder::MountExfat()

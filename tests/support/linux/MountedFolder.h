@@ -23,6 +23,7 @@ public:
         Exfat
     };
 
+    /// @param options  of `mount` for one in memory, an option of bindfs for one that is passed through.
     explicit MountedFolder(Kind kind, const std::string& options = {});
     MountedFolder(const MountedFolder&) = delete;
     MountedFolder& operator=(const MountedFolder&) = delete;
@@ -34,6 +35,7 @@ public:
     [[nodiscard]] CString Path(std::u16string_view name) const;
 
 private:
+    [[nodiscard]] std::string MountPassedThrough(const CString& folder, const std::string& options);
     [[nodiscard]] std::string MountExfat();
 
     ScratchFolder m_scratch;

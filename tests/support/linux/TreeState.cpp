@@ -51,8 +51,7 @@ std::string StateOf(const char* path)
     EXPECT_EQ(lstat(path, &status), 0) << path;
     std::ostringstream text;
     text << std::oct << status.st_mode << std::dec;
-    const bool isPartOfAMark = std::string(path).ends_with(":Zone.Identifier");
-    if (!S_ISDIR(status.st_mode) && !isPartOfAMark)
+    if (!S_ISDIR(status.st_mode))
         text << " modified " << status.st_mtim.tv_sec << '.' << status.st_mtim.tv_nsec << " accessed "
              << status.st_atim.tv_sec << '.' << status.st_atim.tv_nsec;
     for (const auto& [name, value] : ExtendedAttributes(path))

@@ -11,6 +11,7 @@
 
 #include <fstream>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 
 using namespace VyrTests;
 using testing::HasSubstr;
@@ -64,9 +65,22 @@ TEST_F(ChangeFailures, OnAFileSystemWithoutExtendedAttributesLeaveAllAsItWas)
     EXPECT_EQ(TreeState(disk.Path()), tree);
 }
 
+TEST_F(ChangeFailures, OfSeveralAttributesWhereOnlyThePermissionsCanBeSetLeaveThemAsTheyWere)
+{
+    const MountedFolder disk(MountedFolder::Kind::PassedThrough, "--xattr-none");
+    if (!disk.WhyNot().empty())
+        GTEST_SKIP() << disk.WhyNot();
+    const CString path = disk.Path(u"a");
+    std::ofstream(ToStdPath(path)) << "content";
+    const auto tree = TreeState(disk.Path());
+    const ProgramResult result = Run({u"attributes", u"--set=hidden,read-only", path, u"--apply"});
+    EXPECT_EQ(result.exitCode, 1) << result.output << result.errors;
+    EXPECT_EQ(TreeState(disk.Path()), tree);
+}
+
 TEST_F(ChangeFailures, OfFilesOfOthersStandInTheirRows)
 {
-    for (const char16_t* const name : {u"mine", u"others"})
+    for (const char16_t* const name : {u"mine", u"others", u"writable"})
         StampFile(m_folder.WriteFile(name, "content"), before, before);
     const ScratchFolder journal;
     m_environment[u"VYR_JOURNAL_DIR"] = journal.Path(u"journal");
@@ -75,20 +89,43 @@ TEST_F(ChangeFailures, OfFilesOfOthersStandInTheirRows)
     if (geteuid() != 0 || RunUnprivileged({u"--version"}).exitCode != 0)
         GTEST_SKIP() << "needs root, and a program that others can run";
     ASSERT_EQ(chown(ToStdPath(m_folder.Path(u"mine")).c_str(), 65534, 65534), 0);
-    const std::vector<CString> calls[] = {{u"times", u"--set-modified=2019-09-09", u"mine", u"others", u"--apply"},
-                                          {u"attributes", u"--set=read-only,hidden", u"mine", u"others", u"--apply"}};
+    // Everybody may change its extended attributes, but only its owner its permissions and times.
+    ASSERT_EQ(chmod(ToStdPath(m_folder.Path(u"writable")).c_str(), 0666), 0);
+    const std::vector<CString> calls[] = {
+        {u"times", u"--set-modified=2019-09-09", u"mine", u"others", u"writable", u"--apply"},
+        {u"attributes", u"--set=read-only,hidden", u"mine", u"others", u"writable", u"--apply"}};
     for (const std::vector<CString>& call : calls) {
         const auto tree = TreeState(m_folder.Path());
         const ProgramResult result = RunUnprivileged(call);
         EXPECT_EQ(result.exitCode, 1) << result.errors;
         EXPECT_THAT(result.output, HasSubstr("failed: "));
-        EXPECT_THAT(result.output, HasSubstr("2 entries: 1 changed, 1 failed.\n"));
+        EXPECT_THAT(result.output, HasSubstr("3 entries: 1 changed, 2 failed.\n"));
         const auto changed = TreeState(m_folder.Path());
         EXPECT_NE(changed.at("mine"), tree.at("mine"));
         EXPECT_EQ(changed.at("others"), tree.at("others"));
+        EXPECT_EQ(changed.at("writable"), tree.at("writable"));
         EXPECT_EQ(RunUnprivileged({u"undo"}).exitCode, 0);
         EXPECT_EQ(TreeState(m_folder.Path()), tree);
     }
+}
+
+TEST_F(ChangeFailures, OfMarksOfWhichOneFormCannotBeRemovedLeaveAllForms)
+{
+    const ScratchFolder journal;
+    m_environment[u"VYR_JOURNAL_DIR"] = journal.Path(u"journal");
+    const std::string path = ToStdPath(m_folder.WriteFile(u"a", "content"));
+    StampFile(m_folder.WriteFile(u"a:Zone.Identifier", "[ZoneTransfer]\r\nZoneId=3\r\n"), before, inFuture);
+    ASSERT_EQ(setxattr(path.c_str(), "user.xdg.origin.url", "http://x", 8, 0), 0);
+    ASSERT_EQ(chmod(ToStdPath(journal.Path()).c_str(), 0777), 0);
+    ASSERT_EQ(chmod(ToStdPath(m_folder.Path()).c_str(), 0755), 0);
+    if (geteuid() != 0 || RunUnprivileged({u"--version"}).exitCode != 0)
+        GTEST_SKIP() << "needs root, and a program that others can run";
+    ASSERT_EQ(chown(path.c_str(), 65534, 65534), 0);
+    const auto tree = TreeState(m_folder.Path());
+    const ProgramResult result = RunUnprivileged({u"unblock", u"a", u"--apply"});
+    EXPECT_EQ(result.exitCode, 1) << result.output << result.errors;
+    EXPECT_THAT(result.output, HasSubstr("failed: "));
+    EXPECT_EQ(TreeState(m_folder.Path()), tree);
 }
 
 TEST_F(ChangeFailures, OfDocumentsWithoutPermissionStandInTheirRows)

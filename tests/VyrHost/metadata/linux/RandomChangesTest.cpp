@@ -50,14 +50,21 @@ protected:
                 SetAttribute(path, "user.xdg.origin.url", "https://example.org/");
             if (Below(3) == 0)
                 SetAttribute(path, "user.DosStream.Zone.Identifier:$DATA", "[ZoneTransfer]\r\nZoneId=3\r\n");
-            if (Below(4) == 0)
+            if (Below(4) == 0) {
                 std::ofstream(path + ":Zone.Identifier") << "[ZoneTransfer]\r\nZoneId=4\r\n";
-            const struct timespec times[] = {{1'600'000'000 + Below(1'000'000), Below(1'000'000'000)},
-                                             {1'500'000'000 + Below(1'000'000), Below(1'000'000'000)}};
-            ASSERT_EQ(utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
-            constexpr mode_t modes[] = {0644, 0600, 0664, 0444, 0755};
-            ASSERT_EQ(chmod(path.c_str(), modes[Below(5)]), 0);
+                Stamp(path + ":Zone.Identifier");
+            }
+            Stamp(path);
         }
+    }
+
+    void Stamp(const std::string& path)
+    {
+        const struct timespec times[] = {{1'600'000'000 + Below(1'000'000), Below(1'000'000'000)},
+                                         {1'500'000'000 + Below(1'000'000), Below(1'000'000'000)}};
+        ASSERT_EQ(utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
+        constexpr mode_t modes[] = {0644, 0600, 0664, 0444, 0755};
+        ASSERT_EQ(chmod(path.c_str(), modes[Below(5)]), 0);
     }
 
     static void SetAttribute(const std::string& path, const char* name, const std::string& value)

@@ -8,7 +8,9 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <fcntl.h>
 #include <string>
+#include <sys/stat.h>
 #include <sys/xattr.h>
 
 namespace NamedStreams = VyrPlatform::NamedStreams;
@@ -114,4 +116,43 @@ TEST(NamedStreamsForms, MarkWithoutPermissionGivesAnError)
 TEST(NamedStreamsForms, FileSystemWithoutAttributesGivesAnError)
 {
     EXPECT_NE(NamedStreams::DeleteZoneMark(u"/proc/self/status"), 0U);
+}
+
+TEST(NamedStreamsForms, FileBesideTheMarkedOneComesBackWithItsPermissionsAndTimes)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a", "content");
+    const std::string sibling = VyrTests::ToStdPath(scratch.WriteFile(u"a:Zone.Identifier", "[ZoneTransfer]"));
+    const struct timespec times[] = {{1'600'000'000, 7}, {1'500'000'000, 5}};
+    ASSERT_EQ(chmod(sibling.c_str(), 0440), 0);
+    ASSERT_EQ(utimensat(AT_FDCWD, sibling.c_str(), times, 0), 0);
+    std::uint32_t error = 0;
+    const auto forms = NamedStreams::ReadZoneMark(path, error);
+    ASSERT_TRUE(forms);
+    ASSERT_EQ(forms->size(), 1U);
+    EXPECT_EQ(forms->front().state, u"0440 1500000000.000000005 1600000000.000000007");
+    ASSERT_EQ(NamedStreams::DeleteZoneMark(path), 0U);
+    EXPECT_EQ(NamedStreams::WriteZoneForm(path, forms->front()), 0U);
+    struct stat status = {};
+    ASSERT_EQ(stat(sibling.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0440U);
+    EXPECT_EQ(status.st_mtim.tv_sec, times[1].tv_sec);
+    EXPECT_EQ(status.st_mtim.tv_nsec, times[1].tv_nsec);
+    EXPECT_EQ(status.st_atim.tv_sec, times[0].tv_sec);
+    EXPECT_EQ(status.st_atim.tv_nsec, times[0].tv_nsec);
+    EXPECT_EQ(scratch.ReadFile(u"a:Zone.Identifier"), "[ZoneTransfer]");
+}
+
+TEST(NamedStreamsForms, StatesThatAreNoneAreRefusedAndWriteNothing)
+{
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a", "content");
+    const CString name(NamedStreams::zoneStream);
+    for (const char16_t* const state :
+         {u"x", u"0644", u"0644 1.5", u"0644 1.000000005 1", u"77777 1.000000005 1.000000005"})
+        EXPECT_EQ(NamedStreams::WriteZoneForm(path, {name, "x", state}), static_cast<std::uint32_t>(EINVAL));
+    EXPECT_EQ(NamedStreams::WriteZoneForm(path, {u"user.xdg.origin.url", "x", u"0644 1.000000005 1.000000005"}),
+              static_cast<std::uint32_t>(EINVAL));
+    EXPECT_FALSE(scratch.Has(u"a:Zone.Identifier"));
+    EXPECT_FALSE(HasAttribute(path, "user.xdg.origin.url"));
 }

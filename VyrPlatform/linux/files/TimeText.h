@@ -1,0 +1,16 @@
+// Times in the texts of states.
+#pragma once
+
+#include <ctime>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace VyrPlatform {
+
+/// The seconds since 1970 and nine digits of nanoseconds: "1704450600.000000005".
+[[nodiscard]] std::string ToTimeText(const struct timespec& time);
+/// The inverse; nothing for a text that is no time.
+[[nodiscard]] std::optional<struct timespec> ReadTimeText(std::string_view text);
+
+} // namespace VyrPlatform
