@@ -7,6 +7,7 @@
 #include <VyrPlatform/linux/files/FileMetadata.h>
 #include <VyrPlatform/linux/files/FlushFolder.h>
 #include <VyrPlatform/linux/files/NativePath.h>
+#include <VyrPlatform/linux/files/OpenToLook.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <algorithm>
@@ -85,7 +86,7 @@ DocumentFile::~DocumentFile()
 int DocumentFile::Open()
 {
     const NativePath native(m_path);
-    m_file.emplace(open(native.Get(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
+    m_file.emplace(OpenToLook(native.Get(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
     if (!m_file->IsOpen() || fstat(m_file->Get(), &m_status) != 0)
         return errno;
     if (!S_ISREG(m_status.st_mode))

@@ -10,6 +10,7 @@
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/common/documents/PropertyWrites.h>
 #include <VyrPlatform/linux/files/NativePath.h>
+#include <VyrPlatform/linux/files/OpenToLook.h>
 
 #include <algorithm>
 #include <array>
@@ -210,7 +211,7 @@ std::uint32_t MakeEdit(const DocumentFile& file, const PropertyEdit& edit, const
 
 std::uint32_t ReadDocumentProperties(const CString& path, const GUID& handler, DocumentProperties& properties)
 {
-    const Descriptor file(open(NativePath(path).Get(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    const Descriptor file(OpenToLook(NativePath(path).Get(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     struct stat status;
     if (!file.IsOpen() || fstat(file.Get(), &status) != 0)
         return ToResult(errno);

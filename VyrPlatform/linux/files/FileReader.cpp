@@ -2,6 +2,7 @@
 
 #include "EnteredFolder.h"
 #include "NativePath.h"
+#include "OpenToLook.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -16,6 +17,12 @@ namespace {
 constexpr int notOpen = -1;
 /// Opening a pipe without O_NONBLOCK would wait for its other end.
 constexpr int howToOpen = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+
+int Open(const CString& path)
+{
+    const NativePath nativePath(path);
+    return OpenToLook([&nativePath](int flags) { return OpenFromEnteredFolder(nativePath.Get(), flags); }, howToOpen);
+}
 
 /// Reads the size of the regular file `descriptor`.
 /// @return 0, or the error code when it is not a regular file.
@@ -83,7 +90,7 @@ std::intptr_t KeepUnless(int error, int descriptor) noexcept
 
 FileReader::FileReader(const CString& path) : m_handle(notOpen)
 {
-    const int descriptor = OpenFromEnteredFolder(NativePath(path).Get(), howToOpen);
+    const int descriptor = Open(path);
     const int error = descriptor == notOpen ? errno : TakeSize(descriptor, m_size);
     m_error = static_cast<std::uint32_t>(error);
     m_handle = KeepUnless(error, descriptor);
@@ -91,7 +98,7 @@ FileReader::FileReader(const CString& path) : m_handle(notOpen)
 
 FileReader::FileReader(const CString& path, std::span<std::byte> beginning) : m_handle(notOpen)
 {
-    const int descriptor = OpenFromEnteredFolder(NativePath(path).Get(), howToOpen);
+    const int descriptor = Open(path);
     const int error = descriptor == notOpen ? errno : TakeBeginning(descriptor, m_size, beginning, m_beginningSize);
     m_error = static_cast<std::uint32_t>(error);
     m_handle = KeepUnless(error, descriptor);

@@ -3,6 +3,7 @@
 
 #include "Descriptor.h"
 #include "NativePath.h"
+#include "OpenToLook.h"
 #include "TimeText.h"
 
 #include <VyrPlatform/common/files/StateText.h>
@@ -118,7 +119,7 @@ std::optional<SiblingState> ReadState(const CString& state)
 FoundForm ReadSibling(std::u16string_view path)
 {
     const NativePath sibling(WithoutSeparatorsAtEnd(path), siblingSuffix);
-    const Descriptor file(open(sibling.Get(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW));
+    const Descriptor file(OpenToLook(sibling.Get(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW));
     struct stat status;
     if (!file.IsOpen() || fstat(file.Get(), &status) != 0)
         return NotFound(errno);

@@ -1,5 +1,7 @@
 // Every form in which programs on Linux mark a download.
+#include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/files/NamedStreams.h>
+#include <tests/support/FileMoments.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
 
@@ -155,4 +157,16 @@ TEST(NamedStreamsForms, StatesThatAreNoneAreRefusedAndWriteNothing)
               static_cast<std::uint32_t>(EINVAL));
     EXPECT_FALSE(scratch.Has(u"a:Zone.Identifier"));
     EXPECT_FALSE(HasAttribute(path, "user.xdg.origin.url"));
+}
+
+TEST(NamedStreamsForms, ReadingAMarkKeepsTheAccessTimeOfTheFileThatHoldsIt)
+{
+    constexpr VyrPlatform::FileTicks accessed = VyrTests::TicksOfUnixTime(1'000'000'000);
+    const ScratchFolder scratch;
+    const CString path = scratch.WriteFile(u"a");
+    const CString sibling = scratch.WriteFile(u"a:Zone.Identifier", "[ZoneTransfer]");
+    VyrTests::StampFile(sibling, accessed + 1, accessed);
+    std::uint32_t error = 0;
+    EXPECT_EQ(NamedStreams::ReadZoneMark(path, error).value().size(), 1U);
+    EXPECT_EQ(VyrPlatform::FileTimes::GetAccessed(sibling), accessed);
 }
