@@ -21,6 +21,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace VyrHost::Cli {
@@ -38,15 +39,19 @@ public:
         : m_direction(direction), m_style(style), m_batches(OpenBatches(WaitTenSeconds()))
     {}
 
-    /// Names `batch` and works on it.
+    /// Works on `batch`, and names it unless nothing can be done with it.
     /// @param number  its own, or that of its undo for a redo.
     Batch::BatchSummary Run(const Batch::BatchInformation& batch, std::uint32_t number)
     {
-        Announce(batch);
         const bool isUndo = m_direction == Batch::Direction::Backward;
         const char* const what = isUndo ? "undoing" : "redoing";
         m_report = std::make_unique<BatchReport>(what, batch.renamed.value_or(batch.entries), m_direction, m_style);
-        const Batch::BatchEntryReport collector = m_report->Collector();
+        const auto collector = [this, &batch, collect = m_report->Collector(),
+                                isNamed = false](const Batch::BatchEntry& entry) mutable {
+            if (!std::exchange(isNamed, true))
+                Announce(batch);
+            collect(entry);
+        };
         return m_style.isPreview
                    ? m_batches.PreviewReverse(number, m_direction, collector)
                    : m_batches.Reverse(number, m_direction, collector, VyrHostPlatform::Interrupt::WasAsked);
