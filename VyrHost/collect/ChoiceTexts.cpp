@@ -117,9 +117,10 @@ std::int64_t TakeDigits(std::u16string_view& text, std::size_t most, std::size_t
     return number;
 }
 
-/// A size in bytes; -1 when `text` is invalid or the size too large. Fractions of a byte are dropped.
-std::int64_t ReadSize(std::u16string_view text)
+/// A size in bytes; -1 when `text` is invalid or the size too large. What a larger unit leaves of a byte is dropped.
+std::int64_t ReadSize(std::u16string_view text, bool& isPartOfByte)
 {
+    isPartOfByte = false;
     constexpr std::size_t mostDigits = 18;
     constexpr std::size_t mostDecimals = 6;
     std::size_t count = 0;
@@ -140,6 +141,7 @@ std::int64_t ReadSize(std::u16string_view text)
     if (!IsUnit(text))
         return -1;
     const std::int64_t unit = UnitSize(text);
+    isPartOfByte = unit == 1 && parts > 1;
     if (whole > std::numeric_limits<std::int64_t>::max() / unit - 1)
         return -1;
     return whole * unit + fraction * unit / parts;
@@ -149,9 +151,12 @@ std::int64_t ReadSizeBound(std::u16string_view bound, std::int64_t open, std::u1
 {
     if (bound.empty())
         return open;
-    const std::int64_t size = ReadSize(bound);
+    bool isPartOfByte = false;
+    const std::int64_t size = ReadSize(bound, isPartOfByte);
     if (size < 0)
         Text::RefuseValue(option, text, "FROM and TO are sizes, such as 500, 16KB or \"1.5 GB\"");
+    if (isPartOfByte)
+        Text::RefuseValue(option, text, "there is no part of a byte; a fraction needs a larger unit, such as 1.5KB");
     return size;
 }
 

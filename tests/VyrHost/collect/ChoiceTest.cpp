@@ -146,7 +146,8 @@ TEST(ChoosingSizes, UnitsArePowersOf1024)
     ExpectSizes(u"1KB..1MB", 1024, 1 << 20);
     ExpectSizes(u"1 k .. 2 MiB", 1024, 2 << 20);
     ExpectSizes(u"1.5GB..2tb", 1610612736, std::int64_t{2} << 40);
-    ExpectSizes(u"0.5..0.5KB", 0, 512);
+    ExpectSizes(u"0.5KB..0.75 KB", 512, 768);
+    ExpectSizes(u"0.001KB..", 1, unlimited);
     ExpectSizes(u"3B..", 3, unlimited);
     ExpectSizes(u"..3G", 0, std::int64_t{3} << 30);
 }
@@ -159,6 +160,12 @@ TEST(ChoosingSizes, WrongRangeIsRefusedWithTheReason)
         EXPECT_NE(SizeError(text).find("FROM and TO are sizes"), std::string::npos) << SizeError(text);
     EXPECT_NE(SizeError(u"..").find("a bound is missing"), std::string::npos);
     EXPECT_NE(SizeError(u"10MB").find("FROM..TO is expected"), std::string::npos);
+}
+
+TEST(ChoosingSizes, PartOfAByteIsRefused)
+{
+    for (const char16_t* const text : {u"1.9..", u"..1.5B", u"0.5 b..1KB", u"2.0.."})
+        EXPECT_NE(SizeError(text).find("there is no part of a byte"), std::string::npos) << SizeError(text);
 }
 
 TEST(ChoosingNames, WildcardsMatchWholeNames)
