@@ -51,7 +51,8 @@ struct BatchInformation
     CString folder;
     /// How many changes it was to do.
     std::size_t entries = 0;
-    /// How many of them are done and not undone; when it was undone, those that were not found count, too.
+    /// How many of them are done and not undone; when it was undone, those that were not found, and those
+    /// that another program has changed since, count, too.
     /// Nothing where the journal does not tell: the batch or the last lines of its journal were cut off.
     std::optional<std::size_t> renamed;
     /// The last work on it ended because it was asked to.

@@ -51,7 +51,7 @@ CString ExtentOf(const Batch::BatchInformation& batch)
         text.Format(u"%u %s", batch.entries, entries);
     else
         text.Format(u"%u of %u %s%s", *batch.renamed, batch.entries, entries,
-                    std::u16string_view(batch.state == Batch::BatchState::Undone         ? u" not found"
+                    std::u16string_view(batch.state == Batch::BatchState::Undone         ? u" not undone"
                                         : batch.state == Batch::BatchState::UndonePartly ? u" left"
                                                                                          : u""));
     return text;

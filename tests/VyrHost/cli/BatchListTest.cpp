@@ -174,7 +174,7 @@ TEST_F(BatchList, CountsEntriesThatTheUndoDidNotFind)
     m_scene.Apply();
     std::filesystem::remove(ToStdPath(m_scene.Path(u"b2")));
     m_scene.Undo();
-    EXPECT_EQ(Listed(), "undone (undo 2), 1 of 3 entries not found");
+    EXPECT_EQ(Listed(), "undone (undo 2), 1 of 3 entries not undone");
     EXPECT_EQ(ListedAsJson(), R"("state":"undone","undo":2,"entries":3,"renamed":1,"stopped":false)");
 }
 

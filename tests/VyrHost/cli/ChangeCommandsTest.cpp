@@ -136,6 +136,7 @@ TEST_F(ChangeCommands, ChangesOfAnotherProgramAreNotUndone)
     EXPECT_THAT(undone.output, HasSubstr("refused: another program has changed it since"));
     EXPECT_EQ(FileTimes::GetModified(mine), TicksOfUnixTime(moment, 1'234'567));
     EXPECT_EQ(FileTimes::GetModified(other), TicksOfUnixTime(1));
+    EXPECT_THAT(Run({u"undo", u"--list"}).output, HasSubstr("undone (undo 2), 1 of 2 entries not undone"));
 }
 
 TEST_F(ChangeCommands, TimesOfReadOnlyFileAreNotSet)
