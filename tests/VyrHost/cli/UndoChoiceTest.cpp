@@ -92,8 +92,8 @@ TEST_F(UndoChoice, SkipsBatchesWhoseFilesAreGoneOrWhoseJournalIsDamaged)
     EXPECT_TRUE(m_folder.Has(u"cx"));
     EXPECT_THAT(result.errors, AllOf(HasSubstr("batch 3 is passed over: "), HasSubstr("can be deleted"),
                                      HasSubstr("\"vyr undo 2\" undoes it")));
-    EXPECT_THAT(result.output, AllOf(StartsWith("Undoing batch 1 of "), Not(HasSubstr("batch 2")),
-                                     Not(HasSubstr("batch 3"))))
+    EXPECT_THAT(result.output,
+                AllOf(StartsWith("Undoing batch 1 of "), Not(HasSubstr("batch 2")), Not(HasSubstr("batch 3"))))
         << "only what is undone is said to be";
 }
 
