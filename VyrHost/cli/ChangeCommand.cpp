@@ -1,12 +1,13 @@
 // Changes files in place, or shows them.
 #include <VyrHost/cli/ChangeCommand.h>
 
+#include <VyrHost/cli/Arguments.h>
 #include <VyrHost/cli/FileRecords.h>
-#include <VyrHost/cli/Messages.h>
+#include <VyrHost/cli/Options.h>
+#include <VyrHost/cli/RecordOptions.h>
 #include <VyrHost/text/Errors.h>
-#include <VyrHost/ui/RecordWriters.h>
+#include <VyrHost/ui/RecordTable.h>
 #include <VyrHost/ui/Terminal.h>
-#include <VyrHostPlatform/Console.h>
 #include <VyrHostPlatform/Interrupt.h>
 #include <VyrPlatform/text/Encoding.h>
 
@@ -19,6 +20,8 @@
 namespace VyrHost::Cli {
 
 namespace {
+
+constexpr const char* viewGroup = "How the list is shown where nothing is changed";
 
 std::vector<Metadata::Proposal> Propose(const Metadata::ChangeRule& rule, const Model::EntryList& list,
                                         const ReportStyle& style)
@@ -35,7 +38,18 @@ ChangeCommand::ChangeCommand(CLI::App& command, const std::string& verb, std::st
       m_run(command, {"Change the files; without it the result is only shown", "Write one JSON object for each entry",
                       "Show only what is not changed as asked"}),
       m_kind(kind), m_columns(columns)
-{}
+{
+    if (!m_columns.empty())
+        AddListOptions();
+}
+
+void ChangeCommand::AddListOptions()
+{
+    AddText(m_command, "--columns", m_chosen, "LIST",
+            ("The columns, separated by commas, or all; they are " + Ui::NamesOf(Ui::ColumnsOf(FileFields()))).c_str(),
+            viewGroup);
+    AddFlag(m_command, "--csv", m_csv, "Write a table for spreadsheets (CSV)", viewGroup);
+}
 
 int ChangeCommand::Run() const
 {
@@ -45,6 +59,7 @@ int ChangeCommand::Run() const
         throw Text::UsageError("no file is named");
     if (!rule)
         return ShowFiles(style);
+    RefuseListOptions();
     if (style.isPreview)
         OfferRecovery();
     return RunChanges(m_command.get_name(), m_kind, *rule, TakeEntries(m_sources.Read(), m_order.Read()), style);
@@ -67,24 +82,25 @@ int RunChanges(const std::string& command, std::string_view kind, const Metadata
     return ApplyAndReport({"changing", "changed", entries.size(), false, apply, note}, results, style, collected);
 }
 
+void ChangeCommand::RefuseListOptions() const
+{
+    if (m_chosen || m_csv)
+        throw Text::UsageError(std::string(m_csv ? "--csv" : "--columns") +
+                               " is for lists; nothing is listed where files are changed");
+}
+
 int ChangeCommand::ShowFiles(const ReportStyle& style) const
 {
+    constexpr ExclusivePair exclusive[] = {{"--csv", "--json"}};
+    CheckOptionPairs(m_command, exclusive);
     if (!style.isPreview)
         throw Text::UsageError("--apply changes nothing without an option that says what is to be changed");
-    const FileRecords files(m_sources.Read());
+    std::vector<std::size_t> shown = Ui::FindColumns(
+        Ui::ColumnsOf(FileFields()), m_chosen ? FromParser(*m_chosen) : CString(m_columns), "--columns");
+    const FileRecords files(m_sources.Read(), m_order.Read());
     Ui::RecordTable table = files.Table();
-    table.shown = Ui::FindColumns(table.columns, m_columns, "columns");
-    Ui::OutputBuffer output;
-    if (style.json)
-        Ui::WriteRecordJson(output, table);
-    else
-        Ui::WriteRecords(output, table, Ui::StyleOfOutput(), !style.quiet);
-    const std::string total = files.Total() + "\n";
-    if (style.json)
-        VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, total);
-    else if (!style.quiet)
-        output << total;
-    return Finish(output, files.Code());
+    table.shown = std::move(shown);
+    return WriteList(table, files.Total(), {m_csv, style.json, style.quiet}, files.Code());
 }
 
 } // namespace VyrHost::Cli

@@ -10,6 +10,7 @@
 #include <VyrHost/metadata/Changes.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -31,7 +32,8 @@ public:
 protected:
     /// @param verb     what the command does to the files, such as "change".
     /// @param kind     of its changes.
-    /// @param columns  of FileFields, separated by commas, which are shown where no change is asked for.
+    /// @param columns  of FileFields, separated by commas, which are shown where no change is asked for and no others
+    ///     are chosen; empty for a command that always changes files.
     ChangeCommand(CLI::App& command, const std::string& verb, std::string_view kind, std::u16string_view columns = {});
 
     /// The rule that the options ask for; null where they ask for no change.
@@ -39,6 +41,9 @@ protected:
     [[nodiscard]] virtual std::unique_ptr<const Metadata::ChangeRule> ReadRule() const = 0;
 
 private:
+    void AddListOptions();
+    /// @throws UsageError for an option of lists.
+    void RefuseListOptions() const;
     [[nodiscard]] int ShowFiles(const ReportStyle& style) const;
 
     SourceOptions m_sources;
@@ -46,6 +51,8 @@ private:
     RunOptions m_run;
     std::string_view m_kind;
     std::u16string_view m_columns;
+    std::optional<std::string> m_chosen;
+    bool m_csv = false;
 };
 
 } // namespace VyrHost::Cli

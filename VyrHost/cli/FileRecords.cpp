@@ -115,8 +115,8 @@ std::span<const Ui::RecordField<ListedFile>> FileFields()
     return fields;
 }
 
-FileRecords::FileRecords(const Collect::SourceSettings& sources)
-    : m_collected(TakeEntries(sources)), m_code(CodeOf(m_collected))
+FileRecords::FileRecords(const Collect::SourceSettings& sources, Collect::SortSettings order)
+    : m_collected(TakeEntries(sources, order)), m_code(CodeOf(m_collected))
 {
     const Model::EntryList& list = m_collected.list;
     m_files.reserve(list.entries.size());

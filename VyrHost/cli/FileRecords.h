@@ -3,6 +3,7 @@
 #pragma once
 
 #include <VyrHost/collect/CollectEntries.h>
+#include <VyrHost/collect/Sorting.h>
 #include <VyrHost/metadata/ListedFile.h>
 #include <VyrHost/ui/RecordTable.h>
 
@@ -23,7 +24,7 @@ namespace VyrHost::Cli {
 class FileRecords
 {
 public:
-    explicit FileRecords(const Collect::SourceSettings& sources);
+    explicit FileRecords(const Collect::SourceSettings& sources, Collect::SortSettings order = {});
     FileRecords(const FileRecords&) = delete;
     FileRecords& operator=(const FileRecords&) = delete;
 

@@ -62,20 +62,12 @@ int RecordOptions::Write(Ui::RecordTable table, const std::string& total, int co
         Ui::SortRows(table, Ui::FindColumns(table.columns, FromParser(*m_sort), "--sort").front(), m_descending);
     else if (m_descending)
         std::reverse(table.rows.begin(), table.rows.end());
-    if (m_report.IsAskedFor())
-        code = m_report.Write(table, total, code);
+    if (!m_report.IsAskedFor())
+        return WriteList(table, total, {m_csv, m_json, m_quiet}, code);
+    code = m_report.Write(table, total, code);
     Ui::OutputBuffer output;
-    if (m_csv)
-        Ui::WriteRecordCsv(output, table);
-    else if (m_json)
-        Ui::WriteRecordJson(output, table);
-    else if (!m_report.IsAskedFor())
-        Ui::WriteRecords(output, table, Ui::StyleOfOutput(), !m_quiet);
-    if (!m_quiet && !m_csv && !m_json)
+    if (!m_quiet)
         output << total << "\n";
-    output.Flush();
-    if (!m_quiet && (m_csv || m_json))
-        VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, total + "\n");
     return Finish(output, code);
 }
 
@@ -84,6 +76,24 @@ std::vector<std::size_t> RecordOptions::ShownColumns(std::span<const Ui::RecordC
     if (m_chosen)
         return Ui::FindColumns(columns, FromParser(*m_chosen), "--columns");
     return m_csv || m_json ? Ui::FindColumns(columns, u"all", "--columns") : Ui::UsualColumns(columns);
+}
+
+int WriteList(const Ui::RecordTable& table, const std::string& total, const ListForm& form, int code)
+{
+    const bool isForPeople = !form.csv && !form.json;
+    Ui::OutputBuffer output;
+    if (form.csv)
+        Ui::WriteRecordCsv(output, table);
+    else if (form.json)
+        Ui::WriteRecordJson(output, table);
+    else
+        Ui::WriteRecords(output, table, Ui::StyleOfOutput(), !form.quiet);
+    if (!form.quiet && isForPeople)
+        output << total << "\n";
+    output.Flush();
+    if (!form.quiet && !isForPeople)
+        VyrHostPlatform::Console::Write(VyrHostPlatform::Console::Stream::Error, total + "\n");
+    return Finish(output, code);
 }
 
 std::string CountedNoun(std::size_t count, const std::string& one, const std::string& many)

@@ -56,6 +56,19 @@ private:
     std::optional<std::string> m_sort;
 };
 
+/// How a list is written.
+struct ListForm
+{
+    bool csv = false;
+    bool json = false;
+    bool quiet = false;
+};
+
+/// Writes `table`, of which the columns to show are chosen.
+/// @param total  as for RecordOptions::Write.
+/// @return `code`, or ExitCode::output.
+[[nodiscard]] int WriteList(const Ui::RecordTable& table, const std::string& total, const ListForm& form, int code);
+
 /// Such as "1 program" or "3 programs".
 [[nodiscard]] std::string CountedNoun(std::size_t count, const std::string& one, const std::string& many);
 

@@ -76,6 +76,34 @@ TEST_F(ChangeCommands, TimesAreListedWithoutAChange)
     EXPECT_THAT(result.output, HasSubstr("\"accessed\":\"2024-01-05T10:31:00+00:00\""));
 }
 
+TEST_F(ChangeCommands, ListIsATableForSpreadsheetsOfTheColumnsThatAreChosen)
+{
+    Make(u"a.txt");
+    const ProgramResult times = Run({u"times", u"a.txt", u"--csv", u"--columns", u"name,size,accessed"});
+    EXPECT_EQ(times.exitCode, 0) << times.errors;
+    EXPECT_EQ(times.output, "\xEF\xBB\xBFname,size,accessed\r\na.txt,7,2024-01-05T10:31:00+00:00\r\n");
+    EXPECT_EQ(times.errors, "1 entry.\n");
+    EXPECT_THAT(Run({u"times", u"a.txt", u"--csv"}).output,
+                testing::StartsWith("\xEF\xBB\xBFname,modified,created,accessed,taken\r\n"));
+    EXPECT_THAT(Run({u"attributes", u"a.txt", u"--csv", u"--quiet"}).output,
+                testing::StartsWith("\xEF\xBB\xBFname,attributes\r\na.txt,"));
+    EXPECT_EQ(Run({u"attributes", u"a.txt", u"--json", u"--columns=size"}).output, "{\"size\":7}\n");
+}
+
+TEST_F(ChangeCommands, ListHasTheOrderThatIsAskedFor)
+{
+    for (const char16_t* const name : {u"p9", u"p10", u"p1"})
+        Make(name);
+    const auto names = [this](std::vector<CString> options) {
+        std::vector<CString> call = {u"times", u"p9", u"p10", u"p1", u"--quiet", u"--columns=name"};
+        call.insert(call.end(), options.begin(), options.end());
+        return Run(std::move(call)).output;
+    };
+    EXPECT_EQ(names({}), "p9\np10\np1\n");
+    EXPECT_EQ(names({u"--sort=name"}), "p1\np9\np10\n");
+    EXPECT_EQ(names({u"--sort=name", u"--descending"}), "p10\np9\np1\n");
+}
+
 TEST_F(ChangeCommands, RowSaysWhyAnEntryCannotBeChanged)
 {
     Make(u"IMG_20230102_030405.jpg");
@@ -215,6 +243,10 @@ TEST_F(ChangeCommands, WrongCallsAreRefusedAndChangeNothing)
         {{u"times", u"--start=2024-01-01", u"a", u"--apply"}, "--start changes nothing without --stagger"},
         {{u"times", u"--stagger=1m", u"--start=10:30", u"a"}, "a date or a date-time is expected"},
         {{u"times"}, "no file is named"},
+        {{u"times", u"--csv", u"--json", u"a"}, "exclude each other"},
+        {{u"times", u"--columns=weight", u"a"}, "the columns are name, path,"},
+        {{u"times", u"--shift=1h", u"--csv", u"a", u"--apply"}, "--csv is for lists"},
+        {{u"attributes", u"--set=R", u"--columns=name", u"a", u"--apply"}, "--columns is for lists"},
         {{u"attributes", u"--set=X", u"a", u"--apply"}, "read-only, hidden, system"},
         {{u"attributes", u"--set=RH", u"--clear=H", u"a", u"--apply"}, "--set and --clear both name H"},
         {{u"attributes", u"--clear-all", u"--clear=H", u"a", u"--apply"}, "exclude each other"},
