@@ -1,13 +1,12 @@
-// Reads amounts of time, and has the library shift by them.
+// Reads amounts of time, and shifts by them: on the clock here, by the calendar in the library.
 #include <VyrHost/metadata/Shift.h>
 
 #include <VyrHost/text/Errors.h>
 #include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
-#include <VyrPlatform/WinTypes.h>
-#include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/time/DateTimePattern.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -18,44 +17,68 @@ namespace VyrHost::Metadata {
 
 namespace {
 
-namespace FileTimes = VyrPlatform::FileTimes;
 using VyrLibraryFuncs::DateTimeFuncs;
-using VyrPlatform::FileTicks;
 
-/// `local` shifted by `amounts`, which are not all 0, by the library; invalid where it would leave the calendar: the
-/// library does not change such a date.
-COleDateTime Moved(const COleDateTime& local, const Amounts& amounts)
+bool IsValid(const COleDateTime& dateTime)
 {
-    constexpr int sameForAll = 1;
-    DateTimeFuncs::STAGGERITEM item;
-    item.numberingMode = sameForAll;
-    item.years = amounts.years;
-    item.months = amounts.months;
-    item.days = amounts.days;
-    item.hours = amounts.hours;
-    item.minutes = amounts.minutes;
-    item.seconds = amounts.seconds;
-    const FILETIME time = DateTimeFuncs::GetStaggerFileDateTime(0, 1, local, item);
-    const auto ticks =
-        static_cast<FileTicks>(std::uint64_t{time.dwHighDateTime} << 32 | std::uint64_t{time.dwLowDateTime});
-    // The library converts local time to an instant by the system's conversion; this is the inverse.
-    const COleDateTime moved = FileTimes::ToLocalForWriting(ticks);
-    if (ticks == 0 || moved == local)
+    return dateTime.GetStatus() == COleDateTime::valid;
+}
+
+constexpr std::chrono::sys_days clockStart = std::chrono::year{1601} / 1 / 1;
+
+/// What a clock shows `seconds` after SecondsOnClock's start; invalid out of the calendar, as that of DateTimeFuncs is.
+COleDateTime OnClock(std::int64_t seconds)
+{
+    using namespace std::chrono;
+    constexpr sys_days first = year{1400} / 1 / 1;
+    constexpr sys_days end = year{10'000} / 1 / 1;
+    const sys_seconds time = clockStart + std::chrono::seconds{seconds};
+    if (time < first || time >= end)
         return VyrPlatform::DateTimePattern::Invalid();
-    return moved;
+    const auto day = floor<days>(time);
+    const year_month_day date{day};
+    const hh_mm_ss clock{time - day};
+    return {static_cast<int>(date.year()),
+            static_cast<int>(static_cast<unsigned>(date.month())),
+            static_cast<int>(static_cast<unsigned>(date.day())),
+            static_cast<int>(clock.hours().count()),
+            static_cast<int>(clock.minutes().count()),
+            static_cast<int>(clock.seconds().count())};
+}
+
+/// No time zone is asked, as it has no answer for an hour that clocks skip.
+COleDateTime MovedOnClock(const COleDateTime& local, const Amounts& amounts)
+{
+    constexpr std::int64_t perMinute = 60;
+    constexpr std::int64_t perHour = 60 * perMinute;
+    return OnClock(SecondsOnClock(local) + perHour * amounts.hours + perMinute * amounts.minutes + amounts.seconds);
+}
+
+/// The library leaves a date alone that would leave the calendar.
+COleDateTime MovedByCalendar(const COleDateTime& local, const Amounts& amounts)
+{
+    const COleDateTime moved = DateTimeFuncs::GetCalDateTime(local, amounts.years, amounts.months, amounts.days);
+    return moved == local ? VyrPlatform::DateTimePattern::Invalid() : moved;
 }
 
 } // namespace
 
+std::int64_t SecondsOnClock(const COleDateTime& local)
+{
+    using namespace std::chrono;
+    const sys_days day = year{local.GetYear()} / local.GetMonth() / local.GetDay();
+    const auto time = day + hours{local.GetHour()} + minutes{local.GetMinute()} + seconds{local.GetSecond()};
+    return (time - clockStart).count();
+}
+
 std::optional<COleDateTime> Shifted(const COleDateTime& local, const Amounts& amounts)
 {
-    const Amounts onTheClock{0, 0, 0, amounts.hours, amounts.minutes, amounts.seconds};
-    const Amounts byTheCalendar{amounts.years, amounts.months, amounts.days, 0, 0, 0};
     COleDateTime shifted = local;
-    for (const Amounts& part : {onTheClock, byTheCalendar})
-        if (part != Amounts() && shifted.GetStatus() == COleDateTime::valid)
-            shifted = Moved(shifted, part);
-    return shifted.GetStatus() == COleDateTime::valid ? std::optional(shifted) : std::nullopt;
+    if (IsValid(shifted) && (amounts.hours != 0 || amounts.minutes != 0 || amounts.seconds != 0))
+        shifted = MovedOnClock(shifted, amounts);
+    if (IsValid(shifted) && (amounts.years != 0 || amounts.months != 0 || amounts.days != 0))
+        shifted = MovedByCalendar(shifted, amounts);
+    return IsValid(shifted) ? std::optional(shifted) : std::nullopt;
 }
 
 Amounts ParseAmounts(std::u16string_view text, const char* option)

@@ -4,6 +4,7 @@
 
 #include <VyrPlatform/time/COleDateTime.h>
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -27,9 +28,12 @@ struct Amounts
 /// @throws UsageError for any other text, and where all numbers are 0.
 [[nodiscard]] Amounts ParseAmounts(std::u16string_view text, const char* option);
 
+/// The seconds from 1 January 1601 00:00 to `local`, which is valid, on a clock without daylight-saving time.
+[[nodiscard]] std::int64_t SecondsOnClock(const COleDateTime& local);
+
 /// `local` shifted on the clock without daylight-saving time, and then by the calendar, as
-/// DateTimeFuncs::GetStaggerFileDateTime does it.
-/// @return nothing where the result would leave the calendar.
+/// DateTimeFuncs::GetCalDateTime does it. No time zone has a part in it: the result may be a time that clocks skip.
+/// @return nothing where the result would leave the years 1400 to 9999.
 [[nodiscard]] std::optional<COleDateTime> Shifted(const COleDateTime& local, const Amounts& amounts);
 
 } // namespace VyrHost::Metadata

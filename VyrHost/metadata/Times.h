@@ -91,7 +91,7 @@ struct TimesSettings
 {
     /// By FileDate. Without any, the time of the last change is shifted.
     std::array<std::optional<TimeSource>, fileDates.size()> sources;
-    /// By DateTimeFuncs::GetStaggerFileDateTime, on the clock without daylight-saving time.
+    /// As Shifted does it, on the clock without daylight-saving time.
     std::optional<Amounts> shift;
     /// Each file is shifted by one step more than the one before it in the list; the first is not shifted.
     std::optional<Amounts> stagger;

@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <string>
 
 using namespace VyrHost::Metadata;
@@ -165,13 +166,17 @@ TEST_F(Times, StepsCountByTheIndexInTheList)
 TEST_F(Times, TimesOutOfTheCalendarAreRefused)
 {
     const std::string refusal = "the new time lies out of the calendar's range";
-    for (const char16_t* const shift : {u"9000y", u"9000y1h", u"-500y"}) {
+    for (const char16_t* const shift : {u"9000y", u"9000y1h", u"-700y", u"-700y1s"}) {
         m_settings.shift = Step(shift);
         EXPECT_EQ(Propose(), refusal) << VyrPlatform::Encoding::ToUtf8(shift);
     }
+    m_settings.shift = Step(u"-500y");
+    EXPECT_EQ(Propose(), "a file's time begins in 1601");
     m_settings = {};
     m_settings.stagger = Step(u"1000000s");
     EXPECT_EQ(Propose(1'000'000), refusal) << "no number wraps";
+    m_settings.stagger = Step(u"1000000h");
+    EXPECT_EQ(Propose(100), refusal);
 }
 
 TEST_F(Times, TypedTimesAreLocalInSummerAndInWinter)
@@ -195,13 +200,53 @@ TEST_F(Times, TypedTimesAreLocalInSummerAndInWinter)
     }
 }
 
+TEST(TimesTexts, OldTimesAreShifted)
+{
+    const COleDateTime old(1850, 2, 1, 12, 0, 0);
+    EXPECT_EQ(Shown(Shifted(old, Step(u"-1d1s")).value_or(COleDateTime())), u"1850-01-31 11:59:59");
+    EXPECT_EQ(Shown(Shifted(old, Step(u"100y")).value_or(COleDateTime())), u"1950-02-01 12:00:00");
+}
+
 TEST_F(Times, HourThatClocksSkipIsRefused)
 {
     const TimeZone zone("Europe/Berlin");
     if (!zone.IsSet())
         GTEST_SKIP() << zone.WhyNot();
+    Stamp(COleDateTime(2020, 5, 6, 7, 8, 9));
     Set(FileDate::Modified, u"2024-03-31 02:30");
     EXPECT_EQ(Propose(), "clocks leave 2024-03-31 02:30:00 out");
+    Set(FileDate::Modified, u"2024-03-30 02:30");
+    m_settings.shift = Step(u"1d");
+    EXPECT_EQ(Propose(), "clocks leave 2024-03-31 02:30:00 out");
+    Set(FileDate::Modified, u"2024-03-31 01:30");
+    m_settings.shift = Step(u"1h");
+    EXPECT_EQ(Propose(), "clocks leave 2024-03-31 02:30:00 out");
+    m_settings.shift = Step(u"2h");
+    EXPECT_EQ(Propose(), "modified 2020-05-06 07:08:09 => modified 2024-03-31 03:30:00");
+}
+
+TEST_F(Times, ShiftAndStepsPassThroughTimesThatClocksSkip)
+{
+    const TimeZone zone("Europe/Berlin");
+    if (!zone.IsSet())
+        GTEST_SKIP() << zone.WhyNot();
+    const std::string old = "modified 2020-05-06 07:08:09 => modified ";
+    Stamp(COleDateTime(2020, 5, 6, 7, 8, 9));
+    Set(FileDate::Modified, u"2024-03-31 01:30");
+    m_settings.shift = Step(u"1y1h");
+    EXPECT_EQ(Propose(), old + "2025-03-31 02:30:00") << "the hour alone would be skipped";
+    m_settings.shift.reset();
+    m_settings.start = COleDateTime(2024, 3, 31, 1, 0, 0);
+    m_settings.stagger = Step(u"30m");
+    const std::string expected[] = {old + "2024-03-31 01:00:00",
+                                    old + "2024-03-31 01:30:00",
+                                    "clocks leave 2024-03-31 02:00:00 out",
+                                    "clocks leave 2024-03-31 02:30:00 out",
+                                    old + "2024-03-31 03:00:00",
+                                    old + "2024-03-31 03:30:00",
+                                    old + "2024-03-31 04:00:00"};
+    for (std::size_t index = 0; index < std::size(expected); ++index)
+        EXPECT_EQ(Propose(index), expected[index]) << index;
 }
 
 TEST_F(Times, MissingFileIsRefusedWithTheSystemsReason)
