@@ -41,6 +41,8 @@ struct LocalTime
     FileTicks fraction = 0;
     /// The exact instant, where it is a time of a file and not shifted.
     FileTicks exact = 0;
+    /// How many seconds clocks were ahead of UTC at the file's time, where it is one.
+    std::optional<FileTicks> ahead{};
 };
 
 bool IsValid(const COleDateTime& dateTime)
@@ -68,13 +70,17 @@ LocalTime FromTicks(FileTicks ticks)
     const COleDateTime value = FileTimes::ToLocal(ticks);
     if (!IsValid(value))
         throw Refusal{u"its time lies out of the calendar's range"};
-    return {value, ((ticks % ticksPerSecond) + ticksPerSecond) % ticksPerSecond, ticks};
+    const FileTicks fraction = ((ticks % ticksPerSecond) + ticksPerSecond) % ticksPerSecond;
+    return {value, fraction, ticks, SecondsOnClock(value) - (ticks - fraction) / ticksPerSecond};
 }
 
-/// The typed date-time; a missing part is taken from `own`.
-COleDateTime Completed(const Text::TypedDateTime& typed, const COleDateTime& own)
+/// The typed date-time, of which a part is missing, with that of the file's `own`: a time of day to its fraction of a
+/// second, and in the occurrence that it is of an hour that exists twice.
+LocalTime Completed(const Text::TypedDateTime& typed, const LocalTime& own)
 {
-    return DateTimeUtils::CombineDateTime(typed.hasDate ? typed.value : own, typed.hasTime ? typed.value : own);
+    if (typed.hasTime)
+        return {DateTimeUtils::CombineDateTime(own.value, typed.value)};
+    return {DateTimeUtils::CombineDateTime(typed.value, own.value), own.fraction, 0, own.ahead};
 }
 
 Text::TypedDateTime DateOfPicture(const CString& path)
@@ -114,8 +120,8 @@ LocalTime FromSource(const TimeSource& source, const CString& path, const Model:
                                       : source.kind == TimeSource::Kind::Picture ? DateOfPicture(path)
                                                                                  : DateOfName(entry.name);
     if (typed.hasDate && typed.hasTime)
-        return {typed.value, 0, 0};
-    return {Completed(typed, FromTicks(RequireTicks(path, date)).value), 0, 0};
+        return {typed.value};
+    return Completed(typed, FromTicks(RequireTicks(path, date)));
 }
 
 constexpr int Amounts::*allAmounts[] = {&Amounts::years, &Amounts::months,  &Amounts::days,
@@ -145,6 +151,16 @@ void Move(LocalTime& local, const Amounts& amounts)
     local.exact = 0;
 }
 
+/// `first`, or the second instant at which clocks show the same, where it has the offset that the file's time has: a
+/// shift within an hour that exists twice stays in its occurrence.
+FileTicks OccurrenceOf(const LocalTime& local, FileTicks first)
+{
+    if (!local.ahead)
+        return first;
+    const FileTicks sameOffset = (SecondsOnClock(local.value) - *local.ahead) * ticksPerSecond;
+    return FileTimes::ToLocal(sameOffset) == local.value ? sameOffset : first;
+}
+
 /// The instant at which clocks show `local`.
 FileTicks ToInstant(const LocalTime& local)
 {
@@ -155,7 +171,7 @@ FileTicks ToInstant(const LocalTime& local)
         throw Refusal{u"a file's time begins in 1601"};
     if (FileTimes::ToLocal(*ticks) != local.value)
         throw Refusal{CString::Join({u"clocks leave ", Shown(local.value), u" out"})};
-    return *ticks + local.fraction;
+    return OccurrenceOf(local, *ticks) + local.fraction;
 }
 
 } // namespace
@@ -177,8 +193,7 @@ Proposal TimesRule::Propose(const CString& path, const Model::Entry& entry, std:
             const auto& source = m_settings.sources[static_cast<std::size_t>(date)];
             if (!source)
                 continue;
-            LocalTime local =
-                m_settings.start ? LocalTime{*m_settings.start, 0, 0} : FromSource(*source, path, entry, date);
+            LocalTime local = m_settings.start ? LocalTime{*m_settings.start} : FromSource(*source, path, entry, date);
             if (m_settings.stagger)
                 Move(local, Times(*m_settings.stagger, index));
             if (m_settings.shift)

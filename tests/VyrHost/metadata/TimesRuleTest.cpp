@@ -59,6 +59,19 @@ protected:
             CString::Join({proposal.change->ShownBefore(), u" => ", proposal.change->ShownAfter()}));
     }
 
+    /// The exact new time; 0, and the test fails, where not one time would be changed.
+    FileTicks TimeProposed() const
+    {
+        VyrHost::Model::Entry entry;
+        entry.name = m_names.Intern(m_name);
+        const Proposal proposal = TimesRule(m_settings).Propose(m_path, entry, 0);
+        const auto* const change = dynamic_cast<const TimesChange*>(proposal.change.get());
+        if (change && change->Steps().size() == 1)
+            return change->Steps().front().after;
+        ADD_FAILURE() << VyrPlatform::Encoding::ToUtf8(proposal.refusal);
+        return 0;
+    }
+
     void ExpectRoundTrip(const VyrHost::Model::Change& change) const
     {
         using VyrHost::Model::ChangeState;
@@ -101,15 +114,24 @@ TEST_F(Times, OtherPartOfADateOrATimeIsThatOfTheFile)
     EXPECT_EQ(Propose(), "accessed 2021-01-02 03:04:05 => accessed 2021-01-02 10:30:00");
 }
 
+TEST_F(Times, TimeOfDayOfTheFileIsKeptWithItsFraction)
+{
+    const FileTicks fraction = FileTimes::GetModified(m_path).value_or(0) % 10'000'000;
+    ASSERT_NE(fraction, 0);
+    Set(FileDate::Modified, u"2022-02-02");
+    EXPECT_EQ(TimeProposed(), *FileTimes::FromLocal(COleDateTime(2022, 2, 2, 7, 8, 9)) + fraction);
+    m_name = u"IMG-20240105-WA0001.jpg";
+    Set(FileDate::Modified, u"from:name");
+    EXPECT_EQ(TimeProposed(), *FileTimes::FromLocal(COleDateTime(2024, 1, 5, 7, 8, 9)) + fraction);
+    Set(FileDate::Modified, u"10:30");
+    EXPECT_EQ(TimeProposed(), *FileTimes::FromLocal(COleDateTime(2020, 5, 6, 10, 30, 0)));
+}
+
 TEST_F(Times, AnotherTimeOfTheFileIsTakenWithItsFraction)
 {
     Set(FileDate::Accessed, u"from:modified");
     EXPECT_EQ(Propose(), "accessed 2021-01-02 03:04:05 => accessed 2020-05-06 07:08:09");
-    const auto steps =
-        dynamic_cast<const TimesChange&>(*TimesRule(m_settings).Propose(m_path, VyrHost::Model::Entry(), 0).change)
-            .Steps();
-    ASSERT_EQ(steps.size(), 1U);
-    EXPECT_EQ(steps.front().after, FileTimes::GetModified(m_path));
+    EXPECT_EQ(TimeProposed(), FileTimes::GetModified(m_path));
 }
 
 TEST_F(Times, FileThatHasTheTimeAlreadyIsUnchanged)
@@ -247,6 +269,40 @@ TEST_F(Times, ShiftAndStepsPassThroughTimesThatClocksSkip)
                                     old + "2024-03-31 04:00:00"};
     for (std::size_t index = 0; index < std::size(expected); ++index)
         EXPECT_EQ(Propose(index), expected[index]) << index;
+}
+
+TEST_F(Times, HourThatExistsTwiceKeepsTheOffsetOfTheFile)
+{
+    const TimeZone zone("Europe/Berlin");
+    if (!zone.IsSet())
+        GTEST_SKIP() << zone.WhyNot();
+    constexpr FileTicks second = 10'000'000;
+    constexpr FileTicks hour = 3600 * second;
+    constexpr FileTicks summer = TicksOfUnixTime(1'729'989'000, 1'234'567); // 2024-10-27 00:30 UTC, 02:30 there
+    constexpr FileTicks winter = summer + hour;
+    const struct
+    {
+        const char16_t* shift;
+        FileTicks before;
+        FileTicks after;
+    } shifts[] = {
+        {u"1s", summer, summer + second},     {u"1s", winter, winter + second},
+        {u"-30m", winter, winter - hour / 2}, {u"-1h", winter + hour, winter},
+        {u"1h", summer - hour, summer},       {u"1h", summer, winter + hour}, // counted on the clock
+        {u"-1h", winter, summer - hour},                                      // likewise
+        {u"-1d", winter, winter - 25 * hour}, {u"-1d", winter + 24 * hour, winter},
+    };
+    for (const auto& [shift, before, after] : shifts) {
+        m_settings.shift = Step(shift);
+        StampFile(m_path, before, before);
+        EXPECT_EQ(TimeProposed(), after) << VyrPlatform::Encoding::ToUtf8(shift);
+    }
+    m_settings.shift.reset();
+    StampFile(m_path, winter, winter);
+    Set(FileDate::Modified, u"2024-10-27");
+    EXPECT_EQ(Propose(), "") << "the file has that date";
+    Set(FileDate::Modified, u"2024-10-27 02:30:00");
+    EXPECT_EQ(TimeProposed(), summer - 1'234'567) << "the first of both, as nothing tells which";
 }
 
 TEST_F(Times, MissingFileIsRefusedWithTheSystemsReason)
