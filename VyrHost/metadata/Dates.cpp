@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 
 namespace VyrHost::Metadata {
 
@@ -97,6 +98,19 @@ public:
         return separator;
     }
 
+    /// Reads `text` if it is at the front.
+    bool TakeText(std::u16string_view text)
+    {
+        if (!m_rest.starts_with(text))
+            return false;
+        m_rest.remove_prefix(text.size());
+        return true;
+    }
+
+    [[nodiscard]] bool StartsWithCapital() const
+    {
+        return !m_rest.empty() && m_rest.front() >= u'A' && m_rest.front() <= u'Z';
+    }
     [[nodiscard]] bool StartsWithDigit() const { return CountDigits() > 0; }
     [[nodiscard]] std::size_t CountDigits() const
     {
@@ -129,22 +143,54 @@ bool TakeDay(Front& front, Day& day)
     return front.TakeNumber(2, day.day);
 }
 
-struct Time
+enum class TimeForm : std::uint8_t
 {
-    COleDateTime dateTime;
-    int milliseconds = 0;
+    None,
+    Time,
+    /// Hour, minute and second have two digits each, but there is no such time.
+    Impossible
 };
 
-/// The time of day at the front of `text`, on `day`; invalid where there is none.
-Time TakeTime(Front front, const Day& day)
+/// A time of day.
+struct Time
 {
-    constexpr std::u16string_view separators = u"-_.:";
-    Time none;
-    none.dateTime.SetStatus(COleDateTime::invalid);
+    TimeForm form = TimeForm::None;
     int hour = 0;
     int minute = 0;
     int second = 0;
-    front.TakeSeparator(u"-_.T ");
+    int milliseconds = 0;
+};
+
+/// Whether AM or PM follows, as screenshots have it, with a narrow blank before it or another.
+bool TakeHalfOfDay(Front& front, bool& isAfternoon)
+{
+    front.TakeSeparator(u" \u00a0\u202f");
+    isAfternoon = front.TakeText(u"PM");
+    return (isAfternoon || front.TakeText(u"AM")) && !front.StartsWithCapital();
+}
+
+/// `hour`, of 1 to 12, of that half of the day; another hour is none of a half.
+int HourOfDay(int hour, bool isAfternoon)
+{
+    constexpr int noon = 12;
+    if (hour < 1 || hour > noon)
+        return hour;
+    return hour % noon + (isAfternoon ? noon : 0);
+}
+
+/// The time of day at the front of a text.
+Time TakeTime(Front front)
+{
+    constexpr std::u16string_view separators = u"-_.:";
+    constexpr int hoursPerDay = 24;
+    constexpr int sixty = 60;
+    const Time none;
+    int hour = 0;
+    int minute = 0;
+    int second = 0;
+    const bool isSentence = front.TakeText(u" at ");
+    if (!isSentence)
+        front.TakeSeparator(u"-_.T ");
     if (!front.TakeNumber(2, hour))
         return none;
     const bool isSeparated = front.TakeSeparator(separators) != 0;
@@ -157,10 +203,15 @@ Time TakeTime(Front front, const Day& day)
     const std::size_t behind = front.CountDigits();
     if ((!hasSecond && !isSeparated) || (behind != 0 && behind != digitsOfFraction))
         return none;
+    if (hour >= hoursPerDay || minute >= sixty || second >= sixty)
+        return {hasSecond && behind == 0 ? TimeForm::Impossible : TimeForm::None};
     int milliseconds = 0;
     if (hasSecond && (behind != 0 || front.TakeSeparator(u".,") != 0) && front.CountDigits() == digitsOfFraction)
         front.TakeNumber(digitsOfFraction, milliseconds);
-    return {COleDateTime(day.year, day.month, day.day, hour, minute, second), milliseconds};
+    bool isAfternoon = false;
+    if (isSentence && TakeHalfOfDay(front, isAfternoon))
+        hour = HourOfDay(hour, isAfternoon);
+    return {TimeForm::Time, hour, minute, second, milliseconds};
 }
 
 bool IsPossible(const COleDateTime& dateTime)
@@ -180,18 +231,21 @@ std::optional<NameDate> FindNameDate(std::u16string_view name, NameDateProblem& 
         Day day;
         if (!TakeDay(front, day))
             continue;
-        const COleDateTime date(day.year, day.month, day.day, 0, 0, 0);
-        const Time time = TakeTime(front, day);
-        const bool hasTime = IsPossible(time.dateTime);
+        const Time time = TakeTime(front);
         // More digits that are not a time belong to a number of another sort.
-        if (front.StartsWithDigit() && !hasTime)
+        if (front.StartsWithDigit() && time.form != TimeForm::Time)
             continue;
+        const COleDateTime date(day.year, day.month, day.day, time.hour, time.minute, time.second);
         if (!IsPossible(date)) {
             problem = NameDateProblem::NoSuchDay;
             continue;
         }
+        if (time.form == TimeForm::Impossible) {
+            problem = NameDateProblem::NoSuchTime;
+            continue;
+        }
         problem = NameDateProblem::None;
-        return NameDate{hasTime ? time.dateTime : date, hasTime, hasTime ? time.milliseconds : 0};
+        return NameDate{date, time.form == TimeForm::Time, time.milliseconds};
     }
     return std::nullopt;
 }

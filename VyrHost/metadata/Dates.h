@@ -45,7 +45,9 @@ enum class NameDateProblem : std::uint8_t
     /// No digits have the form of a date.
     NoDate,
     /// Some have, but there is no such day.
-    NoSuchDay
+    NoSuchDay,
+    /// There is such a day, but not the time behind it.
+    NoSuchTime
 };
 
 /// A date in a name.
@@ -59,9 +61,10 @@ struct NameDate
 
 /// Finds the first date in `name`: a year from 1900 to 2099, a month and a day, without separators or with the same one
 /// of `-`, `_`, `.` and blank between them, and with no digit before it. A time of day may follow directly or after one
-/// of `-`, `_`, `.`, `T` and blank: two digits each for hour, minute and optionally second, without separators or with
-/// `-`, `_`, `.` or `:` between them; three digits of milliseconds may follow, also after `.` or `,`. An impossible
-/// time is ignored.
+/// of `-`, `_`, `.`, `T`, blank and " at ": two digits each for hour, minute and optionally second, without separators
+/// or with `-`, `_`, `.` or `:` between them; three digits of milliseconds may follow, also after `.` or `,`, and
+/// behind " at " AM or PM. A date with hour, minute and second behind it that are no time is passed over, as one of no
+/// possible day is; other digits behind it are no time.
 ///
 /// "IMG_20240105_103000.jpg" and "2024-01-05 10.30.00.jpg" contain 5 January 2024 10:30:00, "IMG-20240105-WA0001.jpg"
 /// contains 5 January 2024 without a time.

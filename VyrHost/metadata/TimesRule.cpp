@@ -92,13 +92,26 @@ Text::TypedDateTime DateOfPicture(const CString& path)
     return {taken, true, true};
 }
 
+const char16_t* ReasonOf(NameDateProblem problem)
+{
+    switch (problem) {
+    case NameDateProblem::NoSuchDay:
+        return u"the date in its name does not exist";
+    case NameDateProblem::NoSuchTime:
+        return u"the time in its name does not exist";
+    case NameDateProblem::None:
+    case NameDateProblem::NoDate:
+        break;
+    }
+    return u"its name holds no date";
+}
+
 Text::TypedDateTime DateOfName(std::u16string_view name)
 {
     NameDateProblem problem = NameDateProblem::None;
     const auto found = FindNameDate(name, problem);
     if (!found)
-        throw Refusal{problem == NameDateProblem::NoSuchDay ? u"the date in its name does not exist"
-                                                            : u"its name holds no date"};
+        throw Refusal{ReasonOf(problem)};
     return {found->value, true, found->hasTime};
 }
 

@@ -150,6 +150,8 @@ TEST_F(Times, DateInTheNameIsTaken)
     EXPECT_EQ(Propose(), "modified 2020-05-06 07:08:09 => modified 2024-01-05 07:08:09");
     m_name = u"2024-02-30.jpg";
     EXPECT_EQ(Propose(), "the date in its name does not exist");
+    m_name = u"IMG_20240105_253000.jpg";
+    EXPECT_EQ(Propose(), "the time in its name does not exist");
 }
 
 TEST_F(Times, MomentOfThePictureIsTaken)
