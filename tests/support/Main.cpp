@@ -16,19 +16,11 @@ constexpr std::chrono::minutes patience(10);
 /// What `timeout` ends with, too.
 constexpr int exitOfHung = 124;
 
-/// Ends the program when a test runs for longer than `patience`, and prints its name.
-class HangWatch : public testing::EmptyTestEventListener
+/// The test that runs, and a thread that watches it. Neither ever ends: a copy of the process that a test makes has no
+/// such thread that it could wait for.
+class Watch
 {
 public:
-    HangWatch() : m_watcher([this](const std::stop_token& stop) { Watch(stop); }) {}
-
-    void OnTestStart(const testing::TestInfo& test) override
-    {
-        Begin(std::string(test.test_suite_name()) + "." + test.name());
-    }
-    void OnTestEnd(const testing::TestInfo&) override { Begin(""); }
-
-private:
     void Begin(const std::string& test)
     {
         const std::lock_guard lock(m_mutex);
@@ -37,13 +29,12 @@ private:
         m_changed.notify_all();
     }
 
-    void Watch(const std::stop_token& stop)
+    [[noreturn]] void Run()
     {
         std::unique_lock lock(m_mutex);
-        while (!stop.stop_requested()) {
+        for (;;) {
             const int number = m_number;
-            const bool isNext = m_changed.wait_for(lock, stop, patience, [&] { return m_number != number; });
-            if (isNext || m_test.empty() || stop.stop_requested())
+            if (m_changed.wait_for(lock, patience, [&] { return m_number != number; }) || m_test.empty())
                 continue;
             std::fprintf(stderr, "%s hangs: it has run for %d minutes\n", m_test.c_str(),
                          static_cast<int>(patience.count()));
@@ -51,12 +42,28 @@ private:
         }
     }
 
+private:
     std::mutex m_mutex;
-    std::condition_variable_any m_changed;
+    std::condition_variable m_changed;
     /// Empty between two tests.
     std::string m_test;
     int m_number = 0;
-    std::jthread m_watcher;
+};
+
+/// Tells the watch which test runs.
+class WatchTests : public testing::EmptyTestEventListener
+{
+public:
+    WatchTests() { std::thread(&Watch::Run, &m_watch).detach(); }
+
+    void OnTestStart(const testing::TestInfo& test) override
+    {
+        m_watch.Begin(std::string(test.test_suite_name()) + "." + test.name());
+    }
+    void OnTestEnd(const testing::TestInfo&) override { m_watch.Begin(""); }
+
+private:
+    Watch& m_watch = *new Watch;
 };
 
 } // namespace
@@ -64,6 +71,6 @@ private:
 int main(int count, char** arguments)
 {
     testing::InitGoogleMock(&count, arguments);
-    testing::UnitTest::GetInstance()->listeners().Append(new HangWatch);
+    testing::UnitTest::GetInstance()->listeners().Append(new WatchTests);
     return RUN_ALL_TESTS();
 }

@@ -32,7 +32,7 @@ TEST_F(TransferCommandLinux, InterruptBeforeAFolderPreventsIt)
     const auto runInterrupted = [&call] {
         VyrHostPlatform::Interrupt::Catch();
         std::raise(SIGINT);
-        std::exit(VyrHost::Cli::RunProgram(call));
+        std::_Exit(VyrHost::Cli::RunProgram(call));
     };
     EXPECT_EXIT(runInterrupted(), testing::ExitedWithCode(130), "from' not reached");
     EXPECT_EQ(m_folder.ReadFile(u"from/a"), "1");
@@ -54,7 +54,7 @@ TEST_F(TransferCommandLinux, InterruptInAFolderFinishesItAndIsReported)
             std::raise(SIGINT);
             std::this_thread::sleep_for(std::chrono::milliseconds(250));
         });
-        std::exit(VyrHost::Cli::RunProgram(call));
+        std::_Exit(VyrHost::Cli::RunProgram(call));
     };
     EXPECT_EXIT(runInterrupted(), testing::ExitedWithCode(130),
                 "vyr: interrupted; '.*one' is finished first .*\n.*vyr: '.*two' not reached\n$");
