@@ -26,26 +26,6 @@ bool IsValid(const COleDateTime& dateTime)
 
 constexpr std::chrono::sys_days clockStart = std::chrono::year{1601} / 1 / 1;
 
-/// What a clock shows `seconds` after SecondsOnClock's start; invalid out of the calendar, as that of DateTimeFuncs is.
-COleDateTime OnClock(std::int64_t seconds)
-{
-    using namespace std::chrono;
-    constexpr sys_days first = year{1400} / 1 / 1;
-    constexpr sys_days end = year{10'000} / 1 / 1;
-    const sys_seconds time = clockStart + std::chrono::seconds{seconds};
-    if (time < first || time >= end)
-        return VyrPlatform::DateTimePattern::Invalid();
-    const auto day = floor<days>(time);
-    const year_month_day date{day};
-    const hh_mm_ss clock{time - day};
-    return {static_cast<int>(date.year()),
-            static_cast<int>(static_cast<unsigned>(date.month())),
-            static_cast<int>(static_cast<unsigned>(date.day())),
-            static_cast<int>(clock.hours().count()),
-            static_cast<int>(clock.minutes().count()),
-            static_cast<int>(clock.seconds().count())};
-}
-
 /// No time zone is asked, as it has no answer for an hour that clocks skip.
 COleDateTime MovedOnClock(const COleDateTime& local, const Amounts& amounts)
 {
@@ -69,6 +49,25 @@ std::int64_t SecondsOnClock(const COleDateTime& local)
     const sys_days day = year{local.GetYear()} / local.GetMonth() / local.GetDay();
     const auto time = day + hours{local.GetHour()} + minutes{local.GetMinute()} + seconds{local.GetSecond()};
     return (time - clockStart).count();
+}
+
+COleDateTime OnClock(std::int64_t seconds)
+{
+    using namespace std::chrono;
+    constexpr sys_days first = year{1400} / 1 / 1;
+    constexpr sys_days end = year{10'000} / 1 / 1;
+    const sys_seconds time = clockStart + std::chrono::seconds{seconds};
+    if (time < first || time >= end)
+        return VyrPlatform::DateTimePattern::Invalid();
+    const auto day = floor<days>(time);
+    const year_month_day date{day};
+    const hh_mm_ss clock{time - day};
+    return {static_cast<int>(date.year()),
+            static_cast<int>(static_cast<unsigned>(date.month())),
+            static_cast<int>(static_cast<unsigned>(date.day())),
+            static_cast<int>(clock.hours().count()),
+            static_cast<int>(clock.minutes().count()),
+            static_cast<int>(clock.seconds().count())};
 }
 
 std::optional<COleDateTime> Shifted(const COleDateTime& local, const Amounts& amounts)

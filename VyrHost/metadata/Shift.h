@@ -30,6 +30,8 @@ struct Amounts
 
 /// The seconds from 1 January 1601 00:00 to `local`, which is valid, on a clock without daylight-saving time.
 [[nodiscard]] std::int64_t SecondsOnClock(const COleDateTime& local);
+/// The inverse; invalid out of the years 1400 to 9999, which are the calendar of DateTimeFuncs.
+[[nodiscard]] COleDateTime OnClock(std::int64_t seconds);
 
 /// `local` shifted on the clock without daylight-saving time, and then by the calendar, as
 /// DateTimeFuncs::GetCalDateTime does it. No time zone has a part in it: the result may be a time that clocks skip.

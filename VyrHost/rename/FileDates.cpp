@@ -15,22 +15,13 @@ using VyrLibraryUtils::DateTimeUtils;
 using VyrPlatform::FileTicks;
 
 /// What `zone` shows at `instant`.
-COleDateTime OnClock(FileTicks instant, const ZoneClock& zone)
+COleDateTime ShownBy(const ZoneClock& zone, FileTicks instant)
 {
     using namespace std::chrono;
     using Ticks = duration<FileTicks, std::ratio<1, 10'000'000>>;
-    constexpr sys_days firstDay = year{1601} / 1 / 1;
-    const sys_seconds universal = firstDay + floor<seconds>(Ticks{instant});
-    const auto time = universal + seconds{zone.SecondsAhead(universal.time_since_epoch().count())};
-    const auto day = floor<days>(time);
-    const year_month_day date{day};
-    const hh_mm_ss clock{time - day};
-    return {static_cast<int>(date.year()),
-            static_cast<int>(static_cast<unsigned>(date.month())),
-            static_cast<int>(static_cast<unsigned>(date.day())),
-            static_cast<int>(clock.hours().count()),
-            static_cast<int>(clock.minutes().count()),
-            static_cast<int>(clock.seconds().count())};
+    const seconds universal = floor<seconds>(Ticks{instant});
+    const seconds unixTime = universal + (sys_days(year{1601} / 1 / 1) - sys_days());
+    return Metadata::OnClock(universal.count() + zone.SecondsAhead(unixTime.count()));
 }
 
 bool IsInContent(DateSource source)
@@ -43,7 +34,7 @@ bool IsInContent(DateSource source)
 bool Adjust(FileMoment& moment, const DateSettings& settings)
 {
     if (settings.clock && moment.instant)
-        moment.local = OnClock(*moment.instant, *settings.clock);
+        moment.local = ShownBy(*settings.clock, *moment.instant);
     if (settings.shift) {
         const auto shifted = Metadata::Shifted(moment.local, *settings.shift);
         if (!shifted)
