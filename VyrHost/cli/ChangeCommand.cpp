@@ -21,7 +21,7 @@ namespace VyrHost::Cli {
 
 namespace {
 
-constexpr const char* viewGroup = "How the list is shown where nothing is changed";
+constexpr const char* listGroup = "How the list is shown where nothing is changed";
 
 std::vector<Metadata::Proposal> Propose(const Metadata::ChangeRule& rule, const Model::EntryList& list,
                                         const ReportStyle& style)
@@ -47,8 +47,8 @@ void ChangeCommand::AddListOptions()
 {
     AddText(m_command, "--columns", m_chosen, "LIST",
             ("The columns, separated by commas, or all; they are " + Ui::NamesOf(Ui::ColumnsOf(FileFields()))).c_str(),
-            viewGroup);
-    AddFlag(m_command, "--csv", m_csv, "Write a table for spreadsheets (CSV)", viewGroup);
+            listGroup);
+    AddFlag(m_command, "--csv", m_csv, "Write a table for spreadsheets (CSV)", listGroup);
 }
 
 int ChangeCommand::Run() const

@@ -5,7 +5,7 @@
 #include "DosAttribute.h"
 #include "ExtendedAttributes.h"
 #include "FileStatus.h"
-#include "TimeText.h"
+#include "StatusText.h"
 
 #include <VyrPlatform/common/files/StateText.h>
 #include <VyrPlatform/files/FileAttributes.h>
@@ -13,7 +13,6 @@
 
 #include <cerrno>
 #include <cstddef>
-#include <cstdio>
 #include <span>
 #include <string>
 #include <string_view>
@@ -134,9 +133,9 @@ int RestoreMode(const NativePath& path, mode_t kept)
 
 int RestoreAttributes(const CString& path, std::string_view text)
 {
-    const auto mode = ReadWhole(TakeWord(text), 8);
+    const auto mode = ReadModeText(TakeWord(text));
     const auto kept = ToKept(text);
-    if (!mode || *mode < 0 || *mode > static_cast<std::int64_t>(permissions) || !kept)
+    if (!mode || !kept)
         return EINVAL;
     const NativePath nativePath(path);
     {
@@ -144,7 +143,7 @@ int RestoreAttributes(const CString& path, std::string_view text)
         if (const int error = RestoreKept(nativePath, *kept, Extended::ntfsAttributesName, WithAttributesOf))
             return error;
     }
-    return RestoreMode(nativePath, static_cast<mode_t>(*mode));
+    return RestoreMode(nativePath, *mode);
 }
 
 } // namespace
@@ -161,9 +160,7 @@ std::optional<CString> Read(const CString& path, Part part, std::uint32_t& error
         error = static_cast<std::uint32_t>(errno);
         return std::nullopt;
     }
-    char mode[16];
-    const int length = std::snprintf(mode, sizeof mode, "%04o ", status.stx_mode & permissions);
-    return Encoding::FromUtf8(std::string(mode, static_cast<std::size_t>(length)) +
+    return Encoding::FromUtf8(ToModeText(status.stx_mode) + ' ' +
                               ToText(ReadKept(nativePath, Extended::ntfsAttributesName)));
 }
 

@@ -4,7 +4,7 @@
 #include "Descriptor.h"
 #include "NativePath.h"
 #include "OpenToLook.h"
-#include "TimeText.h"
+#include "StatusText.h"
 
 #include <VyrPlatform/common/files/StateText.h>
 #include <VyrPlatform/files/FileSystem.h>
@@ -13,8 +13,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstddef>
-#include <cstdint>
-#include <cstdio>
 #include <fcntl.h>
 #include <iterator>
 #include <sys/stat.h>
@@ -86,14 +84,11 @@ FoundForm NotFound(int error)
     return {std::nullopt, MeansNone(error) ? 0 : error};
 }
 
-constexpr mode_t permissions = 07777;
-
 /// What is kept of a file beside the marked one: "MODE MODIFIED ACCESSED", the mode in octal digits.
 CString StateOf(const struct stat& status)
 {
-    char mode[16];
-    std::snprintf(mode, sizeof mode, "%04o", status.st_mode & permissions);
-    return Encoding::FromUtf8(std::string(mode) + ' ' + ToTimeText(status.st_mtim) + ' ' + ToTimeText(status.st_atim));
+    return Encoding::FromUtf8(ToModeText(status.st_mode) + ' ' + ToTimeText(status.st_mtim) + ' ' +
+                              ToTimeText(status.st_atim));
 }
 
 struct SiblingState
@@ -108,12 +103,12 @@ std::optional<SiblingState> ReadState(const CString& state)
 {
     const std::string bytes = StateBytes(state);
     std::string_view text = bytes;
-    const auto mode = ReadWhole(TakeWord(text), 8);
+    const auto mode = ReadModeText(TakeWord(text));
     const auto modified = ReadTimeText(TakeWord(text));
     const auto accessed = ReadTimeText(text);
-    if (!mode || *mode < 0 || *mode > static_cast<std::int64_t>(permissions) || !modified || !accessed)
+    if (!mode || !modified || !accessed)
         return std::nullopt;
-    return SiblingState{static_cast<mode_t>(*mode), {*accessed, *modified}};
+    return SiblingState{*mode, {*accessed, *modified}};
 }
 
 FoundForm ReadSibling(std::u16string_view path)

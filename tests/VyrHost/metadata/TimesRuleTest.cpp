@@ -72,6 +72,13 @@ protected:
         return 0;
     }
 
+    Proposal ProposeModifiedAndAccessed(const char16_t* typed)
+    {
+        Set(FileDate::Modified, typed);
+        Set(FileDate::Accessed, typed);
+        return TimesRule(m_settings).Propose(m_path, VyrHost::Model::Entry(), 0);
+    }
+
     void ExpectRoundTrip(const VyrHost::Model::Change& change) const
     {
         using VyrHost::Model::ChangeState;
@@ -317,10 +324,7 @@ TEST_F(Times, MissingFileIsRefusedWithTheSystemsReason)
 TEST_F(Times, TimesSetByAnotherProgramAreNotUndone)
 {
     using VyrHost::Model::ChangeState;
-    Set(FileDate::Modified, u"2024-01-05 10:30");
-    Set(FileDate::Accessed, u"2024-01-05 10:30");
-    VyrHost::Model::Entry entry;
-    const Proposal proposal = TimesRule(m_settings).Propose(m_path, entry, 0);
+    const Proposal proposal = ProposeModifiedAndAccessed(u"2024-01-05 10:30");
     ASSERT_TRUE(proposal.change);
     const FileTicks before = FileTimes::GetModified(m_path).value_or(0);
     const FileTicks after = FileTimes::FromLocal(COleDateTime(2024, 1, 5, 10, 30, 0)).value_or(0);
@@ -359,10 +363,7 @@ TEST_F(Times, TimeIsTheOneThatWasSetAlsoWhereTheFileSystemCountsInLargerSteps)
 TEST_F(Times, AccessSinceTheyWereSetKeepsNoOtherTimeFromUndo)
 {
     using VyrHost::Model::ChangeState;
-    Set(FileDate::Modified, u"2024-01-05 10:30");
-    Set(FileDate::Accessed, u"2024-01-05 10:30");
-    VyrHost::Model::Entry entry;
-    const Proposal proposal = TimesRule(m_settings).Propose(m_path, entry, 0);
+    const Proposal proposal = ProposeModifiedAndAccessed(u"2024-01-05 10:30");
     ASSERT_TRUE(proposal.change);
     const FileTicks before = FileTimes::GetModified(m_path).value_or(0);
     ASSERT_EQ(proposal.change->Apply(m_path), 0U);

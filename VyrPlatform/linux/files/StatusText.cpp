@@ -1,11 +1,33 @@
-#include "TimeText.h"
+#include "StatusText.h"
 
 #include <VyrPlatform/common/files/StateText.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
 
 namespace VyrPlatform {
+
+namespace {
+
+constexpr mode_t permissions = 07777;
+
+} // namespace
+
+std::string ToModeText(mode_t mode)
+{
+    char text[8];
+    const int length = std::snprintf(text, sizeof text, "%04o", mode & permissions);
+    return {text, static_cast<std::size_t>(length)};
+}
+
+std::optional<mode_t> ReadModeText(std::string_view text)
+{
+    const auto mode = ReadWhole(text, 8);
+    if (!mode || *mode < 0 || *mode > static_cast<std::int64_t>(permissions))
+        return std::nullopt;
+    return static_cast<mode_t>(*mode);
+}
 
 std::string ToTimeText(const struct timespec& time)
 {
