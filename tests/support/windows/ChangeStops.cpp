@@ -45,16 +45,28 @@ bool ChangeStops::GoToNext()
             m_hasEnded = true;
             return false;
         }
-        DWORD answer = DBG_CONTINUE;
-        if (m_event.dwDebugEventCode == EXCEPTION_DEBUG_EVENT)
-            answer = HandleException(m_event.dwThreadId, m_event.u.Exception.ExceptionRecord);
-        else
-            Handle(m_event);
+        const DWORD answer = Answer();
         if (m_held)
             return true;
         Require(::ContinueDebugEvent(m_event.dwProcessId, m_event.dwThreadId, answer), "ContinueDebugEvent");
     }
     return false;
+}
+
+DWORD ChangeStops::Answer()
+{
+    if (m_event.dwDebugEventCode != EXCEPTION_DEBUG_EVENT) {
+        Handle(m_event);
+        return DBG_CONTINUE;
+    }
+    try {
+        return HandleException(m_event.dwThreadId, m_event.u.Exception.ExceptionRecord);
+    } catch (const std::runtime_error&) {
+        // A second interrupt ends the program in one thread while another stops here: the other's registers are gone.
+        if (::WaitForSingleObject(m_threads.at(m_event.dwThreadId), patience) != WAIT_OBJECT_0)
+            throw;
+        return DBG_CONTINUE;
+    }
 }
 
 void ChangeStops::Handle(const DEBUG_EVENT& event)

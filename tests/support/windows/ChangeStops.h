@@ -39,8 +39,9 @@ private:
     };
 
     void SetStops();
+    /// @return what the program is answered to the event that holds it.
+    DWORD Answer();
     void Handle(const DEBUG_EVENT& event);
-    /// @return what the program is answered.
     DWORD HandleException(DWORD thread, const EXCEPTION_RECORD& exception);
     /// The thread stops where the system begins to look for a handler of an exception.
     void BeginDispatch(DWORD thread);
