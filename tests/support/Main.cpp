@@ -1,4 +1,6 @@
 // Runs the tests of a program, and ends it when one of them hangs, so that the others' programs still run.
+#include <tests/support/Signals.h>
+
 #include <chrono>
 #include <condition_variable>
 #include <cstdio>
@@ -70,6 +72,7 @@ private:
 
 int main(int count, char** arguments)
 {
+    VyrTests::StopIgnoringInterrupts();
     testing::InitGoogleMock(&count, arguments);
     testing::UnitTest::GetInstance()->listeners().Append(new WatchTests);
     return RUN_ALL_TESTS();

@@ -1,0 +1,12 @@
+#include <tests/support/Signals.h>
+
+#include <windows.h>
+
+namespace VyrTests {
+
+void StopIgnoringInterrupts()
+{
+    ::SetConsoleCtrlHandler(nullptr, FALSE);
+}
+
+} // namespace VyrTests
