@@ -1,7 +1,6 @@
 // Performs the steps of a plan, group by group.
 #include <VyrHost/batch/Executor.h>
 
-#include <VyrHost/model/Prefetch.h>
 #include <VyrHost/text/Errors.h>
 
 #include <VyrHostPlatform/RenameFile.h>
@@ -55,7 +54,6 @@ bool Executor::Run(Direction direction, const Report& report, const StopRequest&
 {
     bool isStopped = false;
     for (std::size_t index = 0; index < m_groups.size(); ++index) {
-        ExpectAfter(index, direction);
         const Group& group = GroupAt(index, direction);
         if (!isStopped && HasWork(group, direction)) {
             isStopped = isStopAsked();
@@ -67,21 +65,6 @@ bool Executor::Run(Direction direction, const Report& report, const StopRequest&
     if (direction == Direction::Forward)
         RemoveFoldersWithoutUse();
     return !isStopped;
-}
-
-/// The system call for a rename takes so long that the data of the next ones can be fetched from memory meanwhile.
-void Executor::ExpectAfter(std::size_t index, Direction direction) const
-{
-    if (index + 2 >= m_groups.size())
-        return;
-    const Model::PlanStep& next = m_plan.steps[GroupAt(index + 1, direction).first];
-    const Model::PlanStep& second = m_plan.steps[GroupAt(index + 2, direction).first];
-    if (next.action != Action::MakeFolder) {
-        m_plan.entries[next.subject].from.name.Expect();
-        m_plan.entries[next.subject].to.name.Expect();
-    }
-    if (second.action != Action::MakeFolder)
-        Model::Prefetch(&m_plan.entries[second.subject]);
 }
 
 bool Executor::HasWork(const Group& group, Direction direction) const

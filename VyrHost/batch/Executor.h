@@ -56,7 +56,6 @@ private:
     {
         return m_groups[direction == Direction::Forward ? index : m_groups.size() - 1 - index];
     }
-    void ExpectAfter(std::size_t index, Direction direction) const;
     [[nodiscard]] bool IsToDo(const Model::PlanStep& step, Direction direction) const;
     [[nodiscard]] bool HasWork(const Group& group, Direction direction) const;
     void RunGroup(const Group& group, Direction direction);

@@ -2,24 +2,12 @@
 #include <VyrHost/model/FolderSet.h>
 
 #include <VyrHost/model/NaturalOrder.h>
-#include <VyrHost/model/Prefetch.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FolderListing.h>
 
 #include <vector>
 
 namespace VyrHost::Model {
-
-namespace {
-
-struct Listed
-{
-    InternedName name;
-    VyrPlatform::FileSystem::Kind kind;
-    bool isLink;
-};
-
-} // namespace
 
 std::u16string_view FolderPart(std::u16string_view path)
 {
@@ -113,7 +101,7 @@ void FolderSet::ForgetIndexes()
 void FolderSet::List(Folder& folder)
 {
     NamePool texts;
-    std::vector<Listed> listed;
+    std::vector<ListedName> listed;
     VyrPlatform::FolderListing listing(folder.path);
     while (listing.Next())
         listed.push_back({texts.Intern(listing.Name()), listing.Kind(), listing.IsLink()});
@@ -124,19 +112,9 @@ void FolderSet::List(Folder& folder)
     folder.names.Reserve(listed.size());
     // In this order the texts stand side by side in memory.
     SortNaturally(listed);
-    for (std::size_t index = 0; index < listed.size(); ++index) {
-        if (index + prefetchDistance < listed.size())
-            listed[index + prefetchDistance].name.Expect();
-        Listed& one = listed[index];
+    for (ListedName& one : listed)
         one.name = m_texts->Intern(one.name);
-    }
-    for (std::size_t index = 0; index < listed.size(); ++index) {
-        if (index + prefetchDistance < listed.size())
-            folder.names.Expect(listed[index + prefetchDistance].name);
-        NameRecord& record = folder.names.Add(listed[index].name);
-        record.kind = listed[index].kind;
-        record.isLink = listed[index].isLink;
-    }
+    folder.names.Add(listed);
 }
 
 } // namespace VyrHost::Model

@@ -2,8 +2,6 @@
 /// Keeps the names of a million entries without an allocation for each.
 #pragma once
 
-#include <VyrHost/model/Prefetch.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -28,8 +26,6 @@ public:
     }
     operator std::u16string_view() const noexcept { return View(); }
     [[nodiscard]] bool IsEmpty() const noexcept { return View().empty(); }
-    /// Says that the text will soon be read.
-    void Expect() const noexcept { Prefetch(m_text); }
 
     /// By the texts.
     friend bool operator==(InternedName left, InternedName right) noexcept { return left.View() == right.View(); }

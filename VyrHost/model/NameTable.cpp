@@ -1,8 +1,6 @@
 // A hash table with open addressing over the names of one folder.
 #include <VyrHost/model/NameTable.h>
 
-#include <VyrHost/model/Prefetch.h>
-
 #include <algorithm>
 #include <bit>
 #include <functional>
@@ -15,6 +13,9 @@ using VyrHostPlatform::NameFolding;
 namespace {
 
 constexpr std::size_t firstSlots = 16;
+/// How far a loop over names asks for their slots in advance. Without that the preview of a million names takes a
+/// twentieth more time.
+constexpr std::size_t ahead = 8;
 
 std::uint32_t HashOf(std::u16string_view name)
 {
@@ -74,11 +75,17 @@ NameRecord& NameTable::Add(InternedName name)
     return m_records[slot.number - 1];
 }
 
-void NameTable::Expect(std::u16string_view name) const
+void NameTable::Add(const std::vector<ListedName>& listed)
 {
-    // Folding a name twice would cost more than it saves.
-    if (m_folding == NameFolding::None && !m_slots.empty())
-        Prefetch(&m_slots[HashOf(name) & (m_slots.size() - 1)]);
+    Reserve(m_records.size() + listed.size());
+    for (std::size_t index = 0; index < listed.size(); ++index) {
+        // Folding a name twice would cost more than it saves.
+        if (m_folding == NameFolding::None && index + ahead < listed.size())
+            __builtin_prefetch(&m_slots[HashOf(listed[index + ahead].name) & (m_slots.size() - 1)]);
+        NameRecord& record = Add(listed[index].name);
+        record.kind = listed[index].kind;
+        record.isLink = listed[index].isLink;
+    }
 }
 
 void NameTable::Reserve(std::size_t count)

@@ -17,6 +17,14 @@ namespace VyrHost::Model {
 /// Stands for "no entry" where the index of an entry is asked for.
 inline constexpr std::uint32_t noEntry = UINT32_MAX;
 
+/// A name as its folder lists it.
+struct ListedName
+{
+    InternedName name;
+    VyrPlatform::FileSystem::Kind kind = VyrPlatform::FileSystem::Kind::Missing;
+    bool isLink = false;
+};
+
 /// A name in a folder.
 struct NameRecord
 {
@@ -41,10 +49,10 @@ public:
     [[nodiscard]] const NameRecord* Find(std::u16string_view name) const;
     /// The record of `name`, added when there is none. The text of `name` must outlive the table.
     NameRecord& Add(InternedName name);
-    /// Says that `name` will soon be looked for or added, which is quicker then.
-    void Expect(std::u16string_view name) const;
     /// Makes room for `count` names.
     void Reserve(std::size_t count);
+    /// Adds the names of a listing, in its order.
+    void Add(const std::vector<ListedName>& listed);
     /// Frees what only look-ups need. The next look-up takes the time to make it again.
     void ForgetIndex();
 

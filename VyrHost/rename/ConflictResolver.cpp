@@ -1,7 +1,6 @@
 // Gives names in the order of the list, and withdraws one when an entry has to keep its own.
 #include <VyrHost/rename/ConflictResolver.h>
 
-#include <VyrHost/model/Prefetch.h>
 #include <VyrHost/rename/NewPlace.h>
 #include <VyrHostPlatform/NameFolding.h>
 #include <VyrLibraryUtils/FileUtils.h>
@@ -36,8 +35,6 @@ public:
             HoldOwnName(entry);
         }
         for (std::size_t group = 0; group < m_groups.Count(); ++group) {
-            if (group + Model::prefetchDistance < m_groups.Count())
-                ExpectWishes(group + Model::prefetchDistance);
             if (IsToSettle(group))
                 Place(static_cast<std::uint32_t>(group));
         }
@@ -55,12 +52,6 @@ private:
         const auto members = m_groups.Members(group);
         return std::any_of(members.begin(), members.end(),
                            [this](std::uint32_t entry) { return m_decisions[entry].IsRename(); });
-    }
-
-    void ExpectWishes(std::size_t group)
-    {
-        for (const std::uint32_t entry : m_groups.Members(group))
-            Names(entry).Expect(m_decisions[entry].name);
     }
 
     void Place(std::uint32_t group)

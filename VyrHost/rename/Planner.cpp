@@ -1,8 +1,6 @@
 // Finds out who waits for whom, refuses what cannot be done, and has the rest ordered.
 #include <VyrHost/rename/Planner.h>
 
-#include <VyrHost/model/Prefetch.h>
-
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -58,11 +56,14 @@ private:
         PlanIndex entry = none;
     };
 
-    /// The hashes of a few ends are known in advance, so that their buckets come from memory meanwhile.
+    /// How many ends have their hashes known in advance, so that their buckets come from memory meanwhile. Without that
+    /// the preview of a million renames takes a quarter more time of the processor.
+    static constexpr std::size_t ahead = 8;
+
     template <class Use>
     void ForEachBucket(End end, Use use)
     {
-        std::array<std::uint64_t, Model::prefetchDistance> hashes{};
+        std::array<std::uint64_t, ahead> hashes{};
         const std::size_t count = m_plan.entries.size();
         for (std::size_t index = 0; index < count + hashes.size(); ++index) {
             std::uint64_t& hash = hashes[index % hashes.size()];
@@ -72,7 +73,7 @@ private:
             }
             if (index < count) {
                 hash = HashOf(m_plan.entries[index].*end);
-                Model::Prefetch(&m_buckets[StartOf(hash)]);
+                __builtin_prefetch(&m_buckets[StartOf(hash)]);
             }
         }
     }

@@ -36,7 +36,6 @@ TEST(InternedName, IsEmptyAtFirst)
     EXPECT_TRUE(name.IsEmpty());
     EXPECT_EQ(name.View(), u"");
     EXPECT_NE(name.View().data(), nullptr);
-    name.Expect();
     EXPECT_EQ(name, InternedName());
     NamePool texts;
     EXPECT_EQ(name, texts.Intern(u""));
@@ -77,7 +76,6 @@ TEST(InternedName, ConvertsToItsText)
     const std::u16string_view view = name;
     EXPECT_EQ(view, u"holiday.jpg");
     EXPECT_FALSE(name.IsEmpty());
-    name.Expect();
     EXPECT_EQ(name.View(), u"holiday.jpg");
 }
 
