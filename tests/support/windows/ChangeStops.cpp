@@ -16,7 +16,8 @@ namespace {
 // there is given what the instruction does, so that the breakpoint stays for the other threads.
 constexpr std::array<unsigned char, 3> firstInstruction = {0x4c, 0x8b, 0xd1};
 constexpr unsigned char breakpoint = 0xcc;
-constexpr DWORD patience = 120'000;
+constexpr DWORD second = 1'000;
+constexpr DWORD patience = 120 * second;
 
 // Documented for drivers; what is not here changes no file, as the position in it.
 constexpr std::uint64_t changingInformation[] = {4, 10, 11, 13, 19, 20, 64, 65, 72};
@@ -41,7 +42,7 @@ bool ChangeStops::GoToNext()
     }
     while (!m_hasEnded) {
         // One that makes no event is left to who waits for its end.
-        if (!::WaitForDebugEvent(&m_event, patience)) {
+        if (!WaitForEvent()) {
             m_hasEnded = true;
             return false;
         }
@@ -50,6 +51,23 @@ bool ChangeStops::GoToNext()
             return true;
         Require(::ContinueDebugEvent(m_event.dwProcessId, m_event.dwThreadId, answer), "ContinueDebugEvent");
     }
+    return false;
+}
+
+bool ChangeStops::WaitForEvent()
+{
+    const ULONGLONG end = ::GetTickCount64() + patience;
+    do {
+        // Wine may answer before the time is over that there is none.
+        if (!::WaitForDebugEvent(&m_event, second)) {
+            ::Sleep(1);
+            continue;
+        }
+        if (m_event.dwProcessId == ::GetProcessId(m_process))
+            return true;
+        // Of a program of another test, which was killed.
+        ::ContinueDebugEvent(m_event.dwProcessId, m_event.dwThreadId, DBG_CONTINUE);
+    } while (::GetTickCount64() < end);
     return false;
 }
 

@@ -38,6 +38,8 @@ private:
         CONTEXT registers{};
     };
 
+    /// Waits for the program's next event; false when it makes none for two minutes.
+    bool WaitForEvent();
     void SetStops();
     /// @return what the program is answered to the event that holds it.
     DWORD Answer();
