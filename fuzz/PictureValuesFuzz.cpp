@@ -1,6 +1,6 @@
 // Any bytes as a picture with tags and a packet of XMP: dates are possible, and texts are clean and bounded.
 #include <VyrHost/media/ContentKind.h>
-#include <VyrHost/media/ExifTagReader.h>
+#include <VyrHost/media/ExifTags.h>
 #include <VyrHost/media/PictureDates.h>
 #include <VyrLibraryUtils/pictures/Picture.h>
 

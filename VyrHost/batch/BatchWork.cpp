@@ -4,8 +4,8 @@
 #include <VyrHost/batch/DiskLooks.h>
 #include <VyrHost/batch/KeptFiles.h>
 #include <VyrHost/batch/Locator.h>
+#include <VyrHost/model/Change.h>
 #include <VyrHost/model/FolderSet.h>
-#include <VyrHost/model/KeepsFile.h>
 #include <VyrHost/text/Errors.h>
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 // Gives and removes the folders of kept files.
 #include <VyrHost/batch/KeptFiles.h>
 
+#include <VyrHost/model/Change.h>
 #include <VyrHost/model/FolderSet.h>
-#include <VyrHost/model/KeepsFile.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FileCopy.h>
 #include <VyrPlatform/files/FolderListing.h>

@@ -2,7 +2,6 @@
 #include <VyrHost/cli/HelpTopics.h>
 
 #include <VyrHost/cli/Help.h>
-#include <VyrHost/cli/TokensTopic.h>
 
 namespace VyrHost::Cli {
 

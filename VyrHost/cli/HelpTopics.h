@@ -23,6 +23,10 @@ struct HelpTopic
 
 [[nodiscard]] std::span<const HelpTopic> HelpTopics();
 
+/// The table of the topic "tokens": the tokens of --name with what they stand for, their changes and counters, in lines
+/// of at most 80 columns.
+[[nodiscard]] std::string TokensTopic();
+
 /// What `vyr COMMAND --help` shows instead of all options; empty for a command that shows them all.
 [[nodiscard]] std::string ShortHelp(std::string_view command);
 

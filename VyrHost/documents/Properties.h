@@ -4,7 +4,6 @@
 
 #include <VyrHost/metadata/Changes.h>
 #include <VyrHost/model/Change.h>
-#include <VyrHost/model/KeepsFile.h>
 #include <VyrPlatform/documents/DocumentProperties.h>
 #include <VyrPlatform/files/FileReader.h>
 #include <VyrPlatform/files/FileTimes.h>

@@ -1,5 +1,5 @@
 // Looks into the containers that many kinds of files share.
-#include <VyrHost/media/ContentContainers.h>
+#include <VyrHost/media/ContentReaders.h>
 
 #include <VyrHost/media/Movie.h>
 #include <VyrLibraryUtils/pictures/FourCc.h>

@@ -1,10 +1,8 @@
 // The table of kinds, and the first bytes that tell them.
 #include <VyrHost/media/ContentKind.h>
 
-#include <VyrHost/media/ContentContainers.h>
-#include <VyrHost/media/ContentText.h>
+#include <VyrHost/media/ContentReaders.h>
 #include <VyrHost/media/Movie.h>
-#include <VyrHost/media/MpegFrames.h>
 #include <VyrHost/media/OpenFile.h>
 #include <VyrLibraryUtils/pictures/ByteView.h>
 

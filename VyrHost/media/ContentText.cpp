@@ -1,4 +1,4 @@
-#include <VyrHost/media/ContentText.h>
+#include <VyrHost/media/ContentReaders.h>
 
 #include <algorithm>
 #include <string>

@@ -1,5 +1,5 @@
 // Raw pictures are TIFF structures, which differ by a few tags.
-#include <VyrHost/media/ContentContainers.h>
+#include <VyrHost/media/ContentReaders.h>
 
 #include <VyrLibraryUtils/pictures/Picture.h>
 

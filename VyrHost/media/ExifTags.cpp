@@ -1,5 +1,5 @@
 // The table of tags, and the texts that exiftool gives their values.
-#include <VyrHost/media/ExifTagReader.h>
+#include <VyrHost/media/ExifTags.h>
 
 #include <VyrHost/media/ExifNumbers.h>
 #include <VyrHost/media/Texts.h>

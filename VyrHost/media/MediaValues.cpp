@@ -1,7 +1,7 @@
 // Opens a file once and asks the readers of its format.
 #include <VyrHost/media/MediaValues.h>
 
-#include <VyrHost/media/ExifTagReader.h>
+#include <VyrHost/media/ExifTags.h>
 #include <VyrHost/media/Movie.h>
 #include <VyrHost/media/Music.h>
 #include <VyrHost/media/OpenFile.h>

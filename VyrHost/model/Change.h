@@ -82,6 +82,20 @@ public:
     [[nodiscard]] virtual std::uint32_t TakeBack(const CString& path) const = 0;
 };
 
+/// A change that keeps a file, such as the whole old document, beside the journal of its batch.
+class KeepsFile
+{
+public:
+    KeepsFile() = default;
+    KeepsFile(const KeepsFile&) = delete;
+    KeepsFile& operator=(const KeepsFile&) = delete;
+    virtual ~KeepsFile() = default;
+
+    /// The same change in a batch, which may keep files whose paths begin with `kept` and a dot. They are removed
+    /// together with the journal. The folder is made by the first change that keeps one.
+    [[nodiscard]] virtual std::shared_ptr<const Change> KeepingAt(const CString& kept) const = 0;
+};
+
 /// Makes a change again of what the journal keeps of it; null when its kind never writes such texts.
 using ChangeReader = std::function<std::shared_ptr<const Change>(const CString& before, const CString& after)>;
 

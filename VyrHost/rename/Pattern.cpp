@@ -1,7 +1,6 @@
 // Compiles patterns with PCRE2, and bounds what a match may take.
 #include <VyrHost/rename/Pattern.h>
 
-#include <VyrHost/rename/PatternMistake.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <array>

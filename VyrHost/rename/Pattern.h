@@ -16,6 +16,9 @@
 
 namespace VyrHost::Rename {
 
+/// Throws a UsageError for --regex: the reason, and below it `text` with a mark under the unit at `place`.
+[[noreturn]] void RefusePattern(std::u16string_view text, std::size_t place, const std::string& reason);
+
 /// A pattern as PCRE2 understands it. It sees characters, never halves of one; classes such as \w and \d, and letter
 /// case, are Unicode's. A byte of a name that is no text (a lone surrogate) matches nothing.
 class Pattern

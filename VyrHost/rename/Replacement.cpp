@@ -1,7 +1,6 @@
 // Reads the text that is put in for a match, and writes it with the groups of one.
 #include <VyrHost/rename/Pattern.h>
 
-#include <VyrHost/rename/PatternMistake.h>
 #include <VyrHost/rename/TemplateTokens.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>

@@ -1,5 +1,5 @@
 // Lists the tokens from their table.
-#include <VyrHost/cli/TokensTopic.h>
+#include <VyrHost/cli/HelpTopics.h>
 
 #include <VyrHost/cli/Help.h>
 #include <VyrHost/rename/NameTokens.h>

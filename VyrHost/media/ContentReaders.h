@@ -1,5 +1,5 @@
 /// @file
-/// What the containers that many kinds of files share hold.
+/// Tell the kinds of containers, of pictures and streams without a mark of their own, and of texts.
 #pragma once
 
 #include <VyrLibraryUtils/pictures/ByteView.h>
@@ -8,8 +8,8 @@
 
 namespace VyrHost::Media {
 
-/// Each gives the usual extension of what `file` holds, and nothing for what is not known. The view begins as a file of
-/// that container does.
+/// Each gives the usual extension of what `file` holds, and nothing for what is not known. Those of a container ask for
+/// a view that begins as a file of that container does.
 
 /// ZIP: documents, books and programs are told by their members' names, or by what the member "mimetype" says. Source:
 /// PKWARE's APPNOTE 6.3.10, section 4.3; OpenDocument 1.3, part 2, section 3.3; EPUB OCF 3.3, section 4.3.
@@ -36,5 +36,13 @@ namespace VyrHost::Media {
 
 /// TIFF, and raw pictures in the same form.
 [[nodiscard]] std::u16string_view KindOfTiff(VyrLibraryUtils::Pictures::ByteSource& file);
+
+/// "mp3" for a tag of ID3 or two frames of layer III, "aac" for two frames of ADTS, "ts" and "mts" for packets of a
+/// transport stream; nothing for other files. Sources: ISO/IEC 11172-3, section 2.4.1; ISO/IEC 13818-1, section 2.4.3;
+/// ISO/IEC 13818-7, section 6.2.
+[[nodiscard]] std::u16string_view KindOfMpeg(const VyrLibraryUtils::Pictures::ByteView& file);
+
+/// The usual extension of a text in a known language: PostScript, HTML, SVG. Nothing for other texts and files.
+[[nodiscard]] std::u16string_view KindOfText(const VyrLibraryUtils::Pictures::ByteView& file);
 
 } // namespace VyrHost::Media

@@ -1,4 +1,4 @@
-#include <VyrHost/media/MpegFrames.h>
+#include <VyrHost/media/ContentReaders.h>
 
 #include <array>
 #include <cstdint>
