@@ -2,6 +2,7 @@
 
 #include <VyrPlatform/documents/ComPointer.h>
 #include <VyrPlatform/files/CFileException.h>
+#include <VyrPlatform/files/FileTicks.h>
 #include <VyrPlatform/process/MemoryMap.h>
 #include <VyrPlatform/text/Encoding.h>
 
@@ -199,7 +200,7 @@ VyrPlatform::MessageQueue::MainLoopPass ToDrain(vyr_drain drain, void* context)
 
 FILETIME ToFileTime(std::uint64_t ticks)
 {
-    return {static_cast<DWORD>(ticks & 0xFFFFFFFF), static_cast<DWORD>(ticks >> 32)};
+    return VyrPlatform::ToFileTime(static_cast<VyrPlatform::FileTicks>(ticks));
 }
 
 std::optional<FILETIME> ToOptionalFileTime(const std::uint64_t* ticks, const char* argument)
@@ -234,7 +235,7 @@ vyr_status TextResult::Give(const CString& text) const
 
 std::uint64_t ToTicks(const FILETIME& moment)
 {
-    return std::uint64_t{moment.dwHighDateTime} << 32 | moment.dwLowDateTime;
+    return static_cast<std::uint64_t>(VyrPlatform::ToTicks(moment));
 }
 
 vyr_date_time ToC(const COleDateTime& moment)

@@ -4,9 +4,9 @@
 
 #include <VyrHost/metadata/Changes.h>
 #include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
-#include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/files/ExactState.h>
 #include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/files/FileTicks.h>
 
 #include <algorithm>
 #include <charconv>
@@ -84,14 +84,6 @@ CString NumberText(FileTicks ticks)
     const auto [end, error] = std::to_chars(std::begin(digits), std::end(digits), ticks);
     char16_t text[std::size(digits)];
     return std::u16string_view(text, static_cast<std::size_t>(std::copy(std::begin(digits), end, text) - text));
-}
-
-FILETIME ToFileTime(FileTicks ticks)
-{
-    FILETIME time{};
-    time.dwLowDateTime = static_cast<DWORD>(static_cast<std::uint64_t>(ticks));
-    time.dwHighDateTime = static_cast<DWORD>(static_cast<std::uint64_t>(ticks) >> 32);
-    return time;
 }
 
 /// The texts of all steps, separated by `separator`.
@@ -187,7 +179,7 @@ std::uint32_t TimesChange::Apply(const CString& path) const
     const FILETIME* given[fileDates.size()] = {};
     for (const TimeStep& step : m_steps) {
         const auto place = static_cast<std::size_t>(step.date);
-        times[place] = ToFileTime(step.after);
+        times[place] = VyrPlatform::ToFileTime(step.after);
         given[place] = &times[place];
         (step.date == FileDate::Modified  ? wanted.modified
          : step.date == FileDate::Created ? wanted.created

@@ -6,7 +6,7 @@
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/FileListUtils.h>
 #include <VyrLibraryUtils/LogUtils.h>
-#include <VyrPlatform/files/FileTimes.h>
+#include <VyrPlatform/files/FileTicks.h>
 #include <VyrPlatform/time/AutomationDate.h>
 
 #include <cstdint>
@@ -38,9 +38,7 @@ CString OtherDateTime(const CString& path, int target)
 /// The ticks of `time`, or 0 for a null pointer; both keep the file's time.
 VyrPlatform::FileTicks ToTicks(const FILETIME* time) noexcept
 {
-    if (!time)
-        return 0;
-    return static_cast<VyrPlatform::FileTicks>(std::uint64_t{time->dwHighDateTime} << 32 | time->dwLowDateTime);
+    return time ? VyrPlatform::ToTicks(*time) : 0;
 }
 
 void LogFailure(const CString& operation, const CString& path, std::uint32_t error)

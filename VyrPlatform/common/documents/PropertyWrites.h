@@ -4,6 +4,7 @@
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/documents/DocumentProperties.h>
 #include <VyrPlatform/documents/PropertyStorage.h>
+#include <VyrPlatform/files/FileTicks.h>
 
 #include <cstdint>
 #include <span>
@@ -40,10 +41,9 @@ private:
     }
     [[nodiscard]] static PROPVARIANT TimeValue(FileTicks ticks)
     {
-        const auto bits = static_cast<std::uint64_t>(ticks);
         PROPVARIANT value{};
         value.vt = VT_FILETIME;
-        value.filetime = {static_cast<std::uint32_t>(bits), static_cast<std::uint32_t>(bits >> 32)};
+        value.filetime = ToFileTime(ticks);
         return value;
     }
     void Add(std::uint32_t id, const PROPVARIANT& value)

@@ -1,7 +1,7 @@
 // Values of the system's structures as the file services need them.
 #pragma once
 
-#include <VyrPlatform/files/FileTimes.h>
+#include <VyrPlatform/files/FileTicks.h>
 
 #include <windows.h>
 
@@ -11,17 +11,6 @@ namespace VyrPlatform {
 [[nodiscard]] inline std::int64_t Combine(DWORD high, DWORD low) noexcept
 {
     return static_cast<std::int64_t>(static_cast<std::uint64_t>(high) << 32 | low);
-}
-
-[[nodiscard]] inline FileTicks ToTicks(const FILETIME& time) noexcept
-{
-    return Combine(time.dwHighDateTime, time.dwLowDateTime);
-}
-
-/// The inverse.
-[[nodiscard]] inline FILETIME ToFileTime(FileTicks ticks) noexcept
-{
-    return {static_cast<DWORD>(ticks & 0xFFFF'FFFF), static_cast<DWORD>(ticks >> 32)};
 }
 
 /// Whether a found entry leads to another path (a symbolic link, a junction), in contrast to other reparse points

@@ -1,4 +1,6 @@
 #include <VyrPlatform/registry/Registry.h>
+
+#include <VyrPlatform/files/FileTicks.h>
 #include <VyrPlatform/text/WindowsCString.h>
 
 #include <string>
@@ -103,8 +105,7 @@ std::optional<FileTicks> GetLastWrite(Handle key)
     if (::RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
                            nullptr, &time) != ERROR_SUCCESS)
         return std::nullopt;
-    const ULARGE_INTEGER ticks{.LowPart = time.dwLowDateTime, .HighPart = time.dwHighDateTime};
-    return static_cast<FileTicks>(ticks.QuadPart);
+    return ToTicks(time);
 }
 
 std::uint32_t SetNumber(Handle key, const CString& name, std::uint32_t number)
