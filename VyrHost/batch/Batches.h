@@ -227,8 +227,9 @@ public:
     BatchSummary Apply(Model::RenamePlan plan, std::vector<PlannedChange> changes, const RenameReport& report,
                        const StopRequest& isStopAsked);
 
-    /// Tells of an entry, by its folder's path (a separator at its end), name and kind, why no batch may rename it:
-    /// the journal needs it where it is. Gives an empty text for all others.
+    /// Tells of an entry, by its folder's path (a separator at its end, or empty where the name is a full path), name
+    /// and kind, why it may not be renamed or moved: the journal needs it where it is. Gives an empty text for all
+    /// others.
     using StayReason = std::function<std::u16string_view(const CString& folder, std::u16string_view name,
                                                          VyrPlatform::FileSystem::Kind kind)>;
     [[nodiscard]] StayReason ReasonsToStay() const;

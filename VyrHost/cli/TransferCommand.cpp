@@ -12,6 +12,8 @@
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/ui/Terminal.h>
 #include <VyrHostPlatform/Interrupt.h>
+#include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/files/FullPath.h>
 
 #include <CLI/CLI.hpp>
 
@@ -62,6 +64,18 @@ CLI::App& AddCommand(CLI::App& program, FolderCopy::TransferAction action)
     if (action == FolderCopy::TransferAction::Copy)
         return *program.add_subcommand("copy", "Copy folders with all that is in them; shows first what would happen");
     return *program.add_subcommand("move", "Move folders with all that is in them; shows first what would happen");
+}
+
+/// A moved journal would not be found again.
+void RefuseToMoveTheJournal(const std::vector<CString>& sources)
+{
+    const Batch::Batches::StayReason stays = OpenBatches().ReasonsToStay();
+    for (const CString& source : sources) {
+        const std::u16string_view reason =
+            stays(CString(), VyrPlatform::GetFullPath(source), VyrPlatform::FileSystem::Kind::Folder);
+        if (!reason.empty())
+            throw Text::UsageError("'" + Text::SafeText(source) + "' must stay where it is: " + Text::SafeText(reason));
+    }
 }
 
 constexpr const char* terms =
@@ -118,6 +132,8 @@ int TransferCommand::Run() const
     sources.pop_back();
 
     OfferRecovery();
+    if (!IsCopy())
+        RefuseToMoveTheJournal(sources);
     FolderCopy::TransferBatch batch(sources, destination, m_action,
                                     style.isPreview ? FolderCopy::Trial::No : FolderCopy::Trial::Allowed);
     if (!style.isPreview && !batch.IsRefused()) {

@@ -1,6 +1,7 @@
-// Searches the folders that exist both in a tree and at its target.
+// Searches the folders that exist both in a tree and at its target, and asks for permissions.
 #include <VyrHost/foldercopy/TargetCheck.h>
 
+#include <VyrHostPlatform/FolderPermission.h>
 #include <VyrHostPlatform/NameFolding.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FileIdentity.h>
@@ -37,6 +38,11 @@ struct FolderPlan
     NameFolding folding = NameFolding::None;
 };
 
+CString FolderOf(const CString& path)
+{
+    return VyrPlatform::GetFullPath(FileUtils::GetSplitDirPath(path));
+}
+
 class TargetChecker
 {
 public:
@@ -57,10 +63,20 @@ private:
     void PlanRoot()
     {
         const Kind kind = VyrPlatform::LookAtFile(m_target).kind;
-        if (kind == Kind::File || kind == Kind::Other)
+        if (kind == Kind::File || kind == Kind::Other) {
             Report(CString(), TransferFault::TargetExists);
-        else
-            SetPlan(0, kind == Kind::Folder ? Place::There : Place::New, VyrHostPlatform::GetNameFolding(m_target));
+            return;
+        }
+        SetPlan(0, kind == Kind::Folder ? Place::There : Place::New, VyrHostPlatform::GetNameFolding(m_target));
+        if (kind == Kind::Missing)
+            CheckAdding(FolderOf(m_target), CString());
+    }
+
+    /// Whether names may be added to the existing folder at `path`, which `shown` of the tree needs.
+    void CheckAdding(const CString& path, const CString& shown)
+    {
+        if (const std::uint32_t error = VyrHostPlatform::GetFolderPermission(path).error)
+            Report(shown, TransferFault::TargetLocked, error);
     }
 
     void SetPlan(std::size_t folder, Place place, NameFolding folding)
@@ -88,6 +104,7 @@ private:
         if (plan.place == Place::There && !ReadNames(path, plan.folding, folder.path))
             return;
         m_names.clear();
+        bool hasNew = false;
         for (std::size_t index = 0; index < folder.entryCount; ++index) {
             const SnapshotEntry& entry = m_tree.entries[folder.firstEntry + index];
             const CString key = FoldName(entry.name, plan.folding);
@@ -95,9 +112,15 @@ private:
                 Report(FileUtils::GetCombinePath(folder.path, entry.name), TransferFault::TwoNamesInOne);
             else if (plan.place == Place::New)
                 PlanNew(entry, plan.folding);
-            else
-                CheckEntry(entry, key, folder.path, plan.folding);
+            else if (m_isFolder.contains(key))
+                CheckExisting(entry, key, folder.path);
+            else {
+                PlanNew(entry, plan.folding);
+                hasNew = true;
+            }
         }
+        if (hasNew)
+            CheckAdding(path, folder.path);
     }
 
     /// Whether an earlier entry of its folder, which goes to `path`, has the same name at the target.
@@ -115,7 +138,7 @@ private:
     [[nodiscard]] static CString NearestFolder(CString path)
     {
         while (!VyrPlatform::FileSystem::IsFolder(path))
-            path = VyrPlatform::GetFullPath(FileUtils::GetSplitDirPath(path));
+            path = FolderOf(path);
         return path;
     }
 
@@ -126,13 +149,11 @@ private:
             SetPlan(entry.folder, Place::New, folding);
     }
 
-    void CheckEntry(const SnapshotEntry& entry, const CString& key, const CString& folder, NameFolding folding)
+    /// Checks an entry whose name exists at the target.
+    void CheckExisting(const SnapshotEntry& entry, const CString& key, const CString& folder)
     {
-        const auto found = m_isFolder.find(key);
         const CString path = FileUtils::GetCombinePath(folder, entry.name);
-        if (found == m_isFolder.end())
-            PlanNew(entry, folding);
-        else if (entry.kind == SnapshotKind::Folder && found->second)
+        if (entry.kind == SnapshotKind::Folder && m_isFolder.at(key))
             SetPlan(entry.folder, Place::There,
                     VyrHostPlatform::GetNameFolding(FileUtils::GetCombinePath(m_target, path)));
         else
@@ -160,6 +181,31 @@ private:
 TargetCheck CheckTarget(const FolderSnapshot& tree, const CString& target, Trial trial)
 {
     return TargetChecker(tree, target, trial).Run();
+}
+
+TransferProblems CheckLeaving(const FolderSnapshot& tree)
+{
+    TransferProblems problems;
+    const auto check = [&problems](const CString& folder, const CString& shown, TransferFault fault) {
+        const VyrHostPlatform::FolderPermission permission = VyrHostPlatform::GetFolderPermission(folder);
+        if (permission.error != 0)
+            problems.push_back({shown, fault, permission.error});
+        return permission.ownEntriesOnly;
+    };
+    const auto checkOwner = [&problems, &tree](const CString& path) {
+        if (!VyrHostPlatform::IsOwnEntry(FileUtils::GetCombinePath(tree.root, path)))
+            problems.push_back({path, TransferFault::NotOwnEntry, 0});
+    };
+    if (check(FolderOf(tree.root), CString(), TransferFault::RootLocked))
+        checkOwner(CString());
+    for (const SnapshotFolder& folder : tree.folders) {
+        if (folder.entryCount == 0 ||
+            !check(FileUtils::GetCombinePath(tree.root, folder.path), folder.path, TransferFault::SourceLocked))
+            continue;
+        for (std::size_t index = 0; index < folder.entryCount; ++index)
+            checkOwner(FileUtils::GetCombinePath(folder.path, tree.entries[folder.firstEntry + index].name));
+    }
+    return problems;
 }
 
 } // namespace VyrHost::FolderCopy

@@ -1,5 +1,5 @@
 /// @file
-/// Finds conflicts of a tree at its target.
+/// Finds what keeps a tree from its target.
 #pragma once
 
 #include <VyrHost/foldercopy/FolderSnapshot.h>
@@ -10,7 +10,8 @@ namespace VyrHost::FolderCopy {
 /// The result of the check of a target.
 struct TargetCheck
 {
-    /// Entries that would be overwritten, or would overwrite each other; any of them refuses the whole tree.
+    /// Entries that would be overwritten, or would overwrite each other, and folders that the user may not add to; any
+    /// of them refuses the whole tree.
     TransferProblems clashes;
     /// The number of folders to be created, including the root.
     std::size_t newFolders = 0;
@@ -29,5 +30,9 @@ enum class Trial : bool
 /// @param trial  some file systems do not tell how they compare names. If allowed, names that might be equal there are
 /// tried, since one could overwrite the other.
 [[nodiscard]] TargetCheck CheckTarget(const FolderSnapshot& tree, const CString& target, Trial trial);
+
+/// Finds what the user may not move away from where `tree` stands: the entries of folders without permission to remove
+/// names, named by these folders, and other users' entries of sticky folders. Any of them refuses the whole tree.
+[[nodiscard]] TransferProblems CheckLeaving(const FolderSnapshot& tree);
 
 } // namespace VyrHost::FolderCopy

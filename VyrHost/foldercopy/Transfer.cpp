@@ -22,6 +22,14 @@ std::u16string_view WordsFor(TransferFault fault)
         return u"another entry's name is the same there";
     case TransferFault::TargetNotRead:
         return u"the folder where it would go cannot be read";
+    case TransferFault::TargetLocked:
+        return u"nothing may be added to the folder where it would go";
+    case TransferFault::SourceLocked:
+        return u"nothing may be moved out of this folder";
+    case TransferFault::RootLocked:
+        return u"it may not be moved out of its folder";
+    case TransferFault::NotOwnEntry:
+        return u"in its folder only its owner may move it";
     case TransferFault::NotRead:
         return u"the folder cannot be read";
     case TransferFault::LittleSpace:

@@ -23,6 +23,14 @@ enum class TransferFault : std::uint8_t
     TwoNamesInOne,
     /// The folder of its new path cannot be searched.
     TargetNotRead,
+    /// The user may not add names to the folder of its new path.
+    TargetLocked,
+    /// The user may not remove names from this folder.
+    SourceLocked,
+    /// The user may not remove the tree's name from the folder that it stands in.
+    RootLocked,
+    /// It is another user's in a sticky folder, where only its owner may move it.
+    NotOwnEntry,
 
     // Found afterwards.
 

@@ -68,6 +68,9 @@ void TransferBatch::Check(TransferTask task, Trial trial)
 {
     FolderSnapshot tree = TakeSnapshot(task.source);
     TargetCheck check = CheckTarget(tree, task.target, trial);
+    if (m_action == TransferAction::Move)
+        for (TransferProblem& problem : CheckLeaving(tree))
+            check.clashes.push_back(std::move(problem));
     TransferReport report;
     report.size = SizeOf(tree);
     if (!check.clashes.empty()) {

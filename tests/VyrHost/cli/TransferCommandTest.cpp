@@ -136,6 +136,29 @@ TEST_F(TransferCommand, WrongCallsAreRefusedBeforeAnythingIsChanged)
     EXPECT_FALSE(m_folder.Has(u"to/a"));
 }
 
+TEST_F(TransferCommand, FolderWithTheJournalStaysAndIsCopied)
+{
+    m_folder.WriteFile(u"a");
+    m_environment[u"VYR_JOURNAL_DIR"] = m_folder.Path(u"home/state/journal");
+    ASSERT_EQ(Run({u"rename", u"--prefix", u"x", u"a", u"--apply"}).exitCode, 0);
+    for (const char16_t* const source : {u"home", u"home/state", u"home/state/journal"}) {
+        for (const bool isApplied : {false, true}) {
+            std::vector<CString> call = {u"move", source, u"to"};
+            if (isApplied)
+                call.emplace_back(u"--apply");
+            const ProgramResult result = Run(call);
+            EXPECT_EQ(result.exitCode, 2) << result.output;
+            EXPECT_THAT(result.errors, HasSubstr("' must stay where it is: the journal that \"vyr undo\" needs"));
+        }
+    }
+    EXPECT_FALSE(m_folder.Has(u"to"));
+    EXPECT_EQ(Run({u"copy", u"home", u"to", u"--apply"}).exitCode, 0);
+    m_folder.WriteFile(u"home/other/b");
+    EXPECT_EQ(Run({u"move", u"home/other", u"moved", u"--apply"}).exitCode, 0);
+    EXPECT_EQ(Run({u"undo"}).exitCode, 0);
+    EXPECT_TRUE(m_folder.Has(u"a"));
+}
+
 TEST_F(TransferCommand, NamesABatchThatWasCutOffAndContinues)
 {
     const ScratchFolder journal;
