@@ -8,6 +8,7 @@
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/files/ExactState.h>
 #include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/files/FileReader.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -87,8 +88,12 @@ Text::TypedDateTime DateOfPicture(const CString& path)
 {
     const COleDateTime taken =
         DateTimeUtils::GetExifDateTime(VyrLibraryUtils::ImageUtils::GetPropertyTagExifDTOrig(path));
-    if (!IsValid(taken))
-        throw Refusal{u"it tells no date at which a picture was taken"};
+    if (!IsValid(taken)) {
+        const VyrPlatform::FileReader reader(path);
+        throw Refusal{reader.IsOpen() || reader.Error() == 0
+                          ? CString(u"it tells no date at which a picture was taken")
+                          : CString::Join({u"the picture cannot be read: ", Text::ErrorText(reader.Error())})};
+    }
     return {taken, true, true};
 }
 

@@ -49,6 +49,14 @@ TEST_F(UnreadPicture, IsNotOneWithoutADate)
               0);
 }
 
+TEST_F(UnreadPicture, IsRefusedForTheTimesOfTheFile)
+{
+    if (!Arrange())
+        GTEST_SKIP() << "root can read every file, and nobody else can run the program where it stands";
+    EXPECT_THAT(RunUnprivileged({u"times", u"--set-modified", u"from:picture", u"locked.jpg"}).output,
+                HasSubstr("the picture cannot be read: Permission denied\n"));
+}
+
 TEST_F(UnreadPicture, IsRefusedForTheCamera)
 {
     if (!Arrange())
