@@ -144,7 +144,7 @@ CString JournalFolder::Lock(const LockWait& wait)
     if (m_lock->IsHeld())
         return {};
     if (m_lock->IsTaken())
-        return u"another batch of renames is being worked on";
+        return u"another vyr is still at work; try again later";
     return CString::Join({u"the journal in ", m_path, u" cannot be locked: ", Text::ErrorText(m_lock->Error())});
 }
 

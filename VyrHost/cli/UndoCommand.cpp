@@ -81,9 +81,10 @@ private:
 void NamePassedOver(const Batch::BatchInformation& batch, const Batch::BatchSummary& summary)
 {
     const std::string number = std::to_string(batch.number);
-    const std::string way = summary.obstacle == Batch::Obstacle::FilesGone
-                                ? "once they are back, \"vyr undo " + number + "\" undoes it"
-                                : "an intact copy of it can be undone, or it can be deleted";
+    const std::string way =
+        summary.obstacle == Batch::Obstacle::FilesGone
+            ? "once they are back, \"vyr undo " + number + "\" undoes it"
+            : "the vyr that wrote it, or an intact copy of it, can undo it; a damaged one can be deleted";
     Complain(Text::SafeText(Ui::NameOf(batch)) + " is passed over: " + Text::SafeText(summary.error) + "; " + way);
 }
 

@@ -912,9 +912,9 @@ TEST(Batches, AreRefusedWhileAnotherProgramHasTheLock)
     scene.Rename(u"b", u"y");
     const VyrHostPlatform::FileLock lock(scene.JournalFolder() + CString(u"/lock"));
     ASSERT_TRUE(lock.IsHeld());
-    EXPECT_EQ(scene.Apply().error, u"another batch of renames is being worked on");
-    EXPECT_EQ(scene.Undo().error, u"another batch of renames is being worked on");
-    EXPECT_EQ(scene.Recover(Recovery::Finish).error, u"another batch of renames is being worked on");
+    EXPECT_EQ(scene.Apply().error, u"another vyr is still at work; try again later");
+    EXPECT_EQ(scene.Undo().error, u"another vyr is still at work; try again later");
+    EXPECT_EQ(scene.Recover(Recovery::Finish).error, u"another vyr is still at work; try again later");
     EXPECT_EQ(scene.Now(), (FolderSnapshot{{"b", "b"}, {"x", "a"}}));
 }
 

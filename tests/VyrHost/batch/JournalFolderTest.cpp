@@ -190,7 +190,7 @@ TEST(JournalLock, FailsWhenTheWaitEnds)
     ASSERT_EQ(other.Lock(), u"");
     JournalFolder folder(SystemFiles(), scratch.Path(u"journal"));
     int waits = 0;
-    EXPECT_EQ(folder.Lock([&waits] { return ++waits < 3; }), u"another batch of renames is being worked on");
+    EXPECT_EQ(folder.Lock([&waits] { return ++waits < 3; }), u"another vyr is still at work; try again later");
     EXPECT_EQ(waits, 3);
-    EXPECT_EQ(folder.Lock(), u"another batch of renames is being worked on");
+    EXPECT_EQ(folder.Lock(), u"another vyr is still at work; try again later");
 }

@@ -29,7 +29,7 @@ TEST(JudgeSummary, IsBlockedWhereNothingWasStarted)
 {
     BatchSummary summary = SummaryOfBatch(0, 0);
     summary.notReached = 3;
-    summary.error = u"another batch of renames is being worked on";
+    summary.error = u"another vyr is still at work; try again later";
     EXPECT_EQ(JudgeSummary(summary), ExitCode::blocked);
 }
 
