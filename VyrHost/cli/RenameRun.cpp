@@ -69,9 +69,17 @@ std::unordered_map<std::uint32_t, CString> EditNames(const std::vector<CString>&
     }
 }
 
+/// The heading that "vyr list --csv --columns path,name" writes, unless a file has that name.
+bool IsHeading(const Rename::NamePair& pair)
+{
+    return pair.from == u"path" && pair.to == u"name" && !VyrPlatform::FileSystem::Exists(pair.from);
+}
+
 std::vector<Rename::NamePair> ReadPairs(const CString& path)
 {
     std::vector<Rename::NamePair> pairs = Rename::ParsePairs(Text::ReadInputFile(path));
+    if (!pairs.empty() && IsHeading(pairs.front()))
+        pairs.erase(pairs.begin());
     if (pairs.empty())
         throw Text::UsageError("there are no pairs of names in " +
                                (path == u"-" ? std::string("the standard input") : "'" + Text::SafeText(path) + "'"));

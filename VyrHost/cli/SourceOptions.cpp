@@ -152,8 +152,8 @@ Collect::SourceSettings SourceOptions::Read() const
 
 OrderOptions::OrderOptions(CLI::App& command, const char* group)
 {
-    AddText(command, "--sort", m_sort, "given|name|date|picture-date|size",
-            "The order of the list; date is that of the last change (given)", group);
+    AddText(command, "--sort", m_sort, "given|name|modified|taken|size",
+            "The order of the list (given); date is modified, picture-date is taken", group);
     AddFlag(command, "--descending", m_isDescending, "Reverse the order", group);
 }
 
@@ -163,9 +163,11 @@ Collect::SortSettings OrderOptions::Read() const
     order.key = ReadWord<Collect::SortKey>(m_sort, "--sort",
                                            {{"given", Collect::SortKey::Given},
                                             {"name", Collect::SortKey::Name},
+                                            {"modified", Collect::SortKey::Modified},
+                                            {"taken", Collect::SortKey::Taken},
+                                            {"size", Collect::SortKey::Size},
                                             {"date", Collect::SortKey::Modified},
-                                            {"picture-date", Collect::SortKey::Taken},
-                                            {"size", Collect::SortKey::Size}});
+                                            {"picture-date", Collect::SortKey::Taken}});
     order.isDescending = m_isDescending;
     return order;
 }

@@ -61,6 +61,7 @@ TEST_F(ListOrder, IsByTheDateOfTheLastChange)
     StampFile(m_folder.Path(u"new"), TicksOfUnixTime(1002 * Day), TicksOfUnixTime(2 * Day));
     EXPECT_EQ(Numbered({u"--sort=date"}, names), "old middle new");
     EXPECT_EQ(Numbered({u"--sort=date", u"--descending"}, names), "new middle old");
+    EXPECT_EQ(Numbered({u"--sort=modified"}, names), "old middle new");
 }
 
 TEST_F(ListOrder, IsBySize)
@@ -83,6 +84,7 @@ TEST_F(ListOrder, IsByTheDateOfThePictureWithUndatedFilesLast)
     const std::vector<CString> names = {u"text", u"second", u"first"};
     EXPECT_EQ(Numbered({u"--sort=picture-date"}, names), "first second text");
     EXPECT_EQ(Numbered({u"--sort=picture-date", u"--descending"}, names), "second first text");
+    EXPECT_EQ(Numbered({u"--sort=taken"}, names), "first second text");
 }
 
 TEST_F(ListOrder, CountsAgainInEachFolder)

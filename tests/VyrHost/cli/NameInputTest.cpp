@@ -77,6 +77,19 @@ TEST_F(NameInput, TablesMayHaveQuotesAByteOrderMarkAndEmptyLines)
     EXPECT_EQ(Files(), (FileMap{{"x,1", "a,b"}, {"y 2", "c d"}, {"z", "e"}, {"f", "f"}}));
 }
 
+TEST_F(NameInput, TableOfTheListIsReadWithItsHeading)
+{
+    WriteNamed({u"a", u"b,1"});
+    std::string table = Run({u"list", u"--csv", u"--quiet", u"--columns", u"path,name", u"a", u"b,1"}).output;
+    table.replace(table.rfind("b,1"), 3, "new, too");
+    EXPECT_EQ(Rename({u"--pairs", u"-", u"--apply"}, table).exitCode, 0);
+    EXPECT_EQ(Files(), (FileMap{{"a", "a"}, {"new, too", "b,1"}}));
+    // A file may have that name.
+    WriteNamed({u"path"});
+    EXPECT_EQ(Rename({u"--pairs", u"-", u"--apply"}, "path,name\n").exitCode, 0);
+    EXPECT_TRUE(m_folder.Has(u"name"));
+}
+
 TEST_F(NameInput, FieldsOfTablesWithTabsAreLiteral)
 {
     WriteNamed({u"a,b", u"c d", u"e", u"f"});
