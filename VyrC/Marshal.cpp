@@ -159,7 +159,7 @@ IDispatch* HostObject(void* object, const char* argument)
     return static_cast<IDispatch*>(object);
 }
 
-void TakeBack(IDispatch* object)
+void DropReference(IDispatch* object)
 {
     const auto found = GivenObjects().find(object);
     if (found != GivenObjects().end() && --found->second == 0)

@@ -106,8 +106,8 @@ template <class Record>
 /// Refuses what cannot be an object of COM that the host has: it begins with the address of a table, and the functions
 /// that all objects have come first in it. A null pointer is accepted.
 [[nodiscard]] IDispatch* HostObject(void* object, const char* argument);
-/// The host has one reference less.
-void TakeBack(IDispatch* object);
+/// Notes that the host has one reference less.
+void DropReference(IDispatch* object);
 [[nodiscard]] COleDateTime ToDateTime(double days, std::int32_t status, const char* argument);
 [[nodiscard]] inline COleDateTime ToDateTime(const vyr_date_time& moment, const char* argument)
 {

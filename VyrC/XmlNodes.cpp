@@ -87,7 +87,7 @@ void XmlNodes::Release(IDispatch* object)
 {
     if (!object)
         return;
-    TakeBack(object);
+    DropReference(object);
     object->Release();
 }
 
