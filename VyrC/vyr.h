@@ -21,7 +21,7 @@
  *            own. The host gives it back with vyr_xml_release, on the same thread. Any other pointer is a wrong argument.
  *            A page's document object is the host's own: on Windows an interface of COM, on Linux an object whose first
  *            word is the address of a table of functions in the order of that interface. What cannot be such an object
-            is a wrong argument.
+ *            is a wrong argument.
  * Version    A function that came after the first version says so in its name in the library, as
  *            vyr_name_of_operation_since_0_2: a host that needs it does not link with an older library.
  * Yes, no    1 and 0, as an int32_t.
