@@ -67,7 +67,7 @@ public:
     CString ShownAfter() const override { return m_after; }
     ChangeLook Look(const CString&) const override { return {}; }
     std::uint32_t Apply(const CString&) const override { return 0; }
-    std::uint32_t TakeBack(const CString&) const override { return 0; }
+    std::uint32_t Undo(const CString&) const override { return 0; }
 
 private:
     CString m_before;

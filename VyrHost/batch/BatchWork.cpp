@@ -183,8 +183,8 @@ bool BatchWork::BeginRedo()
     return MayGoOn(error ? error : m_folder.Flush());
 }
 
-/// Changes are done to the files where they stand before the renames, and taken back there, unless they follow the
-/// renames.
+/// Changes are done to the files where they stand before the renames, and undone there, unless they follow
+/// the renames.
 void BatchWork::Run(Direction direction, const Report& report, const StopRequest& isStopAsked)
 {
     const auto isAsked = [&isStopAsked] {

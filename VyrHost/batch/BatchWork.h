@@ -33,7 +33,7 @@ public:
     /// Whether there is one that is not kept, and whose file has the change or can get it.
     [[nodiscard]] bool IsAnyFound() const;
 
-    /// Applies the changes, or takes them back in reverse order. What another program has changed since stays. Where
+    /// Applies the changes, or undoes them in reverse order. What another program has changed since stays. Where
     /// many are applied, and each is known to be of another file, two threads share them.
     /// @param followRenames  which changes: those that follow the renames, or the others.
     /// @param report called once for each of them, in their order.
@@ -44,7 +44,7 @@ public:
     [[nodiscard]] Model::Outcome Foresee(std::size_t index, Direction direction) const;
 
     [[nodiscard]] bool IsKept(std::size_t index) const { return m_isKept[index]; }
-    /// Whether it is done, or may turn out to be at the next attempt to take it back.
+    /// Whether it is done, or may turn out to be at the next attempt to undo it.
     [[nodiscard]] bool MayBeDone(std::size_t index, Direction direction) const;
     [[nodiscard]] bool IsAnyDone() const;
     /// Where the file stands now; where it was not found, before the batch.

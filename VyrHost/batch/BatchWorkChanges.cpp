@@ -159,7 +159,7 @@ Outcome ChangeWork::Perform(std::size_t index, Direction direction)
     const Outcome foreseen = Foresee(index, direction);
     if (foreseen.status != Status::Done || m_looks[index].state == GoalOf(direction))
         return foreseen;
-    const std::uint32_t error = direction == Direction::Forward ? change.Apply(path) : change.TakeBack(path);
+    const std::uint32_t error = direction == Direction::Forward ? change.Apply(path) : change.Undo(path);
     m_looks[index] = error ? change.Look(path) : Model::ChangeLook{GoalOf(direction), 0};
     return error ? Failure(error) : foreseen;
 }

@@ -1,5 +1,5 @@
 /// @file
-/// Files as records: their columns, and how they are gathered.
+/// Files as records: their columns, and how they are collected.
 #pragma once
 
 #include <VyrHost/collect/CollectEntries.h>

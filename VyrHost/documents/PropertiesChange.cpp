@@ -294,7 +294,7 @@ std::uint32_t PropertiesChange::Keep(DocumentReplacement& replacement) const
                                                                       : std::uint32_t{Result::shareViolation};
 }
 
-std::uint32_t PropertiesChange::TakeBack(const CString& path) const
+std::uint32_t PropertiesChange::Undo(const CString& path) const
 {
     const auto newDocument = FingerprintOf(FileReader(path));
     if (!newDocument)

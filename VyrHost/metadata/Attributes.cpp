@@ -168,11 +168,11 @@ std::uint32_t AttributesChange::Apply(const CString& path) const
     const std::uint32_t error = FileAttributes::Set(path, (now & ~m_bits.mask) | m_bits.value);
     // Of several attributes some may have been set.
     if (error != 0 && Look(path).state != ChangeState::Before)
-        static_cast<void>(TakeBack(path));
+        static_cast<void>(Undo(path));
     return error;
 }
 
-std::uint32_t AttributesChange::TakeBack(const CString& path) const
+std::uint32_t AttributesChange::Undo(const CString& path) const
 {
     const std::uint32_t now = FileAttributes::Get(path);
     const std::uint32_t error = VyrPlatform::ExactState::Restore(path, Part::Attributes, m_bits.beforeState);

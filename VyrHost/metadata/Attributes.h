@@ -62,7 +62,7 @@ public:
     [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;
     [[nodiscard]] std::uint32_t Apply(const CString& path) const override;
     /// Keeps what another program has changed of the other attributes.
-    [[nodiscard]] std::uint32_t TakeBack(const CString& path) const override;
+    [[nodiscard]] std::uint32_t Undo(const CString& path) const override;
 
 private:
     [[nodiscard]] bool HasOthersAsBefore(std::uint32_t now) const;

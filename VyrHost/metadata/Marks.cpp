@@ -175,7 +175,7 @@ std::uint32_t MarkChange::Apply(const CString& path) const
     return error;
 }
 
-std::uint32_t MarkChange::TakeBack(const CString& path) const
+std::uint32_t MarkChange::Undo(const CString& path) const
 {
     const VyrPlatform::FileAttributes::LiftedReadOnly lifted(path);
     return WriteMissing(path);

@@ -54,7 +54,7 @@ public:
     void Mend(const CString& path) const override;
     [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;
     [[nodiscard]] std::uint32_t Apply(const CString& path) const override;
-    [[nodiscard]] std::uint32_t TakeBack(const CString& path) const override;
+    [[nodiscard]] std::uint32_t Undo(const CString& path) const override;
 
 private:
     [[nodiscard]] bool IsPart(const VyrPlatform::NamedStreams::ZoneForm& form) const;

@@ -195,7 +195,7 @@ std::uint32_t TimesChange::Apply(const CString& path) const
     return VyrPlatform::FileTimes::Write(path, wanted);
 }
 
-std::uint32_t TimesChange::TakeBack(const CString& path) const
+std::uint32_t TimesChange::Undo(const CString& path) const
 {
     for (const TimeStep& step : m_steps) {
         const auto now = TicksOf(path, step.date);

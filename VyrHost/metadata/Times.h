@@ -53,7 +53,7 @@ public:
     [[nodiscard]] bool MayLiftProtection() const override;
     [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;
     [[nodiscard]] std::uint32_t Apply(const CString& path) const override;
-    [[nodiscard]] std::uint32_t TakeBack(const CString& path) const override;
+    [[nodiscard]] std::uint32_t Undo(const CString& path) const override;
 
     [[nodiscard]] const std::vector<TimeStep>& Steps() const { return m_steps; }
 

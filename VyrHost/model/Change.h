@@ -60,8 +60,8 @@ public:
     [[nodiscard]] virtual CString ShownBefore() const = 0;
     [[nodiscard]] virtual CString ShownAfter() const = 0;
 
-    /// Whether it is done to the file after the renames of its batch, where the file stands then, and taken back before
-    /// they are undone; otherwise the other way round.
+    /// Whether it is done to the file after the renames of its batch, where the file stands then, and undone before
+    /// they are; otherwise the other way round.
     [[nodiscard]] virtual bool FollowsRenames() const { return false; }
 
     /// The only file that the change touches, or nothing where that is not known. Changes of different files may be
@@ -79,7 +79,7 @@ public:
     /// Sets what the change is to set. Asked for a file whose state is Before or Partly.
     [[nodiscard]] virtual std::uint32_t Apply(const CString& path) const = 0;
     /// Restores what was there before. Asked for a file whose state is After or Partly.
-    [[nodiscard]] virtual std::uint32_t TakeBack(const CString& path) const = 0;
+    [[nodiscard]] virtual std::uint32_t Undo(const CString& path) const = 0;
 };
 
 /// A change that keeps a file, such as the whole old document, beside the journal of its batch.

@@ -44,7 +44,7 @@ std::uint32_t FolderRemoval::Apply(const CString& path) const
     return folder.IsOpen() ? folder.RemoveEmptyFolder(Model::NamePart(path)) : folder.Error();
 }
 
-std::uint32_t FolderRemoval::TakeBack(const CString& path) const
+std::uint32_t FolderRemoval::Undo(const CString& path) const
 {
     const std::u16string_view name = Model::NamePart(path);
     const VyrHostPlatform::OpenFolder folder(Model::FolderPart(path));

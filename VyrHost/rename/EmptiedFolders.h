@@ -35,7 +35,7 @@ public:
 
     [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;
     [[nodiscard]] std::uint32_t Apply(const CString& path) const override;
-    [[nodiscard]] std::uint32_t TakeBack(const CString& path) const override;
+    [[nodiscard]] std::uint32_t Undo(const CString& path) const override;
 
 private:
     CString m_state;

@@ -74,7 +74,7 @@ public:
         return {text == half ? ChangeState::Partly : ChangeState::Other, 0};
     }
     std::uint32_t Apply(const CString& path) const override { return Write(path, m_after); }
-    std::uint32_t TakeBack(const CString& path) const override { return Write(path, m_before); }
+    std::uint32_t Undo(const CString& path) const override { return Write(path, m_before); }
 
 private:
     static std::uint32_t Write(const CString& path, const CString& content)

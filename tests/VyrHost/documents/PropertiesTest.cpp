@@ -106,7 +106,7 @@ TEST_F(Properties, ChangeIsReadAgainFromTheJournalAndGoesAndComesBack)
     ASSERT_EQ(change->Apply(path), 0U);
     EXPECT_EQ(change->Look(path).state, ChangeState::After);
     EXPECT_NE(scratch.ReadFile(u"a.doc"), Sample());
-    ASSERT_EQ(change->TakeBack(path), 0U);
+    ASSERT_EQ(change->Undo(path), 0U);
     EXPECT_EQ(change->Look(path).state, ChangeState::Before);
     EXPECT_EQ(scratch.ReadFile(u"a.doc"), Sample());
 }
@@ -118,10 +118,10 @@ TEST_F(Properties, KeptDocumentThatWasDamagedIsNotRestored)
     const std::string changed = scratch.ReadFile(u"a.doc");
     const std::filesystem::path kept = KeptIn(u"kept");
     std::ofstream(kept, std::ios::binary | std::ios::trunc) << "damaged";
-    EXPECT_EQ(change->TakeBack(path), Result::damaged);
+    EXPECT_EQ(change->Undo(path), Result::damaged);
     std::filesystem::rename(kept, kept.parent_path() / "another name");
     EXPECT_EQ(change->Look(path).state, ChangeState::Other);
-    EXPECT_NE(change->TakeBack(path), 0U);
+    EXPECT_NE(change->Undo(path), 0U);
     EXPECT_EQ(scratch.ReadFile(u"a.doc"), changed);
 }
 
@@ -132,7 +132,7 @@ TEST_F(Properties, OldDocumentIsKeptWholeAndTheNewOneHasOneName)
     EXPECT_EQ(ReadAll(KeptIn(u"kept")), Sample());
     EXPECT_EQ(std::filesystem::hard_link_count(ToStdPath(path)), 1U);
     // As often as it is undone and done again.
-    ASSERT_EQ(change->TakeBack(path), 0U);
+    ASSERT_EQ(change->Undo(path), 0U);
     ASSERT_EQ(change->Apply(path), 0U);
     EXPECT_EQ(ReadAll(KeptIn(u"kept")), Sample());
 }

@@ -1,4 +1,4 @@
-// Random changes of the properties of random documents, one on top of the other, and all of them taken back.
+// Random changes of the properties of random documents, one on top of the other, and all of them undone.
 #include <VyrHost/documents/Document.h>
 #include <VyrHost/documents/Properties.h>
 
@@ -192,7 +192,7 @@ protected:
         return change;
     }
 
-    /// Several changes of the document, and all of them taken back.
+    /// Several changes of the document, and all of them undone.
     /// @return how many there were.
     int GoAndComeBack(const CString& path)
     {
@@ -209,7 +209,7 @@ protected:
         }
         const int done = static_cast<int>(applied.size());
         for (; !applied.empty(); applied.pop_back(), states.pop_back()) {
-            EXPECT_EQ(applied.back()->TakeBack(path), 0U);
+            EXPECT_EQ(applied.back()->Undo(path), 0U);
             EXPECT_TRUE(State() == states.back()) << "something of the file is not as it was";
         }
         return done;

@@ -45,7 +45,7 @@ TEST(Attributes, ChosenOnesAreChangedAndOthersKept)
     EXPECT_EQ(change->Apply(path), 0U);
     EXPECT_EQ(change->Look(path).state, ChangeState::After);
     EXPECT_EQ(FileAttributes::Get(path), before | hidden | readOnly);
-    EXPECT_EQ(change->TakeBack(path), 0U);
+    EXPECT_EQ(change->Undo(path), 0U);
     EXPECT_EQ(change->Look(path).state, ChangeState::Before);
     EXPECT_EQ(FileAttributes::Get(path), before);
 }
@@ -60,7 +60,7 @@ TEST(Attributes, ThatAnotherProgramHasChangedSinceAreNotTakenBack)
         ASSERT_TRUE(proposal.change);
         ASSERT_EQ(proposal.change->Apply(path), 0U);
         ASSERT_EQ(FileAttributes::Set(path, FileAttributes::Get(path) ^ readOnly), 0U);
-        EXPECT_EQ(proposal.change->TakeBack(path), 0U);
+        EXPECT_EQ(proposal.change->Undo(path), 0U);
         EXPECT_EQ(FileAttributes::Get(path) & (readOnly | hidden | systemFile),
                   systemFile | (isProtected ? 0 : readOnly));
     }
@@ -76,7 +76,7 @@ TEST(Attributes, HalfAChangeIsUndone)
     ASSERT_TRUE(proposal.change);
     ASSERT_EQ(FileAttributes::Set(path, before | hidden), 0U);
     EXPECT_EQ(proposal.change->Look(path).state, ChangeState::Partly);
-    EXPECT_EQ(proposal.change->TakeBack(path), 0U);
+    EXPECT_EQ(proposal.change->Undo(path), 0U);
     EXPECT_EQ(FileAttributes::Get(path), before);
 }
 

@@ -53,7 +53,7 @@ TEST(Mark, IsRemovedAndRestoredWithItsBytes)
     EXPECT_EQ(change->Look(path).state, ChangeState::After);
     EXPECT_FALSE(VyrTests::IsMarkedAsDownloaded(path));
     EXPECT_FALSE(Propose(path).change);
-    EXPECT_EQ(change->TakeBack(path), 0U);
+    EXPECT_EQ(change->Undo(path), 0U);
     EXPECT_EQ(change->Look(path).state, ChangeState::Before);
     EXPECT_EQ(FormsOf(path), before);
     EXPECT_EQ(scratch.ReadFile(u"a"), "content");
@@ -76,7 +76,7 @@ TEST(Mark, OfAReadOnlyFileIsRemovedAndRestored)
     VyrTests::SetReadOnly(path, false);
     read->Mend(path);
     EXPECT_TRUE(VyrPlatform::FileAttributes::IsReadOnly(path)) << "as where the work was cut off";
-    EXPECT_EQ(proposal.change->TakeBack(path), 0U);
+    EXPECT_EQ(proposal.change->Undo(path), 0U);
     EXPECT_TRUE(VyrTests::IsMarkedAsDownloaded(path));
     EXPECT_TRUE(VyrPlatform::FileAttributes::IsReadOnly(path));
     VyrTests::SetReadOnly(path, false);
@@ -90,7 +90,7 @@ TEST(Mark, WhoseWritingWasCutOffIsEmptyAndAPart)
     const MarkChange change({whole});
     ASSERT_EQ(VyrPlatform::NamedStreams::WriteZoneForm(path, Stream("")), 0U);
     EXPECT_EQ(change.Look(path).state, ChangeState::Partly);
-    EXPECT_EQ(change.TakeBack(path), 0U);
+    EXPECT_EQ(change.Undo(path), 0U);
     EXPECT_EQ(FormsOf(path), ZoneForms{whole});
 }
 

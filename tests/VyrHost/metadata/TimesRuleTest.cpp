@@ -90,7 +90,7 @@ protected:
         EXPECT_EQ(again->Look(m_path).state, ChangeState::Before);
         EXPECT_EQ(again->Apply(m_path), 0U);
         EXPECT_EQ(again->Look(m_path).state, ChangeState::After);
-        EXPECT_EQ(again->TakeBack(m_path), 0U);
+        EXPECT_EQ(again->Undo(m_path), 0U);
         EXPECT_EQ(again->Look(m_path).state, ChangeState::Before);
         EXPECT_EQ(FileTimes::GetModified(m_path), before);
     }
@@ -226,7 +226,7 @@ TEST_F(Times, TypedTimesAreLocalInSummerAndInWinter)
             const auto ticks = FileTimes::GetModified(m_path);
             ASSERT_TRUE(ticks);
             EXPECT_EQ(Shown(*ticks), typed) << name;
-            EXPECT_EQ(proposal.change->TakeBack(m_path), 0U);
+            EXPECT_EQ(proposal.change->Undo(m_path), 0U);
         }
     }
 }
@@ -332,7 +332,7 @@ TEST_F(Times, TimesSetByAnotherProgramAreNotUndone)
     EXPECT_EQ(proposal.change->Look(m_path).state, ChangeState::Before);
     StampFile(m_path, after, accessed);
     EXPECT_EQ(proposal.change->Look(m_path).state, ChangeState::Partly);
-    EXPECT_EQ(proposal.change->TakeBack(m_path), 0U);
+    EXPECT_EQ(proposal.change->Undo(m_path), 0U);
     EXPECT_EQ(FileTimes::GetModified(m_path), before);
     StampFile(m_path, after + 100 * FileTicks{10'000'000}, accessed);
     EXPECT_EQ(proposal.change->Look(m_path).state, ChangeState::Other);
@@ -372,7 +372,7 @@ TEST_F(Times, AccessSinceTheyWereSetKeepsNoOtherTimeFromUndo)
     StampFile(m_path, after, accessed);
     EXPECT_EQ(proposal.change->Look(m_path).state, ChangeState::After);
     EXPECT_EQ(proposal.change->Look(m_path).left, u"the time of the last access, which has changed since, stays");
-    EXPECT_EQ(proposal.change->TakeBack(m_path), 0U);
+    EXPECT_EQ(proposal.change->Undo(m_path), 0U);
     EXPECT_EQ(FileTimes::GetModified(m_path), before);
     EXPECT_EQ(FileTimes::GetAccessed(m_path), accessed);
 }

@@ -33,6 +33,6 @@ TEST(AttributesChangeLinux, FileThatIsMarkedReadOnlyAloneIsFinished)
     EXPECT_EQ(std::filesystem::status(VyrTests::ToStdPath(path)).permissions(), std::filesystem::perms(0444));
     EXPECT_EQ(FileAttributes::Get(path), 0x5U);
     EXPECT_EQ(change.Look(path).state, ChangeState::After);
-    EXPECT_EQ(change.TakeBack(path), 0U);
+    EXPECT_EQ(change.Undo(path), 0U);
     EXPECT_EQ(std::filesystem::status(VyrTests::ToStdPath(path)).permissions(), writable);
 }
