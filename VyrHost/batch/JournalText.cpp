@@ -164,7 +164,7 @@ PlannedChange ReadChange(LineReader& reader, const Model::RenamePlan& plan, cons
     reader.End();
     planned.change = known->second(before, after);
     if (!planned.change || !Model::IsPlaceSound(plan, planned.place))
-        reader.Fail(u"a change is not as it can be");
+        reader.Fail(u"a change is not valid");
     return planned;
 }
 
@@ -175,7 +175,7 @@ void LinkFolders(LineReader& reader, Model::RenamePlan& plan)
         if (folder == Model::none)
             continue;
         if (folder >= plan.folders.size() || plan.folders[folder].entry != Model::none)
-            reader.Fail(u"an entry is a folder that there is not");
+            reader.Fail(u"an entry names a wrong folder");
         plan.folders[folder].entry = entry;
     }
 }
@@ -237,7 +237,7 @@ std::vector<ProtectedFile> ReadProtected(std::optional<LineReader> reader, std::
         ProtectedFile& file = files.emplace_back();
         file.change = reader->Index();
         if (file.change >= changes)
-            reader->Fail(u"a protected file is of no change");
+            reader->Fail(u"a protected file belongs to no change");
         file.state = reader->Name();
     }
     return files;

@@ -65,10 +65,9 @@ quantifiers. In WITH:
   $1 ${1} ${name}  what a group matched
   $& $0            the whole match
   $$ \$            a dollar sign
-  \U \L ... \E      capital or small letters up to \E
+  \U \L ... \E     capital or small letters up to \E
   \u \l            the next letter alone
-In a shell such as bash single quotes keep them from it; Windows takes double
-ones.
+Quote patterns and WITH: single quotes in bash, double quotes on Windows.
 
 Kept rules are plain text, one option a line; "vyr rules" lists them:
   --regex "^(.+) - (.+)$" "$2 - $1"
@@ -87,7 +86,7 @@ Examples:
 
 constexpr const char* tokensText =
     R"~(In --number:
-  ### #             the number; each # is a digit at least
+  ### #             the number; each # is at least one digit
   <Number>          the number, where # is text
   <Name>            the name so far
 In --date:

@@ -122,7 +122,7 @@ public:
     {
         std::string total = CountedNoun(m_documents.size(), "document", "documents") + ".";
         if (m_others > 0)
-            total += " " + CountedNoun(m_others, "file is", "files are") + " no document" + (m_others > 1 ? "s." : ".");
+            total += " " + CountedNoun(m_others, "file is not a document", "files are not documents") + ".";
         if (std::string leftOut = LeftOutNotice(m_collected); !leftOut.empty()) {
             leftOut.pop_back();
             total += " " + leftOut;

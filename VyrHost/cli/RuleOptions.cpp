@@ -98,7 +98,7 @@ Rename::Rules FromValue(const Given& given)
 
 constexpr RuleOption ruleOptions[] = {
     {"--number", "TEMPLATE", 1,
-     "A sequence number: \"Trip ###\", \"<Name>-#\". Each # is a digit at least; <Name> keeps the old name",
+     "A sequence number: \"Trip ###\", \"<Name>-#\". Each # is at least one digit; <Name> keeps the old name",
      [](const Given& given) {
          return Rename::NumberRules(given.values.front(), given.number);
      }},

@@ -50,8 +50,8 @@ ChoiceOptions::ChoiceOptions(CLI::App& command) : m_command(command)
     AddText(command, "--created", m_created, "RANGE", "Only what was created then", choiceGroup);
     AddText(command, "--taken", m_taken, "RANGE", "Only pictures that were taken then", choiceGroup);
     AddText(command, "--size", m_size, "RANGE",
-            "Only what is so large: empty, tiny (to 16 KB), small (to 1 MB), medium (to 128 MB), large (to 1 GB), huge "
-            "(to 4 GB), giant, or FROM..TO, such as 1.5MB.. or 500..16KB",
+            "Only what has this size: empty, tiny (to 16 KB), small (to 1 MB), medium (to 128 MB), large (to 1 GB), "
+            "huge (to 4 GB), giant, or FROM..TO, such as 1.5MB.. or 500..16KB",
             choiceGroup);
 }
 

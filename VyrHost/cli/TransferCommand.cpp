@@ -107,7 +107,7 @@ TransferCommand::TransferCommand(CLI::App& program, FolderCopy::TransferAction a
     : Command(AddCommand(program, action)), m_action(action),
       m_run(m_command,
             {IsCopy() ? "Copy; without it the result is only shown" : "Move; without it the result is only shown",
-             "Write one JSON object for each folder, and for each entry in trouble",
+             "Write one JSON object for each folder, and for each entry that is in the way or fails",
              "Show only what is in the way or fails"},
             nullptr)
 {

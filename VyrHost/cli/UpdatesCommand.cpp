@@ -71,7 +71,7 @@ private:
 UpdatesCommand::UpdatesCommand(CLI::App& program)
     : Command(*program.add_subcommand("updates", "Tell whether a newer release is offered"))
 {
-    m_command.add_option("--every", m_days, "Look only if the last look was so many days ago or more, or never")
+    m_command.add_option("--every", m_days, "Look only if the last look was at least this many days ago, or never")
         ->type_name("DAYS")
         ->check(CLI::Range(0, std::numeric_limits<int>::max()).description(""));
     m_command.footer(ExitCode::table);
@@ -81,7 +81,7 @@ int UpdatesCommand::Run() const
 {
     const CString address = UpdatesFuncs::GetCheckForUpdatesUrl();
     if (address.IsEmpty()) {
-        Complain("no address of update information is known; it is \"Url\" in the section \"Updates\" of " +
+        Complain("no address of update information is set; set \"Url\" in the section \"Updates\" of " +
                  Text::SafeText(PathUtils::GetLocalDataUpdatesFilePath()));
         return ExitCode::blocked;
     }

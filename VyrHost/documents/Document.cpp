@@ -91,7 +91,7 @@ Document ReadDocument(const CString& path)
     const std::uint32_t result = VyrPlatform::ReadDocumentProperties(path, HandlerOf(path), document.properties);
     document.isDocument = result != Result::notSupported;
     if (!document.isDocument)
-        document.problem = u"it is no document whose properties are known";
+        document.problem = u"it is not a document whose properties are known";
     else if (result != Result::ok)
         document.problem = Text::ErrorText(result);
     return document;

@@ -177,10 +177,10 @@ CString FindPlanFault(const RenamePlan& plan)
 {
     for (PlanIndex folder = 0; folder < plan.folders.size(); ++folder)
         if (!IsFolderSound(plan, folder))
-            return u"a folder is not as it can be";
+            return u"a folder is not valid";
     for (const PlanEntry& entry : plan.entries)
         if (!IsEntrySound(plan, entry))
-            return u"an entry is not as it can be";
+            return u"an entry is not valid";
     if (!StepCheck(plan).IsSound())
         return u"the steps do not fit the entries";
     if (OrderFolders(plan).size() != plan.folders.size())

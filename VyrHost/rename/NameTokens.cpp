@@ -354,7 +354,7 @@ constexpr TokenHelp table[] = {
     {"<Extension>", "the extension without its dot; a template that ends in .<Extension> gives it itself"},
     {"<Parent>", "the folder that the entry is in; <Parent:2> the one above it"},
     {"<Folder>", "ends the name of a folder to move into"},
-    {"<#>", "a counter, as wide as it has # at least: <###:start 5 step 2 per day>"},
+    {"<#>", "a counter; each # is at least one digit: <###:start 5 step 2 per day>"},
     {"<Taken:FORMAT>", "when the picture was taken, such as <Taken:yyyy-MM-dd>"},
     {"<Modified:FORMAT>", "when the file was last changed"},
     {"<Created:FORMAT>", "when the file was made"},
@@ -368,16 +368,16 @@ constexpr TokenHelp table[] = {
     {"<Title>", "of music, a film or a document"},
     {"<Artist>", "of music or a film; the author of a document"},
     {"<Album>", "of music or a film"},
-    {"<Track:##>", "the track of music or a film, as wide as it has # at least"},
+    {"<Track:##>", "the track of music or a film; each # is at least one digit"},
     {"<Disc>", "the disc of music"},
     {"<Year>", "of music or a film; the year in which a document was made"},
     {"<Genre>", "of music or a film; the keywords of a document"},
     {"<Size>", "the size in bytes"},
-    {"<Hash:8>", "so many digits of the SHA-256 of the content; without a number all 64"},
+    {"<Hash:8>", "the first 8 digits of the SHA-256 of the content; without a number all 64"},
     {"<1>", "a group of the last --regex, by its number or its name"},
     {"<Csv:COLUMN>", "the field of that column in the line of --csv-data for the file"},
     {"<Uuid>", "a random identifier of 36 characters"},
-    {"<Random:8>", "so many digits and small letters by chance"},
+    {"<Random:8>", "8 random digits and small letters"},
 };
 
 bool IsNumber(std::u16string_view word)

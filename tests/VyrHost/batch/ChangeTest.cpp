@@ -328,7 +328,7 @@ TEST_F(Changes, WithTextsThatTheirKindNeverWritesAreRefused)
     ASSERT_TRUE(ReadJournal(text, problem, KindsOfTest()));
     journal.changes[0].change = std::make_shared<ContentChange>(u"same", u"same");
     EXPECT_FALSE(ReadJournal(TextOf(journal), problem, KindsOfTest()));
-    EXPECT_GE(problem.Find(u"a change is not as it can be"), 0);
+    EXPECT_GE(problem.Find(u"a change is not valid"), 0);
     journal.changes[0] = {{0, journal.plan.texts->Intern(u"..")}, std::make_shared<ContentChange>(u"old", u"new")};
     EXPECT_FALSE(ReadJournal(TextOf(journal), problem, KindsOfTest()));
 }
@@ -362,7 +362,7 @@ TEST_F(Changes, TellWhichFilesWereProtectedWhenTheLastWorkOnThemBegan)
     text += WriteProtected({{3, u"0444 - -"}}, check);
     CString problem;
     EXPECT_FALSE(ReadJournal(text, problem, KindsOfTest()));
-    EXPECT_GE(problem.Find(u"a protected file is of no change"), 0);
+    EXPECT_GE(problem.Find(u"a protected file belongs to no change"), 0);
 }
 
 TEST_F(Changes, AndRenamesOfTheSameFilesCanBeInOneBatch)

@@ -73,7 +73,7 @@ TEST_F(PropertiesCommand, PropertiesAreListedForPeopleAndPrograms)
     const ProgramResult table = Run({u"properties", u"a.doc", u"b.txt"});
     EXPECT_EQ(table.exitCode, 0) << table.errors;
     EXPECT_THAT(table.output, HasSubstr("Old title"));
-    EXPECT_THAT(table.output, HasSubstr("1 document. 1 file is no document."));
+    EXPECT_THAT(table.output, HasSubstr("1 document. 1 file is not a document."));
     const ProgramResult json = Run({u"properties", u"a.doc", u"--json"});
     EXPECT_THAT(json.output, HasSubstr("\"title\":\"Old title\",\"author\":\"Ann\""));
     EXPECT_THAT(json.output, HasSubstr("\"created\":\"2024-01-05T10:30:00+00:00\""));
@@ -175,7 +175,7 @@ TEST_F(PropertiesCommand, WhatCannotBeChangedIsSaidInItsRowAndStays)
                                          "--break-signature changes it all the same"));
     EXPECT_THAT(result.output, HasSubstr("refused: it has no summary information"));
     EXPECT_THAT(result.output, HasSubstr("refused: its properties do not say in which code page they are"));
-    EXPECT_THAT(result.output, HasSubstr("refused: it is no document whose properties are known"));
+    EXPECT_THAT(result.output, HasSubstr("refused: it is not a document whose properties are known"));
     EXPECT_THAT(result.output, HasSubstr("refused: it is a folder"));
     EXPECT_THAT(result.output, HasSubstr("9 entries: 9 refused."));
     EXPECT_EQ(Files(), before);

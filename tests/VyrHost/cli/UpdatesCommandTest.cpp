@@ -18,7 +18,7 @@ TEST_F(Updates, WithoutAnAddressAreUnknown)
     const ProgramResult result = Run({u"updates"});
     EXPECT_EQ(result.exitCode, 4);
     EXPECT_EQ(result.output, "");
-    EXPECT_THAT(result.errors, HasSubstr("no address of update information is known"));
+    EXPECT_THAT(result.errors, HasSubstr("no address of update information is set"));
 }
 
 TEST_F(Updates, EveryTakesANumberOfDays)
