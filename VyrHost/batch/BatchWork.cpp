@@ -331,8 +331,8 @@ bool BatchWork::IsAnyDone() const
     return m_changes.IsAnyDone();
 }
 
-/// The phase first: a checkpoint that is not written any more only means that the next one who works on the batch looks
-/// at the disk, while checkpoints in an open batch could be of its beginning or of its end.
+/// Sets the phase before it writes the checkpoint. Where the checkpoint is missing, the next work on the batch looks at
+/// the disk; a checkpoint in an open batch could be of its beginning or of its end.
 void BatchWork::End(const Checkpoint& checkpoint, BatchPhase phase)
 {
     std::uint32_t error = m_folder.SetPhase(m_file, phase);

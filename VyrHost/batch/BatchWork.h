@@ -25,9 +25,9 @@ public:
 
     /// Believes the journal's checkpoint about the changes that are not done: they are left alone and not reported.
     void TrustCheckpoint();
-    /// The files that are protected against writing, and may lose that for the time of the work.
+    /// The files that are protected against writing, and may lose that while the work lasts.
     [[nodiscard]] std::vector<ProtectedFile> FindProtected() const;
-    /// Looks at what every file has.
+    /// Looks how far every file has its change.
     /// @param mends  whether the work was cut off, and the files may be changed (Change::Mend).
     void Locate(bool mends);
     /// Whether there is one that is not kept, and whose file has the change or can get it.

@@ -171,9 +171,9 @@ struct BatchSettings
     Model::ChangeKinds kinds;
 };
 
-/// As the environment says it: journals are in the folder that VYR_JOURNAL_DIR names, else in the folder "journal" of
-/// the product's folder for what a program keeps of its doings; VYR_KEEP_BATCHES and VYR_KEEP_DAYS say how long they
-/// are kept (other values than numbers from 1 on are ignored).
+/// The settings that the environment gives. VYR_JOURNAL_DIR names the folder of the journals; without it, that is the
+/// folder "journal" among the product's state. VYR_KEEP_BATCHES and VYR_KEEP_DAYS say how long journals are kept;
+/// values other than numbers from 1 on are ignored.
 [[nodiscard]] BatchSettings SettingsFromEnvironment();
 
 using BatchEntryReport = std::function<void(const BatchEntry& entry)>;

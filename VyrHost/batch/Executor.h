@@ -51,7 +51,7 @@ private:
     };
 
     void FindGroups();
-    /// The group that comes as the one with the number `index` in `direction`.
+    /// The group at `index`, counted in `direction`.
     [[nodiscard]] const Group& GroupAt(std::size_t index, Direction direction) const
     {
         return m_groups[direction == Direction::Forward ? index : m_groups.size() - 1 - index];

@@ -41,10 +41,10 @@ struct JournalFile
     CString path;
 };
 
-/// How long the journals of batches are kept whose work has ended.
+/// How long journals are kept once the work on their batches has ended.
 struct JournalKeeping
 {
-    /// So many batches at most, the latest.
+    /// The latest batches, at most this many.
     std::size_t batches = 200;
     /// Days since the last work on the batch.
     std::int64_t days = 90;

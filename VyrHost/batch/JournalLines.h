@@ -24,7 +24,7 @@ namespace VyrHost::Batch {
 /// four hexadecimal digits, so that every text comes back unit by unit.
 void AppendJournalName(std::string& text, std::u16string_view name);
 
-/// The name that `text` stands for; nothing when it is not as AppendJournalName writes it.
+/// The name that `text` stands for; nothing for one that AppendJournalName never writes.
 [[nodiscard]] std::optional<CString> ReadJournalName(std::string_view text);
 
 /// The CRC-32 of what gave `before`, with `bytes` behind it (the polynomial of IEEE 802.3, as in zlib and PNG). Start
@@ -203,7 +203,7 @@ public:
             return {};
         }
     }
-    /// Goes past a line whose check cannot be told to be right or wrong.
+    /// Skips a line without judging its check.
     /// @return that check.
     std::uint32_t Skip()
     {

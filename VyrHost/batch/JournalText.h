@@ -48,7 +48,7 @@ namespace VyrHost::Batch {
 struct JournalHeading
 {
     std::uint32_t number = 0;
-    /// By chance, for the temporary names of the batch.
+    /// A random number for the temporary names of the batch.
     std::uint64_t token = 0;
     /// Local time as yyyy/MM/dd HH:mm:ss.
     CString started;
@@ -87,14 +87,14 @@ struct CheckpointOutline
     std::size_t entriesTemporary = 0;
 };
 
-/// A change that is no rename, and the file it is done to: its place before the batch.
+/// A change other than a rename, and the file it is done to: its place before the batch.
 struct PlannedChange
 {
     Model::Place place;
     std::shared_ptr<const Model::Change> change;
 };
 
-/// A file that was protected against writing when work on the batch began, and may lose that for the time of the work.
+/// A file that was protected against writing when work on the batch began, and may lose that while the work lasts.
 struct ProtectedFile
 {
     Model::PlanIndex change = 0;

@@ -14,7 +14,8 @@
 
 namespace VyrHost::Cli {
 
-/// A moment in local time with its offset from UTC, where the count of days runs evenly; none for none.
+/// `ticks` in local time; from 1900 on with the offset from UTC, as COleDateTime does not count earlier days evenly. No
+/// value for a time that is missing or out of range.
 [[nodiscard]] Ui::RecordValue DateOf(const std::optional<VyrPlatform::FileTicks>& ticks);
 
 /// All that can be told of a file.

@@ -63,7 +63,8 @@ struct CollectedEntries
 /// natural order. A path that does not exist is an entry of kind Missing.
 ///
 /// The kind of an entry comes from the listing of its folder, which is read once, however many entries it has.
-/// @throws UsageError when an entry is named twice, is inside a folder that is named too, or is none (a root, "..").
+/// @throws UsageError when an entry is named twice, is inside a folder that is named too, or cannot be one (a root,
+/// "..").
 [[nodiscard]] CollectedEntries CollectEntries(const SourceSettings& settings);
 
 } // namespace VyrHost::Collect

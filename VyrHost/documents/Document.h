@@ -35,7 +35,7 @@ struct PropertyName
 /// Those that can be cleared, and set unless they are pictures, in the order in which they are shown.
 [[nodiscard]] std::span<const PropertyName> PropertyNames();
 
-/// The property that is called `name`, without regard to case; null for no such.
+/// The property that is called `name`, without regard to case; null where there is none.
 [[nodiscard]] const PropertyName* FindProperty(std::u16string_view name);
 
 /// A document that was read.

@@ -51,7 +51,7 @@ public:
     {}
 
     static constexpr std::string_view kind = "properties";
-    /// What the journal keeps; null for texts that are none of this kind.
+    /// What the journal keeps; null for texts that are not of this kind.
     [[nodiscard]] static std::shared_ptr<const Model::Change> Read(const CString& before, const CString& after);
 
     [[nodiscard]] std::string_view Kind() const override { return kind; }
@@ -91,8 +91,8 @@ struct PropertyRequest
 };
 
 /// Adds what `text`, such as "title=The <Name>" or "created=2024-01-05 10:30", sets.
-/// @throws UsageError for a property that there is not or that cannot be set, one that is named twice, a word in angle
-/// brackets that stands for nothing, and a time that is none.
+/// @throws UsageError for a property that does not exist, cannot be set or is named twice, for an unknown word in angle
+/// brackets, and for a time that makes no sense.
 void ParseProperty(std::u16string_view text, PropertyRequest& request);
 /// Adds what `text`, names separated by commas, clears.
 /// @throws UsageError likewise.

@@ -302,7 +302,7 @@ std::uint32_t PropertiesChange::Undo(const CString& path) const
     auto replacement = DocumentReplacement::WithContent(path, KeptPath(m_kept, *newDocument));
     if (replacement.Error() != Result::ok)
         return replacement.Error();
-    // A kept file that was written to is none.
+    // Somebody may have written to the kept file.
     if (FingerprintOf(FileReader(replacement.NewPath())) != m_document->fingerprint)
         return Result::damaged;
     return replacement.Commit();

@@ -30,7 +30,7 @@ struct ContentKind
 /// are read. Sources: the formats' own documents, which the functions name.
 [[nodiscard]] const ContentKind* KindOfContent(VyrLibraryUtils::Pictures::ByteSource& file);
 
-/// What came of looking into a file.
+/// The result of looking into a file.
 struct FileKind
 {
     /// Nothing for content that is not known, and for empty files, folders and devices.

@@ -11,7 +11,7 @@
 namespace VyrHost::Media {
 
 /// A date-time as Exif ("2024:07:19 18:45:03") or XMP ("2024-07-19T18:45:03.25+02:00") writes it. A date alone is
-/// midnight. Nothing where there is no such day or time, and for a date without a digit but 0.
+/// midnight. Nothing where there is no such day or time, and for a date of zeros alone.
 [[nodiscard]] std::optional<PictureDate> ParsePictureDate(std::string_view text);
 
 /// Exif's DateTimeOriginal, with its fraction and how far its clock was ahead.

@@ -169,7 +169,7 @@ bool TakeHalfOfDay(Front& front, bool& isAfternoon)
     return (isAfternoon || front.TakeText(u"AM")) && !front.StartsWithCapital();
 }
 
-/// `hour`, of 1 to 12, of that half of the day; another hour is none of a half.
+/// The hour of the day (0 to 23) for `hour` before or after noon. One that is not 1 to 12 stays as it is.
 int HourOfDay(int hour, bool isAfternoon)
 {
     constexpr int noon = 12;

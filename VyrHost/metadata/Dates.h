@@ -59,12 +59,17 @@ struct NameDate
     int milliseconds = 0;
 };
 
-/// Finds the first date in `name`: a year from 1900 to 2099, a month and a day, without separators or with the same one
-/// of `-`, `_`, `.` and blank between them, and with no digit before it. A time of day may follow directly or after one
-/// of `-`, `_`, `.`, `T`, blank and " at ": two digits each for hour, minute and optionally second, without separators
-/// or with `-`, `_`, `.` or `:` between them; three digits of milliseconds may follow, also after `.` or `,`, and
-/// behind " at " AM or PM. A date with hour, minute and second behind it that are no time is passed over, as one of no
-/// possible day is; other digits behind it are no time.
+/// Finds the first date in `name`.
+///
+/// A date is a year from 1900 to 2099, a month and a day. No digit stands before it. Its parts have no separators, or
+/// the same one of `-`, `_`, `.` and blank.
+///
+/// A time of day may follow, directly or after one of `-`, `_`, `.`, `T`, blank and " at ": two digits each for hour,
+/// minute and optionally second, without separators or with `-`, `_`, `.` or `:`. Three digits of milliseconds may
+/// follow, also after `.` or `,`; after " at ", AM or PM may.
+///
+/// A date is skipped when there is no such day, or when the hour, minute and second behind it are impossible. Other
+/// digits behind a date are not a time.
 ///
 /// "IMG_20240105_103000.jpg" and "2024-01-05 10.30.00.jpg" contain 5 January 2024 10:30:00, "IMG-20240105-WA0001.jpg"
 /// contains 5 January 2024 without a time.

@@ -34,7 +34,7 @@ struct Amounts
 [[nodiscard]] COleDateTime OnClock(std::int64_t seconds);
 
 /// `local` shifted on the clock without daylight-saving time, and then by the calendar, as
-/// DateTimeFuncs::GetCalDateTime does it. No time zone has a part in it: the result may be a time that clocks skip.
+/// DateTimeFuncs::GetCalDateTime does it. Time zones play no part: the result may be a time that clocks skip.
 /// @return nothing where the result would leave the years 1400 to 9999.
 [[nodiscard]] std::optional<COleDateTime> Shifted(const COleDateTime& local, const Amounts& amounts);
 

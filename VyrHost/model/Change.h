@@ -1,5 +1,5 @@
 /// @file
-/// The seam for changes that are no renames: what a kind of change brings so that it can be journalled, undone and
+/// The seam for changes other than renames: what a kind of change brings so that it can be journalled, undone and
 /// recovered.
 #pragma once
 
@@ -16,7 +16,7 @@
 
 namespace VyrHost::Model {
 
-/// What a file has of a change.
+/// How far a file has a change.
 enum class ChangeState : std::uint8_t
 {
     /// All that the change sets is as it was before.
@@ -68,11 +68,11 @@ public:
     /// applied on two threads at the same time.
     [[nodiscard]] virtual std::optional<VyrPlatform::FileIdentity> OnlyFile() const { return std::nullopt; }
 
-    /// Whether the work lifts the protection of the file against writing for its own time, where the change itself does
-    /// not keep what to restore.
+    /// Whether the work lifts the file's protection against writing while it lasts, and the change itself does not keep
+    /// what to restore.
     [[nodiscard]] virtual bool MayLiftProtection() const { return false; }
-    /// Where the work on the file was cut off: restores what it had been changed in for the time of the work alone,
-    /// such as its protection against writing. Called before Look.
+    /// Where the work on the file was cut off: restores what was changed only while it lasted, such as the protection
+    /// against writing. Called before Look.
     virtual void Mend(const CString& /*path*/) const {}
     /// Whether the file at `path` is still as it was set.
     [[nodiscard]] virtual ChangeLook Look(const CString& path) const = 0;
@@ -96,7 +96,7 @@ public:
     [[nodiscard]] virtual std::shared_ptr<const Change> KeepingAt(const CString& kept) const = 0;
 };
 
-/// Makes a change again of what the journal keeps of it; null when its kind never writes such texts.
+/// Makes a change of what the journal keeps of it; null for texts that its kind never writes.
 using ChangeReader = std::function<std::shared_ptr<const Change>(const CString& before, const CString& after)>;
 
 /// The kinds of change that a program knows besides the rename, by their names.

@@ -22,8 +22,8 @@ namespace VyrHost::Model {
 /// What follows that folder in `path`: the name. All of it when there is no separator.
 [[nodiscard]] std::u16string_view NamePart(std::u16string_view path);
 
-/// The name of the folder that `path` (absolute) is in; with a `level` above 1 that of the folder so many levels above
-/// it. Empty where that is a root, or there is none.
+/// The name of the folder that `path` (absolute) is in for the `level` 1, of the one above it for 2, and so on. Empty
+/// for a root, and where there is no such folder.
 [[nodiscard]] std::u16string_view ParentName(std::u16string_view path, int level);
 
 /// Stands for "no folder" where the number of a folder is asked for.

@@ -41,7 +41,7 @@ inline constexpr std::size_t statusCount = static_cast<std::size_t>(Status::NotR
 struct Outcome
 {
     Status status = Status::NotReached;
-    /// The system's error code; 0 where none tells more.
+    /// The system's error code; 0 where there is none.
     std::uint32_t error = 0;
     /// For people; empty when there is nothing to say.
     CString reason;

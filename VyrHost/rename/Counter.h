@@ -48,7 +48,7 @@ struct CounterForm
 /// Reads the option of a counter: "start N", "step N", "per folder|day|name" and "roman", "letters" or "hex", each once
 /// and in any order, separated by blanks.
 /// @param width  how many "#" the counter has.
-/// @return what is wrong with it, in words; null for nothing.
+/// @return what is wrong with it, in words; null when nothing is.
 [[nodiscard]] const char* ParseCounter(std::u16string_view option, std::size_t width, CounterForm& form);
 
 /// `number` in that form; nothing for a number that the style does not have.

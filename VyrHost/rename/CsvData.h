@@ -20,11 +20,11 @@ class CsvData
 public:
     /// @param bytes  the table (TableReader) in UTF-8.
     /// @throws UsageError for a table without lines, a column without a heading or with that of another one, a line of
-    /// fewer or more fields than the first, one for no file, and a second one for a file.
+    /// fewer or more fields than the first, one that names no file, and a second one for a file.
     explicit CsvData(std::string_view bytes);
 
-    /// The number of the column with that heading, or, where none has it, of that number from 1 on; nothing for no
-    /// such column.
+    /// The number of the column with that heading, or, where none has it, of that number from 1 on; nothing where there
+    /// is no such column.
     [[nodiscard]] std::optional<std::size_t> FindColumn(std::u16string_view name) const;
     [[nodiscard]] const std::vector<std::string>& Columns() const { return m_columns; }
     /// The field of the line for the file at `path` (absolute); empty where there is none.

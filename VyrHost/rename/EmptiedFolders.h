@@ -50,8 +50,8 @@ struct EmptiedFolder
 };
 
 /// The folders out of which `plan` moves the last entry, and those in which nothing but such folders is left, the
-/// innermost first. Without: a folder that is an entry itself, one that could not be listed, the current folder, those
-/// that it stands in, and folders above those that the entries were looked for in.
+/// innermost first. Left out are a folder that is an entry itself, one that could not be listed, the current folder,
+/// those that it stands in, and folders above those that the entries were looked for in.
 /// @param folders  brings the listings of the folders of `plan`.
 [[nodiscard]] std::vector<EmptiedFolder> FindEmptied(const Model::RenamePlan& plan, const Model::FolderSet& folders);
 

@@ -37,8 +37,8 @@ struct FoundDate
     FileMoment moment = {};
 };
 
-/// What is asked of the content of every file for those dates: for the first, as the others are asked for only where it
-/// is missing.
+/// What those dates ask of the content of every file: what the first needs, as the others matter only where it is
+/// missing.
 [[nodiscard]] Media::MediaQuestion QuestionFor(const DateSettings& settings);
 
 /// The date that `settings` ask for. A file whose content cannot be read is a fault, not one without a date.

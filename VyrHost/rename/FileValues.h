@@ -65,7 +65,7 @@ public:
     [[nodiscard]] std::optional<std::int64_t> Size();
     /// The digits of its SHA-256; empty where it cannot be read.
     [[nodiscard]] const CString& Hash();
-    /// Why its content cannot be read (the system's code); 0 where it can be, and for what has none.
+    /// Why its content cannot be read (the system's code); 0 where it can be, and for what has no content.
     [[nodiscard]] std::uint32_t ReadError();
 
 private:

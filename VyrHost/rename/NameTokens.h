@@ -57,7 +57,7 @@ struct TokenHelp
 /// @param text      the whole template, for errors.
 /// @param question  gets what the token asks of the content of every file. It must live as long as the reader, and be
 ///     complete before that reads.
-/// @throws UsageError for a token that there is not, with the one that was probably meant, and for a wrong option.
+/// @throws UsageError for an unknown token, with the one that was probably meant, and for a wrong option.
 [[nodiscard]] TokenReader ReaderOf(const Text::Token& token, const TemplateSettings& settings, std::u16string_view text,
                                    Media::MediaQuestion& question);
 

@@ -43,7 +43,7 @@ public:
     /// What the group `number` matched: empty for one that took no part, nothing where no pattern matched or it has no
     /// such group. The view is valid as long as the groups are.
     [[nodiscard]] std::optional<std::u16string_view> Find(std::size_t number) const;
-    /// Likewise by name. Of several groups with the name the first counts that took part.
+    /// Likewise by name. Of several groups with the name, the first that took part counts.
     [[nodiscard]] std::optional<std::u16string_view> Find(std::u16string_view name) const;
 
     void Clear() { m_ranges.clear(); }

@@ -13,8 +13,9 @@ namespace VyrHost::Rename {
 
 /// What is to be renamed.
 ///
-/// No two entries are one, and each has a new place. Nothing that the batch leaves in place stands where an entry goes.
-/// An entry inside a folder that is itself renamed names that folder as it is before the batch, in `from` and in `to`.
+/// No two entries are the same, and each has a new place. Nothing that the batch leaves in place stands where an entry
+/// goes. An entry inside a folder that is itself renamed names that folder as it is before the batch, in `from` and in
+/// `to`.
 struct RenameDraft
 {
     /// Its folders, and of its entries `kind`, `from` and `to`.

@@ -65,7 +65,7 @@ struct Preview
                                   const ConflictSettings& settings, const StayReason& stays = {},
                                   const NamingProgress& progress = {});
 
-/// Where a name is taken that was to be given, nothing is to be renamed at all.
+/// Where a name that was to be given is taken, nothing is to be renamed at all.
 /// @return whether one is.
 bool StopAtConflict(Preview& preview);
 

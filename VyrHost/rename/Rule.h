@@ -46,7 +46,7 @@ struct Subject
     /// Set by a rule that gives no name: what there is to say beyond the reason.
     CString cause = {};
 
-    /// How late among the dates asked for the one stands that a rule took: 0 for the first, the highest of all rules.
+    /// The rank of the date that a rule took among those asked for, from 0; of several rules the highest.
     std::size_t dateRank = 0;
     /// The dates that rules with a choice took.
     Model::DateSourceSet datesTaken = {};
@@ -68,10 +68,10 @@ public:
 /// What the file at the subject's path tells.
 [[nodiscard]] FileValues& FileValuesOf(Subject& subject);
 
-/// Moves the subject into the folder `name` of the folder that it is in; none is called "", "." or "..".
+/// Moves the subject into the folder `name` of the folder that it is in. Refuses "", "." and "..".
 [[nodiscard]] Reason StepDown(Subject& subject, const CString& name);
 
-/// The longest text that a rule makes for a name, in code units; more than any of the systems takes.
+/// The longest text that a rule makes for a name, in code units; more than any system takes.
 inline constexpr int longestText = 32'767;
 
 /// Makes `whole` the subject's name and extension. A folder has no extension.

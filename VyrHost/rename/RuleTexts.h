@@ -23,9 +23,9 @@ struct NumberSettings
     std::optional<int> digits;
 };
 
-/// A run of "#" (as wide as the number at least), or "<Number>", is the number; "<Name>" is the name so far, which is
-/// dropped where the template does not have it; all else stands as it is. The rule throws UsageError where a number
-/// would not be an int.
+/// A run of "#", each of which is at least one digit, or "<Number>", is the number; "<Name>" is the name so far, which
+/// is dropped where the template lacks it; all else stays as it is. The rule throws UsageError where a number would not
+/// be an int.
 [[nodiscard]] Rules NumberRules(const CString& text, const NumberSettings& settings);
 
 /// A date format in which "<Name>", the name so far, may stand once.

@@ -140,7 +140,7 @@ Reason TemplateRule::FillValues(Subject& subject)
             if (const Reason fault = FillValue(*value, subject, m_texts[index]); fault != Reason::None)
                 return fault;
     }
-    // No extension has no dot.
+    // Without an extension the dot before it goes, too.
     if (m_givesExtension && m_texts.back().IsEmpty()) {
         CString& before = m_texts[m_texts.size() - 2];
         before = before.Left(before.GetLength() - 1);

@@ -14,7 +14,7 @@ namespace VyrHost::Rename {
 class ZoneClock
 {
 public:
-    /// A clock that is always so far ahead of UTC.
+    /// A clock that is always ahead of UTC by `secondsAhead`.
     explicit ZoneClock(int secondsAhead) : m_atFirst(secondsAhead) {}
 
     /// The clock of a zone by its file, as TimeZoneFile gives it; nothing for other bytes. Source: RFC 9636, section 3.

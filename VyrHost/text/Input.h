@@ -29,9 +29,8 @@ void ReadStandardInput(const std::function<void(std::string_view piece)>& use);
 class NameReader
 {
 public:
-    /// @param end  the byte that ends a name. With a line end (`
-    /// `), a byte order mark at the beginning is skipped, and a `\r` before the line end is skipped where names cannot
-    /// contain one.
+    /// @param end  the byte that ends a name. With a line end (`\n`), a byte order mark at the beginning is skipped,
+    /// and a `\r` before the line end is skipped where names cannot contain one.
     explicit NameReader(char end) : m_end(end) {}
 
     /// Calls `take` with each name that ends in `piece`. Empty names are skipped.

@@ -10,8 +10,8 @@
 namespace VyrHost::Text {
 
 /// `text` as UTF-8 without characters that affect a terminal: control characters, characters that change the direction
-/// of writing, and lone surrogates become escapes (`
-/// `, `\x1b`, `\u202e`, `\udcff`).
+/// of writing, and lone surrogates become escapes (`\n`, `\x1b`,
+/// `\u202e`, `\udcff`).
 [[nodiscard]] std::string SafeText(std::u16string_view text);
 
 /// Appends SafeText(text) to `line`.

@@ -202,7 +202,7 @@ std::uint32_t EditCompoundProperties(const RootStorage& root, const PropertyEdit
         return Result::accessDenied;
     std::optional<PropertySetStream> summary;
     const std::uint32_t result = ReadSet(root, summaryStream, summaryFormat, summary);
-    // A document without a summary has nothing of it that could be cleared.
+    // Without a summary there is nothing in it to clear.
     const bool isMissing = result == Result::fileNotFound && edit.clearsAll && !edit.NamesAny();
     if (result != Result::ok && !isMissing)
         return result;
