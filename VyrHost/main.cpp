@@ -1,4 +1,3 @@
-// Starts the program.
 #include <VyrHost/cli/Program.h>
 #include <VyrHostPlatform/Console.h>
 

@@ -1,4 +1,3 @@
-// Writes and reads journals.
 #include <VyrHost/batch/JournalText.h>
 
 #include <VyrHost/batch/JournalLines.h>

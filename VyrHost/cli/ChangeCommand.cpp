@@ -1,4 +1,3 @@
-// Changes files in place, or shows them.
 #include <VyrHost/cli/ChangeCommand.h>
 
 #include <VyrHost/cli/Arguments.h>

@@ -1,4 +1,3 @@
-// Lists the commands.
 #include <VyrHost/cli/Commands.h>
 
 #include <CLI/CLI.hpp>

@@ -1,4 +1,3 @@
-// "vyr help": the topics, and all options of a command.
 #include <VyrHost/cli/Commands.h>
 
 #include <VyrHost/cli/Arguments.h>

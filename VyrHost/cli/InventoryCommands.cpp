@@ -1,4 +1,4 @@
-// Declares and runs "vyr programs" and "vyr browsers".
+// "vyr programs" and "vyr browsers".
 #include <VyrHost/cli/Commands.h>
 
 #include <VyrHost/cli/Arguments.h>

@@ -1,4 +1,3 @@
-// Declares and runs "vyr list".
 #include <VyrHost/cli/Commands.h>
 
 #include <VyrHost/cli/FileRecords.h>

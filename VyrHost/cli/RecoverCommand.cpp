@@ -1,4 +1,3 @@
-// Declares and runs "vyr recover".
 #include <VyrHost/cli/Commands.h>
 
 #include <VyrHost/batch/Batches.h>

@@ -1,4 +1,4 @@
-// Declares "vyr rename" and its options, and makes a request of what was given.
+// The options of "vyr rename", and the request that they make.
 #include <VyrHost/cli/Commands.h>
 
 #include <VyrHost/cli/Arguments.h>

@@ -1,4 +1,3 @@
-// "vyr rules": the rules that are kept.
 #include <VyrHost/cli/Commands.h>
 
 #include <VyrHost/cli/Arguments.h>

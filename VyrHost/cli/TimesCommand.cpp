@@ -1,4 +1,3 @@
-// Declares and runs "vyr times".
 #include <VyrHost/cli/Commands.h>
 
 #include <VyrHost/cli/Arguments.h>

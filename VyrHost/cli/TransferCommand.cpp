@@ -1,4 +1,4 @@
-// Declares and runs "vyr copy" and "vyr move".
+// "vyr copy" and "vyr move".
 #include <VyrHost/cli/Commands.h>
 
 #include <VyrHost/cli/Arguments.h>

@@ -1,4 +1,3 @@
-// Declares and runs "vyr unblock".
 #include <VyrHost/cli/Commands.h>
 
 #include <VyrHost/cli/ChangeCommand.h>

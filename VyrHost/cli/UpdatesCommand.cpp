@@ -1,4 +1,3 @@
-// Declares and runs "vyr updates".
 #include <VyrHost/cli/Commands.h>
 
 #include <VyrHost/cli/Messages.h>

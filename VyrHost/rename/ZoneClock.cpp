@@ -1,4 +1,3 @@
-// Reads files of time zones.
 #include <VyrHost/rename/ZoneClock.h>
 
 #include <VyrLibraryUtils/pictures/ByteView.h>

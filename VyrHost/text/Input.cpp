@@ -1,4 +1,3 @@
-// Reads input to its end.
 #include <VyrHost/text/Input.h>
 
 #include <VyrHost/text/Errors.h>
