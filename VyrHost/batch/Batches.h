@@ -133,7 +133,7 @@ struct BatchSummary
     std::size_t notReached = 0;
     /// The paths of entries that count as done, but that their folders do not list under these names afterwards.
     std::vector<CString> missing;
-    /// The folders that the batch has made and that are not removed, since they hold something else by now.
+    /// The folders that the batch has made and that are not removed, since they now hold something else.
     std::vector<CString> keptFolders;
     /// The work ended because it was asked to.
     bool wasStopped = false;

@@ -55,7 +55,7 @@ const char16_t* EndingOf(BatchPhase phase)
         ->second;
 }
 
-/// The number that `text` is; 0 when it is none.
+/// The number that `text` is; 0 when it is not a number.
 std::uint32_t ParseNumber(std::u16string_view text)
 {
     std::uint64_t number = 0;
@@ -82,7 +82,7 @@ std::uint32_t UndoOf(std::u16string_view name)
     return hyphen == name.npos ? 0 : ParseNumber(name.substr(hyphen + 1));
 }
 
-/// The journal with this name; nothing when a journal has no such name.
+/// The journal with this name; nothing when no journal is named so.
 std::optional<JournalFile> FileOf(std::u16string_view name, const CString& path)
 {
     const std::uint32_t number = NumberOf(name);

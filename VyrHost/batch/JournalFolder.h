@@ -17,7 +17,7 @@
 
 namespace VyrHost::Batch {
 
-/// What the work on a batch has come to. It is the ending of the journal's file name, so that it changes in one step.
+/// How far the work on a batch has come. It is the ending of the journal's file name, so that it changes in one step.
 enum class BatchPhase : std::uint8_t
 {
     /// It is being applied, or that was cut off.
@@ -28,7 +28,7 @@ enum class BatchPhase : std::uint8_t
     Undone
 };
 
-/// Whether the work on a batch has come to its end.
+/// Whether the work on a batch has ended.
 [[nodiscard]] bool IsEnded(BatchPhase phase);
 
 struct JournalFile
@@ -91,7 +91,7 @@ public:
     // Under the lock.
 
     /// Gives `journal` the next number, and returns once it is safely on the disk: then the work may begin.
-    /// Removes the journals that are no longer to be kept, but none of a batch whose work has not ended.
+    /// Removes the journals that are no longer kept, but never that of a batch whose work has not ended.
     /// @return the system's error code, 0 when it is there.
     [[nodiscard]] std::uint32_t Begin(Journal& journal, JournalFile& file);
     /// Appends to a journal.
@@ -106,7 +106,7 @@ public:
     /// number is not given again.
     /// @return the system's error code, 0 when `file.path` is its new path.
     [[nodiscard]] std::uint32_t Abandon(JournalFile& file);
-    /// Removes a journal of which nothing was done.
+    /// Removes the journal of a batch of which nothing was done.
     [[nodiscard]] std::uint32_t Remove(const JournalFile& file);
 
 private:

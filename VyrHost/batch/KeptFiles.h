@@ -14,7 +14,7 @@ void GiveKeptPlaces(Journal& journal, const JournalFile& file);
 /// Removes what the batch `number` kept in the journals' folder at `path`, if anything.
 void RemoveKept(FileOperations& files, const CString& path, std::uint32_t number);
 
-/// Removes what batches kept whose journals are gone.
+/// Removes what was kept by batches whose journals are gone.
 void RemoveOrphans(FileOperations& files, const CString& path);
 
 } // namespace VyrHost::Batch

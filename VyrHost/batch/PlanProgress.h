@@ -50,7 +50,7 @@ public:
     void Set(Model::PlanIndex entry, Location location) { m_locations[entry] = location; }
     [[nodiscard]] NewFolder OfFolder(Model::PlanIndex folder) const { return m_newFolders[folder]; }
     void SetFolder(Model::PlanIndex folder, NewFolder state) { m_newFolders[folder] = state; }
-    /// Whether `folder` is one that was there before, or is there by now.
+    /// Whether `folder` is one that was there before, or is there now.
     [[nodiscard]] bool IsThere(Model::PlanIndex folder) const
     {
         return !m_plan.folders[folder].isNew || m_newFolders[folder] != NewFolder::Absent;

@@ -32,7 +32,7 @@ struct Argument
     ArgumentRole role;
 };
 
-/// The command that `arguments` begin with; `program` itself where they begin with none.
+/// The command that `arguments` begin with; `program` itself where they do not begin with one.
 [[nodiscard]] const CLI::App& CommandOf(const CLI::App& program, const std::vector<CString>& arguments);
 /// What each of `arguments` is to the command that they begin with.
 [[nodiscard]] std::vector<Argument> CutArguments(const CLI::App& program, const std::vector<CString>& arguments);
@@ -41,7 +41,7 @@ struct Argument
 /// The argument that the parser read as `bytes`.
 [[nodiscard]] CString FromParser(const std::string& bytes);
 
-/// Refuses an unknown command or option with the nearest one that there is.
+/// Refuses an unknown command or option, and names the nearest known one.
 /// @param command  CommandOf the arguments.
 /// @throws UsageError
 void RefuseUnknownWords(const CLI::App& program, const CLI::App& command, const std::vector<Argument>& arguments);

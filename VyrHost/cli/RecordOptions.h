@@ -64,7 +64,7 @@ struct ListForm
     bool quiet = false;
 };
 
-/// Writes `table`, of which the columns to show are chosen.
+/// Writes `table`, whose columns to show are chosen already.
 /// @param total  as for RecordOptions::Write.
 /// @return `code`, or ExitCode::output.
 [[nodiscard]] int WriteList(const Ui::RecordTable& table, const std::string& total, const ListForm& form, int code);

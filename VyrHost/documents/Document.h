@@ -52,7 +52,7 @@ struct Document
 [[nodiscard]] Document ReadDocument(const CString& path);
 
 /// The handler of documents with the extension of `path`: the one that the registry names, else the one that this
-/// program knows; all zero for none.
+/// program knows; all zero where there is none.
 [[nodiscard]] _GUID HandlerOf(const CString& path);
 
 } // namespace VyrHost::Documents

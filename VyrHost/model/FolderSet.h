@@ -34,7 +34,7 @@ struct Folder
 {
     /// Absolute, its separator at the end.
     CString path;
-    /// The folder that it stands in; noFolder for a root.
+    /// The folder that it is in; noFolder for a root.
     std::uint32_t parent = noFolder;
     /// Its name there; the path of a root.
     InternedName name;

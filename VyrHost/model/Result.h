@@ -98,7 +98,7 @@ struct Result
 
     /// It tells of something in the folder that the result before it is about, and is not counted.
     bool isPart = false;
-    /// The dates that rules with a choice took, such as "picture"; empty for none.
+    /// The dates that rules with a choice took, such as "picture"; empty without one.
     CString dateFrom;
     /// Why the new name would be refused on another system; empty where it would not.
     std::u16string_view warning;

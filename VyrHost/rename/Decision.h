@@ -49,7 +49,7 @@ enum class Reason : std::uint8_t
     PatternGaveUp,
     /// The content of the file, which was asked for, cannot be read; the cause says why.
     ContentNotRead,
-    /// The content of the file tells no kind whose extension is known.
+    /// The content of the file is of no known kind.
     UnknownContent,
     EmptyName,
     /// Something that the batch leaves in place has the name.

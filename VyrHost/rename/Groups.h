@@ -20,7 +20,7 @@ public:
     /// The files of one folder whose names differ in their extensions alone are a group, with the sidecars of each
     /// (MainFileOf): `X.CR2`, `X.xmp`, `X.JPG` and `X.JPG.xmp`.
     [[nodiscard]] static Groups ByStem(const Model::EntryList& list);
-    /// Whether the groups are those of ByStem, no two of which may get one stem.
+    /// Whether the groups are those of ByStem, which must all get different stems.
     [[nodiscard]] bool AreByStem() const { return m_areByStem; }
 
     [[nodiscard]] std::size_t Count() const { return m_begins.empty() ? m_members.size() : m_begins.size() - 1; }

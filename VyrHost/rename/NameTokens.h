@@ -23,9 +23,9 @@ struct TemplateSettings
 {
     /// Of <Date>; the shift and the clock are those of every date.
     DateSettings dates = {};
-    /// Of <Csv>; null for none.
+    /// Of <Csv>; null without one.
     std::shared_ptr<const CsvData> csv = {};
-    /// Of the last pattern before the template; nothing for none.
+    /// Of the last pattern before the template; nothing without one.
     std::optional<PatternShape> pattern = {};
 };
 

@@ -13,7 +13,7 @@ namespace VyrHost::Rename {
 class ZoneRule
 {
 public:
-    /// Nothing where `text` is no such rule.
+    /// Nothing where `text` is not such a rule.
     [[nodiscard]] static std::optional<ZoneRule> Read(std::string_view text);
 
     /// How many seconds the clocks are ahead of UTC at `instant`, in seconds since 1970.

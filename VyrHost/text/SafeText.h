@@ -10,8 +10,7 @@
 namespace VyrHost::Text {
 
 /// `text` as UTF-8 without characters that affect a terminal: control characters, characters that change the direction
-/// of writing, and lone surrogates become escapes (`\n`, `\x1b`,
-/// `\u202e`, `\udcff`).
+/// of writing, and lone surrogates become escapes (`\n`, `\x1b`, `\u202e`, `\udcff`).
 [[nodiscard]] std::string SafeText(std::u16string_view text);
 
 /// Appends SafeText(text) to `line`.
@@ -29,7 +28,7 @@ inline constexpr std::size_t unitEscapeLength = 6;
 /// Appends a backslash, "u" and the four hexadecimal digits of `unit`.
 void AppendUnitEscape(std::string& text, char16_t unit);
 
-/// The unit whose escape `text` begins with; nothing when it begins with none.
+/// The unit whose escape `text` begins with; nothing when it does not begin with one.
 [[nodiscard]] std::optional<char16_t> ReadUnitEscape(std::string_view text) noexcept;
 
 } // namespace VyrHost::Text
