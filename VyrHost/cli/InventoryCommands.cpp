@@ -225,7 +225,7 @@ int ProgramsCommand::Run() const
     const Scope scope =
         ReadWord<Scope>(m_scope, "--scope", {{"all", Scope::All}, {"user", Scope::User}, {"machine", Scope::Machine}});
     if (m_user && scope == Scope::Machine)
-        throw Text::UsageError("--user and --scope machine exclude each other: the machine is no user's");
+        throw Text::UsageError("--user and --scope machine exclude each other: the machine belongs to no user");
     const Inventory::Place place = Inventory::FindPlace(request);
     return m_installer ? WriteProducts(place, scope) : WritePrograms(place, scope);
 }

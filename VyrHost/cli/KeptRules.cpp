@@ -83,7 +83,7 @@ CString PathOfKeptRules(const CString& name)
                         VyrHostPlatform::CheckName(fileName).fault == VyrHostPlatform::NameFault::None &&
                         VyrHostPlatform::CheckName(name).fault == VyrHostPlatform::NameFault::None;
     if (!isGood)
-        throw Text::UsageError("'" + Text::SafeText(name) + "' is no name for rules");
+        throw Text::UsageError("'" + Text::SafeText(name) + "' is not a name for rules");
     if (folder.IsEmpty())
         throw Text::UsageError("the system names no folder for the user's settings; VYR_RULES_DIR can name one");
     return JoinPath(folder, fileName);

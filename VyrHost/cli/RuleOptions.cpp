@@ -304,7 +304,7 @@ std::vector<OptionWords> TakeGiven(const CLI::App& command)
 }
 
 /// The options of a text of kept rules.
-/// @throws UsageError for a line that is no rule and no setting.
+/// @throws UsageError for a line that is neither a rule nor a setting.
 std::vector<OptionWords> ReadKept(std::string_view text)
 {
     std::vector<OptionWords> given;
@@ -318,7 +318,7 @@ std::vector<OptionWords> ReadKept(std::string_view text)
             for (const SettingOption& setting : settingOptions)
                 known.emplace_back(setting.name);
             Rename::RefuseLine(line.number, "'" + Text::SafeText(line.words.front()) +
-                                                "' is no rule and no setting of one" + Text::Hint(name, known));
+                                                "' is neither a rule nor a setting of one" + Text::Hint(name, known));
         }
         if (line.words.size() != *count + 1)
             Rename::RefuseLine(line.number, name + " takes " + std::to_string(*count) +

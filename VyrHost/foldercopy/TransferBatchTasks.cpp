@@ -91,7 +91,7 @@ private:
         if (state.kind == FileSystem::Kind::Other && FileSystem::IsFolder(task.source))
             throw Text::UsageError(Quoted(given) + " is a link; name the folder that it leads to");
         if (state.kind != FileSystem::Kind::Folder)
-            throw Text::UsageError(Quoted(given) + " is no folder");
+            throw Text::UsageError(Quoted(given) + " is not a folder");
         if (!m_sources.emplace(IdentityOf(state), m_tasks.size()).second)
             throw Text::UsageError(Quoted(given) + " is named twice");
         // The source must have a name that its copy can have.
@@ -125,7 +125,7 @@ private:
         if (m_folder.IsEmpty())
             throw Text::UsageError("the destination is empty");
         if (FileSystem::Exists(m_folder))
-            throw Text::UsageError(Quoted(m_destination) + " is there already, and is no folder");
+            throw Text::UsageError(Quoted(m_destination) + " is there already, and is not a folder");
         if (m_tasks.size() > 1)
             throw Text::UsageError("there is no folder " + Quoted(m_destination) +
                                    "; several folders go into one that is there");

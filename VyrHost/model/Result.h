@@ -74,7 +74,7 @@ struct TreeSize
 {
     /// The folder itself included.
     std::size_t folders = 0;
-    /// Whatever is no folder.
+    /// Whatever is not a folder.
     std::size_t files = 0;
     /// Of all files together.
     std::int64_t bytes = 0;

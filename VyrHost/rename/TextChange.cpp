@@ -140,7 +140,7 @@ TextChange ParseChange(std::u16string_view text, std::string& fault)
     const Arguments arguments(cut->begin() + 1, cut->end());
     TextChange change = arguments.size() == known->count ? known->make(arguments) : nullptr;
     if (!change)
-        fault.assign("'").append(Text::SafeText(text)).append("' is no change; the changes are ").append(knownWords);
+        fault.assign("'").append(Text::SafeText(text)).append("' is not a change; the changes are ").append(knownWords);
     return change;
 }
 

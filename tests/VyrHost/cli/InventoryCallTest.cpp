@@ -37,7 +37,7 @@ TEST_F(InventoryCall, HasNoOptionsThatContradictEachOther)
 {
     ExpectRefused({u"programs", u"--installer", u"--show-hidden"}, "no installer product is hidden");
     ExpectRefused({u"programs", u"--installer", u"--no-32-bit"}, "--no-32-bit exclude each other");
-    ExpectRefused({u"programs", u"--user", u"Eva", u"--scope", u"machine"}, "the machine is no user's");
+    ExpectRefused({u"programs", u"--user", u"Eva", u"--scope", u"machine"}, "the machine belongs to no user");
     ExpectRefused({u"programs", u"--csv", u"--json"}, "--csv and --json exclude each other");
 }
 

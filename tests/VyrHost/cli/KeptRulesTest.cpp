@@ -78,12 +78,11 @@ TEST_F(KeptRules, ThatMakeNoSenseAreRefusedWithNameAndLine)
         EXPECT_EQ(result.exitCode, 2) << text;
         return result.errors;
     };
-    EXPECT_EQ(
-        mistakeIn("--trim\n--prefxi x\n"),
-        "vyr: the rules 'x.rules': line 2: '--prefxi' is no rule and no setting of one; did you mean --prefix?\n");
+    EXPECT_EQ(mistakeIn("--trim\n--prefxi x\n"), "vyr: the rules 'x.rules': line 2: '--prefxi' is neither a rule nor a "
+                                                 "setting of one; did you mean --prefix?\n");
     EXPECT_THAT(mistakeIn("--replace a"), HasSubstr("line 1: --replace takes 2 values, not 1"));
-    EXPECT_THAT(mistakeIn("--apply"), HasSubstr("'--apply' is no rule"));
-    EXPECT_THAT(mistakeIn("--rules x.rules"), HasSubstr("'--rules' is no rule"));
+    EXPECT_THAT(mistakeIn("--apply"), HasSubstr("'--apply' is neither a rule"));
+    EXPECT_THAT(mistakeIn("--rules x.rules"), HasSubstr("'--rules' is neither a rule"));
     EXPECT_THAT(mistakeIn("--first-only"), HasSubstr("changes nothing without --regex"));
     EXPECT_THAT(mistakeIn("--regex ( x"), HasSubstr("missing closing parenthesis"));
     EXPECT_THAT(mistakeIn("--prefix \"a"), HasSubstr("line 1: a double quote is not closed"));

@@ -69,7 +69,7 @@ TEST_F(TransferTasks, FilesAreRefused)
 {
     m_scratch.WriteFile(u"file");
     m_scratch.MakeFolder(u"to");
-    EXPECT_THAT(Refusal({u"file"}, u"to"), HasSubstr("is no folder"));
+    EXPECT_THAT(Refusal({u"file"}, u"to"), HasSubstr("is not a folder"));
     EXPECT_THAT(Refusal({u"missing"}, u"to"), HasSubstr("cannot be found"));
 }
 
@@ -134,7 +134,7 @@ TEST_F(TransferTasks, TheDestinationIsAFolderOrCanBeCreated)
     m_scratch.MakeFolder(u"a");
     m_scratch.MakeFolder(u"b");
     m_scratch.WriteFile(u"file");
-    EXPECT_THAT(Refusal({u"a"}, u"file"), HasSubstr("is no folder"));
+    EXPECT_THAT(Refusal({u"a"}, u"file"), HasSubstr("is not a folder"));
     EXPECT_THAT(Refusal({u"a"}, u"file/new"), HasSubstr("is not there"));
     EXPECT_THAT(Refusal({u"a"}, u"missing/new"), HasSubstr("is not there"));
     EXPECT_THAT(Refusal({u"a", u"b"}, u"new"), HasSubstr("several folders"));
