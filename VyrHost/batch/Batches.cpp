@@ -304,27 +304,48 @@ BatchSummary Batches::Recover(Recovery recovery, const BatchEntryReport& report,
     BatchSummary summary;
     JournalFolder folder = OpenJournals();
     summary.error = folder.Lock(m_settings.wait);
-    if (!summary.error.IsEmpty())
-        return summary;
+    if (summary.error.IsEmpty())
+        UseCutOff(folder, recovery, false, summary, [&](BatchWork& work, Direction direction) {
+            if (work.BeginRecovery())
+                work.Run(direction, Described(work, report), isStopAsked);
+        });
+    return summary;
+}
+
+BatchSummary Batches::PreviewRecover(Recovery recovery, const BatchEntryReport& report) const
+{
+    BatchSummary summary;
+    JournalFolder folder = OpenJournals();
+    UseCutOff(folder, recovery, true, summary,
+              [&](BatchWork& work, Direction direction) { work.Foresee(direction, Described(work, report)); });
+    return summary;
+}
+
+/// Finds the batch that was cut off, and where its files are, and hands it to `use` with the direction of the recovery.
+void Batches::UseCutOff(JournalFolder& folder, Recovery recovery, bool isPreview, BatchSummary& summary,
+                        const std::function<void(BatchWork& work, Direction direction)>& use) const
+{
     const std::optional<JournalFile> file = folder.FindOpen();
     if (!file) {
         summary.error = u"no batch was cut off";
-        return summary;
+        return;
     }
     std::optional<Journal> journal = ReadWhole(folder, *file, summary);
     if (!journal) {
         summary.error = CString::Join({summary.error, wayOut});
-        return summary;
+        return;
     }
     const BatchState state = file->phase == BatchPhase::Applying ? BatchState::CutOff : BatchState::CutOffUndoing;
     const Direction direction = DoesRenames(recovery, state) ? Direction::Forward : Direction::Backward;
     BatchWork work(*m_files, folder, std::move(*journal), summary);
-    if (!work.Locate(*file, direction))
+    if (!work.Locate(*file, direction, isPreview)) {
         summary.error =
             CString::Join({u"none of the batch's files is at one of its paths; nothing was changed", wayOut});
-    else if (work.BeginRecovery())
-        work.Run(direction, Described(work, report), isStopAsked);
-    return summary;
+        return;
+    }
+    if (isPreview)
+        summary.number = file->number;
+    use(work, direction);
 }
 
 AbandonedJournal Batches::AbandonCutOff()

@@ -247,6 +247,8 @@ public:
     [[nodiscard]] std::optional<BatchInformation> FindCutOff() const;
     /// Ends the batch that was cut off.
     BatchSummary Recover(Recovery recovery, const BatchEntryReport& report, const StopRequest& isStopAsked);
+    /// Tells what Recover would do, as far as it can be seen, and changes nothing.
+    BatchSummary PreviewRecover(Recovery recovery, const BatchEntryReport& report) const;
     /// Abandons the batch that was cut off, so that others can begin: its files stay as they are, and its journal is
     /// kept under another name. The way out where the journal is damaged, or the files are gone.
     AbandonedJournal AbandonCutOff();
@@ -254,6 +256,8 @@ public:
 private:
     void UseReversed(JournalFolder& folder, std::uint32_t number, Direction direction, bool isPreview,
                      BatchSummary& summary, const std::function<void(BatchWork&)>& use) const;
+    void UseCutOff(JournalFolder& folder, Recovery recovery, bool isPreview, BatchSummary& summary,
+                   const std::function<void(BatchWork& work, Direction direction)>& use) const;
     [[nodiscard]] JournalFolder OpenJournals() const;
     [[nodiscard]] std::optional<Journal> ReadWhole(const JournalFolder& folder, const JournalFile& file,
                                                    BatchSummary& summary) const;

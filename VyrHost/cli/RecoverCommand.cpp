@@ -31,6 +31,7 @@ private:
 
     bool m_takeBack = false;
     bool m_abandon = false;
+    bool m_preview = false;
     bool m_json = false;
     bool m_quiet = false;
 };
@@ -43,6 +44,7 @@ RecoverCommand::RecoverCommand(CLI::App& program)
     m_command.add_flag("--take-back", m_takeBack, "Restore the names before the batch instead of finishing it");
     m_command.add_flag("--abandon", m_abandon,
                        "Abandon the batch where neither is possible; its files stay as they are");
+    m_command.add_flag("--preview", m_preview, "Show what would be done, and change nothing");
     m_command.add_flag("--json", m_json, "Write one JSON object for each entry");
     m_command.add_flag("-q,--quiet", m_quiet, "Show only what is not done");
     m_command.footer(HelpFooter("recover"));
@@ -51,6 +53,7 @@ RecoverCommand::RecoverCommand(CLI::App& program)
 int RecoverCommand::Run() const
 {
     constexpr ExclusivePair exclusive[] = {{"--abandon", "--take-back"},
+                                           {"--abandon", "--preview", "--abandon does nothing to the entries"},
                                            {"--abandon", "--json", "--abandon does nothing to the entries"}};
     CheckOptionPairs(m_command, exclusive);
     Batch::Batches batches = OpenBatches(WaitTenSeconds());
@@ -67,10 +70,10 @@ int RecoverCommand::Run() const
     const Batch::Recovery recovery = m_takeBack ? Batch::Recovery::Undo : Batch::Recovery::Finish;
     const Batch::Direction direction =
         Batch::DoesRenames(recovery, cutOff->state) ? Batch::Direction::Forward : Batch::Direction::Backward;
-    BatchReport report("recovering", cutOff->entries, direction, {m_json, m_quiet});
-    const Batch::BatchSummary summary =
-        batches.Recover(recovery, report.Collector(), VyrHostPlatform::Interrupt::WasAsked);
-    return report.Write(summary);
+    BatchReport report("recovering", cutOff->entries, direction, {m_json, m_quiet, m_preview});
+    return report.Write(m_preview
+                            ? batches.PreviewRecover(recovery, report.Collector())
+                            : batches.Recover(recovery, report.Collector(), VyrHostPlatform::Interrupt::WasAsked));
 }
 
 int RecoverCommand::Abandon() const

@@ -110,7 +110,12 @@ TEST_P(CutOffAnywhere, ABatchIsUndoneOrFinished)
                 EXPECT_EQ(found->number, 1u);
                 EXPECT_GE(scene.Apply().error.Find(u"vyr recover"), 0);
                 EXPECT_GE(scene.Undo().error.Find(u"vyr recover"), 0);
+                const FolderSnapshot cutOff = scene.Now();
+                const BatchSummary preview = scene.batches.PreviewRecover(recovery, [](const BatchEntry&) {});
+                EXPECT_EQ(scene.Now(), cutOff);
                 const BatchSummary summary = scene.Recover(recovery);
+                EXPECT_EQ(preview.done, summary.done);
+                EXPECT_EQ(preview.number, summary.number);
                 EXPECT_EQ(summary.error, u"");
                 EXPECT_EQ(summary.done, scene.list.renames.size());
                 EXPECT_EQ(scene.Now(), recovery == Recovery::Finish ? course.after : course.before);

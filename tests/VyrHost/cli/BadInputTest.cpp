@@ -203,6 +203,7 @@ TEST_F(BadInput, ContradictoryOptions)
                                                      {u"undo", u"--list", u"--csv", u"--json"},
                                                      {u"recover", u"--abandon", u"--take-back"},
                                                      {u"recover", u"--abandon", u"--json"},
+                                                     {u"recover", u"--abandon", u"--preview"},
                                                      {u"copy", u"d", u"to", u"--json", u"-q"}};
     for (const std::vector<CString>& call : calls) {
         const ProgramResult result = Run(call);
