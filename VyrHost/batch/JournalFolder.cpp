@@ -12,6 +12,7 @@
 #include <VyrPlatform/files/FolderListing.h>
 #include <VyrPlatform/files/FullPath.h>
 #include <VyrPlatform/time/Clock.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include <algorithm>
 #include <array>
@@ -98,7 +99,7 @@ std::optional<JournalFile> FileOf(std::u16string_view name, const CString& path)
 /// The moment `days` before `now`.
 VyrPlatform::FileTicks OldestKept(VyrPlatform::FileTicks now, std::int64_t days)
 {
-    constexpr VyrPlatform::FileTicks ticksPerDay = VyrPlatform::FileTicks{24} * 60 * 60 * 10'000'000;
+    constexpr VyrPlatform::FileTicks ticksPerDay = VyrPlatform::secondsPerDay * VyrPlatform::ticksPerSecond;
     return days < now / ticksPerDay ? now - days * ticksPerDay : 0;
 }
 

@@ -10,6 +10,7 @@
 #include <VyrPlatform/files/FileAttributes.h>
 #include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/files/FileTimes.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include <cmath>
 #include <cstddef>
@@ -80,7 +81,7 @@ RecordValue AttributesOf(const ListedFile& file)
 
 RecordValue DateOf(const std::optional<FileTicks>& ticks)
 {
-    constexpr double ticksPerDay = 864e9;
+    constexpr double ticksPerDay = VyrPlatform::secondsPerDay * VyrPlatform::ticksPerSecond;
     constexpr double daysTo1899 = 109'205;
     constexpr double minutesPerDay = 1440;
     const COleDateTime local = ticks ? VyrPlatform::FileTimes::ToLocal(*ticks) : COleDateTime();

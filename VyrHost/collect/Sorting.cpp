@@ -4,6 +4,7 @@
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/ImageUtils.h>
 #include <VyrPlatform/files/FileSystem.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include <algorithm>
 #include <cmath>
@@ -25,8 +26,7 @@ Key KeyOf(const CString& path, SortKey key)
 {
     if (key == SortKey::Taken) {
         const COleDateTime taken = DateTimeUtils::GetExifDateTime(ImageUtils::GetPropertyTagExifDTOrig(path));
-        constexpr double secondsOfDay = 86400;
-        return taken.GetStatus() == COleDateTime::valid ? Key(std::llround(taken * secondsOfDay)) : Key();
+        return taken.GetStatus() == COleDateTime::valid ? Key(std::llround(taken * VyrPlatform::secondsPerDay)) : Key();
     }
     const VyrPlatform::FileSystem::Entry entry = VyrPlatform::FileSystem::Query(path);
     if (entry.kind == VyrPlatform::FileSystem::Kind::Missing)

@@ -5,6 +5,7 @@
 #include <VyrHost/media/IsoBoxes.h>
 #include <VyrHost/media/IsoFragments.h>
 #include <VyrLibraryUtils/pictures/FourCc.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include <algorithm>
 #include <array>
@@ -15,15 +16,16 @@ namespace VyrHost::Media {
 namespace {
 
 using namespace VyrLibraryUtils::Pictures;
+using VyrPlatform::secondsToUnixEpoch;
 
 std::optional<VyrPlatform::FileTicks> CreationTime(std::uint64_t seconds)
 {
-    constexpr std::uint64_t from1904To1970 = secondsTo1970 - secondsTo1904;
+    constexpr std::uint64_t from1904To1970 = secondsToUnixEpoch - secondsTo1904;
     // Beyond any year that is told.
     constexpr std::uint64_t mostSeconds = std::uint64_t{1} << 40;
     if (seconds == 0 || seconds > mostSeconds)
         return std::nullopt;
-    const std::int64_t origin = seconds < from1904To1970 ? secondsTo1970 : secondsTo1904;
+    const std::int64_t origin = seconds < from1904To1970 ? secondsToUnixEpoch : secondsTo1904;
     return InstantOf(origin + static_cast<std::int64_t>(seconds));
 }
 

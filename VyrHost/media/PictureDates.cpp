@@ -4,6 +4,7 @@
 #include <VyrHost/media/Texts.h>
 #include <VyrHost/media/Xmp.h>
 #include <VyrLibraryUtils/pictures/Picture.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include <algorithm>
 #include <chrono>
@@ -107,7 +108,7 @@ std::optional<VyrPlatform::FileTicks> PictureDate::Instant() const
     const sys_days day = year(dateTime.GetYear()) / dateTime.GetMonth() / dateTime.GetDay();
     const auto sinceEpoch = day.time_since_epoch() + hours(dateTime.GetHour()) + minutes(dateTime.GetMinute()) +
                             seconds(dateTime.GetSecond()) - minutes(*minutesAhead);
-    return InstantOf(secondsTo1970 + duration_cast<seconds>(sinceEpoch).count());
+    return InstantOf(VyrPlatform::secondsToUnixEpoch + duration_cast<seconds>(sinceEpoch).count());
 }
 
 std::optional<PictureDate> ParsePictureDate(std::string_view text)

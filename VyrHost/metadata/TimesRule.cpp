@@ -9,6 +9,7 @@
 #include <VyrPlatform/files/ExactState.h>
 #include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/files/FileReader.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -24,8 +25,8 @@ namespace {
 namespace FileTimes = VyrPlatform::FileTimes;
 using VyrLibraryUtils::DateTimeUtils;
 using VyrPlatform::FileTicks;
+using VyrPlatform::ticksPerSecond;
 
-constexpr FileTicks ticksPerSecond = 10'000'000;
 constexpr const char16_t* outOfCalendar = u"the new time lies out of the calendar's range";
 
 /// The reason why a file gets no new time.

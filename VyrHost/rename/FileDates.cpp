@@ -3,6 +3,7 @@
 
 #include <VyrHost/rename/TemplateTokens.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include <chrono>
 
@@ -18,9 +19,9 @@ using VyrPlatform::FileTicks;
 COleDateTime ShownBy(const ZoneClock& zone, FileTicks instant)
 {
     using namespace std::chrono;
-    using Ticks = duration<FileTicks, std::ratio<1, 10'000'000>>;
+    using Ticks = duration<FileTicks, std::ratio<1, VyrPlatform::ticksPerSecond>>;
     const seconds universal = floor<seconds>(Ticks{instant});
-    const seconds unixTime = universal + (sys_days(year{1601} / 1 / 1) - sys_days());
+    const seconds unixTime = universal - seconds{VyrPlatform::secondsToUnixEpoch};
     return Metadata::OnClock(universal.count() + zone.SecondsAhead(unixTime.count()));
 }
 

@@ -7,6 +7,7 @@
 #include <VyrHostPlatform/FileHash.h>
 #include <VyrLibraryUtils/ImageUtils.h>
 #include <VyrPlatform/text/Encoding.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -24,6 +25,7 @@ using Media::MediaValues;
 using Metadata::FileDate;
 using Model::DateSource;
 using VyrPlatform::FileTicks;
+using VyrPlatform::ticksPerSecond;
 
 constexpr bool MediaQuestion::*askedParts[] = {&MediaQuestion::size,      &MediaQuestion::duration,
                                                &MediaQuestion::tags,      &MediaQuestion::videoCreated,
@@ -45,8 +47,7 @@ bool IsPortable(char16_t unit)
 
 std::optional<FileMoment> MomentAt(FileTicks ticks)
 {
-    constexpr FileTicks ticksPerSecond = 10'000'000;
-    constexpr FileTicks ticksPerMillisecond = 10'000;
+    constexpr FileTicks ticksPerMillisecond = ticksPerSecond / 1000;
     FileMoment moment{VyrPlatform::FileTimes::ToLocal(ticks)};
     if (moment.local.GetStatus() != COleDateTime::valid)
         return std::nullopt;

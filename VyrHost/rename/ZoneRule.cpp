@@ -1,5 +1,7 @@
 #include <VyrHost/rename/ZoneRule.h>
 
+#include <VyrPlatform/time/Epochs.h>
+
 #include <algorithm>
 #include <charconv>
 #include <chrono>
@@ -8,9 +10,10 @@ namespace VyrHost::Rename {
 
 namespace {
 
+using VyrPlatform::secondsPerDay;
+
 constexpr int secondsPerMinute = 60;
 constexpr int secondsPerHour = 60 * secondsPerMinute;
-constexpr std::int64_t secondsPerDay = 24 * secondsPerHour;
 
 int YearOf(std::int64_t seconds)
 {

@@ -1,8 +1,8 @@
 // The system's look-up of an offset is slow, so the offsets of whole days are cached.
 #include <VyrPlatform/files/FileTimes.h>
 
-#include <VyrPlatform/common/time/Epochs.h>
 #include <VyrPlatform/common/time/LocalOffset.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include <array>
 #include <atomic>

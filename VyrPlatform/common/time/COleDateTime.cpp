@@ -1,7 +1,7 @@
 // Converts calendar fields to a count of days and back.
 #include <VyrPlatform/WinTypes.h>
-#include <VyrPlatform/common/time/Epochs.h>
 #include <VyrPlatform/time/COleDateTime.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include <chrono>
 #include <cmath>

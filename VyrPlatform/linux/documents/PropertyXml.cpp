@@ -7,6 +7,7 @@
 #include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/text/Encoding.h>
 #include <VyrPlatform/time/COleDateTime.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include <algorithm>
 #include <array>
@@ -158,10 +159,8 @@ bool CanBeXml(std::u16string_view text) noexcept
 /// A moment as YYYY-MM-DDThh:mm:ssZ; nothing when it is before 1601 or after the year 9999.
 std::optional<std::string> MomentText(std::int64_t ticks)
 {
-    constexpr std::int64_t ticksInSecond = 10'000'000;
-    constexpr std::int64_t secondsBefore1970 = 11'644'473'600;
     constexpr int lastYear = 9999;
-    const std::time_t seconds = ticks / ticksInSecond - secondsBefore1970;
+    const std::time_t seconds = ticks / ticksPerSecond - secondsToUnixEpoch;
     struct tm parts = {};
     if (ticks < 0 || !gmtime_r(&seconds, &parts) || parts.tm_year + 1900 > lastYear)
         return std::nullopt;
@@ -304,8 +303,6 @@ std::optional<std::int64_t> ReadZone(std::string_view text)
 /// is local time.
 std::optional<FileTicks> ReadMoment(std::string_view text)
 {
-    constexpr FileTicks ticksInSecond = 10'000'000;
-    constexpr std::int64_t secondsBefore1970 = 11'644'473'600;
     const auto year = TakeNumber(text, "", 4);
     const auto month = year ? TakeNumber(text, "-", 2) : std::nullopt;
     const auto day = month ? TakeNumber(text, "-", 2) : std::nullopt;
@@ -329,8 +326,8 @@ std::optional<FileTicks> ReadMoment(std::string_view text)
     parts.tm_hour = hour;
     parts.tm_min = minute;
     parts.tm_sec = second;
-    const std::int64_t seconds = timegm(&parts) + *zone + secondsBefore1970;
-    return seconds > 0 ? std::optional(seconds * ticksInSecond) : std::nullopt;
+    const std::int64_t seconds = timegm(&parts) + *zone + secondsToUnixEpoch;
+    return seconds > 0 ? std::optional(seconds * ticksPerSecond) : std::nullopt;
 }
 
 void ReadElement(const xmlNode* node, const PropertyElement& element, DocumentProperties& properties)

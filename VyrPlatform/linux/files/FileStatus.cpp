@@ -1,6 +1,6 @@
 #include "FileStatus.h"
 
-#include <VyrPlatform/common/time/Epochs.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include <algorithm>
 #include <limits>

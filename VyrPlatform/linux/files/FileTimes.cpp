@@ -5,7 +5,7 @@
 #include "FileStatus.h"
 #include "ReadOnlyState.h"
 
-#include <VyrPlatform/common/time/Epochs.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include <cerrno>
 

@@ -1,6 +1,6 @@
 #include "MemoryNode.h"
 
-#include <VyrPlatform/common/time/Epochs.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include <chrono>
 #include <utility>

@@ -1,7 +1,7 @@
 #include "WineText.h"
 
-#include <VyrPlatform/common/time/Epochs.h>
 #include <VyrPlatform/registry/Registry.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include <charconv>
 #include <cstring>

@@ -1,6 +1,6 @@
 // Local time on Windows, by the rules of each year.
-#include <VyrPlatform/common/time/Epochs.h>
 #include <VyrPlatform/common/time/LocalOffset.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include "files/FileStatus.h"
 

@@ -1,4 +1,5 @@
-// The epochs of the systems' clocks, and their units.
+/// @file
+/// The epochs of the systems' clocks, and their units.
 #pragma once
 
 #include <cstdint>
