@@ -2,6 +2,8 @@
 /// What the texts of rules may hold: the words in angle brackets, the letters of dates, the characters of names.
 #pragma once
 
+#include <VyrLibraryFuncs/name/NameFuncs.h>
+
 #include <string_view>
 #include <vector>
 
@@ -14,10 +16,10 @@ inline constexpr std::u16string_view name = u"<Name>";
 /// The sequence number.
 inline constexpr std::u16string_view number = u"<Number>";
 /// A step down into a folder.
-inline constexpr std::u16string_view folder = u"<Folder>";
+inline constexpr std::u16string_view folder = VyrLibraryFuncs::folderToken;
 /// The camera's maker and model.
-inline constexpr std::u16string_view make = u"<Make>";
-inline constexpr std::u16string_view model = u"<Model>";
+inline constexpr std::u16string_view make = VyrLibraryFuncs::makeToken;
+inline constexpr std::u16string_view model = VyrLibraryFuncs::modelToken;
 
 } // namespace Token
 
