@@ -35,6 +35,7 @@ namespace VyrHost::Cli {
 namespace {
 
 namespace Console = VyrHostPlatform::Console;
+using VyrPlatform::FileSystem::WithSeparator;
 
 /// Shows the mistake; false where no user can correct it, or the user stops.
 bool IsToBeMended(const std::string& mistake)
@@ -93,17 +94,12 @@ struct RenameTask
     std::unique_ptr<Rename::NameSource> names;
 };
 
-/// `folder` with a separator at its end.
-CString AsFolder(const CString& folder)
-{
-    return VyrPlatform::FileSystem::JoinPath(folder, u"");
-}
-
 std::optional<Rename::RuleNames::Destination> DestinationOf(const RenameRequest& request)
 {
     if (!request.into)
         return {};
-    return Rename::RuleNames::Destination{AsFolder(VyrPlatform::GetFullPath(*request.into)), AsFolder(*request.into)};
+    return Rename::RuleNames::Destination{WithSeparator(VyrPlatform::GetFullPath(*request.into)),
+                                          WithSeparator(*request.into)};
 }
 
 RenameTask MakeTask(const RenameRequest& request)

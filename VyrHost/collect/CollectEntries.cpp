@@ -26,6 +26,7 @@ namespace {
 using VyrLibraryUtils::FileUtils;
 using VyrPlatform::FileSystem::IsSeparator;
 using VyrPlatform::FileSystem::Kind;
+using VyrPlatform::FileSystem::WithSeparator;
 
 /// A path split into the folder, as the user wrote it, and the name in it.
 struct CutPath
@@ -68,14 +69,6 @@ CutPath Cut(const CString& path)
     const CString full = VyrPlatform::GetFullPath(path);
     const CString folder = FileUtils::GetSplitDirPath(full);
     return {folder, full.Mid(folder.GetLength())};
-}
-
-CString WithSeparator(const CString& folder)
-{
-    if (!folder.IsEmpty() && IsSeparator(folder[folder.GetLength() - 1]))
-        return folder;
-    const char16_t separator = VyrPlatform::FileSystem::Separator();
-    return CString::Join({folder, std::u16string_view(&separator, 1)});
 }
 
 /// The folder as it is shown in front of names.

@@ -3,6 +3,7 @@
 
 #include <VyrPlatform/windows/files/LongPath.h>
 
+#include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/text/WindowsCString.h>
 
 #include <windows.h>
@@ -10,6 +11,7 @@
 namespace VyrHostPlatform {
 
 using namespace VyrPlatform;
+using FileSystem::JoinPath;
 
 namespace {
 
@@ -31,12 +33,6 @@ DWORD FindFolderError(const CString& path) noexcept
     if (attributes == INVALID_FILE_ATTRIBUTES)
         return GetLastError();
     return attributes & FILE_ATTRIBUTE_DIRECTORY ? ERROR_SUCCESS : ERROR_DIRECTORY;
-}
-
-CString PathOf(const CString& folder, std::u16string_view name)
-{
-    const bool hasSeparator = folder.GetLength() > 0 && folder[folder.GetLength() - 1] == u'\\';
-    return CString::Join({folder, hasSeparator ? u"" : uR"(\)", name});
 }
 
 std::uint32_t Rename(const CString& from, const CString& to) noexcept
@@ -72,13 +68,13 @@ OpenFolder::~OpenFolder() = default;
 
 FileState OpenFolder::Look(std::u16string_view name) const
 {
-    return LookAtFile(PathOf(m_path, name));
+    return LookAtFile(JoinPath(m_path, name));
 }
 
 std::uint32_t OpenFolder::RenameNoReplace(std::u16string_view name, const OpenFolder& target,
                                           std::u16string_view newName) const
 {
-    return Rename(PathOf(m_path, name), PathOf(target.m_path, newName));
+    return Rename(JoinPath(m_path, name), JoinPath(target.m_path, newName));
 }
 
 std::uint32_t OpenFolder::DropSecondName(std::u16string_view, const OpenFolder&, std::u16string_view) const
@@ -89,12 +85,12 @@ std::uint32_t OpenFolder::DropSecondName(std::u16string_view, const OpenFolder&,
 
 std::uint32_t OpenFolder::MakeFolder(std::u16string_view name) const
 {
-    return CreateDirectoryW(ToWide(PathOf(m_path, name)), nullptr) ? ERROR_SUCCESS : GetLastError();
+    return CreateDirectoryW(ToWide(JoinPath(m_path, name)), nullptr) ? ERROR_SUCCESS : GetLastError();
 }
 
 std::uint32_t OpenFolder::RemoveEmptyFolder(std::u16string_view name) const
 {
-    return RemoveDirectoryW(ToWide(PathOf(m_path, name))) ? ERROR_SUCCESS : GetLastError();
+    return RemoveDirectoryW(ToWide(JoinPath(m_path, name))) ? ERROR_SUCCESS : GetLastError();
 }
 
 } // namespace VyrHostPlatform

@@ -92,7 +92,7 @@ bool CreateFolderFor(const CString& source, const CString& destination, Records*
 }
 
 /// `folder` with exactly one separator at its end.
-CString WithSeparator(const CString& folder)
+CString WithOneSeparator(const CString& folder)
 {
     return FileUtils::GetSplitDirPath(FileUtils::GetCombinePath(folder, u"*"));
 }
@@ -108,7 +108,7 @@ public:
     int Run(const CString& source, const CString& destination)
     {
         const VyrPlatform::DeepWalk deepWalk;
-        Enter(WithSeparator(source), WithSeparator(destination), false);
+        Enter(WithOneSeparator(source), WithOneSeparator(destination), false);
         while (!m_folders.empty())
             Step();
         return m_result;

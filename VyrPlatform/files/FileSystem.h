@@ -61,6 +61,8 @@ struct Entry
 [[nodiscard]] VYR_PLATFORM_API char16_t Separator() noexcept;
 /// Whether the last code unit of `path` is a separator; false for an empty path.
 [[nodiscard]] VYR_PLATFORM_API bool EndsWithSeparator(std::u16string_view path) noexcept;
+/// `folder` with a separator at its end: `a/` for `a` and for `a/`.
+[[nodiscard]] VYR_PLATFORM_API CString WithSeparator(const CString& folder);
 /// The path of `name` in `folder`, with one separator between them: `a/b` for `a` and `b`, and for `a/` and `b`. An
 /// empty `folder` gives `name`.
 [[nodiscard]] VYR_PLATFORM_API CString JoinPath(const CString& folder, std::u16string_view name);

@@ -21,11 +21,7 @@ namespace {
 using namespace VyrHost::Model;
 using namespace VyrTests;
 using VyrPlatform::FileSystem::Kind;
-
-CString WithSeparator(const CString& path)
-{
-    return path + CString(VyrPlatform::FileSystem::Separator(), 1);
-}
+using VyrPlatform::FileSystem::WithSeparator;
 
 TEST(ParentName, IsThatOfTheFolderSoManyLevelsUp)
 {

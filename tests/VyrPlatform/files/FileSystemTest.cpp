@@ -245,6 +245,15 @@ TEST(FileSystemSeparator, IsOneOfThoseThatSeparate)
     EXPECT_FALSE(FileSystem::IsSeparator(u'\0'));
 }
 
+TEST(FileSystemWithSeparator, AddsOneOnlyWhereThereIsNone)
+{
+    const CString separator(FileSystem::Separator(), 1);
+    EXPECT_EQ(FileSystem::WithSeparator(u"folder"), u"folder" + separator);
+    EXPECT_EQ(FileSystem::WithSeparator(u"folder" + separator), u"folder" + separator);
+    EXPECT_EQ(FileSystem::WithSeparator(u"folder/"), u"folder/");
+    EXPECT_EQ(FileSystem::WithSeparator(separator), separator);
+}
+
 TEST(FileSystemJoinPath, PutsOneSeparatorBetweenFolderAndName)
 {
     const CString separator(FileSystem::Separator(), 1);

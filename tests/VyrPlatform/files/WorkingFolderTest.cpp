@@ -14,14 +14,10 @@
 
 using VyrPlatform::FileReader;
 using VyrPlatform::WorkingFolder;
+using VyrPlatform::FileSystem::WithSeparator;
 using VyrTests::ScratchFolder;
 
 namespace {
-
-CString WithSeparator(const CString& folder)
-{
-    return folder + CString(VyrPlatform::FileSystem::Separator(), 1);
-}
 
 std::string Content(const CString& path)
 {
