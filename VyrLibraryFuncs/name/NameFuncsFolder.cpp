@@ -4,8 +4,8 @@
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/FolderUtils.h>
-#include <VyrPlatform/common/files/DeepWalk.h>
 #include <VyrPlatform/files/CFileFind.h>
+#include <VyrPlatform/files/DeepWalk.h>
 #include <VyrPlatform/files/FileCopy.h>
 #include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/files/FullPath.h>

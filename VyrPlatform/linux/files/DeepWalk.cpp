@@ -1,4 +1,4 @@
-#include <VyrPlatform/common/files/DeepWalk.h>
+#include <VyrPlatform/files/DeepWalk.h>
 
 #include "FolderPins.h"
 

@@ -1,5 +1,5 @@
 // Windows takes paths of 32,767 code units, the longest that there are.
-#include <VyrPlatform/common/files/DeepWalk.h>
+#include <VyrPlatform/files/DeepWalk.h>
 
 namespace VyrPlatform {
 

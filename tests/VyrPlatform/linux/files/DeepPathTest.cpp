@@ -1,5 +1,5 @@
 // Paths that are longer than Linux takes in one call.
-#include <VyrPlatform/common/files/DeepWalk.h>
+#include <VyrPlatform/files/DeepWalk.h>
 #include <VyrPlatform/files/FileCopy.h>
 #include <VyrPlatform/files/FileReader.h>
 #include <VyrPlatform/files/FileSystem.h>

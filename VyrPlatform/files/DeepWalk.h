@@ -1,4 +1,5 @@
-// A walk through folders whose paths may be longer than the system takes.
+/// @file
+/// A walk through folders whose paths may be longer than the system takes.
 #pragma once
 
 #include <VyrPlatform/Export.h>
