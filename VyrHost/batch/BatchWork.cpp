@@ -70,9 +70,7 @@ void BatchWork::CheckSource(Model::PlanIndex entry)
         LeaveOut(entry,
                  {.status = Model::Status::Failed, .error = state.error, .reason = Text::ErrorText(state.error)});
     } else if (IsOtherKind(m_journal.plan.entries[entry].kind, state.kind)) {
-        LeaveOut(entry, {.status = Model::Status::Refused,
-                         .error = 0,
-                         .reason = u"it is no longer what it was when it was listed"});
+        LeaveOut(entry, {.status = Model::Status::Refused, .error = 0, .reason = noLongerAsListed});
         state = {};
     }
 }
@@ -247,10 +245,7 @@ Model::Outcome BatchWork::ForeseeEntry(Model::PlanIndex entry, Location goal, Mo
                         VyrPlatform::LookAtFile(m_progress.PathOf(place)).kind == Kind::Missing;
     if (isFree)
         return {.status = Model::Status::Done, .error = 0, .reason = {}};
-    return {.status = Model::Status::Failed,
-            .error = 0,
-            .reason =
-                goal == Location::Before ? u"something stands at the old path" : u"something stands at the new path"};
+    return {.status = Model::Status::Failed, .error = 0, .reason = ReasonWhereTaken(goal)};
 }
 
 /// Each folder once: to wait for the disk after each file would double the time of the whole batch. Until then the disk

@@ -15,6 +15,9 @@
 
 namespace VyrHost::Batch {
 
+/// Why an entry is left alone whose file has changed since it was listed.
+inline constexpr const char16_t* noLongerAsListed = u"it is no longer what it was when it was listed";
+
 class ChangeWork
 {
 public:

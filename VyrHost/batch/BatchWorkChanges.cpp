@@ -172,8 +172,7 @@ Outcome ChangeWork::Foresee(std::size_t index, Direction direction) const
     if (look.state == Model::ChangeState::Other)
         return {.status = Status::Refused,
                 .error = 0,
-                .reason = direction == Direction::Forward ? u"it is no longer what it was when it was listed"
-                                                          : u"another program has changed it since"};
+                .reason = direction == Direction::Forward ? noLongerAsListed : u"another program has changed it since"};
     return {.status = Status::Done, .error = 0, .reason = direction == Direction::Backward ? look.left : u""};
 }
 

@@ -66,7 +66,7 @@ std::optional<JournalFile> Find(const JournalFolder& folder, std::uint32_t numbe
     for (const JournalFile& file : folder.List())
         if ((isRedo ? file.undo : file.number) == number)
             return file;
-    summary.error = isRedo ? u"the journal has no undo of this number" : u"the journal has no batch of this number";
+    summary.error = isRedo ? u"the journal has no undo of this number" : noSuchBatch;
     return {};
 }
 

@@ -119,6 +119,9 @@ enum class Obstacle : std::uint8_t
     FilesGone
 };
 
+/// Why nothing can be done with the batch of a number.
+inline constexpr const char16_t* noSuchBatch = u"the journal has no batch of this number";
+
 /// What was done. Every entry counts in one of the four.
 struct BatchSummary
 {

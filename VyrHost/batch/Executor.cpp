@@ -21,6 +21,11 @@ Direction Opposite(Direction direction)
 
 } // namespace
 
+const char16_t* ReasonWhereTaken(Location target)
+{
+    return target == Location::Before ? u"something stands at the old path" : u"something stands at the new path";
+}
+
 Executor::Executor(const Model::RenamePlan& plan, PlanProgress& progress, FileOperations& files)
     : m_plan(plan), m_progress(progress), m_folders(progress, files), m_hasTemporaryName(plan.entries.size()),
       m_isLeftAlone(plan.entries.size()), m_successors(plan.entries.size(), Model::none),
@@ -269,9 +274,7 @@ Executor::StepResult Executor::Fail(Model::PlanIndex entry, std::uint32_t error,
     const bool isTaken = VyrHostPlatform::IsTargetTaken(error);
     m_results[entry] = {.status = Model::Status::Failed,
                         .error = error,
-                        .reason = !isTaken                     ? Text::ErrorText(error)
-                                  : target == Location::Before ? CString(u"something stands at the old path")
-                                                               : CString(u"something stands at the new path")};
+                        .reason = isTaken ? CString(ReasonWhereTaken(target)) : Text::ErrorText(error)};
     return StepResult::Failed;
 }
 

@@ -13,6 +13,9 @@
 
 namespace VyrHost::Batch {
 
+/// Why an entry cannot get to its old path or its new one (`target`): something else stands there.
+[[nodiscard]] const char16_t* ReasonWhereTaken(Location target);
+
 class Executor
 {
 public:

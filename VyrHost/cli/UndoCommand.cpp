@@ -176,7 +176,7 @@ int UndoCommand::ReverseNumber(std::uint32_t number) const
                           {m_records.IsJson(), m_records.IsQuiet(), m_preview});
         return reversal.Write(reversal.Run(batch, number));
     }
-    Complain("the journal has no batch of this number");
+    Complain(Text::SafeText(Batch::noSuchBatch));
     return ExitCode::blocked;
 }
 

@@ -48,7 +48,7 @@ Rules DateRules(const CString& text, const DateSettings& settings)
     RequireNameText(all, "--date");
     RequireDateFormat(all);
     if (all.ends_with(Token::folder))
-        Refuse(all, "no name follows <Folder>; add <Name> to keep the old one");
+        Refuse(all, noNameFollows);
     RequireFolderNames(all);
     const std::size_t name = all.find(Token::name);
     Rules rules;

@@ -106,7 +106,7 @@ void TemplateRule::RequireSense(std::u16string_view text) const
     if (m_parts.empty())
         Refuse(text, "it is empty");
     if (std::holds_alternative<FolderEnd>(m_parts.back()))
-        Refuse(text, "no name follows <Folder>; add <Name> to keep the old one");
+        Refuse(text, noNameFollows);
     bool countsFolder = false;
     for (const Part& part : m_parts) {
         const auto* const counter = std::get_if<Counter>(&part);

@@ -23,6 +23,9 @@ inline constexpr std::u16string_view model = VyrLibraryFuncs::modelToken;
 
 } // namespace Token
 
+/// Why a text that ends with Token::folder is refused.
+inline constexpr const char* noNameFollows = "no name follows <Folder>; add <Name> to keep the old one";
+
 /// Refuses a date format (RefuseValue for "--date") with letters that stand for no part of a date outside apostrophes,
 /// with a percent sign before a letter, with a word in angle brackets that is no token, or with a token in
 /// apostrophes, which would make text of it. Nothing of that kind is refused within apostrophes.
