@@ -8,8 +8,8 @@
 #include <VyrHost/documents/Properties.h>
 
 #include <VyrHost/documents/Document.h>
-#include <VyrHost/metadata/Changes.h>
 #include <VyrHost/model/FolderSet.h>
+#include <VyrHost/text/Pieces.h>
 #include <VyrHostPlatform/DurableFile.h>
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrLibraryUtils/FolderUtils.h>
@@ -34,12 +34,12 @@ namespace VyrHost::Documents {
 
 namespace {
 
-using Metadata::FromHex;
-using Metadata::ReadWhole;
-using Metadata::TakeUpTo;
-using Metadata::ToHex;
 using Model::ChangeLook;
 using Model::ChangeState;
+using Text::FromHex;
+using Text::ReadWhole;
+using Text::TakeUpTo;
+using Text::ToHex;
 using VyrLibraryUtils::FileUtils;
 using VyrPlatform::DocumentReplacement;
 using VyrPlatform::FileReader;

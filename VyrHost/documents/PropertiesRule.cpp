@@ -5,6 +5,7 @@
 #include <VyrHost/metadata/Changes.h>
 #include <VyrHost/model/FolderSet.h>
 #include <VyrHost/text/Errors.h>
+#include <VyrHost/text/Pieces.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/text/Template.h>
 #include <VyrHost/text/TypedDateTime.h>
@@ -169,7 +170,7 @@ void ParseProperty(std::u16string_view text, PropertyRequest& request)
 {
     std::u16string_view value = text;
     const bool hasValue = text.find(u'=') != text.npos;
-    const PropertyName* const property = FindProperty(Metadata::TakeUpTo(value, u'='));
+    const PropertyName* const property = FindProperty(Text::TakeUpTo(value, u'='));
     if (!property || property->kind == PropertyKind::Picture || !hasValue)
         Text::RefuseValue("--set", text, "NAME=TEXT is expected, where NAME is one of " + ListOfNames(false));
     if (value.empty())
@@ -190,7 +191,7 @@ void ParseCleared(std::u16string_view text, PropertyRequest& request)
 {
     for (std::u16string_view rest = text;;) {
         const bool isLast = rest.find(u',') == rest.npos;
-        const PropertyName* const property = FindProperty(Metadata::TakeUpTo(rest, u','));
+        const PropertyName* const property = FindProperty(Text::TakeUpTo(rest, u','));
         if (!property)
             Text::RefuseValue("--clear", text, ListOfNames(true) + " are known; several are separated by commas");
         RequireNew(*property, text, "--clear", request);

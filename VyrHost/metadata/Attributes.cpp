@@ -4,6 +4,7 @@
 
 #include <VyrHost/metadata/Changes.h>
 #include <VyrHost/text/Errors.h>
+#include <VyrHost/text/Pieces.h>
 #include <VyrLibraryFuncs/metadata/AttributesFuncs.h>
 #include <VyrPlatform/files/ExactState.h>
 #include <VyrPlatform/files/FileAttributes.h>
@@ -44,7 +45,7 @@ std::uint32_t SettableBits()
 
 std::optional<std::uint32_t> ReadBits(std::u16string_view text)
 {
-    const auto number = ReadWhole(text, 16);
+    const auto number = Text::ReadWhole(text, 16);
     if (!number || *number < 0 || *number >= FileAttributes::unknown)
         return std::nullopt;
     return static_cast<std::uint32_t>(*number);
@@ -76,8 +77,8 @@ std::shared_ptr<const Model::Change> AttributesChange::Read(const CString& befor
 {
     std::u16string_view restBefore = before;
     std::u16string_view restAfter = after;
-    const auto bits = ReadBits(TakeUpTo(restBefore, u' '));
-    const auto mask = ReadBits(TakeUpTo(restAfter, u' '));
+    const auto bits = ReadBits(Text::TakeUpTo(restBefore, u' '));
+    const auto mask = ReadBits(Text::TakeUpTo(restAfter, u' '));
     const auto value = ReadBits(restAfter);
     if (!bits || !mask || !value || restBefore.empty() || *mask == 0 || (*mask & ~SettableBits()) || (*value & ~*mask))
         return nullptr;
@@ -216,7 +217,7 @@ std::uint32_t ParseAttributes(std::u16string_view text, const char* option)
     std::uint32_t bits = 0;
     std::u16string_view rest = text;
     do {
-        const std::uint32_t piece = BitsOf(TakeUpTo(rest, u','));
+        const std::uint32_t piece = BitsOf(Text::TakeUpTo(rest, u','));
         if (piece == 0)
             Text::RefuseValue(option, text,
                               "read-only, hidden, system, archive, temporary and not-indexed are known, or their "

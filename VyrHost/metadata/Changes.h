@@ -1,5 +1,5 @@
 /// @file
-/// Changes of metadata: the proposals for a list, the batch of them, its results, and the journal's texts of changes.
+/// Changes of metadata: their kinds, the proposals for a list, the batch of them, and its results.
 #pragma once
 
 #include <VyrHost/batch/Batches.h>
@@ -9,11 +9,8 @@
 #include <VyrPlatform/text/CString.h>
 
 #include <cstddef>
-#include <cstdint>
 #include <functional>
 #include <memory>
-#include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -74,16 +71,5 @@ private:
 
 /// Times, attributes and marks.
 [[nodiscard]] Model::ChangeKinds Kinds();
-
-/// Removes and returns the part of `text` before the next `mark`, and removes the mark; without a mark all of it.
-[[nodiscard]] std::u16string_view TakeUpTo(std::u16string_view& text, char16_t mark);
-
-/// The number in `base` that is all of `text`; nothing when it is not a number.
-[[nodiscard]] std::optional<std::int64_t> ReadWhole(std::u16string_view text, int base = 10);
-
-/// Bytes in hexadecimal.
-[[nodiscard]] std::u16string ToHex(std::string_view bytes);
-/// The inverse; nothing for a text that is not a result of ToHex.
-[[nodiscard]] std::optional<std::string> FromHex(std::u16string_view text);
 
 } // namespace VyrHost::Metadata

@@ -4,6 +4,7 @@
 
 #include <VyrHost/metadata/Changes.h>
 #include <VyrHost/text/Errors.h>
+#include <VyrHost/text/Pieces.h>
 #include <VyrLibraryFuncs/metadata/UnblockFuncs.h>
 #include <VyrPlatform/files/ExactState.h>
 #include <VyrPlatform/files/FileAttributes.h>
@@ -88,14 +89,14 @@ std::shared_ptr<const Model::Change> MarkChange::Read(const CString& before, con
     ZoneForms forms;
     CString protection;
     for (std::u16string_view rest = before; !rest.empty();) {
-        std::u16string_view piece = TakeUpTo(rest, u';');
+        std::u16string_view piece = Text::TakeUpTo(rest, u';');
         ZoneForm form;
-        form.name = TakeUpTo(piece, u' ');
+        form.name = Text::TakeUpTo(piece, u' ');
         if (form.name == protectionWord && forms.empty() && protection.IsEmpty() && !piece.empty()) {
             protection = piece;
             continue;
         }
-        const auto bytes = FromHex(TakeUpTo(piece, u' '));
+        const auto bytes = Text::FromHex(Text::TakeUpTo(piece, u' '));
         if (!bytes || form.name.IsEmpty() || form.name == protectionWord)
             return nullptr;
         form.bytes = *bytes;
@@ -113,7 +114,8 @@ CString MarkChange::Before() const
     for (const ZoneForm& form : m_forms) {
         if (!text.IsEmpty())
             text += u';';
-        text += CString::Join({form.name, u" ", ToHex(form.bytes), form.state.IsEmpty() ? u"" : u" ", form.state});
+        text +=
+            CString::Join({form.name, u" ", Text::ToHex(form.bytes), form.state.IsEmpty() ? u"" : u" ", form.state});
     }
     return text;
 }

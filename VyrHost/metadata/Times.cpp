@@ -3,6 +3,7 @@
 #include <VyrHost/metadata/Times.h>
 
 #include <VyrHost/metadata/Changes.h>
+#include <VyrHost/text/Pieces.h>
 #include <VyrLibraryFuncs/metadata/DateTimeFuncs.h>
 #include <VyrPlatform/files/ExactState.h>
 #include <VyrPlatform/files/FileIdentity.h>
@@ -63,13 +64,13 @@ std::optional<FileDate> DateOf(std::u16string_view word)
 std::optional<TimeStep> StepOf(std::u16string_view before, std::u16string_view after)
 {
     TimeStep step;
-    const std::u16string_view word = TakeUpTo(before, u' ');
+    const std::u16string_view word = Text::TakeUpTo(before, u' ');
     const auto date = DateOf(word);
-    const auto ticks = ReadWhole(TakeUpTo(before, u' '));
+    const auto ticks = Text::ReadWhole(Text::TakeUpTo(before, u' '));
     step.beforeState = before;
-    if (!date || !ticks || before.empty() || TakeUpTo(after, u' ') != word)
+    if (!date || !ticks || before.empty() || Text::TakeUpTo(after, u' ') != word)
         return std::nullopt;
-    const auto ticksAfter = ReadWhole(after);
+    const auto ticksAfter = Text::ReadWhole(after);
     if (!ticksAfter || *ticksAfter <= 0)
         return std::nullopt;
     step.date = *date;
@@ -107,7 +108,7 @@ std::shared_ptr<const Model::Change> TimesChange::Read(const CString& before, co
     std::u16string_view restBefore = before;
     std::u16string_view restAfter = after;
     do {
-        const auto step = StepOf(TakeUpTo(restBefore, u';'), TakeUpTo(restAfter, u';'));
+        const auto step = StepOf(Text::TakeUpTo(restBefore, u';'), Text::TakeUpTo(restAfter, u';'));
         const auto isSame = [&step](const TimeStep& other) {
             return other.date == step->date;
         };

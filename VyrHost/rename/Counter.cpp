@@ -1,7 +1,7 @@
 // Reads the words of counters, and writes numbers in other ways than digits.
 #include <VyrHost/rename/Counter.h>
 
-#include <VyrHost/metadata/Changes.h>
+#include <VyrHost/text/Pieces.h>
 
 #include <algorithm>
 #include <string>
@@ -18,7 +18,7 @@ std::vector<std::u16string_view> WordsOf(std::u16string_view text)
 {
     std::vector<std::u16string_view> words;
     while (!text.empty())
-        if (const std::u16string_view word = Metadata::TakeUpTo(text, u' '); !word.empty())
+        if (const std::u16string_view word = Text::TakeUpTo(text, u' '); !word.empty())
             words.push_back(word);
     return words;
 }
@@ -78,7 +78,7 @@ private:
 
     const char* TakeNumber(int& number)
     {
-        const auto read = Metadata::ReadWhole(Take());
+        const auto read = Text::ReadWhole(Take());
         const bool isNumber = read && std::in_range<int>(*read);
         number = isNumber ? static_cast<int>(*read) : number;
         return isNumber ? nullptr : "a whole number follows start and step";

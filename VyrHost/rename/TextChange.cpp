@@ -1,11 +1,11 @@
 // Reads changes, and has the text functions of the rules carry them out.
 #include <VyrHost/rename/TextChange.h>
 
-#include <VyrHost/metadata/Changes.h>
 #include <VyrHost/rename/Words.h>
 #include <VyrHost/text/Latin.h>
 #include <VyrHost/text/NearestWord.h>
 #include <VyrHost/text/NormalForm.h>
+#include <VyrHost/text/Pieces.h>
 #include <VyrHost/text/QuotedText.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrPlatform/text/Encoding.h>
@@ -67,7 +67,7 @@ TextChange MakeReplace(const Arguments& arguments)
 TextChange MakePad(const Arguments& arguments)
 {
     constexpr int most = 255;
-    const auto width = Metadata::ReadWhole(arguments[0]);
+    const auto width = Text::ReadWhole(arguments[0]);
     if (!width || *width < 0 || *width > most)
         return nullptr;
     return [digits = static_cast<int>(*width)](const CString& text) {

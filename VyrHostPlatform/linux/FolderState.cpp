@@ -3,6 +3,7 @@
 #include <VyrHostPlatform/FolderState.h>
 
 #include <VyrPlatform/linux/files/NativePath.h>
+#include <VyrPlatform/text/Digits.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -17,7 +18,9 @@
 
 namespace VyrHostPlatform {
 
+using VyrPlatform::FromHex;
 using VyrPlatform::NativePath;
+using VyrPlatform::ToHex;
 
 namespace {
 
@@ -63,18 +66,6 @@ std::vector<std::pair<std::string, std::string>> ReadAttributes(const NativePath
     return attributes;
 }
 
-std::string ToHex(std::string_view bytes)
-{
-    constexpr std::string_view digits = "0123456789abcdef";
-    std::string text;
-    for (const char byte : bytes) {
-        const auto value = static_cast<unsigned char>(byte);
-        text += digits[value >> 4];
-        text += digits[value & 0xF];
-    }
-    return text;
-}
-
 template <class Number>
 std::optional<Number> ReadNumber(std::string_view text, int base)
 {
@@ -82,18 +73,6 @@ std::optional<Number> ReadNumber(std::string_view text, int base)
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, number, base);
     return error == std::errc() && stop == end ? std::optional(number) : std::nullopt;
-}
-
-std::optional<std::string> FromHex(std::string_view text)
-{
-    std::string bytes;
-    for (; text.size() >= 2; text.remove_prefix(2)) {
-        const auto value = ReadNumber<unsigned char>(text.substr(0, 2), 16);
-        if (!value)
-            return std::nullopt;
-        bytes += static_cast<char>(*value);
-    }
-    return text.empty() ? std::optional(bytes) : std::nullopt;
 }
 
 std::string_view TakePart(std::string_view& text)

@@ -9,6 +9,7 @@
 
 #include <VyrPlatform/common/files/StateText.h>
 #include <VyrPlatform/files/FileAttributes.h>
+#include <VyrPlatform/text/Digits.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <cerrno>

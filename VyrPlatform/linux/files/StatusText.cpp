@@ -1,6 +1,6 @@
 #include "StatusText.h"
 
-#include <VyrPlatform/common/files/StateText.h>
+#include <VyrPlatform/text/Digits.h>
 
 #include <cstddef>
 #include <cstdint>

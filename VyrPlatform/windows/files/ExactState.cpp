@@ -6,6 +6,7 @@
 
 #include <VyrPlatform/common/files/StateText.h>
 #include <VyrPlatform/files/FileAttributes.h>
+#include <VyrPlatform/text/Digits.h>
 
 #include <string>
 #include <utility>
