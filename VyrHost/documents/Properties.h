@@ -92,7 +92,7 @@ struct PropertyRequest
 
 /// Adds what `text`, such as "title=The <Name>" or "created=2024-01-05 10:30", sets.
 /// @throws UsageError for a property that does not exist, cannot be set or is named twice, for an unknown word in angle
-/// brackets, and for a time that makes no sense.
+/// brackets, and for a time that makes no sense or that not every kind of document can hold.
 void ParseProperty(std::u16string_view text, PropertyRequest& request);
 /// Adds what `text`, names separated by commas, clears.
 /// @throws UsageError likewise.

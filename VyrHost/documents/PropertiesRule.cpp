@@ -16,6 +16,8 @@
 #include <VyrPlatform/text/Encoding.h>
 
 #include <algorithm>
+#include <chrono>
+#include <ratio>
 #include <utility>
 
 namespace VyrHost::Documents {
@@ -51,13 +53,28 @@ void RequireTokens(std::u16string_view text)
     }
 }
 
+/// Whether documents of all kinds can hold the instant.
+bool CanBeHeld(VyrPlatform::FileTicks ticks)
+{
+    using namespace std::chrono;
+    using Ticks = duration<VyrPlatform::FileTicks, std::ratio<1, 10'000'000>>;
+
+    constexpr sys_days first = January / 1 / 1601;
+    constexpr sys_days end = January / 1 / 10000;
+    // Property sets have 0 for no time.
+    return ticks > 0 && Ticks(ticks) < end - first;
+}
+
 /// The given time; without a time of day the day's beginning.
 VyrPlatform::FileTicks ReadTime(std::u16string_view value, std::u16string_view given)
 {
     const auto typed = Text::ReadTypedDateTime(value);
-    const auto ticks = typed && typed->hasDate ? VyrPlatform::FileTimes::FromLocal(typed->value) : std::nullopt;
-    if (!ticks)
+    if (!typed || !typed->hasDate)
         Text::RefuseValue("--set", given, "a date is expected, such as 2024-01-05 or \"2024-01-05 10:30\"");
+    const auto ticks = VyrPlatform::FileTimes::FromLocal(typed->value);
+    if (!ticks || !CanBeHeld(*ticks))
+        Text::RefuseValue("--set", given,
+                          "a document's date lies between the beginning of 1601 and the end of 9999, UTC");
     return *ticks;
 }
 

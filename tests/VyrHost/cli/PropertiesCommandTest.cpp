@@ -220,6 +220,8 @@ TEST_F(PropertiesCommand, CallsThatMakeNoSenseAreRefused)
                                                   {u"--set", u"created=soon"},
                                                   {u"--set", u"created=10:30"},
                                                   {u"--set", u"created=2020-02-30"},
+                                                  {u"--set", u"created=1600-12-30"},
+                                                  {u"--set", u"created=0100-01-01"},
                                                   {u"--set", u"created=2020-01-01", u"--clear", u"created"},
                                                   {u"--set", u"thumbnail=x"},
                                                   {u"--set", u"revision=new"},

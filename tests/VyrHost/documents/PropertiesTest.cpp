@@ -17,6 +17,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -205,6 +206,37 @@ TEST(PropertiesText, ThatNoChangeWritesIsRefused)
     EXPECT_TRUE(PropertiesChange::Read(u"1 00000000", u"all"));
     EXPECT_TRUE(PropertiesChange::Read(u"1 00000000;4100", u"some;title 4100;created"));
     EXPECT_TRUE(PropertiesChange::Read(u"1 00000000", u"all;created 4100"));
+}
+
+TEST(PropertyDates, ThatAreAcceptedAreReadAgainFromTheJournal)
+{
+    int accepted = 0;
+    for (int year = 100; year <= 9999; ++year) {
+        const bool isNearAnEnd = (year > 1590 && year < 1610) || year > 9990;
+        if (!isNearAnEnd && year % 37 != 0)
+            continue;
+        for (const char16_t* const day : {u"01-01", u"01-01 00:00:01", u"01-02", u"06-30 12:00", u"12-31 23:59:59"}) {
+            CString text;
+            text.Format(u"created=%04d-%s", year, CString(day));
+            SCOPED_TRACE(ToStdPath(text));
+            PropertyRequest request;
+            try {
+                ParseProperty(text, request);
+            } catch (const VyrHost::Text::UsageError& error) {
+                EXPECT_TRUE(year <= 1601 || year == 9999) << error.what();
+                continue;
+            }
+            ++accepted;
+            EXPECT_GE(year, 1600);
+            auto document = std::make_shared<PropertiesChange::Document>();
+            document->edit.times = request.times;
+            const PropertiesChange change(document);
+            const auto read = PropertiesChange::Read(change.Before(), change.After());
+            ASSERT_TRUE(read);
+            EXPECT_EQ(read->After(), change.After());
+        }
+    }
+    EXPECT_GT(accepted, 1000);
 }
 
 TEST(PropertyTokens, AreThoseOfTheFile)
