@@ -77,7 +77,7 @@ constexpr Example examples[] = {
     {"vyr properties -r . --include \"*.docx\"", "what the documents below tell of themselves"},
     {"vyr properties --set title=\"<Parent>: <Name>\" *.doc", "titles from the names of folders and files"},
     {"vyr properties --clear author,lastAuthor *.docx --apply", "without the names of their authors, now"},
-    {"vyr properties --clear-all *.docx", "remove who wrote them, and when"},
+    {"vyr properties --clear-all *.docx", "empty their properties: who wrote them, when, and more"},
     {"vyr properties *.doc --csv --columns path,title,author", "for a spreadsheet"},
     {"vyr copy Pictures Backup", "into Backup where that is a folder, else as Backup"},
     {"vyr copy Pictures Scans Backup --apply", "both into the folder Backup, now"},

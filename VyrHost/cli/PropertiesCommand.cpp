@@ -210,8 +210,10 @@ PropertiesCommand::PropertiesCommand(CLI::App& program)
         HelpFooter("properties",
                    "Without an option that sets or clears a property they are shown. Without --apply nothing is "
                    "changed. What --apply changed, \"vyr undo\" undoes: the old documents are kept with the journal, 2 "
-                   "GB a batch at most. The text of a document, its tracked changes, its macros and its thumbnail are "
-                   "never touched, unless --clear names the thumbnail.\n\n"));
+                   "GB a batch at most. The text of a document, its tracked changes, its review comments with their "
+                   "authors, its macros and its thumbnail are never touched, unless --clear names the thumbnail. Nor "
+                   "are the names of who saved it last that old Word and PowerPoint files keep outside the "
+                   "properties.\n\n"));
 }
 
 int PropertiesCommand::Run() const
@@ -249,7 +251,10 @@ int PropertiesCommand::Change(const Collect::SourceSettings& sources) const
         Documents::ParseCleared(FromParser(value), request);
     ReportStyle style{m_records.IsJson(), m_records.IsQuiet(), !m_apply};
     if (m_clearsAll)
-        style.remark = "Texts, tracked changes, macros and thumbnails stay as they are.\n";
+        style.remark =
+            "Texts, tracked changes, review comments with their authors, macros and thumbnails stay as they are.\n"
+            "So do the names of who saved a document last that old Word and PowerPoint files keep outside its "
+            "properties.\n";
     if (style.isPreview)
         OfferRecovery();
     return RunChanges("properties", Documents::PropertiesChange::kind, Documents::PropertiesRule(std::move(request)),

@@ -124,7 +124,10 @@ TEST_F(PropertiesCommand, AllAreClearedAndWhatIsNotTouchedIsSaid)
     EXPECT_EQ(result.exitCode, 0) << result.errors;
     EXPECT_THAT(result.output, HasSubstr("title \"Old title\", author \"Ann\", created 2024-01-05 10:30:00, 1 other -> "
                                          "no properties"));
-    EXPECT_THAT(result.output, HasSubstr("Texts, tracked changes, macros and thumbnails stay as they are.\n"));
+    EXPECT_THAT(result.output,
+                HasSubstr("Texts, tracked changes, review comments with their authors, macros and thumbnails stay as "
+                          "they are.\nSo do the names of who saved a document last that old Word and PowerPoint files "
+                          "keep outside its properties.\n"));
     const std::string after = m_folder.ReadFile(u"a.doc");
     for (const char* const gone : {"Old title", "Ann", "Firm"})
         EXPECT_EQ(after.find(gone), after.npos) << gone;
