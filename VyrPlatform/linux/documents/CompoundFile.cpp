@@ -1,5 +1,7 @@
 #include "CompoundFile.h"
 
+#include <VyrPlatform/linux/files/FileContent.h>
+
 #include <algorithm>
 #include <bit>
 #include <cerrno>
@@ -260,16 +262,7 @@ std::optional<std::string> CompoundFile::ReadBeginning(std::u16string_view name,
 
 int CompoundFile::WriteAt(std::uint64_t place, std::string_view bytes) const
 {
-    while (!bytes.empty()) {
-        const ssize_t done = pwrite(m_file, bytes.data(), bytes.size(), static_cast<off_t>(place));
-        if (done < 0 && errno == EINTR)
-            continue;
-        if (done <= 0)
-            return done < 0 ? errno : EIO;
-        bytes.remove_prefix(static_cast<std::size_t>(done));
-        place += static_cast<std::uint64_t>(done);
-    }
-    return 0;
+    return WriteAllAt(m_file, static_cast<off_t>(place), bytes);
 }
 
 int CompoundFile::WriteNumber(std::uint64_t place, std::uint32_t number) const

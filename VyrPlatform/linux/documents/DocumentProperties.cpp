@@ -9,6 +9,7 @@
 
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/common/documents/PropertyWrites.h>
+#include <VyrPlatform/linux/files/FileContent.h>
 #include <VyrPlatform/linux/files/NativePath.h>
 #include <VyrPlatform/linux/files/OpenToLook.h>
 
@@ -138,16 +139,7 @@ public:
     [[nodiscard]] int Write(int /*source*/, int target) override
     {
         return Walk([target](std::string_view piece, std::uint64_t place) {
-            while (!piece.empty()) {
-                const ssize_t done = pwrite(target, piece.data(), piece.size(), static_cast<off_t>(place));
-                if (done < 0 && errno == EINTR)
-                    continue;
-                if (done <= 0)
-                    return done < 0 ? errno : EIO;
-                piece.remove_prefix(static_cast<std::size_t>(done));
-                place += static_cast<std::uint64_t>(done);
-            }
-            return 0;
+            return WriteAllAt(target, static_cast<off_t>(place), piece);
         });
     }
     [[nodiscard]] bool IsWritten(int /*source*/, int target) override

@@ -1,5 +1,7 @@
 #include "ZipArchive.h"
 
+#include <VyrPlatform/linux/files/FileContent.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <set>
@@ -32,10 +34,10 @@ struct ZipArchive::Storage
         return fstat(file, &status) == 0 ? static_cast<zip_uint64_t>(status.st_size) : 0;
     }
 
-    zip_int64_t Fail(int code)
+    zip_int64_t Fail(int code, int reason)
     {
-        systemError = errno;
-        zip_error_set(&error, code, errno);
+        systemError = reason;
+        zip_error_set(&error, code, reason);
         return -1;
     }
 
@@ -43,18 +45,18 @@ struct ZipArchive::Storage
     {
         const ssize_t count = pread(source, data, size, static_cast<off_t>(readAt));
         if (count < 0)
-            return Fail(ZIP_ER_READ);
+            return Fail(ZIP_ER_READ, errno);
         readAt += static_cast<zip_uint64_t>(count);
         return count;
     }
 
     zip_int64_t Write(const void* data, zip_uint64_t size)
     {
-        const ssize_t count = pwrite(target, data, size, static_cast<off_t>(writeAt));
-        if (count < 0)
-            return Fail(ZIP_ER_WRITE);
-        writeAt += static_cast<zip_uint64_t>(count);
-        return count;
+        // libzip gives up after a part, and knows no reason then.
+        if (const int reason = WriteAllAt(target, static_cast<off_t>(writeAt), {static_cast<const char*>(data), size}))
+            return Fail(ZIP_ER_WRITE, reason);
+        writeAt += size;
+        return static_cast<zip_int64_t>(size);
     }
 
     zip_int64_t Seek(zip_uint64_t& at, int file, void* data, zip_uint64_t size)

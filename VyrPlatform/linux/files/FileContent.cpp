@@ -17,41 +17,26 @@ namespace {
 
 constexpr off_t endOfFile = std::numeric_limits<off_t>::max();
 
-int WriteAt(int target, off_t offset, const std::byte* bytes, std::size_t count)
-{
-    while (count > 0) {
-        const ssize_t written = pwrite(target, bytes, count, offset);
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written < 0)
-            return errno;
-        offset += written;
-        bytes += written;
-        count -= static_cast<std::size_t>(written);
-    }
-    return 0;
-}
-
 /// Copies from `offset` to `end`, or to the end of the file if that comes first.
 int CopyThroughBuffer(int source, int target, off_t offset, off_t end)
 {
     constexpr off_t bufferSize = off_t{256} * 1024;
-    std::unique_ptr<std::byte[]> buffer;
-    std::byte firstBytes[4096];
+    std::unique_ptr<char[]> buffer;
+    char firstBytes[4096];
     while (offset < end) {
         // A file that has been copied completely ends here, so a small buffer is enough to find out.
         const off_t room = buffer ? bufferSize : static_cast<off_t>(sizeof firstBytes);
-        std::byte* const bytes = buffer ? buffer.get() : firstBytes;
+        char* const bytes = buffer ? buffer.get() : firstBytes;
         const ssize_t count = pread(source, bytes, static_cast<std::size_t>(std::min(room, end - offset)), offset);
         if (count < 0 && errno == EINTR)
             continue;
         if (count <= 0)
             return count == 0 ? 0 : errno;
-        if (const int error = WriteAt(target, offset, bytes, static_cast<std::size_t>(count)))
+        if (const int error = WriteAllAt(target, offset, {bytes, static_cast<std::size_t>(count)}))
             return error;
         offset += count;
         if (!buffer)
-            buffer = std::make_unique_for_overwrite<std::byte[]>(bufferSize);
+            buffer = std::make_unique_for_overwrite<char[]>(bufferSize);
     }
     return 0;
 }
@@ -95,6 +80,20 @@ int CopyData(int source, int target, off_t size)
 }
 
 } // namespace
+
+int WriteAllAt(int target, off_t place, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t written = pwrite(target, bytes.data(), bytes.size(), place);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return written < 0 ? errno : ENOSPC;
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+        place += written;
+    }
+    return 0;
+}
 
 int CopyContent(int source, int target, const struct stat& status)
 {

@@ -7,11 +7,16 @@
 #include <tests/support/CompoundDocument.h>
 #include <tests/support/FileMoments.h>
 #include <tests/support/TreeState.h>
+#include <tests/support/ZipArchives.h>
 #include <tests/support/linux/MountedFolder.h>
 
 #include <fstream>
+#include <string>
+#include <string_view>
 #include <sys/stat.h>
 #include <sys/xattr.h>
+#include <utility>
+#include <vector>
 
 using namespace VyrTests;
 using testing::HasSubstr;
@@ -32,6 +37,28 @@ std::string Document()
     document.streams[summaryName] = BuildSummary({{1, StoredCodePage(1252)}, {2, StoredByteText("Old")}});
     document.streams[u"Body"] = std::string(30'000, 'b');
     return document.Bytes();
+}
+
+/// A document that is an archive, with the given parts in front of its text.
+std::string Archive(ZipMembers members)
+{
+    members.emplace_back("content.xml", std::string(30'000, 'c'));
+    return BuildArchive(members);
+}
+
+/// Documents of every form by their names.
+std::vector<std::pair<std::u16string_view, std::string>> DocumentsOfEveryForm()
+{
+    return {{u"a.doc", Document()},
+            {u"a.docx",
+             Archive({{"[Content_Types].xml",
+                       R"(<Types xmlns="http://schemas.openxmlformats.org/package/2006/content-types"/>)"},
+                      {"_rels/.rels",
+                       R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships"/>)"}})},
+            {u"a.odt",
+             Archive({{"mimetype", "application/vnd.oasis.opendocument.text"},
+                      {"meta.xml", R"(<o:document-meta xmlns:o="urn:oasis:names:tc:opendocument:xmlns:office:1.0">)"
+                                   R"(<o:meta/></o:document-meta>)"}})}};
 }
 
 } // namespace
@@ -185,35 +212,39 @@ TEST_F(ChangeFailures, DiskThatIsFullAtAnyMomentLeavesTheOldOrTheNewDocument)
     if (!disk.WhyNot().empty())
         GTEST_SKIP() << disk.WhyNot();
     ASSERT_TRUE(std::filesystem::create_directory(ToStdPath(disk.Path(u"files"))));
-    const CString path = disk.Path(u"files/a.doc");
-    std::ofstream(ToStdPath(path), std::ios::binary) << Document();
-    StampFile(path, before, inFuture);
-    const auto tree = TreeState(disk.Path(u"files"));
     m_environment[u"VYR_JOURNAL_DIR"] = disk.Path(u"journal");
-    int failed = 0;
-    int applied = 0;
-    // One page less is free each time.
-    for (std::size_t filled = 0; filled <= size; filled += 4096) {
-        SCOPED_TRACE(filled);
-        std::ofstream(ToStdPath(disk.Path(u"filler"))) << std::string(filled, 'x');
-        const ProgramResult result = Run({u"properties", u"--set=title=New", path, u"--apply"});
-        if (result.exitCode != 0) {
-            ++failed;
-            EXPECT_THAT(result.output + result.errors, HasSubstr("o space left"));
-            EXPECT_EQ(TreeState(disk.Path(u"files")), tree);
+    for (const auto& [name, bytes] : DocumentsOfEveryForm()) {
+        const CString path = disk.Path(CString::Join({u"files/", name}).View());
+        SCOPED_TRACE(ToStdPath(path));
+        std::ofstream(ToStdPath(path), std::ios::binary) << bytes;
+        StampFile(path, before, inFuture);
+        const auto tree = TreeState(disk.Path(u"files"));
+        int failed = 0;
+        int applied = 0;
+        // One page less is free each time.
+        for (std::size_t filled = 0; filled <= size; filled += 4096) {
+            SCOPED_TRACE(filled);
+            std::ofstream(ToStdPath(disk.Path(u"filler"))) << std::string(filled, 'x');
+            const ProgramResult result = Run({u"properties", u"--set=title=New", path, u"--apply"});
+            if (result.exitCode != 0) {
+                ++failed;
+                EXPECT_THAT(result.output + result.errors, HasSubstr("o space left"));
+                EXPECT_EQ(TreeState(disk.Path(u"files")), tree);
+            }
+            std::filesystem::remove(ToStdPath(disk.Path(u"filler")));
+            EXPECT_EQ(Run({u"recover", u"--take-back"}).exitCode, 0);
+            if (result.exitCode == 0) {
+                ++applied;
+                const ProgramResult undone = Run({u"undo", u"1"});
+                EXPECT_EQ(undone.exitCode, 0) << undone.output << undone.errors;
+            }
+            ASSERT_EQ(TreeState(disk.Path(u"files")), tree);
+            std::filesystem::remove_all(ToStdPath(disk.Path(u"journal")));
         }
-        std::filesystem::remove(ToStdPath(disk.Path(u"filler")));
-        EXPECT_EQ(Run({u"recover", u"--take-back"}).exitCode, 0);
-        if (result.exitCode == 0) {
-            ++applied;
-            const ProgramResult undone = Run({u"undo", u"1"});
-            EXPECT_EQ(undone.exitCode, 0) << undone.output << undone.errors;
-        }
-        ASSERT_EQ(TreeState(disk.Path(u"files")), tree);
-        std::filesystem::remove_all(ToStdPath(disk.Path(u"journal")));
+        EXPECT_GT(applied, 0);
+        EXPECT_GT(failed, 0);
+        std::filesystem::remove(ToStdPath(path));
     }
-    EXPECT_GT(applied, 0);
-    EXPECT_GT(failed, 0);
 }
 
 TEST_F(ChangeFailures, UndoOnAFullDiskKeepsTheNewDocumentUntilThereIsSpace)
