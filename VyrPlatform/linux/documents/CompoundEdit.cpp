@@ -6,7 +6,9 @@
 #include <VyrPlatform/linux/files/FileContent.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <cstddef>
 #include <gsf/gsf-infile-msole.h>
 #include <gsf/gsf-infile.h>
 #include <gsf/gsf-input-stdio.h>
@@ -24,23 +26,36 @@ struct Unreference
 template <class Object>
 using Owned = std::unique_ptr<Object, Unreference>;
 
-/// The library tells of damage in its results; what it writes to the error stream besides belongs to nobody.
-void SilenceLibrary()
+/// The library tells of damage in its results; what it writes to the error stream besides belongs to nobody. Some of it
+/// is in no domain, as is what the program may say itself: that is heard again when this object is gone.
+class SilentLibrary
 {
-    static const bool isSilent = [] {
-        for (const char* const domain : {"libgsf", "libgsf:msole", "GLib", "GLib-GObject"})
-            g_log_set_handler(
+public:
+    SilentLibrary()
+    {
+        std::transform(domains.begin(), domains.end(), m_handlers.begin(), [](const char* domain) {
+            return g_log_set_handler(
                 domain, static_cast<GLogLevelFlags>(G_LOG_LEVEL_MASK | G_LOG_FLAG_RECURSION),
                 [](const char*, GLogLevelFlags, const char*, void*) {}, nullptr);
-        return true;
-    }();
-    static_cast<void>(isSilent);
-}
+        });
+    }
+    SilentLibrary(const SilentLibrary&) = delete;
+    SilentLibrary& operator=(const SilentLibrary&) = delete;
+    ~SilentLibrary()
+    {
+        for (std::size_t index = 0; index < domains.size(); ++index)
+            g_log_remove_handler(domains[index], m_handlers[index]);
+    }
+
+private:
+    static constexpr std::array<const char*, 5> domains{nullptr, "libgsf", "libgsf:msole", "GLib", "GLib-GObject"};
+
+    std::array<guint, domains.size()> m_handlers{};
+};
 
 /// The root storage as libgsf reads it; a null pointer when it finds none.
 Owned<GsfInfile> ReadByLibrary(int file)
 {
-    SilenceLibrary();
     // The name of an open file, which the library opens for itself.
     const std::string name = "/proc/self/fd/" + std::to_string(file);
     const Owned<GsfInput> input(gsf_input_stdio_new(name.c_str(), nullptr));
@@ -134,6 +149,7 @@ bool HasContent(GsfInfile* root, const std::string& name, std::string_view conte
 
 bool IsCompoundDocument(int file)
 {
+    const SilentLibrary silence;
     return CompoundFile::Read(file) && ReadByLibrary(file);
 }
 
@@ -155,6 +171,7 @@ int StreamsEdit::Write(int source, int target)
 
 bool StreamsEdit::IsWritten(int source, int target)
 {
+    const SilentLibrary silence;
     const Owned<GsfInfile> before = ReadByLibrary(source);
     const Owned<GsfInfile> after = ReadByLibrary(target);
     return before && after && IsSameStorage(before.get(), after.get(), m_streams) &&
