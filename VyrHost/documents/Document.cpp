@@ -46,8 +46,9 @@ std::vector<OfficePropertyFuncs::CLSID_ITEM> KnownHandlers()
 {
     std::vector<OfficePropertyFuncs::CLSID_ITEM> items;
     for (const char16_t* const extension :
-         {u".docx", u".docm", u".dotx", u".dotm", u".xlsx", u".xlsm", u".xltx", u".xltm", u".xlsb", u".pptx", u".pptm",
-          u".potx", u".potm", u".ppsx", u".ppsm"})
+         {u".docx", u".docm", u".dotx", u".dotm", u".xlsx", u".xlsm", u".xltx", u".xltm", u".xlsb",
+          u".xlam", u".pptx", u".pptm", u".potx", u".potm", u".ppsx", u".ppsm", u".ppam", u".sldx",
+          u".sldm", u".vsdx", u".vsdm", u".vssx", u".vssm", u".vstx", u".vstm"})
         items.push_back(Item(extension, HandlerId::officeOpenXml));
     for (const char16_t* const extension : {u".odt", u".ott", u".ods", u".ots", u".odp", u".otp", u".odg", u".otg"})
         items.push_back(Item(extension, HandlerId::openDocument));
