@@ -5,6 +5,7 @@
 #include <VyrHost/metadata/Changes.h>
 #include <VyrHost/model/FolderSet.h>
 #include <VyrHost/text/Errors.h>
+#include <VyrHost/text/NearestWord.h>
 #include <VyrHost/text/Pieces.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/text/Template.h>
@@ -18,7 +19,9 @@
 #include <algorithm>
 #include <chrono>
 #include <ratio>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace VyrHost::Documents {
 
@@ -33,13 +36,28 @@ namespace Result = VyrPlatform::PropertyStorage::Result;
 constexpr std::u16string_view nameWord = u"Name";
 constexpr std::u16string_view parentWord = u"Parent";
 
-std::string ListOfNames(bool arePicturesToo)
+/// The names that an option takes.
+std::vector<std::string> NamesFor(bool arePicturesToo)
 {
-    std::string list;
+    std::vector<std::string> names;
     for (const PropertyName& property : PropertyNames())
         if (property.kind != PropertyKind::Picture || arePicturesToo)
-            list.append(list.empty() ? "" : ", ").append(VyrPlatform::Encoding::ToUtf8(property.name));
+            names.push_back(VyrPlatform::Encoding::ToUtf8(property.name));
+    return names;
+}
+
+std::string Listed(const std::vector<std::string>& names)
+{
+    std::string list;
+    for (const std::string& name : names)
+        list.append(list.empty() ? "" : ", ").append(name);
     return list;
+}
+
+/// A suggestion of one of `names`.
+std::string HintFor(std::u16string_view typed, const std::vector<std::string>& names)
+{
+    return Text::Hint(VyrPlatform::Encoding::ToUtf8(typed), names);
 }
 
 /// Refuses a word in angle brackets that stands for nothing.
@@ -187,9 +205,13 @@ void ParseProperty(std::u16string_view text, PropertyRequest& request)
 {
     std::u16string_view value = text;
     const bool hasValue = text.find(u'=') != text.npos;
-    const PropertyName* const property = FindProperty(Text::TakeUpTo(value, u'='));
-    if (!property || property->kind == PropertyKind::Picture || !hasValue)
-        Text::RefuseValue("--set", text, "NAME=TEXT is expected, where NAME is one of " + ListOfNames(false));
+    const std::u16string_view name = Text::TakeUpTo(value, u'=');
+    const PropertyName* const property = FindProperty(name);
+    if (!property || property->kind == PropertyKind::Picture || !hasValue) {
+        const std::vector<std::string> names = NamesFor(false);
+        const std::string hint = property ? std::string() : HintFor(name, names);
+        Text::RefuseValue("--set", text, "NAME=TEXT is expected, where NAME is one of " + Listed(names) + hint);
+    }
     if (value.empty())
         Text::RefuseValue("--set", text, "there is no text; --clear clears a property");
     RequireNew(*property, text, "--set", request);
@@ -208,9 +230,13 @@ void ParseCleared(std::u16string_view text, PropertyRequest& request)
 {
     for (std::u16string_view rest = text;;) {
         const bool isLast = rest.find(u',') == rest.npos;
-        const PropertyName* const property = FindProperty(Text::TakeUpTo(rest, u','));
-        if (!property)
-            Text::RefuseValue("--clear", text, ListOfNames(true) + " are known; several are separated by commas");
+        const std::u16string_view name = Text::TakeUpTo(rest, u',');
+        const PropertyName* const property = FindProperty(name);
+        if (!property) {
+            const std::vector<std::string> names = NamesFor(true);
+            Text::RefuseValue("--clear", text,
+                              Listed(names) + " are known; several are separated by commas" + HintFor(name, names));
+        }
         RequireNew(*property, text, "--clear", request);
         request.values.emplace(property->id, std::nullopt);
         if (isLast)

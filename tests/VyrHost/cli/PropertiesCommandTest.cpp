@@ -245,3 +245,19 @@ TEST_F(PropertiesCommand, CallsThatMakeNoSenseAreRefused)
     }
     EXPECT_EQ(Run({u"properties"}).exitCode, 2);
 }
+
+TEST_F(PropertiesCommand, MisspeltPropertyGetsASuggestion)
+{
+    Place(u"a.doc");
+    const auto errorsOf = [this](const CString& option, const CString& value) {
+        const ProgramResult result = Run({u"properties", option, value, u"a.doc"});
+        EXPECT_EQ(result.exitCode, 2) << result.output;
+        return result.errors;
+    };
+    EXPECT_THAT(errorsOf(u"--set", u"titel=x"), HasSubstr("created, saved, printed; did you mean title?\n"));
+    EXPECT_THAT(errorsOf(u"--set", u"Lastauthr=x"), HasSubstr("; did you mean lastAuthor?\n"));
+    EXPECT_THAT(errorsOf(u"--set", u"title"), Not(HasSubstr("did you mean")));
+    EXPECT_THAT(errorsOf(u"--set", u"colour=x"), Not(HasSubstr("did you mean")));
+    EXPECT_THAT(errorsOf(u"--clear", u"author,titel"), HasSubstr("separated by commas; did you mean title?\n"));
+    EXPECT_THAT(errorsOf(u"--clear", u"thumbnial"), HasSubstr("; did you mean thumbnail?\n"));
+}
