@@ -147,7 +147,7 @@ enum class TimeForm : std::uint8_t
 {
     None,
     Time,
-    /// Hour, minute and second have two digits each, but there is no such time.
+    /// Hour, minute and second are all there, but there is no such time.
     Impossible
 };
 
@@ -191,7 +191,9 @@ Time TakeTime(Front front)
     const bool isSentence = front.TakeText(u" at ");
     if (!isSentence)
         front.TakeSeparator(u"-_.T ");
-    if (!front.TakeNumber(2, hour))
+    // An hour of one digit alone: minutes follow behind a separator.
+    const std::size_t digitsOfHour = isSentence && front.CountDigits() == 1 ? 1 : 2;
+    if (!front.TakeNumber(digitsOfHour, hour))
         return none;
     const bool isSeparated = front.TakeSeparator(separators) != 0;
     if (!front.TakeNumber(2, minute))

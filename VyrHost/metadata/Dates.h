@@ -66,7 +66,7 @@ struct NameDate
 ///
 /// A time of day may follow, directly or after one of `-`, `_`, `.`, `T`, blank and " at ": two digits each for hour,
 /// minute and optionally second, without separators or with `-`, `_`, `.` or `:`. Three digits of milliseconds may
-/// follow, also after `.` or `,`; after " at ", AM or PM may.
+/// follow, also after `.` or `,`. Behind " at " an hour before a separator may have one digit, and AM or PM may follow.
 ///
 /// A date is skipped when there is no such day, or when the hour, minute and second behind it are impossible. Other
 /// digits behind a date are not a time.

@@ -45,6 +45,8 @@ TEST(NameDate, FormsOfCamerasAndProgramsAreRead)
         {u"WhatsApp Image 2024-01-05 at 10.30.00 (1).jpeg", "2024-01-05 10:30:00"},
         {u"2024-01-05 at 10.30.png", "2024-01-05 10:30:00"},
         {u"2024-01-05 at home.png", "2024-01-05"},
+        {u"Screenshot 2024-01-05 at 9.05.00.png", "2024-01-05 09:05:00"},
+        {u"2024-01-05 at 9.05.png", "2024-01-05 09:05:00"},
     };
     for (const auto& [name, date] : names)
         EXPECT_EQ(DateIn(name), date) << VyrPlatform::Encoding::ToUtf8(name);
@@ -76,6 +78,9 @@ TEST(NameDate, HalfOfTheDayIsReadBehindAt)
         {u"2024-01-05 at 22.30.00 PM.png", "2024-01-05 22:30:00"},
         {u"2024-01-05 at 12.30.00 AMSEL.png", "2024-01-05 12:30:00"},
         {u"2024-01-05 10.30.00 PM.png", "2024-01-05 10:30:00"},
+        {u"Screenshot 2024-01-05 at 1.02.03 PM.png", "2024-01-05 13:02:03"},
+        {u"Screenshot 2024-01-05 at 1.02.03\u202fPM.png", "2024-01-05 13:02:03"},
+        {u"Screenshot 2024-01-05 at 9.05.00 AM.png", "2024-01-05 09:05:00"},
     };
     for (const auto& [name, date] : names)
         EXPECT_EQ(DateIn(name), date) << VyrPlatform::Encoding::ToUtf8(name);
@@ -85,7 +90,8 @@ TEST(NameDate, ImpossibleTimesAreNoDates)
 {
     for (const char16_t* const name :
          {u"IMG_20240105_253000.jpg", u"IMG_20240105_106000.jpg", u"2024-01-05 25.00.00.jpg",
-          u"2024-01-05 10.60.00.jpg", u"2024-01-05 10.30.60.123.jpg", u"2024-01-05 at 24.00.00.jpg"})
+          u"2024-01-05 10.60.00.jpg", u"2024-01-05 10.30.60.123.jpg", u"2024-01-05 at 24.00.00.jpg",
+          u"2024-01-05 at 1.60.00 PM.jpg"})
         EXPECT_EQ(DateIn(name), "no such time") << VyrPlatform::Encoding::ToUtf8(name);
     EXPECT_EQ(DateIn(u"20240105_253000 20240301.jpg"), "2024-03-01");
     EXPECT_EQ(DateIn(u"IMG_20240230_253000.jpg"), "no such day");
@@ -96,7 +102,8 @@ TEST(NameDate, OtherDigitsBehindADateAreNoTime)
     for (const char16_t* const name :
          {u"20240105_1030.jpg", u"20240105_12.jpg", u"IMG_20240105_0001.jpg", u"IMG_20240105_9999.jpg",
           u"IMG-20240105-WA0099.jpg", u"2024-01-05_99999.jpg", u"2024-01-05_987654321.jpg", u"20240105_20240112.jpg",
-          u"2024-01-05 25.30.jpg", u"2024-01-05 (99).jpg"})
+          u"2024-01-05 25.30.jpg", u"2024-01-05 (99).jpg", u"2024-01-05 9.05.00.jpg", u"2024-01-05 at 9.jpg",
+          u"2024-01-05 at 9.5.jpg", u"2024-01-05 at 905.jpg"})
         EXPECT_EQ(DateIn(name), "2024-01-05") << VyrPlatform::Encoding::ToUtf8(name);
 }
 
