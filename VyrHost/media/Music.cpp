@@ -5,6 +5,7 @@
 #include <VyrHost/media/Texts.h>
 
 #include <algorithm>
+#include <climits>
 #include <limits>
 #include <span>
 #include <string>
@@ -100,18 +101,23 @@ CString ToText(const TagLib::String& text)
     return TextOf(text.to8Bit(true));
 }
 
+TagLib::StringList ValuesOf(const TagLib::PropertyMap& properties, const char* name)
+{
+    return properties.contains(name) ? properties[name] : TagLib::StringList();
+}
+
 /// All values of one property; of `other` where there are none.
 CString TextOfProperty(const TagLib::PropertyMap& properties, const char* name, const TagLib::String& other)
 {
-    const TagLib::StringList values = properties.contains(name) ? properties[name] : TagLib::StringList();
+    const TagLib::StringList values = ValuesOf(properties, name);
     return ToText(values.isEmpty() ? other : values.toString(", "));
 }
 
-unsigned DiscOf(const TagLib::PropertyMap& properties)
+/// The number at the front of a property, in its first `length` characters; `other` where there is none.
+unsigned NumberOf(const TagLib::PropertyMap& properties, const char* name, unsigned other, unsigned length = UINT_MAX)
 {
-    constexpr const char* name = "DISCNUMBER";
-    const TagLib::StringList values = properties.contains(name) ? properties[name] : TagLib::StringList();
-    return values.isEmpty() ? 0 : NumberAtFront(values.front().to8Bit());
+    const TagLib::StringList values = ValuesOf(properties, name);
+    return values.isEmpty() ? other : NumberAtFront(values.front().substr(0, length).to8Bit());
 }
 
 void TakeTags(const TagLib::FileRef& music, MediaValues& values)
@@ -124,9 +130,12 @@ void TakeTags(const TagLib::FileRef& music, MediaValues& values)
     values.artist = TextOfProperty(properties, "ARTIST", tag->artist());
     values.album = TextOfProperty(properties, "ALBUM", tag->album());
     values.genre = TextOfProperty(properties, "GENRE", tag->genre());
-    values.track = tag->track();
-    values.year = tag->year();
-    values.disc = DiscOf(properties);
+    // The properties tell more than the tag itself does, of a WAV above all, and a negative number is none.
+    values.track = NumberOf(properties, "TRACKNUMBER", tag->track());
+    // A date may have no separators.
+    constexpr unsigned digitsOfYear = 4;
+    values.year = NumberOf(properties, "DATE", tag->year(), digitsOfYear);
+    values.disc = NumberOf(properties, "DISCNUMBER", 0);
 }
 
 } // namespace

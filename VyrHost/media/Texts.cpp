@@ -101,6 +101,7 @@ CString CleanText(std::u16string_view text)
 unsigned NumberAtFront(std::string_view text)
 {
     unsigned number = 0;
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
     std::from_chars(text.data(), text.data() + text.size(), number);
     return number;
 }

@@ -19,7 +19,8 @@ namespace VyrHost::Media {
 /// 4096 code units.
 [[nodiscard]] CString CleanText(std::u16string_view text);
 
-/// The number that `text` begins with: 1 of "1/12", 2024 of "2024-01-05"; 0 where there is none.
+/// The number that `text` begins with, behind blanks: 1 of "1/12", 2024 of "2024-01-05"; 0 where there is none, or one
+/// that is negative or too large.
 [[nodiscard]] unsigned NumberAtFront(std::string_view text);
 
 } // namespace VyrHost::Media

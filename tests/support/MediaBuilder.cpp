@@ -154,11 +154,12 @@ Bytes BuildFlac(const MusicTags& tags, std::uint64_t samples)
     return "fLaC" + FlacBlock(0, info) + FlacBlock(last | 4, VorbisComment(tags));
 }
 
-Bytes BuildWav()
+Bytes BuildWav(std::string_view information)
 {
     constexpr std::uint32_t rate = 8000;
     const Bytes format = Little(1, 2) + Little(1, 2) + Little(rate, 4) + Little(rate, 4) + Little(1, 2) + Little(8, 2);
-    const Bytes chunks = RiffChunk("fmt ", format) + RiffChunk("data", Bytes(rate, '\x80'));
+    const Bytes list = information.empty() ? Bytes() : RiffList("INFO", information);
+    const Bytes chunks = RiffChunk("fmt ", format) + list + RiffChunk("data", Bytes(rate, '\x80'));
     return "RIFF" + Little(chunks.size() + 4, 4) + "WAVE" + chunks;
 }
 

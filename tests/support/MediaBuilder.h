@@ -54,7 +54,7 @@ using MusicTags = std::vector<std::pair<std::string, std::string>>;
 [[nodiscard]] Bytes BuildMp3(std::string_view tag, std::size_t frames = 50);
 /// A FLAC of that many samples at 44,100 a second, with a Vorbis comment.
 [[nodiscard]] Bytes BuildFlac(const MusicTags& tags, std::uint64_t samples);
-/// A WAV of one second of silence.
-[[nodiscard]] Bytes BuildWav();
+/// A WAV of one second of silence, `information` being chunks to stand in its list INFO.
+[[nodiscard]] Bytes BuildWav(std::string_view information = {});
 
 } // namespace VyrTests

@@ -78,9 +78,25 @@ TEST(Music, FlacTellsItsTagsAndDuration)
     EXPECT_EQ(values.duration, 7000U);
 }
 
-TEST(Music, WavTellsItsDuration)
+TEST(Music, WavTellsItsTagsAndDuration)
 {
-    EXPECT_EQ(ReadAll(BuildWav()).duration, 1000U);
+    const MediaValues values =
+        ReadAll(BuildWav(RiffChunk("INAM", "Title") + RiffChunk("IPRT", "3") + RiffChunk("ICRD", "2019-05-06")));
+    EXPECT_EQ(values.title, CString(u"Title"));
+    EXPECT_EQ(values.track, 3U);
+    EXPECT_EQ(values.year, 2019U);
+    EXPECT_EQ(values.duration, 1000U);
+}
+
+TEST(Music, NumbersThatNoTrackHasAreNone)
+{
+    for (const char* const number : {"-3", "99999999999", "", "x", "A2"}) {
+        EXPECT_EQ(ReadMp3({{"TRCK", number}}).track, 0U) << number;
+        EXPECT_EQ(ReadAll(BuildFlac({{"TRACKNUMBER", number}}, 1)).track, 0U) << number;
+    }
+    EXPECT_EQ(ReadMp3({{"TRCK", " 3/12"}}).track, 3U);
+    EXPECT_EQ(ReadMp3({{"TDRC", "-3"}}).year, 0U);
+    EXPECT_EQ(ReadAll(BuildFlac({{"DATE", "20190506"}}, 1)).year, 2019U);
 }
 
 TEST(Music, SeveralArtistsStandBesideOneAnother)
