@@ -20,7 +20,7 @@ void Check(const Movie& movie)
 {
     constexpr VyrPlatform::FileTicks endOf9999 = 2'650'467'744'000'000'000;
     constexpr std::size_t longestTitle = 65536;
-    Require(!movie.created || (*movie.created > 0 && *movie.created < endOf9999));
+    Require(!movie.created || (*movie.created >= 0 && *movie.created < endOf9999));
     Require(movie.title.size() <= longestTitle);
 }
 

@@ -4,12 +4,15 @@
 #include <VyrHost/media/Instants.h>
 #include <VyrHost/media/IsoBoxes.h>
 #include <VyrHost/media/IsoFragments.h>
+#include <VyrHost/media/PictureDates.h>
 #include <VyrLibraryUtils/pictures/FourCc.h>
 #include <VyrPlatform/time/Epochs.h>
 
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <string_view>
+#include <vector>
 
 namespace VyrHost::Media {
 
@@ -95,6 +98,74 @@ void ReadExtension(const ByteView& extension, std::uint32_t unitsPerSecond, Movi
     movie.duration = Milliseconds(cursor.Unsigned(TakeIsLong(cursor) ? 8 : 4), unitsPerSecond);
 }
 
+/// The text that a key of QuickTime's metadata stands for; null for one that is not asked for. Apple's own keys stand
+/// behind its name, those that ffmpeg writes do not.
+std::string Movie::*TextOfKey(std::string_view key)
+{
+    struct Known
+    {
+        std::string_view key;
+        std::string Movie::*text;
+    };
+    constexpr Known known[] = {
+        {"title", &Movie::title}, {"artist", &Movie::artist}, {"album", &Movie::album},
+        {"genre", &Movie::genre}, {"year", &Movie::year},     {"date", &Movie::year},
+        {"track", &Movie::track}, {"disc", &Movie::disc},     {"creationdate", &Movie::creationDate},
+    };
+    constexpr std::string_view apple = "com.apple.quicktime.";
+    key.remove_prefix(key.starts_with(apple) ? apple.size() : 0);
+    const auto* const found = std::ranges::find(known, key, &Known::key);
+    return found == std::end(known) ? nullptr : found->text;
+}
+
+/// The texts that the keys stand for, in their order.
+std::vector<std::string Movie::*> ReadKeys(const ByteView& keys)
+{
+    constexpr std::uint64_t versionAndFlags = 4;
+    constexpr std::uint32_t sizeAndSpace = 8;
+    constexpr std::size_t longestKey = 64;
+    constexpr std::uint32_t mostKeys = 10000;
+    std::vector<std::string Movie::*> texts;
+    ByteCursor cursor(keys.From(versionAndFlags), ByteOrder::Big);
+    for (std::uint32_t left = std::min(cursor.U32(), mostKeys); left > 0; --left) {
+        const std::uint32_t size = cursor.U32();
+        const bool isName = cursor.U32() == FourCc("mdta");
+        if (cursor.Failed() || size < sizeAndSpace)
+            break;
+        const std::string key = cursor.Take(size - sizeAndSpace).Copy(longestKey);
+        texts.push_back(isName ? TextOfKey(key) : nullptr);
+    }
+    return texts;
+}
+
+/// QuickTime's metadata, whose values stand under the numbers of their keys, from 1 on. The first text of a sort
+/// counts. Source: Apple, QuickTime File Format, "Metadata".
+void ReadMetadata(const ByteView& meta, Movie& movie)
+{
+    // MP4 has a version and flags in front, QuickTime itself has not.
+    constexpr std::uint64_t versionAndFlags = 4;
+    constexpr std::uint64_t typeField = 8;
+    const ByteView boxes = meta.From(versionAndFlags).StartsWith("hdlr") ? meta : meta.From(versionAndFlags);
+    const auto handler = FindBox(boxes, FourCc("hdlr"));
+    const auto keys = FindBox(boxes, FourCc("keys"));
+    const auto values = FindBox(boxes, FourCc("ilst"));
+    if (!handler || !handler->From(typeField).StartsWith("mdta") || !keys || !values)
+        return;
+    const std::vector<std::string Movie::*> texts = ReadKeys(*keys);
+    ForEachBox(*values, [&](const IsoBox& box) {
+        if (box.type == 0 || box.type > texts.size() || texts[box.type - 1] == nullptr)
+            return true;
+        std::string& text = movie.*texts[box.type - 1];
+        const auto data = FindBox(box.content, FourCc("data"));
+        constexpr std::uint32_t utf8 = 1;
+        if (!text.empty() || !data || ByteCursor(*data, ByteOrder::Big).U32() != utf8)
+            return true;
+        constexpr std::uint64_t typeAndLocale = 8;
+        text = data->From(typeAndLocale).Copy(UINT16_MAX);
+        return true;
+    });
+}
+
 /// What QuickTime keeps among the user's data: a length, a language, the text. Source: Apple, QuickTime File Format,
 /// "User Data Text Strings".
 void ReadUserData(const ByteView& userData, Movie& movie)
@@ -110,6 +181,8 @@ void ReadUserData(const ByteView& userData, Movie& movie)
         {0xA967656E, &Movie::genre}, {0xA9646179, &Movie::year},
     };
     ForEachBox(userData, [&](const IsoBox& box) {
+        if (box.type == FourCc("meta"))
+            ReadMetadata(box.content, movie);
         const auto* const found = std::ranges::find(known, box.type, &Known::type);
         if (found == std::end(known))
             return true;
@@ -131,10 +204,15 @@ void ReadMovieBox(const ByteView& content, Movie& movie)
             ReadTrack(box.content, movie);
         else if (box.type == FourCc("udta"))
             ReadUserData(box.content, movie);
+        else if (box.type == FourCc("meta"))
+            ReadMetadata(box.content, movie);
         else if (box.type == FourCc("mvex") && !movie.duration)
             ReadExtension(box.content, unitsPerSecond, movie);
         return true;
     });
+    const auto date = ParsePictureDate(movie.creationDate);
+    if (const auto instant = date ? date->Instant() : std::nullopt)
+        movie.created = instant;
 }
 
 /// The largest of the sizes that a picture's properties tell: that of the whole, not of its tiles.

@@ -95,8 +95,9 @@ private:
              {&MediaValues::title, &MediaValues::artist, &MediaValues::album, &MediaValues::genre})
             if ((m_values.*text).IsEmpty())
                 m_values.*text = ofMovie.*text;
-        if (m_values.year == 0)
-            m_values.year = ofMovie.year;
+        for (unsigned MediaValues::*const number : {&MediaValues::track, &MediaValues::disc, &MediaValues::year})
+            if (m_values.*number == 0)
+                m_values.*number = ofMovie.*number;
     }
 
     /// Whether the file is a picture, which has neither a duration nor tags of music.

@@ -63,7 +63,7 @@ struct MediaValues
     unsigned year = 0;
     CString genre;
 
-    /// When a film was made, by its movie header (UTC).
+    /// When a film was made, by its head (UTC).
     std::optional<VyrPlatform::FileTicks> videoCreated;
 
     /// Exif's DateTimeOriginal, and nothing else.

@@ -28,6 +28,8 @@ struct Movie
     std::string year;
     std::string track;
     std::string disc;
+    /// When it was taken, as a camera or a telephone adds it to the head: "2024-01-05T10:30:00+0200".
+    std::string creationDate;
 };
 
 /// Whether `bytes` begin with a box of a film, of music in the same boxes, or of a HEIC or AVIF picture.
@@ -38,9 +40,10 @@ struct Movie
 [[nodiscard]] bool IsAvi(const VyrLibraryUtils::Pictures::ByteView& bytes);
 
 /// A film in boxes. A date of 0 is no date; one before 1970 counts from 1970, since some writers count from the wrong
-/// year. Where a film in fragments does not tell its duration in front, the whole file is searched for it, if it is
-/// asked for. The size of a HEIC or AVIF file is that of its largest picture. Source: ISO/IEC 14496-12, sections 8.2.2,
-/// 8.3.2, 8.4.3, 8.5.2 and 8.8.2; ISO/IEC 23008-12, section 6.5.3.
+/// year. A creation date with its offset in QuickTime's metadata comes before it. Where a film in fragments does not tell
+/// its duration in front, the whole file is searched for it, if it is asked for. The size of a HEIC or AVIF file is that
+/// of its largest picture. Source: ISO/IEC 14496-12, sections 8.2.2, 8.3.2, 8.4.3, 8.5.2 and 8.8.2; ISO/IEC 23008-12,
+/// section 6.5.3.
 [[nodiscard]] Movie ReadIsoMovie(const VyrLibraryUtils::Pictures::ByteView& file, bool asksForDuration);
 
 /// Matroska and WebM. Source: RFC 9559, sections 5.1.2 and 5.1.4; RFC 8794.

@@ -27,6 +27,22 @@ MediaValues ReadAll(const Bytes& film)
                      {.size = true, .duration = true, .tags = true, .videoCreated = true});
 }
 
+/// A box of QuickTime's metadata, which in MP4 has a version and flags. `count` is what it says to be the number of
+/// keys.
+Bytes Metadata(const MusicTags& tags, std::uint32_t count, bool isMp4 = false)
+{
+    Bytes keys = Number(0, 4, Endian::Big) + Number(count, 4, Endian::Big);
+    Bytes values;
+    std::uint32_t number = 0;
+    for (const auto& [key, value] : tags) {
+        keys += Number(8 + key.size(), 4, Endian::Big) + "mdta" + key;
+        const Bytes data = Number(1, 4, Endian::Big) + Number(0, 4, Endian::Big) + value;
+        values += Box(Number(++number, 4, Endian::Big), Box("data", data));
+    }
+    const Bytes handler = Box("hdlr", Bytes(8, '\0') + "mdta" + Bytes(12, '\0'));
+    return Box("meta", Bytes(isMp4 ? 4 : 0, '\0') + handler + Box("keys", keys) + Box("ilst", values));
+}
+
 /// A film in boxes of which only the head says something.
 Bytes Film(const Bytes& header)
 {
@@ -156,6 +172,72 @@ TEST(Movies, AQuickTimeFilmTellsItsTags)
     EXPECT_EQ(values.album, CString(u"Album"));
     EXPECT_EQ(values.genre, CString(u"Genre"));
     EXPECT_EQ(values.year, 2019U);
+}
+
+TEST(Movies, AFilmTellsTheKeysOfItsMetadata)
+{
+    const MusicTags tags = {{"com.apple.quicktime.software", "17.1"},
+                            {"com.apple.quicktime.title", "T\xC3\xAFtle"},
+                            {"com.apple.quicktime.artist", "Artist"},
+                            {"album", "Album"},
+                            {"genre", "Jazz"},
+                            {"date", "2019-05-06"},
+                            {"track", "3/12"},
+                            {"title", "Other"},
+                            {"com.apple.quicktime.creationdate", "2024-01-05T12:30:00+0200"}};
+    const Bytes header = MovieHeader({.created = from1904 + 999});
+    const auto count = static_cast<std::uint32_t>(tags.size());
+    for (const Bytes& head : {header + Metadata(tags, count), header + Metadata(tags, count, true),
+                              header + Box("udta", Metadata(tags, count, true))}) {
+        const MediaValues values = ReadAll(Film(head));
+        EXPECT_EQ(values.title, CString(u"T\u00EFtle"));
+        EXPECT_EQ(values.artist, CString(u"Artist"));
+        EXPECT_EQ(values.album, CString(u"Album"));
+        EXPECT_EQ(values.genre, CString(u"Jazz"));
+        EXPECT_EQ(values.year, 2019U);
+        EXPECT_EQ(values.track, 3U);
+        EXPECT_EQ(values.videoCreated, instant);
+    }
+}
+
+TEST(Movies, ACreationDateWithoutItsOffsetOrOfNoDayLeavesThatOfTheHeader)
+{
+    for (const char* const date : {"2024-01-05T12:30:00", "2024-02-30T12:30:00Z", "", "yesterday"}) {
+        const Bytes metadata = Metadata({{"creationdate", date}}, 1);
+        EXPECT_EQ(ReadAll(Film(MovieHeader({.created = from1904}) + metadata)).videoCreated, instant) << date;
+    }
+}
+
+TEST(Movies, TheUsersDataComeBeforeTheKeys)
+{
+    const Bytes title = Box("\xA9nam", Number(5, 2, Endian::Big) + Number(0, 2, Endian::Big) + "First");
+    for (const Bytes& head : {Box("udta", title) + Metadata({{"title", "Second"}}, 1),
+                              Metadata({{"title", "Second"}}, 1) + Box("udta", title)})
+        EXPECT_EQ(ReadAll(Film(MovieHeader({}) + head)).title, CString(u"First"));
+}
+
+TEST(Movies, KeysThatAreCutOffOrLieAboutTheirNumberTellWhatIsThere)
+{
+    const MusicTags tags = {{"title", "Title"}, {"artist", "Artist"}};
+    EXPECT_EQ(ReadAll(Film(MovieHeader({}) + Metadata(tags, 1))).artist, CString());
+    for (const std::uint32_t count : {2U, 3U, 20000U, UINT32_MAX}) {
+        const MediaValues values = ReadAll(Film(MovieHeader({}) + Metadata(tags, count)));
+        EXPECT_EQ(values.title, CString(u"Title")) << count;
+        EXPECT_EQ(values.artist, CString(u"Artist")) << count;
+    }
+    const Bytes film = Film(MovieHeader({}) + Metadata(tags, 2));
+    for (std::size_t size = 0; size < film.size(); ++size)
+        EXPECT_LE(ReadAll(film.substr(0, size)).title.GetLength(), 5) << size;
+    for (std::size_t at = 0; at < film.size(); ++at) {
+        Bytes lying = film;
+        lying[at] = '\xFF';
+        EXPECT_LE(ReadAll(lying).title.GetLength(), 4096) << at;
+    }
+    // Another handler's keys are no names, and another type's values no UTF-8.
+    const std::size_t handler = film.find("mdta");
+    EXPECT_EQ(ReadAll(Bytes(film).replace(handler, 4, "mdir")).title, CString());
+    const std::size_t type = film.find("data") + 7;
+    EXPECT_EQ(ReadAll(Bytes(film).replace(type, 1, "\x15")).title, CString());
 }
 
 TEST(Movies, MatroskaAndWebMTellTheSame)
