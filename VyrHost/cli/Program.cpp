@@ -18,6 +18,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cstddef>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -56,6 +57,18 @@ int Fail(const std::string& what)
     return ExitCode::blocked;
 }
 
+/// What is wrong with a call that the parser refuses.
+std::string FaultOf(const CLI::App& command, const CLI::ParseError& error)
+{
+    for (const CLI::Option* const option : command.get_options()) {
+        const int most = option->get_items_expected_max();
+        if (option->get_multi_option_policy() == CLI::MultiOptionPolicy::Throw && most > 0 &&
+            option->count() > static_cast<std::size_t>(most))
+            return option->get_name() + " is given more than once";
+    }
+    return error.what();
+}
+
 } // namespace
 
 int RunProgram(const std::vector<CString>& arguments)
@@ -81,7 +94,8 @@ int RunProgram(const std::vector<CString>& arguments)
         const std::string text = ShortHelp(CommandOf(program, arguments).get_name());
         return WriteOut(text.empty() ? WrapHelp(program.help()) : text);
     } catch (const CLI::ParseError& error) {
-        return RefuseCall(std::string(error.what()) + "\nvyr --help and vyr COMMAND --help say more.");
+        return RefuseCall(FaultOf(CommandOf(program, arguments), error) +
+                          "\nvyr --help and vyr COMMAND --help say more.");
     } catch (const Text::UsageError& error) {
         return RefuseCall(error.what());
     } catch (const _com_error& error) {

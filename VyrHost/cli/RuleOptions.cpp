@@ -31,8 +31,6 @@ namespace VyrHost::Cli {
 
 namespace {
 
-constexpr int anyNumber = std::numeric_limits<int>::min();
-
 /// An option as it was given, with its settings.
 struct Given;
 
@@ -181,9 +179,9 @@ bool SetOnce(std::optional<Value>& setting, Value value)
     return isFirst;
 }
 
-bool SetNumber(std::optional<int>& setting, const CString& value, int least, const char* name)
+bool SetNumber(std::optional<int>& setting, const CString& value, const char* name)
 {
-    return SetOnce(setting, Rename::ParseNumber(value, least, name));
+    return SetOnce(setting, Rename::ParseNumber(value, std::numeric_limits<int>::min(), name));
 }
 
 bool SetNth(Given& given, int nth)
@@ -196,15 +194,15 @@ bool SetNth(Given& given, int nth)
 constexpr SettingOption settingOptions[] = {
     {"--start", "N", "First number of --number (1)", "--number",
      [](Given& given, const CString& value) {
-         return SetNumber(given.number.start, value, anyNumber, "--start");
+         return SetNumber(given.number.start, value, "--start");
      }},
     {"--step", "N", "From one number to the next (1)", "--number",
      [](Given& given, const CString& value) {
-         return SetNumber(given.number.step, value, anyNumber, "--step");
+         return SetNumber(given.number.step, value, "--step");
      }},
     {"--digits", "N", "Least width of the number, 0 to 255, for a TEMPLATE with a single # or <Number>", "--number",
      [](Given& given, const CString& value) {
-         return SetNumber(given.number.digits, value, 0, "--digits");
+         return SetOnce(given.number.digits, Rename::ParseDigits(value, "--digits"));
      }},
     {"--date-from", "LIST",
      "Dates for --date and <Date>, the first that a file has: picture, digitized, xmp, video, name, modified, "

@@ -1,6 +1,7 @@
 // Makes readers of tokens, each of which asks the entry for one value.
 #include <VyrHost/rename/NameTokens.h>
 
+#include <VyrHost/metadata/Changes.h>
 #include <VyrHost/model/FolderSet.h>
 #include <VyrHost/rename/RuleTexts.h>
 #include <VyrHost/rename/TemplateTokens.h>
@@ -51,10 +52,10 @@ struct Making
     {
         if (!token.option)
             return usual;
-        const int number = ParseNumber(*token.option, 1, option);
-        if (number > most)
-            Refuse("a number from 1 to " + std::to_string(most) + " is expected behind the colon");
-        return number;
+        const auto number = Metadata::ReadWhole(*token.option);
+        if (!number || *number < 1 || *number > most)
+            Refuse("a whole number from 1 to " + std::to_string(most) + " is expected behind the colon");
+        return static_cast<int>(*number);
     }
 };
 

@@ -8,12 +8,11 @@
 #include <algorithm>
 #include <charconv>
 #include <iterator>
-#include <limits>
 #include <string>
 
 namespace VyrHost::Rename {
 
-int ParseNumber(const CString& text, int least, const char* what)
+int ParseNumber(const CString& text, int least, const char* what, int most)
 {
     std::string digits;
     for (const char16_t unit : text.View())
@@ -21,20 +20,16 @@ int ParseNumber(const CString& text, int least, const char* what)
     int number = 0;
     const char* const end = digits.data() + digits.size();
     const auto [stop, error] = std::from_chars(digits.data(), end, number);
-    if (error != std::errc() || stop != end || number < least)
+    if (error != std::errc() || stop != end || number < least || number > most)
         Text::RefuseValue(what, text,
-                          "a whole number from " + std::to_string(least) + " to " +
-                              std::to_string(std::numeric_limits<int>::max()) + " is expected");
+                          "a whole number from " + std::to_string(least) + " to " + std::to_string(most) +
+                              " is expected");
     return number;
 }
 
 int ParseDigits(const CString& text, const char* option)
 {
-    constexpr int most = 255;
-    const int digits = ParseNumber(text, 0, option);
-    if (digits > most)
-        Text::RefuseValue(option, text, "more than 255 digits");
-    return digits;
+    return ParseNumber(text, 0, option, widestNumber);
 }
 
 namespace {

@@ -7,6 +7,7 @@
 #include <VyrHost/rename/Words.h>
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -99,9 +100,10 @@ struct PatternRuleSettings
 /// "UTC", the name of a zone such as "Europe/Berlin", or how far a clock is ahead of UTC in hours and minutes, such as
 /// "+02:00", "-9:30" or "+1".
 [[nodiscard]] ZoneClock ParseTimeZone(const CString& text);
-/// A number of digits, 0 to 255, given with `option`.
+/// A number of digits, from 0 to widestNumber, given with `option`.
 [[nodiscard]] int ParseDigits(const CString& text, const char* option);
-/// A whole number in decimal, from `least` on. `what` names it in the message.
-[[nodiscard]] int ParseNumber(const CString& text, int least, const char* what);
+/// A whole number in decimal, from `least` to `most`. `what` names it in the message.
+[[nodiscard]] int ParseNumber(const CString& text, int least, const char* what,
+                              int most = std::numeric_limits<int>::max());
 
 } // namespace VyrHost::Rename

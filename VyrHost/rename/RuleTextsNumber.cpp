@@ -19,8 +19,6 @@ using VyrLibraryFuncs::NameFuncs;
 using Edit = NameFuncs::AddDeleteType;
 using Position = NameFuncs::NumberPosition;
 
-constexpr int mostDigits = 255;
-
 [[noreturn]] void Refuse(std::u16string_view text, const std::string& reason)
 {
     Text::RefuseValue("--number", text, reason);
@@ -66,7 +64,7 @@ NumberSpot FindNumber(std::u16string_view text)
     if (text.find(u'#', end) != std::u16string_view::npos)
         Refuse(text, "# stands in two places; write <Number> for the number to keep every #");
     const std::size_t width = end - begin;
-    if (width > mostDigits)
+    if (width > widestNumber)
         Refuse(text, "more than 255 digits");
     return {begin, width, width > 1 ? std::optional(static_cast<int>(width)) : std::nullopt};
 }
@@ -121,7 +119,7 @@ int Digits(std::u16string_view text, const NumberSpot& spot, const NumberSetting
     if (settings.digits && spot.digits)
         Refuse(text, "its # tell the width already; write a single # with --digits");
     const int digits = settings.digits.value_or(spot.digits.value_or(1));
-    if (digits > mostDigits)
+    if (digits > widestNumber)
         Refuse(text, "more than 255 digits");
     return digits;
 }

@@ -4,6 +4,7 @@
 #include <VyrHost/rename/Pattern.h>
 #include <VyrHost/text/Errors.h>
 
+#include <limits>
 #include <optional>
 #include <string>
 #include <utility>
@@ -149,9 +150,11 @@ Rules PatternRules(const CString& find, const CString& replacement, const Patter
 
 int ParseNth(const CString& text)
 {
-    const bool fromEnd = text.Find(u"-") == 0;
-    const int number = ParseNumber(fromEnd ? text.Mid(1) : text, 1, "--nth");
-    return fromEnd ? -number : number;
+    constexpr const char* option = "--nth";
+    const int number = ParseNumber(text, -std::numeric_limits<int>::max(), option);
+    if (number == 0)
+        Text::RefuseValue(option, text, "1 is the first match and -1 the last; there is none between them");
+    return number;
 }
 
 NamePart ParseNamePart(const CString& text)

@@ -2,6 +2,7 @@
 #include <VyrHost/rename/RuleTexts.h>
 
 #include <VyrHost/rename/Words.h>
+#include <VyrHost/text/Errors.h>
 #include <VyrHost/text/Latin.h>
 
 #include <functional>
@@ -53,6 +54,8 @@ Rules PadRules(const CString& text)
     else if (word == u"last")
         which = WhichNumbers::Last;
     const bool hasWord = which != WhichNumbers::All;
+    if (colon >= 0 && !hasWord)
+        Text::RefuseValue("--pad", text, "only first: or last: may stand before the number");
     const int width = ParseDigits(hasWord ? text.Mid(colon + 1) : text, "--pad");
     return OneRule<TextRule>([width, which](const CString& name) { return PadNumbers(name, width, which); });
 }

@@ -53,6 +53,8 @@ struct KnownChange
     std::size_t count;
     /// Null where the arguments are wrong.
     TextChange (*make)(const Arguments& arguments);
+    /// What is expected of the arguments.
+    const char* expected = "";
 };
 
 TextChange MakeReplace(const Arguments& arguments)
@@ -66,9 +68,8 @@ TextChange MakeReplace(const Arguments& arguments)
 
 TextChange MakePad(const Arguments& arguments)
 {
-    constexpr int most = 255;
     const auto width = Text::ReadWhole(arguments[0]);
-    if (!width || *width < 0 || *width > most)
+    if (!width || *width < 0 || *width > widestNumber)
         return nullptr;
     return [digits = static_cast<int>(*width)](const CString& text) {
         return PadNumbers(text, digits, WhichNumbers::All);
@@ -98,10 +99,13 @@ CString AsTitle(const CString& text)
 }
 
 constexpr KnownChange knownChanges[] = {
-    {"upper", 0, MakePlain<InCapitals>}, {"lower", 0, MakePlain<InSmallLetters>},
-    {"title", 0, MakePlain<AsTitle>},    {"ascii", 0, MakePlain<Text::SpellOutLatin>},
-    {"trim", 0, MakePlain<TrimBlanks>},  {"pad", 1, MakePad},
-    {"replace", 2, MakeReplace},
+    {"upper", 0, MakePlain<InCapitals>},
+    {"lower", 0, MakePlain<InSmallLetters>},
+    {"title", 0, MakePlain<AsTitle>},
+    {"ascii", 0, MakePlain<Text::SpellOutLatin>},
+    {"trim", 0, MakePlain<TrimBlanks>},
+    {"pad", 1, MakePad, "a whole number from 0 to 255 is expected"},
+    {"replace", 2, MakeReplace, "a text to look for is expected"},
 };
 
 constexpr const char* knownWords = "upper, lower, title, ascii, trim, pad N and replace A B";
@@ -138,9 +142,16 @@ TextChange ParseChange(std::u16string_view text, std::string& fault)
         return nullptr;
     }
     const Arguments arguments(cut->begin() + 1, cut->end());
-    TextChange change = arguments.size() == known->count ? known->make(arguments) : nullptr;
-    if (!change)
-        fault.assign("'").append(Text::SafeText(text)).append("' is not a change; the changes are ").append(knownWords);
+    fault = "'" + Text::SafeText(text) + "'";
+    if (arguments.size() != known->count) {
+        fault.append(" is not a change; the changes are ").append(knownWords);
+        return nullptr;
+    }
+    TextChange change = known->make(arguments);
+    if (change)
+        fault.clear();
+    else
+        fault.append(": ").append(known->expected);
     return change;
 }
 

@@ -37,6 +37,9 @@ enum class WhichNumbers : std::uint8_t
     Last
 };
 
+/// The most digits that a number is filled up to.
+inline constexpr int widestNumber = 255;
+
 /// Fills numbers up with zeros in front.
 /// @param width  the least number of digits, from 0 on; longer ones stay.
 [[nodiscard]] CString PadNumbers(const CString& text, int width, WhichNumbers which);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <string>
 #include <vector>
 
 namespace VyrHost::Text {
@@ -35,10 +36,21 @@ std::size_t Distance(std::string_view left, std::string_view right)
     return table.back();
 }
 
+/// With the letters A to Z small.
+std::string Folded(std::string_view word)
+{
+    std::string folded(word);
+    std::ranges::transform(folded, folded.begin(), [](char letter) {
+        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+    });
+    return folded;
+}
+
 } // namespace
 
 std::string_view NearestWord(std::string_view typed, std::span<const std::string> words)
 {
+    const std::string wanted = Folded(typed);
     std::string_view nearest;
     // A third of the letters may be wrong; what begins a word is as near as one wrong letter.
     std::size_t least = std::max<std::size_t>(typed.size() / 3, 1) + 1;
@@ -46,8 +58,9 @@ std::string_view NearestWord(std::string_view typed, std::span<const std::string
         // A text may have any length; one that is far too long is not compared.
         if (typed.size() > 2 * word.size())
             continue;
-        const bool begins = typed.size() > 1 && word.starts_with(typed);
-        const std::size_t distance = begins ? 1 : Distance(typed, word);
+        const std::string known = Folded(word);
+        const bool begins = wanted.size() > 1 && known.starts_with(wanted);
+        const std::size_t distance = begins ? 1 : Distance(wanted, known);
         if (distance < least) {
             least = distance;
             nearest = word;

@@ -9,7 +9,7 @@
 namespace VyrHost::Text {
 
 /// The one of `words` that `typed` was probably meant to be: with few letters added, left out, changed or swapped, or
-/// one that it begins; empty where none is near. Example: "renmae" is "rename".
+/// one that it begins, in capital or small letters; empty where none is near. Example: "renmae" is "rename".
 [[nodiscard]] std::string_view NearestWord(std::string_view typed, std::span<const std::string> words);
 
 /// "; did you mean rename?" for that word, in `before` and `behind`; empty where none is near. Example: with "<" and

@@ -59,7 +59,13 @@ TEST_F(BadInput, NumbersThatAreNone)
         ExpectRefused({u"--suffix", u"!", u"--conflict-start", number, u"a"}, "--conflict-start");
         ExpectRefused({u"--suffix", u"!", u"--conflict-digits", number, u"a"}, "--conflict-digits");
     }
-    ExpectRefused({u"--suffix", u"!", u"--conflict-digits", u"256", u"a"}, "more than 255 digits");
+    ExpectRefused({u"--suffix", u"!", u"--conflict-digits", u"256", u"a"}, "from 0 to 255");
+    ExpectRefused({u"--number", u"#", u"--digits", u"256", u"a"}, "--digits '256': a whole number from 0 to 255 ");
+    for (const char16_t* const width : {u"-1", u"1000", u"x"})
+        ExpectRefused({u"--pad", width, u"a"}, "': a whole number from 0 to 255 is expected");
+    ExpectRefused({u"--pad", u"mid:4", u"a"}, "--pad 'mid:4': only first: or last: may stand before the number");
+    ExpectRefused({u"--regex", u"a", u"b", u"--nth", u"0", u"a"}, "--nth '0': 1 is the first match and -1 the last");
+    ExpectRefused({u"--regex", u"a", u"b", u"--nth", u"x", u"a"}, "from -2147483647 to 2147483647");
     ExpectRefused({u"--keep-first", u"99999999999", u"a"}, "from 0 to 2147483647");
     ExpectRefused({u"--delete-last", u"-1", u"a"}, "from 1 to 2147483647");
     for (const char16_t* const batch : {u"", u"0", u"-1", u"x", u"99999999999"}) {
@@ -79,6 +85,17 @@ TEST_F(BadInput, NumbersThatEndBeforeTheList)
         Rename({u"--number", u"#", u"--start=2147483646", u"--number-per-folder", u"a", u"b", u"d/c", u"d/e"});
     EXPECT_EQ(result.exitCode, 0) << result.errors;
     EXPECT_THAT(result.output, HasSubstr("b    ->  2147483647\n"));
+}
+
+TEST_F(BadInput, OptionsThatAreGivenTooOften)
+{
+    WriteNamed({u"a"});
+    ExpectRefused({u"--suffix", u"!", u"--into", u"x", u"--into", u"y", u"a"}, "--into is given more than once\n");
+    ExpectRefused({u"--suffix", u"!", u"--include", u"a", u"--include", u"b", u"--sort=name", u"--sort", u"size", u"a"},
+                  "--sort is given more than once\n");
+    const ProgramResult result = Run({u"times", u"--set-modified", u"2024-01-05", u"--set-modified=2024-01-06", u"a"});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_THAT(result.errors, StartsWith("vyr: --set-modified is given more than once\n"));
 }
 
 TEST_F(BadInput, EmptyOptions)

@@ -147,6 +147,7 @@ TEST_F(ContentTokens, TellTheTagsOfPictures)
     EXPECT_EQ(Named(u"<Exif:Make>, <Make>", u"p", u".jpg"), u"Testmaker, Testmaker.jpg");
     EXPECT_EQ(Named(u"<Exif:Artist>", u"p", u".jpg"), u"!");
     EXPECT_THAT(ErrorOf(u"<Exif:LensMdoel>"), HasSubstr("did you mean <Exif:LensModel>?"));
+    EXPECT_THAT(ErrorOf(u"<Exif:isoo>"), HasSubstr("did you mean <Exif:ISO>?"));
     EXPECT_THAT(ErrorOf(u"<Exif>"), HasSubstr("the name of a tag"));
 
     EXPECT_EQ(Named(u"<Taken:HH.mm.ss.SSS>", u"p", u".jpg"), u"18.45.03.070.jpg");
@@ -191,5 +192,5 @@ TEST_F(ContentTokens, TellTheDigestOfTheContent)
     EXPECT_EQ(Named(u"<Hash>", u"a", u".txt"), digest + u".txt");
     EXPECT_EQ(Named(u"<Hash:8|upper>", u"a", u".txt"), u"BA7816BF.txt");
     EXPECT_EQ(Named(u"<Hash:8>", u"missing", u".txt"), u"!");
-    EXPECT_THAT(ErrorOf(u"<Hash:65>"), HasSubstr("from 1 to 64"));
+    EXPECT_THAT(ErrorOf(u"<Hash:65>"), HasSubstr("<Hash:65>: a whole number from 1 to 64 is expected"));
 }

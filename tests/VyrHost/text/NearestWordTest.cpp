@@ -14,6 +14,8 @@ TEST(NearestWord, IsTheOneWithTheFewestTypingErrors)
     EXPECT_EQ(NearestWord("recovr", words), "recover");
     EXPECT_EQ(NearestWord("rec", words), "recover");
     EXPECT_EQ(NearestWord("cope", words), "copy");
+    EXPECT_EQ(NearestWord("RENMAE", words), "rename");
+    EXPECT_EQ(NearestWord("isoo", std::vector<std::string>{"Make", "ISO"}), "ISO");
 }
 
 TEST(NearestWord, IsEmptyWhereNoWordIsSimilar)
