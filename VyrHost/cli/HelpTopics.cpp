@@ -72,6 +72,8 @@ Quote patterns and WITH: single quotes in bash, double quotes on Windows.
 Kept rules are plain text, one option a line; "vyr rules" lists them:
   --regex "^(.+) - (.+)$" "$2 - $1"
   --case title
+They are rules and their settings alone. Which files, their order, where they
+go and names that are taken are not kept with them.
 
 Examples:
   vyr rename --regex '^(.+) - (.+)$' '$2 - $1' *.mp3

@@ -210,6 +210,8 @@ RenameRequest RenameCommand::Read() const
     request.conflicts = m_conflicts.Read();
     request.edit = m_edit;
     request.rules = m_rules.Make();
+    if (const std::string left = m_rules.NotKept(); !left.empty() && !request.style.quiet)
+        Complain("not kept with the rules: " + left);
     return request;
 }
 

@@ -301,23 +301,32 @@ std::vector<OptionWords> TakeGiven(const CLI::App& command)
     return given;
 }
 
+/// Says that the option `name` cannot be kept: another option of `command`, which may be null, or a misspelt one.
+std::string NoRule(const std::string& name, const CLI::App* command)
+{
+    const std::string fault =
+        "'" + Text::SafeText(VyrPlatform::Encoding::FromNameBytes(name)) + "' is neither a rule nor a setting of one";
+    if (command && name.starts_with('-') && command->get_option_no_throw(name))
+        return fault + "; it is not kept in rules, only given in a call";
+    std::vector<std::string> known;
+    for (const RuleOption& rule : ruleOptions)
+        known.emplace_back(rule.name);
+    for (const SettingOption& setting : settingOptions)
+        known.emplace_back(setting.name);
+    return fault + Text::Hint(name, known);
+}
+
 /// The options of a text of kept rules.
+/// @param command  that has further options, which are not kept; may be null.
 /// @throws UsageError for a line that is neither a rule nor a setting.
-std::vector<OptionWords> ReadKept(std::string_view text)
+std::vector<OptionWords> ReadKept(std::string_view text, const CLI::App* command)
 {
     std::vector<OptionWords> given;
     for (const Rename::OptionLine& line : Rename::ReadOptionLines(text)) {
         const std::string name = VyrPlatform::Encoding::ToNameBytes(line.words.front());
         const std::optional<std::size_t> count = CountValues(name);
-        if (!count) {
-            std::vector<std::string> known;
-            for (const RuleOption& rule : ruleOptions)
-                known.emplace_back(rule.name);
-            for (const SettingOption& setting : settingOptions)
-                known.emplace_back(setting.name);
-            Rename::RefuseLine(line.number, "'" + Text::SafeText(line.words.front()) +
-                                                "' is neither a rule nor a setting of one" + Text::Hint(name, known));
-        }
+        if (!count)
+            Rename::RefuseLine(line.number, NoRule(name, command));
         if (line.words.size() != *count + 1)
             Rename::RefuseLine(line.number, name + " takes " + std::to_string(*count) +
                                                 (*count == 1 ? " value" : " values") + ", not " +
@@ -397,11 +406,11 @@ Rename::Rules MakeRules(const std::vector<OptionWords>& options)
 
 /// The options of the kept rules `name`.
 /// @throws UsageError, with the name in front, where they make no sense.
-std::vector<OptionWords> LoadKept(const CString& name)
+std::vector<OptionWords> LoadKept(const CString& name, const CLI::App& command)
 {
     const std::string text = LoadRules(name);
     try {
-        std::vector<OptionWords> given = ReadKept(text);
+        std::vector<OptionWords> given = ReadKept(text, &command);
         // Settings must find their rules within the text.
         (void)MakeRules(given);
         return given;
@@ -411,7 +420,7 @@ std::vector<OptionWords> LoadKept(const CString& name)
 }
 
 /// `given` with the kept rules in place of their names.
-std::vector<OptionWords> WithKept(std::vector<OptionWords> given)
+std::vector<OptionWords> WithKept(std::vector<OptionWords> given, const CLI::App& command)
 {
     std::vector<OptionWords> all;
     for (OptionWords& words : given) {
@@ -419,7 +428,7 @@ std::vector<OptionWords> WithKept(std::vector<OptionWords> given)
             all.push_back(std::move(words));
             continue;
         }
-        std::vector<OptionWords> kept = LoadKept(words.values.front());
+        std::vector<OptionWords> kept = LoadKept(words.values.front(), command);
         std::move(kept.begin(), kept.end(), std::back_inserter(all));
     }
     return all;
@@ -452,7 +461,7 @@ RuleOptions::RuleOptions(CLI::App& command) : m_command(command)
 
 Rename::Rules RuleOptions::Make() const
 {
-    const std::vector<OptionWords> given = WithKept(TakeGiven(m_command));
+    const std::vector<OptionWords> given = WithKept(TakeGiven(m_command), m_command);
     Rename::Rules rules = MakeRules(given);
     if (!m_saveAs)
         return rules;
@@ -468,9 +477,22 @@ Rename::Rules RuleOptions::Make() const
     return rules;
 }
 
+std::string RuleOptions::NotKept() const
+{
+    constexpr std::string_view groups[] = {OptionGroup::where, OptionGroup::sources, OptionGroup::choice,
+                                           OptionGroup::order, OptionGroup::conflicts};
+    std::string names;
+    if (!m_saveAs)
+        return names;
+    for (const CLI::Option* const option : std::as_const(m_command).get_options())
+        if (option->count() > 0 && std::ranges::find(groups, option->get_group()) != std::end(groups))
+            names += (names.empty() ? "" : ", ") + option->get_name();
+    return names;
+}
+
 Rename::Rules MakeKeptRules(std::string_view text)
 {
-    return MakeRules(ReadKept(text));
+    return MakeRules(ReadKept(text, nullptr));
 }
 
 } // namespace VyrHost::Cli

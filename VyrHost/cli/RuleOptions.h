@@ -30,6 +30,9 @@ public:
     [[nodiscard]] Rename::Rules Make() const;
     /// Whether the rules are to be kept.
     [[nodiscard]] bool Keeps() const { return m_saveAs.has_value(); }
+    /// Where rules are kept, the other options of the call that choose, sort, place or number, which are not kept with
+    /// them, separated by commas.
+    [[nodiscard]] std::string NotKept() const;
 
 private:
     CLI::App& m_command;

@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 using namespace VyrTests;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -59,6 +61,29 @@ TEST_F(KeptRules, AreReadFromAFileThatIsShared)
     EXPECT_EQ(m_folder.ReadFile(u"mine.rules"), "--prefix \"x \"\n");
 }
 
+TEST_F(KeptRules, AreKeptWithoutTheFilesTheirOrderAndTheirPlace)
+{
+    WriteNamed({u"a.txt"});
+    const std::vector<CString> call = {u"--prefix", u"x",         u"--into", u"foo",          u"--conflict-pattern",
+                                       u"-?",       u"--include", u"*.txt",  u"--sort=name",  u"--remove-empty",
+                                       u"-r",       u".",         u"--trim", u"--save-rules", u"k"};
+    const ProgramResult kept = Rename(call);
+    EXPECT_EQ(kept.exitCode, 0);
+    EXPECT_THAT(kept.output, HasSubstr("xa.txt"));
+    EXPECT_THAT(kept.errors, testing::StartsWith("vyr: not kept with the rules: --"));
+    EXPECT_EQ(std::count(kept.errors.begin(), kept.errors.end(), '\n'), 1) << kept.errors;
+    EXPECT_EQ(std::count(kept.errors.begin(), kept.errors.end(), ','), 5) << kept.errors;
+    for (const char* const option :
+         {"--into", "--conflict-pattern", "--include", "--sort", "--remove-empty", "--recursive"})
+        EXPECT_THAT(kept.errors, HasSubstr(option));
+    EXPECT_EQ(KeptText(u"k"), "--prefix x\n--trim\n");
+    std::vector<CString> quiet = call;
+    quiet.emplace_back(u"--quiet");
+    EXPECT_THAT(Rename(quiet).errors, IsEmpty());
+    EXPECT_THAT(Rename({u"--prefix=x", u"--trim", u"--save-rules=k", u"a.txt"}).errors, IsEmpty());
+    EXPECT_THAT(Rename({u"--prefix=x", u"--into=foo", u"a.txt"}).errors, IsEmpty());
+}
+
 TEST_F(KeptRules, AreNeverReplacedByOthers)
 {
     EXPECT_EQ(Rename({u"--trim", u"--save-rules=a"}).exitCode, 0);
@@ -83,6 +108,12 @@ TEST_F(KeptRules, ThatMakeNoSenseAreRefusedWithNameAndLine)
     EXPECT_THAT(mistakeIn("--replace a"), HasSubstr("line 1: --replace takes 2 values, not 1"));
     EXPECT_THAT(mistakeIn("--apply"), HasSubstr("'--apply' is neither a rule"));
     EXPECT_THAT(mistakeIn("--rules x.rules"), HasSubstr("'--rules' is neither a rule"));
+    EXPECT_THAT(
+        mistakeIn("--into foo"),
+        HasSubstr("line 1: '--into' is neither a rule nor a setting of one; it is not kept in rules, only given in "
+                  "a call\n"));
+    EXPECT_THAT(mistakeIn("-r"), HasSubstr("'-r' is neither a rule nor a setting of one; it is not kept in rules"));
+    EXPECT_THAT(mistakeIn("PATH"), HasSubstr("'PATH' is neither a rule nor a setting of one\n"));
     EXPECT_THAT(mistakeIn("--first-only"), HasSubstr("changes nothing without --regex"));
     EXPECT_THAT(mistakeIn("--regex ( x"), HasSubstr("missing closing parenthesis"));
     EXPECT_THAT(mistakeIn("--prefix \"a"), HasSubstr("line 1: a double quote is not closed"));
