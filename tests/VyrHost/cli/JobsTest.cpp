@@ -1,4 +1,5 @@
-// The table of jobs in the documents: each call gives the names of its line, and undo brings the old ones back.
+// The tables of jobs in the documents: each call gives the names or times of its line, and undo brings the old ones
+// back.
 #include "VyrProgram.h"
 
 #include <tests/support/CommandLine.h>
@@ -6,10 +7,15 @@
 #include <tests/support/MediaBuilder.h>
 #include <tests/support/PictureBuilder.h>
 
+#include <VyrPlatform/files/FileTimes.h>
+
+#include <gmock/gmock.h>
+
 #include <algorithm>
 #include <fstream>
 
 using namespace VyrTests;
+using testing::HasSubstr;
 using VyrPlatform::Encoding::FromUtf8;
 
 namespace {
@@ -19,8 +25,10 @@ struct Job
     std::string title;
     std::string call;
     std::vector<std::string> files;
-    /// The names that the files get, in the same order.
-    std::vector<std::string> names;
+    /// The names that the files get, in the same order; of a call of "vyr times" the times.
+    std::vector<std::string> results;
+
+    [[nodiscard]] bool IsRename() const { return call.starts_with("vyr rename "); }
 };
 
 /// The cells of a table's line. A vertical bar with a backslash belongs to its cell.
@@ -55,7 +63,7 @@ std::vector<Job> Jobs()
     std::ifstream document(VYR_SOURCE_FOLDER "/docs/jobs.md");
     std::vector<Job> jobs;
     for (std::string line; std::getline(document, line);) {
-        if (line.find("| `vyr rename ") == std::string::npos)
+        if (line.find("| `vyr rename ") == std::string::npos && line.find("| `vyr times ") == std::string::npos)
             continue;
         const auto cells = Cells(line);
         if (cells.size() != 4)
@@ -65,6 +73,9 @@ std::vector<Job> Jobs()
     }
     return jobs;
 }
+
+constexpr VyrPlatform::FileTicks lastChange = TicksOfUnixTime(1'704'450'600);
+constexpr VyrPlatform::FileTicks lastAccess = TicksOfUnixTime(1'704'450'600 + 24 * 60 * 60);
 
 constexpr std::uint64_t secondsFrom1904To1970 = 2'082'844'800;
 
@@ -111,9 +122,34 @@ class JobTable : public VyrProgram
 protected:
     void Create(const Job& job) const
     {
-        constexpr VyrPlatform::FileTicks lastChange = TicksOfUnixTime(1'704'450'600);
         for (const std::string& name : job.files)
-            StampFile(m_folder.WriteFile(FromUtf8(name).View(), ContentOf(name)), lastChange, lastChange);
+            m_folder.WriteFile(FromUtf8(name).View(), ContentOf(name));
+    }
+
+    /// To be called when no file is read any more: that changes the time of the last access.
+    void Stamp(const Job& job) const
+    {
+        for (const std::string& name : job.files)
+            StampFile(m_folder.Path(FromUtf8(name).View()), lastChange, lastAccess);
+    }
+
+    [[nodiscard]] std::optional<VyrPlatform::FileTicks> LastChangeOf(const std::string& name) const
+    {
+        return VyrPlatform::FileTimes::GetModified(m_folder.Path(FromUtf8(name).View()));
+    }
+
+    void ExpectResults(const Job& job, const std::string& output) const
+    {
+        const auto names = NamesNow(job);
+        for (std::size_t index = 0; index < job.files.size(); ++index) {
+            const std::string& file = job.files[index];
+            const std::string& expected = job.results[index];
+            EXPECT_PRED2(IsNamedLike, names.at(file), job.IsRename() ? expected : file) << output;
+            if (!job.IsRename()) {
+                const std::string time = std::string(expected).replace(expected.find(' '), 1, "T");
+                EXPECT_THAT(Run({u"times", u"--json", FromUtf8(file)}).output, HasSubstr("\"modified\":\"" + time));
+            }
+        }
     }
 
     /// Each old name of a job's files, and the name under which its content is found now.
@@ -138,26 +174,27 @@ protected:
 
 } // namespace
 
-TEST_F(JobTable, EachCallGivesTheNamesOfItsLineAndIsUndone)
+TEST_F(JobTable, EachCallGivesTheResultsOfItsLineAndIsUndone)
 {
     m_environment[u"TZ"] = u"UTC";
     const std::vector<Job> jobs = Jobs();
     ASSERT_GT(jobs.size(), 60U);
     for (const Job& job : jobs) {
         SCOPED_TRACE(job.title + job.call);
-        ASSERT_EQ(job.files.size(), job.names.size());
+        ASSERT_EQ(job.files.size(), job.results.size());
         Create(job);
         const auto before = NamesNow(job);
+        Stamp(job);
         std::vector<CString> arguments = WordsOf(job.call);
         arguments.erase(arguments.begin());
         arguments.emplace_back(u"--apply");
         const ProgramResult result = Run(arguments);
         EXPECT_EQ(result.exitCode, 0) << result.output << result.errors;
-        const auto after = NamesNow(job);
-        for (std::size_t index = 0; index < job.files.size(); ++index)
-            EXPECT_PRED2(IsNamedLike, after.at(job.files[index]), job.names[index]) << result.output;
+        ExpectResults(job, result.output);
         EXPECT_EQ(Run({u"undo"}).exitCode, 0);
         EXPECT_EQ(NamesNow(job), before);
+        for (const std::string& file : job.files)
+            EXPECT_EQ(LastChangeOf(file), lastChange) << file;
         Clear();
     }
 }
