@@ -29,6 +29,12 @@ enum class Readers : std::uint8_t
 /// @return 0, else the system's error code (a file that exists already is an error), and then the file is removed.
 [[nodiscard]] std::uint32_t WriteNew(const CString& path, const Content& content, Readers readers = Readers::Owner);
 
+/// Writes `content` into a new file beside `path`, as WriteNew does, and then renames it to `path`: there is always the
+/// file before or the whole new one. A program that is killed leaves at most a file of a name that nobody uses.
+/// @param mayReplace  whether a file at `path` is replaced, as RenameOver does; otherwise it is an error.
+/// @return 0, else the system's error code, and what is at `path` is unchanged.
+[[nodiscard]] std::uint32_t WriteWhole(const CString& path, const Content& content, bool mayReplace);
+
 /// Appends `content` to the file `path`, without flushing it.
 /// @return 0, else the system's error code; a part of `content` may then have been written.
 [[nodiscard]] std::uint32_t Append(const CString& path, std::string_view content);

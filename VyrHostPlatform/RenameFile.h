@@ -1,5 +1,5 @@
 /// @file
-/// Renames that never replace anything.
+/// Renames that never replace anything, and one that replaces a file.
 #pragma once
 
 #include <VyrPlatform/files/FileIdentity.h>
@@ -22,6 +22,11 @@ namespace VyrHostPlatform {
 [[nodiscard]] bool IsTargetTaken(std::uint32_t error) noexcept;
 /// Whether RenameNoReplace answers `error` because the new path is on another file system.
 [[nodiscard]] bool IsOtherFileSystem(std::uint32_t error) noexcept;
+
+/// Renames the file `from` to `to` on the same file system, in place of the regular file there. On Linux it gets that
+/// file's permissions, and its owner where the user may give it.
+/// @return 0 when it was renamed, else the system's error code (also where nothing or no regular file is at `to`).
+[[nodiscard]] std::uint32_t RenameOver(const CString& from, const CString& to);
 
 /// A folder whose entries are examined and renamed by name, which is quicker than by path.
 ///

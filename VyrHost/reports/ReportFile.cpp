@@ -1,8 +1,8 @@
 #include <VyrHost/reports/ReportFile.h>
 
+#include <VyrHost/model/FolderSet.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrHostPlatform/DurableFile.h>
-#include <VyrHostPlatform/RenameFile.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/files/FullPath.h>
 
@@ -10,46 +10,46 @@ namespace VyrHost::Reports {
 
 namespace {
 
-using VyrHostPlatform::RenameNoReplace;
-namespace DurableFile = VyrHostPlatform::DurableFile;
 namespace FileSystem = VyrPlatform::FileSystem;
 
-/// Renames the file `part` to `path`, replacing an existing file.
-std::uint32_t Replace(const CString& part, const CString& path)
+constexpr const char* option = "--html";
+
+/// Refuses the path of a missing file that cannot become one.
+void CheckNewFile(const CString& path)
 {
-    const CString former = path + u".former";
-    if (const std::uint32_t error = RenameNoReplace(path, former))
-        return error;
-    if (const std::uint32_t error = RenameNoReplace(part, path)) {
-        static_cast<void>(RenameNoReplace(former, path));
-        return error;
-    }
-    return DurableFile::Remove(former);
+    const std::u16string_view name = Model::NamePart(path);
+    if (name.empty() || name == u"." || name == u"..")
+        Text::RefuseValue(option, path, "the name of a file is expected at its end");
+    if (!FileSystem::IsFolder(Model::FolderPart(VyrPlatform::GetFullPath(path))))
+        Text::RefuseValue(option, path, "its folder does not exist");
 }
 
 } // namespace
 
 void CheckReportFile(const CString& path, bool mayReplace)
 {
-    if (FileSystem::IsFolder(path))
-        Text::RefuseValue("--html", path, "it is a folder");
-    if (!mayReplace && FileSystem::Exists(path))
-        Text::RefuseValue("--html", path, "it exists; --overwrite replaces it");
+    switch (FileSystem::Query(path).kind) {
+    case FileSystem::Kind::Missing:
+        CheckNewFile(path);
+        break;
+    case FileSystem::Kind::File:
+        if (!mayReplace)
+            Text::RefuseValue(option, path, "it exists; --overwrite replaces it");
+        break;
+    case FileSystem::Kind::Folder:
+        Text::RefuseValue(option, path, "it is a folder");
+    case FileSystem::Kind::Other:
+        Text::RefuseValue(option, path, "it is no regular file");
+    }
 }
 
 std::uint32_t WriteReportFile(const CString& path, bool mayReplace,
                               const std::function<void(const TakePiece& take)>& content)
 {
     // Windows does not make the path of a rename absolute, so it must not depend on the current folder.
-    const CString full = VyrPlatform::GetFullPath(path);
-    const CString part = full + u".part";
-    if (const std::uint32_t error = DurableFile::WriteNew(part, content, DurableFile::Readers::ByMask))
-        return error;
-    const bool isReplaced = mayReplace && FileSystem::Exists(full);
-    const std::uint32_t error = isReplaced ? Replace(part, full) : RenameNoReplace(part, full);
-    if (error != 0)
-        static_cast<void>(DurableFile::Remove(part));
-    return error;
+    const bool isLink = FileSystem::Query(path).isLink;
+    const CString full = isLink ? VyrPlatform::GetRealPath(path) : VyrPlatform::GetFullPath(path);
+    return VyrHostPlatform::DurableFile::WriteWhole(full, content, mayReplace);
 }
 
 } // namespace VyrHost::Reports

@@ -6,11 +6,13 @@
 
 namespace VyrHost::Reports {
 
-/// Refuses, before anything is done, the path of a folder, and of an existing file unless it may be replaced.
+/// Refuses, before anything is done, the path of what is no regular file (or link to one), of an existing file unless
+/// it may be replaced, and of a missing file without a name or in a missing folder.
 /// @throws UsageError
 void CheckReportFile(const CString& path, bool mayReplace);
 
-/// Writes a report into a file beside `path`, and then renames it to `path`. A former report is kept until then.
+/// Writes a report into a file beside `path`, and then renames it to `path`. A former report is kept until then; its
+/// permissions are those of the new one. Where `path` is a link, its target is replaced.
 /// @param content  writes the page, piece by piece.
 /// @return 0, else the system's error code; the file at `path` is then unchanged.
 [[nodiscard]] std::uint32_t WriteReportFile(const CString& path, bool mayReplace,

@@ -1,7 +1,9 @@
-// Renames without ever replacing, on Linux.
+// Renames without ever replacing, and over a file, on Linux.
 #include <VyrHostPlatform/RenameFile.h>
 
+#include <VyrPlatform/linux/files/Descriptor.h>
 #include <VyrPlatform/linux/files/FileIdentityAt.h>
+#include <VyrPlatform/linux/files/FileMetadata.h>
 #include <VyrPlatform/linux/files/NativePath.h>
 
 #include <cerrno>
@@ -84,6 +86,24 @@ bool IsTargetTaken(std::uint32_t error) noexcept
 bool IsOtherFileSystem(std::uint32_t error) noexcept
 {
     return error == EXDEV;
+}
+
+std::uint32_t RenameOver(const CString& from, const CString& to)
+{
+    const NativePath source(from);
+    const NativePath target(to);
+    struct stat replaced;
+    if (lstat(target.Get(), &replaced) != 0)
+        return LastError();
+    if (!S_ISREG(replaced.st_mode))
+        return EEXIST;
+    const Descriptor file(open(source.Get(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
+    if (!file.IsOpen())
+        return LastError();
+    const bool hasOwner = SetOwner(file.Get(), replaced.st_uid, replaced.st_gid);
+    if (const int error = SetPermissions(file.Get(), PermissionsOf(replaced), hasOwner))
+        return static_cast<std::uint32_t>(error);
+    return std::rename(source.Get(), target.Get()) == 0 ? 0 : LastError();
 }
 
 OpenFolder::OpenFolder(const CString& path)

@@ -1,4 +1,4 @@
-// Renames without ever replacing, on Windows.
+// Renames without ever replacing, and over a file, on Windows.
 #include <VyrHostPlatform/RenameFile.h>
 
 #include <VyrPlatform/windows/files/LongPath.h>
@@ -58,6 +58,16 @@ bool IsTargetTaken(std::uint32_t error) noexcept
 bool IsOtherFileSystem(std::uint32_t error) noexcept
 {
     return error == ERROR_NOT_SAME_DEVICE;
+}
+
+std::uint32_t RenameOver(const CString& from, const CString& to)
+{
+    // The system refuses to replace a folder, a device and a read-only file.
+    const CString source = ToExactPath(from);
+    const CString target = ToExactPath(to);
+    if (GetFileAttributesW(ToWide(target)) == INVALID_FILE_ATTRIBUTES)
+        return GetLastError();
+    return MoveFileExW(ToWide(source), ToWide(target), MOVEFILE_REPLACE_EXISTING) ? ERROR_SUCCESS : GetLastError();
 }
 
 OpenFolder::OpenFolder(const CString& path)

@@ -1,4 +1,4 @@
-// RenameFile: renames that never replace anything.
+// RenameFile: renames that never replace anything, and one that replaces a file.
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
 
@@ -90,6 +90,20 @@ TEST(RenameNoReplace, TakesPathsBeyondTheOldLimit)
     scratch.WriteFile(deep + u"/a", "deep");
     EXPECT_EQ(RenameNoReplace(scratch.Path(deep + u"/a"), scratch.Path(deep + u"/" + CString(u'b', 100))), 0u);
     EXPECT_EQ(scratch.ReadFile(deep + u"/" + CString(u'b', 100)), "deep");
+}
+
+TEST(RenameOver, ReplacesAFileOnly)
+{
+    const ScratchFolder scratch;
+    const CString file = scratch.WriteFile(u"file", "1");
+    EXPECT_NE(RenameOver(file, scratch.Path(u"nothing")), 0u);
+    EXPECT_NE(RenameOver(file, scratch.MakeFolder(u"folder")), 0u);
+    const CString taken = scratch.WriteFile(u"taken", "2");
+    EXPECT_NE(RenameOver(scratch.Path(u"nothing"), taken), 0u);
+    EXPECT_EQ(scratch.ReadFile(u"taken"), "2");
+    EXPECT_EQ(RenameOver(file, taken), 0u);
+    EXPECT_EQ(scratch.ReadFile(u"taken"), "1");
+    EXPECT_FALSE(scratch.Has(u"file"));
 }
 
 TEST(OpenFolder, ExaminesAndRenamesByName)

@@ -99,7 +99,19 @@ TEST_F(Reports, ThumbnailsAreThoseOfThePictures)
 
 TEST_F(Reports, PageThatCannotBeWrittenIsAnErrorOfTheOutput)
 {
-    const ProgramResult result = List({u"--html", u"missing/a.html"});
+    const ProgramResult result = List({u"--html", CString(u'x', 300)});
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_THAT(result.errors, HasSubstr("cannot be written"));
+}
+
+TEST_F(Reports, PathThatCannotBecomeAPageIsRefusedBeforeAnythingIsDone)
+{
+    m_folder.MakeFolder(u"folder");
+    for (const char16_t* const path : {u"missing/a.html", u"missing/", u"folder"}) {
+        const ProgramResult result = Rename({u"--prefix", u"x", u"--apply", u"&lt;a&b", u"--html", path});
+        EXPECT_EQ(result.exitCode, 2) << result.errors;
+        EXPECT_THAT(result.errors, HasSubstr("--html"));
+        EXPECT_TRUE(m_folder.Has(u"&lt;a&b"));
+        EXPECT_FALSE(m_folder.Has(u"missing"));
+    }
 }
