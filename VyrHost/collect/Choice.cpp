@@ -5,7 +5,6 @@
 #include <VyrHost/text/NormalForm.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
 #include <VyrLibraryUtils/ImageUtils.h>
-#include <VyrPlatform/files/FileTimes.h>
 
 #include <algorithm>
 #include <utility>
@@ -71,11 +70,12 @@ void SetLibrary(const SizeSpan& sizes)
     SearchFuncs::SetSizeToSize(sizes.to);
 }
 
-COleDateTime DateOf(const CString& path, const VyrPlatform::FileSystem::Entry& state, ChoiceDate target)
+/// Invalid where the entry has no such date.
+COleDateTime DateOf(const CString& path, ChoiceDate target)
 {
     switch (target) {
     case ChoiceDate::Modified:
-        return VyrPlatform::FileTimes::ToLocal(state.modified);
+        return DateTimeUtils::GetDateModified(path);
     case ChoiceDate::Created:
         return DateTimeUtils::GetDateCreated(path);
     case ChoiceDate::PictureTaken:
@@ -159,11 +159,13 @@ bool Choice::Keeps(std::u16string_view folder, std::u16string_view name) const
 
 bool Choice::MeetsCriteria(const CString& path) const
 {
-    const VyrPlatform::FileSystem::Entry state = VyrPlatform::FileSystem::Query(path);
     SearchFuncs::ITEM item;
-    item.size = state.kind == VyrPlatform::FileSystem::Kind::Folder ? -1 : state.size;
+    if (m_hasSizes) {
+        const VyrPlatform::FileSystem::Entry state = VyrPlatform::FileSystem::Query(path);
+        item.size = state.kind == VyrPlatform::FileSystem::Kind::File ? state.size : -1;
+    }
     if (m_dateTarget)
-        item.dateTime = DateOf(path, state, *m_dateTarget);
+        item.dateTime = DateOf(path, *m_dateTarget);
     return SearchFuncs::IsMatch(item) != 0;
 }
 

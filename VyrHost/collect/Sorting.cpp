@@ -29,9 +29,9 @@ Key KeyOf(const CString& path, SortKey key)
         return taken.GetStatus() == COleDateTime::valid ? Key(std::llround(taken * VyrPlatform::secondsPerDay)) : Key();
     }
     const VyrPlatform::FileSystem::Entry entry = VyrPlatform::FileSystem::Query(path);
-    if (entry.kind == VyrPlatform::FileSystem::Kind::Missing)
-        return {};
-    return key == SortKey::Size ? entry.size : entry.modified;
+    if (key == SortKey::Modified)
+        return entry.modified;
+    return entry.kind != VyrPlatform::FileSystem::Kind::Missing ? Key(entry.size) : Key();
 }
 
 struct Keyed

@@ -42,12 +42,12 @@ std::optional<std::int64_t> ListedFile::Size() const
 
 std::optional<FileTicks> ListedFile::Modified() const
 {
-    return State().kind != FileKind::Missing ? std::optional(State().modified) : std::nullopt;
+    return State().modified;
 }
 
 std::optional<FileTicks> ListedFile::Accessed() const
 {
-    return State().kind != FileKind::Missing ? std::optional(State().accessed) : std::nullopt;
+    return State().accessed;
 }
 
 std::optional<FileTicks> ListedFile::Created() const

@@ -28,10 +28,11 @@ struct Entry
     bool isLink = false;
     /// In bytes; 0 unless it is a file.
     std::int64_t size = 0;
-    FileTicks modified = 0;
-    FileTicks accessed = 0;
-    /// As the file system reports it (0 when it does not); FileTimes::GetCreated also follows other conventions.
-    FileTicks created = 0;
+    /// The times; nothing where the entry could not be asked, as of a link that leads nowhere.
+    std::optional<FileTicks> modified;
+    std::optional<FileTicks> accessed;
+    /// As the file system reports it; FileTimes::GetCreated also follows other conventions.
+    std::optional<FileTicks> created;
 };
 
 /// The entry at `path`. Follows a link; one that leads nowhere is of kind Other. A path that the system cannot examine

@@ -10,14 +10,6 @@ namespace VyrPlatform::FileTimes {
 
 namespace {
 
-std::optional<FileTicks> Get(const CString& path, FileTicks FileSystem::Entry::*time)
-{
-    const FileSystem::Entry entry = FileSystem::Query(path);
-    if (entry.kind != FileSystem::Kind::File && entry.kind != FileSystem::Kind::Folder)
-        return std::nullopt;
-    return entry.*time;
-}
-
 /// Sets the times that are given.
 std::uint32_t Set(const CString& path, const FILETIME* created, const FILETIME* modified)
 {
@@ -30,17 +22,17 @@ std::uint32_t Set(const CString& path, const FILETIME* created, const FILETIME* 
 
 std::optional<FileTicks> GetModified(const CString& path)
 {
-    return Get(path, &FileSystem::Entry::modified);
+    return FileSystem::Query(path).modified;
 }
 
 std::optional<FileTicks> GetCreated(const CString& path)
 {
-    return Get(path, &FileSystem::Entry::created);
+    return FileSystem::Query(path).created;
 }
 
 std::optional<FileTicks> GetAccessed(const CString& path)
 {
-    return Get(path, &FileSystem::Entry::accessed);
+    return FileSystem::Query(path).accessed;
 }
 
 std::uint32_t SetModified(const CString& path, FileTicks modified)

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 #include <tests/support/FileMoments.h>
 #include <tests/support/FileState.h>
+#include <tests/support/Links.h>
 #include <tests/support/PictureBuilder.h>
 
 using namespace VyrTests;
@@ -94,6 +95,18 @@ TEST_F(ListCommand, MissingFilesAreReported)
     EXPECT_THAT(result.errors, HasSubstr("'missing'"));
     EXPECT_THAT(result.output, Not(HasSubstr("missing")));
     EXPECT_THAT(result.output, HasSubstr("1 entry."));
+}
+
+TEST_F(ListCommand, LinkThatLeadsNowhereHasNoTimes)
+{
+    if (const std::string why = MakeLink(m_folder.Path(u"nothing"), m_folder.Path(u"dangling")); !why.empty())
+        GTEST_SKIP() << why;
+    for (const char16_t* const command : {u"list", u"times"}) {
+        const ProgramResult result =
+            Run({command, u"dangling", u"--json", u"--columns=name,size,modified,created,accessed"});
+        EXPECT_EQ(result.exitCode, 0) << result.errors;
+        EXPECT_EQ(result.output, "{\"name\":\"dangling\"}\n");
+    }
 }
 
 TEST_F(ListCommand, WrongCallsAreRefused)

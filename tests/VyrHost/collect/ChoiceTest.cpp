@@ -7,6 +7,7 @@
 #include <tests/support/Describe.h>
 #include <tests/support/FileMoments.h>
 #include <tests/support/FixedClock.h>
+#include <tests/support/Links.h>
 #include <tests/support/PictureBuilder.h>
 #include <tests/support/ScratchFolder.h>
 
@@ -277,6 +278,24 @@ TEST_F(Choosing, FoldersHaveNoSize)
     EXPECT_EQ(Chosen(texts, Pick::All), "empty | 3 0");
     texts.sizes = u"11..";
     EXPECT_EQ(Chosen(texts), "eleven | 2 0");
+}
+
+TEST_F(Choosing, LinkThatLeadsNowhereHasNoDateAndNoSize)
+{
+    m_folder.WriteFile(u"empty");
+    if (const std::string why = MakeLink(m_folder.Path(u"nothing"), m_folder.Path(u"dangling")); !why.empty())
+        GTEST_SKIP() << why;
+    ChoiceTexts texts;
+    texts.sizes = u"empty";
+    EXPECT_EQ(Chosen(texts, Pick::All), "empty | 1 0");
+    texts.sizes.reset();
+    for (const ChoiceDate target : {ChoiceDate::Modified, ChoiceDate::Created}) {
+        texts.dateTarget = target;
+        for (const char16_t* const dates : {u"..2000-01-01", u"1601-01-01.."}) {
+            texts.dates = dates;
+            EXPECT_EQ(Chosen(texts, Pick::All).find("dangling"), std::string::npos);
+        }
+    }
 }
 
 TEST_F(Choosing, WithoutCriteriaEverythingIsChosen)

@@ -4,6 +4,7 @@
 #include <VyrPlatform/text/Encoding.h>
 
 #include <gtest/gtest.h>
+#include <tests/support/Links.h>
 #include <tests/support/PictureBuilder.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
@@ -111,4 +112,8 @@ TEST_F(Sorting, MissingEntriesComeLast)
     m_folder.WriteFile(u"there");
     EXPECT_EQ(Sorted({u"missing", u"there"}, SortKey::Size), (Strings{"there", "missing"}));
     EXPECT_EQ(Sorted({u"missing", u"there"}, SortKey::Modified, true), (Strings{"there", "missing"}));
+    if (const std::string why = MakeLink(m_folder.Path(u"nothing"), m_folder.Path(u"dangling")); !why.empty())
+        GTEST_SKIP() << why;
+    for (const bool isDescending : {false, true})
+        EXPECT_EQ(Sorted({u"dangling", u"there"}, SortKey::Modified, isDescending), (Strings{"there", "dangling"}));
 }

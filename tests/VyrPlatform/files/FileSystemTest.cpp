@@ -48,7 +48,7 @@ TEST(FileSystemQuery, GivesAFolderWithoutASize)
     EXPECT_EQ(entry.kind, Kind::Folder);
     EXPECT_FALSE(entry.isLink);
     EXPECT_EQ(entry.size, 0);
-    EXPECT_NE(entry.modified, 0);
+    EXPECT_NE(entry.modified.value_or(0), 0);
 }
 
 TEST(FileSystemQuery, GivesTheFileTimes)
@@ -78,7 +78,7 @@ TEST(FileSystemQuery, NothingIsMissing)
     const FileSystem::Entry entry = FileSystem::Query(scratch.Path(u"nothing"));
     EXPECT_EQ(entry.kind, Kind::Missing);
     EXPECT_EQ(entry.size, 0);
-    EXPECT_EQ(entry.modified, 0);
+    EXPECT_EQ(entry.modified, std::nullopt);
     EXPECT_EQ(FileSystem::Query(scratch.Path(u"no folder/nothing")).kind, Kind::Missing);
     EXPECT_EQ(FileSystem::Query(u"").kind, Kind::Missing);
 }
@@ -179,6 +179,9 @@ TEST(FileSystemLinks, BrokenLinkExistsAsOther)
     const FileSystem::Entry entry = FileSystem::Query(scratch.Path(u"link"));
     EXPECT_EQ(entry.kind, Kind::Other);
     EXPECT_TRUE(entry.isLink);
+    EXPECT_EQ(entry.modified, std::nullopt);
+    EXPECT_EQ(entry.accessed, std::nullopt);
+    EXPECT_EQ(entry.created, std::nullopt);
     EXPECT_TRUE(FileSystem::Exists(scratch.Path(u"link")));
     EXPECT_FALSE(FileSystem::IsFolder(scratch.Path(u"link")));
 }
