@@ -51,9 +51,9 @@ RecordValue TakenOf(const ListedFile& file)
     return taken.GetStatus() == COleDateTime::valid ? RecordValue(Ui::RecordDate{taken}) : RecordValue();
 }
 
-RecordValue FlagOf(bool flag)
+RecordValue FlagOf(std::optional<bool> flag)
 {
-    return flag;
+    return flag ? RecordValue(*flag) : RecordValue();
 }
 
 /// What `make` makes of the answer of a file.

@@ -70,13 +70,13 @@ const ListedFile::KnownMark& ListedFile::ReadMark() const
         std::uint32_t error = 0;
         const auto forms = VyrPlatform::NamedStreams::ReadZoneMark(Path(), error);
         m_mark = std::make_unique<KnownMark>();
-        if (forms && !forms->empty())
-            *m_mark = {true, Metadata::ReadMark(*forms)};
+        if (forms)
+            *m_mark = {!forms->empty(), Metadata::ReadMark(*forms)};
     }
     return *m_mark;
 }
 
-bool ListedFile::IsMarked() const
+std::optional<bool> ListedFile::IsMarked() const
 {
     return ReadMark().isMarked;
 }

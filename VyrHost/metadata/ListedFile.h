@@ -33,8 +33,8 @@ public:
     [[nodiscard]] std::optional<VyrPlatform::FileTicks> Created() const;
     /// FileAttributes::unknown where they cannot be read.
     [[nodiscard]] std::uint32_t Attributes() const;
-    /// Whether the file has the mark of a download, and its content.
-    [[nodiscard]] bool IsMarked() const;
+    /// Whether the file has the mark of a download (nothing where that cannot be read), and its content.
+    [[nodiscard]] std::optional<bool> IsMarked() const;
     [[nodiscard]] const ZoneMark& Mark() const;
 
     /// The time when a picture was taken; invalid where it has none.
@@ -46,7 +46,7 @@ public:
 private:
     struct KnownMark
     {
-        bool isMarked = false;
+        std::optional<bool> isMarked;
         ZoneMark mark;
     };
     struct Picture

@@ -20,7 +20,7 @@ inline constexpr std::uint32_t unknown = 0xFFFFFFFF;
 ///
 /// On Linux (where a link is followed) they are those that Samba keeps in the extended attribute "user.DOSATTRIB",
 /// otherwise those of an NTFS driver. A file without write permission for its owner is read-only, too. A file without
-/// any has 0x80; a folder always has 0x10.
+/// any has 0x80; a folder always has 0x10. Where the user may not read what Samba keeps of a file, they are `unknown`.
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t Get(const CString& path);
 
 /// Sets the attributes of the file or folder at `path`.
@@ -35,7 +35,8 @@ inline constexpr std::uint32_t unknown = 0xFFFFFFFF;
 /// attributes that they do not keep.
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t Set(const CString& path, std::uint32_t attributes);
 
-/// Whether Get reports that the file or folder at `path` is read-only. False when it does not exist.
+/// Whether Get reports that the file or folder at `path` is read-only. False when it does not exist. On Linux true for
+/// a file without write permission for its owner, and for one whose attributes are `unknown`.
 [[nodiscard]] VYR_PLATFORM_API bool IsReadOnly(const CString& path);
 
 /// Makes a read-only file writable while the object lives, and then restores its state exactly: on Linux its

@@ -21,7 +21,8 @@ namespace VyrPlatform::FileTimes {
 /// The last-write time of the file or folder at `path` (a link is followed); nothing when there is none.
 [[nodiscard]] VYR_PLATFORM_API std::optional<FileTicks> GetModified(const CString& path);
 /// The creation time. On Linux it is the first of these that exists: the value that a Windows file system or Samba
-/// keeps in the file's extended attributes, the birth time, the last-write time.
+/// keeps in the file's extended attributes, the birth time, the last-write time. Nothing where the user may not read
+/// what Samba keeps.
 [[nodiscard]] VYR_PLATFORM_API std::optional<FileTicks> GetCreated(const CString& path);
 /// The last-access time.
 [[nodiscard]] VYR_PLATFORM_API std::optional<FileTicks> GetAccessed(const CString& path);

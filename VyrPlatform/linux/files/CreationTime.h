@@ -1,7 +1,7 @@
 // When a file was created, from all that Linux and others keep of it.
 #pragma once
 
-#include "NativePath.h"
+#include "ExtendedAttributes.h"
 
 #include <VyrPlatform/files/FileTimes.h>
 
@@ -10,6 +10,6 @@
 namespace VyrPlatform {
 
 /// The creation time of the file at `path`, of which `status` has the birth time and that of the last write.
-[[nodiscard]] FileTicks CreatedOf(const NativePath& path, const struct statx& status);
+[[nodiscard]] ExtendedAttributes::Reading<FileTicks> CreatedOf(const NativePath& path, const struct statx& status);
 
 } // namespace VyrPlatform

@@ -161,6 +161,10 @@ std::optional<CString> Read(const CString& path, Part part, std::uint32_t& error
         error = static_cast<std::uint32_t>(errno);
         return std::nullopt;
     }
+    if (const int refusal = Extended::GetAttributes(nativePath, status).error) {
+        error = static_cast<std::uint32_t>(refusal);
+        return std::nullopt;
+    }
     return Encoding::FromUtf8(ToModeText(status.stx_mode) + ' ' +
                               ToText(ReadKept(nativePath, Extended::ntfsAttributesName)));
 }
@@ -173,10 +177,14 @@ std::optional<TimeState> ReadTime(const CString& path, Part part, std::uint32_t&
         error = static_cast<std::uint32_t>(errno);
         return std::nullopt;
     }
-    if (part == Part::Created)
-        return TimeState{CreatedOf(nativePath, status),
-                         Encoding::FromUtf8(ToText(ReadKept(nativePath, Extended::ntfsCreatedName))),
+    if (part == Part::Created) {
+        const auto created = CreatedOf(nativePath, status);
+        error = static_cast<std::uint32_t>(created.error);
+        if (!created.value)
+            return std::nullopt;
+        return TimeState{*created.value, Encoding::FromUtf8(ToText(ReadKept(nativePath, Extended::ntfsCreatedName))),
                          IdentityOf(status)};
+    }
     const struct statx_timestamp& time = part == Part::Modified ? status.stx_mtime : status.stx_atime;
     return TimeState{ToTicks(time), Encoding::FromUtf8(ToTimeText({time.tv_sec, time.tv_nsec})), IdentityOf(status)};
 }

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstddef>
 #include <span>
+#include <string_view>
 #include <sys/xattr.h>
 #include <vector>
 
@@ -31,6 +32,8 @@ public:
     [[nodiscard]] bool IsUnsupported() const noexcept { return m_error == ENOTSUP; }
     /// The error code where the attribute may exist but could not be read; else 0.
     [[nodiscard]] int WhyUnread() const noexcept { return m_error == ENODATA || m_error == ENOTSUP ? 0 : m_error; }
+    /// Whether the user may not read the attribute, which need not exist.
+    [[nodiscard]] bool IsRefused() const noexcept { return m_error == EACCES || m_error == EPERM; }
 
     /// The first `count` bytes as a number, most significant first; nothing when there are fewer.
     [[nodiscard]] std::optional<std::uint64_t> BigEndian(std::size_t count) const noexcept
@@ -48,6 +51,30 @@ private:
     ssize_t m_size;
     int m_error;
 };
+
+/// Whether the file at `path` may have the attribute `name`: who may not read the values may still list the names.
+bool MayHave(const NativePath& path, std::string_view name)
+{
+    constexpr std::size_t mostBytes = 64 * 1024;
+    std::string names(mostBytes, '\0');
+    const ssize_t size = listxattr(path.Get(), names.data(), names.size());
+    if (size < 0)
+        return errno != ENOTSUP;
+    std::string_view rest = std::string_view(names).substr(0, static_cast<std::size_t>(size));
+    while (!rest.empty()) {
+        const std::size_t end = rest.find('\0');
+        if (rest.substr(0, end) == name)
+            return true;
+        rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+    }
+    return false;
+}
+
+/// Why Samba's attribute, which was read as `value`, is not known; 0 where the file has none.
+int WhyUnknown(const NativePath& path, const Value& value)
+{
+    return value.IsRefused() && MayHave(path, sambaName) ? value.WhyUnread() : 0;
+}
 
 std::optional<FileTicks> ToSetTime(std::optional<std::uint64_t> number) noexcept
 {
@@ -88,16 +115,20 @@ std::optional<std::uint32_t> GetNtfsAttributes(const NativePath& path)
 
 } // namespace
 
-std::optional<std::uint32_t> GetAttributes(const NativePath& path, const struct statx& status)
+Reading<std::uint32_t> GetAttributes(const NativePath& path, const struct statx& status)
 {
-    if (const DosAttribute samba = ParseDosAttribute(Value(path, sambaName).Bytes()); samba.attributes)
-        return samba.attributes;
-    return MayBeNtfs(status) ? GetNtfsAttributes(path) : std::nullopt;
+    const Value samba(path, sambaName);
+    if (const int error = WhyUnknown(path, samba))
+        return {std::nullopt, error};
+    if (const auto attributes = ParseDosAttribute(samba.Bytes()).attributes)
+        return {attributes};
+    return {MayBeNtfs(status) ? GetNtfsAttributes(path) : std::nullopt};
 }
 
-std::optional<FileTicks> GetSambaCreated(const NativePath& path)
+Reading<FileTicks> GetSambaCreated(const NativePath& path)
 {
-    return ParseDosAttribute(Value(path, sambaName).Bytes()).created;
+    const Value samba(path, sambaName);
+    return {ParseDosAttribute(samba.Bytes()).created, WhyUnknown(path, samba)};
 }
 
 std::optional<FileTicks> GetNtfsCreated(const NativePath& path)
@@ -124,7 +155,8 @@ int SetNtfsCreated(const NativePath& path, FileTicks created)
 int SetCreated(const NativePath& path, FileTicks created)
 {
     // Samba's attribute is read first, so it is written where it exists.
-    if (GetSambaCreated(path) || SetNtfsCreated(path, created) != 0)
+    const Reading<FileTicks> samba = GetSambaCreated(path);
+    if (samba.value || samba.error != 0 || SetNtfsCreated(path, created) != 0)
         return SetSambaCreated(path, created);
     return 0;
 }

@@ -14,11 +14,20 @@
 
 namespace VyrPlatform::ExtendedAttributes {
 
+/// What was read; without a value there is none, or the user may not read it.
+template <class Number>
+struct Reading
+{
+    std::optional<Number> value;
+    /// The error code where the file has an attribute that the user may not read; else 0.
+    int error = 0;
+};
+
 /// The attributes (FILE_ATTRIBUTE_... bits) of the file at `path`, which has `status`; nothing where none are kept.
-[[nodiscard]] std::optional<std::uint32_t> GetAttributes(const NativePath& path, const struct statx& status);
+[[nodiscard]] Reading<std::uint32_t> GetAttributes(const NativePath& path, const struct statx& status);
 
 /// The creation time in Samba's attribute of the file at `path`; nothing where it has none.
-[[nodiscard]] std::optional<FileTicks> GetSambaCreated(const NativePath& path);
+[[nodiscard]] Reading<FileTicks> GetSambaCreated(const NativePath& path);
 /// The creation time of the file at `path` from an NTFS driver; nothing on other file systems.
 [[nodiscard]] std::optional<FileTicks> GetNtfsCreated(const NativePath& path);
 

@@ -31,22 +31,25 @@ struct State
     std::uint32_t attributes = unknown;
 };
 
-/// @return false, with errno set, on failure.
-bool Ask(const NativePath& path, State& state)
+/// @return 0, or the error code.
+int Ask(const NativePath& path, State& state)
 {
     struct statx status;
     if (!AskStatus(path, 0, STATX_TYPE | STATX_MODE, status))
-        return false;
+        return errno;
+    const auto kept = ExtendedAttributes::GetAttributes(path, status);
+    if (kept.error != 0)
+        return kept.error;
     state.isFolder = S_ISDIR(status.stx_mode);
     state.mode = status.stx_mode & permissions;
-    state.attributes = ExtendedAttributes::GetAttributes(path, status).value_or(0) & ~(folder | normal | noAttribute);
+    state.attributes = kept.value.value_or(0) & ~(folder | normal | noAttribute);
     if (state.isFolder)
         state.attributes |= folder;
     else if (!(state.mode & S_IWUSR))
         state.attributes |= readOnly;
     if (state.attributes == 0)
         state.attributes = normal;
-    return true;
+    return 0;
 }
 
 /// The process's umask. (umask() can only be read by changing it, also for other threads.)
@@ -103,15 +106,15 @@ int SetKept(const NativePath& path, const State& state, std::uint32_t attributes
 std::uint32_t Get(const CString& path)
 {
     State state;
-    return Ask(NativePath(path), state) ? state.attributes : unknown;
+    return Ask(NativePath(path), state) == 0 ? state.attributes : unknown;
 }
 
 std::uint32_t Set(const CString& path, std::uint32_t attributes)
 {
     const NativePath nativePath(path);
     State state;
-    if (!Ask(nativePath, state))
-        return static_cast<std::uint32_t>(errno);
+    if (const int error = Ask(nativePath, state))
+        return static_cast<std::uint32_t>(error);
     if (attributes & noAttribute)
         return EINVAL;
     const ExtendedAttributes::Snapshot kept(nativePath);
@@ -126,17 +129,25 @@ std::uint32_t Set(const CString& path, std::uint32_t attributes)
 
 bool IsReadOnly(const CString& path)
 {
-    const std::uint32_t attributes = Get(path);
-    return attributes != unknown && (attributes & readOnly);
+    const NativePath nativePath(path);
+    struct statx status;
+    if (!AskStatus(nativePath, 0, STATX_TYPE | STATX_MODE, status))
+        return false;
+    if (!S_ISDIR(status.stx_mode))
+        return IsReadOnlyFile(nativePath, status);
+    return ExtendedAttributes::GetAttributes(nativePath, status).value.value_or(0) & readOnly;
 }
 
 LiftedReadOnly::LiftedReadOnly(const CString& path) : m_path(path)
 {
     // Samba's own read-only bit does not prevent writing on Linux.
     const NativePath nativePath(path);
-    State state;
-    if (Ask(nativePath, state) && !(state.mode & S_IWUSR) && SetMode(nativePath, state.mode | S_IWUSR) == 0)
-        m_before = state.mode;
+    struct statx status;
+    if (!AskStatus(nativePath, 0, STATX_MODE, status) || (status.stx_mode & S_IWUSR))
+        return;
+    const mode_t mode = status.stx_mode & permissions;
+    if (SetMode(nativePath, mode | S_IWUSR) == 0)
+        m_before = mode;
 }
 
 LiftedReadOnly::~LiftedReadOnly()
@@ -149,8 +160,10 @@ LiftedReadOnly::~LiftedReadOnly()
 
 bool IsReadOnlyFile(const NativePath& path, const struct statx& status)
 {
-    return !(status.stx_mode & S_IWUSR) ||
-           (ExtendedAttributes::GetAttributes(path, status).value_or(0) & FileAttributes::readOnly);
+    if (!(status.stx_mode & S_IWUSR))
+        return true;
+    const auto kept = ExtendedAttributes::GetAttributes(path, status);
+    return kept.error != 0 || (kept.value.value_or(0) & FileAttributes::readOnly);
 }
 
 } // namespace VyrPlatform

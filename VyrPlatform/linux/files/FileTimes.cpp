@@ -91,7 +91,7 @@ std::optional<FileTicks> GetCreated(const CString& path)
     struct statx status;
     if (!AskStatus(nativePath, 0, STATX_BTIME | STATX_MTIME, status))
         return std::nullopt;
-    return CreatedOf(nativePath, status);
+    return CreatedOf(nativePath, status).value;
 }
 
 std::optional<FileTicks> GetAccessed(const CString& path)
@@ -129,14 +129,15 @@ std::uint32_t Write(const CString& path, const NewTimes& times)
 
 } // namespace FileTimes
 
-FileTicks CreatedOf(const NativePath& path, const struct statx& status)
+ExtendedAttributes::Reading<FileTicks> CreatedOf(const NativePath& path, const struct statx& status)
 {
-    if (const auto kept = ExtendedAttributes::GetSambaCreated(path))
-        return *kept;
+    const auto kept = ExtendedAttributes::GetSambaCreated(path);
+    if (kept.value || kept.error != 0)
+        return kept;
     // A Windows file system that has a birth time has the same time in its attributes.
     if (status.stx_mask & STATX_BTIME)
-        return ToTicks(status.stx_btime);
-    return ExtendedAttributes::GetNtfsCreated(path).value_or(ToTicks(status.stx_mtime));
+        return {ToTicks(status.stx_btime)};
+    return {ExtendedAttributes::GetNtfsCreated(path).value_or(ToTicks(status.stx_mtime))};
 }
 
 } // namespace VyrPlatform

@@ -136,6 +136,23 @@ TEST_F(ChangeFailures, OfFilesOfOthersStandInTheirRows)
     }
 }
 
+TEST_F(ChangeFailures, WhatOneMayNotReadIsNotShownAndNotChanged)
+{
+    const std::string path = ToStdPath(m_folder.WriteFile(u"a", "content"));
+    ASSERT_EQ(setxattr(path.c_str(), "user.DOSATTRIB", "0x2", 3, 0), 0);
+    ASSERT_EQ(setxattr(path.c_str(), "user.xdg.origin.url", "http://x", 8, 0), 0);
+    ASSERT_EQ(chmod(ToStdPath(m_folder.Path()).c_str(), 0755), 0);
+    ASSERT_EQ(chmod(path.c_str(), 0200), 0);
+    if (geteuid() == 0 && RunUnprivileged({u"--version"}).exitCode != 0)
+        GTEST_SKIP() << "needs a program that others can run";
+    const ProgramResult list =
+        RunUnprivileged({u"list", u"a", u"--json", u"--columns=name,created,attributes,downloaded"});
+    EXPECT_EQ(list.output, "{\"name\":\"a\"}\n");
+    const ProgramResult change = RunUnprivileged({u"attributes", u"--clear=hidden", u"a"});
+    EXPECT_THAT(change.output, HasSubstr("Permission denied"));
+    EXPECT_THAT(change.output, testing::Not(HasSubstr("unchanged")));
+}
+
 TEST_F(ChangeFailures, OfMarksOfWhichOneFormCannotBeRemovedLeaveAllForms)
 {
     const ScratchFolder journal;

@@ -1,4 +1,5 @@
 // Attributes and times on Linux: the mode, permissions, and file systems that store less.
+#include <VyrPlatform/files/ExactState.h>
 #include <VyrPlatform/files/FileAttributes.h>
 #include <VyrPlatform/files/FileTimes.h>
 
@@ -182,6 +183,42 @@ TEST(FileAttributesLinux, OfAFileThatOneMayNotChangeStay)
     EXPECT_EQ(ModeOf(others), 0666U);
     EXPECT_EQ(Kept(others), "") << "nothing is left of what was done before the failure";
     EXPECT_EQ(FileTimes::GetModified(others), modified);
+}
+
+TEST(FileAttributesLinux, OfAFileThatOneMayNotReadAreUnknownWhereSomeAreKept)
+{
+    const ScratchFolder scratch;
+    const CString kept = scratch.WriteFile(u"kept");
+    const CString plain = scratch.WriteFile(u"plain");
+    SetMode(scratch.Path(), 0755);
+    ASSERT_EQ(FileTimes::SetCreated(kept, TicksOfUnixTime(1'000'000'000)), 0U);
+    ASSERT_EQ(FileAttributes::Set(kept, hidden), 0U);
+    const std::string before = Kept(kept);
+    for (const CString& path : {kept, plain})
+        SetMode(path, 0200);
+    const std::optional<VyrPlatform::FileTicks> created = FileTimes::GetCreated(plain);
+    {
+        const VyrTests::Unprivileged user;
+        ASSERT_TRUE(user.IsDone());
+        EXPECT_EQ(FileAttributes::Get(kept), FileAttributes::unknown);
+        EXPECT_EQ(FileTimes::GetCreated(kept), std::nullopt);
+        EXPECT_TRUE(FileAttributes::IsReadOnly(kept));
+        EXPECT_EQ(FileAttributes::Set(kept, normal), static_cast<std::uint32_t>(EACCES));
+        EXPECT_EQ(FileTimes::Write(kept, {.modified = TicksOfUnixTime(1)}), static_cast<std::uint32_t>(EACCES));
+        std::uint32_t error = 0;
+        using VyrPlatform::ExactState::Part;
+        for (const Part part : {Part::Attributes, Part::Created}) {
+            EXPECT_FALSE(VyrPlatform::ExactState::Read(kept, part, error));
+            EXPECT_EQ(error, static_cast<std::uint32_t>(EACCES));
+        }
+        EXPECT_EQ(FileAttributes::Get(plain), normal) << "the names of what is kept may be read";
+        EXPECT_EQ(FileTimes::GetCreated(plain), created);
+        EXPECT_FALSE(FileAttributes::IsReadOnly(plain));
+    }
+    for (const CString& path : {kept, plain})
+        SetMode(path, 0600);
+    EXPECT_EQ(FileAttributes::Get(kept), hidden);
+    EXPECT_EQ(Kept(kept), before);
 }
 
 TEST(FileAttributesLinux, LiftedReadOnlyPutsTheVeryModeBack)
