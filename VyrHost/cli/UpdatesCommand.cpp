@@ -30,13 +30,16 @@ std::string LastLook()
     return date.IsEmpty() ? std::string("never") : Text::SafeText(date);
 }
 
-/// Whether `days` have passed since the last look. One that is not known counts as long ago.
+/// Whether `days` have passed since the last look. One that is not known, or in the future, counts as long ago.
 bool IsDue(int days)
 {
     constexpr int mode = 1;
     constexpr std::uint32_t userLocale = 1024;
     const COleDateTime last = DateTimeUtils::GetParseDateTime(UpdatesFuncs::GetCheckedDate(), mode, 0, userLocale);
-    return last.GetStatus() != COleDateTime::valid || UpdatesFuncs::IsDateIntervalCheckForUpdates(days) == 1;
+    if (last.GetStatus() != COleDateTime::valid)
+        return true;
+    const bool isInFuture = UpdatesFuncs::IsDateIntervalCheckForUpdates(0) == 0;
+    return isInFuture || UpdatesFuncs::IsDateIntervalCheckForUpdates(days) == 1;
 }
 
 void WriteRelease(Ui::OutputBuffer& output)
@@ -87,8 +90,10 @@ int UpdatesCommand::Run() const
     UpdatesFuncs::LoadCheckForUpdatesDate();
     Ui::OutputBuffer output;
     output << "Last look: " << LastLook() << "\n";
-    if (!IsDue(m_days))
+    if (m_command.count("--every") > 0 && !IsDue(m_days)) {
+        output << "The next look is not due yet.\n";
         return Finish(output, ExitCode::success);
+    }
     if (UpdatesFuncs::GetUpdatesInformation(address) == 0) {
         output.Flush();
         Complain("the update information at " + Text::SafeText(address) + " cannot be read");

@@ -25,6 +25,10 @@ protected:
     }
 
     void Say(const std::string& document) const { m_data.WriteFile(u"u.xml", document); }
+    void SetLastLook(const std::string& date) const
+    {
+        m_data.WriteFile(u"config/VyrLibrary/Updates.ini", "[Updates]\nCheckedDate=" + date + "\n");
+    }
 
     ScratchFolder m_data;
 };
@@ -53,6 +57,8 @@ TEST_F(UpdateInformation, LookWaitsUntilItIsDue)
     EXPECT_EQ(again.exitCode, 0);
     EXPECT_THAT(again.output, Not(HasSubstr("99.0.0.0")));
     EXPECT_THAT(again.output, Not(HasSubstr("never")));
+    EXPECT_THAT(again.output, testing::EndsWith("\nThe next look is not due yet.\n"));
+    EXPECT_THAT(Run({u"updates"}).output, HasSubstr("99.0.0.0")) << "asked for now";
     EXPECT_THAT(Run({u"updates", u"--every", u"0"}).output, HasSubstr("99.0.0.0"));
 }
 
@@ -68,12 +74,32 @@ TEST_F(UpdateInformation, DocumentThatCannotBeReadIsAMessage)
 
 TEST_F(UpdateInformation, DateOutsideTheCalendarIsAMessage)
 {
-    m_data.MakeFolder(u"config");
-    m_data.MakeFolder(u"config/VyrLibrary");
-    m_data.WriteFile(u"config/VyrLibrary/Updates.ini", "[Updates]\nCheckedDate=1200/01/01 00:00:00\n");
+    SetLastLook("1200/01/01 00:00:00");
     const ProgramResult result = Run({u"updates", u"--every", u"1"});
     EXPECT_EQ(result.exitCode, 4);
     EXPECT_THAT(result.errors, HasSubstr("outside the calendar"));
+}
+
+TEST_F(UpdateInformation, LastLookInTheFutureIsDue)
+{
+    for (const char* const date : {"9998/12/31 00:00:00", "9999/12/31"}) {
+        for (const std::vector<CString>& call :
+             {std::vector<CString>{u"updates"}, std::vector<CString>{u"updates", u"--every", u"7"}}) {
+            SetLastLook(date);
+            const ProgramResult result = Run(call);
+            EXPECT_EQ(result.exitCode, 0) << result.errors;
+            EXPECT_THAT(result.output, HasSubstr("99.0.0.0"));
+        }
+    }
+}
+
+TEST_F(UpdateInformation, DateOutsideTheCalendarDoesNotMatterUnlessDaysAreCounted)
+{
+    SetLastLook("0900/01/01");
+    const ProgramResult result = Run({u"updates"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    EXPECT_THAT(result.output, HasSubstr("99.0.0.0"));
+    EXPECT_THAT(Run({u"updates"}).output, Not(HasSubstr("0900"))) << "this look is kept";
 }
 
 TEST_F(UpdateInformation, VersionTellsTheReleaseStage)
