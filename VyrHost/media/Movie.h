@@ -40,10 +40,10 @@ struct Movie
 [[nodiscard]] bool IsAvi(const VyrLibraryUtils::Pictures::ByteView& bytes);
 
 /// A film in boxes. A date of 0 is no date; one before 1970 counts from 1970, since some writers count from the wrong
-/// year. A creation date with its offset in QuickTime's metadata comes before it. Where a film in fragments does not tell
-/// its duration in front, the whole file is searched for it, if it is asked for. The size of a HEIC or AVIF file is that
-/// of its largest picture. Source: ISO/IEC 14496-12, sections 8.2.2, 8.3.2, 8.4.3, 8.5.2 and 8.8.2; ISO/IEC 23008-12,
-/// section 6.5.3.
+/// year. A creation date with its offset in QuickTime's metadata comes before it. Where a film in fragments does not
+/// tell its duration in front, the whole file is searched for it, if it is asked for. The size of a HEIC or AVIF file
+/// is that of its largest picture. Source: ISO/IEC 14496-12, sections 8.2.2, 8.3.2, 8.4.3, 8.5.2 and 8.8.2; ISO/IEC
+/// 23008-12, section 6.5.3.
 [[nodiscard]] Movie ReadIsoMovie(const VyrLibraryUtils::Pictures::ByteView& file, bool asksForDuration);
 
 /// Matroska and WebM. Source: RFC 9559, sections 5.1.2 and 5.1.4; RFC 8794.

@@ -66,9 +66,8 @@ CString TextOf(std::string_view bytes)
     return VyrPlatform::Encoding::ToUtf8(text) == bytes ? CleanText(text) : CleanText(FromLatin1(bytes));
 }
 
-CString WideTextOf(std::string_view bytes)
+CString FromUtf16(std::string_view bytes)
 {
-    bytes = bytes.substr(0, longestBytes);
     const bool isBig = IsBigEndian(bytes);
     std::u16string text;
     for (std::size_t at = 0; at + 1 < bytes.size(); at += 2) {
@@ -77,7 +76,12 @@ CString WideTextOf(std::string_view bytes)
         text += static_cast<char16_t>(isBig ? first << 8 | second : second << 8 | first);
     }
     text.erase(0, text.starts_with(u'\xFEFF') ? 1 : 0);
-    return CleanText(text);
+    return CString(std::u16string_view(text));
+}
+
+CString WideTextOf(std::string_view bytes)
+{
+    return CleanText(FromUtf16(bytes.substr(0, longestBytes)));
 }
 
 CString CleanText(std::u16string_view text)

@@ -11,8 +11,11 @@ namespace VyrHost::Media {
 /// `bytes` as UTF-8, or as Latin-1 where they are not UTF-8, made clean.
 [[nodiscard]] CString TextOf(std::string_view bytes);
 
-/// UTF-16 of unknown byte order, made clean. A text without a mark is in the order in which more of its units are
+/// UTF-16 of unknown byte order, without its mark. A text without one is in the order in which more of its units are
 /// below 256, little-endian where that does not tell.
+[[nodiscard]] CString FromUtf16(std::string_view bytes);
+
+/// FromUtf16(bytes), made clean.
 [[nodiscard]] CString WideTextOf(std::string_view bytes);
 
 /// `text` up to its first NUL, with each run of blanks and control characters made one blank, none around it, cut to

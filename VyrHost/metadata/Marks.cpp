@@ -2,8 +2,10 @@
 // semicolons, the bytes in hexadecimal, without the last word where there is no state; "none" after.
 #include <VyrHost/metadata/Marks.h>
 
+#include <VyrHost/media/Texts.h>
 #include <VyrHost/metadata/Changes.h>
 #include <VyrHost/text/Errors.h>
+#include <VyrHost/text/Input.h>
 #include <VyrHost/text/Pieces.h>
 #include <VyrLibraryFuncs/metadata/UnblockFuncs.h>
 #include <VyrPlatform/files/ExactState.h>
@@ -28,32 +30,48 @@ constexpr std::u16string_view noMark = u"none";
 constexpr std::u16string_view protectionWord = u"attributes";
 constexpr std::u16string_view nothingTold = u"marked";
 
-CString WordForZone(std::string_view number)
+CString WordForZone(std::u16string_view number)
 {
     constexpr const char16_t* words[] = {u"this computer", u"local network", u"trusted", u"internet", u"restricted"};
-    if (number.size() == 1 && number.front() >= '0' && number.front() < '0' + static_cast<int>(std::size(words)))
-        return words[number.front() - '0'];
-    return VyrPlatform::Encoding::FromUtf8(number);
+    if (number.size() == 1 && number.front() >= u'0' && number.front() < u'0' + static_cast<int>(std::size(words)))
+        return words[number.front() - u'0'];
+    return number;
 }
 
-/// Reads the lines of a stream, of any bytes.
+/// The text of a stream: UTF-16 where a mark says so, else UTF-8.
+CString TextOfStream(std::string_view bytes)
+{
+    const bool isWide = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
+    return isWide ? Media::FromUtf16(bytes) : VyrPlatform::Encoding::FromUtf8(Text::SkipByteOrderMark(bytes));
+}
+
+std::u16string_view Trimmed(std::u16string_view text)
+{
+    constexpr std::u16string_view blanks = u" \t";
+    text.remove_prefix(std::min(text.size(), text.find_first_not_of(blanks)));
+    return text.substr(0, text.find_last_not_of(blanks) + 1);
+}
+
+/// Reads the lines of a stream, of any bytes, as Windows reads a profile: case and blanks around names and values do
+/// not matter.
 void ReadStream(std::string_view bytes, ZoneMark& mark)
 {
-    while (!bytes.empty()) {
-        const std::size_t end = bytes.find_first_of(std::string_view("\r\n\0", 3));
-        const std::string_view line = bytes.substr(0, end);
-        bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
-        const std::size_t equals = line.find('=');
-        if (equals == std::string_view::npos)
+    const CString text = TextOfStream(bytes);
+    for (std::u16string_view rest = text; !rest.empty();) {
+        const std::size_t end = rest.find_first_of(std::u16string_view(u"\r\n\0", 3));
+        const std::u16string_view line = rest.substr(0, end);
+        rest.remove_prefix(end == std::u16string_view::npos ? rest.size() : end + 1);
+        const std::size_t equals = line.find(u'=');
+        if (equals == std::u16string_view::npos)
             continue;
-        const std::string_view key = line.substr(0, equals);
-        const std::string_view value = line.substr(equals + 1);
-        if (key == "ZoneId")
+        const CString key = Trimmed(line.substr(0, equals));
+        const std::u16string_view value = Trimmed(line.substr(equals + 1));
+        if (key.CompareNoCase(u"ZoneId") == 0)
             mark.zone = WordForZone(value);
-        else if (key == "HostUrl")
-            mark.from = VyrPlatform::Encoding::FromUtf8(value);
-        else if (key == "ReferrerUrl")
-            mark.referrer = VyrPlatform::Encoding::FromUtf8(value);
+        else if (key.CompareNoCase(u"HostUrl") == 0)
+            mark.from = value;
+        else if (key.CompareNoCase(u"ReferrerUrl") == 0)
+            mark.referrer = value;
     }
 }
 

@@ -24,6 +24,19 @@ ZoneForm Stream(const std::string& bytes)
     return {CString(VyrPlatform::NamedStreams::zoneStream), bytes};
 }
 
+/// `text` as UTF-16 with a byte order mark.
+std::string Utf16(const std::string& text, bool isBig)
+{
+    std::string bytes;
+    for (const char16_t unit : (u"\xFEFF" + VyrPlatform::Encoding::FromUtf8(text)).View()) {
+        const char low = static_cast<char>(unit & 0xFF);
+        const char high = static_cast<char>(unit >> 8);
+        bytes += isBig ? high : low;
+        bytes += isBig ? low : high;
+    }
+    return bytes;
+}
+
 Proposal Propose(const CString& path)
 {
     return MarkRule().Propose(path, VyrHost::Model::Entry(), 0);
@@ -120,7 +133,14 @@ TEST(Mark, TellsTheZoneAndTheOriginOfTheFile)
               u"https://example.org/b");
     EXPECT_EQ(Shown({Stream("ZoneId=2\nHostUrl=https://a/"), {u"user.xdg.origin.url", "https://b/"}}),
               u"trusted, https://a/");
-    for (const std::string& bytes : {std::string(), std::string("\0\xff=\r\r", 5), std::string("ZoneId")})
+    const std::string loose = "[zonetransfer]\r\nzoneid = 3\r\n\tHOSTURL\t= https://example.org/ä \r\n";
+    EXPECT_EQ(Shown({Stream(loose)}), u"internet, https://example.org/ä");
+    EXPECT_EQ(Shown({Stream("\xEF\xBB\xBF" + loose)}), u"internet, https://example.org/ä");
+    EXPECT_EQ(Shown({Stream("\xEF\xBB\xBFZoneId=1")}), u"local network");
+    for (const bool isBig : {false, true})
+        EXPECT_EQ(Shown({Stream(Utf16(loose, isBig))}), u"internet, https://example.org/ä");
+    for (const std::string& bytes : {std::string(), std::string("\0\xff=\r\r", 5), std::string("ZoneId"),
+                                     std::string("\xFF\xFE"), std::string("\xFF\xFE="), std::string("\xFE\xFF=")})
         EXPECT_EQ(Shown({Stream(bytes)}), u"marked");
 }
 
