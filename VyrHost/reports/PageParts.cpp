@@ -137,7 +137,6 @@ const std::string_view script = R"(<script>
     });
   });
 })();
-</script>
 )";
 
 } // namespace VyrHost::Reports::PageParts

@@ -20,7 +20,7 @@ extern const std::string_view mainEnd;
 extern const std::string_view listBeginning;
 extern const std::string_view listEnd;
 /// Adds the search box, and sorting by a click on a heading, to the page, which is complete without them. The value of
-/// a cell for sorting is in its attribute `data-value`, otherwise it is its text.
+/// a cell for sorting is in its attribute `data-value`, otherwise it is its text. Without its closing tag.
 extern const std::string_view script;
 
 } // namespace VyrHost::Reports::PageParts

@@ -118,6 +118,7 @@ public:
         m_html += PageParts::mainEnd;
         WriteFooter();
         m_html += PageParts::script;
+        Tag(HtmlFuncs::GetScriptClosingTag());
         Tag(HtmlFuncs::GetBodyClosingTag());
         Tag(HtmlFuncs::GetHtmlClosingTag());
         m_take(m_html);

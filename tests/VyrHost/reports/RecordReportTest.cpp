@@ -66,7 +66,7 @@ TEST(RecordReport, PageHasARowForEachRecord)
                                          {{Text(u"a"), std::int64_t{2048}}, {Text(u"b"), RecordValue()}}));
     EXPECT_TRUE(
         page.starts_with("<!DOCTYPE html>\r\n\r\n<html lang=\"en\">\r\n<head>\r\n\t<meta charset=\"utf-8\">\r\n"));
-    EXPECT_TRUE(page.ends_with("</body>\r\n</html>\r\n"));
+    EXPECT_TRUE(page.ends_with("})();\n</script>\r\n</body>\r\n</html>\r\n"));
     EXPECT_EQ(Between(page, "<thead>\r\n", "</thead>"),
               "<tr><th class=\"text\">Name</th><th class=\"size\">Size</th></tr>");
     EXPECT_EQ(Between(page, "<tbody>\r\n", "</tbody>"),
