@@ -1,12 +1,12 @@
 // Makes readers of tokens, each of which asks the entry for one value.
 #include <VyrHost/rename/NameTokens.h>
 
-#include <VyrHost/metadata/Changes.h>
 #include <VyrHost/model/FolderSet.h>
 #include <VyrHost/rename/RuleTexts.h>
 #include <VyrHost/rename/TemplateTokens.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/NearestWord.h>
+#include <VyrHost/text/Pieces.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrPlatform/text/Encoding.h>
 
@@ -52,7 +52,7 @@ struct Making
     {
         if (!token.option)
             return usual;
-        const auto number = Metadata::ReadWhole(*token.option);
+        const auto number = Text::ReadWhole(*token.option);
         if (!number || *number < 1 || *number > most)
             Refuse("a whole number from 1 to " + std::to_string(most) + " is expected behind the colon");
         return static_cast<int>(*number);
