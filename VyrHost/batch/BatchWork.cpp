@@ -234,6 +234,16 @@ void BatchWork::Foresee(Direction direction, const Report& report)
             counted(entries.size() + index, m_changes.Foresee(index, direction));
 }
 
+/// Whether the batch made a folder at `place`, which goes when the batch is undone.
+bool BatchWork::IsMadeFolder(const Model::Place& place) const
+{
+    const std::vector<Model::PlanFolder>& folders = m_journal.plan.folders;
+    for (Model::PlanIndex folder = 0; folder < folders.size(); ++folder)
+        if (folders[folder].isNew && folders[folder].place == place && m_progress.OfFolder(folder) == NewFolder::Made)
+            return true;
+    return false;
+}
+
 /// Refuses entries that are not found, and those whose place something outside the batch has taken.
 Model::Outcome BatchWork::ForeseeEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace)
 {
@@ -242,7 +252,8 @@ Model::Outcome BatchWork::ForeseeEntry(Model::PlanIndex entry, Location goal, Mo
         return m_notFound.at(entry);
     const bool willLeave = inPlace != Model::none && (inPlace == entry || m_progress.Of(inPlace) != Location::Unknown);
     const bool isFree = m_progress.Of(entry) == goal || willLeave || !m_progress.IsThere(place.folder) ||
-                        VyrPlatform::LookAtFile(m_progress.PathOf(place)).kind == Kind::Missing;
+                        VyrPlatform::LookAtFile(m_progress.PathOf(place)).kind == Kind::Missing ||
+                        (goal == Location::Before && IsMadeFolder(place));
     if (isFree)
         return {.status = Model::Status::Done, .error = 0, .reason = {}};
     return {.status = Model::Status::Failed, .error = 0, .reason = ReasonWhereTaken(goal)};

@@ -122,6 +122,7 @@ private:
     [[nodiscard]] Checkpoint MakeCheckpoint(Direction direction) const;
     [[nodiscard]] bool IsAnyDone() const;
     [[nodiscard]] bool HasMadeFolder() const;
+    [[nodiscard]] bool IsMadeFolder(const Model::Place& place) const;
     void End(const Checkpoint& checkpoint, BatchPhase phase);
     void Forget();
     void NameKeptFolders(const Checkpoint& checkpoint);

@@ -27,8 +27,9 @@ ZoneForm Stream(const std::string& bytes)
 /// `text` as UTF-16 with a byte order mark.
 std::string Utf16(const std::string& text, bool isBig)
 {
+    const CString marked = u"\xFEFF" + VyrPlatform::Encoding::FromUtf8(text);
     std::string bytes;
-    for (const char16_t unit : (u"\xFEFF" + VyrPlatform::Encoding::FromUtf8(text)).View()) {
+    for (const char16_t unit : marked.View()) {
         const char low = static_cast<char>(unit & 0xFF);
         const char high = static_cast<char>(unit >> 8);
         bytes += isBig ? high : low;
