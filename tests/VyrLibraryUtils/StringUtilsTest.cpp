@@ -80,6 +80,8 @@ TEST(StringUtilsNumbers, ReadsBlanksASignAndLeadingDigits)
 {
     EXPECT_EQ(StringUtils::StringToIntNumber(u"42"), 42);
     EXPECT_EQ(StringUtils::StringToIntNumber(u" \t\n+42"), 42);
+    EXPECT_EQ(StringUtils::StringToIntNumber(u"\v\f\r7"), 7);
+    EXPECT_EQ(StringUtils::StringToIntNumber(u"\b7"), 0);
     EXPECT_EQ(StringUtils::StringToIntNumber(u"  -7 8"), -7);
     EXPECT_EQ(StringUtils::StringToIntNumber(u"12abc"), 12);
     EXPECT_EQ(StringUtils::StringToIntNumber(u"007"), 7);

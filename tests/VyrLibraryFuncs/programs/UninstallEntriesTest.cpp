@@ -440,6 +440,17 @@ TEST_F(UninstallEntries, TraceNamesEachEntryItsTimeAndItsValues)
                                               u"\r\n\tDisplayName:My tool\r\n\tPublisher:Me\r\n\tLanguage:1033\r\n"}));
 }
 
+TEST_F(UninstallEntries, TraceHasExpandedCommandsAndHelpLinksAsTheyStand)
+{
+    registry.SetText(HKEY_LOCAL_MACHINE, u"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion", u"SystemRoot", u"C:\\w");
+    SetText(u"UninstallString", u"\"%SystemRoot%\\u.exe\"");
+    SetText(u"HelpLink", u"%SystemRoot%");
+    const VyrTests::DebugCapture debug;
+    const Item item = Read();
+    EXPECT_EQ(AllTexts(debug), CString::Join({u"Tool\r\n", item.LastWriteTime, u"\r\n\tUninstallString:",
+                                              item.UninstallString, u"\r\n\tHelpLink:%SystemRoot%\r\n"}));
+}
+
 TEST_F(UninstallEntries, StopEndsTheValuesOfOneEntryOnly)
 {
     for (const CString name : {u"\\a", u"\\b", u"\\c"})

@@ -244,6 +244,15 @@ TEST_F(XmlDocumentTest, AttributesArePresentOrAbsent)
     EXPECT_EQ(AttributeOfRoot("<r xmlns:n='urn:n' a='1' n:a='2'/>", u"n:a"), u"'2'");
 }
 
+TEST_F(XmlDocumentTest, AttributeIsAskedForByANameAndIntoAValue)
+{
+    const IXMLDOMDocumentPtr document = Load("<r a='1'/>");
+    ASSERT_TRUE(document);
+    _variant_t value;
+    EXPECT_EQ(RootOf(document)->getAttribute(nullptr, &value), E_INVALIDARG);
+    EXPECT_EQ(RootOf(document)->getAttribute(ToBstr(u"a"), nullptr), E_INVALIDARG);
+}
+
 TEST_F(XmlDocumentTest, AttributesKeepTheirBlanks)
 {
     EXPECT_EQ(AttributeOfRoot("<r a=' x  y '/>", u"a"), u"' x  y '");

@@ -14,6 +14,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 
 using namespace VyrTests;
@@ -75,6 +76,21 @@ TEST_F(KeptDocument, IsACopyForItsOwnerAloneOnAnotherFileSystem)
     EXPECT_EQ(content, "old");
     EXPECT_EQ(fs::status(kept).permissions(), fs::perms::owner_read | fs::perms::owner_write);
     EXPECT_EQ(scratch.ReadFile(u"a.doc"), "new");
+}
+
+TEST_F(KeptDocument, AndItsReplacementLeaveNoFileOpen)
+{
+    const MemoryFolder other;
+    const auto countOpen = [] {
+        return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
+    };
+    const auto before = countOpen();
+    for (const fs::path& kept : {ToStdPath(scratch.Path(u"kept")), other.Path() / "kept"}) {
+        DocumentReplacement replacement = Replacement();
+        ASSERT_EQ(replacement.Keep(CString(kept.u16string())), Result::ok);
+        ASSERT_EQ(replacement.Commit(), Result::ok);
+    }
+    EXPECT_EQ(countOpen(), before);
 }
 
 TEST_F(KeptDocument, ThatAnotherProgramIsAboutToWriteToStaysAndIsNotKept)

@@ -243,7 +243,8 @@ TEST_F(ReplacedDocument, StaysOnAFullDisk)
 TEST_F(ReplacedDocument, TableThatIsFullGetsAnotherSectorAndItsListToo)
 {
     // The table of the first fills its sectors nearly, that of the second also the list of them in the header.
-    for (const std::size_t sectors : {117U, 118U, 119U, 120U, 121U, 13'832U, 13'833U, 13'834U, 13'835U}) {
+    for (const std::size_t sectors :
+         {117U, 118U, 119U, 120U, 121U, 13'832U, 13'833U, 13'834U, 13'835U, 13'960U, 13'961U}) {
         CompoundDocument document = DocumentIn(1252);
         document.streams[u"Large"] = std::string(sectors * 512, 'l');
         scratch.WriteFile(u"a.doc", document.Bytes());
