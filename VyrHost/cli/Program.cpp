@@ -13,6 +13,7 @@
 #include <VyrLibraryUtils/VersionUtils.h>
 #include <VyrPlatform/documents/ComPointer.h>
 #include <VyrPlatform/process/ComApartment.h>
+#include <VyrPlatform/process/Process.h>
 #include <VyrPlatform/text/Encoding.h>
 
 #include <CLI/CLI.hpp>
@@ -51,6 +52,13 @@ int RefuseCall(const std::string& what)
     return ExitCode::usage;
 }
 
+/// Where the current folder was removed, no relative path leads anywhere.
+void RequireCurrentFolder()
+{
+    if (VyrPlatform::Process::GetCurrentFolder().IsEmpty())
+        throw Text::UsageError("the current folder does not exist any more; change to one that does");
+}
+
 int Fail(const std::string& what)
 {
     Complain(what);
@@ -87,6 +95,7 @@ int RunProgram(const std::vector<CString>& arguments)
         program.parse(ToParser(cut));
         const auto chosen = std::find_if(commands.begin(), commands.end(),
                                          [](const std::unique_ptr<Command>& command) { return command->IsChosen(); });
+        RequireCurrentFolder();
         return (*chosen)->Run();
     } catch (const CLI::CallForVersion&) {
         return WriteOut(VersionText() + "\n");

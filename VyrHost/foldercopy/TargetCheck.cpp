@@ -137,7 +137,7 @@ private:
     /// The folder at `path`, or its nearest existing parent.
     [[nodiscard]] static CString NearestFolder(CString path)
     {
-        while (!VyrPlatform::FileSystem::IsFolder(path))
+        while (!path.IsEmpty() && !VyrPlatform::FileSystem::IsFolder(path))
             path = FolderOf(path);
         return path;
     }

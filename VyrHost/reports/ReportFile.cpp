@@ -39,7 +39,7 @@ void CheckReportFile(const CString& path, bool mayReplace)
     case FileSystem::Kind::Folder:
         Text::RefuseValue(option, path, "it is a folder");
     case FileSystem::Kind::Other:
-        Text::RefuseValue(option, path, "it is no regular file");
+        Text::RefuseValue(option, path, "it is not a regular file");
     }
 }
 

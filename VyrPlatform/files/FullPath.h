@@ -9,7 +9,8 @@ namespace VyrPlatform {
 
 /// `path` as a full path from the current folder, without "." steps, doubled separators and separators at its end (that
 /// of a root is kept). The disk is not read: on Linux ".." steps are kept, since links decide where they lead; on
-/// Windows they are resolved in the text, as the system itself does. An empty path stays empty.
+/// Windows they are resolved in the text, as the system itself does. An empty path stays empty, and on Linux a relative
+/// one stays as it is where the current folder was removed.
 ///
 ///     In the folder /home/me, "a//./b/" gives "/home/me/a/b".
 [[nodiscard]] VYR_PLATFORM_API CString GetFullPath(const CString& path);

@@ -59,7 +59,7 @@ enum class DataLocation : std::uint8_t
 /// @return nothing when the result does not fit.
 [[nodiscard]] VYR_PLATFORM_API std::optional<CString> ExpandEnvironment(const CString& text, std::uint32_t capacity);
 
-/// The current folder, as a full path.
+/// The current folder, as a full path; empty where it was removed (on Linux).
 [[nodiscard]] VYR_PLATFORM_API CString GetCurrentFolder();
 
 /// The system's message for one of its error codes, without a line end; empty for an unknown one.

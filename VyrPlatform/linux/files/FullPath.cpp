@@ -33,8 +33,13 @@ CString GetFullPath(const CString& path)
     if (path.IsEmpty())
         return path;
     std::u16string full;
-    if (path[0] != u'/')
-        AppendSteps(full, Process::GetCurrentFolder());
+    if (path[0] != u'/') {
+        const CString current = Process::GetCurrentFolder();
+        // From the root the path would lead to something else.
+        if (current.IsEmpty())
+            return path;
+        AppendSteps(full, current);
+    }
     AppendSteps(full, path);
     return full.empty() ? CString(u"/") : CString(full);
 }
