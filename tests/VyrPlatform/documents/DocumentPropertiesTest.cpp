@@ -113,6 +113,14 @@ TEST_F(DocumentPropertiesOf, CompoundDocumentAreRead)
     EXPECT_FALSE(properties.lacksCodePage);
 }
 
+TEST_F(DocumentPropertiesOf, CompoundDocumentWithoutTheUsersOwnAreCounted)
+{
+    CompoundDocument document = Sample();
+    document.streams[documentSummaryName] = BuildPropertySet(
+        {{documentFormatBytes, {{codePage, StoredCodePage(1252)}, {company, StoredByteText("Firm")}}}});
+    EXPECT_EQ(Read(Place(document)).others, 2U) << "the pages and the company";
+}
+
 TEST_F(DocumentPropertiesOf, CompoundDocumentAreSetAndRemovedAndAllElseStays)
 {
     const CompoundDocument before = Sample();
