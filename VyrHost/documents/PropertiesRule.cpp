@@ -15,6 +15,7 @@
 #include <VyrPlatform/files/FileReader.h>
 #include <VyrPlatform/files/FileTimes.h>
 #include <VyrPlatform/text/Encoding.h>
+#include <VyrPlatform/time/Epochs.h>
 
 #include <algorithm>
 #include <chrono>
@@ -75,7 +76,7 @@ void RequireTokens(std::u16string_view text)
 bool CanBeHeld(VyrPlatform::FileTicks ticks)
 {
     using namespace std::chrono;
-    using Ticks = duration<VyrPlatform::FileTicks, std::ratio<1, 10'000'000>>;
+    using Ticks = duration<VyrPlatform::FileTicks, std::ratio<1, VyrPlatform::ticksPerSecond>>;
 
     constexpr sys_days first = January / 1 / 1601;
     constexpr sys_days end = January / 1 / 10000;

@@ -4,6 +4,7 @@
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/files/FolderListing.h>
+#include <VyrPlatform/files/FullPath.h>
 
 #include <algorithm>
 #include <utility>
@@ -73,6 +74,11 @@ void ScanFolder(FolderSnapshot& tree, std::size_t number)
 }
 
 } // namespace
+
+CString FolderOf(const CString& fullPath)
+{
+    return VyrPlatform::GetFullPath(FileUtils::GetSplitDirPath(fullPath));
+}
 
 FolderSnapshot TakeSnapshot(const CString& root)
 {

@@ -61,6 +61,9 @@ struct FolderSnapshot
     std::vector<SnapshotEntry> entries;
 };
 
+/// The full path of the folder that the entry at `fullPath` stands in; a root stands in itself.
+[[nodiscard]] CString FolderOf(const CString& fullPath);
+
 /// Takes a snapshot of the folder at the full path `root`, including hidden entries.
 [[nodiscard]] FolderSnapshot TakeSnapshot(const CString& root);
 

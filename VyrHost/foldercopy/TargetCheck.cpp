@@ -6,7 +6,6 @@
 #include <VyrLibraryUtils/FileUtils.h>
 #include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/files/FolderListing.h>
-#include <VyrPlatform/files/FullPath.h>
 
 #include <unordered_map>
 #include <utility>
@@ -37,11 +36,6 @@ struct FolderPlan
     Place place = Place::InTheWay;
     NameFolding folding = NameFolding::None;
 };
-
-CString FolderOf(const CString& path)
-{
-    return VyrPlatform::GetFullPath(FileUtils::GetSplitDirPath(path));
-}
 
 class TargetChecker
 {

@@ -68,9 +68,10 @@ void TransferBatch::Check(TransferTask task, Trial trial)
 {
     FolderSnapshot tree = TakeSnapshot(task.source);
     TargetCheck check = CheckTarget(tree, task.target, trial);
-    if (m_action == TransferAction::Move)
-        for (TransferProblem& problem : CheckLeaving(tree))
-            check.clashes.push_back(std::move(problem));
+    if (m_action == TransferAction::Move) {
+        TransferProblems staying = CheckLeaving(tree);
+        std::move(staying.begin(), staying.end(), std::back_inserter(check.clashes));
+    }
     TransferReport report;
     report.size = SizeOf(tree);
     if (!check.clashes.empty()) {

@@ -37,11 +37,6 @@ std::string Quoted(const CString& path)
     return "'" + Text::SafeText(path) + "'";
 }
 
-CString FolderOf(const CString& fullPath)
-{
-    return VyrPlatform::GetFullPath(FileUtils::GetSplitDirPath(fullPath));
-}
-
 /// The identities of the folder at `path` and of all its parents.
 std::vector<Identity> UpFrom(const CString& path)
 {
