@@ -128,8 +128,7 @@ UndoCommand::UndoCommand(CLI::App& program)
         .add_option_function<std::string>(
             "BATCH", [this](const std::string& text) { m_batch = text; },
             "The number of a batch, or of an undo, which is redone; without it the latest batch that lies in the "
-            "current "
-            "folder or below and is not undone")
+            "current folder or below and is not undone")
         ->type_name("");
     m_command.add_flag("--list", m_list, "List the batches instead, the latest first");
     m_command.add_flag("--preview", m_preview, "Show what would be undone, and change nothing");

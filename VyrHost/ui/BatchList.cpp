@@ -135,8 +135,9 @@ CString NameOf(const Batch::BatchInformation& batch)
         return number;
     CString entries;
     entries.Format(u"%u %s", batch.entries, std::u16string_view(batch.entries == 1 ? u"entry" : u"entries"));
-    return CString::Join({number, u" of ", batch.started, batch.command.IsEmpty() ? u"" : u", ", batch.command,
-                          batch.folder.IsEmpty() ? u"" : u" in ", batch.folder, u", ", entries});
+    const CString started = ShownText(StartOf(batch), RecordKind::Date);
+    return CString::Join({number, started.IsEmpty() ? u"" : u" of ", started, batch.command.IsEmpty() ? u"" : u", ",
+                          batch.command, batch.folder.IsEmpty() ? u"" : u" in ", batch.folder, u", ", entries});
 }
 
 std::vector<RecordColumn> BatchColumns()

@@ -9,7 +9,8 @@
 
 namespace VyrHost::Ui {
 
-/// Such as "batch 2 of 2024/05/06 07:08:09, rename in /home/eva/pictures, 3 entries".
+/// Such as "batch 2 of 2024-05-06 07:08:09, rename in /home/eva/pictures, 3 entries"; the date in the form of the
+/// locale.
 [[nodiscard]] CString NameOf(const Batch::BatchInformation& batch);
 
 /// The columns of a list of batches. docs/json.md describes them.
