@@ -15,7 +15,7 @@ constexpr std::size_t longestLine = 80;
 
 void AppendWrapped(std::string& text, std::string line)
 {
-    const std::size_t indent = line.find_first_not_of(" ") > 1 ? helpColumn : 0;
+    const std::size_t indent = line.find_first_not_of(' ') > 1 ? helpColumn : 0;
     while (line.size() > longestLine) {
         const std::size_t blank = line.rfind(' ', longestLine);
         if (blank == std::string::npos || blank <= indent)
