@@ -29,8 +29,9 @@ namespace VyrPlatform::PrivateProfile {
 [[nodiscard]] VYR_PLATFORM_API CString ReadText(const CString& path, const CString& section, const CString& key,
                                                 int capacity);
 
-/// The number at the start of the value: an optional sign, then decimal digits, or "0x" and hexadecimal digits; the
-/// rest is ignored, and a larger number wraps around. 0 for a value that begins otherwise.
+/// The number at the start of the value: blanks (which only quotes keep), an optional sign, then decimal digits, or
+/// "0x", "0o" or "0b" and hexadecimal, octal or binary digits; the rest is ignored, and a larger number wraps around. 0
+/// for a value that begins otherwise.
 /// @return `defaultNumber` where there is no value, or an empty one.
 [[nodiscard]] VYR_PLATFORM_API std::int32_t ReadInteger(const CString& path, const CString& section, const CString& key,
                                                         std::int32_t defaultNumber);

@@ -13,6 +13,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace VyrPlatform::PrivateProfile {
 
@@ -75,15 +76,26 @@ int DigitOf(char16_t unit) noexcept
     return unit >= u'A' && unit <= u'F' ? unit - u'A' + 10 : 16;
 }
 
+/// Removes the prefix of a base from `text`, and returns the base.
+int TakeBase(std::u16string_view& text) noexcept
+{
+    using namespace std::string_view_literals;
+    for (const auto& [prefix, base] : {std::pair(u"0x"sv, 16), std::pair(u"0o"sv, 8), std::pair(u"0b"sv, 2)})
+        if (text.starts_with(prefix)) {
+            text.remove_prefix(prefix.size());
+            return base;
+        }
+    return 10;
+}
+
 std::int32_t ToNumber(std::u16string_view text) noexcept
 {
+    while (!text.empty() && text.front() <= u' ')
+        text.remove_prefix(1);
     const bool isNegative = text.starts_with(u'-');
     if (isNegative || text.starts_with(u'+'))
         text.remove_prefix(1);
-    const bool isHexadecimal = text.starts_with(u"0x");
-    if (isHexadecimal)
-        text.remove_prefix(2);
-    const int base = isHexadecimal ? 16 : 10;
+    const int base = TakeBase(text);
     std::uint32_t number = 0;
     for (const char16_t unit : text) {
         const int digit = DigitOf(unit);
