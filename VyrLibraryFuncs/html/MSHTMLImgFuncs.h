@@ -30,7 +30,8 @@ public:
     /// Example: in a window of 800 x 600, a picture of 2000 x 100 gets the width "100%", and one of 100 x 2000 the
     /// height "100%".
     /// @param document the page, or a null pointer. COM must be initialised on this thread.
-    /// @param client the part of the window that shows the page. With an empty one every picture gets the width "100%".
+    /// @param client the part of the window that shows the page. With an empty one every picture with an
+    /// area gets the width "100%".
     /// @throws _com_error with E_OUTOFMEMORY when there is no memory for the text of a style.
     static void SetResizeImgStyle(IDispatch* document, CRect client);
 

@@ -45,9 +45,10 @@ public:
     ///
     /// Names match with their case, at any depth, without a prefix; the root may have any name. Of several `design`
     /// elements the last one counts. An item without an attribute has the value of the item before it in the same
-    /// `moreinfo`; at first 0 and empty texts. A stop ends the reading: the list then has the items read so far.
-    /// @return 1 when a `design` element was read; 0 when there is none, when the document does not load (the list is
-    /// then empty), and when there is no file at `path` (the list is kept).
+    /// `moreinfo`; at first 0 and empty texts. A stop ends only the list of elements that is being read: after one
+    /// among the items of a `moreinfo`, the next `moreinfo` is read.
+    /// @return 1 when a `design` element was read; 0 when there is none, when a stop comes before the first, when the
+    /// document does not load (the list is then empty), and when there is no file at `path` (the list is kept).
     /// @throws _com_error  as MSXMLFuncs::LoadXmlFile does.
     static int GetStylesInformation(CString path);
 

@@ -30,7 +30,8 @@ def set_resize_img_style(document: int, client: Tuple[int, int, int, int]) -> No
     Example: in a window of 800 x 600, a picture of 2000 x 100 gets the width "100%", and one of 100 x 2000 the
     height "100%".
     document: the page, or a null pointer. COM must be initialised on this thread.
-    client: the part of the window that shows the page. With an empty one every picture gets the width "100%".
+    client: the part of the window that shows the page. With an empty one every picture with an
+    area gets the width "100%".
     Raises Error: _com_error with E_OUTOFMEMORY when there is no memory for the text of a style.
     """
     return call("vyr_mshtml_img_set_resize_img_style", NOTHING, (HANDLE, document), (RECT, client))

@@ -183,7 +183,8 @@ def compare_reg_key(key1: str, key2: str, flag1: int, flag2: int, descending: in
     texts of the user's locale. Other names compare by their numbers: a name of hexadecimal digits is read as a
     decimal number up to its first letter (`1F` is 1), and any other name is 0; equal ones compare as texts.
 
-    This is not a consistent order of all keys: `a`, `{1}` and `é` form a cycle. Use a sort that tolerates this.
+    This is not a consistent order of all keys: in most locales `z`, `{1}` and `é` form a cycle. Use a sort that
+    tolerates this.
     flag1, flag2: only whether each is 0 matters.
     descending: non-zero reverses every result.
     Returns: -1, 0 or 1; 0 when the flags are equal and a key is empty or consists of backslashes.

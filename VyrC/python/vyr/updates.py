@@ -197,9 +197,11 @@ def get_updates_information(path: str) -> int:
     Names match with their case, at any depth, without a prefix; the root may have any name. Of several `update`
     elements the first one gives the attributes and the last one the items. A missing attribute keeps its setting,
     an empty one empties it. An item without a category has that of the item before it, the first one 0. A stop ends
-    the reading: the settings then have the values read so far.
+    only the list of elements that is being read: after one among the items of a `moreinfo`, the next `moreinfo` is
+    read, and then the attributes.
     path: a path, or an address that the parser can load from.
-    Returns: 1 when an `update` element was read; 0 when there is none, and when the document does not load.
+    Returns: 1 when an `update` element was read; 0 when there is none, when a stop comes before the first, and when
+    the document does not load.
     Raises Error: _com_error  as MSXMLFuncs::LoadXmlFile does.
     """
     return call("vyr_updates_get_updates_information", INT, (TEXT, path))
