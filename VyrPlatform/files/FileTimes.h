@@ -60,7 +60,7 @@ struct NewTimes
 
 /// The instant at which clocks show `local`: the inverse of ToLocal, to the second. Of two such instants (where clocks
 /// are turned back) it is the first; for a time that clocks skip, it is computed with the offset before.
-/// @return nothing when `local` is not valid.
+/// @return nothing when `local` is not valid or out of the calendar's range.
 [[nodiscard]] VYR_PLATFORM_API std::optional<FileTicks> FromLocal(const COleDateTime& local);
 
 /// `ticks` as local time, by the inverse of the system's own conversion from local calendar fields to a file time:

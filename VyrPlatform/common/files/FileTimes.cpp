@@ -86,7 +86,8 @@ std::optional<FileTicks> FromLocal(const COleDateTime& local)
 {
     using namespace std::chrono;
 
-    if (local.GetStatus() != COleDateTime::valid)
+    // Also where the status is valid and the count of days is beyond the calendar.
+    if (local.GetYear() < 0)
         return std::nullopt;
     const year_month_day date(year(local.GetYear()), month(static_cast<unsigned>(local.GetMonth())),
                               day(static_cast<unsigned>(local.GetDay())));

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <limits>
 #include <thread>
 #include <vector>
 
@@ -272,6 +273,11 @@ TEST(FileTimes, FromLocalOfNoDateIsNothing)
         COleDateTime none;
         none.SetStatus(status);
         EXPECT_EQ(FileTimes::FromLocal(none), std::nullopt);
+    }
+    for (const double days : {-657435.0, 2958466.0, 1e300, std::numeric_limits<double>::quiet_NaN()}) {
+        COleDateTime beyond;
+        beyond.m_dt = days;
+        EXPECT_EQ(FileTimes::FromLocal(beyond), std::nullopt) << days;
     }
 }
 
