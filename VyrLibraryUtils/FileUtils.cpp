@@ -49,11 +49,12 @@ std::int64_t AddSaturated(std::int64_t sum, std::int64_t size) noexcept
                                                                  : sum + size;
 }
 
-/// The total size of the files below `folder`. Uses a list instead of recursion, so that depth is no limit.
+/// The total size of the files below `folder`. Uses a list instead of recursion, so that depth is no limit, and the
+/// system's own separator, not that of the path's style, since the system finds the files.
 std::int64_t SizeOfFolder(const CString& folder)
 {
     std::int64_t sum = 0;
-    std::vector<CString> pending{folder};
+    std::vector<CString> pending{FileSystem::WithSeparator(folder)};
     while (!pending.empty()) {
         const CString current = pending.back();
         pending.pop_back();
@@ -62,9 +63,9 @@ std::int64_t SizeOfFolder(const CString& folder)
                 continue;
             const FileSystem::Kind kind = listing.Kind();
             if (kind == FileSystem::Kind::Folder)
-                pending.push_back(Combine(current, listing.Name()));
+                pending.push_back(FileSystem::WithSeparator(current + listing.Name()));
             else if (kind == FileSystem::Kind::File)
-                sum = AddSaturated(sum, FileSystem::Query(Combine(current, listing.Name())).size);
+                sum = AddSaturated(sum, FileSystem::Query(current + listing.Name()).size);
         }
     }
     return sum;

@@ -3,6 +3,7 @@
 
 #include <VyrPlatform/files/FileTimes.h>
 
+#include <tests/support/CurrentFolder.h>
 #include <tests/support/EmptiedQueue.h>
 #include <tests/support/FileMoments.h>
 #include <tests/support/MessagePosting.h>
@@ -80,26 +81,14 @@ void MakeRandomTree(const ScratchFolder& scratch, std::u16string_view root, std:
     }
 }
 
-/// Makes a folder the current one, so that a fault with an empty path can only harm this folder.
-class CurrentFolder
-{
-public:
-    explicit CurrentFolder(const CString& folder) { std::filesystem::current_path(VyrTests::ToStdPath(folder)); }
-    CurrentFolder(const CurrentFolder&) = delete;
-    CurrentFolder& operator=(const CurrentFolder&) = delete;
-    ~CurrentFolder() { std::filesystem::current_path(m_before); }
-
-private:
-    std::filesystem::path m_before = std::filesystem::current_path();
-};
-
 } // namespace
 
 TEST(NameFuncsFolder, EmptySourcePathIsNotTheCurrentFolder)
 {
     const ScratchFolder scratch;
     scratch.WriteFile(u"current/sub/a.txt", "a");
-    const CurrentFolder current(scratch.Path(u"current"));
+    // A fault can then only harm this folder.
+    const VyrTests::CurrentFolder current(scratch.Path(u"current"));
     const auto before = Tree(scratch.Path());
     for (const Operation operation : operations) {
         Records records;

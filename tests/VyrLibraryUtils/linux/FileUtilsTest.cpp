@@ -1,6 +1,7 @@
 // Queries of files that only Linux has: links, devices, names that are not UTF-8.
 #include <VyrLibraryUtils/FileUtils.h>
 
+#include <tests/support/CurrentFolder.h>
 #include <tests/support/Describe.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
@@ -11,6 +12,7 @@
 #include <string>
 
 using VyrLibraryUtils::FileUtils;
+using VyrTests::CurrentFolder;
 using VyrTests::ScratchFolder;
 using VyrTests::ToStdPath;
 
@@ -54,6 +56,16 @@ TEST(FileUtilsOnLinux, FindsNamesThatAreNotUtf8)
     EXPECT_EQ(FileUtils::IsFileExist(path), 1);
     EXPECT_EQ(FileUtils::GetFileSize(path), 3);
     EXPECT_EQ(FileUtils::GetFileSize(scratch.Path()), 3);
+}
+
+TEST(FileUtilsOnLinux, SumsFoldersWhoseNamesLookLikeWindowsPaths)
+{
+    const ScratchFolder scratch;
+    const CurrentFolder current(scratch.Path());
+    for (const char16_t* const name : {u"C:\\d", u"\\\\server\\d", u"d\\"}) {
+        scratch.WriteFile(CString(name) + u"/e/file", "12345");
+        EXPECT_EQ(FileUtils::GetFileSize(name), 5) << VyrTests::ToStdPath(name);
+    }
 }
 
 TEST(FileUtilsOnLinux, CountsNothingForADevice)
