@@ -281,7 +281,7 @@ public:
 private:
     friend struct PrivateOperations;
 
-    /// The decimal text of `number`, padded with zeros (before its minus sign) up to `digits`.
+    /// The decimal text of `number` behind the zeros of GetScaleString: for 3 digits 5 gives "005", -5 gives "00-5".
     static CString GetSequenceNumber(int digits, int number);
     /// One zero for each of the powers 10 to 10^(digits - 1) that is greater than `number`; fewer after a stop.
     static CString GetScaleString(int digits, int number);
