@@ -11,7 +11,8 @@ namespace VyrLibraryFuncs {
 /// content indexed (I).
 ///
 /// A choice is an int: 0 keeps the attribute, 1 sets it, any other value (2 by custom) clears it. All operations work
-/// on folders, too. VyrPlatform::FileAttributes describes how Linux stores attributes.
+/// on folders, too, but Windows makes no folder temporary. VyrPlatform::FileAttributes describes how Linux stores
+/// attributes.
 class VYR_FUNCS_API AttributesFuncs
 {
 public:

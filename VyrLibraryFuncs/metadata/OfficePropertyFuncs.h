@@ -55,9 +55,9 @@ public:
     ///     keywords, 6 the comments.
     /// @param value the value with its type; VT_EMPTY removes the property. A null pointer is refused.
     /// @param clsid the handler's class id, not needed for a compound document; all zero for none.
-    /// @return 1 when it was written. 0 when the document could not be opened or written, has no handler, or has no
-    /// summary information (diagnostic: "No Summary-Information.
-    /// ").
+    /// @return 1 when it was written. 0 when the document could not be opened, has no handler, has no summary
+    /// information (diagnostic: "No Summary-Information.") or could not be written (diagnostic:
+    /// "IPropertyStg::WriteMultiple() failed w/error" and the result code in hexadecimal digits).
     static int SetDumpProps(CString path, std::uint32_t propertyId, PROPVARIANT* value, GUID clsid);
 
 private:

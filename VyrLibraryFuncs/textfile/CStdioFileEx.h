@@ -49,8 +49,8 @@ public:
     /// Writes the text; it includes its line end, and "\n" is written unchanged.
     ///
     /// At the beginning of the file the mark is written first, if m_bWriteBOM is set: that of UTF-16 with modeUnicode,
-    /// that of UTF-8 with code page 65001, none otherwise. 8-bit text is converted by VyrPlatform::CodePage::ToBytes.
-    /// With an unknown code page only the mark is written.
+    /// that of UTF-8 with code page 65001, none otherwise. 8-bit text is converted by VyrPlatform::CodePage::ToBytes;
+    /// with an unknown code page nothing is written.
     /// @param text  up to its NUL.
     /// @throws CInvalidArgException  `text` is null.
     void WriteString(const char16_t* text) override;

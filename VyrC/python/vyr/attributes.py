@@ -4,7 +4,8 @@ Sets and clears six attributes: read-only (letter R), hidden (H), system (S), ar
 content indexed (I).
 
 A choice is an int: 0 keeps the attribute, 1 sets it, any other value (2 by custom) clears it. All operations work
-on folders, too. VyrPlatform::FileAttributes describes how Linux stores attributes.
+on folders, too, but Windows makes no folder temporary. VyrPlatform::FileAttributes describes how Linux stores
+attributes.
 """
 import dataclasses
 import datetime
