@@ -32,9 +32,9 @@ public:
         /// With its dot.
         CString extension;
         /// The handler's class id; all zero when there is none.
-        GUID clsid;
+        GUID clsid = {};
         /// The number that the host gave for the extension; non-zero means that a handler was searched for.
-        int flag;
+        int flag = 0;
     };
 
     /// The handlers for extensions, in their order, from the registry. Handles one pending event of the calling thread

@@ -127,6 +127,15 @@ TEST(OfficePropertyFuncs, ExtensionWithoutAReadableHandlerIsLeftOut)
     EXPECT_TRUE(OfficePropertyFuncs::GetClassIdItemList({}).empty());
 }
 
+TEST(OfficePropertyFuncs, NewEntryHasNoHandler)
+{
+    // A constant of a record with a member that begins undefined does not compile.
+    const OfficePropertyFuncs::CLSID_ITEM item;
+    EXPECT_EQ(item.extension, u"");
+    EXPECT_TRUE(item.clsid == none);
+    EXPECT_EQ(item.flag, 0);
+}
+
 TEST(OfficePropertyFuncs, ClassIdIsThatOfTheFirstEntryWithoutRegardToCase)
 {
     const Items items = {{u".doc", none, 0}, {u".docx", word, 1}, {u".DOCX", other, 1}, {u".größe", other, 1}};
