@@ -158,6 +158,18 @@ std::string StoreBytes(std::uint32_t type, const CString& text, std::uint32_t co
     return stored + bytes;
 }
 
+/// Bytes with their count; nothing when there is only a count.
+std::optional<std::string> StoreBlob(const BLOB& blob)
+{
+    if (blob.cbSize > 0 && !blob.pBlobData)
+        return std::nullopt;
+    std::string stored;
+    Append(stored, std::uint32_t{VT_BLOB});
+    Append(stored, static_cast<std::uint32_t>(blob.cbSize));
+    stored.append(blob.pBlobData, blob.pBlobData + blob.cbSize);
+    return stored;
+}
+
 template <class Unit>
 CString FromUnits(const Unit* text)
 {
@@ -302,6 +314,8 @@ std::optional<std::string> StorePropertyValue(const PROPVARIANT& value, std::uin
         return value.bstrVal ? std::optional(StoreBytes(VT_BSTR, FromUnits(value.bstrVal), codePage)) : std::nullopt;
     case VT_LPWSTR:
         return value.pwszVal ? std::optional(StoreUtf16(FromUnits(value.pwszVal))) : std::nullopt;
+    case VT_BLOB:
+        return StoreBlob(value.blob);
     default:
         break;
     }

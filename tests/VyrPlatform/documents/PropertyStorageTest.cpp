@@ -152,6 +152,17 @@ TEST_F(PropertyStorage, TypesOfFixedSizeAreStoredAsTheyAre)
     EXPECT_EQ(summary[title], StoredByteText("Old title"));
 }
 
+TEST_F(PropertyStorage, BytesAreStoredWithTheirCount)
+{
+    std::uint8_t bytes[] = {0, 1, 0xFF, 0, 5};
+    PROPVARIANT blob{};
+    blob.vt = VT_BLOB;
+    blob.blob = {sizeof bytes, bytes};
+    EXPECT_EQ(Write(Place(SampleDocument()), {{100, &blob}}), Result::ok);
+    EXPECT_EQ(Summary()[100].substr(0, 13), LittleEndian(65U) + LittleEndian(5U) + std::string("\0\1\xFF\0\5", 5));
+    EXPECT_EQ(Summary()[title], StoredByteText("Old title"));
+}
+
 TEST_F(PropertyStorage, TextsOfAnyLengthFitAndTheDocumentStaysWhole)
 {
     const CompoundDocument document = SampleDocument();

@@ -153,6 +153,16 @@ TEST_F(ReplacedDocument, FlagsAndRealNumbersAreStored)
     EXPECT_EQ(Write(103, vector), Result::invalidParameter);
 }
 
+TEST_F(ReplacedDocument, BytesMayBeNoneButNotMissing)
+{
+    PROPVARIANT blob{};
+    blob.vt = VT_BLOB;
+    EXPECT_EQ(Write(101, blob), Result::ok);
+    EXPECT_EQ(Summary()[101], LittleEndian(65U) + LittleEndian(0U));
+    blob.blob.cbSize = 5;
+    EXPECT_EQ(Write(102, blob), Result::invalidParameter);
+}
+
 TEST_F(ReplacedDocument, ModeTimesAndExtendedAttributesStay)
 {
     ASSERT_EQ(chmod(native.c_str(), 0640), 0);
