@@ -57,7 +57,8 @@ public:
     /// @param clsid the handler's class id, not needed for a compound document; all zero for none.
     /// @return 1 when it was written. 0 when the document could not be opened, has no handler, has no summary
     /// information (diagnostic: "No Summary-Information.") or could not be written (diagnostic:
-    /// "IPropertyStg::WriteMultiple() failed w/error" and the result code in hexadecimal digits).
+    /// "IPropertyStg::WriteMultiple() failed w/error" and the result code in hexadecimal digits). Both end with a line
+    /// end.
     static int SetDumpProps(CString path, std::uint32_t propertyId, PROPVARIANT* value, GUID clsid);
 
 private:

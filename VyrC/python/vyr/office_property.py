@@ -75,6 +75,7 @@ def set_dump_props(path: str, property_id: int, value: Value, clsid: uuid.UUID) 
     clsid: the handler's class id, not needed for a compound document; all zero for none.
     Returns: 1 when it was written. 0 when the document could not be opened, has no handler, has no summary
     information (diagnostic: "No Summary-Information.") or could not be written (diagnostic:
-    "IPropertyStg::WriteMultiple() failed w/error" and the result code in hexadecimal digits).
+    "IPropertyStg::WriteMultiple() failed w/error" and the result code in hexadecimal digits). Both end with a line
+    end.
     """
     return call("vyr_office_property_set_dump_props", INT, (TEXT, path), (UINT32, property_id), (VALUE, value), (GUID, clsid))
