@@ -60,13 +60,14 @@ CString ParentOf(const CString& path)
     return folder.GetLength() == path.GetLength() ? CString() : VyrPlatform::GetFullPath(folder);
 }
 
-/// Whether `path`, whose last parts may not exist, is the folder `folder` or inside it.
+/// Whether `path`, whose last parts may not exist, is the folder `folder` or inside it. An empty path is the current
+/// folder.
 bool IsInside(const CString& path, const CString& folder)
 {
     const VyrPlatform::FileState wanted = VyrPlatform::LookAtFile(FileUtils::GetCombinePath(folder, u"."));
     if (wanted.error != 0)
         return false;
-    CString above = VyrPlatform::GetFullPath(path);
+    CString above = VyrPlatform::GetFullPath(path.IsEmpty() ? CString(u".") : path);
     while (!above.IsEmpty() && !FileUtils::IsFileExist(above))
         above = ParentOf(above);
     // In a real path the parent of a name is the folder in front of it, without regard to links.

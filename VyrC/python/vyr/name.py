@@ -245,7 +245,8 @@ def copy_folder(source: str, destination: str, records: Optional[ListType[Rename
     Two rules keep files safe: a link to a folder (on Windows also a junction) is copied as a link, is never entered
     and gets no record; and nothing is copied when `destination` is `source` itself or inside it.
     source: an empty path, or the path of no folder, gives 0.
-    destination: must exist when `source` directly contains files: it is created only for folders.
+    destination: must exist when `source` directly contains files: it is created only for folders. Empty: the
+    current folder.
     records: gets a record for each created folder, parents first. Never cleared. Null: nothing is recorded.
     Returns: 1 when the last copy succeeded, else 0; also 0 when there was nothing to copy. A stop does not end the
     walk.

@@ -192,6 +192,35 @@ TEST(NameFuncsFolder, DestinationInsideTheSourceGivesZeroAndChangesNothing)
     }
 }
 
+TEST(NameFuncsFolder, EmptyDestinationIsTheCurrentFolder)
+{
+    for (const Operation operation : operations) {
+        const ScratchFolder scratch;
+        scratch.WriteFile(u"from/sub/a.txt", "a");
+        const CurrentFolder current(scratch.MakeFolder(u"current"));
+        EXPECT_EQ(operation(scratch.Path(u"from"), u"", nullptr), 1);
+        EXPECT_EQ(scratch.ReadFile(u"current/sub/a.txt"), "a");
+    }
+}
+
+TEST(NameFuncsFolder, CurrentFolderInsideTheSourceIsRefusedAsAnEmptyDestination)
+{
+    for (const Operation operation : operations) {
+        const ScratchFolder scratch;
+        scratch.WriteFile(u"from/sub/a.txt", "a");
+        const auto before = Tree(scratch.Path());
+        const CurrentFolder current(scratch.Path(u"from/sub"));
+        const VyrTests::MessagePosting queue;
+        const VyrTests::EmptiedQueue emptied;
+        // A walk that has begun would never end inside its own source.
+        queue.PostWork([&scratch] { std::filesystem::current_path(VyrTests::ToStdPath(scratch.Path())); });
+        Records records;
+        EXPECT_EQ(operation(scratch.Path(u"from"), u"", &records), 0);
+        EXPECT_TRUE(records.empty());
+        EXPECT_EQ(Tree(scratch.Path()), before);
+    }
+}
+
 TEST(NameFuncsFolder, DestinationWhoseNameBeginsLikeTheSourceIsNotInside)
 {
     for (const Operation operation : operations) {
