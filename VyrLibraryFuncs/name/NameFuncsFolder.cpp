@@ -151,9 +151,19 @@ private:
         const CString from = FileUtils::GetCombinePath(m_source, entry.name);
         const CString to = FileUtils::GetCombinePath(m_destination, entry.name);
         if (entry.isFolder)
-            Enter(from, to, CreateFolderFor(from, to, m_records));
+            TransferFolder(from, to, folder.result);
         else
             TransferFile(from, to, folder.result);
+    }
+
+    void TransferFolder(const CString& from, const CString& to, int& result)
+    {
+        const bool isCreated = CreateFolderFor(from, to, m_records);
+        // A link in the destination can lead into the source.
+        if (!isCreated && IsInside(to, from))
+            result = 0;
+        else
+            Enter(from, to, isCreated);
     }
 
     void TransferFile(const CString& from, const CString& to, int& result) const

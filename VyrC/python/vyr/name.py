@@ -243,7 +243,8 @@ def copy_folder(source: str, destination: str, records: Optional[ListType[Rename
     overwrites existing files. A created folder gets the mode (on Windows the attributes) of its source.
 
     Two rules keep files safe: a link to a folder (on Windows also a junction) is copied as a link, is never entered
-    and gets no record; and nothing is copied when `destination` is `source` itself or inside it.
+    and gets no record; and nothing is copied when `destination` is `source` itself or inside it, nor from a folder
+    below `source` into which a link in `destination` leads.
     source: an empty path, or the path of no folder, gives 0.
     destination: must exist when `source` directly contains files: it is created only for folders. Empty: the
     current folder.

@@ -6,6 +6,7 @@
 #include <tests/support/CurrentFolder.h>
 #include <tests/support/EmptiedQueue.h>
 #include <tests/support/FileMoments.h>
+#include <tests/support/Links.h>
 #include <tests/support/MessagePosting.h>
 #include <tests/support/ScratchFolder.h>
 #include <tests/support/StdPath.h>
@@ -218,6 +219,31 @@ TEST(NameFuncsFolder, CurrentFolderInsideTheSourceIsRefusedAsAnEmptyDestination)
         EXPECT_EQ(operation(scratch.Path(u"from"), u"", &records), 0);
         EXPECT_TRUE(records.empty());
         EXPECT_EQ(Tree(scratch.Path()), before);
+    }
+}
+
+TEST(NameFuncsFolder, LinkInTheDestinationThatLeadsIntoTheSourceIsNotFollowed)
+{
+    for (const Operation operation : operations) {
+        const ScratchFolder scratch;
+        scratch.WriteFile(u"from/a/b/c.txt", "c");
+        scratch.MakeFolder(u"to");
+        const CString link = scratch.Path(u"to/a");
+        if (const std::string whyNot = VyrTests::MakeLink(scratch.Path(u"from/a/b"), link); !whyNot.empty())
+            GTEST_SKIP() << whyNot;
+        const auto before = Tree(scratch.Path(u"from"));
+        const VyrTests::MessagePosting queue;
+        const VyrTests::EmptiedQueue emptied;
+        // A walk that follows the link would never end.
+        for (int i = 0; i < 20; ++i)
+            queue.PostWork([&scratch, path = VyrTests::ToStdPath(link)] {
+                if (scratch.Has(u"from/a/b/b") && std::filesystem::is_symlink(path))
+                    std::filesystem::remove(path);
+            });
+        Records records;
+        EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(u"to"), &records), 0);
+        EXPECT_TRUE(records.empty());
+        EXPECT_EQ(Tree(scratch.Path(u"from")), before);
     }
 }
 
