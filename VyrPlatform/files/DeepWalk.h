@@ -10,7 +10,7 @@ namespace VyrPlatform {
 
 /// While it lives, the calling thread opens each folder above a path of 4,096 bytes or more only once, and not again
 /// for each use of such a path. They stay the same folders, even if others get their names. Has no effect on Windows.
-/// Only one object of a thread may live at a time.
+/// Walks nest: an event that is handled during a walk may begin another one, which ends before it.
 class VYR_PLATFORM_API DeepWalk
 {
 public:

@@ -13,6 +13,8 @@ thread_local FolderPins* shared = nullptr;
 struct DeepWalk::State
 {
     FolderPins pins;
+    /// Those of the walk around this one.
+    FolderPins* const outer = shared;
 };
 
 DeepWalk::DeepWalk() : m_state(std::make_unique<State>())
@@ -22,7 +24,7 @@ DeepWalk::DeepWalk() : m_state(std::make_unique<State>())
 
 DeepWalk::~DeepWalk()
 {
-    shared = nullptr;
+    shared = m_state->outer;
 }
 
 FolderPins* SharedFolderPins() noexcept

@@ -7,10 +7,13 @@
 #include <VyrPlatform/files/FolderListing.h>
 #include <VyrPlatform/files/WorkingFolder.h>
 #include <tests/support/ScratchFolder.h>
+#include <tests/support/StdPath.h>
 
 #include <climits>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <optional>
+#include <string>
 #include <vector>
 
 using namespace VyrPlatform;
@@ -73,6 +76,21 @@ TEST(DeepPath, RecreatedFoldersAreFoundAfterAWalk)
     UseDeepFolder(scratch);
     walk.reset();
     UseDeepFolder(scratch);
+}
+
+TEST(DeepPath, WalkKeepsItsFoldersThroughAWalkWithinIt)
+{
+    const ScratchFolder scratch;
+    const CString deepest = MakeDeepFolders(scratch, 2 * PATH_MAX).back();
+    const DeepWalk walk;
+    ASSERT_TRUE(FileSystem::IsFolder(deepest));
+    {
+        const DeepWalk inner;
+        ASSERT_TRUE(FileSystem::IsFolder(deepest));
+    }
+    const std::filesystem::path root = VyrTests::ToStdPath(scratch.Path());
+    std::filesystem::rename(root / std::string(120, 'd'), root / "renamed");
+    EXPECT_TRUE(FileSystem::IsFolder(deepest)) << "an open folder keeps its old path";
 }
 
 TEST(DeepPath, FilesAreReadWhereADeepFolderIsTheWorkingFolder)
