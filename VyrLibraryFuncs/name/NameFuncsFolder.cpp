@@ -8,6 +8,7 @@
 #include <VyrPlatform/files/DeepWalk.h>
 #include <VyrPlatform/files/FileCopy.h>
 #include <VyrPlatform/files/FileIdentity.h>
+#include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/files/FullPath.h>
 #include <VyrPlatform/process/MessageQueue.h>
 
@@ -159,8 +160,8 @@ private:
     void TransferFolder(const CString& from, const CString& to, int& result)
     {
         const bool isCreated = CreateFolderFor(from, to, m_records);
-        // A link in the destination can lead into the source.
-        if (!isCreated && IsInside(to, from))
+        // Only a link can lead from the destination, which is not inside the source, into it.
+        if (!isCreated && VyrPlatform::FileSystem::Query(to).isLink && IsInside(to, from))
             result = 0;
         else
             Enter(from, to, isCreated);
