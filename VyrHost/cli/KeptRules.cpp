@@ -64,7 +64,7 @@ std::vector<CString> NamesOfKeptRules()
     std::vector<CString> names;
     VyrPlatform::FolderListing listing(KeptRulesFolder());
     while (listing.Next()) {
-        const CString name = listing.Name();
+        const CString& name = listing.Name();
         if (name.View().ends_with(ending) && name.View().size() > ending.size() && listing.Kind() == Kind::File)
             names.push_back(name.Left(name.GetLength() - static_cast<int>(ending.size())));
     }

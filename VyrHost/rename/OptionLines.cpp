@@ -11,7 +11,7 @@ namespace VyrHost::Rename {
 
 namespace {
 
-constexpr std::size_t longestText = 1024 * 1024;
+constexpr std::size_t longestText = 1'048'576;
 constexpr std::string_view blanks = " \t";
 
 std::string_view TakeLine(std::string_view& text)
@@ -44,7 +44,7 @@ std::string TakeWord(std::string_view& line, std::size_t number)
     if (line.starts_with('"'))
         return TakeQuoted(line, number);
     const std::size_t end = std::min(line.find_first_of(blanks), line.size());
-    const std::string word(line.substr(0, end));
+    std::string word(line.substr(0, end));
     line.remove_prefix(end);
     return word;
 }
