@@ -267,7 +267,8 @@ public:
     ///
     /// Two rules keep files safe: a link to a folder (on Windows also a junction) is copied as a link, is never entered
     /// and gets no record; and nothing is copied when `destination` is `source` itself or inside it, nor from a folder
-    /// below `source` into which a link in `destination` leads.
+    /// below `source` into which a link in `destination` leads. On Linux a destination with a ".." step behind a folder
+    /// that does not exist counts as inside.
     /// @param source  an empty path, or the path of no folder, gives 0.
     /// @param destination  must exist when `source` directly contains files: it is created only for folders. Empty: the
     /// current folder.

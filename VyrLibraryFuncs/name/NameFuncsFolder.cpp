@@ -69,8 +69,12 @@ bool IsInside(const CString& path, const CString& folder)
     if (wanted.error != 0)
         return false;
     CString above = VyrPlatform::GetFullPath(path.IsEmpty() ? CString(u".") : path);
-    while (!above.IsEmpty() && !FileUtils::IsFileExist(above))
+    while (!above.IsEmpty() && !FileUtils::IsFileExist(above)) {
+        // Out of a folder that is still to be created, the way may lead anywhere.
+        if (FileUtils::GetSplitFileName(above) == u"..")
+            return true;
         above = ParentOf(above);
+    }
     // In a real path the parent of a name is the folder in front of it, without regard to links.
     if (const CString real = VyrPlatform::GetRealPath(above); !real.IsEmpty())
         above = real;

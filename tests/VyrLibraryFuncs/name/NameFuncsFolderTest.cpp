@@ -26,6 +26,7 @@
 #include <vector>
 
 using VyrLibraryFuncs::NameFuncs;
+using VyrTests::CurrentFolder;
 using VyrTests::ScratchFolder;
 
 namespace {
@@ -89,7 +90,7 @@ TEST(NameFuncsFolder, EmptySourcePathIsNotTheCurrentFolder)
     const ScratchFolder scratch;
     scratch.WriteFile(u"current/sub/a.txt", "a");
     // A fault can then only harm this folder.
-    const VyrTests::CurrentFolder current(scratch.Path(u"current"));
+    const CurrentFolder current(scratch.Path(u"current"));
     const auto before = Tree(scratch.Path());
     for (const Operation operation : operations) {
         Records records;
@@ -184,7 +185,7 @@ TEST(NameFuncsFolder, DestinationInsideTheSourceGivesZeroAndChangesNothing)
         scratch.WriteFile(u"from/sub/a.txt", "a");
         const auto before = Tree(scratch.Path());
         for (const char16_t* const inside :
-             {u"from/to", u"from/sub", u"from/sub/x/y", u"from/../from/to", u"from/sub/.."}) {
+             {u"from/to", u"from/sub", u"from/sub/x/y", u"from/../from/to", u"from/sub/..", u"new/../from/x"}) {
             Records records;
             EXPECT_EQ(operation(scratch.Path(u"from"), scratch.Path(inside), &records), 0);
             EXPECT_TRUE(records.empty());
