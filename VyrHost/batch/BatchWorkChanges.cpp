@@ -156,7 +156,7 @@ Outcome ChangeWork::Perform(std::size_t index, Direction direction)
     const Model::Change& change = *m_journal.changes[index].change;
     const CString path = PathOf(index);
     m_looks[index] = change.Look(path);
-    const Outcome foreseen = Foresee(index, direction);
+    Outcome foreseen = Foresee(index, direction);
     if (foreseen.status != Status::Done || m_looks[index].state == GoalOf(direction))
         return foreseen;
     const std::uint32_t error = direction == Direction::Forward ? change.Apply(path) : change.Undo(path);
