@@ -7,8 +7,10 @@
 #include <VyrLibraryUtils/ImageUtils.h>
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/files/ExactState.h>
+#include <VyrPlatform/files/FileAttributes.h>
 #include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/files/FileReader.h>
+#include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/time/Epochs.h>
 
 #include <algorithm>
@@ -235,6 +237,8 @@ Proposal TimesRule::Propose(const CString& path, const Model::Entry& entry, std:
     std::erase_if(steps, [](const TimeStep& step) { return step.before == step.after; });
     if (steps.empty())
         return {};
+    if (VyrPlatform::FileAttributes::IsReadOnly(path) && !VyrPlatform::FileSystem::IsFolder(path))
+        return {nullptr, u"it is read-only"};
     return {std::make_shared<TimesChange>(std::move(steps), file), {}};
 }
 
