@@ -9,7 +9,7 @@
 
 namespace VyrTests {
 
-/// The words of a command line, the program's name first. Its only quotes are double ones.
+/// The words of a command line, the program's name first. Quotes are single or double ones.
 [[nodiscard]] std::vector<CString> WordsOf(const std::string& commandLine);
 
 } // namespace VyrTests
