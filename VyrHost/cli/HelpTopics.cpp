@@ -158,7 +158,8 @@ first change, and nothing is ever overwritten.
   vyr undo --list   lists the batches with their numbers
   vyr undo 3        undoes batch 3, or redoes it by the number of its undo
   vyr recover       ends a batch that was cut off (power loss, kill)
-Files that were changed since stay as they are, and their rows say so.
+A file that was written to since gets its old name back all the same; times,
+attributes, marks and properties that were changed since stay. The rows say so.
 
 Exit codes:
   0    all is done, or can be done
