@@ -99,7 +99,7 @@ private:
         const std::u16string_view token = Take(m_hasEnd ? end + 1 : 1);
         if (m_hasEnd && !IsKnown(token, dateTokens))
             Refuse({"it knows no ", Text::SafeText(token), ", only ", ListOf(dateTokens),
-                    "; text goes in apostrophes, such as '", Text::SafeText(token), "'"});
+                    "; --name knows others; text goes in apostrophes, such as '", Text::SafeText(token), "'"});
     }
 
     void CheckPlain(std::u16string_view text) const
@@ -172,7 +172,8 @@ void RequireNumberTokens(std::u16string_view text)
         const auto* const token = std::get_if<Text::Token>(&part);
         if (token && token->IsBareWord() && !IsKnown(token->whole, numberTokens))
             Text::RefuseValue("--number", text,
-                              "it knows no " + Text::SafeText(token->whole) + ", only " + ListOf(numberTokens));
+                              "it knows no " + Text::SafeText(token->whole) + ", only " + ListOf(numberTokens) +
+                                  "; --name knows others, \"vyr help tokens\" has them");
     }
 }
 
@@ -182,7 +183,10 @@ void RequireNameText(std::u16string_view text, const char* option)
         return unit == 0 || VyrPlatform::FileSystem::IsSeparator(unit);
     };
     if (std::any_of(text.begin(), text.end(), isBad))
-        Text::RefuseValue(option, text, "a name cannot hold a folder separator or a NUL");
+        Text::RefuseValue(
+            option, text,
+            "a name cannot hold a folder separator or a NUL; in --date and --name, <Folder> ends the name of "
+            "a folder to move into");
 }
 
 } // namespace VyrHost::Rename

@@ -145,7 +145,10 @@ TEST_F(BadInput, LettersAndTokensThatMeanNothing)
     ExpectRefused({u"--date", u"YYYY-MM-DD", u"a"}, "no part of a date is called Y; yyyy-MM-dd");
     ExpectRefused({u"--date", u"%Y", u"a"}, "a percent sign is text here");
     ExpectRefused({u"--date", u"yyyy <Mkae>", u"a"}, "it knows no <Mkae>, only <Name>");
+    ExpectRefused({u"--date", u"yyyy <Parent>", u"a"}, "; --name knows others;");
+    ExpectRefused({u"--date", u"yyyy/MM", u"a"}, "folder separator or a NUL; in --date and --name, <Folder> ends");
     ExpectRefused({u"--number", u"<Nmae> #", u"a"}, "it knows no <Nmae>, only <Name>, <Number>");
+    ExpectRefused({u"--number", u"<Parent> #", u"a"}, "; --name knows others, \"vyr help tokens\" has them");
 }
 
 TEST_F(BadInput, UnknownWords)
