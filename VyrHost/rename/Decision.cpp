@@ -74,7 +74,7 @@ std::u16string_view WordsFor(Reason reason)
     case Reason::CompanionRefused:
         return u"a file that it belongs to cannot get its name";
     case Reason::NewLoneSurrogate:
-        return u"the new name would hold half a character";
+        return u"the new name would hold half a character, or a byte that is not UTF-8";
     case Reason::DotName:
         return u"the new name would be . or ..";
     case Reason::ForbiddenCharacter:

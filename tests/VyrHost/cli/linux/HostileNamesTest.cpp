@@ -47,6 +47,15 @@ TEST_F(HostileNames, BytesThatAreNotUtf8AreKept)
     EXPECT_TRUE(m_folder.Has(u"a\xDCFF\xDC80é"));
 }
 
+TEST_F(HostileNames, AListThatIsNotInUtf8IsToldByTheBytesThatItWouldPutIn)
+{
+    m_folder.WriteFile(u"a");
+    const ProgramResult result = Rename({u"--pairs", u"-"}, "a,B\xe9\n");
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.output,
+                HasSubstr("refused: the new name would hold half a character, or a byte that is not UTF-8"));
+}
+
 TEST_F(HostileNames, NamesOf255BytesAreRenamedAndLongerOnesRefused)
 {
     m_folder.WriteFile(CString(u'a', 255));
