@@ -55,7 +55,7 @@ int ChangeCommand::Run() const
     const ReportStyle style = m_run.Read();
     const std::unique_ptr<const Metadata::ChangeRule> rule = ReadRule();
     if (!m_sources.NamesAny())
-        throw Text::UsageError("no file is named");
+        throw Text::UsageError("no file is named; -r . takes those in this folder and below");
     if (!rule)
         return ShowFiles(style);
     RefuseListOptions();

@@ -223,7 +223,7 @@ int PropertiesCommand::Run() const
     m_records.Check();
     const Collect::SourceSettings sources = m_sources.Read();
     if (!m_sources.NamesAny())
-        throw Text::UsageError("no document is named");
+        throw Text::UsageError("no document is named; -r . takes those in this folder and below");
     return isChange ? Change(sources) : Show(sources);
 }
 

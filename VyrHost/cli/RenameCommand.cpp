@@ -197,7 +197,7 @@ RenameRequest RenameCommand::Read() const
     request.page = m_page.IsAskedFor() ? &m_page : nullptr;
     CheckOptionPairs(m_command, exclusive, dependent);
     if (!m_pairs && !m_sources.NamesAny() && !m_rules.Keeps())
-        throw Text::UsageError("nothing to rename is named");
+        throw Text::UsageError("nothing to rename is named; -r . takes the files in this folder and below");
     request.sources = m_sources.Read();
     if (m_pairs)
         request.pairs = FromParser(*m_pairs);

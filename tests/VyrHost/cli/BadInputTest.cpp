@@ -151,6 +151,12 @@ TEST_F(BadInput, LettersAndTokensThatMeanNothing)
     ExpectRefused({u"--number", u"<Parent> #", u"a"}, "; --name knows others, \"vyr help tokens\" has them");
 }
 
+TEST_F(BadInput, ARuleWithoutAPath)
+{
+    ExpectRefused({u"--prefix", u"x", u"--recursive"}, "named; -r . takes the files in this folder and below");
+    EXPECT_THAT(Run({u"properties"}).errors, HasSubstr("no document is named; -r . takes those"));
+}
+
 TEST_F(BadInput, UnknownWords)
 {
     WriteNamed({u"a"});

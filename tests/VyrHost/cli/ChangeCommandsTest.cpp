@@ -245,7 +245,7 @@ TEST_F(ChangeCommands, WrongCallsAreRefusedAndChangeNothing)
         {{u"times", u"--shift=1x", u"a", u"--apply"}, "numbers with units are expected"},
         {{u"times", u"--start=2024-01-01", u"a", u"--apply"}, "--start changes nothing without --stagger"},
         {{u"times", u"--stagger=1m", u"--start=10:30", u"a"}, "a date or a date-time is expected"},
-        {{u"times"}, "no file is named"},
+        {{u"times", u"-r"}, "no file is named; -r . takes those in this folder and below"},
         {{u"times", u"--csv", u"--json", u"a"}, "exclude each other"},
         {{u"times", u"--columns=weight", u"a"}, "the columns are name, path,"},
         {{u"times", u"--shift=1h", u"--csv", u"a", u"--apply"}, "--csv is for lists"},
