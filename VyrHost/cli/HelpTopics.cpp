@@ -139,7 +139,9 @@ Examples:
 constexpr const char* const choosingGroups[] = {OptionGroup::sources, OptionGroup::choice, OptionGroup::order};
 
 constexpr const char* choosingText =
-    R"~(Choosing ignores upper and lower case unless --match-case is given. All commands
+    R"~(--together takes no file along that is not among the given ones: name them all,
+such as IMG_1.* or -r .
+Choosing ignores upper and lower case unless --match-case is given. All commands
 that take files have these options, but for the order of numbers.
 
 Examples:
