@@ -102,7 +102,7 @@ struct TimesSettings
 /// Computes the new times of a file. Local times become the instant at which clocks show them, with the offset from UTC
 /// of their own date; one that clocks skip is refused. A time from another time of the file is copied exactly. When it
 /// is shifted, or gets another date, its fraction of a second is kept, and in an hour that exists twice its offset from
-/// UTC. A read-only file is refused, as the system refuses it when the times are written.
+/// UTC. A read-only file is refused, as it is when the times are written.
 class TimesRule final : public ChangeRule
 {
 public:

@@ -7,10 +7,8 @@
 #include <VyrLibraryUtils/ImageUtils.h>
 #include <VyrPlatform/WinTypes.h>
 #include <VyrPlatform/files/ExactState.h>
-#include <VyrPlatform/files/FileAttributes.h>
 #include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/files/FileReader.h>
-#include <VyrPlatform/files/FileSystem.h>
 #include <VyrPlatform/time/Epochs.h>
 
 #include <algorithm>
@@ -209,6 +207,7 @@ Proposal TimesRule::Propose(const CString& path, const Model::Entry& entry, std:
 {
     std::vector<TimeStep> steps;
     std::optional<VyrPlatform::FileIdentity> file;
+    bool isReadOnly = false;
     try {
         for (const FileDate date : fileDates) {
             const auto& source = m_settings.sources[static_cast<std::size_t>(date)];
@@ -230,6 +229,7 @@ Proposal TimesRule::Propose(const CString& path, const Model::Entry& entry, std:
             step.before = before->ticks;
             step.beforeState = std::move(before->state);
             file = before->file;
+            isReadOnly = before->isReadOnly;
         }
     } catch (const Refusal& refusal) {
         return {nullptr, refusal.reason};
@@ -237,7 +237,7 @@ Proposal TimesRule::Propose(const CString& path, const Model::Entry& entry, std:
     std::erase_if(steps, [](const TimeStep& step) { return step.before == step.after; });
     if (steps.empty())
         return {};
-    if (VyrPlatform::FileAttributes::IsReadOnly(path) && !VyrPlatform::FileSystem::IsFolder(path))
+    if (isReadOnly)
         return {nullptr, u"it is read-only"};
     return {std::make_shared<TimesChange>(std::move(steps), file), {}};
 }

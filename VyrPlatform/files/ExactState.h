@@ -37,6 +37,8 @@ struct TimeState
     CString state;
     /// The file itself, where the same look tells it (on Linux).
     std::optional<FileIdentity> file;
+    /// A file (no folder) that is protected against writing: on Linux by its mode, on Windows by its attribute.
+    bool isReadOnly = false;
 };
 
 /// The time `part` (not Attributes) of the file or folder at `path`, and its exact state, both of one look.

@@ -173,20 +173,23 @@ std::optional<TimeState> ReadTime(const CString& path, Part part, std::uint32_t&
 {
     const NativePath nativePath(path);
     struct statx status;
-    if (!AskStatus(nativePath, 0, STATX_INO | STATX_MTIME | STATX_ATIME | STATX_BTIME, status)) {
+    if (!AskStatus(nativePath, 0, STATX_TYPE | STATX_MODE | STATX_INO | STATX_MTIME | STATX_ATIME | STATX_BTIME,
+                   status)) {
         error = static_cast<std::uint32_t>(errno);
         return std::nullopt;
     }
+    const bool isReadOnly = !S_ISDIR(status.stx_mode) && !(status.stx_mode & S_IWUSR);
     if (part == Part::Created) {
         const auto created = CreatedOf(nativePath, status);
         error = static_cast<std::uint32_t>(created.error);
         if (!created.value)
             return std::nullopt;
         return TimeState{*created.value, Encoding::FromUtf8(ToText(ReadKept(nativePath, Extended::ntfsCreatedName))),
-                         IdentityOf(status)};
+                         IdentityOf(status), isReadOnly};
     }
     const struct statx_timestamp& time = part == Part::Modified ? status.stx_mtime : status.stx_atime;
-    return TimeState{ToTicks(time), Encoding::FromUtf8(ToTimeText({time.tv_sec, time.tv_nsec})), IdentityOf(status)};
+    return TimeState{ToTicks(time), Encoding::FromUtf8(ToTimeText({time.tv_sec, time.tv_nsec})), IdentityOf(status),
+                     isReadOnly};
 }
 
 std::uint32_t Restore(const CString& path, Part part, const CString& state)

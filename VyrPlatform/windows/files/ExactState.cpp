@@ -51,15 +51,18 @@ std::optional<CString> Read(const CString& path, Part part, std::uint32_t& error
 std::optional<TimeState> ReadTime(const CString& path, Part part, std::uint32_t& error)
 {
     const Handle file = OpenEntry(LongPath(path), FILE_READ_ATTRIBUTES, Links::Follow);
-    FILETIME created;
-    FILETIME accessed;
-    FILETIME modified;
-    if (!file.IsOpen() || !GetFileTime(file.Get(), &created, &accessed, &modified)) {
+    FILE_BASIC_INFO information;
+    if (!file.IsOpen() || !GetFileInformationByHandleEx(file.Get(), FileBasicInfo, &information, sizeof information)) {
         error = GetLastError();
         return std::nullopt;
     }
     TimeState time;
-    time.ticks = ToTicks(part == Part::Created ? created : part == Part::Accessed ? accessed : modified);
+    time.ticks = (part == Part::Created    ? information.CreationTime
+                  : part == Part::Accessed ? information.LastAccessTime
+                                           : information.LastWriteTime)
+                     .QuadPart;
+    time.isReadOnly =
+        (information.FileAttributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) == FILE_ATTRIBUTE_READONLY;
     time.state.Format(u"%d", time.ticks);
     return time;
 }

@@ -77,6 +77,21 @@ TEST(ExactState, TimeIsToldWithItsState)
     }
 }
 
+TEST(ExactState, TimeIsToldWithTheProtectionOfAFileButNotOfAFolder)
+{
+    const ScratchFolder scratch;
+    for (const CString& path : {scratch.WriteFile(u"a", "x"), scratch.MakeFolder(u"folder")})
+        for (const bool isReadOnly : {true, false}) {
+            VyrTests::SetReadOnly(path, isReadOnly);
+            for (const Part part : {Part::Modified, Part::Accessed, Part::Created}) {
+                std::uint32_t error = 0;
+                const auto time = VyrPlatform::ExactState::ReadTime(path, part, error);
+                ASSERT_TRUE(time) << error;
+                EXPECT_EQ(time->isReadOnly, isReadOnly && path.View().ends_with(u'a'));
+            }
+        }
+}
+
 TEST(ExactState, TimeOfAReadOnlyFileIsRestored)
 {
     const ScratchFolder scratch;
