@@ -228,9 +228,13 @@ private:
             ++m_result.leftOut;
             return;
         }
-        if (record.owner != Model::noEntry)
-            throw Text::UsageError("'" + Text::SafeText(CString::Join({List().folders[folder].shown, record.name})) +
-                                   "' is named twice");
+        if (record.owner != Model::noEntry) {
+            if (m_settings.areNames)
+                throw Text::UsageError("'" +
+                                       Text::SafeText(CString::Join({List().folders[folder].shown, record.name})) +
+                                       "' is named twice");
+            return;
+        }
         record.owner = static_cast<std::uint32_t>(List().entries.size());
         List().entries.push_back({record.name, folder, record.kind});
     }

@@ -38,7 +38,7 @@ struct SourceSettings
     /// A folder means the entries below it instead of itself. Links to folders are not followed.
     bool recursive = false;
     Pick pick = Pick::Files;
-    /// The paths have no wildcards: all characters are literal.
+    /// The paths have no wildcards: all characters are literal. Each names another entry.
     bool areNames = false;
     /// How deep recursion goes: 1 takes what is in a named folder itself. Any depth when not given.
     std::optional<int> maxDepth;
@@ -60,11 +60,12 @@ struct CollectedEntries
 };
 
 /// The entries in the order given. Recursion gives the files of a folder and then those of its subfolders, each in
-/// natural order. A path that does not exist is an entry of kind Missing.
+/// natural order. An entry that is named again stays where it was named first. A path that does not exist is an entry
+/// of kind Missing.
 ///
 /// The kind of an entry comes from the listing of its folder, which is read once, however many entries it has.
-/// @throws UsageError when an entry is named twice, is inside a folder that is named too, or cannot be one (a root,
-/// "..").
+/// @throws UsageError when an entry is inside a folder that is named too, or cannot be one (a root, ".."), and where
+/// one of `areNames` is named twice.
 [[nodiscard]] CollectedEntries CollectEntries(const SourceSettings& settings);
 
 } // namespace VyrHost::Collect

@@ -123,8 +123,8 @@ TEST_F(RenamePreview, RefusesWrongCallsWithTheReason)
           Case{{u"--number", u"#", u"--start", u"1", u"--start", u"2", u"a"}, "twice"},
           Case{{u"--number", u"#", u"--digits", u"256", u"a"}, "255"},
           Case{{u"--number", u"#", u"--start", u"4000000000", u"a"}, "4000000000"},
-          Case{{u"--case", u"upper", u"a", u"a"}, "twice"}, Case{{u"--prefix", u"", u"a"}, "--prefix"},
-          Case{{u"a", u"--prefix"}, "--prefix"}, Case{{u"--replace", u"x"}, "--replace"}}) {
+          Case{{u"--prefix", u"", u"a"}, "--prefix"}, Case{{u"a", u"--prefix"}, "--prefix"},
+          Case{{u"--replace", u"x"}, "--replace"}}) {
         const ProgramResult result = Rename(arguments);
         EXPECT_EQ(result.exitCode, 2) << result.output;
         EXPECT_THAT(result.output, IsEmpty());

@@ -117,16 +117,27 @@ TEST_F(CollectingEntries, WildcardsMatchNames)
     EXPECT_EQ(Paths(Named({u"?.jpeg"})), (Strings{"b.jpeg"}));
 }
 
-TEST_F(CollectingEntries, NamingSomethingTwiceIsRefused)
+TEST_F(CollectingEntries, AnEntryNamedAgainStaysWhereItWasNamedFirst)
 {
-    m_folder.WriteFile(u"d/a");
-    EXPECT_THROW((void)CollectEntries(Named({u"d/a", u"d/a"})), UsageError);
-    EXPECT_THROW((void)CollectEntries(Named({u"d/a", u"d/./a"})), UsageError);
-    EXPECT_THROW((void)CollectEntries(Named({u"d/a", u"d/*"})), UsageError);
+    for (const char16_t* const name : {u"d/a", u"d/b", u"c"})
+        m_folder.WriteFile(name);
+    for (const char16_t* const again : {u"d/b", u"d/./b", u"d/../d/b", u"d/b*"})
+        EXPECT_EQ(Paths(Named({u"d/b", again, u"d/a", again})), (Strings{"d/b", "d/a"}));
+    EXPECT_EQ(Paths(Named({u"d/b", u"d/*"})), (Strings{"d/b", "d/a"}));
     SourceSettings settings = Named({u"d"});
     settings.paths.push_back(m_folder.Path());
     settings.recursive = true;
-    EXPECT_THROW((void)CollectEntries(settings), UsageError);
+    EXPECT_EQ(Paths(settings), (Strings{"d/a", "d/b", "c"}));
+}
+
+TEST_F(CollectingEntries, ANameThatStandsForAnEntryOfItsOwnIsRefusedAgain)
+{
+    m_folder.WriteFile(u"d/a");
+    for (const char16_t* const again : {u"d/a", u"d/./a"}) {
+        SourceSettings settings = Named({u"d/a", again});
+        settings.areNames = true;
+        EXPECT_THROW((void)CollectEntries(settings), UsageError);
+    }
 }
 
 TEST_F(CollectingEntries, NamingAFolderAndOneOfItsEntriesIsRefused)
