@@ -22,7 +22,8 @@ constexpr ContentKind kinds[] = {
     {u"png", u"apng"},
     {u"gif", u""},
     {u"bmp", u"dib"},
-    {u"tif", u"tiff"},
+    // Raw pictures of many makers look like any other.
+    {u"tif", u"tiff 3fr arw dcr dng erf fff gpr iiq k25 kdc mef mos nef nrw pef ptx raw sr2 srf srw"},
     {u"webp", u""},
     {u"heic", u"heif hif"},
     {u"avif", u"avifs"},
@@ -81,7 +82,7 @@ constexpr ContentKind kinds[] = {
     {u"au", u"snd"},
     // Documents.
     {u"pdf", u"ai"},
-    {u"ps", u""},
+    {u"ps", u"pfa"},
     {u"eps", u"epsf ai"},
     {u"rtf", u"doc"},
     {u"html", u"htm xhtml shtml"},

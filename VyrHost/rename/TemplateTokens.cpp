@@ -170,7 +170,10 @@ void RequireNumberTokens(std::u16string_view text)
 {
     for (const Text::TemplatePart& part : Text::CutTemplate(text)) {
         const auto* const token = std::get_if<Text::Token>(&part);
-        if (token && token->IsBareWord() && !IsKnown(token->whole, numberTokens))
+        if (!token)
+            continue;
+        const bool isMeant = token->IsBareWord() || token->option || token->otherwise || !token->changes.empty();
+        if (isMeant && !IsKnown(token->whole, numberTokens))
             Text::RefuseValue("--number", text,
                               "it knows no " + Text::SafeText(token->whole) + ", only " + ListOf(numberTokens) +
                                   "; --name knows others, \"vyr help tokens\" has them");

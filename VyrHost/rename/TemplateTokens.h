@@ -41,8 +41,8 @@ void RequireDateOption(std::u16string_view format, const char* option, std::u16s
 /// are. No token may hold "SSS".
 [[nodiscard]] std::vector<std::u16string_view> CutAtMilliseconds(std::u16string_view format);
 
-/// Refuses a sequence number's template with a word in angle brackets that is no token: "<Nmae> ###". "<", and "<" with
-/// anything but ASCII letters up to the ">", is text.
+/// Refuses a sequence number's template with a word in angle brackets that is no token ("<Nmae> ###"), also with what
+/// only --name understands behind it ("<Name:3>", "<Name|upper>"). Any other "<" is text.
 void RequireNumberTokens(std::u16string_view text);
 
 /// Throws UsageError when `text`, given with `option`, could not be a part of a name.

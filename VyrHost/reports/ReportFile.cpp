@@ -28,6 +28,8 @@ void CheckNewFile(const CString& path)
 
 void CheckReportFile(const CString& path, bool mayReplace)
 {
+    if (path == u"-")
+        Text::RefuseValue(option, path, "a page is written to a file; ./- is one of that name");
     switch (FileSystem::Query(path).kind) {
     case FileSystem::Kind::Missing:
         CheckNewFile(path);

@@ -149,6 +149,8 @@ TEST_F(BadInput, LettersAndTokensThatMeanNothing)
     ExpectRefused({u"--date", u"yyyy/MM", u"a"}, "folder separator or a NUL; in --date and --name, <Folder> ends");
     ExpectRefused({u"--number", u"<Nmae> #", u"a"}, "it knows no <Nmae>, only <Name>, <Number>");
     ExpectRefused({u"--number", u"<Parent> #", u"a"}, "; --name knows others, \"vyr help tokens\" has them");
+    for (const char16_t* const more : {u"<Name:3> #", u"<Name?x> #", u"<Name|upper> #", u"<5:2> #"})
+        ExpectRefused({u"--number", more, u"a"}, "; --name knows others");
 }
 
 TEST_F(BadInput, ARuleWithoutAPath)

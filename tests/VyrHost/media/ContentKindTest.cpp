@@ -282,6 +282,19 @@ TEST(ContentKinds, SeveralExtensionsMaySuitAKind)
         EXPECT_FALSE(kind->MayHave(suffix));
 }
 
+TEST(ContentKinds, RawPicturesAndFontsThatLookLikeOtherKindsAreRightAsTheyAre)
+{
+    const auto mayHave = [](const Bytes& bytes, const char16_t* suffix) {
+        VyrLibraryUtils::Pictures::MemorySource source(bytes);
+        const ContentKind* const kind = KindOfContent(source);
+        return kind && kind->MayHave(suffix);
+    };
+    for (const char16_t* const suffix : {u"TIFF", u"iiq", u"3FR", u"srw", u"nef"})
+        EXPECT_TRUE(mayHave(BuildTiff(PictureFacts{}), suffix));
+    EXPECT_FALSE(mayHave(BuildTiff(PictureFacts{}), u"cr2")) << "one has a mark of its own";
+    EXPECT_TRUE(mayHave("%!PS-AdobeFont-1.0: Sample\n", u"pfa"));
+}
+
 TEST(ContentKinds, FilesThatCannotBeReadGiveTheSystemsCode)
 {
     const ScratchFolder folder;

@@ -92,6 +92,7 @@ TEST(ReportFile, PathWithoutANameIsRefused)
         EXPECT_THROW(CheckReportFile(folder.Path() + u"/missing" + end, true), UsageError)
             << VyrPlatform::Encoding::ToUtf8(end);
     EXPECT_THROW(CheckReportFile(u"", true), UsageError);
+    EXPECT_THROW(CheckReportFile(u"-", true), UsageError) << "it is no file for other programs";
 }
 
 TEST(ReportFile, LinkStaysAndItsTargetIsReplaced)
