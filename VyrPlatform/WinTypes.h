@@ -40,7 +40,7 @@ struct _FILETIME // NOLINT(bugprone-reserved-identifier): the system's own tag
 };
 using FILETIME = _FILETIME;
 
-/// A number that is unique in the world: of a class, an interface, a property set.
+/// A globally unique id: of a class, an interface, a property set.
 struct _GUID // NOLINT(bugprone-reserved-identifier): the system's own tag
 {
     std::uint32_t Data1;
@@ -83,7 +83,7 @@ enum VARENUM : VARTYPE
     VT_CLSID = 72
 };
 
-/// A count of bytes and where they stand.
+/// A count of bytes and their address.
 struct tagBLOB
 {
     std::uint32_t cbSize;
@@ -98,8 +98,7 @@ union ULARGE_INTEGER {
     std::uint64_t QuadPart;
 };
 
-/// A value of the type `vt`, which tells the member of the union that holds it. Of the system's members these are the
-/// ones that a document property can have.
+/// A value of the type `vt`, which selects the member of the union. Only the members that a document property can have.
 struct tagPROPVARIANT
 {
     VARTYPE vt;

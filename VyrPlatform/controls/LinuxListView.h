@@ -25,7 +25,7 @@ public:
     /// The argument for CListCtrl::Attach. No other list ever has the same handle.
     [[nodiscard]] HWND GetHandle() const noexcept;
 
-    /// Inserts a column with `heading` at `index`, and at the position of the same number; columns at and behind it
+    /// Inserts a column with `heading` at `index`, and at the position of the same number; columns at and after it
     /// move by one. An index past the end appends it.
     /// @return whether it was inserted: false for a negative `index`.
     bool InsertColumn(int index, const CString& heading);

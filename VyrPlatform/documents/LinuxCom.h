@@ -86,7 +86,7 @@ protected:
 /// A copy of `text`; null for a null pointer, and when there is no memory.
 [[nodiscard]] VYR_PLATFORM_API BSTR SysAllocString(const OLECHAR* text) noexcept;
 VYR_PLATFORM_API void SysFreeString(BSTR text) noexcept;
-/// In code units, without the NUL behind the text.
+/// In code units, without the NUL after the text.
 [[nodiscard]] VYR_PLATFORM_API unsigned SysStringLen(BSTR text) noexcept;
 
 /// A value with its type.

@@ -66,7 +66,7 @@ public:
     /// @param error  gets cause, error code and path on failure; may be null.
     /// @return nonzero when the file is open.
     virtual int Open(const char16_t* name, std::uint32_t flags, CFileException* error = nullptr);
-    /// Moves the position of the next read or write; it may be behind the end.
+    /// Moves the position of the next read or write; it may be past the end.
     /// @param origin  one of SeekPosition.
     /// @return the new position, in bytes from the beginning.
     /// @throws CFileException  the position would be before the beginning, among other reasons.

@@ -69,7 +69,7 @@ public:
     /// Writes all of `bytes`.
     /// @return 0, else the system's error code; a part may then have been written.
     [[nodiscard]] std::uint32_t Write(std::span<const std::byte> bytes) noexcept;
-    /// Moves the position to `offset` bytes from `origin`; it may be behind the end.
+    /// Moves the position to `offset` bytes from `origin`; it may be past the end.
     /// @param place  gets the new position, from the beginning; unchanged when the system fails.
     /// @return 0, else the system's error code, also for a position before the beginning.
     [[nodiscard]] std::uint32_t Seek(std::int64_t offset, Origin origin, std::uint64_t& place) noexcept;

@@ -21,7 +21,7 @@ public:
 
     /// Adds `work`, to be run by a drain on the queue's own thread; an empty function does nothing there. Any thread
     /// may call this. The work may post and drain. An exception of the work leaves the drain that runs it; the work
-    /// behind it stays in the queue.
+    /// after it stays in the queue.
     void Post(std::function<void()> work) const;
     /// Requests the queue's thread to stop, after the work posted before.
     void PostStop() const;

@@ -1,5 +1,5 @@
 /// @file
-/// What the memory of this process is for.
+/// The access rights of this process's memory.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -11,7 +11,7 @@ namespace VyrPlatform::MemoryMap {
 
 /// Whether the `size` bytes at `address` can be read. They must not extend over two areas of memory.
 [[nodiscard]] VYR_PLATFORM_API bool IsReadable(std::uintptr_t address, std::size_t size);
-/// Whether a function can stand at `address`.
+/// Whether `address` may be that of a function.
 [[nodiscard]] VYR_PLATFORM_API bool IsCode(std::uintptr_t address);
 
 } // namespace VyrPlatform::MemoryMap

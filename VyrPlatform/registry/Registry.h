@@ -113,7 +113,7 @@ struct ReadResult
     std::uint32_t byteCount = 0;
 };
 
-/// Reads the value `name` (empty: the default value) of `key` into `buffer`. The bytes of `buffer` behind the value may
+/// Reads the value `name` (empty: the default value) of `key` into `buffer`. The bytes of `buffer` after the value may
 /// change.
 /// @param buffer at least one byte.
 /// @return Error::moreData when the value does not fit: `buffer` then has unspecified content.

@@ -75,7 +75,7 @@ public:
 
     [[nodiscard]] int GetLength() const noexcept { return m_buffer ? static_cast<int>(m_buffer->length) : 0; }
     [[nodiscard]] bool IsEmpty() const noexcept { return m_buffer == nullptr; }
-    /// The text with a NUL behind it; never a null pointer.
+    /// The text with a NUL after it; never a null pointer.
     [[nodiscard]] const char16_t* GetString() const noexcept { return m_buffer ? m_buffer->Text() : u""; }
     operator std::u16string_view() const noexcept { return View(); }
     [[nodiscard]] std::u16string_view View() const noexcept

@@ -35,7 +35,7 @@ constexpr std::uint32_t utf8 = 65001;
 [[nodiscard]] VYR_PLATFORM_API std::size_t ToText(std::uint32_t codePage, const char* bytes,
                                                   std::span<char16_t> target);
 
-/// Converts text to bytes. A letter and a combining mark behind it are written as one character where the code page has
+/// Converts text to bytes. A letter and a combining mark after it are written as one character where the code page has
 /// it, else as two. Each code unit of a missing character becomes `defaultCharacter`, so a surrogate pair becomes two.
 /// UTF-8 lacks no character; a lone surrogate becomes U+FFFD.
 /// @param text  up to its NUL.

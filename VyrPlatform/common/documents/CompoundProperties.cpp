@@ -32,7 +32,7 @@ bool DescribesSet(std::uint32_t id)
     return id == PropertyId::dictionary || id == PropertyId::codePage || id >= PropertyId::firstReserved;
 }
 
-/// The number at `at` of what was read of a stream; 0 behind its end.
+/// The number at the offset `at`; 0 past the end.
 template <class Number>
 Number NumberAt(const std::optional<std::string>& bytes, std::size_t at)
 {
@@ -64,7 +64,7 @@ bool IsEncryptedWorkbook(const RootStorage& root)
     return false;
 }
 
-/// [MS-PPT] 2.3.2: the token of the atom that tells of the user.
+/// [MS-PPT] 2.3.2: the token in the atom of the current user.
 bool IsEncryptedSlides(const RootStorage& root)
 {
     constexpr std::size_t tokenPlace = 12;
@@ -146,7 +146,7 @@ void ClearSummary(PropertySection& section)
     });
 }
 
-/// The names of the user's own properties stand in the section's dictionary.
+/// The names of the user's own properties are in the section's dictionary.
 void ClearDocumentSet(PropertySetStream& set)
 {
     for (const FormatId format : {documentFormat, userFormat})
@@ -202,7 +202,7 @@ std::uint32_t EditCompoundProperties(const RootStorage& root, const PropertyEdit
         return Result::accessDenied;
     std::optional<PropertySetStream> summary;
     const std::uint32_t result = ReadSet(root, summaryStream, summaryFormat, summary);
-    // Without a summary there is nothing in it to clear.
+    // A missing summary needs no clearing.
     const bool isMissing = result == Result::fileNotFound && edit.clearsAll && !edit.NamesAny();
     if (result != Result::ok && !isMissing)
         return result;

@@ -1,5 +1,4 @@
-// The properties of a compound document, as far as both systems have them in common: everything but how its streams are
-// read and written.
+// The properties of a compound document, for both systems: everything except reading and writing its streams.
 #pragma once
 
 #include <VyrPlatform/Export.h>
@@ -34,7 +33,7 @@ public:
     [[nodiscard]] virtual std::optional<std::string> Read(std::u16string_view name, std::size_t limit) const = 0;
 };
 
-/// @return a result code, as ReadDocumentProperties gives it.
+/// @return the result code of ReadDocumentProperties.
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t ReadCompoundProperties(const RootStorage& root,
                                                                     DocumentProperties& properties);
 
@@ -42,7 +41,7 @@ public:
 using NewStreams = std::map<std::u16string_view, std::string>;
 
 /// Finds the streams that `edit` changes.
-/// @return a result code, as DocumentReplacement gives it.
+/// @return the result code of DocumentReplacement.
 [[nodiscard]] VYR_PLATFORM_API std::uint32_t EditCompoundProperties(const RootStorage& root, const PropertyEdit& edit,
                                                                     NewStreams& streams);
 

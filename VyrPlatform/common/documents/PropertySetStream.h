@@ -87,11 +87,11 @@ private:
 [[nodiscard]] VYR_PLATFORM_API std::optional<std::string> StorePropertyValue(const tagPROPVARIANT& value,
                                                                              std::uint32_t codePage);
 
-/// A text as it stands in a section whose texts are in `codePage`: counted in bytes, and in that code page where it
-/// holds every character, else in UTF-16.
+/// The stored form of a text in a section whose texts are in `codePage`: counted in bytes, in that code page if it has
+/// every character, else in UTF-16.
 [[nodiscard]] VYR_PLATFORM_API std::string StoreText(const CString& text, std::uint32_t codePage);
 
-/// A file time, in ticks since 1601, as it stands in a section.
+/// The stored form of a file time, in ticks since 1601.
 [[nodiscard]] VYR_PLATFORM_API std::string StoreTime(std::int64_t ticks);
 
 /// The text of a stored value, up to its first NUL; nothing when it has another type or is damaged.

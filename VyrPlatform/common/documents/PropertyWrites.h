@@ -1,4 +1,4 @@
-// What is written to a document that a handler writes.
+// The property writes for a document with a handler.
 #pragma once
 
 #include <VyrPlatform/WinTypes.h>
@@ -16,7 +16,7 @@ namespace VyrPlatform {
 class PropertyWrites
 {
 public:
-    /// Of those properties that `isWanted` takes.
+    /// Only properties for which `isWanted` is true.
     template <class IsWanted>
     PropertyWrites(const PropertyEdit& edit, const IsWanted& isWanted)
     {

@@ -10,7 +10,7 @@ namespace FileSystem = VyrPlatform::FileSystem;
 
 namespace {
 
-/// The number of code units in front of the last part of `pattern`.
+/// The number of code units before the last part of `pattern`.
 std::size_t FindLastPart(std::u16string_view pattern) noexcept
 {
     std::size_t start = pattern.size();

@@ -16,7 +16,7 @@ struct CStdioFile::Stream
     std::size_t end = 0;
     /// The number of bytes, from the first on, that are not written yet.
     std::size_t waiting = 0;
-    /// The system's position in the file: behind the bytes that were read, before those that are not written yet.
+    /// The system's position in the file: after the bytes that were read, before those that are not written yet.
     std::uint64_t place = 0;
 
     [[nodiscard]] std::size_t Unread() const noexcept { return end - next; }
@@ -66,7 +66,7 @@ std::uint64_t CStdioFile::Seek(std::int64_t offset, std::uint32_t origin)
 {
     RequireOpen();
     FlushWritten();
-    // The system's position is behind the unread bytes.
+    // The system's position is after the unread bytes.
     if (origin == current && __builtin_sub_overflow(offset, m_stream->Unread(), &offset))
         throw CFileException(CFileException::badSeek, -1, GetFilePath());
     m_stream->place = CFile::Seek(offset, origin);

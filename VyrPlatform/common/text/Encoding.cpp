@@ -144,7 +144,7 @@ char* PutUtf8(char* target, char32_t character) noexcept
     return PutTail(target, character, tailBytes);
 }
 
-/// Encodes the character at `at`, of one unit or of two, and moves `at` behind it.
+/// Encodes the character at `at`, of one unit or of two, and moves `at` past it.
 char* EncodeOne(std::u16string_view text, std::size_t& at, char* target, Malformed malformed) noexcept
 {
     const char16_t unit = text[at];

@@ -1,4 +1,4 @@
-// The property sets of a compound document: found in the container, edited as bytes, written anew.
+// The property sets of a compound document: found in the container, edited as bytes, and written back.
 #include "CompoundEdit.h"
 #include "CompoundFile.h"
 #include "DocumentFile.h"

@@ -1,4 +1,4 @@
-// Writes a compound document with other streams, and has libgsf check it, which reads such files on its own.
+// Writes a compound document with other streams, and verifies it with libgsf, an independent reader.
 #include "CompoundEdit.h"
 
 #include "CompoundFile.h"
@@ -26,8 +26,8 @@ struct Unreference
 template <class Object>
 using Owned = std::unique_ptr<Object, Unreference>;
 
-/// The library tells of damage in its results; what it writes to the error stream besides belongs to nobody. Some of it
-/// is in no domain, as is what the program may say itself: that is heard again when this object is gone.
+/// Suppresses the library's messages on the error stream, since its results report damage. Some have no domain, like
+/// messages of the program itself: those are suppressed, too, while this object exists.
 class SilentLibrary
 {
 public:
@@ -56,7 +56,7 @@ private:
 /// The root storage as libgsf reads it; a null pointer when it finds none.
 Owned<GsfInfile> ReadByLibrary(int file)
 {
-    // The name of an open file, which the library opens for itself.
+    // The path of an open file, which the library opens again.
     const std::string name = "/proc/self/fd/" + std::to_string(file);
     const Owned<GsfInput> input(gsf_input_stdio_new(name.c_str(), nullptr));
     return Owned<GsfInfile>(input ? gsf_infile_msole_new(input.get(), nullptr) : nullptr);
@@ -101,7 +101,7 @@ bool IsAmong(const NewStreams& streams, std::string_view name)
                        [name](const auto& stream) { return Name(stream.first) == name; });
 }
 
-/// Compares two storages with all that is in them, but for the streams `except` of theirs.
+/// Compares two storages with all their content, except the streams `except`.
 bool IsSameStorage(GsfInfile* left, GsfInfile* right, const NewStreams& except, int depth = 0)
 {
     constexpr int deepest = 200;
@@ -111,7 +111,7 @@ bool IsSameStorage(GsfInfile* left, GsfInfile* right, const NewStreams& except, 
     for (int index = 0; index < count; ++index) {
         const Owned<GsfInput> a(gsf_infile_child_by_index(left, index));
         const Owned<GsfInput> b(gsf_infile_child_by_index(right, index));
-        // One that the library cannot read is as damaged in the new document as it was in the old one.
+        // A stream that the library cannot read is equally damaged in both documents.
         if (!a && !b)
             continue;
         if (!a || !b)
@@ -131,7 +131,7 @@ bool IsSameStorage(GsfInfile* left, GsfInfile* right, const NewStreams& except, 
     return true;
 }
 
-/// Whether the stream `name` begins with `content`, and has zeros behind it.
+/// Whether the stream `name` is `content`, followed by zeros.
 bool HasContent(GsfInfile* root, const std::string& name, std::string_view content)
 {
     const Owned<GsfInput> stream(gsf_infile_child_by_name(root, name.c_str()));

@@ -1,4 +1,4 @@
-// A compound document that gets new streams.
+// An edit that gives a compound document new streams.
 #pragma once
 
 #include "DocumentFile.h"
@@ -12,7 +12,7 @@ namespace VyrPlatform {
 /// Whether the open file is a compound document that both our reader and libgsf can read.
 [[nodiscard]] bool IsCompoundDocument(int file);
 
-/// Gives streams of the root storage new contents; each must be there.
+/// Gives streams of the root storage new contents; each must exist.
 class StreamsEdit : public DocumentEdit
 {
 public:

@@ -22,7 +22,7 @@ constexpr std::uint32_t tableSector = 0xFFFFFFFD;
 constexpr std::uint32_t endOfChain = 0xFFFFFFFE;
 constexpr std::uint32_t freeSector = 0xFFFFFFFF;
 
-// Places in the header.
+// Offsets in the header.
 constexpr std::size_t headerSize = 512;
 constexpr std::uint64_t tableCountPlace = 44;
 constexpr std::uint64_t directoryPlace = 48;
@@ -159,7 +159,7 @@ bool CompoundFile::ReadDirectory(std::uint32_t start)
     std::uint32_t smallStart = 0;
     if (!ReadAt(m_file, smallTablePlace, reinterpret_cast<char*>(&smallStart), sizeof smallStart))
         return false;
-    // A document without small streams may say so in either way.
+    // Two values mean that a document has no small streams.
     const auto smallTable = smallStart >= lastSector ? std::vector<std::uint32_t>() : Chain(m_table, smallStart);
     const Entry root = EntryAt(0);
     const auto small = root.start >= lastSector ? std::vector<std::uint32_t>() : Chain(m_table, root.start);
@@ -178,7 +178,7 @@ bool CompoundFile::ReadDirectory(std::uint32_t start)
 CompoundFile::Entry CompoundFile::EntryAt(std::uint32_t index) const noexcept
 {
     const std::size_t at = index * entrySize;
-    // The upper half of the size means nothing where sectors have 512 bytes.
+    // The upper half of the size is undefined if sectors have 512 bytes.
     const std::uint64_t size = m_sectorSize == 512 ? NumberAt<std::uint32_t>(m_directory, at + sizeInEntry)
                                                    : NumberAt<std::uint64_t>(m_directory, at + sizeInEntry);
     const std::uint64_t place = SectorPlace(m_directorySectors[at / m_sectorSize]) + at % m_sectorSize;
@@ -280,7 +280,7 @@ int CompoundFile::Mark(std::uint32_t sector, std::uint32_t next)
 int CompoundFile::AddTableSector()
 {
     const std::size_t inSector = m_sectorSize / 4;
-    // The new sectors are the first ones that the longer table tells of.
+    // The new sectors are the first ones in the extended table.
     const auto sector = static_cast<std::uint32_t>(m_table.size());
     const std::size_t index = m_tableSectors.size();
     const std::size_t listed = listInHeader + m_listSectors.size() * (inSector - 1);
@@ -420,7 +420,7 @@ int CompoundFile::WriteStream(std::u16string_view name, std::string_view content
     if (!IsSmall(*entry)) {
         error = Lengthen(*entry, *places, padded.size());
     } else if (padded.size() > places->size() * smallPartSize || padded.size() >= smallLimit) {
-        // Sectors behind the end of the file are free for certain, and need no longer table of small parts.
+        // Sectors past the end of the file are certainly free, and the table of small parts need not be extended.
         padded.resize(std::max<std::size_t>(padded.size(), smallLimit));
         error = MoveOutOfSmall(*entry, *places, padded.size());
     } else {

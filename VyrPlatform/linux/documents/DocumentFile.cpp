@@ -25,14 +25,14 @@ namespace VyrPlatform {
 
 namespace {
 
-/// The path without links; empty, with errno set, when nothing stands there.
+/// The path without links; empty, with errno set, when it does not exist.
 CString ResolveLinks(const CString& path)
 {
     const std::unique_ptr<char, decltype(&std::free)> resolved(realpath(NativePath(path).Get(), nullptr), &std::free);
     return resolved ? Encoding::FromNameBytes(resolved.get()) : CString();
 }
 
-/// Whether another program has locked the file, in any of the ways that there are.
+/// Whether another program has locked the file, with any kind of lock.
 bool IsLocked(const CString& path, int file)
 {
     struct flock region = {};
@@ -42,7 +42,7 @@ bool IsLocked(const CString& path, int file)
         return true;
     if (flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
         return true;
-    // What office programs put beside a document that they have open.
+    // Files that office programs create beside an open document.
     const CString folder = GetFolderOf(path);
     return FileSystem::Exists(folder + u".~lock." + path.Mid(folder.GetLength()) + u"#");
 }
@@ -57,7 +57,8 @@ bool HasSecurityName(const std::pair<std::string, std::string>& attribute)
     return attribute.first.starts_with("security.");
 }
 
-/// Whether `target` got what a document must not lose; the labels of a security module are the system's own affair.
+/// Whether `target` has the metadata that a document must not lose. The system manages the labels of security modules
+/// itself.
 bool HasKeptMetadata(int source, int target, const struct stat& before)
 {
     struct stat after;
@@ -101,8 +102,8 @@ int DocumentFile::Open()
 }
 
 /// Takes the lease that is given only while no program can write the file, and that keeps others from opening it for
-/// writing. When one tries to, the system sends a signal: one that does nothing.
-/// @return 0, or EBUSY. Where the file system or the user has no leases, nobody can tell: 0.
+/// writing. When one tries to, the system sends a signal, which must have no effect.
+/// @return 0, or EBUSY. Also 0 if the file system or the user has no leases: then it is unknown.
 int DocumentFile::TakeLease()
 {
     m_hasLease = fcntl(m_file->Get(), F_SETSIG, SIGURG) == 0 && fcntl(m_file->Get(), F_SETLEASE, F_RDLCK) == 0;
@@ -116,7 +117,7 @@ int DocumentFile::WriteNew(DocumentEdit& edit, int target) const
         return error;
     if (const int error = CopyMetadata(source, target, m_status))
         return error;
-    // On its way to the disk; Commit waits for it.
+    // Starts writing to the disk; Commit waits for it.
     static_cast<void>(sync_file_range(target, 0, 0, SYNC_FILE_RANGE_WRITE));
     return HasKeptMetadata(source, target, m_status) ? 0 : EPERM;
 }
@@ -178,7 +179,7 @@ int DocumentFile::Keep(const CString& path)
     return 0;
 }
 
-/// Nobody else may read the copy, which is out of the reach of the folder's permissions.
+/// Nobody else may read the copy: it is in another folder with other permissions.
 int DocumentFile::CopyTo(const NativePath& path)
 {
     const int created = open(path.Get(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
@@ -191,8 +192,8 @@ int DocumentFile::CopyTo(const NativePath& path)
     return error;
 }
 
-/// The new document first: on most file systems that writes the name of a link to the old one, too. The old one may
-/// never have been flushed by who wrote it.
+/// The new document first: on most file systems this also flushes the name of a link to the old one. The program that
+/// wrote the old one may never have flushed it.
 int DocumentFile::Flush() const
 {
     if (fsync(m_new->Get()) != 0)

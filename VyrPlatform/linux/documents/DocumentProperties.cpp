@@ -1,4 +1,4 @@
-// Reads documents by our own readers, and replaces them as PropertyStorage does.
+// Reads documents with our own readers, and replaces them like PropertyStorage.
 #include <VyrPlatform/documents/DocumentProperties.h>
 
 #include "CompoundEdit.h"
@@ -77,7 +77,7 @@ EditedXml EditPart(PropertyFormat format, const std::string& text, const Propert
     return cleared.result == Result::ok ? EditPropertyXml(format, cleared.text, writes.Get()) : cleared;
 }
 
-/// Whether the package has a place for what is to be set. To remove what no such document has is no fault.
+/// Whether the package can store what is to be set. Removing a property that such documents lack is allowed.
 bool HasPlaces(PropertyFormat format, const std::vector<PackagePart>& further, const PropertyEdit& edit)
 {
     const auto hasPlace = [&](std::uint32_t id) {
@@ -92,7 +92,7 @@ bool HasPlaces(PropertyFormat format, const std::vector<PackagePart>& further, c
            std::all_of(edit.times.begin(), edit.times.end(), [&](const auto& time) { return hasPlace(time.first); });
 }
 
-/// Whether the part is to be written; others stay as they are.
+/// Whether the part is to be written.
 bool Concerns(const PropertyEdit& edit, PropertyFormat format)
 {
     const auto isHere = [format](const auto& value) {
@@ -156,7 +156,7 @@ public:
     }
 
 private:
-    /// Calls `use` with each piece and its place, until it gives an error code.
+    /// Calls `use` with each piece and its offset, until it returns an error code.
     template <class Use>
     [[nodiscard]] int Walk(const Use& use) const
     {
@@ -176,7 +176,7 @@ private:
     Descriptor m_content;
 };
 
-/// How the new document is made of the old one.
+/// Chooses the edit that makes the new document.
 /// @return a result code.
 std::uint32_t MakeEdit(const DocumentFile& file, const PropertyEdit& edit, const GUID& handler,
                        std::unique_ptr<DocumentEdit>& made)

@@ -69,7 +69,7 @@ void AddContentType(xmlDoc* types)
     xmlNewProp(node, ToXml("ContentType"), ToXml(coreContentType));
 }
 
-/// The member as XML with the root `space`; null when it is no such thing.
+/// The member as XML with the root `root` in `space`; null when it is something else.
 XmlTree ReadPart(const ZipArchive& archive, const char* name, std::string_view space, std::string_view root)
 {
     const auto text = archive.Read(name, longestPropertyXml);

@@ -12,10 +12,10 @@
 
 namespace VyrPlatform {
 
-/// What the handler with this class id writes; nothing for an id that is none of ours.
+/// The format that the handler with this class id writes; nothing for other ids.
 [[nodiscard]] std::optional<PropertyFormat> FormatOfHandler(const _GUID& handler);
 
-/// The part with the properties, and the parts that are to be changed where it is new.
+/// The part with the properties, and the parts that change if it is new.
 struct PropertyPart
 {
     std::string name;
@@ -46,7 +46,7 @@ struct PackageTraits
 
 [[nodiscard]] PackageTraits ReadPackageTraits(PropertyFormat format, int file);
 
-/// A document some of whose members get a new content.
+/// An edit that gives members of an archive new contents.
 class MemberEdit : public DocumentEdit
 {
 public:

@@ -31,11 +31,11 @@ enum class Content : std::uint8_t
     Title
 };
 
-/// A property and the element that it is.
+/// A property and its element.
 struct PropertyElement
 {
     std::uint32_t id;
-    /// Null for that of the root.
+    /// Null for the namespace of the root.
     const char* space;
     const char* prefix;
     const char* name;
@@ -49,7 +49,7 @@ const char instanceSpace[] = "http://www.w3.org/2001/XMLSchema-instance";
 const char officeSpace[] = "urn:oasis:names:tc:opendocument:xmlns:office:1.0";
 const char metaSpace[] = "urn:oasis:names:tc:opendocument:xmlns:meta:1.0";
 const char linkSpace[] = "http://www.w3.org/1999/xlink";
-/// Of the roots of the other two parts, as the standard was first and as it is in its strict form.
+/// The namespaces of the roots of the other two parts, transitional and strict.
 const char* const extendedSpaces[] = {"http://schemas.openxmlformats.org/officeDocument/2006/extended-properties",
                                       "http://purl.oclc.org/ooxml/officeDocument/extendedProperties"};
 const char* const customSpaces[] = {"http://schemas.openxmlformats.org/officeDocument/2006/custom-properties",
@@ -123,7 +123,7 @@ bool IsRoot(const xmlNode* root, std::span<const char* const> spaces, std::strin
                        [root, name](const char* space) { return IsElement(root, space, name); });
 }
 
-/// The element whose children the properties are; null when the document is another one.
+/// The parent element of the properties; null for another kind of document.
 xmlNode* FindParent(PropertyFormat format, xmlDoc* document)
 {
     xmlNode* const root = xmlDocGetRootElement(document);
@@ -140,7 +140,7 @@ xmlNode* FindParent(PropertyFormat format, xmlDoc* document)
     return nullptr;
 }
 
-/// Whether XML has a way to say each character of the text.
+/// Whether XML can represent each character of the text.
 bool CanBeXml(std::u16string_view text) noexcept
 {
     for (std::size_t at = 0; at < text.size(); ++at) {
@@ -172,7 +172,7 @@ std::optional<std::string> MomentText(std::int64_t ticks)
 /// The value as the element's content, in UTF-8; nothing when its type or its text does not fit.
 std::optional<std::string> ContentText(const PROPVARIANT& value, Content content)
 {
-    // The form in which a property set has it tells numbers, times and texts of all types.
+    // The form in a property set covers numbers, times and texts of all types.
     const auto stored = StorePropertyValue(value, utf16CodePage);
     if (!stored)
         return std::nullopt;
@@ -186,7 +186,7 @@ std::optional<std::string> ContentText(const PROPVARIANT& value, Content content
     return text && CanBeXml(*text) ? std::optional(Encoding::ToUtf8(*text)) : std::nullopt;
 }
 
-/// The namespace `space` as `node` knows it, declared there where it does not.
+/// The namespace `space` in the scope of `node`, declared there if it is missing.
 xmlNs* NamespaceFor(xmlNode* node, const char* space, const char* prefix)
 {
     xmlNs* const known = xmlSearchNsByHref(node->doc, node, ToXml(space));
@@ -216,7 +216,7 @@ void AddElement(xmlNode* parent, const PropertyElement& element, const std::stri
     xmlNode* const node = xmlNewChild(parent, nullptr, ToXml(element.name), nullptr);
     xmlSetNs(node, element.space ? NamespaceFor(node, element.space, element.prefix) : parent->ns);
     if (element.space == termsSpace && node->ns) {
-        // The type's name has the prefix that its namespace has here.
+        // The type's name uses the prefix of its namespace here.
         const std::string prefix(FromXml(node->ns->prefix));
         const std::string type = prefix.empty() ? "W3CDTF" : prefix + ":W3CDTF";
         xmlNewNsProp(node, NamespaceFor(node, instanceSpace, "xsi"), ToXml("type"), ToXml(type.c_str()));
@@ -224,7 +224,7 @@ void AddElement(xmlNode* parent, const PropertyElement& element, const std::stri
     SetContent(node, content);
 }
 
-/// Makes `content` that of the property's one element.
+/// Sets the content of the property's only element.
 void SetElement(xmlNode* parent, const PropertyElement& element, const std::string& content)
 {
     for (xmlNode* child = parent->children; child; child = child->next)
@@ -272,8 +272,8 @@ std::uint32_t WriteElement(PropertyFormat format, xmlNode* parent, const Propert
     return Result::ok;
 }
 
-/// The whole number that stands at the beginning of `text` with `digits` digits, cut off with the mark `before` in
-/// front of it; nothing when something else stands there.
+/// Takes the number of `digits` digits at the start of `text`, with `before` before it; nothing when something else is
+/// there.
 std::optional<int> TakeNumber(std::string_view& text, std::string_view before, std::size_t digits)
 {
     if (!text.starts_with(before) || text.size() < before.size() + digits)
@@ -288,7 +288,7 @@ std::optional<int> TakeNumber(std::string_view& text, std::string_view before, s
     return number;
 }
 
-/// Seconds from local time to UTC that the end of a moment's text says; nothing where it says none.
+/// The offset to UTC, in seconds, at the end of a moment's text; nothing if it has none.
 std::optional<std::int64_t> ReadZone(std::string_view text)
 {
     if (text == "Z")
@@ -348,7 +348,7 @@ void ReadElement(const xmlNode* node, const PropertyElement& element, DocumentPr
     value += Encoding::FromUtf8(text);
 }
 
-/// The document as text. Damaged where that could not be read again: the library does not escape an ampersand in the
+/// The document as text; damaged if that could not be read again, since the library does not escape an ampersand in the
 /// address of a namespace.
 EditedXml Written(xmlDoc* document)
 {

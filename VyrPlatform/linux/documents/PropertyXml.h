@@ -33,22 +33,22 @@ inline constexpr std::size_t longestPropertyXml = 4 << 20;
 struct EditedXml
 {
     /// A result code: damaged for a text that is not well-formed, is another document or has a document type, and for
-    /// one that could not be read again once it was written (its namespaces have addresses with an ampersand);
-    /// notSupported for a property that such documents do not have; invalidParameter for a value of another type, or a
-    /// text that XML cannot hold.
+    /// one that could not be read again after writing (a namespace has an address with an ampersand); notSupported for
+    /// a property that such documents do not have; invalidParameter for a value of another type, or a text that XML
+    /// cannot hold.
     std::uint32_t result;
-    /// Empty when that is a failure.
+    /// Empty on failure.
     std::string text;
 };
 
-/// The text `xml` with these properties written into it; all else in it stays.
+/// The text `xml` with these properties; everything else in it is unchanged.
 [[nodiscard]] VYR_PLATFORM_API EditedXml EditPropertyXml(PropertyFormat format, std::string_view xml,
                                                          std::span<const PropertyStorage::PropertyWrite> properties);
 
 /// The text `xml` without any property.
 [[nodiscard]] VYR_PLATFORM_API EditedXml ClearPropertyXml(PropertyFormat format, std::string_view xml);
 
-/// Adds what the text `xml` tells to `properties`.
+/// Adds the properties in the text `xml` to `properties`.
 /// @return whether it is such a document.
 [[nodiscard]] VYR_PLATFORM_API bool ReadPropertyXml(PropertyFormat format, std::string_view xml,
                                                     DocumentProperties& properties);

@@ -32,7 +32,7 @@ bool IsPreserved(const xmlNode* element)
     return xmlNodeGetSpacePreserve(element) == 1;
 }
 
-/// Whether nothing but blanks that are left out stands between a CDATA section and the one before it.
+/// Whether there are only omitted blanks between a CDATA section and the one before it.
 bool ContinuesSection(const xmlNode* section)
 {
     const xmlNode* before = section->prev;
@@ -42,20 +42,19 @@ bool ContinuesSection(const xmlNode* section)
 }
 
 /// The joined texts of an element, and the part that is not trimmed: from its first CDATA section to its last one. A
-/// text of nothing but blanks is left out; between two texts of the same element, or of elements in it, it comes to one
-/// blank.
+/// text of only blanks is left out; between two texts of the same element, or of elements in it, it becomes one blank.
 class TextJoin
 {
 public:
     void Begin() { m_levels.push_back({m_text.size(), m_text.size()}); }
-    /// What was left out at the end of an element counts for the one around it.
+    /// Blanks omitted at the end of an element count for its parent.
     void End()
     {
         const Level inner = m_levels.back();
         m_levels.pop_back();
         Level& outer = m_levels.back();
         outer.hasBlank = outer.hasBlank || inner.hasBlank;
-        // The blank in front of the inner text is not counted here, so that the part may end one character early.
+        // The blank before the inner text is not counted here, so that the part may end one character early.
         const std::size_t place = inner.begin - outer.start;
         if (inner.keptFirst != std::string::npos)
             outer.keptFirst = std::min(outer.keptFirst, place + inner.keptFirst);
@@ -101,7 +100,7 @@ private:
     /// An element whose text has not ended.
     struct Level
     {
-        /// Where it begins, and where its text does: behind the blank in front of it.
+        /// The start of the element, and of its text, which is after the blank before it.
         std::size_t begin;
         std::size_t start;
         /// Blanks were left out since its last text.
@@ -111,8 +110,8 @@ private:
         std::size_t keptEnd = 0;
     };
 
-    /// The blank in front of the next text. It belongs to the innermost element that has a text already; a section
-    /// without content says nothing to the elements around its own.
+    /// The blank before the next text. It belongs to the innermost element that has a text already; an empty section
+    /// does not affect the parents of its element.
     void AddBlank(bool isEmpty)
     {
         auto level = m_levels.rbegin();

@@ -13,7 +13,7 @@
 
 namespace VyrPlatform {
 
-/// The archive as libzip sees it: read from one file, written to another.
+/// The storage for libzip: read from one file, written to another.
 struct ZipArchive::Storage
 {
     int source;
@@ -52,7 +52,7 @@ struct ZipArchive::Storage
 
     zip_int64_t Write(const void* data, zip_uint64_t size)
     {
-        // libzip gives up after a part, and knows no reason then.
+        // libzip fails after a partial write, without a reason.
         if (const int reason = WriteAllAt(target, static_cast<off_t>(writeAt), {static_cast<const char*>(data), size}))
             return Fail(ZIP_ER_WRITE, reason);
         writeAt += size;
@@ -192,7 +192,7 @@ bool IsSameMember(zip_t* before, zip_t* after, zip_uint64_t index)
            left.encryption_method == right.encryption_method && HasSamePackedBytes(before, after, index);
 }
 
-/// It gets the first time that there is, as office programs do: the same document gives the same bytes at any time.
+/// Sets the earliest possible time, like office programs: the same document always gives the same bytes.
 bool AddMember(zip_t* archive, const std::string& name, zip_source_t* source)
 {
     constexpr zip_uint16_t firstDay = 1 << 5 | 1;

@@ -1,4 +1,4 @@
-// A ZIP archive in an open file: read, written anew with other members, and compared.
+// A ZIP archive in an open file: read, rewritten with other members, and compared.
 #pragma once
 
 #include <VyrPlatform/Export.h>

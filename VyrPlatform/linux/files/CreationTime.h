@@ -1,4 +1,4 @@
-// When a file was created, from all that Linux and others keep of it.
+// The creation time of a file, from all its sources.
 #pragma once
 
 #include "ExtendedAttributes.h"
@@ -9,7 +9,7 @@
 
 namespace VyrPlatform {
 
-/// The creation time of the file at `path`, of which `status` has the birth time and that of the last write.
+/// The creation time of the file at `path`; `status` has its birth time and last-write time.
 [[nodiscard]] ExtendedAttributes::Reading<FileTicks> CreatedOf(const NativePath& path, const struct statx& status);
 
 } // namespace VyrPlatform

@@ -52,7 +52,7 @@ private:
     int m_error;
 };
 
-/// Whether the file at `path` may have the attribute `name`: who may not read the values may still list the names.
+/// Whether the file at `path` may have the attribute `name`: users who may not read values may still list names.
 bool MayHave(const NativePath& path, std::string_view name)
 {
     constexpr std::size_t mostBytes = 64 * 1024;
@@ -70,7 +70,7 @@ bool MayHave(const NativePath& path, std::string_view name)
     return false;
 }
 
-/// Why Samba's attribute, which was read as `value`, is not known; 0 where the file has none.
+/// The error code if Samba's attribute, read as `value`, is unknown; 0 if the file has none.
 int WhyUnknown(const NativePath& path, const Value& value)
 {
     return value.IsRefused() && MayHave(path, sambaName) ? value.WhyUnread() : 0;

@@ -13,8 +13,8 @@ namespace VyrPlatform {
 
 namespace {
 
-/// Whether a call failed because the file system lacks the feature or the user lacks permission. The copy is good all
-/// the same.
+/// Whether a call failed because the file system lacks the feature or the user lacks permission. The copy is still
+/// valid.
 bool IsRefused(int error) noexcept
 {
     return error == EPERM || error == EACCES || error == ENOTSUP || error == EINVAL || error == ENOSYS ||

@@ -18,8 +18,8 @@ namespace VyrPlatform {
     return statx(AT_FDCWD, path.Get(), flags, mask, &status) == 0;
 }
 
-/// Whether the file of `status` may lie on a file system of Windows: those of Linux itself know files that are left out
-/// of backups (chattr +d), for which NTFS has no place.
+/// Whether the file of `status` may be on a Windows file system: Linux's own file systems support the nodump attribute
+/// (chattr +d), which NTFS lacks.
 [[nodiscard]] inline bool MayBeNtfs(const struct statx& status) noexcept
 {
     return !(status.stx_attributes_mask & STATX_ATTR_NODUMP);

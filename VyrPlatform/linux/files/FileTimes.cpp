@@ -15,7 +15,7 @@ namespace FileTimes {
 
 namespace {
 
-/// The times that every file system can hold, whatever its own ends: FAT begins with 1980, and 32 bits end in 2038.
+/// The range of times that every file system can store: FAT begins in 1980, and 32 bits end in 2038.
 constexpr FileTicks firstOfAll = (secondsToUnixEpoch + 315'532'800 + secondsPerDay) * ticksPerSecond;
 constexpr FileTicks lastOfAll = (secondsToUnixEpoch + 0x7FFF'FFFF - secondsPerDay) * ticksPerSecond;
 
@@ -24,8 +24,8 @@ struct timespec AsItWas(const struct statx_timestamp& time) noexcept
     return {time.tv_sec, time.tv_nsec};
 }
 
-/// The time to be set. One that is to be kept is given with its present value, since some FUSE file systems
-/// (exfat-fuse) set nothing when a time is omitted.
+/// The time to set. To keep a time, its present value is passed: some FUSE file systems (exfat-fuse) set nothing when a
+/// time is omitted.
 struct timespec NewTime(FileTicks wanted, const struct statx_timestamp& before) noexcept
 {
     return wanted == 0 ? AsItWas(before) : ToTimespec(wanted);

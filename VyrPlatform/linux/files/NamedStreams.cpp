@@ -70,7 +70,7 @@ std::u16string_view WithoutSeparatorsAtEnd(std::u16string_view path) noexcept
 constexpr std::string_view siblingSuffix = ":Zone.Identifier";
 constexpr std::size_t mostBytes = 64 * 1024;
 
-/// A form, or why there is none.
+/// A form, or the reason why there is none.
 struct FoundForm
 {
     std::optional<std::string> bytes;
@@ -84,7 +84,7 @@ FoundForm NotFound(int error)
     return {std::nullopt, MeansNone(error) ? 0 : error};
 }
 
-/// What is kept of a file beside the marked one: "MODE MODIFIED ACCESSED", the mode in octal digits.
+/// The stored state of a file beside the marked one: "MODE MODIFIED ACCESSED", the mode in octal digits.
 CString StateOf(const struct stat& status)
 {
     return Encoding::FromUtf8(ToModeText(status.st_mode) + ' ' + ToTimeText(status.st_mtim) + ' ' +
@@ -158,7 +158,7 @@ int WriteAll(int file, std::string_view bytes)
     return 0;
 }
 
-/// One that is not written to its end is left empty, which nobody takes for another mark.
+/// If writing fails, the file is left empty, which is not mistaken for another mark.
 int WriteSibling(std::u16string_view path, const ZoneForm& form)
 {
     constexpr mode_t usual = 0666;
@@ -166,7 +166,7 @@ int WriteSibling(std::u16string_view path, const ZoneForm& form)
     if (!state && !form.state.IsEmpty())
         return EINVAL;
     const NativePath sibling(WithoutSeparatorsAtEnd(path), siblingSuffix);
-    // Nobody reads before its permissions are there what only some may read.
+    // Restricted from the start: it must not be readable before its permissions are set.
     const mode_t mode = state ? state->mode & usual : usual;
     Descriptor file(open(sibling.Get(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW, mode));
     if (!file.IsOpen())

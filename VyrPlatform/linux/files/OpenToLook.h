@@ -1,4 +1,4 @@
-// Opens files to look at them without moving their access times.
+// Opens files without changing their access times.
 #pragma once
 
 #include <cerrno>
@@ -6,9 +6,9 @@
 
 namespace VyrPlatform {
 
-/// Opens a file for reading so that its access time stays, where the system lets this program do that: only the owner
-/// of a file and root may.
-/// @param open  opens it with the flags that it gets, as open() does.
+/// Opens a file for reading and keeps its access time, if the system allows it: only for the owner of the file and
+/// root.
+/// @param open  opens the file with the given flags, like open().
 template <class Open>
 [[nodiscard]] int OpenToLook(const Open& open, int flags)
 {

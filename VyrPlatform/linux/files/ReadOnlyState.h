@@ -1,4 +1,4 @@
-// Whether a file is read-only, where its status is known already.
+// Whether a file is read-only, given its status.
 #pragma once
 
 #include "NativePath.h"
@@ -7,8 +7,8 @@
 
 namespace VyrPlatform {
 
-/// Whether the file (no folder) at `path`, which has `status`, is read-only: by its mode, or by what Samba or an NTFS
-/// driver keeps. So is one of which the user may not read what is kept.
+/// Whether the file (not a folder) at `path`, which has `status`, is read-only: by its mode, or by the attributes from
+/// Samba or an NTFS driver. True if the user may not read those.
 [[nodiscard]] bool IsReadOnlyFile(const NativePath& path, const struct statx& status);
 
 } // namespace VyrPlatform

@@ -30,7 +30,7 @@ struct Poster::Queue
     /// Drops all waiting and later events.
     void Close();
 
-    /// Tells a drain without the lock that there is nothing to do.
+    /// Lets a drain find out without the lock that there is nothing to do.
     std::atomic<bool> isWaiting = false;
     /// Used only by the queue's own thread.
     std::shared_ptr<const MainLoopPass> mainLoop;

@@ -42,7 +42,7 @@ std::vector<std::string> TakeApart(std::u16string_view arguments)
     return parts;
 }
 
-/// The shell's number for the reason why a program did not start.
+/// The shell's error number for `error`.
 std::uintptr_t NumberOf(int error) noexcept
 {
     switch (error) {

@@ -154,7 +154,7 @@ HiveHead ReadHead(const FileReader& reader)
     if (reader.Size() == 0)
         return {Outcome::Empty};
     // A signature, two sequence numbers, of which the second is set to the first when a change is complete, and at 40
-    // the number of bytes behind the header's page.
+    // the number of bytes after the header's page.
     constexpr std::size_t pageSize = 4096;
     std::array<char, 44> head{};
     const std::size_t length = reader.ReadAt(0, std::as_writable_bytes(std::span(head)));

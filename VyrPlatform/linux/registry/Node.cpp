@@ -46,7 +46,7 @@ std::shared_ptr<Node> FindNode(std::shared_ptr<Node> start, std::u16string_view 
     constexpr int mostLinks = 32;
     int links = 0;
     std::shared_ptr<Node> node = std::move(start);
-    // The paths still to be followed after the current one: the rest behind each link.
+    // The paths still to be followed after the current one: the rest after each link.
     std::vector<std::u16string_view> rests;
     std::vector<std::shared_ptr<Node>> linkNodes;
     while (node) {

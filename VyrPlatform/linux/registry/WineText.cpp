@@ -53,7 +53,7 @@ std::optional<Number> TakeNumber(std::string_view& text, int base, std::size_t m
     return number;
 }
 
-/// The code unit of the escape at the front of `text`, behind its backslash; removes it.
+/// The code unit of the escape at the front of `text`, after its backslash; removes it.
 char16_t TakeEscape(std::string_view& text) noexcept
 {
     constexpr std::string_view names = "abefnrtv";

@@ -33,7 +33,7 @@ constexpr GUID summaryFormatId{0xF29F85E0, 0x4FF9, 0x1068, {0xAB, 0x91, 0x08, 0x
 
 constexpr DWORD forReading = STGM_READ | STGM_SHARE_DENY_WRITE;
 constexpr DWORD forWriting = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
-/// A stream or a storage in an open one is opened by one only.
+/// Streams and storages inside an open one must be opened exclusively.
 constexpr DWORD inner = STGM_READ | STGM_SHARE_EXCLUSIVE;
 
 struct ReleaseObject
@@ -71,7 +71,7 @@ std::uint32_t ToResult(HRESULT result) noexcept
     return SUCCEEDED(result) ? Result::ok : static_cast<std::uint32_t>(result);
 }
 
-/// The error code of a call that has just answered `result`.
+/// The error code of a call that has just returned `result`.
 DWORD ErrorOf(BOOL result) noexcept
 {
     return result ? ERROR_SUCCESS : GetLastError();
@@ -147,8 +147,7 @@ HRESULT WriteBeginning(IStream& stream, const std::string& content)
     return SUCCEEDED(result) && count != content.size() ? STG_E_MEDIUMFULL : result;
 }
 
-/// What stood there before is overwritten: the system leaves the old content in parts of the file that it no longer
-/// uses when a stream gets another size.
+/// Overwrites the old content first: the system leaves it in unused parts of the file when a stream gets another size.
 HRESULT WriteStream(IStorage& storage, std::u16string_view name, const std::string& content)
 {
     IStream* opened = nullptr;
@@ -167,7 +166,7 @@ HRESULT WriteStream(IStorage& storage, std::u16string_view name, const std::stri
     return SUCCEEDED(result) ? WriteBeginning(*stream, content) : result;
 }
 
-/// Edits the compound document at `path` where it stands, and reads back what was written.
+/// Edits the compound document at `path` in place, and reads it back.
 std::uint32_t EditCompound(const CString& path, const PropertyEdit& edit)
 {
     NewStreams streams;
@@ -194,7 +193,7 @@ std::uint32_t EditCompound(const CString& path, const PropertyEdit& edit)
     return isWritten ? Result::ok : Result::writeFault;
 }
 
-/// Asks a document that its handler has loaded.
+/// Reads a document that its handler has loaded.
 std::uint32_t ReadByHandler(IPropertySetStorage& document, DocumentProperties& properties)
 {
     IPropertyStorage* opened = nullptr;
@@ -208,7 +207,7 @@ std::uint32_t ReadByHandler(IPropertySetStorage& document, DocumentProperties& p
         PROPVARIANT value{};
         if (set->ReadMultiple(1, &asked, &value) != S_OK)
             continue;
-        // The form in which a property set has it tells texts and times of all types.
+        // The form in a property set covers texts and times of all types.
         const auto stored = StorePropertyValue(value, utf16CodePage);
         if (const auto text = stored ? ReadStoredText(*stored, utf16CodePage) : std::nullopt; text && !text->IsEmpty())
             properties.texts[id] = *text;
@@ -219,7 +218,7 @@ std::uint32_t ReadByHandler(IPropertySetStorage& document, DocumentProperties& p
     return Result::ok;
 }
 
-/// The names of members stand unpacked in a ZIP archive.
+/// The names of members are not compressed in a ZIP archive.
 bool HasMemberNamed(const CString& path, std::string_view name)
 {
     const FileReader reader(path);
@@ -239,7 +238,7 @@ bool HasSignature(const CString& path)
     return HasMemberNamed(path, "_xmlsignatures/") || HasMemberNamed(path, "META-INF/documentsignatures.xml");
 }
 
-/// A handler tells neither of the second set nor of the user's own properties, so that it cannot clear all.
+/// A handler does not list the second set and the user's own properties, so it cannot clear all.
 std::uint32_t CheckHandlerEdit(const PropertyEdit& edit, const GUID& handler)
 {
     return handler == GUID{} || edit.clearsAll ? Result::notSupported : Result::ok;
@@ -266,7 +265,7 @@ struct OldDocument
     BY_HANDLE_FILE_INFORMATION information{};
 };
 
-/// Looks at a document that nobody else has open.
+/// Queries a document that nobody else has open.
 OldDocument LookAt(const CString& path)
 {
     OldDocument document;
@@ -288,8 +287,7 @@ bool IsSame(const BY_HANDLE_FILE_INFORMATION& left, const BY_HANDLE_FILE_INFORMA
            CompareFileTime(&left.ftLastWriteTime, &right.ftLastWriteTime) == 0;
 }
 
-/// Gives the file `to` the owner and group of the file `from`, and says who may do what with it: each as far as the
-/// user may.
+/// Gives the file `to` the owner, the group and the access list of the file `from`, each if the user may set it.
 void CopySecurity(const LongPath& from, const LongPath& to)
 {
     for (const DWORD part :
@@ -312,7 +310,7 @@ DWORD Finish(const LongPath& path, const BY_HANDLE_FILE_INFORMATION& old)
     return file.Close();
 }
 
-/// Makes the content of the file `source` that of `target`.
+/// Copies the content of the file `source` to `target`.
 std::uint32_t WriteContent(const CString& source, const LongPath& target)
 {
     const FileReader reader(source);
@@ -360,9 +358,9 @@ std::uint32_t ReadDocumentProperties(const CString& path, const _GUID& handler, 
 struct DocumentReplacement::State
 {
     CString path;
-    /// Empty while there is no new document.
+    /// Empty without a new document.
     CString newPath;
-    /// Where the old one is kept; empty while it is not.
+    /// The path of the kept old document; empty for none.
     CString keptPath;
     OldDocument old;
 
@@ -376,7 +374,7 @@ struct DocumentReplacement::State
                 DeleteFileW(LongPath(left).Get());
     }
 
-    /// Copies the old document, and has `edit` make the new one of the copy.
+    /// Copies the old document, and lets `edit` turn the copy into the new one.
     template <class Edit>
     std::uint32_t Prepare(const Edit& edit)
     {

@@ -10,11 +10,11 @@
 
 namespace VyrPlatform {
 
-/// What an opening call gave: it may have given something else than what was asked for (Wine's StgOpenStorageEx gives
-/// the storage object itself), so that it is asked once more.
+/// Queries the interface of `object`, the result of an opening call: that may have returned another interface than
+/// requested (Wine's StgOpenStorageEx returns the storage object itself).
 [[nodiscard]] HRESULT AskForSets(IUnknown* object, IPropertySetStorage*& storage) noexcept;
 
-/// Has the handler with this class id load the document at `path`.
+/// Loads the document at `path` with the handler of this class id.
 [[nodiscard]] HRESULT LoadByHandler(const CString& path, const GUID& handler, DWORD mode,
                                     IPropertySetStorage*& storage) noexcept;
 
