@@ -2,6 +2,7 @@
 // user and group are decimal, names and values hexadecimal.
 #include <VyrHostPlatform/FolderState.h>
 
+#include <VyrPlatform/linux/files/FileMetadata.h>
 #include <VyrPlatform/linux/files/NativePath.h>
 #include <VyrPlatform/text/Digits.h>
 
@@ -13,8 +14,6 @@
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
-#include <utility>
-#include <vector>
 
 namespace VyrHostPlatform {
 
@@ -29,42 +28,8 @@ struct FolderState
     mode_t mode = 0;
     uid_t user = 0;
     gid_t group = 0;
-    std::vector<std::pair<std::string, std::string>> attributes;
+    VyrPlatform::ExtendedList attributes;
 };
-
-/// What `ask(buffer, size)` gives: a call that tells the size for a size of 0.
-template <class Ask>
-std::optional<std::string> AskForBytes(Ask ask)
-{
-    const ssize_t size = ask(nullptr, 0);
-    if (size < 0)
-        return std::nullopt;
-    std::string bytes(static_cast<std::size_t>(size), '\0');
-    const ssize_t read = ask(bytes.data(), bytes.size());
-    if (read < 0)
-        return std::nullopt;
-    bytes.resize(static_cast<std::size_t>(read));
-    return bytes;
-}
-
-std::vector<std::pair<std::string, std::string>> ReadAttributes(const NativePath& path)
-{
-    std::vector<std::pair<std::string, std::string>> attributes;
-    const auto names =
-        AskForBytes([&](char* buffer, std::size_t size) { return llistxattr(path.Get(), buffer, size); });
-    std::string_view rest = names ? std::string_view(*names) : std::string_view();
-    while (!rest.empty()) {
-        const std::string name(rest.substr(0, rest.find('\0')));
-        rest.remove_prefix(std::min(name.size() + 1, rest.size()));
-        auto value = AskForBytes(
-            [&](char* buffer, std::size_t size) { return lgetxattr(path.Get(), name.c_str(), buffer, size); });
-        if (value)
-            attributes.emplace_back(name, std::move(*value));
-    }
-    // So that equal folders have equal states.
-    std::sort(attributes.begin(), attributes.end());
-    return attributes;
-}
 
 template <class Number>
 std::optional<Number> ReadNumber(std::string_view text, int base)
@@ -124,7 +89,10 @@ std::optional<CString> ReadFolderState(const CString& path, std::uint32_t& error
     *end++ = ':';
     end = std::to_chars(end, start + 60, status.st_gid).ptr;
     std::string text(start, end);
-    for (const auto& [name, value] : ReadAttributes(native))
+    VyrPlatform::ExtendedList attributes = VyrPlatform::GetExtendedAttributes(native);
+    // So that equal folders have equal states.
+    std::sort(attributes.begin(), attributes.end());
+    for (const auto& [name, value] : attributes)
         text.append(":").append(ToHex(name)).append("=").append(ToHex(value));
     return CString(std::u16string_view(std::u16string(text.begin(), text.end())));
 }
@@ -140,7 +108,7 @@ std::uint32_t RestoreFolderState(const CString& path, const CString& state)
         return static_cast<std::uint32_t>(errno);
     for (const auto& [name, value] : parsed->attributes)
         (void)lsetxattr(native.Get(), name.c_str(), value.data(), value.size(), 0);
-    // Last, since it may forbid to write.
+    // Last, since it may forbid writing.
     return chmod(native.Get(), parsed->mode) == 0 ? 0U : static_cast<std::uint32_t>(errno);
 }
 
