@@ -30,9 +30,9 @@ public:
     /// Opens the file in the program that the environment variable VISUAL or EDITOR names (a command line, which may
     /// have arguments; else the system's own: vi, on Windows notepad), waits for the program's end and reads the file
     /// back. A program that ends with a code other than 0 counts as "do nothing". May be called again: the file is as
-    /// the user left it.
+    /// the user saved it.
     [[nodiscard]] EditedText Edit();
-    /// The file stays.
+    /// Keeps the file.
     /// @return its path.
     [[nodiscard]] CString Keep();
 

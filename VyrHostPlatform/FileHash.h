@@ -1,5 +1,5 @@
 /// @file
-/// The SHA-256 of a file, by the library for cryptography that the system has.
+/// The SHA-256 of a file, by the system's cryptography library.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -9,12 +9,12 @@
 
 namespace VyrHostPlatform {
 
-/// A digest, or why there is none.
+/// A digest, or the reason why there is none.
 struct FileHash
 {
-    /// 64 hexadecimal digits in small letters; empty where the file cannot be read to its end.
+    /// 64 lower-case hexadecimal digits; empty if the file cannot be read to its end.
     std::string digits;
-    /// The system's code where the file cannot be opened, else 0.
+    /// The system's error code if the file cannot be opened, else 0.
     std::uint32_t error = 0;
 };
 

@@ -8,7 +8,7 @@
 
 namespace VyrHostPlatform {
 
-/// What the user may do with the names in a folder, as the system answers without a change being made.
+/// Whether the user may change the names in a folder, found out without changing anything.
 struct FolderPermission
 {
     /// 0 when names may be added and removed, else the error code that the system would give: no write permission, a
@@ -21,7 +21,7 @@ struct FolderPermission
 /// The permission for the folder at `path`; the error code of a missing folder where there is none.
 [[nodiscard]] FolderPermission GetFolderPermission(const CString& path);
 
-/// Whether the user owns what stands at `path` (a link itself). True on Windows, which has no sticky folders.
+/// Whether the user owns what is at `path` (a link itself). True on Windows, which has no sticky folders.
 [[nodiscard]] bool IsOwnEntry(const CString& path);
 
 } // namespace VyrHostPlatform

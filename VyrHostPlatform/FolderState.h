@@ -1,5 +1,5 @@
 /// @file
-/// What distinguishes an empty folder from a new one, so that one that was removed can be made again.
+/// The state of an empty folder, so that a removed folder can be created again exactly.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -14,12 +14,12 @@ namespace VyrHostPlatform {
 /// @param error  gets the system's error code where there is no result.
 [[nodiscard]] std::optional<CString> ReadFolderState(const CString& path, std::uint32_t& error);
 
-/// Gives the folder at `path` the state that ReadFolderState told. An owner or an extended attribute that the user may
-/// not set, or the file system cannot hold, is passed over.
+/// Gives the folder at `path` the state from ReadFolderState. Skips an owner or an extended attribute that the user may
+/// not set or the file system cannot store.
 /// @return 0, else the system's error code: invalid argument where `state` is not a result of ReadFolderState.
 [[nodiscard]] std::uint32_t RestoreFolderState(const CString& path, const CString& state);
 
-/// Whether `state` has the form of what ReadFolderState tells on this system.
+/// Whether `state` has the form of a result of ReadFolderState on this system.
 [[nodiscard]] bool IsFolderState(const CString& state);
 
 } // namespace VyrHostPlatform

@@ -1,5 +1,5 @@
 /// @file
-/// How much space copies of files find.
+/// The free space for copies of files.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -10,8 +10,8 @@
 namespace VyrHostPlatform {
 
 /// The bytes that the user may still write to the folder `to`, quotas counted where the system does.
-/// @return nothing where the system does not tell, and where files that are copied from the folder `from` may share
-/// their storage with the copies, so that those take no space (btrfs, xfs and others, within one file system).
+/// @return nothing if unknown, and if files in the folder `from` may share their storage with the copies, so that those
+/// take no space (btrfs, xfs and others, within one file system).
 [[nodiscard]] std::optional<std::uint64_t> GetSpaceForCopies(const CString& from, const CString& to);
 
 } // namespace VyrHostPlatform

@@ -1,10 +1,10 @@
 /// @file
-/// The user interrupts the program (Ctrl-C), or the terminal is closed.
+/// Handles interrupts: Ctrl-C, or closing the terminal.
 #pragma once
 
 namespace VyrHostPlatform::Interrupt {
 
-/// From now on the first interrupt is noted and does not end the program; the second one ends it.
+/// From now on the first interrupt is only noted; the second one ends the program.
 void Catch();
 /// Whether an interrupt was noted.
 [[nodiscard]] bool WasAsked() noexcept;

@@ -20,8 +20,8 @@ enum class NameFolding : std::uint8_t
     CaseAndForm = 3
 };
 
-/// How the folder at `path` compares names. A folder that does not exist yet counts as its nearest existing parent.
-/// Where the file system does not tell, it is tried on a name that the folder has, without changing anything.
+/// How the folder at `path` compares names. A folder that does not exist yet counts as its nearest existing parent. If
+/// the file system does not say it, tries it on existing names in the folder, without changing anything.
 [[nodiscard]] NameFolding GetNameFolding(const CString& path);
 
 /// The key of `name`: two names are equal in a folder when their keys are equal. `A.JPG` and `a.jpg` have one key under
@@ -29,8 +29,8 @@ enum class NameFolding : std::uint8_t
 [[nodiscard]] CString FoldName(const CString& name, NameFolding folding);
 
 /// Whether `left` and `right` are equal names in the existing folder `path`. Tries it with empty folders in a new
-/// subfolder, and removes them: use it where much depends on the answer, since NameFolding of an empty folder may be
-/// unknown. False also when the user may not create folders there.
+/// subfolder, and removes them. Use it when the answer must be certain: GetNameFolding may not know it for an empty
+/// folder. False also when the user may not create folders there.
 [[nodiscard]] bool TryIsOneName(const CString& path, const CString& left, const CString& right);
 
 } // namespace VyrHostPlatform

@@ -7,9 +7,9 @@
 
 namespace VyrHostPlatform {
 
-/// While it exists, the drains (MessageQueue.h) of the thread that created it call a function at intervals: a host
-/// shows the progress of a long operation so. A thread has one at a time; on Linux it replaces a main loop that is
-/// plugged in (LinuxMessageQueue.h). Threads without one pay nothing for it.
+/// While it exists, the drains (MessageQueue.h) of the thread that created it call a function at intervals: so a host
+/// can show the progress of a long operation. A thread can have one at a time; on Linux it replaces a plugged-in main
+/// loop (MainLoop.h). Costs nothing for other threads.
 class QueueTimer
 {
 public:

@@ -1,5 +1,5 @@
 /// @file
-/// Reads a file or pipe that the user names, from beginning to end.
+/// Reads a whole file or pipe.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>

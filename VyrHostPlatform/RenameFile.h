@@ -1,5 +1,5 @@
 /// @file
-/// Renames that never replace anything, and one that replaces a file.
+/// Renames without replacing anything, and a rename that replaces a file.
 #pragma once
 
 #include <VyrPlatform/files/FileIdentity.h>
@@ -18,17 +18,17 @@ namespace VyrHostPlatform {
 /// @return 0 when it was renamed, else the system's error code, and nothing has changed.
 [[nodiscard]] std::uint32_t RenameNoReplace(const CString& from, const CString& to);
 
-/// Whether RenameNoReplace answers `error` because something stands at the new path.
+/// Whether RenameNoReplace returned `error` because something is at the new path.
 [[nodiscard]] bool IsTargetTaken(std::uint32_t error) noexcept;
-/// Whether RenameNoReplace answers `error` because the new path is on another file system.
+/// Whether RenameNoReplace returned `error` because the new path is on another file system.
 [[nodiscard]] bool IsOtherFileSystem(std::uint32_t error) noexcept;
 
 /// Renames the file `from` to `to` on the same file system, in place of the regular file there. On Linux it gets that
-/// file's permissions, and its owner where the user may give it.
+/// file's permissions, and its owner if the user may set it.
 /// @return 0 when it was renamed, else the system's error code (also where nothing or no regular file is at `to`).
 [[nodiscard]] std::uint32_t RenameOver(const CString& from, const CString& to);
 
-/// A folder whose entries are examined and renamed by name, which is quicker than by path.
+/// A folder whose entries are queried and renamed by name, which is faster than by path.
 ///
 /// A name is one part of a path, never empty, "." or "..". After a rename of the folder or of a parent, open it again.
 class OpenFolder

@@ -11,7 +11,7 @@ std::uint32_t DurableFile::WriteWhole(const CString& path, const Content& conten
 {
     const CString temporary = VyrPlatform::MakeTemporaryPath(path);
     const bool isReplaced = mayReplace && VyrPlatform::FileSystem::Exists(path);
-    // Nobody may read more than in the file that is replaced.
+    // Not readable for more users than the replaced file.
     const Readers readers = isReplaced ? Readers::Owner : Readers::ByMask;
     if (const std::uint32_t error = WriteNew(temporary, content, readers))
         return error;

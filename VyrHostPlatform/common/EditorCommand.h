@@ -1,12 +1,12 @@
 /// @file
-/// Which program the user wants to edit texts in.
+/// Finds the user's editor.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
 
 namespace VyrHostPlatform {
 
-/// The command line that VISUAL or EDITOR holds; `usual` when neither does.
+/// The command line in VISUAL or EDITOR; `usual` if neither is set.
 [[nodiscard]] CString GetEditorCommand(const CString& usual);
 
 } // namespace VyrHostPlatform

@@ -1,4 +1,4 @@
-// Checks names. The rules of Windows stand here for both systems, since files travel.
+// Checks names. Applies the rules of Windows on both systems, since files are moved between them.
 #include <VyrHostPlatform/NameRules.h>
 
 #include <VyrHostPlatform/common/SystemNameRules.h>

@@ -1,4 +1,4 @@
-// The digest of bytes that come piece by piece. Each system has its own library for it.
+// The SHA-256 of bytes that are added piece by piece, by the system's own library.
 #pragma once
 
 #include <array>
@@ -19,7 +19,7 @@ public:
     ~Sha256();
 
     void Add(std::span<const std::byte> bytes);
-    /// The digest of all bytes that were added. Nothing may be added behind it.
+    /// The digest of all added bytes. Add nothing after it.
     [[nodiscard]] Digest Finish();
 
 private:

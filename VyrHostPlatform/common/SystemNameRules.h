@@ -1,16 +1,16 @@
 /// @file
-/// What each system itself says about names.
+/// Each system's own rules for names.
 #pragma once
 
 #include <VyrHostPlatform/NameRules.h>
 
 namespace VyrHostPlatform::SystemNameRules {
 
-/// Whether the system takes no name with `fault` (one of those that Windows names have).
+/// Whether the system refuses names with `fault` (a fault of names on Windows).
 [[nodiscard]] bool IsError(NameFault fault) noexcept;
-/// Whether `unit` may stand in no name on this system.
+/// Whether no name on this system can contain `unit`.
 [[nodiscard]] bool IsForbidden(char16_t unit) noexcept;
-/// Whether `name` takes more than the 255 that the system has for a name.
+/// Whether `name` is longer than the system's 255 bytes or code units.
 [[nodiscard]] bool IsTooLong(std::u16string_view name);
 
 } // namespace VyrHostPlatform::SystemNameRules

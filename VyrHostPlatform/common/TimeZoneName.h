@@ -1,4 +1,4 @@
-// What names of time zones look like.
+// The form of time zone names.
 #pragma once
 
 #include <algorithm>
@@ -6,7 +6,7 @@
 
 namespace VyrHostPlatform {
 
-/// Whether `name` may be that of a zone, and not of another file beside theirs. No such name leaves their folder.
+/// Whether `name` may be a zone, and not another file in the same folder. Such a name cannot lead out of that folder.
 inline bool MayBeTimeZone(std::string_view name)
 {
     const auto isCapital = [](char unit) {

@@ -67,7 +67,7 @@ void DiscardPipeSignal(const SignalsBlocked& blocked) noexcept
 /// Waits until there is input; false when an interrupt was noted before or comes meanwhile.
 bool WaitForInput()
 {
-    // Delivered only during the wait, so that none is missed between check and wait.
+    // Signals are delivered only during the wait, so that none is missed between check and wait.
     const SignalsBlocked blocked({SIGINT, SIGTERM, SIGHUP});
     pollfd input{STDIN_FILENO, POLLIN, 0};
     while (!Interrupt::WasAsked()) {

@@ -1,4 +1,4 @@
-// The editor through the shell, since the command may hold arguments.
+// Starts the editor through the shell, since the command may have arguments.
 #include <VyrHostPlatform/Editor.h>
 
 #include <VyrHostPlatform/common/EditorCommand.h>
@@ -86,7 +86,7 @@ EditedText Failure(const CString& what, int error)
 
 } // namespace
 
-/// A file of its own in the folder for temporary files.
+/// A new file in the folder for temporary files.
 class EditorFile::TemporaryFile
 {
 public:
@@ -111,10 +111,10 @@ public:
 
     void Keep() noexcept { m_isKept = true; }
     [[nodiscard]] const std::string& Path() const noexcept { return m_path; }
-    /// Why the text is not in the file; 0 when it is.
+    /// The error code if the text could not be written; else 0.
     [[nodiscard]] int Error() const noexcept { return m_error; }
 
-    /// What stands under the path now: an editor may have put a new file there.
+    /// Reads the present file at the path: an editor may have replaced it.
     [[nodiscard]] bool Read(std::string& bytes) const
     {
         const int file = ::open(m_path.c_str(), O_RDONLY | O_CLOEXEC);

@@ -14,8 +14,8 @@ namespace {
 
 using VyrPlatform::NativePath;
 
-/// The numbers that statfs tells (statfs(2), the kernel's magic.h) of the systems that a copy cannot share storage on:
-/// ext2 to ext4, tmpfs, vfat, exfat, f2fs.
+/// The numbers in statfs (statfs(2), the kernel's magic.h) of file systems on which copies cannot share storage: ext2
+/// to ext4, tmpfs, vfat, exfat, f2fs.
 constexpr std::array<std::uint32_t, 5> copiesTakeSpace{0xEF53, 0x01021994, 0x4D44, 0x2011BAB0, 0xF2F52010};
 
 bool IsOneFileSystem(const struct statfs& left, const struct statfs& right)
@@ -33,7 +33,7 @@ std::optional<std::uint64_t> GetSpaceForCopies(const CString& from, const CStrin
         return std::nullopt;
     const auto number = static_cast<std::uint32_t>(target.f_type);
     const bool takesSpace = std::find(copiesTakeSpace.begin(), copiesTakeSpace.end(), number) != copiesTakeSpace.end();
-    // A file system without blocks of its own does not count them.
+    // A file system without own blocks does not count them.
     if (target.f_blocks == 0 || (!takesSpace && IsOneFileSystem(source, target)))
         return std::nullopt;
     return std::uint64_t{target.f_bavail} * static_cast<std::uint64_t>(target.f_bsize);

@@ -1,4 +1,4 @@
-// Notes SIGINT, SIGTERM and SIGHUP (the terminal is closed) for the program to look at between two steps of its work.
+// Notes SIGINT, SIGTERM and SIGHUP (the terminal is closed); the program checks for them between two steps.
 #include <VyrHostPlatform/Interrupt.h>
 
 #include <atomic>
@@ -13,7 +13,7 @@ static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler may not 
 
 void Note(int signal)
 {
-    // The system and the shell both send it when the terminal is closed: the second one is no second wish.
+    // Both the system and the shell send it when the terminal is closed: the second one is not a second request.
     if (!wasAsked.exchange(true) || signal == SIGHUP)
         return;
     // It is blocked while this handler runs, and ends the program when it returns.

@@ -28,7 +28,7 @@ using namespace VyrPlatform;
 
 namespace {
 
-// The file systems' numbers as statfs tells them (statfs(2), the kernel's magic.h).
+// The numbers of file systems in statfs (statfs(2), the kernel's magic.h).
 using FileSystemNumber = std::uint32_t;
 /// ext2 to ext4, xfs, btrfs, tmpfs, f2fs: they fold names only in folders that carry the flag.
 constexpr std::array<FileSystemNumber, 5> exactUnlessFlagged{0xEF53, 0x58465342, 0x9123683E, 0x01021994, 0xF2F52010};
@@ -129,7 +129,7 @@ bool Lists(int folder, const std::string& name) noexcept
     return false;
 }
 
-/// Whether `folder` finds its entry `name` under `otherName` too; nothing when this entry cannot show it.
+/// Whether `folder` finds its entry `name` also under `otherName`; nothing when this entry cannot show it.
 std::optional<bool> IsFoundAs(int folder, const std::string& name, const std::string& otherName) noexcept
 {
     if (otherName == name)
@@ -201,7 +201,7 @@ std::u16string FoldFully(std::u16string_view text)
         if (!u_hasBinaryProperty(point, UCHAR_DEFAULT_IGNORABLE_CODE_POINT))
             Append(visible, point);
     }
-    // One unit folds to three at most.
+    // One unit folds to at most three.
     std::u16string folded(visible.size() * 3, u'\0');
     UErrorCode error = U_ZERO_ERROR;
     const int32_t length = u_strFoldCase(folded.data(), static_cast<int32_t>(folded.size()), visible.data(),

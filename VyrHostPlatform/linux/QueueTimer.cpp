@@ -1,4 +1,4 @@
-// A main loop whose only event is the timer.
+// Implemented as a main loop whose only event is the timer.
 #include <VyrHostPlatform/QueueTimer.h>
 
 #include <VyrPlatform/process/MainLoop.h>

@@ -1,4 +1,4 @@
-// Renames without ever replacing, and over a file, on Linux.
+// Renames without replacing, and over a file, on Linux.
 #include <VyrHostPlatform/RenameFile.h>
 
 #include <VyrPlatform/linux/files/Descriptor.h>
@@ -65,8 +65,8 @@ std::uint32_t Rename(Place from, Place to) noexcept
 {
     if (renameat2(from.folder, from.name, to.folder, to.name, RENAME_NOREPLACE) == 0)
         return 0;
-    // A file system without this call answers EINVAL. One that has it answers so for a folder moved into itself, which
-    // the other ways refuse too.
+    // A file system without this call returns EINVAL. One with it returns it for a folder moved into itself, which the
+    // fallbacks refuse, too.
     const std::uint32_t error = LastError();
     return error == EINVAL || error == ENOSYS ? RenameInTwoCalls(from, to) : error;
 }

@@ -15,7 +15,7 @@ EVP_MD_CTX* StateOf(void* state)
 
 } // namespace
 
-// Its calls fail for want of memory alone.
+// Its calls fail only without memory.
 Sha256::Sha256() : m_state(EVP_MD_CTX_new())
 {
     if (m_state == nullptr || EVP_DigestInit_ex(StateOf(m_state), EVP_sha256(), nullptr) != 1)

@@ -1,4 +1,4 @@
-// The editor as a process of its own.
+// Starts the editor as a process.
 #include <VyrHostPlatform/Editor.h>
 
 #include <VyrHostPlatform/common/EditorCommand.h>
@@ -39,7 +39,7 @@ EditedText Failure(const CString& what, DWORD error)
 
 } // namespace
 
-/// A file of its own in the folder for temporary files.
+/// A new file in the folder for temporary files.
 class EditorFile::TemporaryFile
 {
 public:
@@ -63,10 +63,10 @@ public:
 
     void Keep() noexcept { m_isKept = true; }
     [[nodiscard]] const CString& Path() const noexcept { return m_path; }
-    /// Why the text is not in the file; 0 when it is.
+    /// The error code if the text could not be written; else 0.
     [[nodiscard]] DWORD Error() const noexcept { return m_error; }
 
-    /// What stands under the path now: an editor may have put a new file there.
+    /// Reads the present file at the path: an editor may have replaced it.
     [[nodiscard]] bool Read(std::string& bytes) const
     {
         const Handle file = Open(GENERIC_READ, OPEN_EXISTING);

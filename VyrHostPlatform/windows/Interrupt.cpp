@@ -1,4 +1,4 @@
-// Notes Ctrl-C, Ctrl-Break and the closing of the console for the program to look at between two steps of its work.
+// Notes Ctrl-C, Ctrl-Break and the closing of the console; the program checks for them between two steps.
 #include <VyrHostPlatform/Interrupt.h>
 
 #include <atomic>

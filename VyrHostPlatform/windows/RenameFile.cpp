@@ -1,4 +1,4 @@
-// Renames without ever replacing, and over a file, on Windows.
+// Renames without replacing, and over a file, on Windows.
 #include <VyrHostPlatform/RenameFile.h>
 
 #include <VyrPlatform/windows/files/LongPath.h>
@@ -18,8 +18,8 @@ namespace {
 /// Keeps only the path: an open folder and its parents could not be renamed.
 constexpr std::intptr_t noHandle = -1;
 
-/// The form of a path that the system does not change. In others it removes dots and blanks at the end of a name, and
-/// takes some names for devices.
+/// The form of a path that the system uses unchanged. In other forms it removes dots and blanks at the end of a name,
+/// and treats some names as devices.
 CString ToExactPath(const CString& fullPath)
 {
     CString path = fullPath;
@@ -89,7 +89,7 @@ std::uint32_t OpenFolder::RenameNoReplace(std::u16string_view name, const OpenFo
 
 std::uint32_t OpenFolder::DropSecondName(std::u16string_view, const OpenFolder&, std::u16string_view) const
 {
-    // The system renames in one call everywhere, so that nothing is ever left half done.
+    // The system always renames in one call, so nothing is ever half done.
     return ERROR_NOT_SUPPORTED;
 }
 

@@ -11,7 +11,7 @@ namespace VyrHostPlatform {
 
 namespace {
 
-/// One for the whole run, as the system advises: opening it is slow.
+/// One for the whole process, as recommended: opening it is slow.
 BCRYPT_ALG_HANDLE Provider()
 {
     static const BCRYPT_ALG_HANDLE provider = [] {
@@ -23,7 +23,7 @@ BCRYPT_ALG_HANDLE Provider()
 
 void Require(NTSTATUS status)
 {
-    // Its calls fail for want of memory alone.
+    // Its calls fail only without memory.
     if (status < 0)
         throw std::bad_alloc();
 }
@@ -42,7 +42,7 @@ Sha256::~Sha256()
 
 void Sha256::Add(std::span<const std::byte> bytes)
 {
-    // The call takes the bytes as writable, and only reads them.
+    // The call takes writable bytes, but only reads them.
     auto* const first = reinterpret_cast<UCHAR*>(const_cast<std::byte*>(bytes.data()));
     Require(BCryptHashData(m_state, first, static_cast<ULONG>(bytes.size()), 0));
 }
