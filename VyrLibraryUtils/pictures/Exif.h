@@ -20,9 +20,8 @@ constexpr std::size_t longestXmp = 65536;
 /// The text of `tag` in `block`: a TIFF structure, with or without JPEG's identifier "Exif" and two NULs before it.
 [[nodiscard]] std::string ReadExif(const ByteView& block, PictureTag tag);
 
-/// The text of `tag` in `item`: a 32-bit big-endian distance, and the block at that distance behind it. Items of
-/// writers that leave out the distance are read too. Source: ISO/IEC 23008-12, annex A.2.1; ISO/IEC 18181-2,
-/// section 9.4.
+/// The text of `tag` in `item`: a 32-bit big-endian distance, then the block at that distance. Items of writers that
+/// leave out the distance are read too. Source: ISO/IEC 23008-12, annex A.2.1; ISO/IEC 18181-2, section 9.4.
 [[nodiscard]] std::string ReadExifItem(const ByteView& item, PictureTag tag);
 
 } // namespace VyrLibraryUtils::Pictures

@@ -177,7 +177,7 @@ std::string ReadMeta(const ByteView& meta, const ByteView& file, PictureTag tag)
         else if (box->type == FourCc("idat"))
             itemData = box->content;
     }
-    // Packets of XMP are the only MIME items that are met.
+    // XMP packets are the only MIME items in practice.
     const std::optional<std::uint32_t> item =
         FindItem(itemInfo, tag == PictureTag::Xmp ? FourCc("mime") : FourCc("Exif"));
     return item ? ItemLocations(itemLocation, file, itemData).ReadItem(*item, tag) : std::string();

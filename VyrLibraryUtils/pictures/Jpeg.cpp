@@ -48,7 +48,7 @@ std::uint8_t NextMarker(ByteCursor& jpeg)
     return endOfImage;
 }
 
-/// The heads of frames: C0 to CF, but for three other segments among them.
+/// Frame headers: C0 to CF, except three other segments among them.
 bool IsFrame(std::uint8_t marker)
 {
     constexpr std::uint8_t huffmanTables = 0xC4;

@@ -17,7 +17,7 @@ namespace VyrLibraryUtils::Pictures {
 /// the picture's data. Source: ITU-T T.81, annex B; Exif 2.32, section 4.7.
 [[nodiscard]] std::string ReadJpeg(const ByteView& jpeg, PictureTag tag);
 
-/// The size that the head of the frame tells; zeros where there is none.
+/// The size in the frame header; zeros if there is none.
 [[nodiscard]] PictureSize ReadJpegSize(const ByteView& jpeg);
 
 } // namespace VyrLibraryUtils::Pictures

@@ -12,7 +12,7 @@
 namespace VyrLibraryUtils::Pictures {
 namespace {
 
-/// JPEG's segments, kept without a picture.
+/// JPEG segments without a picture.
 constexpr std::string_view bareSegments = "\xFF\x01"
                                           "Exiv2";
 constexpr std::string_view pngSignature = "\x89PNG\r\n\x1A\n";

@@ -1,4 +1,4 @@
-// Reads the sizes of pictures from their heads.
+// Reads the sizes of pictures from their headers.
 #include <VyrLibraryUtils/pictures/PictureSize.h>
 
 #include <VyrLibraryUtils/pictures/ByteView.h>
@@ -35,7 +35,7 @@ PictureSize ReadBmpSize(const ByteView& bmp)
         const std::uint32_t width = cursor.U16();
         return {width, cursor.U16()};
     }
-    // A picture that is kept from top to bottom has a negative height.
+    // A picture stored from top to bottom has a negative height.
     const auto width = static_cast<std::int32_t>(cursor.U32());
     const auto height = static_cast<std::int32_t>(cursor.U32());
     const bool isSound = width > 0 && height != INT32_MIN;
@@ -43,7 +43,7 @@ PictureSize ReadBmpSize(const ByteView& bmp)
                    : PictureSize{};
 }
 
-/// Of the first chunk: that of an extended picture, of one without loss, or of one with loss.
+/// The size in the first chunk: extended, lossless or lossy.
 PictureSize ReadWebPSize(const ByteView& webP)
 {
     constexpr std::uint64_t firstChunk = 12;

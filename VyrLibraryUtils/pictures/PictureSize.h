@@ -1,5 +1,5 @@
 /// @file
-/// How many points a picture has.
+/// Reads the sizes of pictures.
 #pragma once
 
 #include <VyrLibraryUtils/Export.h>
@@ -11,7 +11,7 @@
 
 namespace VyrLibraryUtils::Pictures {
 
-/// In points; neither is 0.
+/// In pixels; neither is 0.
 struct PictureSize
 {
     std::uint32_t width = 0;
@@ -20,10 +20,11 @@ struct PictureSize
     friend bool operator==(const PictureSize&, const PictureSize&) = default;
 };
 
-/// The size that the head of a JPEG, PNG, GIF, WebP or BMP tells: the formats that browsers show. The picture is not
-/// decoded, and need not be sound. The first bytes tell the format.
-/// @return nothing for other formats, and where the head is cut off or tells a width or a height of 0. Sources: ITU-T
-///     T.81, annex B.2.2; PNG (third edition), section 11.2.2; GIF 89a, section 18; RFC 9649, sections 2.5 to 2.7.
+/// The size in the header of a JPEG, PNG, GIF, WebP or BMP picture, the formats that browsers show. The picture is not
+/// decoded and may be damaged. The first bytes determine the format.
+/// @return nothing for other formats, and for a header that is truncated or has a width or a height of 0. Sources:
+///     ITU-T T.81, annex B.2.2; PNG (third edition), section 11.2.2; GIF 89a, section 18; RFC 9649, sections 2.5 to
+///     2.7.
 [[nodiscard]] VYR_UTILS_API std::optional<PictureSize> ReadPictureSize(ByteSource& source);
 
 /// ReadPictureSize of a picture in memory.

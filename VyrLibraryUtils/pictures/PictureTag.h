@@ -6,8 +6,8 @@
 
 namespace VyrLibraryUtils::Pictures {
 
-/// What is asked of a picture: a tag's number, and in the bits above it where the tag stands. Source: Exif 2.32,
-/// sections 4.6.4 to 4.6.6 and 4.5.7; Adobe, XMP storage in files, section 3.
+/// A requested tag: its number, and in the bits above it the directory. Source: Exif 2.32, sections 4.6.4 to 4.6.6 and
+/// 4.5.7; Adobe, XMP storage in files, section 3.
 enum class PictureTag : std::uint32_t
 {
     Make = 0x010F,              ///< of the first directory
@@ -30,13 +30,13 @@ enum class PictureTag : std::uint32_t
     return static_cast<PictureTag>(0x10000U | number);
 }
 
-/// The tag `number` of the directory with the place.
+/// The tag `number` of the GPS directory.
 [[nodiscard]] constexpr PictureTag PlaceTag(std::uint16_t number)
 {
     return static_cast<PictureTag>(0x20000U | number);
 }
 
-/// `tag` with its bytes as they stand, NULs among them, whatever the type of the tag says.
+/// `tag` as unchanged bytes, including NULs, whatever its type.
 [[nodiscard]] constexpr PictureTag AsBytes(PictureTag tag)
 {
     return static_cast<PictureTag>(0x40000U | static_cast<std::uint32_t>(tag));

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::uint16_t exifDirectoryLink = 0x8769;
 constexpr std::uint16_t placeDirectoryLink = 0x8825;
-/// How many bytes the thumbnail has; PictureTag::Thumbnail says where it stands.
+/// The length of the thumbnail in bytes; PictureTag::Thumbnail is its offset.
 constexpr std::uint16_t thumbnailLength = 0x0202;
 constexpr std::size_t entrySize = 12;
 /// The longest text that is copied, in bytes: longer than real ones, and harmless from a hostile file.
@@ -60,7 +60,7 @@ public:
     [[nodiscard]] std::string Bytes(const Entry& entry) const;
     /// The numbers of `entry`, with blanks between them; a fraction is "1/250". Empty where it holds none.
     [[nodiscard]] std::string Numbers(const Entry& entry) const;
-    /// The thumbnail that the directory behind the one at `offset` refers to.
+    /// The thumbnail that the directory after the one at `offset` refers to.
     [[nodiscard]] std::string Thumbnail(std::uint32_t offset) const;
 
 private:
@@ -68,7 +68,7 @@ private:
     {
         return static_cast<std::uint32_t>(ToUnsigned(bytes.substr(place, width), m_order));
     }
-    /// The offset of the directory behind the one at `offset`; 0 when there is none.
+    /// The offset of the directory after the one at `offset`; 0 when there is none.
     [[nodiscard]] std::uint32_t NextDirectory(std::uint32_t offset) const;
     /// The number in the entry of `tag` in the directory at `offset`; 0 when there is none.
     [[nodiscard]] std::uint32_t LongIn(std::uint32_t offset, std::uint16_t tag) const;
@@ -120,7 +120,7 @@ std::string TiffReader::Bytes(const Entry& entry) const
     return value.Size() == entry.count ? value.Copy(longestText) : std::string();
 }
 
-/// How many bytes a number of that type has; 0 for types that hold no numbers.
+/// The size of a number of that type in bytes; 0 for types without numbers.
 std::size_t WidthOf(ValueType type)
 {
     switch (type) {
@@ -141,7 +141,7 @@ std::size_t WidthOf(ValueType type)
 
 std::string TiffReader::Numbers(const Entry& entry) const
 {
-    // No tag of Exif has more.
+    // No Exif tag has more.
     constexpr std::uint32_t mostNumbers = 16;
     const std::size_t width = WidthOf(entry.type);
     const bool isSigned = entry.type == ValueType::SignedLong || entry.type == ValueType::SignedRational;
@@ -218,7 +218,7 @@ bool IsBlankDate(const std::string& date)
     return date.find_first_of("123456789") == std::string::npos;
 }
 
-/// A structure whose first directory is `Linked` itself has no other.
+/// If the first directory is itself `Linked`, there is no other.
 std::optional<Entry> FindTag(const TiffReader& reader, std::uint32_t directory, PictureTag tag, FirstDirectory first)
 {
     const std::uint16_t number = NumberOf(tag);

@@ -21,7 +21,7 @@ enum class FirstDirectory : std::uint8_t
 /// of its 42 (ORF, RW2).
 [[nodiscard]] bool IsTiff(const ByteView& bytes);
 
-/// A larger thumbnail is left alone, in bytes: Exif has no room for it, and so it is something else.
+/// The maximum size of a thumbnail in bytes: larger data does not fit into Exif, so it is something else.
 constexpr std::size_t largestThumbnail = 65536;
 
 /// The text of `tag` in the TIFF structure that begins at the first byte of `tiff`, without trailing blanks and NULs.
