@@ -79,7 +79,7 @@ public:
     /// path is unchanged where p is greater than n (for the last two, p + c), and for any other value.
     enum class AddDeleteType : int
     {
-        /// Inserts `addText` behind the first p characters.
+        /// Inserts `addText` after the first p characters.
         InsertFromStart = 0,
         /// Inserts `addText` before the last p characters.
         InsertFromEnd = 1,
@@ -87,7 +87,7 @@ public:
         KeepFirst = 2,
         /// Keeps the last p characters.
         KeepLast = 3,
-        /// Deletes c characters behind the first p.
+        /// Deletes c characters after the first p.
         DeleteFromStart = 4,
         /// Deletes c characters before the last p.
         DeleteFromEnd = 5
@@ -284,7 +284,7 @@ public:
 private:
     friend struct PrivateOperations;
 
-    /// The decimal text of `number` behind the zeros of GetScaleString: for 3 digits 5 gives "005", -5 gives "00-5".
+    /// The zeros of GetScaleString and the decimal text of `number`: for 3 digits 5 gives "005", -5 gives "00-5".
     static CString GetSequenceNumber(int digits, int number);
     /// One zero for each of the powers 10 to 10^(digits - 1) that is greater than `number`; fewer after a stop.
     static CString GetScaleString(int digits, int number);

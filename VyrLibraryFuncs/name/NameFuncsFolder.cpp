@@ -70,12 +70,12 @@ bool IsInside(const CString& path, const CString& folder)
         return false;
     CString above = VyrPlatform::GetFullPath(path.IsEmpty() ? CString(u".") : path);
     while (!above.IsEmpty() && !FileUtils::IsFileExist(above)) {
-        // Out of a folder that is still to be created, the way may lead anywhere.
+        // Nobody can tell where a way out of a folder leads that does not exist yet.
         if (FileUtils::GetSplitFileName(above) == u"..")
             return true;
         above = ParentOf(above);
     }
-    // In a real path the parent of a name is the folder in front of it, without regard to links.
+    // In a real path, which has no links, the parent of a name is the folder before it.
     if (const CString real = VyrPlatform::GetRealPath(above); !real.IsEmpty())
         above = real;
     while (!above.IsEmpty() && VyrPlatform::LookAtFile(above).identity != wanted.identity)

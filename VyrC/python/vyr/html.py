@@ -6,7 +6,7 @@ Gives the pieces of an HTML5 page; a host joins them in the order of the documen
   empty text gives an empty value: the attribute is kept.
 - Lines end in CR LF. Tags of the head are indented by one tab. Each operation says whether its piece ends a line.
 - `newLine`: any value but 0 appends one CR LF.
-- `attributes`: further attributes as they stand in a tag, such as `colspan="2" title="x"`.
+- `attributes`: further attributes in the form of a tag, such as `colspan="2" title="x"`.
 - A pair is the opening tag, the content and the closing tag, with nothing between them.
 
 Example: `GetTrPairTag(GetTdPairTag(u"a") + GetTdPairTag(u"b"))` gives `<tr><td>a</td><td>b</td></tr>`.
