@@ -1,7 +1,7 @@
 // Begins, locates, runs and closes a batch.
 #include <VyrHost/batch/BatchWork.h>
 
-#include <VyrHost/batch/DiskLooks.h>
+#include <VyrHost/batch/DiskChecks.h>
 #include <VyrHost/batch/KeptFiles.h>
 #include <VyrHost/batch/Locator.h>
 #include <VyrHost/model/Change.h>
@@ -217,7 +217,7 @@ BatchWork::Report BatchWork::CountAnd(const Report& report)
     };
 }
 
-void BatchWork::Foresee(Direction direction, const Report& report)
+void BatchWork::Predict(Direction direction, const Report& report)
 {
     const Report counted = CountAnd(report);
     const std::vector<Model::PlanEntry>& entries = m_journal.plan.entries;
@@ -228,10 +228,10 @@ void BatchWork::Foresee(Direction direction, const Report& report)
         if (const Model::PlanIndex before = entries[entry].waitsFor; before != Model::none)
             inPlace[isForward ? entry : before] = isForward ? before : entry;
     for (Model::PlanIndex entry = 0; entry < entries.size(); ++entry)
-        counted(entry, ForeseeEntry(entry, isForward ? Location::After : Location::Before, inPlace[entry]));
+        counted(entry, PredictEntry(entry, isForward ? Location::After : Location::Before, inPlace[entry]));
     for (std::size_t index = 0; index < m_journal.changes.size(); ++index)
         if (!m_changes.IsKept(index))
-            counted(entries.size() + index, m_changes.Foresee(index, direction));
+            counted(entries.size() + index, m_changes.Predict(index, direction));
 }
 
 /// Whether the batch made a folder at `place`, which goes when the batch is undone.
@@ -245,7 +245,7 @@ bool BatchWork::IsMadeFolder(const Model::Place& place) const
 }
 
 /// Refuses entries that are not found, and those whose place something outside the batch has taken.
-Model::Outcome BatchWork::ForeseeEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace)
+Model::Outcome BatchWork::PredictEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace)
 {
     const Model::Place place = m_progress.PlaceOf(entry, goal);
     if (m_notFound.contains(entry))

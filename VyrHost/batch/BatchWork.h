@@ -31,8 +31,8 @@ public:
     /// The files that are protected against writing, and may lose that while the work lasts.
     [[nodiscard]] std::vector<ProtectedFile> FindProtected() const;
     /// Looks how far every file has its change.
-    /// @param mends  whether the work was cut off, and the files may be changed (Change::Mend).
-    void Locate(bool mends);
+    /// @param repairs  whether the work was cut off, and the files may be changed (Change::Repair).
+    void Locate(bool repairs);
     /// Whether there is one that is not kept, and whose file has the change or can get it.
     [[nodiscard]] bool IsAnyFound() const;
 
@@ -44,7 +44,7 @@ public:
     /// @return false when it was stopped before the end.
     bool Run(Direction direction, bool followRenames, const Report& report, const Executor::StopRequest& isStopAsked);
     /// After Locate: what Run would report of a change.
-    [[nodiscard]] Model::Outcome Foresee(std::size_t index, Direction direction) const;
+    [[nodiscard]] Model::Outcome Predict(std::size_t index, Direction direction) const;
 
     [[nodiscard]] bool IsKept(std::size_t index) const { return m_isKept[index]; }
     /// Whether it is done, or may turn out to be at the next attempt to undo it.
@@ -101,7 +101,7 @@ public:
     /// Does what is left to do in `direction`, looks at the folders, and closes the journal.
     void Run(Direction direction, const Report& report, const StopRequest& isStopAsked);
     /// After Locate: tells what Run would do, as far as it can be seen.
-    void Foresee(Direction direction, const Report& report);
+    void Predict(Direction direction, const Report& report);
 
     /// After Locate: what is said of an entry or a change.
     [[nodiscard]] BatchEntry Describe(std::size_t index, const Model::Outcome& result) const;
@@ -114,7 +114,7 @@ private:
     bool MayGoOn(std::uint32_t journalError);
     [[nodiscard]] std::uint32_t NoteProtected();
     [[nodiscard]] Report CountAnd(const Report& report);
-    [[nodiscard]] Model::Outcome ForeseeEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace);
+    [[nodiscard]] Model::Outcome PredictEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace);
     /// Waits until the files that were replaced stand on the disk under their names.
     void FlushReplaced();
     void CheckListings(Location location);

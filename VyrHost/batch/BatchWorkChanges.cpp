@@ -78,16 +78,16 @@ void ChangeWork::ProtectAgain() const
     }
 }
 
-void ChangeWork::Locate(bool mends)
+void ChangeWork::Locate(bool repairs)
 {
-    if (mends)
+    if (repairs)
         ProtectAgain();
     for (std::size_t index = 0; index < m_looks.size(); ++index) {
         if (m_isKept[index])
             continue;
         const CString path = PathOf(index);
-        if (mends)
-            m_journal.changes[index].change->Mend(path);
+        if (repairs)
+            m_journal.changes[index].change->Repair(path);
         m_looks[index] = m_journal.changes[index].change->Look(path);
     }
 }
@@ -156,15 +156,15 @@ Outcome ChangeWork::Perform(std::size_t index, Direction direction)
     const Model::Change& change = *m_journal.changes[index].change;
     const CString path = PathOf(index);
     m_looks[index] = change.Look(path);
-    Outcome foreseen = Foresee(index, direction);
-    if (foreseen.status != Status::Done || m_looks[index].state == GoalOf(direction))
-        return foreseen;
+    Outcome predicted = Predict(index, direction);
+    if (predicted.status != Status::Done || m_looks[index].state == GoalOf(direction))
+        return predicted;
     const std::uint32_t error = direction == Direction::Forward ? change.Apply(path) : change.Undo(path);
     m_looks[index] = error ? change.Look(path) : Model::ChangeLook{GoalOf(direction), 0};
-    return error ? Failure(error) : foreseen;
+    return error ? Failure(error) : predicted;
 }
 
-Outcome ChangeWork::Foresee(std::size_t index, Direction direction) const
+Outcome ChangeWork::Predict(std::size_t index, Direction direction) const
 {
     const Model::ChangeLook& look = m_looks[index];
     if (look.state == Model::ChangeState::Unknown)

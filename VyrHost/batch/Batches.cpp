@@ -2,7 +2,7 @@
 #include <VyrHost/batch/Batches.h>
 
 #include <VyrHost/batch/BatchWork.h>
-#include <VyrHost/batch/DiskLooks.h>
+#include <VyrHost/batch/DiskChecks.h>
 #include <VyrHost/model/FolderSet.h>
 #include <VyrHost/text/Errors.h>
 
@@ -272,7 +272,7 @@ BatchSummary Batches::PreviewReverse(std::uint32_t number, Direction direction, 
     BatchSummary summary;
     JournalFolder folder = OpenJournals();
     UseReversed(folder, number, direction, true, summary,
-                [&](BatchWork& work) { work.Foresee(direction, Described(work, report)); });
+                [&](BatchWork& work) { work.Predict(direction, Described(work, report)); });
     return summary;
 }
 
@@ -317,7 +317,7 @@ BatchSummary Batches::PreviewRecover(Recovery recovery, const BatchEntryReport& 
     BatchSummary summary;
     JournalFolder folder = OpenJournals();
     UseCutOff(folder, recovery, true, summary,
-              [&](BatchWork& work, Direction direction) { work.Foresee(direction, Described(work, report)); });
+              [&](BatchWork& work, Direction direction) { work.Predict(direction, Described(work, report)); });
     return summary;
 }
 

@@ -74,8 +74,8 @@ bool LiesIn(const CString& path, const FileState& folder)
 {
     if (path.IsEmpty() || folder.kind != VyrPlatform::FileSystem::Kind::Folder)
         return false;
-    const std::vector<VyrPlatform::FileIdentity> way = WayTo(path);
-    return std::find(way.begin(), way.end(), folder.identity) != way.end();
+    const std::vector<VyrPlatform::FileIdentity> identities = IdentitiesOnPath(path);
+    return std::find(identities.begin(), identities.end(), folder.identity) != identities.end();
 }
 
 Model::ResultPath PathOf(const CString& path)

@@ -117,18 +117,18 @@ bool IsEnded(BatchPhase phase)
     return phase == BatchPhase::Applied || phase == BatchPhase::Undone;
 }
 
-std::vector<VyrPlatform::FileIdentity> WayTo(const CString& path)
+std::vector<VyrPlatform::FileIdentity> IdentitiesOnPath(const CString& path)
 {
-    std::vector<VyrPlatform::FileIdentity> way;
+    std::vector<VyrPlatform::FileIdentity> identities;
     for (const CString& written : {VyrPlatform::GetFullPath(path), VyrPlatform::GetRealPath(path)}) {
         // A link is looked at itself without a separator behind it, and followed with one; a root has one in any case.
         for (std::u16string_view at = written; !Model::FolderPart(at).empty();
              at = at.substr(0, Model::FolderPart(at).size() - 1))
             for (const std::u16string_view seen : {at, Model::FolderPart(at)})
                 if (const VyrPlatform::FileState state = VyrPlatform::LookAtFile(seen); state.error == 0)
-                    way.push_back(state.identity);
+                    identities.push_back(state.identity);
     }
-    return way;
+    return identities;
 }
 
 JournalFolder::JournalFolder(FileOperations& files, const CString& path, const JournalKeeping& keeping)
@@ -154,11 +154,11 @@ bool JournalFolder::IsLockedByAnother() const
     return VyrHostPlatform::FileLock(PathOf(lockName)).IsTaken();
 }
 
-const std::vector<VyrPlatform::FileIdentity>& JournalFolder::Way() const
+const std::vector<VyrPlatform::FileIdentity>& JournalFolder::PathIdentities() const
 {
-    if (!m_way)
-        m_way = WayTo(m_path);
-    return *m_way;
+    if (!m_pathIdentities)
+        m_pathIdentities = IdentitiesOnPath(m_path);
+    return *m_pathIdentities;
 }
 
 std::u16string_view JournalFolder::ReasonToStay(std::u16string_view name, const VyrPlatform::FileState& state) const
@@ -169,7 +169,7 @@ std::u16string_view JournalFolder::ReasonToStay(std::u16string_view name, const 
         return VyrPlatform::LookAtFile(PathOf(name)).identity == state.identity
                    ? u"it is part of the journal that \"vyr undo\" needs"
                    : u"";
-    return std::find(Way().begin(), Way().end(), state.identity) != Way().end()
+    return std::find(PathIdentities().begin(), PathIdentities().end(), state.identity) != PathIdentities().end()
                ? u"the journal that \"vyr undo\" needs is kept in it"
                : u"";
 }

@@ -55,7 +55,7 @@ using LockWait = std::function<bool()>;
 
 /// The identities of the folder at `path` and of the folders and links that its path leads through, as it is written
 /// and with its links followed.
-[[nodiscard]] std::vector<VyrPlatform::FileIdentity> WayTo(const CString& path);
+[[nodiscard]] std::vector<VyrPlatform::FileIdentity> IdentitiesOnPath(const CString& path);
 
 class JournalFolder
 {
@@ -113,14 +113,14 @@ private:
     [[nodiscard]] CString PathOf(const CString& name) const;
     void RemoveOld();
     /// The identities of the folders and links that its path leads through, and of the folder itself.
-    [[nodiscard]] const std::vector<VyrPlatform::FileIdentity>& Way() const;
+    [[nodiscard]] const std::vector<VyrPlatform::FileIdentity>& PathIdentities() const;
 
     FileOperations& m_files;
     CString m_path;
     JournalKeeping m_keeping;
     std::unique_ptr<VyrHostPlatform::FileLock> m_lock;
     /// Once asked for.
-    mutable std::optional<std::vector<VyrPlatform::FileIdentity>> m_way;
+    mutable std::optional<std::vector<VyrPlatform::FileIdentity>> m_pathIdentities;
 };
 
 } // namespace VyrHost::Batch

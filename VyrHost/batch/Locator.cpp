@@ -71,24 +71,24 @@ void Locator::LocateEntry(Model::PlanIndex entry, LastWork lastWork)
         return;
     }
     const bool isOneSlot = m_journal.plan.entries[entry].waitsFor == entry;
-    const Sight aside = m_hasTemporaryName[entry] ? LookAt(entry, Location::Temporary) : Sight();
-    if (isOneSlot && aside.likeness == Likeness::None) {
+    const Candidate temporary = m_hasTemporaryName[entry] ? LookAt(entry, Location::Temporary) : Candidate();
+    if (isOneSlot && temporary.match == Match::None) {
         LocateByName(entry);
         return;
     }
-    const Sight before = LookAt(entry, Location::Before);
-    const Sight after = isOneSlot ? Sight() : LookAt(entry, Location::After);
-    const Sight chosen = aside.likeness != Likeness::None ? aside : Choose(before, after, lastWork);
-    for (const Sight& other : {before, aside, after})
+    const Candidate before = LookAt(entry, Location::Before);
+    const Candidate after = isOneSlot ? Candidate() : LookAt(entry, Location::After);
+    const Candidate chosen = temporary.match != Match::None ? temporary : Choose(before, after, lastWork);
+    for (const Candidate& other : {before, temporary, after})
         if (lastWork == LastWork::CutOff && IsHalfRenamed(entry, chosen, other) && !EndHalfRename(entry, chosen, other))
             return;
-    Settle(entry, chosen);
+    SetLocation(entry, chosen);
 }
 
 /// Whether a rename in two calls has added the new name but not yet removed the old one.
-bool Locator::IsHalfRenamed(Model::PlanIndex entry, const Sight& kept, const Sight& left) const
+bool Locator::IsHalfRenamed(Model::PlanIndex entry, const Candidate& kept, const Candidate& left) const
 {
-    return left.location != kept.location && left.likeness == Likeness::All && kept.likeness == Likeness::All &&
+    return left.location != kept.location && left.match == Match::All && kept.match == Match::All &&
            left.state.kind != Kind::Folder && m_journal.states[entry].links == 1 && left.state.links > 1;
 }
 
@@ -97,51 +97,50 @@ void Locator::LocateByName(Model::PlanIndex entry)
 {
     const Model::PlanEntry& planned = m_journal.plan.entries[entry];
     const std::unordered_set<CString>& names = NamesIn(planned.from.folder);
-    Sight sight = LookAt(entry, Location::After);
+    Candidate candidate = LookAt(entry, Location::After);
     if (!names.contains(planned.to.name.View()))
-        sight.location = names.contains(planned.from.name.View()) ? Location::Before : Location::Unknown;
-    Settle(entry, sight);
+        candidate.location = names.contains(planned.from.name.View()) ? Location::Before : Location::Unknown;
+    SetLocation(entry, candidate);
 }
 
-Locator::Sight Locator::LookAt(Model::PlanIndex entry, Location location)
+Locator::Candidate Locator::LookAt(Model::PlanIndex entry, Location location)
 {
     const Model::Place place = m_progress.PlaceOf(entry, location);
-    Sight sight;
-    sight.location = location;
-    sight.state = m_folders.Look(place);
+    Candidate candidate;
+    candidate.location = location;
+    candidate.state = m_folders.Look(place);
     if (!m_taken.Find(place))
-        sight.likeness = Compare(entry, sight.state);
-    return sight;
+        candidate.match = Compare(entry, candidate.state);
+    return candidate;
 }
 
-Locator::Likeness Locator::Compare(Model::PlanIndex entry, const FileState& state) const
+Locator::Match Locator::Compare(Model::PlanIndex entry, const FileState& state) const
 {
     const FileState& known = m_journal.states[entry];
     if (state.kind == Kind::Missing || state.kind != known.kind)
-        return Likeness::None;
+        return Match::None;
     const bool hasSameNumber = state.identity.number == known.identity.number;
     if (known.kind == Kind::Folder)
-        return hasSameNumber ? Likeness::All : Likeness::Kind;
+        return hasSameNumber ? Match::All : Match::Kind;
     if (IsSameContent(state, known))
-        return hasSameNumber ? Likeness::All : Likeness::Content;
-    return hasSameNumber ? Likeness::Number : Likeness::Kind;
+        return hasSameNumber ? Match::All : Match::Content;
+    return hasSameNumber ? Match::Number : Match::Kind;
 }
 
 /// The likelier of the two; where both are equally likely, the new path, where that is possible.
-Locator::Sight Locator::Choose(const Sight& before, const Sight& after, LastWork lastWork)
+Locator::Candidate Locator::Choose(const Candidate& before, const Candidate& after, LastWork lastWork)
 {
-    if (before.likeness > after.likeness)
+    if (before.match > after.match)
         return before;
-    const bool isClear =
-        after.likeness > before.likeness || after.likeness == Likeness::All || lastWork == LastWork::Applied;
-    if (isClear && after.likeness != Likeness::None)
+    const bool isClear = after.match > before.match || after.match == Match::All || lastWork == LastWork::Applied;
+    if (isClear && after.match != Match::None)
         return after;
-    Sight unknown;
+    Candidate unknown;
     unknown.state.error = after.state.error ? after.state.error : before.state.error;
     return unknown;
 }
 
-bool Locator::EndHalfRename(Model::PlanIndex entry, const Sight& kept, const Sight& left)
+bool Locator::EndHalfRename(Model::PlanIndex entry, const Candidate& kept, const Candidate& left)
 {
     const Model::Place leftPlace = m_progress.PlaceOf(entry, left.location);
     const Model::Place keptPlace = m_progress.PlaceOf(entry, kept.location);
@@ -155,15 +154,15 @@ bool Locator::EndHalfRename(Model::PlanIndex entry, const Sight& kept, const Sig
     return false;
 }
 
-void Locator::Settle(Model::PlanIndex entry, const Sight& sight)
+void Locator::SetLocation(Model::PlanIndex entry, const Candidate& candidate)
 {
-    m_progress.Set(entry, sight.location);
-    if (sight.location == Location::Unknown) {
-        m_errors[entry] = sight.state.error;
+    m_progress.Set(entry, candidate.location);
+    if (candidate.location == Location::Unknown) {
+        m_errors[entry] = candidate.state.error;
         return;
     }
-    m_taken.Put(m_progress.PlaceOf(entry, sight.location), entry);
-    m_hasChanged[entry] = sight.state.kind == Kind::File && sight.likeness != Likeness::All;
+    m_taken.Put(m_progress.PlaceOf(entry, candidate.location), entry);
+    m_hasChanged[entry] = candidate.state.kind == Kind::File && candidate.match != Match::All;
 }
 
 const std::unordered_set<CString>& Locator::NamesIn(Model::PlanIndex folder)

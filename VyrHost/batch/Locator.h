@@ -47,7 +47,7 @@ public:
 private:
     /// How sure it is that what stands somewhere is the entry, rising. The number alone says less than size and time:
     /// some file systems give their numbers anew at each mount.
-    enum class Likeness : std::uint8_t
+    enum class Match : std::uint8_t
     {
         None,
         Kind,
@@ -56,22 +56,22 @@ private:
         All
     };
     /// What stands at one of an entry's places.
-    struct Sight
+    struct Candidate
     {
         Location location = Location::Unknown;
         VyrPlatform::FileState state;
-        Likeness likeness = Likeness::None;
+        Match match = Match::None;
     };
 
     void LocateNewFolder(Model::PlanIndex folder);
     void LocateEntry(Model::PlanIndex entry, LastWork lastWork);
     void LocateByName(Model::PlanIndex entry);
-    [[nodiscard]] Sight LookAt(Model::PlanIndex entry, Location location);
-    [[nodiscard]] Likeness Compare(Model::PlanIndex entry, const VyrPlatform::FileState& state) const;
-    [[nodiscard]] static Sight Choose(const Sight& before, const Sight& after, LastWork lastWork);
-    [[nodiscard]] bool IsHalfRenamed(Model::PlanIndex entry, const Sight& kept, const Sight& left) const;
-    [[nodiscard]] bool EndHalfRename(Model::PlanIndex entry, const Sight& kept, const Sight& left);
-    void Settle(Model::PlanIndex entry, const Sight& sight);
+    [[nodiscard]] Candidate LookAt(Model::PlanIndex entry, Location location);
+    [[nodiscard]] Match Compare(Model::PlanIndex entry, const VyrPlatform::FileState& state) const;
+    [[nodiscard]] static Candidate Choose(const Candidate& before, const Candidate& after, LastWork lastWork);
+    [[nodiscard]] bool IsHalfRenamed(Model::PlanIndex entry, const Candidate& kept, const Candidate& left) const;
+    [[nodiscard]] bool EndHalfRename(Model::PlanIndex entry, const Candidate& kept, const Candidate& left);
+    void SetLocation(Model::PlanIndex entry, const Candidate& candidate);
     [[nodiscard]] const std::unordered_set<CString>& NamesIn(Model::PlanIndex folder);
 
     const Journal& m_journal;

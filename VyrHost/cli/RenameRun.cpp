@@ -38,7 +38,7 @@ namespace Console = VyrHostPlatform::Console;
 using VyrPlatform::FileSystem::WithSeparator;
 
 /// Shows the mistake; false where no user can correct it, or the user stops.
-bool IsToBeMended(const std::string& mistake)
+bool WaitForCorrection(const std::string& mistake)
 {
     if (!Console::IsInputTerminal())
         return false;
@@ -63,7 +63,7 @@ std::unordered_map<std::uint32_t, CString> EditNames(const std::vector<CString>&
         try {
             return Rename::ParseEdited(*edited.text, names.size());
         } catch (const Text::UsageError& mistake) {
-            if (!IsToBeMended(mistake.what()))
+            if (!WaitForCorrection(mistake.what()))
                 throw Text::UsageError(std::string(mistake.what()) + "\nThe edited text is kept in " +
                                        Text::SafeText(file.Keep()));
         }

@@ -60,7 +60,7 @@ public:
     [[nodiscard]] CString ShownBefore() const override;
     [[nodiscard]] CString ShownAfter() const override;
     [[nodiscard]] std::shared_ptr<const Model::Change> KeepingAt(const CString& kept) const override;
-    void Mend(const CString& path) const override;
+    void Repair(const CString& path) const override;
     [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;
     [[nodiscard]] std::uint32_t Apply(const CString& path) const override;
     [[nodiscard]] std::uint32_t Undo(const CString& path) const override;

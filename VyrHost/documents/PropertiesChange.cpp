@@ -252,7 +252,7 @@ std::shared_ptr<const Model::Change> PropertiesChange::KeepingAt(const CString& 
     return std::make_shared<PropertiesChange>(m_document, kept);
 }
 
-void PropertiesChange::Mend(const CString& path) const
+void PropertiesChange::Repair(const CString& path) const
 {
     DocumentReplacement::RemoveLeftover(path);
     RemoveSecondName(path, m_kept);

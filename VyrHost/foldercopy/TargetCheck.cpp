@@ -156,7 +156,7 @@ private:
 
     void Report(const CString& path, TransferFault fault, std::uint32_t error = 0)
     {
-        m_check.clashes.push_back({path, fault, error});
+        m_check.conflicts.push_back({path, fault, error});
     }
 
     const FolderSnapshot& m_tree;

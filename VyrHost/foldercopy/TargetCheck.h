@@ -12,7 +12,7 @@ struct TargetCheck
 {
     /// Entries that would be overwritten, or would overwrite each other, and folders that the user may not add to; any
     /// of them refuses the whole tree.
-    TransferProblems clashes;
+    TransferProblems conflicts;
     /// The number of folders to be created, including the root.
     std::size_t newFolders = 0;
 };

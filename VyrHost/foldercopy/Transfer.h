@@ -94,7 +94,7 @@ using TransferProgress = std::function<void(std::size_t)>;
 
 /// Problems that the tree alone shows: folders that cannot be read, and, where files are copied, entries without
 /// content to copy.
-[[nodiscard]] TransferProblems ForeseeProblems(const FolderSnapshot& tree, const CString& target,
+[[nodiscard]] TransferProblems PredictProblems(const FolderSnapshot& tree, const CString& target,
                                                TransferAction action);
 
 /// Checks every entry of `tree` at the full path `target`: it must exist, with the same kind and size, a link with the

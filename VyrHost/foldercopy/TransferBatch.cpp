@@ -55,7 +55,7 @@ TransferBatch::TransferBatch(const std::vector<CString>& sources, const CString&
     if (IsRefused())
         StopAll();
     else
-        ForeseeLittleSpace();
+        PredictLittleSpace();
 }
 
 bool TransferBatch::IsRefused() const
@@ -70,15 +70,15 @@ void TransferBatch::Check(TransferTask task, Trial trial)
     TargetCheck check = CheckTarget(tree, task.target, trial);
     if (m_action == TransferAction::Move) {
         TransferProblems staying = CheckLeaving(tree);
-        std::move(staying.begin(), staying.end(), std::back_inserter(check.clashes));
+        std::move(staying.begin(), staying.end(), std::back_inserter(check.conflicts));
     }
     TransferReport report;
     report.size = SizeOf(tree);
-    if (!check.clashes.empty()) {
+    if (!check.conflicts.empty()) {
         report.status = Model::Status::Refused;
-        report.problems = std::move(check.clashes);
+        report.problems = std::move(check.conflicts);
     } else {
-        report.problems = ForeseeProblems(tree, task.target, m_action);
+        report.problems = PredictProblems(tree, task.target, m_action);
         report.status = report.problems.empty() ? Model::Status::Done : Model::Status::Incomplete;
     }
     report.task = std::move(task);
@@ -98,7 +98,7 @@ void TransferBatch::StopAll()
 }
 
 /// All trees go into one folder.
-void TransferBatch::ForeseeLittleSpace()
+void TransferBatch::PredictLittleSpace()
 {
     std::uint64_t needed = 0;
     for (std::size_t index = 0; index < m_reports.size(); ++index) {

@@ -109,7 +109,7 @@ public:
 private:
     void Check(TransferTask task, Trial trial);
     void StopAll();
-    void ForeseeLittleSpace();
+    void PredictLittleSpace();
     void Transfer(std::size_t index, TransferWatch& watch);
 
     const TransferAction m_action;

@@ -203,7 +203,7 @@ bool CopiesFiles(const FolderSnapshot& tree, const CString& target, TransferActi
     return action == TransferAction::Copy || IsElsewhere(tree.root, target);
 }
 
-TransferProblems ForeseeProblems(const FolderSnapshot& tree, const CString& target, TransferAction action)
+TransferProblems PredictProblems(const FolderSnapshot& tree, const CString& target, TransferAction action)
 {
     const bool copies = CopiesFiles(tree, target, action);
     TransferProblems problems;

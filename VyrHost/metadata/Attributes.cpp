@@ -119,7 +119,7 @@ bool AttributesChange::MayLiftProtection() const
 
 /// A file may have lost its protection only, or, of its permissions to write, all but the owner's. One that becomes
 /// read-only may have the attribute, and still be writable.
-void AttributesChange::Mend(const CString& path) const
+void AttributesChange::Repair(const CString& path) const
 {
     const std::uint32_t now = FileAttributes::Get(path);
     if ((m_bits.value & readOnly) && FileAttributes::IsReadOnly(path)) {

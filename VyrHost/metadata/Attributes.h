@@ -56,7 +56,7 @@ public:
     [[nodiscard]] CString ShownBefore() const override;
     [[nodiscard]] CString ShownAfter() const override;
     [[nodiscard]] bool MayLiftProtection() const override;
-    void Mend(const CString& path) const override;
+    void Repair(const CString& path) const override;
     /// An attribute has only two states, so a change by another program looks like a part of this change that is not
     /// done.
     [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;

@@ -154,7 +154,7 @@ CString MarkChange::ShownAfter() const
 }
 
 /// The work lifts the protection of a file against writing.
-void MarkChange::Mend(const CString& path) const
+void MarkChange::Repair(const CString& path) const
 {
     // Where it cannot be restored, the file stays as it is, and the work on it tells why.
     if (!m_protection.IsEmpty() && !VyrPlatform::FileAttributes::IsReadOnly(path))

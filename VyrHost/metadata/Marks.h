@@ -51,7 +51,7 @@ public:
     [[nodiscard]] CString ShownBefore() const override;
     [[nodiscard]] CString ShownAfter() const override;
     [[nodiscard]] bool MayLiftProtection() const override { return m_protection.IsEmpty(); }
-    void Mend(const CString& path) const override;
+    void Repair(const CString& path) const override;
     [[nodiscard]] Model::ChangeLook Look(const CString& path) const override;
     [[nodiscard]] std::uint32_t Apply(const CString& path) const override;
     [[nodiscard]] std::uint32_t Undo(const CString& path) const override;

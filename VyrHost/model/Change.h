@@ -73,7 +73,7 @@ public:
     [[nodiscard]] virtual bool MayLiftProtection() const { return false; }
     /// Where the work on the file was cut off: restores what was changed only while it lasted, such as the protection
     /// against writing. Called before Look.
-    virtual void Mend(const CString& /*path*/) const {}
+    virtual void Repair(const CString& /*path*/) const {}
     /// Whether the file at `path` is still as it was set.
     [[nodiscard]] virtual ChangeLook Look(const CString& path) const = 0;
     /// Sets what the change is to set. Asked for a file whose state is Before or Partly.

@@ -56,17 +56,17 @@ private:
 
     void Place(std::uint32_t group)
     {
-        Settle(group, false);
+        Decide(group, false);
         while (!m_pending.empty()) {
             const std::uint32_t next = m_pending.back();
             m_pending.pop_back();
-            Settle(next, true);
+            Decide(next, true);
         }
     }
 
     /// Gives the members of a group their names, or decides that they stay.
     /// @param isAgain  the members may hold names already.
-    void Settle(std::uint32_t group, bool isAgain)
+    void Decide(std::uint32_t group, bool isAgain)
     {
         m_members.clear();
         for (const std::uint32_t entry : m_groups.Members(group))
@@ -76,16 +76,17 @@ private:
         if (isAgain || m_members.size() > 1)
             for (const std::uint32_t entry : m_members)
                 Release(entry);
-        const std::optional<Clash> clash = GiveWanted(group);
-        if (!clash)
+        const std::optional<Conflict> conflict = GiveWanted(group);
+        if (!conflict)
             return;
-        if (m_settings.mode == OnConflict::Number && m_mayNumber && !clash->isWithin)
+        if (m_settings.mode == OnConflict::Number && m_mayNumber && !conflict->isWithin)
             Number();
         else
-            Stay(m_settings.mode == OnConflict::Skip ? Model::Status::Skipped : Model::Status::Refused, clash->reason);
+            Stay(m_settings.mode == OnConflict::Skip ? Model::Status::Skipped : Model::Status::Refused,
+                 conflict->reason);
     }
 
-    struct Clash
+    struct Conflict
     {
         Reason reason;
         /// The name is taken by another member of the group, which no number changes.
@@ -93,7 +94,7 @@ private:
     };
 
     /// Gives each member the name that it wants; where one of those or its stem is taken, none of them.
-    std::optional<Clash> GiveWanted(std::uint32_t group)
+    std::optional<Conflict> GiveWanted(std::uint32_t group)
     {
         for (std::size_t place = 0; place < m_members.size(); ++place) {
             const std::uint32_t entry = m_members[place];
@@ -104,10 +105,10 @@ private:
                 continue;
             }
             const bool isWithin = record.owner < newFolder && m_groups.Of(record.owner) == group;
-            const Clash clash{isStemFree ? ClashOf(record) : Reason::StemTaken, isWithin};
+            const Conflict conflict{isStemFree ? ConflictReason(record) : Reason::StemTaken, isWithin};
             for (std::size_t given = 0; given < place; ++given)
                 Release(m_members[given]);
-            return clash;
+            return conflict;
         }
         return std::nullopt;
     }
@@ -268,7 +269,7 @@ private:
         return held == m_stems.end() || held->second == m_groups.Of(entry);
     }
 
-    [[nodiscard]] Reason ClashOf(const Model::NameRecord& record) const
+    [[nodiscard]] Reason ConflictReason(const Model::NameRecord& record) const
     {
         const bool goesToOther = record.owner < newFolder && m_decisions[record.owner].IsRename();
         return goesToOther ? Reason::TwoToOne : Reason::TargetExists;

@@ -269,7 +269,7 @@ TokenReader MakeSize(const Making& making)
 }
 
 /// `count` characters of `signs`, by chance.
-CString ByChance(std::u16string_view signs, int count)
+CString RandomText(std::u16string_view signs, int count)
 {
     static std::random_device device;
     std::uniform_int_distribution<std::size_t> next(0, signs.size() - 1);
@@ -284,7 +284,7 @@ TokenReader MakeRandom(const Making& making)
     constexpr int usual = 8;
     constexpr int most = 64;
     return [count = making.Number(usual, most)](Subject&) {
-        return TokenAnswer{ByChance(u"0123456789abcdefghijklmnopqrstuvwxyz", count)};
+        return TokenAnswer{RandomText(u"0123456789abcdefghijklmnopqrstuvwxyz", count)};
     };
 }
 
@@ -295,8 +295,8 @@ TokenReader MakeUuid(const Making& making)
     return [](Subject&) {
         constexpr std::u16string_view digits = u"0123456789abcdef";
         return TokenAnswer{
-            CString::Join({ByChance(digits, 8), u"-", ByChance(digits, 4), u"-4", ByChance(digits, 3), u"-",
-                           ByChance(u"89ab", 1), ByChance(digits, 3), u"-", ByChance(digits, 12)})};
+            CString::Join({RandomText(digits, 8), u"-", RandomText(digits, 4), u"-4", RandomText(digits, 3), u"-",
+                           RandomText(u"89ab", 1), RandomText(digits, 3), u"-", RandomText(digits, 12)})};
     };
 }
 

@@ -88,7 +88,7 @@ TargetFolders::Target TargetFolders::Open(const CString& path, const CString& sh
         target = Find(number);
     }
     for (; !missing.empty(); missing.pop_back()) {
-        target = Claim(missing.back(), *target);
+        target = Reserve(missing.back(), *target);
         m_targets.emplace(missing.back(), *target);
     }
     return *target;
@@ -110,7 +110,7 @@ std::optional<TargetFolders::Target> TargetFolders::Find(std::uint32_t number) c
 }
 
 /// Claims a name in the folder `parent` for a folder that is not there yet.
-TargetFolders::Target TargetFolders::Claim(std::uint32_t number, const Target& parent)
+TargetFolders::Target TargetFolders::Reserve(std::uint32_t number, const Target& parent)
 {
     if (parent.reason != Reason::None)
         return {.folder = number, .reason = parent.reason};
@@ -125,7 +125,7 @@ TargetFolders::Target TargetFolders::Claim(std::uint32_t number, const Target& p
         .folder = number, .warning = warning == NameFault::None ? parent.warning : warning, .device = parent.device};
     Model::NameTable& after = m_after.In(parent.folder);
     Model::NameRecord& record = after.Add(folder.name);
-    const auto [claimed, isNew] = m_claimed.try_emplace({parent.folder, after.NumberOf(record)}, target);
+    const auto [claimed, isNew] = m_reserved.try_emplace({parent.folder, after.NumberOf(record)}, target);
     if (isNew) {
         record.owner = newFolder;
         folder.parent = parent.folder;

@@ -48,14 +48,14 @@ public:
 
 private:
     [[nodiscard]] std::optional<Target> Find(std::uint32_t number) const;
-    [[nodiscard]] Target Claim(std::uint32_t number, const Target& parent);
+    [[nodiscard]] Target Reserve(std::uint32_t number, const Target& parent);
 
     Model::FolderSet& m_folders;
     NamesAfter& m_after;
     /// What was found for each folder.
     std::unordered_map<std::uint32_t, Target> m_targets;
     /// The folders to be created, by the folder that they will be in and the number of their name's record there.
-    std::map<std::pair<std::uint32_t, std::size_t>, Target> m_claimed;
+    std::map<std::pair<std::uint32_t, std::size_t>, Target> m_reserved;
 };
 
 } // namespace VyrHost::Rename

@@ -167,11 +167,11 @@ private:
 };
 
 /// Turns what is decided into a draft for the planner.
-class Drafting
+class DraftBuilder
 {
 public:
     /// @param count  how many entries will be added.
-    Drafting(const Model::EntryList& list, std::size_t count) : m_list(list), m_folders(list.folders, m_draft.plan)
+    DraftBuilder(const Model::EntryList& list, std::size_t count) : m_list(list), m_folders(list.folders, m_draft.plan)
     {
         m_draft.plan.texts = list.folders.Texts();
         m_draft.plan.entries.reserve(count);
@@ -204,7 +204,7 @@ void Plan(const Model::EntryList& list, const Groups& groups, Preview& preview)
     const auto count =
         static_cast<std::size_t>(std::count_if(preview.decisions.begin(), preview.decisions.end(),
                                                [](const Decision& decision) { return decision.IsRename(); }));
-    Drafting drafting(list, count);
+    DraftBuilder drafting(list, count);
     std::vector<std::uint32_t> drafted;
     drafted.reserve(count);
     for (std::uint32_t entry = 0; entry < preview.decisions.size(); ++entry) {

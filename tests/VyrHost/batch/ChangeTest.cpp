@@ -1,7 +1,7 @@
 // Changes other than renames, tested with a small kind: the content of a file.
 #include <VyrHost/model/Change.h>
 
-#include <VyrHost/batch/DiskLooks.h>
+#include <VyrHost/batch/DiskChecks.h>
 #include <gmock/gmock.h>
 #include <tests/VyrHost/batch/BatchScene.h>
 #include <tests/VyrHost/batch/CutOffScene.h>

@@ -1,4 +1,4 @@
-// The change of properties: what the journal keeps of it, how much of old documents, and what is foreseen.
+// The change of properties: what the journal keeps of it, how much of old documents, and what is predicted.
 #include <VyrHost/documents/Document.h>
 #include <VyrHost/documents/Properties.h>
 
@@ -154,7 +154,7 @@ TEST_F(Properties, DocumentThatIsKeptWhileItStillStandsThereIsFreedByTheRecovery
     const auto change = Keeping(Propose(u"title=New").change, scratch.Path(u"kept"));
     const std::filesystem::path folder = ToStdPath(scratch.MakeFolder(u"kept"));
     std::filesystem::create_hard_link(ToStdPath(path), folder / "0.5 12345678");
-    change->Mend(path);
+    change->Repair(path);
     EXPECT_EQ(std::filesystem::hard_link_count(ToStdPath(path)), 1U);
     std::filesystem::create_hard_link(ToStdPath(path), folder / "0.5 12345678");
     EXPECT_EQ(change->Apply(path), 0U);

@@ -13,7 +13,7 @@ using namespace VyrHost::FolderCopy;
 
 namespace {
 
-class TargetClashes : public testing::Test
+class TargetConflicts : public testing::Test
 {
 protected:
     [[nodiscard]] TargetCheck Check() const
@@ -22,12 +22,12 @@ protected:
     }
 
     /// The paths in conflict, with slashes.
-    [[nodiscard]] std::set<CString> Clashes() const
+    [[nodiscard]] std::set<CString> Conflicts() const
     {
         std::set<CString> paths;
-        for (const TransferProblem& clash : Check().clashes) {
-            EXPECT_EQ(clash.fault, TransferFault::TargetExists);
-            CString path = clash.path;
+        for (const TransferProblem& conflict : Check().conflicts) {
+            EXPECT_EQ(conflict.fault, TransferFault::TargetExists);
+            CString path = conflict.path;
             path.Replace(u"\\", u"/");
             paths.insert(path);
         }
@@ -41,62 +41,62 @@ using Paths = std::set<CString>;
 
 } // namespace
 
-TEST_F(TargetClashes, AreNoneWhereNothingExists)
+TEST_F(TargetConflicts, AreNoneWhereNothingExists)
 {
     m_scratch.WriteFile(u"from/a/b/c");
     m_scratch.MakeFolder(u"from/d");
     const TargetCheck check = Check();
-    EXPECT_TRUE(check.clashes.empty());
+    EXPECT_TRUE(check.conflicts.empty());
     EXPECT_EQ(check.newFolders, 4u);
 }
 
-TEST_F(TargetClashes, AreNoneWhereFoldersHaveOtherEntries)
+TEST_F(TargetConflicts, AreNoneWhereFoldersHaveOtherEntries)
 {
     m_scratch.WriteFile(u"from/a/b/c");
     m_scratch.WriteFile(u"from/d/e");
     m_scratch.WriteFile(u"to/a/b/other");
     m_scratch.WriteFile(u"to/c");
     const TargetCheck check = Check();
-    EXPECT_TRUE(check.clashes.empty());
+    EXPECT_TRUE(check.conflicts.empty());
     EXPECT_EQ(check.newFolders, 1u);
 }
 
-TEST_F(TargetClashes, AreFilesOfTheSameName)
+TEST_F(TargetConflicts, AreFilesOfTheSameName)
 {
     m_scratch.WriteFile(u"from/a/b", "1");
     m_scratch.WriteFile(u"from/c", "1");
     m_scratch.WriteFile(u"from/d", "1");
     m_scratch.WriteFile(u"to/a/b", "1");
     m_scratch.WriteFile(u"to/c", "2");
-    EXPECT_EQ(Clashes(), (Paths{u"a/b", u"c"}));
+    EXPECT_EQ(Conflicts(), (Paths{u"a/b", u"c"}));
 }
 
-TEST_F(TargetClashes, AreAFileAndAFolderEitherWay)
+TEST_F(TargetConflicts, AreAFileAndAFolderEitherWay)
 {
     m_scratch.WriteFile(u"from/a/inner");
     m_scratch.WriteFile(u"from/b");
     m_scratch.WriteFile(u"to/a");
     m_scratch.WriteFile(u"to/b/inner");
-    EXPECT_EQ(Clashes(), (Paths{u"a", u"b"}));
+    EXPECT_EQ(Conflicts(), (Paths{u"a", u"b"}));
 }
 
-TEST_F(TargetClashes, IsAFileForTheRoot)
+TEST_F(TargetConflicts, IsAFileForTheRoot)
 {
     m_scratch.WriteFile(u"from/a");
     m_scratch.WriteFile(u"to");
-    EXPECT_EQ(Clashes(), Paths{u""});
+    EXPECT_EQ(Conflicts(), Paths{u""});
     EXPECT_EQ(Check().newFolders, 0u);
 }
 
-TEST_F(TargetClashes, AreNamesThatTheFolderTakesForTheSame)
+TEST_F(TargetConflicts, AreNamesThatTheFolderTakesForTheSame)
 {
     m_scratch.WriteFile(u"from/é.txt");
     m_scratch.WriteFile(u"to/É.TXT");
     const bool isOne = VyrHostPlatform::GetNameFolding(m_scratch.Path(u"to")) != VyrHostPlatform::NameFolding::None;
-    EXPECT_EQ(Clashes(), isOne ? Paths{u"é.txt"} : Paths{});
+    EXPECT_EQ(Conflicts(), isOne ? Paths{u"é.txt"} : Paths{});
 }
 
-TEST_F(TargetClashes, IsALinkEvenToAFolder)
+TEST_F(TargetConflicts, IsALinkEvenToAFolder)
 {
     m_scratch.WriteFile(u"from/a/inner");
     m_scratch.MakeFolder(u"to");
@@ -105,5 +105,5 @@ TEST_F(TargetClashes, IsALinkEvenToAFolder)
         GTEST_SKIP() << reason;
     ASSERT_EQ(VyrTests::MakeLink(m_scratch.Path(u"missing"), m_scratch.Path(u"to/b")), "");
     m_scratch.WriteFile(u"from/b");
-    EXPECT_EQ(Clashes(), (Paths{u"a", u"b"}));
+    EXPECT_EQ(Conflicts(), (Paths{u"a", u"b"}));
 }

@@ -88,7 +88,7 @@ TEST(Mark, OfAReadOnlyFileIsRemovedAndRestored)
     EXPECT_FALSE(VyrTests::IsMarkedAsDownloaded(path));
     EXPECT_TRUE(VyrPlatform::FileAttributes::IsReadOnly(path));
     VyrTests::SetReadOnly(path, false);
-    read->Mend(path);
+    read->Repair(path);
     EXPECT_TRUE(VyrPlatform::FileAttributes::IsReadOnly(path)) << "as where the work was cut off";
     EXPECT_EQ(proposal.change->Undo(path), 0U);
     EXPECT_TRUE(VyrTests::IsMarkedAsDownloaded(path));

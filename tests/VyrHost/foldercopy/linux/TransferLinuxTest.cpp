@@ -44,7 +44,7 @@ struct Went
 Went Carry(const CString& from, const CString& to, TransferAction action)
 {
     const FolderSnapshot tree = TakeSnapshot(from);
-    EXPECT_TRUE(CheckTarget(tree, to, Trial::Allowed).clashes.empty());
+    EXPECT_TRUE(CheckTarget(tree, to, Trial::Allowed).conflicts.empty());
     TransferRecords records;
     EXPECT_EQ(TransferFolder(tree, to, action, records, [](std::size_t) {}), 0u);
     Went went{FinishTransfer(tree, to, action, records)};
@@ -136,7 +136,7 @@ TEST(TransferLinux, PipesAreRefusedBeforehandAndFailAlone)
     ASSERT_EQ(mkfifo(ToStdPath(scratch.Path(u"from/sub/pipe")).c_str(), 0600), 0);
     const std::vector<std::string> expected = {Text("sub/pipe", TransferFault::NoContent, 0)};
     const auto foresee = [&scratch](const CString& target, TransferAction action) {
-        return TextsOf(ForeseeProblems(TakeSnapshot(scratch.Path(u"from")), target, action));
+        return TextsOf(PredictProblems(TakeSnapshot(scratch.Path(u"from")), target, action));
     };
     EXPECT_EQ(foresee(scratch.Path(u"to"), TransferAction::Copy), expected);
     EXPECT_TRUE(foresee(scratch.Path(u"to"), TransferAction::Move).empty());
@@ -150,7 +150,7 @@ TEST(TransferLinux, PipesAreRefusedBeforehandAndFailAlone)
     EXPECT_EQ(SnapshotOf(scratch.Path(u"moved")).at("sub/pipe"), "<other>");
 }
 
-TEST(TransferLinux, LittleSpaceIsForeseenForTheTreesThatItDoesNotHold)
+TEST(TransferLinux, LittleSpaceIsPredictedForTheTreesThatItDoesNotHold)
 {
     const MountedFolder disk(MountedFolder::Kind::Memory, "size=1m");
     if (!disk.WhyNot().empty())
@@ -200,7 +200,7 @@ TEST(TransferLinux, UnreadableEntriesFailAlone)
     {
         const VyrTests::Unprivileged user;
         ASSERT_TRUE(user.IsDone());
-        EXPECT_EQ(TextsOf(ForeseeProblems(TakeSnapshot(scratch.Path(u"from")), scratch.Path(u"parent/to"),
+        EXPECT_EQ(TextsOf(PredictProblems(TakeSnapshot(scratch.Path(u"from")), scratch.Path(u"parent/to"),
                                           TransferAction::Copy)),
                   std::vector<std::string>{Text("closed", TransferFault::NotRead, EACCES)});
         EXPECT_EQ(TextsOf(Carry(scratch.Path(u"from"), scratch.Path(u"parent/to"), TransferAction::Copy).problems),
@@ -323,14 +323,14 @@ TEST(TransferLinux, NamesThatTheTargetTakesForTheSameAreRefused)
     const FolderSnapshot tree = TakeSnapshot(scratch.Path(u"from"));
     // The disk is empty, so only a trial shows how it compares names.
     TargetCheck check = CheckTarget(tree, disk.Path(u"to"), Trial::Allowed);
-    EXPECT_EQ(check.clashes.size(), 2u);
-    for (const TransferProblem& clash : check.clashes)
-        EXPECT_EQ(clash.fault, TransferFault::TwoNamesInOne);
+    EXPECT_EQ(check.conflicts.size(), 2u);
+    for (const TransferProblem& conflict : check.conflicts)
+        EXPECT_EQ(conflict.fault, TransferFault::TwoNamesInOne);
     EXPECT_EQ(SnapshotOf(disk.Path()), TreeSnapshot());
     std::ofstream(ToStdPath(disk.Path(u"name"))) << "1";
     check = CheckTarget(tree, disk.Path(u"to"), Trial::No);
-    EXPECT_EQ(check.clashes.size(), 2u);
-    EXPECT_TRUE(CheckTarget(tree, scratch.Path(u"to"), Trial::Allowed).clashes.empty());
+    EXPECT_EQ(check.conflicts.size(), 2u);
+    EXPECT_TRUE(CheckTarget(tree, scratch.Path(u"to"), Trial::Allowed).conflicts.empty());
     EXPECT_TRUE(Carry(scratch.Path(u"from"), scratch.Path(u"to"), TransferAction::Move).problems.empty());
 }
 

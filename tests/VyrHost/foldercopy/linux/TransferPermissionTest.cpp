@@ -49,11 +49,11 @@ protected:
         ASSERT_EQ(chmod(ToStdPath(m_scratch.Path(name)).c_str(), mode), 0);
     }
 
-    [[nodiscard]] std::vector<Problem> ClashesAt(const CString& target) const
+    [[nodiscard]] std::vector<Problem> ConflictsAt(const CString& target) const
     {
         const Unprivileged user;
         const FolderSnapshot tree = TakeSnapshot(m_scratch.Path(u"from"));
-        return ProblemsOf(CheckTarget(tree, m_scratch.Path(target), Trial::No).clashes);
+        return ProblemsOf(CheckTarget(tree, m_scratch.Path(target), Trial::No).conflicts);
     }
 
     [[nodiscard]] std::vector<Problem> Staying() const
@@ -70,7 +70,7 @@ protected:
 TEST_F(TransferPermission, FolderThatTakesNoNewTreeIsNamed)
 {
     SetMode(u"to", 0555);
-    EXPECT_EQ(ClashesAt(u"to/new"), (std::vector<Problem>{{u"", TransferFault::TargetLocked, EACCES}}));
+    EXPECT_EQ(ConflictsAt(u"to/new"), (std::vector<Problem>{{u"", TransferFault::TargetLocked, EACCES}}));
 }
 
 TEST_F(TransferPermission, MergedFolderIsAskedOnlyWhereItGetsSomethingNew)
@@ -80,7 +80,7 @@ TEST_F(TransferPermission, MergedFolderIsAskedOnlyWhereItGetsSomethingNew)
     m_scratch.MakeFolder(u"to/a");
     SetMode(u"to/a", 0555);
     SetMode(u"to", 0555);
-    EXPECT_EQ(ClashesAt(u"to"), (std::vector<Problem>{{u"a", TransferFault::TargetLocked, EACCES}}));
+    EXPECT_EQ(ConflictsAt(u"to"), (std::vector<Problem>{{u"a", TransferFault::TargetLocked, EACCES}}));
 }
 
 TEST_F(TransferPermission, NothingLeavesAFolderThatMayNotBeChanged)

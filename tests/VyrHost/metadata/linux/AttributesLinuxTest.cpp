@@ -29,7 +29,7 @@ TEST(AttributesChangeLinux, FileThatIsMarkedReadOnlyAloneIsFinished)
     ASSERT_EQ(change.Apply(path), 0U);
     // As if the program had ended before it came to the mode.
     std::filesystem::permissions(VyrTests::ToStdPath(path), writable);
-    change.Mend(path);
+    change.Repair(path);
     EXPECT_EQ(std::filesystem::status(VyrTests::ToStdPath(path)).permissions(), std::filesystem::perms(0444));
     EXPECT_EQ(FileAttributes::Get(path), 0x5U);
     EXPECT_EQ(change.Look(path).state, ChangeState::After);

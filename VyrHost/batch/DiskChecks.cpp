@@ -1,5 +1,5 @@
 // Looks at the sources of a batch on two threads.
-#include <VyrHost/batch/DiskLooks.h>
+#include <VyrHost/batch/DiskChecks.h>
 
 #include <VyrHost/batch/FileOperations.h>
 #include <VyrHost/model/SlotTable.h>

@@ -1,5 +1,5 @@
 // The states of the sources of a batch, which two threads read.
-#include <VyrHost/batch/DiskLooks.h>
+#include <VyrHost/batch/DiskChecks.h>
 
 #include <gtest/gtest.h>
 #include <tests/VyrHost/rename/PathRenames.h>
