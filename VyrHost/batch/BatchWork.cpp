@@ -285,7 +285,7 @@ void BatchWork::Close(Direction direction)
         NameKeptFolders(checkpoint);
     m_summary.number = m_file.number;
     if (!checkpoint.entriesTemporary.empty())
-        m_summary.error = u"some entries stand under temporary names: \"vyr recover\" tries again";
+        m_summary.error = u"some entries have temporary names: \"vyr recover\" tries again";
     else if (IsAnyDone())
         End(checkpoint, BatchPhase::Applied);
     else if (direction == Direction::Forward && checkpoint.foldersMade.empty() && !m_journal.applied)

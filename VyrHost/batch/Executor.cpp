@@ -23,7 +23,7 @@ Direction Opposite(Direction direction)
 
 const char16_t* ReasonWhereTaken(Location target)
 {
-    return target == Location::Before ? u"something stands at the old path" : u"something stands at the new path";
+    return target == Location::Before ? u"something else is at the old path" : u"something else is at the new path";
 }
 
 Executor::Executor(const Model::RenamePlan& plan, PlanProgress& progress, FileOperations& files)
@@ -289,8 +289,7 @@ Model::Outcome Executor::ResultOf(Model::PlanIndex entry, Direction direction) c
     if (location == Location::Temporary) {
         result.status = Model::Status::Failed;
         const CString path = m_progress.PathOf(m_progress.PlaceOf(entry, Location::Temporary));
-        result.reason =
-            Model::ReasonAndCause(CString::Join({u"it stands under a temporary name now, ", path}), result.reason);
+        result.reason = Model::ReasonAndCause(CString::Join({u"it has a temporary name now, ", path}), result.reason);
     }
     return result;
 }

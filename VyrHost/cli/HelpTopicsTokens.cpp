@@ -20,7 +20,7 @@ pad N and replace A B. The extension stays, unless the template ends in
 .<Extension>.
 
 Counters: <###> begins with 001. Behind a colon stand start N, step N,
-per folder, per day, per name (where it starts anew), and roman, letters, hex.
+per folder, per day, per name (where it restarts), and roman, letters, hex.
 
 )~";
 

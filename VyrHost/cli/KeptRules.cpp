@@ -113,7 +113,7 @@ void SaveRules(const CString& name, const std::string& text)
     if (IsThere(path)) {
         if (LoadRules(name) == text)
             return;
-        throw Text::UsageError("other rules are kept there already; take another name, or remove '" +
+        throw Text::UsageError("other rules are kept there already; choose another name, or remove '" +
                                Text::SafeText(path) + "' first");
     }
     const CString folder = VyrLibraryUtils::FileUtils::GetSplitDirPath(path);

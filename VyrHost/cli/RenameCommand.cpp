@@ -178,7 +178,7 @@ RenameCommand::RenameCommand(CLI::App& program)
             "Move the entries into FOLDER, which is made where it is missing, under their new names",
             OptionGroup::where);
     AddFlag(m_command, "--remove-empty", m_removesEmpty, "Remove the folders that this empties", OptionGroup::where);
-    AddFlag(m_command, "--number-per-folder", m_countsPerFolder, "Start the numbers anew in each folder",
+    AddFlag(m_command, "--number-per-folder", m_countsPerFolder, "Restart the numbers in each folder",
             OptionGroup::order);
     AddFlag(m_command, "--together", m_together,
             "Give files that differ in their extensions alone (raw, JPEG, sidecar) one new name, by the first date of "

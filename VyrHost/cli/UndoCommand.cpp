@@ -93,7 +93,8 @@ int NameBatchesElsewhere(const std::vector<Batch::BatchInformation>& batches)
         Complain("there is no batch to undo");
         return ExitCode::blocked;
     }
-    Complain("no batch to undo lies in this folder or below; \"vyr undo NUMBER\" undoes one of the latest elsewhere:");
+    Complain(
+        "there is no batch to undo in this folder or below; \"vyr undo NUMBER\" undoes one of the latest elsewhere:");
     for (std::size_t index = 0; index < std::min(mostNamed, batches.size()); ++index)
         Complain(Text::SafeText(Ui::NameOf(batches[index])));
     return ExitCode::blocked;

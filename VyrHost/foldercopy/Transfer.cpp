@@ -41,7 +41,7 @@ std::u16string_view WordsFor(TransferFault fault)
     case TransferFault::Differs:
         return u"what is there now is something else";
     case TransferFault::StillAtSource:
-        return u"it has come there, but could not be removed here";
+        return u"it is at the target, but could not be removed here";
     case TransferFault::NotEmpty:
         return u"something new is in it";
     case TransferFault::FolderNotSet:

@@ -107,7 +107,7 @@ private:
         for (const TransferTask& task : m_tasks)
             for (const Identity& identity : UpFrom(FolderOf(task.source)))
                 if (const TransferTask* const outer = SourceAt(identity); outer && outer != &task)
-                    throw Text::UsageError(Quoted(task.shownSource) + " stands inside " + Quoted(outer->shownSource) +
+                    throw Text::UsageError(Quoted(task.shownSource) + " is inside " + Quoted(outer->shownSource) +
                                            ", which is named, too");
     }
 
@@ -134,7 +134,7 @@ private:
     {
         for (const Identity& identity : UpFrom(m_folder))
             if (const TransferTask* const source = SourceAt(identity))
-                throw Text::UsageError(Quoted(m_destination) + " stands inside " + Quoted(source->shownSource));
+                throw Text::UsageError(Quoted(m_destination) + " is inside " + Quoted(source->shownSource));
     }
 
     void SetTarget(TransferTask& task)
@@ -160,7 +160,7 @@ private:
                                    " itself");
         for (const Identity& identity : UpFrom(task.source))
             if (identity == IdentityOf(there))
-                throw Text::UsageError(Quoted(task.shownSource) + " stands inside " + Quoted(task.shownTarget) +
+                throw Text::UsageError(Quoted(task.shownSource) + " is inside " + Quoted(task.shownTarget) +
                                        ", with which it would become one");
     }
 

@@ -27,7 +27,7 @@ using VyrLibraryUtils::DateTimeUtils;
 using VyrPlatform::FileTicks;
 using VyrPlatform::ticksPerSecond;
 
-constexpr const char16_t* outOfCalendar = u"the new time lies out of the calendar's range";
+constexpr const char16_t* outOfCalendar = u"the new time is outside the calendar's range";
 
 /// The reason why a file gets no new time.
 struct Refusal
@@ -71,7 +71,7 @@ LocalTime FromTicks(FileTicks ticks)
 {
     const COleDateTime value = FileTimes::ToLocal(ticks);
     if (!IsValid(value))
-        throw Refusal{u"its time lies out of the calendar's range"};
+        throw Refusal{u"its time is outside the calendar's range"};
     const FileTicks fraction = ((ticks % ticksPerSecond) + ticksPerSecond) % ticksPerSecond;
     return {value, fraction, ticks, SecondsOnClock(value) - (ticks - fraction) / ticksPerSecond};
 }
@@ -92,7 +92,7 @@ Text::TypedDateTime DateOfPicture(const CString& path)
     if (!IsValid(taken)) {
         const VyrPlatform::FileReader reader(path);
         throw Refusal{reader.IsOpen() || reader.Error() == 0
-                          ? CString(u"it tells no date at which a picture was taken")
+                          ? CString(u"it does not say when a picture was taken")
                           : CString::Join({u"the picture cannot be read: ", Text::ErrorText(reader.Error())})};
     }
     return {taken, true, true};

@@ -30,7 +30,7 @@ std::u16string_view WordsFor(Reason reason)
     case Reason::None:
         break;
     case Reason::NoSuchEntry:
-        return u"nothing of that name is there";
+        return u"there is nothing of that name";
     case Reason::FolderNotRead:
         return u"its folder cannot be read";
     case Reason::NoDate:
@@ -56,7 +56,7 @@ std::u16string_view WordsFor(Reason reason)
     case Reason::BeyondName:
         return u"the place or count is beyond the name";
     case Reason::PatternGaveUp:
-        return u"the pattern runs away on this name";
+        return u"the pattern is too complex for this name";
     case Reason::ContentNotRead:
         return u"it cannot be read";
     case Reason::UnknownContent:

@@ -43,7 +43,7 @@ std::vector<NamePair> ParsePairs(std::string_view bytes)
 namespace {
 
 constexpr std::string_view explanation =
-    "# Change the names behind the tabs and save; leave the numbers as they are.\n"
+    "# Change the names after the tabs and save; leave the numbers as they are.\n"
     "# An entry whose line you remove keeps its name. Save an empty text to change nothing.\n"
     "# In a name \\\\ is a backslash, \\n a line end, \\t a tab.\n";
 
@@ -137,14 +137,14 @@ std::unordered_map<std::uint32_t, CString> ParseEdited(std::string_view text, st
         const char* const end = line.data() + line.size();
         const auto [stop, error] = std::from_chars(line.data(), end, place);
         if (error != std::errc() || stop == end || *stop != '\t')
-            Refuse(number, "a number and a tab are expected in front of the name");
+            Refuse(number, "a number and a tab are expected before the name");
         if (place == 0 || place > count)
             Refuse(number, "there is no entry of the number " + std::to_string(place));
         const CString name = UnescapeName(line.substr(static_cast<std::size_t>(stop - line.data()) + 1));
         if (name.IsEmpty())
-            Refuse(number, "the name is empty; take the line out to keep the old one");
+            Refuse(number, "the name is empty; remove the line to keep the old one");
         if (!names.emplace(place - 1, name).second)
-            Refuse(number, "the number " + std::to_string(place) + " stands there twice");
+            Refuse(number, "the number " + std::to_string(place) + " is there twice");
     }
     return names;
 }

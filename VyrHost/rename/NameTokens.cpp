@@ -45,7 +45,7 @@ struct Making
     void RequireNoOption() const
     {
         if (token.option)
-            Refuse("it takes nothing behind a colon");
+            Refuse("it takes nothing after a colon");
     }
     /// A whole number from 1 to `most` behind the colon; `usual` without one.
     [[nodiscard]] int Number(int usual, int most) const
@@ -54,7 +54,7 @@ struct Making
             return usual;
         const auto number = Text::ReadWhole(*token.option);
         if (!number || *number < 1 || *number > most)
-            Refuse("a whole number from 1 to " + std::to_string(most) + " is expected behind the colon");
+            Refuse("a whole number from 1 to " + std::to_string(most) + " is expected after the colon");
         return static_cast<int>(*number);
     }
 };
@@ -117,7 +117,7 @@ TokenReader MakeLength(const Making& making)
 TokenReader MakeDuration(const Making& making)
 {
     if (making.token.option && *making.token.option != u"s")
-        making.Refuse("s, for seconds, is all that it takes behind a colon");
+        making.Refuse("only s, for seconds, may follow a colon");
     Media::MediaQuestion question;
     question.duration = true;
     return ContentReader(
@@ -148,7 +148,7 @@ TokenReader MakeExif(const Making& making)
         std::vector<std::string> known;
         for (const std::u16string_view one : Media::ExifTagNames())
             known.push_back(ToUtf8(one));
-        making.Refuse("the name of a tag is expected behind a colon, such as LensModel" +
+        making.Refuse("the name of a tag is expected after a colon, such as LensModel" +
                       Text::Hint(ToUtf8(name), known, "<Exif:", ">"));
     }
     Media::MediaQuestion question;
@@ -181,7 +181,7 @@ TokenReader MakeWorkNumber(const Making& making)
     constexpr std::size_t mostDigits = 9;
     const std::u16string_view width = making.token.option ? making.token.option->View() : u"#";
     if (width.empty() || width.size() > mostDigits || width.find_first_not_of(u'#') != width.npos)
-        making.Refuse("as many # as it has digits are expected behind a colon, such as ##");
+        making.Refuse("as many # as it has digits are expected after a colon, such as ##");
     return ContentReader(
         making, QuestionForWork(),
         [digits = static_cast<int>(width.size())](FileValues& values, const Media::MediaQuestion& question) {
@@ -305,7 +305,7 @@ TokenReader MakeCsv(const Making& making)
     if (!making.settings.csv)
         making.Refuse("--csv-data FILE is needed for it");
     if (!making.token.option)
-        making.Refuse("the name of a column is expected behind a colon");
+        making.Refuse("the name of a column is expected after a colon");
     const CsvData& csv = *making.settings.csv;
     const auto column = csv.FindColumn(*making.token.option);
     if (!column)

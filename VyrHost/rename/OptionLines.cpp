@@ -35,7 +35,7 @@ std::string TakeQuoted(std::string_view& line, std::size_t number)
     if (!word)
         RefuseLine(number, "a double quote is not closed");
     if (!line.empty() && blanks.find(line.front()) == std::string_view::npos)
-        RefuseLine(number, "a blank is missing behind a double quote; two of them within quotes are one");
+        RefuseLine(number, "a blank is missing after a double quote; two of them within quotes are one");
     return *std::move(word);
 }
 

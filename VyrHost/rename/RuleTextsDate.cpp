@@ -59,7 +59,7 @@ Rules DateRules(const CString& text, const DateSettings& settings)
     const std::u16string_view before = all.substr(0, name);
     const std::u16string_view after = all.substr(name + Token::name.size());
     if (after.find(Token::name) != none)
-        Refuse(all, "<Name> stands in it twice");
+        Refuse(all, "it contains <Name> twice");
     if (after.find(Token::folder) != none)
         Refuse(all, "<Name> must come after the last <Folder>");
     if (before.empty() && after.empty())

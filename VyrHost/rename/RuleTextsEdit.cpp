@@ -86,7 +86,7 @@ PlacedText CutPlace(const CString& text, const char* option)
 {
     const int colon = text.Find(u":");
     if (colon < 0)
-        Text::RefuseValue(option, text, "a place and a colon are expected in front");
+        Text::RefuseValue(option, text, "a place and a colon are expected at the start");
     const bool fromEnd = text[0] == u'-';
     const CString place = fromEnd ? text.Mid(1, colon - 1) : text.Left(colon);
     return {fromEnd, ParseNumber(place, 0, option), text.Mid(colon + 1)};

@@ -54,7 +54,7 @@ NumberSpot FindNumber(std::u16string_view text)
 {
     if (const std::size_t token = text.find(Token::number); token != std::u16string_view::npos) {
         if (text.find(Token::number, token + 1) != std::u16string_view::npos)
-            Refuse(text, "<Number> stands in it twice");
+            Refuse(text, "it contains <Number> twice");
         return {token, Token::number.size(), std::nullopt};
     }
     const std::size_t begin = text.find(u'#');
@@ -117,7 +117,7 @@ void AppendAfterName(Rules& rules, NameFuncs::ITEM number, std::u16string_view s
 int Digits(std::u16string_view text, const NumberSpot& spot, const NumberSettings& settings)
 {
     if (settings.digits && spot.digits)
-        Refuse(text, "its # tell the width already; write a single # with --digits");
+        Refuse(text, "its # give the width already; write a single # with --digits");
     const int digits = settings.digits.value_or(spot.digits.value_or(1));
     if (digits > widestNumber)
         Refuse(text, "more than 255 digits");
@@ -144,7 +144,7 @@ Rules NumberRules(const CString& text, const NumberSettings& settings)
     if (name == std::u16string_view::npos)
         AppendWithoutName(rules, std::move(number), before, after);
     else if (all.find(Token::name, name + 1) != std::u16string_view::npos)
-        Refuse(all, "<Name> stands in it twice");
+        Refuse(all, "it contains <Name> twice");
     else if (name < spot.begin)
         AppendAfterName(rules, std::move(number), before, after);
     else

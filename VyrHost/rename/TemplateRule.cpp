@@ -112,7 +112,7 @@ void TemplateRule::RequireSense(std::u16string_view text) const
         const auto* const counter = std::get_if<Counter>(&part);
         countsFolder = countsFolder || (counter && counter->form.scope == CounterScope::Folder);
         if (countsFolder && std::holds_alternative<FolderEnd>(part))
-            Refuse(text, "a counter per folder stands behind the last <Folder>");
+            Refuse(text, "a counter per folder must come after the last <Folder>");
     }
 }
 

@@ -125,11 +125,11 @@ TextChange ParseChange(std::u16string_view text, std::string& fault)
 {
     const auto cut = CutArguments(text);
     if (!cut) {
-        fault = "apostrophes stand around an argument, such as ' '";
+        fault = "apostrophes enclose a whole argument, such as ' '";
         return nullptr;
     }
     if (cut->empty()) {
-        fault.assign("there is no change behind a |, such as ").append(knownWords);
+        fault.assign("there is no change after a |, such as ").append(knownWords);
         return nullptr;
     }
     const CString& word = cut->front();

@@ -26,7 +26,7 @@ CString DocumentText(std::uint32_t result)
     case Result::mediumFull:
         return u"there is no space left on the disk";
     case Result::damaged:
-        return u"it is damaged, or no document of its kind";
+        return u"it is damaged, or not a document of its kind";
     case Result::classNotRegistered:
         return u"no handler is registered for documents of its kind";
     case Result::notSupported:

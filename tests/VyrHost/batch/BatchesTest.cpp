@@ -223,7 +223,7 @@ TEST(Batches, NeverReplaceWhatAppearedSinceThePreview)
     EXPECT_EQ(summary.failed, 2u);
     EXPECT_EQ(scene.results[0].status, Status::Failed);
     EXPECT_TRUE(VyrHostPlatform::IsTargetTaken(scene.results[0].error));
-    EXPECT_EQ(scene.results[0].reason, u"something stands at the new path");
+    EXPECT_EQ(scene.results[0].reason, u"something else is at the new path");
     EXPECT_EQ(scene.results[1].status, Status::Done);
     EXPECT_EQ(scene.results[2].status, Status::Failed);
     EXPECT_EQ(scene.Now(),

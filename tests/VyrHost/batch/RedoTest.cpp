@@ -140,7 +140,7 @@ TEST(UndoPreview, TellsWhatWouldBeDoneAndChangesNothing)
     EXPECT_EQ(summary.done, 1u);
     EXPECT_EQ(summary.failed, 2u);
     ASSERT_EQ(entries.size(), 3u);
-    EXPECT_EQ(entries[0].result.reason, u"something stands at the old path");
+    EXPECT_EQ(entries[0].result.reason, u"something else is at the old path");
     EXPECT_EQ(entries[1].result.status, Status::Done);
     EXPECT_EQ(files.Changes(), changes);
     EXPECT_EQ(scene.Now(), now);

@@ -53,7 +53,7 @@ TEST_F(NameInput, FromTheStandardInputHaveNoWildcards)
     WriteNamed({u"a", u"b"});
     const ProgramResult result = Rename({u"--suffix", u"!", u"--stdin"}, "*\na\n");
     EXPECT_EQ(result.exitCode, 1);
-    EXPECT_THAT(result.output, StartsWith("*          refused: nothing of that name is there\na  ->  a!\n2 entries: "));
+    EXPECT_THAT(result.output, StartsWith("*          refused: there is nothing of that name\na  ->  a!\n2 entries: "));
 }
 
 TEST_F(NameInput, FromTheStandardInputMayHaveAByteOrderMarkAndNoLastLineEnd)

@@ -128,7 +128,7 @@ TEST_F(RenameApply, QuietShowsOnlyEntriesThatAreNotRenamed)
     const ProgramResult result = Rename({u"--suffix", u"!", u"--quiet", u"--apply", u"a", u"missing", u"b"});
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_THAT(result.output, IsEmpty());
-    EXPECT_EQ(result.errors, "vyr: 'missing' refused: nothing of that name is there\n");
+    EXPECT_EQ(result.errors, "vyr: 'missing' refused: there is nothing of that name\n");
     EXPECT_TRUE(m_folder.Has(u"b!"));
 }
 
@@ -167,7 +167,7 @@ TEST_F(RenameApply, TakesPairsOfNames)
     m_folder.WriteFile(u"b", "b");
     const ProgramResult result = Rename({u"--pairs", u"-", u"--apply"}, "a,b\nb,a\n*,x\n");
     EXPECT_EQ(result.exitCode, 1);
-    EXPECT_THAT(result.output, StartsWith("a  ->  b\nb  ->  a\n*         refused: nothing of that name is there\n"));
+    EXPECT_THAT(result.output, StartsWith("a  ->  b\nb  ->  a\n*         refused: there is nothing of that name\n"));
     EXPECT_EQ(m_folder.ReadFile(u"a"), "b");
     EXPECT_EQ(m_folder.ReadFile(u"b"), "a");
 

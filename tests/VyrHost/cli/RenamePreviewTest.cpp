@@ -55,7 +55,7 @@ TEST_F(RenamePreview, WritesAJsonObjectALine)
         result.output,
         "{\"from\":" + path(u"b.txt") + ",\"to\":" + path(u"b.txt") + ",\"status\":\"unchanged\",\"preview\":true}\n" +
             "{\"from\":" + path(u"none") +
-            ",\"to\":null,\"status\":\"refused\",\"reason\":\"nothing of that name is there\",\"preview\":true}\n" +
+            ",\"to\":null,\"status\":\"refused\",\"reason\":\"there is nothing of that name\",\"preview\":true}\n" +
             "{\"from\":" + path(u"a é.txt") + ",\"to\":" + path(u"b é.txt") +
             ",\"status\":\"renamed\",\"preview\":true}\n");
     EXPECT_EQ(result.errors, "3 entries: 1 renamed, 1 unchanged, 1 refused.\n");

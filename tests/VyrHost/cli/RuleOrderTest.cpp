@@ -116,7 +116,7 @@ TEST_F(RuleOrder, APatternThatRunsAwayIsRefusedInItsRow)
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_THAT(result.output, HasSubstr("aaa "));
     EXPECT_THAT(result.output, HasSubstr("->  b\n"));
-    EXPECT_THAT(result.output, HasSubstr("refused: the pattern runs away on this name: match limit exceeded\n"));
+    EXPECT_THAT(result.output, HasSubstr("refused: the pattern is too complex for this name: match limit exceeded\n"));
 }
 
 TEST_F(RuleOrder, IgnoringCaseBelongsToTheReplacementOrPatternBeforeIt)

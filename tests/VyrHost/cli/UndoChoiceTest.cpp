@@ -59,7 +59,7 @@ TEST_F(UndoChoice, ListsTheLatestElsewhereWhereThereIsNoneHere)
     RenameIn(m_elsewhere);
     const ProgramResult none = Run({u"undo"});
     EXPECT_EQ(none.exitCode, 4);
-    EXPECT_THAT(none.errors, AllOf(HasSubstr("no batch to undo lies in this folder"), HasSubstr("batch 1 of ")));
+    EXPECT_THAT(none.errors, AllOf(HasSubstr("no batch to undo in this folder"), HasSubstr("batch 1 of ")));
     EXPECT_TRUE(m_elsewhere.Has(u"ax"));
     EXPECT_EQ(Run({u"undo", u"1"}).exitCode, 0);
     EXPECT_TRUE(m_elsewhere.Has(u"a"));

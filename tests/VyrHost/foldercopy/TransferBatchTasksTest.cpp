@@ -95,8 +95,8 @@ TEST_F(TransferTasks, NoFolderIsInsideAnother)
 {
     m_scratch.MakeFolder(u"a/b/c");
     m_scratch.MakeFolder(u"to");
-    EXPECT_THAT(Refusal({u"a", u"a/b/c"}, u"to"), HasSubstr("stands inside"));
-    EXPECT_THAT(Refusal({u"a/b", u"a"}, u"to"), HasSubstr("stands inside"));
+    EXPECT_THAT(Refusal({u"a", u"a/b/c"}, u"to"), HasSubstr("is inside"));
+    EXPECT_THAT(Refusal({u"a/b", u"a"}, u"to"), HasSubstr("is inside"));
     m_scratch.MakeFolder(u"ab");
     EXPECT_EQ(Refusal({u"a", u"ab"}, u"to"), "");
 }
@@ -104,10 +104,10 @@ TEST_F(TransferTasks, NoFolderIsInsideAnother)
 TEST_F(TransferTasks, TheDestinationIsInNoSource)
 {
     m_scratch.MakeFolder(u"a/b/c");
-    EXPECT_THAT(Refusal({u"a"}, u"a"), HasSubstr("stands inside"));
-    EXPECT_THAT(Refusal({u"a"}, u"a/b/c"), HasSubstr("stands inside"));
-    EXPECT_THAT(Refusal({u"a"}, u"a/new"), HasSubstr("stands inside"));
-    EXPECT_THAT(Refusal({u"a"}, u"a/b/../b/new"), HasSubstr("stands inside"));
+    EXPECT_THAT(Refusal({u"a"}, u"a"), HasSubstr("is inside"));
+    EXPECT_THAT(Refusal({u"a"}, u"a/b/c"), HasSubstr("is inside"));
+    EXPECT_THAT(Refusal({u"a"}, u"a/new"), HasSubstr("is inside"));
+    EXPECT_THAT(Refusal({u"a"}, u"a/b/../b/new"), HasSubstr("is inside"));
     EXPECT_EQ(Refusal({u"a"}, u"a new"), "");
 }
 
@@ -117,8 +117,8 @@ TEST_F(TransferTasks, TheDestinationIsInNoSourceThroughALink)
     if (const auto reason = VyrTests::MakeLink(m_scratch.MakeFolder(u"a/b"), m_scratch.Path(u"elsewhere/link"));
         !reason.empty())
         GTEST_SKIP() << reason;
-    EXPECT_THAT(Refusal({u"a"}, u"elsewhere/link"), HasSubstr("stands inside"));
-    EXPECT_THAT(Refusal({u"a"}, u"elsewhere/link/new"), HasSubstr("stands inside"));
+    EXPECT_THAT(Refusal({u"a"}, u"elsewhere/link"), HasSubstr("is inside"));
+    EXPECT_THAT(Refusal({u"a"}, u"elsewhere/link/new"), HasSubstr("is inside"));
 }
 
 TEST_F(TransferTasks, TheDestinationIsNeitherTheSourceNorAFolderThatContainsIt)

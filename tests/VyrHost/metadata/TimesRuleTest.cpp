@@ -164,7 +164,7 @@ TEST_F(Times, DateInTheNameIsTaken)
 TEST_F(Times, MomentOfThePictureIsTaken)
 {
     Set(FileDate::Modified, u"from:picture");
-    EXPECT_EQ(Propose(), "it tells no date at which a picture was taken");
+    EXPECT_EQ(Propose(), "it does not say when a picture was taken");
     PictureFacts facts;
     facts.dateTimeOriginal = "2019:03:04 05:06:07";
     m_path = m_folder.WriteFile(u"b.jpg", BuildJpeg(facts));
@@ -196,7 +196,7 @@ TEST_F(Times, StepsCountByTheIndexInTheList)
 
 TEST_F(Times, TimesOutOfTheCalendarAreRefused)
 {
-    const std::string refusal = "the new time lies out of the calendar's range";
+    const std::string refusal = "the new time is outside the calendar's range";
     for (const char16_t* const shift : {u"9000y", u"9000y1h", u"-700y", u"-700y1s"}) {
         m_settings.shift = Step(shift);
         EXPECT_EQ(Propose(), refusal) << VyrPlatform::Encoding::ToUtf8(shift);

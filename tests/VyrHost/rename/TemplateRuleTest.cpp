@@ -304,13 +304,13 @@ TEST_F(NameTemplate, RefusesTemplatesThatMakeNoSense)
     EXPECT_THAT(ErrorOf(u"a/b"), HasSubstr("folder separator"));
     EXPECT_THAT(ErrorOf(u"<Taken:YYYY>"), HasSubstr("no part of a date is called Y"));
     EXPECT_THAT(ErrorOf(u"<Taken:>"), HasSubstr("the format gives no text"));
-    EXPECT_THAT(ErrorOf(u"<Name:x>"), HasSubstr("takes nothing behind a colon"));
+    EXPECT_THAT(ErrorOf(u"<Name:x>"), HasSubstr("takes nothing after a colon"));
     EXPECT_THAT(ErrorOf(u"<Parent:0>"), HasSubstr("<Parent:0>: a whole number from 1 to 1000 is expected"));
     for (const char16_t* const token : {u"<Random:65>", u"<Random:0>", u"<Random:x>", u"<Random:99999999999999999999>"})
         EXPECT_THAT(ErrorOf(token), HasSubstr(">: a whole number from 1 to 64 is expected"));
     EXPECT_THAT(ErrorOf(u"<Name|uper>"), HasSubstr("did you mean upper?"));
     EXPECT_THAT(ErrorOf(u"<##:from 3>"), HasSubstr("a counter knows start N"));
-    EXPECT_THAT(ErrorOf(u"<#:per folder><Folder>a"), HasSubstr("behind the last <Folder>"));
+    EXPECT_THAT(ErrorOf(u"<#:per folder><Folder>a"), HasSubstr("after the last <Folder>"));
 }
 
 TEST_F(NameTemplate, BoundsTheLengthOfNames)

@@ -48,12 +48,12 @@ TEST(TextChange, RefusesWhatIsNone)
         EXPECT_THAT(Changed(CString::Join({u"pad ", width}), u"1"),
                     HasSubstr("': a whole number from 0 to 255 is expected"));
     EXPECT_THAT(Changed(u"pad", u""), HasSubstr("'pad' is not a change; the changes are"));
-    EXPECT_THAT(Changed(u"", u""), HasSubstr("there is no change behind a |"));
+    EXPECT_THAT(Changed(u"", u""), HasSubstr("there is no change after a |"));
     EXPECT_THAT(Changed(u"uper", u""), HasSubstr("did you mean upper?"));
     EXPECT_THAT(Changed(u"Quite", u""), HasSubstr("there is no change 'Quite'"));
     EXPECT_THAT(Changed(u"upper now", u""), HasSubstr("'upper now' is not a change"));
     EXPECT_THAT(Changed(u"replace a", u""), HasSubstr("is not a change"));
     EXPECT_THAT(Changed(u"replace '' a", u""), HasSubstr("a text to look for is expected"));
-    EXPECT_THAT(Changed(u"replace 'a b", u""), HasSubstr("apostrophes stand around an argument"));
-    EXPECT_THAT(Changed(u"replace 'a'b c", u""), HasSubstr("apostrophes stand around an argument"));
+    EXPECT_THAT(Changed(u"replace 'a b", u""), HasSubstr("apostrophes enclose a whole argument"));
+    EXPECT_THAT(Changed(u"replace 'a'b c", u""), HasSubstr("apostrophes enclose a whole argument"));
 }

@@ -46,8 +46,7 @@ TEST_F(OnTerminal, TheEditorOpensAgainAfterAMistake)
     const std::vector<CString> arguments = {u"rename", u"--edit", u"--apply", u"one", u"two"};
     const ProgramResult result = RunOnTerminal(CallOf(arguments, "\n"), 80);
     EXPECT_EQ(result.exitCode, 0) << result.output;
-    EXPECT_THAT(result.output,
-                HasSubstr("a number and a tab are expected in front of the name\r\nPress Enter to edit"));
+    EXPECT_THAT(result.output, HasSubstr("a number and a tab are expected before the name\r\nPress Enter to edit"));
     EXPECT_EQ(m_folder.ReadFile(u"three"), "2");
     EXPECT_TRUE(m_folder.Has(u"one"));
 }

@@ -72,7 +72,7 @@ TEST_F(TransferCommandLinux, AFolderDoesNotGoIntoItselfThroughALink)
     for (const CString destination : {u"link", u"link/new"}) {
         const ProgramResult result = Run({u"move", u"a", destination, u"--apply"});
         EXPECT_EQ(result.exitCode, 2);
-        EXPECT_THAT(result.errors, HasSubstr("stands inside 'a'"));
+        EXPECT_THAT(result.errors, HasSubstr("is inside 'a'"));
     }
     EXPECT_EQ(m_folder.ReadFile(u"a/b/file"), "1");
 }

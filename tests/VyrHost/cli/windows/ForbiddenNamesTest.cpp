@@ -65,7 +65,7 @@ TEST_F(ForbiddenNames, FilesThatTheSystemDoesNotListDoNotExist)
 {
     WriteNamed({u"a.txt"});
     for (const char16_t* const name : {u"a.txt.", u"a.txt ", u"NUL", u"CON"})
-        EXPECT_THAT(Rename({u"--prefix", u"x", name}).output, HasSubstr("refused: nothing of that name is there\n"));
+        EXPECT_THAT(Rename({u"--prefix", u"x", name}).output, HasSubstr("refused: there is nothing of that name\n"));
 }
 
 TEST_F(WindowsPaths, MayHaveEitherSeparatorAndADrive)

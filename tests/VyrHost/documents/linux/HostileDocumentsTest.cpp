@@ -35,7 +35,7 @@ const std::string app =
 const std::string meta = R"(<o:document-meta xmlns:o="urn:oasis:names:tc:opendocument:xmlns:office:1.0"><o:meta/>)"
                          R"(</o:document-meta>)";
 
-const CString damaged = u"it is damaged, or no document of its kind";
+const CString damaged = u"it is damaged, or not a document of its kind";
 
 /// `document` with `content` in the place of the member `name`.
 ZipMembers With(ZipMembers document, const std::string& name, const std::string& content)
