@@ -58,7 +58,7 @@ CString DescribeDamage(const JournalFile& file, const CString& problem)
         {u"the journal ", file.path, u" is damaged, or newer than this program (", problem, u"); nothing was changed"});
 }
 
-/// The batch that is undone by `number`, or whose undo has that number.
+/// Backward: the batch `number`. Forward: the batch whose last undo is `number`.
 std::optional<JournalFile> Find(const JournalFolder& folder, std::uint32_t number, Direction direction,
                                 BatchSummary& summary)
 {
@@ -76,7 +76,7 @@ bool IsRedone(const JournalFile& file, const Journal& journal)
     return file.phase == BatchPhase::Applied && journal.checkpoint && !journal.checkpoint->isBackward;
 }
 
-/// Why none of the files of the batch in `file` is found.
+/// Says that none of the files of the batch in `file` is found.
 CString DescribeAbsence(const JournalFile& file, Direction direction)
 {
     if (direction == Direction::Forward)
@@ -90,7 +90,7 @@ CString DescribeAbsence(const JournalFile& file, Direction direction)
     return text;
 }
 
-/// Reports each entry as `work` describes it.
+/// Passes each result to `report`, as `work` describes it.
 BatchWork::Report Described(const BatchWork& work, const BatchEntryReport& report)
 {
     return [&work, &report](std::size_t entry, const Model::Outcome& result) {
@@ -112,7 +112,7 @@ std::u16string_view CommonPart(std::u16string_view left, std::u16string_view rig
     return Model::FolderPart(left.substr(0, static_cast<std::size_t>(end - left.begin())));
 }
 
-/// The folder that all changes lie in, before the batch and after it; empty where there is none.
+/// The folder that contains all changes, before the batch and after it; empty if there is none.
 CString FindCommonFolder(const Journal& journal)
 {
     const std::vector<Model::PlanFolder>& folders = journal.plan.folders;
@@ -157,7 +157,7 @@ Journal MakeJournal(NewBatch batch)
     return journal;
 }
 
-/// The number that the environment variable `name` holds; else `otherwise`.
+/// The number in the environment variable `name`; else `otherwise`.
 template <class Number>
 Number NumberFromEnvironment(const CString& name, Number otherwise)
 {
@@ -181,7 +181,7 @@ BatchSettings SettingsFromEnvironment()
 
 Batches::Batches(FileOperations& files, BatchSettings settings) : m_files(&files), m_settings(std::move(settings)) {}
 
-Batches::StayReason Batches::ReasonsToStay() const
+Model::StayReason Batches::ReasonsToStay() const
 {
     return [journals = std::make_shared<const JournalFolder>(OpenJournals())](
                const CString& folder, std::u16string_view name, VyrPlatform::FileSystem::Kind kind) {
@@ -276,7 +276,7 @@ BatchSummary Batches::PreviewReverse(std::uint32_t number, Direction direction, 
     return summary;
 }
 
-/// Finds the batch `number`, or the one whose undo has that number, and where its files are, and hands it to `use`.
+/// Finds the batch `number` (forward: the one whose undo has that number), locates its files, and passes it to `use`.
 void Batches::UseReversed(JournalFolder& folder, std::uint32_t number, Direction direction, bool isPreview,
                           BatchSummary& summary, const std::function<void(BatchWork&)>& use) const
 {
@@ -321,7 +321,7 @@ BatchSummary Batches::PreviewRecover(Recovery recovery, const BatchEntryReport& 
     return summary;
 }
 
-/// Finds the batch that was cut off, and where its files are, and hands it to `use` with the direction of the recovery.
+/// Finds the batch that was cut off, locates its files, and passes it to `use` with the direction of the recovery.
 void Batches::UseCutOff(JournalFolder& folder, Recovery recovery, bool isPreview, BatchSummary& summary,
                         const std::function<void(BatchWork& work, Direction direction)>& use) const
 {

@@ -6,6 +6,7 @@
 #include <VyrHost/batch/PlanProgress.h>
 #include <VyrHost/model/RenamePlan.h>
 #include <VyrHost/model/Result.h>
+#include <VyrHost/model/StayReason.h>
 
 #include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/text/CString.h>
@@ -22,7 +23,7 @@ enum class BatchState : std::uint8_t
 {
     /// Its work has ended; what was done can be undone.
     Applied,
-    /// The undo has ended, and left some of it.
+    /// The undo has ended, but some of it is still done.
     UndonePartly,
     Undone,
     /// Another program applies, undoes or recovers it.
@@ -35,27 +36,27 @@ enum class BatchState : std::uint8_t
     Damaged
 };
 
-/// What the journal tells of a batch.
+/// What the journal says about a batch.
 struct BatchInformation
 {
-    /// From 1 on, in the order of time.
+    /// From 1 on, in chronological order.
     std::uint32_t number = 0;
     BatchState state = BatchState::Applied;
-    /// The number of its last undo, by which it is redone; 0 when it never was undone.
+    /// The number of its last undo, which is used to redo it; 0 when it was never undone.
     std::uint32_t undo = 0;
     /// Local time as yyyy/MM/dd HH:mm:ss.
     CString started;
-    /// The command that made it; empty where the journal does not tell.
+    /// The command that made it; empty if the journal does not say.
     CString command;
-    /// The folder that all of it lies in; empty where there is none, or the journal does not tell.
+    /// The folder that contains all its entries; empty if there is none or the journal does not say.
     CString folder;
-    /// How many changes it was to do.
+    /// The number of its changes.
     std::size_t entries = 0;
-    /// How many of them are done and not undone; when it was undone, those that were not found, and those
-    /// that another program has changed since, count, too.
-    /// Nothing where the journal does not tell: the batch or the last lines of its journal were cut off.
+    /// The number of changes that are done and not undone. After an undo it includes those that were not found and
+    /// those that another program has changed since. Nothing if the journal does not say: the batch, or the last lines
+    /// of its journal, were cut off.
     std::optional<std::size_t> renamed;
-    /// The last work on it ended because it was asked to.
+    /// The last work on it was stopped by the user.
     bool wasStopped = false;
     /// The path of the first of them, and its new path, or what it was set to.
     CString firstFrom;
@@ -64,17 +65,16 @@ struct BatchInformation
     CString problem;
 };
 
-/// Whether there may be something of a batch to undo.
+/// Whether there may be something to undo.
 [[nodiscard]] inline bool CanBeUndone(BatchState state)
 {
     return state == BatchState::Applied || state == BatchState::UndonePartly;
 }
 
-/// The latest of `batches` (the latest first) that can be undone or is damaged, and those before it, in the order in
-/// which "vyr undo" tries them.
+/// The batches that can be undone or are damaged, the latest first.
 struct UndoCandidates
 {
-    /// Those that lie in the folder or below it. A damaged one does not tell where it lies, and counts, too.
+    /// Those in the folder or below it, and damaged ones, which do not say where they are.
     std::vector<BatchInformation> here;
     std::vector<BatchInformation> elsewhere;
 };
@@ -88,9 +88,9 @@ struct BatchEntry
     CString before;
     CString after;
     Model::Outcome result;
-    /// The file was written to, or replaced by another, since the batch.
+    /// The file was modified or replaced since the batch.
     bool hasChanged = false;
-    /// What is changed where it is not renamed; else null.
+    /// The change, if it is not a rename; else null.
     std::shared_ptr<const Model::Change> change;
 };
 
@@ -119,26 +119,25 @@ enum class Obstacle : std::uint8_t
     FilesGone
 };
 
-/// Why nothing can be done with the batch of a number.
+/// Why nothing can be done for a batch number.
 inline constexpr const char16_t* noSuchBatch = u"the journal has no batch of this number";
 
-/// What was done. Every entry counts in one of the four.
+/// What was done. Every entry is counted in one of the four.
 struct BatchSummary
 {
-    /// The batch's number in the journal; 0 when nothing was done that could be undone: nothing was begun where
-    /// there is an error.
+    /// The batch's number in the journal; 0 when nothing was done that could be undone.
     std::uint32_t number = 0;
-    /// The number by which the batch is redone; 0 when it never was undone.
+    /// The number that redoes the batch; 0 when it was never undone.
     std::uint32_t undo = 0;
     std::size_t done = 0;
     std::size_t failed = 0;
     std::size_t refused = 0;
     std::size_t notReached = 0;
-    /// The paths of entries that count as done, but that their folders do not list under these names afterwards.
+    /// The paths of entries that count as done but are missing in the listings of their folders.
     std::vector<CString> missing;
-    /// The folders that the batch has made and that are not removed, since they now hold something else.
+    /// The folders that the batch made and that stay because they now contain something else.
     std::vector<CString> keptFolders;
-    /// The work ended because it was asked to.
+    /// The user stopped the work.
     bool wasStopped = false;
     /// For a batch that is applied: whether the work on it was begun.
     bool wasBegun = false;
@@ -148,7 +147,7 @@ struct BatchSummary
     CString error;
 };
 
-/// Called once for each entry of a plan and each other change behind them, as soon as its fate is known.
+/// Called once for each entry of a plan, and then for each other change, as soon as its result is known.
 using RenameReport = std::function<void(Model::PlanIndex entry, const Model::Outcome& result)>;
 
 /// A batch that is to be applied.
@@ -158,14 +157,14 @@ struct NewBatch
     CString command;
     /// The folders that all changes are in, and the renames.
     Model::RenamePlan plan;
-    /// What stands at the old path of each rename.
+    /// The state of the entry at the old path of each rename.
     std::vector<VyrPlatform::FileState> states;
     /// The changes of other kinds.
     std::vector<PlannedChange> changes;
 };
 
-/// Where and how long journals are kept, what to do while another program is at work, and the known kinds of change
-/// besides the rename.
+/// Where and for how long journals are kept, what to do while another program is at work, and the known kinds of change
+/// other than renames.
 struct BatchSettings
 {
     CString journalFolder;
@@ -181,29 +180,29 @@ struct BatchSettings
 
 using BatchEntryReport = std::function<void(const BatchEntry& entry)>;
 
-/// Asked before each rename: whether to end the work after the one in hand.
+/// Called before each rename: whether to stop before it.
 using StopRequest = std::function<bool()>;
 
 enum class Recovery : std::uint8_t
 {
-    /// Does what is left of what was cut off.
+    /// Completes the interrupted work.
     Finish,
-    /// Restores what was before it.
+    /// Reverts the interrupted work.
     Undo
 };
 
-/// Whether `recovery` of a batch in `state` (it was cut off) does its renames; else it undoes them.
+/// Whether `recovery` of a batch in `state`, which was cut off, applies its renames; else it undoes them.
 [[nodiscard]] inline bool DoesRenames(Recovery recovery, BatchState state)
 {
     return (state == BatchState::CutOff) == (recovery == Recovery::Finish);
 }
 
-/// What became of the journal of a batch that was to be abandoned.
+/// The result of abandoning a batch.
 struct AbandonedJournal
 {
     /// The batch's number; 0 when none was cut off.
     std::uint32_t number = 0;
-    /// The journal's path before, and the one under which it is kept.
+    /// The journal's old path, and its new one.
     CString from;
     CString to;
     /// Why it stays where it is; empty when it was abandoned.
@@ -212,48 +211,44 @@ struct AbandonedJournal
 
 class BatchWork;
 
-/// The batches of the user. One is worked on at a time, by one program: the others are told so in the summary's error.
+/// The batches of the user. Only one program works on a batch at a time; for others the summary has an error.
 class Batches
 {
 public:
-    /// @param files  what it acts through: SystemFiles, but for tests.
+    /// @param files  the file operations: SystemFiles, except in tests.
     Batches(FileOperations& files, BatchSettings settings);
 
-    /// Does the batch that `make` gives: journal on disk first, nothing ever overwritten, afterwards a look at the
-    /// folders that do not tell every two names apart.
-    /// @param make    called once no other program works on a batch.
-    /// @param report  called once for each rename of the plan and, by indexes behind those, each other change, unless
-    ///     the summary's error says that nothing was begun; those count as not reached then.
+    /// Applies the batch that `make` returns. Writes the journal to the disk first, and never overwrites anything.
+    /// Afterwards lists the folders that may store a name differently, to check the names in them.
+    /// @param make  called when no other program works on a batch.
+    /// @param report  called once for each rename of the plan, and for each other change with the indexes after those.
+    ///     Not called when nothing was begun: the summary then has an error and counts them as not reached.
     BatchSummary Apply(const std::function<NewBatch()>& make, const RenameReport& report,
                        const StopRequest& isStopAsked);
-    /// Does the renames of `plan`, which has one, and `changes`, likewise.
+    /// Applies `plan`, which has at least one rename, and `changes` in the same way.
     BatchSummary Apply(Model::RenamePlan plan, std::vector<PlannedChange> changes, const RenameReport& report,
                        const StopRequest& isStopAsked);
 
-    /// Tells of an entry, by its folder's path (a separator at its end, or empty where the name is a full path), name
-    /// and kind, why it may not be renamed or moved: the journal needs it where it is. Gives an empty text for all
-    /// others.
-    using StayReason = std::function<std::u16string_view(const CString& folder, std::u16string_view name,
-                                                         VyrPlatform::FileSystem::Kind kind)>;
-    [[nodiscard]] StayReason ReasonsToStay() const;
+    /// Entries that the journal needs where they are.
+    [[nodiscard]] Model::StayReason ReasonsToStay() const;
 
     /// The batches in the journal, the latest first.
     [[nodiscard]] std::vector<BatchInformation> List() const;
-    /// Backward: undoes the batch `number`, in reverse order; what the batch had not done is not reported. Forward:
-    /// does again what was undone by the undo `number`.
+    /// Backward: undoes the batch `number` in reverse order, and reports only what it had done. Forward: redoes what
+    /// the undo `number` undid.
     BatchSummary Reverse(std::uint32_t number, Direction direction, const BatchEntryReport& report,
                          const StopRequest& isStopAsked);
-    /// Tells what Reverse would do, as far as it can be seen, and changes nothing.
+    /// Reports what Reverse would do, as far as can be predicted, and changes nothing.
     BatchSummary PreviewReverse(std::uint32_t number, Direction direction, const BatchEntryReport& report) const;
 
-    /// The batch that was cut off, if there is one that no running program works on.
+    /// The batch that was cut off, if there is one and no running program works on it.
     [[nodiscard]] std::optional<BatchInformation> FindCutOff() const;
-    /// Ends the batch that was cut off.
+    /// Recovers the batch that was cut off.
     BatchSummary Recover(Recovery recovery, const BatchEntryReport& report, const StopRequest& isStopAsked);
-    /// Tells what Recover would do, as far as it can be seen, and changes nothing.
+    /// Reports what Recover would do, as far as can be predicted, and changes nothing.
     BatchSummary PreviewRecover(Recovery recovery, const BatchEntryReport& report) const;
     /// Abandons the batch that was cut off, so that others can begin: its files stay as they are, and its journal is
-    /// kept under another name. The way out where the journal is damaged, or the files are gone.
+    /// kept under another name. For a damaged journal, or when the files are gone.
     AbandonedJournal AbandonCutOff();
 
 private:

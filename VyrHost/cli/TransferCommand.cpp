@@ -8,6 +8,7 @@
 #include <VyrHost/cli/Options.h>
 #include <VyrHost/foldercopy/Transfer.h>
 #include <VyrHost/foldercopy/TransferBatch.h>
+#include <VyrHost/model/StayReason.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/ui/Terminal.h>
@@ -27,7 +28,7 @@ namespace VyrHost::Cli {
 
 namespace {
 
-/// Shows how far the work is, and looks for an interrupt.
+/// Shows the progress, and checks for an interrupt.
 class TerminalWatch final : public FolderCopy::TransferWatch
 {
 public:
@@ -69,7 +70,7 @@ CLI::App& AddCommand(CLI::App& program, FolderCopy::TransferAction action)
 /// A moved journal would not be found again.
 void RefuseToMoveTheJournal(const std::vector<CString>& sources)
 {
-    const Batch::Batches::StayReason stays = OpenBatches().ReasonsToStay();
+    const Model::StayReason stays = OpenBatches().ReasonsToStay();
     for (const CString& source : sources) {
         const std::u16string_view reason =
             stays(CString(), VyrPlatform::GetFullPath(source), VyrPlatform::FileSystem::Kind::Folder);
@@ -96,7 +97,7 @@ private:
     [[nodiscard]] const char* Ending(const FolderCopy::TransferBatch& batch, const ReportStyle& style) const;
 
     const FolderCopy::TransferAction m_action;
-    /// The folders, and behind them the destination.
+    /// The folders, then the destination.
     std::vector<std::string> m_paths;
     RunOptions m_run;
 };

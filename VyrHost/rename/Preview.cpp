@@ -1,4 +1,4 @@
-// Asks for new names, judges them, and has their conflicts resolved and the result planned.
+// Makes new names, checks them, resolves conflicts, and plans the result.
 #include <VyrHost/rename/Preview.h>
 
 #include <VyrHost/rename/ConflictResolver.h>
@@ -19,13 +19,14 @@ namespace {
 using VyrHostPlatform::FolderPermission;
 using VyrPlatform::FileSystem::Kind;
 
-/// In code units; more than any of the systems takes.
+/// In code units; no system takes longer paths.
 constexpr int longestPath = 32'767;
 
 class Naming
 {
 public:
-    Naming(Model::EntryList& list, const Groups& groups, NameSource& source, const StayReason& stays, NamesAfter& after)
+    Naming(Model::EntryList& list, const Groups& groups, NameSource& source, const Model::StayReason& stays,
+           NamesAfter& after)
         : m_list(list), m_groups(groups), m_source(source), m_stays(stays), m_targets(list.folders, after),
           m_decisions(list.entries.size())
     {}
@@ -51,7 +52,7 @@ public:
     Causes TakeCauses() { return std::move(m_causes); }
 
 private:
-    /// Refuses an entry that is not there.
+    /// Refuses a missing entry.
     bool LookFor(std::uint32_t index)
     {
         const Model::Entry& entry = m_list.entries[index];
@@ -104,7 +105,7 @@ private:
             decision.warning = target.warning;
     }
 
-    /// Refuses what the system would refuse when it is applied.
+    /// Refuses what the system would refuse.
     void CheckPermissions(std::uint32_t index)
     {
         Decision& decision = m_decisions[index];
@@ -127,7 +128,7 @@ private:
         return m_stays ? m_stays(m_list.folders[entry.folder].path, entry.name, entry.kind) : std::u16string_view();
     }
 
-    /// Of a folder that is not there yet, that of the folder which it will be made in.
+    /// For a missing folder, the permission of its nearest existing parent.
     FolderPermission PermissionOf(std::uint32_t folder)
     {
         while (m_list.folders[folder].isNew)
@@ -140,7 +141,7 @@ private:
         return *permission;
     }
 
-    /// Where one of those that keep together is refused, all are.
+    /// Refuses a whole group if one of its entries is refused.
     void KeepTogether()
     {
         const auto isRefused = [this](std::uint32_t entry) {
@@ -156,21 +157,21 @@ private:
     Model::EntryList& m_list;
     const Groups& m_groups;
     NameSource& m_source;
-    const StayReason& m_stays;
+    const Model::StayReason& m_stays;
     TargetFolders m_targets;
     std::vector<Decision> m_decisions;
     Causes m_causes;
-    /// By folder; asked for once.
+    /// By folder; queried once.
     std::vector<std::optional<FolderPermission>> m_permissions;
     std::vector<std::uint32_t> m_present;
     std::vector<WantedName> m_names;
 };
 
-/// Turns what is decided into a draft for the planner.
+/// Builds the draft for the planner from the decisions.
 class DraftBuilder
 {
 public:
-    /// @param count  how many entries will be added.
+    /// @param count  the number of entries to be added.
     DraftBuilder(const Model::EntryList& list, std::size_t count) : m_list(list), m_folders(list.folders, m_draft.plan)
     {
         m_draft.plan.texts = list.folders.Texts();
@@ -183,7 +184,7 @@ public:
         const Model::Place to{m_folders.Add(decision.folder), decision.name};
         m_draft.plan.entries.push_back({.kind = entry.kind, .from = from, .to = to});
     }
-    /// The group of the entry that was added last, where not all are groups of their own.
+    /// Sets the group of the last added entry; needed unless each is a group of its own.
     void AddGroup(std::uint32_t group) { m_draft.groups.push_back(group); }
 
     RenameDraft Take()
@@ -224,7 +225,7 @@ void Plan(const Model::EntryList& list, const Groups& groups, Preview& preview)
     preview.plan = std::move(result.plan);
 }
 
-/// Whether a name is taken that was to be given.
+/// Whether a wanted name is taken.
 bool HasConflict(const std::vector<Decision>& decisions)
 {
     return std::any_of(decisions.begin(), decisions.end(), [](const Decision& decision) {
@@ -250,7 +251,7 @@ bool StopAtConflict(Preview& preview)
 }
 
 Preview MakePreview(Model::EntryList& list, const Groups& groups, NameSource& names, const ConflictSettings& settings,
-                    const StayReason& stays, const NamingProgress& progress)
+                    const Model::StayReason& stays, const NamingProgress& progress)
 {
     constexpr std::size_t often = 32;
     Preview preview;
@@ -266,7 +267,7 @@ Preview MakePreview(Model::EntryList& list, const Groups& groups, NameSource& na
         preview.causes = naming.TakeCauses();
         ResolveConflicts(list, groups, preview.decisions, after, settings, names.MayNumber());
     }
-    // Lists are at their largest now.
+    // Memory use is at its peak here.
     list.folders.ForgetIndexes();
     Plan(list, groups, preview);
     return preview;

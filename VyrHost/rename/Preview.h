@@ -1,9 +1,10 @@
 /// @file
-/// What becomes of each entry of a list, and the plan that brings it about.
+/// The decision about each entry of a list, and the plan for it.
 #pragma once
 
 #include <VyrHost/model/EntryList.h>
 #include <VyrHost/model/RenamePlan.h>
+#include <VyrHost/model/StayReason.h>
 #include <VyrHost/rename/Decision.h>
 #include <VyrHost/rename/Groups.h>
 #include <VyrHost/rename/NameSources.h>
@@ -18,7 +19,7 @@ namespace VyrHost::Rename {
 /// What to do with an entry whose new name is taken.
 enum class OnConflict : std::uint8_t
 {
-    /// Number it where the rules allow that, else refuse it.
+    /// Number it if the rules allow that, else refuse it.
     Number,
     /// Leave it alone.
     Skip,
@@ -29,18 +30,14 @@ enum class OnConflict : std::uint8_t
 struct ConflictSettings
 {
     OnConflict mode = OnConflict::Number;
-    /// Its pattern has a "?", its position is 0 or 1 and its step is not 0: else no free name might be found.
+    /// Its pattern must have a "?", its position must be 0 or 1, and its step not 0; otherwise the search for a free
+    /// name might not end.
     VyrLibraryFuncs::NameFuncs::CONFLICTITEM numbering;
-    /// The least number of digits, 0 to 255.
+    /// The minimum number of digits, 0 to 255.
     int digits = 0;
 };
 
-/// Tells of an entry, by its folder's path (a separator at its end), name and kind, why it has to stay as it is called,
-/// whatever the rules say; gives an empty text for all others.
-using StayReason =
-    std::function<std::u16string_view(const CString& folder, std::u16string_view name, VyrPlatform::FileSystem::Kind)>;
-
-/// Told now and then how many entries have their names.
+/// Called now and then with the number of named entries.
 using NamingProgress = std::function<void(std::size_t named)>;
 
 struct Preview
@@ -48,25 +45,24 @@ struct Preview
     /// One for each entry of the list.
     std::vector<Decision> decisions;
     Causes causes;
-    /// What is to be done for them.
+    /// The plan for the entries to be renamed.
     Model::RenamePlan plan;
-    /// For each entry of the plan its place in the list, rising.
+    /// For each entry of the plan, its index in the list, ascending.
     std::vector<std::uint32_t> entries;
 };
 
-/// Decides for each entry of `list`, and plans what is decided. Only the listings that `list` brings are asked what
-/// stands on the disk, and those of the folders that entries move into.
+/// Decides about each entry of `list`, and plans the result. Reads only the listings in `list` and those of destination
+/// folders.
 ///
-/// Names are judged as they are after the batch: an entry's own name and the names that the batch vacates are free, the
-/// names given to earlier entries are taken. An entry that is refused keeps its name, and whoever was to get that name
-/// is decided anew. Of entries that keep together either all get their names, with one number where one is needed, or
-/// none does.
+/// Conflicts are those after the batch: an entry's own name and names that the batch vacates are free, names given to
+/// earlier entries are taken. A refused entry keeps its name, and an entry that was to get that name is decided again.
+/// Either all entries of a group get their names, with one number if needed, or none.
 [[nodiscard]] Preview MakePreview(Model::EntryList& list, const Groups& groups, NameSource& names,
-                                  const ConflictSettings& settings, const StayReason& stays = {},
+                                  const ConflictSettings& settings, const Model::StayReason& stays = {},
                                   const NamingProgress& progress = {});
 
-/// Where a name that was to be given is taken, nothing is to be renamed at all.
-/// @return whether one is.
+/// Refuses all entries if a wanted name is taken.
+/// @return whether one is taken.
 bool StopAtConflict(Preview& preview);
 
 } // namespace VyrHost::Rename

@@ -16,8 +16,6 @@ namespace {
 constexpr int columnGap = 2;
 /// Columns narrower than this, if their values are wider, would make the table unreadable.
 constexpr int leastWidth = 8;
-/// The greatest width to which columns are aligned where rows may have any length.
-constexpr int mostPadding = 60;
 constexpr std::string_view indent = "    ";
 
 /// The greatest width of a column in a row of `rowWidth`, for columns of the widths `natural`: narrow ones keep their

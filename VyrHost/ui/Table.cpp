@@ -18,8 +18,6 @@ constexpr std::string_view noArrow = "      ";
 static_assert(arrow.size() == noArrow.size());
 constexpr int arrowWidth = static_cast<int>(arrow.size());
 constexpr int noteGap = 2;
-/// The greatest width to which names are aligned where rows may have any length.
-constexpr int mostPadding = 60;
 
 struct Widths
 {

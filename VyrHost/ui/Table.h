@@ -24,7 +24,7 @@ enum class Tone : std::uint8_t
 /// The escape sequence that begins the colour of `tone`; empty for a plain one.
 [[nodiscard]] std::string_view ColourOf(Tone tone);
 
-/// A name and the text in front of it; refers to the texts.
+/// A name and the text before it; refers to the texts.
 struct ShownName
 {
     std::u16string_view folder;
@@ -42,6 +42,9 @@ struct TableRow
 
 /// Returns the row at an index, from 0; called twice for each. The texts of a row must live until the next call.
 using RowOfTable = std::function<TableRow(std::size_t index)>;
+
+/// The greatest width to which columns are aligned where rows may have any length.
+inline constexpr int mostPadding = 60;
 
 /// The layout of a table.
 struct TableStyle
