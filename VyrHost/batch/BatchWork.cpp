@@ -19,7 +19,7 @@ namespace {
 using VyrPlatform::FileState;
 using VyrPlatform::FileSystem::Kind;
 
-/// Whether a file now stands where a folder was listed, or a folder where a file was.
+/// Whether there is now a file where a folder was listed, or the other way round.
 bool IsOtherKind(Kind listed, Kind found)
 {
     return (listed == Kind::File && found == Kind::Folder) || (listed == Kind::Folder && found == Kind::File);
@@ -81,14 +81,14 @@ void BatchWork::LeaveOut(Model::PlanIndex entry, const Model::Outcome& result)
     m_executor.SetResult(entry, result);
 }
 
-/// Neither an entry that was not renamed nor anything inside it got its new path.
+/// Leaves alone an entry that was not renamed: it, and what is inside it, still has its old path.
 void BatchWork::Keep(Model::PlanIndex entry)
 {
     m_executor.LeaveAlone(entry);
     m_after.Set(entry, Location::Before);
 }
 
-/// Journals must stay where they are, or their batches are not found again; the lock must keep others away.
+/// The journals must not be moved: their batches would not be found again, and the lock would not keep others away.
 void BatchWork::KeepJournalInPlace()
 {
     for (Model::PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry) {
@@ -143,7 +143,7 @@ bool BatchWork::Locate(const JournalFile& file, Direction direction, bool isPrev
     return isAnyFound;
 }
 
-/// A recovery then knows what to protect again. What an earlier work on the batch noted no longer counts.
+/// Tells a recovery which files to protect again. Replaces what earlier work on the batch noted.
 std::uint32_t BatchWork::NoteProtected()
 {
     const std::vector<ProtectedFile> files = m_changes.FindProtected();
@@ -181,8 +181,7 @@ bool BatchWork::BeginRedo()
     return MayGoOn(error ? error : m_folder.Flush());
 }
 
-/// Changes are done to the files where they stand before the renames, and undone there, unless they follow
-/// the renames.
+/// Changes are done and undone at the old paths, unless they follow the renames.
 void BatchWork::Run(Direction direction, const Report& report, const StopRequest& isStopAsked)
 {
     const auto isAsked = [&isStopAsked] {
@@ -194,7 +193,7 @@ void BatchWork::Run(Direction direction, const Report& report, const StopRequest
         const auto reportChange = [&](std::size_t index, const Model::Outcome& result) {
             counted(m_journal.plan.entries.size() + index, result);
         };
-        // Once the user has asked to stop, the question is not repeated.
+        // Once the user has asked to stop, do not ask again.
         isWhole &= m_changes.Run(direction, followRenames, reportChange, [&] { return !isWhole || isAsked(); });
     };
     const bool isBackward = direction == Direction::Backward;
@@ -222,7 +221,7 @@ void BatchWork::Predict(Direction direction, const Report& report)
     const Report counted = CountAnd(report);
     const std::vector<Model::PlanEntry>& entries = m_journal.plan.entries;
     const bool isForward = direction == Direction::Forward;
-    // For each entry the one whose place it takes.
+    // For each entry, the one whose place it takes.
     std::vector<Model::PlanIndex> inPlace(entries.size(), Model::none);
     for (Model::PlanIndex entry = 0; entry < entries.size(); ++entry)
         if (const Model::PlanIndex before = entries[entry].waitsFor; before != Model::none)
@@ -234,7 +233,7 @@ void BatchWork::Predict(Direction direction, const Report& report)
             counted(entries.size() + index, m_changes.Predict(index, direction));
 }
 
-/// Whether the batch made a folder at `place`, which goes when the batch is undone.
+/// Whether the batch made a folder at `place`, which is removed when the batch is undone.
 bool BatchWork::IsMadeFolder(const Model::Place& place) const
 {
     const std::vector<Model::PlanFolder>& folders = m_journal.plan.folders;
@@ -244,7 +243,7 @@ bool BatchWork::IsMadeFolder(const Model::Place& place) const
     return false;
 }
 
-/// Refuses entries that are not found, and those whose place something outside the batch has taken.
+/// Refuses entries that are not found, and those whose place is taken by something outside the batch.
 Model::Outcome BatchWork::PredictEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace)
 {
     const Model::Place place = m_progress.PlaceOf(entry, goal);
@@ -259,8 +258,8 @@ Model::Outcome BatchWork::PredictEntry(Model::PlanIndex entry, Location goal, Mo
     return {.status = Model::Status::Failed, .error = 0, .reason = ReasonWhereTaken(goal)};
 }
 
-/// Each folder once: to wait for the disk after each file would double the time of the whole batch. Until then the disk
-/// has the old file or the new one, and the journal of an open batch.
+/// Flushes each folder once: waiting for the disk after each file would double the time of the whole batch. Until then
+/// the disk has either the old file or the new one, and the journal of an open batch.
 void BatchWork::FlushReplaced()
 {
     std::set<CString> folders;
@@ -298,13 +297,12 @@ void BatchWork::Close(Direction direction)
 Checkpoint BatchWork::MakeCheckpoint(Direction direction) const
 {
     Checkpoint checkpoint;
-    // After a redo that did nothing the batch is as undone as before.
+    // After a redo that did nothing, the batch is still undone.
     checkpoint.isBackward = direction == Direction::Backward || (m_journal.applied && !IsAnyDone());
     checkpoint.wasStopped = m_summary.wasStopped;
     for (Model::PlanIndex entry = 0; entry < m_journal.plan.entries.size(); ++entry) {
         const Location location = m_progress.Of(entry);
-        // What is not found after it was to be done counts as not done; what is not found when it is undone may be
-        // there again at the next attempt.
+        // Entries that are not found count as not done, except in an undo: there they may be found at the next attempt.
         const bool isNotDone = location == Location::Before ||
                                (location == Location::Unknown && (direction == Direction::Forward || m_isKept[entry]));
         if (location == Location::Temporary)
@@ -337,8 +335,8 @@ bool BatchWork::IsAnyDone() const
     return m_changes.IsAnyDone();
 }
 
-/// Sets the phase before it writes the checkpoint. Where the checkpoint is missing, the next work on the batch looks at
-/// the disk; a checkpoint in an open batch could be of its beginning or of its end.
+/// Sets the phase before it writes the checkpoint. Without a checkpoint the next work on the batch looks at the disk; a
+/// checkpoint of an open batch could be from its beginning or its end.
 void BatchWork::End(const Checkpoint& checkpoint, BatchPhase phase)
 {
     std::uint32_t error = m_folder.SetPhase(m_file, phase);

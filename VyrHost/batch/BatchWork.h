@@ -1,5 +1,5 @@
 /// @file
-/// One batch at work: its journal, where its entries stand, and what is done to them.
+/// The work on one batch: its journal, where its entries are, and what is done to them.
 #pragma once
 
 #include <VyrHost/batch/Batches.h>
@@ -23,34 +23,34 @@ class ChangeWork
 public:
     using Report = std::function<void(std::size_t index, const Model::Outcome& result)>;
 
-    /// @param progress tells where the files stand while the same batch renames them.
+    /// @param progress says where the files are while the same batch renames them.
     ChangeWork(const Journal& journal, const PlanProgress& progress);
 
-    /// Believes the journal's checkpoint about the changes that are not done: they are left alone and not reported.
+    /// Takes over from the journal's checkpoint which changes are not done: they are left alone and not reported.
     void TrustCheckpoint();
-    /// The files that are protected against writing, and may lose that while the work lasts.
+    /// The read-only files that may be made writable during the work.
     [[nodiscard]] std::vector<ProtectedFile> FindProtected() const;
-    /// Looks how far every file has its change.
-    /// @param repairs  whether the work was cut off, and the files may be changed (Change::Repair).
+    /// Finds out how far each change is done.
+    /// @param repairs  whether the work was cut off and the files may be changed (Change::Repair).
     void Locate(bool repairs);
-    /// Whether there is one that is not kept, and whose file has the change or can get it.
+    /// Whether a change that is not kept is done or can be done.
     [[nodiscard]] bool IsAnyFound() const;
 
-    /// Applies the changes, or undoes them in reverse order. What another program has changed since stays. Where
-    /// many are applied, and each is known to be of another file, two threads share them.
+    /// Applies the changes, or undoes them in reverse order. Keeps what another program has changed since. Two threads
+    /// share many changes if each is known to be of a different file.
     /// @param followRenames  which changes: those that follow the renames, or the others.
-    /// @param report called once for each of them, in their order.
-    /// @param isStopAsked asked before each change, or before many that two threads share.
-    /// @return false when it was stopped before the end.
+    /// @param report called once for each change, in order.
+    /// @param isStopAsked called before each change, or before many that two threads share.
+    /// @return false when it was stopped.
     bool Run(Direction direction, bool followRenames, const Report& report, const Executor::StopRequest& isStopAsked);
-    /// After Locate: what Run would report of a change.
+    /// After Locate: what Run would report for a change.
     [[nodiscard]] Model::Outcome Predict(std::size_t index, Direction direction) const;
 
     [[nodiscard]] bool IsKept(std::size_t index) const { return m_isKept[index]; }
-    /// Whether it is done, or may turn out to be at the next attempt to undo it.
+    /// Whether it is done, or may prove to be at the next attempt to undo it.
     [[nodiscard]] bool MayBeDone(std::size_t index, Direction direction) const;
     [[nodiscard]] bool IsAnyDone() const;
-    /// Where the file stands now; where it was not found, before the batch.
+    /// The present path of the file; if it was not found, its path before the batch.
     [[nodiscard]] CString PathOf(std::size_t index) const;
 
 private:
@@ -64,46 +64,46 @@ private:
     const PlanProgress& m_progress;
     std::vector<Model::ChangeLook> m_looks;
     std::vector<bool> m_isKept;
-    /// For each change the rename of the same file.
+    /// For each change, the rename of the same file.
     std::vector<Model::PlanIndex> m_renames;
 };
 
 class BatchWork
 {
 public:
-    /// @param folder is locked.
+    /// @param folder must be locked.
     /// @param summary gets what is done, and why something is not.
     BatchWork(FileOperations& files, JournalFolder& folder, Journal journal, BatchSummary& summary);
     BatchWork(const BatchWork&) = delete;
     BatchWork& operator=(const BatchWork&) = delete;
 
-    /// For a new batch, whose journal says what stands at the old paths: leaves out what is not there any more, and
-    /// writes the journal. From then on the batch can be recovered.
+    /// For a new batch: leaves out entries that are no longer at their old paths, and writes the journal. From then on
+    /// the batch can be recovered.
     /// @return false when the journal cannot be written.
     [[nodiscard]] bool Begin();
 
-    /// For a batch from the journal that is to be undone, redone or recovered: finds out where everything stands.
-    /// @param isPreview  the disk stays as it is, even where the work on the batch was cut off.
-    /// @return false when nothing of it is found.
+    /// For a batch from the journal that is to be undone, redone or recovered: finds its entries and folders.
+    /// @param isPreview  changes nothing on the disk, even if the work on the batch was cut off.
+    /// @return false when nothing is found.
     [[nodiscard]] bool Locate(const JournalFile& file, Direction direction, bool isPreview = false);
-    /// Writes to the disk that a batch that was cut off is being worked on again.
+    /// Notes on the disk that the recovery of the batch has begun.
     /// @return false when that cannot be written.
     [[nodiscard]] bool BeginRecovery();
-    /// Writes to the disk that the batch is being undone.
+    /// Notes on the disk that the undo has begun.
     /// @return false when that cannot be written.
     [[nodiscard]] bool BeginUndo();
-    /// Writes to the disk that the batch is being applied again.
+    /// Notes on the disk that the redo has begun.
     /// @return false when that cannot be written.
     [[nodiscard]] bool BeginRedo();
 
-    /// Called with the index of an entry of the plan; changes of other kinds stand behind the entries.
+    /// Called with the index of an entry of the plan; changes of other kinds have the indexes after the entries.
     using Report = std::function<void(std::size_t index, const Model::Outcome& result)>;
-    /// Does what is left to do in `direction`, looks at the folders, and closes the journal.
+    /// Does what is left to do in `direction`, checks the folders, and closes the journal.
     void Run(Direction direction, const Report& report, const StopRequest& isStopAsked);
-    /// After Locate: tells what Run would do, as far as it can be seen.
+    /// After Locate: reports what Run would do, as far as can be predicted.
     void Predict(Direction direction, const Report& report);
 
-    /// After Locate: what is said of an entry or a change.
+    /// After Locate: the description of an entry or a change.
     [[nodiscard]] BatchEntry Describe(std::size_t index, const Model::Outcome& result) const;
 
 private:
@@ -115,7 +115,7 @@ private:
     [[nodiscard]] std::uint32_t NoteProtected();
     [[nodiscard]] Report CountAnd(const Report& report);
     [[nodiscard]] Model::Outcome PredictEntry(Model::PlanIndex entry, Location goal, Model::PlanIndex inPlace);
-    /// Waits until the files that were replaced stand on the disk under their names.
+    /// Flushes the names of the files that were replaced.
     void FlushReplaced();
     void CheckListings(Location location);
     void Close(Direction direction);
@@ -132,7 +132,7 @@ private:
     Journal m_journal;
     JournalFile m_file;
     PlanProgress m_progress;
-    /// How everything stands before the batch, and after it.
+    /// The state before the batch, and after it.
     PlanProgress m_before;
     PlanProgress m_after;
     Executor m_executor;

@@ -1,4 +1,4 @@
-// Works on the changes of a batch, one file after the other.
+// Locates, applies and undoes the changes of a batch.
 #include <VyrHost/batch/BatchWork.h>
 
 #include <VyrHost/model/SlotTable.h>
@@ -68,7 +68,7 @@ std::vector<ProtectedFile> ChangeWork::FindProtected() const
     return files;
 }
 
-/// Where the work that lifted a protection was cut off. Where it cannot be restored, the file stays as it is.
+/// Makes files read-only again that interrupted work has left writable. A file that cannot be restored stays as it is.
 void ChangeWork::ProtectAgain() const
 {
     for (const ProtectedFile& file : m_journal.protectedFiles) {
@@ -100,7 +100,7 @@ bool ChangeWork::IsAnyFound() const
     return false;
 }
 
-/// Those of Run, in their order.
+/// The changes that Run is about, in its order.
 std::vector<std::size_t> ChangeWork::FindToDo(Direction direction, bool followRenames) const
 {
     std::vector<std::size_t> toDo;

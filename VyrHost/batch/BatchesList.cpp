@@ -1,4 +1,4 @@
-// Reads from the journals what became of the batches.
+// Reads the state of the batches from their journals.
 #include <VyrHost/batch/Batches.h>
 
 #include <VyrHost/model/FolderSet.h>
@@ -29,7 +29,7 @@ BatchState StateOf(BatchPhase phase)
     return BatchState::Applied;
 }
 
-/// Takes over the journal's last checkpoint. It may be of earlier work, where that of the last work is missing.
+/// Takes over the journal's last checkpoint. It may be from earlier work if the last work wrote none.
 void AddProgress(BatchInformation& information, const std::optional<CheckpointOutline>& checkpoint)
 {
     if (!checkpoint)
@@ -136,7 +136,7 @@ std::optional<BatchInformation> Batches::FindCutOff() const
     const JournalFolder folder = OpenJournals();
     if (!folder.FindOpen() || folder.IsLockedByAnother())
         return {};
-    // Its program may just have finished it.
+    // Its program may have just finished it.
     const std::optional<JournalFile> file = folder.FindOpen();
     return file ? Describe(folder, *file) : std::optional<BatchInformation>();
 }

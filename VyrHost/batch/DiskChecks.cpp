@@ -1,4 +1,4 @@
-// Looks at the sources of a batch on two threads.
+// Queries the sources of a batch on two threads.
 #include <VyrHost/batch/DiskChecks.h>
 
 #include <VyrHost/batch/FileOperations.h>
@@ -54,7 +54,7 @@ public:
     }
 
 private:
-    /// Every entry that the file system may have given another name than asked for.
+    /// Passes on each entry to which the file system may have given another name than requested.
     template <class Use>
     void ForEachEntry(Use use)
     {

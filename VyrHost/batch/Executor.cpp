@@ -131,7 +131,7 @@ void Executor::ReportGroup(const Group& group, Direction direction, const Report
     });
 }
 
-/// Where a step finds its entry, and where it moves it.
+/// The locations between which a step moves its entry.
 std::pair<Location, Location> Executor::EndsOf(const Model::PlanStep& step, Direction direction) const
 {
     const Location middle = m_hasTemporaryName[step.subject] ? Location::Temporary : Location::Before;
@@ -172,7 +172,7 @@ Executor::StepResult Executor::Perform(const Model::PlanStep& step, Direction di
     return Move(step.subject, source, target);
 }
 
-/// The entry of the plan that should have left the place that `entry` is to get, but has not.
+/// The entry of the plan that still occupies the place that `entry` is to get.
 Model::PlanIndex Executor::FindInTheWay(Model::PlanIndex entry, Location target) const
 {
     const Model::PlanIndex before = m_plan.entries[entry].waitsFor;
@@ -236,14 +236,14 @@ Executor::StepResult Executor::RemoveFolder(Model::PlanIndex folder, const Opene
                                             std::u16string_view name)
 {
     m_folders.Forget(folder);
-    // A folder with something in it that the batch did not put there stays.
+    // A folder that contains anything else is kept.
     if (parent.folder->RemoveEmptyFolder(name) != 0)
         return StepResult::Skipped;
     m_progress.SetFolder(folder, NewFolder::Absent);
     return StepResult::Done;
 }
 
-/// Removes new folders into which no rename could be done.
+/// Removes new folders that got no entry.
 void Executor::RemoveFoldersWithoutUse()
 {
     std::vector<bool> isUsed(m_plan.folders.size());

@@ -13,7 +13,7 @@
 
 namespace VyrHost::Batch {
 
-/// Why an entry cannot get to its old path or its new one (`target`): something else stands there.
+/// The reason why an entry cannot be moved to its old or new path (`target`): something else is there.
 [[nodiscard]] const char16_t* ReasonWhereTaken(Location target);
 
 class Executor
@@ -30,16 +30,16 @@ public:
     /// Sets the result of an entry that was not found.
     void SetResult(Model::PlanIndex entry, const Model::Outcome& result) { m_results.insert_or_assign(entry, result); }
 
-    /// Does every step that is not done yet in `direction`; backward in reverse order. Nothing is overwritten. A
-    /// failure ends only what depends on it: entries that need its place are refused, a cycle that cannot be closed is
-    /// rolled back.
+    /// Does every step that is not done yet in `direction`; backward in reverse order. Overwrites nothing. A failure
+    /// affects only what depends on it: entries that need its place are refused, and a cycle that cannot be completed
+    /// is rolled back.
     /// @param report called once for each entry.
-    /// @param isStopAsked asked before each rename, and cycle of renames, that is left to do.
-    /// @return false when it was stopped before the end.
+    /// @param isStopAsked called before each rename, and each cycle of renames, that is left to do.
+    /// @return false when it was stopped.
     bool Run(Direction direction, const Report& report, const StopRequest& isStopAsked);
 
 private:
-    /// Steps that are done or undone together: their first, and the one behind their last.
+    /// Steps that are done or undone together: their first, and the one after their last.
     struct Group
     {
         Model::PlanIndex first;
@@ -85,14 +85,14 @@ private:
     PlanProgress& m_progress;
     FolderCache m_folders;
     std::vector<Group> m_groups;
-    /// For each entry whether it has a temporary name on the way.
+    /// For each entry, whether it gets a temporary name.
     std::vector<bool> m_hasTemporaryName;
     std::vector<bool> m_isLeftAlone;
-    /// For each entry the one that gets its old place.
+    /// For each entry, the one that gets its old place.
     std::vector<Model::PlanIndex> m_successors;
-    /// Why entries did not reach their places. Entries that did, and those that were not tried, are not in it.
+    /// Why entries did not reach their places; only for entries that were tried.
     std::unordered_map<Model::PlanIndex, Model::Outcome> m_results;
-    /// For each new folder why it was not made.
+    /// For each new folder, why it was not made.
     std::vector<std::uint32_t> m_folderErrors;
 };
 

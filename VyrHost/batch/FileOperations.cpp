@@ -1,4 +1,4 @@
-// The file operations of the system, and the cache of open folders.
+// The system's file operations, and the cache of open folders.
 #include <VyrHost/batch/FileOperations.h>
 
 #include <VyrHostPlatform/DurableFile.h>

@@ -1,6 +1,6 @@
 /// @file
-/// What the executor and the journal do to the disk: an interface, so that tests can let any of it fail. And the
-/// folders that are kept open for it.
+/// The file operations of the executor and the journal: an interface, so that tests can make any of them fail. And the
+/// cache of open folders.
 #pragma once
 
 #include <VyrHost/batch/PlanProgress.h>
@@ -36,8 +36,7 @@ public:
     [[nodiscard]] virtual std::uint32_t RemoveEmptyFolder(std::u16string_view name) = 0;
 };
 
-/// All results are the system's error codes, 0 for success. Folders may be opened and looked into on a thread beside
-/// the one that does all else.
+/// All results are the system's error codes, 0 for success. Folders may be opened and queried on a second thread.
 class FileOperations
 {
 public:
@@ -46,9 +45,9 @@ public:
     FileOperations& operator=(const FileOperations&) = delete;
     virtual ~FileOperations() = default;
 
-    /// The folder at `path`; null, with `error` set, when it does not open.
+    /// Opens the folder at `path`; null, with `error` set, on failure.
     [[nodiscard]] virtual std::unique_ptr<FolderOperations> OpenFolder(const CString& path, std::uint32_t& error) = 0;
-    /// Calls `use` with the name of each entry of the folder at `path`, as the file system keeps it.
+    /// Calls `use` with the name of each entry of the folder at `path`, as stored by the file system.
     [[nodiscard]] virtual std::uint32_t List(const CString& path, const std::function<void(const CString&)>& use) = 0;
     [[nodiscard]] virtual VyrHostPlatform::NameFolding GetNameFolding(const CString& path) = 0;
 
@@ -77,11 +76,11 @@ class FolderCache
 public:
     FolderCache(const PlanProgress& progress, FileOperations& files);
 
-    /// The folder `folder` of the plan, where it stands now. It stays good while one other is opened.
+    /// The folder `folder` of the plan at its present path. Valid until two other folders are opened.
     [[nodiscard]] OpenedFolder Open(Model::PlanIndex folder);
-    /// To be called when `folder` has got another path: forgets it and what is in it.
+    /// Forgets `folder` and the folders in it. Call it when its path changes.
     void Forget(Model::PlanIndex folder);
-    /// What stands at `place`.
+    /// The state of the entry at `place`.
     [[nodiscard]] VyrPlatform::FileState Look(const Model::Place& place);
 
 private:
@@ -95,7 +94,7 @@ private:
 
     const PlanProgress& m_progress;
     FileOperations& m_files;
-    /// The last used first.
+    /// Most recently used first.
     std::vector<Cached> m_cached;
 };
 

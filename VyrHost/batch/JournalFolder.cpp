@@ -35,11 +35,11 @@ constexpr const char16_t* newEnding = u".new";
 constexpr const char16_t* abandonedEnding = u".abandoned";
 constexpr const char16_t* lockName = u"lock";
 constexpr int digits = 6;
-/// How much of a journal is read at first for its heading, and for its checkpoints: more than most of them need.
+/// How much of a journal is read first to find its heading or its checkpoints: more than most of them take.
 constexpr std::uint64_t firstPart = 4096;
 constexpr std::uint64_t partGrowth = 4;
 
-/// @param undo  0 for a batch that never was undone.
+/// @param undo  0 for a batch that was never undone.
 CString NameOf(std::uint32_t number, const char16_t* ending, std::uint32_t undo = 0)
 {
     CString name;
@@ -56,7 +56,7 @@ const char16_t* EndingOf(BatchPhase phase)
         ->second;
 }
 
-/// The number that `text` is; 0 when it is not a number.
+/// `text` as a number; 0 when it is not a number.
 std::uint32_t ParseNumber(std::u16string_view text)
 {
     std::uint64_t number = 0;
@@ -70,20 +70,20 @@ std::uint32_t ParseNumber(std::u16string_view text)
     return static_cast<std::uint32_t>(number);
 }
 
-/// The number in front of `name`'s dot; 0 when there is none.
+/// The number before `name`'s dot; 0 when there is none.
 std::uint32_t NumberOf(std::u16string_view name)
 {
     return ParseNumber(name.substr(0, name.find(u'.')));
 }
 
-/// The number behind `name`'s last hyphen; 0 when there is none.
+/// The number after `name`'s last hyphen; 0 when there is none.
 std::uint32_t UndoOf(std::u16string_view name)
 {
     const std::size_t hyphen = name.rfind(u'-');
     return hyphen == name.npos ? 0 : ParseNumber(name.substr(hyphen + 1));
 }
 
-/// The journal with this name; nothing when no journal is named so.
+/// The journal with this name; nothing when it is not the name of a journal.
 std::optional<JournalFile> FileOf(std::u16string_view name, const CString& path)
 {
     const std::uint32_t number = NumberOf(name);
@@ -121,7 +121,8 @@ std::vector<VyrPlatform::FileIdentity> IdentitiesOnPath(const CString& path)
 {
     std::vector<VyrPlatform::FileIdentity> identities;
     for (const CString& written : {VyrPlatform::GetFullPath(path), VyrPlatform::GetRealPath(path)}) {
-        // A link is looked at itself without a separator behind it, and followed with one; a root has one in any case.
+        // A path with a separator at its end follows a link, one without queries the link itself. A root always has
+        // one.
         for (std::u16string_view at = written; !Model::FolderPart(at).empty();
              at = at.substr(0, Model::FolderPart(at).size() - 1))
             for (const std::u16string_view seen : {at, Model::FolderPart(at)})
@@ -294,7 +295,7 @@ std::uint32_t JournalFolder::Abandon(JournalFile& file)
     return Flush();
 }
 
-/// The journal first: without it nobody looks for what it kept.
+/// The journal comes first: without it nobody needs the kept files.
 std::uint32_t JournalFolder::Remove(const JournalFile& file)
 {
     const std::uint32_t error = m_files.Remove(file.path);
@@ -308,7 +309,7 @@ CString JournalFolder::PathOf(const CString& name) const
     return FileUtils::GetCombinePath(m_path, name);
 }
 
-/// Above every number in use, those of undos and of abandoned journals too.
+/// One more than the largest number in use, including those of undos and abandoned journals.
 std::uint32_t JournalFolder::NextNumber() const
 {
     std::uint32_t highest = 0;

@@ -1,4 +1,4 @@
-// Writes and reads names, and computes checks.
+// Writes and reads names, and computes checksums.
 #include <VyrHost/batch/JournalLines.h>
 
 #include <VyrHost/text/SafeText.h>

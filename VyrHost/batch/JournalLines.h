@@ -1,5 +1,5 @@
 /// @file
-/// The lines of a journal: their fields, the names in them and their checks. JournalText.h describes them.
+/// The lines of a journal: fields, names and checksums. JournalText.h describes the format.
 #pragma once
 
 #include <VyrHost/model/RenamePlan.h>
@@ -21,19 +21,19 @@
 namespace VyrHost::Batch {
 
 /// Appends `name` as UTF-8. A backslash, a control character of ASCII and a lone surrogate become a backslash, "u" and
-/// four hexadecimal digits, so that every text comes back unit by unit.
+/// four hexadecimal digits, so that every text is read back exactly.
 void AppendJournalName(std::string& text, std::u16string_view name);
 
-/// The name that `text` stands for; nothing for one that AppendJournalName never writes.
+/// The name that `text` stands for; nothing for a text that AppendJournalName never writes.
 [[nodiscard]] std::optional<CString> ReadJournalName(std::string_view text);
 
-/// The CRC-32 of what gave `before`, with `bytes` behind it (the polynomial of IEEE 802.3, as in zlib and PNG). Start
-/// with 0.
+/// The CRC-32 of the bytes whose checksum is `before`, followed by `bytes` (the polynomial of IEEE 802.3, as in zlib
+/// and PNG). Start with 0.
 [[nodiscard]] std::uint32_t Checksum(std::uint32_t before, std::string_view bytes) noexcept;
 
 inline constexpr char noneText = '-';
 inline constexpr std::size_t checkLength = 8;
-/// The least length of a piece of text, in bytes.
+/// The minimum length of a piece of text, in bytes.
 inline constexpr std::size_t pieceLength = std::size_t{1} << 16;
 inline constexpr std::array<std::pair<Model::PlanStep::Action, char>, 3> actions{
     {{Model::PlanStep::Action::MakeFolder, 'm'},
@@ -47,11 +47,11 @@ char LetterOf(const std::array<std::pair<Value, char>, Count>& letters, Value va
         ->second;
 }
 
-/// Writes lines field by field, and hands them on in pieces.
+/// Writes lines field by field, and passes them on in pieces.
 class LineWriter
 {
 public:
-    /// @param check  of what stands before.
+    /// @param check  the checksum of the text before.
     LineWriter(std::uint32_t check, const VyrHostPlatform::DurableFile::TakePiece& use) : m_use(use), m_check(check) {}
 
     LineWriter& Word(std::string_view word)
@@ -96,7 +96,7 @@ public:
         }
         return *this;
     }
-    /// Writes the check of all the text so far.
+    /// Writes the checksum of the text so far.
     std::uint32_t Check()
     {
         const std::uint32_t check = UpdateCheck();
@@ -152,20 +152,20 @@ private:
     const VyrHostPlatform::DurableFile::TakePiece& m_use;
     std::uint32_t m_check;
     std::string m_text;
-    /// Where the line in hand begins.
+    /// Where the current line begins.
     std::size_t m_line = 0;
-    /// How much the check has taken in.
+    /// How much of the text the checksum includes.
     std::size_t m_checked = 0;
 };
 
-/// Thrown when a journal is not as it must be.
+/// Thrown when a journal is damaged.
 struct Damage
 {
     std::size_t line;
     CString what;
 };
 
-/// Hands out lines field by field.
+/// Reads lines field by field.
 class LineReader
 {
 public:
@@ -184,14 +184,14 @@ public:
         Begin(TakeLine());
         return Word();
     }
-    /// Goes to the next line, whose check, the last field, must be right.
+    /// Goes to the next line, whose checksum, the last field, must be right.
     void NextChecked(std::string_view word)
     {
         BeginChecked();
         Require(word);
     }
-    /// Goes to the next line if it is whole, with its own check started from `check`; else past it.
-    /// @return its first field; empty for a line that is not whole.
+    /// Goes to the next line if it is complete, with its own checksum started from `check`; else skips it.
+    /// @return its first field; empty for an incomplete line.
     std::string_view NextAppended(std::uint32_t check)
     {
         try {
@@ -203,8 +203,8 @@ public:
             return {};
         }
     }
-    /// Skips a line without judging its check.
-    /// @return that check.
+    /// Skips a line without verifying its checksum.
+    /// @return that checksum.
     std::uint32_t Skip()
     {
         TakeCheckedLine();
@@ -245,7 +245,7 @@ public:
     {
         return ParseLetter(Word(), letters);
     }
-    /// Adds steps, `most` at most.
+    /// Adds at most `most` steps.
     void Steps(std::vector<Model::PlanStep>& steps, std::size_t most)
     {
         const std::string_view word = Word();
@@ -256,7 +256,7 @@ public:
         for (std::size_t subject = first; subject <= last; ++subject)
             steps.push_back({action, static_cast<Model::PlanIndex>(subject)});
     }
-    /// Each below `bound`, in rising order.
+    /// Indexes below `bound`, in ascending order.
     std::vector<Model::PlanIndex> Ranges(std::size_t bound)
     {
         std::vector<Model::PlanIndex> indexes;
@@ -266,7 +266,7 @@ public:
         });
         return indexes;
     }
-    /// How many Ranges would give.
+    /// The number of indexes that Ranges would return.
     std::size_t CountOfRanges(std::size_t bound)
     {
         std::size_t count = 0;
@@ -313,7 +313,7 @@ private:
         m_text.remove_prefix(end + 1);
         return line;
     }
-    /// What stands before the line's check, which is taken too.
+    /// Takes the line, and returns what is before its checksum.
     std::string_view TakeCheckedLine()
     {
         const std::string_view line = TakeLine();
@@ -346,7 +346,7 @@ private:
         const auto first = ParseNumber<Model::PlanIndex>(range.substr(0, dash));
         return {first, dash == range.npos ? first : ParseNumber<Model::PlanIndex>(range.substr(dash + 1))};
     }
-    /// Calls `use` with the first index of each range, and the one behind its last.
+    /// Calls `use` with the first index of each range, and the one after its last.
     template <class Use>
     void ForEachRange(std::size_t bound, Use use)
     {
@@ -367,7 +367,7 @@ private:
     std::string_view m_fields;
     bool m_isAtEnd = true;
     std::size_t m_line = 0;
-    /// The check of the text before `m_unchecked`.
+    /// The checksum of the text before `m_unchecked`.
     std::uint32_t m_check = 0;
     const char* m_unchecked;
     std::uint32_t m_lineCheck = 0;

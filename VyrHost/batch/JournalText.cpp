@@ -21,7 +21,7 @@ constexpr std::uint32_t versionWithoutKinds = 2;
 constexpr std::string_view renameKind = "rename";
 constexpr std::string_view checkpointWord = "mark";
 constexpr std::string_view protectedWord = "protected";
-/// How many fields a line of steps has at most.
+/// The maximum number of fields in a line of steps.
 constexpr std::size_t stepsInLine = 1000;
 constexpr std::array<std::pair<bool, char>, 2> directions{{{false, 'f'}, {true, 'b'}}};
 constexpr std::array<std::pair<bool, char>, 2> ends{{{false, 'e'}, {true, 's'}}};
@@ -75,14 +75,14 @@ void WriteSteps(LineWriter& writer, const std::vector<Model::PlanStep>& steps)
     }
 }
 
-/// The heading's counts of what follows.
+/// The counts in the heading.
 struct Counts
 {
     std::size_t folders = 0;
     std::size_t entries = 0;
     std::size_t changes = 0;
     std::size_t steps = 0;
-    /// The version has kinds of changes.
+    /// Whether the version has kinds of changes.
     bool hasKinds = true;
 };
 
@@ -181,7 +181,7 @@ void LinkFolders(LineReader& reader, Model::RenamePlan& plan)
 
 void ReadPlan(LineReader& reader, const Counts& counts, const Model::ChangeKinds& kinds, Journal& journal)
 {
-    // The counts may be anything, so memory is taken only as lines are read.
+    // The counts may be anything, so memory is allocated only as lines are read.
     Model::NamePool& texts = *journal.plan.texts;
     while (journal.plan.folders.size() < counts.folders)
         journal.plan.folders.push_back(ReadFolder(reader, texts));
@@ -189,7 +189,7 @@ void ReadPlan(LineReader& reader, const Counts& counts, const Model::ChangeKinds
         journal.plan.entries.push_back(ReadEntry(reader, counts.hasKinds, texts, journal.states.emplace_back()));
     while (journal.changes.size() < counts.changes)
         journal.changes.push_back(ReadChange(reader, journal.plan, kinds));
-    // An entry has two steps at most, a folder one.
+    // An entry has at most two steps, a folder has one.
     if (counts.steps > 2 * counts.entries + counts.folders)
         reader.Fail(u"there are too many steps");
     while (journal.plan.steps.size() < counts.steps) {
@@ -202,8 +202,7 @@ void ReadPlan(LineReader& reader, const Counts& counts, const Model::ChangeKinds
     LinkFolders(reader, journal.plan);
 }
 
-/// Of the complete lines that were appended, those that count. Earlier ones are not read, since each could name all
-/// entries.
+/// The appended complete lines that count. Earlier ones are not parsed, since each could list all entries.
 struct LastAppended
 {
     std::optional<LineReader> checkpoint;
@@ -242,7 +241,7 @@ std::vector<ProtectedFile> ReadProtected(std::optional<LineReader> reader, std::
     return files;
 }
 
-/// The checkpoint that `reader` stands at.
+/// The checkpoint that `reader` is at.
 std::optional<Checkpoint> ReadCheckpoint(std::optional<LineReader> reader, const Journal& journal)
 {
     if (!reader)

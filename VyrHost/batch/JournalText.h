@@ -1,5 +1,5 @@
 /// @file
-/// The journal of a batch as text: what was to be done, and afterwards how far it came.
+/// The journal of a batch as text: what is to be done, and afterwards how much was done.
 ///
 /// The text is UTF-8, a line for each record, its fields separated by tabs:
 ///
@@ -12,22 +12,22 @@
 ///     steps        m(ake), a(side) or r(ename) with the number of the folder or entry, in order;
 ///                  r3-7 stands for r3, r4 and so on to r7
 ///     end          check
-///     mark         f(orward) or b(ackward)  e(nded) or s(topped)  entries that stand at their old paths
+///     mark         f(orward) or b(ackward)  e(nded) or s(topped)  entries that are at their old paths
 ///                  entries under temporary names  folders that the batch has made  changes that are not done  check
 ///     protected    for each change whose file was protected against writing when work on the batch began, and may lose
 ///                  that for the time of the work: its number  the state to restore  and at last the check
 ///
 /// A change other than a rename has the name of its kind as its first word, and a before and after that only its kind
-/// can read (model/Change.h). The last field of a mark is missing where all changes are done.
+/// can read (model/Change.h). A mark lacks its last field if all changes are done.
 ///
 /// Version 2 had "entry" for "rename", no changes, and in its heading neither the command nor the folder nor the number
 /// of changes. It is still read, and marks are appended to it.
 ///
-/// Numbers are decimal; folders, entries and changes are numbered from 0 in the order of their lines, "-" stands for
-/// none. A check is the CRC-32, in eight hexadecimal digits, of all the text before its tab; of a line behind "end", of
-/// that line alone, started from the check of "end". Such lines are appended, each behind an empty one: a checkpoint
-/// ("mark") whenever work on the batch has ended, of which the last whole one counts, and "protected" before an undo, a
-/// redo or a recovery, which counts until the next checkpoint.
+/// Numbers are decimal. Folders, entries and changes are numbered from 0 in the order of their lines; "-" stands for
+/// none. A check is the CRC-32, in eight hexadecimal digits, of all the text before its tab; of a line after "end", of
+/// that line alone, started from the check of "end". Such lines are appended, each after an empty one: a checkpoint
+/// ("mark") whenever work on the batch has ended, of which the last complete one counts; and "protected" before an
+/// undo, a redo or a recovery, which counts until the next checkpoint.
 #pragma once
 
 #include <VyrHost/model/Change.h>
@@ -44,17 +44,17 @@
 
 namespace VyrHost::Batch {
 
-/// What is known of a batch before it is begun.
+/// What is known about a batch before it begins.
 struct JournalHeading
 {
     std::uint32_t number = 0;
-    /// A random number for the temporary names of the batch.
+    /// A random number in the temporary names of the batch.
     std::uint64_t token = 0;
     /// Local time as yyyy/MM/dd HH:mm:ss.
     CString started;
     /// The command that made it, such as "rename"; empty in a journal of version 2.
     CString command;
-    /// The folder that all of it lies in, before the batch and after it; empty where there is none, and in a journal of
+    /// The folder that contains all of it, before the batch and after it; empty if there is none, and in a journal of
     /// version 2.
     CString folder;
     /// Renames, and changes of other kinds.
@@ -63,42 +63,42 @@ struct JournalHeading
     CString firstTo;
 };
 
-/// How far a batch came.
+/// How far the work on a batch got.
 struct Checkpoint
 {
     /// The work that ended was an undo.
     bool isBackward = false;
-    /// It ended because it was asked to.
+    /// The user stopped it.
     bool wasStopped = false;
-    /// In rising order.
+    /// In ascending order.
     std::vector<Model::PlanIndex> entriesBefore;
     std::vector<Model::PlanIndex> entriesTemporary;
     std::vector<Model::PlanIndex> foldersMade;
     std::vector<Model::PlanIndex> changesBefore;
 };
 
-/// What a checkpoint says, in numbers.
+/// A checkpoint in numbers.
 struct CheckpointOutline
 {
     bool isBackward = false;
     bool wasStopped = false;
-    /// With the changes that are not done.
+    /// Includes the changes that are not done.
     std::size_t entriesBefore = 0;
     std::size_t entriesTemporary = 0;
 };
 
-/// A change other than a rename, and the file it is done to: its place before the batch.
+/// A change other than a rename, and the place of its file before the batch.
 struct PlannedChange
 {
     Model::Place place;
     std::shared_ptr<const Model::Change> change;
 };
 
-/// A file that was protected against writing when work on the batch began, and may lose that while the work lasts.
+/// A file that was read-only when the work on the batch began, and may be writable during the work.
 struct ProtectedFile
 {
     Model::PlanIndex change = 0;
-    /// What ExactState restores as its attributes.
+    /// Its attributes in the form of ExactState.
     CString state;
 };
 
@@ -106,35 +106,35 @@ struct Journal
 {
     JournalHeading heading;
     Model::RenamePlan plan;
-    /// For each entry what stood at its old path before the batch; Missing where nothing did.
+    /// For each entry, the state at its old path before the batch; Missing if there was nothing.
     std::vector<VyrPlatform::FileState> states;
     /// The changes of other kinds.
     std::vector<PlannedChange> changes;
     /// The last one.
     std::optional<Checkpoint> checkpoint;
-    /// The last one that is not of an undo: what the batch did. A redo does that again.
+    /// The last one that is not from an undo: what the batch did, and what a redo repeats.
     std::optional<Checkpoint> applied;
     /// Of the work since the last checkpoint.
     std::vector<ProtectedFile> protectedFiles;
-    /// The check of all lines up to "end"; checkpoints start from it.
+    /// The checksum of all lines up to "end"; those of checkpoints start from it.
     std::uint32_t check = 0;
 };
 
-/// Gives `use` the text of a batch that is about to begin, piece by piece: `journal` without its checkpoint and check.
-/// @return the check.
+/// Passes the text of a batch that is about to begin to `use`, piece by piece: `journal` without its checkpoint and
+/// checksum.
+/// @return the checksum.
 std::uint32_t WriteJournal(const Journal& journal, const VyrHostPlatform::DurableFile::TakePiece& use);
-/// What is appended to the text with the check `check`.
+/// The text to append to a journal with the checksum `check`.
 [[nodiscard]] std::string WriteCheckpoint(const Checkpoint& checkpoint, std::uint32_t check);
 [[nodiscard]] std::string WriteProtected(const std::vector<ProtectedFile>& files, std::uint32_t check);
 
-/// Reads a journal that may be anything: what it gives is a plan that can be worked with, every index in it in range,
-/// every name a single part of a path.
-/// @param kinds  the kinds of change that are known besides the rename.
-/// @return nothing, with `problem` saying why and where, when it is damaged, or of a version or with a kind of change
-/// that is not known.
+/// Parses a journal of any content. The result is valid: every index is in range, every name is a single part of a
+/// path.
+/// @param kinds  the known kinds of change other than renames.
+/// @return nothing when it is damaged, or has an unknown version or kind of change; `problem` then says why and where.
 [[nodiscard]] std::optional<Journal> ReadJournal(std::string_view text, CString& problem,
                                                  const Model::ChangeKinds& kinds = {});
-/// Whether the first part of a journal reaches to the end of the heading.
+/// Whether the first part of a journal includes the whole heading.
 [[nodiscard]] bool HasHeading(std::string_view text);
 /// The heading alone, from the first part of a journal.
 [[nodiscard]] std::optional<JournalHeading> ReadHeading(std::string_view text, CString& problem);
@@ -143,8 +143,8 @@ std::uint32_t WriteJournal(const Journal& journal, const VyrHostPlatform::Durabl
 /// @param tail  the last part of a journal, from anywhere on.
 /// @return empty when `tail` does not reach back to them.
 [[nodiscard]] std::string_view FindCheckpoints(std::string_view tail);
-/// The last whole one of `checkpoints`, as FindCheckpoints gives them.
-/// @param entries  how many the batch has.
+/// The last complete one of `checkpoints`, a result of FindCheckpoints.
+/// @param entries  the number of entries of the batch.
 /// @return nothing when there is none.
 [[nodiscard]] std::optional<CheckpointOutline> ReadLastCheckpoint(std::string_view checkpoints, std::size_t entries);
 

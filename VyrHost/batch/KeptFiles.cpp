@@ -1,4 +1,4 @@
-// Gives and removes the folders of kept files.
+// Assigns and removes the folders of kept files.
 #include <VyrHost/batch/KeptFiles.h>
 
 #include <VyrHost/model/Change.h>
@@ -25,7 +25,7 @@ CString NameOfKept(std::uint32_t number)
     return name;
 }
 
-/// The number in front of the dot; 0 when there is none.
+/// The number before the dot; 0 when there is none.
 std::uint32_t NumberOf(std::u16string_view name)
 {
     const std::string digits(name.begin(),

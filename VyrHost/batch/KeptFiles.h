@@ -1,5 +1,5 @@
 /// @file
-/// What changes keep beside the journal of their batch.
+/// The files that changes keep beside the journal of their batch.
 #pragma once
 
 #include <VyrHost/batch/JournalFolder.h>
@@ -11,10 +11,10 @@ namespace VyrHost::Batch {
 /// Tells each change of `journal` where it may keep a file: in the folder NUMBER.kept beside the journal `file`.
 void GiveKeptPlaces(Journal& journal, const JournalFile& file);
 
-/// Removes what the batch `number` kept in the journals' folder at `path`, if anything.
+/// Removes the files that the batch `number` kept in the journals' folder `path`, if any.
 void RemoveKept(FileOperations& files, const CString& path, std::uint32_t number);
 
-/// Removes what was kept by batches whose journals are gone.
+/// Removes the kept files of batches whose journals are gone.
 void RemoveOrphans(FileOperations& files, const CString& path);
 
 } // namespace VyrHost::Batch

@@ -1,4 +1,4 @@
-// Compares what stands at the places of a batch with its journal.
+// Compares the entries on the disk with the journal of a batch.
 #include <VyrHost/batch/Locator.h>
 
 namespace VyrHost::Batch {
@@ -42,7 +42,7 @@ void Locator::TrustCheckpoint()
 
 void Locator::Locate(LastWork lastWork)
 {
-    // Folders first, from the outside in, since the rest is searched in them.
+    // Folders first, parents before children, since the entries are searched in them.
     for (const Model::PlanIndex folder : Model::OrderFolders(m_journal.plan)) {
         const Model::PlanFolder& planned = m_journal.plan.folders[folder];
         if (planned.isNew)
@@ -50,7 +50,7 @@ void Locator::Locate(LastWork lastWork)
         else if (planned.entry != Model::none)
             LocateEntry(planned.entry, lastWork);
     }
-    // In the order of the steps a place has been left before another entry is looked for there.
+    // In the order of the steps, so that an entry has left a place before another one is searched there.
     for (const Model::PlanStep& step : m_journal.plan.steps)
         if (step.action == Action::Rename && m_journal.plan.entries[step.subject].folder == Model::none)
             LocateEntry(step.subject, lastWork);
@@ -92,7 +92,7 @@ bool Locator::IsHalfRenamed(Model::PlanIndex entry, const Candidate& kept, const
            left.state.kind != Kind::Folder && m_journal.states[entry].links == 1 && left.state.links > 1;
 }
 
-/// The file system takes the old and the new name for one: the listing tells which of them it has.
+/// The old and the new name are equal for the file system: the listing says which one is stored.
 void Locator::LocateByName(Model::PlanIndex entry)
 {
     const Model::PlanEntry& planned = m_journal.plan.entries[entry];
@@ -127,7 +127,7 @@ Locator::Match Locator::Compare(Model::PlanIndex entry, const FileState& state) 
     return hasSameNumber ? Match::Number : Match::Kind;
 }
 
-/// The likelier of the two; where both are equally likely, the new path, where that is possible.
+/// The better match; of two equal ones that at the new path, if `lastWork` allows it.
 Locator::Candidate Locator::Choose(const Candidate& before, const Candidate& after, LastWork lastWork)
 {
     if (before.match > after.match)

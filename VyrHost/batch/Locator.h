@@ -1,5 +1,5 @@
 /// @file
-/// Finds out from the disk how far the work on a batch came.
+/// Finds out from the disk how far the work on a batch got.
 #pragma once
 
 #include <VyrHost/batch/FileOperations.h>
@@ -16,37 +16,37 @@ namespace VyrHost::Batch {
 /// What was last done with a batch.
 enum class LastWork : std::uint8_t
 {
-    /// An entry that could be either stands at its new path.
+    /// An entry that may be at its old or its new path is at its new path.
     Applied,
-    /// Where an entry could be either, it is not known where it stands.
+    /// The location of such an entry is unknown.
     Undone,
     /// The same, and a rename may be half done.
     CutOff
 };
 
-/// Looks for every entry at its old, its temporary and its new path, and recognises it by its number in the file
-/// system, its size and its time; where those have changed (another mount, a program that replaces files when it
-/// saves), by what stands at one of the paths alone.
+/// Searches every entry at its old, its temporary and its new path. Recognises it by its file number, size and time; if
+/// these have changed (another mount, a program that replaces files when it saves), by being the only entry at one of
+/// the paths.
 class Locator
 {
 public:
     /// @param progress is set to what is found.
     Locator(const Journal& journal, PlanProgress& progress, FileOperations& files);
 
-    /// Believes the journal's checkpoint about the entries that stand at their old paths: nothing was done to them.
+    /// Takes over from the journal's checkpoint which entries are at their old paths: these are kept.
     void TrustCheckpoint();
-    /// Finds the entries that are not kept, and the new folders.
+    /// Locates the entries that are not kept, and the new folders.
     void Locate(LastWork lastWork);
 
     [[nodiscard]] bool IsKept(Model::PlanIndex entry) const { return m_isKept[entry]; }
-    /// Whether the file was written to, or replaced by another, since the batch.
+    /// Whether the file was modified or replaced since the batch.
     [[nodiscard]] bool HasChanged(Model::PlanIndex entry) const { return m_hasChanged[entry]; }
-    /// Why an entry was not found; 0 when nothing looks like it.
+    /// The system's error code for an entry that was not found; 0 when no entry matches it.
     [[nodiscard]] std::uint32_t Error(Model::PlanIndex entry) const { return m_errors[entry]; }
 
 private:
-    /// How sure it is that what stands somewhere is the entry, rising. The number alone says less than size and time:
-    /// some file systems give their numbers anew at each mount.
+    /// How well something on the disk matches the entry, ascending. The number alone says less than size and time: some
+    /// file systems assign new numbers at each mount.
     enum class Match : std::uint8_t
     {
         None,
@@ -55,7 +55,7 @@ private:
         Content,
         All
     };
-    /// What stands at one of an entry's places.
+    /// What was found at one of the paths of an entry.
     struct Candidate
     {
         Location location = Location::Unknown;
@@ -79,12 +79,12 @@ private:
     FileOperations& m_files;
     FolderCache m_folders;
     std::vector<bool> m_hasTemporaryName;
-    /// For each new folder whether the batch has made it, if it is there.
+    /// For each new folder, whether the batch made it if it exists.
     std::vector<bool> m_isMade;
     std::vector<bool> m_isKept;
     std::vector<bool> m_hasChanged;
     std::vector<std::uint32_t> m_errors;
-    /// The places of the entries that are found: hard links make two entries look alike.
+    /// The places of the located entries: hard links make two entries look alike.
     Model::SlotTable<Model::PlanIndex> m_taken;
     std::unordered_map<Model::PlanIndex, std::unordered_set<CString>> m_names;
 };

@@ -1,5 +1,5 @@
 /// @file
-/// How far the work on a plan has come: where each of its entries and folders stands now.
+/// The progress of a plan: the present location of each of its entries and folders.
 #pragma once
 
 #include <VyrHost/model/RenamePlan.h>
@@ -10,10 +10,10 @@
 
 namespace VyrHost::Batch {
 
-/// Which way a batch is worked on.
+/// The direction of the work on a batch.
 enum class Direction : std::uint8_t
 {
-    /// From what was before it to what it makes.
+    /// From the old state to the new one.
     Forward,
     Backward
 };
@@ -26,7 +26,7 @@ enum class Location : std::uint8_t
     Temporary,
     /// At its new path.
     After,
-    /// It was not found at any of them.
+    /// It was not found.
     Unknown
 };
 
@@ -35,7 +35,7 @@ enum class NewFolder : std::uint8_t
     Absent,
     /// The batch has made it.
     Made,
-    /// It was there when the batch was to make it.
+    /// It existed when the batch was to make it.
     Found
 };
 
@@ -50,19 +50,19 @@ public:
     void Set(Model::PlanIndex entry, Location location) { m_locations[entry] = location; }
     [[nodiscard]] NewFolder OfFolder(Model::PlanIndex folder) const { return m_newFolders[folder]; }
     void SetFolder(Model::PlanIndex folder, NewFolder state) { m_newFolders[folder] = state; }
-    /// Whether `folder` is one that was there before, or is there now.
+    /// Whether `folder` existed before the batch, or exists now.
     [[nodiscard]] bool IsThere(Model::PlanIndex folder) const
     {
         return !m_plan.folders[folder].isNew || m_newFolders[folder] != NewFolder::Absent;
     }
 
-    /// The place of `entry` where it stands as `location` says (not Unknown).
+    /// The place of `entry` if it is at `location` (not Unknown).
     [[nodiscard]] Model::Place PlaceOf(Model::PlanIndex entry, Location location) const;
-    /// Where `folder` stands now; nothing when it was not found.
+    /// Where `folder` is now; nothing when it was not found.
     [[nodiscard]] std::optional<Model::Place> PlaceOfFolder(Model::PlanIndex folder) const;
-    /// The path of `folder` now; nothing when it or one that it stands in was not found.
+    /// The present path of `folder`; nothing when it or one of its parents was not found.
     [[nodiscard]] std::optional<CString> PathOfFolder(Model::PlanIndex folder) const;
-    /// The path of `place` now. For people: where the folder was not found, the path before the batch.
+    /// The present path of `place`, for people: if the folder was not found, the path before the batch.
     [[nodiscard]] CString PathOf(const Model::Place& place) const;
 
 private:

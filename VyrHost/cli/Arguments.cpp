@@ -1,4 +1,4 @@
-// Turns arguments into the parser's bytes and back.
+// Converts arguments to the parser's bytes and back.
 #include <VyrHost/cli/Arguments.h>
 
 #include <VyrHost/cli/HelpTopics.h>
@@ -17,8 +17,7 @@ namespace VyrHost::Cli {
 
 namespace {
 
-/// Stands in front of an argument that begins with what the parser would take for a list or an option. No option begins
-/// with it.
+/// Precedes an argument that the parser would read as a list or an option. No option begins with it.
 constexpr char guard = '\xFF';
 
 std::string Guarded(std::string bytes, std::string_view guardedStarts)
@@ -28,7 +27,7 @@ std::string Guarded(std::string bytes, std::string_view guardedStarts)
     return bytes;
 }
 
-/// How many of the arguments behind `argument` are its values; 0 unless it is an option of `command`.
+/// How many of the arguments after `argument` are its values; 0 unless it is an option of `command`.
 std::size_t ValuesBehind(const CLI::App& command, const std::string& argument)
 {
     const std::size_t equals = argument.find('=');
@@ -39,7 +38,7 @@ std::size_t ValuesBehind(const CLI::App& command, const std::string& argument)
     return values > 0 && equals != std::string::npos ? values - 1 : values;
 }
 
-/// The parser would take the next argument for the value that is missing in "--option=".
+/// The parser would read the next argument as the value that "--option=" lacks.
 void RefuseEmptyValue(const CLI::App& command, const std::string& argument)
 {
     const std::string name = argument.substr(0, argument.find('='));
@@ -124,7 +123,7 @@ void RefuseUnknownCommand(const CLI::App& program, const Argument& first)
                            "\nvyr --help lists the commands.");
 }
 
-/// The name in an argument such as "--sort=name" or "-qr": of letters that share a dash, the first.
+/// The name in an argument such as "--sort=name" or "-qr": the first of letters that share a dash.
 std::string OptionName(const std::string& bytes)
 {
     constexpr std::size_t shortLength = 2;

@@ -1,5 +1,5 @@
 /// @file
-/// Arguments on their way through the parser of the command line, which works on bytes; unknown ones are refused.
+/// Converts arguments for the parser of the command line, which works on bytes, and refuses unknown ones.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -16,27 +16,27 @@ namespace VyrHost::Cli {
 
 enum class ArgumentRole : std::uint8_t
 {
-    /// The command, or what it is about.
+    /// The command, or a file or text for it.
     Plain,
-    /// Begins with "-", and is no value of the option before it.
+    /// Begins with "-", and is not a value of the option before it.
     Option,
     Value,
-    /// "--": every argument behind it is a plain one.
+    /// "--": every argument after it is a plain one.
     EndOfOptions
 };
 
 struct Argument
 {
-    /// As the parser takes texts; see FromParser.
+    /// The argument in the parser's form; see FromParser.
     std::string bytes;
     ArgumentRole role;
 };
 
-/// The command that `arguments` begin with; `program` itself where they do not begin with one.
+/// The command that `arguments` begin with; `program` itself if they do not begin with one.
 [[nodiscard]] const CLI::App& CommandOf(const CLI::App& program, const std::vector<CString>& arguments);
-/// What each of `arguments` is to the command that they begin with.
+/// Classifies `arguments` by the options of the command that they begin with.
 [[nodiscard]] std::vector<Argument> CutArguments(const CLI::App& program, const std::vector<CString>& arguments);
-/// `arguments` for the parser, the last one first. Each stays one text (the parser would read "[a,b]" as two).
+/// `arguments` for the parser, in reverse order. Each stays one text (the parser would read "[a,b]" as two).
 [[nodiscard]] std::vector<std::string> ToParser(const std::vector<Argument>& arguments);
 /// The argument that the parser read as `bytes`.
 [[nodiscard]] CString FromParser(const std::string& bytes);

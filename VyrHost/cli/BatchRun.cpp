@@ -1,4 +1,4 @@
-// Applies, reports, and words what is said of batches.
+// Applies batches, and writes reports and messages about them.
 #include <VyrHost/cli/BatchRun.h>
 
 #include <VyrHost/batch/FileOperations.h>
@@ -24,22 +24,22 @@ namespace VyrHost::Cli {
 
 namespace {
 
-/// That a batch was cut off, and what ends it.
+/// Says that a batch was cut off, and how to end it.
 std::string CutOffNotice(const Batch::BatchInformation& batch)
 {
-    // A damaged journal does not tell when it began.
+    // A damaged journal does not say when the batch began.
     const std::string time = batch.started.IsEmpty() ? "" : " of " + Text::SafeText(batch.started);
     return "batch " + std::to_string(batch.number) + time + " was cut off; \"vyr recover\" ends it";
 }
 
-/// A batch of which no entry could be renamed has no number either, but then each entry says why.
+/// A batch that could rename no entry has no number either, but then each entry has a reason.
 bool WasBlocked(const Batch::BatchSummary& summary)
 {
     return summary.number == 0 && !summary.error.IsEmpty();
 }
 
-/// @param summary  gets what was done.
-/// @return the exit code that the work asks for.
+/// @param summary  gets the summary of the work.
+/// @return the exit code.
 int Apply(const PreviewedBatch& batch, const ReportStyle& style, Batch::BatchSummary& summary)
 {
     Batch::Batches batches = OpenBatches(WaitTenSeconds());

@@ -1,6 +1,6 @@
 /// @file
-/// Batches at work, the same way for all commands: the batches of the user, the options that say what is done and
-/// shown, and the report on what becomes of a call.
+/// Runs batches in the same way for all commands: opens the batches of the user, declares the options for applying and
+/// output, and writes the report.
 #pragma once
 
 #include <VyrHost/batch/Batches.h>
@@ -22,38 +22,38 @@ namespace VyrHost::Cli {
 /// @param wait  called while another program works on a batch.
 [[nodiscard]] Batch::Batches OpenBatches(const Batch::LockWait& wait = {});
 
-/// Complains of a batch that was cut off, if there is one, before which no other can begin.
+/// Complains about a batch that was cut off, if there is one: no other can begin before it is ended.
 /// @return whether there is one.
 [[nodiscard]] bool IsBlockedByCutOff(const Batch::Batches& batches);
 
-/// Complains of a batch that was cut off, if there is one, for a command that need not wait for its end: what such a
-/// command finds on the disk may be half of the batch.
+/// Complains about a batch that was cut off, if there is one, for a command that can run all the same: the batch may be
+/// half done on the disk.
 void OfferRecovery();
 
-/// What a command does while another vyr is at work: says so once, and waits up to ten seconds, or until Ctrl-C.
+/// While another vyr is at work: says so once, and waits up to ten seconds or until Ctrl-C.
 [[nodiscard]] Batch::LockWait WaitTenSeconds();
 
-/// How the user wants to read it.
+/// The form of a report.
 struct ReportStyle
 {
     /// JSON lines; the summary goes to the error stream.
     bool json = false;
-    /// Only what is wrong, as messages; with `json` all but the summary.
+    /// Writes only problems, as messages; with `json` everything but the summary.
     bool quiet = false;
     /// Nothing was changed.
     bool isPreview = false;
-    /// Stands behind the summary, wherever that goes; with a line end, or empty.
+    /// A text after the summary, on the same stream; with a line end, or empty.
     std::string remark = {};
 
     [[nodiscard]] bool IsSilent() const { return json || quiet; }
 };
 
-/// The options --apply, --json and --quiet of a command that shows first what it would do. Not to be moved once it has
-/// added them.
+/// The options --apply, --json and --quiet of a command that shows first what it would do. Must not be moved: the
+/// parser refers to its members.
 class RunOptions
 {
 public:
-    /// What the help says of them.
+    /// Their descriptions in the help.
     struct Help
     {
         const char* apply;
@@ -61,7 +61,7 @@ public:
         const char* quiet;
     };
 
-    /// @param group  of the help; that of options without a group where it is null.
+    /// @param group  their group in the help; null for no group.
     RunOptions(CLI::App& command, const Help& help, const char* group = OptionGroup::run);
     RunOptions(const RunOptions&) = delete;
     RunOptions& operator=(const RunOptions&) = delete;
@@ -80,44 +80,44 @@ private:
 inline constexpr const char* previewEnding = "This is a preview: nothing was changed.\n";
 
 /// Writes `results` and their summary to the standard output.
-/// @param heading  stands before the summary of a table.
-/// @param ending   stands behind it: what was done, or how it goes on. With a line end, or empty.
+/// @param heading  a text before the summary of a table.
+/// @param ending  a text after it: what was done, or what to do next. With a line end, or empty.
 /// @return the exit code.
 [[nodiscard]] int WriteReport(const Model::Results& results, const ReportStyle& style, const std::string& heading,
                               const std::string& ending);
 
-/// A batch as a command has previewed it.
+/// A batch that a command has previewed.
 struct PreviewedBatch
 {
-    /// What is done to the entries, and was: "renaming", "renamed".
+    /// The verb in two forms: "renaming", "renamed".
     const char* doing;
     const char* done;
-    /// How many changes it has.
+    /// The number of its changes.
     std::size_t count = 0;
-    /// Nothing may be done; why was said.
+    /// Nothing may be done; a message has said why.
     bool isRefused = false;
-    /// Does the changes.
+    /// Applies the changes.
     std::function<Batch::BatchSummary(Batch::Batches& batches, const Batch::RenameReport& report)> apply;
-    /// Notes in the results what became of a change, by its index in the batch.
+    /// Sets the result of the change with an index in the batch.
     Batch::RenameReport note;
 };
 
-/// Applies `batch`, unless only its preview was asked for, and writes what became of the entries, or would.
-/// @param collected  the entries that the call is about.
+/// Applies `batch`, unless only its preview was requested, and writes the results.
+/// @param collected  the entries of the call.
 /// @return the program's exit code.
 [[nodiscard]] int ApplyAndReport(const PreviewedBatch& batch, const Model::Results& results, ReportStyle style,
                                  const Collect::CollectedEntries& collected);
 
-/// Collects and writes what becomes of the entries of a batch that is undone, redone or recovered.
+/// Collects and writes the results of a batch that is undone, redone or recovered.
 class BatchReport
 {
 public:
-    /// @param what  is done with `total` entries, for the progress: "undoing".
+    /// @param what  the activity on `total` entries, for the progress: "undoing".
     BatchReport(const char* what, std::size_t total, Batch::Direction direction, const ReportStyle& style);
 
-    /// To be handed to the work.
+    /// The function to pass to the work.
     [[nodiscard]] Batch::BatchEntryReport Collector();
-    /// Writes all that was collected, and what the summary says.
+    /// Writes the collected results and the summary.
     /// @return the exit code.
     [[nodiscard]] int Write(const Batch::BatchSummary& summary);
 
@@ -130,8 +130,8 @@ private:
     Batch::BatchResults m_results;
 };
 
-/// Complains of what `summary` says went wrong.
-/// @return the exit code that it asks for, entries that were not done included.
+/// Complains about the errors in `summary`.
+/// @return the exit code, which also counts entries that were not done.
 [[nodiscard]] int JudgeSummary(const Batch::BatchSummary& summary);
 
 } // namespace VyrHost::Cli

@@ -1,5 +1,5 @@
 /// @file
-/// What the commands that change files in place have in common: "vyr times", "vyr attributes", "vyr unblock", "vyr
+/// The common part of the commands that change files in place: "vyr times", "vyr attributes", "vyr unblock", "vyr
 /// properties".
 #pragma once
 
@@ -18,12 +18,12 @@ namespace VyrHost::Cli {
 
 /// Changes the entries of `collected` by `rule`, or shows what it would change.
 /// @param command  such as "times".
-/// @param kind     of the changes.
+/// @param kind  the kind of the changes.
 /// @return the program's exit code.
 [[nodiscard]] int RunChanges(const std::string& command, std::string_view kind, const Metadata::ChangeRule& rule,
                              const Collect::CollectedEntries& collected, const ReportStyle& style);
 
-/// Changes files by a rule, or shows what it would change; without a rule shows what there is to change.
+/// Changes files by a rule, or shows what it would change; without a rule lists the files.
 class ChangeCommand : public Command
 {
 public:
@@ -31,18 +31,18 @@ public:
 
 protected:
     /// @param verb     what the command does to the files, such as "change".
-    /// @param kind     of its changes.
-    /// @param columns  of FileFields, separated by commas, which are shown where no change is asked for and no others
-    ///     are chosen; empty for a command that always changes files.
+    /// @param kind  the kind of its changes.
+    /// @param columns  the default columns (of FileFields, separated by commas) of the list without changes; empty for
+    ///     a command that always changes files.
     ChangeCommand(CLI::App& command, const std::string& verb, std::string_view kind, std::u16string_view columns = {});
 
-    /// The rule that the options ask for; null where they ask for no change.
+    /// The rule that the options describe; null if they describe no change.
     /// @throws UsageError
     [[nodiscard]] virtual std::unique_ptr<const Metadata::ChangeRule> ReadRule() const = 0;
 
 private:
     void AddListOptions();
-    /// @throws UsageError for an option of lists.
+    /// @throws UsageError for an option that is for lists.
     void RefuseListOptions() const;
     [[nodiscard]] int ShowFiles(const ReportStyle& style) const;
 

@@ -1,5 +1,5 @@
 /// @file
-/// The commands of vyr. Each declares its options, and runs where the command line asks for it.
+/// The commands of vyr. Each declares its options, and runs when the command line names it.
 #pragma once
 
 #include <memory>
@@ -14,13 +14,13 @@ namespace VyrHost::Cli {
 class Command
 {
 public:
-    /// @param command  of the parser.
+    /// @param command  the parser's command.
     explicit Command(CLI::App& command) : m_command(command) {}
     Command(const Command&) = delete;
     Command& operator=(const Command&) = delete;
     virtual ~Command() = default;
 
-    /// Whether the parsed command line asks for it.
+    /// Whether the parsed command line names it.
     [[nodiscard]] bool IsChosen() const;
     /// @return the program's exit code.
     /// @throws UsageError
@@ -35,13 +35,13 @@ protected:
 
 /// Previews a rename, or does it.
 [[nodiscard]] std::unique_ptr<Command> AddRenameCommand(CLI::App& program);
-/// Lists files with what can be told of them.
+/// Lists files with their properties.
 [[nodiscard]] std::unique_ptr<Command> AddListCommand(CLI::App& program);
 /// Shows the times of files, or sets them.
 [[nodiscard]] std::unique_ptr<Command> AddTimesCommand(CLI::App& program);
 /// Shows the attributes of files, or sets and clears them.
 [[nodiscard]] std::unique_ptr<Command> AddAttributesCommand(CLI::App& program);
-/// Takes the marks of downloads off files.
+/// Removes the marks of downloads from files.
 [[nodiscard]] std::unique_ptr<Command> AddUnblockCommand(CLI::App& program);
 /// Shows the properties of documents, or sets and clears them.
 [[nodiscard]] std::unique_ptr<Command> AddPropertiesCommand(CLI::App& program);
@@ -56,7 +56,7 @@ protected:
 [[nodiscard]] std::unique_ptr<Command> AddProgramsCommand(CLI::App& program);
 /// Lists the browsers that are installed.
 [[nodiscard]] std::unique_ptr<Command> AddBrowsersCommand(CLI::App& program);
-/// Tells whether a newer release is offered.
+/// Checks whether a newer release is offered.
 [[nodiscard]] std::unique_ptr<Command> AddUpdatesCommand(CLI::App& program);
 /// Lists the rules that are kept, or shows one of them.
 [[nodiscard]] std::unique_ptr<Command> AddRulesCommand(CLI::App& program);

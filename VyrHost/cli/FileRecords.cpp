@@ -56,7 +56,7 @@ RecordValue FlagOf(std::optional<bool> flag)
     return flag ? RecordValue(*flag) : RecordValue();
 }
 
-/// What `make` makes of the answer of a file.
+/// The value that `make` makes from the answer of a file.
 template <auto make, auto ask>
 RecordValue Told(const ListedFile& file)
 {

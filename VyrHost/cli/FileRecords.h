@@ -14,14 +14,14 @@
 
 namespace VyrHost::Cli {
 
-/// `ticks` in local time; from 1900 on with the offset from UTC, as COleDateTime does not count earlier days evenly. No
-/// value for a time that is missing or out of range.
+/// `ticks` in local time; from 1900 on with the offset from UTC, since COleDateTime does not count earlier days evenly.
+/// No value for a missing time or one out of range.
 [[nodiscard]] Ui::RecordValue DateOf(const std::optional<VyrPlatform::FileTicks>& ticks);
 
-/// All that can be told of a file.
+/// All columns of a file.
 [[nodiscard]] std::span<const Ui::RecordField<Metadata::ListedFile>> FileFields();
 
-/// The files of a list, without those that are missing, of which it complains.
+/// The files of a list. Leaves out missing ones, and complains about them.
 class FileRecords
 {
 public:
@@ -29,11 +29,11 @@ public:
     FileRecords(const FileRecords&) = delete;
     FileRecords& operator=(const FileRecords&) = delete;
 
-    /// Good as long as the records live.
+    /// Valid as long as the records live.
     [[nodiscard]] Ui::RecordTable Table() const;
     /// Such as "3 entries. 1 entry was left out."
     [[nodiscard]] std::string Total() const;
-    /// What the complaints ask for.
+    /// The exit code for the complaints.
     [[nodiscard]] int Code() const { return m_code; }
 
 private:

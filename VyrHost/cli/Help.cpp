@@ -1,4 +1,4 @@
-// Breaks the lines of help texts, and has the examples.
+// Wraps help texts, and contains the examples.
 #include <VyrHost/cli/Help.h>
 
 #include <VyrHost/cli/Messages.h>
@@ -46,7 +46,7 @@ struct Example
     const char* meaning;
 };
 
-/// Each belongs to the command that it calls.
+/// Each is shown in the help of the command that it calls.
 constexpr Example examples[] = {
     {"vyr rename --number \"Holiday ###\" *.jpg", "Holiday 001.jpg, Holiday 002.jpg, ..."},
     {"vyr rename --number \"<Name> (#)\" --start 10 --step 10 *.pdf", "letter (10).pdf, list (20).pdf, ..."},

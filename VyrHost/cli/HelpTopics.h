@@ -14,17 +14,17 @@ struct HelpTopic
     const char* name;
     /// A line of the list of topics.
     const char* summary;
-    /// The groups of options of "vyr rename" that belong to it; their descriptions stand in front of the text.
+    /// The groups of options of "vyr rename" that belong to it; their descriptions are before the text.
     std::span<const char* const> groups;
     const char* text;
-    /// Makes the table in front of the text; null for a topic without one.
+    /// Returns the table before the text; null for a topic without one.
     std::string (*table)() = nullptr;
 };
 
 [[nodiscard]] std::span<const HelpTopic> HelpTopics();
 
-/// The table of the topic "tokens": the tokens of --name with what they stand for, their changes and counters, in lines
-/// of at most 80 columns.
+/// The table of the topic "tokens": the tokens of --name with their meanings, their changes and counters, in lines of
+/// at most 80 columns.
 [[nodiscard]] std::string TokensTopic();
 
 /// What `vyr COMMAND --help` shows instead of all options; empty for a command that shows them all.

@@ -41,7 +41,7 @@ constexpr ExclusivePair onePlace[] = {
     {"--disk", "--hives", whyOne}, {"--disk", "--wine", whyOne}, {"--hives", "--wine", whyOne},
 };
 
-/// The options that say whose registry is looked at: WHERE, --disk, --hives and --wine.
+/// The options that choose a registry: WHERE, --disk, --hives and --wine.
 class PlaceOptions
 {
 public:
@@ -94,7 +94,7 @@ Inventory::PlaceRequest PlaceOptions::Read() const
 }
 
 /// Says what could not be read, and what may be missing.
-/// @return the exit code that tells it.
+/// @return the exit code.
 int ComplainOf(const Inventory::Notes& notes)
 {
     for (const std::string& warning : notes.warnings)
@@ -111,7 +111,7 @@ constexpr ExclusivePair exclusive[] = {
     {"--installer", "--no-32-bit", "installer products are kept in one list"},
 };
 
-/// Leaves out the rows of records that do not hold the text that was asked for.
+/// Leaves out the rows that do not contain the requested text.
 template <class Record>
 void Filter(std::vector<Record>& records, const std::optional<std::string>& find)
 {
@@ -119,7 +119,7 @@ void Filter(std::vector<Record>& records, const std::optional<std::string>& find
         std::erase_if(records, [text = FromParser(*find)](const Record& record) { return !record.Matches(text); });
 }
 
-/// Sorts by the first column, the name, and shows the user where there may be several.
+/// Sorts by the first column, the name, and shows the column of users if there may be several.
 void Arrange(Ui::RecordTable& table, const Inventory::Place& place)
 {
     Ui::SortRows(table, 0, false);

@@ -78,7 +78,7 @@ CString PathOfKeptRules(const CString& name)
         return name;
     const CString fileName = name + ending;
     const CString folder = KeptRulesFolder();
-    // A name that every system takes, so that rules can be shared.
+    // A name that is valid on every system, so that rules can be shared.
     const bool isGood = !name.IsEmpty() && name[0] != u'-' && name[0] != u'.' &&
                         VyrHostPlatform::CheckName(fileName).fault == VyrHostPlatform::NameFault::None &&
                         VyrHostPlatform::CheckName(name).fault == VyrHostPlatform::NameFault::None;

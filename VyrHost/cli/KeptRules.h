@@ -15,16 +15,16 @@ namespace VyrHost::Cli {
 /// The names of all kept rules, sorted.
 [[nodiscard]] std::vector<CString> NamesOfKeptRules();
 
-/// The file of the rules `name`: a path where it has a folder separator or ends in ".rules", else a name in the folder.
-/// @throws UsageError for what can be neither.
+/// The file of the rules `name`: a path if it has a folder separator or ends in ".rules", else a name in the folder.
+/// @throws UsageError for a text that is neither.
 [[nodiscard]] CString PathOfKeptRules(const CString& name);
 
 /// The text of the rules `name` (see PathOfKeptRules).
-/// @throws UsageError where they are not there or cannot be read.
+/// @throws UsageError when they do not exist or cannot be read.
 [[nodiscard]] std::string LoadRules(const CString& name);
 
 /// Keeps `text` under `name`, flushed to the disk.
-/// @throws UsageError where other rules have that name, and where it cannot be written.
+/// @throws UsageError when other rules have that name, or the file cannot be written.
 void SaveRules(const CString& name, const std::string& text);
 
 } // namespace VyrHost::Cli

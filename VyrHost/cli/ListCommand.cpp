@@ -14,7 +14,7 @@ namespace VyrHost::Cli {
 
 namespace {
 
-/// Lists files with what can be told of them.
+/// Lists files with their properties.
 class ListCommand final : public Command
 {
 public:

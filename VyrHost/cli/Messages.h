@@ -1,5 +1,5 @@
 /// @file
-/// What the program tells its caller: messages on the error stream, and the exit code.
+/// Messages on the error stream, and exit codes.
 #pragma once
 
 #include <VyrHost/ui/Output.h>
@@ -8,10 +8,10 @@
 
 namespace VyrHost::Cli {
 
-/// What the program ends with. docs/vyr.1 says the same.
+/// The exit codes; docs/vyr.1 lists them, too.
 namespace ExitCode {
 
-/// Everything that was asked for was done, or can be.
+/// Everything was done, or can be.
 inline constexpr int success = 0;
 /// Some entries were refused or failed, or a folder could not be read; the rest was done, or can be.
 inline constexpr int partly = 1;
@@ -22,7 +22,7 @@ inline constexpr int output = 3;
 /// Nothing was done: there is no batch to undo, a batch that was cut off is to be recovered first, another program is
 /// at work on a batch, the journal cannot be kept, or update information is not known or cannot be read.
 inline constexpr int blocked = 4;
-/// The work was ended by an interrupt (Ctrl-C).
+/// An interrupt (Ctrl-C) ended the work.
 inline constexpr int interrupted = 130;
 
 /// The same for the help texts.
@@ -41,7 +41,7 @@ inline constexpr const char* table = "Exit codes:\n"
 /// Writes "vyr: " and `what` (UTF-8, safe to show) as a line.
 void Complain(const std::string& what);
 
-/// Writes the rest of `output`; complains where any of it could not be written.
+/// Writes the rest of `output`; complains if anything could not be written.
 /// @return `code`, or ExitCode::output.
 [[nodiscard]] int Finish(Ui::OutputBuffer& output, int code);
 

@@ -1,5 +1,5 @@
 /// @file
-/// Options: how they are declared and read, and which go together.
+/// Declares and reads options, and checks which go together.
 #pragma once
 
 #include <VyrHost/cli/Arguments.h>
@@ -18,23 +18,23 @@ class Option;
 
 namespace VyrHost::Cli {
 
-/// Adds the option `name` to `command`. `text` gets its value, and must live as long.
-/// @param value  what the value is called in the help.
+/// Adds the option `name` to `command`. `text` gets its value, and must live as long as the command.
+/// @param value  the name of the value in the help.
 void AddText(CLI::App& command, const char* name, std::optional<std::string>& text, const char* value, const char* help,
              const char* group);
-/// Adds an option that may be given again and again, each time with `count` values.
+/// Adds an option that may be repeated, each time with `count` values.
 CLI::Option& AddTexts(CLI::App& command, const char* name, const char* values, const std::string& help,
                       const char* group, int count = 1);
-/// All values that were given with an option of AddTexts.
+/// All values given with an option of AddTexts.
 [[nodiscard]] std::vector<CString> TextsOf(const CLI::App& command, const char* name);
 /// Adds an option without a value.
 void AddFlag(CLI::App& command, const char* name, bool& flag, const char* help, const char* group);
 
-/// A word of an option and what it stands for.
+/// A word of an option and its meaning.
 template <class Value>
 using Words = std::vector<std::pair<const char*, Value>>;
 
-/// What the word `text` stands for; the first of `words` when the option is not given.
+/// The meaning of the word `text`; that of the first of `words` when the option is not given.
 /// @throws UsageError for any other text.
 template <class Value>
 [[nodiscard]] Value ReadWord(const std::optional<std::string>& text, const char* option, const Words<Value>& words)
@@ -55,23 +55,23 @@ struct ExclusivePair
 {
     const char* option;
     const char* other;
-    /// Why, where the two do not tell; else null.
+    /// The reason, if it is not obvious; else null.
     const char* why = nullptr;
 };
 
-/// An option that changes nothing without another one.
+/// An option that has no effect without another one.
 struct DependentOption
 {
     const char* option;
     const char* needed;
 };
 
-/// Looks at what was given of the options of `command`.
-/// @throws UsageError for the first pair that does not go together, and the first option that changes nothing.
+/// Checks the given options of `command`.
+/// @throws UsageError for the first pair that does not go together, and the first option without effect.
 void CheckOptionPairs(const CLI::App& command, std::span<const ExclusivePair> exclusive,
                       std::span<const DependentOption> dependent = {});
 
-/// What is said of an option that changes nothing without `needed`.
+/// The message for an option that has no effect without `needed`.
 [[nodiscard]] std::string WithoutEffect(const std::string& option, const std::string& needed);
 
 } // namespace VyrHost::Cli

@@ -1,4 +1,4 @@
-// Finds the command in the arguments, runs it, and says what is wrong with the call.
+// Parses the arguments, runs the command, and reports errors of the call.
 #include <VyrHost/cli/Program.h>
 
 #include <VyrHost/cli/Arguments.h>
@@ -30,7 +30,7 @@ namespace {
 
 using VyrLibraryUtils::VersionUtils;
 
-/// Such as "vyr (VyrLibrary) 1.2.3", with the release stage behind it where the application file has one.
+/// Such as "vyr (VyrLibrary) 1.2.3", followed by the release stage if the application file has one.
 std::string VersionText()
 {
     const CString stage = VyrLibraryFuncs::ApplicationFuncs::GetLocalDataApplicationVersion();
@@ -52,7 +52,7 @@ int RefuseCall(const std::string& what)
     return ExitCode::usage;
 }
 
-/// Where the current folder was removed, no relative path leads anywhere.
+/// If the current folder was removed, relative paths have no meaning.
 void RequireCurrentFolder()
 {
     if (VyrPlatform::Process::GetCurrentFolder().IsEmpty())
@@ -65,7 +65,7 @@ int Fail(const std::string& what)
     return ExitCode::blocked;
 }
 
-/// What is wrong with a call that the parser refuses.
+/// The message for a call that the parser refuses.
 std::string FaultOf(const CLI::App& command, const CLI::ParseError& error)
 {
     for (const CLI::Option* const option : command.get_options()) {

@@ -8,7 +8,7 @@
 
 namespace VyrHost::Cli {
 
-/// Runs the command that `arguments` (without the program's name) ask for.
+/// Runs the command in `arguments` (without the program's name).
 /// @return the exit code.
 [[nodiscard]] int RunProgram(const std::vector<CString>& arguments);
 

@@ -1,4 +1,4 @@
-// Declares the options of lists, and writes a list as they say.
+// Declares the options for lists, and writes a list by them.
 #include <VyrHost/cli/RecordOptions.h>
 
 #include <VyrHost/cli/Arguments.h>

@@ -1,5 +1,5 @@
 /// @file
-/// The options that all commands have which list records.
+/// The options of all commands that list records.
 #pragma once
 
 #include <VyrHost/cli/ReportOptions.h>
@@ -16,8 +16,8 @@ class App;
 
 namespace VyrHost::Cli {
 
-/// --csv, --json, --columns, --sort, --descending, --quiet and those of ReportOptions. A command makes one, runs, and
-/// hands its records over.
+/// --csv, --json, --columns, --sort, --descending, --quiet and those of ReportOptions. A command creates this object,
+/// and passes its records to it.
 class RecordOptions
 {
 public:
@@ -26,19 +26,18 @@ public:
     RecordOptions(const RecordOptions&) = delete;
     RecordOptions& operator=(const RecordOptions&) = delete;
 
-    /// Looks at what was given, before the command does anything.
+    /// Checks the given options. Call it before the command does anything.
     /// @throws UsageError
     void Check() const { Check(m_columns); }
-    /// The same for a list that has other columns, and is written instead.
+    /// The same for a list with other columns.
     void Check(std::span<const Ui::RecordColumn> columns) const;
     [[nodiscard]] bool IsJson() const { return m_json; }
     [[nodiscard]] bool IsQuiet() const { return m_quiet; }
 
-    /// Sorts `table`, whose columns were checked, and writes it as asked for. People get its usual columns, programs
-    /// all, unless some are chosen.
-    /// @param total  a line such as "3 programs." (UTF-8, safe to show, without a line end), for people behind the
-    ///     table, else on the error stream.
-    /// With --html the list goes into a page, and people get the total alone.
+    /// Sorts `table`, whose columns were checked, and writes it in the chosen form. Without chosen columns, people get
+    /// the usual ones and programs get all.
+    /// @param total  a line such as "3 programs." (UTF-8, safe to show, without a line end), written after a table for
+    ///     people, else to the error stream. With --html the list goes into a page, and people get the total alone.
     /// @return `code`, or ExitCode::output.
     [[nodiscard]] int Write(Ui::RecordTable table, const std::string& total, int code) const;
 
@@ -56,7 +55,7 @@ private:
     std::optional<std::string> m_sort;
 };
 
-/// How a list is written.
+/// The form of a list.
 struct ListForm
 {
     bool csv = false;

@@ -1,4 +1,4 @@
-// The options of "vyr rename", and the request that they make.
+// Reads the options of "vyr rename" into a request.
 #include <VyrHost/cli/Commands.h>
 
 #include <VyrHost/cli/Arguments.h>
@@ -59,7 +59,7 @@ constexpr DependentOption dependent[] = {
     {"--number-per-folder", "--number"},
 };
 
-/// The options that say what becomes of an entry whose new name is taken. Not to be moved once it has added them.
+/// The options for entries whose new names are taken. Must not be moved: the parser refers to its members.
 class ConflictOptions
 {
 public:
@@ -69,7 +69,7 @@ public:
 
     /// @throws UsageError
     [[nodiscard]] Rename::ConflictSettings Read() const;
-    /// Whether an option says how a name that is taken is numbered.
+    /// Whether an option says how names are numbered.
     [[nodiscard]] bool AskForNumbering() const;
 
 private:

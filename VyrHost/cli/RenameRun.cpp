@@ -1,4 +1,4 @@
-// Carries out a call of "vyr rename": collects, names, shows, and applies.
+// Carries out a call of "vyr rename": collects entries, makes names, shows them, and applies them.
 #include <VyrHost/cli/RenameRun.h>
 
 #include <VyrHost/cli/BatchRun.h>
@@ -37,22 +37,22 @@ namespace {
 namespace Console = VyrHostPlatform::Console;
 using VyrPlatform::FileSystem::WithSeparator;
 
-/// Shows the mistake; false where no user can correct it, or the user stops.
+/// Shows the mistake and waits for the user; false when there is no terminal, or the user stops.
 bool WaitForCorrection(const std::string& mistake)
 {
     if (!Console::IsInputTerminal())
         return false;
     Complain(mistake);
-    // An interrupt must not end the program before it has named the file of the text.
+    // An interrupt must not end the program before it has said where the text is.
     VyrHostPlatform::Interrupt::Catch();
     Console::Write(Console::Stream::Error, "Press Enter to edit the text again, or Ctrl-C to stop. ");
     std::uint32_t error = 0;
     return !Console::ReadInput(error).empty();
 }
 
-/// Has the user edit `names` and answers what came of them, by their places (ParseEdited). A mistake is shown; on a
-/// terminal the editor opens again with the text as it was left, elsewhere the text is kept in its file.
-/// @throws UsageError where the editor fails, and for a mistake that is not mended; it names the file of the text.
+/// Lets the user edit `names`, and returns the new ones by their indexes (ParseEdited). Shows a mistake; on a terminal
+/// the editor opens again with the text as it is, otherwise the text is kept in its file.
+/// @throws UsageError when the editor fails, and for a mistake that is not corrected; it names the file of the text.
 std::unordered_map<std::uint32_t, CString> EditNames(const std::vector<CString>& names)
 {
     VyrHostPlatform::EditorFile file(Rename::TextForEditing(names));
@@ -87,7 +87,7 @@ std::vector<Rename::NamePair> ReadPairs(const CString& path)
     return pairs;
 }
 
-/// The entries of a call, and where their names come from.
+/// The entries of a call, and the source of their names.
 struct RenameTask
 {
     Collect::CollectedEntries collected;
@@ -133,7 +133,7 @@ CString FolderForEditing(const Model::EntryList& list, std::uint32_t folder)
     return CString(std::u16string_view(text));
 }
 
-/// With its folder as it is shown: a bare name would leave the entry where it is.
+/// With its shown folder: a bare name would leave the entry in its folder.
 CString NameForEditing(const Model::EntryList& list, const Model::Entry& entry, const Rename::Decision& decision)
 {
     if (!decision.IsRename())
@@ -143,7 +143,7 @@ CString NameForEditing(const Model::EntryList& list, const Model::Entry& entry, 
     return CString::Join({goesToCurrentFolder ? std::u16string_view(u"./") : folder.View(), decision.name});
 }
 
-/// Has the user look through the names, and decides again for what comes back.
+/// Lets the user edit the names, and decides again.
 Rename::Preview DecideEdited(Model::EntryList& list, const Rename::Preview& preview, const RenameRequest& request)
 {
     std::vector<CString> names;
@@ -171,14 +171,14 @@ public:
     [[nodiscard]] std::size_t Count() const { return m_paths.size(); }
     [[nodiscard]] const std::vector<Batch::PlannedChange>& Changes() const { return m_changes; }
 
-    /// Complains of one that stays.
+    /// Complains about a folder that was not removed.
     void Note(std::size_t removal, const Model::Outcome& outcome) const
     {
         if (outcome.status == Model::Status::Failed || outcome.status == Model::Status::Refused)
             Complain("the folder '" + Text::SafeText(m_paths[removal]) + "' stays: " + Text::SafeText(outcome.reason));
     }
 
-    /// A line; empty where there is none to remove.
+    /// A line; empty if there is none to remove.
     [[nodiscard]] std::string Notice(bool isPreview) const
     {
         if (m_paths.empty())

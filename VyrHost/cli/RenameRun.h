@@ -1,5 +1,5 @@
 /// @file
-/// A call of "vyr rename": what it asks for, and how that is carried out.
+/// A call of "vyr rename": the request, and its execution.
 #pragma once
 
 #include <VyrHost/cli/BatchRun.h>
@@ -27,16 +27,16 @@ struct RenameRequest
     std::optional<CString> into;
     /// The folders that the batch empties are removed.
     bool removesEmpty = false;
-    /// With OnConflict::Refuse any name that is taken stops the whole.
+    /// With OnConflict::Refuse, any taken name stops the whole call.
     Rename::ConflictSettings conflicts;
-    /// The user looks through the new names in an editor.
+    /// The user edits the new names.
     bool edit = false;
     ReportStyle style = {};
-    /// The page to write, if one was asked for.
+    /// The page to write, if requested.
     const ReportOptions* page = nullptr;
 };
 
-/// Carries `request` out and writes what became of it.
+/// Carries out `request` and writes the results.
 /// @return the program's exit code.
 /// @throws UsageError
 [[nodiscard]] int RunRename(const RenameRequest& request);

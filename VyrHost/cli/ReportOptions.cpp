@@ -1,4 +1,4 @@
-// Declares the options of pages for a browser, and writes a page as they say.
+// Declares the options for pages, and writes a page by them.
 #include <VyrHost/cli/ReportOptions.h>
 
 #include <VyrHost/cli/Arguments.h>

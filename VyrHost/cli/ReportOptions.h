@@ -15,11 +15,11 @@ class App;
 
 namespace VyrHost::Cli {
 
-/// What the rows of a command's lists are about.
+/// The subject of the rows of a command's lists.
 enum class RowsAbout : std::uint8_t
 {
     Records,
-    /// Files, of which pages can show thumbnails.
+    /// Files; pages can show their thumbnails.
     Files
 };
 
@@ -32,9 +32,9 @@ public:
     ReportOptions(const ReportOptions&) = delete;
     ReportOptions& operator=(const ReportOptions&) = delete;
 
-    /// Whether a page was asked for.
+    /// Whether a page was requested.
     [[nodiscard]] bool IsAskedFor() const { return m_file.has_value(); }
-    /// Looks at what was given, before the command does anything.
+    /// Checks the given options. Call it before the command does anything.
     /// @throws UsageError
     void Check() const;
 

@@ -1,4 +1,4 @@
-// Reads rules off the command line, in the order given.
+// Reads rules from the command line, in the given order.
 #include <VyrHost/cli/RuleOptions.h>
 
 #include <VyrHost/cli/Arguments.h>
@@ -31,13 +31,13 @@ namespace VyrHost::Cli {
 
 namespace {
 
-/// An option as it was given, with its settings.
+/// A given option with its settings.
 struct Given;
 
 struct RuleOption
 {
     const char* name;
-    /// What its values are called; how many they are.
+    /// The names of its values, and their number.
     const char* values;
     int count;
     const char* help;
@@ -162,10 +162,10 @@ constexpr RuleOption ruleOptions[] = {
 struct SettingOption
 {
     const char* name;
-    /// What its value is called; empty when it has none.
+    /// The name of its value; empty when it has none.
     const char* value;
     const char* help;
-    /// The rule that it belongs to, or several in words.
+    /// The rule that it belongs to; several are joined by words.
     const char* rule;
     /// @return false when the rule has the setting already.
     bool (*set)(Given& given, const CString& value);
@@ -259,7 +259,7 @@ auto* FindByName(const Options& options, std::string_view name)
 
 constexpr std::string_view keptRules = "--rules";
 
-/// How many values the option `name` has; nothing for one that is neither a rule nor a setting.
+/// The number of values of the option `name`; nothing for one that is neither a rule nor a setting.
 std::optional<std::size_t> CountValues(std::string_view name)
 {
     if (const RuleOption* const rule = FindByName(ruleOptions, name))
@@ -301,7 +301,8 @@ std::vector<OptionWords> TakeGiven(const CLI::App& command)
     return given;
 }
 
-/// Says that the option `name` cannot be kept: another option of `command`, which may be null, or a misspelt one.
+/// The message that the option `name` cannot be kept: it is another option of `command`, which may be null, or
+/// misspelt.
 std::string NoRule(const std::string& name, const CLI::App* command)
 {
     const std::string fault =
@@ -316,8 +317,8 @@ std::string NoRule(const std::string& name, const CLI::App* command)
     return fault + Text::Hint(name, known);
 }
 
-/// The options of a text of kept rules.
-/// @param command  that has further options, which are not kept; may be null.
+/// The options in a text of kept rules.
+/// @param command  the command, whose other options cannot be kept; may be null.
 /// @throws UsageError for a line that is neither a rule nor a setting.
 std::vector<OptionWords> ReadKept(std::string_view text, const CLI::App* command)
 {
@@ -336,7 +337,7 @@ std::vector<OptionWords> ReadKept(std::string_view text, const CLI::App* command
     return given;
 }
 
-/// Joins settings to their rules.
+/// Assigns settings to their rules.
 class Collector
 {
 public:
@@ -382,7 +383,7 @@ private:
     }
 
     std::vector<Given> m_given;
-    /// Settings that stand before every rule of their kind.
+    /// Settings that come before every rule of their kind.
     std::vector<std::pair<const SettingOption*, CString>> m_early;
 };
 
@@ -405,7 +406,7 @@ Rename::Rules MakeRules(const std::vector<OptionWords>& options)
 }
 
 /// The options of the kept rules `name`.
-/// @throws UsageError, with the name in front, where they make no sense.
+/// @throws UsageError, beginning with the name, when they make no sense.
 std::vector<OptionWords> LoadKept(const CString& name, const CLI::App& command)
 {
     const std::string text = LoadRules(name);

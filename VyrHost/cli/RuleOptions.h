@@ -14,8 +14,8 @@ class App;
 
 namespace VyrHost::Cli {
 
-/// Adds an option for each rule, and for their settings, to a command and makes rules of what was given. Not to be
-/// moved once it has added them.
+/// Adds the options of rules and their settings to a command, and makes rules of the given ones. Must not be moved: the
+/// parser refers to its members.
 class RuleOptions
 {
 public:
@@ -23,14 +23,14 @@ public:
     RuleOptions(const RuleOptions&) = delete;
     RuleOptions& operator=(const RuleOptions&) = delete;
 
-    /// The rules in the order in which they were given. A setting belongs to the rule of its kind before it; one that
-    /// stands before all of them belongs to the first.
-    /// Kept rules stand where they are named. Keeps the rules where that was asked for.
+    /// The rules in the order in which they were given. A setting belongs to the last rule of its kind before it; one
+    /// before all of them belongs to the first. Kept rules are inserted where they are named. Saves the rules if
+    /// requested.
     /// @throws UsageError for a text that makes no sense, a setting without its rule, and rules that cannot be kept.
     [[nodiscard]] Rename::Rules Make() const;
-    /// Whether the rules are to be kept.
+    /// Whether the rules are to be saved.
     [[nodiscard]] bool Keeps() const { return m_saveAs.has_value(); }
-    /// Where rules are kept, the other options of the call that choose, sort, place or number, which are not kept with
+    /// When rules are saved: the other options of the call that choose, sort, place or number, which are not saved with
     /// them, separated by commas.
     [[nodiscard]] std::string NotKept() const;
 
@@ -40,7 +40,7 @@ private:
 };
 
 /// The rules of a text of kept rules (rename/OptionLines.h).
-/// @throws UsageError for one that makes no sense, with the number of the line where that is known.
+/// @throws UsageError for one that makes no sense, with the number of the line if it is known.
 [[nodiscard]] Rename::Rules MakeKeptRules(std::string_view text);
 
 } // namespace VyrHost::Cli

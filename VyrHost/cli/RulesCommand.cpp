@@ -30,7 +30,7 @@ private:
     std::optional<std::string> m_name;
 };
 
-/// The lines of the rules `name` that say something, with `between` between them.
+/// The lines of the rules `name` except comments and empty ones, joined by `between`.
 /// @throws UsageError where they cannot be read.
 std::string LinesOf(const CString& name, char between)
 {

@@ -1,5 +1,5 @@
 /// @file
-/// The option --open-settings, with which a command opens a page of the system and does nothing else.
+/// The option --open-settings, with which a command only opens a page of the system's settings.
 #pragma once
 
 namespace CLI {

@@ -1,5 +1,5 @@
 /// @file
-/// The options that say which files a command is about, the same for every command that takes files.
+/// The options that choose files, the same for every command that takes files.
 #pragma once
 
 #include <VyrHost/collect/Choice.h>
@@ -16,7 +16,7 @@ class App;
 
 namespace VyrHost::Cli {
 
-/// Adds the options to a command, and reads what was given. Not to be moved once it has added them.
+/// Adds the options to a command, and reads them. Must not be moved: the parser refers to its members.
 class ChoiceOptions
 {
 public:
@@ -36,7 +36,7 @@ private:
     bool m_matchCase = false;
 };
 
-/// Adds the options to a command, and reads what was given. Not to be moved once it has added them.
+/// Adds the options to a command, and reads them. Must not be moved: the parser refers to its members.
 class SourceOptions
 {
 public:
@@ -47,7 +47,7 @@ public:
 
     /// Whether any path or the standard input is named.
     [[nodiscard]] bool NamesAny() const;
-    /// @throws UsageError for options that contradict each other, change nothing or make no sense.
+    /// @throws UsageError for options that contradict each other, have no effect or make no sense.
     [[nodiscard]] Collect::SourceSettings Read() const;
 
 private:
@@ -78,12 +78,12 @@ private:
     bool m_isDescending = false;
 };
 
-/// Collects and sorts the entries that a call is about, and complains of what could not be read.
+/// Collects and sorts the entries of a call, and complains about what could not be read.
 [[nodiscard]] Collect::CollectedEntries TakeEntries(const Collect::SourceSettings& sources,
                                                     Collect::SortSettings order = {});
-/// The exit code that the complaints ask for.
+/// The exit code for the complaints.
 [[nodiscard]] int CodeOf(const Collect::CollectedEntries& collected);
-/// Says how much the choice left out, as a line; empty where that is nothing.
+/// A line that says how much the choice left out; empty if nothing.
 [[nodiscard]] std::string LeftOutNotice(const Collect::CollectedEntries& collected);
 
 } // namespace VyrHost::Cli

@@ -12,7 +12,7 @@ namespace VyrHost::Cli {
 
 namespace {
 
-/// Takes the marks of downloads off files.
+/// Removes the marks of downloads from files.
 class UnblockCommand final : public ChangeCommand
 {
 public:

@@ -27,7 +27,7 @@ namespace VyrHost::Cli {
 
 namespace {
 
-/// How many batches of other folders are named.
+/// The maximum number of listed batches of other folders.
 constexpr std::size_t mostNamed = 5;
 
 /// Undoes or redoes a batch, or shows what that would do.
@@ -38,7 +38,7 @@ public:
         : m_direction(direction), m_style(style), m_batches(OpenBatches(WaitTenSeconds()))
     {}
 
-    /// Works on `batch`, and names it unless nothing can be done with it.
+    /// Undoes or redoes `batch`, and names it unless nothing can be done.
     /// @param number  its own, or that of its undo for a redo.
     Batch::BatchSummary Run(const Batch::BatchInformation& batch, std::uint32_t number)
     {
@@ -76,7 +76,7 @@ private:
     std::unique_ptr<BatchReport> m_report;
 };
 
-/// Says why a batch was passed over, and how it can still be undone.
+/// Says why a batch was skipped, and how it can still be undone.
 void NamePassedOver(const Batch::BatchInformation& batch, const Batch::BatchSummary& summary)
 {
     const std::string number = std::to_string(batch.number);

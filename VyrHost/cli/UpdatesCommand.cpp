@@ -23,14 +23,14 @@ using VyrLibraryFuncs::UpdatesFuncs;
 using VyrLibraryUtils::DateTimeUtils;
 using VyrLibraryUtils::PathUtils;
 
-/// When the update information was last read, as people see it.
+/// When the update information was last read, for people.
 std::string LastLook()
 {
     const CString date = UpdatesFuncs::GetCheckedDate();
     return date.IsEmpty() ? std::string("never") : Text::SafeText(date);
 }
 
-/// Whether `days` have passed since the last look. One that is not known, or in the future, counts as long ago.
+/// Whether `days` have passed since the last check. An unknown or future date counts as long ago.
 bool IsDue(int days)
 {
     constexpr int mode = 1;
@@ -56,7 +56,7 @@ void WriteRelease(Ui::OutputBuffer& output)
         output << "- " << Text::SafeText(item.description) << "\n";
 }
 
-/// Tells whether a newer release is offered.
+/// Checks whether a newer release is offered.
 class UpdatesCommand final : public Command
 {
 public:

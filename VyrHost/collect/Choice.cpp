@@ -21,7 +21,7 @@ bool MatchesPattern(std::u16string_view pattern, std::u16string_view name)
     constexpr auto none = std::u16string_view::npos;
     std::size_t atPattern = 0;
     std::size_t atName = 0;
-    // Where to continue when the text behind the last "*" does not match: that "*" takes one code unit more.
+    // Where to continue when the text after the last "*" does not match: that "*" then matches one more code unit.
     std::size_t behindStar = none;
     std::size_t retry = 0;
     while (atName < name.size()) {

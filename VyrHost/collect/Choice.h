@@ -53,13 +53,13 @@ struct SizeSpan
 /// @throws UsageError for any other text, and where FROM is more than TO.
 [[nodiscard]] SizeSpan ParseSizeSpan(std::u16string_view text, const char* option);
 
-/// The criteria as they were typed.
+/// The criteria as typed.
 struct ChoiceTexts
 {
     std::vector<CString> include;
     std::vector<CString> exclude;
     std::optional<ChoiceDate> dateTarget;
-    /// The range of the date `dateTarget`.
+    /// The range for the date `dateTarget`.
     CString dates;
     std::optional<CString> sizes;
     /// Whether upper and lower case differ.

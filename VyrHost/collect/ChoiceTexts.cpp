@@ -117,7 +117,7 @@ std::int64_t TakeDigits(std::u16string_view& text, std::size_t most, std::size_t
     return number;
 }
 
-/// A size in bytes; -1 when `text` is invalid or the size too large. What a larger unit leaves of a byte is dropped.
+/// A size in bytes; -1 when `text` is invalid or the size too large. A fraction of a byte is dropped.
 std::int64_t ReadSize(std::u16string_view text, bool& isPartOfByte)
 {
     isPartOfByte = false;

@@ -35,7 +35,7 @@ struct CutPath
     CString name;
 };
 
-/// Whether the last part of `path` is the name of an entry, so that the path can be split at the last separator.
+/// Whether `path` can be split at its last separator: `name`, its last part, is the name of an entry.
 bool IsPlain(std::u16string_view path, std::u16string_view name)
 {
     // Where a backslash is a separator, a drive may come before a colon.
@@ -71,7 +71,7 @@ CutPath Cut(const CString& path)
     return {folder, full.Mid(folder.GetLength())};
 }
 
-/// The folder as it is shown in front of names.
+/// The folder as it is shown before names.
 CString Shown(const CString& folder)
 {
     const bool isHere = folder == u"." || (folder.GetLength() == 2 && folder[0] == u'.' && IsSeparator(folder[1]));
@@ -239,7 +239,7 @@ private:
         List().entries.push_back({record.name, folder, record.kind});
     }
 
-    /// @param depth  of what is in the folder; 1 in one that was named.
+    /// @param depth  the depth of the folder's entries; 1 in a named folder.
     void Walk(const CString& path, const CString& shown, int depth)
     {
         const std::uint32_t number = List().folders.Open(path, shown);
@@ -282,7 +282,7 @@ private:
         return m_settings.pick == Pick::All || m_settings.pick == wanted;
     }
 
-    /// Only recursion can handle a folder and its entries in one call.
+    /// Refuses a folder together with entries inside it: only recursion handles both.
     void RefuseNested() const
     {
         std::unordered_set<VyrPlatform::FileIdentity, Model::IdentityHash> known;

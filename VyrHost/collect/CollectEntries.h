@@ -1,5 +1,5 @@
 /// @file
-/// Makes the list of entries from the paths that the user names.
+/// Makes the list of entries from the user's paths.
 #pragma once
 
 #include <VyrHost/collect/Choice.h>
@@ -24,7 +24,7 @@ enum class Pick : std::uint8_t
 enum class InputNames : std::uint8_t
 {
     None,
-    /// One a line.
+    /// One per line.
     Lines,
     /// Each ended by a NUL.
     Terminated

@@ -1,4 +1,4 @@
-// Reads documents by the handlers of their kinds.
+// Reads documents through the handlers of their kinds.
 #include <VyrHost/documents/Document.h>
 
 #include <VyrHost/text/Errors.h>
@@ -41,7 +41,7 @@ OfficePropertyFuncs::CLSID_ITEM Item(const char16_t* extension, const GUID& hand
     return {extension, handler, 1};
 }
 
-/// For machines that have registered none.
+/// For machines without registered handlers.
 std::vector<OfficePropertyFuncs::CLSID_ITEM> KnownHandlers()
 {
     std::vector<OfficePropertyFuncs::CLSID_ITEM> items;
@@ -79,7 +79,7 @@ const PropertyName* FindProperty(std::u16string_view name)
 
 GUID HandlerOf(const CString& path)
 {
-    // A list has thousands of files, but few extensions.
+    // Cached: a list has thousands of files, but few extensions.
     static std::map<CString, GUID> found;
     const CString extension = NameFuncs::GetExtension(path);
     const auto known = found.find(extension);

@@ -1,5 +1,5 @@
 /// @file
-/// What documents tell of themselves, for whoever lists them, changes them or makes names of them.
+/// The properties of documents, for lists, changes and names.
 #pragma once
 
 #include <VyrPlatform/documents/DocumentProperties.h>
@@ -22,37 +22,37 @@ enum class PropertyKind : std::uint8_t
     Picture
 };
 
-/// A property as people name it.
+/// A property and its name.
 struct PropertyName
 {
     /// In lower camel case.
     const char16_t* name;
-    /// Of the summary information.
+    /// Its id in the summary information.
     std::uint32_t id;
     PropertyKind kind;
 };
 
-/// Those that can be cleared, and set unless they are pictures, in the order in which they are shown.
+/// The properties that can be cleared (and set, unless they are pictures), in the order of display.
 [[nodiscard]] std::span<const PropertyName> PropertyNames();
 
 /// The property that is called `name`, without regard to case; null where there is none.
 [[nodiscard]] const PropertyName* FindProperty(std::u16string_view name);
 
-/// A document that was read.
+/// The result of reading a document.
 struct Document
 {
     VyrPlatform::DocumentProperties properties;
-    /// It is of a kind whose properties are known.
+    /// Whether it is of a known kind.
     bool isDocument = false;
-    /// Why it could not be read, for people; empty when it was.
+    /// The reason why it could not be read, for people; else empty.
     CString problem;
 };
 
-/// Reads the document at `path`, whose kind its extension tells unless it is a compound document.
+/// Reads the document at `path`. The extension tells its kind, unless it is a compound document.
 [[nodiscard]] Document ReadDocument(const CString& path);
 
-/// The handler of documents with the extension of `path`: the one that the registry names, else the one that this
-/// program knows; all zero where there is none.
+/// The handler for the extension of `path`: the one in the registry, else the one that this program knows; all zero if
+/// there is none.
 [[nodiscard]] _GUID HandlerOf(const CString& path);
 
 } // namespace VyrHost::Documents

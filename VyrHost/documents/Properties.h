@@ -1,5 +1,5 @@
 /// @file
-/// The properties of documents: the change of kind "properties", and what the documents of a list get.
+/// Changes of document properties: the change of kind "properties", and the rule for the documents of a list.
 #pragma once
 
 #include <VyrHost/metadata/Changes.h>
@@ -18,7 +18,7 @@
 
 namespace VyrHost::Documents {
 
-/// By which the bytes of a document are known again.
+/// Identifies the bytes of a document.
 struct Fingerprint
 {
     std::uint64_t size = 0;
@@ -31,8 +31,8 @@ struct Fingerprint
 /// The fingerprint of the file; nothing when it cannot be read to its end.
 [[nodiscard]] std::optional<Fingerprint> FingerprintOf(const VyrPlatform::FileReader& reader);
 
-/// Writes a document anew with other properties. The whole old document is kept with the journal, together with the
-/// fingerprint of the new one, so that it is restored byte for byte, and only where nobody has written to it since.
+/// Replaces a document by one with other properties. Keeps the whole old document with the journal, and the fingerprint
+/// of the new one, so that an undo restores it byte for byte, but only if nobody has modified the document since.
 class PropertiesChange final : public Model::Change, public Model::KeepsFile
 {
 public:
@@ -40,18 +40,18 @@ public:
     {
         /// Of the old document.
         Fingerprint fingerprint;
-        /// What is changed of its properties as it was, in words.
+        /// The old values of the changed properties, in words.
         std::vector<CString> shown;
         VyrPlatform::PropertyEdit edit;
     };
 
-    /// @param kept  how the path begins at which the batch keeps the old document; empty outside a batch.
+    /// @param kept  the beginning of the path at which the batch keeps the old document; empty outside a batch.
     explicit PropertiesChange(std::shared_ptr<const Document> document, const CString& kept = {})
         : m_document(std::move(document)), m_kept(kept)
     {}
 
     static constexpr std::string_view kind = "properties";
-    /// What the journal keeps; null for texts that are not of this kind.
+    /// Reads the texts of the journal; null for texts that are not of this kind.
     [[nodiscard]] static std::shared_ptr<const Model::Change> Read(const CString& before, const CString& after);
 
     [[nodiscard]] std::string_view Kind() const override { return kind; }
@@ -75,15 +75,15 @@ private:
 /// The kinds of change of this folder.
 [[nodiscard]] Model::ChangeKinds Kinds();
 
-/// A time as people read it, in local time.
+/// A time for people, in local time.
 [[nodiscard]] CString ShownTime(VyrPlatform::FileTicks ticks);
 
-/// What the documents of a list get.
+/// New values for the documents of a list.
 struct PropertyRequest
 {
     bool clearsAll = false;
-    /// Texts by the ids of their properties, with <Name> for the file's name without its extension, and <Parent> for
-    /// the name of the folder that it is in; nothing clears the property.
+    /// Texts by the ids of their properties; no text clears the property. <Name> stands for the file's name without its
+    /// extension, and <Parent> for the name of its folder.
     std::map<std::uint32_t, std::optional<CString>> values;
     /// Times by the ids of their properties.
     std::map<std::uint32_t, VyrPlatform::FileTicks> times;
@@ -91,32 +91,32 @@ struct PropertyRequest
 };
 
 /// Adds what `text`, such as "title=The <Name>" or "created=2024-01-05 10:30", sets.
-/// @throws UsageError for a property that does not exist, cannot be set or is named twice, for an unknown word in angle
-/// brackets, and for a time that makes no sense or that not every kind of document can hold.
+/// @throws UsageError for a property that does not exist, cannot be set or is named twice, for an unknown token, and
+/// for a time that is invalid or that not every kind of document can store.
 void ParseProperty(std::u16string_view text, PropertyRequest& request);
-/// Adds what `text`, names separated by commas, clears.
-/// @throws UsageError likewise.
+/// Adds the properties that `text`, names separated by commas, clears.
+/// @throws UsageError in the same cases.
 void ParseCleared(std::u16string_view text, PropertyRequest& request);
 
 /// Sets some properties of documents and clears others.
 class PropertiesRule final : public Metadata::ChangeRule
 {
 public:
-    /// How much of old documents a batch keeps at most, in bytes.
+    /// The maximum size of the old documents that a batch keeps, in bytes.
     static constexpr std::uint64_t mostKept = std::uint64_t{2} << 30;
 
     explicit PropertiesRule(PropertyRequest request, std::uint64_t most = mostKept)
         : m_request(std::move(request)), m_most(most)
     {}
 
-    /// What would not fit into what a batch keeps is refused.
+    /// Refuses a document that would exceed `mostKept`.
     [[nodiscard]] Metadata::Proposal Propose(const CString& path, const Model::Entry& entry,
                                              std::size_t index) const override;
 
 private:
     PropertyRequest m_request;
     std::uint64_t m_most;
-    /// How much the batch keeps of the documents so far.
+    /// The size of the documents that the batch keeps so far.
     mutable std::uint64_t m_kept = 0;
 };
 

@@ -85,14 +85,14 @@ std::optional<Fingerprint> ReadFingerprint(std::u16string_view text)
     return Fingerprint{static_cast<std::uint64_t>(*size), static_cast<std::uint32_t>(*check)};
 }
 
-/// Where the old document is kept for a new one, which is thus known again.
+/// The path at which the old document is kept; it identifies the new one.
 CString KeptPath(const CString& kept, const Fingerprint& newDocument)
 {
     return CString::Join({kept, u".", TextOf(newDocument)});
 }
 
-/// Where a program was killed after it had kept a document, and before the new one took its place, the document has
-/// two names: removes the one that is not its own.
+/// Removes the kept name of a document that has two: the program was killed between keeping the document and replacing
+/// it.
 void RemoveSecondName(const CString& path, const CString& kept)
 {
     const VyrPlatform::FileState state = VyrPlatform::LookAtFile(path);
@@ -286,7 +286,7 @@ std::uint32_t PropertiesChange::Keep(DocumentReplacement& replacement) const
     if (!newDocument || VyrLibraryUtils::FolderUtils::CreateFolderPathExists(Model::FolderPart(m_kept)) == 0)
         return Result::writeFault;
     const CString kept = KeptPath(m_kept, *newDocument);
-    // Of the batch before it was undone.
+    // Left by the batch before it was undone.
     static_cast<void>(DurableFile::Remove(kept));
     if (const std::uint32_t error = replacement.Keep(kept))
         return error;
@@ -302,7 +302,7 @@ std::uint32_t PropertiesChange::Undo(const CString& path) const
     auto replacement = DocumentReplacement::WithContent(path, KeptPath(m_kept, *newDocument));
     if (replacement.Error() != Result::ok)
         return replacement.Error();
-    // Somebody may have written to the kept file.
+    // Somebody may have modified the kept file.
     if (FingerprintOf(FileReader(replacement.NewPath())) != m_document->fingerprint)
         return Result::damaged;
     return replacement.Commit();

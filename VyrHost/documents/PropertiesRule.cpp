@@ -1,4 +1,4 @@
-// Finds the properties of a document that are to be changed.
+// Determines which properties of a document change.
 #include <VyrHost/documents/Properties.h>
 
 #include <VyrHost/documents/Document.h>
@@ -37,7 +37,7 @@ namespace Result = VyrPlatform::PropertyStorage::Result;
 constexpr std::u16string_view nameWord = u"Name";
 constexpr std::u16string_view parentWord = u"Parent";
 
-/// The names that an option takes.
+/// The names that an option accepts.
 std::vector<std::string> NamesFor(bool arePicturesToo)
 {
     std::vector<std::string> names;
@@ -55,13 +55,13 @@ std::string Listed(const std::vector<std::string>& names)
     return list;
 }
 
-/// A suggestion of one of `names`.
+/// A hint at the nearest of `names`.
 std::string HintFor(std::u16string_view typed, const std::vector<std::string>& names)
 {
     return Text::Hint(VyrPlatform::Encoding::ToUtf8(typed), names);
 }
 
-/// Refuses a word in angle brackets that stands for nothing.
+/// Refuses unknown tokens.
 void RequireTokens(std::u16string_view text)
 {
     for (const Text::TemplatePart& part : Text::CutTemplate(text)) {
@@ -72,7 +72,7 @@ void RequireTokens(std::u16string_view text)
     }
 }
 
-/// Whether documents of all kinds can hold the instant.
+/// Whether documents of all kinds can store the instant.
 bool CanBeHeld(VyrPlatform::FileTicks ticks)
 {
     using namespace std::chrono;
@@ -80,11 +80,11 @@ bool CanBeHeld(VyrPlatform::FileTicks ticks)
 
     constexpr sys_days first = January / 1 / 1601;
     constexpr sys_days end = January / 1 / 10000;
-    // Property sets have 0 for no time.
+    // In property sets 0 means no time.
     return ticks > 0 && Ticks(ticks) < end - first;
 }
 
-/// The given time; without a time of day the day's beginning.
+/// The given time; midnight if it has no time of day.
 VyrPlatform::FileTicks ReadTime(std::u16string_view value, std::u16string_view given)
 {
     const auto typed = Text::ReadTypedDateTime(value);
@@ -115,7 +115,7 @@ bool HasAny(const DocumentProperties& properties)
     return !properties.texts.empty() || !properties.times.empty() || properties.others > 0;
 }
 
-/// What a part of a text stands for. A name that looks like a token stays what it is.
+/// The text for a part of a template. A name that looks like a token is not replaced.
 CString TextOf(const Text::TemplatePart& part, const CString& path, const Model::Entry& entry)
 {
     const auto* const token = std::get_if<Text::Token>(&part);
@@ -128,7 +128,7 @@ CString TextOf(const Text::TemplatePart& part, const CString& path, const Model:
     return token->whole;
 }
 
-/// `text` with what its tokens stand for.
+/// `text` with its tokens replaced.
 CString FillIn(std::u16string_view text, const CString& path, const Model::Entry& entry)
 {
     CString filled;
@@ -137,7 +137,7 @@ CString FillIn(std::u16string_view text, const CString& path, const Model::Entry
     return filled;
 }
 
-/// Leaves out what is so already.
+/// Leaves out values that the document already has.
 PropertyEdit WhatChanges(const PropertyRequest& request, const DocumentProperties& properties, const CString& path,
                          const Model::Entry& entry)
 {
@@ -169,7 +169,7 @@ CString ShownProperty(const PropertyName& property, const DocumentProperties& pr
     return CString::Join({u"no ", property.name});
 }
 
-/// What of `properties` is changed by `edit`, in words.
+/// The old values of what `edit` changes, in words.
 std::vector<CString> ShownBefore(const DocumentProperties& properties, const PropertyEdit& edit)
 {
     std::vector<CString> shown;
@@ -186,7 +186,7 @@ std::vector<CString> ShownBefore(const DocumentProperties& properties, const Pro
     return shown;
 }
 
-/// Why a document is not to be written to; empty when it may be.
+/// The reason why a document must not be changed; empty if it may be.
 CString FindObstacle(const Document& document, const PropertyRequest& request)
 {
     if (!document.problem.IsEmpty())

@@ -61,7 +61,7 @@ struct FolderSnapshot
     std::vector<SnapshotEntry> entries;
 };
 
-/// The full path of the folder that the entry at `fullPath` stands in; a root stands in itself.
+/// The full path of the folder that the entry at `fullPath` is in; a root is in itself.
 [[nodiscard]] CString FolderOf(const CString& fullPath);
 
 /// Takes a snapshot of the folder at the full path `root`, including hidden entries.

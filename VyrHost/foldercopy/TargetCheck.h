@@ -31,8 +31,8 @@ enum class Trial : bool
 /// tried, since one could overwrite the other.
 [[nodiscard]] TargetCheck CheckTarget(const FolderSnapshot& tree, const CString& target, Trial trial);
 
-/// Finds what the user may not move away from where `tree` stands: the entries of folders without permission to remove
-/// names, named by these folders, and other users' entries of sticky folders. Any of them refuses the whole tree.
+/// Finds what the user may not move away from `tree`: the entries of folders without permission to remove names,
+/// reported by these folders, and other users' entries of sticky folders. Any of them refuses the whole tree.
 [[nodiscard]] TransferProblems CheckLeaving(const FolderSnapshot& tree);
 
 } // namespace VyrHost::FolderCopy

@@ -27,7 +27,7 @@ enum class TransferFault : std::uint8_t
     TargetLocked,
     /// The user may not remove names from this folder.
     SourceLocked,
-    /// The user may not remove the tree's name from the folder that it stands in.
+    /// The user may not remove the tree's name from the folder that it is in.
     RootLocked,
     /// It is another user's in a sticky folder, where only its owner may move it.
     NotOwnEntry,

@@ -189,7 +189,7 @@ private:
     const CString m_target;
     const TransferAction m_action;
     TransferRecords& m_records;
-    /// Whether something is left at the source after a move.
+    /// Whether anything is left at the source after a move.
     const bool m_isSourceLeft;
     /// For each folder of the tree: whether it exists at the target.
     std::vector<bool> m_isThere;

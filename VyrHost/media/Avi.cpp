@@ -18,9 +18,9 @@ namespace {
 
 using namespace VyrLibraryUtils::Pictures;
 
-/// More than any film has, and far from what a number cannot hold.
+/// More than any film has, and far from overflow.
 constexpr double mostMilliseconds = 1e15;
-/// It bounds the search in a file of empty chunks.
+/// Bounds the search in a file of empty chunks.
 constexpr int mostChunks = 10000;
 
 struct Chunk
@@ -31,7 +31,7 @@ struct Chunk
     ByteView content;
 };
 
-/// Hands each chunk of `chunks` to `use`, until that returns false.
+/// Passes each chunk of `chunks` to `use`, until that returns false.
 template <class Use>
 void ForEachChunk(const ByteView& chunks, Use use)
 {
@@ -69,7 +69,7 @@ std::vector<std::string_view> WordsOf(std::string_view text)
     return words;
 }
 
-/// Takes the number at the front of `text`, and one character behind it; -1 where there is none.
+/// Removes the number at the start of `text` and one character after it; -1 if there is none.
 int TakeNumber(std::string_view& text)
 {
     int number = -1;
@@ -86,7 +86,7 @@ struct Numbers
     int third;
 };
 
-/// Three numbers with a mark between each two.
+/// Three numbers separated by one character each.
 Numbers ThreeNumbers(std::string_view text)
 {
     const int first = TakeNumber(text);
@@ -141,7 +141,7 @@ void ReadMainHeader(const ByteView& header, Movie& movie)
         movie.duration = (microseconds * pictures + 500) / 1000;
 }
 
-/// A stream's header, whose count is right for films above a gigabyte, too.
+/// A stream's header. Its count is right also for films above a gigabyte.
 /// @return whether it is a stream of pictures.
 bool ReadStream(const ByteView& stream, Movie& movie)
 {
@@ -188,7 +188,7 @@ void ReadHeaders(const ByteView& headers, Movie& movie)
     });
 }
 
-/// The text of a movie that the chunk `name` tells; null where it tells none.
+/// The text of a movie that the chunk `name` contains; null if it contains none.
 std::string* TextFor(std::string_view name, Movie& movie)
 {
     struct Known

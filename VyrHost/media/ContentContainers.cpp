@@ -31,7 +31,7 @@ std::u16string_view Find(const Meaning (&meanings)[count], std::string_view text
     return found == std::end(meanings) ? std::u16string_view() : found->extension;
 }
 
-/// The archive's first members, by the heads that stand before them.
+/// The archive's first members, by their local headers.
 class ZipHeads
 {
 public:
@@ -66,7 +66,7 @@ public:
         if (m_cursor.Failed())
             return std::nullopt;
         const ByteView content = m_cursor.Take(size);
-        // Where the size stands behind the content, the next head is not found.
+        // If the size follows the content, the next header cannot be found.
         if ((flags & sizeBehind) != 0 && size == 0)
             m_cursor.Skip(m_cursor.Remaining() + 1);
         return Member{std::move(name), content, isPacked};
@@ -115,7 +115,7 @@ private:
     ByteCursor m_cursor;
 };
 
-/// What a member's name says about the whole.
+/// The kind of archive that a member's name indicates.
 std::u16string_view MeaningOfMember(std::string_view name)
 {
     constexpr Meaning names[] = {{"word/document.xml", u"docx"},    {"word/document2.xml", u"docx"},
@@ -136,7 +136,7 @@ std::u16string_view MeaningOfType(std::string_view type)
     return Find(types, type);
 }
 
-/// The names of a compound document's entries that tell its kind, in small letters: the format tells none apart.
+/// The kind of compound document that an entry's name, in lower case, indicates: the format ignores case.
 std::u16string_view MeaningOfEntry(std::string_view name)
 {
     constexpr Meaning names[] = {{"worddocument", u"doc"},  {"workbook", u"xls"},
@@ -160,7 +160,7 @@ public:
         m_next = first.U32();
     }
 
-    /// Nothing at the end of the chain, and after more sectors than any directory needs.
+    /// Nothing at the end of the chain, or after more sectors than any directory needs.
     std::optional<ByteView> Next()
     {
         constexpr int mostSectors = 1000;
@@ -185,7 +185,7 @@ private:
         return cursor.U32();
     }
 
-    /// The sector behind `number`, by the tables that the head lists: those of further lists are not followed.
+    /// The sector after `number`, by the tables that the header lists; further lists are not followed.
     [[nodiscard]] std::uint32_t Following(std::uint32_t number) const
     {
         constexpr std::uint64_t tablesField = 76;
@@ -209,7 +209,7 @@ char Small(char letter)
     return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + ('a' - 'A')) : letter;
 }
 
-/// The name of a directory entry in small letters, of its ASCII characters.
+/// The ASCII characters of a directory entry's name, in lower case.
 std::string NameOfEntry(const ByteView& entry)
 {
     constexpr std::uint64_t lengthField = 64;
@@ -248,7 +248,7 @@ std::u16string_view KindOfZip(const ByteView& file)
     ZipDirectory directory(file);
     if (const auto kind = fromNames([&directory] { return directory.Next(); }); !kind.empty())
         return kind;
-    // The directory of a damaged archive is missing.
+    // A damaged archive may lack its directory.
     ZipHeads heads(file);
     const auto kind = fromNames([&heads] {
         auto member = heads.Next();
@@ -280,7 +280,7 @@ std::u16string_view KindOfIsoMedia(const ByteView& file)
                                   {"f4v ", u"f4v"}};
     ByteCursor cursor(file, ByteOrder::Big);
     const auto box = NextBox(cursor);
-    // Films from before the box with the brands.
+    // Old films have no box with brands.
     if (!box || box->type != FourCc("ftyp"))
         return u"mov";
     const auto meaningAt = [&box, &brands](std::uint64_t at) -> std::u16string_view {
@@ -293,7 +293,7 @@ std::u16string_view KindOfIsoMedia(const ByteView& file)
     };
     if (const auto kind = meaningAt(0); !kind.empty())
         return kind;
-    // "mif1" and others only tell that it is a picture; the brands that it is compatible with tell which.
+    // "mif1" and others only say that it is a picture; the compatible brands say which kind.
     constexpr std::uint64_t compatible = 8;
     constexpr std::uint64_t mostBrands = 64;
     for (std::uint64_t at = compatible; at < compatible + mostBrands * 4; at += 4)
@@ -321,7 +321,7 @@ std::u16string_view KindOfOgg(const ByteView& file)
                                    "FLAC",
                                    u"oga"},
                                   {"Speex   ", u"spx"},
-                                  // A directory of streams, which films have in front.
+                                  // A directory of streams, with which films begin.
                                   {"fishead"sv, u"ogv"}};
     for (const Meaning& codec : codecs)
         if (packet.StartsWith(codec.text))

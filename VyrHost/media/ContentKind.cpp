@@ -1,4 +1,4 @@
-// The table of kinds, and the first bytes that tell them.
+// The table of kinds, and the first bytes that identify them.
 #include <VyrHost/media/ContentKind.h>
 
 #include <VyrHost/media/ContentReaders.h>
@@ -123,7 +123,7 @@ constexpr ContentKind kinds[] = {
     {u"rpm", u""},
 };
 
-/// Bytes at one place that tell a kind.
+/// Bytes at an offset that identify a kind.
 struct Mark
 {
     std::uint64_t offset;

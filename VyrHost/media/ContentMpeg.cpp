@@ -16,7 +16,7 @@ std::uint32_t HeadAt(const ByteView& file, std::uint64_t offset)
     return cursor.U32();
 }
 
-/// The size of the frame of layer III with that head, in bytes; 0 where there is none.
+/// The size in bytes of the layer III frame with the header `head`; 0 if it is not one.
 std::uint32_t SoundFrameSize(std::uint32_t head)
 {
     constexpr std::array<std::uint32_t, 16> first{0, 32, 40, 48, 56, 64, 80, 96, 112, 128, 160, 192, 224, 256, 320, 0};
@@ -31,13 +31,13 @@ std::uint32_t SoundFrameSize(std::uint32_t head)
     if ((head & sync) != sync || version == 1 || layer != 1 || rate == 0 || kilobits == 0)
         return 0;
     const std::uint32_t padding = head >> 9 & 1;
-    // The halves of version 2 and 2.5 have half and a quarter of the rate.
+    // Versions 2 and 2.5 have half and a quarter of the rate.
     if (isFirst)
         return 144000 * kilobits / rate + padding;
     return 72000 * kilobits / (rate / (version == 2 ? 2 : 4)) + padding;
 }
 
-/// The size of the frame of ADTS at `offset`; 0 where there is none.
+/// The size of the ADTS frame at `offset`; 0 if there is none.
 std::uint32_t AdtsFrameSize(const ByteView& file, std::uint64_t offset)
 {
     constexpr std::uint32_t mask = 0xFFF60000;

@@ -1,5 +1,5 @@
 /// @file
-/// Tell the kinds of containers, of pictures and streams without a mark of their own, and of texts.
+/// Recognises the kinds of containers, of pictures and streams without a signature, and of texts.
 #pragma once
 
 #include <VyrLibraryUtils/pictures/ByteView.h>
@@ -8,11 +8,12 @@
 
 namespace VyrHost::Media {
 
-/// Each gives the usual extension of what `file` holds, and nothing for what is not known. Those of a container ask for
-/// a view that begins as a file of that container does.
+/// Each returns the usual extension for the content of `file`, and an empty text for unknown content. Those of a
+/// container require a view that begins with its signature.
 
-/// ZIP: documents, books and programs are told by their members' names, or by what the member "mimetype" says. Source:
-/// PKWARE's APPNOTE 6.3.10, section 4.3; OpenDocument 1.3, part 2, section 3.3; EPUB OCF 3.3, section 4.3.
+/// ZIP: documents, books and programs are recognised by the names of their members, or by the content of the member
+/// "mimetype". Source: PKWARE's APPNOTE 6.3.10, section 4.3; OpenDocument 1.3, part 2, section 3.3; EPUB OCF 3.3,
+/// section 4.3.
 [[nodiscard]] std::u16string_view KindOfZip(const VyrLibraryUtils::Pictures::ByteView& file);
 
 /// A compound document, by the names in its directory. Source: MS-CFB, sections 2.2 and 2.6.
@@ -28,13 +29,13 @@ namespace VyrHost::Media {
 /// Ogg, by its first codec. Source: RFC 5334 and RFC 7845.
 [[nodiscard]] std::u16string_view KindOfOgg(const VyrLibraryUtils::Pictures::ByteView& file);
 
-/// Matroska, by the type of its head: WebM is one.
+/// Matroska and WebM, by the type in the header.
 [[nodiscard]] std::u16string_view KindOfMatroska(const VyrLibraryUtils::Pictures::ByteView& file);
 
-/// ASF: films have a stream of pictures. Source: Microsoft, Advanced Systems Format, section 3.3.
+/// ASF: films have a video stream. Source: Microsoft, Advanced Systems Format, section 3.3.
 [[nodiscard]] std::u16string_view KindOfAsf(const VyrLibraryUtils::Pictures::ByteView& file);
 
-/// TIFF, and raw pictures in the same form.
+/// TIFF, and raw pictures in this format.
 [[nodiscard]] std::u16string_view KindOfTiff(VyrLibraryUtils::Pictures::ByteSource& file);
 
 /// "mp3" for a tag of ID3 or two frames of layer III, "aac" for two frames of ADTS, "ts" and "mts" for packets of a

@@ -7,7 +7,7 @@ namespace VyrHost::Media {
 
 namespace {
 
-/// Skips blanks, comments, instructions and what names a document's type other than HTML.
+/// Skips blanks, comments, processing instructions and document types other than HTML.
 std::string_view FromFirstElement(std::string_view text)
 {
     for (;;) {
@@ -37,7 +37,7 @@ std::u16string_view KindOfText(const VyrLibraryUtils::Pictures::ByteView& file)
         return std::string_view(head).substr(0, head.find_first_of("\r\n")).find("EPSF") == std::string_view::npos
                    ? u"ps"
                    : u"eps";
-    // The head of a file for screens, in front of its PostScript.
+    // The header for screen previews, before the PostScript.
     if (head.starts_with("\xC5\xD0\xD3\xC6"))
         return u"eps";
     std::transform(head.begin(), head.end(), head.begin(), [](char letter) {

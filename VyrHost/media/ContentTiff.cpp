@@ -1,4 +1,4 @@
-// Raw pictures are TIFF structures, which differ by a few tags.
+// Raw pictures are TIFF structures that differ in a few tags.
 #include <VyrHost/media/ContentReaders.h>
 
 #include <VyrLibraryUtils/pictures/Picture.h>

@@ -28,7 +28,7 @@ double WholeOf(std::string_view digits)
     return static_cast<double>(number);
 }
 
-/// A fraction over 0 is infinite, or not a number where its numerator is 0 too.
+/// A fraction over 0 is infinite; 0/0 is not a number.
 double NumberOf(std::string_view word)
 {
     const std::size_t bar = word.find('/');
@@ -52,7 +52,7 @@ std::vector<double> NumbersOf(std::string_view value)
     return numbers;
 }
 
-/// The first number, where it is one.
+/// The first word, if it is a number.
 std::optional<double> FirstOf(std::string_view value)
 {
     const std::vector<double> numbers = NumbersOf(value);
@@ -67,7 +67,7 @@ std::string Fixed(double number, int places)
     return std::string(text, end);
 }
 
-/// With at most `digits` significant digits, and no zeros behind the last other digit.
+/// With at most `digits` significant digits, and no zeros after the last other digit.
 std::string Shortest(double number, int digits)
 {
     char text[64];
@@ -95,7 +95,7 @@ std::string Seconds(double seconds)
     return text;
 }
 
-/// "+1/3" for a third of `thirds`, where `number` is a multiple of it.
+/// "+1/3" for a third, if `number` is a multiple of 1/`parts`.
 std::optional<std::string> Multiple(double number, int parts)
 {
     // Fractions such as 33/100 stand for thirds.
@@ -114,7 +114,7 @@ CString WithUnit(std::string_view value, int places, std::string_view unit)
     return number ? ToText(Fixed(*number, places).append(unit)) : CString();
 }
 
-/// The word at the place that the number tells.
+/// The word at the index `value`.
 CString WordFor(std::string_view value, std::span<const std::u16string_view> words)
 {
     const auto number = FirstOf(value);
@@ -122,7 +122,7 @@ CString WordFor(std::string_view value, std::span<const std::u16string_view> wor
     return isKnown ? CString(words[static_cast<std::size_t>(*number)]) : CString();
 }
 
-/// "24-70": the second only where it differs.
+/// "24-70": the second number only if it differs.
 std::string Range(double from, double to)
 {
     const auto show = [](double number) {

@@ -1,6 +1,6 @@
 /// @file
-/// Numbers of Exif as exiftool shows them. `value` holds numbers with blanks between them, a fraction as "1/250". Each
-/// gives nothing where the numbers make no sense for it.
+/// Numbers of Exif as exiftool shows them. `value` holds numbers with blanks between them, a fraction as "1/250". The
+/// result is empty for numbers that make no sense.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -36,7 +36,7 @@ namespace VyrHost::Media {
 /// "35 m Above Sea Level". `side` is "1" below the sea.
 [[nodiscard]] CString ShowAltitude(std::string_view value, std::string_view side);
 
-/// Words for the numbers that Exif gives to settings.
+/// The words for settings that Exif stores as numbers.
 [[nodiscard]] CString ShowOrientation(std::string_view value);
 [[nodiscard]] CString ShowExposureProgram(std::string_view value);
 [[nodiscard]] CString ShowMeteringMode(std::string_view value);

@@ -21,7 +21,7 @@ CString Wide(std::string_view bytes)
     return WideTextOf(bytes);
 }
 
-/// A comment begins with eight bytes that name its characters.
+/// A comment begins with eight bytes that name its character set.
 CString Comment(std::string_view bytes)
 {
     constexpr std::size_t nameSize = 8;
@@ -33,7 +33,7 @@ struct Row
 {
     std::u16string_view name;
     PictureTag tag;
-    /// Makes the text of what the picture's readers give for the tag.
+    /// Formats the value from the picture readers.
     CString (*show)(std::string_view value);
 };
 
@@ -106,7 +106,7 @@ constexpr Row exifRows[] = {
     {u"GPSDateStamp", Pictures::PlaceTag(0x001D), TextOf},
 };
 
-/// A value whose sign or side another tag tells.
+/// A value whose sign or side is in another tag.
 struct PlaceRow
 {
     std::u16string_view name;

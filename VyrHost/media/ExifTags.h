@@ -1,5 +1,5 @@
 /// @file
-/// The tags of pictures that names may have, by the names that exiftool gives them.
+/// The tags of pictures that names may contain, under exiftool's names.
 #pragma once
 
 #include <VyrLibraryUtils/pictures/ByteSource.h>
@@ -26,21 +26,21 @@ using ExifTagSet = std::bitset<exifTagCount>;
 /// The names of all tags, in the order of the table: "Make", "LensModel", "ISO", ….
 [[nodiscard]] std::span<const std::u16string_view> ExifTagNames();
 
-/// The tag of that name, whose letters may be capital or small.
+/// The tag with that name, ignoring case.
 [[nodiscard]] std::optional<ExifTag> FindExifTag(std::u16string_view name);
 
 /// Reads tags of a picture.
 class ExifTagReader
 {
 public:
-    /// `packet` is the picture's packet of XMP, where a tag that is asked for needs it. Both must outlive the reader.
+    /// `packet` is the picture's XMP packet, if a requested tag needs it. Both must outlive the reader.
     ExifTagReader(VyrLibraryUtils::Pictures::ByteSource& source, std::string_view packet)
         : m_source(source), m_packet(packet)
     {}
 
-    /// Whether one of `tags` stands in the packet of XMP.
+    /// Whether one of `tags` is an XMP tag.
     [[nodiscard]] static bool AsksForXmp(const ExifTagSet& tags);
-    /// The text of `tag`; empty where the picture lacks it.
+    /// The text of `tag`; empty if the picture lacks it.
     [[nodiscard]] CString Read(ExifTag tag);
 
 private:

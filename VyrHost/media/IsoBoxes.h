@@ -10,12 +10,12 @@
 
 namespace VyrHost::Media {
 
-/// Hands each box of `boxes` to `use`, until that returns false.
+/// Passes each box of `boxes` to `use`, until that returns false.
 template <class Use>
 void ForEachBox(const VyrLibraryUtils::Pictures::ByteView& boxes, Use use)
 {
     using namespace VyrLibraryUtils::Pictures;
-    // More than a sound file has beside one another; it bounds the search in a file of empty boxes.
+    // More boxes than a sound file has on one level; bounds the search in a file of empty boxes.
     constexpr int mostBoxes = 10000;
     ByteCursor cursor(boxes, ByteOrder::Big);
     for (int left = mostBoxes; left > 0; --left) {
@@ -46,7 +46,7 @@ FindBox(const VyrLibraryUtils::Pictures::ByteView& boxes, std::uint32_t type)
     return isLong;
 }
 
-/// `duration` in milliseconds; nothing for 0, for an unknown and for an impossible one.
+/// `duration` in milliseconds; nothing for 0, and for an unknown or impossible one.
 [[nodiscard]] inline std::optional<std::uint64_t> Milliseconds(std::uint64_t duration, std::uint32_t unitsPerSecond)
 {
     // All ones stand for an unknown duration.

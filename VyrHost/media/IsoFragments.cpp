@@ -11,10 +11,10 @@ using namespace VyrLibraryUtils::Pictures;
 
 namespace {
 
-/// Ten hours of a film, and bounded time for a file that lies.
+/// Ten hours of film; bounds the time for a file that lies.
 constexpr int mostSamples = 2'000'000;
 
-/// The number behind the two times of a header: the id of a track (tkhd), its units per second (mdhd).
+/// The number after the two times of a header: the id of a track (tkhd), its units per second (mdhd).
 std::uint32_t NumberBehindTimes(const std::optional<ByteView>& header)
 {
     if (!header)
@@ -98,7 +98,7 @@ std::uint64_t IsoFragments::DurationOfRun(const ByteView& run, std::uint32_t usu
     ByteCursor cursor(run, ByteOrder::Big);
     const std::uint32_t flags = cursor.U32();
     const std::uint64_t count = cursor.U32();
-    // Samples that all last as long as usual are not looked at.
+    // Samples of the usual duration need not be read one by one.
     if ((flags & hasDuration) == 0) {
         --m_samplesLeft;
         return count * usualDuration;

@@ -1,5 +1,5 @@
 /// @file
-/// The duration of films in fragments that do not tell it in front.
+/// The duration of fragmented films whose header does not say it.
 #pragma once
 
 #include <VyrLibraryUtils/pictures/ByteView.h>
@@ -10,25 +10,25 @@
 
 namespace VyrHost::Media {
 
-/// Adds up how long the samples of each track last. Source: ISO/IEC 14496-12, sections 8.8.3, 8.8.7 and 8.8.8.
+/// Adds up the durations of the samples of each track. Source: ISO/IEC 14496-12, sections 8.8.3, 8.8.7 and 8.8.8.
 class IsoFragments
 {
 public:
-    /// `movieBox` tells of the tracks.
+    /// `movieBox` describes the tracks.
     explicit IsoFragments(const VyrLibraryUtils::Pictures::ByteView& movieBox);
 
-    /// Adds a fragment, by the content of its box.
-    /// @return false where there were so many samples that no more are to be added.
+    /// Adds a fragment, given the content of its box.
+    /// @return false when the limit of samples is reached: add no more.
     [[nodiscard]] bool Add(const VyrLibraryUtils::Pictures::ByteView& fragment);
 
-    /// Of the longest track, in milliseconds.
+    /// The duration of the longest track, in milliseconds.
     [[nodiscard]] std::optional<std::uint64_t> Duration() const;
 
 private:
     struct Track
     {
         std::uint32_t unitsPerSecond = 0;
-        /// Of a sample, where a fragment does not tell.
+        /// The duration of a sample if the fragment does not say it.
         std::uint32_t usualDuration = 0;
         std::uint64_t duration = 0;
     };

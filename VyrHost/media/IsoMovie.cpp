@@ -24,7 +24,7 @@ using VyrPlatform::secondsToUnixEpoch;
 std::optional<VyrPlatform::FileTicks> CreationTime(std::uint64_t seconds)
 {
     constexpr std::uint64_t from1904To1970 = secondsToUnixEpoch - secondsTo1904;
-    // Beyond any year that is told.
+    // Later than any real date.
     constexpr std::uint64_t mostSeconds = std::uint64_t{1} << 40;
     if (seconds == 0 || seconds > mostSeconds)
         return std::nullopt;
@@ -98,8 +98,8 @@ void ReadExtension(const ByteView& extension, std::uint32_t unitsPerSecond, Movi
     movie.duration = Milliseconds(cursor.Unsigned(TakeIsLong(cursor) ? 8 : 4), unitsPerSecond);
 }
 
-/// The text that a key of QuickTime's metadata stands for; null for one that is not asked for. Apple's own keys stand
-/// behind its name, those that ffmpeg writes do not.
+/// The text that a key of QuickTime's metadata stands for; null for an unused key. Apple's keys begin with its name,
+/// those of ffmpeg do not.
 std::string Movie::*TextOfKey(std::string_view key)
 {
     struct Known
@@ -118,7 +118,7 @@ std::string Movie::*TextOfKey(std::string_view key)
     return found == std::end(known) ? nullptr : found->text;
 }
 
-/// The texts that the keys stand for, in their order.
+/// The texts that the keys stand for, in order.
 std::vector<std::string Movie::*> ReadKeys(const ByteView& keys)
 {
     constexpr std::uint64_t versionAndFlags = 4;
@@ -138,11 +138,11 @@ std::vector<std::string Movie::*> ReadKeys(const ByteView& keys)
     return texts;
 }
 
-/// QuickTime's metadata, whose values stand under the numbers of their keys, from 1 on. The first text of a sort
-/// counts. Source: Apple, QuickTime File Format, "Metadata".
+/// QuickTime's metadata: values by the numbers of their keys, from 1 on. The first text of each kind counts. Source:
+/// Apple, QuickTime File Format, "Metadata".
 void ReadMetadata(const ByteView& meta, Movie& movie)
 {
-    // MP4 has a version and flags in front, QuickTime itself has not.
+    // In MP4 the box begins with a version and flags, in QuickTime not.
     constexpr std::uint64_t versionAndFlags = 4;
     constexpr std::uint64_t typeField = 8;
     const ByteView boxes = meta.From(versionAndFlags).StartsWith("hdlr") ? meta : meta.From(versionAndFlags);
@@ -166,8 +166,8 @@ void ReadMetadata(const ByteView& meta, Movie& movie)
     });
 }
 
-/// What QuickTime keeps among the user's data: a length, a language, the text. Source: Apple, QuickTime File Format,
-/// "User Data Text Strings".
+/// QuickTime's user data: a length, a language, the text. Source: Apple, QuickTime File Format, "User Data Text
+/// Strings".
 void ReadUserData(const ByteView& userData, Movie& movie)
 {
     struct Known
@@ -175,7 +175,7 @@ void ReadUserData(const ByteView& userData, Movie& movie)
         std::uint32_t type;
         std::string Movie::*text;
     };
-    // "(c)nam" and its like, in Mac Roman.
+    // "(c)nam" and the like, in Mac Roman.
     constexpr Known known[] = {
         {0xA96E616D, &Movie::title}, {0xA9415254, &Movie::artist}, {0xA9616C62, &Movie::album},
         {0xA967656E, &Movie::genre}, {0xA9646179, &Movie::year},
@@ -215,7 +215,7 @@ void ReadMovieBox(const ByteView& content, Movie& movie)
         movie.created = instant;
 }
 
-/// The largest of the sizes that a picture's properties tell: that of the whole, not of its tiles.
+/// The largest of the sizes in a picture's properties: that of the whole picture, not of its tiles.
 void ReadPictureBox(const ByteView& meta, Movie& movie)
 {
     constexpr std::uint64_t versionAndFlags = 4;

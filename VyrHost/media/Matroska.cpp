@@ -49,7 +49,7 @@ enum class Id : std::uint32_t
     Cluster = 0x1F43B675
 };
 
-/// It bounds the search in a file of empty elements.
+/// Bounds the search in a file of empty elements.
 constexpr int mostElements = 10000;
 constexpr std::size_t longestText = 65536;
 
@@ -59,14 +59,14 @@ struct Element
     ByteView content;
 };
 
-/// How many bytes a number has whose first byte is `first`; 9 for a first byte of 0.
+/// The number of bytes of a number with the first byte `first`; 9 for a first byte of 0.
 std::size_t WidthOf(std::uint8_t first)
 {
     return static_cast<std::size_t>(std::countl_zero(first)) + 1;
 }
 
-/// The element at the cursor, which is skipped; nothing at the end and where there is none. A size of ones is unknown:
-/// the element reaches to the end.
+/// Takes the element at the cursor; nothing at the end or for an invalid one. If all bits of its size are set, the size
+/// is unknown: the element extends to the end.
 std::optional<Element> NextElement(ByteCursor& cursor)
 {
     const std::uint8_t firstOfId = cursor.U8();
@@ -88,7 +88,7 @@ std::optional<Element> NextElement(ByteCursor& cursor)
     return Element{static_cast<Id>(id), cursor.Take(size)};
 }
 
-/// Hands each element of `elements` to `use`, until that returns false.
+/// Passes each element of `elements` to `use`, until that returns false.
 template <class Use>
 void ForEachElement(const ByteView& elements, Use use)
 {
@@ -119,7 +119,7 @@ std::optional<VyrPlatform::FileTicks> DateIn(const ByteView& content)
     if (content.Size() != 8)
         return std::nullopt;
     const auto nanoseconds = static_cast<std::int64_t>(NumberIn(content));
-    // Towards the past, so that fractions are dropped alike on both sides.
+    // Rounds down also before the epoch.
     const std::int64_t seconds = nanoseconds / nanosecondsPerSecond - (nanoseconds % nanosecondsPerSecond < 0 ? 1 : 0);
     return InstantOf(secondsTo2001 + seconds);
 }
@@ -184,7 +184,7 @@ void ReadTracks(const ByteView& tracks, Movie& movie)
     });
 }
 
-/// The text of a movie that the tag `name` tells; null where it tells none.
+/// The text of a movie that the tag `name` contains; null if it contains none.
 std::string* TextFor(std::string_view name, Movie& movie)
 {
     struct Known
@@ -222,7 +222,7 @@ void ReadSimpleTag(const ByteView& tag, Movie& movie)
         *text = std::move(value);
 }
 
-/// Whether a tag is of the whole film: not of one of its tracks, editions, chapters or attachments.
+/// Whether a tag is about the whole film, not about a track, edition, chapter or attachment.
 bool IsOfAll(const ByteView& tag)
 {
     bool isOfAll = true;
@@ -252,7 +252,7 @@ void ReadTags(const ByteView& tags, Movie& movie)
     });
 }
 
-/// Where the directory of the segment says that `wanted` stands.
+/// The position of `wanted` according to the directory of the segment.
 std::optional<std::uint64_t> PlaceOf(Id wanted, const ByteView& directory)
 {
     std::optional<std::uint64_t> place;
@@ -274,7 +274,7 @@ std::optional<std::uint64_t> PlaceOf(Id wanted, const ByteView& directory)
     return place;
 }
 
-/// What writers put behind the pictures is found by the directory of the segment.
+/// Finds an element that writers put after the pictures, through the directory of the segment.
 std::optional<ByteView> FindByDirectory(Id wanted, const ByteView& directory, const ByteView& segment)
 {
     const std::optional<std::uint64_t> place = PlaceOf(wanted, directory);
@@ -285,7 +285,7 @@ std::optional<ByteView> FindByDirectory(Id wanted, const ByteView& directory, co
     return element && element->id == wanted ? std::optional(element->content) : std::nullopt;
 }
 
-/// The parts of a segment that are read, each once: the tags behind the head, whose title comes first.
+/// The parts of a segment that are read, each once: first the header, whose title takes precedence, then the tags.
 struct SegmentPart
 {
     Id id;
@@ -303,7 +303,7 @@ void ReadSegment(const ByteView& segment, Movie& movie)
         for (std::size_t part = 0; part < std::size(segmentParts); ++part)
             if (element.id == segmentParts[part].id && !found[part])
                 found[part] = element.content;
-        // From here on come the pictures.
+        // The pictures begin here.
         return element.id != Id::Cluster;
     });
     for (std::size_t part = 0; part < std::size(segmentParts); ++part) {

@@ -1,4 +1,4 @@
-// Opens a file once and asks the readers of its format.
+// Opens a file once and calls the readers of its format.
 #include <VyrHost/media/MediaValues.h>
 
 #include <VyrHost/media/ExifTags.h>
@@ -25,7 +25,7 @@ bool IsPacket(const Pictures::ByteView& bytes)
     return bytes.StartsWith("<?xpacket") || bytes.StartsWith("<x:xmpmeta") || bytes.StartsWith("<?xml");
 }
 
-/// The packet of XMP in the file, or the file itself where it is a sidecar.
+/// The XMP packet in the file, or the file itself if it is a sidecar.
 std::string PacketIn(Pictures::ByteSource& source)
 {
     constexpr std::size_t longestSidecar = std::size_t{1} << 20;

@@ -1,5 +1,5 @@
 /// @file
-/// What the content of a picture, a film or a piece of music tells about it.
+/// The metadata in a picture, a film or a piece of music.
 #pragma once
 
 #include <VyrHost/media/ExifTags.h>
@@ -13,20 +13,20 @@
 
 namespace VyrHost::Media {
 
-/// A date-time as a picture tells it: what the clock of the camera showed.
+/// A date-time in a picture: what the camera's clock showed.
 struct PictureDate
 {
     COleDateTime dateTime;
-    /// The digits of the fraction of a second as the picture has them: "05" is 50 ms; empty where it has none.
+    /// The digits of the fraction of a second: "05" is 50 ms; empty if there are none.
     CString fraction;
-    /// How far that clock was ahead of UTC, in minutes; nothing where the picture does not tell.
+    /// The clock's offset from UTC in minutes; nothing if the picture does not say it.
     std::optional<int> minutesAhead;
 
-    /// The instant to the second, where the picture tells how far its clock was ahead.
+    /// The instant to the second, if the offset is known.
     [[nodiscard]] std::optional<VyrPlatform::FileTicks> Instant() const;
 };
 
-/// What is asked of a file. Only what is asked for is read.
+/// Selects the values to read from a file.
 struct MediaQuestion
 {
     /// `width` and `height`.
@@ -41,17 +41,17 @@ struct MediaQuestion
     ExifTagSet exif = {};
 };
 
-/// What the file tells of what was asked. A text that is missing is empty, a number that is missing 0.
+/// The requested values. A missing text is empty, a missing number 0.
 struct MediaValues
 {
-    /// The system's code where the file cannot be read (no permission, a bad sector at its beginning); else 0. 0 for
-    /// folders, pipes and devices too, which tell nothing.
+    /// The system's error code if the file cannot be read (no permission, a bad sector at its beginning); else 0. Also
+    /// 0 for folders, pipes and devices.
     std::uint32_t error = 0;
 
-    /// In points, as a picture or film is stored: not turned by its orientation.
+    /// In pixels, as the picture or film is stored, not rotated by its orientation.
     std::uint32_t width = 0;
     std::uint32_t height = 0;
-    /// Of a film or a piece of music, in milliseconds; nothing where it does not tell.
+    /// The duration of a film or a piece of music, in milliseconds, if it is known.
     std::optional<std::uint64_t> duration;
 
     /// Texts have no control characters, no blanks around them, and at most 4096 code units.
@@ -63,15 +63,15 @@ struct MediaValues
     unsigned year = 0;
     CString genre;
 
-    /// When a film was made, by its head (UTC).
+    /// The creation time in a film's header (UTC).
     std::optional<VyrPlatform::FileTicks> videoCreated;
 
     /// Exif's DateTimeOriginal, and nothing else.
     std::optional<PictureDate> taken;
     /// Exif's DateTimeDigitized.
     std::optional<PictureDate> digitized;
-    /// XMP's CreateDate, else its DateCreated: of the packet in the picture, else of the sidecar beside it, `X.xmp` or
-    /// `X.JPG.xmp` for `X.JPG`.
+    /// XMP's CreateDate, else its DateCreated: from the packet in the picture, else from the sidecar beside it, `X.xmp`
+    /// or `X.JPG.xmp` for `X.JPG`.
     std::optional<PictureDate> xmpCreated;
 
     /// By ExifTag; see ExifTags.h.
@@ -80,8 +80,8 @@ struct MediaValues
     [[nodiscard]] const CString& Exif(ExifTag tag) const { return exif[static_cast<std::size_t>(tag)]; }
 };
 
-/// Reads what `question` asks of the file at `path`. The content tells the format; the name does not matter. A file of
-/// another kind, or a damaged one, leaves empty what it does not tell; time and memory are bounded for any file.
+/// Reads the values that `question` selects from the file at `path`. The content determines the format, not the name.
+/// Values that an unknown or damaged file lacks stay empty. Time and memory are bounded for any file.
 [[nodiscard]] MediaValues ReadMedia(const CString& path, const MediaQuestion& question);
 
 } // namespace VyrHost::Media

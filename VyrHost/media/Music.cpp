@@ -1,5 +1,5 @@
-// Lends TagLib the bytes of a file: by TagLib's own streams, the names of files would differ between the systems, and
-// nothing would bound what a damaged file makes it read.
+// Passes the bytes of a file to TagLib: with TagLib's own streams, file names would differ between the systems, and
+// nothing would limit what it reads of a damaged file.
 #include <VyrHost/media/Music.h>
 
 #include <VyrHost/media/Texts.h>
@@ -30,7 +30,7 @@ class BoundedStream final : public TagLib::IOStream
 public:
     explicit BoundedStream(const MusicBytes& bytes) : m_bytes(bytes), m_size(ToLong(bytes.Size())) {}
 
-    /// The name is not to decide.
+    /// The format must not depend on the name.
     TagLib::FileName name() const override { return ""; }
 
     TagLib::ByteVector readBlock(unsigned long length) override
@@ -106,14 +106,14 @@ TagLib::StringList ValuesOf(const TagLib::PropertyMap& properties, const char* n
     return properties.contains(name) ? properties[name] : TagLib::StringList();
 }
 
-/// All values of one property; of `other` where there are none.
+/// All values of one property; `other` if it has none.
 CString TextOfProperty(const TagLib::PropertyMap& properties, const char* name, const TagLib::String& other)
 {
     const TagLib::StringList values = ValuesOf(properties, name);
     return ToText(values.isEmpty() ? other : values.toString(", "));
 }
 
-/// The number at the front of a property, in its first `length` characters; `other` where there is none.
+/// The number at the start of a property, within its first `length` characters; `other` if there is none.
 unsigned NumberOf(const TagLib::PropertyMap& properties, const char* name, unsigned other, unsigned length = UINT_MAX)
 {
     const TagLib::StringList values = ValuesOf(properties, name);
@@ -130,7 +130,7 @@ void TakeTags(const TagLib::FileRef& music, MediaValues& values)
     values.artist = TextOfProperty(properties, "ARTIST", tag->artist());
     values.album = TextOfProperty(properties, "ALBUM", tag->album());
     values.genre = TextOfProperty(properties, "GENRE", tag->genre());
-    // The properties tell more than the tag itself does, of a WAV above all, and a negative number is none.
+    // The properties are more complete than the tag itself, especially for WAV, and negative numbers are ignored.
     values.track = NumberOf(properties, "TRACKNUMBER", tag->track());
     // A date may have no separators.
     constexpr unsigned digitsOfYear = 4;

@@ -1,5 +1,5 @@
 /// @file
-/// A file as the readers of its content take it.
+/// An open file for the content readers.
 #pragma once
 
 #include <VyrHost/media/Music.h>
@@ -23,7 +23,7 @@ public:
     {}
 
     [[nodiscard]] bool IsOpen() const { return m_file.IsOpen(); }
-    /// Why the file at `path` did not open: the system's code. 0 where it did, and for folders and devices.
+    /// The system's error code if the file at `path` did not open; 0 if it did, and for folders and devices.
     [[nodiscard]] std::uint32_t ErrorFor(const CString& path) const;
     [[nodiscard]] VyrLibraryUtils::Pictures::ByteSource& Source() { return m_source; }
     [[nodiscard]] std::uint64_t Size() const override { return m_file.Size(); }

@@ -16,13 +16,13 @@ namespace {
 
 namespace Pictures = VyrLibraryUtils::Pictures;
 
-/// Takes from the front of a text.
+/// Reads a text from its start.
 class Front
 {
 public:
     explicit Front(std::string_view text) : m_rest(text) {}
 
-    /// A number of exactly `count` digits; -1 where there is none, and nothing is taken.
+    /// Takes a number of exactly `count` digits; -1, without taking anything, if there is none.
     int Number(std::size_t count)
     {
         const std::string_view digits = m_rest.substr(0, count);
@@ -40,7 +40,7 @@ public:
         m_rest.remove_prefix(digits.size());
         return digits;
     }
-    /// The character at the front where it is one of `characters`, which is taken; else 0.
+    /// Takes the next character if it is one of `characters`; else 0.
     char OneOf(std::string_view characters)
     {
         if (m_rest.empty() || characters.find(m_rest.front()) == std::string_view::npos)
@@ -76,12 +76,12 @@ std::optional<int> TakeMinutesAhead(Front& front)
 
 CString ToText(std::string_view digits)
 {
-    // Nothing measures finer.
+    // The finest resolution.
     constexpr std::size_t most = 9;
     return TextOf(digits.substr(0, most));
 }
 
-/// `date` with what the tags `fraction` and `ahead` say.
+/// `date` with the fraction and the offset in the tags `fraction` and `ahead`.
 std::optional<PictureDate> Read(Pictures::ByteSource& picture, Pictures::PictureTag date, std::uint16_t fraction,
                                 std::uint16_t ahead)
 {

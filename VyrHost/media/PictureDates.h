@@ -1,5 +1,5 @@
 /// @file
-/// The dates that pictures and their packets of XMP tell.
+/// The dates in pictures and their XMP packets.
 #pragma once
 
 #include <VyrHost/media/MediaValues.h>
@@ -10,13 +10,13 @@
 
 namespace VyrHost::Media {
 
-/// A date-time as Exif ("2024:07:19 18:45:03") or XMP ("2024-07-19T18:45:03.25+02:00") writes it. A date alone is
-/// midnight. Nothing where there is no such day or time, and for a date of zeros alone.
+/// Parses a date-time of Exif ("2024:07:19 18:45:03") or XMP ("2024-07-19T18:45:03.25+02:00"). A date alone means
+/// midnight. Nothing for a day or time that does not exist, and for a date of zeros.
 [[nodiscard]] std::optional<PictureDate> ParsePictureDate(std::string_view text);
 
-/// Exif's DateTimeOriginal, with its fraction and how far its clock was ahead.
+/// Exif's DateTimeOriginal, with its fraction and its offset.
 [[nodiscard]] std::optional<PictureDate> ReadTaken(VyrLibraryUtils::Pictures::ByteSource& picture);
-/// Exif's DateTimeDigitized, likewise.
+/// Exif's DateTimeDigitized, in the same way.
 [[nodiscard]] std::optional<PictureDate> ReadDigitized(VyrLibraryUtils::Pictures::ByteSource& picture);
 /// XMP's CreateDate, else photoshop's DateCreated.
 [[nodiscard]] std::optional<PictureDate> ReadXmpDate(std::string_view packet);

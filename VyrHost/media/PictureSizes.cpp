@@ -25,7 +25,7 @@ std::uint32_t NumberOfTag(ByteSource& source, PictureTag tag)
     return value;
 }
 
-/// The first directory of a raw picture may describe a small preview, which says so.
+/// The first directory of a raw picture may describe a preview; a tag says so.
 PictureSize ReadTiffSize(ByteSource& source)
 {
     constexpr std::uint16_t kind = 0x00FE;
@@ -35,7 +35,7 @@ PictureSize ReadTiffSize(ByteSource& source)
     return {NumberOfTag(source, ImageTag(0x0100)), NumberOfTag(source, ImageTag(0x0101))};
 }
 
-/// What lies between the borders of the sensor: top, left, bottom, right.
+/// The area within the borders of the sensor: top, left, bottom, right.
 PictureSize ReadRw2Size(ByteSource& source)
 {
     const auto border = [&source](std::uint16_t number) {
@@ -66,7 +66,7 @@ PictureSize ReadPsdSize(const ByteView& psd)
     return {cursor.U32(), height};
 }
 
-/// Bits from the lowest of each byte on; 0 behind the last.
+/// Reads bits, the lowest of each byte first; 0 after the last one.
 class Bits
 {
 public:
@@ -97,7 +97,7 @@ std::uint32_t TakeLength(Bits& bits, bool isSmall)
     return bits.Take(width) + 1;
 }
 
-/// The head of a stream behind its mark.
+/// The header of a codestream after its signature.
 PictureSize ReadStreamSize(const ByteView& stream)
 {
     constexpr auto mark = "\xFF\x0A"sv;
@@ -108,7 +108,7 @@ PictureSize ReadStreamSize(const ByteView& stream)
     Bits bits(head);
     const bool isSmall = bits.Take(1) != 0;
     const std::uint32_t height = TakeLength(bits, isSmall);
-    // Width to height; without one the width stands there itself.
+    // The ratio of width to height; without one the width itself follows.
     struct Ratio
     {
         std::uint64_t width;
@@ -121,7 +121,7 @@ PictureSize ReadStreamSize(const ByteView& stream)
     return {width, height};
 }
 
-/// Of the stream, or of its first part, in its boxes.
+/// The size of the codestream, or of its first part, in a container.
 PictureSize ReadBoxedStreamSize(const ByteView& file)
 {
     constexpr int mostBoxes = 1000;

@@ -8,9 +8,9 @@
 
 namespace VyrHost::Media {
 
-/// The size of a picture that ReadPictureSize reads, or of a TIFF, a raw one in its form, RAF, PSD or JPEG XL: that of
-/// the whole, not of a preview, and of a RAF that of the JPEG in it. Sources: TIFF 6.0, section 8; ISO/IEC 18181-1,
-/// annex D.2; Adobe, Photoshop file formats, "File header section".
+/// The size of a picture that ReadPictureSize reads, or of a TIFF, a raw picture in that format, RAF, PSD or JPEG XL:
+/// the size of the whole picture, not of a preview; for RAF, of the JPEG in it. Sources: TIFF 6.0, section 8; ISO/IEC
+/// 18181-1, annex D.2; Adobe, Photoshop file formats, "File header section".
 [[nodiscard]] std::optional<VyrLibraryUtils::Pictures::PictureSize>
 ReadSizeOfPicture(VyrLibraryUtils::Pictures::ByteSource& source);
 

@@ -11,7 +11,7 @@ namespace VyrHost::Media {
 namespace {
 
 constexpr std::size_t longestText = 4096;
-/// What is worth converting: every code unit of the result comes from at most so many bytes.
+/// More bytes need not be converted: each code unit of the result takes at most four.
 constexpr std::size_t longestBytes = 4 * longestText;
 
 bool IsBlank(char16_t unit)
@@ -32,7 +32,7 @@ std::u16string FromLatin1(std::string_view bytes)
     return text;
 }
 
-/// Without a character at the end that is cut off.
+/// Removes an incomplete character at the end.
 std::string_view CutUtf8(std::string_view bytes)
 {
     if (bytes.size() <= longestBytes)

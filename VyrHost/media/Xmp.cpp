@@ -10,7 +10,7 @@ namespace VyrHost::Media {
 namespace {
 
 constexpr std::string_view blanks = " \t\r\n";
-/// They bound the work on a hostile packet, which may repeat an unfinished part thousands of times.
+/// Bound the work on a hostile packet, which may repeat an unfinished part thousands of times.
 constexpr std::size_t longestDeclaration = 256;
 constexpr int mostElements = 8;
 constexpr int mostItems = 200;
@@ -58,7 +58,7 @@ void AppendUtf8(std::string& text, std::uint32_t character)
         text += static_cast<char>(0x80 | (character >> 6 * left & 0x3F));
 }
 
-/// Appends the character that `name` stands for, as in "&amp;"; nothing for one that is not known.
+/// Appends the character that `name` stands for, as in "&amp;"; nothing for an unknown one.
 void AppendReference(std::string& text, std::string_view name)
 {
     if (name.starts_with('#')) {
@@ -99,7 +99,7 @@ std::string Plain(std::string_view markup)
     return text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
 }
 
-/// The items of a list, or the text that stands there without one.
+/// The items of a list, or the plain text.
 std::string TextOfContent(std::string_view content)
 {
     constexpr std::string_view item = "<rdf:li";
@@ -118,7 +118,7 @@ std::string TextOfContent(std::string_view content)
     return text;
 }
 
-/// The name as an attribute, behind a blank and before its "=".
+/// The name as an attribute, after a blank and before its "=".
 std::string AttributeOf(std::string_view packet, std::string_view name)
 {
     for (std::size_t at = packet.find(name); at != std::string_view::npos; at = packet.find(name, at + 1)) {

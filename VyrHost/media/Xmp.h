@@ -1,5 +1,5 @@
 /// @file
-/// Properties in a packet of XMP.
+/// Reads properties from an XMP packet.
 #pragma once
 
 #include <string>
@@ -7,7 +7,7 @@
 
 namespace VyrHost::Media {
 
-/// The namespaces of the properties that are read.
+/// The namespaces of XMP properties.
 namespace XmpSpace {
 inline constexpr std::string_view dublinCore = "http://purl.org/dc/elements/1.1/";
 inline constexpr std::string_view basic = "http://ns.adobe.com/xap/1.0/";
@@ -17,9 +17,9 @@ inline constexpr std::string_view auxiliary = "http://ns.adobe.com/exif/1.0/aux/
 } // namespace XmpSpace
 
 /// The value of the property `name` of the namespace `space`, in UTF-8: an attribute, or the text of an element. The
-/// items of a list are joined by ", "; of a text in several languages the first counts, which is the default. Empty
-/// where the packet lacks it. At most 200 items count. A packet that is cut off or is not well-formed gives what is
-/// before that place. Source: ISO 16684-1, section 7.
+/// items of a list (at most 200) are joined by ", "; of a text in several languages the first, which is the default,
+/// counts. Empty if the packet lacks it. A packet that is truncated or not well-formed is read up to that point.
+/// Source: ISO 16684-1, section 7.
 [[nodiscard]] std::string XmpProperty(std::string_view packet, std::string_view space, std::string_view name);
 
 } // namespace VyrHost::Media

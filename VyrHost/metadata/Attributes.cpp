@@ -111,14 +111,14 @@ bool AttributesChange::HasOthersAsBefore(std::uint32_t now) const
     return ((now ^ m_bits.before) & ~m_bits.mask & SettableBits()) == 0;
 }
 
-/// A change that sets or clears the protection itself knows what was there before.
+/// A change that sets or clears the protection knows the old value itself.
 bool AttributesChange::MayLiftProtection() const
 {
     return (m_bits.mask & readOnly) == 0;
 }
 
-/// A file may have lost its protection only, or, of its permissions to write, all but the owner's. One that becomes
-/// read-only may have the attribute, and still be writable.
+/// A file may have lost only its protection, or all write permissions except the owner's. One that becomes read-only
+/// may have the attribute and still be writable.
 void AttributesChange::Repair(const CString& path) const
 {
     const std::uint32_t now = FileAttributes::Get(path);
@@ -129,7 +129,7 @@ void AttributesChange::Repair(const CString& path) const
     }
     const bool wasProtected = (m_bits.before & ~m_bits.mask & readOnly) != 0;
     const bool isUnprotected = wasProtected && !FileAttributes::IsReadOnly(path);
-    // Where it cannot be restored, the file stays as it is, and the work on it tells why.
+    // If it cannot be restored, the file stays as it is, and the change reports why.
     if (isUnprotected || (Look(path).state == ChangeState::Before && HasOthersAsBefore(now)))
         static_cast<void>(VyrPlatform::ExactState::Restore(path, Part::Attributes, m_bits.beforeState));
 }

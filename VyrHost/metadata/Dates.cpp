@@ -191,7 +191,7 @@ Time TakeTime(Front front)
     const bool isSentence = front.TakeText(u" at ");
     if (!isSentence)
         front.TakeSeparator(u"-_.T ");
-    // An hour of one digit alone: minutes follow behind a separator.
+    // An hour of one digit: a separator and minutes follow.
     const std::size_t digitsOfHour = isSentence && front.CountDigits() == 1 ? 1 : 2;
     if (!front.TakeNumber(digitsOfHour, hour))
         return none;

@@ -46,7 +46,7 @@ enum class NameDateProblem : std::uint8_t
     NoDate,
     /// Some have, but there is no such day.
     NoSuchDay,
-    /// There is such a day, but not the time behind it.
+    /// There is such a day, but not the time after it.
     NoSuchTime
 };
 
@@ -61,15 +61,15 @@ struct NameDate
 
 /// Finds the first date in `name`.
 ///
-/// A date is a year from 1900 to 2099, a month and a day. No digit stands before it. Its parts have no separators, or
+/// A date is a year from 1900 to 2099, a month and a day. It does not follow a digit. Its parts have no separators, or
 /// the same one of `-`, `_`, `.` and blank.
 ///
 /// A time of day may follow, directly or after one of `-`, `_`, `.`, `T`, blank and " at ": two digits each for hour,
 /// minute and optionally second, without separators or with `-`, `_`, `.` or `:`. Three digits of milliseconds may
 /// follow, also after `.` or `,`. Behind " at " an hour before a separator may have one digit, and AM or PM may follow.
 ///
-/// A date is skipped when there is no such day, or when the hour, minute and second behind it are impossible. Other
-/// digits behind a date are not a time.
+/// A date is skipped when there is no such day, or when the hour, minute and second after it are impossible. Other
+/// digits after a date are not a time.
 ///
 /// "IMG_20240105_103000.jpg" and "2024-01-05 10.30.00.jpg" contain 5 January 2024 10:30:00, "IMG-20240105-WA0001.jpg"
 /// contains 5 January 2024 without a time.

@@ -153,10 +153,10 @@ CString MarkChange::ShownAfter() const
     return u"no mark";
 }
 
-/// The work lifts the protection of a file against writing.
+/// The work makes a read-only file writable.
 void MarkChange::Repair(const CString& path) const
 {
-    // Where it cannot be restored, the file stays as it is, and the work on it tells why.
+    // If it cannot be restored, the file stays as it is, and the change reports why.
     if (!m_protection.IsEmpty() && !VyrPlatform::FileAttributes::IsReadOnly(path))
         static_cast<void>(VyrPlatform::ExactState::Restore(path, Part::Attributes, m_protection));
 }
@@ -175,7 +175,7 @@ ChangeLook MarkChange::Look(const CString& path) const
     return {isPart ? ChangeState::Partly : ChangeState::Other, 0};
 }
 
-/// Whether it is a form of before, or one whose writing was cut off: that is empty.
+/// Whether it is an old form, or an empty one, whose writing was cut off.
 bool MarkChange::IsPart(const ZoneForm& form) const
 {
     return std::any_of(m_forms.begin(), m_forms.end(), [&form](const ZoneForm& before) {
@@ -201,7 +201,7 @@ std::uint32_t MarkChange::Undo(const CString& path) const
     return WriteMissing(path);
 }
 
-/// Writes the forms that are not as they were before, also those behind one that cannot be written.
+/// Restores the forms that have changed; continues after one that cannot be written.
 /// @return 0, or the first error.
 std::uint32_t MarkChange::WriteMissing(const CString& path) const
 {

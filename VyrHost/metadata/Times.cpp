@@ -147,7 +147,7 @@ CString TimesChange::ShownAfter() const
     });
 }
 
-/// A creation time may be kept where only a file that can be written to takes it; it is restored all the same.
+/// Some file systems store a creation time only for writable files; it is restored all the same.
 bool TimesChange::MayLiftProtection() const
 {
     return std::any_of(m_steps.begin(), m_steps.end(),
@@ -162,7 +162,7 @@ ChangeLook TimesChange::Look(const CString& path) const
         if (!now)
             return {ChangeState::Unknown, ErrorOf(path)};
         const ChangeState state = StateOf(step, *now);
-        // Who reads a file changes the time of the last access; the other times are judged without it.
+        // Reading a file changes the time of its last access, so the other times are compared without it.
         if (state == ChangeState::Other && step.date == FileDate::Accessed)
             look.left = u"the time of the last access, which has changed since, stays";
         else if (state == ChangeState::Other)

@@ -30,7 +30,7 @@ struct TimeStep
 /// Sets times by DateTimeFuncs::SetModifiedFileDateTime, and restores them to the file system's precision.
 ///
 /// A time is regarded as set where the file has it as the file system counts: in microseconds, hundredths of a second,
-/// seconds or pairs of seconds. One of the last access that has changed since is left, and the others are undone.
+/// seconds or pairs of seconds. An undo leaves a last-access time that has changed since, and restores the others.
 class TimesChange final : public Model::Change
 {
 public:
@@ -67,7 +67,7 @@ struct TimeSource
 {
     enum class Kind : std::uint8_t
     {
-        /// As typed; where only a date or a time of day was typed, the other part is that of the time to be set.
+        /// As typed; if only a date or a time of day was typed, the other part is that of the time to be set.
         Typed,
         Modified,
         Created,

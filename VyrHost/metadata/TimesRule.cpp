@@ -76,8 +76,8 @@ LocalTime FromTicks(FileTicks ticks)
     return {value, fraction, ticks, SecondsOnClock(value) - (ticks - fraction) / ticksPerSecond};
 }
 
-/// The typed date-time, of which a part is missing, with that of the file's `own`: a time of day to its fraction of a
-/// second, and in the occurrence that it is of an hour that exists twice.
+/// The typed date-time, with its missing part from the file's `own` time: a time of day includes its fraction of a
+/// second, and its occurrence of an hour that exists twice.
 LocalTime Completed(const Text::TypedDateTime& typed, const LocalTime& own)
 {
     if (typed.hasTime)

@@ -1,5 +1,5 @@
 /// @file
-/// The dates of an entry that a rule may take.
+/// The dates of an entry that rules can use.
 #pragma once
 
 #include <cstddef>
@@ -8,14 +8,14 @@
 
 namespace VyrHost::Model {
 
-/// Where the date of an entry is taken from.
+/// The source of the date of an entry.
 enum class DateSource : std::uint8_t
 {
     /// When a picture was taken: Exif's DateTimeOriginal.
     PictureTaken,
     /// When a picture was digitized: Exif's DateTimeDigitized.
     Digitized,
-    /// When XMP says that it was made: in the picture, or in the sidecar beside it.
+    /// The creation date in XMP: in the picture, or in the sidecar beside it.
     Xmp,
     /// When a film was made.
     Video,

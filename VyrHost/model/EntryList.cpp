@@ -1,4 +1,4 @@
-// Cuts the names of entries.
+// Splits the names of entries.
 #include <VyrHost/model/EntryList.h>
 
 #include <VyrLibraryUtils/FileUtils.h>

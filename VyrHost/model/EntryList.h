@@ -1,5 +1,5 @@
 /// @file
-/// The entries that a call is about, in the order of the list.
+/// The entries of a call, in order.
 #pragma once
 
 #include <VyrHost/model/FolderSet.h>
@@ -12,16 +12,16 @@
 
 namespace VyrHost::Model {
 
-/// A file or folder of the list. A million of them are kept, so each is a few words.
+/// A file or folder of the list. Small, since there may be a million of them.
 struct Entry
 {
     InternedName name;
     std::uint32_t folder = 0;
-    /// As the folder's listing tells it; Missing when the folder has no such name.
+    /// The kind in the folder's listing; Missing when the folder has no such name.
     VyrPlatform::FileSystem::Kind kind = VyrPlatform::FileSystem::Kind::Missing;
 };
 
-/// A name cut as the rules see it.
+/// A name and its extension, for the rules.
 struct SplitName
 {
     CString name;
@@ -29,8 +29,8 @@ struct SplitName
     CString extension;
 };
 
-/// Cuts the name of `entry`, whose full path is `path`, as NameFuncs::GetFName and GetExtension do, without asking the
-/// system what it is: the entry knows.
+/// Splits the name of `entry`, whose full path is `path`, as NameFuncs::GetFName and GetExtension do, but without
+/// querying the system: the entry has its kind.
 [[nodiscard]] SplitName Split(const CString& path, const Entry& entry);
 
 struct EntryList
@@ -38,7 +38,7 @@ struct EntryList
     FolderSet folders;
     std::vector<Entry> entries;
 
-    /// Writes each entry's place down with its name.
+    /// Sets the owner of each entry's name.
     void NumberOwners();
 
     [[nodiscard]] CString PathOf(const Entry& entry) const

@@ -1,4 +1,4 @@
-// Lists each folder once and remembers it by number.
+// Lists each folder once and assigns a number to it.
 #include <VyrHost/model/FolderSet.h>
 
 #include <VyrHost/model/NaturalOrder.h>
@@ -11,7 +11,7 @@ namespace VyrHost::Model {
 
 std::u16string_view FolderPart(std::u16string_view path)
 {
-    // Asked once, not for each character: a call into another library costs more than the comparison.
+    // Queried once, not for each character: a call into another library costs more than the comparison.
     static const std::u16string_view separators = VyrPlatform::FileSystem::IsSeparator(u'\\') ? u"\\/" : u"/";
     const std::size_t last = path.find_last_of(separators);
     return path.substr(0, last == std::u16string_view::npos ? 0 : last + 1);
@@ -60,12 +60,12 @@ std::optional<std::uint32_t> FolderSet::FindOpened(const CString& path) const
     return known != m_byPath.end() && m_folders[known->second].wasOpened ? std::optional(known->second) : std::nullopt;
 }
 
-/// The number of the folder at `path`; those of the folders that it stands in are lower.
+/// The number of the folder at `path`; its parents have lower numbers.
 std::uint32_t FolderSet::NumberOf(const CString& path)
 {
     const std::u16string_view text = path;
     const auto root = static_cast<std::size_t>(VyrLibraryUtils::FileUtils::GetSplitPath(path, 1).GetLength());
-    // Where the paths of the folders end that are not known yet, the innermost first.
+    // The lengths of the paths of folders that are not known yet, the innermost first.
     std::vector<std::size_t> ends;
     std::size_t end = text.size();
     auto known = m_byPath.find(path);
@@ -110,7 +110,7 @@ void FolderSet::List(Folder& folder)
     if (folder.exists)
         folder.names.SetFolding(VyrHostPlatform::GetNameFolding(folder.path));
     folder.names.Reserve(listed.size());
-    // In this order the texts stand side by side in memory.
+    // Sorted first, so that the texts are in this order in memory.
     SortNaturally(listed);
     for (ListedName& one : listed)
         one.name = m_texts->Intern(one.name);

@@ -1,5 +1,5 @@
 /// @file
-/// The folders that a list of entries touches, each listed once; and the folder in the text of a path.
+/// The folders of a list of entries, each listed once; and the folder part of a path.
 #pragma once
 
 #include <VyrHost/model/NamePool.h>
@@ -16,17 +16,17 @@
 
 namespace VyrHost::Model {
 
-/// All of `path` up to its last separator, which is part of it; empty when there is none. The text alone counts.
+/// `path` up to and including its last separator; empty when it has none. The disk is not read.
 [[nodiscard]] std::u16string_view FolderPart(std::u16string_view path);
 
-/// What follows that folder in `path`: the name. All of it when there is no separator.
+/// The rest of `path` after FolderPart: the name.
 [[nodiscard]] std::u16string_view NamePart(std::u16string_view path);
 
-/// The name of the folder that `path` (absolute) is in for the `level` 1, of the one above it for 2, and so on. Empty
-/// for a root, and where there is no such folder.
+/// The name of the parent folder of `path` (absolute) for the `level` 1, of its parent for 2, and so on. Empty for a
+/// root, and if there is no such folder.
 [[nodiscard]] std::u16string_view ParentName(std::u16string_view path, int level);
 
-/// Stands for "no folder" where the number of a folder is asked for.
+/// Means "no folder" in place of a folder's number.
 inline constexpr std::uint32_t noFolder = UINT32_MAX;
 
 /// A folder and the names in it.
@@ -34,23 +34,23 @@ struct Folder
 {
     /// Absolute, its separator at the end.
     CString path;
-    /// The folder that it is in; noFolder for a root.
+    /// Its parent; noFolder for a root.
     std::uint32_t parent = noFolder;
-    /// Its name there; the path of a root.
+    /// Its name in its parent; for a root, its path.
     InternedName name;
-    /// What stands before an entry's name when it is shown: the folder as the user named it.
+    /// Shown before the names of its entries: the folder as the user named it.
     CString shown;
-    /// What the listing brings, in natural order.
+    /// The listed names, in natural order.
     NameTable names;
-    /// False for a folder that is known only because another one stands in it: then the fields below mean nothing.
+    /// False for a folder that is known only as a parent of another one; the fields below are then not set.
     bool wasOpened = false;
-    /// The disk has it: its listing is in `names`.
+    /// It exists, and `names` has its listing.
     bool exists = false;
-    /// The disk does not have it, and the batch can create it.
+    /// It does not exist, and the batch can create it.
     bool isNew = false;
-    /// Why it could not be listed (the system's code); 0 when it was.
+    /// The system's error code if it could not be listed; else 0.
     std::uint32_t error = 0;
-    /// The file system that it is on (FileIdentity); nothing where the system does not tell.
+    /// Its file system (FileIdentity); nothing if unknown.
     std::optional<std::uint64_t> device;
 };
 
@@ -62,28 +62,28 @@ struct IdentityHash
     }
 };
 
-/// Gives each folder a number and keeps its listing. References to folders stay good for the life of the set.
+/// Assigns a number to each folder and keeps its listing. References to folders stay valid for the life of the set.
 class FolderSet
 {
 public:
-    /// The number of the folder `path` (absolute, its separator at the end), listed when it is opened for the first
-    /// time. Two paths to one folder give one number; the first path stays. `shown` is taken for a new one. The folders
-    /// that it stands in get numbers, too.
+    /// The number of the folder `path` (absolute, with a separator at its end), which is listed when it is opened for
+    /// the first time. Two paths of one folder have one number; the first path is kept. `shown` is used for a new one.
+    /// Its parents get numbers, too.
     std::uint32_t Open(const CString& path, const CString& shown);
 
-    /// The number of the folder `path`, where it was opened under that path; nothing otherwise.
+    /// The number of the folder `path` if it was opened under that path.
     [[nodiscard]] std::optional<std::uint32_t> FindOpened(const CString& path) const;
 
     [[nodiscard]] Folder& operator[](std::uint32_t folder) { return m_folders[folder]; }
     [[nodiscard]] const Folder& operator[](std::uint32_t folder) const { return m_folders[folder]; }
     [[nodiscard]] std::uint32_t Count() const { return static_cast<std::uint32_t>(m_folders.size()); }
 
-    /// Frees what only look-ups of names need, until the next one.
+    /// Frees the memory for looking up names, until the next look-up.
     void ForgetIndexes();
 
-    /// Keeps the text of a name as long as the set lives.
+    /// Stores the text of a name for the life of the set.
     [[nodiscard]] InternedName Intern(std::u16string_view name) { return m_texts->Intern(name); }
-    /// Holds all names.
+    /// The pool of all names.
     [[nodiscard]] const std::shared_ptr<NamePool>& Texts() const { return m_texts; }
 
 private:

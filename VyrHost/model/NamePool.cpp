@@ -1,4 +1,4 @@
-// Keeps texts one behind another in blocks.
+// Stores texts one after another in blocks.
 #include <VyrHost/model/NamePool.h>
 
 #include <algorithm>

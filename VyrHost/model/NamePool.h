@@ -1,5 +1,5 @@
 /// @file
-/// Keeps the names of a million entries without an allocation for each.
+/// Stores the names of a million entries without an allocation for each.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@
 
 namespace VyrHost::Model {
 
-/// A text that a NamePool keeps, as long as that lives. Lists of a million names have one for each, so it is one word.
+/// A text in a NamePool, valid as long as that lives. One pointer, since lists have a million of them.
 class InternedName
 {
 public:
@@ -34,13 +34,13 @@ private:
     friend class NamePool;
     explicit InternedName(const char16_t* text) noexcept : m_text(text) {}
 
-    /// The length stands before the text.
+    /// The length precedes the text.
     static constexpr std::size_t lengthUnits = sizeof(std::uint32_t) / sizeof(char16_t);
     static constexpr char16_t noText[lengthUnits + 1] = {};
     const char16_t* m_text = noText + lengthUnits;
 };
 
-/// Texts one behind another in large blocks. Those that are kept may be read on one thread while another keeps more.
+/// Stores texts one after another in large blocks. One thread may read stored texts while another adds more.
 class NamePool
 {
 public:

@@ -13,8 +13,8 @@ using VyrHostPlatform::NameFolding;
 namespace {
 
 constexpr std::size_t firstSlots = 16;
-/// How far a loop over names asks for their slots in advance. Without that the preview of a million names takes a
-/// twentieth more time.
+/// How far a loop over names prefetches their slots. Without it the preview of a million names takes a twentieth more
+/// time.
 constexpr std::size_t ahead = 8;
 
 std::uint32_t HashOf(std::u16string_view name)
@@ -96,14 +96,14 @@ void NameTable::Reserve(std::size_t count)
 
 void NameTable::ForgetIndex()
 {
-    // Not "= {}", which would keep the memory.
+    // "= {}" would keep the memory.
     m_slots = std::vector<Slot>();
 }
 
-/// Has an index of the records, with room for `count`.
+/// Makes the index of the records, with room for `count`.
 void NameTable::MakeIndexFor(std::size_t count) const
 {
-    // A third of the slots stays free, so that runs stay short.
+    // A third of the slots stays free to keep runs short.
     const std::size_t needed = count + count / 2;
     if (needed <= m_slots.size())
         return;

@@ -14,10 +14,10 @@
 
 namespace VyrHost::Model {
 
-/// Stands for "no entry" where the index of an entry is asked for.
+/// Means "no entry" in place of an entry's index.
 inline constexpr std::uint32_t noEntry = UINT32_MAX;
 
-/// A name as its folder lists it.
+/// A name in the listing of its folder.
 struct ListedName
 {
     InternedName name;
@@ -29,48 +29,48 @@ struct ListedName
 struct NameRecord
 {
     InternedName name;
-    /// The entry of the list whose name it is.
+    /// The entry that has the name.
     std::uint32_t owner = noEntry;
-    /// What the disk has under this name.
+    /// The kind of the entry of this name on the disk.
     VyrPlatform::FileSystem::Kind kind = VyrPlatform::FileSystem::Kind::Missing;
     bool isLink = false;
 };
 
-/// Finds the names of a folder in constant time. References to records are good until the next name is added.
+/// Finds the names of a folder in constant time. References to records are valid until the next name is added.
 class NameTable
 {
 public:
-    /// How the folder compares names. To be set before the first name is added.
+    /// Sets how the folder compares names. Call it before the first name is added.
     void SetFolding(VyrHostPlatform::NameFolding folding) { m_folding = folding; }
     [[nodiscard]] VyrHostPlatform::NameFolding Folding() const { return m_folding; }
 
-    /// The record of `name`, or of what the folder takes for the same name; a null pointer when there is none.
+    /// The record of `name`, or of a name that is equal in this folder; a null pointer when there is none.
     [[nodiscard]] NameRecord* Find(std::u16string_view name);
     [[nodiscard]] const NameRecord* Find(std::u16string_view name) const;
     /// The record of `name`, added when there is none. The text of `name` must outlive the table.
     NameRecord& Add(InternedName name);
     /// Makes room for `count` names.
     void Reserve(std::size_t count);
-    /// Adds the names of a listing, in its order.
+    /// Adds the names of a listing, in order.
     void Add(const std::vector<ListedName>& listed);
-    /// Frees what only look-ups need. The next look-up takes the time to make it again.
+    /// Frees the index. The next look-up takes the time to make it again.
     void ForgetIndex();
 
     /// The records in the order in which they were added.
     [[nodiscard]] std::vector<NameRecord>& Records() { return m_records; }
     [[nodiscard]] const std::vector<NameRecord>& Records() const { return m_records; }
-    /// The place of a record among them.
+    /// The index of a record.
     [[nodiscard]] std::size_t NumberOf(const NameRecord& record) const
     {
         return static_cast<std::size_t>(&record - m_records.data());
     }
 
 private:
-    /// A name as it is looked for.
+    /// A name to look up.
     struct Key
     {
         std::u16string_view name;
-        /// Its key under the folding; not used where the folder overlooks nothing.
+        /// Its folded form; not used if the folder compares names exactly.
         CString folded;
         std::uint32_t hash;
     };
@@ -79,7 +79,7 @@ private:
     struct Slot
     {
         std::uint32_t hash = 0;
-        /// Of the record, plus 1; 0 for a free slot.
+        /// The index of the record plus 1; 0 for a free slot.
         std::uint32_t number = 0;
     };
 

@@ -28,7 +28,7 @@ void SkipZeros(std::u16string_view& text)
         text.remove_prefix(1);
 }
 
-/// Takes the numbers off the front of both and compares them: negative, zero or positive.
+/// Removes the numbers at the start of both and compares them: negative, zero or positive.
 int CompareNumbers(std::u16string_view& left, std::u16string_view& right)
 {
     SkipZeros(left);
@@ -40,13 +40,13 @@ int CompareNumbers(std::u16string_view& left, std::u16string_view& right)
         left.remove_prefix(1);
         right.remove_prefix(1);
     }
-    // Of two numbers the one with more digits is the greater.
+    // A number with more digits is greater.
     if (BeginsWithDigit(left))
         return 1;
     return BeginsWithDigit(right) ? -1 : order;
 }
 
-/// How much both begin with in common, less the digits at its end: those may be part of different numbers.
+/// The length of the common beginning, without the digits at its end: those may be part of different numbers.
 std::size_t CommonLength(std::u16string_view left, std::u16string_view right)
 {
     const std::size_t shorter = std::min(left.size(), right.size());
@@ -76,7 +76,7 @@ int CompareRuns(std::u16string_view left, std::u16string_view right)
     return static_cast<int>(!left.empty()) - static_cast<int>(!right.empty());
 }
 
-/// The first units of a name as a number: names whose keys differ are in the order of their keys.
+/// Encodes the first units of a name as a number: names whose keys differ are in the order of their keys.
 class KeyBuilder
 {
 public:
@@ -102,13 +102,13 @@ private:
             Push(Folded(unit));
             text.remove_prefix(1);
         } else {
-            // Beyond ASCII a byte does not tell the order.
+            // Beyond ASCII a byte does not determine the order.
             Push(0xFF);
             text = {};
         }
     }
 
-    /// A digit among other units, then how many digits there are, then the digits: so 9 comes before 10.
+    /// A digit among other units, then the number of digits, then the digits: so 9 comes before 10.
     void TakeNumber(std::u16string_view& text)
     {
         SkipZeros(text);

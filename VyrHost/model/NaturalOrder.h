@@ -1,5 +1,5 @@
 /// @file
-/// The order in which people expect names: 2 before 10, a and A together.
+/// The natural order of names: 2 before 10, a and A together.
 #pragma once
 
 #include <algorithm>
@@ -10,27 +10,27 @@
 
 namespace VyrHost::Model {
 
-/// Whether `left` comes before `right`: runs of ASCII digits by their value, ASCII letters without regard to case, all
-/// else by code unit. Names that are alike so far are ordered by their code units.
+/// Whether `left` comes before `right`: runs of ASCII digits by their value, ASCII letters ignoring case, everything
+/// else by code unit. Names that are equal in this order are ordered by their code units.
 [[nodiscard]] bool IsNaturallyLess(std::u16string_view left, std::u16string_view right);
 
-/// Numbers for names: where those of two names differ, the names are in their order.
+/// Sort keys for names: names whose keys differ are in the order of their keys.
 class NaturalKeys
 {
 public:
-    /// To be called for each of the names, before any is asked for its key.
+    /// Call it for each name before the first key is computed.
     void Take(std::u16string_view name);
     [[nodiscard]] std::uint64_t KeyOf(std::u16string_view name) const;
 
 private:
     std::u16string_view m_first;
     bool m_hasFirst = false;
-    /// How much all names begin with in common, less the digits at its end.
+    /// The length of the common beginning of all names, without the digits at its end.
     std::size_t m_common = 0;
 };
 
-/// Sorts `items` by their member `name` in natural order. Quicker than a sort by IsNaturallyLess where names begin
-/// alike, or stand far from each other in memory.
+/// Sorts `items` by their member `name` in natural order. Faster than a sort by IsNaturallyLess if names begin alike or
+/// are far apart in memory.
 template <class Item>
 void SortNaturally(std::vector<Item>& items)
 {

@@ -12,7 +12,7 @@ namespace VyrHost::Model {
 
 namespace {
 
-/// The folders that `folder` stands in: before the batch, and after it where the batch moves it.
+/// The folders that `folder` is in: before the batch, and after it where the batch moves it.
 std::array<PlanIndex, 2> ParentsOf(const RenamePlan& plan, const PlanFolder& folder)
 {
     const PlanIndex before = folder.place.folder;
@@ -116,7 +116,7 @@ bool IsEntrySound(const RenamePlan& plan, const PlanEntry& entry)
            (entry.folder < folders && plan.folders[entry.folder].place.folder == entry.from.folder);
 }
 
-/// Goes through the steps as they would be done.
+/// Simulates the steps.
 class StepCheck
 {
 public:
@@ -152,7 +152,7 @@ private:
 
     [[nodiscard]] bool IsThere(PlanIndex folder) const { return !m_plan.folders[folder].isNew || m_isMade[folder]; }
 
-    /// @return false when it was set already.
+    /// @return false when it was already set.
     static bool Set(std::vector<bool>& flags, PlanIndex index)
     {
         const bool wasSet = flags[index];

@@ -1,5 +1,5 @@
 /// @file
-/// A batch of renames as ordered steps: what the planner makes, the journal keeps and the executor performs.
+/// A batch of renames as ordered steps: made by the planner, stored by the journal, performed by the executor.
 #pragma once
 
 #include <VyrHost/model/FolderSet.h>
@@ -15,7 +15,7 @@
 
 namespace VyrHost::Model {
 
-/// The place in one of a plan's lists; `none` where there is nothing to point to.
+/// An index in one of a plan's lists; `none` for no item.
 using PlanIndex = std::uint32_t;
 constexpr PlanIndex none = std::numeric_limits<PlanIndex>::max();
 
@@ -28,14 +28,14 @@ struct Place
     friend bool operator==(const Place&, const Place&) noexcept = default;
 };
 
-/// A folder that the batch works in, or that stands above one.
+/// A folder that the batch works in, or a parent of one.
 ///
-/// Folders are kept as a tree, not as paths, since the batch may rename them: a place in a folder stays the same place
-/// whatever the folder is called meanwhile.
+/// Folders are a tree, not paths, since the batch may rename them: a place in a folder stays the same when the folder
+/// is renamed.
 struct PlanFolder
 {
-    /// Where the folder stands before the batch. A root has no parent, and its path, which ends in a separator, as its
-    /// name. Every parent stands before its folders in the list.
+    /// Where the folder is before the batch. A root has no parent, and its path, which ends in a separator, as its
+    /// name. Every parent is before its folders in the list.
     Place place;
     /// The batch makes it.
     bool isNew = false;
@@ -49,10 +49,10 @@ struct PlanEntry
     VyrPlatform::FileSystem::Kind kind = VyrPlatform::FileSystem::Kind::File;
     Place from;
     Place to;
-    /// Where the entry is a folder of the plan: its place among the folders.
+    /// If the entry is a folder of the plan: its index among the folders.
     PlanIndex folder = none;
-    /// The entry that stands at `to` before the batch: this one waits until that has left. Its own index where the file
-    /// system takes the old and the new name for one (a change of case).
+    /// The entry that is at `to` before the batch and has to leave it first. Its own index if the old and the new name
+    /// are equal for the file system (a change of case).
     PlanIndex waitsFor = none;
 };
 
@@ -62,7 +62,7 @@ struct PlanStep
     {
         /// Makes the folder `subject`.
         MakeFolder,
-        /// Gives the entry `subject` a temporary name in the folder where it stands, so that others can have its place.
+        /// Gives the entry `subject` a temporary name in its folder, so that others can have its place.
         UseTemporaryName,
         /// Gives the entry `subject` its new name.
         Rename
@@ -86,7 +86,7 @@ struct RenamePlan
     std::shared_ptr<NamePool> texts = std::make_shared<NamePool>();
 };
 
-/// Takes those folders of a set that a plan needs into the plan. Both must outlive it.
+/// Adds the folders of a set that a plan needs to the plan. Both must outlive it.
 class PlannedFolders
 {
 public:
@@ -94,31 +94,31 @@ public:
         : m_folders(folders), m_plan(plan), m_indexes(folders.Count(), none)
     {}
 
-    /// The place in the plan of the folder `number` of the set, which is added with those that it stands in.
+    /// Adds the folder `number` of the set with its parents, and returns its index in the plan.
     PlanIndex Add(std::uint32_t number);
-    /// The numbers in the set of the plan's folders.
+    /// The numbers of the plan's folders in the set.
     [[nodiscard]] const std::vector<std::uint32_t>& Numbers() const { return m_numbers; }
 
 private:
     const FolderSet& m_folders;
     RenamePlan& m_plan;
-    /// For each folder of the set its place in the plan.
+    /// For each folder of the set, its index in the plan.
     std::vector<PlanIndex> m_indexes;
     std::vector<std::uint32_t> m_numbers;
 };
 
-/// Where the folder `folder` stands before the batch, as a path.
+/// The path of the folder `folder` before the batch.
 [[nodiscard]] CString PathBefore(const RenamePlan& plan, PlanIndex folder);
 
-/// The folders in an order in which each comes after those that it stands in before the batch and after it. It is
-/// shorter than the list of folders when some would end up inside themselves.
+/// The folders in an order in which each comes after its parents, both those before the batch and those after it.
+/// Shorter than the list of folders when some would end up inside themselves.
 [[nodiscard]] std::vector<PlanIndex> OrderFolders(const RenamePlan& plan);
 
-/// What is wrong with `plan`, for people; empty when it keeps every promise that RenamePlan.h makes: its indexes are in
-/// range, its names are single parts of a path, its steps are complete and no folder ends up inside itself.
+/// The fault of `plan`, for people; empty for a valid one: its indexes are in range, its names are single parts of a
+/// path, its steps are complete and no folder ends up inside itself.
 [[nodiscard]] CString FindPlanFault(const RenamePlan& plan);
 
-/// Whether `place` is in a folder of `plan` that is there before the batch, and its name a single part of a path.
+/// Whether `place` is in a folder of `plan` that exists before the batch, and its name is a single part of a path.
 [[nodiscard]] bool IsPlaceSound(const RenamePlan& plan, const Place& place);
 
 } // namespace VyrHost::Model

@@ -1,5 +1,5 @@
 /// @file
-/// What was to be done, what became of it, and why: the same for all commands.
+/// The results of changes, with reasons, for all commands.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -19,13 +19,13 @@ enum class Status : std::uint8_t
 {
     /// It is done; in a preview: it can be done.
     Done,
-    /// Likewise, but with a number in the name, since the name itself is taken.
+    /// The same, but with a number in the name, since the name itself is taken.
     Numbered,
     /// There is nothing to do.
     Unchanged,
     /// The new name is taken, and the user asked to leave such entries alone.
     Skipped,
-    /// Done for the folder, but not for all that is in it.
+    /// Done for the folder, but not for everything in it.
     Incomplete,
     /// It was not tried; the reason says why.
     Refused,
@@ -37,7 +37,7 @@ enum class Status : std::uint8_t
 
 inline constexpr std::size_t statusCount = static_cast<std::size_t>(Status::NotReached) + 1;
 
-/// What became of one change.
+/// The result of one change.
 struct Outcome
 {
     Status status = Status::NotReached;
@@ -47,29 +47,29 @@ struct Outcome
     CString reason;
 };
 
-/// `reason`, a colon and `cause`; the one alone where the other is empty.
+/// `reason`, a colon and `cause`; only one of them if the other is empty.
 [[nodiscard]] CString ReasonAndCause(std::u16string_view reason, std::u16string_view cause);
 
 /// A path in two parts, so that a list of a million names need not join them. The texts belong to the list.
 struct ResultPath
 {
-    /// What stands before the name, with the separator at its end: the absolute path, and as the user named it.
+    /// The path before the name, with a separator at its end: absolute, and as the user named it.
     std::u16string_view folder;
     std::u16string_view shownFolder;
-    /// Empty where the folders are the whole paths.
+    /// Empty if the folders are the whole paths.
     std::u16string_view name;
 
     [[nodiscard]] bool IsEmpty() const { return folder.empty() && name.empty(); }
 };
 
-/// What a change in place sets, and what was there before, for people.
+/// The old and the new values of a change in place, for people.
 struct ResultValues
 {
     CString before;
     CString after;
 };
 
-/// How much there is in a folder.
+/// The content of a folder in numbers.
 struct TreeSize
 {
     /// The folder itself included.
@@ -80,7 +80,7 @@ struct TreeSize
     std::int64_t bytes = 0;
 };
 
-/// A change and what became of it. In a preview: what would.
+/// A change and its result; in a preview, the predicted one.
 struct Result
 {
     /// "rename", "copy" or "move", or the kind of a change in place, such as "times" (Change::Kind).
@@ -89,26 +89,26 @@ struct Result
     ResultPath from;
     /// The new path; empty for a change in place, and where there is none.
     ResultPath to;
-    /// Of a change in place. They are made when they are asked for, as most are not.
+    /// Returns the values of a change in place. Computed on demand, since most are not needed.
     std::function<ResultValues()> values;
 
     Status status = Status::NotReached;
     /// Why; empty when there is nothing to say.
     CString reason;
 
-    /// It tells of something in the folder that the result before it is about, and is not counted.
+    /// It is about something inside the folder of the result before it, and is not counted.
     bool isPart = false;
-    /// The dates that rules with a choice took, such as "picture"; empty without one.
+    /// The source of the date that rules used, if they had a choice, such as "picture"; else empty.
     CString dateFrom;
-    /// Why the new name would be refused on another system; empty where it would not.
+    /// The reason why another system would refuse the new name; else empty.
     std::u16string_view warning;
-    /// Whether the file was written to, or replaced by another, since the batch that is undone; nothing elsewhere.
+    /// Whether the file was modified or replaced since the batch that is undone; nothing in other cases.
     std::optional<bool> hasChanged;
     /// Of a folder that is copied or moved.
     std::optional<TreeSize> size;
 };
 
-/// The results of a command. Each feature keeps what it needs and makes its results when they are asked for.
+/// The results of a command. Each feature stores what it needs and makes its results on demand.
 class Results
 {
 public:
@@ -118,11 +118,11 @@ public:
     virtual ~Results() = default;
 
     [[nodiscard]] virtual std::size_t Count() const = 0;
-    /// The result at `index`, good until the next one is asked for.
+    /// The result at `index`, valid until the next call.
     [[nodiscard]] virtual Result At(std::size_t index) const = 0;
 };
 
-/// How many results have which status.
+/// Counts results by status.
 class Tally
 {
 public:
@@ -132,7 +132,7 @@ public:
     [[nodiscard]] std::size_t All() const;
     /// Whether nothing is incomplete, refused, failed or not reached.
     [[nodiscard]] bool IsWhole() const;
-    /// Those that are done, by their kinds.
+    /// The number of done results by kind.
     [[nodiscard]] const std::vector<std::pair<std::string_view, std::size_t>>& Done() const { return m_done; }
     /// The kind of the first result; empty where there is none.
     [[nodiscard]] std::string_view Kind() const { return m_kind; }

@@ -1,5 +1,5 @@
 /// @file
-/// Finds what belongs to a place, in tables as large as the longest lists.
+/// A fast map with places as keys, for the longest lists.
 #pragma once
 
 #include <VyrHost/model/RenamePlan.h>
@@ -20,7 +20,7 @@ class SlotTable
 public:
     SlotTable() : m_buckets(fewestBuckets) {}
 
-    /// The value at `key` in `folder`, good until the next Put; a null pointer when there is none.
+    /// The value at `key` in `folder`, valid until the next Put; a null pointer when there is none.
     [[nodiscard]] const Value* Find(PlanIndex folder, std::u16string_view key) const
     {
         const PlanIndex item = m_buckets[FindBucket(folder, key, HashOf(folder, key))].item;
@@ -28,8 +28,8 @@ public:
     }
     [[nodiscard]] const Value* Find(const Place& slot) const { return Find(slot.folder, slot.name); }
 
-    /// Puts `value` at `slot` where nothing is yet. The text of its name must outlive the table.
-    /// @return what is there now, good until the next call.
+    /// Puts `value` at `slot` if that is empty. The text of its name must outlive the table.
+    /// @return the value at `slot`, valid until the next call.
     Value& Put(const Place& slot, const Value& value)
     {
         // At most half full, so that a free bucket is near.
@@ -62,7 +62,7 @@ public:
 private:
     static constexpr std::size_t fewestBuckets = 16;
 
-    /// The upper half of a place's hash, and where it stands in the list of items.
+    /// The upper half of a place's hash, and its index in the list of items.
     struct Bucket
     {
         std::uint32_t tag = 0;

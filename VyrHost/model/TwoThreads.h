@@ -1,5 +1,5 @@
 /// @file
-/// Shares work on many files between two threads: most of its time goes by in calls of the system.
+/// Divides work on many files between two threads: it mostly waits for the system.
 #pragma once
 
 #include <cstddef>
@@ -7,9 +7,9 @@
 
 namespace VyrHost::Model {
 
-/// Calls `work` for the indexes from `first` up to `end` in two halves, the first of which gets a thread of its own
-/// where they are worth one. Returns when both are done.
-/// @param work  takes the first index of its half and the one behind its last. It throws nothing.
+/// Calls `work` for the two halves of the indexes from `first` to `end`, the first on a second thread if there are
+/// enough of them. Returns when both are done.
+/// @param work  takes the first index of its half and the one after its last. It must not throw.
 template <class Work>
 void OnTwoThreads(std::size_t first, std::size_t end, const Work& work)
 {

@@ -1,4 +1,4 @@
-// Gives names in the order of the list, and withdraws one when an entry has to keep its own.
+// Assigns names in the order of the list, and withdraws a name when another entry has to keep it.
 #include <VyrHost/rename/ConflictResolver.h>
 
 #include <VyrHost/rename/NewPlace.h>
@@ -64,15 +64,15 @@ private:
         }
     }
 
-    /// Gives the members of a group their names, or decides that they stay.
-    /// @param isAgain  the members may hold names already.
+    /// Assigns names to the members of a group, or decides that they keep their own.
+    /// @param isAgain  whether the members may have names already.
     void Decide(std::uint32_t group, bool isAgain)
     {
         m_members.clear();
         for (const std::uint32_t entry : m_groups.Members(group))
             if (TakesPart(entry))
                 m_members.push_back(entry);
-        // A member whose name does not change holds it from the beginning.
+        // A member whose name does not change has it from the beginning.
         if (isAgain || m_members.size() > 1)
             for (const std::uint32_t entry : m_members)
                 Release(entry);
@@ -89,11 +89,11 @@ private:
     struct Conflict
     {
         Reason reason;
-        /// The name is taken by another member of the group, which no number changes.
+        /// Whether another member of the group takes the name: numbering does not help then.
         bool isWithin;
     };
 
-    /// Gives each member the name that it wants; where one of those or its stem is taken, none of them.
+    /// Gives each member the name that it wants, or none of them if one of the names or stems is taken.
     std::optional<Conflict> GiveWanted(std::uint32_t group)
     {
         for (std::size_t place = 0; place < m_members.size(); ++place) {
@@ -154,7 +154,7 @@ private:
         }
     }
 
-    /// @param record  of `name`, which it may write in another way.
+    /// @param record  the record of `name`, which may have another spelling.
     void Give(std::uint32_t entry, Model::NameRecord& record, Model::InternedName name, Model::Status status)
     {
         Decision& decision = m_decisions[entry];
@@ -166,7 +166,7 @@ private:
         decision.status = decision.folder == own.folder && name == own.name ? Model::Status::Unchanged : status;
     }
 
-    /// The members keep their names; who was to get those is decided anew.
+    /// Makes the members keep their names. Entries that were to get those names are decided again.
     void Stay(Model::Status status, Reason reason)
     {
         for (const std::uint32_t entry : m_members) {
@@ -200,7 +200,7 @@ private:
             m_pending.push_back(std::exchange(held->second, group));
     }
 
-    /// Releases the name and the stem that the entry holds.
+    /// Releases the name and the stem of the entry.
     void Release(std::uint32_t entry)
     {
         Model::NameRecord* const record = Names(entry).Find(m_decisions[entry].name);
@@ -228,13 +228,13 @@ private:
         if (main != Model::noEntry && wanted.View().starts_with(WantedName(main).View()))
             return NumberedNameOf(main).OfSidecar(wanted.View().substr(WantedName(main).View().size()));
         const Model::Folder& folder = m_list.folders[m_decisions[entry].folder];
-        // Split as the engine does: by the kind of what has the name, if anything does.
+        // Split like the engine: by the kind of the entry that has the name, if there is one.
         const Model::NameRecord* const listed = folder.names.Find(wanted);
         const Kind kind = listed ? listed->kind : m_list.entries[entry].kind;
         return {CString::Join({folder.path, wanted}), kind == Kind::Folder};
     }
 
-    /// The next attempt for entries that want the same name, or the same stem.
+    /// The number of the next attempt for entries that want the same name or stem.
     std::uint64_t& AttemptOf(std::uint32_t entry)
     {
         return HasStem(entry) ? m_stemAttempts[StemOf(entry, m_decisions[entry].folder, WantedName(entry))]
@@ -242,7 +242,7 @@ private:
                                             Names(entry).NumberOf(Names(entry).Add(WantedName(entry)))}];
     }
 
-    /// A folder, and a name in it without its extension; that of a sidecar also without the extension of its file.
+    /// A folder, and a name in it without the extension; for a sidecar also without the extension of its file.
     using Stem = std::pair<std::uint32_t, CString>;
 
     /// Whether the entry shares its stem with its group alone.
@@ -260,7 +260,7 @@ private:
         return {folder, VyrHostPlatform::FoldName(stem, in.names.Folding())};
     }
 
-    /// Whether no other group gets the stem of `name`, so that files of two groups never look like one.
+    /// Whether no other group gets the stem of `name`; otherwise files of two groups would look like one group.
     [[nodiscard]] bool IsStemFree(std::uint32_t entry, std::u16string_view name) const
     {
         if (!HasStem(entry))
@@ -275,7 +275,7 @@ private:
         return goesToOther ? Reason::TwoToOne : Reason::TargetExists;
     }
 
-    /// The names after the batch in the folder that `entry` is in then.
+    /// The names in the new folder of `entry` after the batch.
     [[nodiscard]] Model::NameTable& Names(std::uint32_t entry) { return m_after.In(m_decisions[entry].folder); }
 
     Model::EntryList& m_list;
@@ -286,13 +286,13 @@ private:
     const bool m_mayNumber;
     /// Groups to decide.
     std::vector<std::uint32_t> m_pending;
-    /// The members that take part of the group in hand.
+    /// The members of the current group that take part.
     std::vector<std::uint32_t> m_members;
-    /// The names that entries with a numbered name wanted.
+    /// The wanted names of entries that got a numbered one.
     std::unordered_map<std::uint32_t, Model::InternedName> m_wanted;
-    /// The next attempt at a number, by the folder and the number of the wanted name's record there.
+    /// The next attempts, by the folder and the index of the wanted name's record there.
     std::map<std::pair<std::uint32_t, std::size_t>, std::uint64_t> m_attempts;
-    /// Where groups are by stem: the group that gets each stem, and the next attempt at a number.
+    /// For groups by stem: the group that gets each stem, and the next attempts.
     std::map<Stem, std::uint32_t> m_stems;
     std::map<Stem, std::uint64_t> m_stemAttempts;
 };

@@ -1,5 +1,5 @@
 /// @file
-/// Decides who gets which name when names clash, and numbers names.
+/// Resolves conflicts of names, and numbers names.
 #pragma once
 
 #include <VyrHost/rename/NamesAfter.h>
@@ -12,18 +12,18 @@
 
 namespace VyrHost::Rename {
 
-/// Numbers one name as the engine's conflict resolution does.
+/// Numbers one name like the engine's conflict resolution.
 class NumberedName
 {
 public:
-    /// `path` is the name with its folder; a folder's name is numbered at its end, a file's before its extension.
+    /// @param path the name with its folder. A folder's name is numbered at its end, a file's before its extension.
     NumberedName(const CString& path, bool isFolder);
 
-    /// The name of a sidecar: this one, and `extension` behind it (Groups::MainFileOf).
+    /// The name of a sidecar: this one, and `extension` after it (Groups::MainFileOf).
     [[nodiscard]] NumberedName OfSidecar(std::u16string_view extension) const;
 
-    /// The name with the number of the attempt `attempt` (from 0). The engine has no `digits`: the least number of
-    /// digits, filled up with zeros behind a minus sign.
+    /// The name with the number of the attempt `attempt` (from 0). `digits`, which the engine does not have, is the
+    /// minimum number of digits, padded with zeros (after a minus sign).
     [[nodiscard]] CString With(const VyrLibraryFuncs::NameFuncs::CONFLICTITEM& numbering, int digits,
                                std::uint64_t attempt) const;
 
@@ -34,13 +34,13 @@ private:
     CString m_extension;
 };
 
-/// How many attempts there are before the first number comes again: numbers wrap in 32 bits. `step` is not 0.
+/// The number of attempts before the first number recurs: numbers wrap in 32 bits. `step` is not 0.
 [[nodiscard]] std::uint64_t CountNumbers(int step);
 
-/// Goes through `decisions` group by group and gives those that are to be renamed their names, numbered ones, or none.
-/// Numbers are tried as the engine tries them; time grows with the number of entries, however many want one name.
-/// @param after  has the names that new folders get.
-/// @param mayNumber  whether numbering is allowed at all.
+/// Decides, group by group, whether the entries to be renamed get their wanted names, numbered ones, or none. Tries
+/// numbers like the engine; takes linear time, however many entries want one name.
+/// @param after  contains the names of new folders.
+/// @param mayNumber  whether numbering is allowed.
 void ResolveConflicts(Model::EntryList& list, const Groups& groups, std::vector<Decision>& decisions, NamesAfter& after,
                       const ConflictSettings& settings, bool mayNumber);
 

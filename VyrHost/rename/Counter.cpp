@@ -1,4 +1,4 @@
-// Reads the words of counters, and writes numbers in other ways than digits.
+// Parses the options of counters, and writes numbers in their styles.
 #include <VyrHost/rename/Counter.h>
 
 #include <VyrHost/text/Pieces.h>
@@ -35,13 +35,13 @@ std::optional<Value> FindWord(std::u16string_view word, Words<Value> words)
     return std::nullopt;
 }
 
-/// Takes the words of a counter one after the other.
+/// Parses the words of a counter one after the other.
 class CounterParser
 {
 public:
     explicit CounterParser(std::u16string_view option) : m_words(WordsOf(option)) {}
 
-    /// @return what is wrong; null for nothing.
+    /// @return the fault; null for none.
     const char* Run(CounterForm& form)
     {
         while (m_next < m_words.size()) {
@@ -119,7 +119,7 @@ CString WriteRoman(std::int64_t number)
     return text;
 }
 
-/// A minus sign stands before the zeros.
+/// The minus sign precedes the zeros.
 CString WriteDigits(std::int64_t number, unsigned base, int width)
 {
     std::u16string text;

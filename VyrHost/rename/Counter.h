@@ -1,5 +1,5 @@
 /// @file
-/// Counters in templates: how they are written, and where they start anew.
+/// Counters in templates: their styles, and where they restart.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -12,16 +12,16 @@
 
 namespace VyrHost::Rename {
 
-/// What a counter starts anew for.
+/// Where a counter restarts.
 enum class CounterScope : std::uint8_t
 {
-    /// Nothing: it counts as sequence numbers do.
+    /// Nowhere: it counts like sequence numbers.
     WholeList,
-    /// Each folder that entries get into.
+    /// In each destination folder.
     Folder,
-    /// Each day of the template's date.
+    /// For each day of the template's date.
     Day,
-    /// Each new name, the counters left out.
+    /// For each new name, without its counters.
     Name
 };
 
@@ -41,31 +41,31 @@ struct CounterForm
     CounterStyle style = CounterStyle::Decimal;
     int start = 1;
     int step = 1;
-    /// The least width, filled up with zeros; of decimal and hexadecimal numbers.
+    /// The minimum width of decimal and hexadecimal numbers, padded with zeros.
     int width = 1;
 };
 
-/// Reads the option of a counter: "start N", "step N", "per folder|day|name" and "roman", "letters" or "hex", each once
-/// and in any order, separated by blanks.
-/// @param width  how many "#" the counter has.
-/// @return what is wrong with it, in words; null when nothing is.
+/// Parses the option of a counter: "start N", "step N", "per folder|day|name" and "roman", "letters" or "hex", each at
+/// most once, in any order, separated by blanks.
+/// @param width  the number of "#" in the counter.
+/// @return the fault, in words; null for none.
 [[nodiscard]] const char* ParseCounter(std::u16string_view option, std::size_t width, CounterForm& form);
 
-/// `number` in that form; nothing for a number that the style does not have.
+/// `number` in this form; nothing for a number that the style cannot represent.
 [[nodiscard]] std::optional<CString> WriteCounter(std::int64_t number, const CounterForm& form);
 
-/// Counts, from 0 on, how many groups of entries were counted with a key.
+/// Counts groups of entries by key, from 0.
 class KeyedCounts
 {
 public:
-    /// The place of `group` among those with `key`. A group that is asked for again keeps its place; where it now has
-    /// another key, the place that it had is given back. Groups are asked for one after the other.
+    /// The index of `group` among those with `key`. A repeated call for the last group returns the same index; with
+    /// another key it releases the old one. Call it for one group after the other.
     [[nodiscard]] std::int64_t PlaceOf(std::size_t group, const CString& key);
 
 private:
     std::unordered_map<CString, std::int64_t> m_counts;
     std::size_t m_group = 0;
-    /// Of the group that was asked for last; nothing before the first.
+    /// The key of the last group; nothing before the first.
     std::optional<CString> m_key;
 };
 

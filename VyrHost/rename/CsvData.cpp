@@ -1,4 +1,4 @@
-// Reads the lines of a table by the files that they are for.
+// Stores the lines of a table by their files.
 #include <VyrHost/rename/CsvData.h>
 
 #include <VyrHost/model/FolderSet.h>
@@ -17,7 +17,7 @@ namespace {
 
 using VyrPlatform::Encoding::FromNameBytes;
 
-/// By what the file of a line is found.
+/// The key of a line's file.
 CString KeyOf(const std::string& field)
 {
     const CString name = FromNameBytes(field);

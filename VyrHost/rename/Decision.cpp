@@ -12,7 +12,7 @@ using VyrHostPlatform::NameFault;
 
 namespace {
 
-/// Separated by commas, as --date-from takes them: "picture,modified"; empty for none.
+/// The words for `dates` in the form of --date-from: "picture,modified"; empty for none.
 CString WordsFor(Model::DateSourceSet dates)
 {
     CString words;
@@ -122,7 +122,7 @@ RenameResults::RenameResults(const Model::EntryList& list, std::vector<Decision>
             m_causes.emplace(entry, Text::ErrorText(error));
 }
 
-/// Why something could not be read: the system's error code; 0 where that is not what keeps the entry from its name.
+/// The system's error code if something could not be read and the entry has no name for that reason; else 0.
 std::uint32_t RenameResults::CauseOf(std::uint32_t entry) const
 {
     const Decision& decision = m_decisions[entry];

@@ -1,5 +1,5 @@
 /// @file
-/// What is decided about an entry, and the results made of it.
+/// Decisions about entries, and the results made from them.
 #pragma once
 
 #include <VyrHost/model/DateSource.h>
@@ -20,46 +20,46 @@ namespace VyrHost::Rename {
 enum class Reason : std::uint8_t
 {
     None,
-    /// Nothing stands at the path.
+    /// There is no such entry.
     NoSuchEntry,
-    /// The entry's folder, or the one that it would move into, cannot be read.
+    /// The entry's folder, or its destination folder, cannot be read.
     FolderNotRead,
     NoDate,
-    /// Its date cannot be shifted as far as it was asked to be.
+    /// Its shifted date would be out of range.
     DateOutOfRange,
-    /// The picture whose date or camera was asked for cannot be read; the cause says why.
+    /// The picture whose date or camera is needed cannot be read; the cause says why.
     PictureNotRead,
     /// A token of a template has no value for it; the cause names the token.
     NoValue,
-    /// The rules give a folder to move into no name that a folder can have on any system.
+    /// The rules give the destination folder a name that is invalid on every system.
     NamelessFolder,
-    /// A folder to move into cannot be made: this system does not allow its name, or something else has it.
+    /// The destination folder cannot be created: its name is invalid on this system, or taken.
     BadFolder,
-    /// The folder to move into is on another file system.
+    /// The destination folder is on another file system.
     OtherFileSystem,
-    /// The user may not change the names in its folder, or in the one that it would move into; the cause says why.
+    /// The user may not change the names in its folder, or in its destination folder; the cause says why.
     FolderLocked,
     /// Its folder is sticky: only the owner of an entry may rename it.
     NotOwnEntry,
-    /// Other parts need the entry where it is; the cause says what for.
+    /// The entry is needed where it is; the cause says for what.
     MustStay,
-    /// A rule inserts or deletes behind the end of the name; the cause tells how long it is.
+    /// A rule inserts or deletes past the end of the name; the cause gives its length.
     BeyondName,
-    /// A pattern takes too many steps for the name; the cause tells which bound it met.
+    /// A pattern takes too many steps for the name; the cause says which limit it reached.
     PatternGaveUp,
-    /// The content of the file, which was asked for, cannot be read; the cause says why.
+    /// The content of the file, which is needed, cannot be read; the cause says why.
     ContentNotRead,
-    /// The content of the file is of no known kind.
+    /// The content of the file is of an unknown kind.
     UnknownContent,
     EmptyName,
-    /// Something that the batch leaves in place has the name.
+    /// An entry that the batch does not rename has the name.
     TargetExists,
     /// Another entry of the list gets the name.
     TwoToOne,
     /// Under --together another group of files gets the name before the extension.
     StemTaken,
     NoFreeNumber,
-    /// An entry that keeps together with this one cannot get its name.
+    /// Another entry of its group cannot get its name.
     CompanionRefused,
     /// The name has a lone surrogate that the old name did not have.
     NewLoneSurrogate,
@@ -68,32 +68,32 @@ enum class Reason : std::uint8_t
     TooLong,
     ReservedWord,
     TrailingDotOrBlank,
-    /// A folder that would stand in itself.
+    /// A folder would end up inside itself.
     InsideItself,
-    /// Who has the name was to get another one, but cannot.
+    /// The entry that has the name was to get another one, but cannot.
     PlaceKept,
-    /// A folder that it moves into cannot be created: who has the name was to get another one, but cannot.
+    /// A destination folder cannot be created: the entry that has its name was to get another one, but cannot.
     FolderKept,
-    /// Another entry's name is taken, which stops all.
+    /// Another entry's name is taken, which stops the whole call.
     Stopped
 };
 
-/// A few words for people; empty for Reason::None.
+/// The reason in words; empty for Reason::None.
 [[nodiscard]] std::u16string_view WordsFor(Reason reason);
-/// What is wrong with the name on Windows; empty for NameFault::None.
+/// The fault of a name on Windows in words; empty for NameFault::None.
 [[nodiscard]] std::u16string_view WarningFor(VyrHostPlatform::NameFault fault);
 
 struct Decision
 {
-    /// The new name; for an entry that is not renamed, the one that it would have had. Empty when there is none.
+    /// The new name; for an entry that is not renamed, the name that it would have got. Empty when there is none.
     Model::InternedName name;
-    /// The folder that the name is in.
+    /// The folder of the name.
     std::uint32_t folder = 0;
     Model::Status status = Model::Status::Done;
     Reason reason = Reason::None;
-    /// What is wrong with the new name on Windows, on a system that allows it.
+    /// The fault of the new name on Windows, if this system allows it.
     VyrHostPlatform::NameFault warning = VyrHostPlatform::NameFault::None;
-    /// The dates that rules with a choice took for it.
+    /// The dates that rules with a choice used.
     Model::DateSourceSet datesTaken = {};
 
     void Refuse(Reason why)
@@ -104,21 +104,21 @@ struct Decision
     [[nodiscard]] bool IsRename() const { return status == Model::Status::Done || status == Model::Status::Numbered; }
 };
 
-/// What there is to say beyond the reason why an entry does not get a name, by the place of the entry in its list.
+/// Further explanations why entries do not get a name, by the index of the entry in its list.
 using Causes = std::unordered_map<std::uint32_t, CString>;
 
-/// The results of a preview, or of the batch that was made of it.
+/// The results of a preview, or of its batch.
 class RenameResults final : public Model::Results
 {
 public:
-    /// @param list  what is decided about; must outlive the results.
-    /// @param causes  what there is to say beyond the reasons, by entry.
+    /// @param list  the entries; must outlive the results.
+    /// @param causes  further explanations, by entry.
     RenameResults(const Model::EntryList& list, std::vector<Decision> decisions, Causes causes);
 
     [[nodiscard]] std::size_t Count() const override { return m_decisions.size(); }
     [[nodiscard]] Model::Result At(std::size_t index) const override;
 
-    /// What the batch made of an entry that was to be renamed.
+    /// Sets the outcome of a rename.
     void Set(std::uint32_t entry, const Model::Outcome& outcome);
 
 private:

@@ -1,4 +1,4 @@
-// Counts what a plan leaves in folders, and removes those where nothing is left.
+// Finds the folders that a plan empties, and removes them.
 #include <VyrHost/rename/EmptiedFolders.h>
 
 #include <VyrHost/model/FolderSet.h>
@@ -50,7 +50,7 @@ std::uint32_t FolderRemoval::Undo(const CString& path) const
     const VyrHostPlatform::OpenFolder folder(Model::FolderPart(path));
     if (!folder.IsOpen())
         return folder.Error();
-    // One that is there was made when the work was cut off.
+    // One that exists was made before the work was cut off.
     if (folder.Look(name).kind != Kind::Folder)
         if (const std::uint32_t error = folder.MakeFolder(name))
             return error;
@@ -61,7 +61,7 @@ namespace {
 
 using Identities = std::unordered_set<VyrPlatform::FileIdentity, Model::IdentityHash>;
 
-/// The current folder and those that it stands in.
+/// The current folder and its parents.
 Identities FindCurrent()
 {
     Identities current;
@@ -91,7 +91,7 @@ public:
 
     std::vector<EmptiedFolder> Run()
     {
-        // Every folder stands behind the one that it is in.
+        // Each folder comes after its parent.
         for (std::size_t folder = m_plan.folders.size(); folder-- > 0;)
             if (m_left[folder] > 0 && IsEmptied(static_cast<Model::PlanIndex>(folder)))
                 Take(m_plan.folders[folder].place, Model::PathBefore(m_plan, static_cast<Model::PlanIndex>(folder)));
@@ -124,9 +124,9 @@ private:
 
     const Model::RenamePlan& m_plan;
     const Model::FolderSet& m_folders;
-    /// For each folder of the plan how many of its entries leave it.
+    /// For each folder of the plan, the number of entries that leave it.
     std::vector<std::size_t> m_left;
-    /// For each folder of the plan whether something comes into it.
+    /// For each folder of the plan, whether an entry moves into it.
     std::vector<bool> m_gains;
     std::optional<Identities> m_current;
     std::vector<EmptiedFolder> m_emptied;

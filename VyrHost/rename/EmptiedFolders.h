@@ -15,13 +15,13 @@
 
 namespace VyrHost::Rename {
 
-/// Removes an empty folder, and makes it again.
+/// Removes an empty folder; an undo creates it again.
 class FolderRemoval final : public Model::Change
 {
 public:
     static constexpr std::string_view kind = "emptied";
 
-    /// @param state  what ReadFolderState tells of the folder.
+    /// @param state  the folder's state from ReadFolderState.
     explicit FolderRemoval(CString state) : m_state(std::move(state)) {}
     [[nodiscard]] static std::shared_ptr<const Model::Change> Read(const CString& before, const CString& after);
 
@@ -44,15 +44,15 @@ private:
 /// A folder that will be empty.
 struct EmptiedFolder
 {
-    /// In the plan that empties it.
+    /// Its place in the plan.
     Model::Place place;
     std::shared_ptr<const Model::Change> removal;
 };
 
-/// The folders out of which `plan` moves the last entry, and those in which nothing but such folders is left, the
-/// innermost first. Left out are a folder that is an entry itself, one that could not be listed, the current folder,
-/// those that it stands in, and folders above those that the entries were looked for in.
-/// @param folders  brings the listings of the folders of `plan`.
+/// The folders from which `plan` moves the last entry, and those with nothing but such folders left, the innermost
+/// first. Excludes folders that are entries themselves or could not be listed, the current folder and its parents, and
+/// parents of the folders in which entries were searched.
+/// @param folders  the listings of the folders of `plan`.
 [[nodiscard]] std::vector<EmptiedFolder> FindEmptied(const Model::RenamePlan& plan, const Model::FolderSet& folders);
 
 /// The removal of a folder.

@@ -1,4 +1,4 @@
-// Asks for one date after the other, and has the library write the one that is there.
+// Tries one date source after the other, and writes the date by the library.
 #include <VyrHost/rename/FileDates.h>
 
 #include <VyrHost/rename/TemplateTokens.h>
@@ -15,7 +15,7 @@ using Model::DateSource;
 using VyrLibraryUtils::DateTimeUtils;
 using VyrPlatform::FileTicks;
 
-/// What `zone` shows at `instant`.
+/// The time that `zone` shows at `instant`.
 COleDateTime ShownBy(const ZoneClock& zone, FileTicks instant)
 {
     using namespace std::chrono;
@@ -31,7 +31,7 @@ bool IsInContent(DateSource source)
            source == DateSource::Video;
 }
 
-/// `moment` on the clock that is asked for, and shifted; false where it would leave the calendar.
+/// Converts `moment` to the requested clock, and shifts it; false if it would be out of range.
 bool Adjust(FileMoment& moment, const DateSettings& settings)
 {
     if (settings.clock && moment.instant)

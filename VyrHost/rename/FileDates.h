@@ -1,5 +1,5 @@
 /// @file
-/// Which date of a file goes into its name, and how it is written.
+/// Finds the date of a file for its name, and writes it.
 #pragma once
 
 #include <VyrHost/metadata/Shift.h>
@@ -17,14 +17,14 @@
 
 namespace VyrHost::Rename {
 
-/// Which date rules take.
+/// The date that rules use.
 struct DateSettings
 {
-    /// The first that a file has.
+    /// The first one that a file has is used.
     std::vector<Model::DateSource> sources = {Model::DateSource::Modified};
-    /// How far every date is shifted.
+    /// Every date is shifted by this.
     std::optional<Metadata::Amounts> shift = {};
-    /// The clock that shows a date whose instant is known; nothing for the one that the date was taken from.
+    /// The time zone for dates whose instant is known; nothing for that of the source.
     std::optional<ZoneClock> clock = {};
 };
 
@@ -32,21 +32,21 @@ struct FoundDate
 {
     /// Why there is none.
     Reason reason = Reason::NoDate;
-    /// The place of its source among those asked for.
+    /// The index of its source in DateSettings::sources.
     std::size_t rank = 0;
     FileMoment moment = {};
 };
 
-/// What those dates ask of the content of every file: what the first needs, as the others matter only where it is
-/// missing.
+/// The content values that every file is asked for: those of the first source, since the others are needed only if it
+/// is missing.
 [[nodiscard]] Media::MediaQuestion QuestionFor(const DateSettings& settings);
 
-/// The date that `settings` ask for. A file whose content cannot be read is a fault, not one without a date.
-/// @param question  all that the rule asks of the content of every file.
+/// The date by `settings`. A file whose content cannot be read is an error, not a file without a date.
+/// @param question  all content values that the rule needs of every file.
 [[nodiscard]] FoundDate FindDate(FileValues& values, const DateSettings& settings,
                                  const Media::MediaQuestion& question);
 
-/// A date format, ready to write many dates.
+/// A date format, prepared for many dates.
 class DateWriter
 {
 public:
@@ -56,7 +56,7 @@ public:
     [[nodiscard]] CString Write(const FileMoment& moment) const;
 
 private:
-    /// The patterns of the pieces between which the milliseconds stand.
+    /// The patterns of the pieces that the milliseconds separate.
     std::vector<CString> m_patterns;
 };
 

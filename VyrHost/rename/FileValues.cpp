@@ -1,4 +1,4 @@
-// Asks the readers of content, times and names, and remembers their answers.
+// Calls the readers of content, times and names, and caches their results.
 #include <VyrHost/rename/FileValues.h>
 
 #include <VyrHost/documents/Document.h>
@@ -31,7 +31,7 @@ constexpr bool MediaQuestion::*askedParts[] = {&MediaQuestion::size,      &Media
                                                &MediaQuestion::tags,      &MediaQuestion::videoCreated,
                                                &MediaQuestion::exifDates, &MediaQuestion::xmpDate};
 
-/// Whether the answer to `question` answers `asked` too.
+/// Whether `question` includes `asked`.
 bool Covers(const MediaQuestion& question, const MediaQuestion& asked)
 {
     const bool areParts = std::all_of(std::begin(askedParts), std::end(askedParts),

@@ -1,5 +1,5 @@
 /// @file
-/// What one file tells of itself, for the names that are made of it.
+/// The values of one file, for names made from them.
 #pragma once
 
 #include <VyrHost/media/MediaValues.h>
@@ -16,23 +16,23 @@
 
 namespace VyrHost::Rename {
 
-/// A date-time that a file tells.
+/// A date-time of a file.
 struct FileMoment
 {
-    /// As the clock showed it that the date was taken from.
+    /// The local time at its source.
     COleDateTime local;
-    /// 0 to 999; 0 where there is none.
+    /// 0 to 999; 0 if there are none.
     int milliseconds = 0;
-    /// The instant, where it is known.
+    /// The instant, if it is known.
     std::optional<VyrPlatform::FileTicks> instant = {};
 };
 
-/// Adds to `question` what `more` asks.
+/// Adds the values of `more` to `question`.
 void AddTo(Media::MediaQuestion& question, const Media::MediaQuestion& more);
-/// What is asked of the content of a file for the date of that source.
+/// The content values that the date of that source needs.
 [[nodiscard]] Media::MediaQuestion QuestionFor(Model::DateSource source);
 
-/// What a document, or a piece of music or a film, says of its making. A text that is missing is empty, a number 0.
+/// The tags of a document, a piece of music or a film. A missing text is empty, a missing number 0.
 struct WorkValues
 {
     CString title;
@@ -44,39 +44,39 @@ struct WorkValues
     unsigned year = 0;
 };
 
-/// Reads what it is asked of a file, each at most once.
+/// Reads the requested values of a file, each at most once.
 class FileValues
 {
 public:
-    /// Turns to the file at `path` (absolute); what another one told is forgotten.
+    /// Switches to the file at `path` (absolute), and discards the values of the previous one.
     void Enter(const CString& path);
 
-    /// What the content tells.
-    /// @param question  all that a rule may ask, so that the file is read once.
+    /// The values in the content.
+    /// @param question  all values that a rule may need, so that the file is read once.
     [[nodiscard]] const Media::MediaValues& Content(const Media::MediaQuestion& question);
     /// The tags in the content, or the properties of a document: its author is the artist, its keywords the genre.
     [[nodiscard]] const WorkValues& Work(const Media::MediaQuestion& question);
-    /// The date of that source; nothing where the file does not tell it.
+    /// The date from that source; nothing if the file has none.
     [[nodiscard]] std::optional<FileMoment> Moment(Model::DateSource source, const Media::MediaQuestion& question);
-    /// The camera's maker and model as parts of names; empty where the picture does not tell.
+    /// The camera's maker and model as parts of names; empty if the picture lacks them.
     [[nodiscard]] CString Make();
     [[nodiscard]] CString Model();
     /// In bytes; nothing unless it is a file.
     [[nodiscard]] std::optional<std::int64_t> Size();
-    /// The digits of its SHA-256; empty where it cannot be read.
+    /// The digits of its SHA-256; empty if it cannot be read.
     [[nodiscard]] const CString& Hash();
-    /// Why its content cannot be read (the system's code); 0 where it can be, and for what has no content.
+    /// The system's error code if its content cannot be read; 0 if it can, or has none.
     [[nodiscard]] std::uint32_t ReadError();
 
 private:
     [[nodiscard]] std::optional<FileMoment> TimeOf(Model::DateSource source);
 
     CString m_path;
-    /// What was asked, and the answer.
+    /// The last question, and its answer.
     Media::MediaQuestion m_question;
     std::shared_ptr<const Media::MediaValues> m_content;
     std::shared_ptr<const WorkValues> m_work;
-    /// Of the file, by date source.
+    /// By date source.
     std::array<std::optional<std::optional<FileMoment>>, Model::dateSourceCount> m_times;
     std::optional<VyrPlatform::FileSystem::Entry> m_state;
     std::optional<CString> m_make;
@@ -84,7 +84,8 @@ private:
     std::optional<CString> m_hash;
 };
 
-/// `text` as a part of a name that every system allows: what Windows forbids becomes "_", blanks around it go.
+/// `text` as a part of a name that is valid on every system: characters that Windows forbids become "_", and blanks at
+/// the ends are removed.
 [[nodiscard]] CString AsNamePart(const CString& text);
 
 } // namespace VyrHost::Rename

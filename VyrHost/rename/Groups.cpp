@@ -1,4 +1,4 @@
-// Finds the entries that keep together.
+// Groups entries by their stems.
 #include <VyrHost/rename/Groups.h>
 
 #include <VyrHostPlatform/NameFolding.h>
@@ -29,10 +29,10 @@ std::uint32_t FindMainFile(const Model::EntryList& list, const Model::Entry& ent
     return isListed && list.entries[record->owner].kind == Kind::File ? record->owner : Model::noEntry;
 }
 
-/// The name before the extension of `entry`, or of the file whose sidecar it is.
+/// The stem of `entry`, or of its main file if it is a sidecar.
 CString StemOf(const Model::EntryList& list, const std::vector<std::uint32_t>& mainFiles, std::uint32_t entry)
 {
-    // Each step removes an extension, so that it ends.
+    // Ends, since each step removes an extension.
     while (mainFiles[entry] != Model::noEntry)
         entry = mainFiles[entry];
     return Model::Split(list.PathOf(list.entries[entry]), list.entries[entry]).name;

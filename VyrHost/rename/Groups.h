@@ -1,5 +1,5 @@
 /// @file
-/// Entries that keep together: the raw file, the picture and the sidecar of one shot.
+/// Groups of entries that are renamed together: the raw file, the picture and the sidecar of one shot.
 #pragma once
 
 #include <VyrHost/model/EntryList.h>
@@ -10,14 +10,14 @@
 
 namespace VyrHost::Rename {
 
-/// Parts a list into groups. Groups are in the order of their first entries, entries of a group in the order of the
+/// Divides a list into groups. Groups are in the order of their first entries, entries of a group in the order of the
 /// list.
 class Groups
 {
 public:
     /// Each entry is a group of its own.
     [[nodiscard]] static Groups OfOne(const Model::EntryList& list);
-    /// The files of one folder whose names differ in their extensions alone are a group, with the sidecars of each
+    /// Files of one folder whose names differ only in their extensions are a group, together with their sidecars
     /// (MainFileOf): `X.CR2`, `X.xmp`, `X.JPG` and `X.JPG.xmp`.
     [[nodiscard]] static Groups ByStem(const Model::EntryList& list);
     /// Whether the groups are those of ByStem, which must all get different stems.
@@ -32,9 +32,9 @@ public:
     }
     /// The group of an entry.
     [[nodiscard]] std::uint32_t Of(std::uint32_t entry) const { return m_groups.empty() ? entry : m_groups[entry]; }
-    /// The file whose sidecar `entry` is: the one that has its name without the last extension, as `X.JPG` for
-    /// `X.JPG.xmp`. NoEntry for a name with fewer than two extensions, where the list has no such file, and where the
-    /// groups are not those of ByStem.
+    /// The main file of the sidecar `entry`: the file with its name without the last extension, such as `X.JPG` for
+    /// `X.JPG.xmp`. noEntry for a name with fewer than two extensions, if the list has no such file, and if the groups
+    /// are not those of ByStem.
     [[nodiscard]] std::uint32_t MainFileOf(std::uint32_t entry) const
     {
         return m_areByStem ? m_mainFiles[entry] : Model::noEntry;
@@ -42,16 +42,16 @@ public:
 
 private:
     Groups() = default;
-    /// From the group of each entry, numbered in the order of first entries.
+    /// @param groups the group of each entry, numbered in the order of first entries.
     Groups(std::vector<std::uint32_t> groups, std::uint32_t count);
 
-    /// Of each entry; empty where each is a group of its own.
+    /// The group of each entry; empty if each is a group of its own.
     std::vector<std::uint32_t> m_groups;
     std::vector<std::uint32_t> m_members;
-    /// Where the members of each group begin, and the end; empty where each entry is a group of its own.
+    /// The index of the first member of each group, then the end; empty if each entry is a group of its own.
     std::vector<std::uint32_t> m_begins;
     bool m_areByStem = false;
-    /// Of each entry, where the groups are those of ByStem.
+    /// The main file of each entry, if the groups are those of ByStem.
     std::vector<std::uint32_t> m_mainFiles;
 };
 

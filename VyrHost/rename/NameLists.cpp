@@ -47,7 +47,7 @@ constexpr std::string_view explanation =
     "# An entry whose line you remove keeps its name. Save an empty text to change nothing.\n"
     "# In a name \\\\ is a backslash, \\n a line end, \\t a tab.\n";
 
-/// Takes the escape that `text` begins with; 0 when EscapeName does not write such an escape.
+/// Takes the escape at the start of `text`; 0 when EscapeName does not write such an escape.
 char16_t TakeEscape(std::string_view& text)
 {
     if (text.starts_with("\\\\") || text.starts_with("\\n") || text.starts_with("\\t")) {
@@ -109,7 +109,7 @@ CString UnescapeName(std::string_view text)
                 continue;
             }
         }
-        // What stands as it is, up to the next backslash.
+        // Literal text up to the next backslash.
         const std::size_t end = std::min(text.find('\\', 1), text.size());
         name += VyrPlatform::Encoding::FromNameBytes(text.substr(0, end));
         text.remove_prefix(end);

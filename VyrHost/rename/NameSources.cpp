@@ -1,4 +1,4 @@
-// Names one group of entries after the other, by rules or as given.
+// Names groups of entries by rules, or as given by the user.
 #include <VyrHost/rename/NameSources.h>
 
 #include <VyrHost/model/FolderSet.h>
@@ -15,7 +15,7 @@ using VyrPlatform::FileSystem::Kind;
 
 bool RuleNames::MayNumber() const
 {
-    // Entries of several folders come together in one.
+    // Entries of several folders move into one.
     return m_into || std::any_of(m_rules.begin(), m_rules.end(), [](const auto& rule) { return rule->MayNumber(); });
 }
 
@@ -73,7 +73,7 @@ void RuleNames::NameTogether(const Model::EntryList& list, const Groups& groups,
 void RuleNames::FollowLeader(const Model::EntryList& list, const Groups& groups, std::span<const std::uint32_t> members,
                              int index, const Model::Entry& leader, const Subject& made, std::vector<WantedName>& names)
 {
-    // A file has a shorter name than its sidecars, and so comes before them.
+    // A file has a shorter name than its sidecars, so it comes before them.
     std::vector<std::size_t> places(members.size());
     std::iota(places.begin(), places.end(), std::size_t{0});
     std::ranges::stable_sort(places, {},
@@ -81,7 +81,7 @@ void RuleNames::FollowLeader(const Model::EntryList& list, const Groups& groups,
     for (const std::size_t place : places) {
         const Model::Entry& entry = list.entries[members[place]];
         if (&entry != &leader) {
-            // The rules give it an extension of its own.
+            // Run for its own extension.
             (void)Run(list, entry, index, leader);
             m_subject.folder = made.folder;
             m_subject.name = made.name;
@@ -103,7 +103,7 @@ int RuleNames::TakeIndex(std::uint32_t folder)
     return m_next[counter]++;
 }
 
-/// @param dated  whose dates and picture data count.
+/// @param dated  the entry whose dates and picture data are used.
 Reason RuleNames::Run(const Model::EntryList& list, const Model::Entry& entry, int index, const Model::Entry& dated)
 {
     m_subject.folder = m_into ? m_into->path : list.folders[entry.folder].path;

@@ -1,5 +1,5 @@
 /// @file
-/// Where new names come from: rules, or the user.
+/// The sources of new names: rules, or the user.
 #pragma once
 
 #include <VyrHost/model/EntryList.h>
@@ -18,19 +18,19 @@
 
 namespace VyrHost::Rename {
 
-/// What an entry is to be called, whatever else has that name.
+/// The wanted name of an entry, even if it is taken.
 struct WantedName
 {
-    /// Absolute, its separator at the end; and how it is shown.
+    /// Absolute, with a separator at its end; and as it is shown.
     CString folder;
     CString shownFolder;
     /// With its extension.
     CString name;
     /// Why there is no name.
     Reason reason = Reason::None;
-    /// What there is to say beyond the reason; empty for nothing.
+    /// A further explanation; empty for none.
     CString cause = {};
-    /// The dates that rules with a choice took for it.
+    /// The dates that rules with a choice used.
     Model::DateSourceSet datesTaken = {};
 };
 
@@ -39,11 +39,11 @@ class NameSource
 public:
     virtual ~NameSource() = default;
 
-    /// Names the entries of `list` that keep together. Called for one group after the other, in the order of the list,
-    /// with what is there alone; `names` gets one name for each of `members`.
+    /// Names the entries of a group. Called for one group after the other, in the order of the list; only with members
+    /// that exist. `names` gets one name for each of `members`.
     virtual void Name(const Model::EntryList& list, const Groups& groups, std::span<const std::uint32_t> members,
                       std::vector<WantedName>& names) = 0;
-    /// Whether names that clash are to be numbered.
+    /// Whether conflicting names are numbered.
     [[nodiscard]] virtual bool MayNumber() const = 0;
 };
 
@@ -51,21 +51,21 @@ public:
 enum class Counting : std::uint8_t
 {
     WholeList,
-    /// Starts anew in each folder.
+    /// Restarts in each folder.
     EachFolder
 };
 
-/// Runs rules over entries. Entries that keep together get one number and one new name before the extension: that of
-/// the first of them for which the rules have one, whose dates and picture data count for all. Where several dates may
-/// serve, one that has an earlier of them goes before it, so that a picture decides for its sidecar. A sidecar that has
-/// the whole name of its file before its own extension keeps that form: `X.JPG.xmp` follows `X.JPG`.
+/// Applies rules to entries. The entries of a group get one number and one new stem: that of the first member for which
+/// the rules make a name, whose dates and picture data are used for all. If the rules have several date sources, a
+/// member with an earlier source goes first, so that a picture decides for its sidecar. A sidecar whose name is that of
+/// its file plus an extension keeps this form: `X.JPG.xmp` follows `X.JPG`.
 class RuleNames : public NameSource
 {
 public:
-    /// A folder to move all entries into; the folders that rules make are below it.
+    /// A folder to move all entries into; rules create folders below it.
     struct Destination
     {
-        /// Absolute, its separator at the end; and how it is shown.
+        /// Absolute, with a separator at its end; and as it is shown.
         CString path;
         CString shown;
     };
@@ -81,11 +81,11 @@ public:
 private:
     [[nodiscard]] int TakeIndex(std::uint32_t folder);
     void NameOne(const Model::EntryList& list, const Model::Entry& entry, int index, WantedName& name);
-    /// One stem for all, from the first that has a date of the best source.
+    /// Gives all members one stem: that of the first one with a date from the best source.
     void NameTogether(const Model::EntryList& list, const Groups& groups, std::span<const std::uint32_t> members,
                       int index, std::vector<WantedName>& names);
-    /// Gives the members the stem and the folder of `made`, which the rules made for `leader`; the extensions stay
-    /// theirs.
+    /// Gives the members the stem and the folder of `made`, which the rules made for `leader`; they keep their
+    /// extensions.
     void FollowLeader(const Model::EntryList& list, const Groups& groups, std::span<const std::uint32_t> members,
                       int index, const Model::Entry& leader, const Subject& made, std::vector<WantedName>& names);
     Reason Run(const Model::EntryList& list, const Model::Entry& entry, int index, const Model::Entry& dated);
@@ -96,24 +96,24 @@ private:
     const std::optional<Destination> m_into;
     /// By folder; the whole list counts as the folder 0.
     std::vector<int> m_next;
-    /// How many groups were named.
+    /// The number of named groups.
     std::size_t m_group = 0;
     Subject m_subject;
-    /// Where the files are that dates and picture data come from.
+    /// The folder of the files whose dates and picture data are read.
     VyrPlatform::WorkingFolder m_workingFolder;
 };
 
-/// Gives each entry the name that was written down for it, and its own where none was. A bare name stays in the entry's
-/// folder; one with a separator is a path, from the current folder on where it is not a full one.
+/// Gives each entry its name from a list, or keeps its own. A bare name stays in the entry's folder; one with a
+/// separator is a path, relative to the current folder or full.
 class GivenNames : public NameSource
 {
 public:
-    /// `names` are by places in the list.
+    /// @param names by index in the list.
     explicit GivenNames(std::unordered_map<std::uint32_t, CString> names) : m_names(std::move(names)) {}
 
     void Name(const Model::EntryList& list, const Groups& groups, std::span<const std::uint32_t> members,
               std::vector<WantedName>& names) override;
-    /// A name that the user wrote is not changed.
+    /// Names given by the user are not changed.
     [[nodiscard]] bool MayNumber() const override { return false; }
 
 private:

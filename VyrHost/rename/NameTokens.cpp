@@ -1,4 +1,4 @@
-// Makes readers of tokens, each of which asks the entry for one value.
+// Makes the readers of tokens; each returns one value of an entry.
 #include <VyrHost/rename/NameTokens.h>
 
 #include <VyrHost/model/FolderSet.h>
@@ -28,14 +28,14 @@ using VyrPlatform::Encoding::ToUtf8;
 
 constexpr const char* option = "--name";
 
-/// A token that is being read.
+/// A token that is being parsed.
 struct Making
 {
     const Text::Token& token;
     const TemplateSettings& settings;
     /// The whole template.
     std::u16string_view text;
-    /// What the template asks of the content of every file.
+    /// The content values that the template needs of every file.
     Media::MediaQuestion& question;
 
     [[noreturn]] void Refuse(const std::string& reason) const
@@ -47,7 +47,7 @@ struct Making
         if (token.option)
             Refuse("it takes nothing after a colon");
     }
-    /// A whole number from 1 to `most` behind the colon; `usual` without one.
+    /// A whole number from 1 to `most` after the colon; `usual` without one.
     [[nodiscard]] int Number(int usual, int most) const
     {
         if (!token.option)
@@ -59,13 +59,13 @@ struct Making
     }
 };
 
-/// A value that is missing where it is empty.
+/// A value; missing if it is empty.
 TokenAnswer Told(const CString& text)
 {
     return text.IsEmpty() ? TokenAnswer{} : TokenAnswer{text};
 }
 
-/// A value of the file's content.
+/// A value from the file's content.
 TokenAnswer ToldByContent(const CString& text, FileValues& values)
 {
     if (text.IsEmpty() && values.ReadError() != 0)
@@ -73,7 +73,7 @@ TokenAnswer ToldByContent(const CString& text, FileValues& values)
     return Told(text);
 }
 
-/// At least as wide as `width`; empty for 0.
+/// `number` with at least `width` digits; empty for 0.
 CString NumberText(std::uint64_t number, int width = 1)
 {
     std::string digits = std::to_string(number);
@@ -81,7 +81,7 @@ CString NumberText(std::uint64_t number, int width = 1)
     return number == 0 ? CString() : FromUtf8(digits);
 }
 
-/// Reads a text of the file's content.
+/// Reads a text from the file's content.
 TokenReader ContentReader(const Making& making, const Media::MediaQuestion& more,
                           std::function<CString(FileValues& values, const Media::MediaQuestion& question)> ask)
 {
@@ -113,7 +113,7 @@ TokenReader MakeLength(const Making& making)
     });
 }
 
-/// "01.02.03": hours, minutes and seconds; with "s" behind the colon all in seconds.
+/// "01.02.03": hours, minutes and seconds; with "s" after the colon all in seconds.
 TokenReader MakeDuration(const Making& making)
 {
     if (making.token.option && *making.token.option != u"s")
@@ -174,7 +174,7 @@ TokenReader MakeWorkText(const Making& making)
     });
 }
 
-/// As wide as the option has "#".
+/// A number as wide as the option has "#".
 template <unsigned WorkValues::*Number>
 TokenReader MakeWorkNumber(const Making& making)
 {
@@ -222,7 +222,7 @@ TokenReader MakeParent(const Making& making)
     };
 }
 
-/// The format behind the colon.
+/// The format after the colon.
 DateWriter FormatOf(const Making& making)
 {
     const CString format = making.token.option.value_or(u"yyyy-MM-dd");
@@ -268,7 +268,7 @@ TokenReader MakeSize(const Making& making)
     };
 }
 
-/// `count` characters of `signs`, by chance.
+/// `count` random characters from `signs`.
 CString RandomText(std::u16string_view signs, int count)
 {
     static std::random_device device;
@@ -288,7 +288,7 @@ TokenReader MakeRandom(const Making& making)
     };
 }
 
-/// Version 4 of RFC 9562.
+/// UUID version 4 (RFC 9562).
 TokenReader MakeUuid(const Making& making)
 {
     making.RequireNoOption();
@@ -415,7 +415,7 @@ TokenReader MakeNumberedGroup(const Making& making)
     return MakeGroup(making, static_cast<std::size_t>(number));
 }
 
-/// The reader of a group with the token's word for its name; nothing where there is no such group.
+/// The reader of the group that the token names; nothing if there is no such group.
 TokenReader MakeNamedGroup(const Making& making)
 {
     const auto& pattern = making.settings.pattern;

@@ -1,5 +1,5 @@
 /// @file
-/// The tokens that stand for a value of the entry in the template of a whole name.
+/// The tokens for values of an entry in a name template.
 #pragma once
 
 #include <VyrHost/rename/CsvData.h>
@@ -18,21 +18,21 @@
 
 namespace VyrHost::Rename {
 
-/// What the tokens of a template work with.
+/// The settings of the tokens of a template.
 struct TemplateSettings
 {
-    /// Of <Date>; the shift and the clock are those of every date.
+    /// For <Date>; the shift and the clock apply to every date.
     DateSettings dates = {};
-    /// Of <Csv>; null without one.
+    /// For <Csv>; null without a table.
     std::shared_ptr<const CsvData> csv = {};
-    /// Of the last pattern before the template; nothing without one.
+    /// The shape of the last pattern before the template; nothing without one.
     std::optional<PatternShape> pattern = {};
 };
 
-/// What a token tells of an entry.
+/// The value of a token for an entry.
 struct TokenAnswer
 {
-    /// Nothing where there is no value.
+    /// Nothing if there is no value.
     std::optional<CString> text = {};
     /// Why there is none.
     Reason reason = Reason::NoValue;
@@ -42,7 +42,7 @@ struct TokenAnswer
 
 using TokenReader = std::function<TokenAnswer(Subject&)>;
 
-/// A token as the help and the documents name it.
+/// A token in the help and the documentation.
 struct TokenHelp
 {
     /// With its brackets, such as "<Parent:2>".
@@ -50,14 +50,14 @@ struct TokenHelp
     const char* meaning;
 };
 
-/// Every token, in the order in which they are shown; the counters and <Folder> among them.
+/// Every token, including the counters and <Folder>, in the order of display.
 [[nodiscard]] std::span<const TokenHelp> TokenTable();
 
 /// The reader of `token`.
 /// @param text      the whole template, for errors.
-/// @param question  gets what the token asks of the content of every file. It must live as long as the reader, and be
-///     complete before that reads.
-/// @throws UsageError for an unknown token, with the one that was probably meant, and for a wrong option.
+/// @param question  gets the content values that the token needs. It must live as long as the reader, and be complete
+///     before the first reading.
+/// @throws UsageError for an unknown token, with a hint at the nearest one, and for a wrong option.
 [[nodiscard]] TokenReader ReaderOf(const Text::Token& token, const TemplateSettings& settings, std::u16string_view text,
                                    Media::MediaQuestion& question);
 

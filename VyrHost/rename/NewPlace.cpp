@@ -1,4 +1,4 @@
-// Checks new names for what the system forbids and for lone surrogates, and opens folders to move into.
+// Checks new names for characters that the system forbids and for lone surrogates, and opens destination folders.
 #include <VyrHost/rename/NewPlace.h>
 
 #include <VyrPlatform/files/FileSystem.h>
@@ -78,7 +78,7 @@ using VyrHostPlatform::NameFault;
 
 TargetFolders::Target TargetFolders::Open(const CString& path, const CString& shown)
 {
-    // The folders that are not there yet, the innermost first.
+    // The missing folders, the innermost first.
     std::vector<std::uint32_t> missing;
     std::uint32_t number = m_folders.Open(path, shown);
     std::optional<Target> target = Find(number);
@@ -94,7 +94,7 @@ TargetFolders::Target TargetFolders::Open(const CString& path, const CString& sh
     return *target;
 }
 
-/// The target for a known folder; nothing for one whose name has to be claimed.
+/// The target for a known folder; nothing for one whose name must be reserved.
 std::optional<TargetFolders::Target> TargetFolders::Find(std::uint32_t number) const
 {
     const Model::Folder& folder = m_folders[number];
@@ -109,7 +109,7 @@ std::optional<TargetFolders::Target> TargetFolders::Find(std::uint32_t number) c
     return std::nullopt;
 }
 
-/// Claims a name in the folder `parent` for a folder that is not there yet.
+/// Reserves a name in the folder `parent` for a missing folder.
 TargetFolders::Target TargetFolders::Reserve(std::uint32_t number, const Target& parent)
 {
     if (parent.reason != Reason::None)
@@ -120,7 +120,7 @@ TargetFolders::Target TargetFolders::Reserve(std::uint32_t number, const Target&
     if (siblings.Find(folder.name))
         return {.folder = number, .reason = Reason::BadFolder};
     const NameFault warning = ValidateName(folder.name, {}).warning;
-    // Its file system may take the name for that of a folder which is claimed already.
+    // The file system may regard the name as equal to a reserved one.
     const Target target{
         .folder = number, .warning = warning == NameFault::None ? parent.warning : warning, .device = parent.device};
     Model::NameTable& after = m_after.In(parent.folder);

@@ -1,5 +1,5 @@
 /// @file
-/// What an entry can get: a name, and a folder to move into.
+/// Checks new names, and opens destination folders.
 #pragma once
 
 #include <VyrHost/model/FolderSet.h>
@@ -25,8 +25,7 @@ struct NameValidity
 
 [[nodiscard]] NameValidity ValidateName(std::u16string_view newName, std::u16string_view oldName);
 
-/// Opens folders to move into; those that are not there yet count as folders that the batch makes, and hold their
-/// names.
+/// Opens destination folders. Missing ones become new folders of the batch, and reserve their names.
 class TargetFolders
 {
 public:
@@ -37,13 +36,13 @@ public:
         std::uint32_t folder = 0;
         /// Why nothing can be moved there.
         Reason reason = Reason::None;
-        /// What is wrong on Windows with the name of a folder that is to be made.
+        /// The fault of a new folder's name on Windows.
         VyrHostPlatform::NameFault warning = VyrHostPlatform::NameFault::None;
-        /// The file system that the folder is on, or will be.
+        /// The file system of the folder, or of its nearest existing parent.
         std::optional<std::uint64_t> device = std::nullopt;
     };
 
-    /// The folder `path` (absolute, its separator at the end).
+    /// Opens the folder `path` (absolute, with a separator at its end).
     Target Open(const CString& path, const CString& shown);
 
 private:
@@ -52,9 +51,9 @@ private:
 
     Model::FolderSet& m_folders;
     NamesAfter& m_after;
-    /// What was found for each folder.
+    /// The target for each folder.
     std::unordered_map<std::uint32_t, Target> m_targets;
-    /// The folders to be created, by the folder that they will be in and the number of their name's record there.
+    /// The folders to be created, by their parent and the index of their name's record there.
     std::map<std::pair<std::uint32_t, std::size_t>, Target> m_reserved;
 };
 

@@ -86,7 +86,7 @@ std::string WriteOptionLine(const std::vector<CString>& words)
             throw Text::UsageError("a text with a line end or a NUL cannot be kept");
         if (!line.empty())
             line += ' ';
-        // A mark at the beginning of the text would not be part of the word.
+        // A byte order mark at the beginning of the text would not be part of the word.
         const bool hasMark = Text::SkipByteOrderMark(bytes) != bytes;
         if (!bytes.empty() && !hasMark && bytes.find_first_of(" \t\"#") == std::string::npos) {
             line += bytes;

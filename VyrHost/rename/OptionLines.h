@@ -1,5 +1,5 @@
 /// @file
-/// Options as a text that people can read, edit and share: the form of kept rules.
+/// Options as text that people can read, edit and share: the form of kept rules.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -15,20 +15,20 @@ namespace VyrHost::Rename {
 struct OptionLine
 {
     std::vector<CString> words;
-    /// Where it stands, from 1 on.
+    /// The number of its line, from 1.
     std::size_t number = 0;
 };
 
-/// Reads options, one a line, in UTF-8: words are separated by blanks; in double quotes a word may hold blanks, or
-/// nothing, and two double quotes in it are one. Everything else, backslashes too, is literal. Empty lines, and lines
-/// that begin with "#", say nothing.
+/// Parses options, one per line, in UTF-8. Words are separated by blanks; a word in double quotes may contain blanks or
+/// be empty, and two double quotes in it are one. Everything else, including backslashes, is literal. Empty lines and
+/// lines that begin with "#" are ignored.
 ///
 /// Example: `--regex "^(.+) - (.+)$" "$2 - $1"`.
-/// @throws UsageError for quotes that are not closed or have something behind them, a NUL, and more than 1 MiB.
+/// @throws UsageError for unclosed quotes, quotes followed by text, a NUL, and more than 1 MiB.
 [[nodiscard]] std::vector<OptionLine> ReadOptionLines(std::string_view text);
 
-/// The line of an option, with a line end; ReadOptionLines gives the same words.
-/// @throws UsageError for a word with a line end or a NUL, which a line cannot hold.
+/// The line of an option, with a line end; the inverse of ReadOptionLines.
+/// @throws UsageError for a word with a line end or a NUL.
 [[nodiscard]] std::string WriteOptionLine(const std::vector<CString>& words);
 
 /// Throws a UsageError that names the line.

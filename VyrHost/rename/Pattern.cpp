@@ -1,4 +1,4 @@
-// Compiles patterns with PCRE2, and bounds what a match may take.
+// Compiles patterns with PCRE2, and limits the cost of a match.
 #include <VyrHost/rename/Pattern.h>
 
 #include <VyrPlatform/text/Encoding.h>
@@ -12,7 +12,7 @@ namespace VyrHost::Rename {
 
 namespace {
 
-/// Steps back: a pattern that needs more for a name runs away. A sensible one takes a few hundred.
+/// The limit of backtracking steps: a reasonable pattern takes a few hundred for a name.
 constexpr std::uint32_t mostSteps = 1'000'000;
 constexpr std::uint32_t mostKibibytes = 16 * 1024;
 
@@ -82,7 +82,7 @@ void Pattern::ReadNames()
     pcre2_pattern_info(code, PCRE2_INFO_NAMEENTRYSIZE, &width);
     pcre2_pattern_info(code, PCRE2_INFO_NAMETABLE, &table);
     m_groupCount = groups;
-    // Each row is the number, then the name with a NUL behind it.
+    // Each row is the number, then the name with a NUL after it.
     for (std::uint32_t row = 0; row < names; ++row, table += width)
         m_names.push_back({reinterpret_cast<const char16_t*>(table + 1), table[0]});
 }

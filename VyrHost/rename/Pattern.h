@@ -1,6 +1,5 @@
 /// @file
-/// Patterns in Perl's syntax, compiled once and looked for in name after name, and the texts that are put in for what
-/// they match.
+/// Regular expressions in Perl's syntax, compiled once and searched in many names, and replacements for their matches.
 #pragma once
 
 #include <VyrHost/rename/PatternGroups.h>
@@ -20,18 +19,18 @@ namespace VyrHost::Rename {
 [[noreturn]] void RefusePattern(std::u16string_view text, std::size_t place, const std::string& reason);
 
 /// A pattern as PCRE2 understands it. It sees characters, never halves of one; classes such as \w and \d, and letter
-/// case, are Unicode's. A byte of a name that is no text (a lone surrogate) matches nothing.
+/// case, are Unicode's. A byte of a name that is not UTF-8 (a lone surrogate) matches nothing.
 class Pattern
 {
 public:
     /// @param ignoresCase  whether letters match in either case.
-    /// @throws UsageError for a text that is no pattern, with a mark under the place.
+    /// @throws UsageError for an invalid pattern, with a mark under the place.
     Pattern(const CString& text, bool ignoresCase);
     ~Pattern();
     Pattern(const Pattern&) = delete;
     Pattern& operator=(const Pattern&) = delete;
 
-    /// How many groups it has, besides the whole match.
+    /// The number of groups, without the whole match.
     [[nodiscard]] std::size_t GroupCount() const { return m_groupCount; }
     [[nodiscard]] const std::vector<GroupName>& GroupNames() const { return m_names; }
 
@@ -39,21 +38,21 @@ public:
     {
         Found,
         NotFound,
-        /// It took more steps, or more memory, than a sensible pattern takes for a name.
+        /// It took too many steps or too much memory.
         GaveUp
     };
-    /// Looks for the pattern in `text` from `start` on.
-    /// @param mayBeEmpty  whether an empty match at `start` counts: not behind another one that ended there.
+    /// Searches for the pattern in `text` from `start` on.
+    /// @param mayBeEmpty  whether an empty match at `start` counts: false after a match that ended there.
     Result Find(std::u16string_view text, std::size_t start, bool mayBeEmpty);
-    /// Why Find gave up last.
+    /// The reason why the last Find gave up.
     [[nodiscard]] CString Problem() const;
-    /// Where the groups of the last match that Find found are, the whole match first.
+    /// The ranges of the groups in the last match, the whole match first.
     [[nodiscard]] const std::vector<PatternGroups::Range>& Groups() const { return m_ranges; }
 
 private:
     void ReadNames();
 
-    /// The library's objects, which its header alone knows.
+    /// The objects of PCRE2.
     struct Compiled;
     std::unique_ptr<Compiled> m_compiled;
     int m_problem = 0;
@@ -62,17 +61,16 @@ private:
     std::vector<PatternGroups::Range> m_ranges;
 };
 
-/// What is put in for a match: text, with $1, ${1} and ${name} for groups, $& and $0 for the whole match, $$ for a
-/// dollar sign. \U and \L make what follows, up to \E, capital or small; \u and \l the next character alone. A
-/// backslash before a sign makes that text.
+/// The replacement for a match: text, with $1, ${1} and ${name} for groups, $& and $0 for the whole match, $$ for a
+/// dollar sign. \U and \L convert the following text, up to \E, to upper or lower case; \u and \l convert the next
+/// character. A backslash before a punctuation character makes it literal.
 class Replacement
 {
 public:
-    /// @throws UsageError for a group that `pattern` lacks, and a text that makes no sense, with a mark under the
-    /// place.
+    /// @throws UsageError for a group that `pattern` lacks, and for an invalid text, with a mark under the place.
     Replacement(const CString& text, const Pattern& pattern);
 
-    /// Appends the text for the match that `groups` tell of.
+    /// Appends the text for the match in `groups`.
     void AppendTo(std::u16string& result, const PatternGroups& groups) const;
 
 private:
@@ -91,7 +89,7 @@ private:
             Text,
             NumberedGroup,
             NamedGroup,
-            /// Sets the letter case up to the next of its kind.
+            /// Sets the letter case up to the next such part.
             CaseOfRest,
             /// Sets the letter case of the next character.
             CaseOfNext

@@ -1,5 +1,5 @@
 /// @file
-/// What the groups of a pattern matched in a name: rules put it into names, and so do the templates behind them.
+/// The texts that the groups of a pattern matched in a name, for replacements and for later templates.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -18,10 +18,10 @@ struct GroupName
     std::size_t number = 0;
 };
 
-/// Which groups a pattern has.
+/// The groups of a pattern.
 struct PatternShape
 {
-    /// How many, the whole match left out.
+    /// Their number, without the whole match.
     std::size_t count = 0;
     std::vector<GroupName> names = {};
 };
@@ -30,7 +30,7 @@ struct PatternShape
 class PatternGroups
 {
 public:
-    /// Where a group matched, in code units; `begin` is `noPlace` for one that took no part.
+    /// The range of a group, in code units; `begin` is `noPlace` for one that did not match.
     struct Range
     {
         std::size_t begin = 0;
@@ -40,16 +40,16 @@ public:
 
     /// Whether a pattern matched.
     [[nodiscard]] bool HasMatched() const { return !m_ranges.empty(); }
-    /// What the group `number` matched: empty for one that took no part, nothing where no pattern matched or it has no
-    /// such group. The view is valid as long as the groups are.
+    /// The text of the group `number`: empty for one that did not match, nothing if no pattern matched or it has no
+    /// such group. The view is valid as long as this object is unchanged.
     [[nodiscard]] std::optional<std::u16string_view> Find(std::size_t number) const;
-    /// Likewise by name. Of several groups with the name, the first that took part counts.
+    /// The same by name. Of several groups with the name, the first one that matched counts.
     [[nodiscard]] std::optional<std::u16string_view> Find(std::u16string_view name) const;
 
     void Clear() { m_ranges.clear(); }
     /// @param text    the name that the pattern matched in.
-    /// @param ranges  one for each group, the whole match first.
-    /// @param names   of the groups; they must outlive this.
+    /// @param ranges  the range of each group, the whole match first.
+    /// @param names  the names of the groups; must outlive this object.
     void Set(const CString& text, const std::vector<Range>& ranges, const std::vector<GroupName>& names);
 
 private:

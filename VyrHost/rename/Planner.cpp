@@ -1,4 +1,4 @@
-// Finds out who waits for whom, refuses what cannot be done, and has the rest ordered.
+// Finds the dependencies between renames, refuses impossible ones, and has the rest ordered.
 #include <VyrHost/rename/Planner.h>
 
 #include <algorithm>
@@ -21,14 +21,15 @@ using Model::PlanFolder;
 using Model::PlanIndex;
 using VyrHostPlatform::NameFolding;
 
-/// Finds renames by one of their ends, names as their file systems see them. The first of those that share it counts.
+/// Finds renames by one of their ends, with names compared like their file systems. Of several with the same end the
+/// first counts.
 class RenamesByPlace
 {
 public:
     using Foldings = std::vector<NameFolding>;
     using End = Place PlanEntry::*;
 
-    /// @param foldings  for each folder of `plan`. Both must outlive this, and the ends stay as they are.
+    /// @param foldings  one for each folder of `plan`. Both must outlive this, with unchanged ends.
     RenamesByPlace(const Model::RenamePlan& plan, const Foldings& foldings, End end)
         : m_plan(plan), m_foldings(foldings), m_end(end), m_buckets(std::bit_ceil(plan.entries.size() * 2 + 1))
     {
@@ -38,10 +39,10 @@ public:
         });
     }
 
-    /// The rename whose end is `place`; `none` where there is none.
+    /// The rename whose end is `place`; `none` if there is none.
     [[nodiscard]] PlanIndex Find(const Place& place) const { return m_buckets[BucketOf(place, HashOf(place))].entry; }
 
-    /// Calls `use` for each rename of the plan with what Find finds for its `end`.
+    /// Calls `use` for each rename of the plan with the result of Find for its `end`.
     template <class Use>
     void FindEach(End end, Use use)
     {
@@ -49,15 +50,15 @@ public:
     }
 
 private:
-    /// The upper half of the hash of an end, and whose it is.
+    /// The upper half of the hash of an end, and its entry.
     struct Bucket
     {
         std::uint32_t tag = 0;
         PlanIndex entry = none;
     };
 
-    /// How many ends have their hashes known in advance, so that their buckets come from memory meanwhile. Without that
-    /// the preview of a million renames takes a quarter more time of the processor.
+    /// How many ends ahead buckets are prefetched. Without it the preview of a million renames takes a quarter more
+    /// processor time.
     static constexpr std::size_t ahead = 8;
 
     template <class Use>
@@ -148,7 +149,7 @@ private:
         });
     }
 
-    /// Finds for each entry and each folder the entry that stands at its place before the batch.
+    /// Finds, for each entry and each folder, the entry that is at its place before the batch.
     void FindWhoLeaves()
     {
         RenamesByPlace leaving(m_plan, m_foldings, &PlanEntry::from);
@@ -159,7 +160,7 @@ private:
                 m_standingAt[folder] = leaving.Find(m_plan.folders[folder].place);
     }
 
-    /// Tells the folders that the batch renames and creates from those that stay.
+    /// Finds the folders that the batch renames or creates.
     void FindFoldersInTheirPlaces()
     {
         for (PlanIndex folder = 0; folder < m_plan.folders.size(); ++folder) {
@@ -168,7 +169,7 @@ private:
                 continue;
             const PlanIndex standing = std::exchange(m_standingAt[folder], none);
             const PlanIndex coming = m_coming->Find(planned.place);
-            // Entries move into a folder by its name before the batch, also where the batch gives it another one.
+            // Entries refer to a destination folder by its name before the batch, even if the batch renames it.
             if (standing != none && m_plan.entries[standing].kind == VyrPlatform::FileSystem::Kind::Folder)
                 planned.isNew = false;
             if (planned.isNew) {
@@ -197,8 +198,7 @@ private:
         }
     }
 
-    /// What needs the place of a refused entry is refused too, since it is not vacated, and what keeps together with
-    /// it.
+    /// Refuses entries that need the place of a refused one, since that is not vacated, and the others of its group.
     void RefuseDependents()
     {
         if (m_refused.empty())
@@ -227,11 +227,11 @@ private:
         return members;
     }
 
-    /// For each entry at whose place a folder is created the entries that move into that folder and the new folders
+    /// For each entry at whose place a folder is created, the entries that move into that folder and into new folders
     /// below it.
     [[nodiscard]] std::vector<std::vector<PlanIndex>> ListWaitingForFolders() const
     {
-        // Whatever stands in the way stands at the topmost of the new folders.
+        // An entry in the way is at the path of the topmost new folder.
         std::vector<PlanIndex> inTheWay(m_plan.folders.size(), none);
         for (PlanIndex folder = 0; folder < m_plan.folders.size(); ++folder) {
             const PlanFolder& planned = m_plan.folders[folder];
@@ -266,7 +266,7 @@ private:
         return result;
     }
 
-    /// @return for each entry that is left its index before.
+    /// @return the old index of each remaining entry.
     std::vector<PlanIndex> LeaveRefusedOut()
     {
         std::vector<PlanIndex> before;
@@ -299,10 +299,10 @@ private:
     const std::vector<std::uint32_t> m_groups;
     /// By their new places.
     std::optional<RenamesByPlace> m_coming;
-    /// For each new folder the entry at its place.
+    /// For each new folder, the entry at its place.
     std::vector<PlanIndex> m_standingAt;
     std::vector<bool> m_isRefused;
-    /// In the order in which it was found out.
+    /// In the order of discovery.
     std::vector<PlanRefusal> m_refused;
 };
 

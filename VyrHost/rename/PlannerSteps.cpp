@@ -1,4 +1,4 @@
-// Walks from each rename to what it waits for, and breaks the cycles that this finds.
+// Orders renames after those that they wait for, and breaks cycles.
 #include <VyrHost/rename/Planner.h>
 
 #include <array>
@@ -32,14 +32,14 @@ private:
     enum class State : std::uint8_t
     {
         Untouched,
-        /// What it waits for is being ordered.
+        /// Its dependencies are being ordered.
         Open,
-        /// An entry whose place is free already.
+        /// An entry that has left its place already.
         UseTemporaryName,
         Done
     };
 
-    /// A task on the way, and how many of the tasks that it waits for are ordered.
+    /// A visited task, and the number of its dependencies that are ordered.
     struct Visited
     {
         Task task;
@@ -57,7 +57,7 @@ private:
     }
     [[nodiscard]] static Task RenameOf(Model::PlanIndex entry) { return entry == Model::none ? nothing : Task{entry}; }
 
-    /// Folders come first: that keeps their order from the top down.
+    /// Folders come first, to keep their order from the top down.
     [[nodiscard]] std::array<Task, 2> WaitsFor(Task task) const
     {
         if (IsEntry(task))
@@ -96,7 +96,7 @@ private:
         m_way.push_back({task});
     }
 
-    /// `task` waits, by way of others, for itself.
+    /// Breaks the cycle in which `task` waits for itself.
     void BreakCycle(Task task)
     {
         if (IsEntry(task))
@@ -111,8 +111,8 @@ private:
         m_states[entry] = State::UseTemporaryName;
     }
 
-    /// Makes a folder that something on the way waits for: only what stands at the place of the topmost folder to be
-    /// made can be in the way, and that is on the way too.
+    /// Makes a folder that a visited task waits for: only the entry at the place of the topmost new folder can be in
+    /// the way, and it is visited, too.
     void MakeAtOnce(Model::PlanIndex folder)
     {
         std::vector<Model::PlanIndex> line;

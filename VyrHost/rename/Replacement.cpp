@@ -1,4 +1,4 @@
-// Reads the text that is put in for a match, and writes it with the groups of one.
+// Parses replacements, and fills in the groups of a match.
 #include <VyrHost/rename/Pattern.h>
 
 #include <VyrHost/rename/TemplateTokens.h>
@@ -34,7 +34,7 @@ bool IsWordUnit(char16_t unit)
 
 } // namespace
 
-/// Walks the text of a replacement from its start to its end.
+/// Parses the text of a replacement.
 class ReplacementReader
 {
 public:
@@ -67,7 +67,7 @@ private:
 
     [[nodiscard]] char16_t Next() const { return m_place < m_text.size() ? m_text[m_place] : u'\0'; }
 
-    /// Takes the units from here on for which `belongs` holds.
+    /// Takes the following units for which `belongs` is true.
     std::u16string_view Take(bool (*belongs)(char16_t))
     {
         const std::size_t begin = m_place;

@@ -79,8 +79,8 @@ struct Edges
     bool isEnd;
 };
 
-/// Puts `value` in place of every `token`. Where it is empty, a blank beside the token goes too, unless that would join
-/// two words.
+/// Replaces every `token` with `value`. If that is empty, a blank beside the token is removed, too, unless that would
+/// join two words.
 CString PutIn(const CString& text, std::u16string_view token, std::u16string_view value, Edges edges)
 {
     std::u16string result;

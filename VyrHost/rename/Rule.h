@@ -1,5 +1,5 @@
 /// @file
-/// Rules: what they work on, what they may answer, and those that the engine carries out.
+/// The interface of rules, and the rules that the engine carries out.
 #pragma once
 
 #include <VyrHost/model/DateSource.h>
@@ -20,35 +20,35 @@
 
 namespace VyrHost::Rename {
 
-/// One entry while the rules work on it, one after the other.
+/// An entry to which rules are applied, one after the other.
 struct Subject
 {
-    /// Where the entry is now: the source of its dates and picture data. Absolute.
+    /// The present path of the entry, from which dates and picture data are read. Absolute.
     CString path;
     bool isFolder = false;
-    /// The place that counts for sequence numbers, from 0.
+    /// The index for sequence numbers, from 0.
     int index = 0;
-    /// The number of the entries that it keeps together with, and whether another one of them decides for it.
+    /// The number of its group, and whether another entry of the group decides its name.
     std::size_t group = 0;
     bool isFollower = false;
 
-    /// What the rules have made of it so far. The folder ends in its separator, the extension begins with its dot.
+    /// The result of the rules so far. The folder ends in a separator, the extension begins with a dot.
     CString folder;
     CString name;
     CString extension;
 
-    /// What the last pattern matched.
+    /// The match of the last pattern.
     PatternGroups groups = {};
 
-    /// What the file at `path` tells (FileValuesOf).
+    /// The values of the file at `path`; use FileValuesOf.
     FileValues values = {};
 
-    /// Set by a rule that gives no name: what there is to say beyond the reason.
+    /// A further explanation from a rule that makes no name.
     CString cause = {};
 
-    /// The rank of the date that a rule took among those asked for, from 0; of several rules the highest.
+    /// The index of the used date among the requested ones, from 0; the highest one of several rules.
     std::size_t dateRank = 0;
-    /// The dates that rules with a choice took.
+    /// The dates that rules with a choice used.
     Model::DateSourceSet datesTaken = {};
 };
 
@@ -57,18 +57,18 @@ class Rule
 public:
     virtual ~Rule() = default;
     /// Changes the subject's folder, name and extension.
-    /// @return why there is no name; the subject is not to be used then.
+    /// @return the reason if there is no name; the subject must not be used then.
     virtual Reason Apply(Subject& subject) = 0;
-    /// Whether names that clash under this rule are to be numbered.
+    /// Whether conflicting names of this rule are numbered.
     [[nodiscard]] virtual bool MayNumber() const = 0;
     /// The groups of its pattern, for the templates of later rules; nothing for a rule without one.
     [[nodiscard]] virtual std::optional<PatternShape> ShapeOfPattern() const { return std::nullopt; }
 };
 
-/// What the file at the subject's path tells.
+/// The values of the file at the subject's path.
 [[nodiscard]] FileValues& FileValuesOf(Subject& subject);
 
-/// Moves the subject into the folder `name` of the folder that it is in. Refuses "", "." and "..".
+/// Moves the subject into the subfolder `name` of its folder. Refuses "", "." and "..".
 [[nodiscard]] Reason StepDown(Subject& subject, const CString& name);
 
 /// The longest text that a rule makes for a name, in code units; more than any system takes.
@@ -79,7 +79,7 @@ void SetWholeName(Subject& subject, const CString& whole);
 
 using Rules = std::vector<std::unique_ptr<Rule>>;
 
-/// A single rule of the class `Made`, made of `arguments`.
+/// A single rule of the class `Made`, made from `arguments`.
 template <typename Made, typename... Arguments>
 [[nodiscard]] Rules OneRule(Arguments&&... arguments)
 {
@@ -88,10 +88,10 @@ template <typename Made, typename... Arguments>
     return rules;
 }
 
-/// A record of the engine for `kind` without any settings yet.
+/// A record of the engine for `kind`, without settings.
 [[nodiscard]] VyrLibraryFuncs::NameFuncs::ITEM NewItem(VyrLibraryFuncs::NameFuncs::RenameType kind);
 /// A record that inserts `text` at `position` (in code units, 0 or more).
-/// @param type  InsertFromStart or InsertFromEnd: where the position is counted from.
+/// @param type  InsertFromStart or InsertFromEnd: the end from which the position is counted.
 [[nodiscard]] VyrLibraryFuncs::NameFuncs::ITEM InsertItem(VyrLibraryFuncs::NameFuncs::AddDeleteType type, int position,
                                                           std::u16string_view text);
 
@@ -105,33 +105,33 @@ public:
     [[nodiscard]] bool MayNumber() const override;
 
 protected:
-    /// The engine's answer for `subject`, cut into the subject's folder, the name and the extension.
+    /// Computes the engine's result for `subject`, and splits it into the subject's folder, name and extension.
     void Compute(Subject& subject);
 
     /// The one record that serves all entries.
     VyrLibraryFuncs::NameFuncs::ITEM m_item;
 };
 
-/// Writes the first date that an entry has, of those asked for, and replaces the tokens: "<Make>" and
-/// "<Model>" the camera, "<Folder>" a step down into a folder. A blank beside a "<Make>" or "<Model>" that the picture
-/// does not tell goes with it. A picture that cannot be read is a fault, not one without a date.
+/// Writes the first of the requested dates that an entry has, and replaces the tokens: "<Make>" and "<Model>" with the
+/// camera, "<Folder>" with a step down into a folder. A blank beside a missing "<Make>" or "<Model>" is removed with
+/// it. A picture that cannot be read is an error, not a picture without a date.
 class DateRule : public Rule
 {
 public:
     using Position = VyrLibraryFuncs::NameFuncs::DateTimePosition;
 
-    /// @param position  where the date goes.
+    /// @param position  the position of the date.
     DateRule(std::u16string_view format, Position position, DateSettings settings);
 
     Reason Apply(Subject& subject) override;
     [[nodiscard]] bool MayNumber() const override { return true; }
 
 private:
-    /// Writes the first date that is there.
+    /// Writes the first date that exists.
     [[nodiscard]] Reason WriteDate(Subject& subject, CString& text) const;
-    /// Puts the camera into `text`, which stands in the new name where the position says.
+    /// Inserts the camera into `text`, which is at `position` in the new name.
     [[nodiscard]] Reason PutInCamera(Subject& subject, CString& text) const;
-    /// Moves the subject down the folders that `text` begins with, which are taken off it.
+    /// Moves the subject down the folders at the start of `text`, and removes them from it.
     static Reason TakeFolders(Subject& subject, CString& text);
 
     DateWriter m_format;

@@ -1,4 +1,4 @@
-// Reads numbers and lists of dates.
+// Parses numbers and lists of dates.
 #include <VyrHost/rename/RuleTexts.h>
 
 #include <VyrHost/text/Errors.h>

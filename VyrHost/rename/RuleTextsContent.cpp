@@ -1,4 +1,4 @@
-// Makes the rule that goes by the content of files.
+// Makes the rule that reads the content of files.
 #include <VyrHost/rename/RuleTexts.h>
 
 #include <VyrHost/media/ContentKind.h>

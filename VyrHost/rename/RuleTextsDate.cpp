@@ -1,4 +1,4 @@
-// Makes rules of a date format.
+// Makes rules from a date format.
 #include <VyrHost/rename/RuleTexts.h>
 
 #include <VyrHost/rename/TemplateTokens.h>
@@ -27,7 +27,7 @@ void Append(Rules& rules, Position position, std::u16string_view format, const D
     rules.push_back(std::make_unique<DateRule>(format, position, settings));
 }
 
-/// Refuses folders whose names would be empty or "." or ".." for any date.
+/// Refuses folders whose names would be empty, "." or ".." for every date.
 void RequireFolderNames(std::u16string_view format)
 {
     std::u16string_view rest = format;

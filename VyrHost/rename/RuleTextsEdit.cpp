@@ -17,7 +17,7 @@ using VyrLibraryFuncs::NameFuncs;
 
 using Edit = NameFuncs::AddDeleteType;
 
-/// Finds the text whatever normal form the name is written in.
+/// Finds the text in any normal form of the name.
 class ReplaceRule final : public EngineRule
 {
 public:
@@ -40,7 +40,7 @@ private:
     bool m_ignoresCase;
 };
 
-/// Inserts or deletes at a place that a short name does not have: the engine would leave such a name as it is.
+/// Inserts or deletes at a position. Reports a name that is too short, which the engine would leave unchanged.
 class PlacedRule final : public EngineRule
 {
 public:
@@ -74,7 +74,7 @@ Rules InsertRule(Edit type, int position, const CString& text, const char* optio
     return OneRule<PlacedRule>(InsertItem(type, position, text));
 }
 
-/// A place in a name, counted from its start or, with a minus sign, from its end; and what stands behind the colon.
+/// A position in a name, counted from its start or, with a minus sign, from its end; and the text after the colon.
 struct PlacedText
 {
     bool fromEnd;
@@ -213,7 +213,7 @@ Rules ExtensionCaseRules(const CString& text)
 
 Rules DropExtensionRules()
 {
-    // The engine removes the extension for any number that no type has.
+    // The engine removes the extension for any number that is not a type.
     constexpr int noExtension = 3;
     return ExtensionRule(noExtension);
 }

@@ -1,4 +1,4 @@
-// Makes rules of the template of a sequence number.
+// Makes rules from the template of a sequence number.
 #include <VyrHost/rename/RuleTexts.h>
 
 #include <VyrHost/rename/Rule.h>
@@ -24,7 +24,7 @@ using Position = NameFuncs::NumberPosition;
     Text::RefuseValue("--number", text, reason);
 }
 
-/// The engine's sequence numbers, which wrap where 32 bits end: here that is an error.
+/// The engine's sequence numbers wrap after 32 bits; here that is an error.
 class SequenceRule final : public EngineRule
 {
 public:
@@ -46,7 +46,7 @@ struct NumberSpot
 {
     std::size_t begin;
     std::size_t length;
-    /// As wide as the number is at least; nothing where the template does not say.
+    /// The minimum width of the number; nothing if the template does not say it.
     std::optional<int> digits;
 };
 
@@ -75,7 +75,7 @@ void AppendNumber(Rules& rules, NameFuncs::ITEM number, Position position)
     rules.push_back(std::make_unique<SequenceRule>(std::move(number)));
 }
 
-/// Unless `text` is empty.
+/// Appends a rule that inserts `text`, unless it is empty.
 void AppendInsert(Rules& rules, Edit type, std::u16string_view text)
 {
     if (!text.empty())

@@ -1,4 +1,4 @@
-// Makes the rule that puts texts in for what a pattern matches.
+// Makes the rule that replaces matches of a pattern.
 #include <VyrHost/rename/RuleTexts.h>
 
 #include <VyrHost/rename/Pattern.h>
@@ -75,7 +75,7 @@ private:
         return Reason::PatternGaveUp;
     }
 
-    /// Goes on to the next match in `text`. Where an empty one has just been found, the next is longer.
+    /// Finds the next match in `text`. After an empty one, the next must be longer.
     Pattern::Result FindNext(std::u16string_view text, std::size_t& start, bool& mayBeEmpty)
     {
         const Pattern::Result result = m_pattern.Find(text, start, mayBeEmpty);
@@ -87,7 +87,7 @@ private:
         return result;
     }
 
-    /// @return why no more were found.
+    /// @return the reason why no more were found.
     Pattern::Result CountMatches(std::u16string_view text)
     {
         m_count = 0;
@@ -132,10 +132,10 @@ private:
     Pattern m_pattern;
     Replacement m_replacement;
     PatternRuleSettings m_settings;
-    /// Which match in the name at hand is replaced; nothing for all of them.
+    /// The match to replace in the current name; nothing for all of them.
     std::optional<int> m_chosen;
     int m_count = 0;
-    /// Kept for its memory.
+    /// A member to reuse its memory.
     std::u16string m_made;
 };
 

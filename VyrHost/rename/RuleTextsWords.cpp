@@ -1,4 +1,4 @@
-// Makes rules that change a name as a text: letter case by words, numbers, accents and blanks.
+// Makes rules that edit the text of a name: letter case by words, numbers, accents and blanks.
 #include <VyrHost/rename/RuleTexts.h>
 
 #include <VyrHost/rename/Words.h>

@@ -1,4 +1,4 @@
-// Reads time zones.
+// Parses time zones.
 #include <VyrHost/rename/RuleTexts.h>
 
 #include <VyrHost/text/Errors.h>
@@ -26,7 +26,7 @@ constexpr const char* option = "--time-zone";
             hint);
 }
 
-/// Whether another zone was meant, by its whole name or by that of its city alone.
+/// A hint at a similar zone, by its whole name or by that of its city.
 std::string HintOf(const std::string& typed)
 {
     const std::vector<std::string> names = VyrHostPlatform::TimeZoneNames();

@@ -1,4 +1,4 @@
-// Cuts lines into fields.
+// Splits lines into fields.
 #include <VyrHost/rename/TableReader.h>
 
 #include <VyrHost/text/Errors.h>
@@ -11,14 +11,15 @@ namespace VyrHost::Rename {
 
 namespace {
 
-/// Names may begin with the bytes of its mark, but hold no NUL, which every ASCII character has in UTF-16.
+/// Names may begin with the bytes of its byte order mark, but do not contain NUL, as every ASCII character in UTF-16
+/// does.
 bool IsUtf16(std::string_view bytes)
 {
     const bool hasMark = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
     return hasMark && bytes.find('\0') != std::string_view::npos;
 }
 
-/// How long the quoted field that `rest` begins with is; 0 where it does not end with the field.
+/// The length of the quoted field at the start of `rest`; 0 if its quotes do not end with the field.
 std::size_t QuotedLength(std::string_view rest)
 {
     std::size_t end = rest.find('"', 1);
@@ -29,7 +30,7 @@ std::size_t QuotedLength(std::string_view rest)
     return isWhole ? end + 1 : 0;
 }
 
-/// How often each separator stands in a line outside the quoted fields of CSV.
+/// The number of each separator in a line, outside quoted fields.
 struct FirstLine
 {
     std::size_t tabs = 0;

@@ -10,14 +10,14 @@
 
 namespace VyrHost::Rename {
 
-/// Reads the lines of a table. The first line decides what separates the fields: a tab where it has one outside quoted
-/// fields, then everything stands as it is; else it is CSV (RFC 4180: a field in double quotes may hold separators and
-/// line ends, two double quotes in it are one) with commas or with semicolons. Empty lines are skipped, a mark of UTF-8
-/// in front too.
+/// Parses the lines of a table. The first line determines the separator: if it has a tab outside quoted fields, fields
+/// are separated by tabs and literal; else it is CSV (RFC 4180: a field in double quotes may contain separators and
+/// line ends, two double quotes in it are one) with commas or semicolons. Skips empty lines, and a byte order mark of
+/// UTF-8 at the beginning.
 class TableReader
 {
 public:
-    /// What tells a semicolon from a comma.
+    /// How to decide between semicolons and commas.
     enum class Columns : std::uint8_t
     {
         /// Semicolons separate where only one of them makes two fields of the first line.
@@ -27,12 +27,12 @@ public:
     };
 
     /// @param bytes  the table; they must outlive the reader.
-    /// @param what   what the table is, for errors.
+    /// @param what  the description of the table in messages.
     /// @throws UsageError for text in UTF-16.
     TableReader(std::string_view bytes, const char* what, Columns columns);
 
-    /// The fields of the next line that is not empty; none at the end.
-    /// @throws UsageError for a quoted field without its end.
+    /// The fields of the next non-empty line; none at the end.
+    /// @throws UsageError for an unclosed quoted field.
     [[nodiscard]] std::vector<std::string> NextLine();
 
     /// Throws a UsageError about the line that was read last.

@@ -1,4 +1,4 @@
-// Fills in the values of an entry first, and the counters that may depend on them behind.
+// Fills in the values of an entry, and then the counters, which may depend on them.
 #include <VyrHost/rename/TemplateRule.h>
 
 #include <VyrHost/rename/RuleTexts.h>
@@ -31,7 +31,7 @@ std::vector<TextChange> ChangesOf(const Text::Token& token, std::u16string_view 
     return changes;
 }
 
-/// Whether a dot and <Extension> are the end.
+/// Whether the template ends in a dot and <Extension>.
 bool EndsInExtension(const std::vector<Text::TemplatePart>& parts)
 {
     if (parts.size() < 2)
@@ -41,11 +41,11 @@ bool EndsInExtension(const std::vector<Text::TemplatePart>& parts)
     return token && token->word == u"Extension" && before && before->View().ends_with(u'.');
 }
 
-/// `text` as the changes make it.
+/// Applies `changes` to `text`.
 Reason Change(const std::vector<TextChange>& changes, CString& text)
 {
     for (const TextChange& change : changes) {
-        // A change may double what it gets.
+        // A change may double the length.
         if (text.GetLength() > longestText)
             return Reason::TooLong;
         text = change(text);
@@ -140,7 +140,7 @@ Reason TemplateRule::FillValues(Subject& subject)
             if (const Reason fault = FillValue(*value, subject, m_texts[index]); fault != Reason::None)
                 return fault;
     }
-    // Without an extension the dot before it goes, too.
+    // Without an extension the dot before it is removed, too.
     if (m_givesExtension && m_texts.back().IsEmpty()) {
         CString& before = m_texts[m_texts.size() - 2];
         before = before.Left(before.GetLength() - 1);
@@ -164,7 +164,7 @@ Reason TemplateRule::FillValue(const Value& value, Subject& subject, CString& te
             subject.cause = value.finish.token;
         return answer.reason;
     }
-    // An entry that keeps together with this one may have the value.
+    // Another entry of the group may have the value.
     subject.dateRank = std::max<std::size_t>(subject.dateRank, 1);
     text = *value.finish.otherwise;
     return Change(value.finish.changes, text);
@@ -178,7 +178,7 @@ Reason TemplateRule::FillCounters(Subject& subject)
             return date.reason;
         m_day = DayOf(date.moment);
     }
-    // The keys are made while no counter is filled in.
+    // The keys are made before any counter is filled in.
     std::vector<CString> written(m_parts.size());
     for (std::size_t index = 0; index < m_parts.size(); ++index)
         if (auto* const counter = std::get_if<Counter>(&m_parts[index]))
@@ -193,7 +193,7 @@ Reason TemplateRule::FillCounters(Subject& subject)
 Reason TemplateRule::FillCounter(Counter& counter, Subject& subject, CString& text)
 {
     std::int64_t place = subject.index;
-    // Who follows another entry gets that one's name, and is not counted.
+    // An entry that follows another one gets its name, and is not counted.
     if (counter.form.scope != CounterScope::WholeList)
         place = subject.isFollower ? 0 : counter.counts.PlaceOf(subject.group, KeyOf(counter.form.scope, subject));
     const auto written = WriteCounter(counter.form.start + counter.form.step * place, counter.form);
@@ -209,7 +209,7 @@ CString TemplateRule::KeyOf(CounterScope scope, const Subject& subject) const
 {
     if (scope == CounterScope::Day)
         return *m_day;
-    // No name holds a NUL.
+    // No name contains a NUL.
     constexpr std::u16string_view end(u"\0", 1);
     CString key = subject.folder;
     CString step;

@@ -1,5 +1,5 @@
 /// @file
-/// The rule that makes the whole new name of a template.
+/// The rule that makes the whole new name from a template.
 #pragma once
 
 #include <VyrHost/rename/Counter.h>
@@ -14,11 +14,11 @@
 
 namespace VyrHost::Rename {
 
-/// Fills a template. The extension stays, unless the template ends in a dot and the token <Extension>.
+/// Fills in a template. Keeps the extension, unless the template ends in a dot and the token <Extension>.
 class TemplateRule final : public Rule
 {
 public:
-    /// @throws UsageError for a template that makes no sense.
+    /// @throws UsageError for an invalid template.
     TemplateRule(std::u16string_view text, const TemplateSettings& settings);
     TemplateRule(const TemplateRule&) = delete;
     TemplateRule& operator=(const TemplateRule&) = delete;
@@ -27,7 +27,7 @@ public:
     [[nodiscard]] bool MayNumber() const override { return true; }
 
 private:
-    /// What a token adds to its value.
+    /// What is done with the value of a token.
     struct Finish
     {
         /// With its brackets, for messages.
@@ -53,24 +53,23 @@ private:
 
     void Add(const Text::Token& token, const TemplateSettings& settings, std::u16string_view text);
     void RequireSense(std::u16string_view text) const;
-    /// Fills in what is no counter.
+    /// Fills in everything but the counters.
     [[nodiscard]] Reason FillValues(Subject& subject);
     [[nodiscard]] Reason FillValue(const Value& value, Subject& subject, CString& text);
     [[nodiscard]] Reason FillCounters(Subject& subject);
     [[nodiscard]] Reason FillCounter(Counter& counter, Subject& subject, CString& text);
     [[nodiscard]] CString KeyOf(CounterScope scope, const Subject& subject) const;
-    /// Puts the texts of the parts into the subject.
+    /// Sets the subject from the texts of the parts.
     [[nodiscard]] Reason Compose(Subject& subject) const;
 
     std::vector<Part> m_parts;
     const DateSettings m_dates;
-    /// What all tokens ask of the content of every file.
+    /// The content values that all tokens need.
     Media::MediaQuestion m_question;
     bool m_givesExtension = false;
     bool m_countsDays = false;
 
-    /// Of the present entry: the text of each part, and the day of the first date in it; nothing for a date that it
-    /// does not have.
+    /// For the current entry: the text of each part, and the day of the first date; nothing if the entry lacks it.
     std::vector<CString> m_texts;
     std::optional<CString> m_day;
 };

@@ -1,4 +1,4 @@
-// Refuses letters and tokens without a meaning, and characters that no name can hold.
+// Refuses letters and tokens without a meaning, and characters that no name can contain.
 #include <VyrHost/rename/TemplateTokens.h>
 
 #include <VyrHost/text/Errors.h>
@@ -44,11 +44,11 @@ std::string ListOf(std::span<const std::u16string_view> tokens)
     return list;
 }
 
-/// Walks a date format from its start to its end.
+/// Checks a date format from its start to its end.
 class DateFormatCheck
 {
 public:
-    /// @param shown  what the error names.
+    /// @param shown  the text to show in messages.
     DateFormatCheck(std::u16string_view format, const char* option, std::u16string_view shown)
         : m_option(option), m_shown(shown), m_rest(format)
     {}
@@ -81,7 +81,7 @@ private:
         return taken;
     }
 
-    /// Two apostrophes are one, and so begin and end no text that could hold a token.
+    /// Two apostrophes mean one, so they do not enclose a text that could contain a token.
     void CheckQuoted()
     {
         const std::size_t end = m_rest.find(u'\'', 1);
@@ -94,7 +94,7 @@ private:
     void CheckToken()
     {
         const std::size_t end = m_hasEnd ? m_rest.find(u'>') : none;
-        // No later "<" has an end either.
+        // Then no later "<" has an end either.
         m_hasEnd = end != none;
         const std::u16string_view token = Take(m_hasEnd ? end + 1 : 1);
         if (m_hasEnd && !IsKnown(token, dateTokens))

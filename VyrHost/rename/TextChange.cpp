@@ -1,4 +1,4 @@
-// Reads changes, and has the text functions of the rules carry them out.
+// Parses changes, and carries them out with the text functions of the rules.
 #include <VyrHost/rename/TextChange.h>
 
 #include <VyrHost/rename/Words.h>
@@ -21,7 +21,7 @@ namespace VyrHost::Rename {
 
 namespace {
 
-/// The word and the arguments; nothing for apostrophes without an end, or in the middle of an argument.
+/// Splits the word and the arguments; nothing for unclosed apostrophes, or apostrophes inside an argument.
 std::optional<std::vector<CString>> CutArguments(std::u16string_view text)
 {
     std::vector<CString> arguments;
@@ -49,11 +49,11 @@ using Arguments = std::vector<CString>;
 struct KnownChange
 {
     const char* word;
-    /// How many arguments it takes.
+    /// The number of its arguments.
     std::size_t count;
-    /// Null where the arguments are wrong.
+    /// Returns null if the arguments are wrong.
     TextChange (*make)(const Arguments& arguments);
-    /// What is expected of the arguments.
+    /// The expected arguments, for messages.
     const char* expected = "";
 };
 

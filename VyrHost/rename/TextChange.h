@@ -1,5 +1,5 @@
 /// @file
-/// What tokens of templates do to their values: `upper`, `replace A B` and so on.
+/// The changes of values in tokens: `upper`, `replace A B` and so on.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -12,9 +12,9 @@ namespace VyrHost::Rename {
 
 using TextChange = std::function<CString(const CString&)>;
 
-/// The change that `text` asks for, a word and its arguments, separated by blanks. An argument in apostrophes may hold
-/// blanks and be empty; two apostrophes in it are one.
-/// @param fault  gets what is wrong, in words; empty for nothing.
+/// Parses a change: a word and its arguments, separated by blanks. An argument in apostrophes may contain blanks or be
+/// empty; two apostrophes in it are one.
+/// @param fault  gets the fault, in words; empty for none.
 [[nodiscard]] TextChange ParseChange(std::u16string_view text, std::string& fault);
 
 } // namespace VyrHost::Rename

@@ -1,4 +1,4 @@
-// Finds the words of a name with patterns, which know the letters of every script alike on both systems.
+// Finds the words of a name with patterns, which treat letters of all scripts equally on both systems.
 #include <VyrHost/rename/Words.h>
 
 #include <VyrHost/rename/Pattern.h>
@@ -23,7 +23,7 @@ bool Has(Pattern& pattern, std::u16string_view text)
     return pattern.Find(text, 0, true) == Pattern::Result::Found;
 }
 
-/// Where the matches of `pattern`, none of them empty, are in `text`.
+/// The ranges of the matches of `pattern`, none of them empty, in `text`.
 std::vector<Range> FindAll(Pattern& pattern, std::u16string_view text)
 {
     std::vector<Range> found;
@@ -68,7 +68,7 @@ public:
     /// Whether the word has a letter case of its own.
     [[nodiscard]] bool IsKept(std::size_t word) const { return m_isKept[word]; }
     [[nodiscard]] std::u16string_view Word(std::size_t word) const { return View(m_words[word]); }
-    /// What stands between the word and the one before it, or the start.
+    /// The text between the word and the previous one, or the start.
     [[nodiscard]] std::u16string_view Before(std::size_t word) const
     {
         const std::size_t begin = word == 0 ? 0 : m_words[word - 1].begin + m_words[word - 1].length;
@@ -105,7 +105,7 @@ bool IsSmallEnglishWord(std::u16string_view word)
     return Has(smallWords, word);
 }
 
-/// Whether a title begins anew behind `between`, which stands between two words: "Artist - The Title".
+/// Whether a new title begins after `between`, the text between two words: "Artist - The Title".
 bool BeginsTitle(std::u16string_view between)
 {
     static Pattern signs(u"[:?!(\\[{\u2013\u2014]|[-.]\\s|\\s-", false);

@@ -1,5 +1,5 @@
 /// @file
-/// Words, numbers and blanks in names: letter case by words, width of numbers, superfluous blanks.
+/// Edits words, numbers and blanks in names: letter case by words, width of numbers, superfluous blanks.
 #pragma once
 
 #include <VyrPlatform/text/CString.h>
@@ -16,20 +16,20 @@ enum class TitleStyle : std::uint8_t
     English
 };
 
-/// Makes words begin with a capital. A word with a capital behind its first letter stays as it is (NASA, iPhone),
-/// unless the whole text is in capitals, in which nothing tells an acronym from a word. Letters behind an apostrophe
-/// stay small (don't), but in names such as O'Neill and d'Artagnan, where three or more follow o', d' or l'.
+/// Makes words begin with a capital. A word with a capital after its first letter stays as it is (NASA, iPhone), unless
+/// the whole text is in capitals, where acronyms cannot be distinguished from words. Letters after an apostrophe stay
+/// small (don't), except in names such as O'Neill and d'Artagnan, where three or more letters follow o', d' or l'.
 ///
 /// Example: "the best of NASA's o'neill" becomes "The Best Of NASA's O'Neill", in English "The Best of NASA's O'Neill".
 [[nodiscard]] CString TitleCase(const CString& text, TitleStyle style);
 
-/// Makes the first word, and each one behind the end of a sentence, begin with a capital and all others with a small
+/// Makes the first word, and each one after the end of a sentence, begin with a capital and all others with a small
 /// letter, with the exceptions of TitleCase.
 ///
 /// Example: "My Holiday. The USB Stick" becomes "My holiday. The USB stick".
 [[nodiscard]] CString SentenceCase(const CString& text);
 
-/// Which numbers of a name, runs of the digits 0 to 9, are meant.
+/// Selects numbers (runs of the digits 0 to 9) in a name.
 enum class WhichNumbers : std::uint8_t
 {
     All,
@@ -37,17 +37,17 @@ enum class WhichNumbers : std::uint8_t
     Last
 };
 
-/// The most digits that a number is filled up to.
+/// The maximum width to which a number is padded.
 inline constexpr int widestNumber = 255;
 
-/// Fills numbers up with zeros in front.
-/// @param width  the least number of digits, from 0 on; longer ones stay.
+/// Pads numbers with leading zeros.
+/// @param width  the minimum number of digits, from 0; longer numbers are not changed.
 [[nodiscard]] CString PadNumbers(const CString& text, int width, WhichNumbers which);
 
-/// Without the blanks at both ends. Blanks are Unicode's White_Space.
+/// Removes the blanks at both ends. Blanks are Unicode's White_Space.
 [[nodiscard]] CString TrimBlanks(const CString& text);
 
-/// With one space for each run of blanks.
+/// Replaces each run of blanks with one space.
 [[nodiscard]] CString CollapseBlanks(const CString& text);
 
 } // namespace VyrHost::Rename

@@ -12,10 +12,10 @@ namespace {
 
 using namespace VyrLibraryUtils::Pictures;
 
-/// No clock is farther from UTC.
+/// No offset from UTC is larger.
 constexpr int mostSeconds = 26 * 60 * 60;
 
-/// What the head of one of the two parts of a file says of it.
+/// The header of one of the two parts of a file.
 struct Head
 {
     std::uint32_t utcMarks;
@@ -25,7 +25,7 @@ struct Head
     std::uint32_t types;
     std::uint32_t letters;
 
-    /// Of what stands behind it, where times have so many bytes.
+    /// The size of the data after it, with times of `timeSize` bytes.
     [[nodiscard]] std::uint64_t SizeOfRest(std::uint64_t timeSize) const
     {
         constexpr std::uint64_t typeSize = 6;
@@ -37,7 +37,7 @@ struct Head
     }
 };
 
-/// The head at the cursor; nothing where there is none of version 2 or later.
+/// Takes the header at the cursor; nothing unless it has version 2 or later.
 std::optional<Head> TakeHead(ByteCursor& file)
 {
     const bool hasMark = file.Bytes(4) == "TZif";
@@ -64,7 +64,7 @@ std::optional<ZoneClock> ZoneClock::Read(std::string_view file)
 {
     MemorySource source(file);
     ByteCursor cursor(ByteView(source), ByteOrder::Big);
-    // Times of four bytes, which the second part repeats in eight.
+    // The first part has times of four bytes; the second part repeats them in eight bytes.
     const auto shortPart = TakeHead(cursor);
     if (!shortPart)
         return std::nullopt;

@@ -1,5 +1,5 @@
 /// @file
-/// What the clocks of a time zone show.
+/// The local time of a time zone.
 #pragma once
 
 #include <VyrHost/rename/ZoneRule.h>
@@ -14,10 +14,10 @@ namespace VyrHost::Rename {
 class ZoneClock
 {
 public:
-    /// A clock that is always ahead of UTC by `secondsAhead`.
+    /// A clock with the fixed offset `secondsAhead` from UTC.
     explicit ZoneClock(int secondsAhead) : m_atFirst(secondsAhead) {}
 
-    /// The clock of a zone by its file, as TimeZoneFile gives it; nothing for other bytes. Source: RFC 9636, section 3.
+    /// Parses the file of a zone, from TimeZoneFile; nothing for other bytes. Source: RFC 9636, section 3.
     [[nodiscard]] static std::optional<ZoneClock> Read(std::string_view file);
 
     /// How many seconds the clock is ahead of UTC at `instant`, in seconds since 1970.

@@ -18,7 +18,7 @@ constexpr int secondsPerHour = 60 * secondsPerMinute;
 int YearOf(std::int64_t seconds)
 {
     using namespace std::chrono;
-    // Years that the calendar has no number for are not asked for in earnest.
+    // Bounds instants for which the calendar has no year.
     constexpr std::int64_t most = 30'000 * 366 * secondsPerDay;
     const sys_seconds instant{std::chrono::seconds{std::clamp(seconds, -most, most)}};
     return static_cast<int>(year_month_day(floor<days>(instant)).year());
@@ -26,7 +26,7 @@ int YearOf(std::int64_t seconds)
 
 } // namespace
 
-/// Walks the text of a rule from its start to its end.
+/// Parses the text of a rule.
 class ZoneRuleReader
 {
 public:
@@ -36,7 +36,7 @@ public:
     {
         ZoneRule rule;
         SkipName();
-        // The text tells how far the clocks are behind.
+        // The text gives the offset behind UTC.
         rule.m_ahead = -Time();
         if (!m_rest.empty())
             rule.m_summer = TakeSummer(rule.m_ahead);
@@ -159,7 +159,7 @@ int ZoneRule::SecondsAhead(std::int64_t instant) const
     const int year = YearOf(instant + m_ahead);
     const std::int64_t begin = m_summer->begin.In(year) - m_ahead;
     const std::int64_t end = m_summer->end.In(year) - m_summer->ahead;
-    // In the south, summer lasts over the new year.
+    // In the southern hemisphere, summer includes the new year.
     const bool isSummer = begin < end ? instant >= begin && instant < end : instant >= begin || instant < end;
     return isSummer ? m_summer->ahead : m_ahead;
 }

@@ -1,5 +1,5 @@
 /// @file
-/// The rule by which the clocks of a time zone go on year after year.
+/// The yearly rule of a time zone's clock changes.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@ namespace VyrHost::Rename {
 class ZoneRule
 {
 public:
-    /// Nothing where `text` is not such a rule.
+    /// Parses `text`; nothing if it is not such a rule.
     [[nodiscard]] static std::optional<ZoneRule> Read(std::string_view text);
 
     /// How many seconds the clocks are ahead of UTC at `instant`, in seconds since 1970.
@@ -22,7 +22,7 @@ public:
 private:
     friend class ZoneRuleReader;
 
-    /// When the clocks are changed.
+    /// The moment of a clock change.
     struct Change
     {
         enum class Kind : std::uint8_t
@@ -40,10 +40,10 @@ private:
         int week = 0;
         /// Of the week, from Sunday, or of the year.
         int day = 0;
-        /// By the clock before the change.
+        /// Local time before the change.
         int seconds = 2 * 60 * 60;
 
-        /// In seconds since 1970, as if that clock were in UTC.
+        /// The seconds since 1970, as if that local time were UTC.
         [[nodiscard]] std::int64_t In(int year) const;
     };
     struct Summer

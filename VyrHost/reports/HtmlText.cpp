@@ -9,7 +9,7 @@ namespace VyrHost::Reports {
 
 namespace {
 
-/// Whether a page may contain the code unit (also as a half of a pair).
+/// Whether a page may contain the code unit (also as half of a pair).
 bool IsHeld(char16_t unit)
 {
     const bool isControl =

@@ -127,7 +127,7 @@ const std::string_view script = R"(<script>
         const cell = row.cells[column];
         return [cell.dataset.value ?? cell.textContent, row];
       });
-      // What has no value comes last in either direction.
+      // Rows without a value come last in both directions.
       valued.sort(function (left, right) {
         if (left[0] === "" || right[0] === "")
           return (left[0] === "") - (right[0] === "");

@@ -7,7 +7,7 @@
 
 namespace VyrHost::Reports::PageParts {
 
-/// For the head: the page fits a telephone, and loads nothing from outside.
+/// For the head: makes the page fit on a telephone, and forbids loading anything from outside.
 extern const std::string_view headElements;
 extern const std::string_view styleBeginning;
 extern const std::string_view styleEnd;

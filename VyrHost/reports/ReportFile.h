@@ -6,8 +6,8 @@
 
 namespace VyrHost::Reports {
 
-/// Refuses, before anything is done, the path of what is no regular file (or link to one), of an existing file unless
-/// it may be replaced, and of a missing file without a name or in a missing folder.
+/// Refuses, before anything is done, a path that is not a regular file (or a link to one), an existing file unless it
+/// may be replaced, and a missing file without a name or in a missing folder.
 /// @throws UsageError
 void CheckReportFile(const CString& path, bool mayReplace);
 

@@ -1,4 +1,4 @@
-// Lists what became of renames.
+// Lists the results of renames.
 #include <VyrHost/reports/ResultTable.h>
 
 #include <VyrHost/ui/ResultOutput.h>
@@ -53,7 +53,7 @@ const Ui::RecordField<Result> fields[] = {{{"old", "Old name", Ui::RecordKind::T
                                           {{"status", "Status", Ui::RecordKind::Text, true}, StatusOf},
                                           {{"reason", "Reason", Ui::RecordKind::Text, true}, ReasonOf}};
 
-/// Where the file is now.
+/// The present path of the file.
 CString FileOf(const Result& result, bool isPreview)
 {
     const bool isRenamed = !isPreview && (result.status == Status::Done || result.status == Status::Numbered);

@@ -1,5 +1,5 @@
 /// @file
-/// What became of renames, as a list for a page.
+/// The results of renames, as a list for a page.
 #pragma once
 
 #include <VyrHost/model/Result.h>
@@ -7,8 +7,8 @@
 
 namespace VyrHost::Reports {
 
-/// A list of `results`, which must outlive it: the old name, the new one, the folder, the status and why. A new name in
-/// another folder comes with its folder.
+/// A list of `results`, which must outlive it: the old name, the new one, the folder, the status and the reason. A new
+/// name in another folder includes its folder.
 /// @param isPreview  nothing was renamed, so that the files have their old names.
 [[nodiscard]] Ui::RecordTable TableOfResults(const Model::Results& results, bool isPreview);
 

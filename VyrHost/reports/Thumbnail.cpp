@@ -65,7 +65,7 @@ std::optional<Thumbnail> LinkedPicture(Pictures::ByteSource& source, const CStri
         RelativeAddress(VyrPlatform::GetRealPath(path), VyrPlatform::GetRealPath(reportFolder));
     if (!address)
         return std::nullopt;
-    // Browsers turn it by its own tags.
+    // Browsers rotate it by its own tags.
     return Thumbnail{std::move(*address), *size};
 }
 

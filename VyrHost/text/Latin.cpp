@@ -153,7 +153,7 @@ bool IsAsciiLetter(char16_t unit)
     return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
 }
 
-/// The blocks of combining marks that stand on letters of several scripts.
+/// The blocks of combining marks for letters of several scripts.
 bool IsCombiningMark(char16_t unit)
 {
     return (unit >= 0x0300 && unit <= 0x036F) || (unit >= 0x1AB0 && unit <= 0x1AFF) ||

@@ -10,8 +10,8 @@ namespace VyrHost::Text {
 
 namespace {
 
-/// How many letters must be added, left out, changed or swapped with their neighbours (each once) to make `left` of
-/// `right`: the optimal string alignment distance.
+/// The number of letters to add, remove, change or swap with their neighbours (each once) to turn `right` into `left`:
+/// the optimal string alignment distance.
 std::size_t Distance(std::string_view left, std::string_view right)
 {
     const std::size_t width = right.size() + 1;
@@ -36,7 +36,7 @@ std::size_t Distance(std::string_view left, std::string_view right)
     return table.back();
 }
 
-/// With the letters A to Z small.
+/// With the letters A to Z in lower case.
 std::string Folded(std::string_view word)
 {
     std::string folded(word);
@@ -52,7 +52,7 @@ std::string_view NearestWord(std::string_view typed, std::span<const std::string
 {
     const std::string wanted = Folded(typed);
     std::string_view nearest;
-    // A third of the letters may be wrong; what begins a word is as near as one wrong letter.
+    // A third of the letters may be wrong; the beginning of a word counts as one wrong letter.
     std::size_t least = std::max<std::size_t>(typed.size() / 3, 1) + 1;
     for (const std::string& word : words) {
         // A text may have any length; one that is far too long is not compared.

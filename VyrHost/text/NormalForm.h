@@ -15,7 +15,7 @@ namespace VyrHost::Text {
 /// Whether `text` is in the normal form NFC.
 [[nodiscard]] bool IsComposed(const CString& text);
 
-/// Splits `text` into pieces that compose independently: a letter and the marks behind it are one piece. Example: the
+/// Splits `text` into pieces that compose independently: a letter and the marks after it are one piece. Example: the
 /// letters e, U+0301, x are the pieces "e, U+0301" and "x".
 [[nodiscard]] std::vector<std::u16string_view> CutForComposing(std::u16string_view text);
 

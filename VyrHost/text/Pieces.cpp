@@ -6,7 +6,7 @@ namespace VyrHost::Text {
 
 namespace {
 
-/// What is not ASCII is no digit.
+/// Other characters are not digits.
 std::string AsciiOf(std::u16string_view text)
 {
     std::string bytes;

@@ -1,5 +1,5 @@
 /// @file
-/// A text in quotes, as it stands in options, kept rules and tables.
+/// Texts in quotes, in options, kept rules and tables.
 #pragma once
 
 #include <cstddef>
@@ -9,8 +9,8 @@
 
 namespace VyrHost::Text {
 
-/// Removes the quoted text that `rest` begins with, and returns what stands in its quotes; two quotes there are one.
-/// Nothing where it has no end. Example: 'it''s' is it's.
+/// Removes the quoted text at the start of `rest`, and returns its content; two quotes in it are one. Nothing if it is
+/// not closed. Example: 'it''s' is it's.
 /// @param rest  Begins with the quote, a double one or an apostrophe.
 template <class Unit>
 [[nodiscard]] std::optional<std::basic_string<Unit>> TakeQuoted(std::basic_string_view<Unit>& rest)

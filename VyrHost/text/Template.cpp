@@ -1,4 +1,4 @@
-// Finds tokens and cuts them at their marks.
+// Finds tokens and splits them into their parts.
 #include <VyrHost/text/Template.h>
 
 #include <VyrHost/text/NearestWord.h>
@@ -28,7 +28,7 @@ bool IsWord(std::u16string_view text)
     return !text.empty() && (std::all_of(text.begin(), text.end(), IsWordUnit) || text.find_first_not_of(u'#') == none);
 }
 
-/// Cuts off what stands before the first of `marks`.
+/// Cuts off what is before the first of `marks`.
 std::u16string_view TakeBefore(std::u16string_view& text, std::u16string_view marks)
 {
     const std::u16string_view taken = text.substr(0, text.find_first_of(marks));
@@ -36,7 +36,7 @@ std::u16string_view TakeBefore(std::u16string_view& text, std::u16string_view ma
     return taken;
 }
 
-/// Cuts off `mark` and what stands behind it up to the first of `marks`; nothing where `text` begins with another.
+/// Cuts off `mark` and what is after it up to the first of `marks`; nothing where `text` begins with another.
 std::optional<CString> TakeBehind(std::u16string_view& text, char16_t mark, std::u16string_view marks)
 {
     if (!text.starts_with(mark))

@@ -19,7 +19,7 @@ struct Token
     CString whole;
     /// ASCII letters, digits and `_`; or a run of `#`.
     CString word;
-    /// What stands behind the colon; nothing without one.
+    /// What is after the colon; nothing without one.
     std::optional<CString> option = {};
     /// What stands for a value that is missing; nothing without a question mark.
     std::optional<CString> otherwise = {};
@@ -32,11 +32,11 @@ struct Token
 /// Plain text, or a token.
 using TemplatePart = std::variant<CString, Token>;
 
-/// The parts of `text` in their order. A "<" that does not begin a token is plain text, such as that of "a < b" and of
-/// "<a b>". Two plain texts never follow each other, and none is empty.
+/// The parts of `text`, in order. A "<" that does not begin a token is plain text, such as that of "a < b" and of "<a
+/// b>". Two plain texts never follow each other, and none is empty.
 [[nodiscard]] std::vector<TemplatePart> CutTemplate(std::u16string_view text);
 
-/// "; did you mean <Name>?" for the one of `words` that `token` was probably meant to be; empty where none is near.
+/// "; did you mean <Name>?" for the one of `words` that `token` probably means; empty if none is near.
 [[nodiscard]] std::string TokenHint(const Token& token, const std::vector<std::string>& words);
 
 } // namespace VyrHost::Text

@@ -24,7 +24,7 @@ bool IsValid(const COleDateTime& dateTime)
     return dateTime.GetStatus() == COleDateTime::valid;
 }
 
-/// Replaces the T of ISO 8601 between date and time of day, behind ten code units, by a blank.
+/// Replaces the T of ISO 8601 between date and time of day, after ten code units, by a blank.
 CString WithoutT(std::u16string_view text)
 {
     constexpr std::size_t lengthOfDate = 10;
