@@ -17,7 +17,7 @@ Rules, applied in the order given (vyr help rules):
   --date FORMAT           A date of the file: "yyyy-MM-dd <Name>"
   --replace FIND WITH     Put WITH in place of FIND
   --regex FIND WITH       Put WITH in place of what a pattern matches
-  --prefix TEXT           Put TEXT before the name; --suffix behind it
+  --prefix TEXT           Put TEXT before the name; --suffix after it
   --insert PLACE:TEXT     By places: --insert, --delete, --delete-first,
                           --delete-last, --keep-first, --keep-last
   --case WORD             first, upper, lower, title, title-en or sentence
@@ -43,7 +43,7 @@ Where they go:
 What is done:
   --apply                 Rename; vyr undo undoes it (vyr help undo)
   --edit                  Look through the names in your editor first
-  --json, --quiet, --html How the result is told
+  --json, --quiet, --html The form of the output
 
 )~";
 
@@ -72,8 +72,8 @@ Quote patterns and WITH: single quotes in bash, double quotes on Windows.
 Kept rules are plain text, one option a line; "vyr rules" lists them:
   --regex "^(.+) - (.+)$" "$2 - $1"
   --case title
-They are rules and their settings alone. Which files, their order, where they
-go and names that are taken are not kept with them.
+They contain only rules and their settings, not the choice of files, their
+order, where they go or what to do about taken names.
 
 Examples:
   vyr rename --regex '^(.+) - (.+)$' '$2 - $1' *.mp3
@@ -114,7 +114,7 @@ constexpr const char* datesText =
   EEEE EEE       day of the week   ss s  second
   SSS            milliseconds      a     before or after noon
 
---date-from names the dates to look for, the first that a file has is taken:
+--date-from names the dates to look for; the first that a file has is used:
   picture   when the picture was taken
   digitized when it was digitized
   xmp       the date in its XMP, or in the sidecar beside it
@@ -133,7 +133,7 @@ Examples:
   vyr rename --date "yyyy-MM-dd HH.mm.ss" --date-from picture,modified *.jpg
         by the date taken, else that of the last change
   vyr rename --date "<Name> yyyy" *.pdf
-        the year behind the name
+        the year after the name
 )~";
 
 constexpr const char* const choosingGroups[] = {OptionGroup::sources, OptionGroup::choice, OptionGroup::order};
