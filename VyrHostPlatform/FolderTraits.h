@@ -20,13 +20,20 @@ struct FolderTraits
     /// On Linux the ids of owner and group.
     std::uint32_t owner = 0;
     std::uint32_t group = 0;
-    /// On Linux the extended attributes, the access lists among them: names and values.
+    /// On Linux the extended attributes, the access lists among them: names and values, sorted.
     std::vector<std::pair<std::string, std::string>> extended;
+
+    friend bool operator==(const FolderTraits&, const FolderTraits&) = default;
 };
 
 /// The traits of the folder at `path`; nothing when there is no folder. On Linux also those of a folder that the user
 /// may not read, without the extended attributes that need that permission.
 [[nodiscard]] std::optional<FolderTraits> GetFolderTraits(const CString& path);
+
+/// `traits` as printable ASCII without blanks, for ParseFolderTraits on this system.
+[[nodiscard]] CString ToText(const FolderTraits& traits);
+/// The inverse; nothing where `text` is not a result of ToText.
+[[nodiscard]] std::optional<FolderTraits> ParseFolderTraits(const CString& text);
 
 /// Gives the folder at `path` the owner and the extended attributes of `traits`. Leaves out those that the user may not
 /// set or the file system cannot keep. On Linux it makes the folder readable for its owner: call SetFolderMode

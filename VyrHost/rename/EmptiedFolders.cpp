@@ -2,7 +2,6 @@
 #include <VyrHost/rename/EmptiedFolders.h>
 
 #include <VyrHost/model/FolderSet.h>
-#include <VyrHostPlatform/FolderState.h>
 #include <VyrHostPlatform/RenameFile.h>
 #include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/files/FileSystem.h>
@@ -12,6 +11,7 @@
 #include <optional>
 #include <string>
 #include <unordered_set>
+#include <utility>
 
 namespace VyrHost::Rename {
 
@@ -19,17 +19,16 @@ using VyrPlatform::FileSystem::Kind;
 
 std::shared_ptr<const Model::Change> FolderRemoval::Read(const CString& before, const CString& after)
 {
-    return after == u"removed" && VyrHostPlatform::IsFolderState(before) ? std::make_shared<FolderRemoval>(before)
-                                                                         : nullptr;
+    auto traits = VyrHostPlatform::ParseFolderTraits(before);
+    return traits && after == u"removed" ? std::make_shared<FolderRemoval>(std::move(*traits)) : nullptr;
 }
 
 Model::ChangeLook FolderRemoval::Look(const CString& path) const
 {
-    std::uint32_t error = 0;
     switch (VyrPlatform::LookAtFile(path).kind) {
     case Kind::Folder:
-        return {VyrHostPlatform::ReadFolderState(path, error) == m_state ? Model::ChangeState::Before
-                                                                         : Model::ChangeState::Partly,
+        return {VyrHostPlatform::GetFolderTraits(path) == m_traits ? Model::ChangeState::Before
+                                                                   : Model::ChangeState::Partly,
                 0};
     case Kind::Missing:
         return {Model::ChangeState::After, 0};
@@ -54,7 +53,9 @@ std::uint32_t FolderRemoval::Undo(const CString& path) const
     if (folder.Look(name).kind != Kind::Folder)
         if (const std::uint32_t error = folder.MakeFolder(name))
             return error;
-    return VyrHostPlatform::RestoreFolderState(path, m_state);
+    if (const std::uint32_t error = VyrHostPlatform::SetFolderExtras(path, m_traits))
+        return error;
+    return VyrHostPlatform::SetFolderMode(path, m_traits);
 }
 
 namespace {
@@ -114,11 +115,10 @@ private:
         const VyrPlatform::FileState state = VyrPlatform::LookAtFile(path);
         if (!m_current)
             m_current = FindCurrent();
-        std::uint32_t error = 0;
-        const std::optional<CString> kept = VyrHostPlatform::ReadFolderState(path, error);
-        if (state.kind != Kind::Folder || m_current->contains(state.identity) || !kept)
+        auto traits = VyrHostPlatform::GetFolderTraits(path);
+        if (state.kind != Kind::Folder || m_current->contains(state.identity) || !traits)
             return;
-        m_emptied.push_back({place, std::make_shared<FolderRemoval>(*kept)});
+        m_emptied.push_back({place, std::make_shared<FolderRemoval>(std::move(*traits))});
         ++m_left[place.folder];
     }
 

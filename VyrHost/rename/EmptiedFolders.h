@@ -5,6 +5,7 @@
 #include <VyrHost/model/Change.h>
 #include <VyrHost/model/FolderSet.h>
 #include <VyrHost/model/RenamePlan.h>
+#include <VyrHostPlatform/FolderTraits.h>
 #include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
@@ -21,12 +22,12 @@ class FolderRemoval final : public Model::Change
 public:
     static constexpr std::string_view kind = "emptied";
 
-    /// @param state  the folder's state from ReadFolderState.
-    explicit FolderRemoval(CString state) : m_state(std::move(state)) {}
+    /// @param traits  those of the folder.
+    explicit FolderRemoval(VyrHostPlatform::FolderTraits traits) : m_traits(std::move(traits)) {}
     [[nodiscard]] static std::shared_ptr<const Model::Change> Read(const CString& before, const CString& after);
 
     [[nodiscard]] std::string_view Kind() const override { return kind; }
-    [[nodiscard]] CString Before() const override { return m_state; }
+    [[nodiscard]] CString Before() const override { return VyrHostPlatform::ToText(m_traits); }
     [[nodiscard]] CString After() const override { return u"removed"; }
     [[nodiscard]] CString ShownBefore() const override { return u"empty folder"; }
     [[nodiscard]] CString ShownAfter() const override { return u"removed"; }
@@ -38,7 +39,7 @@ public:
     [[nodiscard]] std::uint32_t Undo(const CString& path) const override;
 
 private:
-    CString m_state;
+    VyrHostPlatform::FolderTraits m_traits;
 };
 
 /// A folder that will be empty.

@@ -1,6 +1,8 @@
 // The traits of a folder are read from one and set on another.
 #include <VyrHostPlatform/FolderTraits.h>
 
+#include <VyrPlatform/files/FileAttributes.h>
+#include <VyrPlatform/text/Encoding.h>
 #include <tests/support/ScratchFolder.h>
 
 #include <gtest/gtest.h>
@@ -27,10 +29,32 @@ TEST(FolderTraits, AreCopiedFromOneFolderToAnother)
     EXPECT_EQ(VyrHostPlatform::SetFolderMode(to, *traits), 0u);
     const std::optional<FolderTraits> given = VyrHostPlatform::GetFolderTraits(to);
     ASSERT_TRUE(given);
-    EXPECT_EQ(given->mode, traits->mode);
-    EXPECT_EQ(given->owner, traits->owner);
-    EXPECT_EQ(given->group, traits->group);
-    EXPECT_EQ(given->extended, traits->extended);
+    EXPECT_EQ(given, traits);
+}
+
+TEST(FolderTraits, AreTheSameReadFromTheirText)
+{
+    const ScratchFolder scratch;
+    constexpr std::uint32_t hiddenFolder = 0x12;
+    const CString from = scratch.MakeFolder(u"from");
+    const CString to = scratch.MakeFolder(u"to");
+    ASSERT_EQ(VyrPlatform::FileAttributes::Set(from, hiddenFolder), 0u);
+    const std::optional<FolderTraits> traits = VyrHostPlatform::GetFolderTraits(from);
+    ASSERT_TRUE(traits);
+    EXPECT_NE(VyrHostPlatform::GetFolderTraits(to), traits);
+    const std::optional<FolderTraits> read = VyrHostPlatform::ParseFolderTraits(VyrHostPlatform::ToText(*traits));
+    ASSERT_TRUE(read);
+    EXPECT_EQ(VyrHostPlatform::SetFolderExtras(to, *read), 0u);
+    EXPECT_EQ(VyrHostPlatform::SetFolderMode(to, *read), 0u);
+    EXPECT_EQ(VyrHostPlatform::GetFolderTraits(to), traits);
+    EXPECT_EQ(VyrPlatform::FileAttributes::Get(to), VyrPlatform::FileAttributes::Get(from));
+}
+
+TEST(FolderTraits, AreNotReadFromAnotherText)
+{
+    for (const CString text : {u"", u"x", u"-1", u"99999999999999999999", u"755:", u"755:0:0:zz=00", u"755:0:0:61",
+                               u"755:0:0:61=0", u"77777:0:0", u"755:0:0:=61", u"755:0:0é"})
+        EXPECT_FALSE(VyrHostPlatform::ParseFolderTraits(text)) << VyrPlatform::Encoding::ToUtf8(text);
 }
 
 TEST(FolderTraits, MissingFolderTakesNoMode)
