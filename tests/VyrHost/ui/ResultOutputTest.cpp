@@ -198,7 +198,7 @@ TEST(ResultJson, WritesTheKeysThatTheDocumentDescribes)
     all.size = TreeSize();
     const std::set<std::string> keys = KeysOf(JsonOf({all, TimesOf(u"a")}, true));
     EXPECT_EQ(keys.size(), 13u);
-    EXPECT_EQ(keys, DocumentedKeys("## What becomes of files"));
+    EXPECT_EQ(keys, DocumentedKeys("## Results of files"));
 }
 
 TEST(BatchColumns, AreThoseThatTheDocumentDescribes)

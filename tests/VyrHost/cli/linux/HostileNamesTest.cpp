@@ -104,7 +104,7 @@ TEST_F(HostileNames, NamesThatWindowsRefusesGetWarnings)
 TEST_F(HostileNames, AFolderThatCannotBeReadIsReported)
 {
     if (RunUnprivileged({u"--version"}).exitCode != 0)
-        GTEST_SKIP() << "root can read every folder, and nobody else can run the program where it stands";
+        GTEST_SKIP() << "root can read every folder, and nobody else can run the program here";
     m_folder.WriteFile(u"d/a");
     m_folder.WriteFile(u"b");
     const std::string folder = VyrPlatform::Encoding::ToNameBytes(m_folder.Path());

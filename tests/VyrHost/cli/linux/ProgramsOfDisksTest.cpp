@@ -215,7 +215,7 @@ TEST_F(ProgramsOfDisks, OfOtherUsersAreListedWhereOneCannotBeRead)
 TEST_F(ProgramsOfDisks, OfAHiveWithoutPermissionAreRefusedWithItsName)
 {
     if (RunUnprivileged({u"--version"}).exitCode != 0)
-        GTEST_SKIP() << "root can read every file, and nobody else can run the program where it stands";
+        GTEST_SKIP() << "root can read every file, and nobody else can run the program here";
     WriteSampleDisk();
     const std::filesystem::path root = ToStdPath(m_disk.Path());
     std::filesystem::permissions(root, std::filesystem::perms::all);

@@ -36,7 +36,7 @@ constexpr const char* reason = "refused: the picture cannot be read: Permission 
 TEST_F(UnreadPicture, IsNotOneWithoutADate)
 {
     if (!Arrange())
-        GTEST_SKIP() << "root can read every file, and nobody else can run the program where it stands";
+        GTEST_SKIP() << "root can read every file, and nobody else can run the program here";
     const ProgramResult result =
         RunUnprivileged({u"rename", u"--date", u"yyyy", u"--date-from", u"picture,modified", u"p.jpg", u"locked.jpg"});
     EXPECT_EQ(result.exitCode, 1);
@@ -52,7 +52,7 @@ TEST_F(UnreadPicture, IsNotOneWithoutADate)
 TEST_F(UnreadPicture, IsRefusedForTheTimesOfTheFile)
 {
     if (!Arrange())
-        GTEST_SKIP() << "root can read every file, and nobody else can run the program where it stands";
+        GTEST_SKIP() << "root can read every file, and nobody else can run the program here";
     EXPECT_THAT(RunUnprivileged({u"times", u"--set-modified", u"from:picture", u"locked.jpg"}).output,
                 HasSubstr("the picture cannot be read: Permission denied\n"));
 }
@@ -60,14 +60,14 @@ TEST_F(UnreadPicture, IsRefusedForTheTimesOfTheFile)
 TEST_F(UnreadPicture, IsRefusedForTheCamera)
 {
     if (!Arrange())
-        GTEST_SKIP() << "root can read every file, and nobody else can run the program where it stands";
+        GTEST_SKIP() << "root can read every file, and nobody else can run the program here";
     EXPECT_THAT(RunUnprivileged({u"rename", u"--date", u"yyyy <Make>", u"locked.jpg"}).output, HasSubstr(reason));
 }
 
 TEST_F(UnreadPicture, RefusesTheFilesOfItsGroup)
 {
     if (!Arrange())
-        GTEST_SKIP() << "root can read every file, and nobody else can run the program where it stands";
+        GTEST_SKIP() << "root can read every file, and nobody else can run the program here";
     const std::string output = RunUnprivileged({u"rename", u"--date", u"yyyy", u"--date-from", u"picture,modified",
                                                 u"--together", u"locked.xmp", u"locked.jpg"})
                                    .output;
