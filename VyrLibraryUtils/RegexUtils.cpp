@@ -1,19 +1,18 @@
 #include <VyrLibraryUtils/RegexUtils.h>
 
+#include <VyrPlatform/text/Digits.h>
+
 #include <algorithm>
 
 namespace VyrLibraryUtils {
+
+using VyrPlatform::IsDigit;
 
 namespace {
 
 bool IsBetween(char16_t unit, char16_t first, char16_t last) noexcept
 {
     return unit >= first && unit <= last;
-}
-
-bool IsDigit(char16_t unit) noexcept
-{
-    return IsBetween(unit, u'0', u'9');
 }
 
 bool IsHexDigit(char16_t unit) noexcept

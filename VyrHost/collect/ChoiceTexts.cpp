@@ -4,12 +4,15 @@
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/TypedDateTime.h>
 #include <VyrLibraryUtils/DateTimeUtils.h>
+#include <VyrPlatform/text/Digits.h>
 
 #include <cstddef>
 #include <limits>
 #include <string>
 
 namespace VyrHost::Collect {
+
+using VyrPlatform::IsDigit;
 
 namespace {
 
@@ -98,11 +101,6 @@ bool IsUnit(std::u16string_view unit)
         return false;
     const std::u16string_view rest = unit.substr(1);
     return rest.empty() || rest == u"B" || rest == u"b" || rest == u"iB";
-}
-
-bool IsDigit(char16_t unit)
-{
-    return unit >= u'0' && unit <= u'9';
 }
 
 /// Removes at most `most` digits from the front of `text` and returns their value; -1 when there are more.

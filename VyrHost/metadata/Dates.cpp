@@ -1,5 +1,6 @@
 #include <VyrHost/metadata/Dates.h>
 
+#include <VyrPlatform/text/Digits.h>
 #include <VyrPlatform/time/DateTimePattern.h>
 
 #include <algorithm>
@@ -7,6 +8,8 @@
 #include <cstdint>
 
 namespace VyrHost::Metadata {
+
+using VyrPlatform::IsDigit;
 
 namespace FileTimes = VyrPlatform::FileTimes;
 
@@ -61,11 +64,6 @@ CString Shown(VyrPlatform::FileTicks ticks)
 }
 
 namespace {
-
-bool IsDigit(char16_t unit)
-{
-    return unit >= u'0' && unit <= u'9';
-}
 
 /// Reads from the front of a text.
 class Front

@@ -1,16 +1,15 @@
 // Compares names run by run: digits by value, letters without case.
 #include <VyrHost/model/NaturalOrder.h>
 
+#include <VyrPlatform/text/Digits.h>
+
 #include <algorithm>
 
 namespace VyrHost::Model {
 
-namespace {
+using VyrPlatform::IsDigit;
 
-bool IsDigit(char16_t unit)
-{
-    return unit >= u'0' && unit <= u'9';
-}
+namespace {
 
 char16_t Folded(char16_t unit)
 {

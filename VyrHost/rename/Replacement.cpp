@@ -4,6 +4,7 @@
 #include <VyrHost/rename/TemplateTokens.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
+#include <VyrPlatform/text/Digits.h>
 #include <VyrPlatform/text/Locale.h>
 #include <VyrPlatform/text/Surrogates.h>
 
@@ -11,6 +12,8 @@
 #include <utility>
 
 namespace VyrHost::Rename {
+
+using VyrPlatform::IsDigit;
 
 void RefusePattern(std::u16string_view text, std::size_t place, const std::string& reason)
 {
@@ -21,11 +24,6 @@ void RefusePattern(std::u16string_view text, std::size_t place, const std::strin
 }
 
 namespace {
-
-bool IsDigit(char16_t unit)
-{
-    return unit >= u'0' && unit <= u'9';
-}
 
 bool IsWordUnit(char16_t unit)
 {

@@ -2,6 +2,7 @@
 #include <VyrHost/rename/Words.h>
 
 #include <VyrHost/rename/Pattern.h>
+#include <VyrPlatform/text/Digits.h>
 #include <VyrPlatform/text/Locale.h>
 
 #include <algorithm>
@@ -12,6 +13,8 @@
 #include <vector>
 
 namespace VyrHost::Rename {
+
+using VyrPlatform::IsDigit;
 
 namespace {
 
@@ -116,11 +119,6 @@ bool EndsSentence(std::u16string_view between)
 {
     static Pattern signs(u"[.?!]\\s", false);
     return Has(signs, between);
-}
-
-bool IsDigit(char16_t unit)
-{
-    return unit >= u'0' && unit <= u'9';
 }
 
 bool IsBlank(char16_t unit)

@@ -11,6 +11,12 @@
 
 namespace VyrPlatform {
 
+/// Whether `unit` is a decimal digit of ASCII.
+[[nodiscard]] constexpr bool IsDigit(char16_t unit) noexcept
+{
+    return unit >= u'0' && unit <= u'9';
+}
+
 /// Bytes in hexadecimal.
 [[nodiscard]] VYR_PLATFORM_API std::string ToHex(std::string_view bytes);
 /// The inverse; nothing for a text that is not a result of ToHex.

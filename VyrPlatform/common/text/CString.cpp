@@ -1,5 +1,6 @@
 // The string's allocation, and the operations that are too large to be inline.
 #include <VyrPlatform/text/CString.h>
+#include <VyrPlatform/text/Digits.h>
 #include <VyrPlatform/text/Locale.h>
 
 #include <algorithm>
@@ -8,6 +9,8 @@
 #include <limits>
 #include <new>
 #include <string>
+
+using VyrPlatform::IsDigit;
 
 namespace {
 
@@ -27,11 +30,6 @@ struct Conversion
     char16_t letter = 0;
     std::size_t end = 0;
 };
-
-bool IsDigit(char16_t unit) noexcept
-{
-    return unit >= u'0' && unit <= u'9';
-}
 
 std::size_t SkipLengthModifier(std::u16string_view format, std::size_t at) noexcept
 {

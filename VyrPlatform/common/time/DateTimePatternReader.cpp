@@ -1,5 +1,6 @@
 #include <VyrPlatform/common/time/DateTimePatternReader.h>
 #include <VyrPlatform/text/CString.h>
+#include <VyrPlatform/text/Digits.h>
 #include <VyrPlatform/text/Locale.h>
 #include <VyrPlatform/time/DateTimePattern.h>
 
@@ -11,11 +12,6 @@ namespace VyrPlatform::DateTimePattern {
 namespace {
 
 using Locale::GetDateTexts;
-
-bool IsDigit(char16_t unit) noexcept
-{
-    return unit >= u'0' && unit <= u'9';
-}
 
 /// The blank, the tab, and the no-break spaces, which the patterns of some locales contain.
 bool IsBlank(char16_t unit) noexcept
