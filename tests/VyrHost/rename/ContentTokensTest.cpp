@@ -108,7 +108,7 @@ TEST_F(ContentTokens, TellTheDurationAndTheDateOfFilms)
     EXPECT_EQ(Named(u"<Date:yyyy-MM-dd HH.mm.ss>", u"f", u".mp4", DatesFrom(DateSource::Video)),
               u"2024-01-05 10.30.00.mp4");
     EXPECT_EQ(Named(u"<Duration>", u"missing", u".mp4"), u"!");
-    EXPECT_THAT(ErrorOf(u"<Duration:h>"), HasSubstr("s, for seconds, is all"));
+    EXPECT_THAT(ErrorOf(u"<Duration:h>"), HasSubstr("only s, for seconds, may follow"));
 }
 
 TEST_F(ContentTokens, TellTheTagsOfMusic)
