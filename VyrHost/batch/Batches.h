@@ -4,9 +4,9 @@
 
 #include <VyrHost/batch/JournalFolder.h>
 #include <VyrHost/batch/PlanProgress.h>
+#include <VyrHost/model/EntryList.h>
 #include <VyrHost/model/RenamePlan.h>
 #include <VyrHost/model/Result.h>
-#include <VyrHost/model/StayReason.h>
 
 #include <VyrPlatform/files/FileIdentity.h>
 #include <VyrPlatform/text/CString.h>

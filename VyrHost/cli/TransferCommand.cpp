@@ -8,7 +8,7 @@
 #include <VyrHost/cli/Options.h>
 #include <VyrHost/foldercopy/Transfer.h>
 #include <VyrHost/foldercopy/TransferBatch.h>
-#include <VyrHost/model/StayReason.h>
+#include <VyrHost/model/EntryList.h>
 #include <VyrHost/text/Errors.h>
 #include <VyrHost/text/SafeText.h>
 #include <VyrHost/ui/Terminal.h>

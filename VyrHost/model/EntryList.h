@@ -1,5 +1,5 @@
 /// @file
-/// The entries of a call, in order.
+/// The entries of a call, in order, and those of them that must stay as they are.
 #pragma once
 
 #include <VyrHost/model/FolderSet.h>
@@ -7,6 +7,7 @@
 #include <VyrPlatform/text/CString.h>
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -46,5 +47,10 @@ struct EntryList
         return CString::Join({folders[entry.folder].path, entry.name});
     }
 };
+
+/// The reason why an entry must not be renamed or moved, whatever the rules say; empty for all other entries. Takes its
+/// folder's path (with a separator at its end; empty if the name is a full path), its name and its kind.
+using StayReason = std::function<std::u16string_view(const CString& folder, std::u16string_view name,
+                                                     VyrPlatform::FileSystem::Kind kind)>;
 
 } // namespace VyrHost::Model

@@ -4,7 +4,6 @@
 
 #include <VyrHost/model/EntryList.h>
 #include <VyrHost/model/RenamePlan.h>
-#include <VyrHost/model/StayReason.h>
 #include <VyrHost/rename/Decision.h>
 #include <VyrHost/rename/Groups.h>
 #include <VyrHost/rename/NameSources.h>
