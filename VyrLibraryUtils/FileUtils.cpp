@@ -63,9 +63,9 @@ std::int64_t SizeOfFolder(const CString& folder)
                 continue;
             const FileSystem::Kind kind = listing.Kind();
             if (kind == FileSystem::Kind::Folder)
-                pending.push_back(FileSystem::WithSeparator(current + listing.Name()));
+                pending.push_back(FileSystem::JoinPath(current, listing.Name()));
             else if (kind == FileSystem::Kind::File)
-                sum = AddSaturated(sum, FileSystem::Query(current + listing.Name()).size);
+                sum = AddSaturated(sum, FileSystem::Query(FileSystem::JoinPath(current, listing.Name())).size);
         }
     }
     return sum;

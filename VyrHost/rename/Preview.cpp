@@ -205,18 +205,18 @@ void Plan(const Model::EntryList& list, const Groups& groups, Preview& preview)
     const auto count =
         static_cast<std::size_t>(std::count_if(preview.decisions.begin(), preview.decisions.end(),
                                                [](const Decision& decision) { return decision.IsRename(); }));
-    DraftBuilder drafting(list, count);
+    DraftBuilder draft(list, count);
     std::vector<std::uint32_t> drafted;
     drafted.reserve(count);
     for (std::uint32_t entry = 0; entry < preview.decisions.size(); ++entry) {
         if (!preview.decisions[entry].IsRename())
             continue;
-        drafting.Add(list.entries[entry], preview.decisions[entry]);
+        draft.Add(list.entries[entry], preview.decisions[entry]);
         if (groups.AreByStem())
-            drafting.AddGroup(groups.Of(entry));
+            draft.AddGroup(groups.Of(entry));
         drafted.push_back(entry);
     }
-    PlannerResult result = PlanRenames(drafting.Take());
+    PlannerResult result = PlanRenames(draft.Take());
     for (const PlanRefusal& refusal : result.refused)
         preview.decisions[drafted[refusal.entry]].Refuse(refusal.reason);
     preview.entries = std::move(result.entries);
